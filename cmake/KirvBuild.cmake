@@ -1,0 +1,51 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# What all targets share: the Qt major, the language, warnings, sanitizers and where things are put.
+
+if(NOT KIRV_QT_MAJOR MATCHES "^[56]$")
+    message(FATAL_ERROR "KIRV_QT_MAJOR is ${KIRV_QT_MAJOR}; it must be 5 or 6")
+endif()
+set(KIRV_QT Qt${KIRV_QT_MAJOR})
+find_package(${KIRV_QT} REQUIRED COMPONENTS Core Gui Widgets Sql Svg UiTools Network Xml Test)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
+set(KIRV_PROTOCOL_INSTALL_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv/protocols")
+
+find_program(KIRV_CCACHE ccache)
+if(KIRV_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${KIRV_CCACHE}")
+endif()
+
+# Linked privately by every target of ours.
+add_library(kirv_build_options INTERFACE)
+target_include_directories(kirv_build_options INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(kirv_build_options INTERFACE -Wall -Wextra -Werror)
+target_compile_definitions(kirv_build_options INTERFACE QT_DEPRECATED_WARNINGS)
+if(KIRV_SANITIZE)
+    target_compile_options(kirv_build_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(kirv_build_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# kirv_add_protocol(NAME SOURCES...): a protocol plug-in, loaded at run time.
+function(kirv_add_protocol name)
+    add_library(${name} MODULE ${ARGN})
+    target_link_libraries(${name} PRIVATE kirv_build_options kirv_core)
+    set_target_properties(${name} PROPERTIES
+        PREFIX "" CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+        LIBRARY_OUTPUT_DIRECTORY "${KIRV_PROTOCOL_OUTPUT_DIRECTORY}"
+        INSTALL_RPATH "$ORIGIN/../..")
+    install(TARGETS ${name} LIBRARY DESTINATION "${KIRV_PROTOCOL_INSTALL_DIRECTORY}")
+endfunction()

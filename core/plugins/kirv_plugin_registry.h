@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_PLUGIN_REGISTRY_H
+#define KIRV_PLUGIN_REGISTRY_H
+
+#include "host/kirv_plugin_manager.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+class KirvProtocolBase;
+
+/// The state of one plug-in file, for a list of plug-ins. A value type.
+struct KirvPluginInfo {
+    QString fileName; ///< absolute path of the library
+    QString name; ///< the protocol's name, or the file's base name when it is not known
+    QString description; ///< a sentence of the protocol's own; may be empty
+    bool loaded = false;
+    bool loadable = false; ///< whether load() may be tried (a file that is no plug-in stays out)
+    QString error; ///< why it is not loaded, a sentence for the user; empty when nothing failed
+};
+
+/// The protocol plug-ins of a folder: what stands behind KirvPluginManager. One per process; it is
+/// KirvPluginManagerPrivate::instance while it lives.
+class KirvPluginRegistry : public QObject, public KirvPluginManagerPrivate {
+    Q_OBJECT
+
+public:
+    explicit KirvPluginRegistry(QObject *parent = nullptr);
+    /// Unloads every protocol.
+    ~KirvPluginRegistry() override;
+
+    /// Looks at every file in \a folder, in the order of names, and loads the protocol plug-ins among them.
+    /// What cannot be used is reported in plugins(). A folder that does not exist is reported by false.
+    bool loadFolder(const QString &folder);
+
+    /// Every file seen so far, in order.
+    QList<KirvPluginInfo> plugins() const;
+    QList<KirvProtocolBase *> protocols() const;
+
+    /// Loads or unloads the protocol of that file at run time; false when it did not work out (the reason is
+    /// in plugins()).
+    bool load(const QString &fileName);
+    bool unload(const QString &fileName);
+
+    /// Registers a protocol that comes with the program instead of a file; takes ownership. False when one of
+    /// that name is there already (it is deleted then).
+    bool addProtocol(KirvProtocolBase *protocol);
+
+Q_SIGNALS:
+    void protocolLoaded(KirvProtocolBase *protocol);
+    /// The protocol is still complete; it is destroyed when all receivers have returned.
+    void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
+    void protocolUnloaded(const QString &name);
+    /// Anything in plugins() changed.
+    void pluginsChanged();
+
+private:
+    friend class KirvPluginManager;
+    friend class KirvPluginManagerPrivate;
+    class Private;
+    Private *d;
+};
+
+#endif

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_STORE_H
+#define KIRV_STORE_H
+
+#include "core/accounts/kirv_account_key.h"
+#include "host/kirv_field.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+/// The profile on disk: accounts and settings in one SQLite database, avatars in a folder beside it.
+///
+/// The folder is readable by its owner only (0700, the files 0600). Every write is committed, in WAL mode with
+/// full synchronisation, before the operation returns; between begin() and commit() the outermost commit does.
+/// No operation throws; false or an empty result with lastError() says that something failed.
+class KirvStore {
+public:
+    /// What is stored of one account.
+    struct Account {
+        KirvAccountKey key;
+        QString alias;
+        QString password; ///< stored only while rememberPassword is set
+        bool rememberPassword = false;
+        bool enabled = true;
+        bool restorePresence = false;
+        bool restoreDescription = false;
+        QString defaultPresence; ///< id
+        QString defaultDescription;
+        QString lastPresence; ///< id; empty: none yet
+        QString lastDescription;
+        QString avatar; ///< file name inside avatarFolder(); empty: none
+        QMap<QString, QString> settings; ///< protocol settings by field id; "true" and "false" for check boxes
+    };
+
+    KirvStore();
+    ~KirvStore();
+
+    /// Opens, creates or upgrades the profile in \a folder and locks it against other instances. False with
+    /// lastError() when that is not possible; what is stored stays untouched then.
+    bool open(const QString &folder);
+    void close();
+    bool isOpen() const;
+    QString folder() const;
+    QString avatarFolder() const;
+    /// A sentence for the user; empty when the last operation worked.
+    QString lastError() const;
+    /// Whether another running instance holds the profile (after open() gave false).
+    bool isLockedByAnother() const;
+
+    QList<Account> readAccounts();
+    bool insertAccount(const Account &account); ///< appended to the order
+    bool updateAccount(const Account &account);
+    bool removeAccount(const KirvAccountKey &key); ///< with its settings; the avatar file goes too
+
+    /// Client-wide settings; an invalid variant when the key is not set.
+    QString readSetting(const QString &key, const QString &fallback = QString());
+    bool writeSetting(const QString &key, const QString &value);
+
+    bool begin();
+    bool commit();
+    void rollBack();
+    /// How many transactions were committed since open(); for tests and measurements.
+    int commitCount() const;
+
+private:
+    Q_DISABLE_COPY(KirvStore)
+    class Private;
+    Private *d;
+};
+
+#endif
