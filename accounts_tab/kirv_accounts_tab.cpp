@@ -1,0 +1,482 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+
+#include "add_account/kirv_add_account_dialog.h"
+#include "edit_account/kirv_edit_account_dialog.h"
+#include "host/kirv_account_connection.h"
+#include "host/kirv_account_info.h"
+#include "host/kirv_account_manager.h"
+#include "host/kirv_plugin_manager.h"
+#include "host/kirv_protocol.h"
+#include "host/kirv_qt_compat.h"
+#include "host/kirv_settings_manager.h"
+#include "host/kirv_ui_loader.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QIcon>
+#include <QMenu>
+#include <QMessageBox>
+#include <QShortcut>
+#include <QStringList>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include <new>
+
+namespace {
+
+enum Column {
+    AliasColumn, // with the check box that enables the account
+    ProtocolColumn, // with the protocol's icon
+    IdColumn, // hidden
+    UnusedColumn, // hidden and never filled
+    ColumnCount
+};
+
+/// The selector's entries carry the account as a void pointer in Qt::UserRole, and its key here, so that the
+/// entry of an account can be found when the pointer must not be followed any more.
+const int accountKeyRole = Qt::UserRole + 1;
+
+QString aliasOf(const QTreeWidgetItem *row)
+{
+    return row->data(AliasColumn, Qt::DisplayRole).toString();
+}
+
+QString protocolNameOf(const QTreeWidgetItem *row)
+{
+    return row->data(ProtocolColumn, Qt::DisplayRole).toString();
+}
+
+QString accountIdOf(const QTreeWidgetItem *row)
+{
+    return row->data(IdColumn, Qt::DisplayRole).toString();
+}
+
+QStringList accountKeyOf(const QString &accountId, const QString &protocolName)
+{
+    return QStringList() << accountId << protocolName;
+}
+
+QTreeWidgetItem *createRow(const QString &alias, const QString &protocolName, const QString &accountId,
+                           const QIcon &icon, bool enabled)
+{
+    QTreeWidgetItem *row = new QTreeWidgetItem(QStringList() << alias << protocolName << accountId);
+    row->setIcon(ProtocolColumn, icon);
+    row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
+    return row;
+}
+
+bool isConfigured(const QString &accountId, const QString &protocolName)
+{
+    const QList<KirvAccountInfo *> accounts = KirvAccountManager::getInstance()->getAccountsInfo(protocolName);
+    for (const KirvAccountInfo *info : accounts) {
+        if (info->getId() == accountId)
+            return true;
+    }
+    return false;
+}
+
+}
+
+KirvAccountsTab *KirvAccountsTab::instance = nullptr;
+
+KirvAccountsTab *KirvAccountsTab::getInstance()
+{
+    if (!instance)
+        instance = new (std::nothrow) KirvAccountsTab(nullptr, Qt::WindowFlags());
+    return instance;
+}
+
+KirvAccountsTab::KirvAccountsTab(QWidget *parent, Qt::WindowFlags f)
+    : QWidget(parent, f)
+    , mainAccountBox(nullptr)
+    , accountList(nullptr)
+    , addMenu(new QMenu(this))
+    , addButton(nullptr)
+    , editButton(nullptr)
+    , removeButton(nullptr)
+    , pendingItem(nullptr)
+    , accEdit(nullptr)
+    , refreshCount(0)
+{
+    setupGui();
+}
+
+KirvAccountsTab::~KirvAccountsTab()
+{
+    instance = nullptr;
+}
+
+void KirvAccountsTab::setupGui()
+{
+    QWidget *page = KirvUILoader::getInstance()->loadUI(QLatin1String("Accounts"), this, QString());
+    accountList = page->findChild<QTreeWidget *>(QLatin1String("Accounts_List"));
+    mainAccountBox = page->findChild<QComboBox *>(QLatin1String("Accounts_MainAccount"));
+    setupList();
+
+    addButton = page->findChild<QToolButton *>(QLatin1String("Accounts_AddButton"));
+    addButton->setPopupMode(QToolButton::InstantPopup);
+    addButton->setMenu(addMenu);
+
+    editButton = page->findChild<QToolButton *>(QLatin1String("Accounts_EditButton"));
+    editButton->setEnabled(false);
+    connect(editButton, SIGNAL(clicked()), this, SLOT(editAccount()));
+
+    removeButton = page->findChild<QToolButton *>(QLatin1String("Accounts_RemoveButton"));
+    removeButton->setEnabled(false);
+    connect(removeButton, SIGNAL(clicked()), this, SLOT(removeAccount()));
+
+    QToolButton *registerButton = page->findChild<QToolButton *>(QLatin1String("Accounts_RegisterButton"));
+    connect(registerButton, SIGNAL(clicked()), this, SLOT(registerAccount()));
+}
+
+void KirvAccountsTab::setupList()
+{
+    accountList->setColumnCount(ColumnCount);
+    accountList->setColumnHidden(IdColumn, true);
+    accountList->setColumnHidden(UnusedColumn, true);
+
+    QStringList labels;
+    labels << QCoreApplication::translate("translation", "Alias", "account alias in account list");
+    labels << QCoreApplication::translate("translation", "Protocol", "account protocol in account list");
+    labels << QLatin1String("uid"); // in a hidden column, so not translated
+    accountList->setHeaderLabels(labels);
+
+    accountList->setItemsExpandable(true);
+    accountList->setIndentation(0);
+    accountList->setSortingEnabled(true);
+    // Left alone, Qt would start from Z.
+    accountList->sortByColumn(AliasColumn, Qt::AscendingOrder);
+    kirvSetResizeMode(accountList->header(), AliasColumn, QHeaderView::Stretch);
+
+    QShortcut *deleteShortcut = new QShortcut(QKeySequence(QKeySequence::Delete), accountList);
+    deleteShortcut->setContext(Qt::WindowShortcut);
+    connect(deleteShortcut, SIGNAL(activated()), this, SLOT(removeAccount()));
+
+    connect(accountList, SIGNAL(itemActivated(QTreeWidgetItem *, int)), this,
+            SLOT(itemActivated(QTreeWidgetItem *, int)));
+    connect(accountList, SIGNAL(itemSelectionChanged()), this, SLOT(itemSelectionChanged()));
+    watchCheckBoxes(true);
+}
+
+void KirvAccountsTab::showEvent(QShowEvent *event)
+{
+    updateAccounts();
+    QWidget::showEvent(event);
+}
+
+void KirvAccountsTab::readProtocolAccounts(const QString &proto)
+{
+    KirvProtocol *protocol = KirvPluginManager::getInstance()->getProtocolByName(proto);
+    if (!protocol)
+        return;
+
+    const QIcon icon(protocol->getIconPath(0));
+    QAction *action = new QAction(protocol->getName(), this);
+    if (!icon.isNull())
+        action->setIcon(icon);
+    connect(action, SIGNAL(triggered()), this, SLOT(addAccount()));
+    protocolActions[action] = proto;
+    addMenu->addAction(action);
+
+    const QList<KirvAccountInfo *> accounts = KirvAccountManager::getInstance()->getAccountsInfo(proto);
+    QList<QTreeWidgetItem *> rows;
+    rows.reserve(accounts.size());
+    for (const KirvAccountInfo *info : accounts)
+        rows << createRow(info->getAlias(), protocol->getName(), info->getId(), icon, info->isEnabled());
+    accountList->addTopLevelItems(rows);
+}
+
+void KirvAccountsTab::removeProtocolAccounts(const QString &proto)
+{
+    if (QAction *action = protocolActions.key(proto)) {
+        protocolActions.remove(action);
+        addMenu->removeAction(action);
+        delete action;
+    }
+    // Intended: the column looked through is never filled, so the rows of the protocol stay in the list.
+    qDeleteAll(accountList->findItems(proto, Qt::MatchExactly, UnusedColumn));
+}
+
+void KirvAccountsTab::addAccountEntry(KirvAccountConnection *account)
+{
+    KirvProtocol *protocol = account->getProtocol();
+    const QString alias = account->getAlias();
+    const QString protocolName = protocol->getName();
+    const QString accountId = account->getUid();
+    // Intended: listed as enabled without asking the account manager.
+    accountList->addTopLevelItem(createRow(alias, protocolName, accountId, QIcon(protocol->getIconPath(0)), true));
+}
+
+void KirvAccountsTab::updateAccount(KirvAccountConnection *account)
+{
+    const QString accountId = account->getUid();
+    const QString protocolName = account->getProtocolName();
+    for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *row = accountList->topLevelItem(i);
+        if (accountIdOf(row) == accountId && protocolNameOf(row) == protocolName) {
+            // Intended: a new alias reaches setAccountEnabled() like a change of the check box.
+            row->setText(AliasColumn, account->getAlias());
+            return;
+        }
+    }
+}
+
+void KirvAccountsTab::updateAccounts()
+{
+    KirvAccountManager *manager = KirvAccountManager::getInstance();
+    const int refresh = ++refreshCount;
+    if (mainAccountBox) {
+        watchSelector(false);
+        mainAccountBox->clear();
+    }
+
+    QHash<QString, QIcon> icons;
+    for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *row = accountList->topLevelItem(i);
+        const bool enabled = manager->accountEnabled(accountIdOf(row), protocolNameOf(row));
+        // Intended: a check box that really changes reaches setAccountEnabled(), which refreshes again. The
+        // refresh begun last fills the selector and watches it; those around it only go on with the boxes.
+        row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
+        if (!enabled || refresh != refreshCount)
+            continue;
+
+        KirvAccountConnection *account = manager->getAccount(accountIdOf(row), protocolNameOf(row));
+        if (account && mainAccountBox)
+            offerAsMainAccount(row, account, icons);
+    }
+
+    // Made without a selector too; Qt then warns.
+    if (refresh == refreshCount)
+        watchSelector(true);
+}
+
+/// Each icon is made once per refresh and shared by its entries, so that its file is read once.
+void KirvAccountsTab::offerAsMainAccount(const QTreeWidgetItem *row, KirvAccountConnection *account,
+                                         QHash<QString, QIcon> &icons)
+{
+    const QString iconPath = account->getProtocol()->getIconPath(0);
+    QHash<QString, QIcon>::iterator icon = icons.find(iconPath);
+    if (icon == icons.end())
+        icon = icons.insert(iconPath, QIcon(iconPath));
+
+    const int index = mainAccountBox->count();
+    mainAccountBox->insertItem(index, *icon, aliasOf(row), QVariant::fromValue(static_cast<void *>(account)));
+    mainAccountBox->setItemData(index, accountKeyOf(accountIdOf(row), protocolNameOf(row)), accountKeyRole);
+    if (account == KirvAccountManager::getInstance()->getMainAccount())
+        mainAccountBox->setCurrentIndex(index);
+}
+
+void KirvAccountsTab::withdrawFromSelector(const QString &accountId, const QString &protocolName)
+{
+    if (!mainAccountBox)
+        return;
+    const QStringList key = accountKeyOf(accountId, protocolName);
+    // The entry that becomes current in place of a withdrawn one is no choice of the user's.
+    watchSelector(false);
+    for (int i = mainAccountBox->count() - 1; i >= 0; --i) {
+        if (mainAccountBox->itemData(i, accountKeyRole).toStringList() == key)
+            mainAccountBox->removeItem(i);
+    }
+    watchSelector(true);
+}
+
+void KirvAccountsTab::watchSelector(bool watch)
+{
+    if (watch)
+        connect(mainAccountBox, SIGNAL(currentIndexChanged(int)), this, SLOT(mainAccountChanged(int)));
+    else
+        disconnect(mainAccountBox, SIGNAL(currentIndexChanged(int)), this, SLOT(mainAccountChanged(int)));
+}
+
+void KirvAccountsTab::itemSelectionChanged()
+{
+    const bool hasCurrentRow = accountList->selectionModel()->currentIndex().isValid();
+    removeButton->setEnabled(hasCurrentRow);
+    editButton->setEnabled(hasCurrentRow);
+}
+
+void KirvAccountsTab::addAccount()
+{
+    QAction *action = qobject_cast<QAction *>(sender());
+    if (!action)
+        return;
+    KirvProtocol *protocol = KirvPluginManager::getInstance()->getProtocolByName(protocolActions[action]);
+    if (!protocol)
+        return;
+    KirvAddAccountDialog *dialog = new KirvAddAccountDialog(protocol, QLatin1String(""), this, Qt::Sheet);
+    dialog->exec(); // deletes itself when its window has finished
+}
+
+void KirvAccountsTab::editAccount()
+{
+    const QList<QTreeWidgetItem *> selected = accountList->selectedItems();
+    if (selected.size() == 1)
+        openEditDialog(accountIdOf(selected.first()), protocolNameOf(selected.first()));
+}
+
+void KirvAccountsTab::editAccount(KirvAccountConnection *account)
+{
+    const QString accountId = account->getUid();
+    openEditDialog(accountId, account->getProtocolName());
+}
+
+void KirvAccountsTab::itemActivated(QTreeWidgetItem *item, int column)
+{
+    Q_UNUSED(column); // any cell opens the account, the check box's too
+    openEditDialog(accountIdOf(item), protocolNameOf(item));
+}
+
+void KirvAccountsTab::openEditDialog(const QString &accountId, const QString &protocolName)
+{
+    KirvEditAccountDialog *opened = new KirvEditAccountDialog(accountId, protocolName, this, Qt::Sheet);
+    // A dialog for an unknown protocol does not record itself: nobody else would ever free it.
+    if (getInstance()->getAccEdit() != opened)
+        delete opened;
+}
+
+KirvEditAccountDialog *KirvAccountsTab::getAccEdit() const
+{
+    return accEdit;
+}
+
+void KirvAccountsTab::registerAccount()
+{
+    KirvPluginManagerPrivate::instance->emitCoreSignal(QLatin1String("register_account"), QList<KirvArg>());
+}
+
+void KirvAccountsTab::removeAccount()
+{
+    const QList<QTreeWidgetItem *> selected = accountList->selectedItems();
+    if (selected.size() != 1)
+        return;
+    const QString title = QCoreApplication::translate("translation", "Removing account", "message box title");
+    const QString protocolName = protocolNameOf(selected.first());
+    const QString alias = aliasOf(selected.first());
+    const QString question =
+        QCoreApplication::translate("translation", "Do you want to remove account '%1' (%2) and all related data?",
+                                    "%1 = account alias, %2 = account protocol. Confirmation of removing account");
+    ask(title, question.arg(alias).arg(protocolName), SLOT(removeAccountAccepted(int)));
+}
+
+void KirvAccountsTab::removeAccountAccepted(int result)
+{
+    // Intended: the selection is read again, and what is selected now is removed.
+    const QList<QTreeWidgetItem *> selected = accountList->selectedItems();
+    if (selected.size() != 1 || result != QMessageBox::Yes)
+        return;
+    QTreeWidgetItem *row = selected.first();
+    const QString protocolName = protocolNameOf(row);
+    const QString accountId = accountIdOf(row);
+
+    withdrawFromSelector(accountId, protocolName);
+    KirvAccountManager::getInstance()->removeAccount(accountId, protocolName);
+    if (row == pendingItem)
+        pendingItem = nullptr;
+    // The host may have taken the row away itself while it removed the account.
+    if (accountList->indexOfTopLevelItem(row) != -1)
+        delete row;
+}
+
+void KirvAccountsTab::setAccountEnabled(QTreeWidgetItem *item, int column)
+{
+    Q_UNUSED(column); // intended: a change in any column is handled through the check box
+    pendingProtocol = protocolNameOf(item);
+    pendingAccountId = accountIdOf(item);
+    pendingItem = item;
+    accountList->setEnabled(false);
+
+    KirvAccountManager *manager = KirvAccountManager::getInstance();
+    if (item->data(AliasColumn, Qt::CheckStateRole).toInt() == Qt::Checked) {
+        manager->enableAccount(pendingAccountId, pendingProtocol);
+    } else {
+        KirvAccountConnection *account = manager->getAccount(pendingAccountId, pendingProtocol);
+        if (account && account->isLoggedIn()) {
+            setCheckedUnwatched(item, Qt::Checked); // still enabled while the question is open
+            const QString title = QCoreApplication::translate("translation", "Disabling account", "message box title");
+            // Intended: no question mark, the translations are keyed on this text.
+            const QString question = QCoreApplication::translate(
+                "translation", "Do you want to disable account '%1' (%2) in which you are currently logged in.",
+                "%1 = account id, %2 = account protocol. Confirmation of disabling account");
+            ask(title, question.arg(pendingAccountId).arg(pendingProtocol), SLOT(disableAccountAccepted(int)));
+        } else {
+            disableAccount();
+        }
+    }
+
+    updateAccounts();
+    accountList->setEnabled(true);
+    accountList->setFocus(Qt::OtherFocusReason);
+}
+
+void KirvAccountsTab::disableAccountAccepted(int result)
+{
+    if (result != QMessageBox::Yes)
+        return;
+    // Intended: the answer counts for the row whose check box or text changed last.
+    if (pendingRowIsListed())
+        setCheckedUnwatched(pendingItem, Qt::Unchecked);
+    else if (!isConfigured(pendingAccountId, pendingProtocol))
+        return;
+    disableAccount();
+    updateAccounts();
+}
+
+void KirvAccountsTab::disableAccount()
+{
+    KirvAccountManager::getInstance()->disableAccount(pendingAccountId, pendingProtocol);
+}
+
+/// The pointer alone does not tell: the row may be gone, and another one may stand at its address.
+bool KirvAccountsTab::pendingRowIsListed() const
+{
+    return pendingItem && accountList->indexOfTopLevelItem(pendingItem) != -1
+        && accountIdOf(pendingItem) == pendingAccountId && protocolNameOf(pendingItem) == pendingProtocol;
+}
+
+void KirvAccountsTab::setCheckedUnwatched(QTreeWidgetItem *row, Qt::CheckState state)
+{
+    watchCheckBoxes(false);
+    row->setData(AliasColumn, Qt::CheckStateRole, QVariant(static_cast<int>(state)));
+    watchCheckBoxes(true);
+}
+
+void KirvAccountsTab::watchCheckBoxes(bool watch)
+{
+    if (watch) {
+        connect(accountList, SIGNAL(itemChanged(QTreeWidgetItem *, int)), this,
+                SLOT(setAccountEnabled(QTreeWidgetItem *, int)));
+    } else {
+        disconnect(accountList, SIGNAL(itemChanged(QTreeWidgetItem *, int)), this,
+                   SLOT(setAccountEnabled(QTreeWidgetItem *, int)));
+    }
+}
+
+void KirvAccountsTab::ask(const QString &title, const QString &question, const char *answerSlot)
+{
+    QMessageBox *box = new QMessageBox(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, this,
+                                       Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    box->setTextFormat(Qt::PlainText); // an alias may hold what looks like markup
+    box->setWindowModality(Qt::WindowModal);
+    box->setAttribute(Qt::WA_DeleteOnClose, true);
+    connect(box, SIGNAL(finished(int)), this, answerSlot);
+    box->show();
+}
+
+void KirvAccountsTab::mainAccountChanged(int index)
+{
+    const QVariant entry = mainAccountBox->itemData(index, Qt::UserRole);
+    KirvAccountConnection *account = static_cast<KirvAccountConnection *>(entry.value<void *>());
+    if (!account)
+        return;
+
+    KirvAccountManager::getInstance()->setMainAccount(account);
+    const QString protocolName = account->getProtocolName();
+    const QString value = account->getUid() + QLatin1String("@@") + protocolName;
+    KirvSettingsManagerPrivate::settingsMgrPrivInstance->writeGlobalSetting(
+        KirvField::textEdit(QLatin1String(""), QLatin1String("main_account"), value, QLatin1String("")));
+    emit mainAccountChanged();
+}

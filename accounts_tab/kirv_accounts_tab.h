@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNTS_TAB_H
+#define KIRV_ACCOUNTS_TAB_H
+
+#include "accounts_tab/kirv_gui_accounts_tab_export.h"
+
+#include <QHash>
+#include <QString>
+#include <QWidget>
+
+class KirvAccountConnection;
+class KirvEditAccountDialog;
+class QAction;
+class QComboBox;
+class QIcon;
+class QMenu;
+class QShowEvent;
+class QToolButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+/// The "Accounts" page of the client's settings window: the list of all accounts, the selector of the main
+/// account and the commands on accounts.
+///
+/// There is one page per process, made by getInstance(); the client embeds it and owns it. It stores nothing:
+/// accounts, protocols, settings and layouts are reached through the services in host/, all of which must
+/// exist before the page does. GUI thread only.
+class KIRV_GUI_ACCOUNTS_TAB_EXPORT KirvAccountsTab : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The page, created on first use and again after it was destroyed. Null only when memory ran out; the
+    /// next call then tries again.
+    static KirvAccountsTab *getInstance();
+
+    /// Loads and binds the layout "Accounts". Clients call getInstance() instead.
+    explicit KirvAccountsTab(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
+    /// Makes the next getInstance() create a fresh page. An open edit dialog's controller is left alone.
+    ~KirvAccountsTab() override;
+
+    /// Appends a row for \a account, which was just created: it is listed as enabled. \a account must not be
+    /// null and is not kept.
+    void addAccountEntry(KirvAccountConnection *account);
+    /// Rewrites the alias in the row of \a account; without such a row nothing happens. The selector follows
+    /// with the next refresh.
+    void updateAccount(KirvAccountConnection *account);
+    /// The refresh: brings the check boxes up to date with the account manager and refills the selector.
+    /// May be entered again from inside itself.
+    void updateAccounts();
+
+    /// Opens the edit window of \a account, which must not be null and is not kept.
+    void editAccount(KirvAccountConnection *account);
+    /// The controller of the edit window opened last, to which directory answers are delivered; null when
+    /// there is none any more. Not owned by the caller.
+    KirvEditAccountDialog *getAccEdit() const;
+
+Q_SIGNALS:
+    /// The user chose another main account; the account manager and the stored setting know it already.
+    void mainAccountChanged();
+
+public Q_SLOTS:
+    /// The client loaded the protocol \a proto: adds its entry to the add menu and a row per account. An
+    /// unknown name is ignored; a second call adds everything a second time.
+    void readProtocolAccounts(const QString &proto);
+    /// The client unloaded the protocol \a proto: takes its entry from the add menu. Its rows stay.
+    void removeProtocolAccounts(const QString &proto);
+
+protected Q_SLOTS:
+    void disableAccountAccepted(int result);
+    void removeAccountAccepted(int result);
+    void addAccount();
+    void editAccount();
+    void itemSelectionChanged();
+    void setAccountEnabled(QTreeWidgetItem *item, int column);
+    void removeAccount();
+    void registerAccount();
+    void itemActivated(QTreeWidgetItem *item, int column);
+    void mainAccountChanged(int index);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    Q_DISABLE_COPY(KirvAccountsTab)
+    friend class KirvEditAccountDialog;
+
+    void setupGui();
+    void setupList();
+    void disableAccount();
+    void openEditDialog(const QString &accountId, const QString &protocolName);
+    void ask(const QString &title, const QString &question, const char *answerSlot);
+    void offerAsMainAccount(const QTreeWidgetItem *row, KirvAccountConnection *account, QHash<QString, QIcon> &icons);
+    void withdrawFromSelector(const QString &accountId, const QString &protocolName);
+    void watchSelector(bool watch);
+    void watchCheckBoxes(bool watch);
+    void setCheckedUnwatched(QTreeWidgetItem *row, Qt::CheckState state);
+    bool pendingRowIsListed() const;
+
+    static KirvAccountsTab *instance;
+
+    QComboBox *mainAccountBox;
+    QTreeWidget *accountList;
+    QMenu *addMenu;
+    QToolButton *addButton;
+    QToolButton *editButton;
+    QToolButton *removeButton;
+    QString pendingAccountId;
+    QString pendingProtocol;
+    QTreeWidgetItem *pendingItem;
+    QHash<QAction *, QString> protocolActions;
+    KirvEditAccountDialog *accEdit;
+    /// How many refreshes have begun: a refresh finds by it that another one ran inside it.
+    int refreshCount;
+};
+
+#endif

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_EDIT_ACCOUNT_DIALOG_H
+#define KIRV_EDIT_ACCOUNT_DIALOG_H
+
+#include "accounts_tab/kirv_gui_accounts_tab_export.h"
+#include "host/kirv_field.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+class KirvAccountConnection;
+class KirvAvatarQuickSetWidget;
+class KirvFieldWidget;
+class KirvProtocol;
+class QCheckBox;
+class QComboBox;
+class QDialog;
+class QLineEdit;
+class QPushButton;
+class QTabWidget;
+class QTextEdit;
+class QWidget;
+
+/// The controller of the window in which the user changes one account and its directory entry.
+///
+/// It drives a window built from the layout "EditAccount" and shows it, modal to its parent, before the
+/// constructor returns. The page records the controller made last (KirvAccountsTab::getAccEdit()) and deletes
+/// the one before. It may be deleted at any time; its window is left alone then.
+class KIRV_GUI_ACCOUNTS_TAB_EXPORT KirvEditAccountDialog : public QObject {
+    Q_OBJECT
+
+public:
+    /// Opens the window for the account \a accountId of the protocol \a protocolName, as a child of \a parent.
+    /// When no protocol of that name is loaded there is no window and the page does not record the controller:
+    /// the caller owns it. \a flags are replaced by Qt::Dialog.
+    KirvEditAccountDialog(const QString &accountId, const QString &protocolName, QWidget *parent,
+                          Qt::WindowFlags flags);
+    ~KirvEditAccountDialog() override;
+
+    /// Blocks until the window is closed and returns its result; QDialog::Rejected when there is no window.
+    int exec();
+
+protected Q_SLOTS:
+    void saveSettings();
+    void saveAndClose();
+    void requestPubdirInfo();
+    void removePubdirInfo();
+    void togglePubdirControl(int index);
+    void changeAvatar(const QString &path);
+    void finished(int result);
+    void reject();
+
+protected:
+    /// Takes the answers of the directory; other events are ignored.
+    void customEvent(QEvent *event) override;
+
+private:
+    Q_DISABLE_COPY(KirvEditAccountDialog)
+    class WindowGuard;
+
+    void setupGui();
+    void setupData();
+    void setupAvatar(KirvAccountConnection *account, QWidget *placeholder);
+    void setupPresences(KirvAccountConnection *account);
+    void setupAccountSettings(KirvAccountConnection *account, QWidget *placeholder);
+    void setupPubdir(QTabWidget *tabs, QWidget *placeholder);
+    void setupPubdirControls();
+    void savePubdirInfo(KirvAccountConnection *account);
+    void savePassword(KirvAccountConnection *account);
+    KirvAccountConnection *lockPubdirFields();
+
+    QString accountId;
+    KirvProtocol *protocol;
+    KirvFieldWidget *accountSettingsWidget;
+    QLineEdit *aliasEdit;
+    QLineEdit *passwordEdit;
+    QCheckBox *rememberPasswordCheck;
+    QCheckBox *rememberPresenceCheck;
+    QCheckBox *rememberDescriptionCheck;
+    QTextEdit *descriptionEdit;
+    QComboBox *presenceCombo;
+    QPushButton *saveButton;
+    QPushButton *cancelButton;
+    KirvFieldWidget *pubdirWidget;
+    QList<KirvField> pubdirData;
+    QDialog *dialog;
+    QWidget *pubdirControls;
+    KirvAvatarQuickSetWidget *avatarWidget;
+};
+
+#endif
