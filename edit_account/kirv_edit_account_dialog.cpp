@@ -39,28 +39,31 @@ bool isChecked(const QCheckBox *box)
     return box->checkState() == Qt::Checked;
 }
 
-}
-
-/// A child of the window that tells the controller when the window is destroyed: all its widget pointers are
-/// void from then on, which `dialog` being null says.
-class KirvEditAccountDialog::WindowGuard : public QObject {
+/// A child of the window that clears the controller's pointers into it when the window is destroyed.
+class WindowGuard : public QObject {
 public:
-    WindowGuard(KirvEditAccountDialog *controller, QDialog *window)
+    WindowGuard(QObject *controller, QDialog *&window, KirvFieldWidget *&fields)
         : QObject(window)
         , controller(controller)
+        , window(window)
+        , fields(fields)
     {
     }
     ~WindowGuard() override
     {
         if (controller) {
-            controller->dialog = nullptr;
-            controller->pubdirWidget = nullptr;
+            window = nullptr;
+            fields = nullptr;
         }
     }
 
 private:
-    QPointer<KirvEditAccountDialog> controller;
+    QPointer<QObject> controller;
+    QDialog *&window;
+    KirvFieldWidget *&fields;
 };
+
+}
 
 KirvEditAccountDialog::KirvEditAccountDialog(const QString &accountId, const QString &protocolName, QWidget *parent,
                                              Qt::WindowFlags flags)
@@ -112,7 +115,7 @@ void KirvEditAccountDialog::setupGui()
     dialog = qobject_cast<QDialog *>(KirvUILoader::getInstance()->loadUI(QLatin1String("EditAccount"), QString()));
     if (!dialog)
         return;
-    new WindowGuard(this, dialog);
+    new WindowGuard(this, dialog, pubdirWidget);
 
     aliasEdit = dialog->findChild<QLineEdit *>(QLatin1String("EditAccount_Alias"));
     QWidget *avatarPlacement = dialog->findChild<QWidget *>(QLatin1String("EditAccount_AvatarPlacement"));

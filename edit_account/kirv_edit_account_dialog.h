@@ -57,7 +57,6 @@ protected:
 
 private:
     Q_DISABLE_COPY(KirvEditAccountDialog)
-    class WindowGuard;
 
     void setupGui();
     void setupData();
