@@ -10,12 +10,13 @@
 #include <QDateTime>
 #include <QList>
 #include <QObject>
+#include <memory>
 
 class KirvAccountConnection;
 
 /// The connection of one account to its server: the state machine that all protocols share.
 ///
-/// A protocol derives from it and implements the five start…/abort/apply operations; it reports what the
+/// A protocol derives from it and implements the four start…/abort/apply operations; it reports what the
 /// server does through the protected loginSucceeded(), loginFailed(), connectionLost() and logoutFinished().
 /// Time-out of log-in and log-out, waiting with back-off after a lost connection and the memory of the last
 /// failure are done here, once. Everything runs on the GUI thread.
@@ -23,6 +24,10 @@ class KirvAccountConnection;
 ///     Offline → Connecting → Online → Disconnecting → Offline
 ///                   ↓  ↑        ↓
 ///                  Waiting  ←───┘      (a failure that is worth retrying)
+///
+/// Reports that come too late, after drop() or a time-out say, are ignored. Slots may do with the connection
+/// what they like, also destroy it. Destroying it says nothing to anybody and answers no request: drop() it
+/// first when somebody waits; the protocol's destructor closes what is open.
 class KirvConnection : public QObject {
     Q_OBJECT
 
@@ -37,9 +42,12 @@ public:
         int requestTimeout = 15000;
         int firstRetry = 2000;
         int lastRetry = 300000;
+        double retryJitter = 0.2; ///< each wait is up to this fraction shorter or longer, by chance
+        int stableAfter = 30000; ///< how long on line until the next wait is firstRetry again
     };
 
-    /// \a account is not owned and outlives the connection. \a clock is not owned.
+    /// \a account is not owned and outlives the connection; null is an account that is not configured (yet).
+    /// \a clock is not owned.
     explicit KirvConnection(KirvAccountConnection *account, KirvClock &clock = KirvClock::system(),
                             QObject *parent = nullptr);
     ~KirvConnection() override;
@@ -67,14 +75,22 @@ public:
 
     /// The presence that was asked for last.
     KirvPresence wantedPresence() const;
+    /// Keeps \a presence as the wanted one without going there.
+    void setWantedPresence(const KirvPresence &presence);
+    /// Whether the account's password is another one than at the last log-in.
+    bool isPasswordOutdated() const;
     /// Whether \a presence means being logged out; for most protocols the one with the id "offline".
     virtual bool isOfflinePresence(const KirvPresence &presence) const;
 
     /// Directory requests. Each is answered by exactly one directoryAnswered(), also on an error, a time-out
-    /// and when the connection ends; without fields in these cases. The default answers at once with nothing.
+    /// and when the connection ends; without fields in these cases. One request is outstanding at a time: a
+    /// newer one takes its place, and the older one is answered without fields. The default answers with
+    /// nothing (from the event loop, never before the call returns).
     virtual void fetchDirectory();
     virtual void publishDirectory(const QList<KirvField> &fields);
     virtual void deleteDirectory();
+    /// Answers a request that cannot be made: without fields, from the event loop.
+    void answerWithoutDirectory();
     /// Tells a connected server about the account's new avatar; the default does nothing.
     virtual void publishAvatar();
 
@@ -93,22 +109,34 @@ protected:
     virtual void startLogin(const KirvPresence &presence) = 0;
     /// Starts an orderly log-out; answer with logoutFinished().
     virtual void startLogout() = 0;
-    /// Ends the connection at once; reports nothing.
+    /// Ends the connection at once; reports nothing. Called after every failure too, and also when nothing is
+    /// open (any more): does no harm then.
     virtual void abortConnection() = 0;
     /// Sends \a presence; called in state Online only.
     virtual void applyPresence(const KirvPresence &presence) = 0;
 
     void loginSucceeded();
     void loginFailed(const KirvFailure &failure);
+    /// Ends a log-in, too; what is lost while logging out is logged out.
     void connectionLost(const KirvFailure &failure);
     void logoutFinished();
     /// Tells a failed request without touching the state.
     void requestFailed(const KirvFailure &failure);
+
+    /// Begins a directory request and returns its number, which is never 0. The time-out runs from now on, and
+    /// the end of the connection answers the request.
+    int beginDirectoryRequest();
+    /// Answers request number \a request, or the outstanding one whatever its number when \a request is 0.
+    /// Nothing happens when that request has been answered already.
+    void finishDirectoryRequest(const QList<KirvField> &fields, int request = 0);
+    /// The same for a request that failed: tells \a failure and answers without fields.
+    void failDirectoryRequest(const KirvFailure &failure, int request = 0);
+
     KirvClock &clock() const;
 
 private:
     class Private;
-    Private *d;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

@@ -7,8 +7,10 @@
 
 #include <QList>
 #include <QObject>
+#include <memory>
 
 class KirvConnection;
+class QWidget;
 
 /// Something a user can ask of one account beyond what every protocol offers (change the password on the
 /// server, delete the account there). A value type.
@@ -48,7 +50,8 @@ public:
     /// that is not known.
     virtual void runAccountAction(const QString &id, KirvAccountConnection *account, QWidget *window);
 
-    /// The directory operations of the contract, led to the account's connection.
+    /// The directory operations of the contract, led to the account's connection. One that is not logged in
+    /// answers with nothing.
     void publishPubdirInfo(KirvAccountConnection *account, const QList<KirvField> &fields) override;
     void fetchPubdirInfo(KirvAccountConnection *account) override;
     void deletePubdirInfo(KirvAccountConnection *account) override;
@@ -59,7 +62,7 @@ public:
 
 private:
     class Private;
-    Private *d;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

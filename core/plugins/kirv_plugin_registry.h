@@ -7,7 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
-#include <QStringList>
+#include <memory>
 
 class KirvProtocolBase;
 
@@ -32,20 +32,24 @@ public:
     ~KirvPluginRegistry() override;
 
     /// Looks at every file in \a folder, in the order of names, and loads the protocol plug-ins among them.
-    /// What cannot be used is reported in plugins(). A folder that does not exist is reported by false.
+    /// What cannot be used is reported in plugins(); files seen before are left as they are. A folder that does
+    /// not exist is reported by false.
     bool loadFolder(const QString &folder);
 
     /// Every file seen so far, in order.
     QList<KirvPluginInfo> plugins() const;
+    /// The loaded protocols, in the order of loading.
     QList<KirvProtocolBase *> protocols() const;
+    /// The loaded protocol of that \a name, null when there is none. Constant time.
+    KirvProtocolBase *protocol(const QString &name) const;
 
     /// Loads or unloads the protocol of that file at run time; false when it did not work out (the reason is
     /// in plugins()).
     bool load(const QString &fileName);
     bool unload(const QString &fileName);
 
-    /// Registers a protocol that comes with the program instead of a file; takes ownership. False when one of
-    /// that name is there already (it is deleted then).
+    /// Registers a protocol that comes with the program instead of a file; takes ownership. False when it has no
+    /// name or presence, or one of that name is there already (it is deleted then).
     bool addProtocol(KirvProtocolBase *protocol);
 
 Q_SIGNALS:
@@ -57,10 +61,8 @@ Q_SIGNALS:
     void pluginsChanged();
 
 private:
-    friend class KirvPluginManager;
-    friend class KirvPluginManagerPrivate;
     class Private;
-    Private *d;
+    const std::unique_ptr<Private> d;
 };
 
 #endif
