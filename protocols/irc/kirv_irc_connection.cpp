@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_connection.h"
+
+#include "host/kirv_account_connection.h"
+#include "protocols/irc/kirv_irc_sasl.h"
+#include "protocols/irc/kirv_irc_text.h"
+
+#include <Irc>
+#include <IrcCommand>
+#include <IrcConnection>
+#include <IrcMessage>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QSslSocket>
+
+namespace {
+
+/// What fits into a line beside the command and is accepted by most servers, in bytes.
+const int longestAwayText = 300;
+
+/// A connection that is silent for this many times the time a request may take is checked.
+const int silencePerRequestTime = 4;
+
+/// Whether a server that closes the connection before the log-in says so because it does not want us. Everything
+/// else (it is full, we came back too fast) may pass.
+bool isDenial(const QString &goodbye)
+{
+    static const QRegularExpression expression(QStringLiteral("denied|password|\\bbann?ed\\b|\\b[gkz]-?lined?\\b|"
+                                                              "not authori[sz]ed|unauthori[sz]ed"),
+                                               QRegularExpression::CaseInsensitiveOption);
+    return expression.match(goodbye).hasMatch();
+}
+
+} // namespace
+
+KirvIrcConnection::KirvIrcConnection(KirvAccountConnection *account, KirvClock &clock, QObject *parent)
+    : KirvConnection(account, clock, parent)
+{
+}
+
+KirvIrcConnection::~KirvIrcConnection()
+{
+    KirvIrcConnection::abortConnection();
+}
+
+void KirvIrcConnection::startLogin(const KirvPresence &)
+{
+    settings = KirvIrcSettings(account()->getUid(), account()->getPassword(), account()->getAccountSettingsInOrder());
+    QString problem = settings.problem();
+    if (!problem.isEmpty())
+        return loginFailed({ KirvFailure::BadSettings, problem });
+    if (settings.passwordUse != KirvIrcSettings::NotUsed && settings.password.isEmpty())
+        return loginFailed(KirvFailure::PasswordMissing);
+
+    createLink();
+    if (settings.encrypted && !prepareEncryption(&problem))
+        return loginFailed({ KirvFailure::BadSettings, problem });
+    prepareAuthentication();
+    connect(link->socket(), &QAbstractSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
+    nicksLeft = settings.nicks();
+    link->setNickName(nicksLeft.takeFirst());
+    link->open();
+}
+
+/// A new one for each attempt, so that nothing of an earlier attempt is left.
+void KirvIrcConnection::createLink()
+{
+    link.reset(new IrcConnection);
+    link->setReconnectDelay(0);
+    link->setHost(settings.server);
+    link->setPort(settings.port);
+    link->setUserName(settings.userName());
+    link->setRealName(settings.realName);
+    connect(link.data(), &IrcConnection::connected, this, &KirvIrcConnection::finishLogin);
+    connect(link.data(), &IrcConnection::messageReceived, this, [this] { heard = true; });
+    connect(link.data(), &IrcConnection::numericMessageReceived, this, &KirvIrcConnection::receiveNumeric);
+    connect(link.data(), &IrcConnection::errorMessageReceived, this, &KirvIrcConnection::receiveGoodbye);
+    connect(link.data(), &IrcConnection::disconnected, this, [this] {
+        if (state() == Disconnecting)
+            logoutFinished();
+        else
+            connectionLost(KirvFailure::ConnectionLost);
+    });
+}
+
+/// The library's own secure socket accepts every certificate; this one has to be convinced.
+bool KirvIrcConnection::prepareEncryption(QString *problem)
+{
+    certificateError.clear();
+    auto *socket = new QSslSocket(link.data());
+    socket->setPeerVerifyMode(QSslSocket::VerifyPeer);
+    link->setSocket(socket);
+    connect(socket, QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
+            [this](const QList<QSslError> &errors) { certificateError = errors.first().errorString(); });
+
+    if (settings.certificateFile.isEmpty())
+        return true;
+    const QList<QSslCertificate> trusted = QSslCertificate::fromPath(settings.certificateFile);
+    if (trusted.isEmpty()) {
+        *problem = tr("There is no certificate in the file “%1”.").arg(settings.certificateFile);
+        return false;
+    }
+    QSslConfiguration configuration = socket->sslConfiguration();
+    configuration.addCaCertificates(trusted);
+    socket->setSslConfiguration(configuration);
+    return true;
+}
+
+void KirvIrcConnection::prepareAuthentication()
+{
+    sasl = nullptr;
+    if (settings.passwordUse == KirvIrcSettings::ForServer)
+        link->setPassword(settings.password);
+    if (settings.passwordUse != KirvIrcSettings::ForSasl)
+        return;
+    sasl = new KirvIrcSasl(link.data(), settings.saslUser, settings.password);
+    link->setProtocol(sasl);
+    connect(sasl, &KirvIrcSasl::failed, this, &KirvIrcConnection::loginFailed);
+}
+
+void KirvIrcConnection::finishLogin()
+{
+    // A server that knows nothing of capabilities goes on without the password.
+    if (sasl && !sasl->isAccepted())
+        return loginFailed(KirvFailure::AuthenticationNotOffered);
+    applyPresence(wantedPresence());
+    connect(link.data(), &IrcConnection::nickNameChanged, this, &KirvIrcConnection::tellNick);
+    watchServer();
+    const QPointer<IrcConnection> session(link.data());
+    loginSucceeded();
+    if (session)
+        tellNick();
+}
+
+void KirvIrcConnection::tellNick()
+{
+    if (link && link->nickName() != settings.nick) {
+        Q_EMIT noticeReceived(tr("The nick “%1” could not be had; you are “%2” on this server now.")
+                                  .arg(settings.nick, link->nickName()));
+    }
+}
+
+void KirvIrcConnection::receiveNumeric(IrcNumericMessage *message)
+{
+    if (state() != Connecting)
+        return;
+    switch (message->code()) {
+    case Irc::ERR_ERRONEUSNICKNAME:
+        tryNextNick(true);
+        break;
+    case Irc::ERR_NICKNAMEINUSE:
+    case Irc::ERR_NICKCOLLISION:
+    case Irc::ERR_UNAVAILRESOURCE:
+        tryNextNick(false);
+        break;
+    case Irc::ERR_PASSWDMISMATCH:
+    case Irc::ERR_YOUREBANNEDCREEP:
+        loginFailed({ KirvFailure::AccessDenied, message->parameters().value(message->parameters().size() - 1) });
+        break;
+    default:
+        break;
+    }
+}
+
+void KirvIrcConnection::tryNextNick(bool wasRefused)
+{
+    // An alternative that is refused is only one less; the nick itself is what the user has to correct.
+    const bool isFirst = nicksLeft.size() == settings.nicks().size() - 1;
+    if (wasRefused && isFirst)
+        return loginFailed({ KirvFailure::NameNotAllowed, settings.nick });
+    if (nicksLeft.isEmpty())
+        return loginFailed({ KirvFailure::NameInUse, settings.nick });
+    link->setNickName(nicksLeft.takeFirst());
+}
+
+void KirvIrcConnection::receiveGoodbye(IrcErrorMessage *message)
+{
+    if (state() == Disconnecting)
+        return;
+    const bool denied = state() == Connecting && isDenial(message->error());
+    connectionLost({ denied ? KirvFailure::AccessDenied : KirvFailure::ServerShutDown, message->error() });
+}
+
+void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
+{
+    switch (error) {
+    case QAbstractSocket::HostNotFoundError:
+        return connectionLost({ KirvFailure::HostNotFound, settings.server });
+    case QAbstractSocket::ConnectionRefusedError:
+        return connectionLost({ KirvFailure::ConnectionRefused, settings.server });
+    case QAbstractSocket::SocketTimeoutError:
+        return connectionLost({ KirvFailure::TimedOut, settings.server });
+    case QAbstractSocket::SslHandshakeFailedError:
+        if (certificateError.isEmpty())
+            return connectionLost(KirvFailure::EncryptionNotOffered);
+        return connectionLost({ KirvFailure::UntrustedCertificate, certificateError });
+    case QAbstractSocket::RemoteHostClosedError:
+        return; // what the server said before is still to be read; the disconnection follows
+    default:
+        return connectionLost({ KirvFailure::ConnectionLost, link->socket()->errorString() });
+    }
+}
+
+void KirvIrcConnection::startLogout()
+{
+    link->quit();
+}
+
+void KirvIrcConnection::abortConnection()
+{
+    sasl = nullptr;
+    if (!link)
+        return;
+    link->disconnect(this);
+    link->socket()->disconnect(this);
+    link->close();
+    link.reset();
+}
+
+void KirvIrcConnection::applyPresence(const KirvPresence &presence)
+{
+    QString reason;
+    if (presence.getId() == QLatin1String("away")) {
+        reason = kirvIrcLine(presence.getDescription(), longestAwayText).trimmed();
+        if (reason.isEmpty())
+            reason = tr("Away");
+    }
+    link->sendCommand(IrcCommand::createAway(reason));
+}
+
+/// A connection can break without anybody saying so: a server that has been silent for long is asked for a sign.
+void KirvIrcConnection::watchServer()
+{
+    heard = false;
+    callLaterOnLink(silencePerRequestTime * timing().requestTimeout, [this] {
+        if (heard)
+            watchServer();
+        else
+            askWhetherServerIsThere();
+    });
+}
+
+void KirvIrcConnection::askWhetherServerIsThere()
+{
+    link->sendCommand(IrcCommand::createPing(settings.server));
+    callLaterOnLink(timing().requestTimeout, [this] {
+        if (heard)
+            watchServer();
+        else
+            connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
+    });
+}
+
+/// Calls \a callback later, unless the link has ended by then.
+void KirvIrcConnection::callLaterOnLink(int milliseconds, std::function<void()> callback)
+{
+    IrcConnection *const asked = link.data();
+    clock().callLater(milliseconds, asked, [this, asked, callback] {
+        if (link.data() == asked && state() == Online)
+            callback();
+    });
+}

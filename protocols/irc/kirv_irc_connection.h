@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_IRC_CONNECTION_H
+#define KIRV_IRC_CONNECTION_H
+
+#include "core/connection/kirv_connection.h"
+#include "protocols/irc/kirv_irc_settings.h"
+
+#include <QAbstractSocket>
+#include <QScopedPointer>
+#include <QStringList>
+#include <functional>
+
+class IrcConnection;
+class IrcErrorMessage;
+class IrcNumericMessage;
+class KirvIrcSasl;
+class QSslSocket;
+
+/// The connection of an IRC account to its server.
+///
+/// When the nick is in use, the alternatives are tried and then the nick with underscores; with which one it
+/// worked out is told by noticeReceived(). "Away" is sent with the description of the presence, or a text of its
+/// own where that is empty, as away without a text means being back.
+class KirvIrcConnection : public KirvConnection {
+    Q_OBJECT
+
+public:
+    explicit KirvIrcConnection(KirvAccountConnection *account, KirvClock &clock = KirvClock::system(),
+                               QObject *parent = nullptr);
+    ~KirvIrcConnection() override;
+
+protected:
+    void startLogin(const KirvPresence &presence) override;
+    void startLogout() override;
+    void abortConnection() override;
+    void applyPresence(const KirvPresence &presence) override;
+
+private:
+    void createLink();
+    bool prepareEncryption(QString *problem);
+    void prepareAuthentication();
+
+    void finishLogin();
+    void tellNick();
+    void receiveNumeric(IrcNumericMessage *message);
+    void tryNextNick(bool wasRefused);
+    void receiveGoodbye(IrcErrorMessage *message);
+    void receiveSocketError(QAbstractSocket::SocketError error);
+
+    void watchServer();
+    void askWhetherServerIsThere();
+    void callLaterOnLink(int milliseconds, std::function<void()> callback);
+
+    /// Deleted later, as it may be in the middle of a signal.
+    QScopedPointer<IrcConnection, QScopedPointerDeleteLater> link;
+    KirvIrcSettings settings;
+    KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
+    QStringList nicksLeft;
+    QString certificateError; ///< why the server's certificate is not trusted
+    bool heard = false; ///< whether the server has said anything since it was watched last
+};
+
+#endif

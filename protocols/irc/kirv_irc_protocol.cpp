@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_protocol.h"
+
+#include "protocols/irc/kirv_irc_connection.h"
+#include "protocols/irc/kirv_irc_settings.h"
+
+QString KirvIrcProtocol::getName()
+{
+    return QStringLiteral("IRC");
+}
+
+QString KirvIrcProtocol::getDescription()
+{
+    return tr("Internet Relay Chat: conversations in channels of a network of servers.");
+}
+
+QString KirvIrcProtocol::getIconPath(int)
+{
+    return QStringLiteral(":/kirv/protocols/irc.svg");
+}
+
+QStringList KirvIrcProtocol::getConfigurations()
+{
+    return KirvIrcSettings::configurations();
+}
+
+QList<KirvField> KirvIrcProtocol::getConfigurationFields(const QString &name)
+{
+    return KirvIrcSettings::configurationFields(name);
+}
+
+QString KirvIrcProtocol::getLoginPattern()
+{
+    return KirvIrcSettings::loginPattern();
+}
+
+QList<KirvPresence> KirvIrcProtocol::presences() const
+{
+    return {
+        { QStringLiteral("available"), tr("Available"), QStringLiteral("available.svg") },
+        { QStringLiteral("away"), tr("Away"), QStringLiteral("away.svg") },
+        { QStringLiteral("offline"), tr("Offline"), QStringLiteral("offline.svg") },
+    };
+}
+
+QList<KirvField> KirvIrcProtocol::accountSettings() const
+{
+    return KirvIrcSettings::defaultFields();
+}
+
+KirvConnection *KirvIrcProtocol::createConnection(KirvAccountConnection *account)
+{
+    return new KirvIrcConnection(account);
+}

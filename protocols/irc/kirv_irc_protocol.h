@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_IRC_PROTOCOL_H
+#define KIRV_IRC_PROTOCOL_H
+
+#include "core/connection/kirv_protocol_base.h"
+
+/// Internet Relay Chat. What a login is and what the settings mean: see KirvIrcSettings. There is no directory.
+class KirvIrcProtocol : public KirvProtocolBase {
+    Q_OBJECT
+
+public:
+    using KirvProtocolBase::KirvProtocolBase;
+
+    QString getName() override;
+    QString getDescription() override;
+    QString getIconPath(int variant) override;
+    QStringList getConfigurations() override;
+    QList<KirvField> getConfigurationFields(const QString &name) override;
+    QString getLoginPattern() override;
+
+    QList<KirvPresence> presences() const override;
+    QList<KirvField> accountSettings() const override;
+    KirvConnection *createConnection(KirvAccountConnection *account) override;
+};
+
+#endif

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_sasl.h"
+
+#include <IrcConnection>
+#include <IrcMessage>
+#include <IrcNetwork>
+
+namespace {
+
+const char mechanism[] = "PLAIN";
+const char endOfNegotiation[] = "CAP END";
+/// Longer credentials are sent in pieces of this size.
+const int pieceSize = 400;
+
+/// Whether the server offers SASL with our mechanism; a server that does not list its mechanisms may have it.
+bool offersPlain(const QStringList &capabilities)
+{
+    for (const QString &capability : capabilities) {
+        if (capability.section(QLatin1Char('='), 0, 0) != QLatin1String("sasl"))
+            continue;
+        const QString mechanisms = capability.section(QLatin1Char('='), 1);
+        return mechanisms.isEmpty() || mechanisms.split(QLatin1Char(',')).contains(QLatin1String(mechanism));
+    }
+    return false;
+}
+
+} // namespace
+
+KirvIrcSasl::KirvIrcSasl(IrcConnection *connection, const QString &user, const QString &password)
+    : IrcProtocol(connection)
+    , user(user)
+    , password(password)
+{
+    connect(connection, &IrcConnection::messageReceived, this, &KirvIrcSasl::receive);
+}
+
+bool KirvIrcSasl::write(const QByteArray &data)
+{
+    const bool tooEarly = data == endOfNegotiation && !accepted;
+    return tooEarly || IrcProtocol::write(data);
+}
+
+void KirvIrcSasl::receive(IrcMessage *message)
+{
+    if (message->type() == IrcMessage::Capability) {
+        negotiate(message);
+    } else if (message->command() == QLatin1String("AUTHENTICATE")) {
+        sendCredentials();
+    } else if (message->type() == IrcMessage::Numeric) {
+        switch (static_cast<IrcNumericMessage *>(message)->code()) {
+        case 903: // RPL_SASLSUCCESS
+        case 907: // ERR_SASLALREADY
+            accept();
+            break;
+        case 902: // ERR_NICKLOCKED
+        case 904: // ERR_SASLFAIL
+        case 905: // ERR_SASLTOOLONG
+        case 906: // ERR_SASLABORTED
+            Q_EMIT failed(KirvFailure::WrongPassword);
+            break;
+        case 908: // RPL_SASLMECHS
+            Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+            break;
+        }
+    }
+}
+
+void KirvIrcSasl::negotiate(IrcMessage *message)
+{
+    if (accepted)
+        return;
+    const QString subCommand = message->parameter(1);
+    if (subCommand == QLatin1String("LS")) {
+        // A list in several lines has an asterisk in all but the last.
+        if (message->parameter(2) == QLatin1String("*"))
+            return;
+        if (offersPlain(connection()->network()->availableCapabilities()))
+            connection()->sendRaw(QStringLiteral("CAP REQ :sasl"));
+        else
+            Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+    } else if (subCommand == QLatin1String("ACK")) {
+        if (!requested)
+            connection()->sendRaw(QLatin1String("AUTHENTICATE ") + QLatin1String(mechanism));
+        requested = true;
+    } else if (subCommand == QLatin1String("NAK")) {
+        Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+    }
+}
+
+void KirvIrcSasl::sendCredentials()
+{
+    const QByteArray credentials = ('\0' + user.toUtf8() + '\0' + password.toUtf8()).toBase64();
+    for (int begin = 0; begin < credentials.size(); begin += pieceSize)
+        connection()->sendData("AUTHENTICATE " + credentials.mid(begin, pieceSize));
+    // A piece of full size says that another one follows; there may be nothing left for it.
+    if (credentials.size() % pieceSize == 0)
+        connection()->sendData("AUTHENTICATE +");
+}
+
+void KirvIrcSasl::accept()
+{
+    accepted = true;
+    connection()->sendData(endOfNegotiation);
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_IRC_SASL_H
+#define KIRV_IRC_SASL_H
+
+#include "core/connection/kirv_failure.h"
+
+#include <IrcProtocol>
+#include <QString>
+
+class IrcMessage;
+
+/// Opens a session with SASL PLAIN, and only so.
+///
+/// The protocol of the library ends the negotiation before the server has judged the password, which can log in
+/// without it, and sends the password as that of the server where SASL is not offered. This one waits for the
+/// judgement and never sends the password anywhere else.
+class KirvIrcSasl : public IrcProtocol {
+    Q_OBJECT
+
+public:
+    /// \a connection owns it and has no password and no SASL mechanism of its own.
+    KirvIrcSasl(IrcConnection *connection, const QString &user, const QString &password);
+
+    /// Whether the server has accepted the password.
+    bool isAccepted() const { return accepted; }
+
+    bool write(const QByteArray &data) override;
+
+Q_SIGNALS:
+    void failed(const KirvFailure &failure);
+
+private:
+    void receive(IrcMessage *message);
+    void negotiate(IrcMessage *message);
+    void sendCredentials();
+    void accept();
+
+    QString user;
+    QString password;
+    bool requested = false;
+    bool accepted = false;
+};
+
+#endif

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_settings.h"
+
+#include "protocols/irc/kirv_irc_text.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+namespace {
+
+const char serverId[] = "server";
+const char portId[] = "port";
+const char encryptionId[] = "encryption";
+const char certificateId[] = "certificate";
+const char passwordUseId[] = "password_use";
+const char saslUserId[] = "sasl_user";
+const char realNameId[] = "real_name";
+const char alternativeNicksId[] = "alternative_nicks";
+
+const char required[] = "required";
+const char none[] = "none";
+const char notUsed[] = "none";
+const char forServer[] = "server";
+const char forSasl[] = "sasl";
+
+const int encryptedPort = 6697;
+const int plainPort = 6667;
+
+const char nickPattern[] = "[A-Za-z_`^{|}\\[\\]\\\\][A-Za-z0-9_`^{|}\\[\\]\\\\-]*";
+
+struct Network {
+    const char *name;
+    const char *server;
+};
+
+/// Public networks that offer encryption on the usual port, with certificates that systems trust.
+const Network networks[] = {
+    { "DALnet", "irc.dal.net" }, { "hackint", "irc.hackint.org" }, { "Libera.Chat", "irc.libera.chat" },
+    { "OFTC", "irc.oftc.net" },  { "Rizon", "irc.rizon.net" },
+};
+
+bool isNick(const QString &text)
+{
+    static const QRegularExpression expression(QRegularExpression::anchoredPattern(QLatin1String(nickPattern)));
+    return expression.match(text).hasMatch();
+}
+
+QStringList readNickList(const QString &text)
+{
+    static const QRegularExpression separator(QStringLiteral("[,\\s]+"));
+    QStringList nicks;
+    for (const QString &nick : text.split(separator)) {
+        if (isNick(nick))
+            nicks += nick;
+    }
+    return nicks;
+}
+
+KirvIrcSettings::PasswordUse readPasswordUse(const QString &value)
+{
+    if (value == QLatin1String(forServer))
+        return KirvIrcSettings::ForServer;
+    return value == QLatin1String(forSasl) ? KirvIrcSettings::ForSasl : KirvIrcSettings::NotUsed;
+}
+
+QHash<QString, QString> textsById(const QList<KirvField> &fields)
+{
+    QHash<QString, QString> texts;
+    for (const KirvField &field : fields)
+        texts.insert(field.getId(), field.getText());
+    return texts;
+}
+
+QList<KirvField> fieldsFor(const QString &server, int port, const char *encryption)
+{
+    QList<KirvField> fields = KirvIrcSettings::defaultFields();
+    for (KirvField &field : fields) {
+        if (field.getId() == QLatin1String(serverId))
+            field.setText(server);
+        else if (field.getId() == QLatin1String(portId))
+            field.setText(QString::number(port));
+        else if (field.getId() == QLatin1String(encryptionId))
+            field.setText(QLatin1String(encryption));
+    }
+    return fields;
+}
+
+/// The port of the server that was started together with the program, when it was.
+int localPort()
+{
+    const int port = qEnvironmentVariableIntValue("KIRV_IRC_LOCAL_PORT");
+    return port > 0 && port <= 65535 ? port : plainPort;
+}
+
+} // namespace
+
+KirvIrcSettings::KirvIrcSettings(const QString &login, const QString &password, const QList<KirvField> &fields)
+    : password(password)
+{
+    const QHash<QString, QString> texts = textsById(defaultFields() + fields);
+    const auto text = [&texts](const char *id) { return texts.value(QLatin1String(id)).trimmed(); };
+
+    nick = login.section(QLatin1Char('@'), 0, 0);
+    server = text(serverId);
+    if (server.isEmpty())
+        server = login.section(QLatin1Char('@'), 1);
+    port = text(portId).toUShort();
+    encrypted = text(encryptionId) != QLatin1String(none);
+    certificateFile = text(certificateId);
+    passwordUse = readPasswordUse(text(passwordUseId));
+    saslUser = text(saslUserId).isEmpty() ? nick : text(saslUserId);
+    realName = kirvIrcLine(text(realNameId), 100);
+    if (realName.isEmpty())
+        realName = nick;
+    alternativeNicks = readNickList(text(alternativeNicksId));
+}
+
+QString KirvIrcSettings::problem() const
+{
+    if (!isNick(nick))
+        return tr("“%1” cannot be a nick.").arg(nick);
+    if (server.isEmpty())
+        return tr("No server is given.");
+    if (server != kirvIrcLine(server, 255) || server.contains(QLatin1Char(' ')))
+        return tr("“%1” is not the name of a server.").arg(kirvIrcLine(server, 255));
+    if (port == 0)
+        return tr("The port must be a number from 1 to 65535.");
+    if (passwordUse == ForServer && password != kirvIrcLine(password, 400))
+        return tr("The password cannot be sent: it is too long or has characters that do not belong to a line.");
+    return QString();
+}
+
+QStringList KirvIrcSettings::nicks() const
+{
+    QStringList candidates { nick };
+    candidates += alternativeNicks;
+    for (int appended = 1; appended <= 3; ++appended)
+        candidates += nick + QString(appended, QLatin1Char('_'));
+    candidates.removeDuplicates();
+    return candidates;
+}
+
+QString KirvIrcSettings::userName() const
+{
+    static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9]"));
+    const QString name = QString(nick).remove(others).left(9).toLower();
+    return name.isEmpty() ? QStringLiteral("user") : name;
+}
+
+QList<KirvField> KirvIrcSettings::defaultFields()
+{
+    const QString id = QLatin1String(serverId);
+    return {
+        KirvField::textEdit(tr("Server"), id, QString(),
+                            tr("The name or address of the server. When it is empty, the part of the login after "
+                               "the @ is the server.")),
+        KirvField::number(tr("Port"), QLatin1String(portId), encryptedPort, 1, 65535,
+                          tr("Usually 6697 with encryption and 6667 without.")),
+        KirvField::choice(tr("Encryption"), QLatin1String(encryptionId), QLatin1String(required),
+                          { QLatin1String(required), QLatin1String(none) },
+                          { tr("Required (TLS)"), tr("None: everybody on the way can read along") },
+                          tr("With encryption the server must also prove who it is.")),
+        KirvField::textEdit(tr("Trusted certificate"), QLatin1String(certificateId), QString(),
+                            tr("The path of a file with a certificate (PEM) to trust besides those that this "
+                               "computer trusts already.")),
+        KirvField::choice(tr("Use of the password"), QLatin1String(passwordUseId), QLatin1String(notUsed),
+                          { QLatin1String(notUsed), QLatin1String(forServer), QLatin1String(forSasl) },
+                          { tr("Not used"), tr("Password of the server"), tr("Password of a registered nick (SASL)") },
+                          tr("What the account's password is for. Most networks need none, unless you have "
+                             "registered your nick there.")),
+        KirvField::textEdit(tr("SASL user"), QLatin1String(saslUserId), QString(),
+                            tr("The name under which the nick is registered. Empty: the nick itself.")),
+        KirvField::textEdit(tr("Real name"), QLatin1String(realNameId), QString(),
+                            tr("What others see as your name when they ask for it. Empty: the nick.")),
+        KirvField::textEdit(tr("Alternative nicks"), QLatin1String(alternativeNicksId), QString(),
+                            tr("Nicks to try when yours is in use, separated by commas.")),
+    };
+}
+
+QStringList KirvIrcSettings::configurations()
+{
+    QStringList names;
+    for (const Network &network : networks)
+        names += QLatin1String(network.name);
+    return names << tr("Server on this computer");
+}
+
+QList<KirvField> KirvIrcSettings::configurationFields(const QString &name)
+{
+    if (name == tr("Server on this computer"))
+        return fieldsFor(QStringLiteral("127.0.0.1"), localPort(), none);
+    for (const Network &network : networks) {
+        if (name == QLatin1String(network.name))
+            return fieldsFor(QLatin1String(network.server), encryptedPort, required);
+    }
+    return {};
+}
+
+QString KirvIrcSettings::loginPattern()
+{
+    return QLatin1String(nickPattern) + QLatin1String("(@[A-Za-z0-9.:-]+)?");
+}
