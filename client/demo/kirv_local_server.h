@@ -2,9 +2,12 @@
 #ifndef KIRV_LOCAL_SERVER_H
 #define KIRV_LOCAL_SERVER_H
 
-#include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
+
+#include <memory>
+
+class QProcess;
 
 /// A private server on loopback: its files in a temporary folder, a free port, ended with its owner (also when
 /// the owner is killed). Used by the demo and by the tests.
@@ -13,7 +16,7 @@ public:
     virtual ~KirvLocalServer();
 
     /// Writes the configuration, starts the program and waits until its port answers. False with errorString()
-    /// when the program is not installed or does not come up.
+    /// when the program is not installed or does not come up. True at once when it is running already.
     bool start();
     /// Ends it in an orderly way (SIGTERM), after a while the hard way. The files and the port stay reserved, so
     /// start() brings the same server back.
@@ -40,12 +43,18 @@ protected:
     virtual QString program() const = 0;
     virtual QStringList arguments() const = 0;
     bool fail(const QString &text);
-    /// Runs a tool to its end; false with errorString() when it fails.
-    bool runTool(const QString &program, const QStringList &arguments);
+    /// Writes a file into folder(), readable by its owner only; false with fail().
+    bool writeFile(const QString &name, const QByteArray &content);
+    /// Runs a tool to its end; false with errorString() when it fails. What it prints goes to \a printed.
+    bool runTool(const QString &program, const QStringList &arguments, QString *printed = nullptr);
 
 private:
+    bool launch();
+    bool waitUntilReady();
+    void end(int milliseconds);
+
     QTemporaryDir files;
-    QProcess process;
+    std::unique_ptr<QProcess> process;
     QString error;
     QByteArray collected;
     quint16 serverPort = 0;
