@@ -1,0 +1,406 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/ui/kirv_field_form.h"
+
+#include "core/ui/kirv_keyboard.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QFocusEvent>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QStyle>
+#include <QTextDocument>
+#include <QToolButton>
+
+#include <limits>
+
+namespace {
+
+// Longer texts come from servers at most; they are cut where only a caption is expected, and get a control that
+// scrolls where they are the value.
+const int LongestCaption = 200;
+const int LongestBoxCaption = 60;
+const int LongestToolTip = 1000;
+const int LongestLine = 2000;
+const int ShownLines = 4;
+
+QString shortened(const QString &text, int length)
+{
+    return text.size() <= length ? text : text.left(length - 1) + QChar(0x2026);
+}
+
+/// The field's name for people.
+QString captionOf(const KirvField &field)
+{
+    const QString label = shortened(field.getLabel(), LongestCaption + 1).simplified();
+    return shortened(label.isEmpty() ? field.getId() : label, LongestCaption);
+}
+
+/// \a caption as it stands before a control.
+QString labelTextOf(const QString &caption)
+{
+    return !caption.isEmpty() && caption.back().isPunct() ? caption : KirvFieldForm::tr("%1:").arg(caption);
+}
+
+/// A tool tip that shows \a text as it is; Qt takes what looks like markup for markup.
+QString toolTipOf(const QString &text)
+{
+    const QString plain = shortened(text, LongestToolTip);
+    return Qt::mightBeRichText(plain) || plain.size() > LongestCaption ? Qt::convertFromPlainText(plain) : plain;
+}
+
+bool fitsOneLine(const QString &text)
+{
+    static const QRegularExpression lineBreak(QStringLiteral("[\\n\\r\\x{0085}\\x{2028}\\x{2029}]"));
+    return text.size() <= LongestLine && !text.contains(lineBreak);
+}
+
+bool isWholeNumberIn(const KirvField &field)
+{
+    bool isNumber = false;
+    const int number = field.getText().toInt(&isNumber);
+    return isNumber && number >= field.getMinimum() && number <= field.getMaximum();
+}
+
+/// What is wrong with the value of \a field, as a sentence; empty when nothing is.
+QString problemOf(const KirvField &field)
+{
+    if (field.getKind() == KirvField::CheckBox || field.getKind() == KirvField::Label)
+        return QString();
+    if (field.getText().isEmpty())
+        return field.isRequired() ? KirvFieldForm::tr("This must be filled in.") : QString();
+    if (field.getKind() == KirvField::Number && !isWholeNumberIn(field))
+        return KirvFieldForm::tr("This must be a whole number from %1 to %2.")
+            .arg(field.getMinimum())
+            .arg(field.getMaximum());
+    if (field.getPattern().isEmpty())
+        return QString();
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(field.getPattern()));
+    if (pattern.isValid() && !pattern.match(field.getText()).hasMatch())
+        return KirvFieldForm::tr("This does not have the form that is asked for.");
+    return QString();
+}
+
+bool canHaveProblem(const KirvField &field)
+{
+    return field.isRequired() || !field.getPattern().isEmpty() || field.getKind() == KirvField::Number;
+}
+
+QString objectNameOf(const KirvField &field)
+{
+    return QStringLiteral("KirvField_%1").arg(field.getId());
+}
+
+/// Scrolling a form must not change what the pointer passes over.
+void takeWheelOnlyWithFocus(QWidget *control, QObject *filter)
+{
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(filter);
+}
+
+int heightOfLines(const QPlainTextEdit *edit, int lines)
+{
+    return edit->fontMetrics().lineSpacing() * lines + 2 * edit->frameWidth()
+        + 2 * int(edit->document()->documentMargin());
+}
+
+} // namespace
+
+KirvField KirvFieldForm::Row::edited() const
+{
+    KirvField result = field;
+    const QVariant now = editor.value ? editor.value() : shown;
+    if (now == shown)
+        return result;
+    if (field.getKind() == KirvField::CheckBox)
+        result.setChecked(now.toBool());
+    else
+        result.setText(now.toString());
+    return result;
+}
+
+KirvFieldForm::KirvFieldForm(const QList<KirvField> &fields, QFormLayout::RowWrapPolicy labels, QWidget *parent)
+    : QWidget(parent)
+    , layout(new QFormLayout(this))
+{
+    setObjectName(QStringLiteral("KirvFieldForm"));
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    layout->setRowWrapPolicy(labels);
+    rows.reserve(std::size_t(fields.size()));
+    for (const KirvField &field : fields)
+        addRow(field);
+    assignMnemonics();
+}
+
+QList<KirvField> KirvFieldForm::fields() const
+{
+    QList<KirvField> result;
+    for (const Row &row : rows)
+        result.append(row.edited());
+    return result;
+}
+
+void KirvFieldForm::assignMnemonics()
+{
+    QSet<QChar> taken = kirvMnemonicsAround(this);
+    for (const Caption &caption : captions)
+        caption.widget->setProperty("text", kirvWithMnemonic(caption.plain, &taken));
+}
+
+bool KirvFieldForm::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *control = qobject_cast<QWidget *>(watched);
+    if (event->type() == QEvent::Wheel && !control->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    if (event->type() == QEvent::FocusOut
+        && static_cast<QFocusEvent *>(event)->reason() != Qt::ActiveWindowFocusReason) {
+        for (const Row &row : rows) {
+            if (row.editor.widget == watched)
+                updateHint(row, true);
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void KirvFieldForm::addRow(const KirvField &field)
+{
+    const std::size_t index = rows.size();
+    rows.push_back(Row());
+    rows.back().field = field;
+    if (field.getKind() == KirvField::Label) {
+        addNote(field);
+        return;
+    }
+
+    const Editor editor = makeEditor(field, index);
+    const QString caption = captionOf(field);
+    editor.widget->setObjectName(objectNameOf(field));
+    editor.widget->setAccessibleName(caption);
+    editor.widget->setAccessibleDescription(shortened(field.getToolTip(), LongestToolTip));
+    editor.widget->setToolTip(toolTipOf(field.getToolTip()));
+    QWidget *cell = field.getKind() == KirvField::Password ? withRevealButton(editor.widget, field) : editor.widget;
+
+    if (field.getKind() == KirvField::CheckBox && caption.size() <= LongestBoxCaption) {
+        layout->addRow(QString(), cell);
+        captions.append({ cell, caption });
+    } else {
+        auto *label = new QLabel;
+        label->setObjectName(objectNameOf(field) + QStringLiteral("_Label"));
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(caption.size() > LongestBoxCaption / 2);
+        label->setToolTip(editor.widget->toolTip());
+        label->setBuddy(editor.widget);
+        layout->addRow(label, cell);
+        captions.append({ label, labelTextOf(caption) });
+    }
+
+    Row &row = rows[index];
+    row.editor = editor;
+    row.shown = editor.value();
+    if (canHaveProblem(field)) {
+        row.hint = addHint(field);
+        editor.widget->installEventFilter(this);
+        updateHint(row, false);
+    }
+}
+
+void KirvFieldForm::addNote(const KirvField &field)
+{
+    const QString caption = field.getLabel().isEmpty() ? QString() : captionOf(field);
+    const QString text = field.getText().isEmpty() ? caption : field.getText();
+    QWidget *note = nullptr;
+    if (text.size() <= LongestLine) {
+        auto *label = new QLabel(this);
+        label->setTextFormat(Qt::PlainText);
+        label->setText(text);
+        label->setWordWrap(true);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        note = label;
+    } else {
+        auto *edit = new QPlainTextEdit(text, this);
+        edit->setReadOnly(true);
+        edit->setTabChangesFocus(true);
+        edit->setAccessibleName(caption);
+        note = edit;
+    }
+    note->setObjectName(objectNameOf(field));
+    note->setToolTip(toolTipOf(field.getToolTip()));
+    if (caption.isEmpty() || field.getText().isEmpty()) {
+        layout->addRow(note);
+        return;
+    }
+    auto *label = new QLabel(labelTextOf(caption));
+    label->setObjectName(objectNameOf(field) + QStringLiteral("_Label"));
+    label->setTextFormat(Qt::PlainText);
+    layout->addRow(label, note);
+}
+
+KirvFieldForm::Editor KirvFieldForm::makeEditor(const KirvField &field, std::size_t row)
+{
+    switch (field.getKind()) {
+    case KirvField::CheckBox:
+        return makeCheckBox(field, row);
+    case KirvField::Choice:
+        return makeChoice(field, row);
+    case KirvField::Number:
+        return makeNumber(field, row);
+    case KirvField::MultiLine:
+        return makeText(field, row);
+    case KirvField::Password:
+        return makeLine(field, row);
+    default:
+        return fitsOneLine(field.getText()) ? makeLine(field, row) : makeText(field, row);
+    }
+}
+
+KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_t row)
+{
+    auto *edit = new QLineEdit(this);
+    edit->setMaxLength(qMax(edit->maxLength(), int(field.getText().size())));
+    edit->setText(field.getText());
+    edit->setCursorPosition(0);
+    if (field.getKind() == KirvField::Password)
+        edit->setEchoMode(QLineEdit::Password);
+    if (field.isRequired())
+        edit->setPlaceholderText(tr("Required"));
+    connect(edit, &QLineEdit::textChanged, this, [this, row] { updateHint(rows[row], true); });
+    return { edit, [edit] { return edit->text(); } };
+}
+
+KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_t row)
+{
+    auto *edit = new QPlainTextEdit(field.getText(), this);
+    edit->setTabChangesFocus(true);
+    edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    edit->setFixedHeight(heightOfLines(edit, ShownLines));
+    if (field.isRequired())
+        edit->setPlaceholderText(tr("Required"));
+    connect(edit, &QPlainTextEdit::textChanged, this, [this, row] { updateHint(rows[row], true); });
+    return { edit, [edit] { return edit->toPlainText(); } };
+}
+
+KirvFieldForm::Editor KirvFieldForm::makeCheckBox(const KirvField &field, std::size_t)
+{
+    auto *box = new QCheckBox(this);
+    box->setChecked(field.isChecked());
+    return { box, [box] { return box->isChecked(); } };
+}
+
+KirvFieldForm::Editor KirvFieldForm::makeChoice(const KirvField &field, std::size_t row)
+{
+    auto *box = new QComboBox(this);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
+    takeWheelOnlyWithFocus(box, this);
+
+    const QStringList values = field.getValues();
+    const QStringList displays = field.getDisplays();
+    for (int i = 0; i < values.size(); ++i) {
+        const QString display = displays.value(i).isEmpty() ? values.at(i) : displays.at(i);
+        box->addItem(shortened(display, LongestCaption), values.at(i));
+    }
+    int current = values.indexOf(field.getText());
+    if (current < 0) {
+        const QString text = field.getText();
+        box->insertItem(0, text.isEmpty() ? tr("Not chosen") : shortened(text, LongestCaption), text);
+        current = 0;
+    }
+    box->setCurrentIndex(current);
+    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this, row] { updateHint(rows[row], true); });
+    return { box, [box] { return box->currentData(); } };
+}
+
+KirvFieldForm::Editor KirvFieldForm::makeNumber(const KirvField &field, std::size_t row)
+{
+    auto *box = new QSpinBox(this);
+    takeWheelOnlyWithFocus(box, this);
+    box->setRange(field.getMinimum(), field.getMaximum());
+    if (isWholeNumberIn(field)) {
+        box->setValue(field.getText().toInt());
+    } else {
+        // The value that stands there though it must not is shown as it is, one step below the smallest number.
+        box->setMinimum(qMax(field.getMinimum(), std::numeric_limits<int>::min() + 1) - 1);
+        box->setSpecialValueText(field.getText().isEmpty() ? QStringLiteral(" ")
+                                                           : shortened(field.getText(), LongestCaption).simplified());
+        box->setValue(box->minimum());
+    }
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, row] { updateHint(rows[row], true); });
+    return { box, [box] { return box->value(); } };
+}
+
+QWidget *KirvFieldForm::withRevealButton(QWidget *line, const KirvField &field)
+{
+    auto *edit = static_cast<QLineEdit *>(line);
+    auto *button = new QToolButton;
+    button->setObjectName(objectNameOf(field) + QStringLiteral("_Reveal"));
+    button->setCheckable(true);
+    button->setAutoRaise(true);
+    const QIcon hidden =
+        QIcon::fromTheme(QStringLiteral("password-show-on"), QIcon(QStringLiteral(":/kirv/icons/password-show.svg")));
+    const QIcon revealed =
+        QIcon::fromTheme(QStringLiteral("password-show-off"), QIcon(QStringLiteral(":/kirv/icons/password-hide.svg")));
+    const auto reveal = [=](bool on) {
+        edit->setEchoMode(on ? QLineEdit::Normal : QLineEdit::Password);
+        button->setIcon(on ? revealed : hidden);
+        button->setToolTip(on ? tr("Hide the text") : tr("Show the text"));
+        button->setAccessibleName(button->toolTip());
+    };
+    connect(button, &QToolButton::toggled, edit, reveal);
+    reveal(false);
+
+    auto *cell = new QWidget(this);
+    auto *row = new QHBoxLayout(cell);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(edit);
+    row->addWidget(button);
+    return cell;
+}
+
+QLabel *KirvFieldForm::addHint(const KirvField &field)
+{
+    auto *line = new QWidget(this);
+    auto *icon = new QLabel(line);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size, size));
+    auto *hint = new QLabel(line);
+    hint->setObjectName(objectNameOf(field) + QStringLiteral("_Hint"));
+    hint->setTextFormat(Qt::PlainText);
+    hint->setWordWrap(true);
+    auto *row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(icon);
+    row->addWidget(hint, 1);
+    line->hide();
+    layout->addRow(QString(), line);
+    return hint;
+}
+
+void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)
+{
+    if (!row.hint)
+        return;
+    const KirvField field = row.edited();
+    const QString problem = field.getText().isEmpty() && !remindOfEmpty ? QString() : problemOf(field);
+    if (problem == row.hint->text())
+        return;
+    row.hint->setText(problem);
+    row.hint->parentWidget()->setVisible(!problem.isEmpty());
+    row.editor.widget->setAccessibleDescription(problem.isEmpty() ? shortened(field.getToolTip(), LongestToolTip)
+                                                                  : problem);
+    if (!problem.isEmpty() && isVisible()) {
+        QAccessibleEvent alert(row.hint, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_FIELD_FORM_H
+#define KIRV_FIELD_FORM_H
+
+#include "host/kirv_field.h"
+
+#include <QFormLayout>
+#include <QList>
+#include <QVariant>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QLabel;
+
+/// The rows of a field widget for one list of fields; a new list makes a new form.
+///
+/// The control of a field is named "KirvField_" and the field's id, its label and its hint the same with "_Label"
+/// and "_Hint" behind. All texts are shown as plain text.
+class KirvFieldForm : public QWidget {
+    Q_OBJECT
+
+public:
+    KirvFieldForm(const QList<KirvField> &fields, QFormLayout::RowWrapPolicy labels, QWidget *parent);
+
+    /// What stands in the controls, valid or not. A field that was not edited comes back as it was given, also
+    /// when its control could not show its value exactly.
+    QList<KirvField> fields() const;
+
+    /// Gives the captions mnemonics that do not clash in the window that the form is in by now.
+    void assignMnemonics();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    /// What edits a field. \a value is what stands in it: text, or for a check box whether it is ticked.
+    struct Editor {
+        QWidget *widget = nullptr;
+        std::function<QVariant()> value;
+    };
+    struct Row {
+        KirvField field;
+        Editor editor;
+        QVariant shown;
+        QLabel *hint = nullptr;
+
+        KirvField edited() const;
+    };
+    struct Caption {
+        QWidget *widget;
+        QString plain;
+    };
+
+    void addRow(const KirvField &field);
+    void addNote(const KirvField &field);
+    Editor makeEditor(const KirvField &field, std::size_t row);
+    Editor makeLine(const KirvField &field, std::size_t row);
+    Editor makeText(const KirvField &field, std::size_t row);
+    Editor makeCheckBox(const KirvField &field, std::size_t row);
+    Editor makeChoice(const KirvField &field, std::size_t row);
+    Editor makeNumber(const KirvField &field, std::size_t row);
+    QWidget *withRevealButton(QWidget *line, const KirvField &field);
+    QLabel *addHint(const KirvField &field);
+    void updateHint(const Row &row, bool remindOfEmpty);
+
+    QFormLayout *layout;
+    std::vector<Row> rows;
+    QList<Caption> captions;
+};
+
+#endif

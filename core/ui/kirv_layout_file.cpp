@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/ui/kirv_layout_file.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+#include <QUiLoader>
+#include <QWidget>
+#include <QXmlStreamReader>
+
+namespace {
+
+// The built-in layouts take some 20 kB and nest about 20 elements deep. The form builder recurses once per
+// nested element, so that a file nested without bounds would exhaust the stack.
+const qint64 MaximumSize = 1024 * 1024;
+const int MaximumDepth = 200;
+
+/// Remembers what it could not make; the base class only prints a warning and leaves a gap or a base class.
+class Loader : public QUiLoader {
+public:
+    explicit Loader(QObject *parent)
+        : QUiLoader(parent)
+    {
+    }
+
+    QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
+    {
+        if (!availableWidgets().contains(className))
+            unknownClasses.append(className);
+        return QUiLoader::createWidget(className, parent, name);
+    }
+
+    QLayout *createLayout(const QString &className, QObject *parent, const QString &name) override
+    {
+        if (!availableLayouts().contains(className))
+            unknownClasses.append(className);
+        return QUiLoader::createLayout(className, parent, name);
+    }
+
+    QStringList unknownClasses;
+};
+
+/// Made once and on first use, because that takes longer than to build a window.
+Loader &sharedLoader()
+{
+    static QPointer<Loader> loader;
+    if (!loader)
+        loader = new Loader(qApp);
+    return *loader;
+}
+
+} // namespace
+
+KirvLayoutFile::KirvLayoutFile(const QString &path)
+    : path(path)
+{
+}
+
+std::unique_ptr<QWidget> KirvLayoutFile::build()
+{
+    QByteArray xml = read();
+    if (failure.isEmpty())
+        failure = findFault(xml);
+    if (!failure.isEmpty())
+        return nullptr;
+
+    Loader &loader = sharedLoader();
+    loader.unknownClasses.clear();
+    loader.setWorkingDirectory(QFileInfo(path).absoluteDir());
+    QBuffer buffer(&xml);
+    buffer.open(QIODevice::ReadOnly);
+    std::unique_ptr<QWidget> top(loader.load(&buffer));
+    if (!loader.unknownClasses.isEmpty())
+        failure = tr("It asks for a widget of the unknown class %1.").arg(loader.unknownClasses.first());
+    else if (!top)
+        failure = tr("It is not a window layout: %1").arg(loader.errorString());
+    return failure.isEmpty() ? std::move(top) : nullptr;
+}
+
+QByteArray KirvLayoutFile::read()
+{
+    if (!QFileInfo(path).isFile()) {
+        failure = tr("It is not an ordinary file.");
+        return QByteArray();
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        failure = tr("It cannot be read: %1").arg(file.errorString());
+        return QByteArray();
+    }
+    const QByteArray xml = file.read(MaximumSize + 1);
+    if (xml.isEmpty())
+        failure = tr("It is empty.");
+    else if (xml.size() > MaximumSize)
+        failure = tr("It is larger than %1 kB.").arg(MaximumSize / 1024);
+    return xml;
+}
+
+QString KirvLayoutFile::findFault(const QByteArray &xml) const
+{
+    QXmlStreamReader reader(xml);
+    int depth = 0;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isEndElement())
+            --depth;
+        if (!reader.isStartElement())
+            continue;
+        if (++depth == 1 && reader.name() != QLatin1String("ui"))
+            return tr("It is not a window layout of Qt Designer.");
+        if (depth > MaximumDepth)
+            return tr("Its elements are nested too deeply.");
+    }
+    if (reader.hasError())
+        return tr("Line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
+    return QString();
+}
