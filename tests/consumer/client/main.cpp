@@ -42,8 +42,8 @@ int main(int argc, char **argv)
     good &= check(selector->count() == 1, "the enabled one is offered as main account");
 
     list->topLevelItem(1)->setCheckState(0, Qt::Checked);
-    good &= check(host.account(QStringLiteral("ben"), QStringLiteral("Memory"))->enabled,
-                  "ticking a row reaches the core");
+    good &=
+        check(host.account(QStringLiteral("ben"), QStringLiteral("Memory"))->enabled, "ticking a row reaches the core");
     good &= check(selector->count() == 2, "and both are offered then");
 
     page->editAccount(host.account(QStringLiteral("ann"), QStringLiteral("Memory")));

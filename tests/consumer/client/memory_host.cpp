@@ -271,7 +271,8 @@ QList<KirvPresence> KirvProtocol::getAllPresences() const
 
 QList<KirvField> KirvProtocol::getAccountSettings() const
 {
-    return { KirvField::textEdit(QStringLiteral("Colour"), QStringLiteral("colour"), QStringLiteral("blue"), QString()) };
+    return { KirvField::textEdit(QStringLiteral("Colour"), QStringLiteral("colour"), QStringLiteral("blue"),
+                                 QString()) };
 }
 
 QList<KirvField> KirvProtocol::getPubdirAccountFields() const
