@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QObject>
+#include <memory>
 
 class KirvAccountRegistry;
 class KirvConnection;
@@ -54,8 +55,8 @@ private:
     friend class KirvAccountManager;
     friend class KirvAccountRegistry;
     class Private;
-    explicit KirvAccount(Private *d);
-    Private *d;
+    explicit KirvAccount(std::unique_ptr<Private> priv, QObject *parent = nullptr);
+    const std::unique_ptr<Private> d;
 };
 
 #endif

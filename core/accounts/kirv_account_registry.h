@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QObject>
+#include <memory>
 
 class KirvAccount;
 class KirvProtocolBase;
@@ -43,6 +44,8 @@ public:
 
     /// Why the last createAccount() gave null or the last write failed, for the user; empty when all is well.
     QString lastError() const;
+    /// Tells the user why the store refused what it was asked last.
+    void reportStoreProblem();
 
 Q_SIGNALS:
     void accountAdded(KirvAccount *account);
@@ -60,9 +63,12 @@ Q_SIGNALS:
 
 private:
     friend class KirvAccountManager;
+    friend class KirvAccountConnection;
     friend class KirvAccount;
+    void reportProblem();
+
     class Private;
-    Private *d;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include "host/kirv_settings_manager.h"
 
 #include <QString>
+#include <memory>
 
 class KirvStore;
 
@@ -27,7 +28,7 @@ public:
 private:
     Q_DISABLE_COPY(KirvSettingsRegistry)
     class Private;
-    Private *d;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

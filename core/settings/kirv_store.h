@@ -8,12 +8,13 @@
 #include <QList>
 #include <QMap>
 #include <QString>
-#include <QVariant>
+#include <memory>
 
 /// The profile on disk: accounts and settings in one SQLite database, avatars in a folder beside it.
 ///
 /// The folder is readable by its owner only (0700, the files 0600). Every write is committed, in WAL mode with
 /// full synchronisation, before the operation returns; between begin() and commit() the outermost commit does.
+/// A password that is overwritten or removed leaves no trace in the files.
 /// No operation throws; false or an empty result with lastError() says that something failed.
 class KirvStore {
 public:
@@ -32,6 +33,9 @@ public:
         QString lastDescription;
         QString avatar; ///< file name inside avatarFolder(); empty: none
         QMap<QString, QString> settings; ///< protocol settings by field id; "true" and "false" for check boxes
+
+        /// Whether both say the same, as far as it is stored.
+        bool isStoredLike(const Account &other) const;
     };
 
     KirvStore();
@@ -44,6 +48,11 @@ public:
     bool isOpen() const;
     QString folder() const;
     QString avatarFolder() const;
+    /// Copies the image at \a path into the avatar folder and gives the name of the copy, for Account::avatar.
+    /// Empty when it is no image, is too large or cannot be read.
+    QString importAvatar(const QString &path);
+    /// Takes back an imported avatar that no account has got.
+    void discardAvatar(const QString &name);
     /// A sentence for the user; empty when the last operation worked.
     QString lastError() const;
     /// Whether another running instance holds the profile (after open() gave false).
@@ -54,10 +63,12 @@ public:
     bool updateAccount(const Account &account);
     bool removeAccount(const KirvAccountKey &key); ///< with its settings; the avatar file goes too
 
-    /// Client-wide settings; an invalid variant when the key is not set.
+    /// Client-wide settings; \a fallback when the key is not set.
     QString readSetting(const QString &key, const QString &fallback = QString());
     bool writeSetting(const QString &key, const QString &value);
 
+    /// A change that fails between begin() and commit() undoes all of them: the outermost commit() then gives
+    /// false. rollBack() ends one level like commit() does, and makes the outermost one undo everything.
     bool begin();
     bool commit();
     void rollBack();
@@ -67,7 +78,7 @@ public:
 private:
     Q_DISABLE_COPY(KirvStore)
     class Private;
-    Private *d;
+    const std::unique_ptr<Private> d;
 };
 
 #endif

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_DATABASE_H
+#define KIRV_DATABASE_H
+
+#include <QCoreApplication>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariantList>
+#include <map>
+
+/// One SQLite file: prepared statements, nested transactions and errors as sentences. Private to the store.
+///
+/// Once a statement fails inside a transaction, the transaction takes no more and is undone as a whole.
+class KirvDatabase {
+    Q_DECLARE_TR_FUNCTIONS(KirvDatabase)
+
+public:
+    enum Access { ReadOnly, ReadWrite };
+
+    KirvDatabase();
+    ~KirvDatabase();
+
+    bool open(const QString &file, Access access);
+    void close();
+    bool isOpen() const { return connection.isOpen(); }
+
+    /// Runs \a sql with \a values for its place-holders; null when that failed. Belongs to the database and
+    /// is good until the same statement is run again; finish() it when not all rows were read.
+    QSqlQuery *run(const QString &sql, const QVariantList &values = QVariantList());
+    /// The first column of the first row of the result of \a sql; invalid when there is none.
+    QVariant valueOf(const QString &sql, const QVariantList &values = QVariantList());
+
+    bool begin();
+    bool commit();
+    void rollBack();
+    bool isInTransaction() const { return depth > 0; }
+    int commitCount() const { return commits; }
+
+    QString errorText() const { return error; }
+    /// Makes \a text the error; inside a transaction this undoes it, too.
+    void fail(const QString &text);
+    /// Forgets the error of the operation before, unless it belongs to the running transaction.
+    void clearError();
+
+private:
+    Q_DISABLE_COPY(KirvDatabase)
+    QString sentence(const QSqlError &failure) const;
+    bool execute(const char *sql);
+
+    const QString name;
+    QString file;
+    QSqlDatabase connection;
+    std::map<QString, QSqlQuery> statements;
+    QString error;
+    int depth = 0;
+    bool doomed = false;
+    int commits = 0;
+};
+
+#endif
