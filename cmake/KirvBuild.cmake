@@ -39,13 +39,19 @@ if(KIRV_SANITIZE)
     target_link_options(kirv_build_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# kirv_add_protocol(NAME SOURCES...): a protocol plug-in, loaded at run time.
+# kirv_add_protocol(NAME [OUTPUT folder] SOURCES...): a protocol plug-in, loaded at run time. One with a folder of
+# its own stays out of the client: it is neither loaded from the protocols' folder nor installed.
 function(kirv_add_protocol name)
-    add_library(${name} MODULE ${ARGN})
+    cmake_parse_arguments(arg "" "OUTPUT" "" ${ARGN})
+    add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS})
     target_link_libraries(${name} PRIVATE kirv_build_options kirv_core)
     set_target_properties(${name} PROPERTIES
         PREFIX "" CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
         LIBRARY_OUTPUT_DIRECTORY "${KIRV_PROTOCOL_OUTPUT_DIRECTORY}"
         INSTALL_RPATH "$ORIGIN/../..")
+    if(arg_OUTPUT)
+        set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${arg_OUTPUT}")
+        return()
+    endif()
     install(TARGETS ${name} LIBRARY DESTINATION "${KIRV_PROTOCOL_INSTALL_DIRECTORY}")
 endfunction()
