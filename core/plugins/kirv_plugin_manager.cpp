@@ -23,8 +23,11 @@ KirvProtocol *KirvPluginManager::getProtocolByName(const QString &name)
 
 void KirvPluginManagerPrivate::emitCoreSignal(const QString &name, QList<KirvArg> args)
 {
+    const auto *registry = static_cast<KirvPluginRegistry *>(this);
+    if (!registry->passesFilter(name, args))
+        return;
     QList<QPointer<KirvProtocolBase>> receivers;
-    for (KirvProtocolBase *protocol : static_cast<KirvPluginRegistry *>(this)->protocols())
+    for (KirvProtocolBase *protocol : registry->protocols())
         receivers.append(protocol);
     for (const QPointer<KirvProtocolBase> &receiver : receivers) {
         if (receiver) // a receiver before it may have unloaded it

@@ -40,6 +40,7 @@ public:
     QList<KirvPluginInfo> plugins;
     std::vector<Loaded> loaded; ///< in the order of loading
     QHash<QString, KirvProtocolBase *> protocolsByName;
+    CoreSignalFilter coreSignalFilter;
 };
 
 namespace {
@@ -246,4 +247,14 @@ bool KirvPluginRegistry::addProtocol(KirvProtocolBase *protocol)
     d->add(owned.release(), QString());
     Q_EMIT protocolLoaded(protocol);
     return true;
+}
+
+void KirvPluginRegistry::setCoreSignalFilter(CoreSignalFilter filter)
+{
+    d->coreSignalFilter = std::move(filter);
+}
+
+bool KirvPluginRegistry::passesFilter(const QString &name, const QList<KirvArg> &args) const
+{
+    return !d->coreSignalFilter || d->coreSignalFilter(name, args);
 }

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <memory>
 
 class KirvProtocolBase;
@@ -51,6 +52,11 @@ public:
     /// Registers a protocol that comes with the program instead of a file; takes ownership. False when it has no
     /// name or presence, or one of that name is there already (it is deleted then).
     bool addProtocol(KirvProtocolBase *protocol);
+
+    /// Is asked about every core signal before the protocols see it; they do not when it says false. Null: none.
+    using CoreSignalFilter = std::function<bool(const QString &name, const QList<KirvArg> &args)>;
+    void setCoreSignalFilter(CoreSignalFilter filter);
+    bool passesFilter(const QString &name, const QList<KirvArg> &args) const;
 
 Q_SIGNALS:
     void protocolLoaded(KirvProtocolBase *protocol);
