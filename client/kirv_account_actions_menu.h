@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_ACTIONS_MENU_H
+#define KIRV_ACCOUNT_ACTIONS_MENU_H
+
+#include "core/accounts/kirv_account_key.h"
+
+#include <QMenu>
+
+class KirvAccountRegistry;
+
+/// The commands that a protocol offers for one account beyond the ordinary ones, asked for each time the menu
+/// opens.
+class KirvAccountActionsMenu : public QMenu {
+    Q_OBJECT
+
+public:
+    /// \a accounts is not owned and outlives the menu. \a window is the parent for what a command asks.
+    KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountRegistry &accounts, QWidget *window, QWidget *parent);
+
+    /// Whether the protocol has any command for the account.
+    static bool isUseful(const KirvAccountKey &key, const KirvAccountRegistry &accounts);
+
+private:
+    void fill();
+    void run(const QString &actionId);
+
+    const KirvAccountKey key;
+    KirvAccountRegistry &accounts;
+    QWidget *window;
+};
+
+#endif

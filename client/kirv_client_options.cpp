@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_client_options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("KirvClientOptions", text);
+}
+
+/// The plug-ins beside the program come first, so that a build that is not installed uses its own.
+QString ownPluginFolder()
+{
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QStringList candidates { program.filePath(QStringLiteral("../lib/kirv/protocols")),
+                                   program.filePath(QStringLiteral("../" KIRV_PROTOCOL_INSTALL_DIRECTORY)) };
+    for (const QString &candidate : candidates) {
+        if (QFileInfo(candidate).isDir())
+            return QDir::cleanPath(candidate);
+    }
+    return QDir::cleanPath(candidates.last());
+}
+} // namespace
+
+KirvClientOptions KirvClientOptions::defaults()
+{
+    KirvClientOptions options;
+    options.profileFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    options.pluginFolder = ownPluginFolder();
+    return options;
+}
+
+KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &arguments)
+{
+    const QCommandLineOption profile(QStringLiteral("profile"),
+                                     tr("Keep accounts and settings in <folder> instead of the person's own profile."),
+                                     tr("folder"));
+    const QCommandLineOption plugins(QStringLiteral("plugins"), tr("Load the protocol plug-ins of <folder>."),
+                                     tr("folder"));
+    const QCommandLineOption demo(
+        QStringLiteral("demo"),
+        tr("Try it without an account: a throw-away profile and private servers on this computer."));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Accounts of several instant-messaging protocols in one place."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({ profile, plugins, demo });
+    parser.process(arguments);
+
+    KirvClientOptions options = defaults();
+    options.demo = parser.isSet(demo);
+    if (parser.isSet(profile))
+        options.profileFolder = QDir::current().absoluteFilePath(parser.value(profile));
+    if (parser.isSet(plugins))
+        options.pluginFolder = QDir::current().absoluteFilePath(parser.value(plugins));
+    return options;
+}

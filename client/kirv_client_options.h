@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_CLIENT_OPTIONS_H
+#define KIRV_CLIENT_OPTIONS_H
+
+#include <QString>
+#include <QStringList>
+
+/// What the client is told when it is started.
+struct KirvClientOptions {
+    QString profileFolder;
+    QString pluginFolder;
+    bool demo = false;
+
+    /// The person's own profile and the plug-ins that came with the program.
+    static KirvClientOptions defaults();
+    /// The options that \a arguments, the program's name first, ask for. Prints and ends the program for
+    /// --help, --version and what it does not understand.
+    static KirvClientOptions fromCommandLine(const QStringList &arguments);
+};
+
+#endif

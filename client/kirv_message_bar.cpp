@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_message_bar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+const int mostMessages = 3;
+}
+
+KirvMessageBar::KirvMessageBar(QWidget *parent)
+    : QFrame(parent)
+    , rows(new QVBoxLayout(this))
+{
+    setObjectName(QStringLiteral("MessageBar"));
+    setAccessibleName(tr("Messages"));
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    hide();
+}
+
+void KirvMessageBar::showMessage(const QString &text)
+{
+    if (text.isEmpty() || texts.contains(text))
+        return;
+    if (texts.size() == mostMessages)
+        removeRow(0);
+    texts << text;
+    rows->addWidget(createRow(text));
+    show();
+}
+
+QWidget *KirvMessageBar::createRow(const QString &text)
+{
+    auto *row = new QWidget(this);
+    row->setObjectName(QStringLiteral("MessageBar_Row"));
+
+    auto *icon = new QLabel(row);
+    icon->setObjectName(QStringLiteral("MessageBar_Icon"));
+    icon->setAccessibleName(tr("Problem"));
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size, size));
+
+    auto *label = new QLabel(row);
+    label->setObjectName(QStringLiteral("MessageBar_Text"));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setWordWrap(true);
+    label->setText(text);
+    label->setForegroundRole(foregroundRole());
+
+    auto *close = new QToolButton(row);
+    close->setObjectName(QStringLiteral("MessageBar_Close"));
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, this));
+    close->setAutoRaise(true);
+    close->setToolTip(tr("Close this message."));
+    close->setAccessibleName(tr("Close This Message"));
+    connect(close, &QToolButton::clicked, this, [this, row] { removeRow(rows->indexOf(row)); });
+
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(icon, 0, Qt::AlignTop);
+    layout->addWidget(label, 1);
+    layout->addWidget(close, 0, Qt::AlignTop);
+    return row;
+}
+
+void KirvMessageBar::removeRow(int index)
+{
+    texts.removeAt(index);
+    QWidget *row = rows->itemAt(index)->widget();
+    rows->removeWidget(row);
+    row->hide();
+    row->deleteLater(); // its own button may have asked for it
+    setVisible(!texts.isEmpty());
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_MESSAGE_BAR_H
+#define KIRV_MESSAGE_BAR_H
+
+#include <QFrame>
+#include <QString>
+#include <QStringList>
+
+class QVBoxLayout;
+
+/// Problems told inside the window, above its pages, without stopping the user: one paragraph of plain text
+/// each, with a button that takes it away. Hidden while there is none.
+class KirvMessageBar : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit KirvMessageBar(QWidget *parent = nullptr);
+
+    /// Shows \a text, which is not interpreted. The same text is not shown twice; of many, the latest stay.
+    void showMessage(const QString &text);
+    /// The texts shown now, oldest first.
+    QStringList messages() const { return texts; }
+
+private:
+    QWidget *createRow(const QString &text);
+    void removeRow(int index);
+
+    QVBoxLayout *rows; ///< one row per text, in the same order
+    QStringList texts;
+};
+
+#endif

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_PASSWORD_DIALOG_H
+#define KIRV_PASSWORD_DIALOG_H
+
+#include "core/accounts/kirv_account_key.h"
+
+#include <QDialog>
+
+class KirvAccount;
+class QCheckBox;
+class QLineEdit;
+
+/// Asks for the password of one account.
+class KirvPasswordDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    KirvPasswordDialog(const KirvAccount &account, QWidget *parent);
+
+    KirvAccountKey key() const { return accountKey; }
+    QString password() const;
+    bool isToBeRemembered() const;
+
+private:
+    const KirvAccountKey accountKey;
+    QLineEdit *passwordEdit;
+    QCheckBox *rememberBox;
+};
+
+#endif

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_password_questions.h"
+
+#include "client/kirv_password_dialog.h"
+#include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_registry.h"
+
+#include <algorithm>
+
+KirvPasswordQuestions::KirvPasswordQuestions(KirvAccountRegistry &accounts, QWidget *window)
+    : QObject(window)
+    , accounts(accounts)
+    , window(window)
+{
+    connect(&accounts, &KirvAccountRegistry::passwordNeeded, this, &KirvPasswordQuestions::ask);
+    connect(&accounts, &KirvAccountRegistry::accountAboutToBeRemoved, this,
+            [this](const KirvAccount *account) { withdraw(account->key()); });
+}
+
+void KirvPasswordQuestions::ask(const KirvAccount *account)
+{
+    const bool isAskedNow = dialog && dialog->key() == account->key();
+    if (isAskedNow || waiting.contains(account->key()))
+        return;
+    waiting << account->key();
+    askNext();
+}
+
+void KirvPasswordQuestions::withdrawProtocol(const QString &protocol)
+{
+    const auto isOfProtocol = [&protocol](const KirvAccountKey &key) { return key.protocol == protocol; };
+    waiting.erase(std::remove_if(waiting.begin(), waiting.end(), isOfProtocol), waiting.end());
+    if (dialog && isOfProtocol(dialog->key()))
+        dialog->reject();
+}
+
+void KirvPasswordQuestions::withdraw(const KirvAccountKey &key)
+{
+    waiting.removeAll(key);
+    if (dialog && dialog->key() == key)
+        dialog->reject();
+}
+
+void KirvPasswordQuestions::askNext()
+{
+    while (!dialog && !waiting.isEmpty()) {
+        const KirvAccount *account = accounts.find(waiting.takeFirst());
+        if (!account)
+            continue;
+        dialog = new KirvPasswordDialog(*account, window);
+        connect(dialog, &QDialog::finished, this, &KirvPasswordQuestions::answered);
+        dialog->open();
+    }
+}
+
+void KirvPasswordQuestions::answered(int result)
+{
+    KirvPasswordDialog *finished = dialog;
+    dialog = nullptr;
+    finished->deleteLater();
+    KirvAccount *account = accounts.find(finished->key());
+    if (result == QDialog::Accepted && account)
+        account->providePassword(finished->password(), finished->isToBeRemembered());
+    askNext();
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_PASSWORD_QUESTIONS_H
+#define KIRV_PASSWORD_QUESTIONS_H
+
+#include "core/accounts/kirv_account_key.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class KirvAccount;
+class KirvAccountRegistry;
+class KirvPasswordDialog;
+class QWidget;
+
+/// Asks for passwords, one account after the other, without stopping the rest of the program. A question goes
+/// when its account does.
+class KirvPasswordQuestions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Asks whenever \a accounts, which outlives the questions, needs a password. \a window is the parent of
+    /// the dialogs and owns the questions.
+    KirvPasswordQuestions(KirvAccountRegistry &accounts, QWidget *window);
+
+    /// Asks for the password of \a account, after the questions asked before; once at a time.
+    void ask(const KirvAccount *account);
+    /// Takes back the questions about the accounts of \a protocol.
+    void withdrawProtocol(const QString &protocol);
+
+private:
+    void withdraw(const KirvAccountKey &key);
+    void askNext();
+    void answered(int result);
+
+    KirvAccountRegistry &accounts;
+    QWidget *window;
+    QList<KirvAccountKey> waiting;
+    QPointer<KirvPasswordDialog> dialog; ///< null while nothing is asked
+};
+
+#endif

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_PLAIN_TEXT_H
+#define KIRV_PLAIN_TEXT_H
+
+#include <QString>
+
+/// A tool tip that shows \a text as it stands: Qt takes tool tips for markup when they look like it.
+inline QString kirvPlainToolTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped());
+}
+
+/// The text of a command or a button that holds \a text: an ampersand is shown and makes no mnemonic.
+inline QString kirvPlainCommand(const QString &text)
+{
+    return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+#endif

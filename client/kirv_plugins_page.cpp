@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_plugins_page.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+KirvPluginsPage::KirvPluginsPage(KirvPluginRegistry &plugins, const QString &folder, QWidget *parent)
+    : QWidget(parent)
+    , plugins(plugins)
+    , list(new QTreeWidget(this))
+    , details(new QLabel(this))
+    , loadButton(new QPushButton(tr("&Load"), this))
+    , unloadButton(new QPushButton(tr("&Unload"), this))
+{
+    setObjectName(QStringLiteral("Plugins"));
+
+    list->setObjectName(QStringLiteral("Plugins_List"));
+    list->setAccessibleName(tr("Plug-ins"));
+    list->setHeaderLabels({ tr("Plug-in"), tr("State"), tr("File") });
+    list->setRootIsDecorated(false);
+    list->setUniformRowHeights(true);
+    list->setAllColumnsShowFocus(true);
+    list->setAlternatingRowColors(true);
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+
+    details->setObjectName(QStringLiteral("Plugins_Details"));
+    details->setAccessibleName(tr("About the plug-in"));
+    details->setTextFormat(Qt::PlainText);
+    details->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    details->setWordWrap(true);
+
+    loadButton->setObjectName(QStringLiteral("Plugins_LoadButton"));
+    loadButton->setToolTip(tr("Loads the plug-in; its accounts come back as they were."));
+    unloadButton->setObjectName(QStringLiteral("Plugins_UnloadButton"));
+    unloadButton->setToolTip(tr("Logs the accounts of the plug-in out. They stay in your profile."));
+
+    auto *place = new QLabel(this);
+    place->setObjectName(QStringLiteral("Plugins_Folder"));
+    place->setTextFormat(Qt::PlainText);
+    place->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    place->setWordWrap(true);
+    //: %1 = path of a folder
+    place->setText(tr("Plug-ins are looked for in the folder %1.").arg(QDir::toNativeSeparators(folder)));
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(loadButton);
+    buttons->addWidget(unloadButton);
+    buttons->addStretch();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(list, 1);
+    layout->addWidget(details);
+    layout->addLayout(buttons);
+    layout->addWidget(place);
+
+    connect(list, &QTreeWidget::currentItemChanged, this, &KirvPluginsPage::updateDetails);
+    connect(loadButton, &QPushButton::clicked, this, &KirvPluginsPage::loadCurrent);
+    connect(unloadButton, &QPushButton::clicked, this, &KirvPluginsPage::unloadCurrent);
+    connect(&plugins, &KirvPluginRegistry::pluginsChanged, this, &KirvPluginsPage::refresh);
+    refresh();
+}
+
+QString KirvPluginsPage::stateText(const KirvPluginInfo &plugin)
+{
+    if (plugin.loaded)
+        return tr("Loaded");
+    return plugin.error.isEmpty() ? tr("Not loaded") : tr("Failed");
+}
+
+void KirvPluginsPage::refresh()
+{
+    const QString selected = current() ? current()->fileName : QString();
+    list->clear();
+    shown = plugins.plugins();
+    for (const KirvPluginInfo &plugin : qAsConst(shown)) {
+        auto *row =
+            new QTreeWidgetItem(list, { plugin.name, stateText(plugin), QFileInfo(plugin.fileName).fileName() });
+        if (plugin.fileName == selected)
+            list->setCurrentItem(row);
+    }
+    if (!list->currentItem())
+        list->setCurrentItem(list->topLevelItem(0));
+    updateDetails();
+}
+
+void KirvPluginsPage::updateDetails()
+{
+    const KirvPluginInfo *plugin = current();
+    details->setText(!plugin                       ? tr("There are no plug-ins.")
+                         : plugin->error.isEmpty() ? plugin->description
+                                                   : plugin->error);
+    loadButton->setEnabled(plugin && !plugin->loaded && plugin->loadable);
+    unloadButton->setEnabled(plugin && plugin->loaded);
+}
+
+void KirvPluginsPage::loadCurrent()
+{
+    if (const KirvPluginInfo *plugin = current())
+        plugins.load(QString(plugin->fileName)); // a copy: the list is read anew meanwhile
+}
+
+void KirvPluginsPage::unloadCurrent()
+{
+    if (const KirvPluginInfo *plugin = current())
+        plugins.unload(QString(plugin->fileName));
+}
+
+const KirvPluginInfo *KirvPluginsPage::current() const
+{
+    const int row = list->indexOfTopLevelItem(list->currentItem());
+    return row >= 0 && row < shown.size() ? &shown.at(row) : nullptr;
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_PLUGINS_PAGE_H
+#define KIRV_PLUGINS_PAGE_H
+
+#include "core/plugins/kirv_plugin_registry.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+
+/// The page of the plug-ins: which are loaded, which are not and why; loads and unloads them.
+class KirvPluginsPage : public QWidget {
+    Q_OBJECT
+
+public:
+    /// \a plugins is not owned and outlives the page. \a folder is where they were looked for.
+    KirvPluginsPage(KirvPluginRegistry &plugins, const QString &folder, QWidget *parent = nullptr);
+
+    /// The state of a plug-in in words.
+    static QString stateText(const KirvPluginInfo &plugin);
+
+private:
+    void refresh();
+    void updateDetails();
+    void loadCurrent();
+    void unloadCurrent();
+    /// Null when no row is current.
+    const KirvPluginInfo *current() const;
+
+    KirvPluginRegistry &plugins;
+    QList<KirvPluginInfo> shown; ///< one per row of the list, in the same order
+    QTreeWidget *list;
+    QLabel *details;
+    QPushButton *loadButton;
+    QPushButton *unloadButton;
+};
+
+#endif

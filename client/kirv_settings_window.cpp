@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_settings_window.h"
+
+#include "client/kirv_message_bar.h"
+#include "core/settings/kirv_settings_registry.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QStyle>
+
+namespace {
+const QLatin1String geometryKey("settings_window/geometry");
+}
+
+KirvSettingsWindow::KirvSettingsWindow(KirvSettingsRegistry &settings, QWidget *parent)
+    : QWidget(parent)
+    , settings(settings)
+    , banner(new QLabel(this))
+    , messages(new KirvMessageBar(this))
+    , list(new QListWidget(this))
+    , pages(new QStackedWidget(this))
+{
+    setObjectName(QStringLiteral("Settings"));
+    setMainAccount(QString());
+
+    banner->setObjectName(QStringLiteral("Settings_Banner"));
+    banner->setTextFormat(Qt::PlainText);
+    banner->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    banner->setWordWrap(true);
+    banner->setFrameShape(QFrame::StyledPanel);
+    banner->setAutoFillBackground(true);
+    banner->setBackgroundRole(QPalette::AlternateBase);
+    banner->setForegroundRole(QPalette::Text);
+    banner->setMargin(style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this));
+    banner->hide();
+
+    list->setObjectName(QStringLiteral("Settings_Pages"));
+    list->setAccessibleName(tr("Pages"));
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int iconSize = style()->pixelMetric(QStyle::PM_LargeIconSize, nullptr, this) * 3 / 4;
+    list->setIconSize(QSize(iconSize, iconSize));
+    connect(list, &QListWidget::currentRowChanged, pages, &QStackedWidget::setCurrentIndex);
+
+    pages->setObjectName(QStringLiteral("Settings_Stack"));
+
+    auto *quit = new QAction(tr("Quit"), this);
+    quit->setObjectName(QStringLiteral("Settings_Quit"));
+    quit->setShortcuts({ QKeySequence::Quit, QKeySequence::Close });
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    addAction(quit);
+
+    auto *layout = new QGridLayout(this);
+    layout->addWidget(banner, 0, 0, 1, 2);
+    layout->addWidget(messages, 1, 0, 1, 2);
+    layout->addWidget(list, 2, 0);
+    layout->addWidget(pages, 2, 1);
+    layout->setRowStretch(2, 1);
+    layout->setColumnStretch(1, 1);
+    restoreSize();
+}
+
+KirvSettingsWindow::~KirvSettingsWindow()
+{
+    const QString geometry = QString::fromLatin1(saveGeometry().toBase64());
+    if (settings.value(geometryKey) != geometry)
+        settings.setValue(geometryKey, geometry);
+}
+
+void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIcon &icon)
+{
+    pages->addWidget(page);
+    list->addItem(new QListWidgetItem(icon, title));
+    fitListToContents();
+    if (list->currentRow() < 0)
+        list->setCurrentRow(0);
+}
+
+void KirvSettingsWindow::showPage(QWidget *page)
+{
+    list->setCurrentRow(pages->indexOf(page));
+}
+
+void KirvSettingsWindow::setMainAccount(const QString &name)
+{
+    //: window title; %1 = name of the main account
+    setWindowTitle(name.isEmpty() ? tr("Kirv – Settings") : tr("Kirv – Settings – %1").arg(name.simplified()));
+}
+
+void KirvSettingsWindow::setBanner(const QString &text)
+{
+    banner->setText(text);
+    banner->setVisible(!text.isEmpty());
+}
+
+void KirvSettingsWindow::restoreSize()
+{
+    const QByteArray geometry = QByteArray::fromBase64(settings.value(geometryKey).toLatin1());
+    if (geometry.isEmpty() || !restoreGeometry(geometry)) {
+        const QFontMetrics metrics = fontMetrics();
+        resize(110 * metrics.averageCharWidth(), 32 * metrics.lineSpacing());
+    }
+}
+
+void KirvSettingsWindow::fitListToContents()
+{
+    list->setFixedWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() + 2 * fontMetrics().averageCharWidth());
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_SETTINGS_WINDOW_H
+#define KIRV_SETTINGS_WINDOW_H
+
+#include <QWidget>
+
+class KirvMessageBar;
+class KirvSettingsRegistry;
+class QLabel;
+class QListWidget;
+class QStackedWidget;
+
+/// The settings window: a list of pages, the chosen page beside it, and above it what the user should know.
+class KirvSettingsWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The window remembers its size in \a settings, which is not owned and outlives the window.
+    explicit KirvSettingsWindow(KirvSettingsRegistry &settings, QWidget *parent = nullptr);
+    ~KirvSettingsWindow() override;
+
+    /// Adds \a page, which the window then owns; \a title is its name in the list.
+    void addPage(QWidget *page, const QString &title, const QIcon &icon);
+    void showPage(QWidget *page);
+
+    /// Shows the name of the main account in the title; empty: there is none.
+    void setMainAccount(const QString &name);
+    /// Shows \a text above the pages as long as the window lives; empty: nothing. Plain text.
+    void setBanner(const QString &text);
+
+    KirvMessageBar *messageBar() const { return messages; }
+
+private:
+    void restoreSize();
+    void fitListToContents();
+
+    KirvSettingsRegistry &settings;
+    QLabel *banner;
+    KirvMessageBar *messages;
+    QListWidget *list;
+    QStackedWidget *pages;
+};
+
+#endif
