@@ -20,6 +20,7 @@ endif()
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_INSTALL_RPATH "$ORIGIN") # installed libraries find each other; programs say it differently
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
 set(KIRV_PROTOCOL_INSTALL_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv/protocols")
 
@@ -54,4 +55,5 @@ function(kirv_add_protocol name)
         return()
     endif()
     install(TARGETS ${name} LIBRARY DESTINATION "${KIRV_PROTOCOL_INSTALL_DIRECTORY}")
+    set_property(GLOBAL APPEND PROPERTY KIRV_CLIENT_PROTOCOLS ${name})
 endfunction()
