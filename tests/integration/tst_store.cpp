@@ -1,0 +1,767 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/settings/kirv_avatar_folder.h"
+#include "core/settings/kirv_store.h"
+#include "tests/integration/kirv_profile_files.h"
+
+#include <QElapsedTimer>
+#include <QLockFile>
+#include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <csignal>
+#include <cstdio>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const QString databaseName = QStringLiteral("profile.sqlite");
+
+KirvStore::Account makeAccount(const QString &id, const QString &protocol = QStringLiteral("XMPP"))
+{
+    KirvStore::Account account;
+    account.key = { id, protocol };
+    account.alias = QStringLiteral("Alias of ") + id;
+    account.settings = { { "server", "talk.example.org" }, { "encrypted", "true" } };
+    return account;
+}
+
+KirvStore::Account makeFullAccount()
+{
+    KirvStore::Account account = makeAccount(QStringLiteral("full@example.org"));
+    account.alias = QString::fromUtf8("Zoë '); DROP TABLE account; --\n\u202b\U0001f600");
+    account.password = QStringLiteral("s3cret word");
+    account.rememberPassword = true;
+    account.enabled = false;
+    account.restorePresence = true;
+    account.restoreDescription = true;
+    account.defaultPresence = QStringLiteral("away");
+    account.defaultDescription = QStringLiteral("line\nbreak");
+    account.lastPresence = QStringLiteral("dnd");
+    account.lastDescription = QStringLiteral("<b>busy</b>");
+    account.settings.insert(QStringLiteral("empty"), QString());
+    return account;
+}
+
+QStringList idsOf(KirvStore &store)
+{
+    QStringList ids;
+    const QList<KirvStore::Account> accounts = store.readAccounts();
+    for (const KirvStore::Account &account : accounts)
+        ids << account.key.id;
+    return ids;
+}
+
+int permissionsOf(const QString &path)
+{
+    struct stat status;
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 0777) : -1;
+}
+
+/// Limits the size of every file that this process writes: writing beyond fails as on a full disk.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(qint64 bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &before);
+        rlimit limit = before;
+        limit.rlim_cur = rlim_t(bytes);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &before); }
+
+private:
+    Q_DISABLE_COPY(FileSizeLimit)
+    rlimit before;
+};
+
+/// Opens the profile like another process does: as "hold" it keeps it until it is killed, as "try" it says how
+/// it went, without the rights of the superuser.
+int runAsOtherProcess(const QStringList &arguments)
+{
+    const bool holds = arguments.at(1) == QLatin1String("--hold");
+    if (!holds && ::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0))
+        return 2;
+    KirvStore store;
+    const bool opened = store.open(arguments.at(2));
+    std::printf("%s\n", opened ? "opened" : qPrintable(store.lastError()));
+    std::fflush(stdout);
+    while (holds && opened)
+        ::pause();
+    return opened ? 0 : 1;
+}
+
+}
+
+class StoreTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        home = std::make_unique<QTemporaryDir>();
+        QVERIFY(home->isValid());
+        folder = home->filePath(QStringLiteral("profile"));
+    }
+
+    void everythingInTheProfileBelongsToItsOwnerAlone()
+    {
+        QVERIFY(QDir().mkpath(folder));
+        QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
+        KirvStore store;
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        account.avatar = store.importAvatar(makePicture(home->filePath(QStringLiteral("picture.png"))));
+        QVERIFY(!account.avatar.isEmpty());
+        QVERIFY(store.insertAccount(account));
+
+        QCOMPARE(permissionsOf(folder), 0700);
+        QCOMPARE(permissionsOf(store.avatarFolder()), 0700);
+        const QStringList files = filesIn(folder).keys();
+        for (const QString &file : files)
+            QVERIFY2(permissionsOf(file) == 0600, qPrintable(file));
+        for (const char *suffix : { "", "-wal", "-shm" })
+            QVERIFY(files.contains(QDir(folder).filePath(databaseName + QLatin1String(suffix))));
+    }
+
+    void filesThatWereOpenToOthersAreClosed()
+    {
+        QVERIFY(KirvStore().open(folder));
+        const QByteArray file = QFile::encodeName(QDir(folder).filePath(databaseName));
+        QCOMPARE(::chmod(file.constData(), 0644), 0);
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QCOMPARE(permissionsOf(QFile::decodeName(file)), 0600);
+    }
+
+    void theDatabaseIsWrittenThrough()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        const auto pragma = [this](const char *name) {
+            QSqlQuery query(ownConnection());
+            query.exec(QLatin1String("PRAGMA ") + QLatin1String(name));
+            return query.next() ? query.value(0).toString() : QString();
+        };
+        QCOMPARE(pragma("journal_mode"), QStringLiteral("wal"));
+        QCOMPARE(pragma("synchronous"), QStringLiteral("2"));
+        QCOMPARE(pragma("foreign_keys"), QStringLiteral("1"));
+        QCOMPARE(pragma("user_version"), QStringLiteral("2"));
+    }
+
+    void whatIsStoredIsReadAgain()
+    {
+        const KirvStore::Account account = makeFullAccount();
+        {
+            KirvStore store;
+            QVERIFY(store.open(folder));
+            QVERIFY(store.insertAccount(makeAccount(account.key.id)));
+            QVERIFY2(store.updateAccount(account), qPrintable(store.lastError()));
+            QVERIFY(store.insertAccount(makeAccount(account.key.id, QStringLiteral("IRC"))));
+            QVERIFY(store.writeSetting(QStringLiteral("main_account"), QStringLiteral("a@@b")));
+            QVERIFY(store.writeSetting(QStringLiteral("main_account"), QStringLiteral("c@@d")));
+            QVERIFY(store.writeSetting(QStringLiteral("empty"), QString()));
+        }
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        const QList<KirvStore::Account> accounts = store.readAccounts();
+        QCOMPARE(accounts.size(), 2);
+        QVERIFY(accounts.at(0).isStoredLike(account));
+        QCOMPARE(accounts.at(0).password, account.password);
+        QVERIFY(accounts.at(1).isStoredLike(makeAccount(account.key.id, QStringLiteral("IRC"))));
+        QCOMPARE(store.readSetting(QStringLiteral("main_account")), QStringLiteral("c@@d"));
+        QCOMPARE(store.readSetting(QStringLiteral("empty"), QStringLiteral("fallback")), QString());
+        QCOMPARE(store.readSetting(QStringLiteral("none"), QStringLiteral("fallback")), QStringLiteral("fallback"));
+    }
+
+    void settingsThatAreNoLongerThereAreForgotten()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        QVERIFY(store.insertAccount(account));
+        account.settings = { { "server", "other.example.org" } };
+        QVERIFY(store.updateAccount(account));
+        QCOMPARE(store.readAccounts().first().settings, account.settings);
+    }
+
+    void theOrderOfAccountsIsKept()
+    {
+        {
+            KirvStore store;
+            QVERIFY(store.open(folder));
+            for (const char *id : { "c", "a", "d", "b" })
+                QVERIFY(store.insertAccount(makeAccount(QLatin1String(id))));
+            QVERIFY(store.removeAccount({ "d", "XMPP" }));
+            QVERIFY(store.removeAccount({ "b", "XMPP" }));
+            QVERIFY(store.insertAccount(makeAccount(QStringLiteral("aa"))));
+            QVERIFY(store.insertAccount(makeAccount(QStringLiteral("d"))));
+            QVERIFY(store.updateAccount(makeFullAccountAs(QStringLiteral("c"))));
+        }
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QCOMPARE(idsOf(store), QStringList({ "c", "a", "aa", "d" }));
+    }
+
+    void theSameKeyTwiceIsRefused()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
+        KirvStore::Account other = makeAccount(QStringLiteral("a"));
+        other.alias = QStringLiteral("other");
+        QVERIFY(!store.insertAccount(other));
+        QVERIFY(!store.lastError().isEmpty());
+        QCOMPARE(store.readAccounts().size(), 1);
+        QCOMPARE(store.readAccounts().first().alias, QStringLiteral("Alias of a"));
+        QVERIFY(store.lastError().isEmpty());
+    }
+
+    void anAccountThatIsNotThereIsNotChanged()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QVERIFY(!store.updateAccount(makeAccount(QStringLiteral("a"))));
+        QVERIFY(store.lastError().contains(QLatin1String("\"a\"")));
+        QVERIFY(!store.removeAccount({ "a", "XMPP" }));
+        QVERIFY(store.readAccounts().isEmpty());
+    }
+
+    void aClosedStoreTakesNothing()
+    {
+        KirvStore store;
+        QVERIFY(!store.insertAccount(makeAccount(QStringLiteral("a"))));
+        QVERIFY(!store.lastError().isEmpty());
+        QVERIFY(!store.begin());
+        QVERIFY(!store.commit());
+        QVERIFY(store.readAccounts().isEmpty());
+        QVERIFY(!store.lastError().isEmpty());
+    }
+
+    void eachChangeIsOneCommit()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QCOMPARE(store.commitCount(), 0);
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
+        QCOMPARE(store.commitCount(), 1);
+        QVERIFY(store.updateAccount(makeFullAccountAs(QStringLiteral("a"))));
+        QCOMPARE(store.commitCount(), 2);
+        QVERIFY(store.writeSetting(QStringLiteral("key"), QStringLiteral("value")));
+        QCOMPARE(store.commitCount(), 3);
+        QVERIFY(store.removeAccount({ "a", "XMPP" }));
+        QCOMPARE(store.commitCount(), 4);
+        QVERIFY(store.readAccounts().isEmpty());
+        QCOMPARE(store.commitCount(), 4);
+    }
+
+    void nestedTransactionsAreOneCommit()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QVERIFY(store.begin());
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
+        QVERIFY(store.begin());
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("b"))));
+        QVERIFY(store.commit());
+        QCOMPARE(store.commitCount(), 0);
+        QVERIFY(store.commit());
+        QCOMPARE(store.commitCount(), 1);
+        QCOMPARE(idsOf(store), QStringList({ "a", "b" }));
+    }
+
+    void oneRefusedChangeUndoesTheWholeTransaction_data()
+    {
+        QTest::addColumn<bool>("byRollBack");
+        QTest::newRow("an inner roll-back") << true;
+        QTest::newRow("a change that fails") << false;
+    }
+    void oneRefusedChangeUndoesTheWholeTransaction()
+    {
+        QFETCH(bool, byRollBack);
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
+        QVERIFY(store.begin());
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("b"))));
+        if (byRollBack) {
+            QVERIFY(store.begin());
+            store.rollBack();
+        } else {
+            QVERIFY(!store.insertAccount(makeAccount(QStringLiteral("a"))));
+        }
+        QVERIFY(!store.insertAccount(makeAccount(QStringLiteral("c"))));
+        QVERIFY(!store.commit());
+        QCOMPARE(idsOf(store), QStringList({ "a" }));
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("d"))));
+        QCOMPARE(idsOf(store), QStringList({ "a", "d" }));
+    }
+
+    void aSecondRunningInstanceIsRefused()
+    {
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
+        QTRY_VERIFY_WITH_TIMEOUT(other.canReadLine(), 20000);
+        QCOMPARE(other.readLine().trimmed(), QByteArray("opened"));
+        KirvStore store;
+        QVERIFY(!store.open(folder));
+        QVERIFY(store.isLockedByAnother());
+        QVERIFY(!store.isOpen());
+        QVERIFY(store.lastError().contains(QLatin1String("another running instance")));
+
+        other.kill();
+        QVERIFY(other.waitForFinished());
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+        QVERIFY(!store.isLockedByAnother());
+        QVERIFY(store.lastError().isEmpty());
+    }
+
+    void aSecondStoreOfThisProcessIsRefused()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore second;
+        QVERIFY(!second.open(folder));
+        QVERIFY(second.isLockedByAnother());
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
+        store.close();
+        QVERIFY(second.open(folder));
+        QCOMPARE(idsOf(second), QStringList({ "a" }));
+    }
+
+    void theLockOfADeadProcessWithOurNumberIsTakenOver()
+    {
+        const QString path = QDir(folder).filePath(QStringLiteral("profile.lock"));
+        QVERIFY(QDir().mkpath(folder));
+        QLockFile lock(path);
+        QVERIFY(lock.tryLock(0));
+        const QByteArray ours = contentOf(path);
+        lock.unlock();
+        write(path, ours);
+        KirvStore store;
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+    }
+
+    void aDamagedProfileIsRefusedAndLeftAlone_data()
+    {
+        QTest::addColumn<QString>("damage");
+        QTest::newRow("no database at all") << "text";
+        QTest::newRow("cut off") << "cut";
+        QTest::newRow("a page overwritten") << "page";
+        QTest::newRow("the header overwritten") << "header";
+    }
+    void aDamagedProfileIsRefusedAndLeftAlone()
+    {
+        QFETCH(QString, damage);
+        makeProfile(200);
+        const QString path = QDir(folder).filePath(databaseName);
+        QByteArray content = contentOf(path);
+        QVERIFY(content.size() > 20000);
+        if (damage == QLatin1String("text"))
+            content = QByteArray(5000, 'x');
+        else if (damage == QLatin1String("cut"))
+            content.truncate(9000);
+        else if (damage == QLatin1String("page"))
+            content.replace(8192, 4096, QByteArray(4096, '\xa5'));
+        else
+            content.replace(0, 100, QByteArray(100, '\xa5'));
+        write(path, content);
+
+        KirvStore store;
+        QVERIFY(!store.open(folder));
+        QVERIFY2(store.lastError().contains(QLatin1String("damaged")), qPrintable(store.lastError()));
+        QVERIFY(!store.isLockedByAnother());
+        QCOMPARE(contentOf(path), content);
+        QVERIFY(store.readAccounts().isEmpty());
+    }
+
+    void aDatabaseThatIsNotOursIsRefusedAndLeftAlone_data()
+    {
+        QTest::addColumn<QString>("statement");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("a newer version") << "PRAGMA user_version = 3"
+                                         << "newer version";
+        QTest::newRow("a much newer version") << "PRAGMA user_version = 2000000000"
+                                              << "newer version";
+        QTest::newRow("no version") << "PRAGMA user_version = 0"
+                                    << "another program";
+        QTest::newRow("an impossible version") << "PRAGMA user_version = -1"
+                                               << "another program";
+    }
+    void aDatabaseThatIsNotOursIsRefusedAndLeftAlone()
+    {
+        QFETCH(QString, statement);
+        QFETCH(QString, reason);
+        makeProfile(3);
+        const QString path = QDir(folder).filePath(databaseName);
+        {
+            QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("tool"));
+            database.setDatabaseName(path);
+            QVERIFY(database.open());
+            QVERIFY(QSqlQuery(database).exec(statement));
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("tool"));
+        const QByteArray content = contentOf(path);
+        KirvStore store;
+        QVERIFY(!store.open(folder));
+        QVERIFY2(store.lastError().contains(reason), qPrintable(store.lastError()));
+        store.close();
+        QCOMPARE(contentOf(path), content);
+    }
+
+    void aProfileOfVersion1IsUpgraded()
+    {
+        QVERIFY(QDir().mkpath(folder));
+        const QString old = QFINDTESTDATA("data/profile_version_1.sqlite");
+        QVERIFY(QFile::copy(old, QDir(folder).filePath(databaseName)));
+        for (int round = 0; round < 2; ++round) { // the second one finds it upgraded
+            KirvStore store;
+            QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+            const QList<KirvStore::Account> accounts = store.readAccounts();
+            QCOMPARE(idsOf(store).mid(0, 3), QStringList({ "romeo@example.org", "anna", "julia@example.org" }));
+            const KirvStore::Account &romeo = accounts.at(0);
+            QCOMPARE(romeo.alias, QStringLiteral("Romeo"));
+            QCOMPARE(romeo.password, QStringLiteral("wherefore"));
+            QVERIFY(romeo.rememberPassword && romeo.enabled && !romeo.restorePresence && !romeo.restoreDescription);
+            QCOMPARE(romeo.defaultPresence, QStringLiteral("away"));
+            QVERIFY(romeo.lastPresence.isEmpty() && romeo.avatar.isEmpty());
+            const QMap<QString, QString> settings { { "server", "talk.example.org" }, { "encrypted", "true" } };
+            QCOMPARE(romeo.settings, settings);
+            QVERIFY(!accounts.at(1).enabled);
+            QCOMPARE(accounts.at(2).alias, QString::fromUtf8("Zoë ☕"));
+            QCOMPARE(store.readSetting(QStringLiteral("main_account")), QStringLiteral("romeo@example.org@@XMPP"));
+            QVERIFY(store.insertAccount(makeAccount(QString::number(round))));
+            QCOMPARE(idsOf(store).last(), QString::number(round));
+        }
+    }
+
+    void anUpgradeThatFailsLeavesTheOldProfile()
+    {
+        QVERIFY(QDir().mkpath(folder));
+        const QString path = QDir(folder).filePath(databaseName);
+        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"), path));
+        {
+            const FileSizeLimit limit(3000);
+            KirvStore store;
+            QVERIFY(!store.open(folder));
+            QVERIFY(!store.lastError().isEmpty());
+        }
+        KirvStore store;
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+        QCOMPARE(store.readAccounts().size(), 3);
+    }
+
+    void aProfileThatCannotBeWrittenIsRefused_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<int>("permissions");
+        QTest::addColumn<bool>("isOurs");
+        QTest::newRow("a read-only folder") << "" << 0500 << true;
+        QTest::newRow("a read-only database") << databaseName << 0400 << true;
+        QTest::newRow("a read-only avatar folder that is not there") << "avatars" << 0 << true;
+        QTest::newRow("the folder of somebody else") << "" << 0755 << false;
+    }
+    void aProfileThatCannotBeWrittenIsRefused()
+    {
+        QFETCH(QString, place);
+        QFETCH(int, permissions);
+        QFETCH(bool, isOurs);
+        const bool isSuperuser = ::geteuid() == 0;
+        if (!isOurs && !isSuperuser)
+            QSKIP("Only the superuser can make a folder of somebody else.");
+        makeProfile(3);
+        if (place == QLatin1String("avatars")) { // a file is where the folder should be
+            QVERIFY(QDir(folder).rmdir(place));
+            write(QDir(folder).filePath(place), "x");
+        } else {
+            QCOMPARE(::chmod(QFile::encodeName(QDir(folder).filePath(place)).constData(), mode_t(permissions)), 0);
+        }
+        if (isSuperuser) {
+            QCOMPARE(::chmod(QFile::encodeName(home->path()).constData(), 0755), 0);
+            for (const QString &path : filesIn(folder).keys() + QStringList(folder)) {
+                if (isOurs)
+                    QCOMPARE(::chown(QFile::encodeName(path).constData(), 65534, 65534), 0);
+            }
+        }
+        const QByteArray content = contentOf(QDir(folder).filePath(databaseName));
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(), { "--try", folder });
+        QVERIFY(other.waitForFinished());
+        QCOMPARE(other.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(other.exitCode(), 1);
+        const QByteArray said = other.readAllStandardOutput();
+        QVERIFY2(said.contains("cannot be written") || said.contains("could not be closed"), said.constData());
+        QCOMPARE(contentOf(QDir(folder).filePath(databaseName)), content);
+        ::chmod(QFile::encodeName(folder).constData(), 0700);
+    }
+
+    void aFolderThatCannotBeMadeIsRefused()
+    {
+        write(home->filePath(QStringLiteral("file")), "x");
+        KirvStore store;
+        QVERIFY(!store.open(home->filePath(QStringLiteral("file/profile"))));
+        QVERIFY(store.lastError().contains(QLatin1String("could not be made")));
+    }
+
+    void aFullDiskLosesNothing_data()
+    {
+        QTest::addColumn<bool>("inTheDatabase");
+        QTest::newRow("the database has no room") << true;
+        QTest::newRow("the file system has no room") << false;
+    }
+    void aFullDiskLosesNothing()
+    {
+        QFETCH(bool, inTheDatabase);
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore::Account account = makeFullAccount();
+        QVERIFY(store.insertAccount(account));
+        KirvStore::Account large = account;
+        large.lastDescription = QString(200000, QLatin1Char('x'));
+        const auto limitPages = [this](const char *pages) {
+            return QSqlQuery(ownConnection()).exec(QLatin1String("PRAGMA max_page_count = ") + QLatin1String(pages));
+        };
+        {
+            std::unique_ptr<FileSizeLimit> limit;
+            if (inTheDatabase)
+                QVERIFY(limitPages("1")); // as many as there are
+            else
+                limit = std::make_unique<FileSizeLimit>(
+                    QFileInfo(QDir(folder).filePath(databaseName + QLatin1String("-wal"))).size());
+            QVERIFY(!store.updateAccount(large));
+            QVERIFY2(store.lastError().contains(QLatin1String(inTheDatabase ? "no space left" : "may be full")),
+                     qPrintable(store.lastError()));
+            QVERIFY(!store.begin() || !store.updateAccount(large) || !store.commit());
+            store.rollBack();
+            QVERIFY(store.readAccounts().first().isStoredLike(account));
+        }
+        if (inTheDatabase)
+            QVERIFY(limitPages("1000000"));
+        QVERIFY2(store.updateAccount(large), qPrintable(store.lastError()));
+        store.close();
+        QVERIFY(store.open(folder));
+        QVERIFY(store.readAccounts().first().isStoredLike(large));
+    }
+
+    void aPasswordThatIsNotToBeRememberedIsNeverWritten()
+    {
+        const QString password = QStringLiteral("correct horse battery");
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        account.password = password;
+        QVERIFY(store.insertAccount(account));
+        account.alias = QStringLiteral("b");
+        QVERIFY(store.updateAccount(account));
+        QVERIFY(!isTextInFiles(password, folder));
+        account.rememberPassword = true;
+        QVERIFY(store.updateAccount(account));
+        QVERIFY(isTextInFiles(password, folder));
+    }
+
+    void aPasswordThatGoesLeavesNoTrace_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<bool>("inTransaction");
+        for (const char *change : { "forget", "overwrite", "remove account", "overwrite setting" }) {
+            QTest::addRow("%s", change) << change << false;
+            QTest::addRow("%s in a transaction", change) << change << true;
+        }
+    }
+    void aPasswordThatGoesLeavesNoTrace()
+    {
+        QFETCH(QString, change);
+        QFETCH(bool, inTransaction);
+        const QString password = QStringLiteral("correct horse battery");
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        const bool isSetting = change == QLatin1String("overwrite setting");
+        account.password = isSetting ? QString() : password;
+        account.rememberPassword = true;
+        account.settings.insert(QStringLiteral("server-password"), isSetting ? password : QString());
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("b"))));
+        QVERIFY(store.insertAccount(account));
+        QVERIFY(isTextInFiles(password, folder));
+        if (inTransaction)
+            QVERIFY(store.begin());
+        if (change == QLatin1String("remove account")) {
+            QVERIFY(store.removeAccount(account.key));
+        } else {
+            account.rememberPassword = change != QLatin1String("forget");
+            account.settings.insert(QStringLiteral("server-password"), QStringLiteral("other"));
+            account.password = QStringLiteral("other");
+            QVERIFY(store.updateAccount(account));
+        }
+        if (inTransaction)
+            QVERIFY(store.commit());
+        QVERIFY(!isTextInFiles(password, folder));
+    }
+
+    void anAvatarIsCopiedAndTheOldOneRemoved()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        const QString picture = makePicture(home->filePath(QStringLiteral("picture.png")));
+        account.avatar = store.importAvatar(picture);
+        QVERIFY(store.insertAccount(account));
+        const QString first = QDir(store.avatarFolder()).filePath(account.avatar);
+        QCOMPARE(contentOf(first), contentOf(picture));
+        QVERIFY(QFile::remove(picture));
+
+        KirvStore::Account changed = account;
+        changed.avatar = store.importAvatar(makePicture(picture, QSize(8, 8)));
+        QVERIFY(changed.avatar != account.avatar);
+        QVERIFY(store.begin());
+        QVERIFY(store.updateAccount(changed));
+        store.rollBack();
+        QVERIFY(QFile::exists(first));
+        QVERIFY(store.updateAccount(changed));
+        QVERIFY(!QFile::exists(first));
+        QVERIFY(QFile::exists(QDir(store.avatarFolder()).filePath(changed.avatar)));
+        QVERIFY(store.removeAccount(account.key));
+        QVERIFY(filesIn(store.avatarFolder()).isEmpty());
+    }
+
+    void avatarsOfNobodyAreRemovedAtTheStart()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        const QString picture = makePicture(home->filePath(QStringLiteral("picture.png")));
+        account.avatar = store.importAvatar(picture);
+        QVERIFY(store.insertAccount(account));
+        QVERIFY(!store.importAvatar(picture).isEmpty());
+        QCOMPARE(filesIn(store.avatarFolder()).size(), 2);
+        store.close();
+        QVERIFY(store.open(folder));
+        const QString kept = QDir(store.avatarFolder()).filePath(account.avatar);
+        QCOMPARE(filesIn(store.avatarFolder()).keys(), QStringList(kept));
+    }
+
+    void whatIsNoUsablePictureIsRefused_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("nothing there") << "missing"
+                                       << "cannot be read";
+        QTest::newRow("a folder") << "folder"
+                                  << "cannot be read";
+        QTest::newRow("a pipe that nobody writes") << "pipe"
+                                                   << "cannot be read";
+        QTest::newRow("a device without an end") << "device"
+                                                 << "cannot be read";
+        QTest::newRow("text") << "text"
+                              << "not a picture";
+        QTest::newRow("an empty file") << "empty"
+                                       << "not a picture";
+        QTest::newRow("100 MB") << "bytes"
+                                << "too large";
+        QTest::newRow("50 megapixels") << "pixels"
+                                       << "too many pixels";
+    }
+    void whatIsNoUsablePictureIsRefused()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, reason);
+        QString path = home->filePath(QStringLiteral("picture.png"));
+        if (kind == QLatin1String("folder"))
+            QVERIFY(QDir().mkpath(path));
+        else if (kind == QLatin1String("pipe"))
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        else if (kind == QLatin1String("device"))
+            path = QStringLiteral("/dev/zero");
+        else if (kind == QLatin1String("text"))
+            write(path, "Not a picture");
+        else if (kind == QLatin1String("empty"))
+            write(path, QByteArray());
+        else if (kind == QLatin1String("bytes"))
+            QVERIFY(QFile(makePicture(path)).resize(100 * 1024 * 1024));
+        else if (kind == QLatin1String("pixels"))
+            QVERIFY(!makePicture(path, QSize(10000, 5000)).isEmpty());
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QCOMPARE(store.importAvatar(path), QString());
+        QVERIFY2(store.lastError().contains(reason), qPrintable(store.lastError()));
+        QVERIFY(store.lastError().contains(path));
+        QVERIFY(filesIn(store.avatarFolder()).isEmpty());
+    }
+
+    void anAvatarThatFindsNoRoomIsRefused()
+    {
+        const QString picture = home->filePath(QStringLiteral("picture.ppm"));
+        QVERIFY(!makePicture(picture, QSize(200, 200)).isEmpty());
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        const FileSizeLimit limit(1000);
+        QCOMPARE(store.importAvatar(picture), QString());
+        QVERIFY2(store.lastError().contains(QLatin1String("could not be copied")), qPrintable(store.lastError()));
+        QVERIFY(filesIn(store.avatarFolder()).isEmpty());
+    }
+
+    void tenThousandAccountsOpenQuickly()
+    {
+        makeProfile(10000);
+        QElapsedTimer timer;
+        timer.start();
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        const qint64 opened = timer.restart();
+        QCOMPARE(store.readAccounts().size(), 10000);
+        const qint64 read = timer.restart();
+        qInfo("10,000 accounts: opened in %lld ms, read in %lld ms", opened, read);
+        QVERIFY(opened + read < 5000);
+    }
+
+private:
+    static void write(const QString &path, const QByteArray &content)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), qint64(content.size()));
+    }
+
+    static KirvStore::Account makeFullAccountAs(const QString &id)
+    {
+        KirvStore::Account account = makeFullAccount();
+        account.key.id = id;
+        return account;
+    }
+
+    /// The connection of the only open store of this process.
+    static QSqlDatabase ownConnection()
+    {
+        return QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false);
+    }
+
+    void makeProfile(int accounts)
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QVERIFY(store.begin());
+        for (int number = 0; number < accounts; ++number)
+            QVERIFY(store.insertAccount(makeAccount(QString::number(number))));
+        QVERIFY(store.commit());
+    }
+
+    std::unique_ptr<QTemporaryDir> home;
+    QString folder;
+};
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.size() == 3
+        && (arguments.at(1) == QLatin1String("--hold") || arguments.at(1) == QLatin1String("--try")))
+        return runAsOtherProcess(arguments);
+    StoreTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_store.moc"
