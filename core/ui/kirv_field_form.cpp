@@ -18,6 +18,7 @@
 #include <QStyle>
 #include <QTextDocument>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <limits>
 
@@ -182,36 +183,37 @@ void KirvFieldForm::addRow(const KirvField &field)
         return;
     }
 
-    const Editor editor = makeEditor(field, index);
-    const QString caption = captionOf(field);
-    editor.widget->setObjectName(objectNameOf(field));
-    editor.widget->setAccessibleName(caption);
-    editor.widget->setAccessibleDescription(shortened(field.getToolTip(), LongestToolTip));
-    editor.widget->setToolTip(toolTipOf(field.getToolTip()));
-    QWidget *cell = field.getKind() == KirvField::Password ? withRevealButton(editor.widget, field) : editor.widget;
+    Row &row = rows.back();
+    row.editor = makeEditor(field, index);
+    row.shown = row.editor.value();
+    QWidget *editor = row.editor.widget;
+    editor->setObjectName(objectNameOf(field));
+    editor->setAccessibleName(captionOf(field));
+    editor->setAccessibleDescription(shortened(field.getToolTip(), LongestToolTip));
+    editor->setToolTip(toolTipOf(field.getToolTip()));
 
-    if (field.getKind() == KirvField::CheckBox && caption.size() <= LongestBoxCaption) {
-        layout->addRow(QString(), cell);
-        captions.append({ cell, caption });
-    } else {
-        auto *label = new QLabel;
-        label->setObjectName(objectNameOf(field) + QStringLiteral("_Label"));
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(caption.size() > LongestBoxCaption / 2);
-        label->setToolTip(editor.widget->toolTip());
-        label->setBuddy(editor.widget);
-        layout->addRow(label, cell);
-        captions.append({ label, labelTextOf(caption) });
-    }
+    QWidget *control = field.getKind() == KirvField::Password ? withRevealButton(editor, field) : editor;
+    addControl(canHaveProblem(field) ? withHint(control, &row) : control, row);
+    updateHint(row, false);
+}
 
-    Row &row = rows[index];
-    row.editor = editor;
-    row.shown = editor.value();
-    if (canHaveProblem(field)) {
-        row.hint = addHint(field);
-        editor.widget->installEventFilter(this);
-        updateHint(row, false);
+void KirvFieldForm::addControl(QWidget *control, const Row &row)
+{
+    const QString caption = captionOf(row.field);
+    const bool isCheckBox = row.field.getKind() == KirvField::CheckBox;
+    if (isCheckBox && caption.size() <= LongestBoxCaption) {
+        layout->addRow(QString(), control);
+        captions.append({ row.editor.widget, caption });
+        return;
     }
+    auto *label = new QLabel;
+    label->setObjectName(objectNameOf(row.field) + QStringLiteral("_Label"));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(caption.size() > LongestBoxCaption / 2);
+    label->setToolTip(row.editor.widget->toolTip());
+    label->setBuddy(row.editor.widget);
+    layout->addRow(label, control);
+    captions.append({ label, isCheckBox ? caption : labelTextOf(caption) });
 }
 
 void KirvFieldForm::addNote(const KirvField &field)
@@ -368,23 +370,30 @@ QWidget *KirvFieldForm::withRevealButton(QWidget *line, const KirvField &field)
     return cell;
 }
 
-QLabel *KirvFieldForm::addHint(const KirvField &field)
+/// \a control with room for a hint below it.
+QWidget *KirvFieldForm::withHint(QWidget *control, Row *row)
 {
-    auto *line = new QWidget(this);
-    auto *icon = new QLabel(line);
+    auto *cell = new QWidget(this);
+    auto *hintLine = new QWidget(cell);
+    auto *icon = new QLabel(hintLine);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size, size));
-    auto *hint = new QLabel(line);
-    hint->setObjectName(objectNameOf(field) + QStringLiteral("_Hint"));
-    hint->setTextFormat(Qt::PlainText);
-    hint->setWordWrap(true);
-    auto *row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(icon);
-    row->addWidget(hint, 1);
-    line->hide();
-    layout->addRow(QString(), line);
-    return hint;
+    row->hint = new QLabel(hintLine);
+    row->hint->setObjectName(objectNameOf(row->field) + QStringLiteral("_Hint"));
+    row->hint->setTextFormat(Qt::PlainText);
+    row->hint->setWordWrap(true);
+
+    auto *line = new QHBoxLayout(hintLine);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(icon);
+    line->addWidget(row->hint, 1);
+    auto *column = new QVBoxLayout(cell);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(control);
+    column->addWidget(hintLine);
+    hintLine->hide();
+    row->editor.widget->installEventFilter(this);
+    return cell;
 }
 
 void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)

@@ -62,7 +62,8 @@ private:
     Editor makeChoice(const KirvField &field, std::size_t row);
     Editor makeNumber(const KirvField &field, std::size_t row);
     QWidget *withRevealButton(QWidget *line, const KirvField &field);
-    QLabel *addHint(const KirvField &field);
+    QWidget *withHint(QWidget *control, Row *row);
+    void addControl(QWidget *control, const Row &row);
     void updateHint(const Row &row, bool remindOfEmpty);
 
     QFormLayout *layout;

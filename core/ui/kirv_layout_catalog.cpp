@@ -132,7 +132,7 @@ QStringList missingParts(const QWidget *top)
 QWidget *withParent(std::unique_ptr<QWidget> top, QWidget *parent)
 {
     if (parent)
-        top->setParent(parent, top->windowFlags());
+        top->setParent(parent, top->inherits("QDialog") ? top->windowFlags() : Qt::Widget);
     return top.release();
 }
 

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_file.h"
 
+#include "core/ui/kirv_form_area.h"
+
+#include <QAbstractButton>
 #include <QApplication>
 #include <QBuffer>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMetaEnum>
 #include <QPointer>
 #include <QUiLoader>
 #include <QWidget>
@@ -28,7 +33,13 @@ public:
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
-        if (!availableWidgets().contains(className))
+        if (className == QLatin1String(KirvFormArea::staticMetaObject.className())) {
+            auto *area = new KirvFormArea(parent);
+            area->setObjectName(name);
+            return area;
+        }
+        // A "Line" is made by the base class, but it does not list it.
+        if (className != QLatin1String("Line") && !availableWidgets().contains(className))
             unknownClasses.append(className);
         return QUiLoader::createWidget(className, parent, name);
     }
@@ -50,6 +61,19 @@ Loader &sharedLoader()
     if (!loader)
         loader = new Loader(qApp);
     return *loader;
+}
+
+/// Gives the standard buttons names, which a layout file cannot: that of their box, "_" and that of the button.
+void nameStandardButtons(QWidget *top)
+{
+    const QMetaEnum names = QMetaEnum::fromType<QDialogButtonBox::StandardButtons>();
+    const QList<QDialogButtonBox *> boxes = top->findChildren<QDialogButtonBox *>();
+    for (const QDialogButtonBox *box : boxes) {
+        const QList<QAbstractButton *> buttons = box->buttons();
+        for (QAbstractButton *button : buttons)
+            button->setObjectName(QStringLiteral("%1_%2").arg(
+                box->objectName(), QLatin1String(names.valueToKey(box->standardButton(button)))));
+    }
 }
 
 } // namespace
@@ -77,7 +101,10 @@ std::unique_ptr<QWidget> KirvLayoutFile::build()
         failure = tr("It asks for a widget of the unknown class %1.").arg(loader.unknownClasses.first());
     else if (!top)
         failure = tr("It is not a window layout: %1").arg(loader.errorString());
-    return failure.isEmpty() ? std::move(top) : nullptr;
+    if (!failure.isEmpty())
+        return nullptr;
+    nameStandardButtons(top.get());
+    return top;
 }
 
 QByteArray KirvLayoutFile::read()

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_FORM_AREA_H
+#define KIRV_FORM_AREA_H
+
+#include <QScrollArea>
+
+/// Shows forms that stand below each other as one: with a common label column, as large as they want to be, and
+/// scrolled up and down where the window has no room for that. Layout files may ask for it by its class name.
+class KirvFormArea : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit KirvFormArea(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    int gap() const;
+    int narrowestWidth() const;
+    void alignLabels();
+    void keepClearOfScrollBar(bool shown);
+};
+
+#endif
