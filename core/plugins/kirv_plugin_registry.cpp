@@ -131,6 +131,8 @@ void KirvPluginRegistry::Private::setInfo(const KirvPluginInfo &changed)
 
 KirvProtocolBase *KirvPluginRegistry::Private::protocolOf(const QString &fileName) const
 {
+    if (fileName.isEmpty()) // a protocol of the program is not one of a file
+        return nullptr;
     const auto found =
         std::find_if(loaded.begin(), loaded.end(), [&](const Loaded &entry) { return entry.fileName == fileName; });
     return found == loaded.end() ? nullptr : found->protocol;
