@@ -1,0 +1,19 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# Installs everything and starts the client. Takes BUILD, WORK, VERSION, PROGRAM and PROTOCOLS.
+include("${CMAKE_CURRENT_LIST_DIR}/install.cmake")
+install_and_move(folder)
+
+execute_process(COMMAND "${folder}/${PROGRAM}" --version OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+if(NOT output MATCHES "${VERSION}")
+    message(FATAL_ERROR "The installed client says \"${output}\" and not ${VERSION}")
+endif()
+
+# Nothing that was installed may need the build folder, or miss a library.
+file(GLOB plug_ins "${folder}/${PROTOCOLS}/*.so")
+foreach(file IN LISTS plug_ins ITEMS "${folder}/${PROGRAM}")
+    execute_process(COMMAND ldd "${file}" OUTPUT_VARIABLE libraries COMMAND_ERROR_IS_FATAL ANY)
+    string(FIND "${libraries}" "${BUILD}/lib/" in_build_folder)
+    if(libraries MATCHES "not found" OR NOT in_build_folder EQUAL -1)
+        message(FATAL_ERROR "${file} does not find its libraries:\n${libraries}")
+    endif()
+endforeach()
