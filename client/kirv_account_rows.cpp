@@ -90,9 +90,13 @@ QList<QTreeWidgetItem *> KirvAccountRows::rowsOf(const QString &protocol) const
 void KirvAccountRows::takeAway(QTreeWidgetItem *row)
 {
     // Left alone, the view would make and select a neighbour as the current row.
-    if (row->isSelected() || row == list->currentItem()) {
+    const bool wasChosen = row->isSelected() || row == list->currentItem();
+    if (wasChosen) {
         list->setCurrentItem(nullptr, AliasColumn, QItemSelectionModel::NoUpdate);
         list->clearSelection();
     }
     delete row;
+    // A current row need not have been selected: the page is told in any case that there is none now.
+    if (wasChosen)
+        Q_EMIT list->itemSelectionChanged();
 }

@@ -222,8 +222,8 @@ void KirvClient::syncRows()
         else if (account->isLoaded() && !rows->contains(key))
             page->addAccountEntry(account);
     }
-    if (page->isVisible())
-        page->updateAccounts();
+    // Also while the page is hidden: its selector must not keep accounts that are gone.
+    page->updateAccounts();
 }
 
 void KirvClient::deliverDirectoryAnswer(KirvAccount *account, const QList<KirvField> &fields)
