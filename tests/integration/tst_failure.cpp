@@ -91,10 +91,9 @@ void tst_Failure::theDetailHasASaneLength()
     QVERIFY(KirvFailure(KirvFailure::Other, longText).text().endsWith(QChar(0x2026)));
     QCOMPARE(KirvFailure(KirvFailure::Other, longText.left(300)).detail(), longText.left(300));
 
-    const QString smiley = QString::fromUcs4(U"\U0001F600", 1);
+    const QString smiley = QString::fromUtf8("\xf0\x9f\x98\x80");
     const QString detail = KirvFailure(KirvFailure::Other, QStringLiteral("x") + smiley.repeated(400)).detail();
-    QCOMPARE(detail, QString::fromUcs4(detail.toUcs4().constData(), int(detail.toUcs4().size())));
-    QVERIFY(!detail.at(detail.size() - 2).isHighSurrogate());
+    QCOMPARE(detail, QString::fromUtf8(detail.toUtf8())); // no half of a character is left
 }
 
 QTEST_GUILESS_MAIN(tst_Failure)
