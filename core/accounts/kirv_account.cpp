@@ -215,9 +215,9 @@ void KirvAccount::Private::abandon()
         delete going;
     }
     releaseConnection();
-    if (isRemoved)
-        account->deleteLater();
     protocol.clear();
+    if (mayGo)
+        account->deleteLater();
 }
 
 void KirvAccount::Private::leave()
@@ -225,20 +225,24 @@ void KirvAccount::Private::leave()
     isRemoved = true;
     leavingConnection = connection;
     releaseConnection();
-    KirvConnection *leaving = leavingConnection;
-    if (!leaving) {
+    if (!leavingConnection)
+        return;
+    leavingConnection->disconnect(account);
+    leavingConnection->logOut();
+}
+
+void KirvAccount::Private::letGo()
+{
+    mayGo = true;
+    // The account outlives its connection, which may still read from it.
+    if (!leavingConnection || leavingConnection->state() == KirvConnection::Offline) {
         account->deleteLater();
         return;
     }
-    // The account outlives its connection, which may still read from it.
-    leaving->disconnect(account);
-    connect(leaving, &KirvConnection::stateChanged, account, [this](KirvConnection::State state) {
+    connect(leavingConnection, &KirvConnection::stateChanged, account, [this](KirvConnection::State state) {
         if (state == KirvConnection::Offline)
             account->deleteLater();
     });
-    leaving->logOut();
-    if (!leavingConnection || leavingConnection->state() == KirvConnection::Offline)
-        account->deleteLater();
 }
 
 void KirvAccount::Private::releaseConnection()

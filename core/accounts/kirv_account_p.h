@@ -36,8 +36,10 @@ public:
     void load(KirvProtocolBase *protocol);
     /// Breaks the connection, also one that is logging out for good, and destroys it.
     void unload();
-    /// Logs out and lives on for nothing else: the account is not configured any more.
+    /// The account is not configured any more: logs out, and does nothing else from now on.
     void leave();
+    /// Destroys the account, not before it is logged out. Nobody asks for it any more.
+    void letGo();
     /// unload() without a word to anybody.
     void abandon();
 
@@ -66,6 +68,7 @@ public:
     KirvFailure failure;
     QDateTime failureTime;
     bool isRemoved = false;
+    bool mayGo = false;
 
 private:
     void releaseConnection();

@@ -243,6 +243,7 @@ void KirvAccountRegistry::Private::remove(KirvAccount *account)
     account->d->leave();
     Q_EMIT registry->accountAboutToBeRemoved(account);
     takeOut(account);
+    account->d->letGo();
     Q_EMIT registry->accountRemoved(key.id, key.protocol);
 }
 
