@@ -9,6 +9,7 @@
 #include <IrcCommand>
 #include <IrcConnection>
 #include <IrcMessage>
+#include <QFile>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSslCertificate>
@@ -33,6 +34,16 @@ bool isDenial(const QString &goodbye)
     return expression.match(goodbye).hasMatch();
 }
 
+/// A file that is larger than a bundle of certificates is none.
+QList<QSslCertificate> readCertificates(const QString &path)
+{
+    const qint64 largest = 1 << 20;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > largest)
+        return {};
+    return QSslCertificate::fromData(file.read(largest), QSsl::Pem);
+}
+
 } // namespace
 
 KirvIrcConnection::KirvIrcConnection(KirvAccountConnection *account, KirvClock &clock, QObject *parent)
@@ -45,7 +56,7 @@ KirvIrcConnection::~KirvIrcConnection()
     KirvIrcConnection::abortConnection();
 }
 
-void KirvIrcConnection::startLogin(const KirvPresence &)
+void KirvIrcConnection::startLogin(const KirvPresence &presence)
 {
     settings = KirvIrcSettings(account()->getUid(), account()->getPassword(), account()->getAccountSettingsInOrder());
     QString problem = settings.problem();
@@ -59,6 +70,7 @@ void KirvIrcConnection::startLogin(const KirvPresence &)
         return loginFailed({ KirvFailure::BadSettings, problem });
     prepareAuthentication();
     connect(link->socket(), &QAbstractSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
+    connect(link.data(), &IrcConnection::connected, this, [this, presence] { finishLogin(presence); });
     nicksLeft = settings.nicks();
     link->setNickName(nicksLeft.takeFirst());
     link->open();
@@ -73,16 +85,10 @@ void KirvIrcConnection::createLink()
     link->setPort(settings.port);
     link->setUserName(settings.userName());
     link->setRealName(settings.realName);
-    connect(link.data(), &IrcConnection::connected, this, &KirvIrcConnection::finishLogin);
     connect(link.data(), &IrcConnection::messageReceived, this, [this] { heard = true; });
     connect(link.data(), &IrcConnection::numericMessageReceived, this, &KirvIrcConnection::receiveNumeric);
     connect(link.data(), &IrcConnection::errorMessageReceived, this, &KirvIrcConnection::receiveGoodbye);
-    connect(link.data(), &IrcConnection::disconnected, this, [this] {
-        if (state() == Disconnecting)
-            logoutFinished();
-        else
-            connectionLost(KirvFailure::ConnectionLost);
-    });
+    connect(link.data(), &IrcConnection::disconnected, this, [this] { connectionLost(KirvFailure::ConnectionLost); });
 }
 
 /// The library's own secure socket accepts every certificate; this one has to be convinced.
@@ -97,7 +103,7 @@ bool KirvIrcConnection::prepareEncryption(QString *problem)
 
     if (settings.certificateFile.isEmpty())
         return true;
-    const QList<QSslCertificate> trusted = QSslCertificate::fromPath(settings.certificateFile);
+    const QList<QSslCertificate> trusted = readCertificates(settings.certificateFile);
     if (trusted.isEmpty()) {
         *problem = tr("There is no certificate in the file “%1”.").arg(settings.certificateFile);
         return false;
@@ -120,17 +126,17 @@ void KirvIrcConnection::prepareAuthentication()
     connect(sasl, &KirvIrcSasl::failed, this, &KirvIrcConnection::loginFailed);
 }
 
-void KirvIrcConnection::finishLogin()
+void KirvIrcConnection::finishLogin(const KirvPresence &presence)
 {
     // A server that knows nothing of capabilities goes on without the password.
     if (sasl && !sasl->isAccepted())
         return loginFailed(KirvFailure::AuthenticationNotOffered);
-    applyPresence(wantedPresence());
+    applyPresence(presence);
     connect(link.data(), &IrcConnection::nickNameChanged, this, &KirvIrcConnection::tellNick);
     watchServer();
-    const QPointer<IrcConnection> session(link.data());
+    const QPointer<KirvIrcConnection> alive(this);
     loginSucceeded();
-    if (session)
+    if (alive && state() == Online)
         tellNick();
 }
 

@@ -40,7 +40,7 @@ private:
     bool prepareEncryption(QString *problem);
     void prepareAuthentication();
 
-    void finishLogin();
+    void finishLogin(const KirvPresence &presence);
     void tellNick();
     void receiveNumeric(IrcNumericMessage *message);
     void tryNextNick(bool wasRefused);

@@ -1,0 +1,913 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/demo/kirv_ngircd_server.h"
+#include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_registry.h"
+#include "core/connection/kirv_connection.h"
+#include "core/connection/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_registry.h"
+#include "core/settings/kirv_store.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QSslSocket>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <memory>
+#include <vector>
+
+Q_DECLARE_METATYPE(KirvFailure::Kind)
+
+namespace {
+
+using Values = QMap<QString, QString>;
+
+/// Generous, for a busy machine; a test that works needs a fraction of it.
+const int patience = 15000;
+
+/// Another person on the same server, who speaks the protocol by hand.
+class Somebody {
+public:
+    bool logIn(const KirvLocalServer &server, const QString &nick)
+    {
+        socket.connectToHost(server.host(), server.port());
+        return !ask(QStringLiteral("NICK %1\r\nUSER %1 0 * :%1").arg(nick), QStringLiteral(" 251 ")).isEmpty();
+    }
+
+    /// Whether \a nick is on the server.
+    bool sees(const QString &nick)
+    {
+        return ask(QStringLiteral("ISON ") + nick, QStringLiteral(" 303 ")).endsWith(QLatin1Char(':') + nick);
+    }
+
+    /// Why \a nick is away; null when it is not.
+    QString awayTextOf(const QString &nick)
+    {
+        const QString answer = ask(QStringLiteral("WHOIS ") + nick, QStringLiteral(" 318 "));
+        const QRegularExpression away(QStringLiteral(" 301 \\S+ %1 :(.*)\r\n").arg(nick));
+        return away.match(answer).captured(1);
+    }
+
+private:
+    /// Sends \a line and gives what the server says up to the line with \a end; empty when that never comes.
+    QString ask(const QString &line, const QString &end)
+    {
+        QString answer;
+        socket.write(line.toUtf8() + "\r\n");
+        const bool complete = QTest::qWaitFor(
+            [&] {
+                while (!answer.contains(end) && socket.canReadLine())
+                    answer += QString::fromUtf8(socket.readLine());
+                return answer.contains(end);
+            },
+            patience);
+        if (!complete)
+            qWarning().noquote() << "Asked" << line << "the server said:" << answer;
+        return complete ? answer.trimmed() : QString();
+    }
+
+    QTcpSocket socket;
+};
+
+/// A server that does what a test tells it: answers lines with lines.
+class ScriptedServer : public QTcpServer {
+public:
+    /// Gives the lines that answer \a line, each with its line feed; nothing for no answer.
+    using Script = std::function<QByteArray(const QByteArray &line)>;
+
+    explicit ScriptedServer(Script script, const QByteArray &greeting = QByteArray())
+        : script(std::move(script))
+    {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this, greeting] {
+            QTcpSocket *socket = nextPendingConnection();
+            socket->write(greeting);
+            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { answer(socket); });
+        });
+    }
+
+    bool hasReceived(const QByteArray &part) const { return !linesWith(part).isEmpty(); }
+    QByteArrayList linesWith(const QByteArray &part) const
+    {
+        QByteArrayList lines;
+        std::copy_if(received.begin(), received.end(), std::back_inserter(lines),
+                     [&part](const QByteArray &line) { return line.contains(part); });
+        return lines;
+    }
+
+private:
+    void answer(QTcpSocket *socket)
+    {
+        while (socket->canReadLine()) {
+            received += socket->readLine().trimmed();
+            if (script)
+                socket->write(script(received.last()));
+        }
+    }
+
+    Script script;
+    QByteArrayList received;
+};
+
+/// A server that can do nothing but prove who it is.
+class TlsServer : public QTcpServer {
+public:
+    TlsServer(const QString &certificateFile, const QString &keyFile)
+        : certificateFile(certificateFile)
+        , keyFile(keyFile)
+    {
+    }
+
+protected:
+    void incomingConnection(qintptr handle) override
+    {
+        auto *socket = new QSslSocket(this);
+        socket->setSocketDescriptor(handle);
+        socket->setLocalCertificate(certificateFile);
+        socket->setPrivateKey(keyFile);
+        socket->startServerEncryption();
+    }
+
+private:
+    QString certificateFile;
+    QString keyFile;
+};
+
+/// The answers of a server that lets everybody in, and knows nothing of capabilities.
+QByteArray welcome(const QByteArray &line)
+{
+    return line.startsWith("USER ") ? ":server 001 alice :Welcome\r\n" : "";
+}
+
+QByteArray welcomeAndPong(const QByteArray &line)
+{
+    return line.startsWith("PING ") ? ":server PONG server :" + line.mid(5) + "\r\n" : welcome(line);
+}
+
+/// The answers of a server that has SASL; \a judgement is the numeric that follows the credentials.
+ScriptedServer::Script saslServer(const QByteArray &judgement, const QByteArray &capabilities = "multi-prefix sasl")
+{
+    return [judgement, capabilities](const QByteArray &line) -> QByteArray {
+        if (line.startsWith("CAP LS"))
+            return ":server CAP * LS :" + capabilities + "\r\n";
+        if (line.startsWith("CAP REQ"))
+            return ":server CAP * ACK :sasl\r\n";
+        if (line == "AUTHENTICATE PLAIN")
+            return "AUTHENTICATE +\r\n";
+        if (line.startsWith("AUTHENTICATE "))
+            return line.size() == 413 ? "" : ":server " + judgement + " * :That is my judgement\r\n";
+        return line == "CAP END" ? ":server 001 alice :Welcome\r\n" : "";
+    };
+}
+
+} // namespace
+
+/// The IRC plug-in in our core, against a real server where that can do it, and a scripted one where it cannot.
+class TestIrcConnection : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void loginsAreNicksWithAnOptionalNetwork_data();
+    void loginsAreNicksWithAnOptionalNetwork();
+    void configurationsFillTheForm();
+    void localConfigurationKnowsThePortOfTheDemo();
+    void thereIsNoDirectory();
+    void unusableSettingsAreSaid_data();
+    void unusableSettingsAreSaid();
+
+    void logsInAndOut_data();
+    void logsInAndOut();
+    void loginNamesTheServerWhenNoSettingDoes();
+    void untrustedCertificateIsRefused();
+    void certificateForAnotherNameIsRefused();
+    void serverWithoutEncryptionIsRefused();
+
+    void takenNickIsReplaced_data();
+    void takenNickIsReplaced();
+    void allNicksTaken();
+    void nickThatTheServerRefuses();
+
+    void serverPassword_data();
+    void serverPassword();
+    void passwordIsKeptWhenItIsNotUsed();
+    void missingPasswordIsAskedForOnlyWhenItIsUsed_data();
+    void missingPasswordIsAskedForOnlyWhenItIsUsed();
+
+    void awayIsSeenByOthers_data();
+    void awayIsSeenByOthers();
+    void backIsSeenByOthers();
+    void arrivesAway();
+    void longAwayTextKeepsTheConnection();
+
+    void killedServerIsReachedAgain();
+    void stoppedServerSaysGoodbye();
+    void hungServerTimesOut();
+    void serverThatFallsSilentIsLost();
+    void quietServerIsKept();
+    void nobodyListens();
+    void serverIsNotFound();
+    void bannedUserStaysOut_data();
+    void bannedUserStaysOut();
+    void serverThatIsBusyIsTriedAgain();
+    void removedAccountLeavesTheServer();
+
+    void saslLogsIn_data();
+    void saslLogsIn();
+    void saslPasswordIsRefused();
+    void saslIsNotOffered_data();
+    void saslIsNotOffered();
+
+private:
+    KirvAccount *createAccount(const QString &login, const Values &values, const QString &password = "secret");
+    KirvAccount *createAccount(const KirvLocalServer &server, Values values = {}, const QString &password = "secret");
+    KirvAccount *createAccount(const QTcpServer &server, Values values = {}, const QString &password = "secret");
+    KirvPresence presence(const QString &id, const QString &description = QString()) const;
+    void goTo(KirvAccount *account, const QString &presenceId, const QString &text = QString());
+    static KirvConnection::State state(KirvAccount *account) { return account->connection()->state(); }
+    static KirvFailure::Kind failure(KirvAccount *account) { return account->connection()->lastFailure().kind(); }
+    static Values plain() { return { { "encryption", "none" } }; }
+
+    std::unique_ptr<QTemporaryDir> profile;
+    std::unique_ptr<KirvStore> store;
+    std::unique_ptr<KirvPluginRegistry> plugins;
+    std::unique_ptr<KirvAccountRegistry> accounts;
+    KirvProtocolBase *protocol = nullptr;
+};
+
+#define TRY_STATE(account, expected) QTRY_COMPARE_WITH_TIMEOUT(state(account), KirvConnection::expected, patience)
+#define TRY_FAILURE(account, expected) QTRY_COMPARE_WITH_TIMEOUT(failure(account), KirvFailure::expected, patience)
+
+void TestIrcConnection::init()
+{
+    profile = std::make_unique<QTemporaryDir>();
+    store = std::make_unique<KirvStore>();
+    QVERIFY2(store->open(profile->filePath("profile")), qPrintable(store->lastError()));
+    plugins = std::make_unique<KirvPluginRegistry>();
+    accounts = std::make_unique<KirvAccountRegistry>(*store);
+    connect(plugins.get(), &KirvPluginRegistry::protocolLoaded, accounts.get(),
+            [this](KirvProtocolBase *loaded) { accounts->protocolLoaded(loaded); });
+    connect(plugins.get(), &KirvPluginRegistry::protocolAboutToBeUnloaded, accounts.get(),
+            [this](KirvProtocolBase *leaving) { accounts->protocolAboutToBeUnloaded(leaving->getName()); });
+
+    // Alone in its folder, whatever other plug-ins the build has made.
+    const QString folder = profile->filePath("protocols");
+    QVERIFY(QDir().mkpath(folder) && QFile::copy(KIRV_IRC_PLUGIN, folder + "/kirv_protocol_irc.so"));
+    QVERIFY(plugins->loadFolder(folder));
+    protocol = plugins->protocol("IRC");
+    QVERIFY2(protocol, qPrintable(plugins->plugins().value(0).error));
+}
+
+void TestIrcConnection::cleanup()
+{
+    protocol = nullptr;
+    plugins.reset();
+    accounts.reset();
+    store.reset();
+    profile.reset();
+}
+
+/// An account that is off line yet, and does not keep a test waiting.
+KirvAccount *TestIrcConnection::createAccount(const QString &login, const Values &values, const QString &password)
+{
+    QList<KirvField> fields = protocol->getAccountSettings();
+    for (KirvField &field : fields) {
+        if (values.contains(field.getId()))
+            field.setText(values[field.getId()]);
+    }
+    auto *account = static_cast<KirvAccount *>(KirvAccountManager::getInstance()->createAccount(
+        login, login, password, true, protocol, presence("offline"), fields));
+    KirvConnection::Timing timing;
+    timing.loginTimeout = patience;
+    timing.firstRetry = 50;
+    timing.lastRetry = 200;
+    account->connection()->setTiming(timing);
+    return account;
+}
+
+KirvAccount *TestIrcConnection::createAccount(const KirvLocalServer &server, Values values, const QString &password)
+{
+    values.insert("server", server.host());
+    values.insert("port", QString::number(server.port()));
+    return createAccount("alice", values, password);
+}
+
+KirvAccount *TestIrcConnection::createAccount(const QTcpServer &server, Values values, const QString &password)
+{
+    values.insert("server", server.serverAddress().toString());
+    values.insert("port", QString::number(server.serverPort()));
+    return createAccount("alice", values, password);
+}
+
+KirvPresence TestIrcConnection::presence(const QString &id, const QString &description) const
+{
+    return protocol->createPresenceWithId(id, description);
+}
+
+void TestIrcConnection::goTo(KirvAccount *account, const QString &presenceId, const QString &text)
+{
+    account->setPresence(presence(presenceId, text));
+    protocol->accountPresenceChanged(account);
+}
+
+void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<bool>("matches");
+    QTest::newRow("nick") << "alice" << true;
+    QTest::newRow("special characters") << "[a]\\`_^{|}-9" << true;
+    QTest::newRow("nick and network") << "alice@irc.libera.chat" << true;
+    QTest::newRow("nick and address") << "alice@127.0.0.1" << true;
+    QTest::newRow("empty") << "" << false;
+    QTest::newRow("digit first") << "9alice" << false;
+    QTest::newRow("hyphen first") << "-alice" << false;
+    QTest::newRow("space") << "al ice" << false;
+    QTest::newRow("channel") << "#alice" << false;
+    QTest::newRow("no nick") << "@irc.libera.chat" << false;
+    QTest::newRow("no network") << "alice@" << false;
+    QTest::newRow("line break") << "alice\r\nQUIT" << false;
+}
+
+void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork()
+{
+    QFETCH(QString, login);
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(protocol->getLoginPattern()));
+    QTEST(pattern.match(login).hasMatch(), "matches");
+}
+
+void TestIrcConnection::configurationsFillTheForm()
+{
+    QVERIFY(protocol->getConfigurations().size() >= 5);
+    const int expected = protocol->getAccountSettings().size();
+    for (const QString &name : protocol->getConfigurations()) {
+        Values values;
+        for (const KirvField &field : protocol->getConfigurationFields(name))
+            values.insert(field.getId(), field.getText());
+        QCOMPARE(values.size(), expected);
+        QVERIFY(!values.contains("login"));
+        const bool isLocal = values["server"] == "127.0.0.1";
+        QCOMPARE(values["encryption"], isLocal ? QString("none") : QString("required"));
+        QCOMPARE(values["port"], isLocal ? QString("6667") : QString("6697"));
+        QVERIFY(!values["server"].isEmpty());
+    }
+    QVERIFY(protocol->getConfigurationFields("Nowhere").isEmpty());
+}
+
+void TestIrcConnection::localConfigurationKnowsThePortOfTheDemo()
+{
+    qputenv("KIRV_IRC_LOCAL_PORT", "12345");
+    const QList<KirvField> fields = protocol->getConfigurationFields(protocol->getConfigurations().last());
+    qunsetenv("KIRV_IRC_LOCAL_PORT");
+    QCOMPARE(fields.at(0).getText(), QString("127.0.0.1"));
+    QCOMPARE(fields.at(1).getText(), QString("12345"));
+}
+
+void TestIrcConnection::thereIsNoDirectory()
+{
+    QVERIFY(protocol->getPubdirAccountFields().isEmpty());
+    QVERIFY(!QFile::exists("irc.svg") && QFile::exists(protocol->getIconPath(0)));
+}
+
+void TestIrcConnection::unusableSettingsAreSaid_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<Values>("values");
+    const Values local { { "server", "127.0.0.1" } };
+    const auto with = [&local](const QString &id, const QString &value) {
+        Values values = local;
+        values.insert(id, value);
+        return values;
+    };
+    QTest::newRow("no server") << "alice" << Values();
+    QTest::newRow("server of two lines") << "alice" << with("server", "a\r\nb");
+    QTest::newRow("port 0") << "alice" << with("port", "0");
+    QTest::newRow("port too large") << "alice" << with("port", "70000");
+    QTest::newRow("nick that is none") << "9 lives" << local;
+    QTest::newRow("nick of two lines") << "alice\r\nQUIT" << local;
+    QTest::newRow("certificate is not there") << "alice" << with("certificate", "/nonexistent.pem");
+    QTest::newRow("certificate is none") << "alice" << with("certificate", KIRV_IRC_PLUGIN);
+}
+
+void TestIrcConnection::unusableSettingsAreSaid()
+{
+    QFETCH(QString, login);
+    QFETCH(Values, values);
+    KirvAccount *account = createAccount(login, values);
+    goTo(account, "available");
+    TRY_FAILURE(account, BadSettings);
+    TRY_STATE(account, Offline);
+    QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
+}
+
+void TestIrcConnection::logsInAndOut_data()
+{
+    QTest::addColumn<bool>("encrypted");
+    QTest::newRow("plain") << false;
+    QTest::newRow("TLS") << true;
+}
+
+void TestIrcConnection::logsInAndOut()
+{
+    QFETCH(bool, encrypted);
+    KirvNgircdServer server;
+    server.setEncrypted(encrypted);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account =
+        createAccount(server, encrypted ? Values { { "certificate", server.certificateFile() } } : plain());
+    QSignalSpy notices(account->connection(), &KirvConnection::noticeReceived);
+
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    QCOMPARE(failure(account), KirvFailure::None);
+    QVERIFY(notices.isEmpty());
+
+    goTo(account, "offline");
+    TRY_STATE(account, Offline);
+    QCOMPARE(failure(account), KirvFailure::None);
+    QTRY_VERIFY2_WITH_TIMEOUT(server.output().contains("Got QUIT command"), qPrintable(server.output()), patience);
+}
+
+void TestIrcConnection::loginNamesTheServerWhenNoSettingDoes()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account =
+        createAccount("alice@127.0.0.1", { { "port", QString::number(server.port()) }, { "encryption", "none" } });
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    QVERIFY(bob.sees("alice"));
+}
+
+void TestIrcConnection::untrustedCertificateIsRefused()
+{
+    KirvNgircdServer server;
+    server.setEncrypted(true);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account = createAccount(server);
+    goTo(account, "available");
+    TRY_FAILURE(account, UntrustedCertificate);
+    TRY_STATE(account, Offline);
+    QVERIFY(!server.output().contains("alice"));
+}
+
+void TestIrcConnection::certificateForAnotherNameIsRefused()
+{
+    KirvNgircdServer server;
+    server.setEncrypted(true);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    // The same certificate at an address that it does not name.
+    TlsServer other(server.certificateFile(), server.folder() + "/key.pem");
+    QVERIFY2(other.listen(QHostAddress("127.0.0.2")), qPrintable(other.errorString()));
+    KirvAccount *account = createAccount(other, { { "certificate", server.certificateFile() } });
+    goTo(account, "available");
+    TRY_FAILURE(account, UntrustedCertificate);
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::serverWithoutEncryptionIsRefused()
+{
+    ScriptedServer server(nullptr, ":server NOTICE * :*** Looking up your name\r\n");
+    KirvAccount *account = createAccount(server);
+    goTo(account, "available");
+    TRY_FAILURE(account, EncryptionNotOffered);
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::takenNickIsReplaced_data()
+{
+    QTest::addColumn<QString>("alternatives");
+    QTest::addColumn<QStringList>("taken");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("alternative") << "alice2, alice3" << QStringList { "alice" } << "alice2";
+    QTest::newRow("second alternative") << "alice2, alice3" << QStringList { "alice", "alice2" } << "alice3";
+    QTest::newRow("alternative that the server refuses")
+        << "muchtoolongforanicktobeacceptedhere,alice3" << QStringList { "alice" } << "alice3";
+    QTest::newRow("alternative that is no nick") << "9lives,alice3" << QStringList { "alice" } << "alice3";
+    QTest::newRow("no alternative") << "" << QStringList { "alice" } << "alice_";
+    QTest::newRow("alternative taken, too") << "alice2" << QStringList { "alice", "alice2", "alice_" } << "alice__";
+}
+
+void TestIrcConnection::takenNickIsReplaced()
+{
+    QFETCH(QString, alternatives);
+    QFETCH(QStringList, taken);
+    QFETCH(QString, expected);
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    std::vector<Somebody> others(taken.size());
+    for (int i = 0; i < taken.size(); ++i)
+        QVERIFY(others[i].logIn(server, taken[i]));
+
+    KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "alternative_nicks", alternatives } });
+    QSignalSpy notices(account->connection(), &KirvConnection::noticeReceived);
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    QVERIFY(others[0].sees(expected));
+    QTRY_COMPARE(notices.size(), 1);
+    QVERIFY(notices[0][0].toString().contains(QString("“%1”").arg(expected)));
+}
+
+void TestIrcConnection::allNicksTaken()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    const QStringList taken { "alice", "alice2", "alice_", "alice__", "alice___" };
+    std::vector<Somebody> others(taken.size());
+    for (int i = 0; i < taken.size(); ++i)
+        QVERIFY(others[i].logIn(server, taken[i]));
+
+    KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "alternative_nicks", "alice2" } });
+    goTo(account, "available");
+    TRY_FAILURE(account, NameInUse);
+    TRY_STATE(account, Offline);
+    QCOMPARE(account->connection()->lastFailure().detail(), QString("alice"));
+}
+
+void TestIrcConnection::nickThatTheServerRefuses()
+{
+    KirvNgircdServer server;
+    server.setMaximumNickLength(4);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "alternative_nicks", "al" } });
+    goTo(account, "available");
+    TRY_FAILURE(account, NameNotAllowed);
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::serverPassword_data()
+{
+    QTest::addColumn<QString>("use");
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<KirvFailure::Kind>("expected");
+    QTest::newRow("right") << "server"
+                           << "open : sesame" << KirvFailure::None;
+    QTest::newRow("wrong") << "server"
+                           << "shut" << KirvFailure::AccessDenied;
+    QTest::newRow("not sent") << "none"
+                              << "open : sesame" << KirvFailure::AccessDenied;
+    QTest::newRow("two lines") << "server"
+                               << "open\r\nQUIT" << KirvFailure::BadSettings;
+}
+
+void TestIrcConnection::serverPassword()
+{
+    QFETCH(QString, use);
+    QFETCH(QString, password);
+    QFETCH(KirvFailure::Kind, expected);
+    KirvNgircdServer server;
+    server.setPassword("open : sesame");
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, password);
+    goTo(account, "available");
+    QTRY_VERIFY_WITH_TIMEOUT(failure(account) != KirvFailure::None || state(account) == KirvConnection::Online,
+                             patience);
+    QCOMPARE(failure(account), expected);
+    if (expected != KirvFailure::None)
+        TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::passwordIsKeptWhenItIsNotUsed()
+{
+    ScriptedServer server(welcome);
+    KirvAccount *account = createAccount(server, plain(), "topsecret");
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    QVERIFY(server.hasReceived("NICK alice"));
+    QVERIFY(!server.hasReceived("PASS") && !server.hasReceived("topsecret"));
+}
+
+void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed_data()
+{
+    QTest::addColumn<QString>("use");
+    QTest::addColumn<bool>("isAskedFor");
+    QTest::newRow("not used") << "none" << false;
+    QTest::newRow("server") << "server" << true;
+    QTest::newRow("SASL") << "sasl" << true;
+}
+
+void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
+{
+    QFETCH(QString, use);
+    QFETCH(bool, isAskedFor);
+    ScriptedServer server(welcome);
+    KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, QString());
+    qRegisterMetaType<KirvAccount *>();
+    QSignalSpy questions(accounts.get(), &KirvAccountRegistry::passwordNeeded);
+    goTo(account, "available");
+    QTRY_VERIFY_WITH_TIMEOUT(!questions.isEmpty() || state(account) == KirvConnection::Online, patience);
+    QCOMPARE(!questions.isEmpty(), isAskedFor);
+    QCOMPARE(server.linesWith("NICK").isEmpty(), isAskedFor);
+}
+
+void TestIrcConnection::awayIsSeenByOthers_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("seen");
+    QTest::newRow("text") << "Gone fishing"
+                          << "Gone fishing";
+    QTest::newRow("no text") << ""
+                             << "Away";
+    QTest::newRow("white space only") << " \n"
+                                      << "Away";
+    QTest::newRow("other script") << "Schöne Grüße, 日本"
+                                  << "Schöne Grüße, 日本";
+    QTest::newRow("line breaks") << "Gone\r\nQUIT :by force"
+                                 << "Gone  QUIT :by force";
+}
+
+void TestIrcConnection::awayIsSeenByOthers()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, seen);
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    goTo(account, "away", text);
+    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), seen, patience);
+    QCOMPARE(state(account), KirvConnection::Online);
+    QVERIFY(bob.sees("alice"));
+}
+
+void TestIrcConnection::backIsSeenByOthers()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    goTo(account, "away", "Lunch");
+    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Lunch"), patience);
+    goTo(account, "available", "This is not sent");
+    QTRY_VERIFY_WITH_TIMEOUT(bob.awayTextOf("alice").isNull(), patience);
+    QVERIFY(bob.sees("alice"));
+}
+
+void TestIrcConnection::arrivesAway()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "away", "Still asleep");
+    TRY_STATE(account, Online);
+    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Still asleep"), patience);
+}
+
+void TestIrcConnection::longAwayTextKeepsTheConnection()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    goTo(account, "away", QString(1000000, QChar(0x65e5)));
+    QTRY_VERIFY_WITH_TIMEOUT(bob.awayTextOf("alice").startsWith(QString(30, QChar(0x65e5))), patience);
+    QCOMPARE(state(account), KirvConnection::Online);
+}
+
+void TestIrcConnection::killedServerIsReachedAgain()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "away", "Out");
+    TRY_STATE(account, Online);
+
+    QSignalSpy failures(account->connection(), &KirvConnection::failed);
+    server.kill();
+    TRY_STATE(account, Waiting);
+    QCOMPARE(failures.value(0).value(0).value<KirvFailure>().kind(), KirvFailure::ConnectionLost);
+
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    TRY_STATE(account, Online);
+    QCOMPARE(failure(account), KirvFailure::None);
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Out"), patience);
+}
+
+void TestIrcConnection::stoppedServerSaysGoodbye()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    QSignalSpy failures(account->connection(), &KirvConnection::failed);
+    server.stop();
+    QTRY_VERIFY_WITH_TIMEOUT(!failures.isEmpty(), patience);
+    QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::ServerShutDown);
+    goTo(account, "offline");
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::hungServerTimesOut()
+{
+    ScriptedServer server(nullptr);
+    KirvAccount *account = createAccount(server, plain());
+    KirvConnection::Timing timing = account->connection()->timing();
+    timing.loginTimeout = 100;
+    timing.firstRetry = patience;
+    account->connection()->setTiming(timing);
+    goTo(account, "available");
+    TRY_FAILURE(account, TimedOut);
+    QCOMPARE(state(account), KirvConnection::Waiting);
+    QVERIFY(server.hasReceived("NICK alice"));
+}
+
+void TestIrcConnection::serverThatFallsSilentIsLost()
+{
+    ScriptedServer server(welcome);
+    KirvAccount *account = createAccount(server, plain());
+    KirvConnection::Timing timing = account->connection()->timing();
+    timing.requestTimeout = 50;
+    timing.firstRetry = patience;
+    account->connection()->setTiming(timing);
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    TRY_FAILURE(account, ConnectionLost);
+    QVERIFY(server.hasReceived("PING"));
+    QCOMPARE(state(account), KirvConnection::Waiting);
+}
+
+void TestIrcConnection::quietServerIsKept()
+{
+    ScriptedServer server(welcomeAndPong);
+    KirvAccount *account = createAccount(server, plain());
+    KirvConnection::Timing timing = account->connection()->timing();
+    timing.requestTimeout = 200;
+    account->connection()->setTiming(timing);
+    QSignalSpy failures(account->connection(), &KirvConnection::failed);
+    goTo(account, "available");
+    const auto pings = [&server] { return server.linesWith("PING").size(); };
+    QTRY_VERIFY_WITH_TIMEOUT(pings() >= 2, patience);
+    QCOMPARE(state(account), KirvConnection::Online);
+    QVERIFY(failures.isEmpty());
+}
+
+void TestIrcConnection::nobodyListens()
+{
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    KirvAccount *account = createAccount(server, plain());
+    server.close();
+    goTo(account, "available");
+    TRY_FAILURE(account, ConnectionRefused);
+    goTo(account, "offline");
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::serverIsNotFound()
+{
+    // A label of more than 63 characters is no name: nobody has to be asked.
+    KirvAccount *account = createAccount("alice", { { "server", QString(70, 'a') + ".invalid" } });
+    goTo(account, "available");
+    TRY_FAILURE(account, HostNotFound);
+    goTo(account, "offline");
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::bannedUserStaysOut_data()
+{
+    QTest::addColumn<QByteArray>("answer");
+    QTest::newRow("numeric") << QByteArray(":server 465 alice :You are banned\r\n");
+    QTest::newRow("error") << QByteArray("ERROR :Closing Link: 127.0.0.1 (K-Lined)\r\n");
+}
+
+void TestIrcConnection::bannedUserStaysOut()
+{
+    QFETCH(QByteArray, answer);
+    ScriptedServer server([answer](const QByteArray &line) { return line.startsWith("USER ") ? answer : ""; });
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_FAILURE(account, AccessDenied);
+    TRY_STATE(account, Offline);
+}
+
+void TestIrcConnection::serverThatIsBusyIsTriedAgain()
+{
+    bool busy = true;
+    ScriptedServer server([&busy](const QByteArray &line) {
+        return busy && line.startsWith("USER ") ? "ERROR :Closing Link: Reconnecting too fast\r\n" : welcome(line);
+    });
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_FAILURE(account, ServerShutDown);
+    busy = false;
+    TRY_STATE(account, Online);
+}
+
+void TestIrcConnection::removedAccountLeavesTheServer()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Somebody bob;
+    QVERIFY(bob.logIn(server, "bob"));
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+    QVERIFY(bob.sees("alice"));
+    KirvAccountManager::getInstance()->removeAccount("alice", "IRC");
+    QTRY_VERIFY_WITH_TIMEOUT(!bob.sees("alice"), patience);
+}
+
+void TestIrcConnection::saslLogsIn_data()
+{
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<QByteArray>("capabilities");
+    QTest::newRow("nick") << ""
+                          << "pass word" << QByteArray("sasl");
+    QTest::newRow("another user") << "alicia"
+                                  << "päss:wörd" << QByteArray("multi-prefix sasl=EXTERNAL,PLAIN");
+    QTest::newRow("long password") << "" << QString(400, 'x') << QByteArray("sasl");
+    // 300 bytes of credentials make one piece of full size, which must be followed by an empty one.
+    QTest::newRow("full piece") << "" << QString(293, 'x') << QByteArray("sasl");
+}
+
+void TestIrcConnection::saslLogsIn()
+{
+    QFETCH(QString, user);
+    QFETCH(QString, password);
+    QFETCH(QByteArray, capabilities);
+    ScriptedServer server(saslServer("903", capabilities));
+    const Values values { { "encryption", "none" }, { "password_use", "sasl" }, { "sasl_user", user } };
+    KirvAccount *account = createAccount(server, values, password);
+    goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    QByteArray credentials;
+    for (const QByteArray &line : server.linesWith("AUTHENTICATE ")) {
+        if (line != "AUTHENTICATE PLAIN" && line != "AUTHENTICATE +")
+            credentials += line.mid(13);
+    }
+    const QString name = user.isEmpty() ? "alice" : user;
+    QCOMPARE(QByteArray::fromBase64(credentials).split('\0'),
+             (QByteArrayList { "", name.toUtf8(), password.toUtf8() }));
+    QVERIFY(!server.hasReceived("PASS"));
+    QCOMPARE(server.linesWith("CAP END").size(), 1);
+}
+
+void TestIrcConnection::saslPasswordIsRefused()
+{
+    ScriptedServer server(saslServer("904"));
+    KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", "sasl" } });
+    goTo(account, "available");
+    TRY_FAILURE(account, WrongPassword);
+    TRY_STATE(account, Offline);
+    QVERIFY(!server.hasReceived("CAP END"));
+}
+
+void TestIrcConnection::saslIsNotOffered_data()
+{
+    QTest::addColumn<QByteArray>("answerToList");
+    QTest::addColumn<QByteArray>("answerToRequest");
+    QTest::newRow("no capabilities at all") << QByteArray(":server 421 * CAP :Unknown command\r\n") << QByteArray();
+    QTest::newRow("no such capability") << QByteArray(":server CAP * LS :multi-prefix\r\n") << QByteArray();
+    QTest::newRow("empty list") << QByteArray(":server CAP * LS :\r\n") << QByteArray();
+    QTest::newRow("other mechanisms") << QByteArray(":server CAP * LS :sasl=EXTERNAL\r\n") << QByteArray();
+    QTest::newRow("request refused") << QByteArray(":server CAP * LS * :a b\r\n:server CAP * LS :sasl\r\n")
+                                     << QByteArray(":server CAP * NAK :sasl\r\n");
+}
+
+void TestIrcConnection::saslIsNotOffered()
+{
+    QFETCH(QByteArray, answerToList);
+    QFETCH(QByteArray, answerToRequest);
+    ScriptedServer server([=](const QByteArray &line) {
+        if (line.startsWith("CAP LS"))
+            return answerToList;
+        return line.startsWith("CAP REQ")  ? answerToRequest
+            : answerToList.contains("421") ? welcome(line)
+                                           : QByteArray();
+    });
+    const Values values { { "encryption", "none" }, { "password_use", "sasl" } };
+    KirvAccount *account = createAccount(server, values, "topsecret");
+    goTo(account, "available");
+    TRY_FAILURE(account, AuthenticationNotOffered);
+    TRY_STATE(account, Offline);
+    QVERIFY(!server.hasReceived("topsecret") && !server.hasReceived(QByteArray("\0alice\0topsecret", 16).toBase64()));
+}
+
+QTEST_GUILESS_MAIN(TestIrcConnection)
+#include "tst_irc_connection.moc"
