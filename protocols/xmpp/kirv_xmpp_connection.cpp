@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_connection.h"
+
+#include "host/kirv_account_connection.h"
+#include "protocols/xmpp/kirv_xmpp_directory.h"
+#include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <QXmppConfiguration.h>
+
+namespace {
+
+const int longestStatus = 1000;
+const auto registrationSpace = QStringLiteral("jabber:iq:register");
+
+} // namespace
+
+KirvXmppConnection::KirvXmppConnection(KirvAccountConnection *account, KirvClock &clock, QObject *parent)
+    : KirvConnection(account, clock, parent)
+{
+}
+
+KirvXmppConnection::~KirvXmppConnection()
+{
+    abortConnection();
+}
+
+void KirvXmppConnection::startLogin(const KirvPresence &presence)
+{
+    settings = KirvXmppSettings(account()->getAccountSettingsInOrder());
+    const QString user = account()->getUid().section(QLatin1Char('@'), 0, 0);
+    const QString domain = account()->getUid().section(QLatin1Char('@'), 1);
+    if (user.isEmpty() || domain.isEmpty()) {
+        loginFailed(KirvFailure(KirvFailure::BadSettings, tr("The login must be an address such as user@domain.")));
+        return;
+    }
+    if (account()->getPassword().isEmpty()) {
+        loginFailed(KirvFailure::PasswordMissing);
+        return;
+    }
+    QXmppConfiguration configuration;
+    QString problem;
+    if (!settings.apply(domain, &configuration, &problem)) {
+        loginFailed(KirvFailure(KirvFailure::BadSettings, problem));
+        return;
+    }
+    configuration.setUser(user);
+    configuration.setPassword(account()->getPassword());
+    photoState = QXmppPresence::VCardUpdateNotReady;
+    createLink();
+    link->open(configuration, toXmpp(presence));
+}
+
+void KirvXmppConnection::createLink()
+{
+    abortConnection();
+    link.reset(new KirvXmppLink(KirvXmppLink::LogIn, clock(), timing().requestTimeout));
+    directory.reset(new KirvXmppDirectory(*link));
+    connect(link.data(), &KirvXmppLink::loggedIn, this, &KirvXmppConnection::finishLogin);
+    connect(link.data(), &KirvXmppLink::ended, this, &KirvXmppConnection::receiveEnd);
+}
+
+void KirvXmppConnection::finishLogin()
+{
+    if (account()->getCurrentAvatarPath().isEmpty()) {
+        directory->read([this](const KirvFailure &failure, const KirvXmppVCard &card) {
+            if (!failure.isFailure())
+                advertise(card.photo());
+        });
+    } else {
+        publishAvatar();
+    }
+    loginSucceeded();
+}
+
+void KirvXmppConnection::receiveEnd(const KirvFailure &failure)
+{
+    if (state() == Disconnecting)
+        logoutFinished();
+    else if (state() == Connecting)
+        loginFailed(failure);
+    else
+        connectionLost(failure);
+}
+
+void KirvXmppConnection::startLogout()
+{
+    link->close();
+}
+
+void KirvXmppConnection::abortConnection()
+{
+    if (!link)
+        return;
+    link->disconnect(this);
+    link->abort();
+    directory.reset();
+    link.reset();
+}
+
+void KirvXmppConnection::applyPresence(const KirvPresence &presence)
+{
+    link->sendPresence(toXmpp(presence));
+}
+
+QXmppPresence KirvXmppConnection::toXmpp(const KirvPresence &presence) const
+{
+    const QString id = presence.getId();
+    QXmppPresence result;
+    if (id == QLatin1String("invisible")) {
+        result.setType(QXmppPresence::Unavailable);
+        return result;
+    }
+    if (id == QLatin1String("chat"))
+        result.setAvailableStatusType(QXmppPresence::Chat);
+    else if (id == QLatin1String("away"))
+        result.setAvailableStatusType(QXmppPresence::Away);
+    else if (id == QLatin1String("xa"))
+        result.setAvailableStatusType(QXmppPresence::XA);
+    else if (id == QLatin1String("dnd"))
+        result.setAvailableStatusType(QXmppPresence::DND);
+    result.setStatusText(kirvXmppSendable(presence.getDescription().left(longestStatus)));
+    result.setPriority(settings.priority);
+    result.setVCardUpdateType(photoState);
+    result.setPhotoHash(photoHash);
+    return result;
+}
+
+void KirvXmppConnection::fetchDirectory()
+{
+    changeDirectory([](KirvXmppVCard &) { return false; });
+}
+
+void KirvXmppConnection::publishDirectory(const QList<KirvField> &fields)
+{
+    changeDirectory([fields](KirvXmppVCard &card) {
+        card.setFields(fields);
+        return true;
+    });
+}
+
+void KirvXmppConnection::deleteDirectory()
+{
+    changeDirectory([](KirvXmppVCard &card) {
+        card.clear();
+        return true;
+    });
+}
+
+/// Answers with the entry as it is after \a change.
+void KirvXmppConnection::changeDirectory(const std::function<bool(KirvXmppVCard &)> &change)
+{
+    if (!isLoggedIn()) {
+        answerWithoutDirectory();
+        return;
+    }
+    const int request = beginDirectoryRequest();
+    directory->change(change, [this, request](const KirvFailure &failure, const KirvXmppVCard &card) {
+        if (failure.isFailure())
+            failDirectoryRequest(failure, request);
+        else
+            finishDirectoryRequest(card.toFields(), request);
+    });
+}
+
+void KirvXmppConnection::publishAvatar()
+{
+    if (!link || !link->isReady())
+        return;
+    const QString path = account()->getCurrentAvatarPath();
+    const KirvXmppPhoto photo = path.isEmpty() ? KirvXmppPhoto() : KirvXmppPhoto::fromFile(path);
+    if (photo.isNull() && !path.isEmpty()) {
+        requestFailed(KirvFailure(KirvFailure::RequestFailed, tr("The picture of the account cannot be read.")));
+        return;
+    }
+    const auto change = [photo](KirvXmppVCard &card) {
+        const bool differs = card.photo().data != photo.data;
+        if (differs)
+            card.setPhoto(photo);
+        return differs;
+    };
+    directory->change(change, [this](const KirvFailure &failure, const KirvXmppVCard &card) {
+        if (failure.isFailure())
+            requestFailed(failure);
+        else
+            advertise(card.photo());
+    });
+}
+
+/// Tells the contacts in the presence which picture is the present one.
+void KirvXmppConnection::advertise(const KirvXmppPhoto &photo)
+{
+    photoState = photo.isNull() ? QXmppPresence::VCardUpdateNoPhoto : QXmppPresence::VCardUpdateValidPhoto;
+    photoHash = photo.hash();
+    if (isLoggedIn())
+        applyPresence(wantedPresence());
+}
+
+void KirvXmppConnection::changePassword(const QString &password, const Receiver &receiver)
+{
+    QDomElement query = kirvXmppNewElement(registrationSpace, QStringLiteral("query"));
+    kirvXmppAppend(query, QStringLiteral("username"), account()->getUid().section(QLatin1Char('@'), 0, 0));
+    kirvXmppAppend(query, QStringLiteral("password"), password);
+    askServer(query, receiver);
+}
+
+void KirvXmppConnection::deleteOnServer(const Receiver &receiver)
+{
+    QDomElement query = kirvXmppNewElement(registrationSpace, QStringLiteral("query"));
+    kirvXmppAppend(query, QStringLiteral("remove"));
+    askServer(query, [this, receiver](const KirvFailure &failure) {
+        if (!failure.isFailure())
+            drop(); // the server ends the stream now, which is no failure
+        receiver(failure);
+    });
+}
+
+void KirvXmppConnection::askServer(const QDomElement &query, const Receiver &receiver)
+{
+    if (!isLoggedIn()) {
+        receiver(KirvFailure(KirvFailure::RequestFailed, tr("The account is not connected.")));
+        return;
+    }
+    const QString server = account()->getUid().section(QLatin1Char('@'), 1);
+    link->ask(
+        QXmppIq::Set, query, [receiver](const KirvXmppAnswer &answer) { receiver(answer.failure); }, server);
+}

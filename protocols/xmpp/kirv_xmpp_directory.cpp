@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_directory.h"
+
+#include "protocols/xmpp/kirv_xmpp_link.h"
+
+KirvXmppDirectory::KirvXmppDirectory(KirvXmppLink &link)
+    : link(link)
+{
+}
+
+void KirvXmppDirectory::read(const Receiver &receiver)
+{
+    add({ [](KirvXmppVCard &) { return false; }, receiver });
+}
+
+void KirvXmppDirectory::change(const Change &change, const Receiver &receiver)
+{
+    add({ change, receiver });
+}
+
+void KirvXmppDirectory::add(const Job &job)
+{
+    jobs << job;
+    if (jobs.size() == 1)
+        startNext();
+}
+
+void KirvXmppDirectory::startNext()
+{
+    link.ask(QXmppIq::Get, KirvXmppVCard().element(), [this](const KirvXmppAnswer &answer) {
+        KirvXmppVCard card(answer.payload);
+        const bool hasNone = answer.condition == QLatin1String("item-not-found");
+        if (answer.isError() && !hasNone)
+            finish(answer.failure, KirvXmppVCard());
+        else if (jobs.first().change(card))
+            write(card);
+        else
+            finish(KirvFailure(), card);
+    });
+}
+
+void KirvXmppDirectory::write(const KirvXmppVCard &card)
+{
+    if (card.size() > KirvXmppVCard::largestSize) {
+        finish(KirvFailure(KirvFailure::RequestFailed, tr("The directory entry is too long to be sent.")), card);
+        return;
+    }
+    link.ask(QXmppIq::Set, card.element(),
+             [this, card](const KirvXmppAnswer &answer) { finish(answer.failure, card); });
+}
+
+void KirvXmppDirectory::finish(const KirvFailure &failure, const KirvXmppVCard &card)
+{
+    // Started first: the receiver may destroy all this.
+    const Job done = jobs.takeFirst();
+    if (!jobs.isEmpty())
+        startNext();
+    done.receiver(failure, card);
+}

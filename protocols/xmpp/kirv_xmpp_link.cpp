@@ -1,0 +1,341 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_link.h"
+
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <QPointer>
+#include <QXmppClientExtension.h>
+#include <QXmppElement.h>
+
+namespace {
+
+const auto streamSpace = QStringLiteral("http://etherx.jabber.org/streams");
+const auto streamErrorSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-streams");
+const auto stanzaErrorSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-stanzas");
+const auto encryptionSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-tls");
+const auto authenticationSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-sasl");
+const auto registrationFeatureSpace = QStringLiteral("http://jabber.org/features/iq-register");
+
+struct ErrorDescription {
+    QString condition;
+    QString text;
+};
+
+/// What an error element says: its condition and, where it has one, a text for people.
+ErrorDescription describe(const QDomElement &error, const QString &space)
+{
+    ErrorDescription description;
+    for (QDomElement child = error.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (child.namespaceURI() != space)
+            continue;
+        if (child.localName() == QLatin1String("text"))
+            description.text = child.text();
+        else if (description.condition.isEmpty())
+            description.condition = child.localName();
+    }
+    return description;
+}
+
+/// A sentence for the conditions that people meet; the server's own words or the bare condition otherwise.
+QString sentenceFor(const ErrorDescription &description)
+{
+    const QString &condition = description.condition;
+    if (!description.text.isEmpty())
+        return description.text;
+    if (condition == QLatin1String("conflict"))
+        return KirvXmppLink::tr("the name is already in use");
+    if (condition == QLatin1String("not-acceptable") || condition == QLatin1String("bad-request"))
+        return KirvXmppLink::tr("the server does not accept what was sent");
+    if (condition == QLatin1String("not-allowed") || condition == QLatin1String("forbidden"))
+        return KirvXmppLink::tr("the server does not allow it");
+    if (condition == QLatin1String("resource-constraint") || condition == QLatin1String("policy-violation"))
+        return KirvXmppLink::tr("the server does not allow it now");
+    return condition;
+}
+
+KirvFailure failureOf(const ErrorDescription &description)
+{
+    const QString &condition = description.condition;
+    if (condition == QLatin1String("feature-not-implemented") || condition == QLatin1String("service-unavailable"))
+        return KirvFailure(KirvFailure::NotSupported, description.text);
+    return KirvFailure(KirvFailure::RequestFailed, sentenceFor(description));
+}
+
+} // namespace
+
+/// Sees every element of the stream before the library does.
+class KirvXmppLink::Tap : public QXmppClientExtension {
+public:
+    explicit Tap(KirvXmppLink &link)
+        : link(link)
+    {
+    }
+
+    bool handleStanza(const QDomElement &stanza) override { return link.receive(stanza); }
+
+private:
+    KirvXmppLink &link;
+};
+
+KirvXmppLink::KirvXmppLink(Purpose purpose, KirvClock &clock, int answerTimeout, QObject *parent)
+    : QObject(parent)
+    , purpose(purpose)
+    , clock(clock)
+    , answerTimeout(answerTimeout)
+{
+    client.insertExtension(0, new Tap(*this));
+    connect(&client, &QXmppClient::connected, this, &KirvXmppLink::receiveConnected);
+    connect(&client, &QXmppClient::disconnected, this, &KirvXmppLink::endSoon);
+    connect(&client, &QXmppClient::error, this, &KirvXmppLink::receiveError);
+    connect(&client, &QXmppClient::sslErrors, this, &KirvXmppLink::receiveSslErrors);
+}
+
+KirvXmppLink::~KirvXmppLink()
+{
+    client.disconnect(this);
+}
+
+void KirvXmppLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
+{
+    address = configuration.jidBare();
+    client.connectToServer(configuration, presence);
+}
+
+void KirvXmppLink::close()
+{
+    isClosing = true;
+    client.disconnectFromServer();
+    if (client.state() == QXmppClient::DisconnectedState)
+        endSoon();
+}
+
+void KirvXmppLink::abort()
+{
+    hasEnded = true;
+    receivers.clear();
+    client.disconnectFromServer();
+}
+
+bool KirvXmppLink::isReady() const
+{
+    return hasArrived && !isClosing && !hasEnded && !reason.isFailure();
+}
+
+void KirvXmppLink::sendPresence(const QXmppPresence &presence)
+{
+    // The client would take an unavailable presence of its own for a wish to disconnect.
+    if (presence.type() == QXmppPresence::Unavailable)
+        client.sendPacket(presence);
+    else
+        client.setClientPresence(presence);
+}
+
+void KirvXmppLink::ask(QXmppIq::Type type, const QDomElement &payload, const Receiver &receiver, const QString &to)
+{
+    QXmppIq question(type);
+    question.setTo(to);
+    question.setExtensions({ QXmppElement(payload) });
+    const QString id = question.id();
+    receivers.insert(id, receiver);
+    const auto giveUp = [this, id](const KirvFailure &failure) {
+        KirvXmppAnswer none;
+        none.failure = failure;
+        answer(id, none);
+    };
+    if (isReady() && client.sendPacket(question))
+        clock.callLater(answerTimeout, this, [=] { giveUp(KirvFailure(KirvFailure::TimedOut, serverName())); });
+    else
+        clock.callLater(0, this, [=] { giveUp(KirvFailure::ConnectionLost); });
+}
+
+bool KirvXmppLink::receive(const QDomElement &stanza)
+{
+    const QString name = stanza.localName();
+    const QString space = stanza.namespaceURI();
+    if (space == streamSpace && name == QLatin1String("features"))
+        return receiveFeatures(stanza);
+    if (space == streamSpace && name == QLatin1String("error"))
+        receiveStreamError(stanza);
+    else if (space == encryptionSpace && name == QLatin1String("proceed"))
+        isEncrypted = true;
+    else if (space == authenticationSpace && name == QLatin1String("failure"))
+        receiveRefusal(stanza);
+    else if (name == QLatin1String("iq"))
+        return receiveAnswer(stanza);
+    return false;
+}
+
+/// True when the features are dealt with: the library would go on and log in.
+bool KirvXmppLink::receiveFeatures(const QDomElement &features)
+{
+    const auto security = client.configuration().streamSecurityMode();
+    const QDomElement encryption = kirvXmppChild(features, encryptionSpace, QStringLiteral("starttls"));
+    const bool mayEncrypt = !encryption.isNull() && security != QXmppConfiguration::TLSDisabled;
+    hasMechanisms = !kirvXmppChild(features, authenticationSpace, QStringLiteral("mechanisms")).isNull();
+
+    if (!isEncrypted && mayEncrypt)
+        return false;
+    if (!isEncrypted && security == QXmppConfiguration::TLSRequired) {
+        fail(KirvFailure::EncryptionNotOffered);
+        return false;
+    }
+    if (!isEncrypted && !kirvXmppChild(encryption, encryptionSpace, QStringLiteral("required")).isNull()) {
+        fail(KirvFailure(KirvFailure::BadSettings, tr("the server requires encryption")));
+        return true;
+    }
+    if (purpose == LogIn)
+        return false;
+    hasArrived = true;
+    Q_EMIT readyToRegister(!kirvXmppChild(features, registrationFeatureSpace, QStringLiteral("register")).isNull());
+    return true;
+}
+
+void KirvXmppLink::receiveStreamError(const QDomElement &error)
+{
+    const ErrorDescription description = describe(error, streamErrorSpace);
+    if (description.condition == QLatin1String("see-other-host"))
+        return; // the library goes there
+    if (description.condition == QLatin1String("conflict"))
+        fail(KirvFailure::LoggedInElsewhere);
+    else if (description.condition == QLatin1String("host-unknown"))
+        fail(KirvFailure(KirvFailure::BadSettings, tr("the server does not serve the domain of the login")));
+    else if (description.condition == QLatin1String("policy-violation"))
+        fail(KirvFailure(KirvFailure::AccessDenied, description.text));
+    else
+        fail(KirvFailure(KirvFailure::ServerShutDown, description.text));
+}
+
+void KirvXmppLink::receiveRefusal(const QDomElement &failure)
+{
+    const ErrorDescription description = describe(failure, authenticationSpace);
+    if (description.condition == QLatin1String("account-disabled"))
+        fail(KirvFailure(KirvFailure::AccessDenied, description.text));
+    else if (description.condition == QLatin1String("temporary-auth-failure"))
+        fail(KirvFailure(KirvFailure::Other, sentenceFor(description)));
+    else if (description.condition == QLatin1String("encryption-required"))
+        fail(KirvFailure(KirvFailure::BadSettings, tr("the server requires encryption")));
+    else if (description.condition.contains(QLatin1String("mechanism")))
+        fail(KirvFailure::AuthenticationNotOffered);
+    else
+        fail(KirvFailure::WrongPassword);
+}
+
+bool KirvXmppLink::receiveAnswer(const QDomElement &iq)
+{
+    const QString type = iq.attribute(QStringLiteral("type"));
+    const QString id = iq.attribute(QStringLiteral("id"));
+    const bool isError = type == QLatin1String("error");
+    if (!receivers.contains(id) || (!isError && type != QLatin1String("result")))
+        return false;
+
+    KirvXmppAnswer received;
+    received.iq = iq;
+    for (QDomElement child = iq.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (child.localName() == QLatin1String("error")) {
+            const ErrorDescription description = describe(child, stanzaErrorSpace);
+            received.condition = description.condition;
+            received.failure = failureOf(description);
+        } else if (received.payload.isNull()) {
+            received.payload = child;
+        }
+    }
+    if (isError && !received.isError())
+        received.failure = KirvFailure::RequestFailed;
+    answer(id, received);
+    return true;
+}
+
+void KirvXmppLink::receiveConnected()
+{
+    if (!client.isAuthenticated()) {
+        fail(KirvFailure::AuthenticationNotOffered);
+        return;
+    }
+    hasArrived = true;
+    Q_EMIT loggedIn();
+}
+
+void KirvXmppLink::receiveError(QXmppClient::Error error)
+{
+    if (error == QXmppClient::SocketError)
+        fail(socketFailure());
+    else if (error == QXmppClient::KeepAliveError)
+        fail(KirvFailure(KirvFailure::ConnectionLost, tr("the server does not answer any more")));
+    else
+        fail(hasArrived ? KirvFailure::ServerShutDown : KirvFailure::AuthenticationNotOffered);
+}
+
+void KirvXmppLink::receiveSslErrors(const QList<QSslError> &errors)
+{
+    fail(KirvFailure(KirvFailure::UntrustedCertificate, errors.isEmpty() ? QString() : errors.first().errorString()));
+}
+
+void KirvXmppLink::answer(const QString &id, const KirvXmppAnswer &answer)
+{
+    if (const Receiver receiver = receivers.take(id))
+        receiver(answer);
+}
+
+/// Remembers the first reason, which the later ones follow from, and lets the library finish what it is at.
+void KirvXmppLink::fail(const KirvFailure &failure)
+{
+    if (!reason.isFailure())
+        reason = failure;
+    endSoon();
+}
+
+void KirvXmppLink::endSoon()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { end(); }, Qt::QueuedConnection);
+}
+
+void KirvXmppLink::end()
+{
+    if (hasEnded)
+        return;
+    hasEnded = true;
+    if (!isClosing && !reason.isFailure())
+        reason = silentEnd();
+    const QPointer<KirvXmppLink> alive(this);
+    const QList<QString> unanswered = receivers.keys();
+    KirvXmppAnswer none;
+    none.failure = reason.isFailure() ? reason : KirvFailure(KirvFailure::ConnectionLost);
+    for (const QString &id : unanswered) {
+        answer(id, none);
+        if (!alive)
+            return;
+    }
+    Q_EMIT ended(isClosing ? KirvFailure() : reason);
+}
+
+KirvFailure KirvXmppLink::socketFailure()
+{
+    switch (client.socketError()) {
+    case QAbstractSocket::HostNotFoundError:
+        return KirvFailure(KirvFailure::HostNotFound, serverName());
+    case QAbstractSocket::ConnectionRefusedError:
+        return KirvFailure(KirvFailure::ConnectionRefused, serverName());
+    case QAbstractSocket::SocketTimeoutError:
+        return KirvFailure(KirvFailure::TimedOut, serverName());
+    case QAbstractSocket::RemoteHostClosedError:
+        return KirvFailure::ConnectionLost;
+    case QAbstractSocket::SslHandshakeFailedError:
+        return KirvFailure(KirvFailure::Other, client.socketErrorString());
+    default:
+        return KirvFailure(hasArrived ? KirvFailure::ConnectionLost : KirvFailure::Other, client.socketErrorString());
+    }
+}
+
+/// The stream has ended without a word: the library does that when it finds no way to go on.
+KirvFailure KirvXmppLink::silentEnd() const
+{
+    return purpose == LogIn && hasMechanisms && !hasArrived ? KirvFailure::AuthenticationNotOffered
+                                                            : KirvFailure::ConnectionLost;
+}
+
+QString KirvXmppLink::serverName()
+{
+    const QXmppConfiguration &configuration = client.configuration();
+    return configuration.host().isEmpty() ? configuration.domain() : configuration.host();
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_XMPP_PLUGIN_H
+#define KIRV_XMPP_PLUGIN_H
+
+#include "core/connection/kirv_protocol_plugin.h"
+
+#include <QObject>
+
+/// The root of the plug-in.
+class KirvXmppPlugin : public QObject, public KirvProtocolPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID KIRV_PROTOCOL_PLUGIN_IID FILE "kirv_xmpp_plugin.json")
+    Q_INTERFACES(KirvProtocolPlugin)
+
+public:
+    KirvProtocolBase *createProtocol(QString *error) override;
+};
+
+#endif

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_registration.h"
+
+#include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <QXmppConfiguration.h>
+
+KirvXmppRegistration::KirvXmppRegistration(KirvClock &clock, QObject *parent)
+    : QObject(parent)
+    , clock(clock)
+{
+}
+
+KirvXmppRegistration::~KirvXmppRegistration()
+{
+    cancel();
+}
+
+void KirvXmppRegistration::fetchForm(const QString &domain, const KirvXmppSettings &settings)
+{
+    this->domain = domain;
+    this->settings = settings;
+    isSubmitting = false;
+    open();
+}
+
+void KirvXmppRegistration::submit(const QList<KirvField> &filled)
+{
+    this->filled = filled;
+    isSubmitting = true;
+    if (link && link->isReady())
+        send();
+    else
+        open();
+}
+
+void KirvXmppRegistration::cancel()
+{
+    isBusy = false;
+    ++attempt;
+    if (!link)
+        return;
+    link->disconnect(this);
+    link->abort();
+    link.reset();
+}
+
+void KirvXmppRegistration::open()
+{
+    cancel();
+    QXmppConfiguration configuration;
+    QString problem;
+    isBusy = true;
+    if (!settings.apply(domain, &configuration, &problem)) {
+        fail(KirvFailure(KirvFailure::BadSettings, problem));
+        return;
+    }
+    clock.callLater(answerTimeout, this, [this, started = attempt] {
+        if (isBusy && started == attempt)
+            fail(KirvFailure(KirvFailure::TimedOut, settings.server.isEmpty() ? domain : settings.server));
+    });
+    link.reset(new KirvXmppLink(KirvXmppLink::Register, clock, answerTimeout));
+    connect(link.data(), &KirvXmppLink::readyToRegister, this, [this](bool offered) {
+        isOffered = offered;
+        askForForm();
+    });
+    connect(link.data(), &KirvXmppLink::ended, this, &KirvXmppRegistration::receiveEnd);
+    link->open(configuration);
+}
+
+void KirvXmppRegistration::askForForm()
+{
+    const QDomElement question = kirvXmppNewElement(QStringLiteral("jabber:iq:register"), QStringLiteral("query"));
+    link->ask(
+        QXmppIq::Get, question, [this](const KirvXmppAnswer &answer) { receiveForm(answer); }, domain);
+}
+
+void KirvXmppRegistration::receiveForm(const KirvXmppAnswer &answer)
+{
+    if (answer.isError()) {
+        fail(isOffered ? answer.failure : KirvFailure(KirvFailure::NotSupported, tr("registration of accounts")));
+        return;
+    }
+    const QList<KirvField> before = form.fields();
+    form = KirvXmppRegistrationForm(answer.iq);
+    const bool isSameForm = form.fields() == before && form.pictures().isEmpty();
+    if (isSubmitting && isSameForm) {
+        send();
+        return;
+    }
+    isBusy = false;
+    ++attempt;
+    Q_EMIT formReceived(form);
+}
+
+void KirvXmppRegistration::send()
+{
+    isBusy = true;
+    const auto receive = [this](const KirvXmppAnswer &answer) {
+        if (answer.condition == QLatin1String("conflict")) {
+            const QString name = KirvXmppRegistrationForm::userName(filled);
+            fail(KirvFailure(KirvFailure::NameInUse, name));
+        } else if (answer.isError()) {
+            fail(answer.failure);
+        } else {
+            cancel();
+            Q_EMIT succeeded();
+        }
+    };
+    link->ask(QXmppIq::Set, form.toQuery(filled), receive, domain);
+}
+
+void KirvXmppRegistration::receiveEnd(const KirvFailure &failure)
+{
+    // Nothing was under way: the next submit() comes back.
+    if (!isBusy)
+        cancel();
+    else if (!isOffered && !isSubmitting)
+        fail(KirvFailure(KirvFailure::NotSupported, tr("registration of accounts")));
+    else
+        fail(failure.isFailure() ? failure : KirvFailure::ConnectionLost);
+}
+
+/// Keeps the stream when the server has only refused: the user corrects the form and sends it again.
+void KirvXmppRegistration::fail(const KirvFailure &failure)
+{
+    if (!isBusy)
+        return;
+    isBusy = false;
+    ++attempt;
+    if (!link || !link->isReady() || failure.kind() == KirvFailure::TimedOut)
+        cancel();
+    Q_EMIT failed(failure);
+}

@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_registration_form.h"
+
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <QHash>
+#include <algorithm>
+
+namespace {
+
+const auto registrationSpace = QStringLiteral("jabber:iq:register");
+const auto formSpace = QStringLiteral("jabber:x:data");
+const auto elsewhereSpace = QStringLiteral("jabber:x:oob");
+const auto mediaSpace = QStringLiteral("urn:xmpp:media-element");
+const auto bitsSpace = QStringLiteral("urn:xmpp:bob");
+const auto userNameId = QStringLiteral("username");
+const auto passwordId = QStringLiteral("password");
+
+const auto hiddenType = QStringLiteral("hidden");
+const auto fixedType = QStringLiteral("fixed");
+const auto booleanType = QStringLiteral("boolean");
+const auto choiceType = QStringLiteral("list-single");
+const auto choicesType = QStringLiteral("list-multi");
+const auto passwordType = QStringLiteral("text-private");
+const auto linesType = QStringLiteral("text-multi");
+const auto addressesType = QStringLiteral("jid-multi");
+
+/// What people call the fixed fields.
+QString labelOf(const QString &name)
+{
+    using Form = KirvXmppRegistrationForm;
+    const QHash<QString, QString> labels {
+        { userNameId, Form::tr("User name") },
+        { passwordId, Form::tr("Password") },
+        { QStringLiteral("nick"), Form::tr("Nickname") },
+        { QStringLiteral("name"), Form::tr("Full name") },
+        { QStringLiteral("first"), Form::tr("First name") },
+        { QStringLiteral("last"), Form::tr("Last name") },
+        { QStringLiteral("email"), Form::tr("E-mail") },
+        { QStringLiteral("address"), Form::tr("Address") },
+        { QStringLiteral("city"), Form::tr("Town") },
+        { QStringLiteral("state"), Form::tr("State or region") },
+        { QStringLiteral("zip"), Form::tr("Postal code") },
+        { QStringLiteral("phone"), Form::tr("Telephone") },
+        { QStringLiteral("url"), Form::tr("Web page") },
+        { QStringLiteral("date"), Form::tr("Date") },
+    };
+    return labels.value(name, name);
+}
+
+QList<QDomElement> children(const QDomElement &parent, const QString &space, const QString &name)
+{
+    QList<QDomElement> found;
+    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        if (child.localName() == name && child.namespaceURI() == space)
+            found << child;
+    }
+    return found;
+}
+
+QStringList texts(const QDomElement &parent, const QString &name)
+{
+    QStringList found;
+    for (const QDomElement &child : children(parent, formSpace, name))
+        found << child.text();
+    return found;
+}
+
+QString text(const QDomElement &parent, const QString &name)
+{
+    return texts(parent, name).join(QLatin1Char('\n'));
+}
+
+bool isTrue(const QString &value)
+{
+    return value == QLatin1String("1") || value == QLatin1String("true");
+}
+
+const KirvField *find(const QList<KirvField> &fields, const QString &id)
+{
+    const auto found =
+        std::find_if(fields.begin(), fields.end(), [&id](const KirvField &field) { return field.getId() == id; });
+    return found == fields.end() ? nullptr : &*found;
+}
+
+QString textOf(const QList<KirvField> &fields, const QString &id)
+{
+    const KirvField *field = find(fields, id);
+    return field ? field->getText() : QString();
+}
+
+bool isBlank(const KirvField &field)
+{
+    return field.getText().isEmpty() && field.getKind() != KirvField::CheckBox;
+}
+
+} // namespace
+
+KirvXmppRegistrationForm::KirvXmppRegistrationForm(const QDomElement &iq)
+{
+    const QDomElement query = kirvXmppChild(iq, registrationSpace, QStringLiteral("query"));
+    const QDomElement form = kirvXmppChild(query, formSpace, QStringLiteral("x"));
+    const QDomElement elsewhere = kirvXmppChild(query, elsewhereSpace, QStringLiteral("x"));
+    webAddress = kirvXmppChild(elsewhere, elsewhereSpace, QStringLiteral("url")).text();
+    formInstructions = kirvXmppChild(query, registrationSpace, QStringLiteral("instructions")).text();
+    isDataForm = !form.isNull();
+    if (isDataForm)
+        readDataForm(form, iq);
+    else
+        readFixedFields(query);
+}
+
+void KirvXmppRegistrationForm::readFixedFields(const QDomElement &query)
+{
+    for (QDomElement child = query.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString name = child.localName();
+        if (child.namespaceURI() != registrationSpace || name == QLatin1String("instructions")
+            || name == QLatin1String("registered"))
+            continue;
+        Question question { name, QString(), {}, {} };
+        if (name == QLatin1String("key")) {
+            question.type = hiddenType;
+            question.values << child.text();
+        } else {
+            question.fields << (name == passwordId ? KirvField::password(labelOf(name), name, child.text(), QString())
+                                                   : KirvField::textEdit(labelOf(name), name, child.text(), QString()));
+            question.fields.last().setRequired(true);
+        }
+        questions << question;
+    }
+}
+
+void KirvXmppRegistrationForm::readDataForm(const QDomElement &form, const QDomElement &iq)
+{
+    formTitle = text(form, QStringLiteral("title"));
+    const QString instructions = text(form, QStringLiteral("instructions"));
+    if (!instructions.isEmpty())
+        formInstructions = instructions;
+    for (const QDomElement &field : children(form, formSpace, QStringLiteral("field"))) {
+        questions << readQuestion(field);
+        readPicture(field, iq);
+    }
+}
+
+KirvXmppRegistrationForm::Question KirvXmppRegistrationForm::readQuestion(const QDomElement &field) const
+{
+    const QStringList suggested = texts(field, QStringLiteral("value"));
+    const QString first = suggested.value(0);
+    const QString toolTip = text(field, QStringLiteral("desc"));
+    Question question { field.attribute(QStringLiteral("var")), field.attribute(QStringLiteral("type")), {}, {} };
+    const QString &id = question.name;
+    const QString label = field.attribute(QStringLiteral("label"), labelOf(id));
+
+    QStringList optionValues;
+    QStringList optionLabels;
+    for (const QDomElement &option : children(field, formSpace, QStringLiteral("option"))) {
+        optionValues << text(option, QStringLiteral("value"));
+        optionLabels << option.attribute(QStringLiteral("label"), optionValues.last());
+    }
+
+    if (question.type == hiddenType) {
+        question.values = suggested;
+    } else if (question.type == fixedType) {
+        // It may come without a name, and several do; the form needs one each.
+        const QString noteId = QStringLiteral("note/%1").arg(questions.size());
+        question.fields << KirvField::note(field.attribute(QStringLiteral("label")), noteId,
+                                           suggested.join(QLatin1Char('\n')), toolTip);
+    } else if (question.type == booleanType) {
+        question.fields << KirvField::checkBox(label, id, isTrue(first), toolTip);
+    } else if (question.type == choiceType) {
+        question.fields << KirvField::choice(label, id, first, optionValues, optionLabels, toolTip);
+    } else if (question.type == choicesType) {
+        question.values = optionValues;
+        question.fields << KirvField::note(QString(), QStringLiteral("note/%1").arg(questions.size()), label, toolTip);
+        for (int i = 0; i < optionValues.size(); ++i) {
+            question.fields << KirvField::checkBox(optionLabels.at(i), QStringLiteral("%1/%2").arg(id).arg(i),
+                                                   suggested.contains(optionValues.at(i)), toolTip);
+        }
+    } else if (question.type == passwordType || (question.type.isEmpty() && id == passwordId)) {
+        question.fields << KirvField::password(label, id, first, toolTip);
+    } else if (question.type == linesType || question.type == addressesType) {
+        question.fields << KirvField::multiLine(label, id, suggested.join(QLatin1Char('\n')), toolTip);
+    } else {
+        question.fields << KirvField::textEdit(label, id, first, toolTip);
+    }
+    const bool isRequired = !children(field, formSpace, QStringLiteral("required")).isEmpty();
+    if (isRequired && !question.fields.isEmpty())
+        question.fields.last().setRequired(true);
+    return question;
+}
+
+void KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomElement &iq)
+{
+    const QDomElement media = kirvXmppChild(field, mediaSpace, QStringLiteral("media"));
+    if (media.isNull())
+        return;
+    KirvXmppFormPicture picture;
+    picture.label = field.attribute(QStringLiteral("label"), field.attribute(QStringLiteral("var")));
+    const QDomElement query = kirvXmppChild(iq, registrationSpace, QStringLiteral("query"));
+    const QList<QDomElement> bits =
+        children(iq, bitsSpace, QStringLiteral("data")) + children(query, bitsSpace, QStringLiteral("data"));
+    for (const QDomElement &source : children(media, mediaSpace, QStringLiteral("uri"))) {
+        picture.address = source.text().trimmed();
+        for (const QDomElement &data : bits) {
+            if (picture.address == QLatin1String("cid:") + data.attribute(QStringLiteral("cid")))
+                picture.data = QByteArray::fromBase64(data.text().toLatin1());
+        }
+        if (!picture.data.isEmpty())
+            break;
+    }
+    formPictures << picture;
+}
+
+QList<KirvField> KirvXmppRegistrationForm::fields() const
+{
+    QList<KirvField> all;
+    for (const Question &question : questions)
+        all << question.fields;
+    return all;
+}
+
+QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &typed) const
+{
+    QList<KirvField> all = fields();
+    for (KirvField &field : all) {
+        const KirvField *known = find(typed, field.getId());
+        if (!known || field.getKind() == KirvField::Label || known->getKind() != field.getKind())
+            continue;
+        field.setText(known->getText());
+        field.setChecked(known->isChecked());
+    }
+    return all;
+}
+
+QString KirvXmppRegistrationForm::userName(const QList<KirvField> &filled)
+{
+    // Whoever types the whole address means its first part.
+    return textOf(filled, userNameId).section(QLatin1Char('@'), 0, 0).trimmed();
+}
+
+QString KirvXmppRegistrationForm::password(const QList<KirvField> &filled)
+{
+    return textOf(filled, passwordId);
+}
+
+QString KirvXmppRegistrationForm::problem(const QList<KirvField> &filled) const
+{
+    for (const KirvField &field : filled) {
+        const QString name = field.getLabel().isEmpty() ? field.getId() : field.getLabel();
+        if (field.isRequired() && isBlank(field))
+            return tr("“%1” must be filled in.").arg(name);
+        if (!kirvXmppIsSendable(field.getText()))
+            return tr("“%1” holds characters that cannot be sent.").arg(name);
+    }
+    return QString();
+}
+
+QDomElement KirvXmppRegistrationForm::toQuery(const QList<KirvField> &filled) const
+{
+    QDomElement query = kirvXmppNewElement(registrationSpace, QStringLiteral("query"));
+    if (!isDataForm) {
+        for (const Question &question : questions)
+            kirvXmppAppend(query, question.name, answers(question, filled).value(0));
+        return query;
+    }
+    QDomElement form = query.ownerDocument().createElementNS(formSpace, QStringLiteral("x"));
+    form.setAttribute(QStringLiteral("type"), QStringLiteral("submit"));
+    query.appendChild(form);
+    for (const Question &question : questions) {
+        if (question.type == fixedType || question.name.isEmpty())
+            continue;
+        QDomElement field = kirvXmppAppend(form, QStringLiteral("field"));
+        field.setAttribute(QStringLiteral("var"), question.name);
+        for (const QString &value : answers(question, filled))
+            kirvXmppAppend(field, QStringLiteral("value"), value);
+    }
+    return query;
+}
+
+QStringList KirvXmppRegistrationForm::answers(const Question &question, const QList<KirvField> &filled)
+{
+    if (question.type == hiddenType)
+        return question.values;
+    const KirvField *field = find(filled, question.name);
+    if (question.type == choicesType) {
+        QStringList chosen;
+        for (int i = 0; i < question.values.size(); ++i) {
+            const KirvField *box = find(filled, QStringLiteral("%1/%2").arg(question.name).arg(i));
+            if (box && box->isChecked())
+                chosen << question.values.at(i);
+        }
+        return chosen;
+    }
+    if (!field)
+        return {};
+    if (field->getKind() == KirvField::CheckBox)
+        return { field->isChecked() ? QStringLiteral("1") : QStringLiteral("0") };
+    if (field->getKind() == KirvField::MultiLine)
+        return field->getText().split(QLatin1Char('\n'));
+    if (field->getId() == userNameId)
+        return { userName(filled) };
+    return { field->getText() };
+}

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_settings.h"
+
+#include <QFile>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QXmppConfiguration.h>
+
+namespace {
+
+const auto serverId = QStringLiteral("server");
+const auto portId = QStringLiteral("port");
+const auto resourceId = QStringLiteral("resource");
+const auto priorityId = QStringLiteral("priority");
+const auto encryptionId = QStringLiteral("encryption");
+const auto certificateId = QStringLiteral("certificate");
+
+/// The stored values, in the order of KirvXmppSettings::Encryption.
+const QStringList encryptionValues { QStringLiteral("required"), QStringLiteral("offered"), QStringLiteral("none") };
+
+QXmppConfiguration::StreamSecurityMode securityMode(KirvXmppSettings::Encryption encryption)
+{
+    switch (encryption) {
+    case KirvXmppSettings::IfOffered:
+        return QXmppConfiguration::TLSEnabled;
+    case KirvXmppSettings::None:
+        return QXmppConfiguration::TLSDisabled;
+    case KirvXmppSettings::Required:
+        break;
+    }
+    return QXmppConfiguration::TLSRequired;
+}
+
+/// \a text as a number from \a minimum to \a maximum, or \a fallback when it is none.
+int toNumber(const QString &text, int minimum, int maximum, int fallback)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber && number >= minimum && number <= maximum ? number : fallback;
+}
+
+/// The port and the certificate of the server that was started together with the program, when it was.
+int localPort()
+{
+    const int port = qEnvironmentVariableIntValue("KIRV_XMPP_LOCAL_PORT");
+    return port > 0 && port <= 65535 ? port : KirvXmppSettings::defaultPort;
+}
+
+QString localCertificatePath()
+{
+    return QFile::decodeName(qgetenv("KIRV_XMPP_LOCAL_CERTIFICATE"));
+}
+
+/// A file name as a person writes it: with blanks around it, or as the address of a local file.
+QString toLocalPath(const QString &text)
+{
+    const QString path = text.trimmed();
+    const QLatin1String scheme("file://");
+    return path.startsWith(scheme) ? path.mid(scheme.size()) : path;
+}
+
+} // namespace
+
+KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
+{
+    for (const KirvField &field : fields) {
+        const QString id = field.getId();
+        const QString text = field.getText();
+        if (id == serverId)
+            server = text.trimmed();
+        else if (id == portId)
+            port = toNumber(text, 1, 65535, defaultPort);
+        else if (id == resourceId)
+            resource = text.trimmed();
+        else if (id == priorityId)
+            priority = toNumber(text, -128, 127, 0);
+        else if (id == encryptionId) // what is not known is the safest
+            encryption = Encryption(qMax(0, int(encryptionValues.indexOf(text))));
+        else if (id == certificateId)
+            certificatePath = toLocalPath(text);
+    }
+}
+
+QList<KirvField> KirvXmppSettings::toFields() const
+{
+    QList<KirvField> fields = toServerFields();
+    fields.insert(2,
+                  KirvField::textEdit(tr("Resource"), resourceId, resource,
+                                      tr("Tells this client from your other ones. Empty: the server chooses.")));
+    fields.insert(3,
+                  KirvField::number(tr("Priority"), priorityId, priority, -128, 127,
+                                    tr("Messages go to the client with the highest priority.")));
+    return fields;
+}
+
+QList<KirvField> KirvXmppSettings::toServerFields() const
+{
+    return {
+        KirvField::textEdit(tr("Server"), serverId, server,
+                            tr("Only needed when it cannot be found by the domain of the login.")),
+        KirvField::number(tr("Port"), portId, port, 1, 65535, tr("Ordinarily %1.").arg(defaultPort)),
+        KirvField::choice(tr("Encryption"), encryptionId, encryptionValues.at(encryption), encryptionValues,
+                          { tr("Required"), tr("If the server offers it"), tr("None") },
+                          tr("Without encryption others in the network can read along, your password included.")),
+        KirvField::textEdit(tr("Trusted certificate"), certificateId, certificatePath,
+                            tr("A file with a certificate (PEM) that is trusted besides those of the system.")),
+    };
+}
+
+QStringList KirvXmppSettings::configurations()
+{
+    return { tr("Server of the domain"), tr("Server on this computer"), tr("Server on this computer, unencrypted") };
+}
+
+QList<KirvField> KirvXmppSettings::configurationFields(const QString &name)
+{
+    const int index = int(configurations().indexOf(name));
+    if (index < 0)
+        return {};
+    KirvXmppSettings settings;
+    if (index == 0)
+        return settings.toFields();
+
+    settings.server = QStringLiteral("127.0.0.1");
+    settings.port = localPort();
+    if (index == 2)
+        settings.encryption = None;
+    else
+        settings.certificatePath = localCertificatePath();
+    return settings.toFields();
+}
+
+QString KirvXmppSettings::loginPattern()
+{
+    const QString part = QStringLiteral("[^\\s\"&'/:<>@]+");
+    const QString label = QStringLiteral("[^\\s\"&'/:<>@.]+");
+    return QStringLiteral("%1@%2(\\.%2)*").arg(part, label);
+}
+
+bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const
+{
+    QList<QSslCertificate> certificates;
+    if (!certificatePath.isEmpty() && !readCertificates(&certificates, problem))
+        return false;
+
+    configuration->setDomain(domain);
+    // Without a host the library asks the network, and uses the port only when it is not told another one.
+    configuration->setHost(server.isEmpty() && port != defaultPort ? domain : server);
+    configuration->setPort(port);
+    configuration->setResource(resource);
+    configuration->setStreamSecurityMode(securityMode(encryption));
+    configuration->setAutoReconnectionEnabled(false);
+    configuration->setAutoAcceptSubscriptions(false);
+    configuration->setUseNonSASLAuthentication(false);
+    configuration->setIgnoreSslErrors(false);
+    if (!certificates.isEmpty())
+        configuration->setCaCertificates(QSslConfiguration::systemCaCertificates() + certificates);
+    return true;
+}
+
+bool KirvXmppSettings::readCertificates(QList<QSslCertificate> *certificates, QString *problem) const
+{
+    const qint64 largest = 1024 * 1024;
+    QFile file(certificatePath);
+    if (!file.open(QIODevice::ReadOnly)) {
+        //: %1 is a file name, %2 the reason
+        *problem = tr("The trusted certificate %1 cannot be read (%2).").arg(certificatePath, file.errorString());
+        return false;
+    }
+    *certificates = QSslCertificate::fromData(file.read(largest), QSsl::Pem);
+    if (certificates->isEmpty())
+        *problem = tr("The file %1 does not hold a certificate in PEM format.").arg(certificatePath);
+    return !certificates->isEmpty();
+}

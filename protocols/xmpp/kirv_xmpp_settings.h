@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_XMPP_SETTINGS_H
+#define KIRV_XMPP_SETTINGS_H
+
+#include "host/kirv_field.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class QSslCertificate;
+class QXmppConfiguration;
+
+/// What the settings of an XMPP account mean. A value type.
+///
+/// A login is a bare address, user@domain. Without a server the network (DNS) is asked where the domain's
+/// server is; a port of one's own alone means that port of the domain itself. A certificate to trust is trusted
+/// besides those that the system trusts.
+class KirvXmppSettings {
+    Q_DECLARE_TR_FUNCTIONS(KirvXmppSettings)
+
+public:
+    enum Encryption { Required, IfOffered, None };
+
+    static const int defaultPort = 5222;
+
+    KirvXmppSettings() = default;
+    /// Reads \a fields; what is missing keeps its default.
+    explicit KirvXmppSettings(const QList<KirvField> &fields);
+
+    QString server;
+    int port = defaultPort;
+    QString resource = QStringLiteral("Kirv");
+    int priority = 0;
+    Encryption encryption = Required;
+    QString certificatePath; ///< of a PEM file; empty: none
+
+    /// The settings as fields, in display order.
+    QList<KirvField> toFields() const;
+    /// Those of them that say where the server is and how to trust it.
+    QList<KirvField> toServerFields() const;
+
+    static QStringList configurations();
+    /// The fields of a ready-made configuration; empty for an unknown name. None presets the login: it would
+    /// replace what the user has typed by a name that is not theirs.
+    static QList<KirvField> configurationFields(const QString &name);
+    static QString loginPattern();
+
+    /// Writes the settings for a server of \a domain into \a configuration. False with a sentence in \a problem
+    /// when they cannot be used.
+    bool apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const;
+
+private:
+    bool readCertificates(QList<QSslCertificate> *certificates, QString *problem) const;
+};
+
+#endif

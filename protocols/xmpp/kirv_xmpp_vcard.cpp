@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_vcard.h"
+
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <QBuffer>
+#include <QCryptographicHash>
+#include <QImageReader>
+#include <QPainter>
+
+namespace {
+
+const int largestSide = 192;
+const int largestPhoto = 60000;
+const auto vCardSpace = QStringLiteral("vcard-temp");
+const auto photoName = QStringLiteral("PHOTO");
+
+/// Where the text of a field stands inside the entry.
+struct Place {
+    KirvField field;
+    QStringList path;
+};
+
+QList<Place> places()
+{
+    using Kirv = KirvXmppVCard;
+    const auto line = [](const QString &label, const char *id) {
+        return KirvField::textEdit(label, QLatin1String(id), QString(), QString());
+    };
+    KirvField birthday = KirvField::textEdit(Kirv::tr("Birthday"), QStringLiteral("birthday"), QString(),
+                                             Kirv::tr("Year, month and day, such as 1999-12-31."));
+    birthday.setPattern(QStringLiteral("([0-9]{4}-[0-9]{2}-[0-9]{2})?"));
+    return {
+        { line(Kirv::tr("Full name"), "fullname"), { "FN" } },
+        { line(Kirv::tr("Nickname"), "nickname"), { "NICKNAME" } },
+        { birthday, { "BDAY" } },
+        { line(Kirv::tr("E-mail"), "email"), { "EMAIL", "USERID" } },
+        { line(Kirv::tr("Telephone"), "telephone"), { "TEL", "NUMBER" } },
+        { line(Kirv::tr("Town"), "town"), { "ADR", "LOCALITY" } },
+        { line(Kirv::tr("Country"), "country"), { "ADR", "CTRY" } },
+        { line(Kirv::tr("Web page"), "web"), { "URL" } },
+        { line(Kirv::tr("Organisation"), "organisation"), { "ORG", "ORGNAME" } },
+        { KirvField::multiLine(Kirv::tr("About"), QStringLiteral("about"), QString(), QString()), { "DESC" } },
+    };
+}
+
+QByteArray encode(const QImage &image, const char *format)
+{
+    QByteArray data;
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::WriteOnly);
+    return image.save(&buffer, format) ? data : QByteArray();
+}
+
+/// \a image on white, for a format that knows no transparency.
+QImage flattened(const QImage &image)
+{
+    QImage result(image.size(), QImage::Format_RGB32);
+    result.fill(Qt::white);
+    QPainter(&result).drawImage(0, 0, image);
+    return result;
+}
+
+/// Reads the image no larger than needed: of a huge one only a small version is ever in memory where the format
+/// allows it.
+QImage readSmall(const QString &path)
+{
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.width() > largestSide || size.height() > largestSide)
+        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    const QImage image = reader.read();
+    if (image.width() <= largestSide && image.height() <= largestSide)
+        return image;
+    return image.scaled(largestSide, largestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+KirvXmppPhoto KirvXmppPhoto::fromFile(const QString &path)
+{
+    const QImage image = readSmall(path);
+    if (image.isNull())
+        return {};
+    const QByteArray lossless = encode(image, "PNG");
+    if (!lossless.isEmpty() && lossless.size() <= largestPhoto)
+        return { lossless, QStringLiteral("image/png") };
+    return { encode(flattened(image), "JPEG"), QStringLiteral("image/jpeg") };
+}
+
+QByteArray KirvXmppPhoto::hash() const
+{
+    return isNull() ? QByteArray() : QCryptographicHash::hash(data, QCryptographicHash::Sha1);
+}
+
+KirvXmppVCard::KirvXmppVCard()
+    : root(kirvXmppNewElement(vCardSpace, QStringLiteral("vCard")))
+{
+}
+
+KirvXmppVCard::KirvXmppVCard(const QDomElement &element)
+    : KirvXmppVCard()
+{
+    if (element.namespaceURI() != vCardSpace)
+        return;
+    QDomDocument document = root.ownerDocument();
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        root.appendChild(document.importNode(child, true));
+}
+
+QList<KirvField> KirvXmppVCard::blankFields()
+{
+    QList<KirvField> fields;
+    for (const Place &place : places())
+        fields << place.field;
+    return fields;
+}
+
+QList<KirvField> KirvXmppVCard::toFields() const
+{
+    QList<KirvField> fields;
+    bool isBlank = true;
+    for (const Place &place : places()) {
+        fields << place.field;
+        fields.last().setText(text(place.path));
+        isBlank = isBlank && fields.last().getText().isEmpty();
+    }
+    return isBlank ? QList<KirvField>() : fields;
+}
+
+void KirvXmppVCard::setFields(const QList<KirvField> &fields)
+{
+    for (const Place &place : places()) {
+        for (const KirvField &field : fields) {
+            if (field.getId() == place.field.getId())
+                setText(place.path, kirvXmppSendable(field.getText()));
+        }
+    }
+}
+
+KirvXmppPhoto KirvXmppVCard::photo() const
+{
+    return { QByteArray::fromBase64(text({ photoName, "BINVAL" }).toLatin1()), text({ photoName, "TYPE" }) };
+}
+
+void KirvXmppVCard::setPhoto(const KirvXmppPhoto &photo)
+{
+    root.removeChild(root.firstChildElement(photoName));
+    setText({ photoName, "TYPE" }, photo.isNull() ? QString() : photo.type);
+    setText({ photoName, "BINVAL" }, QString::fromLatin1(photo.data.toBase64()));
+}
+
+void KirvXmppVCard::clear()
+{
+    QDomElement next;
+    for (QDomElement child = root.firstChildElement(); !child.isNull(); child = next) {
+        next = child.nextSiblingElement();
+        if (child.tagName() != photoName)
+            root.removeChild(child);
+    }
+}
+
+int KirvXmppVCard::size() const
+{
+    return root.ownerDocument().toByteArray(-1).size();
+}
+
+QString KirvXmppVCard::text(const QStringList &path) const
+{
+    QDomElement element = root;
+    for (const QString &name : path)
+        element = element.firstChildElement(name);
+    return element.text();
+}
+
+/// Writes \a text at \a path, making the elements that are missing. An empty text removes the element, and those
+/// around it that hold nothing else.
+void KirvXmppVCard::setText(const QStringList &path, const QString &text)
+{
+    if (text == this->text(path))
+        return;
+    QDomElement element = root;
+    for (const QString &name : path) {
+        const QDomElement child = element.firstChildElement(name);
+        element = child.isNull() ? kirvXmppAppend(element, name) : child;
+    }
+    while (element.hasChildNodes())
+        element.removeChild(element.firstChild());
+    if (!text.isEmpty()) {
+        element.appendChild(root.ownerDocument().createTextNode(text));
+        return;
+    }
+    while (element != root && element.text().isEmpty()) {
+        QDomElement parent = element.parentNode().toElement();
+        parent.removeChild(element);
+        element = parent;
+    }
+}
