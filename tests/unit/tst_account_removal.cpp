@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/unit/kirv_question.h"
+
+#include <QSignalSpy>
+
+#include <memory>
+
+/// Removing an account: the question and its answers.
+class TestAccountRemoval : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { fixture.reset(); }
+
+    void theQuestionNamesAliasAndProtocol();
+    void theQuestionIsAskedWithoutWaiting();
+    void markupInAnAliasIsShownAsText();
+    void askingNeedsExactlyOneSelectedRow_data();
+    void askingNeedsExactlyOneSelectedRow();
+    void yesRemovesTheAccountAndItsRow();
+    void anyOtherAnswerLeavesEverything_data();
+    void anyOtherAnswerLeavesEverything();
+    void onlyYesCounts_data();
+    void onlyYesCounts();
+    void theQuestionEndsWithTheAnswer_data();
+    void theQuestionEndsWithTheAnswer();
+    void theAnswerCountsForWhatIsSelectedThen();
+    void yesWithoutASelectionRemovesNothing();
+    void yesWithSeveralSelectedRowsRemovesNothing();
+    void aRowThatIsGoneIsNotTouched();
+    void aHostThatTakesTheRowAwayItself();
+    void theRowsAreNotRefreshed();
+    void theSelectorNoLongerOffersTheAccount();
+    void theDeleteKeyAsksLikeTheButton();
+
+private:
+    void ask(const QString &id)
+    {
+        fixture->clickRow(fixture->row(id));
+        QTest::mouseClick(fixture->removeButton(), Qt::LeftButton);
+    }
+
+    std::unique_ptr<KirvPageFixture> fixture;
+};
+
+void TestAccountRemoval::init()
+{
+    fixture = std::make_unique<KirvPageFixture>();
+    fixture->host.addAccount("alice", "XMPP")->alias = "Work";
+    fixture->host.addAccount("alice", "IRC")->alias = "Chat";
+    fixture->host.addAccount("bob", "XMPP")->alias = "Home";
+    fixture->showFilledPage();
+}
+
+void TestAccountRemoval::theQuestionNamesAliasAndProtocol()
+{
+    ask("alice");
+    kirvVerifyQuestion(*fixture, "Removing account",
+                       "Do you want to remove account 'Work' (XMPP) and all related data?");
+}
+
+void TestAccountRemoval::theQuestionIsAskedWithoutWaiting()
+{
+    fixture->row("alice")->setSelected(true);
+    QVERIFY(QMetaObject::invokeMethod(fixture->page(), "removeAccount"));
+    QVERIFY(kirvVisibleWindow<QMessageBox>());
+    QCOMPARE(fixture->host.calls(), QStringList());
+}
+
+void TestAccountRemoval::markupInAnAliasIsShownAsText()
+{
+    fixture->row("alice")->setText(0, "<h1>%2</h1>");
+    fixture->host.forgetCalls();
+    ask("alice");
+    // The placeholders are filled one after the other.
+    kirvVerifyQuestion(*fixture, "Removing account",
+                       "Do you want to remove account '<h1>XMPP</h1>' (XMPP) and all related data?");
+}
+
+void TestAccountRemoval::askingNeedsExactlyOneSelectedRow_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::newRow("no row selected") << false;
+    QTest::newRow("several rows selected") << true;
+}
+
+void TestAccountRemoval::askingNeedsExactlyOneSelectedRow()
+{
+    QFETCH(bool, all);
+    fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    fixture->clickRow(fixture->row("alice"));
+    if (all)
+        fixture->list()->selectAll();
+    else
+        fixture->list()->clearSelection();
+    fixture->removeButton()->click();
+    QVERIFY(!kirvVisibleWindow<QMessageBox>());
+}
+
+void TestAccountRemoval::yesRemovesTheAccountAndItsRow()
+{
+    ask("alice");
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(alice, XMPP)" });
+    QVERIFY(!fixture->row("alice", "XMPP"));
+    QVERIFY(fixture->row("alice", "IRC"));
+    QVERIFY(fixture->row("bob", "XMPP"));
+}
+
+void TestAccountRemoval::anyOtherAnswerLeavesEverything_data()
+{
+    QTest::addColumn<KirvAnswer>("answer");
+    QTest::newRow("no") << KirvAnswer::No;
+    QTest::newRow("closed") << KirvAnswer::Close;
+    QTest::newRow("escaped") << KirvAnswer::Escape;
+}
+
+void TestAccountRemoval::anyOtherAnswerLeavesEverything()
+{
+    QFETCH(KirvAnswer, answer);
+    ask("alice");
+    kirvAnswer(answer);
+    QVERIFY(!kirvVisibleWindow<QMessageBox>());
+    QCOMPARE(fixture->host.calls(), QStringList());
+    QCOMPARE(fixture->list()->topLevelItemCount(), 3);
+    QCOMPARE(fixture->selector()->count(), 3);
+}
+
+void TestAccountRemoval::onlyYesCounts_data()
+{
+    QTest::addColumn<int>("result");
+    QTest::newRow("yes to all") << int(QMessageBox::YesToAll);
+    QTest::newRow("no") << int(QMessageBox::No);
+    QTest::newRow("ok") << int(QMessageBox::Ok);
+    QTest::newRow("accepted") << int(QDialog::Accepted);
+    QTest::newRow("rejected") << int(QDialog::Rejected);
+    QTest::newRow("nothing") << -1;
+}
+
+void TestAccountRemoval::onlyYesCounts()
+{
+    QFETCH(int, result);
+    fixture->clickRow(fixture->row("alice"));
+    for (const char *slot : { "removeAccountAccepted", "disableAccountAccepted" })
+        QVERIFY(QMetaObject::invokeMethod(fixture->page(), slot, Q_ARG(int, result)));
+    QCOMPARE(fixture->host.calls(), QStringList());
+    QCOMPARE(fixture->list()->topLevelItemCount(), 3);
+}
+
+void TestAccountRemoval::theQuestionEndsWithTheAnswer_data()
+{
+    anyOtherAnswerLeavesEverything_data();
+    QTest::newRow("yes") << KirvAnswer::Yes;
+}
+
+void TestAccountRemoval::theQuestionEndsWithTheAnswer()
+{
+    QFETCH(KirvAnswer, answer);
+    ask("alice");
+    const QPointer<QMessageBox> box = kirvVisibleWindow<QMessageBox>();
+    kirvAnswer(answer);
+    QTRY_VERIFY(!box);
+}
+
+void TestAccountRemoval::theAnswerCountsForWhatIsSelectedThen()
+{
+    ask("alice");
+    fixture->list()->setCurrentItem(fixture->row("bob"));
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(bob, XMPP)" });
+    QVERIFY(fixture->row("alice"));
+    QVERIFY(!fixture->row("bob"));
+}
+
+void TestAccountRemoval::yesWithoutASelectionRemovesNothing()
+{
+    ask("alice");
+    fixture->list()->clearSelection();
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList());
+    QCOMPARE(fixture->list()->topLevelItemCount(), 3);
+}
+
+void TestAccountRemoval::yesWithSeveralSelectedRowsRemovesNothing()
+{
+    fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    ask("alice");
+    fixture->list()->selectAll();
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList());
+    QCOMPARE(fixture->list()->topLevelItemCount(), 3);
+}
+
+void TestAccountRemoval::aRowThatIsGoneIsNotTouched()
+{
+    ask("alice");
+    delete fixture->row("alice");
+    fixture->list()->clearSelection();
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList());
+    QCOMPARE(fixture->list()->topLevelItemCount(), 2);
+}
+
+void TestAccountRemoval::aHostThatTakesTheRowAwayItself()
+{
+    fixture->host.hook("removeAccount", [&] { delete fixture->row("alice"); });
+    ask("alice");
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(alice, XMPP)" });
+    QCOMPARE(fixture->list()->topLevelItemCount(), 2);
+}
+
+void TestAccountRemoval::theRowsAreNotRefreshed()
+{
+    fixture->host.findAccount("bob", "XMPP")->enabled = false;
+    ask("alice");
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.calls({ "accountEnabled", "getAccount", "getMainAccount" }), QStringList());
+    QVERIFY(fixture->isChecked("bob"));
+}
+
+void TestAccountRemoval::theSelectorNoLongerOffersTheAccount()
+{
+    QSignalSpy reported(fixture->page(), SIGNAL(mainAccountChanged()));
+    QCOMPARE(fixture->offered(), (QStringList { "*alice@IRC", "bob@XMPP", "alice@XMPP" }));
+    ask("alice");
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->offered(), (QStringList { "*alice@IRC", "bob@XMPP" }));
+    QCOMPARE(reported.count(), 0);
+}
+
+void TestAccountRemoval::theDeleteKeyAsksLikeTheButton()
+{
+    fixture->clickRow(fixture->row("bob"));
+    QTest::keyClick(fixture->list(), Qt::Key_Delete);
+    kirvVerifyQuestion(*fixture, "Removing account",
+                       "Do you want to remove account 'Home' (XMPP) and all related data?");
+    kirvAnswer(KirvAnswer::Yes);
+    QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(bob, XMPP)" });
+}
+
+QTEST_MAIN(TestAccountRemoval)
+#include "tst_account_removal.moc"

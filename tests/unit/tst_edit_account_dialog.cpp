@@ -1,0 +1,427 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/recording_host/kirv_recording_icons.h"
+#include "tests/unit/kirv_edit_fixture.h"
+#include "tests/unit/kirv_window_watcher.h"
+
+#include <QtTest>
+
+#include <memory>
+
+/// The edit dialog's window: how it is built, bound and shown, and how dialog and window end.
+class TestEditAccountDialog : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { fixture = std::make_unique<KirvEditFixture>(); }
+    void cleanup() { fixture.reset(); }
+
+    void slotsStandInTheirOrder_data();
+    void slotsStandInTheirOrder();
+    void theMetaObjectHoldsNothingElse();
+    void theHostIsAskedInOrder();
+    void theWindowIsShownWindowModal();
+    void theDialogIsRecordedWithThePage();
+    void theIdentifierNamesIdAndProtocol();
+    void presencesAreOfferedInOrder();
+    void presenceIconsAreFoundWithAnAddedSlash();
+    void theDefaultPresenceIsCurrent_data();
+    void theDefaultPresenceIsCurrent();
+    void theDescriptionIsShownAsText_data();
+    void theDescriptionIsShownAsText();
+    void theAvatarPickerFillsItsPlace();
+    void theSettingsFillTheirPlace();
+    void withoutSettingsThePlaceStaysEmpty();
+    void theDirectoryFillsItsPlace();
+    void withoutDirectoryTheSecondTabGoes();
+    void tickedBoxesDisableWhatTheyOverride_data();
+    void tickedBoxesDisableWhatTheyOverride();
+    void anAccountNotFoundShowsOnlyWhatIsStored();
+    void anAccountNotFoundConnectsNothing();
+    void anUnknownProtocolOpensNothing();
+    void anUnknownProtocolEndsTheDialogBefore();
+    void aControllerWithoutWindowAnswersRejected();
+    void theNextDialogLeavesTheWindowBefore();
+    void nothingIsConnectedToTheEndOfTheWindow();
+    void finishedEndsTheController();
+    void execBlocksUntilTheWindowIsClosed();
+    void theControllerDeletedWhileItsWindowIsOpen();
+    void theWindowDeletedBeforeTheController();
+
+private:
+    std::unique_ptr<KirvEditFixture> fixture;
+};
+
+void TestEditAccountDialog::slotsStandInTheirOrder_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QByteArray>("signature");
+    int index = 0;
+    for (const char *signature : { "saveSettings()", "saveAndClose()", "requestPubdirInfo()", "removePubdirInfo()",
+                                   "togglePubdirControl(int)", "changeAvatar(QString)", "finished(int)", "reject()" })
+        QTest::newRow(signature) << index++ << QByteArray(signature);
+}
+
+void TestEditAccountDialog::slotsStandInTheirOrder()
+{
+    QFETCH(int, index);
+    QFETCH(QByteArray, signature);
+    const QMetaObject &meta = KirvEditAccountDialog::staticMetaObject;
+    const QMetaMethod method = meta.method(meta.methodOffset() + index);
+    QCOMPARE(method.methodSignature(), signature);
+    QCOMPARE(method.methodType(), QMetaMethod::Slot);
+    QCOMPARE(method.access(), QMetaMethod::Protected);
+}
+
+void TestEditAccountDialog::theMetaObjectHoldsNothingElse()
+{
+    const QMetaObject &meta = KirvEditAccountDialog::staticMetaObject;
+    QCOMPARE(meta.className(), "KirvEditAccountDialog");
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 8);
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
+}
+
+void TestEditAccountDialog::theHostIsAskedInOrder()
+{
+    fixture->open();
+    QStringList calls = fixture->host.calls();
+    calls.removeAll("XMPP.getName()");
+    calls.removeAll("alice@XMPP.getDefaultPresence()");
+    calls.removeAll("getCurrentRosterThemeDir()");
+    QCOMPARE(calls,
+             (QStringList { "getProtocolByName(XMPP)", "loadUI(EditAccount, null)", "loadAccount(alice, XMPP)",
+                            "KirvAvatarQuickSetWidget(EditAccount)",
+                            "insertWidget(EditAccount_AvatarPlacement, KirvAvatarQuickSetWidget)",
+                            "alice@XMPP.getCurrentAvatarPath()", "setImage(/avatars/alice.png)",
+                            "XMPP.getAllPresences()", "alice@XMPP.getAccountSettingsInOrder()",
+                            "KirvFieldWidget([server=example.org, tls=true], EditAccount, 0)",
+                            "insertWidget(EditAccount_AccSettings, KirvFieldWidget)", "XMPP.getPubdirAccountFields()",
+                            "KirvFieldWidget([name=, town=], EditAccount, 0)",
+                            "insertWidget(EditAccount_PubDirResults, KirvFieldWidget)",
+                            "readAccountGlobals(alice, XMPP)" }));
+    QCOMPARE(fixture->host.effects(), QStringList());
+}
+
+void TestEditAccountDialog::theWindowIsShownWindowModal()
+{
+    fixture->open();
+    QVERIFY(fixture->window);
+    QVERIFY(fixture->window->isVisible());
+    QCOMPARE(fixture->window->parent(), fixture->page());
+    QCOMPARE(fixture->window->windowModality(), Qt::WindowModal);
+    QVERIFY(!fixture->dialog()->parent());
+
+    // As a plain dialog: Qt itself makes a sheet of a window-modal one when it is shown.
+    QDialog likewise;
+    likewise.setParent(fixture->page(), Qt::Sheet);
+    likewise.setWindowModality(Qt::WindowModal);
+    likewise.setWindowFlags(Qt::Dialog);
+    likewise.setVisible(true);
+    QCOMPARE(fixture->window->windowFlags(), likewise.windowFlags());
+}
+
+void TestEditAccountDialog::theDialogIsRecordedWithThePage()
+{
+    fixture->open();
+    QVERIFY(fixture->dialog());
+}
+
+void TestEditAccountDialog::theIdentifierNamesIdAndProtocol()
+{
+    fixture->open();
+    QCOMPARE(fixture->child<QLabel>("Identifier")->text(), QString("alice (XMPP)"));
+}
+
+void TestEditAccountDialog::presencesAreOfferedInOrder()
+{
+    fixture->open();
+    const auto *combo = fixture->child<QComboBox>("PresenceCombo");
+    QCOMPARE(combo->count(), 3);
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(combo->itemText(i), fixture->xmpp->presences.at(i).getDisplay());
+        QCOMPARE(combo->itemData(i, Qt::UserRole), QVariant(fixture->xmpp->presences.at(i).getId()));
+    }
+}
+
+void TestEditAccountDialog::presenceIconsAreFoundWithAnAddedSlash()
+{
+    fixture->open();
+    QCOMPARE(kirvRecordedIconReads(),
+             (QStringList { "/theme//icons/online.recorded", "/theme//icons/away.recorded",
+                            "/theme//icons/offline.recorded" }));
+    QCOMPARE(fixture->child<QComboBox>("PresenceCombo")->itemIcon(2).name(), QString("/theme//icons/offline.recorded"));
+}
+
+void TestEditAccountDialog::theDefaultPresenceIsCurrent_data()
+{
+    QTest::addColumn<QStringList>("ids");
+    QTest::addColumn<QString>("defaultId");
+    QTest::addColumn<int>("current");
+    QTest::newRow("one matches") << QStringList { "online", "away", "offline" } << "away" << 1;
+    QTest::newRow("none matches") << QStringList { "online", "away", "offline" } << "Away" << 0;
+    QTest::newRow("the last match wins") << QStringList { "away", "online", "away" } << "away" << 2;
+    QTest::newRow("no presences") << QStringList() << "away" << -1;
+}
+
+void TestEditAccountDialog::theDefaultPresenceIsCurrent()
+{
+    QFETCH(QStringList, ids);
+    QFETCH(QString, defaultId);
+    QFETCH(int, current);
+    fixture->xmpp->presences.clear();
+    for (const QString &id : ids)
+        fixture->xmpp->presences.append(KirvPresence(id, id, id));
+    fixture->alice->defaultPresence = KirvPresence(defaultId, QString(), QString());
+    fixture->open();
+    QCOMPARE(fixture->child<QComboBox>("PresenceCombo")->currentIndex(), current);
+}
+
+void TestEditAccountDialog::theDescriptionIsShownAsText_data()
+{
+    QTest::addColumn<QString>("description");
+    QTest::newRow("words") << "at lunch";
+    QTest::newRow("empty") << "";
+    QTest::newRow("lines") << "first\nsecond";
+    QTest::newRow("markup") << "<b>bold</b> & <script>x</script>";
+    QTest::newRow("right to left") << QString::fromUtf8("\u05e9\u05dc\u05d5\u05dd");
+}
+
+void TestEditAccountDialog::theDescriptionIsShownAsText()
+{
+    QFETCH(QString, description);
+    fixture->alice->defaultPresence = fixture->xmpp->presence("away", description);
+    fixture->open();
+    QCOMPARE(fixture->child<QTextEdit>("DescriptionEdit")->toPlainText(), description);
+}
+
+void TestEditAccountDialog::theAvatarPickerFillsItsPlace()
+{
+    fixture->open();
+    auto *picker = fixture->child<QWidget>("AvatarPlacement")->findChild<KirvAvatarQuickSetWidget *>();
+    QVERIFY(picker);
+    QCOMPARE(picker->minimumSize(), QSize(64, 64));
+    QCOMPARE(picker->maximumSize(), QSize(64, 64));
+}
+
+void TestEditAccountDialog::theSettingsFillTheirPlace()
+{
+    fixture->open();
+    QVERIFY(fixture->settingsForm());
+    QCOMPARE(fixture->tabs()->count(), 2);
+}
+
+void TestEditAccountDialog::withoutSettingsThePlaceStaysEmpty()
+{
+    fixture->alice->settings.clear();
+    fixture->open();
+    QVERIFY(fixture->child<QWidget>("AccSettings")->findChildren<QWidget *>().isEmpty());
+    QCOMPARE(fixture->tabs()->count(), 2);
+    QVERIFY(fixture->directoryForm());
+}
+
+void TestEditAccountDialog::theDirectoryFillsItsPlace()
+{
+    fixture->open();
+    QVERIFY(fixture->directoryForm());
+    QVERIFY(fixture->directoryForm()->isEnabled());
+    QCOMPARE(fixture->tabs()->currentIndex(), 0);
+    QCOMPARE(fixture->host.calls({ "fetchPubdirInfo" }), QStringList());
+}
+
+void TestEditAccountDialog::withoutDirectoryTheSecondTabGoes()
+{
+    fixture->xmpp->pubdirFields.clear();
+    fixture->alice->loggedIn = true;
+    fixture->open();
+    QCOMPARE(fixture->tabs()->count(), 1);
+    QCOMPARE(fixture->tabs()->tabText(0), QString("General"));
+    fixture->host.forgetCalls();
+    fixture->tabs()->addTab(new QWidget, "Another");
+    fixture->tabs()->setCurrentIndex(1);
+    QCOMPARE(fixture->host.calls(), QStringList());
+}
+
+void TestEditAccountDialog::tickedBoxesDisableWhatTheyOverride_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<bool>("presence");
+    QTest::addColumn<bool>("description");
+    QTest::newRow("last presence") << "RememberPresence" << false << false;
+    QTest::newRow("last description") << "RememberDescription" << true << false;
+    QTest::newRow("password") << "RememberPassword" << true << true;
+}
+
+void TestEditAccountDialog::tickedBoxesDisableWhatTheyOverride()
+{
+    QFETCH(QString, box);
+    QFETCH(bool, presence);
+    QFETCH(bool, description);
+    fixture->open();
+    auto *combo = fixture->child<QComboBox>("PresenceCombo");
+    auto *edit = fixture->child<QTextEdit>("DescriptionEdit");
+    QVERIFY(combo->isEnabled());
+    QVERIFY(edit->isEnabled());
+
+    auto *check = fixture->child<QCheckBox>(qPrintable(box));
+    check->setChecked(!check->isChecked());
+    check->setChecked(true);
+    QCOMPARE(combo->isEnabled(), presence);
+    QCOMPARE(edit->isEnabled(), description);
+    check->setChecked(false);
+    QVERIFY(combo->isEnabled());
+    QVERIFY(edit->isEnabled());
+}
+
+void TestEditAccountDialog::anAccountNotFoundShowsOnlyWhatIsStored()
+{
+    fixture->alice->loadable = false;
+    fixture->open();
+    QVERIFY(fixture->window->isVisible());
+    QCOMPARE(fixture->child<QLabel>("Identifier")->text(), QString("alice (XMPP)"));
+    QCOMPARE(fixture->child<QLineEdit>("Alias")->text(), QString("Work"));
+    QCOMPARE(fixture->child<QLineEdit>("Password")->text(), QString("secret"));
+    QVERIFY(fixture->child<QCheckBox>("RememberPassword")->isChecked());
+    QCOMPARE(fixture->child<QComboBox>("PresenceCombo")->count(), 0);
+    QVERIFY(!fixture->settingsForm());
+    QVERIFY(!fixture->directoryForm());
+    QVERIFY(!fixture->window->findChild<KirvAvatarQuickSetWidget *>());
+    QCOMPARE(fixture->tabs()->count(), 2);
+    QCOMPARE(
+        fixture->host.calls({ "loadUI", "loadAccount", "readAccountGlobals", "getAllPresences",
+                              "getPubdirAccountFields", "KirvFieldWidget", "insertWidget" }),
+        (QStringList { "loadUI(EditAccount, null)", "loadAccount(alice, XMPP)", "readAccountGlobals(alice, XMPP)" }));
+    QVERIFY(fixture->dialog());
+}
+
+void TestEditAccountDialog::anAccountNotFoundConnectsNothing()
+{
+    fixture->alice->loadable = false;
+    fixture->open();
+    fixture->alice->loadable = true;
+    fixture->host.forgetCalls();
+    fixture->button(QDialogButtonBox::Save)->click();
+    fixture->button(QDialogButtonBox::Cancel)->click();
+    fixture->child<QCheckBox>("RememberPresence")->setChecked(true);
+    fixture->tabs()->setCurrentIndex(1);
+    QVERIFY(fixture->window->isVisible());
+    QVERIFY(fixture->child<QComboBox>("PresenceCombo")->isEnabled());
+    QVERIFY(fixture->child<QTextEdit>("DescriptionEdit")->isEnabled());
+    QCOMPARE(fixture->host.calls(), QStringList());
+}
+
+void TestEditAccountDialog::anUnknownProtocolOpensNothing()
+{
+    const std::unique_ptr<KirvEditAccountDialog> dialog(
+        new KirvEditAccountDialog("alice", "Unknown", fixture->page(), Qt::Sheet));
+    QCOMPARE(fixture->host.calls(), QStringList { "getProtocolByName(Unknown)" });
+    QVERIFY(!kirvVisibleWindow<QDialog>());
+    QVERIFY(!fixture->dialog());
+}
+
+void TestEditAccountDialog::anUnknownProtocolEndsTheDialogBefore()
+{
+    fixture->open();
+    const QPointer<KirvEditAccountDialog> before = fixture->dialog();
+    const std::unique_ptr<KirvEditAccountDialog> dialog(
+        new KirvEditAccountDialog("alice", "Unknown", fixture->page(), Qt::Sheet));
+    QVERIFY(!before);
+    QVERIFY(!fixture->dialog());
+    QVERIFY(fixture->window);
+}
+
+void TestEditAccountDialog::aControllerWithoutWindowAnswersRejected()
+{
+    KirvEditAccountDialog dialog("alice", "Unknown", fixture->page(), Qt::Sheet);
+    fixture->host.forgetCalls();
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    for (const char *slot : { "saveSettings", "saveAndClose", "requestPubdirInfo", "removePubdirInfo", "reject" })
+        QVERIFY(QMetaObject::invokeMethod(&dialog, slot));
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "togglePubdirControl", Q_ARG(int, 1)));
+    QVERIFY(QMetaObject::invokeMethod(&dialog, "changeAvatar", Q_ARG(QString, "/new.png")));
+    QCOMPARE(fixture->host.effects(), QStringList());
+}
+
+void TestEditAccountDialog::theNextDialogLeavesTheWindowBefore()
+{
+    fixture->host.addAccount("bob", "IRC");
+    fixture->open();
+    const QPointer<KirvEditAccountDialog> first = fixture->dialog();
+    const QPointer<QDialog> firstWindow = fixture->window;
+    fixture->open("bob", "IRC");
+    QVERIFY(!first);
+    QVERIFY(firstWindow);
+    QVERIFY(firstWindow->isVisible());
+    QVERIFY(fixture->window != firstWindow);
+
+    // Its buttons do nothing any more.
+    fixture->host.forgetCalls();
+    firstWindow->findChild<QDialogButtonBox *>("EditAccount_FrameButtons")->button(QDialogButtonBox::Save)->click();
+    QCOMPARE(fixture->host.calls(), QStringList());
+}
+
+void TestEditAccountDialog::nothingIsConnectedToTheEndOfTheWindow()
+{
+    fixture->open();
+    const QPointer<KirvEditAccountDialog> dialog = fixture->dialog();
+    fixture->window->close();
+    fixture->letGo();
+    QVERIFY(dialog);
+    QCOMPARE(fixture->dialog(), dialog.data());
+    QVERIFY(fixture->window);
+}
+
+void TestEditAccountDialog::finishedEndsTheController()
+{
+    fixture->open();
+    const QPointer<KirvEditAccountDialog> dialog = fixture->dialog();
+    QVERIFY(QMetaObject::invokeMethod(dialog, "finished", Q_ARG(int, 1)));
+    QVERIFY(dialog);
+    fixture->letGo();
+    QVERIFY(!dialog);
+    QVERIFY(!fixture->dialog());
+    QVERIFY(fixture->window);
+    QVERIFY(fixture->window->isVisible());
+}
+
+void TestEditAccountDialog::execBlocksUntilTheWindowIsClosed()
+{
+    fixture->open();
+    QTimer::singleShot(0, fixture->window, [&] { fixture->button(QDialogButtonBox::Save)->click(); });
+    QCOMPARE(fixture->dialog()->exec(), int(QDialog::Accepted));
+    fixture->open();
+    QTimer::singleShot(0, fixture->window, [&] { fixture->button(QDialogButtonBox::Cancel)->click(); });
+    QCOMPARE(fixture->dialog()->exec(), int(QDialog::Rejected));
+}
+
+void TestEditAccountDialog::theControllerDeletedWhileItsWindowIsOpen()
+{
+    fixture->alice->loggedIn = true;
+    fixture->open();
+    delete fixture->dialog();
+    fixture->host.forgetCalls();
+    fixture->tabs()->setCurrentIndex(1);
+    fixture->child<QPushButton>("PubDirFetch")->click();
+    fixture->button(QDialogButtonBox::Save)->click();
+    fixture->button(QDialogButtonBox::Cancel)->click();
+    QCOMPARE(fixture->host.calls(), QStringList());
+    delete fixture->window;
+    QVERIFY(!fixture->dialog());
+}
+
+void TestEditAccountDialog::theWindowDeletedBeforeTheController()
+{
+    fixture->alice->loggedIn = true;
+    fixture->open();
+    delete fixture->window;
+    fixture->host.forgetCalls();
+    for (const char *slot : { "saveSettings", "saveAndClose", "requestPubdirInfo", "removePubdirInfo", "reject" })
+        QVERIFY(fixture->call(slot));
+    QCOMPARE(fixture->dialog()->exec(), int(QDialog::Rejected));
+    QCOMPARE(fixture->host.effects(), QStringList());
+    fixture->open();
+    QVERIFY(fixture->window);
+}
+
+QTEST_MAIN(TestEditAccountDialog)
+#include "tst_edit_account_dialog.moc"
