@@ -43,6 +43,7 @@ public:
     QString errorString() const { return error; }
 
     // What follows exists once start() has given true.
+    KirvStore &profile() const { return *store; }
     KirvAccountRegistry &accounts() const { return *accountRegistry; }
     KirvPluginRegistry &plugins() const { return *pluginRegistry; }
     KirvSettingsRegistry &settings() const { return *settingsRegistry; }

@@ -2,17 +2,11 @@
 #include "client/kirv_client_options.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 namespace {
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("KirvClientOptions", text);
-}
-
 /// The plug-ins beside the program come first, so that a build that is not installed uses its own.
 QString ownPluginFolder()
 {

@@ -2,11 +2,15 @@
 #ifndef KIRV_CLIENT_OPTIONS_H
 #define KIRV_CLIENT_OPTIONS_H
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 /// What the client is told when it is started.
 struct KirvClientOptions {
+    Q_DECLARE_TR_FUNCTIONS(KirvClientOptions)
+
+public:
     QString profileFolder;
     QString pluginFolder;
     bool demo = false;

@@ -159,8 +159,11 @@ void KirvConnectionView::edit()
 void KirvConnectionView::reconnect()
 {
     KirvAccount *account = currentAccount();
-    if (account && account->isLoaded() && account->isEnabled())
-        account->connection()->reconnect(loginPresence(*account));
+    if (!account || !account->isLoaded() || !account->isEnabled())
+        return;
+    const KirvPresence presence = loginPresence(*account);
+    account->setPresence(presence);
+    account->connection()->reconnect(presence);
 }
 
 void KirvConnectionView::enterPassword()

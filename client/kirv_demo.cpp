@@ -59,3 +59,8 @@ QString KirvDemo::password() const
 {
     return userPassword;
 }
+
+bool KirvDemo::isOnline()
+{
+    return xmpp.isOnline(userName);
+}

@@ -26,6 +26,8 @@ public:
 
     QString address() const;
     QString password() const;
+    /// Whether the XMPP server has a session of that account now.
+    bool isOnline();
     bool hasIrc() const { return irc.isRunning(); }
 
 private:

@@ -5,11 +5,12 @@
 #include "core/settings/kirv_settings_registry.h"
 
 #include <QAction>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QStyle>
+#include <QVBoxLayout>
 
 namespace {
 const QLatin1String geometryKey("settings_window/geometry");
@@ -52,13 +53,7 @@ KirvSettingsWindow::KirvSettingsWindow(KirvSettingsRegistry &settings, QWidget *
     connect(quit, &QAction::triggered, this, &QWidget::close);
     addAction(quit);
 
-    auto *layout = new QGridLayout(this);
-    layout->addWidget(banner, 0, 0, 1, 2);
-    layout->addWidget(messages, 1, 0, 1, 2);
-    layout->addWidget(list, 2, 0);
-    layout->addWidget(pages, 2, 1);
-    layout->setRowStretch(2, 1);
-    layout->setColumnStretch(1, 1);
+    arrange();
     restoreSize();
 }
 
@@ -67,6 +62,32 @@ KirvSettingsWindow::~KirvSettingsWindow()
     const QString geometry = QString::fromLatin1(saveGeometry().toBase64());
     if (settings.value(geometryKey) != geometry)
         settings.setValue(geometryKey, geometry);
+}
+
+/// Each page has margins of its own; what stands beside and above them gets the same.
+void KirvSettingsWindow::arrange()
+{
+    const int left = style()->pixelMetric(QStyle::PM_LayoutLeftMargin, nullptr, this);
+    const int top = style()->pixelMetric(QStyle::PM_LayoutTopMargin, nullptr, this);
+    const int bottom = style()->pixelMetric(QStyle::PM_LayoutBottomMargin, nullptr, this);
+
+    auto *listLayout = new QVBoxLayout;
+    listLayout->setContentsMargins(left, top, 0, bottom);
+    listLayout->addWidget(list);
+    auto *pagesLayout = new QHBoxLayout;
+    pagesLayout->setSpacing(0);
+    pagesLayout->addLayout(listLayout);
+    pagesLayout->addWidget(pages, 1);
+
+    auto *newsLayout = new QVBoxLayout;
+    newsLayout->setContentsMargins(left, 0, left, 0);
+    newsLayout->addWidget(banner);
+    newsLayout->addWidget(messages);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(newsLayout);
+    layout->addLayout(pagesLayout, 1);
 }
 
 void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIcon &icon)

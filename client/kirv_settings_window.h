@@ -31,6 +31,7 @@ public:
     KirvMessageBar *messageBar() const { return messages; }
 
 private:
+    void arrange();
     void restoreSize();
     void fitListToContents();
 

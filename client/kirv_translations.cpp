@@ -25,10 +25,13 @@ void install(QCoreApplication &application, const QLocale &locale, const QString
 }
 } // namespace
 
-void kirvInstallTranslations(QCoreApplication &application, const QLocale &locale)
+QString kirvTranslationFolder()
 {
-    const QDir program(QCoreApplication::applicationDirPath());
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../share/kirv/translations"));
+}
+
+void kirvInstallTranslations(QCoreApplication &application, const QLocale &locale, const QString &folder)
+{
     install(application, locale, QStringLiteral("qtbase"), qtTranslationFolder());
-    install(application, locale, QStringLiteral("kirv"),
-            program.filePath(QStringLiteral("../share/kirv/translations")));
+    install(application, locale, QStringLiteral("kirv"), folder);
 }

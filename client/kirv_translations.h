@@ -5,8 +5,11 @@
 #include <QCoreApplication>
 #include <QLocale>
 
-/// Installs the texts of the program and of Qt in the language of \a locale, as far as there are any; English
-/// otherwise. The application owns the translators.
-void kirvInstallTranslations(QCoreApplication &application, const QLocale &locale = QLocale());
+/// Where the texts that came with the program are.
+QString kirvTranslationFolder();
+/// Installs the texts of the program, from \a folder, and of Qt in the language of \a locale, as far as there
+/// are any; English otherwise. The application owns the translators.
+void kirvInstallTranslations(QCoreApplication &application, const QLocale &locale = QLocale(),
+                             const QString &folder = kirvTranslationFolder());
 
 #endif

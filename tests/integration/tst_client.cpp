@@ -1,0 +1,895 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_actions_menu.h"
+#include "client/kirv_client.h"
+#include "client/kirv_connection_model.h"
+#include "client/kirv_connection_view.h"
+#include "client/kirv_edit_window_binding.h"
+#include "client/kirv_message_bar.h"
+#include "client/kirv_password_dialog.h"
+#include "client/kirv_plugins_page.h"
+#include "client/kirv_registration_chooser.h"
+#include "client/kirv_settings_window.h"
+#include "client/kirv_translations.h"
+#include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_registry.h"
+#include "core/connection/kirv_connection.h"
+#include "core/plugins/kirv_plugin_registry.h"
+#include "core/settings/kirv_settings_registry.h"
+#include "core/settings/kirv_store.h"
+#include "edit_account/kirv_edit_account_dialog.h"
+#include "host/kirv_field_widget.h"
+#include "host/kirv_plugin_manager.h"
+#include "tests/support/plugins/kirv_fixture_protocol.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QTreeView>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+const QString example = QStringLiteral("Example");
+enum Column { AliasColumn, ProtocolColumn, IdColumn };
+
+/// A protocol that offers to register and has a command of its own.
+class OfferingProtocol : public KirvFixtureProtocol {
+public:
+    using KirvFixtureProtocol::KirvFixtureProtocol;
+
+    bool offersRegistration() const override { return true; }
+    void handleCoreSignal(const QString &name, const QList<KirvArg> &args) override
+    {
+        heard << name + QLatin1Char(':') + (args.isEmpty() ? QString() : args.first().getValue().toString());
+    }
+    QList<KirvAccountAction> accountActions(KirvAccountConnection *) const override
+    {
+        return { { QStringLiteral("always"), QStringLiteral("Always"), QString(), false },
+                 { QStringLiteral("online"), QStringLiteral("On Line Only"), QString(), true } };
+    }
+    void runAccountAction(const QString &id, KirvAccountConnection *account, QWidget *) override
+    {
+        heard << id + QLatin1Char(':') + account->getUid();
+    }
+
+    QStringList heard;
+};
+} // namespace
+
+class tst_Client : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void startsWithAnEmptyProfile();
+    void secondInstanceIsRefusedWithAReason();
+    void missingPluginFolderIsTold();
+    void accountsLogInAgainAfterARestart();
+    void titleAndViewFollowTheMainAccount();
+    void windowRemembersItsSize();
+
+    void unloadedProtocolKeepsItsRows();
+    void reloadedProtocolListsItsAccountsOnce();
+    void reloadingKeepsTheCurrentRow();
+    void reloadingWhileDisablingIsAskedDisablesTheAccountAskedAbout();
+    void reloadingWhileRemovingIsAskedRemovesTheAccountAskedAbout();
+    void reloadingFromThePluginsPage();
+
+    void accountAddedByOthersGetsARow();
+    void accountRemovedByOthersLosesRowAndSelectorEntry();
+    void questionAboutARemovedAccountDoesNotHitItsNeighbour();
+
+    void editAndCloseLeavesNothingBehind();
+    void closingTheWindowEndsTheController();
+    void secondEditWindowReplacesTheFirst();
+    void viewOpensTheEditWindow();
+    void editWindowGoesWithItsAccount();
+    void editWindowGoesWithItsProtocol();
+    void editWindowGoesWithThePage();
+    void oneSaveIsOneTransaction();
+    void refusedSaveKeepsTheWindowOpen();
+    void directoryTabSaysWhyItIsLocked();
+    void directoryIsAskedWhenTheAccountComesOnLine();
+
+    void viewShowsStates();
+    void viewShowsTheLastProblemAsPlainText();
+    void viewEnablesWhatIsPossible();
+    void reconnectLogsInAgain();
+    void viewUpdatesRowsOneByOne();
+
+    void passwordIsAskedForAndTaken();
+    void passwordsAreAskedOneAfterTheOther();
+    void cancelledPasswordQuestionLeavesTheAccountOffLine();
+    void passwordQuestionGoesWithItsAccount();
+    void passwordQuestionGoesWithItsProtocol();
+
+    void registrationWithoutOfferIsTold();
+    void registrationWithOneOfferGoesThere();
+    void registrationWithSeveralOffersIsChosen();
+    void registrationChoiceGoesWithItsProtocols();
+    void actionsOfTheProtocolAreOffered();
+
+    void messagesAreShownOnceAndClosed();
+    void germanTextsAreThere();
+
+private:
+    void start();
+    void restart();
+    KirvAccount *addAccount(const QString &id, const QString &password = QStringLiteral("secret"),
+                            bool remember = true);
+    KirvAccount *addOnlineAccount(const QString &id);
+    KirvAccount *account(const QString &id) const { return client->accounts().find({ id, example }); }
+    QTreeWidget *list() const;
+    QTreeWidgetItem *row(const QString &id) const;
+    QStringList rowIds() const;
+    QComboBox *selector() const;
+    QDialog *editWindow() const;
+    QDialog *openEditWindow(const QString &id);
+    template <typename T>
+    T *child(QWidget *parent, const char *name) const
+    {
+        return parent->findChild<T *>(QLatin1String(name));
+    }
+    QString pluginFile() const { return client->plugins().plugins().first().fileName; }
+    void unload() { QVERIFY(client->plugins().unload(pluginFile())); }
+    void load() { QVERIFY(client->plugins().load(pluginFile())); }
+    QString cell(const KirvAccount *account, int column) const;
+    KirvPasswordDialog *passwordQuestion() const;
+    static void processDeletions();
+
+    std::unique_ptr<QTemporaryDir> folder;
+    KirvClientOptions options;
+    std::unique_ptr<KirvClient> client;
+};
+
+void tst_Client::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder->isValid());
+    options = KirvClientOptions();
+    options.profileFolder = folder->filePath(QStringLiteral("profile"));
+    options.pluginFolder = QStringLiteral(KIRV_EXAMPLE_PROTOCOLS);
+    start();
+}
+
+void tst_Client::cleanup()
+{
+    client.reset();
+}
+
+void tst_Client::start()
+{
+    client = std::make_unique<KirvClient>(options);
+    QVERIFY2(client->start(), qPrintable(client->errorString()));
+    client->window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(client->window()));
+}
+
+void tst_Client::restart()
+{
+    client.reset();
+    start();
+}
+
+KirvAccount *tst_Client::addAccount(const QString &id, const QString &password, bool remember)
+{
+    KirvProtocol *protocol = KirvPluginManager::getInstance()->getProtocolByName(example);
+    KirvAccountConnection *created = KirvAccountManager::getInstance()->createAccount(
+        id, id, password, remember, protocol, protocol->getAllPresences().first(), protocol->getAccountSettings());
+    QCoreApplication::processEvents();
+    return static_cast<KirvAccount *>(created);
+}
+
+KirvAccount *tst_Client::addOnlineAccount(const QString &id)
+{
+    KirvAccount *created = addAccount(id);
+    return QTest::qWaitFor([created] { return created->isLoggedIn(); }) ? created : nullptr;
+}
+
+QTreeWidget *tst_Client::list() const
+{
+    return child<QTreeWidget>(client->accountsPage(), "Accounts_List");
+}
+
+QTreeWidgetItem *tst_Client::row(const QString &id) const
+{
+    return list()->findItems(id, Qt::MatchExactly, IdColumn).value(0);
+}
+
+QStringList tst_Client::rowIds() const
+{
+    QStringList ids;
+    for (int i = 0; i < list()->topLevelItemCount(); ++i)
+        ids << list()->topLevelItem(i)->text(IdColumn);
+    return ids;
+}
+
+QComboBox *tst_Client::selector() const
+{
+    return child<QComboBox>(client->accountsPage(), "Accounts_MainAccount");
+}
+
+QDialog *tst_Client::editWindow() const
+{
+    const auto windows =
+        client->accountsPage()->findChildren<QDialog *>(QStringLiteral("EditAccount"), Qt::FindDirectChildrenOnly);
+    for (QDialog *window : windows) {
+        if (window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+QDialog *tst_Client::openEditWindow(const QString &id)
+{
+    list()->setCurrentItem(row(id));
+    child<QToolButton>(client->accountsPage(), "Accounts_EditButton")->click();
+    return editWindow();
+}
+
+QString tst_Client::cell(const KirvAccount *account, int column) const
+{
+    KirvConnectionModel *model = client->connectionView()->findChild<KirvConnectionModel *>();
+    return model->index(model->rowOf(account), column).data().toString();
+}
+
+KirvPasswordDialog *tst_Client::passwordQuestion() const
+{
+    const auto dialogs = client->window()->findChildren<KirvPasswordDialog *>();
+    for (KirvPasswordDialog *dialog : dialogs) {
+        if (dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+void tst_Client::processDeletions()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+void tst_Client::startsWithAnEmptyProfile()
+{
+    QCOMPARE(rowIds(), QStringList());
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings"));
+    QVERIFY(client->accountsPage()->isVisible());
+    auto *pages = child<QListWidget>(client->window(), "Settings_Pages");
+    QCOMPARE(pages->count(), 3);
+    pages->setCurrentRow(1);
+    QVERIFY(client->connectionView()->isVisible());
+    pages->setCurrentRow(2);
+    QVERIFY(client->pluginsPage()->isVisible());
+    QVERIFY(client->window()->messageBar()->messages().isEmpty());
+}
+
+void tst_Client::secondInstanceIsRefusedWithAReason()
+{
+    KirvClient second(options);
+    QVERIFY(!second.start());
+    QVERIFY2(second.errorString().contains(QLatin1String("another running instance")),
+             qPrintable(second.errorString()));
+}
+
+void tst_Client::missingPluginFolderIsTold()
+{
+    options.pluginFolder = folder->filePath(QStringLiteral("nothing"));
+    restart();
+    QCOMPARE(client->window()->messageBar()->messages().size(), 1);
+    QVERIFY(client->window()->messageBar()->messages().first().contains(options.pluginFolder));
+    QCOMPARE(child<QLabel>(client->pluginsPage(), "Plugins_Details")->text(), QStringLiteral("There are no plug-ins."));
+}
+
+void tst_Client::accountsLogInAgainAfterARestart()
+{
+    QVERIFY(addOnlineAccount(QStringLiteral("anna")));
+    restart();
+    QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
+    QCOMPARE(row(QStringLiteral("anna"))->checkState(AliasColumn), Qt::Checked);
+    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+}
+
+void tst_Client::titleAndViewFollowTheMainAccount()
+{
+    addAccount(QStringLiteral("anna"));
+    KirvAccount *bert = addAccount(QStringLiteral("bert"));
+    client->accountsPage()->updateAccounts();
+    const int index = selector()->findText(QStringLiteral("bert"));
+    QVERIFY(index > 0);
+    selector()->setCurrentIndex(index);
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – bert"));
+    QCOMPARE(cell(bert, KirvConnectionModel::AccountColumn), QStringLiteral("bert (main account)"));
+    bert->setAlias(QStringLiteral("Bert\nB."));
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – Bert B."));
+
+    restart();
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – Bert B."));
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("bert"), example);
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings"));
+}
+
+void tst_Client::windowRemembersItsSize()
+{
+    client->window()->resize(701, 503);
+    QCoreApplication::processEvents();
+    restart();
+    QCOMPARE(client->window()->size(), QSize(701, 503));
+}
+
+void tst_Client::unloadedProtocolKeepsItsRows()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    client->accountsPage()->updateAccounts();
+    QCOMPARE(selector()->count(), 1);
+    unload();
+    QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
+    QCOMPARE(row(QStringLiteral("anna"))->checkState(AliasColumn), Qt::Checked);
+    QVERIFY(row(QStringLiteral("anna"))->toolTip(AliasColumn).contains(example));
+    QCOMPARE(selector()->count(), 0);
+    QVERIFY(account(QStringLiteral("anna"))->isEnabled());
+    QCOMPARE(cell(account(QStringLiteral("anna")), KirvConnectionModel::StateColumn),
+             QStringLiteral("Plug-in not loaded"));
+}
+
+void tst_Client::reloadedProtocolListsItsAccountsOnce()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    addAccount(QStringLiteral("bert"));
+    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("bert"), example);
+    client->accountsPage()->updateAccounts();
+    for (int round = 0; round < 3; ++round) {
+        unload();
+        load();
+        QCOMPARE(rowIds(), (QStringList { QStringLiteral("anna"), QStringLiteral("bert") }));
+        QCOMPARE(row(QStringLiteral("anna"))->checkState(AliasColumn), Qt::Checked);
+        QCOMPARE(row(QStringLiteral("bert"))->checkState(AliasColumn), Qt::Unchecked);
+        QCOMPARE(row(QStringLiteral("anna"))->toolTip(AliasColumn), QString());
+        QCOMPARE(selector()->count(), 1);
+        QCOMPARE(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")->menu()->actions().size(), 1);
+        QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    }
+}
+
+void tst_Client::reloadingKeepsTheCurrentRow()
+{
+    for (const char *id : { "anna", "bert", "carl" })
+        addAccount(QLatin1String(id));
+    list()->sortItems(AliasColumn, Qt::DescendingOrder);
+    list()->setCurrentItem(row(QStringLiteral("bert")));
+    unload();
+    QCOMPARE(list()->currentItem(), row(QStringLiteral("bert")));
+    load();
+    QCOMPARE(list()->currentItem(), row(QStringLiteral("bert")));
+    QCOMPARE(list()->selectedItems(), QList<QTreeWidgetItem *> { row(QStringLiteral("bert")) });
+    QCOMPARE(rowIds(), (QStringList { QStringLiteral("carl"), QStringLiteral("bert"), QStringLiteral("anna") }));
+    QVERIFY(child<QToolButton>(client->accountsPage(), "Accounts_EditButton")->isEnabled());
+}
+
+void tst_Client::reloadingWhileDisablingIsAskedDisablesTheAccountAskedAbout()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    addOnlineAccount(QStringLiteral("bert"));
+    row(QStringLiteral("anna"))->setCheckState(AliasColumn, Qt::Unchecked);
+    QPointer<QMessageBox> question = client->accountsPage()->findChild<QMessageBox *>();
+    QVERIFY(question);
+    unload();
+    load();
+    QVERIFY(question);
+    question->button(QMessageBox::Yes)->click();
+    QVERIFY(!account(QStringLiteral("anna"))->isEnabled());
+    QVERIFY(account(QStringLiteral("bert"))->isEnabled());
+    QCOMPARE(row(QStringLiteral("anna"))->checkState(AliasColumn), Qt::Unchecked);
+    QCOMPARE(rowIds().size(), 2);
+}
+
+void tst_Client::reloadingWhileRemovingIsAskedRemovesTheAccountAskedAbout()
+{
+    for (const char *id : { "anna", "bert", "carl" })
+        addAccount(QLatin1String(id));
+    list()->setCurrentItem(row(QStringLiteral("bert")));
+    child<QToolButton>(client->accountsPage(), "Accounts_RemoveButton")->click();
+    QPointer<QMessageBox> question = client->accountsPage()->findChild<QMessageBox *>();
+    QVERIFY(question);
+    unload();
+    load();
+    QVERIFY(question);
+    question->button(QMessageBox::Yes)->click();
+    processDeletions();
+    QCOMPARE(rowIds(), (QStringList { QStringLiteral("anna"), QStringLiteral("carl") }));
+    QVERIFY(!account(QStringLiteral("bert")));
+    QVERIFY(account(QStringLiteral("anna")) && account(QStringLiteral("carl")));
+}
+
+void tst_Client::reloadingFromThePluginsPage()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    client->window()->showPage(client->pluginsPage());
+    auto *loadButton = child<QPushButton>(client->pluginsPage(), "Plugins_LoadButton");
+    auto *unloadButton = child<QPushButton>(client->pluginsPage(), "Plugins_UnloadButton");
+    auto *plugins = child<QTreeWidget>(client->pluginsPage(), "Plugins_List");
+    QCOMPARE(plugins->topLevelItemCount(), 1);
+    QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
+    QVERIFY(!loadButton->isEnabled());
+    QTest::mouseClick(unloadButton, Qt::LeftButton);
+    QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Not loaded"));
+    QVERIFY(!unloadButton->isEnabled());
+    QTest::mouseClick(loadButton, Qt::LeftButton);
+    QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
+    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
+}
+
+void tst_Client::accountAddedByOthersGetsARow()
+{
+    addAccount(QStringLiteral("anna"));
+    QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
+    QCOMPARE(selector()->count(), 1);
+}
+
+void tst_Client::accountRemovedByOthersLosesRowAndSelectorEntry()
+{
+    addAccount(QStringLiteral("anna"));
+    addAccount(QStringLiteral("bert"));
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
+    QCoreApplication::processEvents();
+    QCOMPARE(rowIds(), QStringList { QStringLiteral("bert") });
+    QCOMPARE(selector()->count(), 1);
+    QCOMPARE(selector()->itemText(0), QStringLiteral("bert"));
+}
+
+void tst_Client::questionAboutARemovedAccountDoesNotHitItsNeighbour()
+{
+    for (const char *id : { "anna", "bert", "carl" })
+        addAccount(QLatin1String(id));
+    list()->setCurrentItem(row(QStringLiteral("bert")));
+    child<QToolButton>(client->accountsPage(), "Accounts_RemoveButton")->click();
+    QPointer<QMessageBox> question = client->accountsPage()->findChild<QMessageBox *>();
+    QVERIFY(question);
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("bert"), example);
+    QCoreApplication::processEvents();
+    if (question)
+        question->button(QMessageBox::Yes)->click();
+    processDeletions();
+    QCOMPARE(rowIds(), (QStringList { QStringLiteral("anna"), QStringLiteral("carl") }));
+    QVERIFY(account(QStringLiteral("anna")) && account(QStringLiteral("carl")));
+}
+
+void tst_Client::editAndCloseLeavesNothingBehind()
+{
+    addAccount(QStringLiteral("anna"));
+    const auto round = [this](int number) {
+        QDialog *window = openEditWindow(QStringLiteral("anna"));
+        QVERIFY(window);
+        auto *box = child<QDialogButtonBox>(window, "EditAccount_FrameButtons");
+        box->button(number % 2 ? QDialogButtonBox::Save : QDialogButtonBox::Cancel)->click();
+        processDeletions();
+        QVERIFY(!client->accountsPage()->getAccEdit());
+    };
+    round(0);
+    const int widgets = int(QApplication::allWidgets().size());
+    const int objects = int(client->window()->findChildren<QObject *>().size());
+    for (int i = 0; i < 1000; ++i)
+        round(i);
+    QCOMPARE(int(QApplication::allWidgets().size()), widgets);
+    QCOMPARE(int(client->window()->findChildren<QObject *>().size()), objects);
+}
+
+void tst_Client::closingTheWindowEndsTheController()
+{
+    addAccount(QStringLiteral("anna"));
+    QPointer<QDialog> window = openEditWindow(QStringLiteral("anna"));
+    QPointer<KirvEditAccountDialog> controller = client->accountsPage()->getAccEdit();
+    QVERIFY(window && controller);
+    window->close();
+    processDeletions();
+    QVERIFY(!window && !controller);
+}
+
+void tst_Client::secondEditWindowReplacesTheFirst()
+{
+    KirvAccount *anna = addAccount(QStringLiteral("anna"));
+    KirvAccount *bert = addAccount(QStringLiteral("bert"));
+    client->accountsPage()->editAccount(anna);
+    QPointer<QDialog> first = editWindow();
+    QVERIFY(first);
+    client->accountsPage()->editAccount(bert);
+    processDeletions();
+    QVERIFY(!first);
+    QVERIFY(editWindow());
+    QCOMPARE(child<QLabel>(editWindow(), "EditAccount_Identifier")->text(), QStringLiteral("bert (Example)"));
+    QVERIFY(client->accountsPage()->getAccEdit());
+}
+
+void tst_Client::viewOpensTheEditWindow()
+{
+    addAccount(QStringLiteral("anna"));
+    KirvAccount *bert = addAccount(QStringLiteral("bert"));
+    QPointer<QDialog> first = openEditWindow(QStringLiteral("anna"));
+    client->window()->showPage(client->connectionView());
+    client->connectionView()->setCurrentAccount(bert);
+    child<QPushButton>(client->connectionView(), "Connections_EditButton")->click();
+    processDeletions();
+    QVERIFY(!first);
+    QVERIFY(editWindow());
+    QCOMPARE(child<QLabel>(editWindow(), "EditAccount_Identifier")->text(), QStringLiteral("bert (Example)"));
+}
+
+void tst_Client::editWindowGoesWithItsAccount()
+{
+    addAccount(QStringLiteral("anna"));
+    addAccount(QStringLiteral("bert"));
+    QPointer<QDialog> window = openEditWindow(QStringLiteral("anna"));
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("bert"), example);
+    processDeletions();
+    QVERIFY(window && window->isVisible());
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
+    QVERIFY(!window->isVisible());
+    processDeletions();
+    QVERIFY(!window);
+    QVERIFY(!client->accountsPage()->getAccEdit());
+}
+
+void tst_Client::editWindowGoesWithItsProtocol()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    QPointer<QDialog> window = openEditWindow(QStringLiteral("anna"));
+    child<QTabWidget>(window, "EditAccount_Tabs")->setCurrentIndex(1); // an answer of the directory is on its way
+    unload();
+    processDeletions();
+    QVERIFY(!window);
+    QVERIFY(!client->accountsPage()->getAccEdit());
+    load();
+    QVERIFY(openEditWindow(QStringLiteral("anna")));
+}
+
+void tst_Client::editWindowGoesWithThePage()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    QPointer<QDialog> window = openEditWindow(QStringLiteral("anna"));
+    QPointer<KirvEditAccountDialog> controller = client->accountsPage()->getAccEdit();
+    client.reset();
+    QVERIFY(!window && !controller);
+}
+
+void tst_Client::oneSaveIsOneTransaction()
+{
+    KirvAccount *anna = addOnlineAccount(QStringLiteral("anna"));
+    QDialog *window = openEditWindow(QStringLiteral("anna"));
+    child<QLineEdit>(window, "EditAccount_Alias")->setText(QStringLiteral("Anna"));
+    child<QLineEdit>(window, "EditAccount_Password")->setText(QStringLiteral("another"));
+    child<QCheckBox>(window, "EditAccount_RememberPresence")->setChecked(true);
+    const int commits = client->profile().commitCount();
+    child<QDialogButtonBox>(window, "EditAccount_FrameButtons")->button(QDialogButtonBox::Save)->click();
+    QCOMPARE(client->profile().commitCount(), commits + 1);
+    QVERIFY(!window->isVisible());
+    QCOMPARE(anna->getAlias(), QStringLiteral("Anna"));
+    QCOMPARE(anna->getPassword(), QStringLiteral("another"));
+    QVERIFY(anna->restoresLastPresence());
+    QCOMPARE(row(QStringLiteral("anna"))->text(AliasColumn), QStringLiteral("Anna"));
+    QTRY_VERIFY(anna->isLoggedIn());
+}
+
+void tst_Client::refusedSaveKeepsTheWindowOpen()
+{
+    KirvAccount *anna = addAccount(QStringLiteral("anna"));
+    QDialog *window = openEditWindow(QStringLiteral("anna"));
+    child<QLineEdit>(window, "EditAccount_Alias")->setText(QStringLiteral("Anna"));
+    client->profile().close();
+    child<QDialogButtonBox>(window, "EditAccount_FrameButtons")->button(QDialogButtonBox::Save)->click();
+    QVERIFY(window->isVisible());
+    QCOMPARE(child<QLineEdit>(window, "EditAccount_Alias")->text(), QStringLiteral("Anna"));
+    QCOMPARE(anna->getAlias(), QStringLiteral("anna"));
+    QCOMPARE(row(QStringLiteral("anna"))->text(AliasColumn), QStringLiteral("anna"));
+    auto *box = child<QMessageBox>(window, "EditAccount_SaveFailed");
+    QVERIFY(box && box->isVisible() && !box->text().isEmpty());
+    QVERIFY(!client->window()->messageBar()->messages().isEmpty());
+}
+
+void tst_Client::directoryTabSaysWhyItIsLocked()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    QDialog *window = openEditWindow(QStringLiteral("anna"));
+    auto *status = child<QLabel>(window, "EditAccount_PubDirStatus");
+    auto *fields = child<QWidget>(window, "EditAccount_PubDirResults")->findChild<KirvFieldWidget *>();
+    QVERIFY(status && fields);
+    QCOMPARE(status->text(), QString());
+    child<QTabWidget>(window, "EditAccount_Tabs")->setCurrentIndex(1);
+    QVERIFY(!fields->isEnabled());
+    QCOMPARE(status->text(), QStringLiteral("Asking the server…"));
+    QTRY_VERIFY(fields->isEnabled());
+    QCOMPARE(status->text(), QString());
+}
+
+void tst_Client::directoryIsAskedWhenTheAccountComesOnLine()
+{
+    KirvAccount *anna = addOnlineAccount(QStringLiteral("anna"));
+    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
+    QTRY_VERIFY(!anna->isLoggedIn());
+    QDialog *window = openEditWindow(QStringLiteral("anna"));
+    auto *status = child<QLabel>(window, "EditAccount_PubDirStatus");
+    auto *fields = child<QWidget>(window, "EditAccount_PubDirResults")->findChild<KirvFieldWidget *>();
+    child<QTabWidget>(window, "EditAccount_Tabs")->setCurrentIndex(1);
+    QVERIFY(!fields->isEnabled());
+    QVERIFY(status->text().contains(QLatin1String("must be connected")));
+    KirvAccountManager::getInstance()->enableAccount(QStringLiteral("anna"), example);
+    QTRY_VERIFY(fields->isEnabled());
+    QCOMPARE(status->text(), QString());
+}
+
+void tst_Client::viewShowsStates()
+{
+    KirvAccount *anna = addAccount(QStringLiteral("anna"));
+    QCOMPARE(cell(anna, KirvConnectionModel::ProtocolColumn), example);
+    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connecting…"));
+    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connected"));
+    QVERIFY(!cell(anna, KirvConnectionModel::SinceColumn).isEmpty());
+    anna->connection()->logOut();
+    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Logging out…"));
+    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Off line"));
+    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
+    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Disabled"));
+}
+
+void tst_Client::viewShowsTheLastProblemAsPlainText()
+{
+    KirvAccount *anna = addAccount(QStringLiteral("anna"), QStringLiteral("wrong"));
+    QTRY_VERIFY(anna->lastFailure().isFailure());
+    const QString problem = anna->lastFailure().text();
+    QVERIFY(!problem.isEmpty());
+    QCOMPARE(cell(anna, KirvConnectionModel::ErrorColumn), problem.simplified());
+    client->window()->showPage(client->connectionView());
+    client->connectionView()->setCurrentAccount(anna);
+    auto *details = child<QLabel>(client->connectionView(), "Connections_Details");
+    QCOMPARE(details->text(), problem);
+    QCOMPARE(details->textFormat(), Qt::PlainText);
+
+    anna->setAlias(QStringLiteral("<b>bold</b>"));
+    KirvConnectionModel *model = client->connectionView()->findChild<KirvConnectionModel *>();
+    const QString toolTip = model->index(0, 0).data(Qt::ToolTipRole).toString();
+    QVERIFY2(toolTip.contains(QLatin1String("&lt;b&gt;bold")), qPrintable(toolTip));
+}
+
+void tst_Client::viewEnablesWhatIsPossible()
+{
+    KirvAccount *anna = addAccount(QStringLiteral("anna"));
+    auto *edit = child<QPushButton>(client->connectionView(), "Connections_EditButton");
+    auto *reconnect = child<QPushButton>(client->connectionView(), "Connections_ReconnectButton");
+    QVERIFY(!edit->isEnabled() && !reconnect->isEnabled());
+    client->connectionView()->setCurrentAccount(anna);
+    QVERIFY(edit->isEnabled() && reconnect->isEnabled());
+    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
+    QVERIFY(edit->isEnabled() && !reconnect->isEnabled());
+    unload();
+    QVERIFY(!edit->isEnabled());
+}
+
+void tst_Client::reconnectLogsInAgain()
+{
+    KirvAccount *anna = addOnlineAccount(QStringLiteral("anna"));
+    anna->setPresence(anna->getProtocol()->createPresenceWithId(QStringLiteral("offline"), QString()));
+    anna->getProtocol()->accountPresenceChanged(anna);
+    QTRY_COMPARE(anna->connection()->state(), KirvConnection::Offline);
+    client->connectionView()->setCurrentAccount(anna);
+    child<QPushButton>(client->connectionView(), "Connections_ReconnectButton")->click();
+    QTRY_VERIFY(anna->isLoggedIn());
+    QCOMPARE(anna->presence().getId(), QStringLiteral("available"));
+}
+
+void tst_Client::viewUpdatesRowsOneByOne()
+{
+    addOnlineAccount(QStringLiteral("anna"));
+    KirvAccount *bert = addOnlineAccount(QStringLiteral("bert"));
+    addOnlineAccount(QStringLiteral("carl"));
+    KirvConnectionModel *model = client->connectionView()->findChild<KirvConnectionModel *>();
+    QSignalSpy changes(model, &QAbstractItemModel::dataChanged);
+    QSignalSpy resets(model, &QAbstractItemModel::modelReset);
+    bert->setAlias(QStringLiteral("Bert"));
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.first().at(0).toModelIndex().row(), 1);
+    QCOMPARE(changes.first().at(1).toModelIndex().row(), 1);
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
+    QCOMPARE(model->rowOf(bert), 0);
+    QCOMPARE(resets.size(), 0);
+}
+
+void tst_Client::passwordIsAskedForAndTaken()
+{
+    addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
+    restart();
+    QTRY_VERIFY(passwordQuestion());
+    QPointer<KirvPasswordDialog> question = passwordQuestion();
+    QVERIFY(child<QLabel>(question, "PasswordQuestion_Text")->text().contains(QLatin1String("anna (Example)")));
+    QPushButton *ok = child<QDialogButtonBox>(question, "PasswordQuestion_Buttons")->button(QDialogButtonBox::Ok);
+    QVERIFY(!ok->isEnabled());
+    QTest::keyClicks(child<QLineEdit>(question, "PasswordQuestion_Password"), QStringLiteral("secret"));
+    child<QCheckBox>(question, "PasswordQuestion_Remember")->setChecked(true);
+    ok->click();
+    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    processDeletions();
+    QVERIFY(!question);
+
+    restart();
+    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    QVERIFY(!passwordQuestion());
+}
+
+void tst_Client::passwordsAreAskedOneAfterTheOther()
+{
+    addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
+    addAccount(QStringLiteral("bert"), QStringLiteral("secret"), false);
+    restart();
+    QTRY_VERIFY(passwordQuestion());
+    QCOMPARE(int(client->window()->findChildren<KirvPasswordDialog *>().size()), 1);
+    const KirvAccountKey first = passwordQuestion()->key();
+    passwordQuestion()->reject();
+    processDeletions();
+    QVERIFY(passwordQuestion());
+    QVERIFY(passwordQuestion()->key() != first);
+    passwordQuestion()->reject();
+    processDeletions();
+    QVERIFY(!passwordQuestion());
+}
+
+void tst_Client::cancelledPasswordQuestionLeavesTheAccountOffLine()
+{
+    addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
+    restart();
+    QTRY_VERIFY(passwordQuestion());
+    passwordQuestion()->reject();
+    KirvAccount *anna = account(QStringLiteral("anna"));
+    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Off line"));
+    client->connectionView()->setCurrentAccount(anna);
+    child<QPushButton>(client->connectionView(), "Connections_PasswordButton")->click();
+    QVERIFY(passwordQuestion());
+    QTest::keyClicks(child<QLineEdit>(passwordQuestion(), "PasswordQuestion_Password"), QStringLiteral("secret"));
+    QTest::keyClick(passwordQuestion(), Qt::Key_Return);
+    QTRY_VERIFY(anna->isLoggedIn());
+}
+
+void tst_Client::passwordQuestionGoesWithItsAccount()
+{
+    addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
+    restart();
+    QTRY_VERIFY(passwordQuestion());
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
+    processDeletions();
+    QVERIFY(client->window()->findChildren<KirvPasswordDialog *>().isEmpty());
+}
+
+void tst_Client::passwordQuestionGoesWithItsProtocol()
+{
+    addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
+    addAccount(QStringLiteral("bert"), QStringLiteral("secret"), false);
+    restart();
+    QTRY_VERIFY(passwordQuestion());
+    unload();
+    processDeletions();
+    QVERIFY(client->window()->findChildren<KirvPasswordDialog *>().isEmpty());
+}
+
+void tst_Client::registrationWithoutOfferIsTold()
+{
+    child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
+    QCOMPARE(client->window()->messageBar()->messages(),
+             QStringList { QStringLiteral("None of the loaded plug-ins can register a new account.") });
+}
+
+void tst_Client::registrationWithOneOfferGoesThere()
+{
+    auto *one = new OfferingProtocol(QStringLiteral("One"));
+    QVERIFY(client->plugins().addProtocol(one));
+    child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
+    QCOMPARE(one->heard, QStringList { QStringLiteral("register_account:") });
+    QVERIFY(client->window()->findChildren<KirvRegistrationChooser *>().isEmpty());
+}
+
+void tst_Client::registrationWithSeveralOffersIsChosen()
+{
+    auto *one = new OfferingProtocol(QStringLiteral("One"));
+    auto *two = new OfferingProtocol(QStringLiteral("Two"));
+    QVERIFY(client->plugins().addProtocol(one) && client->plugins().addProtocol(two));
+    child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
+    auto *chooser = client->window()->findChild<KirvRegistrationChooser *>();
+    QVERIFY(chooser && chooser->isVisible());
+    QVERIFY(one->heard.isEmpty() && two->heard.isEmpty());
+    auto *protocols = child<QListWidget>(chooser, "RegistrationChooser_List");
+    QCOMPARE(protocols->count(), 2); // the example protocol offers none
+    protocols->setCurrentRow(1);
+    child<QDialogButtonBox>(chooser, "RegistrationChooser_Buttons")->button(QDialogButtonBox::Ok)->click();
+    QCOMPARE(two->heard, QStringList { QStringLiteral("register_account:Two") });
+    processDeletions();
+    QVERIFY(!client->window()->findChild<KirvRegistrationChooser *>());
+}
+
+void tst_Client::registrationChoiceGoesWithItsProtocols()
+{
+    QVERIFY(client->plugins().addProtocol(new OfferingProtocol(QStringLiteral("One"))));
+    QVERIFY(client->plugins().addProtocol(new OfferingProtocol(QStringLiteral("Two"))));
+    child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
+    auto *chooser = client->window()->findChild<KirvRegistrationChooser *>();
+    QVERIFY(chooser);
+    chooser->removeProtocol(QStringLiteral("One"));
+    QCOMPARE(chooser->protocol(), QStringLiteral("Two"));
+    chooser->removeProtocol(QStringLiteral("Two"));
+    QVERIFY(!chooser->isVisible());
+}
+
+void tst_Client::actionsOfTheProtocolAreOffered()
+{
+    auto *protocol = new OfferingProtocol(QStringLiteral("Offering"));
+    QVERIFY(client->plugins().addProtocol(protocol));
+    KirvAccountManager::getInstance()->createAccount(QStringLiteral("anna"), QStringLiteral("anna"),
+                                                     QStringLiteral("secret"), true, protocol,
+                                                     protocol->presences().first(), {});
+    QCoreApplication::processEvents();
+    QDialog *window = openEditWindow(QStringLiteral("anna"));
+    QVERIFY(window);
+    auto *more = child<QPushButton>(window, "EditAccount_ServerAccountButton");
+    QVERIFY(more && more->menu());
+    emit more->menu()->aboutToShow();
+    QList<QAction *> commands = more->menu()->actions();
+    QCOMPARE(int(commands.size()), 2);
+    QVERIFY(commands.at(0)->isEnabled() && commands.at(1)->isEnabled());
+    commands.at(1)->trigger();
+    QCOMPARE(protocol->heard, QStringList { QStringLiteral("online:anna") });
+
+    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), QStringLiteral("Offering"));
+    emit more->menu()->aboutToShow();
+    commands = more->menu()->actions();
+    QVERIFY(commands.at(0)->isEnabled() && !commands.at(1)->isEnabled());
+}
+
+void tst_Client::messagesAreShownOnceAndClosed()
+{
+    KirvMessageBar *bar = client->window()->messageBar();
+    QVERIFY(!bar->isVisible());
+    bar->showMessage(QStringLiteral("<b>one</b>"));
+    bar->showMessage(QStringLiteral("<b>one</b>"));
+    bar->showMessage(QStringLiteral("two"));
+    QCOMPARE(bar->messages(), (QStringList { QStringLiteral("<b>one</b>"), QStringLiteral("two") }));
+    QVERIFY(bar->isVisible());
+    QCOMPARE(child<QLabel>(bar, "MessageBar_Text")->textFormat(), Qt::PlainText);
+    child<QToolButton>(bar, "MessageBar_Close")->click();
+    processDeletions();
+    QCOMPARE(bar->messages(), QStringList { QStringLiteral("two") });
+    bar->showMessage(QStringLiteral("three"));
+    bar->showMessage(QStringLiteral("four"));
+    bar->showMessage(QStringLiteral("five"));
+    QCOMPARE(bar->messages(),
+             (QStringList { QStringLiteral("three"), QStringLiteral("four"), QStringLiteral("five") }));
+    processDeletions();
+    for (int i = 0; i < 3; ++i) {
+        child<QToolButton>(bar, "MessageBar_Close")->click();
+        processDeletions();
+    }
+    QVERIFY(!bar->isVisible());
+}
+
+void tst_Client::germanTextsAreThere()
+{
+    const int before = int(qApp->findChildren<QTranslator *>().size());
+    kirvInstallTranslations(*qApp, QLocale(QLocale::German), QStringLiteral(KIRV_TRANSLATIONS));
+    const auto installed = qApp->findChildren<QTranslator *>().mid(before);
+    QVERIFY(!installed.isEmpty());
+    restart();
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Einstellungen"));
+    QCOMPARE(list()->headerItem()->text(ProtocolColumn), QStringLiteral("Protokoll"));
+    qDeleteAll(installed);
+}
+
+QTEST_MAIN(tst_Client)
+#include "tst_client.moc"
