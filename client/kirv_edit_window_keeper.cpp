@@ -51,7 +51,7 @@ void KirvEditWindowKeeper::closeProtocol(const QString &protocol)
 bool KirvEditWindowKeeper::eventFilter(QObject *watched, QEvent *event)
 {
     // The page gives the window its parent when everything in it is in place, just before it shows it.
-    if (watched == page && event->type() == QEvent::ChildAdded)
+    if (event->type() == QEvent::ChildAdded && watched == page)
         bindNewWindow(static_cast<QChildEvent *>(event)->child());
     return QObject::eventFilter(watched, event);
 }
