@@ -10,6 +10,15 @@
 #include <QFont>
 #include <QLocale>
 
+namespace {
+/// Of today only the time is told.
+QString sinceText(const QDateTime &time)
+{
+    return time.date() == QDate::currentDate() ? QLocale().toString(time.time(), QLocale::ShortFormat)
+                                               : QLocale().toString(time, QLocale::ShortFormat);
+}
+} // namespace
+
 KirvConnectionModel::KirvConnectionModel(KirvAccountRegistry &accounts, QObject *parent)
     : QAbstractTableModel(parent)
     , accounts(accounts)
@@ -45,6 +54,8 @@ QVariant KirvConnectionModel::data(const QModelIndex &index, int role) const
             return account->connection() ? account->connection()->since() : QDateTime();
         return text(*account, index.column());
     case Qt::ToolTipRole:
+        if (index.column() == SinceColumn && account->connection())
+            return QLocale().toString(account->connection()->since(), QLocale::LongFormat);
         return kirvPlainToolTip(text(*account, index.column()));
     case Qt::DecorationRole:
         return index.column() == AccountColumn ? protocolIcon(*account) : QIcon();
@@ -112,7 +123,7 @@ QString KirvConnectionModel::stateText(const KirvAccount &account)
         return tr("Logging out…");
     case KirvConnection::Waiting:
         //: %1 = time of day
-        return tr("Waiting, next try at %1")
+        return tr("Waiting until %1")
             .arg(QLocale().toString(connection->nextRetry().time(), QStringLiteral("hh:mm:ss")));
     case KirvConnection::Offline:
         break;
@@ -160,8 +171,7 @@ QString KirvConnectionModel::text(const KirvAccount &account, int column) const
     case StateColumn:
         return stateText(account);
     case SinceColumn:
-        return account.connection() ? QLocale().toString(account.connection()->since(), QLocale::ShortFormat)
-                                    : QString();
+        return account.connection() ? sinceText(account.connection()->since()) : QString();
     case ErrorColumn:
         return account.lastFailure().text();
     default:

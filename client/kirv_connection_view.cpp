@@ -100,10 +100,10 @@ void KirvConnectionView::setupList()
     list->setContextMenuPolicy(Qt::CustomContextMenu);
     list->header()->setSortIndicator(-1, Qt::AscendingOrder); // the order of the accounts, until the user sorts
     const int unit = fontMetrics().averageCharWidth();
-    list->setColumnWidth(KirvConnectionModel::AccountColumn, 30 * unit);
-    list->setColumnWidth(KirvConnectionModel::ProtocolColumn, 12 * unit);
-    list->setColumnWidth(KirvConnectionModel::StateColumn, 20 * unit);
-    list->setColumnWidth(KirvConnectionModel::SinceColumn, 20 * unit);
+    list->setColumnWidth(KirvConnectionModel::AccountColumn, 24 * unit);
+    list->setColumnWidth(KirvConnectionModel::ProtocolColumn, 11 * unit);
+    list->setColumnWidth(KirvConnectionModel::StateColumn, 24 * unit);
+    list->setColumnWidth(KirvConnectionModel::SinceColumn, 12 * unit);
 
     connect(list, &QTreeView::activated, this, &KirvConnectionView::edit);
     connect(list, &QTreeView::customContextMenuRequested, this, &KirvConnectionView::showMenu);

@@ -86,7 +86,7 @@ void KirvEditWindowBinding::bindButtons()
         connect(saveButton, &QPushButton::clicked, this, &KirvEditWindowBinding::save);
     }
     if (KirvAccountActionsMenu::isUseful(accountKey, accounts)) {
-        QPushButton *more = box->addButton(tr("&Server Account"), QDialogButtonBox::ActionRole);
+        QPushButton *more = box->addButton(tr("&Server Account"), QDialogButtonBox::ResetRole); // stands apart
         more->setObjectName(QStringLiteral("EditAccount_ServerAccountButton"));
         more->setAutoDefault(false);
         more->setToolTip(tr("What can be done with the account on its server."));

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -27,7 +26,9 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginRegistry &plugins, const QString &fol
     list->setUniformRowHeights(true);
     list->setAllColumnsShowFocus(true);
     list->setAlternatingRowColors(true);
-    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    const int unit = fontMetrics().averageCharWidth();
+    list->setColumnWidth(0, 24 * unit);
+    list->setColumnWidth(1, 18 * unit);
 
     details->setObjectName(QStringLiteral("Plugins_Details"));
     details->setAccessibleName(tr("About the plug-in"));

@@ -72,15 +72,17 @@ void KirvSettingsWindow::arrange()
     const int bottom = style()->pixelMetric(QStyle::PM_LayoutBottomMargin, nullptr, this);
 
     auto *listLayout = new QVBoxLayout;
-    listLayout->setContentsMargins(left, top, 0, bottom);
+    listLayout->setContentsMargins(0, top, 0, bottom);
     listLayout->addWidget(list);
     auto *pagesLayout = new QHBoxLayout;
     pagesLayout->setSpacing(0);
+    pagesLayout->addSpacing(left); // not a margin: that would stay on the left from right to left, too
     pagesLayout->addLayout(listLayout);
     pagesLayout->addWidget(pages, 1);
 
     auto *newsLayout = new QVBoxLayout;
-    newsLayout->setContentsMargins(left, 0, left, 0);
+    newsLayout->setContentsMargins(left, top, left, 0);
+    newsLayout->setSpacing(top);
     newsLayout->addWidget(banner);
     newsLayout->addWidget(messages);
     auto *layout = new QVBoxLayout(this);
@@ -121,7 +123,7 @@ void KirvSettingsWindow::restoreSize()
     const QByteArray geometry = QByteArray::fromBase64(settings.value(geometryKey).toLatin1());
     if (geometry.isEmpty() || !restoreGeometry(geometry)) {
         const QFontMetrics metrics = fontMetrics();
-        resize(110 * metrics.averageCharWidth(), 32 * metrics.lineSpacing());
+        resize(120 * metrics.averageCharWidth(), 32 * metrics.lineSpacing());
     }
 }
 
