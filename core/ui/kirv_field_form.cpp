@@ -28,8 +28,13 @@ namespace {
 // scrolls where they are the value.
 const int LongestCaption = 200;
 const int LongestBoxCaption = 60;
+const int LongestNumber = 20;
+const int LongestWord = 60;
 const int LongestToolTip = 1000;
 const int LongestLine = 2000;
+const int LabelWidth = 40; // in average characters
+// Laying out a text without a gap takes time with the square of its length: seconds for 100,000 characters.
+const int LongestEditableText = 32767;
 const int ShownLines = 4;
 
 QString shortened(const QString &text, int length)
@@ -63,6 +68,19 @@ bool fitsOneLine(const QString &text)
     return text.size() <= LongestLine && !text.contains(lineBreak);
 }
 
+/// Whether a label can show \a text in a reasonable size; it breaks lines only between words.
+bool fitsLabel(const QString &text)
+{
+    static const QRegularExpression longWord(QStringLiteral("\\S{%1}").arg(LongestWord));
+    return text.size() <= LongestLine && !text.contains(longWord);
+}
+
+bool isTooLongToEdit(const KirvField &field)
+{
+    const bool isText = field.getKind() == KirvField::Text || field.getKind() == KirvField::MultiLine;
+    return isText && field.getText().size() > LongestEditableText;
+}
+
 bool isWholeNumberIn(const KirvField &field)
 {
     bool isNumber = false;
@@ -77,6 +95,8 @@ QString problemOf(const KirvField &field)
         return QString();
     if (field.getText().isEmpty())
         return field.isRequired() ? KirvFieldForm::tr("This must be filled in.") : QString();
+    if (isTooLongToEdit(field))
+        return KirvFieldForm::tr("This text is too long to be shown in full and to be changed here.");
     if (field.getKind() == KirvField::Number && !isWholeNumberIn(field))
         return KirvFieldForm::tr("This must be a whole number from %1 to %2.")
             .arg(field.getMinimum())
@@ -91,7 +111,8 @@ QString problemOf(const KirvField &field)
 
 bool canHaveProblem(const KirvField &field)
 {
-    return field.isRequired() || !field.getPattern().isEmpty() || field.getKind() == KirvField::Number;
+    return field.isRequired() || !field.getPattern().isEmpty() || field.getKind() == KirvField::Number
+        || isTooLongToEdit(field);
 }
 
 QString objectNameOf(const KirvField &field)
@@ -206,14 +227,22 @@ void KirvFieldForm::addControl(QWidget *control, const Row &row)
         captions.append({ row.editor.widget, caption });
         return;
     }
-    auto *label = new QLabel;
-    label->setObjectName(objectNameOf(row.field) + QStringLiteral("_Label"));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(caption.size() > LongestBoxCaption / 2);
-    label->setToolTip(row.editor.widget->toolTip());
+    QLabel *label = makeLabel(row.field);
     label->setBuddy(row.editor.widget);
     layout->addRow(label, control);
     captions.append({ label, isCheckBox ? caption : labelTextOf(caption) });
+}
+
+/// The label of \a field, without its text and its buddy.
+QLabel *KirvFieldForm::makeLabel(const KirvField &field)
+{
+    auto *label = new QLabel(this);
+    label->setObjectName(objectNameOf(field) + QStringLiteral("_Label"));
+    label->setTextFormat(Qt::PlainText);
+    label->setToolTip(toolTipOf(field.getToolTip()));
+    label->setWordWrap(captionOf(field).size() > LabelWidth);
+    label->setMaximumWidth(fontMetrics().averageCharWidth() * LabelWidth);
+    return label;
 }
 
 void KirvFieldForm::addNote(const KirvField &field)
@@ -221,7 +250,7 @@ void KirvFieldForm::addNote(const KirvField &field)
     const QString caption = field.getLabel().isEmpty() ? QString() : captionOf(field);
     const QString text = field.getText().isEmpty() ? caption : field.getText();
     QWidget *note = nullptr;
-    if (text.size() <= LongestLine) {
+    if (fitsLabel(text)) {
         auto *label = new QLabel(this);
         label->setTextFormat(Qt::PlainText);
         label->setText(text);
@@ -229,7 +258,7 @@ void KirvFieldForm::addNote(const KirvField &field)
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         note = label;
     } else {
-        auto *edit = new QPlainTextEdit(text, this);
+        auto *edit = new QPlainTextEdit(shortened(text, LongestEditableText), this);
         edit->setReadOnly(true);
         edit->setTabChangesFocus(true);
         edit->setAccessibleName(caption);
@@ -241,9 +270,8 @@ void KirvFieldForm::addNote(const KirvField &field)
         layout->addRow(note);
         return;
     }
-    auto *label = new QLabel(labelTextOf(caption));
-    label->setObjectName(objectNameOf(field) + QStringLiteral("_Label"));
-    label->setTextFormat(Qt::PlainText);
+    QLabel *label = makeLabel(field);
+    label->setText(labelTextOf(caption));
     layout->addRow(label, note);
 }
 
@@ -281,7 +309,8 @@ KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_
 
 KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_t row)
 {
-    auto *edit = new QPlainTextEdit(field.getText(), this);
+    auto *edit = new QPlainTextEdit(shortened(field.getText(), LongestEditableText), this);
+    edit->setReadOnly(isTooLongToEdit(field));
     edit->setTabChangesFocus(true);
     edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     edit->setFixedHeight(heightOfLines(edit, ShownLines));
@@ -333,8 +362,9 @@ KirvFieldForm::Editor KirvFieldForm::makeNumber(const KirvField &field, std::siz
     } else {
         // The value that stands there though it must not is shown as it is, one step below the smallest number.
         box->setMinimum(qMax(field.getMinimum(), std::numeric_limits<int>::min() + 1) - 1);
-        box->setSpecialValueText(field.getText().isEmpty() ? QStringLiteral(" ")
-                                                           : shortened(field.getText(), LongestCaption).simplified());
+        box->setSpecialValueText(field.getText().isEmpty()
+                                     ? QStringLiteral(" ")
+                                     : shortened(field.getText().left(LongestCaption).simplified(), LongestNumber));
         box->setValue(box->minimum());
     }
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, row] { updateHint(rows[row], true); });

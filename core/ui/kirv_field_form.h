@@ -63,6 +63,7 @@ private:
     Editor makeNumber(const KirvField &field, std::size_t row);
     QWidget *withRevealButton(QWidget *line, const KirvField &field);
     QWidget *withHint(QWidget *control, Row *row);
+    QLabel *makeLabel(const KirvField &field);
     void addControl(QWidget *control, const Row &row);
     void updateHint(const Row &row, bool remindOfEmpty);
 

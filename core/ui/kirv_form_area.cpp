@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_form_area.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFormLayout>
 #include <QScrollBar>
@@ -35,6 +36,11 @@ KirvFormArea::KirvFormArea(QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalScrollBar()->installEventFilter(this);
+    // The base class follows the focus only where it moves from one control of the area to another.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && widget() && widget()->isAncestorOf(now))
+            ensureWidgetVisible(now);
+    });
 }
 
 QSize KirvFormArea::sizeHint() const
@@ -98,7 +104,7 @@ void KirvFormArea::alignLabels()
 
     int width = 0;
     for (const QWidget *label : qAsConst(labels))
-        width = qMax(width, label->sizeHint().width());
+        width = qMax(width, qMin(label->sizeHint().width(), label->maximumWidth()));
     for (QWidget *label : qAsConst(labels)) {
         if (label->minimumWidth() != width)
             label->setMinimumWidth(width);
