@@ -86,6 +86,7 @@ private Q_SLOTS:
     void unloadsEverythingAtTheEnd();
     void isNotThereAfterTheEnd();
     void broadcastsCoreSignals();
+    void aFilterKeepsCoreSignalsFromTheProtocols();
     void aReceiverMayUnloadAnother();
     void directoryOperationsReachTheConnection();
     void findsPresencesById();
@@ -399,6 +400,21 @@ void tst_Plugins::broadcastsCoreSignals()
     KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("register_account"), {});
     KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("other"), { KirvArg(1) });
     QCOMPARE(heard, (QStringList { "A register_account 0", "B register_account 0", "A other 1", "B other 1" }));
+}
+
+void tst_Plugins::aFilterKeepsCoreSignalsFromTheProtocols()
+{
+    KirvPluginRegistry registry;
+    QStringList heard;
+    QVERIFY(registry.addProtocol(new ListeningProtocol(QStringLiteral("A"), heard)));
+    registry.setCoreSignalFilter(
+        [](const QString &name, const QList<KirvArg> &) { return name != QLatin1String("register_account"); });
+    registry.emitCoreSignal(QStringLiteral("register_account"), {});
+    registry.emitCoreSignal(QStringLiteral("other"), {});
+    QCOMPARE(heard, QStringList { "A other 0" });
+    registry.setCoreSignalFilter(nullptr);
+    registry.emitCoreSignal(QStringLiteral("register_account"), {});
+    QCOMPARE(heard.size(), 2);
 }
 
 void tst_Plugins::aReceiverMayUnloadAnother()
