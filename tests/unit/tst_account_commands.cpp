@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "edit_account/kirv_edit_account_dialog.h"
+#include "tests/unit/kirv_object_counter.h"
 #include "tests/unit/kirv_page_fixture.h"
 #include "tests/unit/kirv_private_member.h"
 #include "tests/unit/kirv_window_watcher.h"
@@ -43,6 +44,8 @@ private Q_SLOTS:
     void theRecordedDialogNeverDangles_data();
     void theRecordedDialogNeverDangles();
     void anUnknownProtocolEndsTheDialogBeforeAndRecordsNone();
+    void aDialogForAnUnknownProtocolIsNotLeaked();
+    void addDialogsLeaveNothingBehind();
     void registeringEmitsOneCoreSignalWithoutArguments();
 
 private:
@@ -266,6 +269,33 @@ void TestAccountCommands::anUnknownProtocolEndsTheDialogBeforeAndRecordsNone()
     QVERIFY(!first);
     QVERIFY(!fixture->page()->getAccEdit());
     QCOMPARE(fixture->host.calls({ "loadUI", "loadAccount", "readAccountGlobals" }), QStringList());
+}
+
+void TestAccountCommands::aDialogForAnUnknownProtocolIsNotLeaked()
+{
+    fixture->host.unloadProtocol("IRC");
+    const KirvObjectCounter counter;
+    fixture->page()->editAccount(bob);
+    QVERIFY(QMetaObject::invokeMethod(fixture->page(), "itemActivated",
+                                      Q_ARG(QTreeWidgetItem *, fixture->row("bob", "IRC")), Q_ARG(int, 0)));
+    QCOMPARE(counter.living(), 0);
+}
+
+void TestAccountCommands::addDialogsLeaveNothingBehind()
+{
+    fixture->xmpp->configurations = QStringList { "Home" };
+    KirvWindowWatcher<QDialog> watcher([](QDialog *window) { window->close(); });
+    const auto addAndCancel = [&] {
+        fixture->addMenu()->actions().first()->trigger();
+        fixture->letGo();
+    };
+    // What Qt keeps for later is made by the first one.
+    addAndCancel();
+    const KirvObjectCounter counter;
+    for (int i = 0; i < 10; ++i)
+        addAndCancel();
+    QCOMPARE(watcher.shown, 11);
+    QCOMPARE(counter.living(), 0);
 }
 
 void TestAccountCommands::registeringEmitsOneCoreSignalWithoutArguments()

@@ -136,6 +136,7 @@ void TestTranslations::noConfiguration()
 void TestTranslations::aConfigurationOfTheTranslatedNameIsNone()
 {
     fixture->xmpp->configurations = QStringList { "None", "[None]" };
+    fixture->xmpp->accountSettings = { KirvEditFixture::text("server", "") };
     const KirvAddAccountDialog dialog(fixture->xmpp, QString(""), fixture->page(), Qt::Sheet);
     auto *configurations =
         fixture->page()->findChild<QDialog *>("AddAccount")->findChild<QComboBox *>("AddAccount_Configuration");
