@@ -1,13 +1,63 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/demo/kirv_ngircd_server.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+#ifdef Q_OS_UNIX
+
+// Started by root, the server becomes "nobody" by itself, and with that the system forgets that it is to end with
+// its parent. So it is "nobody" from the start, and its files are nobody's.
+
+bool isRoot()
+{
+    return geteuid() == 0;
+}
+
+bool giveToNobody(const QString &folder)
+{
+    const passwd *nobody = getpwnam("nobody");
+    const auto give = [nobody](const QString &path) {
+        return chown(QFile::encodeName(path).constData(), nobody->pw_uid, nobody->pw_gid) == 0;
+    };
+    bool given = nobody && give(folder);
+    for (const QFileInfo &file : QDir(folder).entryInfoList(QDir::Files))
+        given = given && give(file.filePath());
+    return given;
+}
+
+#else
+
+bool isRoot()
+{
+    return false;
+}
+
+bool giveToNobody(const QString &)
+{
+    return true;
+}
+
+#endif
+
+} // namespace
 
 bool KirvNgircdServer::writeConfiguration()
 {
     if (encrypted && !QFile::exists(certificateFile()) && !createCertificate())
         return false;
-    return writeFile(QStringLiteral("ngircd.conf"), configuration());
+    if (!writeFile(QStringLiteral("ngircd.conf"), configuration()))
+        return false;
+    return !isRoot() || giveToNobody(folder())
+        || fail(QCoreApplication::translate("KirvNgircdServer", "The files of the server could not be given to it."));
 }
 
 /// The parameters for the key exchange are a well-known group: the server would take seconds to make its own.
@@ -63,7 +113,18 @@ QByteArray KirvNgircdServer::configuration() const
     return lines.join(QLatin1Char('\n')).toUtf8() + '\n';
 }
 
+QString KirvNgircdServer::program() const
+{
+    return isRoot() ? QStringLiteral("setpriv") : QStringLiteral("ngircd");
+}
+
 QStringList KirvNgircdServer::arguments() const
 {
-    return { QStringLiteral("-n"), QStringLiteral("-f"), configurationFile() };
+    const QStringList server { QStringLiteral("-n"), QStringLiteral("-f"), configurationFile() };
+    if (!isRoot())
+        return server;
+    return QStringList { QStringLiteral("--reuid=nobody"), QStringLiteral("--regid=nogroup"),
+                         QStringLiteral("--clear-groups"), QStringLiteral("--pdeathsig=KILL"),
+                         QStringLiteral("ngircd") }
+    + server;
 }

@@ -21,7 +21,7 @@ public:
 
 protected:
     bool writeConfiguration() override;
-    QString program() const override { return QStringLiteral("ngircd"); }
+    QString program() const override;
     QStringList arguments() const override;
 
 private:
