@@ -213,23 +213,33 @@ void KirvFieldForm::addRow(const KirvField &field)
     editor->setAccessibleDescription(shortened(field.getToolTip(), LongestToolTip));
     editor->setToolTip(toolTipOf(field.getToolTip()));
 
-    QWidget *control = field.getKind() == KirvField::Password ? withRevealButton(editor, field) : editor;
-    addControl(canHaveProblem(field) ? withHint(control, &row) : control, row);
+    addControl(&row);
     updateHint(row, false);
 }
 
-void KirvFieldForm::addControl(QWidget *control, const Row &row)
+void KirvFieldForm::addControl(Row *row)
 {
-    const QString caption = captionOf(row.field);
-    const bool isCheckBox = row.field.getKind() == KirvField::CheckBox;
+    // A layout, not a widget: accessibility looks for the label of a control among its siblings.
+    auto *cell = new QVBoxLayout;
+    auto *line = new QHBoxLayout;
+    line->setSpacing(0);
+    line->addWidget(row->editor.widget);
+    if (row->field.getKind() == KirvField::Password)
+        line->addWidget(makeRevealButton(static_cast<QLineEdit *>(row->editor.widget), row->field));
+    cell->addLayout(line);
+    if (canHaveProblem(row->field))
+        cell->addWidget(makeHint(row));
+
+    const QString caption = captionOf(row->field);
+    const bool isCheckBox = row->field.getKind() == KirvField::CheckBox;
     if (isCheckBox && caption.size() <= LongestBoxCaption) {
-        layout->addRow(QString(), control);
-        captions.append({ row.editor.widget, caption });
+        layout->addRow(QString(), cell);
+        captions.append({ row->editor.widget, caption });
         return;
     }
-    QLabel *label = makeLabel(row.field);
-    label->setBuddy(row.editor.widget);
-    layout->addRow(label, control);
+    QLabel *label = makeLabel(row->field);
+    label->setBuddy(row->editor.widget);
+    layout->addRow(label, cell);
     captions.append({ label, isCheckBox ? caption : labelTextOf(caption) });
 }
 
@@ -371,10 +381,9 @@ KirvFieldForm::Editor KirvFieldForm::makeNumber(const KirvField &field, std::siz
     return { box, [box] { return box->value(); } };
 }
 
-QWidget *KirvFieldForm::withRevealButton(QWidget *line, const KirvField &field)
+QWidget *KirvFieldForm::makeRevealButton(QLineEdit *edit, const KirvField &field)
 {
-    auto *edit = static_cast<QLineEdit *>(line);
-    auto *button = new QToolButton;
+    auto *button = new QToolButton(this);
     button->setObjectName(objectNameOf(field) + QStringLiteral("_Reveal"));
     button->setCheckable(true);
     button->setAutoRaise(true);
@@ -390,21 +399,12 @@ QWidget *KirvFieldForm::withRevealButton(QWidget *line, const KirvField &field)
     };
     connect(button, &QToolButton::toggled, edit, reveal);
     reveal(false);
-
-    auto *cell = new QWidget(this);
-    auto *row = new QHBoxLayout(cell);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    row->addWidget(edit);
-    row->addWidget(button);
-    return cell;
+    return button;
 }
 
-/// \a control with room for a hint below it.
-QWidget *KirvFieldForm::withHint(QWidget *control, Row *row)
+QWidget *KirvFieldForm::makeHint(Row *row)
 {
-    auto *cell = new QWidget(this);
-    auto *hintLine = new QWidget(cell);
+    auto *hintLine = new QWidget(this);
     auto *icon = new QLabel(hintLine);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size, size));
@@ -417,13 +417,9 @@ QWidget *KirvFieldForm::withHint(QWidget *control, Row *row)
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(icon);
     line->addWidget(row->hint, 1);
-    auto *column = new QVBoxLayout(cell);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(control);
-    column->addWidget(hintLine);
     hintLine->hide();
     row->editor.widget->installEventFilter(this);
-    return cell;
+    return hintLine;
 }
 
 void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)

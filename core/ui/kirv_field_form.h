@@ -13,6 +13,7 @@
 #include <vector>
 
 class QLabel;
+class QLineEdit;
 
 /// The rows of a field widget for one list of fields; a new list makes a new form.
 ///
@@ -61,10 +62,10 @@ private:
     Editor makeCheckBox(const KirvField &field, std::size_t row);
     Editor makeChoice(const KirvField &field, std::size_t row);
     Editor makeNumber(const KirvField &field, std::size_t row);
-    QWidget *withRevealButton(QWidget *line, const KirvField &field);
-    QWidget *withHint(QWidget *control, Row *row);
+    QWidget *makeRevealButton(QLineEdit *edit, const KirvField &field);
+    QWidget *makeHint(Row *row);
     QLabel *makeLabel(const KirvField &field);
-    void addControl(QWidget *control, const Row &row);
+    void addControl(Row *row);
     void updateHint(const Row &row, bool remindOfEmpty);
 
     QFormLayout *layout;
