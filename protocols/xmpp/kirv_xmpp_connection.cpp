@@ -198,24 +198,26 @@ void KirvXmppConnection::advertise(const KirvXmppPhoto &photo)
 
 void KirvXmppConnection::changePassword(const QString &password, const Receiver &receiver)
 {
-    QDomElement query = kirvXmppNewElement(registrationSpace, QStringLiteral("query"));
+    const QDomDocument request = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
+    QDomElement query = request.documentElement();
     kirvXmppAppend(query, QStringLiteral("username"), account()->getUid().section(QLatin1Char('@'), 0, 0));
     kirvXmppAppend(query, QStringLiteral("password"), password);
-    askServer(query, receiver);
+    askServer(request, receiver);
 }
 
 void KirvXmppConnection::deleteOnServer(const Receiver &receiver)
 {
-    QDomElement query = kirvXmppNewElement(registrationSpace, QStringLiteral("query"));
+    const QDomDocument request = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
+    QDomElement query = request.documentElement();
     kirvXmppAppend(query, QStringLiteral("remove"));
-    askServer(query, [this, receiver](const KirvFailure &failure) {
+    askServer(request, [this, receiver](const KirvFailure &failure) {
         if (!failure.isFailure())
             drop(); // the server ends the stream now, which is no failure
         receiver(failure);
     });
 }
 
-void KirvXmppConnection::askServer(const QDomElement &query, const Receiver &receiver)
+void KirvXmppConnection::askServer(const QDomDocument &request, const Receiver &receiver)
 {
     if (!isLoggedIn()) {
         receiver(KirvFailure(KirvFailure::RequestFailed, tr("The account is not connected.")));
@@ -223,5 +225,5 @@ void KirvXmppConnection::askServer(const QDomElement &query, const Receiver &rec
     }
     const QString server = account()->getUid().section(QLatin1Char('@'), 1);
     link->ask(
-        QXmppIq::Set, query, [receiver](const KirvXmppAnswer &answer) { receiver(answer.failure); }, server);
+        QXmppIq::Set, request, [receiver](const KirvXmppAnswer &answer) { receiver(answer.failure); }, server);
 }

@@ -12,7 +12,7 @@
 
 class KirvXmppDirectory;
 class KirvXmppLink;
-class QDomElement;
+class QDomDocument;
 
 /// The connection of an XMPP account to its server.
 ///
@@ -52,7 +52,7 @@ private:
 
     void changeDirectory(const std::function<bool(KirvXmppVCard &)> &change);
     void advertise(const KirvXmppPhoto &photo);
-    void askServer(const QDomElement &query, const Receiver &receiver);
+    void askServer(const QDomDocument &request, const Receiver &receiver);
     QXmppPresence toXmpp(const KirvPresence &presence) const;
 
     /// Deleted later, as it may be in the middle of a signal.

@@ -27,7 +27,7 @@ void KirvXmppDirectory::add(const Job &job)
 
 void KirvXmppDirectory::startNext()
 {
-    link.ask(QXmppIq::Get, KirvXmppVCard().element(), [this](const KirvXmppAnswer &answer) {
+    link.ask(QXmppIq::Get, KirvXmppVCard().document(), [this](const KirvXmppAnswer &answer) {
         KirvXmppVCard card(answer.payload);
         const bool hasNone = answer.condition == QLatin1String("item-not-found");
         if (answer.isError() && !hasNone)
@@ -45,7 +45,7 @@ void KirvXmppDirectory::write(const KirvXmppVCard &card)
         finish(KirvFailure(KirvFailure::RequestFailed, tr("The directory entry is too long to be sent.")), card);
         return;
     }
-    link.ask(QXmppIq::Set, card.element(),
+    link.ask(QXmppIq::Set, card.document(),
              [this, card](const KirvXmppAnswer &answer) { finish(answer.failure, card); });
 }
 

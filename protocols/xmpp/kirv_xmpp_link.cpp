@@ -130,11 +130,11 @@ void KirvXmppLink::sendPresence(const QXmppPresence &presence)
         client.setClientPresence(presence);
 }
 
-void KirvXmppLink::ask(QXmppIq::Type type, const QDomElement &payload, const Receiver &receiver, const QString &to)
+void KirvXmppLink::ask(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver, const QString &to)
 {
     QXmppIq question(type);
     question.setTo(to);
-    question.setExtensions({ QXmppElement(payload) });
+    question.setExtensions({ QXmppElement(payload.documentElement()) });
     const QString id = question.id();
     receivers.insert(id, receiver);
     const auto giveUp = [this, id](const KirvFailure &failure) {

@@ -52,7 +52,7 @@ public:
     using Receiver = std::function<void(const KirvXmppAnswer &)>;
     /// Sends \a payload to the account (\a to is empty) or to the server, to be answered within the time that was
     /// given. \a receiver is called exactly once, unless the link is aborted or destroyed before.
-    void ask(QXmppIq::Type type, const QDomElement &payload, const Receiver &receiver, const QString &to = QString());
+    void ask(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver, const QString &to = QString());
 
     /// user@domain as it was opened with.
     QString bareAddress() const { return address; }

@@ -71,7 +71,7 @@ void KirvXmppRegistration::open()
 
 void KirvXmppRegistration::askForForm()
 {
-    const QDomElement question = kirvXmppNewElement(QStringLiteral("jabber:iq:register"), QStringLiteral("query"));
+    const QDomDocument question = kirvXmppNewDocument(QStringLiteral("jabber:iq:register"), QStringLiteral("query"));
     link->ask(
         QXmppIq::Get, question, [this](const KirvXmppAnswer &answer) { receiveForm(answer); }, domain);
 }

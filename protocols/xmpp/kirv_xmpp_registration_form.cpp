@@ -255,15 +255,16 @@ QString KirvXmppRegistrationForm::problem(const QList<KirvField> &filled) const
     return QString();
 }
 
-QDomElement KirvXmppRegistrationForm::toQuery(const QList<KirvField> &filled) const
+QDomDocument KirvXmppRegistrationForm::toQuery(const QList<KirvField> &filled) const
 {
-    QDomElement query = kirvXmppNewElement(registrationSpace, QStringLiteral("query"));
+    QDomDocument answer = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
+    QDomElement query = answer.documentElement();
     if (!isDataForm) {
         for (const Question &question : questions)
             kirvXmppAppend(query, question.name, answers(question, filled).value(0));
-        return query;
+        return answer;
     }
-    QDomElement form = query.ownerDocument().createElementNS(formSpace, QStringLiteral("x"));
+    QDomElement form = answer.createElementNS(formSpace, QStringLiteral("x"));
     form.setAttribute(QStringLiteral("type"), QStringLiteral("submit"));
     query.appendChild(form);
     for (const Question &question : questions) {
@@ -274,7 +275,7 @@ QDomElement KirvXmppRegistrationForm::toQuery(const QList<KirvField> &filled) co
         for (const QString &value : answers(question, filled))
             kirvXmppAppend(field, QStringLiteral("value"), value);
     }
-    return query;
+    return answer;
 }
 
 QStringList KirvXmppRegistrationForm::answers(const Question &question, const QList<KirvField> &filled)

@@ -45,7 +45,7 @@ public:
     /// What is missing or cannot be sent in \a filled, a sentence; empty when it can be sent.
     QString problem(const QList<KirvField> &filled) const;
     /// The answer that sends \a filled.
-    QDomElement toQuery(const QList<KirvField> &filled) const;
+    QDomDocument toQuery(const QList<KirvField> &filled) const;
 
 private:
     /// One question of the server and the fields that show it.

@@ -96,7 +96,8 @@ QByteArray KirvXmppPhoto::hash() const
 }
 
 KirvXmppVCard::KirvXmppVCard()
-    : root(kirvXmppNewElement(vCardSpace, QStringLiteral("vCard")))
+    : content(kirvXmppNewDocument(vCardSpace, QStringLiteral("vCard")))
+    , root(content.documentElement())
 {
 }
 
@@ -105,9 +106,8 @@ KirvXmppVCard::KirvXmppVCard(const QDomElement &element)
 {
     if (element.namespaceURI() != vCardSpace)
         return;
-    QDomDocument document = root.ownerDocument();
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        root.appendChild(document.importNode(child, true));
+        root.appendChild(content.importNode(child, true));
 }
 
 QList<KirvField> KirvXmppVCard::blankFields()
@@ -164,7 +164,7 @@ void KirvXmppVCard::clear()
 
 int KirvXmppVCard::size() const
 {
-    return root.ownerDocument().toByteArray(-1).size();
+    return content.toByteArray(-1).size();
 }
 
 QString KirvXmppVCard::text(const QStringList &path) const
@@ -189,7 +189,7 @@ void KirvXmppVCard::setText(const QStringList &path, const QString &text)
     while (element.hasChildNodes())
         element.removeChild(element.firstChild());
     if (!text.isEmpty()) {
-        element.appendChild(root.ownerDocument().createTextNode(text));
+        element.appendChild(content.createTextNode(text));
         return;
     }
     while (element != root && element.text().isEmpty()) {

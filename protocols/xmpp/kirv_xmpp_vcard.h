@@ -45,14 +45,15 @@ public:
     /// Empties the entry, except for the picture.
     void clear();
 
-    QDomElement element() const { return root; }
+    QDomDocument document() const { return content; }
     int size() const; ///< in bytes, as it is sent
 
 private:
     QString text(const QStringList &path) const;
     void setText(const QStringList &path, const QString &text);
 
-    QDomElement root;
+    QDomDocument content;
+    QDomElement root; ///< of the content
 };
 
 #endif

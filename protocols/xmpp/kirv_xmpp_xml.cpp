@@ -31,12 +31,11 @@ QString kirvXmppSendable(const QString &text)
     return result;
 }
 
-QDomElement kirvXmppNewElement(const QString &space, const QString &name)
+QDomDocument kirvXmppNewDocument(const QString &space, const QString &name)
 {
     QDomDocument document;
-    const QDomElement element = document.createElementNS(space, name);
-    document.appendChild(element);
-    return element;
+    document.appendChild(document.createElementNS(space, name));
+    return document;
 }
 
 QDomElement kirvXmppAppend(QDomElement &parent, const QString &name, const QString &text)

@@ -11,8 +11,9 @@ bool kirvXmppIsSendable(const QString &text);
 /// \a text without what cannot be sent.
 QString kirvXmppSendable(const QString &text);
 
-/// The root of a new document with an element \a name of the namespace \a space. The element keeps it alive.
-QDomElement kirvXmppNewElement(const QString &space, const QString &name);
+/// A new document whose root is an element \a name of the namespace \a space. Keep it as long as its elements: they
+/// do not keep it.
+QDomDocument kirvXmppNewDocument(const QString &space, const QString &name);
 /// Appends an element of the parent's namespace, with \a text where that is not empty.
 QDomElement kirvXmppAppend(QDomElement &parent, const QString &name, const QString &text = QString());
 /// The first child element of that name and namespace; null when there is none.

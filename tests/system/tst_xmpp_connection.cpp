@@ -1,0 +1,524 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/demo/kirv_prosody_server.h"
+#include "tests/support/xmpp/scripted_xmpp_server.h"
+#include "tests/support/xmpp/xmpp_observer.h"
+#include "tests/support/xmpp/xmpp_profile.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+KirvProsodyServer::Options unencrypted()
+{
+    KirvProsodyServer::Options options;
+    options.offersEncryption = false;
+    return options;
+}
+
+const QString romeoAddress = "romeo@localhost";
+
+} // namespace
+
+/// The XMPP plug-in in our core, against a real server where that can do it, and a scripted one where it cannot.
+class TestXmppConnection : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void loginsAreBareAddresses_data();
+    void loginsAreBareAddresses();
+    void everyConfigurationFillsTheForm();
+    void localConfigurationKnowsTheServerOfTheDemo();
+    void iconIsThere();
+    void unusableSettingsAreSaid_data();
+    void unusableSettingsAreSaid();
+
+    void logsInAndOut_data();
+    void logsInAndOut();
+    void wrongPasswordIsSaidAndNotTriedAgain();
+    void missingPasswordIsSaid();
+    void nobodyListens();
+    void hostIsNotFound();
+    void domainThatTheServerDoesNotServe();
+    void untrustedCertificateIsRefusedUntilItIsTrusted();
+    void passwordIsNotSentWithoutEncryption();
+    void serverThatRequiresEncryptionIsNotLeftOut();
+    void noWayToLogIn();
+    void hungServerTimesOut_data();
+    void hungServerTimesOut();
+
+    void presenceIsSeenByOthers_data();
+    void presenceIsSeenByOthers();
+    void arrivesWithItsPresence();
+    void invisibleIsNotSeen();
+    void statusThatCannotBeSentKeepsTheSession();
+    void priorityAndResourceAreTaken();
+
+    void killedServerIsReachedAgain();
+    void stoppedServerIsReachedAgain();
+    void sameResourceTwiceEndsTheOlder();
+    void changedPasswordIsUsed();
+    void disabledAccountLeavesTheServer();
+    void removedAccountLeavesTheServer();
+
+private:
+    QString tryToLogIn(KirvAccount *account, KirvFailure::Kind expected);
+
+    std::unique_ptr<XmppProfile> profile;
+};
+
+void TestXmppConnection::init()
+{
+    profile = std::make_unique<XmppProfile>();
+    QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
+}
+
+void TestXmppConnection::cleanup()
+{
+    profile.reset();
+}
+
+void TestXmppConnection::loginsAreBareAddresses_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<bool>("matches");
+    QTest::newRow("ordinary") << "romeo@example.org" << true;
+    QTest::newRow("one label") << "romeo@localhost" << true;
+    QTest::newRow("address of a host") << "romeo@127.0.0.1" << true;
+    QTest::newRow("signs") << "ro.me-o_1+x!#$%*=?^`{|}~@ex-ample.org" << true;
+    QTest::newRow("letters beyond ASCII") << QString::fromUtf8("jürgen@bücher.example") << true;
+    QTest::newRow("empty") << "" << false;
+    QTest::newRow("no domain") << "romeo" << false;
+    QTest::newRow("empty domain") << "romeo@" << false;
+    QTest::newRow("empty name") << "@example.org" << false;
+    QTest::newRow("with a resource") << "romeo@example.org/home" << false;
+    QTest::newRow("two at signs") << "romeo@juliet@example.org" << false;
+    QTest::newRow("blank") << "ro meo@example.org" << false;
+    QTest::newRow("empty label") << "romeo@example..org" << false;
+    QTest::newRow("markup") << "<b>romeo@example.org" << false;
+}
+
+void TestXmppConnection::loginsAreBareAddresses()
+{
+    QFETCH(QString, login);
+    const QString pattern = profile->protocol()->getLoginPattern();
+    const QRegularExpression modern(QRegularExpression::anchoredPattern(pattern));
+    QTEST(modern.match(login).hasMatch(), "matches");
+    QTEST(QRegExp(pattern).exactMatch(login), "matches");
+}
+
+void TestXmppConnection::everyConfigurationFillsTheForm()
+{
+    const QStringList names = profile->protocol()->getConfigurations();
+    QVERIFY(names.contains("Server on this computer"));
+    for (const QString &name : names) {
+        QStringList ids;
+        QStringList expected;
+        for (const KirvField &field : profile->protocol()->getConfigurationFields(name))
+            ids << field.getId();
+        for (const KirvField &field : profile->protocol()->getAccountSettings())
+            expected << field.getId();
+        QCOMPARE(ids, expected);
+    }
+    QVERIFY(profile->protocol()->getConfigurationFields("Nowhere").isEmpty());
+}
+
+void TestXmppConnection::localConfigurationKnowsTheServerOfTheDemo()
+{
+    qputenv("KIRV_XMPP_LOCAL_PORT", "12345");
+    qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", "/somewhere/localhost.crt");
+    Values values;
+    for (const KirvField &field : profile->protocol()->getConfigurationFields("Server on this computer"))
+        values.insert(field.getId(), field.getText());
+    qunsetenv("KIRV_XMPP_LOCAL_PORT");
+    qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
+    QCOMPARE(values["server"], QString("127.0.0.1"));
+    QCOMPARE(values["port"], QString("12345"));
+    QCOMPARE(values["certificate"], QString("/somewhere/localhost.crt"));
+    QCOMPARE(values["encryption"], QString("required"));
+}
+
+void TestXmppConnection::iconIsThere()
+{
+    QVERIFY(QFile::exists(profile->protocol()->getIconPath(0)));
+}
+
+void TestXmppConnection::unusableSettingsAreSaid_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<Values>("values");
+    QTest::newRow("no domain") << "romeo" << Values();
+    QTest::newRow("no user") << "@localhost" << Values();
+    QTest::newRow("certificate is not there") << romeoAddress << Values { { "certificate", "/nonexistent.pem" } };
+    QTest::newRow("certificate is none") << romeoAddress << Values { { "certificate", "/etc/passwd" } };
+    QTest::newRow("certificate is a folder") << romeoAddress << Values { { "certificate", "/" } };
+}
+
+void TestXmppConnection::unusableSettingsAreSaid()
+{
+    QFETCH(QString, login);
+    QFETCH(Values, values);
+    KirvAccount *account = profile->createAccount(login, values);
+    profile->goTo(account, "available");
+    TRY_FAILURE(account, BadSettings);
+    QCOMPARE(state(account), KirvConnection::Offline);
+    QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
+}
+
+void TestXmppConnection::logsInAndOut_data()
+{
+    QTest::addColumn<bool>("encrypted");
+    QTest::addColumn<QString>("encryption");
+    QTest::newRow("encrypted") << true << "required";
+    QTest::newRow("encrypted because it is offered") << true << "offered";
+    QTest::newRow("plain") << false << "none";
+    QTest::newRow("plain because nothing else is offered") << false << "offered";
+}
+
+void TestXmppConnection::logsInAndOut()
+{
+    QFETCH(bool, encrypted);
+    QFETCH(QString, encryption);
+    KirvProsodyServer server(encrypted ? KirvProsodyServer::Options() : unencrypted());
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo", { { "encryption", encryption } });
+
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+    QVERIFY(account->isLoggedIn());
+    QCOMPARE(server.sessions(), QStringList { romeoAddress + "/Kirv" });
+
+    profile->goTo(account, "offline");
+    TRY_STATE(account, Offline);
+    TRY(!server.isOnline("romeo"));
+    QCOMPARE(failure(account), KirvFailure::None);
+}
+
+/// Lets \a account log in to no avail; gives what the user is told, null when it is not about \a expected.
+QString TestXmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind expected)
+{
+    QSignalSpy failed(account->connection(), &KirvConnection::failed);
+    profile->goTo(account, "available");
+    if (failed.isEmpty() && !failed.wait(patience))
+        return QString();
+    return failure(account) == expected ? account->connection()->lastFailure().text() : QString();
+}
+
+void TestXmppConnection::wrongPasswordIsSaidAndNotTriedAgain()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo", {}, "wrong");
+    QVERIFY(!tryToLogIn(account, KirvFailure::WrongPassword).isEmpty());
+    QCOMPARE(state(account), KirvConnection::Offline);
+    QVERIFY(!server.isOnline("romeo"));
+}
+
+void TestXmppConnection::missingPasswordIsSaid()
+{
+    KirvAccount *account = profile->createAccount(romeoAddress, {}, "");
+    QVERIFY(!tryToLogIn(account, KirvFailure::PasswordMissing).isEmpty());
+}
+
+void TestXmppConnection::nobodyListens()
+{
+    const QString port = QString::number(KirvLocalServer::findFreePort());
+    KirvAccount *account = profile->createAccount(romeoAddress, { { "server", "127.0.0.1" }, { "port", port } });
+    QVERIFY(tryToLogIn(account, KirvFailure::ConnectionRefused).contains("127.0.0.1"));
+    QCOMPARE(state(account), KirvConnection::Waiting);
+}
+
+void TestXmppConnection::hostIsNotFound()
+{
+    KirvAccount *account = profile->createAccount(romeoAddress, { { "server", "nowhere.invalid" } });
+    QVERIFY(tryToLogIn(account, KirvFailure::HostNotFound).contains("nowhere.invalid"));
+    QCOMPARE(state(account), KirvConnection::Waiting);
+}
+
+void TestXmppConnection::domainThatTheServerDoesNotServe()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(
+        "romeo@elsewhere.invalid", { { "server", server.host() }, { "port", QString::number(server.port()) } });
+    QVERIFY(!tryToLogIn(account, KirvFailure::BadSettings).isEmpty());
+    QCOMPARE(state(account), KirvConnection::Offline);
+}
+
+void TestXmppConnection::untrustedCertificateIsRefusedUntilItIsTrusted()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo", { { "certificate", "" } });
+    QVERIFY(!tryToLogIn(account, KirvFailure::UntrustedCertificate).isEmpty());
+    QCOMPARE(state(account), KirvConnection::Offline);
+
+    XmppProfile::setValue(account, "certificate", server.certificatePath());
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+}
+
+void TestXmppConnection::passwordIsNotSentWithoutEncryption()
+{
+    ScriptedXmppServer server([](const QByteArray &received) {
+        return received.contains("<stream:stream") ? ScriptedXmppServer::stream(
+                   "<mechanisms xmlns='urn:ietf:params:xml:ns:xmpp-sasl'><mechanism>PLAIN</mechanism></mechanisms>")
+                                                   : QByteArray();
+    });
+    const Values values { { "server", "127.0.0.1" }, { "port", QString::number(server.serverPort()) } };
+    KirvAccount *account = profile->createAccount(romeoAddress, values);
+    QVERIFY(!tryToLogIn(account, KirvFailure::EncryptionNotOffered).isEmpty());
+    QCOMPARE(state(account), KirvConnection::Offline);
+    QCOMPARE(server.connections(), 1);
+    QVERIFY2(!server.received().contains("<auth"), server.received().constData());
+
+    // The server would have got it from an account that allows that.
+    XmppProfile::setValue(account, "encryption", "offered");
+    profile->goTo(account, "available");
+    TRY(server.received().contains("<auth"));
+}
+
+void TestXmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo", { { "encryption", "none" } });
+    QVERIFY(tryToLogIn(account, KirvFailure::BadSettings).contains("encryption"));
+    QCOMPARE(state(account), KirvConnection::Offline);
+}
+
+void TestXmppConnection::noWayToLogIn()
+{
+    ScriptedXmppServer server([](const QByteArray &received) {
+        return received.contains("<stream:stream") ? ScriptedXmppServer::stream(
+                   "<mechanisms xmlns='urn:ietf:params:xml:ns:xmpp-sasl'><mechanism>X-ODD</mechanism></mechanisms>")
+                                                   : QByteArray();
+    });
+    KirvAccount *account = profile->createAccount(
+        romeoAddress,
+        { { "server", "127.0.0.1" }, { "port", QString::number(server.serverPort()) }, { "encryption", "none" } });
+    QVERIFY(!tryToLogIn(account, KirvFailure::AuthenticationNotOffered).isEmpty());
+    QCOMPARE(state(account), KirvConnection::Offline);
+}
+
+void TestXmppConnection::hungServerTimesOut_data()
+{
+    QTest::addColumn<bool>("opensStream");
+    QTest::newRow("says nothing") << false;
+    QTest::newRow("stops after the greeting") << true;
+}
+
+void TestXmppConnection::hungServerTimesOut()
+{
+    QFETCH(bool, opensStream);
+    ScriptedXmppServer server([opensStream](const QByteArray &received) {
+        return opensStream && received.contains("<stream:stream")
+            ? ScriptedXmppServer::stream("<starttls xmlns='urn:ietf:params:xml:ns:xmpp-tls'/>")
+            : QByteArray();
+    });
+    KirvAccount *account = profile->createAccount(
+        romeoAddress, { { "server", "127.0.0.1" }, { "port", QString::number(server.serverPort()) } });
+    KirvConnection::Timing timing = account->connection()->timing();
+    timing.loginTimeout = 200;
+    account->connection()->setTiming(timing);
+    QVERIFY(!tryToLogIn(account, KirvFailure::TimedOut).isEmpty());
+    TRY(server.connections() >= 2); // tried again
+    profile->goTo(account, "offline");
+    QCOMPARE(state(account), KirvConnection::Offline);
+}
+
+void TestXmppConnection::presenceIsSeenByOthers_data()
+{
+    QTest::addColumn<QString>("presence");
+    QTest::addColumn<int>("seen");
+    QTest::newRow("available") << "available" << int(QXmppPresence::Online);
+    QTest::newRow("free to chat") << "chat" << int(QXmppPresence::Chat);
+    QTest::newRow("away") << "away" << int(QXmppPresence::Away);
+    QTest::newRow("extended away") << "xa" << int(QXmppPresence::XA);
+    QTest::newRow("do not disturb") << "dnd" << int(QXmppPresence::DND);
+}
+
+void TestXmppConnection::presenceIsSeenByOthers()
+{
+    QFETCH(QString, presence);
+    QFETCH(int, seen);
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
+             qPrintable(server.errorString()));
+    XmppObserver juliet;
+    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, presence == "available" ? "away" : "available");
+    TRY(juliet.sees(romeoAddress));
+
+    const QString text = QString::fromUtf8("Back <soon> & \"well\" ☕");
+    profile->goTo(account, presence, text);
+    TRY(juliet.presenceOf(romeoAddress).statusText() == text);
+    QCOMPARE(int(juliet.presenceOf(romeoAddress).availableStatusType()), seen);
+
+    profile->goTo(account, "offline");
+    TRY(!juliet.sees(romeoAddress));
+}
+
+void TestXmppConnection::arrivesWithItsPresence()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
+             qPrintable(server.errorString()));
+    XmppObserver juliet;
+    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "dnd", "Busy");
+    TRY(juliet.sees(romeoAddress));
+    QCOMPARE(juliet.presenceOf(romeoAddress).availableStatusType(), QXmppPresence::DND);
+    QCOMPARE(juliet.presenceOf(romeoAddress).statusText(), QString("Busy"));
+}
+
+void TestXmppConnection::invisibleIsNotSeen()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
+             qPrintable(server.errorString()));
+    XmppObserver juliet;
+    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+
+    profile->goTo(account, "invisible");
+    TRY_STATE(account, Online);
+    QVERIFY(server.isOnline("romeo"));
+    profile->goTo(account, "available");
+    TRY(juliet.sees(romeoAddress));
+    profile->goTo(account, "invisible");
+    TRY(!juliet.sees(romeoAddress));
+    QVERIFY(account->isLoggedIn());
+    QVERIFY(server.isOnline("romeo"));
+    // What follows later, such as news of the picture, does not give it away either.
+    account->connection()->publishAvatar();
+    QVERIFY(juliet.vCardOf(romeoAddress).photo().isEmpty());
+    QVERIFY(!juliet.sees(romeoAddress));
+}
+
+void TestXmppConnection::statusThatCannotBeSentKeepsTheSession()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
+             qPrintable(server.errorString()));
+    XmppObserver juliet;
+    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "away", QString("a") + QChar(1) + QChar(0xd800) + "b");
+    TRY(juliet.presenceOf(romeoAddress).statusText() == "ab");
+    profile->goTo(account, "away", QString(1000000, 'x'));
+    TRY(juliet.presenceOf(romeoAddress).statusText().startsWith("xxx"));
+    QVERIFY(account->isLoggedIn());
+}
+
+void TestXmppConnection::priorityAndResourceAreTaken()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
+             qPrintable(server.errorString()));
+    XmppObserver juliet;
+    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvAccount *account = profile->createAccount(server, "romeo", { { "resource", "balcony" }, { "priority", "-7" } });
+    profile->goTo(account, "available");
+    TRY(juliet.sees(romeoAddress));
+    QCOMPARE(juliet.presenceOf(romeoAddress).from(), romeoAddress + "/balcony");
+    QCOMPARE(juliet.presenceOf(romeoAddress).priority(), -7);
+}
+
+void TestXmppConnection::killedServerIsReachedAgain()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    QSignalSpy failed(account->connection(), &KirvConnection::failed);
+    server.kill();
+    TRY_STATE(account, Waiting);
+    QVERIFY(!failed.isEmpty());
+    QCOMPARE(failed.first().first().value<KirvFailure>().kind(), KirvFailure::ConnectionLost);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    TRY_STATE(account, Online);
+    QVERIFY(server.isOnline("romeo"));
+}
+
+void TestXmppConnection::stoppedServerIsReachedAgain()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    QSignalSpy failed(account->connection(), &KirvConnection::failed);
+    server.stop();
+    TRY_STATE(account, Waiting);
+    QCOMPARE(failed.first().first().value<KirvFailure>().kind(), KirvFailure::ServerShutDown);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    TRY_STATE(account, Online);
+}
+
+void TestXmppConnection::sameResourceTwiceEndsTheOlder()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    XmppObserver other;
+    QVERIFY(other.logIn(server, "romeo", "secret", "Kirv"));
+    TRY_FAILURE(account, LoggedInElsewhere);
+    QCOMPARE(state(account), KirvConnection::Offline);
+}
+
+void TestXmppConnection::changedPasswordIsUsed()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+
+    account->setPassword("wrong");
+    profile->goTo(account, "available");
+    TRY_FAILURE(account, WrongPassword);
+    TRY(!server.isOnline("romeo"));
+    account->setPassword("secret");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+}
+
+void TestXmppConnection::disabledAccountLeavesTheServer()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+    KirvAccountManager::getInstance()->disableAccount(romeoAddress, "XMPP");
+    TRY(!server.isOnline("romeo"));
+    QVERIFY(!account->isLoggedIn());
+}
+
+void TestXmppConnection::removedAccountLeavesTheServer()
+{
+    KirvProsodyServer server;
+    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    KirvAccount *account = profile->createAccount(server, "romeo");
+    profile->goTo(account, "available");
+    TRY_STATE(account, Online);
+    KirvAccountManager::getInstance()->removeAccount(romeoAddress, "XMPP");
+    TRY(!server.isOnline("romeo"));
+}
+
+QTEST_MAIN(TestXmppConnection)
+#include "tst_xmpp_connection.moc"
