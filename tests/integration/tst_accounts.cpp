@@ -662,8 +662,10 @@ private Q_SLOTS:
         timing.logoutTimeout = serverAnswers ? 100000 : 20;
         connection->setTiming(timing);
         manager().removeAccount("id", fake);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(protocol->connections, 1);
         QCOMPARE(connection->state(), KirvConnection::Disconnecting);
+        QCOMPARE(connection->account()->getUid(), QStringLiteral("id"));
         QVERIFY(create("id")); // a new one of that name is another account
         QCOMPARE(protocol->connections, 2);
         QCOMPARE(static_cast<KirvConnection *>(account("id")->connection())->state(), KirvConnection::Online);

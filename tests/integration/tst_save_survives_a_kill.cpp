@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int kills = 250;
+constexpr int kills = 220;
 const KirvAccountKey key { QStringLiteral("id"), QStringLiteral("Fake") };
 
 /// The values of save number \a number: told from each one which save it is of.
@@ -127,19 +127,29 @@ private:
         process.start(QCoreApplication::applicationFilePath(), { "--save", home, QString::number(number) });
         if (!process.waitForStarted() || !process.waitForReadyRead(20000))
             return -1;
-        // A random moment of a random save: a save takes a few milliseconds.
+        // A random moment of the first two saves.
         QElapsedTimer timer;
         timer.start();
-        const qint64 moment = random.bounded(12 * 1000 * 1000);
-        while (timer.nsecsElapsed() < moment)
+        const double moment = random.bounded(2 * saveTime);
+        QByteArray output;
+        bool hasEnded = false;
+        while (double(timer.nsecsElapsed()) < moment) {
             process.waitForReadyRead(0);
+            output += process.readAllStandardOutput();
+            if (!hasEnded && output.contains("end ")) {
+                hasEnded = true;
+                saveTime = (saveTime + double(timer.nsecsElapsed())) / 2;
+            }
+        }
+        if (!hasEnded)
+            saveTime = qMax(saveTime, 1.1 * moment);
         process.kill();
         process.waitForFinished();
         if (process.exitStatus() != QProcess::CrashExit)
             return -1;
         ended = number;
         int begun = -1;
-        const QList<QByteArray> lines = process.readAllStandardOutput().split('\n');
+        const QList<QByteArray> lines = (output + process.readAllStandardOutput()).split('\n');
         for (const QByteArray &line : lines) {
             if (line.startsWith("begin "))
                 begun = line.mid(6).toInt();
@@ -177,6 +187,7 @@ private:
         return number;
     }
 
+    double saveTime = 5e6; ///< in nanoseconds, as far as it is known
     int ended = 0; ///< the save that the killed process said last to have ended
 };
 
