@@ -100,6 +100,11 @@ bool KirvProsodyServer::removeUser(const QString &user)
     return control({ QStringLiteral("deluser"), user + QLatin1Char('@') + domain() });
 }
 
+bool KirvProsodyServer::hasUser(const QString &user) const
+{
+    return QFile::exists(QDir(folder()).filePath(QStringLiteral("data/%1/accounts/%2.dat").arg(domain(), user)));
+}
+
 QStringList KirvProsodyServer::sessions()
 {
     const QString question =

@@ -27,6 +27,7 @@ public:
     /// with errorString(). Removing does not end a session.
     bool addUser(const QString &user, const QString &password);
     bool removeUser(const QString &user);
+    bool hasUser(const QString &user) const;
     /// The full addresses of the sessions that the running server has now, as it tells itself.
     QStringList sessions();
     /// Whether \a user has a session now.
