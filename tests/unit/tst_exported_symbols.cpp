@@ -45,8 +45,8 @@ void TestExportedSymbols::onlyThePublicClassesAreExported()
     const QRegularExpression ofAPublicClass(
         QStringLiteral("^((vtable|typeinfo|typeinfo name) for |non-virtual thunk to )?(%1)(::|$)")
             .arg(publicClasses.join('|')));
-    // The ends of sections, and what the sanitizer marks exported data with.
-    const QRegularExpression ofTheTools("^(__bss_start|_edata|_end|__odr_asan.*)$");
+    // The ends of sections, and what the sanitizers add: marks of exported data, types of Qt that they look into.
+    const QRegularExpression ofTheTools("^(__bss_start|_edata|_end|__odr_asan.*|typeinfo( name)? for Q\\w+)$");
     QStringList others;
     for (const QString &symbol : symbols) {
         if (!ofAPublicClass.match(symbol).hasMatch() && !ofTheTools.match(symbol).hasMatch())
