@@ -1,657 +1,658 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
+<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
 <TS version="2.1" language="de_DE">
 <context>
     <name></name>
     <message>
         <source>User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Nickname</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzname</translation>
     </message>
     <message>
         <source>Full name</source>
-        <translation type="unfinished"></translation>
+        <translation>Voller Name</translation>
     </message>
     <message>
         <source>First name</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorname</translation>
     </message>
     <message>
         <source>Last name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachname</translation>
     </message>
     <message>
         <source>E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Anschrift</translation>
     </message>
     <message>
         <source>Town</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>State or region</source>
-        <translation type="unfinished"></translation>
+        <translation>Bundesland oder Region</translation>
     </message>
     <message>
         <source>Postal code</source>
-        <translation type="unfinished"></translation>
+        <translation>Postleitzahl</translation>
     </message>
     <message>
         <source>Telephone</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon</translation>
     </message>
     <message>
         <source>Web page</source>
-        <translation type="unfinished"></translation>
+        <translation>Webseite</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Birthday</source>
-        <translation type="unfinished"></translation>
+        <translation>Geburtstag</translation>
     </message>
     <message>
         <source>Year, month and day, such as 1999-12-31.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr, Monat und Tag, etwa 1999-12-31.</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>Land</translation>
     </message>
     <message>
         <source>Organisation</source>
-        <translation type="unfinished"></translation>
+        <translation>Organisation</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über mich</translation>
     </message>
 </context>
 <context>
     <name>Accounts</name>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten</translation>
     </message>
     <message>
         <source>The check box of an account tells whether it is enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Häkchen eines Kontos zeigt, ob es eingeschaltet ist.</translation>
     </message>
     <message>
         <source>Add an account that you already have</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Konto hinzufügen, das Sie schon haben</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>Change the selected account</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gewählte Konto ändern</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten …</translation>
     </message>
     <message>
         <source>Remove the selected account and all its data</source>
-        <translation type="unfinished"></translation>
+        <translation>Das gewählte Konto mit allen Daten entfernen</translation>
     </message>
     <message>
         <source>&amp;Remove…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen …</translation>
     </message>
     <message>
         <source>Create a new account on a server</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein neues Konto auf einem Server anlegen</translation>
     </message>
     <message>
         <source>Re&amp;gister…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registrieren …</translation>
     </message>
     <message>
         <source>&amp;Main account:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha&amp;uptkonto:</translation>
     </message>
     <message>
         <source>The account that the rest of the program works with</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto, mit dem das übrige Programm arbeitet</translation>
     </message>
     <message>
         <source>Main account</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptkonto</translation>
     </message>
 </context>
 <context>
     <name>AddAccount</name>
     <message>
         <source>Add Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Configuration:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorlage:</translation>
     </message>
     <message>
         <source>A ready-made configuration fills in the settings for you</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Vorlage füllt die Einstellungen für Sie aus</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlage</translation>
     </message>
     <message>
         <source>&amp;Login:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anmeldename:</translation>
     </message>
     <message>
         <source>The name under which you log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, unter dem Sie sich anmelden</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldename</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>If this is off, you are asked for the password when the account logs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst werden Sie nach dem Passwort gefragt, wenn sich das Konto anmeldet</translation>
     </message>
     <message>
         <source>&amp;Remember password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort &amp;merken</translation>
     </message>
     <message>
         <source>S&amp;tart as:</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tarten als:</translation>
     </message>
     <message>
         <source>The presence that the account takes when it logs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Status, den das Konto bei der Anmeldung annimmt</translation>
     </message>
     <message>
         <source>Start as</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten als</translation>
     </message>
 </context>
 <context>
     <name>EditAccount</name>
     <message>
         <source>Edit Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Konto</translation>
     </message>
     <message>
         <source>Account:</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto:</translation>
     </message>
     <message>
         <source>Picture:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild:</translation>
     </message>
     <message>
         <source>A&amp;lias:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lias:</translation>
     </message>
     <message>
         <source>The name shown for the account</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, der für das Konto angezeigt wird</translation>
     </message>
     <message>
         <source>Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>If this is off, you are asked for the password when the account logs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst werden Sie nach dem Passwort gefragt, wenn sich das Konto anmeldet</translation>
     </message>
     <message>
         <source>&amp;Remember password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort &amp;merken</translation>
     </message>
     <message>
         <source>The account takes the presence and description that it had last</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto nimmt Status und Beschreibung an, die es zuletzt hatte</translation>
     </message>
     <message>
         <source>Restore the last pr&amp;esence</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzten &amp;Status wiederherstellen</translation>
     </message>
     <message>
         <source>The account takes the description that it had last</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto nimmt die Beschreibung an, die es zuletzt hatte</translation>
     </message>
     <message>
         <source>Restore the last descript&amp;ion</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte &amp;Beschreibung wiederherstellen</translation>
     </message>
     <message>
         <source>S&amp;tart as:</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tarten als:</translation>
     </message>
     <message>
         <source>The presence that the account takes when it logs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Status, den das Konto bei der Anmeldung annimmt</translation>
     </message>
     <message>
         <source>Start as</source>
-        <translation type="unfinished"></translation>
+        <translation>Starten als</translation>
     </message>
     <message>
         <source>Descriptio&amp;n:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreib&amp;ung:</translation>
     </message>
     <message>
         <source>What your contacts read beside the presence</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Ihre Kontakte neben dem Status lesen</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>P&amp;ublic Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffentliches &amp;Verzeichnis</translation>
     </message>
     <message>
         <source>Ask the server for your entry; changes that are not saved are lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Server nach Ihrem Eintrag fragen; nicht gespeicherte Änderungen gehen verloren</translation>
     </message>
     <message>
         <source>&amp;Fetch Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut &amp;abrufen</translation>
     </message>
     <message>
         <source>Take your entry out of the directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihren Eintrag aus dem Verzeichnis nehmen</translation>
     </message>
     <message>
         <source>&amp;Delete Entry…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag &amp;löschen …</translation>
     </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
     <message>
         <source>&amp;Server Account</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Serverkonto</translation>
     </message>
 </context>
 <context>
-    <name>KirvAccountRegistry::Private</name>
+    <name>KirvAccountRegistry</name>
     <message>
         <source>The account &quot;%1&quot; (%2) exists already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto „%1“ (%2) gibt es schon.</translation>
     </message>
     <message>
         <source>The account &quot;%1&quot; could not be created: the protocol %2 is not loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto „%1“ konnte nicht angelegt werden: Das Protokoll %2 ist nicht geladen.</translation>
     </message>
     <message>
         <source>An account needs a login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Konto braucht einen Anmeldenamen.</translation>
     </message>
 </context>
 <context>
     <name>KirvAccountRows</name>
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul des Protokolls %1 ist nicht geladen. Laden Sie es auf der Seite „Module“.</translation>
     </message>
 </context>
 <context>
     <name>KirvApplication</name>
     <message>
         <source>Kirv</source>
-        <translation type="unfinished"></translation>
+        <translation>Kirv</translation>
     </message>
 </context>
 <context>
     <name>KirvAvatarFolder</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The picture &quot;%1&quot; is too large: at most %2 MB can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ ist zu groß: Höchstens %2 MB sind möglich.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; is not a picture that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ ist kein brauchbares Bild.</translation>
     </message>
     <message>
         <source>The picture &quot;%1&quot; has too many pixels: at most %2 million can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ hat zu viele Bildpunkte: Höchstens %2 Millionen sind möglich.</translation>
     </message>
     <message>
         <source>The picture &quot;%1&quot; could not be copied into the profile: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ konnte nicht ins Profil kopiert werden: %2</translation>
     </message>
 </context>
 <context>
     <name>KirvAvatarPicture</name>
     <message>
         <source>The picture is too large: %1 × %2 pixels. Up to %3 million pixels are possible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist zu groß: %1 × %2 Bildpunkte. Bis zu %3 Millionen sind möglich.</translation>
     </message>
     <message>
         <source>The file “%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The file “%1” is too large. Up to %2 MB are possible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ ist zu groß. Bis zu %2 MB sind möglich.</translation>
     </message>
     <message>
         <source>The file “%1” is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ ist kein brauchbares Bild. Möglich sind Bilder in den Formaten PNG, JPEG, GIF, BMP und WebP.</translation>
     </message>
     <message>
         <source>The picture in the file “%1” is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild in der Datei „%1“ ist beschädigt.</translation>
     </message>
     <message>
         <source>There is no picture that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein brauchbares Bild.</translation>
     </message>
 </context>
 <context>
     <name>KirvAvatarQuickSetWidget</name>
     <message>
         <source>Picture of the account</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des Kontos</translation>
     </message>
     <message>
         <source>Click to choose a picture, or drop or paste one here</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie, um ein Bild zu wählen, oder ziehen oder fügen Sie eines hier ein</translation>
     </message>
     <message>
         <source>&amp;Choose Picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;wählen …</translation>
     </message>
     <message>
         <source>&amp;Paste Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;einfügen</translation>
     </message>
     <message>
         <source>&amp;Remove Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild ent&amp;fernen</translation>
     </message>
     <message>
         <source>Choose Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen</translation>
     </message>
     <message>
         <source>Pictures (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The picture cannot be stored on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild kann auf diesem Rechner nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Picture of the Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des Kontos</translation>
     </message>
 </context>
 <context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten</translation>
     </message>
     <message>
         <source>Connections</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungen</translation>
     </message>
     <message>
         <source>Plug-ins</source>
-        <translation type="unfinished"></translation>
+        <translation>Module</translation>
     </message>
     <message>
         <source>There is no folder %1, so no protocol is available.</source>
         <extracomment>%1 = path of a folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner %1 gibt es nicht, daher ist kein Protokoll verfügbar.</translation>
     </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
     <message>
         <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten und Einstellungen in &lt;Ordner&gt; statt im eigenen Profil ablegen.</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Load the protocol plug-ins of &lt;folder&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Protokollmodule aus &lt;Ordner&gt; laden.</translation>
     </message>
     <message>
         <source>Try it without an account: a throw-away profile and private servers on this computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Konto ausprobieren: ein Wegwerf-Profil und private Server auf diesem Rechner.</translation>
     </message>
     <message>
         <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
     </message>
 </context>
 <context>
     <name>KirvConnection</name>
     <message>
         <source>The connection ended before the server answered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
     </message>
 </context>
 <context>
     <name>KirvConnectionModel</name>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto</translation>
     </message>
     <message>
         <source>Protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Since</source>
         <extracomment>column title: the time since when a connection has been in its state</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Seit</translation>
     </message>
     <message>
         <source>Last Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Letztes Problem</translation>
     </message>
     <message>
         <source>Plug-in not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Modul nicht geladen</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindet …</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden</translation>
     </message>
     <message>
         <source>Logging out…</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldet sich ab …</translation>
     </message>
     <message>
-        <source>Waiting, next try at %1</source>
+        <source>Waiting until %1</source>
         <extracomment>%1 = time of day</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wartet bis %1</translation>
     </message>
     <message>
         <source>Off line</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verbunden</translation>
     </message>
     <message>
         <source>Disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeschaltet</translation>
     </message>
     <message>
         <source>%1 (main account)</source>
         <extracomment>%1 = name of an account</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Hauptkonto)</translation>
     </message>
 </context>
 <context>
     <name>KirvConnectionView</name>
     <message>
         <source>&amp;Presence</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Status</translation>
     </message>
     <message>
         <source>&amp;Edit Account…</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto &amp;bearbeiten …</translation>
     </message>
     <message>
         <source>&amp;Reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu verbinden</translation>
     </message>
     <message>
         <source>Enter &amp;Password…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort eingeben …</translation>
     </message>
     <message>
         <source>Last problem of the account</source>
-        <translation type="unfinished"></translation>
+        <translation>Letztes Problem des Kontos</translation>
     </message>
     <message>
         <source>Connections</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungen</translation>
     </message>
     <message>
         <source>Logs the account out and in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldet das Konto ab und wieder an.</translation>
     </message>
     <message>
         <source>Takes another password and logs the account in with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt ein anderes Passwort und meldet das Konto damit an.</translation>
     </message>
 </context>
 <context>
     <name>KirvDatabase</name>
     <message>
         <source>The SQLite driver of Qt, which the profile needs, is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der SQLite-Treiber von Qt, den das Profil braucht, ist nicht installiert.</translation>
     </message>
     <message>
         <source>The profile is not open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil ist nicht geöffnet.</translation>
     </message>
     <message>
         <source>There is no space left on the disk, so nothing was stored. Free some space and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger ist kein Platz mehr, daher wurde nichts gespeichert. Schaffen Sie Platz und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; could not be read or written (%2). The disk may be full or faulty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ konnte nicht gelesen oder geschrieben werden (%2). Der Datenträger ist vielleicht voll oder fehlerhaft.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; cannot be written. Check its owner and permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte.</translation>
     </message>
     <message>
         <source>Another program is using the profile in &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm benutzt das Profil in „%1“.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; could not be used: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ konnte nicht benutzt werden: %2</translation>
     </message>
 </context>
 <context>
     <name>KirvDemo</name>
     <message>
         <source>No temporary folder for the profile can be made: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Für das Profil kann kein vorläufiger Ordner angelegt werden: %1</translation>
     </message>
     <message>
         <source>The demo needs the XMPP server Prosody (the package prosody), which did not start: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorführung braucht den XMPP-Server Prosody (das Paket prosody), der nicht startete: %1</translation>
     </message>
     <message>
         <source>This is a try-out with a profile of its own; nothing is kept. A private XMPP server runs on this computer. Add an XMPP account, choose the configuration &quot;Server on this computer&quot; and type the login %1 and the password %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist eine Vorführung mit eigenem Profil; nichts wird behalten. Auf diesem Rechner läuft ein privater XMPP-Server. Fügen Sie ein XMPP-Konto hinzu, wählen Sie die Vorlage „Server auf diesem Rechner“ und geben Sie den Anmeldenamen %1 und das Passwort %2 ein.</translation>
     </message>
     <message>
         <source>A private IRC server runs too: add an IRC account with the same configuration, with any nickname and any password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch ein privater IRC-Server läuft: Fügen Sie ein IRC-Konto mit derselben Vorlage hinzu, mit beliebigem Spitznamen und Passwort.</translation>
     </message>
 </context>
 <context>
     <name>KirvEditWindowBinding</name>
     <message>
         <source>&amp;Server Account</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Serverkonto</translation>
     </message>
     <message>
         <source>What can be done with the account on its server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was mit dem Konto auf seinem Server getan werden kann.</translation>
     </message>
     <message>
         <source>Saving Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto speichern</translation>
     </message>
     <message>
         <source>Nothing was changed. The window stays open, so that you can try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde geändert. Das Fenster bleibt offen, damit Sie es erneut versuchen können.</translation>
     </message>
     <message>
         <source>The account must be connected before its directory entry can be read or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto muss verbunden sein, damit sein Verzeichniseintrag gelesen oder geändert werden kann.</translation>
     </message>
     <message>
         <source>Asking the server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server wird gefragt …</translation>
     </message>
 </context>
 <context>
@@ -685,15 +686,15 @@
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Abwesend</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgemeldet</translation>
     </message>
     <message>
         <source>Name</source>
@@ -701,182 +702,186 @@
     </message>
     <message>
         <source>Town</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
 </context>
 <context>
     <name>KirvFailure</name>
     <message>
         <source>The server did not accept the login or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat Anmeldenamen oder Passwort nicht angenommen.</translation>
     </message>
     <message>
         <source>A password is needed to log in, and none is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Anmeldung wird ein Passwort gebraucht, und es ist keines bekannt.</translation>
     </message>
     <message>
         <source>The server could not be found. Check its name and your network connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server wurde nicht gefunden. Prüfen Sie seinen Namen und Ihre Netzverbindung.</translation>
     </message>
     <message>
         <source>The server does not accept connections. Check its name and port, or try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server nimmt keine Verbindungen an. Prüfen Sie Namen und Port, oder versuchen Sie es später.</translation>
     </message>
     <message>
         <source>The server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut.</translation>
     </message>
     <message>
         <source>The account requires encryption, and the server does not offer it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto verlangt Verschlüsselung, und der Server bietet sie nicht an.</translation>
     </message>
     <message>
         <source>The server offers no way to log in that this account can use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server bietet kein Anmeldeverfahren an, das dieses Konto nutzen kann.</translation>
     </message>
     <message>
         <source>The connection to the server was lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zum Server ging verloren.</translation>
     </message>
     <message>
         <source>The server closed the connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat die Verbindung beendet.</translation>
     </message>
     <message>
         <source>Another client logged in to the account and took its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat sich bei dem Konto angemeldet und seinen Platz eingenommen.</translation>
     </message>
     <message>
         <source>The name is already in use on the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name wird auf dem Server schon benutzt.</translation>
     </message>
     <message>
         <source>The server does not allow this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server lässt diesen Namen nicht zu.</translation>
     </message>
     <message>
         <source>The server denied access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat den Zugang verweigert.</translation>
     </message>
     <message>
         <source>The settings of the account cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen des Kontos sind nicht brauchbar.</translation>
     </message>
     <message>
         <source>The server does not offer what was asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server bietet das Verlangte nicht an.</translation>
     </message>
     <message>
         <source>The request failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anfrage ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein unbekannter Fehler ist aufgetreten.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; could not be found. Check its name and your network connection.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server „%1“ wurde nicht gefunden. Prüfen Sie seinen Namen und Ihre Netzverbindung.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; does not accept connections. Check its name and port, or try again later.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server „%1“ nimmt keine Verbindungen an. Prüfen Sie Namen und Port, oder versuchen Sie es später.</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; did not answer in time.</source>
         <extracomment>%1 is the name of a server</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server „%1“ hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted: %1</source>
         <extracomment>%1 is what is wrong with the certificate</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut: %1</translation>
     </message>
     <message>
         <source>The connection to the server was lost: %1</source>
         <extracomment>%1 is the reason</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung zum Server ging verloren: %1</translation>
     </message>
     <message>
         <source>The server closed the connection: %1</source>
         <extracomment>%1 is what the server said</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat die Verbindung beendet: %1</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; is already in use on the server.</source>
         <extracomment>%1 is the name of a user</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Name „%1“ wird auf dem Server schon benutzt.</translation>
     </message>
     <message>
         <source>The server does not allow the name &quot;%1&quot;.</source>
         <extracomment>%1 is the name of a user</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server lässt den Namen „%1“ nicht zu.</translation>
     </message>
     <message>
         <source>The server denied access: %1</source>
         <extracomment>%1 is what the server said</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat den Zugang verweigert: %1</translation>
     </message>
     <message>
         <source>The settings of the account cannot be used: %1</source>
         <extracomment>%1 says which setting and what is wrong with it</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen des Kontos sind nicht brauchbar: %1</translation>
     </message>
     <message>
         <source>The server does not offer what was asked for: %1</source>
         <extracomment>%1 is what was asked for</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server bietet das Verlangte nicht an: %1</translation>
     </message>
     <message>
         <source>The request failed: %1</source>
         <extracomment>%1 is the reason</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Anfrage ist fehlgeschlagen: %1</translation>
     </message>
     <message>
         <source>An error occurred: %1</source>
         <extracomment>%1 is what the server or the network said</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ein Fehler ist aufgetreten: %1</translation>
     </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
     <message>
         <source>%1:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:</translation>
     </message>
     <message>
         <source>This must be filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies muss ausgefüllt werden.</translation>
+    </message>
+    <message>
+        <source>This text is too long to be shown in full and to be changed here.</source>
+        <translation>Dieser Text ist zu lang, um hier ganz gezeigt und geändert zu werden.</translation>
     </message>
     <message>
         <source>This must be a whole number from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies muss eine ganze Zahl von %1 bis %2 sein.</translation>
     </message>
     <message>
         <source>This does not have the form that is asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies hat nicht die verlangte Form.</translation>
     </message>
     <message>
         <source>Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Erforderlich</translation>
     </message>
     <message>
         <source>Not chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gewählt</translation>
     </message>
     <message>
         <source>Hide the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text verbergen</translation>
     </message>
     <message>
         <source>Show the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text zeigen</translation>
     </message>
 </context>
 <context>
@@ -891,7 +896,7 @@
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Abwesend</translation>
     </message>
     <message>
         <source>The server does not answer any more.</source>
@@ -906,15 +911,15 @@
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Abwesend</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgemeldet</translation>
     </message>
 </context>
 <context>
@@ -941,7 +946,7 @@
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>The name or address of the server. When it is empty, the part of the login after the @ is the server.</source>
@@ -949,7 +954,7 @@
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Usually 6697 with encryption and 6667 without.</source>
@@ -957,7 +962,7 @@
     </message>
     <message>
         <source>Encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschlüsselung</translation>
     </message>
     <message>
         <source>Required (TLS)</source>
@@ -973,7 +978,7 @@
     </message>
     <message>
         <source>Trusted certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertrautes Zertifikat</translation>
     </message>
     <message>
         <source>The path of a file with a certificate (PEM) to trust besides those that this computer trusts already.</source>
@@ -1025,7 +1030,7 @@
     </message>
     <message>
         <source>Server on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Server auf diesem Rechner</translation>
     </message>
 </context>
 <context>
@@ -1099,253 +1104,290 @@
     <name>KirvMessageBar</name>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Close this message.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Meldung schließen.</translation>
     </message>
     <message>
         <source>Close This Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>KirvNgircdServer</name>
+    <message>
+        <source>The files of the server could not be given to it.</source>
+        <translation>Die Dateien des Servers konnten ihm nicht übergeben werden.</translation>
     </message>
 </context>
 <context>
     <name>KirvPasswordDialog</name>
     <message>
         <source>&amp;Remember the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort &amp;merken</translation>
     </message>
     <message>
         <source>Password Needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort erforderlich</translation>
     </message>
     <message>
         <source>Enter the password of the account %1 (%2).</source>
         <extracomment>%1 = name of an account, %2 = its protocol</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie das Passwort des Kontos %1 (%2) ein.</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Keeps the password in your profile, so that it is not asked for again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Behält das Passwort in Ihrem Profil, damit nicht erneut danach gefragt wird.</translation>
     </message>
     <message>
         <source>&amp;Log In</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anmelden</translation>
     </message>
 </context>
 <context>
     <name>KirvPluginRegistry</name>
     <message>
         <source>The file is not a plug-in library.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist keine Modulbibliothek.</translation>
     </message>
     <message>
         <source>The plug-in is not one for protocols: its interface is &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul ist keines für Protokolle: Seine Schnittstelle ist „%1“.</translation>
     </message>
     <message>
         <source>The plug-in was built for version %1 of the plug-in interface; this program has version %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul wurde für Version %1 der Modulschnittstelle gebaut; dieses Programm hat Version %2.</translation>
     </message>
     <message>
         <source>The library cannot be loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bibliothek kann nicht geladen werden: %1</translation>
     </message>
     <message>
         <source>The plug-in does not have the interface that it states.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul hat die Schnittstelle nicht, die es angibt.</translation>
     </message>
     <message>
         <source>The plug-in did not create its protocol and gave no reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul hat sein Protokoll nicht erzeugt und keinen Grund genannt.</translation>
     </message>
     <message>
         <source>The protocol has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokoll hat keinen Namen.</translation>
     </message>
     <message>
         <source>A protocol with the name &quot;%1&quot; is loaded already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Protokoll mit dem Namen „%1“ ist schon geladen.</translation>
     </message>
     <message>
         <source>The protocol &quot;%1&quot; offers no presence.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokoll „%1“ bietet keinen Status an.</translation>
     </message>
 </context>
 <context>
     <name>KirvPluginsPage</name>
     <message>
         <source>&amp;Load</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laden</translation>
     </message>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entladen</translation>
     </message>
     <message>
         <source>Plug-ins</source>
-        <translation type="unfinished"></translation>
+        <translation>Module</translation>
     </message>
     <message>
         <source>Plug-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Modul</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>About the plug-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Über das Modul</translation>
     </message>
     <message>
         <source>Loads the plug-in; its accounts come back as they were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lädt das Modul; seine Konten kommen wieder, wie sie waren.</translation>
     </message>
     <message>
         <source>Logs the accounts of the plug-in out. They stay in your profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldet die Konten des Moduls ab. Sie bleiben in Ihrem Profil.</translation>
     </message>
     <message>
         <source>Plug-ins are looked for in the folder %1.</source>
         <extracomment>%1 = path of a folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Module werden im Ordner %1 gesucht.</translation>
     </message>
     <message>
         <source>Loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen</translation>
     </message>
     <message>
         <source>Not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geladen</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>There are no plug-ins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Module.</translation>
     </message>
 </context>
 <context>
     <name>KirvRegistration</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keines der geladenen Module kann ein neues Konto registrieren.</translation>
     </message>
 </context>
 <context>
     <name>KirvRegistrationChooser</name>
     <message>
         <source>Register Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto registrieren</translation>
     </message>
     <message>
         <source>For which &amp;protocol do you want to register a new account?</source>
-        <translation type="unfinished"></translation>
+        <translation>Für welches &amp;Protokoll möchten Sie ein neues Konto registrieren?</translation>
     </message>
     <message>
         <source>Protocols</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter</translation>
     </message>
 </context>
 <context>
     <name>KirvSettingsManager</name>
     <message>
         <source>Name shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigter Name</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Remember the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort merken</translation>
     </message>
     <message>
         <source>Restore the last presence</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzten Status wiederherstellen</translation>
     </message>
     <message>
         <source>Restore the last description</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Beschreibung wiederherstellen</translation>
     </message>
 </context>
 <context>
     <name>KirvSettingsWindow</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Kirv – Settings</source>
         <extracomment>window title; %1 = name of the main account</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kirv – Einstellungen</translation>
     </message>
     <message>
         <source>Kirv – Settings – %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kirv – Einstellungen – %1</translation>
     </message>
 </context>
 <context>
-    <name>KirvStore::Private</name>
+    <name>KirvStore</name>
     <message>
         <source>The profile folder &quot;%1&quot; could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Profilordner „%1“ konnte nicht angelegt werden.</translation>
     </message>
     <message>
         <source>The profile folder &quot;%1&quot; could not be closed to other users.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Profilordner „%1“ konnte nicht vor anderen Benutzern verschlossen werden.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; is in use by another running instance of the program. Close that one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ wird von einem anderen laufenden Exemplar des Programms benutzt. Beenden Sie dieses zuerst.</translation>
     </message>
     <message>
         <source>The profile folder &quot;%1&quot; cannot be written. Check its owner and permissions, and whether the disk is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Profilordner „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte und ob der Datenträger voll ist.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; cannot be written. Check its owner and permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; was written by a newer version of the program. Use that version to open it; nothing in it was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ wurde von einer neueren Version des Programms geschrieben. Öffnen Sie es mit dieser; nichts darin wurde geändert.</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; belongs to another program; nothing in it was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ gehört zu einem anderen Programm; nichts darin wurde geändert.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
     </message>
     <message>
         <source>The account &quot;%1&quot; (%2) is not in the profile.</source>
+        <translation>Das Konto „%1“ (%2) ist nicht im Profil.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvXmppAccountDeletion</name>
+    <message>
+        <source>Delete Account on Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to delete the account %1 on its server? Its contacts and everything the server keeps for it are lost.</source>
+        <extracomment>%1 = the address of an account</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete on Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be undone, and somebody else can take the address %1 afterwards. Is %1 really to be deleted?</source>
+        <extracomment>%1 = the address of an account</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete for Good</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account %1 was not deleted. %2</source>
+        <extracomment>%1 = the address of an account, %2 = the reason, a sentence</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1403,6 +1445,46 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppPasswordDialog</name>
+    <message>
+        <source>Change Password on Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server gives the account %1 the new password; all clients need it then.</source>
+        <extracomment>%1 = the address of an account</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;hange Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New password:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same &amp;again:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password holds characters that cannot be sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server is asked…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppProtocol</name>
     <message>
         <source>XMPP (Jabber): conversations between addresses of many independent servers.</source>
@@ -1410,31 +1492,31 @@
     </message>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar</translation>
     </message>
     <message>
         <source>Free to chat</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesprächsbereit</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Abwesend</translation>
     </message>
     <message>
         <source>Extended away</source>
-        <translation type="unfinished"></translation>
+        <translation>Länger abwesend</translation>
     </message>
     <message>
         <source>Do not disturb</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte nicht stören</translation>
     </message>
     <message>
         <source>Invisible</source>
-        <translation type="unfinished"></translation>
+        <translation>Unsichtbar</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgemeldet</translation>
     </message>
     <message>
         <source>Change Password on Server…</source>
@@ -1472,78 +1554,176 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppRegistrationWindow</name>
+    <message>
+        <source>Domain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part of the address after the @.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Register XMPP Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On which server is the new account to be? The server decides what it asks for next.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Con&amp;figuration:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remember the password</source>
+        <translation>Passwort &amp;merken</translation>
+    </message>
+    <message>
+        <source>Keeps the password in your profile, so that it is not asked for again.</source>
+        <translation>Behält das Passwort in Ihrem Profil, damit nicht erneut danach gefragt wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the domain of the server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server is asked for its form…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server also names this address: %1</source>
+        <extracomment>%1 = a web address</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This server does not register accounts from within a client.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has a new form. Check it and register again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a picture for “%1”, which cannot be shown: %2</source>
+        <extracomment>%1 = a caption, %2 = an address</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The form is sent…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has taken the form. Add the account with the login that the server gives you.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account %1 is registered on the server, but it was not added here: it is in the list already, or the list cannot be stored.</source>
+        <extracomment>%1 = the address of an account</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppSettings</name>
     <message>
         <source>Resource</source>
-        <translation type="unfinished"></translation>
+        <translation>Ressource</translation>
     </message>
     <message>
         <source>Tells this client from your other ones. Empty: the server chooses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterscheidet dieses Programm von Ihren anderen. Leer: Der Server wählt.</translation>
     </message>
     <message>
         <source>Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorität</translation>
     </message>
     <message>
         <source>Messages go to the client with the highest priority.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachrichten gehen an das Programm mit der höchsten Priorität.</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>Only needed when it cannot be found by the domain of the login.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur nötig, wenn er nicht über die Domäne des Anmeldenamens gefunden wird.</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Ordinarily %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewöhnlich %1.</translation>
     </message>
     <message>
         <source>Encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschlüsselung</translation>
     </message>
     <message>
         <source>Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Erforderlich</translation>
     </message>
     <message>
         <source>If the server offers it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn der Server sie anbietet</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Without encryption others in the network can read along, your password included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Verschlüsselung können andere im Netz mitlesen, auch Ihr Passwort.</translation>
     </message>
     <message>
         <source>Trusted certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertrautes Zertifikat</translation>
     </message>
     <message>
         <source>A file with a certificate (PEM) that is trusted besides those of the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei mit einem Zertifikat (PEM), dem neben denen des Systems vertraut wird.</translation>
     </message>
     <message>
         <source>Server of the domain</source>
-        <translation type="unfinished"></translation>
+        <translation>Server der Domäne</translation>
     </message>
     <message>
         <source>Server on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Server auf diesem Rechner</translation>
     </message>
     <message>
         <source>Server on this computer, unencrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>Server auf diesem Rechner, unverschlüsselt</translation>
     </message>
     <message>
         <source>The trusted certificate %1 cannot be read (%2).</source>
@@ -1560,57 +1740,57 @@
     <message>
         <source>Alias</source>
         <comment>account alias in account list</comment>
-        <translation type="unfinished"></translation>
+        <translation>Alias</translation>
     </message>
     <message>
         <source>Protocol</source>
         <comment>account protocol in account list</comment>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Removing account</source>
         <comment>message box title</comment>
-        <translation type="unfinished"></translation>
+        <translation>Konto entfernen</translation>
     </message>
     <message>
         <source>Do you want to remove account &apos;%1&apos; (%2) and all related data?</source>
         <comment>%1 = account alias, %2 = account protocol. Confirmation of removing account</comment>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Konto „%1“ (%2) mit allen zugehörigen Daten entfernen?</translation>
     </message>
     <message>
         <source>Disabling account</source>
         <comment>message box title</comment>
-        <translation type="unfinished"></translation>
+        <translation>Konto ausschalten</translation>
     </message>
     <message>
         <source>Do you want to disable account &apos;%1&apos; (%2) in which you are currently logged in.</source>
         <comment>%1 = account id, %2 = account protocol. Confirmation of disabling account</comment>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Konto „%1“ (%2) ausschalten, bei dem Sie gerade angemeldet sind?</translation>
     </message>
     <message>
         <source>None</source>
         <comment>nc</comment>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Add account</source>
         <comment>adding account error message box title</comment>
-        <translation type="unfinished"></translation>
+        <translation>Konto hinzufügen</translation>
     </message>
     <message>
         <source>Account &apos;%1&apos; alerady exists!</source>
         <comment>information about existing account while adding account</comment>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto „%1“ gibt es schon!</translation>
     </message>
     <message>
         <source>Deleting directory entry</source>
         <comment>message box title</comment>
-        <translation type="unfinished"></translation>
+        <translation>Verzeichniseintrag löschen</translation>
     </message>
     <message>
         <source>Do you want to delete the directory entry of account &apos;%1&apos; (%2) from the server?</source>
         <comment>%1 = account id, %2 = account protocol. Confirmation of deleting the directory entry</comment>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Verzeichniseintrag des Kontos „%1“ (%2) vom Server löschen?</translation>
     </message>
 </context>
 </TS>
