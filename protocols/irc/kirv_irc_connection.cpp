@@ -9,6 +9,7 @@
 #include <IrcCommand>
 #include <IrcConnection>
 #include <IrcMessage>
+#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
 #include <QRegularExpression>
@@ -32,6 +33,14 @@ bool isDenial(const QString &goodbye)
                                                               "not authori[sz]ed|unauthori[sz]ed"),
                                                QRegularExpression::CaseInsensitiveOption);
     return expression.match(goodbye).hasMatch();
+}
+
+/// What others learn who ask for the program; the library would give its own name.
+QString programName()
+{
+    const QString name =
+        QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion();
+    return name.trimmed();
 }
 
 /// A file that is larger than a bundle of certificates is none.
@@ -81,6 +90,7 @@ void KirvIrcConnection::createLink()
 {
     link.reset(new IrcConnection);
     link->setReconnectDelay(0);
+    link->setCtcpReplies({ { QStringLiteral("VERSION"), programName() } });
     link->setHost(settings.server);
     link->setPort(settings.port);
     link->setUserName(settings.userName());

@@ -149,9 +149,8 @@ QString KirvIrcSettings::userName() const
 
 QList<KirvField> KirvIrcSettings::defaultFields()
 {
-    const QString id = QLatin1String(serverId);
     return {
-        KirvField::textEdit(tr("Server"), id, QString(),
+        KirvField::textEdit(tr("Server"), QLatin1String(serverId), QString(),
                             tr("The name or address of the server. When it is empty, the part of the login after "
                                "the @ is the server.")),
         KirvField::number(tr("Port"), QLatin1String(portId), encryptedPort, 1, 65535,

@@ -218,6 +218,7 @@ private Q_SLOTS:
     void bannedUserStaysOut();
     void serverThatIsBusyIsTriedAgain();
     void removedAccountLeavesTheServer();
+    void othersLearnTheNameOfTheProgram();
 
     void saslLogsIn_data();
     void saslLogsIn();
@@ -829,6 +830,17 @@ void TestIrcConnection::removedAccountLeavesTheServer()
     QVERIFY(bob.sees("alice"));
     KirvAccountManager::getInstance()->removeAccount("alice", "IRC");
     QTRY_VERIFY_WITH_TIMEOUT(!bob.sees("alice"), patience);
+}
+
+void TestIrcConnection::othersLearnTheNameOfTheProgram()
+{
+    ScriptedServer server([](const QByteArray &line) {
+        return line.startsWith("AWAY") ? ":bob!b@host PRIVMSG alice :\1VERSION\1\r\n" : welcome(line);
+    });
+    KirvAccount *account = createAccount(server, plain());
+    goTo(account, "available");
+    const QByteArray answer = "NOTICE bob :\1VERSION " + QCoreApplication::applicationName().toUtf8() + '\1';
+    QTRY_VERIFY_WITH_TIMEOUT(server.hasReceived(answer), patience);
 }
 
 void TestIrcConnection::saslLogsIn_data()
