@@ -15,13 +15,13 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPointer>
 #include <QStandardPaths>
-#include <QStyleOption>
 #include <QTemporaryDir>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <memory>
 
 namespace {
 
@@ -74,13 +74,10 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        QPainterPath outline;
+        painter.setRenderHint(QPainter::Antialiasing);
         const qreal radius = qMin(width(), height()) / 6.0;
-        outline.addRoundedRect(QRectF(rect()), radius, radius);
-        painter.setClipPath(outline);
         painter.setOpacity(isEnabled() ? 1.0 : 0.4);
-        painter.drawPixmap(rect(), rendered());
+        painter.drawPixmap(rect(), rounded(radius));
         painter.setOpacity(1.0);
         if (isEnabled() && (underMouse() || hasFocus() || dropHovers))
             drawHighlight(&painter, radius);
@@ -128,18 +125,30 @@ protected:
     }
 
 private:
-    /// The picture at the widget's size and resolution, cut to its shape from the middle.
-    QPixmap rendered() const
+    /// The picture with round corners, at the resolution of the screen.
+    QPixmap rounded(qreal radius) const
     {
-        const qreal ratio = devicePixelRatioF();
-        const QSize target = size() * ratio;
+        QPixmap result(size() * devicePixelRatioF());
+        result.setDevicePixelRatio(devicePixelRatioF());
+        result.fill(Qt::transparent);
+        QPainter painter(&result);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::black);
+        painter.drawRoundedRect(rect(), radius, radius);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.drawPixmap(rect(), cut(result.size()));
+        return result;
+    }
+
+    /// The middle of the picture, as large as possible, scaled to \a target.
+    QPixmap cut(const QSize &target) const
+    {
         if (picture.isNull())
-            return QIcon(QStringLiteral(":/kirv/icons/avatar-none.svg")).pixmap(size());
+            return QIcon(QStringLiteral(":/kirv/icons/avatar-none.svg")).pixmap(target);
         const QImage scaled = picture.scaled(target, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
         const QPoint corner((scaled.width() - target.width()) / 2, (scaled.height() - target.height()) / 2);
-        QPixmap result = QPixmap::fromImage(scaled.copy(QRect(corner, target)));
-        result.setDevicePixelRatio(ratio);
-        return result;
+        return QPixmap::fromImage(scaled.copy(QRect(corner, target)));
     }
 
     void drawHighlight(QPainter *painter, qreal radius) const
