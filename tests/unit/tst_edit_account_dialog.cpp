@@ -161,6 +161,7 @@ void TestEditAccountDialog::theDefaultPresenceIsCurrent_data()
     QTest::newRow("one matches") << QStringList { "online", "away", "offline" } << "away" << 1;
     QTest::newRow("none matches") << QStringList { "online", "away", "offline" } << "Away" << 0;
     QTest::newRow("the last match wins") << QStringList { "away", "online", "away" } << "away" << 2;
+    QTest::newRow("the last of neighbours wins") << QStringList { "online", "away", "away" } << "away" << 2;
     QTest::newRow("no presences") << QStringList() << "away" << -1;
 }
 
