@@ -17,6 +17,7 @@
 
 namespace {
 const int pollMilliseconds = 20;
+const int activationMilliseconds = 2000;
 const qint64 stepMilliseconds = 20000;
 const qint64 totalMilliseconds = 180000;
 
@@ -31,10 +32,29 @@ QAction *actionInMenu(const QString &text)
     return nullptr;
 }
 
+/// While it lives, something is being typed: no step begins before it is complete, although events are handled
+/// between the keys.
+class Typing {
+public:
+    Typing() { ++depth; }
+    ~Typing() { --depth; }
+    static bool isGoingOn() { return depth > 0; }
+
+private:
+    static int depth;
+};
+
+int Typing::depth = 0;
+
 QWindow *prepare(QWidget *widget)
 {
+    QWindow *window = widget->window()->windowHandle();
     widget->window()->activateWindow();
-    return widget->window()->windowHandle();
+    // Keys, and shortcuts above all, go to the active window only.
+    const Typing typing;
+    if (!QTest::qWaitForWindowActive(window, activationMilliseconds))
+        std::printf("        (the window %s is not active)\n", qPrintable(widget->window()->objectName()));
+    return window;
 }
 } // namespace
 
@@ -72,7 +92,7 @@ void KirvWalk::tick()
         return;
     }
     const Step &step = steps[current];
-    const bool mayGo = !step.onTop || depth == 0;
+    const bool mayGo = !Typing::isGoingOn() && (!step.onTop || depth == 0);
     if (!mayGo || !step.holds()) {
         if (waiting.elapsed() > stepMilliseconds || total.elapsed() > totalMilliseconds) {
             std::printf("FAILED  %s\n", qPrintable(step.text));
@@ -145,6 +165,7 @@ void KirvWalk::pressKey(QWidget *widget, Qt::Key key)
 
 void KirvWalk::type(QLineEdit *edit, const QString &text)
 {
+    const Typing typing;
     click(edit);
     QWindow *window = edit->window()->windowHandle();
     QTest::keySequence(window, QKeySequence(QKeySequence::SelectAll));
@@ -155,6 +176,7 @@ void KirvWalk::type(QLineEdit *edit, const QString &text)
 
 void KirvWalk::choose(QComboBox *box, const QString &text)
 {
+    const Typing typing;
     QWindow *window = prepare(box);
     box->setFocus(Qt::TabFocusReason);
     QTest::keyClick(window, Qt::Key_Home);

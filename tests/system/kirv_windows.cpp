@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/system/kirv_windows.h"
+
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_connection_model.h"
+#include "client/kirv_connection_view.h"
+#include "client/kirv_plugins_page.h"
+#include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account_registry.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDirIterator>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace {
+
+enum Page { AccountsPage, ConnectionsPage, PluginsPage };
+enum Column { AliasColumn, ProtocolColumn, IdColumn };
+
+} // namespace
+
+KirvWindows::KirvWindows()
+{
+    options.profileFolder = files.filePath(QStringLiteral("profile"));
+    options.pluginFolder = QStringLiteral(KIRV_PROTOCOL_FOLDER);
+}
+
+KirvWindows::~KirvWindows()
+{
+    quit();
+}
+
+bool KirvWindows::start()
+{
+    quit();
+    client = std::make_unique<KirvClient>(options);
+    if (!client->start()) {
+        qWarning("%s", qPrintable(client->errorString()));
+        return false;
+    }
+    client->window()->show();
+    return QTest::qWaitForWindowExposed(client->window());
+}
+
+void KirvWindows::quit()
+{
+    client.reset();
+}
+
+bool KirvWindows::add(const QString &protocol, const QString &configuration, const QString &login,
+                      const QString &password, const std::function<void(QWidget *)> &fillIn, bool isAccepted)
+{
+    showPage(AccountsPage);
+    const auto window = [] { return KirvWalk::window(QStringLiteral("AddAccount")); };
+    const auto saveButton = [window] { return button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Save); };
+    KirvWalk walk(files.path());
+    walk.expectOnTop(
+        QStringLiteral("The page is there"), [this] { return client->accountsPage()->isVisible(); },
+        [this] { KirvWalk::openMenu(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")); });
+    walk.expect(
+        QStringLiteral("The menu offers %1").arg(protocol), [protocol] { return KirvWalk::menuOffers(protocol); },
+        [protocol] { KirvWalk::clickInMenu(protocol); });
+    walk.expect(
+        QStringLiteral("The window opens, with Save asleep"), [=] { return window() && !saveButton()->isEnabled(); },
+        [=] {
+            KirvWalk::choose(child<QComboBox>(window(), "AddAccount_Configuration"), configuration);
+            KirvWalk::type(child<QLineEdit>(window(), "AddAccount_UsernameEdit"), login);
+            KirvWalk::type(child<QLineEdit>(window(), "AddAccount_PasswordEdit"), password);
+            if (fillIn)
+                fillIn(window());
+        });
+    walk.expect(
+        QStringLiteral("Save is awake"), [=] { return saveButton()->isEnabled(); },
+        [=] { KirvWalk::click(saveButton()); });
+    if (!isAccepted) {
+        walk.expect(
+            QStringLiteral("The account is refused"), [this] { return question(); },
+            [this] { KirvWalk::click(question()->button(QMessageBox::Ok)); });
+        walk.expect(
+            QStringLiteral("The window is still open, as it was"),
+            [=] {
+                return !question() && window()
+                    && child<QLineEdit>(window(), "AddAccount_UsernameEdit")->text() == login;
+            },
+            [=] { KirvWalk::click(button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Cancel)); });
+    }
+    walk.expectOnTop(QStringLiteral("The window is gone"), [window] { return !window(); });
+    return walk.run();
+}
+
+QDialog *KirvWindows::edit(const QString &login)
+{
+    showPage(AccountsPage);
+    if (!QTest::qWaitFor([this] { return client->accountsPage()->isVisible(); }, patience))
+        return nullptr;
+    list()->scrollToItem(row(login));
+    KirvWalk::doubleClick(list()->viewport(), list()->visualItemRect(row(login)).center());
+    QWidget *window = nullptr;
+    const bool isOpen = QTest::qWaitFor(
+        [&window] {
+            return (window = KirvWalk::window(QStringLiteral("EditAccount"))) && window->windowHandle()->isExposed();
+        },
+        patience);
+    return isOpen ? qobject_cast<QDialog *>(window) : nullptr;
+}
+
+bool KirvWindows::save(QDialog *editWindow)
+{
+    KirvWalk::click(button(editWindow, "EditAccount_FrameButtons", QDialogButtonBox::Save));
+    return QTest::qWaitFor([] { return !KirvWalk::window(QStringLiteral("EditAccount")); }, patience);
+}
+
+QTreeWidget *KirvWindows::list() const
+{
+    return child<QTreeWidget>(client->accountsPage(), "Accounts_List");
+}
+
+QTreeWidgetItem *KirvWindows::row(const QString &login) const
+{
+    return list()->findItems(login, Qt::MatchExactly | Qt::MatchCaseSensitive, IdColumn).value(0);
+}
+
+QComboBox *KirvWindows::selector() const
+{
+    return child<QComboBox>(client->accountsPage(), "Accounts_MainAccount");
+}
+
+void KirvWindows::select(const QString &login) const
+{
+    list()->setCurrentItem(row(login));
+}
+
+void KirvWindows::toggle(const QString &login) const
+{
+    list()->setCurrentItem(row(login), AliasColumn);
+    KirvWalk::pressKey(list(), Qt::Key_Space);
+}
+
+QMessageBox *KirvWindows::question() const
+{
+    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+}
+
+KirvAccount *KirvWindows::account(const QString &login) const
+{
+    for (KirvAccount *account : client->accounts().accounts()) {
+        if (account->key().id == login)
+            return account;
+    }
+    return nullptr;
+}
+
+QString KirvWindows::state(const QString &login) const
+{
+    const KirvAccount *shown = account(login);
+    return shown ? KirvConnectionModel::stateText(*shown) : QString();
+}
+
+QString KirvWindows::problem(const QString &login) const
+{
+    const auto *model = client->connectionView()->findChild<KirvConnectionModel *>();
+    return model->index(model->rowOf(account(login)), KirvConnectionModel::ErrorColumn).data().toString();
+}
+
+QString KirvWindows::title() const
+{
+    return client->window()->windowTitle();
+}
+
+void KirvWindows::setLoaded(const QString &protocol, bool loaded)
+{
+    showPage(PluginsPage);
+    auto *plugins = child<QTreeWidget>(client->pluginsPage(), "Plugins_List");
+    plugins->setCurrentItem(plugins->findItems(protocol, Qt::MatchExactly).value(0));
+    KirvWalk::click(child<QPushButton>(client->pluginsPage(), loaded ? "Plugins_LoadButton" : "Plugins_UnloadButton"));
+}
+
+void KirvWindows::showPage(int index)
+{
+    auto *pages = child<QListWidget>(client->window(), "Settings_Pages");
+    pages->setFocus();
+    pages->setCurrentRow(index);
+}
+
+QString KirvWindows::pluginFile(const QString &protocol) const
+{
+    const QList<KirvPluginInfo> plugins = client->plugins().plugins();
+    for (const KirvPluginInfo &plugin : plugins) {
+        if (plugin.name == protocol)
+            return plugin.fileName;
+    }
+    return QString();
+}
+
+bool KirvWindows::profileHolds(const QByteArray &text) const
+{
+    QDirIterator entries(options.profileFolder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        QFile file(entries.next());
+        if (file.open(QFile::ReadOnly) && file.readAll().contains(text))
+            return true;
+    }
+    return false;
+}
+
+QPushButton *KirvWindows::button(const QWidget *window, const char *box, QDialogButtonBox::StandardButton which)
+{
+    return child<QDialogButtonBox>(window, box)->button(which);
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_WINDOWS_H
+#define KIRV_WINDOWS_H
+
+#include "client/kirv_client.h"
+#include "client/walk_through/kirv_walk.h"
+#include "core/accounts/kirv_account.h"
+
+#include <QDialogButtonBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+class QComboBox;
+class QDialog;
+class QLineEdit;
+class QMessageBox;
+class QPushButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+/// Generous, for a busy machine; a test that works needs a fraction of it.
+const int patience = 20000;
+#define TRY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, patience)
+#define TRY_SAYS(text, word)                                                                                           \
+    QTRY_VERIFY2_WITH_TIMEOUT(text.contains(QLatin1String(word), Qt::CaseInsensitive), qPrintable(text), patience)
+
+/// The real client with a profile of its own, used through its windows as a person uses it.
+class KirvWindows {
+public:
+    KirvWindows();
+    ~KirvWindows();
+
+    /// Starts the client, or quits it and starts it again.
+    bool start();
+    void quit();
+
+    /// Adds an account through the add button's menu and the window that it opens. \a fillIn is called before
+    /// Save is pressed, when login and password are there. False when a step did not work.
+    bool add(const QString &protocol, const QString &configuration, const QString &login, const QString &password,
+             const std::function<void(QWidget *window)> &fillIn = {}, bool isAccepted = true);
+    /// Double-clicks the row and returns the window; null when none opened.
+    QDialog *edit(const QString &login);
+    bool save(QDialog *editWindow);
+
+    QTreeWidget *list() const;
+    QTreeWidgetItem *row(const QString &login) const;
+    QComboBox *selector() const;
+    void select(const QString &login) const;
+    /// Clicks the check box of the row by the keyboard.
+    void toggle(const QString &login) const;
+    /// The question that is open; null when none is.
+    QMessageBox *question() const;
+
+    KirvAccount *account(const QString &login) const;
+    /// What the connection view says of the account.
+    QString state(const QString &login) const;
+    QString problem(const QString &login) const;
+    QString title() const;
+
+    /// Clicks Load or Unload for the plug-in of \a protocol on the Plug-ins page.
+    void setLoaded(const QString &protocol, bool loaded);
+    void showPage(int index);
+    QString pluginFile(const QString &protocol) const;
+
+    QString profileFolder() const { return options.profileFolder; }
+    /// Whether any file of the profile holds the bytes of \a text.
+    bool profileHolds(const QByteArray &text) const;
+
+    template <class Widget>
+    static Widget *child(const QWidget *window, const char *name)
+    {
+        return window->findChild<Widget *>(QLatin1String(name));
+    }
+    static QPushButton *button(const QWidget *window, const char *box, QDialogButtonBox::StandardButton which);
+
+    std::unique_ptr<KirvClient> client;
+
+private:
+    QTemporaryDir files;
+    KirvClientOptions options;
+};
+
+#endif

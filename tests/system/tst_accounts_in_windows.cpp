@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/demo/kirv_prosody_server.h"
+#include "client/kirv_password_dialog.h"
+#include "client/kirv_settings_window.h"
+#include "core/connection/kirv_connection.h"
+#include "core/plugins/kirv_plugin_registry.h"
+#include "host/kirv_field_widget.h"
+#include "tests/system/kirv_windows.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace {
+
+const QString xmpp = QStringLiteral("XMPP");
+const QString here = QStringLiteral("Server on this computer");
+const QString ann = QStringLiteral("ann@localhost");
+const QString bob = QStringLiteral("bob@localhost");
+const QString secret = QStringLiteral("secret");
+
+} // namespace
+
+/// What a person does with accounts on the page, against a real server.
+class tst_accounts_in_windows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void addedAccountIsLoggedInAndComesBackAfterARestart();
+    void everythingInTheAddWindowHasAnAccessibleName();
+    void existingAccountIsRefusedAndNothingTypedIsLost();
+    void passwordThatIsNotRememberedIsAskedFor();
+    void wrongPasswordIsSaid();
+    void serverThatIsNotThereIsSaid();
+    void untrustedCertificateIsSaidAndCanBeTrusted();
+
+    void untickedOfflineAccountIsDisabledAtOnce();
+    void untickedConnectedAccountIsAskedAbout();
+    void removedAccountLeavesNothingBehind();
+    void mainAccountIsFollowedAndRestored();
+
+    void protocolGoesAndComesWhileConnected();
+    void protocolGoesWhileAnAccountIsEdited();
+    void protocolGoesWhileAQuestionIsOpen();
+
+private:
+    bool addAnn()
+    {
+        return windows->add(xmpp, here, ann, secret, [](QWidget *window) { remember(window); });
+    }
+    static void remember(QWidget *window)
+    {
+        KirvWindows::child<QAbstractButton>(window, "AddAccount_RememberPasswordCheckbox")->setChecked(true);
+    }
+    bool isConnected(const QString &login) const { return windows->state(login) == QLatin1String("Connected"); }
+
+    KirvProsodyServer server;
+    std::unique_ptr<KirvWindows> windows;
+};
+
+void tst_accounts_in_windows::initTestCase()
+{
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    QVERIFY(server.addUser(QStringLiteral("ann"), secret));
+    QVERIFY(server.addUser(QStringLiteral("bob"), secret));
+    qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server.port()));
+}
+
+void tst_accounts_in_windows::init()
+{
+    qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", server.certificatePath().toLocal8Bit());
+    windows = std::make_unique<KirvWindows>();
+    QVERIFY(windows->start());
+}
+
+void tst_accounts_in_windows::cleanup()
+{
+    windows.reset();
+}
+
+void tst_accounts_in_windows::addedAccountIsLoggedInAndComesBackAfterARestart()
+{
+    QVERIFY(addAnn());
+    QVERIFY(windows->row(ann));
+    QCOMPARE(windows->row(ann)->checkState(0), Qt::Checked);
+    TRY(isConnected(ann));
+    TRY(server.isOnline(QStringLiteral("ann")));
+
+    windows->quit();
+    TRY(!server.isOnline(QStringLiteral("ann")));
+    QVERIFY(windows->start());
+    QVERIFY(windows->row(ann));
+    TRY(isConnected(ann));
+    TRY(server.isOnline(QStringLiteral("ann")));
+}
+
+void tst_accounts_in_windows::everythingInTheAddWindowHasAnAccessibleName()
+{
+    int seen = 0;
+    QStringList nameless;
+    const auto look = [&](QWidget *window) {
+        for (QWidget *widget : window->findChildren<QWidget *>()) {
+            const bool isField = widget->isVisible() && widget->focusPolicy() != Qt::NoFocus
+                && !widget->objectName().startsWith(QLatin1String("qt_"));
+            if (!isField)
+                continue;
+            ++seen;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            const bool isLabelled = accessible
+                && (!accessible->relations(QAccessible::Label).isEmpty() || !widget->accessibleName().isEmpty()
+                    || !accessible->text(QAccessible::Name).isEmpty());
+            if (!isLabelled)
+                nameless << widget->objectName();
+        }
+    };
+    QVERIFY(windows->add(xmpp, here, ann, secret, look));
+    QVERIFY2(seen >= 10, qPrintable(QString::number(seen)));
+    QCOMPARE(nameless, QStringList());
+}
+
+void tst_accounts_in_windows::existingAccountIsRefusedAndNothingTypedIsLost()
+{
+    QVERIFY(addAnn());
+    QVERIFY(windows->add(xmpp, here, ann, secret, {}, false));
+    QCOMPARE(windows->list()->topLevelItemCount(), 1);
+}
+
+void tst_accounts_in_windows::passwordThatIsNotRememberedIsAskedFor()
+{
+    const auto forget = [](QWidget *window) {
+        KirvWindows::child<QAbstractButton>(window, "AddAccount_RememberPasswordCheckbox")->setChecked(false);
+    };
+    const QString unusual = QStringLiteral("unusual-word-to-find");
+    QVERIFY(server.addUser(QStringLiteral("cy"), unusual));
+    const QString cy = QStringLiteral("cy@localhost");
+    QVERIFY(windows->add(xmpp, here, cy, unusual, forget));
+    TRY(isConnected(cy));
+    QVERIFY(!windows->profileHolds(unusual.toUtf8()));
+
+    QVERIFY(windows->start());
+    KirvPasswordDialog *dialog = nullptr;
+    TRY((dialog = windows->client->window()->findChild<KirvPasswordDialog *>()));
+    TRY(dialog->isVisible());
+    KirvWalk::type(dialog->findChild<QLineEdit *>(), unusual);
+    KirvWalk::click(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
+    TRY(isConnected(cy));
+}
+
+void tst_accounts_in_windows::wrongPasswordIsSaid()
+{
+    QVERIFY(windows->add(xmpp, here, ann, QStringLiteral("mistyped")));
+    TRY_SAYS(windows->problem(ann), "password");
+    QCOMPARE(windows->state(ann), QStringLiteral("Off line"));
+    QVERIFY(!server.isOnline(QStringLiteral("ann")));
+}
+
+void tst_accounts_in_windows::serverThatIsNotThereIsSaid()
+{
+    const int nobody = KirvLocalServer::findFreePort();
+    QVERIFY(windows->add(xmpp, here, ann, secret, [nobody](QWidget *window) {
+        window->findChild<QSpinBox *>(QStringLiteral("KirvField_port"))->setValue(nobody);
+    }));
+    TRY(!windows->problem(ann).isEmpty());
+    TRY_SAYS(windows->state(ann), "waiting");
+}
+
+void tst_accounts_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
+{
+    qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
+    QVERIFY(addAnn());
+    TRY_SAYS(windows->problem(ann), "certificate");
+    QVERIFY(!isConnected(ann));
+
+    QDialog *window = windows->edit(ann);
+    QVERIFY(window);
+    window->findChild<QLineEdit *>(QStringLiteral("KirvField_certificate"))->setText(server.certificatePath());
+    QVERIFY(windows->save(window));
+    windows->account(ann)->connection()->reconnect(windows->account(ann)->presence());
+    TRY(isConnected(ann));
+}
+
+void tst_accounts_in_windows::untickedOfflineAccountIsDisabledAtOnce()
+{
+    QVERIFY(windows->add(xmpp, here, ann, QStringLiteral("mistyped")));
+    TRY_SAYS(windows->problem(ann), "password");
+    windows->toggle(ann);
+    QVERIFY(!windows->question());
+    QCOMPARE(windows->row(ann)->checkState(0), Qt::Unchecked);
+    QVERIFY(!windows->account(ann)->isEnabled());
+}
+
+void tst_accounts_in_windows::untickedConnectedAccountIsAskedAbout()
+{
+    QVERIFY(addAnn());
+    TRY(isConnected(ann));
+
+    windows->toggle(ann);
+    TRY(windows->question());
+    QCOMPARE(windows->row(ann)->checkState(0), Qt::Checked);
+    KirvWalk::click(windows->question()->button(QMessageBox::No));
+    TRY(!windows->question());
+    QVERIFY(isConnected(ann) && windows->account(ann)->isEnabled());
+
+    windows->toggle(ann);
+    TRY(windows->question());
+    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    TRY(windows->row(ann)->checkState(0) == Qt::Unchecked);
+    TRY(!server.isOnline(QStringLiteral("ann")));
+    QCOMPARE(windows->selector()->count(), 0);
+
+    windows->toggle(ann);
+    TRY(isConnected(ann));
+    QCOMPARE(windows->selector()->count(), 1);
+}
+
+void tst_accounts_in_windows::removedAccountLeavesNothingBehind()
+{
+    QVERIFY(addAnn());
+    TRY(isConnected(ann));
+    QImage image(32, 32, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    const QString picture = windows->profileFolder() + QStringLiteral("/../picture.png");
+    QVERIFY(image.save(picture));
+    windows->account(ann)->setAvatar(picture);
+    const QString avatar = windows->account(ann)->getCurrentAvatarPath();
+    QVERIFY(QFile::exists(avatar));
+    QVERIFY(windows->profileHolds("ann@localhost"));
+
+    windows->select(ann);
+    KirvWalk::pressKey(windows->list(), Qt::Key_Delete);
+    TRY(windows->question());
+    QVERIFY(windows->question()->text().contains(ann));
+    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    TRY(!windows->row(ann));
+    TRY(!server.isOnline(QStringLiteral("ann")));
+    QCOMPARE(windows->selector()->count(), 0);
+    QVERIFY(!windows->account(ann));
+    QVERIFY(!QFile::exists(avatar));
+
+    windows->quit();
+    QVERIFY(!windows->profileHolds("ann@localhost"));
+    QVERIFY(!windows->profileHolds(secret.toUtf8()));
+}
+
+void tst_accounts_in_windows::mainAccountIsFollowedAndRestored()
+{
+    QVERIFY(addAnn());
+    QVERIFY(windows->add(xmpp, here, bob, secret, [](QWidget *window) { remember(window); }));
+    TRY(isConnected(ann) && isConnected(bob));
+    TRY(windows->selector()->count() == 2);
+    // What is current there without the user's choice is no main account yet.
+    KirvWalk::choose(windows->selector(), ann);
+    KirvWalk::choose(windows->selector(), bob);
+    TRY_SAYS(windows->title(), "bob@localhost");
+
+    QVERIFY(windows->start());
+    TRY_SAYS(windows->title(), "bob@localhost");
+    QVERIFY(windows->account(bob)->isMainAccount());
+    TRY(windows->selector()->currentText() == bob);
+}
+
+void tst_accounts_in_windows::protocolGoesAndComesWhileConnected()
+{
+    QVERIFY(addAnn());
+    TRY(isConnected(ann));
+    windows->setLoaded(xmpp, false);
+    TRY(!server.isOnline(QStringLiteral("ann")));
+    QVERIFY(!windows->account(ann)->isLoaded());
+
+    windows->setLoaded(xmpp, true);
+    TRY(isConnected(ann));
+    windows->showPage(0);
+    QCOMPARE(windows->list()->topLevelItemCount(), 1);
+    TRY(windows->selector()->count() == 1);
+}
+
+void tst_accounts_in_windows::protocolGoesWhileAnAccountIsEdited()
+{
+    QVERIFY(addAnn());
+    TRY(isConnected(ann));
+    QVERIFY(windows->edit(ann));
+    QVERIFY(windows->client->plugins().unload(windows->pluginFile(xmpp)));
+    TRY(!KirvWalk::window(QStringLiteral("EditAccount")));
+    windows->setLoaded(xmpp, true);
+    TRY(isConnected(ann));
+    QVERIFY(windows->edit(ann));
+}
+
+void tst_accounts_in_windows::protocolGoesWhileAQuestionIsOpen()
+{
+    QVERIFY(addAnn());
+    TRY(isConnected(ann));
+    windows->toggle(ann);
+    TRY(windows->question());
+    QVERIFY(windows->client->plugins().unload(windows->pluginFile(xmpp)));
+    QVERIFY(windows->client->plugins().load(windows->pluginFile(xmpp)));
+    TRY(windows->question());
+    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    TRY(!windows->account(ann)->isEnabled());
+    TRY(!server.isOnline(QStringLiteral("ann")));
+}
+
+QTEST_MAIN(tst_accounts_in_windows)
+#include "tst_accounts_in_windows.moc"
