@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_catalog.h"
+#include "host/kirv_avatar_quick_set_widget.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_ui_loader.h"
 
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void insertingIntoNothingDoesNothing();
     void insertingTwiceKeepsBothWidgets();
     void insertedControlsStandInTheTabOrderWhereTheyAreSeen();
+    void insertedAvatarPickerStandsInTheTabOrderWhereItIsSeen();
     void overrideIsUsed();
     void overrideMayLackWhatIsOptional_data();
     void overrideMayLackWhatIsOptional();
@@ -299,6 +301,17 @@ void tst_Layouts::insertedControlsStandInTheTabOrderWhereTheyAreSeen()
 
     widget->fillWithFields(fields);
     QCOMPARE(tabOrder(combo).mid(0, 5), expected);
+}
+
+void tst_Layouts::insertedAvatarPickerStandsInTheTabOrderWhereItIsSeen()
+{
+    const std::unique_ptr<QWidget> window = load("EditAccount");
+    auto *picker = new KirvAvatarQuickSetWidget(window.get());
+    KirvUILoader::insertWidget(window->findChild<QWidget *>("EditAccount_AvatarPlacement"), picker);
+    window->show();
+    const QStringList order = tabOrder(window->findChild<QWidget *>("KirvAvatar_Button"));
+    QCOMPARE(order.value(1), QStringLiteral("EditAccount_Alias"));
+    QCOMPARE(order.last(), QStringLiteral("EditAccount_FrameButtons_Cancel"));
 }
 
 void tst_Layouts::overrideIsUsed()
