@@ -36,10 +36,6 @@ enum Column {
     ColumnCount
 };
 
-/// The selector's entries carry the account as a void pointer in Qt::UserRole, and its key here, so that the
-/// entry of an account can be found when the pointer must not be followed any more.
-const int accountKeyRole = Qt::UserRole + 1;
-
 QString aliasOf(const QTreeWidgetItem *row)
 {
     return row->data(AliasColumn, Qt::DisplayRole).toString();
@@ -53,11 +49,6 @@ QString protocolNameOf(const QTreeWidgetItem *row)
 QString accountIdOf(const QTreeWidgetItem *row)
 {
     return row->data(IdColumn, Qt::DisplayRole).toString();
-}
-
-QStringList accountKeyOf(const QString &accountId, const QString &protocolName)
-{
-    return QStringList() << accountId << protocolName;
 }
 
 QTreeWidgetItem *createRow(const QString &alias, const QString &protocolName, const QString &accountId,
@@ -101,6 +92,7 @@ KirvAccountsTab::KirvAccountsTab(QWidget *parent, Qt::WindowFlags f)
     , pendingItem(nullptr)
     , accEdit(nullptr)
     , refreshCount(0)
+    , rowAskedAbout(nullptr)
 {
     setupGui();
 }
@@ -232,6 +224,7 @@ void KirvAccountsTab::updateAccounts()
     if (mainAccountBox) {
         watchSelector(false);
         mainAccountBox->clear();
+        offeredAccounts.clear();
     }
 
     QHash<QString, QIcon> icons;
@@ -245,7 +238,7 @@ void KirvAccountsTab::updateAccounts()
             continue;
 
         KirvAccountConnection *account = manager->getAccount(accountIdOf(row), protocolNameOf(row));
-        if (account && mainAccountBox)
+        if (account && mainAccountBox && refresh == refreshCount)
             offerAsMainAccount(row, account, icons);
     }
 
@@ -254,19 +247,23 @@ void KirvAccountsTab::updateAccounts()
         watchSelector(true);
 }
 
-/// Each icon is made once per refresh and shared by its entries, so that its file is read once.
+/// Each icon is made once per refresh and shared by its entries, so that its file is read once. The host may
+/// refresh while it is asked; the entry is the other refresh's affair then.
 void KirvAccountsTab::offerAsMainAccount(const QTreeWidgetItem *row, KirvAccountConnection *account,
                                          QHash<QString, QIcon> &icons)
 {
+    const int refresh = refreshCount;
     const QString iconPath = account->getProtocol()->getIconPath(0);
+    if (refresh != refreshCount)
+        return;
     QHash<QString, QIcon>::iterator icon = icons.find(iconPath);
     if (icon == icons.end())
         icon = icons.insert(iconPath, QIcon(iconPath));
 
     const int index = mainAccountBox->count();
     mainAccountBox->insertItem(index, *icon, aliasOf(row), QVariant::fromValue(static_cast<void *>(account)));
-    mainAccountBox->setItemData(index, accountKeyOf(accountIdOf(row), protocolNameOf(row)), accountKeyRole);
-    if (account == KirvAccountManager::getInstance()->getMainAccount())
+    offeredAccounts << AccountKey(accountIdOf(row), protocolNameOf(row));
+    if (account == KirvAccountManager::getInstance()->getMainAccount() && refresh == refreshCount)
         mainAccountBox->setCurrentIndex(index);
 }
 
@@ -274,12 +271,12 @@ void KirvAccountsTab::withdrawFromSelector(const QString &accountId, const QStri
 {
     if (!mainAccountBox)
         return;
-    const QStringList key = accountKeyOf(accountId, protocolName);
+    const AccountKey key(accountId, protocolName);
     // The entry that becomes current in place of a withdrawn one is no choice of the user's.
     watchSelector(false);
-    for (int i = mainAccountBox->count() - 1; i >= 0; --i) {
-        if (mainAccountBox->itemData(i, accountKeyRole).toStringList() == key)
-            mainAccountBox->removeItem(i);
+    for (int i = offeredAccounts.indexOf(key); i != -1; i = offeredAccounts.indexOf(key)) {
+        offeredAccounts.removeAt(i);
+        mainAccountBox->removeItem(i);
     }
     watchSelector(true);
 }
@@ -384,32 +381,44 @@ void KirvAccountsTab::removeAccountAccepted(int result)
 void KirvAccountsTab::setAccountEnabled(QTreeWidgetItem *item, int column)
 {
     Q_UNUSED(column); // intended: a change in any column is handled through the check box
-    pendingProtocol = protocolNameOf(item);
-    pendingAccountId = accountIdOf(item);
+    // The host may change other rows while it is asked, and with them what is pending: it is given copies.
+    const QString protocolName = protocolNameOf(item);
+    const QString accountId = accountIdOf(item);
+    pendingProtocol = protocolName;
+    pendingAccountId = accountId;
     pendingItem = item;
     accountList->setEnabled(false);
 
+    QTreeWidgetItem *const askedAboutBefore = rowAskedAbout;
     KirvAccountManager *manager = KirvAccountManager::getInstance();
     if (item->data(AliasColumn, Qt::CheckStateRole).toInt() == Qt::Checked) {
-        manager->enableAccount(pendingAccountId, pendingProtocol);
+        manager->enableAccount(accountId, protocolName);
     } else {
-        KirvAccountConnection *account = manager->getAccount(pendingAccountId, pendingProtocol);
-        if (account && account->isLoggedIn()) {
+        KirvAccountConnection *account = manager->getAccount(accountId, protocolName);
+        // An account that is disabled and yet logged in is unticked again by the refresh below: one question will do.
+        if (account && account->isLoggedIn() && item != rowAskedAbout) {
+            rowAskedAbout = item;
             setCheckedUnwatched(item, Qt::Checked); // still enabled while the question is open
-            const QString title = QCoreApplication::translate("translation", "Disabling account", "message box title");
-            // Intended: no question mark, the translations are keyed on this text.
-            const QString question = QCoreApplication::translate(
-                "translation", "Do you want to disable account '%1' (%2) in which you are currently logged in.",
-                "%1 = account id, %2 = account protocol. Confirmation of disabling account");
-            ask(title, question.arg(pendingAccountId).arg(pendingProtocol), SLOT(disableAccountAccepted(int)));
+            askToDisable(accountId, protocolName);
         } else {
             disableAccount();
         }
     }
 
     updateAccounts();
+    rowAskedAbout = askedAboutBefore;
     accountList->setEnabled(true);
     accountList->setFocus(Qt::OtherFocusReason);
+}
+
+void KirvAccountsTab::askToDisable(const QString &accountId, const QString &protocolName)
+{
+    const QString title = QCoreApplication::translate("translation", "Disabling account", "message box title");
+    // Intended: no question mark, the translations are keyed on this text.
+    const QString question = QCoreApplication::translate(
+        "translation", "Do you want to disable account '%1' (%2) in which you are currently logged in.",
+        "%1 = account id, %2 = account protocol. Confirmation of disabling account");
+    ask(title, question.arg(accountId).arg(protocolName), SLOT(disableAccountAccepted(int)));
 }
 
 void KirvAccountsTab::disableAccountAccepted(int result)
@@ -427,7 +436,9 @@ void KirvAccountsTab::disableAccountAccepted(int result)
 
 void KirvAccountsTab::disableAccount()
 {
-    KirvAccountManager::getInstance()->disableAccount(pendingAccountId, pendingProtocol);
+    const QString accountId = pendingAccountId; // copies, as above
+    const QString protocolName = pendingProtocol;
+    KirvAccountManager::getInstance()->disableAccount(accountId, protocolName);
 }
 
 /// The pointer alone does not tell: the row may be gone, and another one may stand at its address.

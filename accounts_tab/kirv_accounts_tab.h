@@ -5,6 +5,8 @@
 #include "accounts_tab/kirv_gui_accounts_tab_export.h"
 
 #include <QHash>
+#include <QList>
+#include <QPair>
 #include <QString>
 #include <QWidget>
 
@@ -41,8 +43,7 @@ public:
     /// Appends a row for \a account, which was just created: it is listed as enabled. \a account must not be
     /// null and is not kept.
     void addAccountEntry(KirvAccountConnection *account);
-    /// Rewrites the alias in the row of \a account; without such a row nothing happens. The selector follows
-    /// with the next refresh.
+    /// Rewrites the alias in the row of \a account; without such a row nothing happens.
     void updateAccount(KirvAccountConnection *account);
     /// The refresh: brings the check boxes up to date with the account manager and refills the selector.
     /// May be entered again from inside itself.
@@ -83,11 +84,14 @@ protected:
 private:
     Q_DISABLE_COPY(KirvAccountsTab)
     friend class KirvEditAccountDialog;
+    /// Account id and protocol name.
+    typedef QPair<QString, QString> AccountKey;
 
     void setupGui();
     void setupList();
     void disableAccount();
     void openEditDialog(const QString &accountId, const QString &protocolName);
+    void askToDisable(const QString &accountId, const QString &protocolName);
     void ask(const QString &title, const QString &question, const char *answerSlot);
     void offerAsMainAccount(const QTreeWidgetItem *row, KirvAccountConnection *account, QHash<QString, QIcon> &icons);
     void withdrawFromSelector(const QString &accountId, const QString &protocolName);
@@ -111,6 +115,11 @@ private:
     KirvEditAccountDialog *accEdit;
     /// How many refreshes have begun: a refresh finds by it that another one ran inside it.
     int refreshCount;
+    /// The row whose disable question is just being asked, until the refresh that follows is over. Only compared.
+    QTreeWidgetItem *rowAskedAbout;
+    /// The account of each entry of the selector, in its order: it tells the entry of an account when the
+    /// pointer in it must not be followed any more.
+    QList<AccountKey> offeredAccounts;
 };
 
 #endif
