@@ -6,6 +6,9 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace {
 /// The plug-ins beside the program come first, so that a build that is not installed uses its own.
 QString ownPluginFolder()
@@ -18,6 +21,19 @@ QString ownPluginFolder()
             return QDir::cleanPath(candidate);
     }
     return QDir::cleanPath(candidates.last());
+}
+
+/// Ends the program when the option names no folder: the present one would be a surprise.
+QString folderOf(const QCommandLineParser &parser, const QCommandLineOption &option)
+{
+    const QString folder = parser.value(option);
+    if (folder.isEmpty()) {
+        //: %1 = name of an option
+        std::fprintf(stderr, "kirv: %s\n",
+                     qPrintable(KirvClientOptions::tr("The option --%1 needs a folder.").arg(option.names().first())));
+        std::exit(1);
+    }
+    return QDir::current().absoluteFilePath(folder);
 }
 } // namespace
 
@@ -50,8 +66,8 @@ KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &argument
     KirvClientOptions options = defaults();
     options.demo = parser.isSet(demo);
     if (parser.isSet(profile))
-        options.profileFolder = QDir::current().absoluteFilePath(parser.value(profile));
+        options.profileFolder = folderOf(parser, profile);
     if (parser.isSet(plugins))
-        options.pluginFolder = QDir::current().absoluteFilePath(parser.value(plugins));
+        options.pluginFolder = folderOf(parser, plugins);
     return options;
 }

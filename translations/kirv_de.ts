@@ -473,6 +473,11 @@
         <source>Accounts of several instant-messaging protocols in one place.</source>
         <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
     </message>
+    <message>
+        <source>The option --%1 needs a folder.</source>
+        <extracomment>%1 = name of an option</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>KirvConnection</name>
