@@ -311,7 +311,10 @@ void tst_Layouts::insertedAvatarPickerStandsInTheTabOrderWhereItIsSeen()
     window->show();
     const QStringList order = tabOrder(window->findChild<QWidget *>("KirvAvatar_Button"));
     QCOMPARE(order.value(1), QStringLiteral("EditAccount_Alias"));
-    QCOMPARE(order.last(), QStringLiteral("EditAccount_FrameButtons_Cancel"));
+    QWidget *before = window->findChild<QWidget *>("KirvAvatar_Button")->previousInFocusChain();
+    while (!takesTab(before))
+        before = before->previousInFocusChain();
+    QVERIFY2(qobject_cast<QTabBar *>(before), qPrintable(before->objectName()));
 }
 
 void tst_Layouts::overrideIsUsed()
