@@ -11,6 +11,7 @@ class KirvNgircdServer : public KirvLocalServer {
 public:
     /// Clients are spoken to with TLS only, and with a self-signed certificate for "localhost" and 127.0.0.1.
     void setEncrypted(bool encrypted) { this->encrypted = encrypted; }
+    bool isEncrypted() const { return encrypted; }
     /// Clients must send this password; empty: none.
     void setPassword(const QString &password) { this->password = password; }
     /// Longer nicks are refused.

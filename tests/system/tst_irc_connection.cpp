@@ -6,6 +6,8 @@
 #include "core/connection/kirv_protocol_base.h"
 #include "core/plugins/kirv_plugin_registry.h"
 #include "core/settings/kirv_store.h"
+#include "tests/support/irc/irc_observer.h"
+#include "tests/support/irc/scripted_irc_server.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,11 +15,8 @@
 #include <QSignalSpy>
 #include <QSslSocket>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
 #include <algorithm>
-#include <functional>
-#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -29,90 +28,6 @@ using Values = QMap<QString, QString>;
 
 /// Generous, for a busy machine; a test that works needs a fraction of it.
 const int patience = 15000;
-
-/// Another person on the same server, who speaks the protocol by hand.
-class Somebody {
-public:
-    bool logIn(const KirvLocalServer &server, const QString &nick)
-    {
-        socket.connectToHost(server.host(), server.port());
-        return !ask(QStringLiteral("NICK %1\r\nUSER %1 0 * :%1").arg(nick), QStringLiteral(" 251 ")).isEmpty();
-    }
-
-    /// Whether \a nick is on the server.
-    bool sees(const QString &nick)
-    {
-        return ask(QStringLiteral("ISON ") + nick, QStringLiteral(" 303 ")).endsWith(QLatin1Char(':') + nick);
-    }
-
-    /// Why \a nick is away; null when it is not.
-    QString awayTextOf(const QString &nick)
-    {
-        const QString answer = ask(QStringLiteral("WHOIS ") + nick, QStringLiteral(" 318 "));
-        const QRegularExpression away(QStringLiteral(" 301 \\S+ %1 :(.*)\r\n").arg(nick));
-        return away.match(answer).captured(1);
-    }
-
-private:
-    /// Sends \a line and gives what the server says up to the line with \a end; empty when that never comes.
-    QString ask(const QString &line, const QString &end)
-    {
-        QString answer;
-        socket.write(line.toUtf8() + "\r\n");
-        const bool complete = QTest::qWaitFor(
-            [&] {
-                while (!answer.contains(end) && socket.canReadLine())
-                    answer += QString::fromUtf8(socket.readLine());
-                return answer.contains(end);
-            },
-            patience);
-        if (!complete)
-            qWarning().noquote() << "Asked" << line << "the server said:" << answer;
-        return complete ? answer.trimmed() : QString();
-    }
-
-    QTcpSocket socket;
-};
-
-/// A server that does what a test tells it: answers lines with lines.
-class ScriptedServer : public QTcpServer {
-public:
-    /// Gives the lines that answer \a line, each with its line feed; nothing for no answer.
-    using Script = std::function<QByteArray(const QByteArray &line)>;
-
-    explicit ScriptedServer(Script script, const QByteArray &greeting = QByteArray())
-        : script(std::move(script))
-    {
-        listen(QHostAddress::LocalHost);
-        connect(this, &QTcpServer::newConnection, this, [this, greeting] {
-            QTcpSocket *socket = nextPendingConnection();
-            socket->write(greeting);
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { answer(socket); });
-        });
-    }
-
-    bool hasReceived(const QByteArray &part) const { return !linesWith(part).isEmpty(); }
-    QByteArrayList linesWith(const QByteArray &part) const
-    {
-        QByteArrayList lines;
-        std::copy_if(received.begin(), received.end(), std::back_inserter(lines),
-                     [&part](const QByteArray &line) { return line.contains(part); });
-        return lines;
-    }
-
-private:
-    void answer(QTcpSocket *socket)
-    {
-        while (socket->canReadLine()) {
-            received += socket->readLine().trimmed();
-            if (script)
-                socket->write(script(received.last()));
-        }
-    }
-
-    Script script;
-    QByteArrayList received;
-};
 
 /// A server that can do nothing but prove who it is.
 class TlsServer : public QTcpServer {
@@ -150,7 +65,7 @@ QByteArray welcomeAndPong(const QByteArray &line)
 }
 
 /// The answers of a server that has SASL; \a judgement is the numeric that follows the credentials.
-ScriptedServer::Script saslServer(const QByteArray &judgement, const QByteArray &capabilities = "multi-prefix sasl")
+ScriptedIrcServer::Script saslServer(const QByteArray &judgement, const QByteArray &capabilities = "multi-prefix sasl")
 {
     return [judgement, capabilities](const QByteArray &line) -> QByteArray {
         if (line.startsWith("CAP LS"))
@@ -443,7 +358,7 @@ void TestIrcConnection::loginNamesTheServerWhenNoSettingDoes()
         createAccount("alice@127.0.0.1", { { "port", QString::number(server.port()) }, { "encryption", "none" } });
     goTo(account, "available");
     TRY_STATE(account, Online);
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     QVERIFY(bob.sees("alice"));
 }
@@ -476,7 +391,7 @@ void TestIrcConnection::certificateForAnotherNameIsRefused()
 
 void TestIrcConnection::serverWithoutEncryptionIsRefused()
 {
-    ScriptedServer server(nullptr, ":server NOTICE * :*** Looking up your name\r\n");
+    ScriptedIrcServer server(nullptr, ":server NOTICE * :*** Looking up your name\r\n");
     KirvAccount *account = createAccount(server);
     goTo(account, "available");
     TRY_FAILURE(account, EncryptionNotOffered);
@@ -504,7 +419,7 @@ void TestIrcConnection::takenNickIsReplaced()
     QFETCH(QString, expected);
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    std::vector<Somebody> others(taken.size());
+    std::vector<IrcObserver> others(taken.size());
     for (int i = 0; i < taken.size(); ++i)
         QVERIFY(others[i].logIn(server, taken[i]));
 
@@ -522,7 +437,7 @@ void TestIrcConnection::allNicksTaken()
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     const QStringList taken { "alice", "alice2", "alice_", "alice__", "alice___" };
-    std::vector<Somebody> others(taken.size());
+    std::vector<IrcObserver> others(taken.size());
     for (int i = 0; i < taken.size(); ++i)
         QVERIFY(others[i].logIn(server, taken[i]));
 
@@ -578,7 +493,7 @@ void TestIrcConnection::serverPassword()
 
 void TestIrcConnection::passwordIsKeptWhenItIsNotUsed()
 {
-    ScriptedServer server(welcome);
+    ScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, plain(), "topsecret");
     goTo(account, "available");
     TRY_STATE(account, Online);
@@ -599,7 +514,7 @@ void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
 {
     QFETCH(QString, use);
     QFETCH(bool, isAskedFor);
-    ScriptedServer server(welcome);
+    ScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, QString());
     qRegisterMetaType<KirvAccount *>();
     QSignalSpy questions(accounts.get(), &KirvAccountRegistry::passwordNeeded);
@@ -631,7 +546,7 @@ void TestIrcConnection::awayIsSeenByOthers()
     QFETCH(QString, seen);
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     KirvAccount *account = createAccount(server, plain());
     goTo(account, "available");
@@ -647,7 +562,7 @@ void TestIrcConnection::backIsSeenByOthers()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     KirvAccount *account = createAccount(server, plain());
     goTo(account, "available");
@@ -663,7 +578,7 @@ void TestIrcConnection::arrivesAway()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     KirvAccount *account = createAccount(server, plain());
     goTo(account, "away", "Still asleep");
@@ -675,7 +590,7 @@ void TestIrcConnection::longAwayTextKeepsTheConnection()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     KirvAccount *account = createAccount(server, plain());
     goTo(account, "available");
@@ -701,7 +616,7 @@ void TestIrcConnection::killedServerIsReachedAgain()
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     TRY_STATE(account, Online);
     QCOMPARE(failure(account), KirvFailure::None);
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Out"), patience);
 }
@@ -724,7 +639,7 @@ void TestIrcConnection::stoppedServerSaysGoodbye()
 
 void TestIrcConnection::hungServerTimesOut()
 {
-    ScriptedServer server(nullptr);
+    ScriptedIrcServer server(nullptr);
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.loginTimeout = 100;
@@ -738,7 +653,7 @@ void TestIrcConnection::hungServerTimesOut()
 
 void TestIrcConnection::serverThatFallsSilentIsLost()
 {
-    ScriptedServer server(welcome);
+    ScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.requestTimeout = 50;
@@ -753,7 +668,7 @@ void TestIrcConnection::serverThatFallsSilentIsLost()
 
 void TestIrcConnection::quietServerIsKept()
 {
-    ScriptedServer server(welcomeAndPong);
+    ScriptedIrcServer server(welcomeAndPong);
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.requestTimeout = 200;
@@ -798,7 +713,7 @@ void TestIrcConnection::bannedUserStaysOut_data()
 void TestIrcConnection::bannedUserStaysOut()
 {
     QFETCH(QByteArray, answer);
-    ScriptedServer server([answer](const QByteArray &line) { return line.startsWith("USER ") ? answer : ""; });
+    ScriptedIrcServer server([answer](const QByteArray &line) { return line.startsWith("USER ") ? answer : ""; });
     KirvAccount *account = createAccount(server, plain());
     goTo(account, "available");
     TRY_FAILURE(account, AccessDenied);
@@ -808,7 +723,7 @@ void TestIrcConnection::bannedUserStaysOut()
 void TestIrcConnection::serverThatIsBusyIsTriedAgain()
 {
     bool busy = true;
-    ScriptedServer server([&busy](const QByteArray &line) {
+    ScriptedIrcServer server([&busy](const QByteArray &line) {
         return busy && line.startsWith("USER ") ? "ERROR :Closing Link: Reconnecting too fast\r\n" : welcome(line);
     });
     KirvAccount *account = createAccount(server, plain());
@@ -822,7 +737,7 @@ void TestIrcConnection::removedAccountLeavesTheServer()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    Somebody bob;
+    IrcObserver bob;
     QVERIFY(bob.logIn(server, "bob"));
     KirvAccount *account = createAccount(server, plain());
     goTo(account, "available");
@@ -834,7 +749,7 @@ void TestIrcConnection::removedAccountLeavesTheServer()
 
 void TestIrcConnection::othersLearnTheNameOfTheProgram()
 {
-    ScriptedServer server([](const QByteArray &line) {
+    ScriptedIrcServer server([](const QByteArray &line) {
         return line.startsWith("AWAY") ? ":bob!b@host PRIVMSG alice :\1VERSION\1\r\n" : welcome(line);
     });
     KirvAccount *account = createAccount(server, plain());
@@ -862,7 +777,7 @@ void TestIrcConnection::saslLogsIn()
     QFETCH(QString, user);
     QFETCH(QString, password);
     QFETCH(QByteArray, capabilities);
-    ScriptedServer server(saslServer("903", capabilities));
+    ScriptedIrcServer server(saslServer("903", capabilities));
     const Values values { { "encryption", "none" }, { "password_use", "sasl" }, { "sasl_user", user } };
     KirvAccount *account = createAccount(server, values, password);
     goTo(account, "available");
@@ -882,7 +797,7 @@ void TestIrcConnection::saslLogsIn()
 
 void TestIrcConnection::saslPasswordIsRefused()
 {
-    ScriptedServer server(saslServer("904"));
+    ScriptedIrcServer server(saslServer("904"));
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", "sasl" } });
     goTo(account, "available");
     TRY_FAILURE(account, WrongPassword);
@@ -906,7 +821,7 @@ void TestIrcConnection::saslIsNotOffered()
 {
     QFETCH(QByteArray, answerToList);
     QFETCH(QByteArray, answerToRequest);
-    ScriptedServer server([=](const QByteArray &line) {
+    ScriptedIrcServer server([=](const QByteArray &line) {
         if (line.startsWith("CAP LS"))
             return answerToList;
         return line.startsWith("CAP REQ")  ? answerToRequest
