@@ -230,16 +230,17 @@ void KirvAccountsTab::updateAccounts()
     QHash<QString, QIcon> icons;
     for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
         QTreeWidgetItem *row = accountList->topLevelItem(i);
-        const bool enabled = manager->accountEnabled(accountIdOf(row), protocolNameOf(row));
+        const AccountKey key(accountIdOf(row), protocolNameOf(row));
+        const bool enabled = manager->accountEnabled(key.first, key.second);
         // Intended: a check box that really changes reaches setAccountEnabled(), which refreshes again. The
         // refresh begun last fills the selector and watches it; those around it only go on with the boxes.
         row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
         if (!enabled || refresh != refreshCount)
             continue;
 
-        KirvAccountConnection *account = manager->getAccount(accountIdOf(row), protocolNameOf(row));
+        KirvAccountConnection *account = manager->getAccount(key.first, key.second);
         if (account && mainAccountBox && refresh == refreshCount)
-            offerAsMainAccount(row, account, icons);
+            offerAsMainAccount(account, key, aliasOf(row), icons);
     }
 
     // Made without a selector too; Qt then warns.
@@ -249,7 +250,7 @@ void KirvAccountsTab::updateAccounts()
 
 /// Each icon is made once per refresh and shared by its entries, so that its file is read once. The host may
 /// refresh while it is asked; the entry is the other refresh's affair then.
-void KirvAccountsTab::offerAsMainAccount(const QTreeWidgetItem *row, KirvAccountConnection *account,
+void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
                                          QHash<QString, QIcon> &icons)
 {
     const int refresh = refreshCount;
@@ -261,8 +262,8 @@ void KirvAccountsTab::offerAsMainAccount(const QTreeWidgetItem *row, KirvAccount
         icon = icons.insert(iconPath, QIcon(iconPath));
 
     const int index = mainAccountBox->count();
-    mainAccountBox->insertItem(index, *icon, aliasOf(row), QVariant::fromValue(static_cast<void *>(account)));
-    offeredAccounts << AccountKey(accountIdOf(row), protocolNameOf(row));
+    mainAccountBox->insertItem(index, *icon, alias, QVariant::fromValue(static_cast<void *>(account)));
+    offeredAccounts << key;
     if (account == KirvAccountManager::getInstance()->getMainAccount() && refresh == refreshCount)
         mainAccountBox->setCurrentIndex(index);
 }

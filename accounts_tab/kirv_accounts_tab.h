@@ -93,7 +93,8 @@ private:
     void openEditDialog(const QString &accountId, const QString &protocolName);
     void askToDisable(const QString &accountId, const QString &protocolName);
     void ask(const QString &title, const QString &question, const char *answerSlot);
-    void offerAsMainAccount(const QTreeWidgetItem *row, KirvAccountConnection *account, QHash<QString, QIcon> &icons);
+    void offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
+                            QHash<QString, QIcon> &icons);
     void withdrawFromSelector(const QString &accountId, const QString &protocolName);
     void watchSelector(bool watch);
     void watchCheckBoxes(bool watch);
