@@ -19,7 +19,7 @@ public:
     void setImage(const QString &path);
 
 Q_SIGNALS:
-    /// The user picked the image at \a path, which is readable now.
+    /// The user picked the image at \a path, which is readable now; an empty path takes the picture away.
     void imageSelected(const QString &path);
 
 private:
