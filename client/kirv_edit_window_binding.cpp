@@ -6,8 +6,11 @@
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_registry.h"
 #include "core/connection/kirv_failure.h"
+#include "edit_account/kirv_pubdir_account_received_event.h"
 #include "host/kirv_field_widget.h"
+#include "host/kirv_protocol.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QEvent>
@@ -103,7 +106,19 @@ void KirvEditWindowBinding::bindDirectory()
     directoryFields->installEventFilter(this);
     if (directoryLabel)
         directoryLabel->setTextFormat(Qt::PlainText);
+    startWithBlankEntry();
     updateDirectoryStatus();
+}
+
+/// What is not known yet counts as blank and unchanged, or Save would publish the blank fields in place of the
+/// entry that the server has.
+void KirvEditWindowBinding::startWithBlankEntry()
+{
+    KirvAccount *account = accounts.find(accountKey);
+    if (!account || !account->isLoaded())
+        return;
+    KirvPubdirAccountReceivedEvent blank(account, account->getProtocol()->getPubdirAccountFields());
+    QCoreApplication::sendEvent(controller, &blank);
 }
 
 void KirvEditWindowBinding::save()

@@ -36,6 +36,7 @@ public:
 private:
     void bindButtons();
     void bindDirectory();
+    void startWithBlankEntry();
     void save();
     void tellSaveFailed();
     void accountChanged(KirvAccount *account);
