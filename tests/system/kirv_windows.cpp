@@ -102,6 +102,11 @@ QDialog *KirvWindows::edit(const QString &login)
         return nullptr;
     list()->scrollToItem(row(login));
     KirvWalk::doubleClick(list()->viewport(), list()->visualItemRect(row(login)).center());
+    return openEditWindow();
+}
+
+QDialog *KirvWindows::openEditWindow() const
+{
     QWidget *window = nullptr;
     const bool isOpen = QTest::qWaitFor(
         [&window] {

@@ -43,6 +43,8 @@ public:
              const std::function<void(QWidget *window)> &fillIn = {}, bool isAccepted = true);
     /// Double-clicks the row and returns the window; null when none opened.
     QDialog *edit(const QString &login);
+    /// Waits for the edit window and returns it; null when none opens.
+    QDialog *openEditWindow() const;
     bool save(QDialog *editWindow);
 
     QTreeWidget *list() const;
