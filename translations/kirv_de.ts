@@ -3,85 +3,6 @@
 <!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
 <TS version="2.1" language="de_DE">
 <context>
-    <name></name>
-    <message>
-        <source>User name</source>
-        <translation>Benutzername</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-    <message>
-        <source>Nickname</source>
-        <translation>Spitzname</translation>
-    </message>
-    <message>
-        <source>Full name</source>
-        <translation>Voller Name</translation>
-    </message>
-    <message>
-        <source>First name</source>
-        <translation>Vorname</translation>
-    </message>
-    <message>
-        <source>Last name</source>
-        <translation>Nachname</translation>
-    </message>
-    <message>
-        <source>E-mail</source>
-        <translation>E-Mail</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Anschrift</translation>
-    </message>
-    <message>
-        <source>Town</source>
-        <translation>Ort</translation>
-    </message>
-    <message>
-        <source>State or region</source>
-        <translation>Bundesland oder Region</translation>
-    </message>
-    <message>
-        <source>Postal code</source>
-        <translation>Postleitzahl</translation>
-    </message>
-    <message>
-        <source>Telephone</source>
-        <translation>Telefon</translation>
-    </message>
-    <message>
-        <source>Web page</source>
-        <translation>Webseite</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>Birthday</source>
-        <translation>Geburtstag</translation>
-    </message>
-    <message>
-        <source>Year, month and day, such as 1999-12-31.</source>
-        <translation>Jahr, Monat und Tag, etwa 1999-12-31.</translation>
-    </message>
-    <message>
-        <source>Country</source>
-        <translation>Land</translation>
-    </message>
-    <message>
-        <source>Organisation</source>
-        <translation>Organisation</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Über mich</translation>
-    </message>
-</context>
-<context>
     <name>Accounts</name>
     <message>
         <source>Accounts</source>
@@ -450,9 +371,19 @@
         <extracomment>%1 = path of a folder</extracomment>
         <translation>Den Ordner %1 gibt es nicht, daher ist kein Protokoll verfügbar.</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = name of an account, %2 = one or more sentences about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
+    <message>
+        <source>The option --%1 needs a folder.</source>
+        <extracomment>%1 = name of an option</extracomment>
+        <translation>Die Option --%1 braucht einen Ordner.</translation>
+    </message>
     <message>
         <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
         <translation>Konten und Einstellungen in &lt;Ordner&gt; statt im eigenen Profil ablegen.</translation>
@@ -472,11 +403,6 @@
     <message>
         <source>Accounts of several instant-messaging protocols in one place.</source>
         <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
-    </message>
-    <message>
-        <source>The option --%1 needs a folder.</source>
-        <extracomment>%1 = name of an option</extracomment>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -658,56 +584,6 @@
     <message>
         <source>Asking the server…</source>
         <translation>Der Server wird gefragt …</translation>
-    </message>
-</context>
-<context>
-    <name>KirvExampleConnection</name>
-    <message>
-        <source>The server echoes: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>KirvExampleProtocol</name>
-    <message>
-        <source>Answers after</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>How long the server takes to answer, in milliseconds.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A protocol to learn from: its server lives inside the program.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fast Server</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Slow Server</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Available</source>
-        <translation>Verfügbar</translation>
-    </message>
-    <message>
-        <source>Away</source>
-        <translation>Abwesend</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>Abgemeldet</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Town</source>
-        <translation>Ort</translation>
     </message>
 </context>
 <context>
@@ -893,11 +769,11 @@
     <name>KirvIrcConnection</name>
     <message>
         <source>There is no certificate in the file “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei „%1“ ist kein Zertifikat.</translation>
     </message>
     <message>
         <source>The nick “%1” could not be had; you are “%2” on this server now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Spitzname „%1“ war nicht zu bekommen; Sie heißen auf diesem Server jetzt „%2“.</translation>
     </message>
     <message>
         <source>Away</source>
@@ -905,14 +781,14 @@
     </message>
     <message>
         <source>The server does not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server antwortet nicht mehr.</translation>
     </message>
 </context>
 <context>
     <name>KirvIrcProtocol</name>
     <message>
         <source>Internet Relay Chat: conversations in channels of a network of servers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Internet Relay Chat: Gespräche in Kanälen eines Netzes von Servern.</translation>
     </message>
     <message>
         <source>Available</source>
@@ -931,23 +807,23 @@
     <name>KirvIrcSettings</name>
     <message>
         <source>“%1” cannot be a nick.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann kein Spitzname sein.</translation>
     </message>
     <message>
         <source>No server is given.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Server angegeben.</translation>
     </message>
     <message>
         <source>“%1” is not the name of a server.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht der Name eines Servers.</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein.</translation>
     </message>
     <message>
         <source>The password cannot be sent: it is too long or has characters that do not belong to a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort kann nicht gesendet werden: Es ist zu lang oder hat Zeichen, die nicht in eine Zeile gehören.</translation>
     </message>
     <message>
         <source>Server</source>
@@ -955,7 +831,7 @@
     </message>
     <message>
         <source>The name or address of the server. When it is empty, the part of the login after the @ is the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Name oder Adresse des Servers. Ist es leer, so gilt der Teil des Anmeldenamens nach dem @.</translation>
     </message>
     <message>
         <source>Port</source>
@@ -963,7 +839,7 @@
     </message>
     <message>
         <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewöhnlich 6697 mit Verschlüsselung und 6667 ohne.</translation>
     </message>
     <message>
         <source>Encryption</source>
@@ -971,15 +847,15 @@
     </message>
     <message>
         <source>Required (TLS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Erforderlich (TLS)</translation>
     </message>
     <message>
         <source>None: everybody on the way can read along</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine: Jeder auf dem Weg kann mitlesen</translation>
     </message>
     <message>
         <source>With encryption the server must also prove who it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Verschlüsselung muss der Server auch beweisen, wer er ist.</translation>
     </message>
     <message>
         <source>Trusted certificate</source>
@@ -987,51 +863,51 @@
     </message>
     <message>
         <source>The path of a file with a certificate (PEM) to trust besides those that this computer trusts already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Pfad einer Datei mit einem Zertifikat (PEM), dem neben denen vertraut wird, denen dieser Rechner schon vertraut.</translation>
     </message>
     <message>
         <source>Use of the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwendung des Passworts</translation>
     </message>
     <message>
         <source>Not used</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verwendet</translation>
     </message>
     <message>
         <source>Password of the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort des Servers</translation>
     </message>
     <message>
         <source>Password of a registered nick (SASL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort eines registrierten Spitznamens (SASL)</translation>
     </message>
     <message>
         <source>What the account&apos;s password is for. Most networks need none, unless you have registered your nick there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wofür das Passwort des Kontos ist. Die meisten Netze brauchen keines, außer wenn Sie Ihren Spitznamen dort registriert haben.</translation>
     </message>
     <message>
         <source>SASL user</source>
-        <translation type="unfinished"></translation>
+        <translation>SASL-Benutzer</translation>
     </message>
     <message>
         <source>The name under which the nick is registered. Empty: the nick itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, unter dem der Spitzname registriert ist. Leer: der Spitzname selbst.</translation>
     </message>
     <message>
         <source>Real name</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirklicher Name</translation>
     </message>
     <message>
         <source>What others see as your name when they ask for it. Empty: the nick.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was andere als Ihren Namen sehen, wenn sie danach fragen. Leer: der Spitzname.</translation>
     </message>
     <message>
         <source>Alternative nicks</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Spitznamen</translation>
     </message>
     <message>
         <source>Nicks to try when yours is in use, separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitznamen, die versucht werden, wenn Ihrer vergeben ist, durch Kommas getrennt.</translation>
     </message>
     <message>
         <source>Server on this computer</source>
@@ -1042,67 +918,68 @@
     <name>KirvLayoutCatalog</name>
     <message>
         <source>“%1” is a %2, but must be a %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist ein %2, muss aber ein %3 sein.</translation>
     </message>
     <message>
         <source>There is no %1 named “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein %1 mit dem Namen „%2“.</translation>
     </message>
     <message>
         <source>“%1” has no standard button %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keinen Standardknopf %2.</translation>
     </message>
     <message>
         <source>“%1” needs two tabs: the account and its directory entry.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ braucht zwei Reiter: das Konto und seinen Verzeichniseintrag.</translation>
     </message>
     <message>
         <source>The layout file %1 cannot be used; the built-in layout takes its place.
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Layout-Datei %1 kann nicht benutzt werden; das eingebaute Layout tritt an ihre Stelle.
+%2</translation>
     </message>
     <message>
         <source>The window is a %1, but must be a %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Fenster ist ein %1, muss aber ein %2 sein.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
         <source>It asks for a widget of the unknown class %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
     </message>
     <message>
         <source>It is not a window layout: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist kein Fensterlayout: %1</translation>
     </message>
     <message>
         <source>It is not an ordinary file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>It cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>It is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist leer.</translation>
     </message>
     <message>
         <source>It is larger than %1 kB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist größer als %1 kB.</translation>
     </message>
     <message>
         <source>It is not a window layout of Qt Designer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist kein Fensterlayout des Qt Designers.</translation>
     </message>
     <message>
         <source>Its elements are nested too deeply.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Elemente sind zu tief verschachtelt.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1370,130 +1247,130 @@
     <name>KirvXmppAccountDeletion</name>
     <message>
         <source>Delete Account on Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto auf dem Server löschen</translation>
     </message>
     <message>
         <source>Do you want to delete the account %1 on its server? Its contacts and everything the server keeps for it are lost.</source>
         <extracomment>%1 = the address of an account</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Konto %1 auf seinem Server löschen? Seine Kontakte und alles, was der Server dafür aufbewahrt, gehen verloren.</translation>
     </message>
     <message>
         <source>&amp;Delete on Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Server &amp;löschen</translation>
     </message>
     <message>
         <source>This cannot be undone, and somebody else can take the address %1 afterwards. Is %1 really to be deleted?</source>
         <extracomment>%1 = the address of an account</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das kann nicht rückgängig gemacht werden, und jemand anders kann danach die Adresse %1 nehmen. Soll %1 wirklich gelöscht werden?</translation>
     </message>
     <message>
         <source>&amp;Delete for Good</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgültig &amp;löschen</translation>
     </message>
     <message>
         <source>The account %1 was not deleted. %2</source>
         <extracomment>%1 = the address of an account, %2 = the reason, a sentence</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto %1 wurde nicht gelöscht. %2</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppConnection</name>
     <message>
         <source>The login must be an address such as user@domain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anmeldename muss eine Adresse wie name@domäne sein.</translation>
     </message>
     <message>
         <source>The picture of the account cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild des Kontos kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The account is not connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto ist nicht verbunden.</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppDirectory</name>
     <message>
         <source>The directory entry is too long to be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Verzeichniseintrag ist zu lang, um gesendet zu werden.</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppLink</name>
     <message>
         <source>the name is already in use</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name ist schon vergeben</translation>
     </message>
     <message>
         <source>the server does not accept what was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server nimmt das Gesendete nicht an</translation>
     </message>
     <message>
         <source>the server does not allow it</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server erlaubt es nicht</translation>
     </message>
     <message>
         <source>the server does not allow it now</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server erlaubt es jetzt nicht</translation>
     </message>
     <message>
         <source>the server requires encryption</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server verlangt Verschlüsselung</translation>
     </message>
     <message>
         <source>the server does not serve the domain of the login</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server bedient die Domäne des Anmeldenamens nicht</translation>
     </message>
     <message>
         <source>the server does not answer any more</source>
-        <translation type="unfinished"></translation>
+        <translation>der Server antwortet nicht mehr</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppPasswordDialog</name>
     <message>
         <source>Change Password on Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort auf dem Server ändern</translation>
     </message>
     <message>
         <source>The server gives the account %1 the new password; all clients need it then.</source>
         <extracomment>%1 = the address of an account</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server gibt dem Konto %1 das neue Passwort; alle Programme brauchen es dann.</translation>
     </message>
     <message>
         <source>New password</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Passwort</translation>
     </message>
     <message>
         <source>The same again</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch einmal dasselbe</translation>
     </message>
     <message>
         <source>C&amp;hange Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort ä&amp;ndern</translation>
     </message>
     <message>
         <source>&amp;New password:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neues Passwort:</translation>
     </message>
     <message>
         <source>The same &amp;again:</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch ein&amp;mal dasselbe:</translation>
     </message>
     <message>
         <source>The password holds characters that cannot be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort enthält Zeichen, die nicht gesendet werden können.</translation>
     </message>
     <message>
         <source>The server is asked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server wird gefragt …</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppProtocol</name>
     <message>
         <source>XMPP (Jabber): conversations between addresses of many independent servers.</source>
-        <translation type="unfinished"></translation>
+        <translation>XMPP (Jabber): Gespräche zwischen Adressen vieler unabhängiger Server.</translation>
     </message>
     <message>
         <source>Available</source>
@@ -1525,60 +1402,116 @@
     </message>
     <message>
         <source>Change Password on Server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort auf dem Server ändern …</translation>
     </message>
     <message>
         <source>Gives the account a new password on its server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt dem Konto auf seinem Server ein neues Passwort.</translation>
     </message>
     <message>
         <source>Delete Account on Server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto auf dem Server löschen …</translation>
     </message>
     <message>
         <source>Deletes the account on its server for good, and then here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht das Konto endgültig auf seinem Server und dann hier.</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppRegistration</name>
     <message>
         <source>registration of accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>die Registrierung von Konten</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppRegistrationForm</name>
     <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Nickname</source>
+        <translation>Spitzname</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>Voller Name</translation>
+    </message>
+    <message>
+        <source>First name</source>
+        <translation>Vorname</translation>
+    </message>
+    <message>
+        <source>Last name</source>
+        <translation>Nachname</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Anschrift</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>State or region</source>
+        <translation>Bundesland oder Region</translation>
+    </message>
+    <message>
+        <source>Postal code</source>
+        <translation>Postleitzahl</translation>
+    </message>
+    <message>
+        <source>Telephone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
         <source>“%1” must be filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ muss ausgefüllt werden.</translation>
     </message>
     <message>
         <source>“%1” holds characters that cannot be sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ enthält Zeichen, die nicht gesendet werden können.</translation>
     </message>
 </context>
 <context>
     <name>KirvXmppRegistrationWindow</name>
     <message>
         <source>Domain</source>
-        <translation type="unfinished"></translation>
+        <translation>Domäne</translation>
     </message>
     <message>
         <source>The part of the address after the @.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Teil der Adresse nach dem @.</translation>
     </message>
     <message>
         <source>Register XMPP Account</source>
-        <translation type="unfinished"></translation>
+        <translation>XMPP-Konto registrieren</translation>
     </message>
     <message>
         <source>Waiting for the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf den Server</translation>
     </message>
     <message>
         <source>On which server is the new account to be? The server decides what it asks for next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf welchem Server soll das neue Konto sein? Der Server entscheidet, wonach er als Nächstes fragt.</translation>
     </message>
     <message>
         <source>Configuration</source>
@@ -1586,7 +1519,7 @@
     </message>
     <message>
         <source>Con&amp;figuration:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorlage:</translation>
     </message>
     <message>
         <source>&amp;Remember the password</source>
@@ -1598,50 +1531,50 @@
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurück</translation>
     </message>
     <message>
         <source>Enter the domain of the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Domäne des Servers ein.</translation>
     </message>
     <message>
         <source>The server is asked for its form…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server wird nach seinem Formular gefragt …</translation>
     </message>
     <message>
         <source>The server also names this address: %1</source>
         <extracomment>%1 = a web address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server nennt auch diese Adresse: %1</translation>
     </message>
     <message>
         <source>This server does not register accounts from within a client.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Server registriert keine Konten aus einem Programm heraus.</translation>
     </message>
     <message>
         <source>The server has a new form. Check it and register again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat ein neues Formular. Prüfen Sie es und registrieren Sie erneut.</translation>
     </message>
     <message>
         <source>There is a picture for “%1”, which cannot be shown: %2</source>
         <extracomment>%1 = a caption, %2 = an address</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Zu „%1“ gibt es ein Bild, das nicht gezeigt werden kann: %2</translation>
     </message>
     <message>
         <source>The form is sent…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Formular wird gesendet …</translation>
     </message>
     <message>
         <source>The server has taken the form. Add the account with the login that the server gives you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat das Formular angenommen. Fügen Sie das Konto mit dem Anmeldenamen hinzu, den der Server Ihnen gibt.</translation>
     </message>
     <message>
         <source>The account %1 is registered on the server, but it was not added here: it is in the list already, or the list cannot be stored.</source>
         <extracomment>%1 = the address of an account</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto %1 ist auf dem Server registriert, wurde hier aber nicht hinzugefügt: Es steht schon in der Liste, oder die Liste kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>&amp;Register</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registrieren</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
@@ -1649,11 +1582,11 @@
     </message>
     <message>
         <source>Cl&amp;ose</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1733,11 +1666,58 @@
     <message>
         <source>The trusted certificate %1 cannot be read (%2).</source>
         <extracomment>%1 is a file name, %2 the reason</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das vertraute Zertifikat %1 kann nicht gelesen werden (%2).</translation>
     </message>
     <message>
         <source>The file %1 does not hold a certificate in PEM format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 enthält kein Zertifikat im PEM-Format.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvXmppVCard</name>
+    <message>
+        <source>Birthday</source>
+        <translation>Geburtstag</translation>
+    </message>
+    <message>
+        <source>Year, month and day, such as 1999-12-31.</source>
+        <translation>Jahr, Monat und Tag, etwa 1999-12-31.</translation>
+    </message>
+    <message>
+        <source>Full name</source>
+        <translation>Voller Name</translation>
+    </message>
+    <message>
+        <source>Nickname</source>
+        <translation>Spitzname</translation>
+    </message>
+    <message>
+        <source>E-mail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Telephone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>Organisation</source>
+        <translation>Organisation</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über mich</translation>
     </message>
 </context>
 <context>

@@ -28,22 +28,21 @@ const auto addressesType = QStringLiteral("jid-multi");
 /// What people call the fixed fields.
 QString labelOf(const QString &name)
 {
-    using Form = KirvXmppRegistrationForm;
     const QHash<QString, QString> labels {
-        { userNameId, Form::tr("User name") },
-        { passwordId, Form::tr("Password") },
-        { QStringLiteral("nick"), Form::tr("Nickname") },
-        { QStringLiteral("name"), Form::tr("Full name") },
-        { QStringLiteral("first"), Form::tr("First name") },
-        { QStringLiteral("last"), Form::tr("Last name") },
-        { QStringLiteral("email"), Form::tr("E-mail") },
-        { QStringLiteral("address"), Form::tr("Address") },
-        { QStringLiteral("city"), Form::tr("Town") },
-        { QStringLiteral("state"), Form::tr("State or region") },
-        { QStringLiteral("zip"), Form::tr("Postal code") },
-        { QStringLiteral("phone"), Form::tr("Telephone") },
-        { QStringLiteral("url"), Form::tr("Web page") },
-        { QStringLiteral("date"), Form::tr("Date") },
+        { userNameId, KirvXmppRegistrationForm::tr("User name") },
+        { passwordId, KirvXmppRegistrationForm::tr("Password") },
+        { QStringLiteral("nick"), KirvXmppRegistrationForm::tr("Nickname") },
+        { QStringLiteral("name"), KirvXmppRegistrationForm::tr("Full name") },
+        { QStringLiteral("first"), KirvXmppRegistrationForm::tr("First name") },
+        { QStringLiteral("last"), KirvXmppRegistrationForm::tr("Last name") },
+        { QStringLiteral("email"), KirvXmppRegistrationForm::tr("E-mail") },
+        { QStringLiteral("address"), KirvXmppRegistrationForm::tr("Address") },
+        { QStringLiteral("city"), KirvXmppRegistrationForm::tr("Town") },
+        { QStringLiteral("state"), KirvXmppRegistrationForm::tr("State or region") },
+        { QStringLiteral("zip"), KirvXmppRegistrationForm::tr("Postal code") },
+        { QStringLiteral("phone"), KirvXmppRegistrationForm::tr("Telephone") },
+        { QStringLiteral("url"), KirvXmppRegistrationForm::tr("Web page") },
+        { QStringLiteral("date"), KirvXmppRegistrationForm::tr("Date") },
     };
     return labels.value(name, name);
 }

@@ -23,24 +23,23 @@ struct Place {
 
 QList<Place> places()
 {
-    using Kirv = KirvXmppVCard;
     const auto line = [](const QString &label, const char *id) {
         return KirvField::textEdit(label, QLatin1String(id), QString(), QString());
     };
-    KirvField birthday = KirvField::textEdit(Kirv::tr("Birthday"), QStringLiteral("birthday"), QString(),
-                                             Kirv::tr("Year, month and day, such as 1999-12-31."));
+    KirvField birthday = KirvField::textEdit(KirvXmppVCard::tr("Birthday"), QStringLiteral("birthday"), QString(),
+                                             KirvXmppVCard::tr("Year, month and day, such as 1999-12-31."));
     birthday.setPattern(QStringLiteral("([0-9]{4}-[0-9]{2}-[0-9]{2})?"));
     return {
-        { line(Kirv::tr("Full name"), "fullname"), { "FN" } },
-        { line(Kirv::tr("Nickname"), "nickname"), { "NICKNAME" } },
+        { line(KirvXmppVCard::tr("Full name"), "fullname"), { "FN" } },
+        { line(KirvXmppVCard::tr("Nickname"), "nickname"), { "NICKNAME" } },
         { birthday, { "BDAY" } },
-        { line(Kirv::tr("E-mail"), "email"), { "EMAIL", "USERID" } },
-        { line(Kirv::tr("Telephone"), "telephone"), { "TEL", "NUMBER" } },
-        { line(Kirv::tr("Town"), "town"), { "ADR", "LOCALITY" } },
-        { line(Kirv::tr("Country"), "country"), { "ADR", "CTRY" } },
-        { line(Kirv::tr("Web page"), "web"), { "URL" } },
-        { line(Kirv::tr("Organisation"), "organisation"), { "ORG", "ORGNAME" } },
-        { KirvField::multiLine(Kirv::tr("About"), QStringLiteral("about"), QString(), QString()), { "DESC" } },
+        { line(KirvXmppVCard::tr("E-mail"), "email"), { "EMAIL", "USERID" } },
+        { line(KirvXmppVCard::tr("Telephone"), "telephone"), { "TEL", "NUMBER" } },
+        { line(KirvXmppVCard::tr("Town"), "town"), { "ADR", "LOCALITY" } },
+        { line(KirvXmppVCard::tr("Country"), "country"), { "ADR", "CTRY" } },
+        { line(KirvXmppVCard::tr("Web page"), "web"), { "URL" } },
+        { line(KirvXmppVCard::tr("Organisation"), "organisation"), { "ORG", "ORGNAME" } },
+        { KirvField::multiLine(KirvXmppVCard::tr("About"), QStringLiteral("about"), QString(), QString()), { "DESC" } },
     };
 }
 
