@@ -143,6 +143,7 @@ void KirvClient::connectServices()
     connect(accountRegistry.get(), &KirvAccountRegistry::accountRemoved, this, &KirvClient::accountRemoved);
     connect(accountRegistry.get(), &KirvAccountRegistry::accountChanged, this, &KirvClient::accountChanged);
     connect(accountRegistry.get(), &KirvAccountRegistry::directoryAnswered, this, &KirvClient::deliverDirectoryAnswer);
+    connect(accountRegistry.get(), &KirvAccountRegistry::noticeReceived, this, &KirvClient::showNotice);
     connect(accountRegistry.get(), &KirvAccountRegistry::problemOccurred, this, &KirvClient::showProblem);
     connect(pluginRegistry.get(), &KirvPluginRegistry::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginRegistry.get(), &KirvPluginRegistry::protocolAboutToBeUnloaded, this,
@@ -245,6 +246,12 @@ void KirvClient::updateTitle()
 {
     const auto *account = static_cast<KirvAccount *>(KirvAccountManager::getInstance()->getMainAccount());
     settingsWindow->setMainAccount(account ? account->displayName() : QString());
+}
+
+void KirvClient::showNotice(const KirvAccount *account, const QString &text)
+{
+    //: %1 = name of an account, %2 = one or more sentences about it
+    showProblem(tr("%1: %2").arg(account->displayName(), text));
 }
 
 void KirvClient::showProblem(const QString &text)

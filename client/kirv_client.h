@@ -71,6 +71,7 @@ private:
     void syncRows();
     void updateTitle();
     void deliverDirectoryAnswer(KirvAccount *account, const QList<KirvField> &fields);
+    void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
 
     const KirvClientOptions options;

@@ -259,6 +259,8 @@ void KirvAccount::Private::listenToConnection()
     connect(connection, &KirvConnection::failed, account, [this](const KirvFailure &failed) { onFailed(failed); });
     connect(connection, &KirvConnection::directoryAnswered, account,
             [this](const QList<KirvField> &fields) { onDirectoryAnswered(fields); });
+    connect(connection, &KirvConnection::noticeReceived, account,
+            [this](const QString &text) { Q_EMIT registry.noticeReceived(account, text); });
 }
 
 void KirvAccount::Private::onStateChanged(KirvConnection::State state)

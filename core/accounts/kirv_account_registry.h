@@ -58,6 +58,8 @@ Q_SIGNALS:
     void passwordNeeded(KirvAccount *account);
     /// The directory answered for the account; without fields when there is no data.
     void directoryAnswered(KirvAccount *account, const QList<KirvField> &fields);
+    /// The server tells something that the user should read although nothing failed.
+    void noticeReceived(KirvAccount *account, const QString &text);
     /// The store did not take a change, or an account could not be created: \a text says it to the user.
     void problemOccurred(const QString &text);
 
