@@ -4,12 +4,15 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_connection_model.h"
 #include "client/kirv_connection_view.h"
+#include "client/kirv_message_bar.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_registry.h"
+#include "core/connection/kirv_connection.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDirIterator>
 #include <QLineEdit>
@@ -17,6 +20,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QToolButton>
+#include <QTreeView>
 #include <QTreeWidget>
 
 namespace {
@@ -122,6 +126,18 @@ bool KirvWindows::save(QDialog *editWindow)
     return QTest::qWaitFor([] { return !KirvWalk::window(QStringLiteral("EditAccount")); }, patience);
 }
 
+void KirvWindows::fill(QWidget *window, const QString &id, const QString &value)
+{
+    auto *field = child<QWidget>(window, qPrintable(QStringLiteral("KirvField_") + id));
+    field->setFocus(); // scrolls there
+    if (auto *box = qobject_cast<QComboBox *>(field)) {
+        KirvWalk::choose(box, value);
+        return;
+    }
+    auto *edit = qobject_cast<QLineEdit *>(field);
+    KirvWalk::type(edit ? edit : field->findChild<QLineEdit *>(), value);
+}
+
 QTreeWidget *KirvWindows::list() const
 {
     return child<QTreeWidget>(client->accountsPage(), "Accounts_List");
@@ -177,6 +193,43 @@ QString KirvWindows::problem(const QString &login) const
 QString KirvWindows::title() const
 {
     return client->window()->windowTitle();
+}
+
+QString KirvWindows::messages() const
+{
+    return client->window()->messageBar()->messages().join(QLatin1Char('\n'));
+}
+
+void KirvWindows::reconnect(const QString &login)
+{
+    showPage(ConnectionsPage);
+    client->connectionView()->setCurrentAccount(account(login));
+    KirvWalk::click(child<QPushButton>(client->connectionView(), "Connections_ReconnectButton"));
+}
+
+bool KirvWindows::goTo(const QString &login, const QString &presence)
+{
+    showPage(ConnectionsPage);
+    client->connectionView()->setCurrentAccount(account(login));
+    auto *connections = child<QTreeView>(client->connectionView(), "Connections_List");
+    const QPoint position = connections->visualRect(connections->currentIndex()).center();
+    QContextMenuEvent wish(QContextMenuEvent::Mouse, position, connections->viewport()->mapToGlobal(position));
+    QApplication::sendEvent(connections->viewport(), &wish);
+    for (const QString &command : { QStringLiteral("&Presence"), presence }) {
+        if (!QTest::qWaitFor([command] { return KirvWalk::menuOffers(command); }, patience))
+            return false;
+        KirvWalk::clickInMenu(command);
+    }
+    return QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }, patience);
+}
+
+void KirvWindows::hurry(const QString &login) const
+{
+    KirvConnection::Timing timing;
+    timing.loginTimeout = 500;
+    timing.firstRetry = 50;
+    timing.lastRetry = 200;
+    account(login)->connection()->setTiming(timing);
 }
 
 void KirvWindows::setLoaded(const QString &protocol, bool loaded)

@@ -47,6 +47,9 @@ public:
     QDialog *openEditWindow() const;
     bool save(QDialog *editWindow);
 
+    /// Types \a value into the control of the field \a id, or chooses it there.
+    static void fill(QWidget *window, const QString &id, const QString &value);
+
     QTreeWidget *list() const;
     QTreeWidgetItem *row(const QString &login) const;
     QComboBox *selector() const;
@@ -61,6 +64,15 @@ public:
     QString state(const QString &login) const;
     QString problem(const QString &login) const;
     QString title() const;
+    /// What the bar above the pages says.
+    QString messages() const;
+
+    /// Presses Reconnect on the Connections page.
+    void reconnect(const QString &login);
+    /// Chooses \a presence in the menu of the account on the Connections page; false when it is not offered.
+    bool goTo(const QString &login, const QString &presence);
+    /// Makes the account's connection wait a fraction of a second where it would wait long; for what it does next.
+    void hurry(const QString &login) const;
 
     /// Clicks Load or Unload for the plug-in of \a protocol on the Plug-ins page.
     void setLoaded(const QString &protocol, bool loaded);

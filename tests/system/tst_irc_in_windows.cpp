@@ -1,0 +1,472 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/demo/kirv_ngircd_server.h"
+#include "client/demo/kirv_prosody_server.h"
+#include "core/accounts/kirv_account_registry.h"
+#include "tests/support/irc/irc_observer.h"
+#include "tests/support/irc/scripted_irc_server.h"
+#include "tests/system/kirv_windows.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include <vector>
+
+namespace {
+
+const QString irc = QStringLiteral("IRC");
+const QString xmpp = QStringLiteral("XMPP");
+const QString here = QStringLiteral("Server on this computer");
+const QString alice = QStringLiteral("alice");
+const QString secret = QStringLiteral("secret");
+const QString required = QStringLiteral("Required (TLS)");
+const QString passwordOfServer = QStringLiteral("Password of the server");
+
+/// A setting of the account as its form shows it.
+QString shown(const QWidget *window, const char *name)
+{
+    if (const auto *edit = KirvWindows::child<QLineEdit>(window, name))
+        return edit->text();
+    if (const auto *box = KirvWindows::child<QSpinBox>(window, name))
+        return QString::number(box->value());
+    const auto *choice = KirvWindows::child<QComboBox>(window, name);
+    return choice ? choice->currentText() : QString();
+}
+
+QString shownNetwork(const QWidget *window)
+{
+    return QStringList { shown(window, "KirvField_server"), shown(window, "KirvField_port"),
+                         shown(window, "KirvField_encryption") }
+        .join(QLatin1Char(' '));
+}
+
+void remember(QWidget *window)
+{
+    KirvWindows::child<QAbstractButton>(window, "AddAccount_RememberPasswordCheckbox")->setChecked(true);
+}
+
+/// The answers of a server that lets everybody in.
+QByteArray welcome(const QByteArray &line)
+{
+    return line.startsWith("USER ") ? ":server 001 alice :Welcome\r\n" : "";
+}
+
+} // namespace
+
+/// What a person does with IRC accounts in the client's windows, against a real server where that can do it.
+class tst_irc_in_windows : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void menuOffersBothProtocols();
+    void networksFillTheForm();
+    void addedAccountIsLoggedIn_data();
+    void addedAccountIsLoggedIn();
+    void editWindowHasNoDirectory();
+    void disabledAccountSaysGoodbye();
+
+    void awayAndBackAreSeenByOthers();
+    void defaultPresenceIsSeenByOthers();
+
+    void takenNickIsReplacedAndSaid();
+    void allNicksTakenIsSaid();
+    void nickThatTheServerRefusesIsSaid();
+    void textThatIsNoNickCannotBeTyped();
+
+    void wrongServerPasswordIsSaidAndCorrected();
+    void untrustedCertificateIsSaidAndCanBeTrusted();
+
+    void killedServerIsReachedAgain();
+    void hungServerIsSaid();
+    void connectionLostWhileLoggingInIsSaid();
+
+    void bothProtocolsSideBySide();
+
+private:
+    /// Starts \a server and lets "Server on this computer" mean it.
+    bool start(KirvLocalServer &server);
+    void use(const QTcpServer &server) { qputenv("KIRV_IRC_LOCAL_PORT", QByteArray::number(server.serverPort())); }
+    bool addAlice(const std::function<void(QWidget *window)> &fillIn = {}, const QString &password = secret)
+    {
+        return windows->add(irc, here, alice, password, fillIn);
+    }
+    bool isConnected(const QString &login) const { return windows->state(login) == QLatin1String("Connected"); }
+
+    std::unique_ptr<KirvWindows> windows;
+};
+
+void tst_irc_in_windows::init()
+{
+    windows = std::make_unique<KirvWindows>();
+    QVERIFY(windows->start());
+}
+
+void tst_irc_in_windows::cleanup()
+{
+    windows.reset();
+    qunsetenv("KIRV_IRC_LOCAL_PORT");
+}
+
+bool tst_irc_in_windows::start(KirvLocalServer &server)
+{
+    if (!server.start()) {
+        qWarning("%s", qPrintable(server.errorString()));
+        return false;
+    }
+    qputenv("KIRV_IRC_LOCAL_PORT", QByteArray::number(server.port()));
+    return true;
+}
+
+void tst_irc_in_windows::menuOffersBothProtocols()
+{
+    KirvWalk walk(windows->profileFolder());
+    walk.expectOnTop(
+        QStringLiteral("The page is there"), [this] { return windows->client->accountsPage()->isVisible(); },
+        [this] {
+            KirvWalk::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
+        });
+    walk.expect(
+        QStringLiteral("The menu offers both protocols"),
+        [] { return KirvWalk::menuOffers(irc) && KirvWalk::menuOffers(xmpp); },
+        [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
+    walk.expectOnTop(QStringLiteral("The menu is gone"), [] { return !QApplication::activePopupWidget(); });
+    QVERIFY(walk.run());
+    QVERIFY(!KirvWalk::window(QStringLiteral("AddAccount")));
+}
+
+void tst_irc_in_windows::networksFillTheForm()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    QMap<QString, QString> networks;
+    QVERIFY(addAlice([&networks](QWidget *window) {
+        auto *box = KirvWindows::child<QComboBox>(window, "AddAccount_Configuration");
+        for (int i = 0; i < box->count(); ++i) {
+            KirvWalk::choose(box, box->itemText(i));
+            networks.insert(box->itemText(i), shownNetwork(window));
+        }
+        // None, which was on the way, takes the login away.
+        KirvWalk::type(KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit"), alice);
+    }));
+    QCOMPARE(networks.take(QStringLiteral("None")), QStringLiteral(" 6697 ") + required);
+    QCOMPARE(networks.value(QStringLiteral("Libera.Chat")), QStringLiteral("irc.libera.chat 6697 ") + required);
+    QCOMPARE(networks.value(QStringLiteral("OFTC")), QStringLiteral("irc.oftc.net 6697 ") + required);
+    const QString local = networks.take(here);
+    QVERIFY2(local.startsWith(QStringLiteral("127.0.0.1 %1 None").arg(server.port())), qPrintable(local));
+    QVERIFY(networks.size() >= 4);
+    for (const QString &network : qAsConst(networks))
+        QVERIFY2(network.endsWith(QLatin1String(" 6697 ") + required), qPrintable(network));
+    // The last one that was chosen is the one that counts.
+    TRY(isConnected(alice));
+}
+
+void tst_irc_in_windows::addedAccountIsLoggedIn_data()
+{
+    QTest::addColumn<bool>("encrypted");
+    QTest::newRow("plain") << false;
+    QTest::newRow("TLS") << true;
+}
+
+void tst_irc_in_windows::addedAccountIsLoggedIn()
+{
+    QFETCH(bool, encrypted);
+    KirvNgircdServer server;
+    server.setEncrypted(encrypted);
+    QVERIFY(start(server));
+    QVERIFY(addAlice([&](QWidget *window) {
+        remember(window);
+        if (!encrypted)
+            return;
+        KirvWindows::fill(window, QStringLiteral("encryption"), required);
+        KirvWindows::fill(window, QStringLiteral("certificate"), server.certificateFile());
+    }));
+    QVERIFY(windows->row(alice));
+    QCOMPARE(windows->row(alice)->checkState(0), Qt::Checked);
+    TRY(isConnected(alice));
+    QCOMPARE(windows->messages(), QString());
+    IrcObserver bob;
+    QVERIFY(bob.logIn(server, QStringLiteral("bob")));
+    QVERIFY(bob.sees(alice));
+
+    windows->quit();
+    TRY(!bob.sees(alice));
+    QVERIFY(windows->start());
+    TRY(isConnected(alice));
+    TRY(bob.sees(alice));
+}
+
+void tst_irc_in_windows::editWindowHasNoDirectory()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    QVERIFY(addAlice());
+    TRY(isConnected(alice));
+    QDialog *window = windows->edit(alice);
+    QVERIFY(window);
+    QCOMPARE(KirvWindows::child<QTabWidget>(window, "EditAccount_Tabs")->count(), 1);
+    const auto *fetch = KirvWindows::child<QWidget>(window, "EditAccount_PubDirFetch");
+    QVERIFY(!fetch || !fetch->isVisible());
+    QVERIFY(!KirvWindows::child<QWidget>(window, "EditAccount_ServerAccountButton"));
+    QVERIFY(shownNetwork(window).startsWith(QStringLiteral("127.0.0.1 %1 None").arg(server.port())));
+    QVERIFY(windows->save(window));
+    QVERIFY(isConnected(alice));
+}
+
+void tst_irc_in_windows::disabledAccountSaysGoodbye()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    QVERIFY(addAlice());
+    TRY(isConnected(alice));
+    windows->toggle(alice);
+    TRY(windows->question());
+    QVERIFY(windows->question()->text().contains(alice) && windows->question()->text().contains(irc));
+    QVERIFY(!server.output().contains(QLatin1String("Got QUIT command")));
+    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    TRY(windows->state(alice) == QLatin1String("Disabled"));
+    TRY(server.output().contains(QLatin1String("Got QUIT command")));
+    QCOMPARE(windows->row(alice)->checkState(0), Qt::Unchecked);
+}
+
+void tst_irc_in_windows::awayAndBackAreSeenByOthers()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    QVERIFY(addAlice());
+    TRY(isConnected(alice));
+    IrcObserver bob;
+    QVERIFY(bob.logIn(server, QStringLiteral("bob")));
+    QVERIFY(bob.awayTextOf(alice).isNull());
+
+    QVERIFY(windows->goTo(alice, QStringLiteral("Away")));
+    TRY(bob.awayTextOf(alice) == QLatin1String("Away"));
+    QVERIFY(windows->goTo(alice, QStringLiteral("Available")));
+    TRY(bob.awayTextOf(alice).isNull());
+    QVERIFY(isConnected(alice));
+
+    QVERIFY(windows->goTo(alice, QStringLiteral("Offline")));
+    TRY(!bob.sees(alice));
+    TRY(windows->state(alice) == QLatin1String("Off line"));
+    QCOMPARE(windows->problem(alice), QString());
+}
+
+void tst_irc_in_windows::defaultPresenceIsSeenByOthers()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    QVERIFY(addAlice(remember));
+    TRY(isConnected(alice));
+    QDialog *window = windows->edit(alice);
+    QVERIFY(window);
+    auto *choice = KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo");
+    if (!choice->isEnabled())
+        KirvWalk::pressKey(KirvWindows::child<QWidget>(window, "EditAccount_RememberPresence"), Qt::Key_Space);
+    KirvWalk::choose(choice, QStringLiteral("Away"));
+    auto *description = KirvWindows::child<QTextEdit>(window, "EditAccount_DescriptionEdit");
+    description->setFocus();
+    QTest::keyClicks(description, QStringLiteral("Gone fishing"));
+    QVERIFY(windows->save(window));
+
+    QVERIFY(windows->start());
+    TRY(isConnected(alice));
+    IrcObserver bob;
+    QVERIFY(bob.logIn(server, QStringLiteral("bob")));
+    QCOMPARE(bob.awayTextOf(alice), QStringLiteral("Gone fishing"));
+}
+
+void tst_irc_in_windows::takenNickIsReplacedAndSaid()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    IrcObserver other;
+    QVERIFY(other.logIn(server, alice));
+    QVERIFY(addAlice([](QWidget *window) {
+        KirvWindows::fill(window, QStringLiteral("alternative_nicks"), QStringLiteral("wonderland"));
+    }));
+    TRY(isConnected(alice));
+    QVERIFY(other.sees(QStringLiteral("wonderland")));
+    TRY_SAYS(windows->messages(), "wonderland");
+    QVERIFY(windows->messages().startsWith(alice + QLatin1String(": ")));
+    QCOMPARE(windows->problem(alice), QString());
+}
+
+void tst_irc_in_windows::allNicksTakenIsSaid()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    const QStringList taken { alice, QStringLiteral("alice_"), QStringLiteral("alice__"), QStringLiteral("alice___") };
+    std::vector<IrcObserver> others(taken.size());
+    for (int i = 0; i < taken.size(); ++i)
+        QVERIFY(others[i].logIn(server, taken[i]));
+    QVERIFY(addAlice());
+    TRY_SAYS(windows->problem(alice), "already in use");
+    QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
+
+    IrcObserver bob;
+    QVERIFY(bob.logIn(server, QStringLiteral("bob")));
+    others.clear();
+    TRY(!bob.sees(alice));
+    windows->reconnect(alice);
+    TRY(isConnected(alice));
+    QCOMPARE(windows->problem(alice), QString());
+    QVERIFY(bob.sees(alice));
+}
+
+void tst_irc_in_windows::nickThatTheServerRefusesIsSaid()
+{
+    KirvNgircdServer server;
+    server.setMaximumNickLength(4);
+    QVERIFY(start(server));
+    QVERIFY(addAlice());
+    TRY_SAYS(windows->problem(alice), "does not allow the name \"alice\"");
+    QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
+}
+
+void tst_irc_in_windows::textThatIsNoNickCannotBeTyped()
+{
+    ScriptedIrcServer silent(nullptr);
+    use(silent);
+    QString typed;
+    QVERIFY(addAlice([&typed](QWidget *window) {
+        auto *edit = KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit");
+        KirvWalk::type(edit, QStringLiteral("9#al ice"));
+        typed = edit->text();
+    }));
+    QCOMPARE(typed, alice);
+}
+
+void tst_irc_in_windows::wrongServerPasswordIsSaidAndCorrected()
+{
+    KirvNgircdServer server;
+    server.setPassword(QStringLiteral("sesame"));
+    QVERIFY(start(server));
+    const auto useForServer = [](QWidget *window) {
+        KirvWindows::fill(window, QStringLiteral("password_use"), passwordOfServer);
+    };
+    QVERIFY(addAlice(useForServer, QStringLiteral("mistyped")));
+    TRY_SAYS(windows->problem(alice), "denied");
+    TRY_SAYS(windows->problem(alice), "password");
+    QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
+
+    QDialog *window = windows->edit(alice);
+    QVERIFY(window);
+    KirvWalk::type(KirvWindows::child<QLineEdit>(window, "EditAccount_Password"), QStringLiteral("sesame"));
+    QVERIFY(windows->save(window));
+    TRY(isConnected(alice));
+    QCOMPARE(windows->problem(alice), QString());
+}
+
+void tst_irc_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
+{
+    KirvNgircdServer server;
+    server.setEncrypted(true);
+    QVERIFY(start(server));
+    QVERIFY(addAlice([](QWidget *window) { KirvWindows::fill(window, QStringLiteral("encryption"), required); }));
+    TRY_SAYS(windows->problem(alice), "certificate");
+    QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
+
+    QDialog *window = windows->edit(alice);
+    QVERIFY(window);
+    KirvWindows::fill(window, QStringLiteral("certificate"), server.certificateFile());
+    QVERIFY(windows->save(window));
+    windows->reconnect(alice);
+    TRY(isConnected(alice));
+    QCOMPARE(windows->problem(alice), QString());
+}
+
+void tst_irc_in_windows::killedServerIsReachedAgain()
+{
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+    QVERIFY(addAlice());
+    TRY(isConnected(alice));
+    windows->hurry(alice);
+    server.kill();
+    TRY(!isConnected(alice));
+    TRY(!windows->problem(alice).isEmpty());
+
+    QVERIFY(start(server));
+    TRY(isConnected(alice));
+    QCOMPARE(windows->problem(alice), QString());
+    IrcObserver bob;
+    QVERIFY(bob.logIn(server, QStringLiteral("bob")));
+    QVERIFY(bob.sees(alice));
+}
+
+void tst_irc_in_windows::hungServerIsSaid()
+{
+    ScriptedIrcServer silent(nullptr);
+    use(silent);
+    QVERIFY(addAlice());
+    QCOMPARE(windows->state(alice), QStringLiteral("Connecting…"));
+    windows->hurry(alice);
+    windows->reconnect(alice);
+    TRY_SAYS(windows->problem(alice), "did not answer in time");
+    QVERIFY(!isConnected(alice));
+    // The window still answers, and the account is told to stop trying at once.
+    windows->showPage(0);
+    windows->toggle(alice);
+    TRY(windows->state(alice) == QLatin1String("Disabled"));
+}
+
+void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
+{
+    bool isAwake = false;
+    ScriptedIrcServer server([&isAwake](const QByteArray &line) { return isAwake ? welcome(line) : QByteArray(); });
+    use(server);
+    QVERIFY(addAlice());
+    windows->hurry(alice);
+    TRY(server.hasReceived("USER "));
+    server.hangUp();
+    TRY_SAYS(windows->problem(alice), "lost");
+    QVERIFY(!isConnected(alice));
+    isAwake = true;
+    TRY(isConnected(alice));
+    QCOMPARE(windows->problem(alice), QString());
+}
+
+void tst_irc_in_windows::bothProtocolsSideBySide()
+{
+    const QString ann = QStringLiteral("ann@localhost");
+    KirvProsodyServer xmppServer;
+    QVERIFY2(xmppServer.start() && xmppServer.addUser(QStringLiteral("ann"), secret),
+             qPrintable(xmppServer.errorString()));
+    qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(xmppServer.port()));
+    qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", xmppServer.certificatePath().toLocal8Bit());
+    KirvNgircdServer server;
+    QVERIFY(start(server));
+
+    QVERIFY(windows->add(xmpp, here, ann, secret, remember));
+    QVERIFY(addAlice(remember));
+    TRY(isConnected(ann) && isConnected(alice));
+    windows->showPage(0);
+    TRY(windows->selector()->count() == 2);
+    // What is current there without the user's choice is no main account yet.
+    KirvWalk::choose(windows->selector(), ann);
+    KirvWalk::choose(windows->selector(), alice);
+    TRY_SAYS(windows->title(), "alice");
+
+    QVERIFY(windows->start());
+    TRY(isConnected(ann) && isConnected(alice));
+    QCOMPARE(windows->list()->topLevelItemCount(), 2);
+    QCOMPARE(windows->row(ann)->text(1), xmpp);
+    QCOMPARE(windows->row(alice)->text(1), irc);
+    QVERIFY(windows->account(alice)->isMainAccount());
+    TRY_SAYS(windows->title(), "alice");
+    TRY(windows->selector()->currentText() == alice);
+}
+
+QTEST_MAIN(tst_irc_in_windows)
+#include "tst_irc_in_windows.moc"
