@@ -308,9 +308,13 @@ void KirvXmppRegistrationWindow::createAccount()
 
 void KirvXmppRegistrationWindow::setBusy(bool isBusy)
 {
+    if (isBusy)
+        focusBefore = focusWidget();
     pages->setEnabled(!isBusy);
     progress->setVisible(isBusy);
     updateButtons();
+    if (!isBusy && focusBefore)
+        focusBefore->setFocus(); // it went to the close button when the rest was disabled
 }
 
 void KirvXmppRegistrationWindow::updateButtons()

@@ -5,6 +5,7 @@
 #include "protocols/xmpp/kirv_xmpp_registration.h"
 
 #include <QDialog>
+#include <QPointer>
 
 class KirvFieldWidget;
 class KirvProtocol;
@@ -56,6 +57,7 @@ private:
     QList<KirvField> submitted;
     QString domain;
     bool isDone = false;
+    QPointer<QWidget> focusBefore; ///< where the keyboard was when the server was asked
 
     QStackedWidget *pages = nullptr;
     QComboBox *configurationBox = nullptr;
