@@ -122,7 +122,8 @@ void tst_FieldWidget::untouchedFieldComesBackUnchanged_data()
     QTest::newRow("empty text") << KirvField::textEdit(QString(), Id, QString(), QString());
     QTest::newRow("text with line breaks") << KirvField::textEdit("Label", Id, "a\r\nb\rc\n", QString());
     QTest::newRow("text with other separators") << KirvField::textEdit("Label", Id, "a\u2028b\u2029c\u0085", QString());
-    QTest::newRow("text with controls") << KirvField::textEdit("Label", Id, QString::fromUtf8("a\0b\tc\u00a0d", 8), QString());
+    QTest::newRow("text with controls") << KirvField::textEdit("Label", Id, QString::fromUtf8("a\0b\tc\u00a0d", 8),
+                                                               QString());
     QTest::newRow("right to left") << KirvField::textEdit(rtl, Id, rtl, rtl);
     QTest::newRow("rules") << withRule("x", "[0-9", true);
     QTest::newRow("half a character") << KirvField::textEdit("L", Id, QString(QChar(0xd800)), QString());
