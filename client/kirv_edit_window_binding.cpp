@@ -15,6 +15,7 @@
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
@@ -38,6 +39,7 @@ KirvEditWindowBinding::KirvEditWindowBinding(QDialog *window, QObject *controlle
     , accounts(accounts)
     , accountKey(keyFromIdentifier(window->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))))
     , tabs(window->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs")))
+    , passwordEdit(window->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
     , directoryLabel(window->findChild<QLabel *>(QStringLiteral("EditAccount_PubDirStatus")))
 {
     connect(window, SIGNAL(finished(int)), controller, SLOT(finished(int)));
@@ -45,8 +47,10 @@ KirvEditWindowBinding::KirvEditWindowBinding(QDialog *window, QObject *controlle
     // The page deletes the controller of the window before when it opens the next one.
     connect(controller, &QObject::destroyed, this, &KirvEditWindowBinding::close);
     connect(&accounts, &KirvAccountRegistry::accountChanged, this, &KirvEditWindowBinding::accountChanged);
-    if (const KirvAccount *account = accounts.find(accountKey))
+    if (const KirvAccount *account = accounts.find(accountKey)) {
         wasLoggedIn = account->isLoggedIn();
+        knownPassword = account->getPassword();
+    }
     bindButtons();
     bindDirectory();
 }
@@ -154,10 +158,28 @@ void KirvEditWindowBinding::tellSaveFailed()
 
 void KirvEditWindowBinding::accountChanged(KirvAccount *account)
 {
-    if (account->key() != accountKey || !directoryFields || !controller)
+    if (account->key() != accountKey || !controller)
         return;
-    const bool cameOnline = account->isLoggedIn() && !wasLoggedIn;
-    wasLoggedIn = account->isLoggedIn();
+    updatePassword(*account);
+    updateDirectory(*account);
+}
+
+/// The account may get another password while the window is open, on its server say: the window, which shows the
+/// one before, must not put that back.
+void KirvEditWindowBinding::updatePassword(const KirvAccount &account)
+{
+    const QString password = account.getPassword();
+    if (passwordEdit && passwordEdit->text() == knownPassword && password != knownPassword)
+        passwordEdit->setText(password);
+    knownPassword = password;
+}
+
+void KirvEditWindowBinding::updateDirectory(const KirvAccount &account)
+{
+    if (!directoryFields)
+        return;
+    const bool cameOnline = account.isLoggedIn() && !wasLoggedIn;
+    wasLoggedIn = account.isLoggedIn();
     const bool isDirectoryShown = tabs && tabs->currentIndex() > 0;
     if (cameOnline && isDirectoryShown && isDirectoryLocked())
         QMetaObject::invokeMethod(controller, "requestPubdirInfo", Qt::DirectConnection);

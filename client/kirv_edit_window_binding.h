@@ -12,6 +12,7 @@ class KirvAccount;
 class KirvAccountRegistry;
 class QDialog;
 class QLabel;
+class QLineEdit;
 class QTabWidget;
 class QWidget;
 
@@ -40,6 +41,8 @@ private:
     void save();
     void tellSaveFailed();
     void accountChanged(KirvAccount *account);
+    void updatePassword(const KirvAccount &account);
+    void updateDirectory(const KirvAccount &account);
     void updateDirectoryStatus();
     QString directoryStatus(const KirvAccount *account) const;
     bool isDirectoryLocked() const;
@@ -49,6 +52,8 @@ private:
     KirvAccountRegistry &accounts;
     KirvAccountKey accountKey;
     QTabWidget *tabs;
+    QLineEdit *passwordEdit;
+    QString knownPassword; ///< of the account, as far as the window has learnt of it
     QLabel *directoryLabel;
     QPointer<QWidget> directoryFields; ///< null when the protocol has no directory
     QDateTime directoryLocked; ///< when the fields were locked last
