@@ -23,7 +23,8 @@ public:
 
     void setFields(const QList<KirvField> &fields)
     {
-        const QString focused = form && form->focusWidget() ? form->focusWidget()->objectName() : QString();
+        const QWidget *focus = widget->window()->focusWidget();
+        const QString focused = form && focus && form->isAncestorOf(focus) ? focus->objectName() : QString();
         widget->setUpdatesEnabled(false);
         removeForm();
         form = new KirvFieldForm(fields, labels, widget);
