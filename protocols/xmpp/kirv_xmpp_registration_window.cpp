@@ -120,6 +120,7 @@ QWidget *KirvXmppRegistrationWindow::createServerPage()
     auto *choice = new QFormLayout;
     choice->addRow(tr("Con&figuration:"), configurationBox);
     auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(introduction);
     layout->addLayout(choice);
     layout->addWidget(serverFields, 1);
@@ -139,6 +140,7 @@ QWidget *KirvXmppRegistrationWindow::createFormPage()
     rememberBox->setChecked(true);
 
     auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(instructions);
     layout->addLayout(pictureLayout);
     layout->addWidget(formFields, 1);
