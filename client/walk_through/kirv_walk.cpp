@@ -10,7 +10,6 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
-#include <QToolButton>
 #include <QWindow>
 
 #include <cstdio>
@@ -184,7 +183,7 @@ void KirvWalk::choose(QComboBox *box, const QString &text)
         QTest::keyClick(window, Qt::Key_Down);
 }
 
-void KirvWalk::openMenu(QToolButton *button)
+void KirvWalk::openMenu(QWidget *button)
 {
     QWindow *window = prepare(button);
     const QPoint place = button->mapTo(button->window(), button->rect().center());

@@ -11,7 +11,6 @@
 
 class QComboBox;
 class QLineEdit;
-class QToolButton;
 class QWidget;
 
 /// A list of steps through real windows, done one after the other by mouse and keyboard.
@@ -42,7 +41,7 @@ public:
     /// Goes down to the choice of that text; to the first one when there is none.
     static void choose(QComboBox *box, const QString &text);
     /// Opens the button's menu and returns when the menu, and what it leads to, has closed.
-    static void openMenu(QToolButton *button);
+    static void openMenu(QWidget *button);
     /// Clicks the command of that text in the menu that is open.
     static void clickInMenu(const QString &text);
     static bool menuOffers(const QString &text);

@@ -39,8 +39,13 @@ bool XmppObserver::logIn(const KirvProsodyServer &server, const QString &user, c
     configuration.setIgnoreSslErrors(true);
     configuration.setAutoReconnectionEnabled(false);
     configuration.setAutoAcceptSubscriptions(true);
+    bool isRefused = false;
+    QObject context;
+    QObject::connect(&client, &QXmppClient::error, &context,
+                     [&isRefused](QXmppClient::Error error) { isRefused = error == QXmppClient::XmppStreamError; });
     client.connectToServer(configuration);
-    return QTest::qWaitFor([this] { return client.isConnected() && client.isAuthenticated(); }, patience);
+    const auto isIn = [this] { return client.isConnected() && client.isAuthenticated(); };
+    return QTest::qWaitFor([&] { return isRefused || isIn(); }, patience) && isIn();
 }
 
 void XmppObserver::logOut()

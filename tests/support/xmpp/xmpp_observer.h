@@ -13,7 +13,7 @@ class XmppObserver {
 public:
     XmppObserver();
 
-    /// Logs in as \a user and waits for it.
+    /// Logs in as \a user and waits for it; false when the server refuses, too.
     bool logIn(const KirvProsodyServer &server, const QString &user, const QString &password = "secret",
                const QString &resource = "observer");
     void logOut();
