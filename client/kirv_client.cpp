@@ -12,6 +12,7 @@
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_registry.h"
+#include "core/connection/kirv_connection.h"
 #include "core/connection/kirv_protocol_base.h"
 #include "core/plugins/kirv_plugin_registry.h"
 #include "core/settings/kirv_settings_registry.h"
@@ -230,7 +231,9 @@ void KirvClient::syncRows()
 void KirvClient::deliverDirectoryAnswer(KirvAccount *account, const QList<KirvField> &fields)
 {
     KirvEditAccountDialog *dialog = page->getAccEdit();
-    if (!dialog)
+    // The answer to a request that a newer one has replaced must not unlock the fields before their time.
+    const bool isReplaced = fields.isEmpty() && account->connection() && account->connection()->isAskingDirectory();
+    if (!dialog || isReplaced)
         return;
     KirvPubdirAccountReceivedEvent answer(account, fields);
     QCoreApplication::sendEvent(dialog, &answer);

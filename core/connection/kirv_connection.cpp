@@ -304,6 +304,11 @@ void KirvConnection::deleteDirectory()
     answerWithoutDirectory();
 }
 
+bool KirvConnection::isAskingDirectory() const
+{
+    return d->outstandingRequest;
+}
+
 void KirvConnection::answerWithoutDirectory()
 {
     QMetaObject::invokeMethod(

@@ -89,6 +89,8 @@ public:
     virtual void fetchDirectory();
     virtual void publishDirectory(const QList<KirvField> &fields);
     virtual void deleteDirectory();
+    /// Whether a request of those is still without its answer.
+    bool isAskingDirectory() const;
     /// Answers a request that cannot be made: without fields, from the event loop.
     void answerWithoutDirectory();
     /// Tells a connected server about the account's new avatar; the default does nothing.

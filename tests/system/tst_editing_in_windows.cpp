@@ -2,7 +2,6 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/demo/kirv_prosody_server.h"
 #include "client/kirv_connection_view.h"
-#include "client/kirv_message_bar.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_registry.h"
 #include "core/connection/kirv_connection.h"
@@ -11,6 +10,8 @@
 #include "host/kirv_account_manager.h"
 #include "host/kirv_avatar_quick_set_widget.h"
 #include "host/kirv_field_widget.h"
+#include "host/kirv_plugin_manager.h"
+#include "host/kirv_presence.h"
 #include "host/kirv_protocol.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/system/kirv_windows.h"
@@ -281,6 +282,7 @@ private Q_SLOTS:
     void fieldsAreLockedUntilTheAccountIsConnected_data();
     void fieldsAreLockedUntilTheAccountIsConnected();
     void fieldsAreLockedWhileTheServerIsAsked();
+    void fieldsStayLockedUntilTheLatestRequestIsAnswered();
     void serverThatDoesNotAnswerIsSaid();
     void serverKilledWhilePublishing();
 
@@ -289,13 +291,14 @@ private Q_SLOTS:
     void connectionViewLeavesOneWindow();
 
 private:
+    /// Creates an account and waits until it is connected.
     bool add(const QString &login, bool remember = true)
     {
-        const auto fillIn = [remember](QWidget *window) {
-            KirvWindows::child<QAbstractButton>(window, "AddAccount_RememberPasswordCheckbox")->setChecked(remember);
-        };
-        return windows->add(xmpp, here, login, secret, fillIn)
-            && QTest::qWaitFor([this, &login] { return isConnected(login); }, patience);
+        KirvProtocol *protocol = KirvPluginManager::getInstance()->getProtocolByName(xmpp);
+        KirvAccountManager::getInstance()->createAccount(login, login, secret, remember, protocol,
+                                                         protocol->createPresenceWithId("available", QString()),
+                                                         protocol->getConfigurationFields(here));
+        return QTest::qWaitFor([this, &login] { return windows->row(login) && isConnected(login); }, patience);
     }
     bool isConnected(const QString &login) const { return windows->state(login) == QLatin1String("Connected"); }
     QDialog *editDirectory()
@@ -528,9 +531,7 @@ void tst_editing_in_windows::settingsAreUsedAtTheNextLogIn()
     QVERIFY(windows->save(window));
     QVERIFY(isConnected(ann));
 
-    windows->client->connectionView()->setCurrentAccount(windows->account(ann));
-    windows->showPage(1);
-    KirvWalk::click(windows->child<QPushButton>(windows->client->connectionView(), "Connections_ReconnectButton"));
+    windows->reconnect(ann);
     TRY(isConnected(ann) && juliet->presenceOf(ann).priority() == 7);
 }
 
@@ -664,7 +665,7 @@ void tst_editing_in_windows::pictureThatVanishedIsSaid()
     const QString avatar = windows->account(ann)->getCurrentAvatarPath();
     // Looked at by the picker, and gone before the account could take it.
     Q_EMIT window->findChild<KirvAvatarQuickSetWidget *>()->imageSelected(files.filePath("vanished.png"));
-    TRY_SAYS(windows->client->window()->messageBar()->messages().join(' '), "vanished.png");
+    TRY_SAYS(windows->messages(), "vanished.png");
     QCOMPARE(windows->account(ann)->getCurrentAvatarPath(), avatar);
     QVERIFY(QFile::exists(avatar));
     QVERIFY(windows->save(window));
@@ -838,6 +839,25 @@ void tst_editing_in_windows::fieldsAreLockedWhileTheServerIsAsked()
     TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(status(window), QString());
+}
+
+void tst_editing_in_windows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
+{
+    QVERIFY(add(ann));
+    QVERIFY(publishElsewhere(fullEntry("1")));
+    Silence silence(server);
+    QVERIFY(silence.holds());
+    QDialog *window = editDirectory();
+    QVERIFY(window);
+    int answers = 0;
+    connect(windows->account(ann)->connection(), &KirvConnection::directoryAnswered, window, [&answers] { ++answers; });
+    KirvWalk::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
+    TRY(answers == 1); // the first one, which was replaced
+    QVERIFY(isLocked(window));
+    QVERIFY(!status(window).isEmpty());
+    silence.end();
+    TRY(!isLocked(window));
+    QCOMPARE(shownEntry(window), fullEntry("1"));
 }
 
 void tst_editing_in_windows::serverThatDoesNotAnswerIsSaid()
