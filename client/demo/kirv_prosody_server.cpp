@@ -16,6 +16,14 @@ QString quoted(const QString &text)
     return QLatin1Char('"') + escaped + QLatin1Char('"');
 }
 
+QString quotedList(const QStringList &texts)
+{
+    QStringList list;
+    for (const QString &text : texts)
+        list << quoted(text);
+    return list.join(QStringLiteral(", "));
+}
+
 QString truth(bool value)
 {
     return value ? QStringLiteral("true") : QStringLiteral("false");
@@ -57,9 +65,6 @@ bool KirvProsodyServer::writeConfiguration()
     QStringList modules { "roster", "saslauth", "disco", "vcard", "register", "ping", "admin_shell" };
     if (options.offersEncryption)
         modules << QStringLiteral("tls");
-    for (QString &module : modules)
-        module = quoted(module);
-
     const QStringList lines {
         QStringLiteral("run_as_root = true"),
         QStringLiteral("data_path = %1").arg(quoted(home.filePath(QStringLiteral("data")))),
@@ -67,15 +72,14 @@ bool KirvProsodyServer::writeConfiguration()
         QStringLiteral("certificates = %1").arg(quoted(home.path())),
         QStringLiteral("interfaces = { %1 }").arg(quoted(host())),
         QStringLiteral("c2s_ports = { %1 }").arg(port()),
-        QStringLiteral("modules_enabled = { %1 }").arg(modules.join(QStringLiteral(", "))),
-        QStringLiteral("modules_disabled = { \"s2s\" }"),
+        QStringLiteral("modules_enabled = { %1 }").arg(quotedList(modules)),
+        QStringLiteral("modules_disabled = { %1 }").arg(quotedList(options.disabledModules + QStringList("s2s"))),
         QStringLiteral("authentication = \"internal_plain\""),
         QStringLiteral("allow_registration = %1").arg(truth(options.allowsRegistration)),
         QStringLiteral("c2s_require_encryption = %1")
             .arg(truth(options.offersEncryption && options.requiresEncryption)),
         QStringLiteral("allow_unencrypted_plain_auth = %1").arg(truth(!options.offersEncryption)),
         QStringLiteral("log = { info = \"*console\" }"),
-        options.extraConfiguration,
         QStringLiteral("VirtualHost %1").arg(quoted(domain())),
     };
     return writeFile(QStringLiteral("prosody.cfg.lua"), lines.join(QLatin1Char('\n')).toUtf8() + '\n');

@@ -13,7 +13,7 @@ public:
         bool offersEncryption = true; ///< with a certificate of its own making, which nobody trusts yet
         bool requiresEncryption = true; ///< only together with offersEncryption
         bool allowsRegistration = true;
-        QString extraConfiguration; ///< further lines, put before the domain
+        QStringList disabledModules; ///< in addition to those that a private server has no use for
     };
 
     KirvProsodyServer();

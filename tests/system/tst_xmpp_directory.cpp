@@ -277,7 +277,7 @@ void TestXmppDirectory::requestOfAnAccountThatIsOffLineIsAnswered()
 void TestXmppDirectory::refusedRequestIsAnswered()
 {
     KirvProsodyServer::Options options;
-    options.extraConfiguration = "modules_disabled = { \"s2s\", \"vcard\" }";
+    options.disabledModules << "vcard";
     KirvProsodyServer without(options);
     QVERIFY2(without.start() && without.addUser("romeo", "secret"), qPrintable(without.errorString()));
     XmppProfile::setValue(romeo, "port", QString::number(without.port()));
