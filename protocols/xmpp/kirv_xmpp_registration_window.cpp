@@ -14,7 +14,9 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -50,6 +52,28 @@ QLabel *createPlainLabel(const QString &objectName, QWidget *parent)
     label->setWordWrap(true);
     return label;
 }
+
+/// Shows the form of a server whole as long as there is room; a longer one scrolls up and down only.
+class FormArea : public QScrollArea {
+public:
+    explicit FormArea(QWidget *parent)
+        : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint() + spaceForScrollBar(); }
+    QSize minimumSizeHint() const override
+    {
+        const QSize narrowest = widget()->minimumSizeHint() + spaceForScrollBar();
+        return QSize(narrowest.width(), QScrollArea::minimumSizeHint().height());
+    }
+
+private:
+    QSize spaceForScrollBar() const { return QSize(verticalScrollBar()->sizeHint().width(), 0); }
+};
 
 QPixmap readPicture(const QByteArray &data)
 {
@@ -143,15 +167,14 @@ QWidget *KirvXmppRegistrationWindow::createFormPage()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(instructions);
     layout->addLayout(pictureLayout);
-    layout->addWidget(formFields, 1);
+    layout->addWidget(formFields);
     layout->addWidget(rememberBox);
+    layout->addStretch();
 
-    auto *area = new QScrollArea(this);
-    area->setObjectName(QStringLiteral("XmppRegistration_Form"));
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(page);
-    return area;
+    formArea = new FormArea(this);
+    formArea->setObjectName(QStringLiteral("XmppRegistration_Form"));
+    formArea->setWidget(page);
+    return formArea;
 }
 
 QWidget *KirvXmppRegistrationWindow::createButtons()
@@ -245,6 +268,15 @@ void KirvXmppRegistrationWindow::showForm(const KirvXmppRegistrationForm &receiv
     else
         showMessage(isAnother ? tr("The server has a new form. Check it and register again.") : QString());
     formFields->setFocus();
+    // When all that is new has found its size.
+    QMetaObject::invokeMethod(this, &KirvXmppRegistrationWindow::growToForm, Qt::QueuedConnection);
+}
+
+void KirvXmppRegistrationWindow::growToForm()
+{
+    formArea->updateGeometry();
+    const QSize available = screen()->availableGeometry().size() * 9 / 10;
+    resize(size().expandedTo(sizeHint().boundedTo(available)));
 }
 
 void KirvXmppRegistrationWindow::showPictures()

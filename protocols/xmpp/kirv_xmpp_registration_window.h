@@ -43,6 +43,7 @@ private:
     void askForForm();
     void submit();
     void showForm(const KirvXmppRegistrationForm &form);
+    void growToForm();
     void showPictures();
     void createAccount();
 
@@ -62,6 +63,7 @@ private:
     QStackedWidget *pages = nullptr;
     QComboBox *configurationBox = nullptr;
     KirvFieldWidget *serverFields = nullptr;
+    QScrollArea *formArea = nullptr;
     QLabel *instructions = nullptr;
     QVBoxLayout *pictureLayout = nullptr;
     KirvFieldWidget *formFields = nullptr;

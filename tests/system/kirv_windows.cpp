@@ -19,6 +19,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -27,6 +28,23 @@ namespace {
 
 enum Page { AccountsPage, ConnectionsPage, PluginsPage };
 enum Column { AliasColumn, ProtocolColumn, IdColumn };
+
+/// Waits until the window has arranged itself and \a widget is what the mouse would meet there.
+bool scrollTo(QWidget *widget)
+{
+    return QTest::qWaitFor(
+        [widget] {
+            QWidget *window = widget->window();
+            const auto areas = window->findChildren<QScrollArea *>();
+            for (QScrollArea *area : areas) {
+                if (area->isAncestorOf(widget))
+                    area->ensureWidgetVisible(widget);
+            }
+            QWidget *met = window->childAt(widget->mapTo(window, widget->rect().center()));
+            return met && (met == widget || widget->isAncestorOf(met));
+        },
+        patience);
+}
 
 } // namespace
 
@@ -129,7 +147,8 @@ bool KirvWindows::save(QDialog *editWindow)
 void KirvWindows::fill(QWidget *window, const QString &id, const QString &value)
 {
     auto *field = child<QWidget>(window, qPrintable(QStringLiteral("KirvField_") + id));
-    field->setFocus(); // scrolls there
+    if (!scrollTo(field))
+        qWarning("The field %s cannot be seen.", qPrintable(id));
     if (auto *box = qobject_cast<QComboBox *>(field)) {
         KirvWalk::choose(box, value);
         return;
