@@ -850,12 +850,12 @@
         <translation>Erforderlich (TLS)</translation>
     </message>
     <message>
-        <source>None: everybody on the way can read along</source>
-        <translation>Keine: Jeder auf dem Weg kann mitlesen</translation>
+        <source>None</source>
+        <translation>Keine</translation>
     </message>
     <message>
-        <source>With encryption the server must also prove who it is.</source>
-        <translation>Mit Verschlüsselung muss der Server auch beweisen, wer er ist.</translation>
+        <source>With encryption the server must also prove who it is. Without, everybody on the way can read along.</source>
+        <translation>Mit Verschlüsselung muss der Server auch beweisen, wer er ist. Ohne kann jeder auf dem Weg mitlesen.</translation>
     </message>
     <message>
         <source>Trusted certificate</source>

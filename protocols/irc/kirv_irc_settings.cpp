@@ -155,10 +155,10 @@ QList<KirvField> KirvIrcSettings::defaultFields()
                                "the @ is the server.")),
         KirvField::number(tr("Port"), QLatin1String(portId), encryptedPort, 1, 65535,
                           tr("Usually 6697 with encryption and 6667 without.")),
-        KirvField::choice(tr("Encryption"), QLatin1String(encryptionId), QLatin1String(required),
-                          { QLatin1String(required), QLatin1String(none) },
-                          { tr("Required (TLS)"), tr("None: everybody on the way can read along") },
-                          tr("With encryption the server must also prove who it is.")),
+        KirvField::choice(
+            tr("Encryption"), QLatin1String(encryptionId), QLatin1String(required),
+            { QLatin1String(required), QLatin1String(none) }, { tr("Required (TLS)"), tr("None") },
+            tr("With encryption the server must also prove who it is. Without, everybody on the way can read along.")),
         KirvField::textEdit(tr("Trusted certificate"), QLatin1String(certificateId), QString(),
                             tr("The path of a file with a certificate (PEM) to trust besides those that this "
                                "computer trusts already.")),
