@@ -463,16 +463,14 @@ private Q_SLOTS:
         QTest::newRow("a read-only folder") << "" << 0500 << true;
         QTest::newRow("a read-only database") << databaseName << 0400 << true;
         QTest::newRow("a read-only avatar folder that is not there") << "avatars" << 0 << true;
-        QTest::newRow("the folder of somebody else") << "" << 0755 << false;
+        if (::geteuid() == 0) // nobody else can give a folder away
+            QTest::newRow("the folder of somebody else") << "" << 0755 << false;
     }
     void aProfileThatCannotBeWrittenIsRefused()
     {
         QFETCH(QString, place);
         QFETCH(int, permissions);
         QFETCH(bool, isOurs);
-        const bool isSuperuser = ::geteuid() == 0;
-        if (!isOurs && !isSuperuser)
-            QSKIP("Only the superuser can make a folder of somebody else.");
         makeProfile(3);
         if (place == QLatin1String("avatars")) { // a file is where the folder should be
             QVERIFY(QDir(folder).rmdir(place));
@@ -480,7 +478,7 @@ private Q_SLOTS:
         } else {
             QCOMPARE(::chmod(QFile::encodeName(QDir(folder).filePath(place)).constData(), mode_t(permissions)), 0);
         }
-        if (isSuperuser) {
+        if (::geteuid() == 0) { // the other program gives up being the superuser, who may write anywhere
             QCOMPARE(::chmod(QFile::encodeName(home->path()).constData(), 0755), 0);
             for (const QString &path : filesIn(folder).keys() + QStringList(folder)) {
                 if (isOurs)
