@@ -8,7 +8,7 @@
 #include "client/kirv_application.h"
 #include "client/kirv_client.h"
 #include "client/kirv_settings_window.h"
-#include "core/settings/kirv_store.h"
+#include "core/store/kirv_store.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -79,7 +79,7 @@ void createProfile(const QString &folder, int accountCount)
     KirvStore store;
     bool good = store.open(folder) && store.begin();
     for (int i = 0; good && i < accountCount; ++i) {
-        KirvStore::Account account;
+        KirvAccountRecord account;
         account.key = { QStringLiteral("user%1@example.org").arg(i), accountProtocol };
         account.alias = QStringLiteral("Account %1").arg(i);
         account.enabled = false;

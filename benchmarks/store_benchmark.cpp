@@ -5,10 +5,10 @@
 #include "protocols/example/kirv_example_protocol.h"
 
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/plugins/kirv_plugin_registry.h"
-#include "core/settings/kirv_settings_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_client_settings.h"
+#include "core/store/kirv_store.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -34,9 +34,9 @@ public:
     {
         if (!store.open(folder) || !addAccounts())
             qFatal("The profile cannot be made: %s", qPrintable(store.lastError()));
-        settings = std::make_unique<KirvSettingsRegistry>(store);
-        plugins = std::make_unique<KirvPluginRegistry>();
-        accounts = std::make_unique<KirvAccountRegistry>(store);
+        settings = std::make_unique<KirvClientSettings>(store);
+        plugins = std::make_unique<KirvPluginLoader>();
+        accounts = std::make_unique<KirvAccountCollection>(store);
         auto *example = new KirvExampleProtocol;
         protocol = example;
         plugins->addProtocol(example);
@@ -52,7 +52,7 @@ private:
     {
         bool good = store.begin();
         for (int i = 0; good && i < accountCount; ++i) {
-            KirvStore::Account account;
+            KirvAccountRecord account;
             account.key = { accountId(i), KirvExampleProtocol().getName() };
             account.alias = account.key.id;
             account.enabled = false;
@@ -63,9 +63,9 @@ private:
 
     int accountCount;
     KirvStore store;
-    std::unique_ptr<KirvSettingsRegistry> settings;
-    std::unique_ptr<KirvPluginRegistry> plugins;
-    std::unique_ptr<KirvAccountRegistry> accounts;
+    std::unique_ptr<KirvClientSettings> settings;
+    std::unique_ptr<KirvPluginLoader> plugins;
+    std::unique_ptr<KirvAccountCollection> accounts;
 };
 
 /// The medians of one operation.

@@ -3,8 +3,8 @@
 
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_protocol_base.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_protocol_base.h"
 
 namespace {
 /// Null when the account is gone or its protocol is not loaded.
@@ -14,7 +14,7 @@ KirvProtocolBase *protocolOf(KirvAccount *account)
 }
 } // namespace
 
-KirvAccountActionsMenu::KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountRegistry &accounts,
+KirvAccountActionsMenu::KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountCollection &accounts,
                                                QWidget *window, QWidget *parent)
     : QMenu(parent)
     , key(key)
@@ -27,7 +27,7 @@ KirvAccountActionsMenu::KirvAccountActionsMenu(const KirvAccountKey &key, KirvAc
     connect(this, &QMenu::aboutToShow, this, &KirvAccountActionsMenu::fill);
 }
 
-bool KirvAccountActionsMenu::isUseful(const KirvAccountKey &key, const KirvAccountRegistry &accounts)
+bool KirvAccountActionsMenu::isUseful(const KirvAccountKey &key, const KirvAccountCollection &accounts)
 {
     KirvAccount *account = accounts.find(key);
     const KirvProtocolBase *protocol = protocolOf(account);

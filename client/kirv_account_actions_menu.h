@@ -2,11 +2,11 @@
 #ifndef KIRV_ACCOUNT_ACTIONS_MENU_H
 #define KIRV_ACCOUNT_ACTIONS_MENU_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QMenu>
 
-class KirvAccountRegistry;
+class KirvAccountCollection;
 
 /// The commands that a protocol offers for one account beyond the ordinary ones, asked for each time the menu
 /// opens.
@@ -15,17 +15,17 @@ class KirvAccountActionsMenu : public QMenu {
 
 public:
     /// \a accounts is not owned and outlives the menu. \a window is the parent for what a command asks.
-    KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountRegistry &accounts, QWidget *window, QWidget *parent);
+    KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountCollection &accounts, QWidget *window, QWidget *parent);
 
     /// Whether the protocol has any command for the account.
-    static bool isUseful(const KirvAccountKey &key, const KirvAccountRegistry &accounts);
+    static bool isUseful(const KirvAccountKey &key, const KirvAccountCollection &accounts);
 
 private:
     void fill();
     void run(const QString &actionId);
 
     const KirvAccountKey key;
-    KirvAccountRegistry &accounts;
+    KirvAccountCollection &accounts;
     QWidget *window;
 };
 

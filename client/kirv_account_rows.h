@@ -2,7 +2,7 @@
 #ifndef KIRV_ACCOUNT_ROWS_H
 #define KIRV_ACCOUNT_ROWS_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QPointer>
 

@@ -11,12 +11,12 @@
 #include "client/kirv_registration.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_registry.h"
-#include "core/settings/kirv_settings_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_client_settings.h"
+#include "core/store/kirv_store.h"
 #include "core/ui/kirv_layout_catalog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "edit_account/kirv_pubdir_account_received_event.h"
@@ -105,9 +105,9 @@ bool KirvClient::openStore()
 
 void KirvClient::createServices()
 {
-    settingsRegistry = std::make_unique<KirvSettingsRegistry>(*store);
-    accountRegistry = std::make_unique<KirvAccountRegistry>(*store);
-    pluginRegistry = std::make_unique<KirvPluginRegistry>();
+    settingsRegistry = std::make_unique<KirvClientSettings>(*store);
+    accountRegistry = std::make_unique<KirvAccountCollection>(*store);
+    pluginRegistry = std::make_unique<KirvPluginLoader>();
     layouts = std::make_unique<KirvLayoutCatalog>();
     const QDir profile(options.profileFolder);
     settingsRegistry->setThemeFolder(profile.filePath(QStringLiteral("themes")));
@@ -140,14 +140,14 @@ void KirvClient::createWindow()
 
 void KirvClient::connectServices()
 {
-    connect(accountRegistry.get(), &KirvAccountRegistry::accountAdded, this, &KirvClient::accountAdded);
-    connect(accountRegistry.get(), &KirvAccountRegistry::accountRemoved, this, &KirvClient::accountRemoved);
-    connect(accountRegistry.get(), &KirvAccountRegistry::accountChanged, this, &KirvClient::accountChanged);
-    connect(accountRegistry.get(), &KirvAccountRegistry::directoryAnswered, this, &KirvClient::deliverDirectoryAnswer);
-    connect(accountRegistry.get(), &KirvAccountRegistry::noticeReceived, this, &KirvClient::showNotice);
-    connect(accountRegistry.get(), &KirvAccountRegistry::problemOccurred, this, &KirvClient::showProblem);
-    connect(pluginRegistry.get(), &KirvPluginRegistry::protocolLoaded, this, &KirvClient::protocolLoaded);
-    connect(pluginRegistry.get(), &KirvPluginRegistry::protocolAboutToBeUnloaded, this,
+    connect(accountRegistry.get(), &KirvAccountCollection::accountAdded, this, &KirvClient::accountAdded);
+    connect(accountRegistry.get(), &KirvAccountCollection::accountRemoved, this, &KirvClient::accountRemoved);
+    connect(accountRegistry.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
+    connect(accountRegistry.get(), &KirvAccountCollection::directoryAnswered, this, &KirvClient::deliverDirectoryAnswer);
+    connect(accountRegistry.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
+    connect(accountRegistry.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showProblem);
+    connect(pluginRegistry.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
+    connect(pluginRegistry.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);
 }
 

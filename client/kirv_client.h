@@ -3,7 +3,7 @@
 #define KIRV_CLIENT_H
 
 #include "client/kirv_client_options.h"
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QList>
 #include <QObject>
@@ -11,7 +11,7 @@
 #include <memory>
 
 class KirvAccount;
-class KirvAccountRegistry;
+class KirvAccountCollection;
 class KirvAccountRows;
 class KirvAccountsTab;
 class KirvConnectionView;
@@ -19,10 +19,10 @@ class KirvEditWindowKeeper;
 class KirvField;
 class KirvLayoutCatalog;
 class KirvPasswordQuestions;
-class KirvPluginRegistry;
+class KirvPluginLoader;
 class KirvPluginsPage;
 class KirvProtocolBase;
-class KirvSettingsRegistry;
+class KirvClientSettings;
 class KirvSettingsWindow;
 class KirvStore;
 
@@ -44,9 +44,9 @@ public:
 
     // What follows exists once start() has given true.
     KirvStore &profile() const { return *store; }
-    KirvAccountRegistry &accounts() const { return *accountRegistry; }
-    KirvPluginRegistry &plugins() const { return *pluginRegistry; }
-    KirvSettingsRegistry &settings() const { return *settingsRegistry; }
+    KirvAccountCollection &accounts() const { return *accountRegistry; }
+    KirvPluginLoader &plugins() const { return *pluginRegistry; }
+    KirvClientSettings &settings() const { return *settingsRegistry; }
     KirvSettingsWindow *window() const { return settingsWindow.get(); }
     KirvAccountsTab *accountsPage() const;
     KirvConnectionView *connectionView() const;
@@ -78,9 +78,9 @@ private:
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;
-    std::unique_ptr<KirvSettingsRegistry> settingsRegistry;
-    std::unique_ptr<KirvAccountRegistry> accountRegistry;
-    std::unique_ptr<KirvPluginRegistry> pluginRegistry;
+    std::unique_ptr<KirvClientSettings> settingsRegistry;
+    std::unique_ptr<KirvAccountCollection> accountRegistry;
+    std::unique_ptr<KirvPluginLoader> pluginRegistry;
     std::unique_ptr<KirvLayoutCatalog> layouts;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
     std::unique_ptr<KirvAccountRows> rows;

@@ -52,19 +52,15 @@ KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &argument
                                      tr("folder"));
     const QCommandLineOption plugins(QStringLiteral("plugins"), tr("Load the protocol plug-ins of <folder>."),
                                      tr("folder"));
-    const QCommandLineOption demo(
-        QStringLiteral("demo"),
-        tr("Try it without an account: a throw-away profile and private servers on this computer."));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Accounts of several instant-messaging protocols in one place."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({ profile, plugins, demo });
+    parser.addOptions({ profile, plugins });
     parser.process(arguments);
 
     KirvClientOptions options = defaults();
-    options.demo = parser.isSet(demo);
     if (parser.isSet(profile))
         options.profileFolder = folderOf(parser, profile);
     if (parser.isSet(plugins))

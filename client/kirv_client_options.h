@@ -13,7 +13,6 @@ struct KirvClientOptions {
 public:
     QString profileFolder;
     QString pluginFolder;
-    bool demo = false;
 
     /// The person's own profile and the plug-ins that came with the program.
     static KirvClientOptions defaults();

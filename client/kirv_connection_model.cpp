@@ -3,8 +3,8 @@
 
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
 #include "host/kirv_protocol.h"
 
 #include <QFont>
@@ -19,16 +19,16 @@ QString sinceText(const QDateTime &time)
 }
 } // namespace
 
-KirvConnectionModel::KirvConnectionModel(KirvAccountRegistry &accounts, QObject *parent)
+KirvConnectionModel::KirvConnectionModel(KirvAccountCollection &accounts, QObject *parent)
     : QAbstractTableModel(parent)
     , accounts(accounts)
 {
     const QList<KirvAccount *> present = accounts.accounts();
     for (KirvAccount *account : present)
         append(account);
-    connect(&accounts, &KirvAccountRegistry::accountAdded, this, &KirvConnectionModel::append);
-    connect(&accounts, &KirvAccountRegistry::accountAboutToBeRemoved, this, &KirvConnectionModel::remove);
-    connect(&accounts, &KirvAccountRegistry::accountChanged, this, &KirvConnectionModel::refresh);
+    connect(&accounts, &KirvAccountCollection::accountAdded, this, &KirvConnectionModel::append);
+    connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this, &KirvConnectionModel::remove);
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvConnectionModel::refresh);
 }
 
 int KirvConnectionModel::rowCount(const QModelIndex &parent) const

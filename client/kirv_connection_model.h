@@ -8,7 +8,7 @@
 #include <QVector>
 
 class KirvAccount;
-class KirvAccountRegistry;
+class KirvAccountCollection;
 
 /// The accounts and the state of their connections, one row each in the registry's order. A change of one
 /// account touches its row only.
@@ -21,7 +21,7 @@ public:
     static constexpr int SortRole = Qt::UserRole;
 
     /// \a accounts is not owned and outlives the model.
-    explicit KirvConnectionModel(KirvAccountRegistry &accounts, QObject *parent = nullptr);
+    explicit KirvConnectionModel(KirvAccountCollection &accounts, QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -45,7 +45,7 @@ private:
     QString text(const KirvAccount &account, int column) const;
     QIcon protocolIcon(const KirvAccount &account) const;
 
-    KirvAccountRegistry &accounts;
+    KirvAccountCollection &accounts;
     QVector<KirvAccount *> rows;
     QHash<const KirvAccount *, int> rowNumbers;
     mutable QHash<QString, QIcon> icons; ///< by path; each file is read once

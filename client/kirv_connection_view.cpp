@@ -5,8 +5,8 @@
 #include "client/kirv_connection_model.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
 #include "host/kirv_protocol.h"
 #include "host/kirv_settings_manager.h"
 
@@ -48,7 +48,7 @@ QMenu *createPresenceMenu(KirvAccount *account, QMenu *parent)
 }
 } // namespace
 
-KirvConnectionView::KirvConnectionView(KirvAccountRegistry &accounts, QWidget *parent)
+KirvConnectionView::KirvConnectionView(KirvAccountCollection &accounts, QWidget *parent)
     : QWidget(parent)
     , accounts(accounts)
     , model(new KirvConnectionModel(accounts, this))

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 class KirvAccount;
-class KirvAccountRegistry;
+class KirvAccountCollection;
 class KirvConnectionModel;
 class QLabel;
 class QPushButton;
@@ -18,7 +18,7 @@ class KirvConnectionView : public QWidget {
 
 public:
     /// \a accounts is not owned and outlives the view.
-    explicit KirvConnectionView(KirvAccountRegistry &accounts, QWidget *parent = nullptr);
+    explicit KirvConnectionView(KirvAccountCollection &accounts, QWidget *parent = nullptr);
 
     /// Another account became the main account.
     void refreshMainAccount();
@@ -41,7 +41,7 @@ private:
     void enterPassword();
     void showMenu(const QPoint &position);
 
-    KirvAccountRegistry &accounts;
+    KirvAccountCollection &accounts;
     KirvConnectionModel *model;
     QSortFilterProxyModel *sorted;
     QTreeView *list;

@@ -4,8 +4,8 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_failure.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/values/kirv_failure.h"
 #include "edit_account/kirv_pubdir_account_received_event.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_protocol.h"
@@ -32,7 +32,7 @@ KirvAccountKey keyFromIdentifier(const QLabel *identifier)
 }
 } // namespace
 
-KirvEditWindowBinding::KirvEditWindowBinding(QDialog *window, QObject *controller, KirvAccountRegistry &accounts)
+KirvEditWindowBinding::KirvEditWindowBinding(QDialog *window, QObject *controller, KirvAccountCollection &accounts)
     : QObject(window)
     , window(window)
     , controller(controller)
@@ -46,7 +46,7 @@ KirvEditWindowBinding::KirvEditWindowBinding(QDialog *window, QObject *controlle
     connect(window, &QDialog::finished, window, &QDialog::deleteLater);
     // The page deletes the controller of the window before when it opens the next one.
     connect(controller, &QObject::destroyed, this, &KirvEditWindowBinding::close);
-    connect(&accounts, &KirvAccountRegistry::accountChanged, this, &KirvEditWindowBinding::accountChanged);
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvEditWindowBinding::accountChanged);
     if (const KirvAccount *account = accounts.find(accountKey)) {
         wasLoggedIn = account->isLoggedIn();
         knownPassword = account->getPassword();

@@ -2,14 +2,14 @@
 #ifndef KIRV_EDIT_WINDOW_BINDING_H
 #define KIRV_EDIT_WINDOW_BINDING_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QDateTime>
 #include <QObject>
 #include <QPointer>
 
 class KirvAccount;
-class KirvAccountRegistry;
+class KirvAccountCollection;
 class QDialog;
 class QLabel;
 class QLineEdit;
@@ -23,7 +23,7 @@ class KirvEditWindowBinding : public QObject {
 
 public:
     /// \a window is the edit window, fully built, \a controller its edit dialog. \a accounts outlives both.
-    KirvEditWindowBinding(QDialog *window, QObject *controller, KirvAccountRegistry &accounts);
+    KirvEditWindowBinding(QDialog *window, QObject *controller, KirvAccountCollection &accounts);
     ~KirvEditWindowBinding() override;
 
     /// The account that the window edits.
@@ -49,7 +49,7 @@ private:
 
     QDialog *window;
     QPointer<QObject> controller;
-    KirvAccountRegistry &accounts;
+    KirvAccountCollection &accounts;
     KirvAccountKey accountKey;
     QTabWidget *tabs;
     QLineEdit *passwordEdit;

@@ -4,20 +4,20 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_edit_window_binding.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 
 #include <QChildEvent>
 #include <QDialog>
 #include <QMessageBox>
 
-KirvEditWindowKeeper::KirvEditWindowKeeper(KirvAccountsTab *page, KirvAccountRegistry &accounts, QObject *parent)
+KirvEditWindowKeeper::KirvEditWindowKeeper(KirvAccountsTab *page, KirvAccountCollection &accounts, QObject *parent)
     : QObject(parent)
     , page(page)
     , accounts(accounts)
 {
     page->installEventFilter(this);
-    connect(&accounts, &KirvAccountRegistry::accountAboutToBeRemoved, this,
+    connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this,
             [this](KirvAccount *account) { close(account->key()); });
 }
 

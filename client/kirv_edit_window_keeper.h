@@ -2,14 +2,14 @@
 #ifndef KIRV_EDIT_WINDOW_KEEPER_H
 #define KIRV_EDIT_WINDOW_KEEPER_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QObject>
 #include <QPointer>
 #include <functional>
 
 class KirvAccount;
-class KirvAccountRegistry;
+class KirvAccountCollection;
 class KirvAccountsTab;
 class KirvEditWindowBinding;
 
@@ -20,7 +20,7 @@ class KirvEditWindowKeeper : public QObject {
 
 public:
     /// \a accounts is not owned; it outlives the keeper and the windows.
-    KirvEditWindowKeeper(KirvAccountsTab *page, KirvAccountRegistry &accounts, QObject *parent = nullptr);
+    KirvEditWindowKeeper(KirvAccountsTab *page, KirvAccountCollection &accounts, QObject *parent = nullptr);
 
     /// Opens the edit window of \a account, after closing one that is still open. Does nothing while the
     /// account's protocol is not loaded.
@@ -38,7 +38,7 @@ private:
     void closeIf(const std::function<bool(const KirvEditWindowBinding &)> &condition);
 
     QPointer<KirvAccountsTab> page;
-    KirvAccountRegistry &accounts;
+    KirvAccountCollection &accounts;
 };
 
 #endif

@@ -2,7 +2,7 @@
 #ifndef KIRV_PASSWORD_DIALOG_H
 #define KIRV_PASSWORD_DIALOG_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QDialog>
 

@@ -3,17 +3,17 @@
 
 #include "client/kirv_password_dialog.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
+#include "core/accounts/kirv_account_collection.h"
 
 #include <algorithm>
 
-KirvPasswordQuestions::KirvPasswordQuestions(KirvAccountRegistry &accounts, QWidget *window)
+KirvPasswordQuestions::KirvPasswordQuestions(KirvAccountCollection &accounts, QWidget *window)
     : QObject(window)
     , accounts(accounts)
     , window(window)
 {
-    connect(&accounts, &KirvAccountRegistry::passwordNeeded, this, &KirvPasswordQuestions::ask);
-    connect(&accounts, &KirvAccountRegistry::accountAboutToBeRemoved, this,
+    connect(&accounts, &KirvAccountCollection::passwordNeeded, this, &KirvPasswordQuestions::ask);
+    connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this,
             [this](const KirvAccount *account) { withdraw(account->key()); });
 }
 

@@ -2,14 +2,14 @@
 #ifndef KIRV_PASSWORD_QUESTIONS_H
 #define KIRV_PASSWORD_QUESTIONS_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QList>
 #include <QObject>
 #include <QPointer>
 
 class KirvAccount;
-class KirvAccountRegistry;
+class KirvAccountCollection;
 class KirvPasswordDialog;
 class QWidget;
 
@@ -21,7 +21,7 @@ class KirvPasswordQuestions : public QObject {
 public:
     /// Asks whenever \a accounts, which outlives the questions, needs a password. \a window is the parent of
     /// the dialogs and owns the questions.
-    KirvPasswordQuestions(KirvAccountRegistry &accounts, QWidget *window);
+    KirvPasswordQuestions(KirvAccountCollection &accounts, QWidget *window);
 
     /// Asks for the password of \a account, after the questions asked before; once at a time.
     void ask(const KirvAccount *account);
@@ -33,7 +33,7 @@ private:
     void askNext();
     void answered(int result);
 
-    KirvAccountRegistry &accounts;
+    KirvAccountCollection &accounts;
     QWidget *window;
     QList<KirvAccountKey> waiting;
     QPointer<KirvPasswordDialog> dialog; ///< null while nothing is asked

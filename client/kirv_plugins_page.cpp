@@ -9,7 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-KirvPluginsPage::KirvPluginsPage(KirvPluginRegistry &plugins, const QString &folder, QWidget *parent)
+KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, const QString &folder, QWidget *parent)
     : QWidget(parent)
     , plugins(plugins)
     , list(new QTreeWidget(this))
@@ -63,7 +63,7 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginRegistry &plugins, const QString &fol
     connect(list, &QTreeWidget::currentItemChanged, this, &KirvPluginsPage::updateDetails);
     connect(loadButton, &QPushButton::clicked, this, &KirvPluginsPage::loadCurrent);
     connect(unloadButton, &QPushButton::clicked, this, &KirvPluginsPage::unloadCurrent);
-    connect(&plugins, &KirvPluginRegistry::pluginsChanged, this, &KirvPluginsPage::refresh);
+    connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::refresh);
     refresh();
 }
 

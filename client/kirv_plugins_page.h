@@ -2,7 +2,7 @@
 #ifndef KIRV_PLUGINS_PAGE_H
 #define KIRV_PLUGINS_PAGE_H
 
-#include "core/plugins/kirv_plugin_registry.h"
+#include "core/plugins/kirv_plugin_loader.h"
 
 #include <QWidget>
 
@@ -16,7 +16,7 @@ class KirvPluginsPage : public QWidget {
 
 public:
     /// \a plugins is not owned and outlives the page. \a folder is where they were looked for.
-    KirvPluginsPage(KirvPluginRegistry &plugins, const QString &folder, QWidget *parent = nullptr);
+    KirvPluginsPage(KirvPluginLoader &plugins, const QString &folder, QWidget *parent = nullptr);
 
     /// The state of a plug-in in words.
     static QString stateText(const KirvPluginInfo &plugin);
@@ -29,7 +29,7 @@ private:
     /// Null when no row is current.
     const KirvPluginInfo *current() const;
 
-    KirvPluginRegistry &plugins;
+    KirvPluginLoader &plugins;
     QList<KirvPluginInfo> shown; ///< one per row of the list, in the same order
     QTreeWidget *list;
     QLabel *details;

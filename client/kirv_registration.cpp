@@ -2,13 +2,13 @@
 #include "client/kirv_registration.h"
 
 #include "client/kirv_registration_chooser.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_registry.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_loader.h"
 
 namespace {
 const QLatin1String registerSignal("register_account");
 
-QList<KirvProtocolBase *> offering(const KirvPluginRegistry &plugins)
+QList<KirvProtocolBase *> offering(const KirvPluginLoader &plugins)
 {
     QList<KirvProtocolBase *> protocols = plugins.protocols();
     for (int i = int(protocols.size()) - 1; i >= 0; --i) {
@@ -19,14 +19,14 @@ QList<KirvProtocolBase *> offering(const KirvPluginRegistry &plugins)
 }
 } // namespace
 
-KirvRegistration::KirvRegistration(KirvPluginRegistry &plugins, QWidget *window)
+KirvRegistration::KirvRegistration(KirvPluginLoader &plugins, QWidget *window)
     : QObject(window)
     , plugins(plugins)
     , window(window)
 {
     plugins.setCoreSignalFilter(
         [this](const QString &signal, const QList<KirvArg> &arguments) { return mayPass(signal, arguments); });
-    connect(&plugins, &KirvPluginRegistry::protocolAboutToBeUnloaded, this, [this](KirvProtocolBase *protocol) {
+    connect(&plugins, &KirvPluginLoader::protocolAboutToBeUnloaded, this, [this](KirvProtocolBase *protocol) {
         if (chooser)
             chooser->removeProtocol(protocol->getName());
     });

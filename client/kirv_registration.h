@@ -8,7 +8,7 @@
 #include <QObject>
 #include <QPointer>
 
-class KirvPluginRegistry;
+class KirvPluginLoader;
 class KirvRegistrationChooser;
 class QWidget;
 
@@ -19,7 +19,7 @@ class KirvRegistration : public QObject {
 
 public:
     /// \a plugins is not owned and outlives this. \a window is the parent of what is asked and owns this.
-    KirvRegistration(KirvPluginRegistry &plugins, QWidget *window);
+    KirvRegistration(KirvPluginLoader &plugins, QWidget *window);
     ~KirvRegistration() override;
 
 Q_SIGNALS:
@@ -31,7 +31,7 @@ private:
     void choose();
     void choiceFinished(int result);
 
-    KirvPluginRegistry &plugins;
+    KirvPluginLoader &plugins;
     QWidget *window;
     QPointer<KirvRegistrationChooser> chooser;
 };

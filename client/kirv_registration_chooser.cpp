@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_registration_chooser.h"
 
-#include "core/connection/kirv_protocol_base.h"
+#include "core/protocol/kirv_protocol_base.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

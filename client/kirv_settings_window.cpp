@@ -2,7 +2,7 @@
 #include "client/kirv_settings_window.h"
 
 #include "client/kirv_message_bar.h"
-#include "core/settings/kirv_settings_registry.h"
+#include "core/store/kirv_client_settings.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -16,7 +16,7 @@ namespace {
 const QLatin1String geometryKey("settings_window/geometry");
 }
 
-KirvSettingsWindow::KirvSettingsWindow(KirvSettingsRegistry &settings, QWidget *parent)
+KirvSettingsWindow::KirvSettingsWindow(KirvClientSettings &settings, QWidget *parent)
     : QWidget(parent)
     , settings(settings)
     , banner(new QLabel(this))

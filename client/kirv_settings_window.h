@@ -5,7 +5,7 @@
 #include <QWidget>
 
 class KirvMessageBar;
-class KirvSettingsRegistry;
+class KirvClientSettings;
 class QLabel;
 class QListWidget;
 class QStackedWidget;
@@ -16,7 +16,7 @@ class KirvSettingsWindow : public QWidget {
 
 public:
     /// The window remembers its size in \a settings, which is not owned and outlives the window.
-    explicit KirvSettingsWindow(KirvSettingsRegistry &settings, QWidget *parent = nullptr);
+    explicit KirvSettingsWindow(KirvClientSettings &settings, QWidget *parent = nullptr);
     ~KirvSettingsWindow() override;
 
     /// Adds \a page, which the window then owns; \a title is its name in the list.
@@ -35,7 +35,7 @@ private:
     void restoreSize();
     void fitListToContents();
 
-    KirvSettingsRegistry &settings;
+    KirvClientSettings &settings;
     QLabel *banner;
     KirvMessageBar *messages;
     QListWidget *list;

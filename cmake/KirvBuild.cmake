@@ -21,6 +21,7 @@ endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_INSTALL_RPATH "$ORIGIN") # installed libraries find each other; programs say it differently
+set(KIRV_PRIVATE_LIBRARY_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv")
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
 set(KIRV_PROTOCOL_INSTALL_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv/protocols")
 
@@ -45,7 +46,7 @@ endif()
 function(kirv_add_protocol name)
     cmake_parse_arguments(arg "" "OUTPUT" "" ${ARGN})
     add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS})
-    target_link_libraries(${name} PRIVATE kirv_build_options kirv_core)
+    target_link_libraries(${name} PRIVATE kirv_build_options kirv_protocol)
     set_target_properties(${name} PROPERTIES
         PREFIX "" CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
         LIBRARY_OUTPUT_DIRECTORY "${KIRV_PROTOCOL_OUTPUT_DIRECTORY}"

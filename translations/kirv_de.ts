@@ -231,7 +231,7 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountRegistry</name>
+    <name>KirvAccountCollection</name>
     <message>
         <source>The account &quot;%1&quot; (%2) exists already.</source>
         <translation>Das Konto „%1“ (%2) gibt es schon.</translation>
@@ -283,7 +283,7 @@
     </message>
 </context>
 <context>
-    <name>KirvAvatarPicture</name>
+    <name>KirvBoundedImage</name>
     <message>
         <source>The picture is too large: %1 × %2 pixels. Up to %3 million pixels are possible.</source>
         <translation>Das Bild ist zu groß: %1 × %2 Bildpunkte. Bis zu %3 Millionen sind möglich.</translation>
@@ -1037,7 +1037,7 @@
     </message>
 </context>
 <context>
-    <name>KirvPluginRegistry</name>
+    <name>KirvPluginLoader</name>
     <message>
         <source>The file is not a plug-in library.</source>
         <translation>Die Datei ist keine Modulbibliothek.</translation>

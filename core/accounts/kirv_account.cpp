@@ -1,36 +1,22 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 
-#include "core/accounts/kirv_account_p.h"
-#include "core/accounts/kirv_account_registry_p.h"
+#include "core/store/kirv_store.h"
+
+#include <QDir>
 
 namespace {
 
-bool isSame(const KirvStore::Account &left, const KirvStore::Account &right)
-{
-    return left.isStoredLike(right) && left.password == right.password;
-}
-
-}
-
-QString kirvStoredValue(const KirvField &field)
+/// The stored form of the value of \a field.
+QString storedValue(const KirvField &field)
 {
     if (field.getKind() == KirvField::CheckBox)
         return QLatin1String(field.isChecked() ? "true" : "false");
     return field.getText();
 }
 
-QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields)
-{
-    QMap<QString, QString> values;
-    for (const KirvField &field : fields) {
-        if (field.getKind() != KirvField::Label && !field.getId().isEmpty())
-            values.insert(field.getId(), kirvStoredValue(field));
-    }
-    return values;
-}
-
-KirvField kirvWithStoredValue(KirvField field, const QString &value)
+/// \a field with the value of that form.
+KirvField withStoredValue(KirvField field, const QString &value)
 {
     if (field.getKind() == KirvField::CheckBox)
         field.setChecked(value == QLatin1String("true"));
@@ -39,291 +25,370 @@ KirvField kirvWithStoredValue(KirvField field, const QString &value)
     return field;
 }
 
-KirvAccount::KirvAccount(std::unique_ptr<Private> priv, QObject *parent)
-    : QObject(parent)
-    , d(std::move(priv))
+bool isSame(const std::optional<KirvPresence> &left, const std::optional<KirvPresence> &right)
 {
-    d->account = this;
+    if (!left || !right)
+        return left.has_value() == right.has_value();
+    return left->getId() == right->getId() && left->getDescription() == right->getDescription();
+}
+
+} // namespace
+
+QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields)
+{
+    QMap<QString, QString> values;
+    for (const KirvField &field : fields) {
+        if (field.getKind() != KirvField::Label && !field.getId().isEmpty())
+            values.insert(field.getId(), storedValue(field));
+    }
+    return values;
+}
+
+KirvAccount::KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent)
+    : QObject(parent)
+    , profile(store)
+    , current(record)
+    , reconciler([this] { return wanted(); })
+{
+    refreshDescription();
+    connect(&reconciler, &KirvReconciler::settled, &entry, &KirvAccountDirectory::connectionSettled);
+    connect(
+        &entry, &KirvAccountDirectory::answered, this,
+        [this](KirvAccountDirectory::Operation, const KirvDirectoryAnswer &answer) { onDirectoryAnswered(answer); });
 }
 
 KirvAccount::~KirvAccount()
 {
-    d->abandon();
-}
-
-KirvAccountKey KirvAccount::key() const
-{
-    return d->record.key;
+    entry.disconnect(this);
+    dropConnection();
 }
 
 QString KirvAccount::displayName() const
 {
-    return d->record.alias.isEmpty() ? d->record.key.id : d->record.alias;
+    return current.alias.isEmpty() ? current.key.id : current.alias;
 }
 
-KirvConnection *KirvAccount::connection() const
+bool KirvAccount::change(const std::function<void(KirvAccountRecord &)> &makeChange)
 {
-    return d->connection;
+    beginSave();
+    makeChange(current);
+    return endSave();
 }
 
-bool KirvAccount::isLoaded() const
+void KirvAccount::beginSave()
 {
-    return d->connection;
+    if (saveDepth++ > 0)
+        return;
+    recordBefore = current;
+    presenceBefore = askedPresence;
+    reconciler.hold();
+    entry.hold();
 }
 
-bool KirvAccount::isMainAccount() const
+bool KirvAccount::endSave()
 {
-    return d->registry.mainAccount == this;
+    if (saveDepth == 0 || --saveDepth > 0)
+        return true;
+    const bool isChanged = current != recordBefore || !isSame(askedPresence, presenceBefore);
+    const bool isStored = store();
+    discardUnusedAvatars();
+    refreshDescription();
+    entry.release(isStored);
+    reconciler.release();
+
+    const QPointer<KirvAccount> alive(this);
+    if (isStored && isChanged && !removed)
+        Q_EMIT changed();
+    if (!isStored && alive && !removed)
+        Q_EMIT refused(profile.lastError());
+    return isStored;
 }
 
-bool KirvAccount::remembersPassword() const
+/// Stores the changes of the save that ends, or undoes them.
+bool KirvAccount::store()
 {
-    return d->record.rememberPassword;
+    const bool isSameAsStored = !unstoredPassword && current.isStoredLike(recordBefore);
+    if (!removed && (isSameAsStored || profile.updateAccount(current))) {
+        unstoredPassword = false;
+        return true;
+    }
+    current = recordBefore;
+    askedPresence = presenceBefore;
+    return false;
 }
 
-bool KirvAccount::restoresLastPresence() const
+void KirvAccount::discardUnusedAvatars()
 {
-    return d->record.restorePresence;
+    for (const QString &avatar : qAsConst(importedAvatars)) {
+        if (avatar != current.avatar)
+            profile.discardAvatar(avatar);
+    }
+    importedAvatars.clear();
 }
 
-bool KirvAccount::restoresLastDescription() const
+bool KirvAccount::setAvatar(const QString &path)
 {
-    return d->record.restoreDescription;
+    if (removed)
+        return false;
+    QString avatar;
+    if (!path.isEmpty()) {
+        avatar = profile.importAvatar(path);
+        if (avatar.isEmpty()) {
+            Q_EMIT refused(profile.lastError());
+            return false;
+        }
+    }
+    return change([&](KirvAccountRecord &record) {
+        record.avatar = avatar;
+        if (!avatar.isEmpty())
+            importedAvatars << avatar;
+    });
+}
+
+QString KirvAccount::avatarPath() const
+{
+    return current.avatar.isEmpty() ? QString() : QDir(profile.avatarFolder()).filePath(current.avatar);
+}
+
+QList<KirvField> KirvAccount::settings() const
+{
+    QList<KirvField> fields = loadedProtocol ? loadedProtocol->accountSettings() : QList<KirvField>();
+    for (KirvField &field : fields) {
+        const auto value = current.settings.constFind(field.getId());
+        if (value != current.settings.constEnd())
+            field = withStoredValue(field, *value);
+    }
+    return fields;
+}
+
+bool KirvAccount::setSettings(const QList<KirvField> &fields)
+{
+    const QMap<QString, QString> values = kirvStoredValues(fields);
+    return change([&](KirvAccountRecord &record) {
+        for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+            record.settings.insert(value.key(), value.value());
+    });
+}
+
+bool KirvAccount::setEnabled(bool enabled)
+{
+    if (removed || current.enabled == enabled)
+        return true;
+    const KirvPresence presence = logInPresence();
+    const QPointer<KirvAccount> alive(this);
+    const bool isStored = change([&](KirvAccountRecord &record) {
+        record.enabled = enabled;
+        if (enabled)
+            askedPresence = presence;
+        else
+            askedPresence.reset();
+    });
+    if (alive && isStored && enabled)
+        tryAgain();
+    return isStored;
+}
+
+/// While the protocol is not loaded only the id is known of a presence.
+KirvPresence KirvAccount::createPresence(const QString &id, const QString &description) const
+{
+    return loadedProtocol ? loadedProtocol->presenceWithId(id, description)
+                          : KirvPresence(id, id, QString(), description);
+}
+
+KirvPresence KirvAccount::defaultPresence() const
+{
+    return createPresence(current.defaultPresence, current.defaultDescription);
+}
+
+KirvPresence KirvAccount::startPresence() const
+{
+    const bool hasLast = !current.lastPresence.isEmpty();
+    return createPresence(hasLast && current.restorePresence ? current.lastPresence : current.defaultPresence,
+                          hasLast && current.restoreDescription ? current.lastDescription : current.defaultDescription);
 }
 
 KirvPresence KirvAccount::presence() const
 {
-    return d->askedPresence ? *d->askedPresence : d->startPresence();
+    return askedPresence ? *askedPresence : startPresence();
 }
 
-KirvFailure KirvAccount::lastFailure() const
+/// The presence for a log-in that is wanted explicitly: never an off-line one when there is a better one.
+KirvPresence KirvAccount::logInPresence() const
 {
-    return d->failure;
+    for (const KirvPresence &candidate : { presence(), startPresence() }) {
+        if (!connection() || !connection()->isOfflinePresence(candidate))
+            return candidate;
+    }
+    return defaultPresence();
 }
 
-QDateTime KirvAccount::lastFailureTime() const
+bool KirvAccount::setPresence(const KirvPresence &presence)
 {
-    return d->failureTime;
+    return change([&](KirvAccountRecord &record) {
+        askedPresence = presence;
+        record.lastPresence = presence.getId();
+        record.lastDescription = presence.getDescription();
+    });
+}
+
+void KirvAccount::tryAgain()
+{
+    mayLogIn = true;
+    reconciler.insist(KirvReconciler::Retry);
+}
+
+void KirvAccount::reconnect()
+{
+    mayLogIn = true;
+    askedPresence = logInPresence();
+    reconciler.insist(KirvReconciler::Reconnect);
 }
 
 void KirvAccount::providePassword(const QString &password, bool remember)
 {
     const QPointer<KirvAccount> alive(this);
-    const bool stored = d->change([&](KirvStore::Account &record) {
+    const bool isStored = change([&](KirvAccountRecord &record) {
         record.password = password;
         record.rememberPassword = remember;
     });
-    if (!alive || d->isRemoved)
+    if (!alive || removed)
         return;
-    if (!stored) { // it still serves this run
-        d->record.password = password;
-        d->record.rememberPassword = d->record.rememberPassword && remember;
+    if (!isStored) { // it still serves this run
+        current.password = password;
+        current.rememberPassword = current.rememberPassword && remember;
     }
-    if (d->record.enabled && d->connection)
-        d->goTo(d->logInPresence());
+    askedPresence = logInPresence();
+    tryAgain();
 }
 
-void KirvAccount::beginSave()
+bool KirvAccount::acceptServerPassword(const QString &password)
 {
-    if (d->saveDepth++ == 0)
-        d->recordBefore = d->record;
-}
-
-bool KirvAccount::endSave()
-{
-    if (d->saveDepth == 0 || --d->saveDepth > 0)
-        return true;
-    const bool isChanged = !isSame(d->record, d->recordBefore);
-    const bool isNewAvatar = d->record.avatar != d->recordBefore.avatar;
-    const bool isStored = !d->isRemoved
-        && (d->record.isStoredLike(d->recordBefore) || d->registry.d->taken(d->store.updateAccount(d->record)));
-    if (!isStored)
-        d->record = d->recordBefore;
-    for (const QString &avatar : qAsConst(d->importedAvatars)) {
-        if (avatar != d->record.avatar)
-            d->store.discardAvatar(avatar);
-    }
-    d->importedAvatars.clear();
-    const bool hasNews = std::exchange(d->hasNews, false) || (isStored && isChanged);
-    d->refreshInfo();
-
-    if (isStored && isNewAvatar && d->connection && d->connection->isLoggedIn())
-        d->connection->publishAvatar();
+    if (connection())
+        connection()->acceptPassword(password);
     const QPointer<KirvAccount> alive(this);
-    if (hasNews)
-        d->tellChanged();
-    if (!isStored && alive && !d->isRemoved)
-        d->registry.reportProblem();
-    return isStored;
+    const bool isStored = change([&](KirvAccountRecord &record) { record.password = password; });
+    if (!alive || isStored || removed)
+        return isStored;
+    current.password = password;
+    unstoredPassword = current.rememberPassword;
+    Q_EMIT changed();
+    return false;
 }
 
-KirvAccount::Private::Private(KirvAccountRegistry &registry, KirvStore &store, const KirvStore::Account &record)
-    : registry(registry)
-    , store(store)
-    , record(record)
+bool KirvAccount::isOnline() const
 {
-    refreshInfo();
+    return current.enabled && !removed && connection() && connection()->isLoggedIn();
 }
 
-void KirvAccount::Private::refreshInfo()
+KirvReconciler::Wanted KirvAccount::wanted() const
 {
-    info = KirvAccountInfo(record.key.id, record.alias, record.enabled);
+    KirvReconciler::Wanted result;
+    result.presence = presence();
+    result.login = { current.key.id, current.password, settings() };
+    result.avatarPath = avatarPath();
+    result.online =
+        mayLogIn && !removed && current.enabled && connection() && !connection()->isOfflinePresence(result.presence);
+    return result;
 }
 
-void KirvAccount::Private::tellChanged()
+void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
 {
-    if (isRemoved)
+    if (connection() || removed)
         return;
-    const QPointer<KirvAccount> alive(account);
-    Q_EMIT account->changed();
-    if (alive && !isRemoved)
-        Q_EMIT registry.accountChanged(account);
-}
-
-void KirvAccount::Private::load(KirvProtocolBase *newProtocol)
-{
-    if (connection || isRemoved)
+    loadedProtocol = protocol;
+    mayLogIn = logIn;
+    KirvConnection *created = protocol->createConnection();
+    if (!created)
         return;
-    protocol = newProtocol;
-    connection = protocol->createConnection(account);
-    if (!connection)
-        return;
-    connection->setParent(account);
-    connection->setWantedPresence(account->presence());
-    protocol->setConnectionOf(account, connection);
-    listenToConnection();
+    created->setParent(this);
+    connectConnection(created);
+    entry.setBlankFields(protocol->directoryFields());
+    entry.setConnection(created);
+    reconciler.setConnection(created);
 }
 
-void KirvAccount::Private::unload()
+void KirvAccount::unload()
 {
-    const QPointer<KirvAccount> alive(account);
-    // Who waits for an answer of the connection gets it now.
-    if (connection)
-        connection->drop();
-    if (alive)
-        abandon();
+    dropConnection();
+    loadedProtocol.clear();
 }
 
-void KirvAccount::Private::abandon()
+void KirvAccount::leave()
 {
-    for (KirvConnection *going : { connection.data(), leavingConnection.data() }) {
-        if (!going)
-            continue;
-        going->blockSignals(true);
-        going->drop();
-        going->blockSignals(false);
-        delete going;
-    }
-    releaseConnection();
-    protocol.clear();
-    if (mayGo)
-        account->deleteLater();
-}
-
-void KirvAccount::Private::leave()
-{
-    isRemoved = true;
-    leavingConnection = connection;
-    releaseConnection();
-    if (!leavingConnection)
-        return;
-    leavingConnection->disconnect(account);
-    leavingConnection->logOut();
-}
-
-void KirvAccount::Private::letGo()
-{
-    mayGo = true;
-    // The account outlives its connection, which may still read from it.
-    if (!leavingConnection || leavingConnection->state() == KirvConnection::Offline) {
-        account->deleteLater();
+    removed = true;
+    if (!connection() || connection()->state() == KirvConnection::Offline) {
+        deleteLater();
         return;
     }
-    connect(leavingConnection, &KirvConnection::stateChanged, account, [this](KirvConnection::State state) {
+    connect(connection(), &KirvConnection::stateChanged, this, [this](KirvConnection::State state) {
         if (state == KirvConnection::Offline)
-            account->deleteLater();
+            deleteLater();
+    });
+    reconciler.wake();
+}
+
+void KirvAccount::connectConnection(KirvConnection *created)
+{
+    connect(created, &KirvConnection::stateChanged, this, &KirvAccount::onStateChanged);
+    connect(created, &KirvConnection::failed, this, &KirvAccount::onFailed);
+    connect(created, &KirvConnection::noticeReceived, this, [this](const QString &text) {
+        if (!removed)
+            Q_EMIT noticeReceived(text);
     });
 }
 
-void KirvAccount::Private::releaseConnection()
+/// Breaks the connection and destroys it; only outstanding requests are answered.
+void KirvAccount::dropConnection()
 {
-    connection.clear();
-    if (protocol)
-        protocol->setConnectionOf(account, nullptr);
+    KirvConnection *dropped = connection();
+    if (!dropped)
+        return;
+    dropped->disconnect(this);
+    reconciler.setConnection(nullptr);
+    entry.setConnection(nullptr);
+    dropped->drop();
+    delete dropped;
+    if (removed)
+        deleteLater();
 }
 
-void KirvAccount::Private::listenToConnection()
+void KirvAccount::onStateChanged(KirvConnection::State state)
 {
-    connect(connection, &KirvConnection::stateChanged, account,
-            [this](KirvConnection::State state) { onStateChanged(state); });
-    connect(connection, &KirvConnection::failed, account, [this](const KirvFailure &failed) { onFailed(failed); });
-    connect(connection, &KirvConnection::directoryAnswered, account,
-            [this](const QList<KirvField> &fields) { onDirectoryAnswered(fields); });
-    connect(connection, &KirvConnection::noticeReceived, account,
-            [this](const QString &text) { Q_EMIT registry.noticeReceived(account, text); });
+    if (removed)
+        return;
+    if (state == KirvConnection::Online)
+        setFailure(KirvFailure());
+    Q_EMIT changed();
 }
 
-void KirvAccount::Private::onStateChanged(KirvConnection::State state)
+void KirvAccount::onFailed(const KirvFailure &failed)
 {
-    if (state == KirvConnection::Online) {
-        failure = KirvFailure();
-        failureTime = QDateTime();
-    }
-    tellChanged();
+    if (removed)
+        return;
+    setFailure(failed);
+    const bool needsPassword = failed.kind() == KirvFailure::PasswordMissing && current.enabled;
+    const QPointer<KirvAccount> alive(this);
+    Q_EMIT changed();
+    if (needsPassword && alive && !removed)
+        Q_EMIT passwordNeeded();
 }
 
-void KirvAccount::Private::onFailed(const KirvFailure &failed)
+void KirvAccount::onDirectoryAnswered(const KirvDirectoryAnswer &answer)
 {
-    failure = failed;
-    failureTime = QDateTime::currentDateTime();
-    const bool asksForPassword = failed.kind() == KirvFailure::PasswordMissing && record.enabled;
-    const QPointer<KirvAccount> alive(account);
-    tellChanged();
-    if (asksForPassword && alive && !isRemoved)
-        Q_EMIT registry.passwordNeeded(account);
+    const bool isRecovered = !answer.failure.isFailure() && failure.isFailure() && isOnline();
+    if (removed || (!answer.failure.isFailure() && !isRecovered))
+        return;
+    setFailure(answer.failure);
+    Q_EMIT changed();
 }
 
-void KirvAccount::Private::onDirectoryAnswered(const QList<KirvField> &fields)
+void KirvAccount::setFailure(const KirvFailure &newFailure)
 {
-    const QPointer<KirvAccount> alive(account);
-    if (!fields.isEmpty() && failure.isFailure() && account->isLoggedIn()) {
-        failure = KirvFailure();
-        failureTime = QDateTime();
-        tellChanged();
-    }
-    if (alive && !isRemoved)
-        Q_EMIT registry.directoryAnswered(account, fields);
+    failure = newFailure;
+    failureTime = failure.isFailure() ? QDateTime::currentDateTime() : QDateTime();
 }
 
-/// While the protocol is away only the id is known of a presence.
-KirvPresence KirvAccount::Private::createPresence(const QString &id, const QString &description) const
+void KirvAccount::refreshDescription()
 {
-    return protocol ? protocol->createPresenceWithId(id, description) : KirvPresence(id, id, QString(), description);
-}
-
-KirvPresence KirvAccount::Private::defaultPresence() const
-{
-    return createPresence(record.defaultPresence, record.defaultDescription);
-}
-
-KirvPresence KirvAccount::Private::startPresence() const
-{
-    const bool hasLast = !record.lastPresence.isEmpty();
-    return createPresence(hasLast && record.restorePresence ? record.lastPresence : record.defaultPresence,
-                          hasLast && record.restoreDescription ? record.lastDescription : record.defaultDescription);
-}
-
-KirvPresence KirvAccount::Private::logInPresence() const
-{
-    for (const KirvPresence &presence : { account->presence(), startPresence() }) {
-        if (!connection->isOfflinePresence(presence))
-            return presence;
-    }
-    return defaultPresence();
-}
-
-void KirvAccount::Private::goTo(const KirvPresence &presence)
-{
-    askedPresence = presence;
-    connection->goTo(presence);
+    description = KirvAccountInfo(current.key.id, current.alias, current.enabled);
 }

@@ -2,61 +2,152 @@
 #ifndef KIRV_ACCOUNT_H
 #define KIRV_ACCOUNT_H
 
-#include "core/accounts/kirv_account_key.h"
+#include "core/accounts/kirv_account_directory.h"
+#include "core/accounts/kirv_reconciler.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/store/kirv_account_record.h"
 #include "host/kirv_account_connection.h"
+#include "host/kirv_account_info.h"
 
 #include <QDateTime>
 #include <QObject>
-#include <memory>
+#include <QPointer>
+#include <QStringList>
+#include <functional>
+#include <optional>
 
-class KirvAccountRegistry;
-class KirvConnection;
-class KirvFailure;
+class KirvStore;
 
-/// One configured account: what stands behind KirvAccountConnection. Owned by the registry; lives as long as
-/// the account is configured, also while its protocol is not loaded.
+/// One configured account: what is stored of it, what is wanted of its connection, and the connection while its
+/// protocol is loaded. What stands behind KirvAccountConnection.
+///
+/// The collection owns it; it lives as long as the account is configured, also while its protocol is not loaded, and
+/// after its removal until it is logged out. Every change is stored before the operation returns, or with the save
+/// that is open; the connection follows from the event loop, after the commit.
+///
+/// A slot connected to one of the signals may remove the account.
 class KirvAccount : public QObject, public KirvAccountConnection {
     Q_OBJECT
 
 public:
+    /// \a store is not owned and outlives the account; \a record is stored in it.
+    KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent = nullptr);
     ~KirvAccount() override;
 
-    KirvAccountKey key() const;
+    const KirvAccountKey &key() const { return current.key; }
     /// The alias, or the account id when the alias is empty.
     QString displayName() const;
-    /// The connection while the protocol is loaded; null otherwise. Owned by the account.
-    KirvConnection *connection() const;
-    bool isLoaded() const;
-    bool isMainAccount() const;
+    /// What is stored, with the changes of the save that is open, and the password also when it is not stored.
+    const KirvAccountRecord &record() const { return current; }
+    KirvAccountInfo *info() { return &description; }
 
-    bool remembersPassword() const;
-    bool restoresLastPresence() const;
-    bool restoresLastDescription() const;
-    /// The current presence as it was asked for last.
+    // Changes. False when the store refused: everything is then as before, and refused() was emitted.
+
+    bool change(const std::function<void(KirvAccountRecord &)> &makeChange);
+    /// Puts several changes into one, from beginSave() to endSave(). Nesting is allowed; the outermost end stores.
+    void beginSave();
+    bool endSave();
+    bool isSaving() const { return saveDepth > 0; }
+    /// Copies the image at \a path into the profile as the avatar; an empty path removes the avatar.
+    bool setAvatar(const QString &path);
+    /// The path of the avatar; empty: none.
+    QString avatarPath() const;
+    /// The protocol's settings in display order; empty while the protocol is not loaded.
+    QList<KirvField> settings() const;
+    bool setSettings(const QList<KirvField> &fields);
+    /// Enabling an account makes it log in, disabling makes it log out.
+    bool setEnabled(bool enabled);
+
+    // What is wanted of the connection.
+
+    KirvPresence defaultPresence() const;
+    /// The present presence as it was wanted last.
     KirvPresence presence() const;
+    bool setPresence(const KirvPresence &presence);
+    /// Logs in with what is stored, also when the connection gave up or waits. Does nothing for a disabled account.
+    void tryAgain();
+    /// The same, and a connection that is logged in logs out first.
+    void reconnect();
+    /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in.
+    void providePassword(const QString &password, bool remember);
+    /// The server has changed the password to \a password. Where the store refuses, the account keeps it for this run,
+    /// so that it can be stored later; the result is false then.
+    bool acceptServerPassword(const QString &password);
+    /// Whether the password is one that acceptServerPassword() could not store.
+    bool hasUnstoredPassword() const { return unstoredPassword; }
+
+    /// The loaded protocol; null while it is not loaded.
+    KirvProtocolBase *protocol() const { return loadedProtocol; }
+    /// The connection while the protocol is loaded; null otherwise. Owned by the account.
+    KirvConnection *connection() const { return reconciler.connection(); }
+    bool isLoaded() const { return connection(); }
+    /// Whether the account is enabled, not removed, and its connection is logged in.
+    bool isOnline() const;
+    KirvAccountDirectory &directory() { return entry; }
 
     /// The last failure of the connection or of a request, and when; None and invalid when there is none.
-    KirvFailure lastFailure() const;
-    QDateTime lastFailureTime() const;
+    KirvFailure lastFailure() const { return failure; }
+    QDateTime lastFailureTime() const { return failureTime; }
 
-    /// Takes the password the user typed for this run (and keeps it when \a remember), then logs in.
-    void providePassword(const QString &password, bool remember);
+    // For the collection.
 
-    /// Puts several changes into one transaction, from beginSave() to endSave(). Nesting is allowed.
-    void beginSave();
-    /// False when the store refused; the account then holds the old values again.
-    bool endSave();
+    /// Creates a connection of \a protocol, which logs in when \a logIn and the account is enabled.
+    void load(KirvProtocolBase *protocol, bool logIn);
+    /// Breaks and destroys the connection.
+    void unload();
+    /// The account is not configured any more: logs out, emits nothing from now on and destroys itself then.
+    void leave();
+    bool isRemoved() const { return removed; }
+    /// The connection is left as it is from now on: the program ends.
+    void stopReconciling() { reconciler.hold(); }
 
 Q_SIGNALS:
+    /// Anything about it changed: what is stored, the state of its connection, the last failure.
     void changed();
+    /// The store did not take a change; \a reason is a sentence for the user.
+    void refused(const QString &reason);
+    /// The account cannot log in without a password. Reply with providePassword().
+    void passwordNeeded();
+    /// The server says something that the user should read although nothing failed.
+    void noticeReceived(const QString &text);
 
 private:
-    friend class KirvAccountConnection;
-    friend class KirvAccountManager;
-    friend class KirvAccountRegistry;
-    class Private;
-    explicit KirvAccount(std::unique_ptr<Private> priv, QObject *parent = nullptr);
-    const std::unique_ptr<Private> d;
+    void refreshDescription();
+    bool store();
+    void discardUnusedAvatars();
+    KirvPresence createPresence(const QString &id, const QString &description) const;
+    KirvPresence startPresence() const;
+    KirvPresence logInPresence() const;
+    KirvReconciler::Wanted wanted() const;
+    void connectConnection(KirvConnection *connection);
+    void dropConnection();
+    void onStateChanged(KirvConnection::State state);
+    void onFailed(const KirvFailure &failed);
+    void onDirectoryAnswered(const KirvDirectoryAnswer &answer);
+    void setFailure(const KirvFailure &newFailure);
+
+    KirvStore &profile;
+    KirvAccountRecord current;
+    KirvAccountInfo description;
+
+    int saveDepth = 0;
+    KirvAccountRecord recordBefore; ///< when the open save began
+    std::optional<KirvPresence> presenceBefore;
+    QStringList importedAvatars; ///< by the open save
+
+    std::optional<KirvPresence> askedPresence; ///< in this run; empty: the stored one
+    bool unstoredPassword = false;
+    bool mayLogIn = true;
+    bool removed = false;
+    KirvFailure failure;
+    QDateTime failureTime;
+
+    QPointer<KirvProtocolBase> loadedProtocol;
+    KirvReconciler reconciler;
+    KirvAccountDirectory entry;
 };
+
+/// \a fields by id in the form in which they are stored, without those that are only there to be read.
+QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields);
 
 #endif

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "host/kirv_avatar_quick_set_widget.h"
 
-#include "core/ui/kirv_avatar_picture.h"
+#include "core/values/kirv_bounded_image.h"
 
 #include <QAbstractButton>
 #include <QClipboard>
@@ -175,7 +175,7 @@ private:
         fileDialog->setAttribute(Qt::WA_DeleteOnClose);
         fileDialog->setFileMode(QFileDialog::ExistingFile);
         fileDialog->setNameFilters(
-            { tr("Pictures (%1)").arg(KirvAvatarPicture::namePatterns().join(QLatin1Char(' '))), tr("All files (*)") });
+            { tr("Pictures (%1)").arg(KirvBoundedImage::namePatterns().join(QLatin1Char(' '))), tr("All files (*)") });
         connect(fileDialog, &QFileDialog::fileSelected, this, [this](const QString &path) { chooseFile(path); });
         fileDialog->open();
     }
@@ -191,11 +191,11 @@ private:
             chooseFile(path);
     }
 
-    void chooseFile(const QString &path) { take(KirvAvatarPicture::fromFile(path), path); }
+    void chooseFile(const QString &path) { take(KirvBoundedImage::fromFile(path), path); }
 
     void chooseImage(const QImage &image)
     {
-        const KirvAvatarPicture chosen = KirvAvatarPicture::fromImage(image);
+        const KirvBoundedImage chosen = KirvBoundedImage::fromImage(image);
         const QString path = chosen.isNull() ? QString() : kept(chosen.image());
         if (!chosen.isNull() && path.isEmpty())
             refuse(tr("The picture cannot be stored on this computer."));
@@ -212,7 +212,7 @@ private:
         return image.save(path, "PNG") ? path : QString();
     }
 
-    void take(const KirvAvatarPicture &chosen, const QString &path)
+    void take(const KirvBoundedImage &chosen, const QString &path)
     {
         if (chosen.isNull()) {
             refuse(chosen.problem());
@@ -263,5 +263,5 @@ KirvAvatarQuickSetWidget::KirvAvatarQuickSetWidget(QWidget *parent)
 
 void KirvAvatarQuickSetWidget::setImage(const QString &path)
 {
-    d->show(path.isEmpty() ? QImage() : KirvAvatarPicture::fromFile(path).image());
+    d->show(path.isEmpty() ? QImage() : KirvBoundedImage::fromFile(path).image());
 }

@@ -2,7 +2,7 @@
 #ifndef KIRV_EXAMPLE_CONNECTION_H
 #define KIRV_EXAMPLE_CONNECTION_H
 
-#include "core/connection/kirv_connection.h"
+#include "core/protocol/kirv_connection.h"
 
 /// A connection to a server that exists in this object only. It answers after the account's latency, accepts
 /// every password but "wrong", and keeps one directory entry.

@@ -70,7 +70,7 @@ QList<KirvField> KirvExampleProtocol::directoryFields() const
     };
 }
 
-KirvConnection *KirvExampleProtocol::createConnection(KirvAccountConnection *account)
+KirvConnection *KirvExampleProtocol::createConnection()
 {
     return new KirvExampleConnection(account);
 }

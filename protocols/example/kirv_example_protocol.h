@@ -2,7 +2,7 @@
 #ifndef KIRV_EXAMPLE_PROTOCOL_H
 #define KIRV_EXAMPLE_PROTOCOL_H
 
-#include "core/connection/kirv_protocol_base.h"
+#include "core/protocol/kirv_protocol_base.h"
 
 /// A protocol without a network, to learn from: its server lives inside the connection and echoes the user's
 /// status text.
@@ -20,7 +20,7 @@ public:
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QList<KirvField> directoryFields() const override;
-    KirvConnection *createConnection(KirvAccountConnection *account) override;
+    KirvConnection *createConnection() override;
 };
 
 #endif

@@ -2,7 +2,7 @@
 #ifndef KIRV_IRC_CONNECTION_H
 #define KIRV_IRC_CONNECTION_H
 
-#include "core/connection/kirv_connection.h"
+#include "core/protocol/kirv_connection.h"
 #include "protocols/irc/kirv_irc_settings.h"
 
 #include <QAbstractSocket>

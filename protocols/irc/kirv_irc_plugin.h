@@ -2,7 +2,7 @@
 #ifndef KIRV_IRC_PLUGIN_H
 #define KIRV_IRC_PLUGIN_H
 
-#include "core/connection/kirv_protocol_plugin.h"
+#include "core/protocol/kirv_protocol_plugin.h"
 
 #include <QObject>
 

@@ -48,7 +48,7 @@ QList<KirvField> KirvIrcProtocol::accountSettings() const
     return KirvIrcSettings::defaultFields();
 }
 
-KirvConnection *KirvIrcProtocol::createConnection(KirvAccountConnection *account)
+KirvConnection *KirvIrcProtocol::createConnection()
 {
     return new KirvIrcConnection(account);
 }

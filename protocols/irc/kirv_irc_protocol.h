@@ -2,7 +2,7 @@
 #ifndef KIRV_IRC_PROTOCOL_H
 #define KIRV_IRC_PROTOCOL_H
 
-#include "core/connection/kirv_protocol_base.h"
+#include "core/protocol/kirv_protocol_base.h"
 
 /// Internet Relay Chat. What a login is and what the settings mean: see KirvIrcSettings. There is no directory.
 class KirvIrcProtocol : public KirvProtocolBase {
@@ -20,7 +20,7 @@ public:
 
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
-    KirvConnection *createConnection(KirvAccountConnection *account) override;
+    KirvConnection *createConnection() override;
 };
 
 #endif

@@ -2,7 +2,7 @@
 #ifndef KIRV_IRC_SASL_H
 #define KIRV_IRC_SASL_H
 
-#include "core/connection/kirv_failure.h"
+#include "core/values/kirv_failure.h"
 
 #include <IrcProtocol>
 #include <QString>

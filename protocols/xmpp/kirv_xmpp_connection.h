@@ -2,7 +2,7 @@
 #ifndef KIRV_XMPP_CONNECTION_H
 #define KIRV_XMPP_CONNECTION_H
 
-#include "core/connection/kirv_connection.h"
+#include "core/protocol/kirv_connection.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 

@@ -2,7 +2,7 @@
 #ifndef KIRV_XMPP_DIRECTORY_H
 #define KIRV_XMPP_DIRECTORY_H
 
-#include "core/connection/kirv_failure.h"
+#include "core/values/kirv_failure.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
 #include <QCoreApplication>

@@ -2,8 +2,8 @@
 #ifndef KIRV_XMPP_LINK_H
 #define KIRV_XMPP_LINK_H
 
-#include "core/connection/kirv_clock.h"
-#include "core/connection/kirv_failure.h"
+#include "core/values/kirv_clock.h"
+#include "core/values/kirv_failure.h"
 
 #include <QDomElement>
 #include <QHash>

@@ -77,7 +77,7 @@ QList<KirvField> KirvXmppProtocol::directoryFields() const
     return KirvXmppVCard::blankFields();
 }
 
-KirvConnection *KirvXmppProtocol::createConnection(KirvAccountConnection *account)
+KirvConnection *KirvXmppProtocol::createConnection()
 {
     return new KirvXmppConnection(account);
 }

@@ -2,7 +2,7 @@
 #ifndef KIRV_XMPP_PROTOCOL_H
 #define KIRV_XMPP_PROTOCOL_H
 
-#include "core/connection/kirv_protocol_base.h"
+#include "core/protocol/kirv_protocol_base.h"
 
 #include <QPointer>
 
@@ -26,7 +26,7 @@ public:
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QList<KirvField> directoryFields() const override;
-    KirvConnection *createConnection(KirvAccountConnection *account) override;
+    KirvConnection *createConnection() override;
 
     /// Answers "register_account" without arguments or with the name of this protocol.
     void handleCoreSignal(const QString &name, const QList<KirvArg> &args) override;

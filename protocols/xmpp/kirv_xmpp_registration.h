@@ -2,8 +2,8 @@
 #ifndef KIRV_XMPP_REGISTRATION_H
 #define KIRV_XMPP_REGISTRATION_H
 
-#include "core/connection/kirv_clock.h"
-#include "core/connection/kirv_failure.h"
+#include "core/values/kirv_clock.h"
+#include "core/values/kirv_failure.h"
 #include "protocols/xmpp/kirv_xmpp_registration_form.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 

@@ -2,8 +2,8 @@
 #ifndef KIRV_FAKE_PROTOCOL_H
 #define KIRV_FAKE_PROTOCOL_H
 
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
 #include "host/kirv_account_connection.h"
 
 #include <QPointer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/store/kirv_store.h"
 #include "host/kirv_account_info.h"
 #include "tests/integration/kirv_fake_protocol.h"
 #include "tests/integration/kirv_profile_files.h"
@@ -37,7 +37,7 @@ private Q_SLOTS:
         QVERIFY(home->isValid());
         store = std::make_unique<KirvStore>();
         QVERIFY(store->open(home->filePath(QStringLiteral("profile"))));
-        registry = std::make_unique<KirvAccountRegistry>(*store);
+        registry = std::make_unique<KirvAccountCollection>(*store);
         protocol = std::make_unique<FakeProtocol>();
         registry->protocolLoaded(protocol.get());
     }
@@ -72,9 +72,9 @@ private Q_SLOTS:
 
     void aNewAccountIsStoredEnabledLoadedAndLoggedIn()
     {
-        QSignalSpy added(registry.get(), &KirvAccountRegistry::accountAdded);
+        QSignalSpy added(registry.get(), &KirvAccountCollection::accountAdded);
         QString callsWhenAdded;
-        connect(registry.get(), &KirvAccountRegistry::accountAdded, this,
+        connect(registry.get(), &KirvAccountCollection::accountAdded, this,
                 [&] { callsWhenAdded = protocol->calls.join(';'); });
         const int commits = store->commitCount();
         KirvAccountConnection *connection = manager().createAccount(
@@ -120,8 +120,8 @@ private Q_SLOTS:
         QFETCH(QString, why);
         QFETCH(bool, isSaid);
         QVERIFY(create("first"));
-        QSignalSpy added(registry.get(), &KirvAccountRegistry::accountAdded);
-        QSignalSpy problems(registry.get(), &KirvAccountRegistry::problemOccurred);
+        QSignalSpy added(registry.get(), &KirvAccountCollection::accountAdded);
+        QSignalSpy problems(registry.get(), &KirvAccountCollection::problemOccurred);
         if (why == QLatin1String("not loaded"))
             registry->protocolAboutToBeUnloaded(fake);
         if (why == QLatin1String("full"))
@@ -290,7 +290,7 @@ private Q_SLOTS:
     void whatTheStoreRefusesDoesNotHappen()
     {
         QVERIFY(create("id"));
-        QSignalSpy problems(registry.get(), &KirvAccountRegistry::problemOccurred);
+        QSignalSpy problems(registry.get(), &KirvAccountCollection::problemOccurred);
         protocol->calls.clear();
         store->close();
         manager().disableAccount("id", fake);
@@ -437,7 +437,7 @@ private Q_SLOTS:
         account("id")->setRememberPassword(false);
         protocol->needsPassword = true;
         asked = 0;
-        restart([&] { connect(registry.get(), &KirvAccountRegistry::passwordNeeded, this, [&] { ++asked; }); });
+        restart([&] { connect(registry.get(), &KirvAccountCollection::passwordNeeded, this, [&] { ++asked; }); });
         QCOMPARE(asked, 1);
         QCOMPARE(account("id")->lastFailure().kind(), KirvFailure::PasswordMissing);
         account("id")->providePassword("told", remember);
@@ -452,7 +452,7 @@ private Q_SLOTS:
     {
         QVERIFY(create("id"));
         manager().disableAccount("id", fake);
-        QSignalSpy problems(registry.get(), &KirvAccountRegistry::problemOccurred);
+        QSignalSpy problems(registry.get(), &KirvAccountCollection::problemOccurred);
         manager().enableAccount("id", fake);
         setPresence("offline");
         store->close();
@@ -468,7 +468,7 @@ private Q_SLOTS:
         QVERIFY(create("id"));
         const int commits = store->commitCount();
         QSignalSpy changed(account("id"), &KirvAccount::changed);
-        QSignalSpy accountChanged(registry.get(), &KirvAccountRegistry::accountChanged);
+        QSignalSpy accountChanged(registry.get(), &KirvAccountCollection::accountChanged);
         account("id")->beginSave();
         changeEverything();
         account("id")->beginSave();
@@ -516,7 +516,7 @@ private Q_SLOTS:
     {
         QVERIFY(create("id"));
         KirvAccount *saved = account("id");
-        QSignalSpy problems(registry.get(), &KirvAccountRegistry::problemOccurred);
+        QSignalSpy problems(registry.get(), &KirvAccountCollection::problemOccurred);
         setStoreFull(true);
         saved->beginSave();
         changeEverything();
@@ -591,7 +591,7 @@ private Q_SLOTS:
         QVERIFY(create("id"));
         account("id")->setAvatar(makePicture(home->filePath("picture.png")));
         const QString old = account("id")->getCurrentAvatarPath();
-        QSignalSpy problems(registry.get(), &KirvAccountRegistry::problemOccurred);
+        QSignalSpy problems(registry.get(), &KirvAccountCollection::problemOccurred);
         account("id")->setAvatar(home->filePath("gone.png"));
         QCOMPARE(problems.size(), 1);
         QVERIFY(problems.first().first().toString().contains("gone.png"));
@@ -619,13 +619,13 @@ private Q_SLOTS:
         account("id")->setAvatar(makePicture(home->filePath("picture.png")));
         manager().setMainAccount(account("id"));
         QStringList events;
-        connect(registry.get(), &KirvAccountRegistry::accountAboutToBeRemoved, this, [&](KirvAccount *leaving) {
+        connect(registry.get(), &KirvAccountCollection::accountAboutToBeRemoved, this, [&](KirvAccount *leaving) {
             events << "about to be removed " + leaving->displayName() + " " + leaving->getPassword();
             QVERIFY(!leaving->isLoggedIn() && !leaving->isLoaded());
             QVERIFY(leaving->isMainAccount());
             QVERIFY(!manager().getAccount("id", fake));
         });
-        connect(registry.get(), &KirvAccountRegistry::accountRemoved, this,
+        connect(registry.get(), &KirvAccountCollection::accountRemoved, this,
                 [&](const QString &id, const QString &name) { events << "removed " + id + " " + name; });
         protocol->calls.clear();
         const int commits = store->commitCount();
@@ -681,8 +681,8 @@ private Q_SLOTS:
         KirvAccount *leaving = account("id");
         protocol->answersLogOut = false;
         manager().removeAccount("id", fake);
-        QSignalSpy problems(registry.get(), &KirvAccountRegistry::problemOccurred);
-        QSignalSpy changed(registry.get(), &KirvAccountRegistry::accountChanged);
+        QSignalSpy problems(registry.get(), &KirvAccountCollection::problemOccurred);
+        QSignalSpy changed(registry.get(), &KirvAccountCollection::accountChanged);
         const int commits = store->commitCount();
         leaving->beginSave();
         leaving->setAlias("too late");
@@ -720,7 +720,7 @@ private Q_SLOTS:
             QCOMPARE(protocol->connections, 0);
             return;
         }
-        QSignalSpy changed(registry.get(), &KirvAccountRegistry::accountChanged);
+        QSignalSpy changed(registry.get(), &KirvAccountCollection::accountChanged);
         auto next = std::make_unique<FakeProtocol>();
         if (how == QLatin1String("unloaded"))
             registry->protocolAboutToBeUnloaded(fake);
@@ -783,12 +783,12 @@ private Q_SLOTS:
                 manager().removeAccount("id", fake);
                 QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // as a nested loop would
             };
-            connect(registry.get(), &KirvAccountRegistry::accountChanged, &context, interfere);
-            connect(registry.get(), &KirvAccountRegistry::problemOccurred, &context, interfere);
-            connect(registry.get(), &KirvAccountRegistry::accountAdded, &context, interfere);
-            connect(registry.get(), &KirvAccountRegistry::passwordNeeded, &context, interfere);
-            connect(registry.get(), &KirvAccountRegistry::directoryAnswered, &context, interfere);
-            connect(registry.get(), &KirvAccountRegistry::accountAboutToBeRemoved, &context, interfere);
+            connect(registry.get(), &KirvAccountCollection::accountChanged, &context, interfere);
+            connect(registry.get(), &KirvAccountCollection::problemOccurred, &context, interfere);
+            connect(registry.get(), &KirvAccountCollection::accountAdded, &context, interfere);
+            connect(registry.get(), &KirvAccountCollection::passwordNeeded, &context, interfere);
+            connect(registry.get(), &KirvAccountCollection::directoryAnswered, &context, interfere);
+            connect(registry.get(), &KirvAccountCollection::accountAboutToBeRemoved, &context, interfere);
 
             auto *connection = static_cast<FakeConnection *>(changing->connection());
             if (action == QLatin1String("alias"))
@@ -842,7 +842,7 @@ private Q_SLOTS:
 
     void aSlotMayRefuseANewAccountByRemovingIt()
     {
-        connect(registry.get(), &KirvAccountRegistry::accountAdded, this,
+        connect(registry.get(), &KirvAccountCollection::accountAdded, this,
                 [](KirvAccount *added) { manager().removeAccount(added->getUid(), added->getProtocolName()); });
         QVERIFY(!create("id"));
         QVERIFY(registry->accounts().isEmpty());
@@ -854,7 +854,7 @@ private Q_SLOTS:
         QVERIFY(create("id"));
         manager().disableAccount("id", fake);
         protocol->calls.clear();
-        const auto connection = connect(registry.get(), &KirvAccountRegistry::accountChanged, this,
+        const auto connection = connect(registry.get(), &KirvAccountCollection::accountChanged, this,
                                         [] { manager().disableAccount("id", fake); });
         manager().enableAccount("id", fake);
         disconnect(connection);
@@ -868,7 +868,7 @@ private Q_SLOTS:
     {
         QVERIFY(create("id"));
         QVERIFY(!manager().getMainAccount());
-        QSignalSpy changed(registry.get(), &KirvAccountRegistry::accountChanged);
+        QSignalSpy changed(registry.get(), &KirvAccountCollection::accountChanged);
         const int commits = store->commitCount();
         manager().setMainAccount(account("id"));
         QCOMPARE(manager().getMainAccount(), account("id"));
@@ -913,7 +913,7 @@ private Q_SLOTS:
     {
         QVERIFY(create("id"));
         QVERIFY(!account("id")->lastFailure().isFailure() && !account("id")->lastFailureTime().isValid());
-        QSignalSpy changed(registry.get(), &KirvAccountRegistry::accountChanged);
+        QSignalSpy changed(registry.get(), &KirvAccountCollection::accountChanged);
         protocol->server = FakeProtocol::RefusesPassword;
         account("id")->connection()->reconnect(protocol->presences().first());
         QVERIFY(changed.size() > 0);
@@ -990,7 +990,7 @@ private:
     {
         answers.clear();
         connect(
-            registry.get(), &KirvAccountRegistry::directoryAnswered, this,
+            registry.get(), &KirvAccountCollection::directoryAnswered, this,
             [this](KirvAccount *account, const QList<KirvField> &fields) { answers << qMakePair(account, fields); });
     }
 
@@ -1074,7 +1074,7 @@ private:
         protocol->calls.clear();
         store->close();
         QVERIFY2(store->open(folder), qPrintable(store->lastError()));
-        registry = std::make_unique<KirvAccountRegistry>(*store);
+        registry = std::make_unique<KirvAccountCollection>(*store);
         beforeLoading();
         registry->protocolLoaded(protocol.get(), logIn);
     }
@@ -1086,14 +1086,14 @@ private:
         registry.reset();
         QVERIFY(store->begin());
         for (int number = present; number < count; ++number) {
-            KirvStore::Account account;
+            KirvAccountRecord account;
             account.key = { QStringLiteral("account %1").arg(number), fake };
             account.alias = QStringLiteral("Alias %1").arg(number);
             account.settings = { { "server", "localhost" }, { "port", "5222" }, { "encrypted", "true" } };
             QVERIFY(store->insertAccount(account));
         }
         QVERIFY(store->commit());
-        registry = std::make_unique<KirvAccountRegistry>(*store);
+        registry = std::make_unique<KirvAccountCollection>(*store);
         registry->protocolLoaded(protocol.get(), false);
         QCOMPARE(registry->accounts().size(), count);
     }
@@ -1133,7 +1133,7 @@ private:
     std::unique_ptr<QTemporaryDir> home;
     std::unique_ptr<KirvStore> store;
     std::unique_ptr<FakeProtocol> protocol;
-    std::unique_ptr<KirvAccountRegistry> registry;
+    std::unique_ptr<KirvAccountCollection> registry;
     int asked = 0;
     Answers answers;
 };

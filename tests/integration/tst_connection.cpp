@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "core/connection/kirv_connection.h"
+#include "core/protocol/kirv_connection.h"
 #include "tests/support/kirv_fake_clock.h"
 
 #include <QPointer>

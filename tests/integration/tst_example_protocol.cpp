@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_store.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,10 +24,10 @@ public:
         : isReady(store.open(folder.filePath(QStringLiteral("profile"))))
         , accounts(store)
     {
-        QObject::connect(&plugins, &KirvPluginRegistry::protocolLoaded, &accounts,
+        QObject::connect(&plugins, &KirvPluginLoader::protocolLoaded, &accounts,
                          [this](KirvProtocolBase *protocol) { accounts.protocolLoaded(protocol); });
         QObject::connect(
-            &plugins, &KirvPluginRegistry::protocolAboutToBeUnloaded, &accounts,
+            &plugins, &KirvPluginLoader::protocolAboutToBeUnloaded, &accounts,
             [this](KirvProtocolBase *protocol) { accounts.protocolAboutToBeUnloaded(protocol->getName()); });
         isReady = isReady && plugins.load(file);
     }
@@ -52,8 +52,8 @@ public:
     QTemporaryDir folder;
     KirvStore store;
     bool isReady;
-    KirvPluginRegistry plugins;
-    KirvAccountRegistry accounts;
+    KirvPluginLoader plugins;
+    KirvAccountCollection accounts;
 };
 
 QString readFile(const QString &name)
@@ -158,7 +158,7 @@ void tst_ExampleProtocol::aWrongPasswordIsNotTriedAgain()
 
 void tst_ExampleProtocol::asksForAMissingPassword()
 {
-    QSignalSpy questions(&core->accounts, &KirvAccountRegistry::passwordNeeded);
+    QSignalSpy questions(&core->accounts, &KirvAccountCollection::passwordNeeded);
     KirvAccount *account = core->createAccount(QString());
     QCOMPARE(questions.size(), 1);
     QCOMPARE(account->connection()->lastFailure().kind(), KirvFailure::PasswordMissing);
@@ -281,7 +281,7 @@ void tst_ExampleProtocol::answersWhenTheProtocolGoes()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
     QTRY_VERIFY(account->isLoggedIn());
-    QSignalSpy answers(&core->accounts, &KirvAccountRegistry::directoryAnswered);
+    QSignalSpy answers(&core->accounts, &KirvAccountCollection::directoryAnswered);
     core->protocol()->fetchPubdirInfo(account);
     QVERIFY(core->plugins.unload(core->file));
     QCOMPARE(answers.size(), 1);

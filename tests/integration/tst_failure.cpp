@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "core/connection/kirv_failure.h"
+#include "core/values/kirv_failure.h"
 
 #include <QSet>
 #include <QtTest>

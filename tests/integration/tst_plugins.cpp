@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_registry.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "tests/support/plugins/kirv_fixture_protocol.h"
 
 #include <QDir>
@@ -124,8 +124,8 @@ void tst_Plugins::saysWhyAFileCannotBeUsed()
     const QString file = fixture(QString::fromLatin1(QTest::currentDataTag()));
     QVERIFY(QFile::exists(file));
 
-    KirvPluginRegistry registry;
-    QSignalSpy loaded(&registry, &KirvPluginRegistry::protocolLoaded);
+    KirvPluginLoader registry;
+    QSignalSpy loaded(&registry, &KirvPluginLoader::protocolLoaded);
     QVERIFY(registry.loadFolder(QFileInfo(file).path()));
     QCOMPARE(registry.plugins().size(), 1);
     const KirvPluginInfo info = registry.plugins().first();
@@ -146,9 +146,9 @@ void tst_Plugins::saysWhyAFileCannotBeUsed()
 
 void tst_Plugins::loadsTheGoodPlugin()
 {
-    KirvPluginRegistry registry;
-    QSignalSpy loaded(&registry, &KirvPluginRegistry::protocolLoaded);
-    QSignalSpy changed(&registry, &KirvPluginRegistry::pluginsChanged);
+    KirvPluginLoader registry;
+    QSignalSpy loaded(&registry, &KirvPluginLoader::protocolLoaded);
+    QSignalSpy changed(&registry, &KirvPluginLoader::pluginsChanged);
     QVERIFY(registry.load(exampleFile()));
     const KirvPluginInfo info = registry.plugins().first();
     QCOMPARE(info.name, QStringLiteral("Example"));
@@ -173,7 +173,7 @@ void tst_Plugins::looksAtEveryFileOfAFolderInOrder()
     QVERIFY(QFile::copy(fixture(QStringLiteral("not_a_library")), folder.filePath(QStringLiteral("a.txt"))));
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("e.so")));
 
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.loadFolder(folder.path()));
     QStringList names;
     for (const KirvPluginInfo &info : registry.plugins())
@@ -186,7 +186,7 @@ void tst_Plugins::looksAtEveryFileOfAFolderInOrder()
 void tst_Plugins::saysThatAFolderDoesNotExist()
 {
     QTemporaryDir folder;
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(!registry.loadFolder(folder.filePath(QStringLiteral("nowhere"))));
     QVERIFY(registry.loadFolder(folder.path()));
     QVERIFY(registry.plugins().isEmpty());
@@ -194,7 +194,7 @@ void tst_Plugins::saysThatAFolderDoesNotExist()
 
 void tst_Plugins::looksAtAFolderOnce()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.loadFolder(QStringLiteral(KIRV_EXAMPLE_PROTOCOLS)));
     QVERIFY(registry.unload(exampleFile()));
     QVERIFY(registry.loadFolder(QStringLiteral(KIRV_EXAMPLE_PROTOCOLS)));
@@ -204,7 +204,7 @@ void tst_Plugins::looksAtAFolderOnce()
 
 void tst_Plugins::theFirstOfTwoWithOneNameStays()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.loadFolder(QStringLiteral(KIRV_FIXTURE_PLUGINS "/same_name")));
     const QList<KirvPluginInfo> plugins = registry.plugins();
     QCOMPARE(plugins.size(), 2);
@@ -225,7 +225,7 @@ void tst_Plugins::aFileThatWasMendedCanBeLoaded()
     QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("protocol.so"));
     QVERIFY(QFile::copy(fixture(QStringLiteral("not_a_library")), file));
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.loadFolder(folder.path()));
     QVERIFY(registry.protocols().isEmpty());
     QVERIFY(QFile::remove(file));
@@ -237,14 +237,14 @@ void tst_Plugins::aFileThatWasMendedCanBeLoaded()
 
 void tst_Plugins::aSlowPluginIsLoaded()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(fixture(QStringLiteral("slow"))));
     QVERIFY(find(QStringLiteral("Slow")));
 }
 
 void tst_Plugins::hugeListsAreTakenAsTheyAre()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(fixture(QStringLiteral("huge_lists"))));
     KirvProtocol *protocol = find(QStringLiteral("Huge"));
     QVERIFY(protocol);
@@ -257,7 +257,7 @@ void tst_Plugins::hugeListsAreTakenAsTheyAre()
 
 void tst_Plugins::missingAnswersDoNoHarm()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(fixture(QStringLiteral("half_answers"))));
     std::unique_ptr<KirvConnection> connection(registry.protocols().first()->createConnection(nullptr));
     KirvConnection::Timing timing;
@@ -282,12 +282,12 @@ void tst_Plugins::missingAnswersDoNoHarm()
 
 void tst_Plugins::unloadsAndLoadsAgain()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(exampleFile()));
-    QSignalSpy unloaded(&registry, &KirvPluginRegistry::protocolUnloaded);
+    QSignalSpy unloaded(&registry, &KirvPluginLoader::protocolUnloaded);
     for (int i = 0; i < 3; ++i) {
         const QPointer<KirvProtocolBase> protocol = registry.protocols().first();
-        QSignalSpy changed(&registry, &KirvPluginRegistry::pluginsChanged);
+        QSignalSpy changed(&registry, &KirvPluginLoader::pluginsChanged);
         QVERIFY(registry.unload(exampleFile()));
         QVERIFY(!protocol);
         QVERIFY(!find(QStringLiteral("Example")));
@@ -303,14 +303,14 @@ void tst_Plugins::unloadsAndLoadsAgain()
 
 void tst_Plugins::theProtocolIsCompleteUntilItHasBeenSaidGoodByeTo()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(exampleFile()));
     QStringList news;
-    connect(&registry, &KirvPluginRegistry::protocolAboutToBeUnloaded, this, [&](KirvProtocolBase *protocol) {
+    connect(&registry, &KirvPluginLoader::protocolAboutToBeUnloaded, this, [&](KirvProtocolBase *protocol) {
         QCOMPARE(find(QStringLiteral("Example")), static_cast<KirvProtocol *>(protocol));
         news.append(QStringLiteral("about to go: ") + protocol->getName());
     });
-    connect(&registry, &KirvPluginRegistry::protocolUnloaded, this, [&](const QString &name) {
+    connect(&registry, &KirvPluginLoader::protocolUnloaded, this, [&](const QString &name) {
         QVERIFY(!find(name));
         QVERIFY(!registry.plugins().first().loaded);
         news.append(QStringLiteral("gone: ") + name);
@@ -321,10 +321,10 @@ void tst_Plugins::theProtocolIsCompleteUntilItHasBeenSaidGoodByeTo()
 
 void tst_Plugins::unloadingTwiceAtOnceUnloadsOnce()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(exampleFile()));
-    QSignalSpy unloaded(&registry, &KirvPluginRegistry::protocolUnloaded);
-    connect(&registry, &KirvPluginRegistry::protocolAboutToBeUnloaded, this,
+    QSignalSpy unloaded(&registry, &KirvPluginLoader::protocolUnloaded);
+    connect(&registry, &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             [&] { QVERIFY(!registry.unload(exampleFile())); });
     QVERIFY(registry.unload(exampleFile()));
     QCOMPARE(unloaded.size(), 1);
@@ -332,9 +332,9 @@ void tst_Plugins::unloadingTwiceAtOnceUnloadsOnce()
 
 void tst_Plugins::unloadingWhatIsNotLoadedDoesNothing()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.addProtocol(new KirvFixtureProtocol(QStringLiteral("Own"))));
-    QSignalSpy changed(&registry, &KirvPluginRegistry::pluginsChanged);
+    QSignalSpy changed(&registry, &KirvPluginLoader::pluginsChanged);
     QVERIFY(!registry.unload(exampleFile()));
     QVERIFY(!registry.unload(QString()));
     QVERIFY(find(QStringLiteral("Own")));
@@ -343,8 +343,8 @@ void tst_Plugins::unloadingWhatIsNotLoadedDoesNothing()
 
 void tst_Plugins::takesProtocolsOfTheProgram()
 {
-    KirvPluginRegistry registry;
-    QSignalSpy loaded(&registry, &KirvPluginRegistry::protocolLoaded);
+    KirvPluginLoader registry;
+    QSignalSpy loaded(&registry, &KirvPluginLoader::protocolLoaded);
     auto *protocol = new KirvFixtureProtocol(QStringLiteral("Own"));
     QVERIFY(registry.addProtocol(protocol));
     QCOMPARE(find(QStringLiteral("Own")), static_cast<KirvProtocol *>(protocol));
@@ -354,7 +354,7 @@ void tst_Plugins::takesProtocolsOfTheProgram()
 
 void tst_Plugins::refusesUnusableProtocolsOfTheProgram()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.addProtocol(new KirvFixtureProtocol(QStringLiteral("Own"))));
     const QPointer<KirvProtocolBase> other = new KirvFixtureProtocol(QStringLiteral("Own"));
     const QPointer<KirvProtocolBase> nameless = new KirvFixtureProtocol(QString());
@@ -368,12 +368,12 @@ void tst_Plugins::refusesUnusableProtocolsOfTheProgram()
 void tst_Plugins::unloadsEverythingAtTheEnd()
 {
     QStringList gone;
-    auto registry = std::make_unique<KirvPluginRegistry>();
+    auto registry = std::make_unique<KirvPluginLoader>();
     QVERIFY(registry->load(exampleFile()));
     QVERIFY(registry->addProtocol(new KirvFixtureProtocol(QStringLiteral("Own"))));
     const QList<KirvProtocolBase *> protocols = registry->protocols();
     const QList<QPointer<KirvProtocolBase>> guarded(protocols.begin(), protocols.end());
-    connect(registry.get(), &KirvPluginRegistry::protocolAboutToBeUnloaded, this,
+    connect(registry.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             [&](KirvProtocolBase *protocol) { gone.append(protocol->getName()); });
     registry.reset();
     QCOMPARE(gone, (QStringList { "Example", "Own" }));
@@ -383,7 +383,7 @@ void tst_Plugins::unloadsEverythingAtTheEnd()
 void tst_Plugins::isNotThereAfterTheEnd()
 {
     {
-        KirvPluginRegistry registry;
+        KirvPluginLoader registry;
         QCOMPARE(KirvPluginManagerPrivate::instance, static_cast<KirvPluginManagerPrivate *>(&registry));
     }
     QVERIFY(!KirvPluginManagerPrivate::instance);
@@ -392,7 +392,7 @@ void tst_Plugins::isNotThereAfterTheEnd()
 
 void tst_Plugins::broadcastsCoreSignals()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QStringList heard;
     QVERIFY(registry.addProtocol(new ListeningProtocol(QStringLiteral("A"), heard)));
     QVERIFY(registry.addProtocol(new KirvFixtureProtocol(QStringLiteral("Deaf"))));
@@ -404,7 +404,7 @@ void tst_Plugins::broadcastsCoreSignals()
 
 void tst_Plugins::aFilterKeepsCoreSignalsFromTheProtocols()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QStringList heard;
     QVERIFY(registry.addProtocol(new ListeningProtocol(QStringLiteral("A"), heard)));
     registry.setCoreSignalFilter(
@@ -419,7 +419,7 @@ void tst_Plugins::aFilterKeepsCoreSignalsFromTheProtocols()
 
 void tst_Plugins::aReceiverMayUnloadAnother()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QStringList heard;
     auto *first = new ListeningProtocol(QStringLiteral("First"), heard);
     first->reaction = [&] { QVERIFY(registry.unload(exampleFile())); };
@@ -460,7 +460,7 @@ void tst_Plugins::directoryOperationsReachTheConnection()
 
 void tst_Plugins::findsPresencesById()
 {
-    KirvPluginRegistry registry;
+    KirvPluginLoader registry;
     QVERIFY(registry.load(exampleFile()));
     KirvProtocol *protocol = find(QStringLiteral("Example"));
     const KirvPresence away = protocol->createPresenceWithId(QStringLiteral("away"), QStringLiteral("at lunch"));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/store/kirv_store.h"
 #include "tests/integration/kirv_fake_protocol.h"
 #include "tests/integration/kirv_profile_files.h"
 
@@ -53,7 +53,7 @@ int saveForEver(const QString &home, int number)
     KirvStore store;
     if (!store.open(home + QStringLiteral("/profile")))
         return 1;
-    KirvAccountRegistry registry(store);
+    KirvAccountCollection registry(store);
     FakeProtocol protocol;
     registry.protocolLoaded(&protocol, false);
     KirvAccount *account = registry.find(key);
@@ -112,7 +112,7 @@ private:
     {
         KirvStore store;
         QVERIFY(store.open(home + QStringLiteral("/profile")));
-        KirvAccountRegistry registry(store);
+        KirvAccountCollection registry(store);
         FakeProtocol protocol;
         registry.protocolLoaded(&protocol, false);
         QVERIFY(KirvAccountManager::getInstance()->createAccount(key.id, key.id, QString(), false, &protocol,
@@ -165,11 +165,11 @@ private:
         KirvStore store;
         const bool opened = store.open(home + QStringLiteral("/profile"));
         [&] { QVERIFY2(opened, qPrintable(store.lastError())); }();
-        const QList<KirvStore::Account> accounts = store.readAccounts();
+        const QList<KirvAccountRecord> accounts = store.readAccounts();
         const int number = accounts.isEmpty() ? -1 : accounts.first().alias.section(QLatin1Char(' '), 0, 0).toInt();
         [&] {
             QCOMPARE(accounts.size(), 1);
-            const KirvStore::Account &account = accounts.first();
+            const KirvAccountRecord &account = accounts.first();
             QCOMPARE(account.alias, text(number));
             QCOMPARE(account.password, text(number));
             QCOMPARE(account.defaultDescription, text(number));

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/settings/kirv_settings_registry.h"
-#include "core/settings/kirv_settings_table.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/store/kirv_client_settings.h"
+#include "core/store/kirv_settings_table.h"
+#include "core/store/kirv_store.h"
 #include "tests/integration/kirv_fake_protocol.h"
 
 #include <QDir>
@@ -23,7 +23,7 @@ private Q_SLOTS:
         QVERIFY(home->isValid());
         store = std::make_unique<KirvStore>();
         QVERIFY(store->open(profile()));
-        settings = std::make_unique<KirvSettingsRegistry>(*store);
+        settings = std::make_unique<KirvClientSettings>(*store);
     }
 
     void cleanup()
@@ -77,8 +77,8 @@ private Q_SLOTS:
 
     void aRefusedGlobalSettingIsSaid()
     {
-        KirvAccountRegistry accounts(*store);
-        QSignalSpy problems(&accounts, &KirvAccountRegistry::problemOccurred);
+        KirvAccountCollection accounts(*store);
+        QSignalSpy problems(&accounts, &KirvAccountCollection::problemOccurred);
         store->close();
         KirvSettingsManagerPrivate::settingsMgrPrivInstance->writeGlobalSetting(
             KirvField::textEdit(QString(), QStringLiteral("main_account"), QStringLiteral("a@@b"), QString()));
@@ -89,7 +89,7 @@ private Q_SLOTS:
 
     void theGlobalsOfAnAccountAreItsFiveFields()
     {
-        KirvAccountRegistry accounts(*store);
+        KirvAccountCollection accounts(*store);
         FakeProtocol protocol;
         accounts.protocolLoaded(&protocol);
         KirvAccountConnection *account = KirvAccountManager::getInstance()->createAccount(
@@ -116,7 +116,7 @@ private Q_SLOTS:
                                                                                            QStringLiteral("Fake"));
         };
         QVERIFY(read().isEmpty());
-        KirvAccountRegistry accounts(*store);
+        KirvAccountCollection accounts(*store);
         QVERIFY(read().isEmpty());
     }
 
@@ -173,7 +173,7 @@ private:
         settings.reset();
         store->close();
         QVERIFY(store->open(profile()));
-        settings = std::make_unique<KirvSettingsRegistry>(*store);
+        settings = std::make_unique<KirvClientSettings>(*store);
     }
 
     /// Compares the globals of the account "id" of the protocol "Fake": texts, and "+" or "-" for check boxes.
@@ -201,7 +201,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> home;
     std::unique_ptr<KirvStore> store;
-    std::unique_ptr<KirvSettingsRegistry> settings;
+    std::unique_ptr<KirvClientSettings> settings;
 };
 
 QTEST_MAIN(SettingsTest)

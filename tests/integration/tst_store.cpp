@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "core/settings/kirv_avatar_folder.h"
-#include "core/settings/kirv_store.h"
+#include "core/store/kirv_avatar_folder.h"
+#include "core/store/kirv_store.h"
 #include "tests/integration/kirv_profile_files.h"
 
 #include <QElapsedTimer>
@@ -20,18 +20,18 @@ namespace {
 
 const QString databaseName = QStringLiteral("profile.sqlite");
 
-KirvStore::Account makeAccount(const QString &id, const QString &protocol = QStringLiteral("XMPP"))
+KirvAccountRecord makeAccount(const QString &id, const QString &protocol = QStringLiteral("XMPP"))
 {
-    KirvStore::Account account;
+    KirvAccountRecord account;
     account.key = { id, protocol };
     account.alias = QStringLiteral("Alias of ") + id;
     account.settings = { { "server", "talk.example.org" }, { "encrypted", "true" } };
     return account;
 }
 
-KirvStore::Account makeFullAccount()
+KirvAccountRecord makeFullAccount()
 {
-    KirvStore::Account account = makeAccount(QStringLiteral("full@example.org"));
+    KirvAccountRecord account = makeAccount(QStringLiteral("full@example.org"));
     account.alias = QString::fromUtf8("Zoë '); DROP TABLE account; --\n\u202b\U0001f600");
     account.password = QStringLiteral("s3cret word");
     account.rememberPassword = true;
@@ -49,8 +49,8 @@ KirvStore::Account makeFullAccount()
 QStringList idsOf(KirvStore &store)
 {
     QStringList ids;
-    const QList<KirvStore::Account> accounts = store.readAccounts();
-    for (const KirvStore::Account &account : accounts)
+    const QList<KirvAccountRecord> accounts = store.readAccounts();
+    for (const KirvAccountRecord &account : accounts)
         ids << account.key.id;
     return ids;
 }
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(::chmod(QFile::encodeName(folder).constData(), 0755), 0);
         KirvStore store;
         QVERIFY2(store.open(folder), qPrintable(store.lastError()));
-        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord account = makeAccount(QStringLiteral("a"));
         account.avatar = store.importAvatar(makePicture(home->filePath(QStringLiteral("picture.png"))));
         QVERIFY(!account.avatar.isEmpty());
         QVERIFY(store.insertAccount(account));
@@ -155,7 +155,7 @@ private Q_SLOTS:
 
     void whatIsStoredIsReadAgain()
     {
-        const KirvStore::Account account = makeFullAccount();
+        const KirvAccountRecord account = makeFullAccount();
         {
             KirvStore store;
             QVERIFY(store.open(folder));
@@ -168,7 +168,7 @@ private Q_SLOTS:
         }
         KirvStore store;
         QVERIFY(store.open(folder));
-        const QList<KirvStore::Account> accounts = store.readAccounts();
+        const QList<KirvAccountRecord> accounts = store.readAccounts();
         QCOMPARE(accounts.size(), 2);
         QVERIFY(accounts.at(0).isStoredLike(account));
         QCOMPARE(accounts.at(0).password, account.password);
@@ -182,7 +182,7 @@ private Q_SLOTS:
     {
         KirvStore store;
         QVERIFY(store.open(folder));
-        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord account = makeAccount(QStringLiteral("a"));
         QVERIFY(store.insertAccount(account));
         account.settings = { { "server", "other.example.org" } };
         QVERIFY(store.updateAccount(account));
@@ -212,7 +212,7 @@ private Q_SLOTS:
         KirvStore store;
         QVERIFY(store.open(folder));
         QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
-        KirvStore::Account other = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord other = makeAccount(QStringLiteral("a"));
         other.alias = QStringLiteral("other");
         QVERIFY(!store.insertAccount(other));
         QVERIFY(!store.lastError().isEmpty());
@@ -421,9 +421,9 @@ private Q_SLOTS:
         for (int round = 0; round < 2; ++round) { // the second one finds it upgraded
             KirvStore store;
             QVERIFY2(store.open(folder), qPrintable(store.lastError()));
-            const QList<KirvStore::Account> accounts = store.readAccounts();
+            const QList<KirvAccountRecord> accounts = store.readAccounts();
             QCOMPARE(idsOf(store).mid(0, 3), QStringList({ "romeo@example.org", "anna", "julia@example.org" }));
-            const KirvStore::Account &romeo = accounts.at(0);
+            const KirvAccountRecord &romeo = accounts.at(0);
             QCOMPARE(romeo.alias, QStringLiteral("Romeo"));
             QCOMPARE(romeo.password, QStringLiteral("wherefore"));
             QVERIFY(romeo.rememberPassword && romeo.enabled && !romeo.restorePresence && !romeo.restoreDescription);
@@ -516,9 +516,9 @@ private Q_SLOTS:
         QFETCH(bool, inTheDatabase);
         KirvStore store;
         QVERIFY(store.open(folder));
-        KirvStore::Account account = makeFullAccount();
+        KirvAccountRecord account = makeFullAccount();
         QVERIFY(store.insertAccount(account));
-        KirvStore::Account large = account;
+        KirvAccountRecord large = account;
         large.lastDescription = QString(200000, QLatin1Char('x'));
         const auto limitPages = [this](const char *pages) {
             return QSqlQuery(ownConnection()).exec(QLatin1String("PRAGMA max_page_count = ") + QLatin1String(pages));
@@ -550,7 +550,7 @@ private Q_SLOTS:
         const QString password = QStringLiteral("correct horse battery");
         KirvStore store;
         QVERIFY(store.open(folder));
-        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord account = makeAccount(QStringLiteral("a"));
         account.password = password;
         QVERIFY(store.insertAccount(account));
         account.alias = QStringLiteral("b");
@@ -577,7 +577,7 @@ private Q_SLOTS:
         const QString password = QStringLiteral("correct horse battery");
         KirvStore store;
         QVERIFY(store.open(folder));
-        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord account = makeAccount(QStringLiteral("a"));
         const bool isSetting = change == QLatin1String("overwrite setting");
         account.password = isSetting ? QString() : password;
         account.rememberPassword = true;
@@ -604,7 +604,7 @@ private Q_SLOTS:
     {
         KirvStore store;
         QVERIFY(store.open(folder));
-        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord account = makeAccount(QStringLiteral("a"));
         const QString picture = makePicture(home->filePath(QStringLiteral("picture.png")));
         account.avatar = store.importAvatar(picture);
         QVERIFY(store.insertAccount(account));
@@ -612,7 +612,7 @@ private Q_SLOTS:
         QCOMPARE(contentOf(first), contentOf(picture));
         QVERIFY(QFile::remove(picture));
 
-        KirvStore::Account changed = account;
+        KirvAccountRecord changed = account;
         changed.avatar = store.importAvatar(makePicture(picture, QSize(8, 8)));
         QVERIFY(changed.avatar != account.avatar);
         QVERIFY(store.begin());
@@ -630,7 +630,7 @@ private Q_SLOTS:
     {
         KirvStore store;
         QVERIFY(store.open(folder));
-        KirvStore::Account account = makeAccount(QStringLiteral("a"));
+        KirvAccountRecord account = makeAccount(QStringLiteral("a"));
         const QString picture = makePicture(home->filePath(QStringLiteral("picture.png")));
         account.avatar = store.importAvatar(picture);
         QVERIFY(store.insertAccount(account));
@@ -724,9 +724,9 @@ private:
         QCOMPARE(file.write(content), qint64(content.size()));
     }
 
-    static KirvStore::Account makeFullAccountAs(const QString &id)
+    static KirvAccountRecord makeFullAccountAs(const QString &id)
     {
-        KirvStore::Account account = makeFullAccount();
+        KirvAccountRecord account = makeFullAccount();
         account.key.id = id;
         return account;
     }

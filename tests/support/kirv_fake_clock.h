@@ -2,7 +2,7 @@
 #ifndef KIRV_FAKE_CLOCK_H
 #define KIRV_FAKE_CLOCK_H
 
-#include "core/connection/kirv_clock.h"
+#include "core/values/kirv_clock.h"
 
 #include <QObject>
 #include <QPointer>

@@ -7,8 +7,8 @@
 #include "client/kirv_message_bar.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_settings_window.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -80,38 +80,38 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
                       const QString &password, const std::function<void(QWidget *)> &fillIn, bool isAccepted)
 {
     showPage(AccountsPage);
-    const auto window = [] { return KirvWalk::window(QStringLiteral("AddAccount")); };
+    const auto window = [] { return KirvWindowDriver::window(QStringLiteral("AddAccount")); };
     const auto saveButton = [window] { return button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Save); };
-    KirvWalk walk(files.path());
+    KirvWindowDriver walk(files.path());
     walk.expectOnTop(
         QStringLiteral("The page is there"), [this] { return client->accountsPage()->isVisible(); },
-        [this] { KirvWalk::openMenu(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")); });
+        [this] { KirvWindowDriver::openMenu(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")); });
     walk.expect(
-        QStringLiteral("The menu offers %1").arg(protocol), [protocol] { return KirvWalk::menuOffers(protocol); },
-        [protocol] { KirvWalk::clickInMenu(protocol); });
+        QStringLiteral("The menu offers %1").arg(protocol), [protocol] { return KirvWindowDriver::menuOffers(protocol); },
+        [protocol] { KirvWindowDriver::clickInMenu(protocol); });
     walk.expect(
         QStringLiteral("The window opens, with Save asleep"), [=] { return window() && !saveButton()->isEnabled(); },
         [=] {
-            KirvWalk::choose(child<QComboBox>(window(), "AddAccount_Configuration"), configuration);
-            KirvWalk::type(child<QLineEdit>(window(), "AddAccount_UsernameEdit"), login);
-            KirvWalk::type(child<QLineEdit>(window(), "AddAccount_PasswordEdit"), password);
+            KirvWindowDriver::choose(child<QComboBox>(window(), "AddAccount_Configuration"), configuration);
+            KirvWindowDriver::type(child<QLineEdit>(window(), "AddAccount_UsernameEdit"), login);
+            KirvWindowDriver::type(child<QLineEdit>(window(), "AddAccount_PasswordEdit"), password);
             if (fillIn)
                 fillIn(window());
         });
     walk.expect(
         QStringLiteral("Save is awake"), [=] { return saveButton()->isEnabled(); },
-        [=] { KirvWalk::click(saveButton()); });
+        [=] { KirvWindowDriver::click(saveButton()); });
     if (!isAccepted) {
         walk.expect(
             QStringLiteral("The account is refused"), [this] { return question(); },
-            [this] { KirvWalk::click(question()->button(QMessageBox::Ok)); });
+            [this] { KirvWindowDriver::click(question()->button(QMessageBox::Ok)); });
         walk.expect(
             QStringLiteral("The window is still open, as it was"),
             [=] {
                 return !question() && window()
                     && child<QLineEdit>(window(), "AddAccount_UsernameEdit")->text() == login;
             },
-            [=] { KirvWalk::click(button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Cancel)); });
+            [=] { KirvWindowDriver::click(button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Cancel)); });
     }
     walk.expectOnTop(QStringLiteral("The window is gone"), [window] { return !window(); });
     return walk.run();
@@ -123,7 +123,7 @@ QDialog *KirvWindows::edit(const QString &login)
     if (!QTest::qWaitFor([this] { return client->accountsPage()->isVisible(); }, patience))
         return nullptr;
     list()->scrollToItem(row(login));
-    KirvWalk::doubleClick(list()->viewport(), list()->visualItemRect(row(login)).center());
+    KirvWindowDriver::doubleClick(list()->viewport(), list()->visualItemRect(row(login)).center());
     return openEditWindow();
 }
 
@@ -132,7 +132,7 @@ QDialog *KirvWindows::openEditWindow() const
     QWidget *window = nullptr;
     const bool isOpen = QTest::qWaitFor(
         [&window] {
-            return (window = KirvWalk::window(QStringLiteral("EditAccount"))) && window->windowHandle()->isExposed();
+            return (window = KirvWindowDriver::window(QStringLiteral("EditAccount"))) && window->windowHandle()->isExposed();
         },
         patience);
     return isOpen ? qobject_cast<QDialog *>(window) : nullptr;
@@ -140,8 +140,8 @@ QDialog *KirvWindows::openEditWindow() const
 
 bool KirvWindows::save(QDialog *editWindow)
 {
-    KirvWalk::click(button(editWindow, "EditAccount_FrameButtons", QDialogButtonBox::Save));
-    return QTest::qWaitFor([] { return !KirvWalk::window(QStringLiteral("EditAccount")); }, patience);
+    KirvWindowDriver::click(button(editWindow, "EditAccount_FrameButtons", QDialogButtonBox::Save));
+    return QTest::qWaitFor([] { return !KirvWindowDriver::window(QStringLiteral("EditAccount")); }, patience);
 }
 
 void KirvWindows::fill(QWidget *window, const QString &id, const QString &value)
@@ -150,11 +150,11 @@ void KirvWindows::fill(QWidget *window, const QString &id, const QString &value)
     if (!scrollTo(field))
         qWarning("The field %s cannot be seen.", qPrintable(id));
     if (auto *box = qobject_cast<QComboBox *>(field)) {
-        KirvWalk::choose(box, value);
+        KirvWindowDriver::choose(box, value);
         return;
     }
     auto *edit = qobject_cast<QLineEdit *>(field);
-    KirvWalk::type(edit ? edit : field->findChild<QLineEdit *>(), value);
+    KirvWindowDriver::type(edit ? edit : field->findChild<QLineEdit *>(), value);
 }
 
 QTreeWidget *KirvWindows::list() const
@@ -180,7 +180,7 @@ void KirvWindows::select(const QString &login) const
 void KirvWindows::toggle(const QString &login) const
 {
     list()->setCurrentItem(row(login), AliasColumn);
-    KirvWalk::pressKey(list(), Qt::Key_Space);
+    KirvWindowDriver::pressKey(list(), Qt::Key_Space);
 }
 
 QMessageBox *KirvWindows::question() const
@@ -223,7 +223,7 @@ void KirvWindows::reconnect(const QString &login)
 {
     showPage(ConnectionsPage);
     client->connectionView()->setCurrentAccount(account(login));
-    KirvWalk::click(child<QPushButton>(client->connectionView(), "Connections_ReconnectButton"));
+    KirvWindowDriver::click(child<QPushButton>(client->connectionView(), "Connections_ReconnectButton"));
 }
 
 bool KirvWindows::goTo(const QString &login, const QString &presence)
@@ -235,9 +235,9 @@ bool KirvWindows::goTo(const QString &login, const QString &presence)
     QContextMenuEvent wish(QContextMenuEvent::Mouse, position, connections->viewport()->mapToGlobal(position));
     QApplication::sendEvent(connections->viewport(), &wish);
     for (const QString &command : { QStringLiteral("&Presence"), presence }) {
-        if (!QTest::qWaitFor([command] { return KirvWalk::menuOffers(command); }, patience))
+        if (!QTest::qWaitFor([command] { return KirvWindowDriver::menuOffers(command); }, patience))
             return false;
-        KirvWalk::clickInMenu(command);
+        KirvWindowDriver::clickInMenu(command);
     }
     return QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }, patience);
 }
@@ -256,7 +256,7 @@ void KirvWindows::setLoaded(const QString &protocol, bool loaded)
     showPage(PluginsPage);
     auto *plugins = child<QTreeWidget>(client->pluginsPage(), "Plugins_List");
     plugins->setCurrentItem(plugins->findItems(protocol, Qt::MatchExactly).value(0));
-    KirvWalk::click(child<QPushButton>(client->pluginsPage(), loaded ? "Plugins_LoadButton" : "Plugins_UnloadButton"));
+    KirvWindowDriver::click(child<QPushButton>(client->pluginsPage(), loaded ? "Plugins_LoadButton" : "Plugins_UnloadButton"));
 }
 
 void KirvWindows::showPage(int index)

@@ -3,7 +3,7 @@
 #define KIRV_WINDOWS_H
 
 #include "client/kirv_client.h"
-#include "client/walk_through/kirv_walk.h"
+#include "tools/tour/kirv_window_driver.h"
 #include "core/accounts/kirv_account.h"
 
 #include <QDialogButtonBox>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_settings_window.h"
-#include "core/connection/kirv_connection.h"
-#include "core/plugins/kirv_plugin_registry.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "host/kirv_field_widget.h"
 #include "tests/system/kirv_windows.h"
 
@@ -152,8 +152,8 @@ void tst_accounts_in_windows::passwordThatIsNotRememberedIsAskedFor()
     KirvPasswordDialog *dialog = nullptr;
     TRY((dialog = windows->client->window()->findChild<KirvPasswordDialog *>()));
     TRY(dialog->isVisible());
-    KirvWalk::type(dialog->findChild<QLineEdit *>(), unusual);
-    KirvWalk::click(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
+    KirvWindowDriver::type(dialog->findChild<QLineEdit *>(), unusual);
+    KirvWindowDriver::click(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
     TRY(isConnected(cy));
 }
 
@@ -208,13 +208,13 @@ void tst_accounts_in_windows::untickedConnectedAccountIsAskedAbout()
     windows->toggle(ann);
     TRY(windows->question());
     QCOMPARE(windows->row(ann)->checkState(0), Qt::Checked);
-    KirvWalk::click(windows->question()->button(QMessageBox::No));
+    KirvWindowDriver::click(windows->question()->button(QMessageBox::No));
     TRY(!windows->question());
     QVERIFY(isConnected(ann) && windows->account(ann)->isEnabled());
 
     windows->toggle(ann);
     TRY(windows->question());
-    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
     TRY(windows->row(ann)->checkState(0) == Qt::Unchecked);
     TRY(!server.isOnline(QStringLiteral("ann")));
     QCOMPARE(windows->selector()->count(), 0);
@@ -238,10 +238,10 @@ void tst_accounts_in_windows::removedAccountLeavesNothingBehind()
     QVERIFY(windows->profileHolds("ann@localhost"));
 
     windows->select(ann);
-    KirvWalk::pressKey(windows->list(), Qt::Key_Delete);
+    KirvWindowDriver::pressKey(windows->list(), Qt::Key_Delete);
     TRY(windows->question());
     QVERIFY(windows->question()->text().contains(ann));
-    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
     TRY(!windows->row(ann));
     TRY(!server.isOnline(QStringLiteral("ann")));
     QCOMPARE(windows->selector()->count(), 0);
@@ -260,8 +260,8 @@ void tst_accounts_in_windows::mainAccountIsFollowedAndRestored()
     TRY(isConnected(ann) && isConnected(bob));
     TRY(windows->selector()->count() == 2);
     // What is current there without the user's choice is no main account yet.
-    KirvWalk::choose(windows->selector(), ann);
-    KirvWalk::choose(windows->selector(), bob);
+    KirvWindowDriver::choose(windows->selector(), ann);
+    KirvWindowDriver::choose(windows->selector(), bob);
     TRY_SAYS(windows->title(), "bob@localhost");
 
     QVERIFY(windows->start());
@@ -291,7 +291,7 @@ void tst_accounts_in_windows::protocolGoesWhileAnAccountIsEdited()
     TRY(isConnected(ann));
     QVERIFY(windows->edit(ann));
     QVERIFY(windows->client->plugins().unload(windows->pluginFile(xmpp)));
-    TRY(!KirvWalk::window(QStringLiteral("EditAccount")));
+    TRY(!KirvWindowDriver::window(QStringLiteral("EditAccount")));
     windows->setLoaded(xmpp, true);
     TRY(isConnected(ann));
     QVERIFY(windows->edit(ann));
@@ -306,7 +306,7 @@ void tst_accounts_in_windows::protocolGoesWhileAQuestionIsOpen()
     QVERIFY(windows->client->plugins().unload(windows->pluginFile(xmpp)));
     QVERIFY(windows->client->plugins().load(windows->pluginFile(xmpp)));
     TRY(windows->question());
-    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
     TRY(!windows->account(ann)->isEnabled());
     TRY(!server.isOnline(QStringLiteral("ann")));
 }

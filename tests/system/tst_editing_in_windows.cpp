@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 #include "client/kirv_connection_view.h"
 #include "client/kirv_settings_window.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
-#include "core/plugins/kirv_plugin_registry.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_avatar_quick_set_widget.h"
@@ -120,7 +120,7 @@ void pressKeys(QWidget *widget, QKeySequence::StandardKey keys)
 void paste(QWidget *field, const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
-    KirvWalk::pressKey(field, Qt::Key_End);
+    KirvWindowDriver::pressKey(field, Qt::Key_End);
     pressKeys(field, QKeySequence::SelectAll);
     QTest::keyClick(field->window()->windowHandle(), Qt::Key_Delete);
     if (!text.isEmpty())
@@ -134,7 +134,7 @@ void pastePicture(QDialog *window, const QString &path)
     data->setUrls({ QUrl::fromLocalFile(path) });
     QGuiApplication::clipboard()->setMimeData(data);
     auto *button = KirvWindows::child<QAbstractButton>(window, "KirvAvatar_Button");
-    KirvWalk::pressKey(button, Qt::Key_Shift);
+    KirvWindowDriver::pressKey(button, Qt::Key_Shift);
     pressKeys(button, QKeySequence::Paste);
 }
 
@@ -173,7 +173,7 @@ QCheckBox *box(QDialog *window, const char *what)
 
 void tick(QCheckBox *box)
 {
-    KirvWalk::pressKey(box, Qt::Key_Space);
+    KirvWindowDriver::pressKey(box, Qt::Key_Space);
 }
 
 QSpinBox *priority(QDialog *window)
@@ -305,7 +305,7 @@ private:
     {
         QDialog *window = windows->edit(ann);
         if (window)
-            KirvWalk::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
+            KirvWindowDriver::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
         return window;
     }
     void goTo(const QString &presenceId, const QString &text = QString()) const
@@ -390,12 +390,12 @@ void tst_editing_in_windows::windowOpensFilledIn_data()
     QTest::newRow("double click") << Open([](KirvWindows &windows) { return windows.edit(ann); });
     QTest::newRow("Enter") << Open([](KirvWindows &windows) {
         windows.select(ann);
-        KirvWalk::pressKey(windows.list(), Qt::Key_Return);
+        KirvWindowDriver::pressKey(windows.list(), Qt::Key_Return);
         return windows.openEditWindow();
     });
     QTest::newRow("button") << Open([](KirvWindows &windows) {
         windows.select(ann);
-        KirvWalk::click(windows.child<QToolButton>(windows.client->accountsPage(), "Accounts_EditButton"));
+        KirvWindowDriver::click(windows.child<QToolButton>(windows.client->accountsPage(), "Accounts_EditButton"));
         return windows.openEditWindow();
     });
 }
@@ -490,7 +490,7 @@ void tst_editing_in_windows::wrongPasswordLogsOutAndTheRightOneLogsIn()
     QVERIFY(add(ann));
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
-    KirvWalk::type(password(window), "mistyped");
+    KirvWindowDriver::type(password(window), "mistyped");
     QVERIFY(windows->save(window));
     TRY_SAYS(windows->problem(ann), "password");
     TRY(windows->state(ann) == "Off line");
@@ -499,7 +499,7 @@ void tst_editing_in_windows::wrongPasswordLogsOutAndTheRightOneLogsIn()
     window = windows->edit(ann);
     QVERIFY(window);
     QCOMPARE(password(window)->text(), QString("mistyped"));
-    KirvWalk::type(password(window), secret);
+    KirvWindowDriver::type(password(window), secret);
     QVERIFY(windows->save(window));
     TRY(isConnected(ann));
     TRY(server.isOnline("ann"));
@@ -513,7 +513,7 @@ void tst_editing_in_windows::savingKeepsTheConnectionOfAnAccountWhosePasswordIsN
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
     QVERIFY(!box(window, "Password")->isChecked());
-    KirvWalk::type(alias(window), "Ann");
+    KirvWindowDriver::type(alias(window), "Ann");
     QVERIFY(windows->save(window));
     QCOMPARE(windows->row(ann)->text(0), QString("Ann"));
     QVERIFY(isConnected(ann));
@@ -538,7 +538,7 @@ void tst_editing_in_windows::settingsAreUsedAtTheNextLogIn()
 void tst_editing_in_windows::cancelWritesNothingButThePicture_data()
 {
     QTest::addColumn<Leave>("leave");
-    QTest::newRow("Cancel") << Leave([](QDialog *window) { KirvWalk::click(cancelButton(window)); });
+    QTest::newRow("Cancel") << Leave([](QDialog *window) { KirvWindowDriver::click(cancelButton(window)); });
     // Not released: the window is gone by then.
     QTest::newRow("Escape") << Leave([](QDialog *window) { QTest::keyPress(window->windowHandle(), Qt::Key_Escape); });
     QTest::newRow("closed") << Leave([](QDialog *window) { window->close(); });
@@ -554,19 +554,19 @@ void tst_editing_in_windows::cancelWritesNothingButThePicture()
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
     pastePicture(window, createPicture("red.png", qRgb(255, 0, 0)));
-    KirvWalk::type(alias(window), "Somebody");
-    KirvWalk::type(password(window), "another");
+    KirvWindowDriver::type(alias(window), "Somebody");
+    KirvWindowDriver::type(password(window), "another");
     paste(description(window), "Elsewhere");
-    KirvWalk::choose(presence(window), presence(window)->itemText(2));
+    KirvWindowDriver::choose(presence(window), presence(window)->itemText(2));
     for (const char *what : { "Password", "Presence", "Description" })
         tick(box(window, what));
     paste(priority(window), "7");
-    KirvWalk::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
+    KirvWindowDriver::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
     TRY(!isLocked(window));
     paste(field(window, "fullname"), "Somebody");
-    KirvWalk::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Left);
+    KirvWindowDriver::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Left);
     leave(window);
-    TRY(!KirvWalk::window("EditAccount"));
+    TRY(!KirvWindowDriver::window("EditAccount"));
     QCOMPARE(storedValues(), before);
     QVERIFY(isConnected(ann));
     QCOMPARE(seenEntry(), fullEntry("1"));
@@ -634,7 +634,7 @@ void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused()
     QVERIFY(add(ann));
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
-    KirvWalk::type(alias(window), "Ann");
+    KirvWindowDriver::type(alias(window), "Ann");
     pastePicture(window, createPicture("red.png", qRgb(255, 0, 0)));
     const QString avatar = windows->account(ann)->getCurrentAvatarPath();
     QVERIFY(QFile::exists(avatar));
@@ -645,7 +645,7 @@ void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused()
     TRY(windows->question());
     QVERIFY2(windows->question()->text().contains(reason), qPrintable(windows->question()->text()));
     QCOMPARE(windows->question()->textFormat(), Qt::PlainText);
-    KirvWalk::click(windows->question()->button(QMessageBox::Ok));
+    KirvWindowDriver::click(windows->question()->button(QMessageBox::Ok));
     TRY(!windows->question());
 
     QCOMPARE(windows->account(ann)->getCurrentAvatarPath(), avatar);
@@ -699,7 +699,7 @@ void tst_editing_in_windows::entryIsFetchedAgain()
     TRY(!isLocked(window));
     paste(field(window, "town"), "Nowhere");
     QVERIFY(publishElsewhere(fullEntry("2")));
-    KirvWalk::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
+    KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
     TRY(!isLocked(window) && shownEntry(window) == fullEntry("2"));
 }
 
@@ -709,7 +709,7 @@ void tst_editing_in_windows::entryStaysWhenOnlyTheAccountIsChanged()
     QVERIFY(publishElsewhere(fullEntry("1")));
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
-    KirvWalk::type(alias(window), "Ann");
+    KirvWindowDriver::type(alias(window), "Ann");
     QVERIFY(windows->save(window));
     // What the first window sends arrives before what the second one asks for.
     window = editDirectory();
@@ -745,10 +745,10 @@ void tst_editing_in_windows::entryIsDeletedAfterAQuestion()
     QVERIFY(window);
     TRY(!isLocked(window));
     const auto answer = [&](QMessageBox::StandardButton button) {
-        KirvWalk::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
+        KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
         if (!QTest::qWaitFor([this] { return windows->question(); }, patience))
             return false;
-        KirvWalk::click(windows->question()->button(button));
+        KirvWindowDriver::click(windows->question()->button(button));
         return QTest::qWaitFor([this] { return !windows->question(); }, patience);
     };
 
@@ -851,7 +851,7 @@ void tst_editing_in_windows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
     QVERIFY(window);
     int answers = 0;
     connect(windows->account(ann)->connection(), &KirvConnection::directoryAnswered, window, [&answers] { ++answers; });
-    KirvWalk::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
+    KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
     TRY(answers == 1); // the first one, which was replaced
     QVERIFY(isLocked(window));
     QVERIFY(!status(window).isEmpty());
@@ -918,7 +918,7 @@ void tst_editing_in_windows::windowGoesWithWhatItEdits()
     QPointer<QDialog> window = editDirectory();
     QVERIFY(window);
     QVERIFY(isLocked(window));
-    KirvWalk::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
+    KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
     TRY(windows->question());
     QPointer<KirvEditAccountDialog> controller = windows->client->accountsPage()->getAccEdit();
     QVERIFY(controller);
@@ -946,7 +946,7 @@ void tst_editing_in_windows::connectionViewLeavesOneWindow()
     QDialog *window = windows->openEditWindow();
     QVERIFY(window);
     QCOMPARE(part<QLabel>(window, "EditAccount_Identifier")->text(), QString("bob@localhost (XMPP)"));
-    KirvWalk::type(alias(window), "Bob");
+    KirvWindowDriver::type(alias(window), "Bob");
     QVERIFY(windows->save(window));
     TRY(editWindows().isEmpty());
     QVERIFY(!windows->client->accountsPage()->getAccEdit());

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/demo/kirv_ngircd_server.h"
+#include "tools/servers/kirv_ngircd_server.h"
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_store.h"
 #include "tests/support/irc/irc_observer.h"
 #include "tests/support/irc/scripted_irc_server.h"
 
@@ -153,8 +153,8 @@ private:
 
     std::unique_ptr<QTemporaryDir> profile;
     std::unique_ptr<KirvStore> store;
-    std::unique_ptr<KirvPluginRegistry> plugins;
-    std::unique_ptr<KirvAccountRegistry> accounts;
+    std::unique_ptr<KirvPluginLoader> plugins;
+    std::unique_ptr<KirvAccountCollection> accounts;
     KirvProtocolBase *protocol = nullptr;
 };
 
@@ -166,11 +166,11 @@ void TestIrcConnection::init()
     profile = std::make_unique<QTemporaryDir>();
     store = std::make_unique<KirvStore>();
     QVERIFY2(store->open(profile->filePath("profile")), qPrintable(store->lastError()));
-    plugins = std::make_unique<KirvPluginRegistry>();
-    accounts = std::make_unique<KirvAccountRegistry>(*store);
-    connect(plugins.get(), &KirvPluginRegistry::protocolLoaded, accounts.get(),
+    plugins = std::make_unique<KirvPluginLoader>();
+    accounts = std::make_unique<KirvAccountCollection>(*store);
+    connect(plugins.get(), &KirvPluginLoader::protocolLoaded, accounts.get(),
             [this](KirvProtocolBase *loaded) { accounts->protocolLoaded(loaded); });
-    connect(plugins.get(), &KirvPluginRegistry::protocolAboutToBeUnloaded, accounts.get(),
+    connect(plugins.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, accounts.get(),
             [this](KirvProtocolBase *leaving) { accounts->protocolAboutToBeUnloaded(leaving->getName()); });
 
     // Alone in its folder, whatever other plug-ins the build has made.
@@ -517,7 +517,7 @@ void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
     ScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, QString());
     qRegisterMetaType<KirvAccount *>();
-    QSignalSpy questions(accounts.get(), &KirvAccountRegistry::passwordNeeded);
+    QSignalSpy questions(accounts.get(), &KirvAccountCollection::passwordNeeded);
     goTo(account, "available");
     QTRY_VERIFY_WITH_TIMEOUT(!questions.isEmpty() || state(account) == KirvConnection::Online, patience);
     QCOMPARE(!questions.isEmpty(), isAskedFor);

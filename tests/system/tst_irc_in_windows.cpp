@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/demo/kirv_ngircd_server.h"
-#include "client/demo/kirv_prosody_server.h"
-#include "core/accounts/kirv_account_registry.h"
+#include "tools/servers/kirv_ngircd_server.h"
+#include "tools/servers/kirv_prosody_server.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "tests/support/irc/irc_observer.h"
 #include "tests/support/irc/scripted_irc_server.h"
 #include "tests/system/kirv_windows.h"
@@ -131,19 +131,19 @@ bool tst_irc_in_windows::start(KirvLocalServer &server)
 
 void tst_irc_in_windows::menuOffersBothProtocols()
 {
-    KirvWalk walk(windows->profileFolder());
+    KirvWindowDriver walk(windows->profileFolder());
     walk.expectOnTop(
         QStringLiteral("The page is there"), [this] { return windows->client->accountsPage()->isVisible(); },
         [this] {
-            KirvWalk::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
+            KirvWindowDriver::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
         });
     walk.expect(
         QStringLiteral("The menu offers both protocols"),
-        [] { return KirvWalk::menuOffers(irc) && KirvWalk::menuOffers(xmpp); },
+        [] { return KirvWindowDriver::menuOffers(irc) && KirvWindowDriver::menuOffers(xmpp); },
         [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
     walk.expectOnTop(QStringLiteral("The menu is gone"), [] { return !QApplication::activePopupWidget(); });
     QVERIFY(walk.run());
-    QVERIFY(!KirvWalk::window(QStringLiteral("AddAccount")));
+    QVERIFY(!KirvWindowDriver::window(QStringLiteral("AddAccount")));
 }
 
 void tst_irc_in_windows::networksFillTheForm()
@@ -154,11 +154,11 @@ void tst_irc_in_windows::networksFillTheForm()
     QVERIFY(addAlice([&networks](QWidget *window) {
         auto *box = KirvWindows::child<QComboBox>(window, "AddAccount_Configuration");
         for (int i = 0; i < box->count(); ++i) {
-            KirvWalk::choose(box, box->itemText(i));
+            KirvWindowDriver::choose(box, box->itemText(i));
             networks.insert(box->itemText(i), shownNetwork(window));
         }
         // None, which was on the way, takes the login away.
-        KirvWalk::type(KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit"), alice);
+        KirvWindowDriver::type(KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit"), alice);
     }));
     QCOMPARE(networks.take(QStringLiteral("None")), QStringLiteral(" 6697 ") + required);
     QCOMPARE(networks.value(QStringLiteral("Libera.Chat")), QStringLiteral("irc.libera.chat 6697 ") + required);
@@ -234,7 +234,7 @@ void tst_irc_in_windows::disabledAccountSaysGoodbye()
     TRY(windows->question());
     QVERIFY(windows->question()->text().contains(alice) && windows->question()->text().contains(irc));
     QVERIFY(!server.output().contains(QLatin1String("Got QUIT command")));
-    KirvWalk::click(windows->question()->button(QMessageBox::Yes));
+    KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
     TRY(windows->state(alice) == QLatin1String("Disabled"));
     TRY(server.output().contains(QLatin1String("Got QUIT command")));
     QCOMPARE(windows->row(alice)->checkState(0), Qt::Unchecked);
@@ -272,8 +272,8 @@ void tst_irc_in_windows::defaultPresenceIsSeenByOthers()
     QVERIFY(window);
     auto *choice = KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo");
     if (!choice->isEnabled())
-        KirvWalk::pressKey(KirvWindows::child<QWidget>(window, "EditAccount_RememberPresence"), Qt::Key_Space);
-    KirvWalk::choose(choice, QStringLiteral("Away"));
+        KirvWindowDriver::pressKey(KirvWindows::child<QWidget>(window, "EditAccount_RememberPresence"), Qt::Key_Space);
+    KirvWindowDriver::choose(choice, QStringLiteral("Away"));
     auto *description = KirvWindows::child<QTextEdit>(window, "EditAccount_DescriptionEdit");
     description->setFocus();
     QTest::keyClicks(description, QStringLiteral("Gone fishing"));
@@ -341,7 +341,7 @@ void tst_irc_in_windows::textThatIsNoNickCannotBeTyped()
     QString typed;
     QVERIFY(addAlice([&typed](QWidget *window) {
         auto *edit = KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit");
-        KirvWalk::type(edit, QStringLiteral("9#al ice"));
+        KirvWindowDriver::type(edit, QStringLiteral("9#al ice"));
         typed = edit->text();
     }));
     QCOMPARE(typed, alice);
@@ -362,7 +362,7 @@ void tst_irc_in_windows::wrongServerPasswordIsSaidAndCorrected()
 
     QDialog *window = windows->edit(alice);
     QVERIFY(window);
-    KirvWalk::type(KirvWindows::child<QLineEdit>(window, "EditAccount_Password"), QStringLiteral("sesame"));
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(window, "EditAccount_Password"), QStringLiteral("sesame"));
     QVERIFY(windows->save(window));
     TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
@@ -454,8 +454,8 @@ void tst_irc_in_windows::bothProtocolsSideBySide()
     windows->showPage(0);
     TRY(windows->selector()->count() == 2);
     // What is current there without the user's choice is no main account yet.
-    KirvWalk::choose(windows->selector(), ann);
-    KirvWalk::choose(windows->selector(), alice);
+    KirvWindowDriver::choose(windows->selector(), ann);
+    KirvWindowDriver::choose(windows->selector(), alice);
     TRY_SAYS(windows->title(), "alice");
 
     QVERIFY(windows->start());

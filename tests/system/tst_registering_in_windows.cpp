@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/demo/kirv_prosody_server.h"
-#include "core/accounts/kirv_account_registry.h"
+#include "tools/servers/kirv_prosody_server.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "tests/support/xmpp/registration_script.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/system/kirv_windows.h"
@@ -82,11 +82,11 @@ private:
     bool choose(QDialog *editWindow, const QString &command);
     static QMessageBox *box(const char *name)
     {
-        return qobject_cast<QMessageBox *>(KirvWalk::window(QLatin1String(name)));
+        return qobject_cast<QMessageBox *>(KirvWindowDriver::window(QLatin1String(name)));
     }
     static void confirm(const char *question)
     {
-        KirvWalk::click(box(question)->findChild<QPushButton *>(QLatin1String(question) + QLatin1String("_Delete")));
+        KirvWindowDriver::click(box(question)->findChild<QPushButton *>(QLatin1String(question) + QLatin1String("_Delete")));
     }
 
     std::unique_ptr<KirvWindows> windows;
@@ -123,17 +123,17 @@ bool tst_registering_in_windows::openWindow(const QString &configuration)
     windows->showPage(0);
     if (!QTest::qWaitFor([this] { return windows->client->accountsPage()->isVisible(); }, patience))
         return false;
-    KirvWalk::click(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_RegisterButton"));
-    window = KirvWalk::window(QStringLiteral("XmppRegistration"));
+    KirvWindowDriver::click(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_RegisterButton"));
+    window = KirvWindowDriver::window(QStringLiteral("XmppRegistration"));
     if (!window || !QTest::qWaitForWindowExposed(window))
         return false;
-    KirvWalk::choose(child<QComboBox>("XmppRegistration_Configuration"), configuration);
+    KirvWindowDriver::choose(child<QComboBox>("XmppRegistration_Configuration"), configuration);
     return filled("domain") == QLatin1String("localhost");
 }
 
 void tst_registering_in_windows::press(const char *button)
 {
-    KirvWalk::click(child<QPushButton>(button));
+    KirvWindowDriver::click(child<QPushButton>(button));
 }
 
 QString tst_registering_in_windows::message() const
@@ -156,15 +156,15 @@ bool tst_registering_in_windows::addRomeo(KirvProsodyServer &server)
 
 bool tst_registering_in_windows::choose(QDialog *editWindow, const QString &command)
 {
-    KirvWalk walk(windows->profileFolder());
+    KirvWindowDriver walk(windows->profileFolder());
     walk.expectOnTop(
         QStringLiteral("The edit window is there"), [editWindow] { return editWindow->isVisible(); },
         [editWindow] {
-            KirvWalk::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
+            KirvWindowDriver::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
         });
     walk.expect(
-        QStringLiteral("The menu offers: %1").arg(command), [command] { return KirvWalk::menuOffers(command); },
-        [command] { KirvWalk::clickInMenu(command); });
+        QStringLiteral("The menu offers: %1").arg(command), [command] { return KirvWindowDriver::menuOffers(command); },
+        [command] { KirvWindowDriver::clickInMenu(command); });
     return walk.run();
 }
 
@@ -258,7 +258,7 @@ void tst_registering_in_windows::serverThatIsNotThereIsSaid()
     // It comes after all.
     KirvProsodyServer server;
     QVERIFY(start(server));
-    KirvWalk::choose(child<QComboBox>("XmppRegistration_Configuration"), here);
+    KirvWindowDriver::choose(child<QComboBox>("XmppRegistration_Configuration"), here);
     fill("domain", QStringLiteral("localhost"));
     press("XmppRegistration_NextButton");
     TRY(isAtForm());
@@ -355,10 +355,10 @@ void tst_registering_in_windows::passwordIsChangedOnTheServer()
     QVERIFY(editWindow);
     QVERIFY(choose(editWindow, changePassword));
     QPointer<QWidget> dialog;
-    TRY((dialog = KirvWalk::window(QStringLiteral("XmppPassword"))));
-    KirvWalk::type(KirvWindows::child<QLineEdit>(dialog, "XmppPassword_Password"), QStringLiteral("fresh"));
-    KirvWalk::type(KirvWindows::child<QLineEdit>(dialog, "XmppPassword_Repetition"), QStringLiteral("fresh"));
-    KirvWalk::click(KirvWindows::button(dialog, "XmppPassword_Buttons", QDialogButtonBox::Ok));
+    TRY((dialog = KirvWindowDriver::window(QStringLiteral("XmppPassword"))));
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(dialog, "XmppPassword_Password"), QStringLiteral("fresh"));
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(dialog, "XmppPassword_Repetition"), QStringLiteral("fresh"));
+    KirvWindowDriver::click(KirvWindows::button(dialog, "XmppPassword_Buttons", QDialogButtonBox::Ok));
     TRY(!dialog);
     QCOMPARE(windows->account(romeoAddress)->getPassword(), QStringLiteral("fresh"));
     XmppObserver withOldPassword;
@@ -389,7 +389,7 @@ void tst_registering_in_windows::actionsNeedAConnection()
     TRY(!isConnected(romeoAddress));
     QVERIFY(!areOffered());
     QVERIFY(choose(editWindow, deleteAccount));
-    QVERIFY(!KirvWalk::window(QStringLiteral("XmppDeletion_FirstQuestion")));
+    QVERIFY(!KirvWindowDriver::window(QStringLiteral("XmppDeletion_FirstQuestion")));
 }
 
 void tst_registering_in_windows::accountIsDeletedOnTheServer()
@@ -409,7 +409,7 @@ void tst_registering_in_windows::accountIsDeletedOnTheServer()
     }
     TRY(!windows->row(romeoAddress));
     TRY(!server.hasUser(romeo));
-    TRY(!KirvWalk::window(QStringLiteral("EditAccount")));
+    TRY(!KirvWindowDriver::window(QStringLiteral("EditAccount")));
     QVERIFY(!windows->account(romeoAddress));
     TRY(windows->selector()->count() == 0);
     QVERIFY(!server.isOnline(romeo));
@@ -440,7 +440,7 @@ void tst_registering_in_windows::cancelKeepsTheAccount()
         confirm(qPrintable(question));
     }
     TRY(box(qPrintable(last)));
-    KirvWalk::click(box(qPrintable(last))->button(QMessageBox::Cancel));
+    KirvWindowDriver::click(box(qPrintable(last))->button(QMessageBox::Cancel));
     TRY(!box(qPrintable(last)));
     QVERIFY(!box("XmppDeletion_SecondQuestion"));
     QVERIFY(editWindow->isVisible());

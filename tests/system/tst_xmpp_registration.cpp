@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/xmpp/registration_script.h"
 #include "tests/support/xmpp/xmpp_observer.h"
@@ -192,7 +192,7 @@ void TestXmppRegistration::newAccountIsInTheListAndLogsIn()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    QSignalSpy added(&profile->accounts(), &KirvAccountRegistry::accountAdded);
+    QSignalSpy added(&profile->accounts(), &KirvAccountCollection::accountAdded);
     QVERIFY(openWindow());
     fillServer(server);
     press("NextButton");

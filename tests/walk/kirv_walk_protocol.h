@@ -2,9 +2,9 @@
 #ifndef KIRV_WALK_PROTOCOL_H
 #define KIRV_WALK_PROTOCOL_H
 
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/connection/kirv_protocol_plugin.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/protocol/kirv_protocol_plugin.h"
 #include "tests/support/kirv_fake_clock.h"
 
 /// A connection whose server does nothing by itself: a test says when it answers, and how, by the names of the

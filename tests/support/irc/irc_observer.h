@@ -2,7 +2,7 @@
 #ifndef KIRV_TEST_IRC_OBSERVER_H
 #define KIRV_TEST_IRC_OBSERVER_H
 
-#include "client/demo/kirv_ngircd_server.h"
+#include "tools/servers/kirv_ngircd_server.h"
 
 #include <QDebug>
 #include <QRegularExpression>

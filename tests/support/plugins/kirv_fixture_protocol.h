@@ -2,9 +2,9 @@
 #ifndef KIRV_FIXTURE_PROTOCOL_H
 #define KIRV_FIXTURE_PROTOCOL_H
 
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/connection/kirv_protocol_plugin.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/protocol/kirv_protocol_plugin.h"
 
 /// A connection that logs in and out at once.
 class KirvFixtureConnection : public KirvConnection {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/support/xmpp/xmpp_observer.h"
 
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QTest>
 #include <QXmppRosterManager.h>

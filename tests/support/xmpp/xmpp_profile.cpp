@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/support/xmpp/xmpp_profile.h"
 
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,11 +12,11 @@ XmppProfile::XmppProfile()
         error = store.lastError();
         return;
     }
-    registry = std::make_unique<KirvAccountRegistry>(store);
-    pluginRegistry = std::make_unique<KirvPluginRegistry>();
-    QObject::connect(pluginRegistry.get(), &KirvPluginRegistry::protocolLoaded, registry.get(),
+    registry = std::make_unique<KirvAccountCollection>(store);
+    pluginRegistry = std::make_unique<KirvPluginLoader>();
+    QObject::connect(pluginRegistry.get(), &KirvPluginLoader::protocolLoaded, registry.get(),
                      [this](KirvProtocolBase *loaded) { registry->protocolLoaded(loaded); });
-    QObject::connect(pluginRegistry.get(), &KirvPluginRegistry::protocolAboutToBeUnloaded, registry.get(),
+    QObject::connect(pluginRegistry.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, registry.get(),
                      [this](KirvProtocolBase *leaving) { registry->protocolAboutToBeUnloaded(leaving->getName()); });
 
     // Alone in its folder, whatever other plug-ins the build has made.

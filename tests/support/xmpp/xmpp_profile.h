@@ -3,11 +3,11 @@
 #define KIRV_TEST_XMPP_PROFILE_H
 
 #include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_registry.h"
-#include "core/connection/kirv_connection.h"
-#include "core/connection/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_registry.h"
-#include "core/settings/kirv_store.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_store.h"
 
 #include <QMap>
 #include <QTemporaryDir>
@@ -29,8 +29,8 @@ public:
     /// Why it cannot be used; empty when all is well.
     QString problem() const { return error; }
     KirvProtocolBase *protocol() const { return xmpp; }
-    KirvAccountRegistry &accounts() const { return *registry; }
-    KirvPluginRegistry &plugins() const { return *pluginRegistry; }
+    KirvAccountCollection &accounts() const { return *registry; }
+    KirvPluginLoader &plugins() const { return *pluginRegistry; }
     QString folder() const { return files.path(); }
 
     /// An account that is off line yet, and does not keep a test waiting. \a values are its settings.
@@ -44,8 +44,8 @@ public:
 private:
     QTemporaryDir files;
     KirvStore store;
-    std::unique_ptr<KirvAccountRegistry> registry;
-    std::unique_ptr<KirvPluginRegistry> pluginRegistry;
+    std::unique_ptr<KirvAccountCollection> registry;
+    std::unique_ptr<KirvPluginLoader> pluginRegistry;
     KirvProtocolBase *xmpp = nullptr;
     QString error;
 };

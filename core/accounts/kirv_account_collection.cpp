@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/accounts/kirv_account_collection.h"
+
+#include "core/store/kirv_store.h"
+
+#include <QEventLoop>
+#include <QTimer>
+#include <algorithm>
+
+KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
+    : QObject(parent)
+    , store(store)
+{
+    const QList<KirvAccountRecord> records = store.readAccounts();
+    error = store.lastError();
+    byKey.reserve(int(records.size()));
+    for (const KirvAccountRecord &record : records)
+        append(record);
+}
+
+KirvAccountCollection::~KirvAccountCollection()
+{
+    for (KirvAccount *account : findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly)) {
+        account->disconnect(this);
+        delete account;
+    }
+}
+
+QList<KirvAccount *> KirvAccountCollection::accountsOf(const QString &protocol) const
+{
+    return byProtocol.value(protocol).accounts;
+}
+
+QList<KirvAccountInfo *> KirvAccountCollection::descriptionsOf(const QString &protocol) const
+{
+    return byProtocol.value(protocol).infos;
+}
+
+void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logIn)
+{
+    const QString name = protocol->getName();
+    if (protocols.value(name) == protocol)
+        return;
+    protocolAboutToBeUnloaded(name);
+    const QPointer<KirvProtocolBase> loaded(protocol);
+    protocols.insert(name, loaded);
+    connect(protocol, &KirvProtocolBase::directoryRequested, this, &KirvAccountCollection::requestDirectory);
+    connect(protocol, &QObject::destroyed, this, [this, name] {
+        if (protocols.contains(name) && !protocols.value(name))
+            protocolAboutToBeUnloaded(name);
+    });
+
+    for (const QPointer<KirvAccount> &account : guarded(name)) {
+        if (!account || !loaded || protocols.value(name) != loaded)
+            continue;
+        account->load(protocol, logIn);
+        if (account)
+            Q_EMIT account->changed();
+    }
+}
+
+void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
+{
+    if (!protocols.contains(protocol))
+        return;
+    if (KirvProtocolBase *unloaded = protocols.take(protocol))
+        unloaded->disconnect(this);
+    for (const QPointer<KirvAccount> &account : guarded(protocol)) {
+        if (account)
+            account->unload();
+        if (account)
+            Q_EMIT account->changed();
+    }
+    // Those that were removed and are still logging out have connections of the protocol, too.
+    for (KirvAccount *account : findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (account->isRemoved() && account->key().protocol == protocol)
+            account->unload();
+    }
+}
+
+void KirvAccountCollection::logOutAll(int milliseconds)
+{
+    QList<QPointer<KirvConnection>> open;
+    for (KirvAccount *account : findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (account->connection())
+            open << account->connection();
+        account->stopReconciling();
+    }
+    for (const QPointer<KirvConnection> &connection : qAsConst(open)) {
+        if (connection)
+            connection->logOut();
+    }
+
+    const auto isDone = [&open] {
+        return std::all_of(open.cbegin(), open.cend(), [](const QPointer<KirvConnection> &connection) {
+            return !connection || connection->state() == KirvConnection::Offline;
+        });
+    };
+    if (isDone())
+        return;
+    QEventLoop loop;
+    const auto quitWhenDone = [&] {
+        if (isDone())
+            loop.quit();
+    };
+    for (const QPointer<KirvConnection> &connection : qAsConst(open)) {
+        if (!connection)
+            continue;
+        connect(connection, &KirvConnection::stateChanged, &loop, quitWhenDone);
+        connect(connection, &QObject::destroyed, &loop, quitWhenDone);
+    }
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
+{
+    auto *account = new KirvAccount(store, record, this);
+    all.append(account);
+    byKey.insert(record.key, account);
+    ProtocolAccounts &siblings = byProtocol[record.key.protocol];
+    siblings.accounts.append(account);
+    siblings.infos.append(account->info());
+
+    connect(account, &KirvAccount::changed, this, [this, account] { Q_EMIT accountChanged(account); });
+    connect(account, &KirvAccount::refused, this, &KirvAccountCollection::refuse);
+    connect(account, &KirvAccount::passwordNeeded, this, [this, account] { Q_EMIT passwordNeeded(account); });
+    connect(account, &KirvAccount::noticeReceived, this,
+            [this, account](const QString &text) { Q_EMIT noticeReceived(account, text); });
+    return account;
+}
+
+void KirvAccountCollection::takeOut(KirvAccount *account)
+{
+    all.removeOne(account);
+    byKey.remove(account->key());
+    ProtocolAccounts &siblings = byProtocol[account->key().protocol];
+    siblings.accounts.removeOne(account);
+    siblings.infos.removeOne(account->info());
+}
+
+QList<QPointer<KirvAccount>> KirvAccountCollection::guarded(const QString &protocol) const
+{
+    QList<QPointer<KirvAccount>> pointers;
+    for (KirvAccount *account : byProtocol.value(protocol).accounts)
+        pointers << account;
+    return pointers;
+}
+
+/// Empty when nothing but the store can refuse.
+QString KirvAccountCollection::whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const
+{
+    const KirvProtocolBase *known = protocols.value(record.key.protocol);
+    if (byKey.contains(record.key))
+        return tr("The account \"%1\" (%2) exists already.").arg(record.key.id, record.key.protocol);
+    if (!known || known != protocol)
+        return tr("The account \"%1\" could not be created: the protocol %2 is not loaded.")
+            .arg(record.key.id, record.key.protocol);
+    return record.key.id.isEmpty() ? tr("An account needs a login.") : QString();
+}
+
+KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, KirvProtocol *protocol)
+{
+    const QString reason = whyNotCreated(record, protocol);
+    if (!reason.isEmpty()) {
+        if (byKey.contains(record.key)) // whoever adds it says so
+            error = reason;
+        else
+            refuse(reason);
+        return nullptr;
+    }
+    KirvProtocolBase *known = protocols.value(record.key.protocol);
+    KirvAccountRecord complete = record;
+    complete.settings = kirvStoredValues(known->accountSettings());
+    for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
+        complete.settings.insert(value.key(), value.value());
+    if (!store.insertAccount(complete)) {
+        refuse(store.lastError());
+        return nullptr;
+    }
+    error.clear();
+    const QPointer<KirvAccount> account = append(complete);
+    account->load(known, true);
+    Q_EMIT accountAdded(account);
+    return account && byKey.value(record.key) == account ? account.data() : nullptr;
+}
+
+bool KirvAccountCollection::remove(KirvAccount *account)
+{
+    if (account->isRemoved())
+        return true;
+    // The one step that can be refused comes first: nothing has happened yet then.
+    if (!store.removeAccount(account->key())) {
+        refuse(store.lastError());
+        return false;
+    }
+    error.clear();
+    const KirvAccountKey key = account->key();
+    account->leave();
+    const QPointer<KirvAccount> alive(account);
+    Q_EMIT accountAboutToBeRemoved(account);
+    if (alive)
+        takeOut(account);
+    Q_EMIT accountRemoved(key.id, key.protocol);
+    return true;
+}
+
+KirvAccount *KirvAccountCollection::load(KirvAccount *account)
+{
+    KirvProtocolBase *protocol = protocols.value(account->key().protocol);
+    if (protocol && !account->isLoaded())
+        account->load(protocol, true);
+    return account->isLoaded() ? account : nullptr;
+}
+
+void KirvAccountCollection::requestDirectory(KirvAccountConnection *connection,
+                                             KirvProtocolBase::DirectoryOperation operation,
+                                             const QList<KirvField> &fields)
+{
+    auto *account = static_cast<KirvAccount *>(connection);
+    if (!all.contains(account))
+        return;
+    switch (operation) {
+    case KirvProtocolBase::FetchDirectory:
+        account->directory().fetch();
+        break;
+    case KirvProtocolBase::PublishDirectory:
+        account->directory().publish(fields);
+        break;
+    case KirvProtocolBase::DeleteDirectory:
+        account->directory().deleteEntry();
+        break;
+    }
+}
+
+void KirvAccountCollection::refuse(const QString &reason)
+{
+    error = reason;
+    Q_EMIT problemOccurred(reason);
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_COLLECTION_H
+#define KIRV_ACCOUNT_COLLECTION_H
+
+#include "core/accounts/kirv_account.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+
+/// Every configured account, over a store.
+///
+/// The store is written before an operation that changes something returns.
+class KirvAccountCollection : public QObject {
+    Q_OBJECT
+
+public:
+    /// Reads all accounts of \a store, which is not owned and outlives the collection.
+    explicit KirvAccountCollection(KirvStore &store, QObject *parent = nullptr);
+    ~KirvAccountCollection() override;
+
+    /// Every configured account in order, loaded or not. The collection owns them.
+    QList<KirvAccount *> accounts() const { return all; }
+    QList<KirvAccount *> accountsOf(const QString &protocol) const;
+    /// Their descriptions, in the same order; owned by the accounts.
+    QList<KirvAccountInfo *> descriptionsOf(const QString &protocol) const;
+    /// The configured account, loaded or not; null when there is none. Constant time.
+    KirvAccount *find(const KirvAccountKey &key) const { return byKey.value(key); }
+
+    /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
+    /// defaults. Null when the account exists, the protocol is not the loaded one, or the store refuses; lastError()
+    /// then says why.
+    KirvAccount *create(const KirvAccountRecord &record, KirvProtocol *protocol);
+    /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
+    bool remove(KirvAccount *account);
+    /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
+    KirvAccount *load(KirvAccount *account);
+
+    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn.
+    void protocolLoaded(KirvProtocolBase *protocol, bool logIn = true);
+    /// The protocol is about to be unloaded: its connections are closed and destroyed. The accounts stay.
+    void protocolAboutToBeUnloaded(const QString &protocol);
+
+    /// Logs every account out in an orderly way; returns when all are off line or after \a milliseconds.
+    void logOutAll(int milliseconds);
+
+    /// Why the last create() or remove() failed or the last change was refused, for the user; empty otherwise.
+    QString lastError() const { return error; }
+
+Q_SIGNALS:
+    void accountAdded(KirvAccount *account);
+    /// The account is still complete, but not logged in any more as far as it is concerned.
+    void accountAboutToBeRemoved(KirvAccount *account);
+    void accountRemoved(const QString &id, const QString &protocol);
+    /// Anything about it changed, see KirvAccount::changed().
+    void accountChanged(KirvAccount *account);
+    void passwordNeeded(KirvAccount *account);
+    void noticeReceived(KirvAccount *account, const QString &text);
+    /// The store did not take a change, or an account could not be created: \a text is for the user.
+    void problemOccurred(const QString &text);
+
+private:
+    /// The accounts of one protocol and their descriptions, both in order.
+    struct ProtocolAccounts {
+        QList<KirvAccount *> accounts;
+        QList<KirvAccountInfo *> infos;
+    };
+
+    KirvAccount *append(const KirvAccountRecord &record);
+    void takeOut(KirvAccount *account);
+    QList<QPointer<KirvAccount>> guarded(const QString &protocol) const;
+    QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
+    void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
+                          const QList<KirvField> &fields);
+    void refuse(const QString &reason);
+
+    KirvStore &store;
+    QList<KirvAccount *> all;
+    QHash<KirvAccountKey, KirvAccount *> byKey;
+    QHash<QString, ProtocolAccounts> byProtocol;
+    QHash<QString, QPointer<KirvProtocolBase>> protocols;
+    QString error;
+};
+
+#endif

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/accounts/kirv_account_directory.h"
+
+#include "core/protocol/kirv_connection.h"
+
+#include <algorithm>
+
+namespace {
+
+bool hasSameValue(const KirvField &left, const KirvField &right)
+{
+    return left.getText() == right.getText() && left.isChecked() == right.isChecked();
+}
+
+} // namespace
+
+KirvAccountDirectory::KirvAccountDirectory(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void KirvAccountDirectory::setConnection(KirvConnection *newConnection)
+{
+    if (connection)
+        connection->disconnect(this);
+    connection = newConnection;
+    known.reset();
+    if (held || outstanding)
+        fail(held ? Publish : operation, tr("The connection ended before the server answered."));
+    if (connection)
+        connect(connection, &KirvConnection::directoryAnswered, this, &KirvAccountDirectory::receive);
+}
+
+void KirvAccountDirectory::setBlankFields(const QList<KirvField> &fields)
+{
+    blank = fields;
+}
+
+void KirvAccountDirectory::fetch()
+{
+    known.reset();
+    if (connection)
+        begin(Fetch, connection->fetchDirectory());
+}
+
+void KirvAccountDirectory::publish(const QList<KirvField> &fields)
+{
+    if (!known)
+        return;
+    held = changes(fields, *known);
+    if (!saving)
+        connectionSettled();
+}
+
+void KirvAccountDirectory::deleteEntry()
+{
+    known.reset();
+    if (connection)
+        begin(Delete, connection->deleteDirectory());
+}
+
+void KirvAccountDirectory::forget()
+{
+    known.reset();
+}
+
+void KirvAccountDirectory::hold()
+{
+    saving = true;
+}
+
+void KirvAccountDirectory::release(bool saved)
+{
+    saving = false;
+    if (!saved)
+        held.reset();
+}
+
+void KirvAccountDirectory::connectionSettled()
+{
+    if (!held || saving || !connection)
+        return;
+    if (!connection->isLoggedIn() && connection->state() != KirvConnection::Offline
+        && connection->state() != KirvConnection::Waiting)
+        return; // it is on its way
+    const QList<KirvField> changes = *held;
+    held.reset();
+    send(changes);
+}
+
+QList<KirvField> KirvAccountDirectory::changes(const QList<KirvField> &fields, const QList<KirvField> &base)
+{
+    QList<KirvField> changed;
+    for (const KirvField &field : fields) {
+        const auto before = std::find_if(base.begin(), base.end(), [&field](const KirvField &candidate) {
+            return candidate.getId() == field.getId();
+        });
+        if (before == base.end() || !hasSameValue(*before, field))
+            changed << field;
+    }
+    return changed;
+}
+
+void KirvAccountDirectory::begin(Operation newOperation, int request)
+{
+    operation = newOperation;
+    outstanding = request;
+}
+
+void KirvAccountDirectory::send(const QList<KirvField> &changes)
+{
+    if (!changes.isEmpty()) {
+        begin(Publish, connection->publishDirectory(changes));
+        return;
+    }
+    KirvDirectoryAnswer unchanged;
+    unchanged.outcome = KirvDirectoryAnswer::Data;
+    unchanged.fields = base();
+    Q_EMIT answered(Publish, unchanged);
+}
+
+void KirvAccountDirectory::receive(const KirvDirectoryAnswer &answer)
+{
+    if (answer.request != outstanding)
+        return;
+    outstanding = 0;
+    if (answer.outcome == KirvDirectoryAnswer::Data)
+        known = answer.fields;
+    else if (answer.outcome == KirvDirectoryAnswer::None)
+        known = blank;
+    Q_EMIT answered(operation, answer);
+}
+
+void KirvAccountDirectory::fail(Operation failed, const QString &reason)
+{
+    outstanding = 0;
+    held.reset();
+    KirvDirectoryAnswer answer;
+    answer.failure = KirvFailure(KirvFailure::RequestFailed, reason);
+    Q_EMIT answered(failed, answer);
+}

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/accounts/kirv_reconciler.h"
+
+namespace {
+
+bool isSame(const KirvPresence &left, const KirvPresence &right)
+{
+    return left.getId() == right.getId() && left.getDescription() == right.getDescription();
+}
+
+} // namespace
+
+KirvReconciler::KirvReconciler(std::function<Wanted()> wanted, QObject *parent)
+    : QObject(parent)
+    , wanted(std::move(wanted))
+{
+}
+
+void KirvReconciler::setConnection(KirvConnection *connection)
+{
+    if (target)
+        target->disconnect(this);
+    target = connection;
+    urge = None;
+    if (!target)
+        return;
+    connect(target, &KirvConnection::stateChanged, this, &KirvReconciler::wake);
+    wake();
+}
+
+KirvConnection *KirvReconciler::connection() const
+{
+    return target;
+}
+
+void KirvReconciler::wake()
+{
+    if (scheduled || !target)
+        return;
+    scheduled = true;
+    QMetaObject::invokeMethod(this, &KirvReconciler::reconcile, Qt::QueuedConnection);
+}
+
+void KirvReconciler::insist(Urge newUrge)
+{
+    urge = qMax(urge, newUrge);
+    wake();
+}
+
+void KirvReconciler::hold()
+{
+    ++holds;
+}
+
+void KirvReconciler::release()
+{
+    --holds;
+    wake();
+}
+
+KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge)
+{
+    const KirvConnection::State state = connection.state();
+    if (!wanted.online) {
+        const bool isLeaving = state == KirvConnection::Disconnecting && !connection.comesBack();
+        return state == KirvConnection::Offline || isLeaving ? Nothing : LogOut;
+    }
+    const bool isOtherLogin = connection.login() != wanted.login;
+    const bool isOtherPresence = !isSame(connection.presence(), wanted.presence);
+    switch (state) {
+    case KirvConnection::Offline: {
+        const bool gaveUp = connection.lastFailure().isFailure();
+        return gaveUp && !isOtherLogin && urge == None ? Nothing : LogIn;
+    }
+    case KirvConnection::Waiting:
+        if (isOtherLogin || urge != None)
+            return LogIn;
+        break;
+    case KirvConnection::Connecting:
+        if (isOtherLogin)
+            return LogIn;
+        break;
+    case KirvConnection::Online:
+        if (isOtherLogin || urge == Reconnect)
+            return LogIn;
+        break;
+    case KirvConnection::Disconnecting:
+        if (isOtherLogin || !connection.comesBack())
+            return LogIn;
+        break;
+    }
+    return isOtherPresence ? ChangePresence : Nothing;
+}
+
+void KirvReconciler::reconcile()
+{
+    scheduled = false;
+    if (!target || holds > 0)
+        return;
+    const Wanted now = wanted();
+    const Step step = nextStep(now, *target, urge);
+    urge = None;
+    const QPointer<KirvReconciler> alive(this);
+    target->setAvatarPath(now.avatarPath);
+    if (alive && target)
+        take(step, now);
+    if (alive && target && (step == Nothing || step == ChangePresence))
+        Q_EMIT settled();
+}
+
+void KirvReconciler::take(Step step, const Wanted &now)
+{
+    switch (step) {
+    case LogIn:
+        target->logIn(now.login, now.presence);
+        break;
+    case ChangePresence:
+        target->changePresence(now.presence);
+        break;
+    case LogOut:
+        target->logOut();
+        break;
+    case Nothing:
+        break;
+    }
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_RECONCILER_H
+#define KIRV_RECONCILER_H
+
+#include "core/protocol/kirv_connection.h"
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+
+/// Brings the connection of one account to what is wanted of it.
+///
+/// Whatever changes an account only calls wake(); from the event loop, and not while a save is open, the reconciler
+/// compares what is wanted with what the connection really uses and takes the one step that is needed. So nothing is
+/// sent from uncommitted state, and several changes make one step.
+class KirvReconciler : public QObject {
+    Q_OBJECT
+
+public:
+    /// What is stored, and what the user wants.
+    struct Wanted {
+        bool online = false;
+        KirvLogin login;
+        KirvPresence presence;
+        QString avatarPath;
+    };
+    enum Step {
+        Nothing,
+        LogIn, ///< also again: out and in when it is logged in
+        ChangePresence,
+        LogOut
+    };
+    /// How much somebody insists, besides what is wanted.
+    enum Urge {
+        None,
+        Retry, ///< a connection that gave up or waits tries again at once
+        Reconnect ///< a connection that is logged in logs out and in again
+    };
+
+    /// \a wanted is called for what is wanted now.
+    explicit KirvReconciler(std::function<Wanted()> wanted, QObject *parent = nullptr);
+
+    /// The connection to look after; not owned. Null: there is none.
+    void setConnection(KirvConnection *connection);
+    KirvConnection *connection() const;
+
+    /// Something that is wanted may have changed.
+    void wake();
+    void insist(Urge urge);
+    /// Nothing is done between hold() and the release() that belongs to it.
+    void hold();
+    void release();
+
+    /// The one step from the present state of \a connection towards \a wanted.
+    static Step nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge);
+
+Q_SIGNALS:
+    /// The connection uses what is wanted; or it gave up, or waits.
+    void settled();
+
+private:
+    void reconcile();
+    void take(Step step, const Wanted &wanted);
+
+    const std::function<Wanted()> wanted;
+    QPointer<KirvConnection> target;
+    Urge urge = None;
+    int holds = 0;
+    bool scheduled = false;
+};
+
+#endif

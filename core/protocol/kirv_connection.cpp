@@ -1,0 +1,408 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/protocol/kirv_connection.h"
+
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QSet>
+
+namespace {
+
+bool isSame(const KirvPresence &left, const KirvPresence &right)
+{
+    return left.getId() == right.getId() && left.getDescription() == right.getDescription();
+}
+
+} // namespace
+
+class KirvConnection::Private {
+public:
+    Private(KirvConnection *connection, KirvClock &clock)
+        : connection(connection)
+        , clock(clock)
+        , since(clock.now())
+    {
+    }
+
+    bool enter(State next);
+    bool failUnansweredRequests();
+    void inThisState(int milliseconds, std::function<void()> callback);
+
+    void logInNow();
+    void startLogOut(bool comeBack);
+    void finishLogOut();
+    void abort();
+    void fail(KirvFailure failure);
+    void waitAndRetry();
+    bool accepts(State expected) const { return state == expected && !aborting; }
+
+    int startRequest(const std::function<void(int)> &start);
+    void answer(const KirvDirectoryAnswer &answer);
+
+    KirvConnection *const connection;
+    KirvClock &clock;
+    Timing timing;
+
+    State state = Offline;
+    quint64 visit = 0; ///< counts the states entered, so that a timer can tell whether it is still wanted
+    QDateTime since;
+    QDateTime nextRetry;
+    KirvFailure lastFailure;
+    KirvLogin login;
+    KirvPresence wanted;
+    KirvPresence applied; ///< what the server received last
+    QString avatarPath;
+    KirvBackOff backOff;
+    bool aborting = false; ///< reports of the protocol are ignored meanwhile
+    bool comesBack = false; ///< the log-out is followed by a log-in
+
+    int lastRequest = 0;
+    bool starting = false; ///< a directory request is being started
+    QSet<int> outstanding;
+};
+
+/// Enters \a next and emits it. False when a slot has moved the connection on or destroyed it (and this object with
+/// it): there is nothing left to do then.
+bool KirvConnection::Private::enter(State next)
+{
+    const quint64 entered = ++visit;
+    if (next != Waiting)
+        nextRetry = QDateTime();
+    if (next == state)
+        return true;
+    state = next;
+    since = clock.now();
+    const QPointer<KirvConnection> alive(connection);
+    Q_EMIT connection->stateChanged(next);
+    if (alive && next != Online && !failUnansweredRequests())
+        return false;
+    return alive && visit == entered;
+}
+
+/// False when a slot has destroyed the connection.
+bool KirvConnection::Private::failUnansweredRequests()
+{
+    const QPointer<KirvConnection> alive(connection);
+    const QList<int> requests = outstanding.values();
+    const QString reason = KirvConnection::tr("The connection ended before the server answered.");
+    for (int request : requests) {
+        connection->failDirectoryRequest(request, KirvFailure(KirvFailure::RequestFailed, reason));
+        if (!alive)
+            return false;
+    }
+    return true;
+}
+
+/// Calls \a callback later, unless the state has been left (or entered again) by then.
+void KirvConnection::Private::inThisState(int milliseconds, std::function<void()> callback)
+{
+    clock.callLater(milliseconds, connection, [this, visitNow = visit, callback = std::move(callback)] {
+        if (visit == visitNow)
+            callback();
+    });
+}
+
+void KirvConnection::Private::logInNow()
+{
+    comesBack = false;
+    if (!enter(Connecting))
+        return;
+    inThisState(timing.loginTimeout, [this] { fail(KirvFailure::TimedOut); });
+    applied = wanted;
+    connection->startLogin(wanted);
+}
+
+void KirvConnection::Private::startLogOut(bool comeBack)
+{
+    comesBack = comeBack;
+    backOff.reset();
+    if (!enter(Disconnecting))
+        return;
+    inThisState(timing.logoutTimeout, [this] {
+        abort();
+        finishLogOut();
+    });
+    connection->startLogout();
+}
+
+void KirvConnection::Private::finishLogOut()
+{
+    if (enter(Offline) && comesBack)
+        logInNow();
+}
+
+void KirvConnection::Private::abort()
+{
+    const QScopedValueRollback<bool> deaf(aborting, true);
+    connection->abortConnection();
+}
+
+void KirvConnection::Private::fail(KirvFailure failure)
+{
+    abort();
+    lastFailure = failure;
+    const QPointer<KirvConnection> alive(connection);
+    if (failure.isWorthRetrying())
+        waitAndRetry();
+    else
+        enter(Offline);
+    if (alive)
+        Q_EMIT connection->failed(failure);
+}
+
+void KirvConnection::Private::waitAndRetry()
+{
+    const bool wasStable = state == Online && since.msecsTo(clock.now()) >= timing.stableAfter;
+    if (wasStable)
+        backOff.reset();
+    const int wait = backOff.next(timing.backOff);
+    nextRetry = clock.now().addMSecs(wait);
+    if (enter(Waiting))
+        inThisState(wait, [this] { logInNow(); });
+}
+
+/// Gives the request its number and its time-out and calls \a start with it, when the account is logged in.
+int KirvConnection::Private::startRequest(const std::function<void(int)> &start)
+{
+    const int request = ++lastRequest;
+    outstanding.insert(request);
+    if (state == Online) {
+        clock.callLater(timing.requestTimeout, connection,
+                        [this, request] { connection->failDirectoryRequest(request, KirvFailure::TimedOut); });
+        const QScopedValueRollback<bool> tooEarly(starting, true);
+        start(request);
+    } else {
+        const KirvFailure failure(KirvFailure::RequestFailed, KirvConnection::tr("The account is not connected."));
+        clock.callLater(0, connection,
+                        [this, request, failure] { connection->failDirectoryRequest(request, failure); });
+    }
+    return request;
+}
+
+void KirvConnection::Private::answer(const KirvDirectoryAnswer &answer)
+{
+    if (starting) // the caller does not know the number yet
+        clock.callLater(0, connection, [this, answer] { this->answer(answer); });
+    else if (outstanding.remove(answer.request))
+        Q_EMIT connection->directoryAnswered(answer);
+}
+
+KirvConnection::KirvConnection(KirvClock &clock, QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>(this, clock))
+{
+}
+
+KirvConnection::~KirvConnection() = default;
+
+KirvConnection::State KirvConnection::state() const
+{
+    return d->state;
+}
+
+bool KirvConnection::isLoggedIn() const
+{
+    return d->state == Online;
+}
+
+QDateTime KirvConnection::since() const
+{
+    return d->since;
+}
+
+KirvFailure KirvConnection::lastFailure() const
+{
+    return d->lastFailure;
+}
+
+QDateTime KirvConnection::nextRetry() const
+{
+    return d->nextRetry;
+}
+
+KirvConnection::Timing KirvConnection::timing() const
+{
+    return d->timing;
+}
+
+void KirvConnection::setTiming(const Timing &timing)
+{
+    d->timing = timing;
+}
+
+const KirvLogin &KirvConnection::login() const
+{
+    return d->login;
+}
+
+KirvPresence KirvConnection::presence() const
+{
+    return d->wanted;
+}
+
+bool KirvConnection::comesBack() const
+{
+    return d->state == Disconnecting && d->comesBack;
+}
+
+bool KirvConnection::isOfflinePresence(const KirvPresence &presence) const
+{
+    return presence.getId() == QLatin1String("offline");
+}
+
+void KirvConnection::logIn(const KirvLogin &login, const KirvPresence &presence)
+{
+    d->login = login;
+    d->wanted = presence;
+    d->backOff.reset();
+    switch (d->state) {
+    case Offline:
+    case Waiting:
+        d->logInNow();
+        break;
+    case Connecting:
+        d->abort();
+        d->logInNow();
+        break;
+    case Online:
+        d->startLogOut(true);
+        break;
+    case Disconnecting:
+        d->comesBack = true;
+        break;
+    }
+}
+
+void KirvConnection::changePresence(const KirvPresence &presence)
+{
+    d->wanted = presence;
+    if (d->state != Online)
+        return;
+    d->applied = presence;
+    applyPresence(presence);
+}
+
+void KirvConnection::logOut()
+{
+    if (d->state == Online)
+        d->startLogOut(false);
+    else if (d->state == Disconnecting)
+        d->comesBack = false;
+    else
+        drop();
+}
+
+void KirvConnection::drop()
+{
+    d->comesBack = false;
+    if (d->state == Offline)
+        return;
+    d->abort();
+    d->enter(Offline);
+}
+
+void KirvConnection::acceptPassword(const QString &password)
+{
+    d->login.password = password;
+}
+
+QString KirvConnection::avatarPath() const
+{
+    return d->avatarPath;
+}
+
+void KirvConnection::setAvatarPath(const QString &path)
+{
+    if (d->avatarPath == path)
+        return;
+    d->avatarPath = path;
+    if (d->state == Online)
+        publishAvatar();
+}
+
+int KirvConnection::fetchDirectory()
+{
+    return d->startRequest([this](int request) { startDirectoryFetch(request); });
+}
+
+int KirvConnection::publishDirectory(const QList<KirvField> &changes)
+{
+    return d->startRequest([this, &changes](int request) { startDirectoryPublication(request, changes); });
+}
+
+int KirvConnection::deleteDirectory()
+{
+    return d->startRequest([this](int request) { startDirectoryDeletion(request); });
+}
+
+void KirvConnection::publishAvatar() { }
+
+void KirvConnection::startDirectoryFetch(int request)
+{
+    clock().callLater(0, this, [this, request] { failDirectoryRequest(request, KirvFailure::NotSupported); });
+}
+
+void KirvConnection::startDirectoryPublication(int request, const QList<KirvField> &)
+{
+    KirvConnection::startDirectoryFetch(request);
+}
+
+void KirvConnection::startDirectoryDeletion(int request)
+{
+    KirvConnection::startDirectoryFetch(request);
+}
+
+void KirvConnection::loginSucceeded()
+{
+    if (!d->accepts(Connecting))
+        return;
+    d->lastFailure = KirvFailure();
+    if (d->enter(Online) && !isSame(d->applied, d->wanted))
+        changePresence(d->wanted);
+}
+
+void KirvConnection::loginFailed(const KirvFailure &failure)
+{
+    if (d->accepts(Connecting))
+        d->fail(failure.isFailure() ? failure : KirvFailure::Other);
+}
+
+void KirvConnection::connectionLost(const KirvFailure &failure)
+{
+    if (d->accepts(Disconnecting))
+        d->finishLogOut();
+    else if (d->accepts(Connecting) || d->accepts(Online))
+        d->fail(failure.isFailure() ? failure : KirvFailure::ConnectionLost);
+}
+
+void KirvConnection::logoutFinished()
+{
+    if (d->accepts(Disconnecting))
+        d->finishLogOut();
+}
+
+void KirvConnection::requestFailed(const KirvFailure &failure)
+{
+    Q_EMIT failed(failure);
+}
+
+void KirvConnection::answerDirectoryRequest(int request, const QList<KirvField> &entry)
+{
+    KirvDirectoryAnswer answer;
+    answer.request = request;
+    answer.outcome = entry.isEmpty() ? KirvDirectoryAnswer::None : KirvDirectoryAnswer::Data;
+    answer.fields = entry;
+    d->answer(answer);
+}
+
+void KirvConnection::failDirectoryRequest(int request, const KirvFailure &failure)
+{
+    KirvDirectoryAnswer answer;
+    answer.request = request;
+    answer.failure = failure.isFailure() ? failure : KirvFailure(KirvFailure::RequestFailed);
+    d->answer(answer);
+}
+
+KirvClock &KirvConnection::clock() const
+{
+    return d->clock;
+}

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_CONNECTION_H
+#define KIRV_CONNECTION_H
+
+#include "core/protocol/kirv_back_off.h"
+#include "core/protocol/kirv_directory_answer.h"
+#include "core/protocol/kirv_login.h"
+#include "core/values/kirv_clock.h"
+#include "core/values/kirv_failure.h"
+#include "host/kirv_presence.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QObject>
+#include <functional>
+#include <memory>
+
+/// The connection of one account to its server: the state machine that all protocols share.
+///
+/// A protocol derives from it and implements the four start…/abort/apply operations; it reports what the server does
+/// through the protected loginSucceeded(), loginFailed(), connectionLost() and logoutFinished(). Time-outs of log-in,
+/// log-out and directory requests, waiting with back-off after a lost connection and the last failure are handled
+/// here, once. The connection does not know its account: whoever owns it passes in what it uses. GUI thread only.
+///
+///     Offline → Connecting → Online → Disconnecting → Offline
+///                   ↓  ↑        ↓
+///                  Waiting  ←───┘      (a failure that is worth retrying)
+///
+/// Reports that come too late, after drop() or a time-out say, are ignored. Slots may do with the connection what they
+/// like, also destroy it. Destroying it emits nothing and answers no request; drop() it first where a request is
+/// outstanding. The protocol's destructor closes what is open.
+class KIRV_PROTOCOL_EXPORT KirvConnection : public QObject {
+    Q_OBJECT
+
+public:
+    enum State { Offline, Connecting, Online, Disconnecting, Waiting };
+    Q_ENUM(State)
+
+    /// How long the server may take, and how long to wait between attempts; milliseconds.
+    struct Timing {
+        int loginTimeout = 30000;
+        int logoutTimeout = 3000;
+        int requestTimeout = 15000;
+        KirvBackOff::Limits backOff;
+        int stableAfter = 30000; ///< how long on line until the next wait is the first one again
+    };
+
+    /// \a clock is not owned and outlives the connection.
+    explicit KirvConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr);
+    ~KirvConnection() override;
+
+    State state() const;
+    bool isLoggedIn() const; ///< state() is Online
+    QDateTime since() const; ///< when the state was entered
+    KirvFailure lastFailure() const; ///< of the last attempt; None after a success
+    QDateTime nextRetry() const; ///< when Waiting ends; invalid otherwise
+
+    Timing timing() const;
+    void setTiming(const Timing &timing);
+
+    /// What the last attempt logged in with, or the next one will when a log-out is followed by a log-in.
+    const KirvLogin &login() const;
+    /// The presence that the connection has, or will arrive with.
+    KirvPresence presence() const;
+    /// Whether state() is Disconnecting and a log-in follows.
+    bool comesBack() const;
+
+    /// Logs in with \a login and arrives with \a presence. When it is logged in already it logs out and in again; an
+    /// attempt that is under way is replaced, and waiting ends.
+    void logIn(const KirvLogin &login, const KirvPresence &presence);
+    /// Changes the presence when on line; otherwise the next log-in arrives with it.
+    void changePresence(const KirvPresence &presence);
+    /// Logs out in an orderly way, within timing().logoutTimeout. Does nothing when off line.
+    void logOut();
+    /// Breaks the connection at once; nothing is sent. The state is Offline afterwards.
+    void drop();
+    /// The server has changed the password of the account to \a password: the session goes on with it.
+    void acceptPassword(const QString &password);
+
+    /// Whether \a presence means being logged out; for most protocols the one with the id "offline".
+    virtual bool isOfflinePresence(const KirvPresence &presence) const;
+
+    /// The image file of the account's avatar; empty: none. A change is published at once when on line.
+    QString avatarPath() const;
+    void setAvatarPath(const QString &path);
+
+    /// Requests to the public directory. Each returns the number of the request, never 0, and is answered by exactly
+    /// one directoryAnswered() of that number, from the event loop or later: also on an error, on a time-out and when
+    /// the connection ends. Several can be outstanding.
+    int fetchDirectory();
+    /// Changes the fields in \a changes, and no others, over the entry that the server holds then.
+    int publishDirectory(const QList<KirvField> &changes);
+    int deleteDirectory();
+
+Q_SIGNALS:
+    void stateChanged(KirvConnection::State state);
+    /// A log-in, the connection or a request without an answer of its own failed.
+    void failed(const KirvFailure &failure);
+    void directoryAnswered(const KirvDirectoryAnswer &answer);
+    /// The server says something that the user should read although nothing failed.
+    void noticeReceived(const QString &text);
+
+protected:
+    /// Starts to log in with login(); called in state Connecting only. Reply with loginSucceeded() or loginFailed(),
+    /// also synchronously.
+    virtual void startLogin(const KirvPresence &presence) = 0;
+    /// Starts an orderly log-out; reply with logoutFinished().
+    virtual void startLogout() = 0;
+    /// Ends the connection at once; reports nothing. Called after every failure too, and also when nothing is open
+    /// (any more): does no harm then.
+    virtual void abortConnection() = 0;
+    /// Sends \a presence; called in state Online only.
+    virtual void applyPresence(const KirvPresence &presence) = 0;
+    /// Publishes avatarPath(); called in state Online only, when it changed. The default does nothing.
+    virtual void publishAvatar();
+
+    /// Start a directory request; called in state Online only. Reply with answerDirectoryRequest() or
+    /// failDirectoryRequest(). The defaults reply that the protocol has no directory.
+    virtual void startDirectoryFetch(int request);
+    virtual void startDirectoryPublication(int request, const QList<KirvField> &changes);
+    virtual void startDirectoryDeletion(int request);
+
+    void loginSucceeded();
+    void loginFailed(const KirvFailure &failure);
+    /// Ends a log-in, too; a connection lost while logging out is logged out.
+    void connectionLost(const KirvFailure &failure);
+    void logoutFinished();
+    /// Reports a failed request that has no answer of its own; the state stays.
+    void requestFailed(const KirvFailure &failure);
+
+    /// \a entry is what the server holds now; empty: no entry. Nothing happens when the request was answered before.
+    void answerDirectoryRequest(int request, const QList<KirvField> &entry);
+    void failDirectoryRequest(int request, const KirvFailure &failure);
+
+    KirvClock &clock() const;
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};
+
+#endif

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_PROTOCOL_BASE_H
+#define KIRV_PROTOCOL_BASE_H
+
+#include "core/values/kirv_values_export.h"
+#include "host/kirv_arg.h"
+#include "host/kirv_protocol.h"
+
+#include <QList>
+#include <QObject>
+
+class KirvConnection;
+class KirvServerRequest;
+
+/// Something that can be done with one account on its server beyond what every protocol offers (change the password
+/// there, delete the account there). A value type.
+struct KirvAccountAction {
+    QString id; ///< unique within the protocol
+    QString text; ///< a command, in title case, translated
+    QString toolTip; ///< a sentence; may be empty
+};
+
+/// What a protocol plug-in derives its protocol from.
+///
+/// The contract's operations that are not virtual lead to the virtual operations here. Its directory operations become
+/// signals: whoever owns the accounts decides when a request reaches the account's connection.
+class KIRV_PROTOCOL_EXPORT KirvProtocolBase : public QObject, public KirvProtocol {
+    Q_OBJECT
+
+public:
+    enum DirectoryOperation { FetchDirectory, PublishDirectory, DeleteDirectory };
+
+    explicit KirvProtocolBase(QObject *parent = nullptr);
+    ~KirvProtocolBase() override;
+
+    /// Every presence in display order; the first is the default. Must not be empty.
+    virtual QList<KirvPresence> presences() const = 0;
+    /// The presence with that \a id, carrying \a description. An unknown id gives the first presence.
+    KirvPresence presenceWithId(const QString &id, const QString &description) const;
+    /// The settings of a new account with their defaults.
+    virtual QList<KirvField> accountSettings() const = 0;
+    /// The blank fields of a directory entry; empty: the protocol has no directory.
+    virtual QList<KirvField> directoryFields() const;
+    /// A new, off-line connection; the caller owns it. Null when none can be made.
+    virtual KirvConnection *createConnection() = 0;
+
+    /// A core signal was broadcast; protocols act on the names they know. The default does nothing.
+    virtual void handleCoreSignal(const QString &name, const QList<KirvArg> &args);
+
+    /// Whether createRegistration() gives a request.
+    virtual bool offersRegistration() const;
+    /// A new dialogue that registers an account on a server; the caller owns it. Null when the protocol has none.
+    virtual KirvServerRequest *createRegistration();
+    /// What can be done with an account on its server while it is logged in; the default is nothing.
+    virtual QList<KirvAccountAction> accountActions() const;
+    /// A new dialogue for the action \a actionId over \a connection, one of this protocol's, which it does not own and
+    /// does not outlive. The caller owns it. Null for an unknown id.
+    virtual KirvServerRequest *createAccountRequest(const QString &actionId, KirvConnection *connection);
+
+    /// The directory operations of the contract: emit directoryRequested().
+    void publishPubdirInfo(KirvAccountConnection *account, const QList<KirvField> &fields) override;
+    void fetchPubdirInfo(KirvAccountConnection *account) override;
+    void deletePubdirInfo(KirvAccountConnection *account) override;
+
+Q_SIGNALS:
+    /// \a fields are those of the entry to publish; empty for the other operations.
+    void directoryRequested(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
+                            const QList<KirvField> &fields);
+};
+
+#endif

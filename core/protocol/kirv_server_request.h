@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_SERVER_REQUEST_H
+#define KIRV_SERVER_REQUEST_H
+
+#include "core/protocol/kirv_login.h"
+#include "core/values/kirv_failure.h"
+#include "core/values/kirv_values_export.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+/// A dialogue with a server about an account beyond logging in: registers one, changes its password, deletes it.
+///
+/// It has no windows: it says step by step which fields are to be filled in, and one assistant of the client shows
+/// every request of every protocol. All texts may come from a server: show them as plain text.
+class KIRV_PROTOCOL_EXPORT KirvServerRequest : public QObject {
+    Q_OBJECT
+
+public:
+    /// A picture inside a step, such as one that shows what is to be typed.
+    struct Picture {
+        QString label; ///< of the field that it belongs to
+        QByteArray data; ///< an image file as it came; empty when only its address is known
+        QString address; ///< where it is, when there is no data
+    };
+
+    /// What is to be filled in, or only confirmed, next.
+    struct Step {
+        QString text; ///< one or more paragraphs above the fields; may be empty
+        QStringList configurations; ///< ready-made values for the fields, see fieldsOf(); empty: none
+        QList<KirvField> fields;
+        QList<Picture> pictures;
+        QString command; ///< text of the button that submits, in title case; empty: nothing can be submitted
+        bool isDangerous = false; ///< the command cannot be undone, so it is not the default button
+        bool canGoBack = false; ///< goBack() leads to the step before
+        bool hasPassword = false; ///< the fields hold the password of a new account: offer to remember it
+    };
+
+    /// What the request achieved. Whoever owns the request brings the accounts in line with it.
+    struct Result {
+        enum Kind { AccountRegistered, PasswordChanged, AccountDeleted };
+        Kind kind = AccountRegistered;
+        KirvLogin account; ///< AccountRegistered: the account to add; an empty id when only the server knows it
+        QString password; ///< PasswordChanged: the new one
+    };
+
+    using QObject::QObject;
+
+    /// The title of a window for the request, in title case.
+    virtual QString title() const = 0;
+    /// Leads to the first stepReady(), or to failed().
+    virtual void start() = 0;
+    /// The fields of the present step, as \a filled, with the values of the configuration \a name.
+    virtual QList<KirvField> fieldsOf(const QString &name, const QList<KirvField> &filled) const;
+    /// Submits the present step: leads to stepReady() with the next one, to failed(), or to succeeded(). \a filled are
+    /// the fields of the step in their order, with the values that were typed.
+    virtual void submit(const QList<KirvField> &filled) = 0;
+    /// Leads to stepReady() with the step before.
+    virtual void goBack();
+    /// Ends what is under way; nothing is emitted. The present step can be submitted again.
+    virtual void cancel() = 0;
+
+Q_SIGNALS:
+    void stepReady(const KirvServerRequest::Step &step);
+    /// A reply of the server is awaited; \a text says what for.
+    void waiting(const QString &text);
+    /// The step was refused or could not be sent; it stays and can be submitted again.
+    void failed(const KirvFailure &failure);
+    /// The step holds what cannot be sent; \a text says which, a sentence.
+    void inputRejected(const QString &text);
+    void succeeded(const KirvServerRequest::Result &result);
+};
+
+#endif

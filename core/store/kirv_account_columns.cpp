@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_account_columns.h"
+
+#include <QStringList>
+
+const QList<KirvAccountColumn> &kirvAccountColumns()
+{
+    static const QList<KirvAccountColumn> columns {
+        { "alias", &KirvAccountRecord::alias, nullptr },
+        { "password", &KirvAccountRecord::password, nullptr },
+        { "remember_password", nullptr, &KirvAccountRecord::rememberPassword },
+        { "enabled", nullptr, &KirvAccountRecord::enabled },
+        { "restore_presence", nullptr, &KirvAccountRecord::restorePresence },
+        { "restore_description", nullptr, &KirvAccountRecord::restoreDescription },
+        { "default_presence", &KirvAccountRecord::defaultPresence, nullptr },
+        { "default_description", &KirvAccountRecord::defaultDescription, nullptr },
+        { "last_presence", &KirvAccountRecord::lastPresence, nullptr },
+        { "last_description", &KirvAccountRecord::lastDescription, nullptr },
+        { "avatar", &KirvAccountRecord::avatar, nullptr },
+    };
+    return columns;
+}
+
+QString kirvJoinedColumns(const QString &suffix)
+{
+    QStringList names;
+    for (const KirvAccountColumn &column : kirvAccountColumns())
+        names << QLatin1String(column.name) + suffix;
+    return names.join(QLatin1String(", "));
+}
+
+QString kirvColumnPlaceHolders()
+{
+    QStringList marks;
+    for (int index = 0; index < kirvAccountColumns().size(); ++index)
+        marks << QStringLiteral("?");
+    return marks.join(QLatin1String(", "));
+}
+
+KirvAccountRecord kirvStoredForm(KirvAccountRecord record)
+{
+    if (!record.rememberPassword)
+        record.password.clear();
+    return record;
+}
+
+QVariantList kirvColumnValues(const KirvAccountRecord &record)
+{
+    QVariantList values;
+    for (const KirvAccountColumn &column : kirvAccountColumns())
+        values << (column.text ? QVariant(record.*column.text) : QVariant(int(record.*column.flag)));
+    return values;
+}
+
+bool KirvAccountRecord::isStoredLike(const KirvAccountRecord &other) const
+{
+    return key == other.key && kirvColumnValues(kirvStoredForm(*this)) == kirvColumnValues(kirvStoredForm(other))
+        && settings == other.settings;
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_RECORD_H
+#define KIRV_ACCOUNT_RECORD_H
+
+#include "core/values/kirv_account_key.h"
+
+#include <QMap>
+#include <QString>
+
+/// What is stored of one account. A value type.
+struct KirvAccountRecord {
+    KirvAccountKey key;
+    QString alias;
+    QString password; ///< stored only while rememberPassword is set
+    bool rememberPassword = false;
+    bool enabled = true;
+    bool restorePresence = false;
+    bool restoreDescription = false;
+    QString defaultPresence; ///< id
+    QString defaultDescription;
+    QString lastPresence; ///< id; empty: none yet
+    QString lastDescription;
+    QString avatar; ///< file name inside KirvStore::avatarFolder(); empty: none
+    QMap<QString, QString> settings; ///< protocol settings by field id; "true" and "false" for check boxes
+
+    /// Whether both are the same, as far as they are stored.
+    bool isStoredLike(const KirvAccountRecord &other) const;
+    /// Whether both are the same, with the passwords that are not stored.
+    bool operator==(const KirvAccountRecord &other) const { return password == other.password && isStoredLike(other); }
+    bool operator!=(const KirvAccountRecord &other) const { return !(*this == other); }
+};
+
+#endif

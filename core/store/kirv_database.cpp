@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_database.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QUuid>
+
+namespace {
+
+/// SQLite's primary result codes that deserve a sentence of their own.
+enum ResultCode {
+    Permission = 3,
+    Busy = 5,
+    Locked = 6,
+    WriteProtected = 8,
+    InputOutput = 10,
+    Corrupt = 11,
+    Full = 13,
+    CannotOpen = 14,
+    NotADatabase = 26
+};
+
+const QLatin1String driver("QSQLITE");
+
+/// A null string would be stored as NULL, which no column takes.
+QVariant bindable(const QVariant &value)
+{
+    const bool isNullText = value.userType() == QMetaType::QString && value.toString().isNull();
+    return isNullText ? QVariant(QString::fromLatin1("")) : value;
+}
+
+}
+
+KirvDatabase::KirvDatabase()
+    : name(QLatin1String("kirv-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
+{
+}
+
+KirvDatabase::~KirvDatabase()
+{
+    close();
+}
+
+bool KirvDatabase::open(const QString &path, Access access)
+{
+    close();
+    file = path;
+    if (!QSqlDatabase::isDriverAvailable(driver)) {
+        fail(tr("The SQLite driver of Qt, which the profile needs, is not installed."));
+        return false;
+    }
+    connection = QSqlDatabase::addDatabase(driver, name);
+    connection.setDatabaseName(file);
+    connection.setConnectOptions(QLatin1String("QSQLITE_BUSY_TIMEOUT=1000")
+                                 + QLatin1String(access == ReadOnly ? ";QSQLITE_OPEN_READONLY" : ""));
+    if (!connection.open()) {
+        fail(sentence(connection.lastError()));
+        return false;
+    }
+    return access == ReadOnly
+        || (execute("PRAGMA foreign_keys = ON") && execute("PRAGMA journal_mode = WAL")
+            && execute("PRAGMA synchronous = FULL") && execute("PRAGMA secure_delete = ON"));
+}
+
+void KirvDatabase::close()
+{
+    statements.clear();
+    depth = 0;
+    doomed = false;
+    commits = 0;
+    if (!connection.isValid())
+        return;
+    connection.close();
+    connection = QSqlDatabase();
+    QSqlDatabase::removeDatabase(name);
+}
+
+bool KirvDatabase::execute(const char *sql)
+{
+    QSqlQuery query(connection);
+    if (query.exec(QLatin1String(sql)))
+        return true;
+    fail(sentence(query.lastError()));
+    return false;
+}
+
+QSqlQuery *KirvDatabase::run(const QString &sql, const QVariantList &values)
+{
+    if (doomed)
+        return nullptr;
+    if (!isOpen()) {
+        fail(tr("The profile is not open."));
+        return nullptr;
+    }
+    const auto [statement, isNew] = statements.try_emplace(sql, connection);
+    QSqlQuery &query = statement->second;
+    if (isNew) {
+        query.setForwardOnly(true);
+        if (!query.prepare(sql)) {
+            fail(sentence(query.lastError()));
+            statements.erase(statement);
+            return nullptr;
+        }
+    }
+    for (int index = 0; index < values.size(); ++index)
+        query.bindValue(index, bindable(values.at(index)));
+    if (!query.exec()) {
+        fail(sentence(query.lastError()));
+        query.finish();
+        return nullptr;
+    }
+    return &query;
+}
+
+QVariant KirvDatabase::valueOf(const QString &sql, const QVariantList &values)
+{
+    QSqlQuery *query = run(sql, values);
+    const QVariant value = query && query->next() ? query->value(0) : QVariant();
+    if (query)
+        query->finish();
+    return value;
+}
+
+bool KirvDatabase::begin()
+{
+    if (depth == 0 && !run(QStringLiteral("BEGIN IMMEDIATE")))
+        return false;
+    ++depth;
+    return true;
+}
+
+bool KirvDatabase::commit()
+{
+    if (depth == 0)
+        return false;
+    if (depth > 1) {
+        --depth;
+        return !doomed;
+    }
+    if (doomed || !run(QStringLiteral("COMMIT"))) {
+        rollBack();
+        return false;
+    }
+    depth = 0;
+    ++commits;
+    return true;
+}
+
+void KirvDatabase::rollBack()
+{
+    if (depth == 0)
+        return;
+    doomed = --depth > 0;
+    if (doomed)
+        return;
+    // After some failures SQLite has undone the transaction itself, and refuses this statement.
+    QSqlQuery query(connection);
+    query.exec(QStringLiteral("ROLLBACK"));
+}
+
+void KirvDatabase::fail(const QString &text)
+{
+    if (!doomed)
+        error = text;
+    doomed = depth > 0;
+}
+
+void KirvDatabase::clearError()
+{
+    if (!doomed)
+        error.clear();
+}
+
+QString KirvDatabase::sentence(const QSqlError &failure) const
+{
+    const QString folder = QDir::toNativeSeparators(QFileInfo(file).path());
+    switch (failure.nativeErrorCode().toInt() & 0xff) {
+    case Full:
+        return tr("There is no space left on the disk, so nothing was stored. Free some space and try again.");
+    case InputOutput:
+        return tr("The profile in \"%1\" could not be read or written (%2). The disk may be full or faulty.")
+            .arg(folder, failure.databaseText());
+    case Corrupt:
+    case NotADatabase:
+        return tr("The profile in \"%1\" is damaged. Nothing in it was changed: restore it from a backup, or move it "
+                  "away to start with an empty one.")
+            .arg(folder);
+    case Permission:
+    case WriteProtected:
+    case CannotOpen:
+        return tr("The profile in \"%1\" cannot be written. Check its owner and permissions.").arg(folder);
+    case Busy:
+    case Locked:
+        return tr("Another program is using the profile in \"%1\".").arg(folder);
+    default:
+        return tr("The profile in \"%1\" could not be used: %2").arg(folder, failure.text());
+    }
+}

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/values/kirv_failure.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int longestDetail = 300;
+
+/// Characters that would break the line or turn the direction of the sentence around the detail.
+bool isLayoutControl(QChar character)
+{
+    const ushort code = character.unicode();
+    const bool turnsDirection = (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
+    return turnsDirection || character.category() == QChar::Other_Control;
+}
+
+/// \a text in one line of bearable length.
+QString toLine(const QString &text)
+{
+    QString line = text.left(4 * longestDetail);
+    std::replace_if(line.begin(), line.end(), isLayoutControl, QLatin1Char(' '));
+    line = line.simplified();
+    if (line.size() <= longestDetail)
+        return line;
+    line.truncate(longestDetail - 1);
+    if (line.at(line.size() - 1).isHighSurrogate())
+        line.chop(1);
+    return line + QChar(0x2026);
+}
+
+} // namespace
+
+KirvFailure::KirvFailure(Kind kind, const QString &detail)
+    : failureKind(kind)
+    , failureDetail(toLine(detail))
+{
+}
+
+bool KirvFailure::isWorthRetrying() const
+{
+    switch (failureKind) {
+    case HostNotFound:
+    case ConnectionRefused:
+    case TimedOut:
+    case ConnectionLost:
+    case ServerShutDown:
+    case Other:
+        return true;
+    case None:
+    case WrongPassword:
+    case PasswordMissing:
+    case UntrustedCertificate:
+    case EncryptionNotOffered:
+    case AuthenticationNotOffered:
+    case LoggedInElsewhere:
+    case NameInUse:
+    case NameNotAllowed:
+    case AccessDenied:
+    case BadSettings:
+    case NotSupported:
+    case RequestFailed:
+        return false;
+    }
+    return false;
+}
+
+QString KirvFailure::text() const
+{
+    const QString sentence = failureDetail.isEmpty() ? QString() : textWithDetail();
+    return sentence.isEmpty() ? textWithoutDetail() : sentence.arg(failureDetail);
+}
+
+QString KirvFailure::textWithoutDetail() const
+{
+    switch (failureKind) {
+    case None:
+        return QString();
+    case WrongPassword:
+        return tr("The server did not accept the login or the password.");
+    case PasswordMissing:
+        return tr("A password is needed to log in, and none is known.");
+    case HostNotFound:
+        return tr("The server could not be found. Check its name and your network connection.");
+    case ConnectionRefused:
+        return tr("The server does not accept connections. Check its name and port, or try again later.");
+    case TimedOut:
+        return tr("The server did not answer in time.");
+    case UntrustedCertificate:
+        return tr("The certificate of the server is not trusted.");
+    case EncryptionNotOffered:
+        return tr("The account requires encryption, and the server does not offer it.");
+    case AuthenticationNotOffered:
+        return tr("The server offers no way to log in that this account can use.");
+    case ConnectionLost:
+        return tr("The connection to the server was lost.");
+    case ServerShutDown:
+        return tr("The server closed the connection.");
+    case LoggedInElsewhere:
+        return tr("Another client logged in to the account and took its place.");
+    case NameInUse:
+        return tr("The name is already in use on the server.");
+    case NameNotAllowed:
+        return tr("The server does not allow this name.");
+    case AccessDenied:
+        return tr("The server denied access.");
+    case BadSettings:
+        return tr("The settings of the account cannot be used.");
+    case NotSupported:
+        return tr("The server does not offer what was asked for.");
+    case RequestFailed:
+        return tr("The request failed.");
+    case Other:
+        break;
+    }
+    return tr("An unknown error occurred.");
+}
+
+QString KirvFailure::textWithDetail() const
+{
+    switch (failureKind) {
+    case HostNotFound:
+        //: %1 is the name of a server
+        return tr("The server \"%1\" could not be found. Check its name and your network connection.");
+    case ConnectionRefused:
+        //: %1 is the name of a server
+        return tr("The server \"%1\" does not accept connections. Check its name and port, or try again later.");
+    case TimedOut:
+        //: %1 is the name of a server
+        return tr("The server \"%1\" did not answer in time.");
+    case UntrustedCertificate:
+        //: %1 is what is wrong with the certificate
+        return tr("The certificate of the server is not trusted: %1");
+    case ConnectionLost:
+        //: %1 is the reason
+        return tr("The connection to the server was lost: %1");
+    case ServerShutDown:
+        //: %1 is what the server said
+        return tr("The server closed the connection: %1");
+    case NameInUse:
+        //: %1 is the name of a user
+        return tr("The name \"%1\" is already in use on the server.");
+    case NameNotAllowed:
+        //: %1 is the name of a user
+        return tr("The server does not allow the name \"%1\".");
+    case AccessDenied:
+        //: %1 is what the server said
+        return tr("The server denied access: %1");
+    case BadSettings:
+        //: %1 says which setting and what is wrong with it
+        return tr("The settings of the account cannot be used: %1");
+    case NotSupported:
+        //: %1 is what was asked for
+        return tr("The server does not offer what was asked for: %1");
+    case RequestFailed:
+        //: %1 is the reason
+        return tr("The request failed: %1");
+    case Other:
+        //: %1 is what the server or the network said
+        return tr("An error occurred: %1");
+    default:
+        return QString();
+    }
+}

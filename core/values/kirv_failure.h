@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_FAILURE_H
+#define KIRV_FAILURE_H
+
+#include "core/values/kirv_values_export.h"
+
+#include <QCoreApplication>
+#include <QMetaType>
+#include <QString>
+
+/// Why a connection or a request failed, the same for every protocol.
+class KIRV_VALUES_EXPORT KirvFailure {
+    Q_DECLARE_TR_FUNCTIONS(KirvFailure)
+
+public:
+    enum Kind {
+        None, ///< nothing failed
+        WrongPassword, ///< the server knows the login but refuses the password, or refuses both
+        PasswordMissing, ///< a password is needed and none is known
+        HostNotFound, ///< the server's name has no address; the detail is that name
+        ConnectionRefused, ///< nobody listens there; the detail is the server's name
+        TimedOut, ///< the server did not answer in time; the detail is its name
+        UntrustedCertificate, ///< the server's certificate is not to be trusted; the detail says why
+        EncryptionNotOffered, ///< encryption is required and the server has none
+        AuthenticationNotOffered, ///< no common way to log in
+        ConnectionLost, ///< the connection broke
+        ServerShutDown, ///< the server said good-bye
+        LoggedInElsewhere, ///< another client took the session over
+        NameInUse, ///< the name (the detail) is taken, and no alternative was left
+        NameNotAllowed, ///< the server does not accept that name (the detail)
+        AccessDenied, ///< the server does not let us in (banned, wrong server password)
+        BadSettings, ///< the account's settings cannot be used; the detail says which
+        NotSupported, ///< the server does not offer what was asked for
+        RequestFailed, ///< the server refused a request; the detail says why
+        Other ///< anything else; the detail says what
+    };
+
+    KirvFailure() = default;
+    /// \a detail is added to the sentence where it helps: a host name, the server's own words. It is kept in
+    /// one line of at most 300 characters, whatever a server sends.
+    KirvFailure(Kind kind, const QString &detail = QString());
+
+    Kind kind() const { return failureKind; }
+    QString detail() const { return failureDetail; }
+    bool isFailure() const { return failureKind != None; }
+    /// Whether trying again by itself may help. A wrong password, say, stays wrong.
+    bool isWorthRetrying() const;
+    /// One or two sentences for the user, translated; empty for None. Plain text.
+    QString text() const;
+
+private:
+    QString textWithoutDetail() const;
+    /// With a place-holder for the detail; empty where the detail does not help.
+    QString textWithDetail() const;
+
+    Kind failureKind = None;
+    QString failureDetail;
+};
+
+Q_DECLARE_METATYPE(KirvFailure)
+
+#endif

@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tools/tour/kirv_tour.h"
+
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_connection_model.h"
+#include "client/kirv_connection_view.h"
+#include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_collection.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStyle>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include <cstdio>
+
+namespace {
+const QString xmpp = QStringLiteral("XMPP");
+const QString irc = QStringLiteral("IRC");
+const QString add = QStringLiteral("AddAccount");
+const QString edit = QStringLiteral("EditAccount");
+enum Column { AliasColumn, ProtocolColumn };
+
+/// The child of that name of the visible window \a window; null when there is none.
+template <typename T>
+T *child(const QString &window, const QString &name)
+{
+    QWidget *top = KirvWindowDriver::window(window);
+    return top ? top->findChild<T *>(name) : nullptr;
+}
+
+QPushButton *button(const QString &window, const QString &box, QDialogButtonBox::StandardButton which)
+{
+    const auto *buttons = child<QDialogButtonBox>(window, box);
+    return buttons ? buttons->button(which) : nullptr;
+}
+
+QPushButton *saveInAddWindow()
+{
+    return button(add, QStringLiteral("AddAccount_ButtonFrame"), QDialogButtonBox::Save);
+}
+
+QPushButton *saveInEditWindow()
+{
+    return button(edit, QStringLiteral("EditAccount_FrameButtons"), QDialogButtonBox::Save);
+}
+
+void typeInto(const QString &window, const QString &name, const QString &text)
+{
+    KirvWindowDriver::type(child<QLineEdit>(window, name), text);
+}
+
+void chooseIn(const QString &window, const QString &name, const QString &text)
+{
+    KirvWindowDriver::choose(child<QComboBox>(window, name), text);
+}
+
+void showPage(int index)
+{
+    auto *pages = child<QListWidget>(QStringLiteral("Settings"), QStringLiteral("Settings_Pages"));
+    KirvWindowDriver::click(pages->viewport());
+    for (int i = 0; i < pages->count(); ++i)
+        KirvWindowDriver::pressKey(pages, Qt::Key_Up);
+    for (int i = 0; i < index; ++i)
+        KirvWindowDriver::pressKey(pages, Qt::Key_Down);
+}
+
+QMessageBox *question()
+{
+    return qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+}
+} // namespace
+
+KirvTour::KirvTour(KirvDemo &demo, const QString &folder)
+    : demo(demo)
+    , options(KirvClientOptions::defaults())
+    , walk(folder)
+{
+    options.profileFolder = demo.profileFolder();
+}
+
+bool KirvTour::run()
+{
+    startClient();
+    if (!client)
+        return false;
+    planFirstAccount();
+    planRestart();
+    planEditing();
+    planWrongPassword();
+    if (demo.hasIrc())
+        planIrcAccount();
+    planDisabling();
+    planRemoving();
+    return walk.run();
+}
+
+void KirvTour::startClient()
+{
+    client = std::make_unique<KirvClient>(options);
+    if (!client->start()) {
+        std::printf("FAILED  The client starts: %s\n", qPrintable(client->errorString()));
+        client.reset();
+        return;
+    }
+    client->window()->setBanner(demo.instructions());
+    client->window()->show();
+}
+
+void KirvTour::planFirstAccount()
+{
+    walk.expectOnTop(
+        QStringLiteral("The settings window opens on the Accounts page"),
+        [this] { return page() && page()->isVisible(); },
+        [this] { KirvWindowDriver::openMenu(page()->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton"))); });
+    walk.expect(
+        QStringLiteral("The menu of the add button offers XMPP"), [] { return KirvWindowDriver::menuOffers(xmpp); },
+        [] { KirvWindowDriver::clickInMenu(xmpp); });
+    walk.expect(
+        QStringLiteral("The window for a new account opens"), [] { return KirvWindowDriver::window(add); },
+        [] { chooseIn(add, QStringLiteral("AddAccount_Configuration"), QStringLiteral("Server on this computer")); });
+    walk.expect(
+        QStringLiteral("The ready-made configuration is chosen; Save is asleep without login and password"),
+        [] {
+            const auto *box = child<QComboBox>(add, QStringLiteral("AddAccount_Configuration"));
+            return box->currentText() == QLatin1String("Server on this computer") && !saveInAddWindow()->isEnabled();
+        },
+        [this] { typeInto(add, QStringLiteral("AddAccount_UsernameEdit"), demo.address()); });
+    walk.expect(
+        QStringLiteral("Save is asleep without a password"),
+        [this] {
+            return child<QLineEdit>(add, QStringLiteral("AddAccount_UsernameEdit"))->text() == demo.address()
+                && !saveInAddWindow()->isEnabled();
+        },
+        [this] { typeInto(add, QStringLiteral("AddAccount_PasswordEdit"), demo.password()); });
+    walk.expect(
+        QStringLiteral("Save is awake with login and password"), [] { return saveInAddWindow()->isEnabled(); },
+        [] {
+            auto *remember = child<QCheckBox>(add, QStringLiteral("AddAccount_RememberPasswordCheckbox"));
+            if (!remember->isChecked())
+                KirvWindowDriver::pressKey(remember, Qt::Key_Space);
+            chooseIn(add, QStringLiteral("AddAccount_PresenceCombo"), QStringLiteral("Away"));
+        });
+    walk.expect(
+        QStringLiteral("The presence Away is chosen"),
+        [] {
+            return child<QComboBox>(add, QStringLiteral("AddAccount_PresenceCombo"))->currentText()
+                == QLatin1String("Away");
+        },
+        [] { KirvWindowDriver::click(saveInAddWindow()); });
+    walk.expectOnTop(
+        QStringLiteral("The account stands in the list, checked"),
+        [this] {
+            return !KirvWindowDriver::window(add) && row(xmpp) && row(xmpp)->text(AliasColumn) == demo.address()
+                && row(xmpp)->checkState(AliasColumn) == Qt::Checked;
+        },
+        [this] { showConnections(xmpp); });
+    walk.expect(QStringLiteral("The connection view says that the account is connected"),
+                [this] { return state(xmpp) == QLatin1String("Connected"); });
+    walk.expect(QStringLiteral("The server sees the session"), [this] { return demo.isOnline(); });
+}
+
+void KirvTour::planRestart()
+{
+    walk.expectOnTop(
+        QStringLiteral("The client quits"), [] { return true; },
+        [this] {
+            client.reset();
+            startClient();
+        });
+    walk.expectOnTop(
+        QStringLiteral("After the next start the account is back"),
+        [this] { return client && row(xmpp) && row(xmpp)->checkState(AliasColumn) == Qt::Checked; },
+        [this] { showConnections(xmpp); });
+    walk.expect(
+        QStringLiteral("It has logged in by itself"), [this] { return state(xmpp) == QLatin1String("Connected"); },
+        [] { showPage(0); });
+}
+
+void KirvTour::planEditing()
+{
+    walk.expectOnTop(
+        QStringLiteral("The Accounts page is shown again"), [this] { return page()->isVisible(); },
+        [this] { openEditWindow(xmpp); });
+    walk.expect(
+        QStringLiteral("A double click opens the window of the account, filled in"),
+        [this] {
+            const auto *alias = child<QLineEdit>(edit, QStringLiteral("EditAccount_Alias"));
+            return alias && alias->text() == demo.address();
+        },
+        [] {
+            typeInto(edit, QStringLiteral("EditAccount_Alias"), QStringLiteral("Anna at home"));
+            child<QTabWidget>(edit, QStringLiteral("EditAccount_Tabs"))->setCurrentIndex(1);
+        });
+    walk.expect(
+        QStringLiteral("The directory entry comes from the server"),
+        [] {
+            const auto *fields = child<QWidget>(edit, QStringLiteral("EditAccount_PubDirResults"));
+            const auto *name = fields ? fields->findChild<QLineEdit *>() : nullptr;
+            return name && name->isEnabled();
+        },
+        [] { KirvWindowDriver::click(saveInEditWindow()); });
+    walk.expectOnTop(QStringLiteral("The row shows the new alias"), [this] {
+        return !KirvWindowDriver::window(edit) && row(xmpp)->text(AliasColumn) == QLatin1String("Anna at home");
+    });
+}
+
+void KirvTour::planWrongPassword()
+{
+    const auto changePassword = [this](const QString &text, const QString &password) {
+        walk.expectOnTop(
+            text, [this] { return page()->isVisible() && !KirvWindowDriver::window(edit); }, [this] { openEditWindow(xmpp); });
+        walk.expect(
+            QStringLiteral("The window of the account opens"), [] { return KirvWindowDriver::window(edit); },
+            [password] {
+                typeInto(edit, QStringLiteral("EditAccount_Password"), password);
+                KirvWindowDriver::click(saveInEditWindow());
+            });
+        walk.expectOnTop(
+            QStringLiteral("The change is saved"), [] { return !KirvWindowDriver::window(edit); },
+            [this] { showConnections(xmpp); });
+    };
+    changePassword(QStringLiteral("The password is changed to a wrong one"), QStringLiteral("mistyped"));
+    walk.expect(
+        QStringLiteral("The connection view says that the password is wrong"),
+        [this] {
+            return state(xmpp) == QLatin1String("Off line")
+                && problem(xmpp).contains(QLatin1String("password"), Qt::CaseInsensitive);
+        },
+        [] { showPage(0); });
+    changePassword(QStringLiteral("The password is changed back"), demo.password());
+    walk.expect(
+        QStringLiteral("The account is connected again"),
+        [this] { return state(xmpp) == QLatin1String("Connected") && problem(xmpp).isEmpty(); }, [] { showPage(0); });
+}
+
+void KirvTour::planIrcAccount()
+{
+    walk.expectOnTop(
+        QStringLiteral("An IRC account is added beside it"), [this] { return page()->isVisible(); },
+        [this] { KirvWindowDriver::openMenu(page()->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton"))); });
+    walk.expect(
+        QStringLiteral("The menu of the add button offers IRC"), [] { return KirvWindowDriver::menuOffers(irc); },
+        [] { KirvWindowDriver::clickInMenu(irc); });
+    walk.expect(
+        QStringLiteral("The window for a new account opens"), [] { return KirvWindowDriver::window(add); },
+        [this] {
+            chooseIn(add, QStringLiteral("AddAccount_Configuration"), QStringLiteral("Server on this computer"));
+            typeInto(add, QStringLiteral("AddAccount_UsernameEdit"), QStringLiteral("anna"));
+            typeInto(add, QStringLiteral("AddAccount_PasswordEdit"), demo.password());
+        });
+    walk.expect(
+        QStringLiteral("Save is awake with nickname and password"), [] { return saveInAddWindow()->isEnabled(); },
+        [] { KirvWindowDriver::click(saveInAddWindow()); });
+    walk.expectOnTop(
+        QStringLiteral("Both accounts stand in the list"),
+        [this] { return row(irc) && row(xmpp) && row(irc)->checkState(AliasColumn) == Qt::Checked; },
+        [this] { showConnections(irc); });
+    walk.expect(
+        QStringLiteral("The IRC account is connected"), [this] { return state(irc) == QLatin1String("Connected"); },
+        [] { showPage(0); });
+}
+
+void KirvTour::planDisabling()
+{
+    walk.expectOnTop(
+        QStringLiteral("The account is unticked while it is connected"), [this] { return page()->isVisible(); },
+        [this] {
+            row(xmpp)->treeWidget()->setCurrentItem(row(xmpp));
+            KirvWindowDriver::pressKey(row(xmpp)->treeWidget(), Qt::Key_Space);
+        });
+    walk.expect(
+        QStringLiteral("A question comes first, and the tick stays"),
+        [this] { return question() && row(xmpp)->checkState(AliasColumn) == Qt::Checked; },
+        [] { KirvWindowDriver::click(question()->button(QMessageBox::Yes)); });
+    walk.expectOnTop(
+        QStringLiteral("The account is disabled"),
+        [this] { return row(xmpp)->checkState(AliasColumn) == Qt::Unchecked; }, [this] { showConnections(xmpp); });
+    walk.expect(QStringLiteral("The connection view says so"),
+                [this] { return state(xmpp) == QLatin1String("Disabled"); });
+    walk.expect(
+        QStringLiteral("The server sees the session end"), [this] { return !demo.isOnline(); }, [] { showPage(0); });
+}
+
+void KirvTour::planRemoving()
+{
+    walk.expectOnTop(
+        QStringLiteral("The Delete key is pressed on the account"), [this] { return page()->isVisible(); },
+        [this] {
+            row(xmpp)->treeWidget()->setCurrentItem(row(xmpp));
+            KirvWindowDriver::pressKey(row(xmpp)->treeWidget(), Qt::Key_Delete);
+        });
+    walk.expect(
+        QStringLiteral("A question names the account"),
+        [] { return question() && question()->text().contains(QLatin1String("Anna at home")); },
+        [] { KirvWindowDriver::click(question()->button(QMessageBox::Yes)); });
+    walk.expectOnTop(QStringLiteral("The account is gone from the list and from the profile"),
+                     [this] { return !row(xmpp) && client->accounts().accountsOf(xmpp).isEmpty(); });
+}
+
+QWidget *KirvTour::page() const
+{
+    return client->accountsPage();
+}
+
+/// The row of the account of \a protocol: the walk has one of each.
+QTreeWidgetItem *KirvTour::row(const QString &protocol) const
+{
+    const auto *list = page()->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));
+    return list->findItems(protocol, Qt::MatchExactly, ProtocolColumn).value(0);
+}
+
+void KirvTour::openEditWindow(const QString &protocol) const
+{
+    QTreeWidget *list = row(protocol)->treeWidget();
+    const QRect cell = list->visualItemRect(row(protocol));
+    KirvWindowDriver::doubleClick(list->viewport(), QPoint(cell.center().x(), cell.center().y()));
+}
+
+void KirvTour::showConnections(const QString &protocol) const
+{
+    showPage(1);
+    client->connectionView()->setCurrentAccount(client->accounts().accountsOf(protocol).value(0));
+}
+
+QString KirvTour::state(const QString &protocol) const
+{
+    const KirvAccount *account = client->accounts().accountsOf(protocol).value(0);
+    return account && client->connectionView()->isVisible() ? KirvConnectionModel::stateText(*account) : QString();
+}
+
+QString KirvTour::problem(const QString &protocol) const
+{
+    const auto *model = client->connectionView()->findChild<KirvConnectionModel *>();
+    const int row = model->rowOf(client->accounts().accountsOf(protocol).value(0));
+    return model->index(row, KirvConnectionModel::ErrorColumn).data().toString();
+}
