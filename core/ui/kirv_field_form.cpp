@@ -88,6 +88,15 @@ bool isWholeNumberIn(const KirvField &field)
     return isNumber && number >= field.getMinimum() && number <= field.getMaximum();
 }
 
+/// Says what is valid where the field explains it.
+QString invalidFormat(const KirvField &field)
+{
+    const QString explanation = shortened(field.getToolTip(), LongestCaption);
+    //: %1 = a sentence that says what is valid
+    return explanation.isEmpty() ? KirvFieldForm::tr("Invalid format.")
+                                 : KirvFieldForm::tr("Invalid format: %1").arg(explanation);
+}
+
 /// What is wrong with the value of \a field, as a sentence; empty when nothing is.
 QString problemOf(const KirvField &field)
 {
@@ -105,7 +114,7 @@ QString problemOf(const KirvField &field)
         return QString();
     const QRegularExpression pattern(QRegularExpression::anchoredPattern(field.getPattern()));
     if (pattern.isValid() && !pattern.match(field.getText()).hasMatch())
-        return KirvFieldForm::tr("This does not have the form that is asked for.");
+        return invalidFormat(field);
     return QString();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_catalog.h"
 
+#include "core/ui/kirv_layout_dialog.h"
 #include "core/ui/kirv_layout_file.h"
 
 #include <QComboBox>
@@ -129,8 +130,9 @@ QStringList missingParts(const QWidget *top)
     return missing;
 }
 
-QWidget *withParent(std::unique_ptr<QWidget> top, QWidget *parent)
+QWidget *finished(const QString &name, std::unique_ptr<QWidget> top, QWidget *parent)
 {
+    top->setObjectName(name);
     if (parent)
         top->setParent(parent, top->inherits("QDialog") ? top->windowFlags() : Qt::Widget);
     return top.release();
@@ -140,21 +142,10 @@ QPointer<KirvLayoutCatalog> livingCatalog;
 
 } // namespace
 
-class KirvLayoutCatalog::Private {
-public:
-    QString overrideFolder;
-};
-
 KirvLayoutCatalog::KirvLayoutCatalog(QObject *parent)
     : QObject(parent)
-    , d(new Private)
 {
     livingCatalog = this;
-}
-
-KirvLayoutCatalog::~KirvLayoutCatalog()
-{
-    delete d;
 }
 
 KirvLayoutCatalog *KirvLayoutCatalog::instance()
@@ -172,34 +163,46 @@ QStringList KirvLayoutCatalog::names()
 
 void KirvLayoutCatalog::setOverrideFolder(const QString &folder)
 {
-    d->overrideFolder = folder;
+    overrideFolder = folder;
 }
 
 QWidget *KirvLayoutCatalog::build(const QString &name, QWidget *parent)
 {
-    const QString path = QDir(d->overrideFolder).filePath(name + QLatin1String(".ui"));
-    if (!findLayout(name) || d->overrideFolder.isEmpty() || !QFileInfo(path).exists())
-        return buildBuiltIn(name, parent);
+    QStringList reasons;
+    QWidget *top = buildOverride(name, parent, &reasons);
+    if (!top)
+        top = buildBuiltIn(name, parent);
+    if (!top)
+        return nullptr;
+    Q_EMIT windowBuilt(name, top);
+    if (!reasons.isEmpty())
+        Q_EMIT overrideRejected(name,
+                                tr("The layout file %1 cannot be used; the built-in layout takes its place.\n%2")
+                                    .arg(QDir::toNativeSeparators(overrideFile(name)), reasons.join(QLatin1Char('\n'))));
+    return top;
+}
 
-    KirvLayoutFile file(path);
+QString KirvLayoutCatalog::overrideFile(const QString &name) const
+{
+    return QDir(overrideFolder).filePath(name + QLatin1String(".ui"));
+}
+
+/// Null without \a reasons when there is no override.
+QWidget *KirvLayoutCatalog::buildOverride(const QString &name, QWidget *parent, QStringList *reasons) const
+{
+    if (!findLayout(name) || overrideFolder.isEmpty() || !QFileInfo(overrideFile(name)).exists())
+        return nullptr;
+    KirvLayoutFile file(overrideFile(name));
     std::unique_ptr<QWidget> top = file.build();
-    const QStringList reasons = top ? missingIn(name, top.get()) : QStringList(file.problem());
-    if (reasons.isEmpty())
-        return withParent(std::move(top), parent);
-
-    top = nullptr;
-    QWidget *builtIn = buildBuiltIn(name, parent);
-    Q_EMIT overrideRejected(name,
-                            tr("The layout file %1 cannot be used; the built-in layout takes its place.\n%2")
-                                .arg(QDir::toNativeSeparators(path), reasons.join(QLatin1Char('\n'))));
-    return builtIn;
+    *reasons = top ? missingIn(name, top.get()) : QStringList(file.problem());
+    return reasons->isEmpty() ? finished(name, std::move(top), parent) : nullptr;
 }
 
 QWidget *KirvLayoutCatalog::buildBuiltIn(const QString &name, QWidget *parent)
 {
     if (!findLayout(name))
         return nullptr;
-    return withParent(KirvLayoutFile(QStringLiteral(":/kirv/layouts/%1.ui").arg(name)).build(), parent);
+    return finished(name, KirvLayoutFile(QStringLiteral(":/kirv/layouts/%1.ui").arg(name)).build(), parent);
 }
 
 QStringList KirvLayoutCatalog::missingIn(const QString &name, const QWidget *top)
@@ -208,7 +211,9 @@ QStringList KirvLayoutCatalog::missingIn(const QString &name, const QWidget *top
     if (!layout)
         return QStringList();
     QStringList missing;
-    if (!top->inherits(layout->topClass))
+    // A dialog of another class could not be guarded by a companion.
+    const bool isDialog = layout->topClass == QLatin1String("QDialog");
+    if (isDialog ? !qobject_cast<const KirvLayoutDialog *>(top) : !top->inherits(layout->topClass))
         missing += tr("The window is a %1, but must be a %2.")
                        .arg(QLatin1String(top->metaObject()->className()), QLatin1String(layout->topClass));
     for (const Child &child : layout->children) {

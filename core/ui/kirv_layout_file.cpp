@@ -2,6 +2,7 @@
 #include "core/ui/kirv_layout_file.h"
 
 #include "core/ui/kirv_form_area.h"
+#include "core/ui/kirv_layout_dialog.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,7 +13,10 @@
 #include <QFileInfo>
 #include <QMetaEnum>
 #include <QPointer>
+#include <QTextBrowser>
+#include <QTextEdit>
 #include <QUiLoader>
+#include <QVariant>
 #include <QWidget>
 #include <QXmlStreamReader>
 
@@ -23,7 +27,16 @@ namespace {
 const qint64 MaximumSize = 1024 * 1024;
 const int MaximumDepth = 200;
 
-/// Remembers what it could not make; the base class only prints a warning and leaves a gap or a base class.
+/// A text view that fetches nothing: what a rich text refers to stays away.
+template <class TextView>
+class ClosedTextView : public TextView {
+public:
+    using TextView::TextView;
+    QVariant loadResource(int, const QUrl &) override { return QVariant(); }
+};
+
+/// Makes our own classes where a layout asks for them or where they stand in for Qt's, and remembers what it could not
+/// make; the base class only prints a warning and leaves a gap or a base class.
 class Loader : public QUiLoader {
 public:
     explicit Loader(QObject *parent)
@@ -33,10 +46,9 @@ public:
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
-        if (className == QLatin1String(KirvFormArea::staticMetaObject.className())) {
-            auto *area = new KirvFormArea(parent);
-            area->setObjectName(name);
-            return area;
+        if (QWidget *own = createOwn(className, parent)) {
+            own->setObjectName(name);
+            return own;
         }
         // A "Line" is made by the base class, but it does not list it.
         if (className != QLatin1String("Line") && !availableWidgets().contains(className))
@@ -52,6 +64,21 @@ public:
     }
 
     QStringList unknownClasses;
+
+private:
+    /// Null for a class that the base class makes.
+    static QWidget *createOwn(const QString &className, QWidget *parent)
+    {
+        if (className == QLatin1String("KirvFormArea"))
+            return new KirvFormArea(parent);
+        if (className == QLatin1String("QDialog") && !parent)
+            return new KirvLayoutDialog;
+        if (className == QLatin1String("QTextEdit"))
+            return new ClosedTextView<QTextEdit>(parent);
+        if (className == QLatin1String("QTextBrowser"))
+            return new ClosedTextView<QTextBrowser>(parent);
+        return nullptr;
+    }
 };
 
 /// Made once and on first use, because that takes longer than to build a window.
