@@ -2,10 +2,10 @@
 #include "add_account/kirv_add_account_dialog.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "accounts_tab/kirv_qt_compat_p.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_protocol.h"
-#include "host/kirv_qt_compat.h"
 #include "host/kirv_settings_manager.h"
 #include "host/kirv_ui_loader.h"
 

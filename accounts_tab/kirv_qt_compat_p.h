@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_QT_COMPAT_H
-#define KIRV_QT_COMPAT_H
+#ifndef KIRV_QT_COMPAT_P_H
+#define KIRV_QT_COMPAT_P_H
 
 #include <QHeaderView>
 #include <QString>
