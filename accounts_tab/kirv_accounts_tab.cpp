@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 
+#include "accounts_tab/kirv_qt_compat_p.h"
 #include "add_account/kirv_add_account_dialog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_account_connection.h"
@@ -8,7 +9,6 @@
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
 #include "host/kirv_protocol.h"
-#include "host/kirv_qt_compat.h"
 #include "host/kirv_settings_manager.h"
 #include "host/kirv_ui_loader.h"
 

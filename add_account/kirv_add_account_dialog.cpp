@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "add_account/kirv_add_account_dialog.h"
 
+#include "accounts_tab/kirv_account_window_p.h"
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "accounts_tab/kirv_qt_compat_p.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_protocol.h"
-#include "host/kirv_qt_compat.h"
 #include "host/kirv_settings_manager.h"
-#include "host/kirv_ui_loader.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -41,6 +41,7 @@ KirvAddAccountDialog::KirvAddAccountDialog(KirvProtocol *protocol, const QString
     , saveButton(nullptr)
     , dialog(nullptr)
     , initialConfiguration(configuration)
+    , accountWindow(new KirvAccountWindow(this))
 {
     setupGui();
     if (!dialog)
@@ -54,10 +55,25 @@ KirvAddAccountDialog::KirvAddAccountDialog(KirvProtocol *protocol, const QString
 
 KirvAddAccountDialog::~KirvAddAccountDialog() { }
 
+KirvProtocol *KirvAddAccountDialog::getProtocol() const
+{
+    return protocol;
+}
+
+QDialog *KirvAddAccountDialog::getWindow() const
+{
+    return accountWindow->get();
+}
+
+KirvAddAccountDialog *KirvAddAccountDialog::of(const QWidget *window)
+{
+    return qobject_cast<KirvAddAccountDialog *>(KirvAccountWindow::controllerOf(window));
+}
+
 /// The combo boxes are filled before their signals are connected, so filling them runs no slot.
 void KirvAddAccountDialog::setupGui()
 {
-    dialog = qobject_cast<QDialog *>(KirvUILoader::getInstance()->loadUI(QLatin1String("AddAccount"), QString()));
+    dialog = accountWindow->load(QLatin1String("AddAccount"));
     if (!dialog)
         return;
     usernameEdit = dialog->findChild<QLineEdit *>(QLatin1String("AddAccount_UsernameEdit"));

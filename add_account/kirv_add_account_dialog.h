@@ -5,8 +5,10 @@
 #include "accounts_tab/kirv_gui_accounts_tab_export.h"
 
 #include <QObject>
+#include <QScopedPointer>
 #include <QString>
 
+class KirvAccountWindow;
 class KirvFieldWidget;
 class KirvProtocol;
 class QCheckBox;
@@ -35,6 +37,20 @@ public:
     /// Runs the window: QDialog::Accepted after an account was created, QDialog::Rejected otherwise.
     int exec();
 
+    /// The protocol to which the account will belong; not owned.
+    KirvProtocol *getProtocol() const;
+    /// The window that this controller drives. Null while it is being loaded, when the layout has no dialog and after
+    /// the window was destroyed. Not owned by the caller.
+    QDialog *getWindow() const;
+
+    /// The controller that drives \a window. Null for a null pointer, for every other widget (also for those inside
+    /// the window), and as soon as the window or its controller is destroyed.
+    ///
+    /// It is found from inside KirvUILoader::loadUI() already, so that a client can announce the window as soon as it
+    /// is built: while a controller loads its window, each dialog without a parent widget that no controller drives is
+    /// taken for that window. When windows are loaded inside each other, this holds for the innermost loading.
+    static KirvAddAccountDialog *of(const QWidget *window);
+
 protected Q_SLOTS:
     void textChanged(const QString &text);
     void addAccount();
@@ -61,6 +77,8 @@ private:
     QPushButton *saveButton;
     QDialog *dialog;
     QString initialConfiguration;
+    /// Never null. Knows when the window is destroyed, and finds this controller by it.
+    QScopedPointer<KirvAccountWindow> accountWindow;
 };
 
 #endif

@@ -7,7 +7,6 @@
 #include "tests/consumer/client/memory_host.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "host/kirv_qt_compat.h"
 #include "host/kirv_ui_loader.h"
 
 #include <QAction>
@@ -16,6 +15,7 @@
 #include <QComboBox>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
@@ -121,7 +121,7 @@ public:
         list->setIndentation(0);
         list->setSortingEnabled(true);
         list->sortByColumn(0, Qt::AscendingOrder);
-        kirvSetResizeMode(list->header(), 0, QHeaderView::Stretch);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
         auto *addButton = loaded->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton"));
         addButton->setPopupMode(QToolButton::InstantPopup);
         addButton->setMenu(&addMenu);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "edit_account/kirv_edit_account_dialog.h"
 
+#include "accounts_tab/kirv_account_window_p.h"
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "edit_account/kirv_pubdir_account_received_event.h"
 #include "host/kirv_account_connection.h"
@@ -83,6 +84,8 @@ KirvEditAccountDialog::KirvEditAccountDialog(const QString &accountId, const QSt
     , dialog(nullptr)
     , pubdirControls(nullptr)
     , avatarWidget(nullptr)
+    , protocolName(protocolName)
+    , accountWindow(new KirvAccountWindow(this))
 {
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
     // Intended: the previous dialog goes also when this one does not come about.
@@ -110,9 +113,29 @@ KirvEditAccountDialog::~KirvEditAccountDialog()
         KirvAccountsTab::instance->accEdit = nullptr;
 }
 
+QString KirvEditAccountDialog::getAccountId() const
+{
+    return accountId;
+}
+
+QString KirvEditAccountDialog::getProtocolName() const
+{
+    return protocolName;
+}
+
+QDialog *KirvEditAccountDialog::getWindow() const
+{
+    return accountWindow->get();
+}
+
+KirvEditAccountDialog *KirvEditAccountDialog::of(const QWidget *window)
+{
+    return qobject_cast<KirvEditAccountDialog *>(KirvAccountWindow::controllerOf(window));
+}
+
 void KirvEditAccountDialog::setupGui()
 {
-    dialog = qobject_cast<QDialog *>(KirvUILoader::getInstance()->loadUI(QLatin1String("EditAccount"), QString()));
+    dialog = accountWindow->load(QLatin1String("EditAccount"));
     if (!dialog)
         return;
     new WindowGuard(this, dialog, pubdirWidget);
@@ -171,8 +194,7 @@ void KirvEditAccountDialog::setupPresences(KirvAccountConnection *account)
         if (presence.getId() == account->getDefaultPresence().getId())
             presenceCombo->setCurrentIndex(i);
     }
-    // Not setText(), which would take a description that looks like markup for markup.
-    descriptionEdit->setPlainText(account->getDefaultPresence().getDescription());
+    descriptionEdit->setText(account->getDefaultPresence().getDescription());
 }
 
 void KirvEditAccountDialog::setupAccountSettings(KirvAccountConnection *account, QWidget *placeholder)

@@ -7,9 +7,11 @@
 
 #include <QList>
 #include <QObject>
+#include <QScopedPointer>
 #include <QString>
 
 class KirvAccountConnection;
+class KirvAccountWindow;
 class KirvAvatarQuickSetWidget;
 class KirvFieldWidget;
 class KirvProtocol;
@@ -40,6 +42,22 @@ public:
 
     /// Blocks until the window is closed and returns its result; QDialog::Rejected when there is no window.
     int exec();
+
+    /// The id of the account that is edited.
+    QString getAccountId() const;
+    /// The name of its protocol, as it was given to the constructor: it stays known when the protocol is gone.
+    QString getProtocolName() const;
+    /// The window that this controller drives. Null while it is being loaded, when there is none and after the window
+    /// was destroyed. Not owned by the caller.
+    QDialog *getWindow() const;
+
+    /// The controller that drives \a window. Null for a null pointer, for every other widget (also for those inside
+    /// the window), and as soon as the window or its controller is destroyed.
+    ///
+    /// It is found from inside KirvUILoader::loadUI() already, so that a client can announce the window as soon as it
+    /// is built: while a controller loads its window, each dialog without a parent widget that no controller drives is
+    /// taken for that window. When windows are loaded inside each other, this holds for the innermost loading.
+    static KirvEditAccountDialog *of(const QWidget *window);
 
 protected Q_SLOTS:
     void saveSettings();
@@ -86,6 +104,9 @@ private:
     QDialog *dialog;
     QWidget *pubdirControls;
     KirvAvatarQuickSetWidget *avatarWidget;
+    QString protocolName;
+    /// Never null. Knows when the window is destroyed, and finds this controller by it.
+    QScopedPointer<KirvAccountWindow> accountWindow;
 };
 
 #endif

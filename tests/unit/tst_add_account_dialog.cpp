@@ -42,9 +42,6 @@ private Q_SLOTS:
     void thePasswordIsMasked();
     void saveNeedsLoginAndPassword();
     void saveDoesNotAskTheValidator();
-    void theLoginIsValidated_data();
-    void theLoginIsValidated();
-    void theValidatorGoesWithTheController();
     void noConfigurationIsChosenBeforehand();
     void aConfigurationIsChosenBeforehand();
     void configurationsAreComparedExactly_data();
@@ -309,50 +306,6 @@ void TestAddAccountDialog::saveDoesNotAskTheValidator()
     QTest::keyClicks(password(), "s");
     QVERIFY(!login()->hasAcceptableInput());
     QVERIFY(save()->isEnabled());
-}
-
-void TestAddAccountDialog::theLoginIsValidated_data()
-{
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("taken");
-    QTest::newRow("acceptable") << "[a-z]+@[a-z]+"
-                                << "me@home"
-                                << "me@home";
-    QTest::newRow("case-sensitive") << "[a-z]+@[a-z]+"
-                                    << "Me@hOme"
-                                    << "e@hme";
-    QTest::newRow("as a whole") << "[0-9]{3}"
-                                << "1x2345"
-                                << "123";
-    QTest::newRow("empty pattern") << ""
-                                   << "me"
-                                   << "";
-}
-
-void TestAddAccountDialog::theLoginIsValidated()
-{
-    QFETCH(QString, pattern);
-    QFETCH(QString, typed);
-    QFETCH(QString, taken);
-    xmpp->loginPattern = pattern;
-    open();
-    QTest::keyClicks(login(), typed);
-    if (pattern.isEmpty()) {
-        // What an empty expression accepts is Qt's matter; the validator is installed all the same.
-        QVERIFY(login()->validator());
-        return;
-    }
-    QCOMPARE(login()->text(), taken);
-}
-
-void TestAddAccountDialog::theValidatorGoesWithTheController()
-{
-    open();
-    const QPointer<const QValidator> validator = login()->validator();
-    QCOMPARE(validator->parent(), dialog.data());
-    delete dialog;
-    QVERIFY(!validator);
 }
 
 void TestAddAccountDialog::noConfigurationIsChosenBeforehand()

@@ -31,6 +31,7 @@ KIRV_PRIVATE_MEMBER(KirvAddAccountDialog, rememberPasswordCheckbox);
 KIRV_PRIVATE_MEMBER(KirvAddAccountDialog, saveButton);
 KIRV_PRIVATE_MEMBER(KirvAddAccountDialog, dialog);
 KIRV_PRIVATE_MEMBER(KirvAddAccountDialog, initialConfiguration);
+KIRV_PRIVATE_MEMBER(KirvAddAccountDialog, accountWindow);
 
 KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, accountId);
 KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, protocol);
@@ -49,6 +50,8 @@ KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, pubdirData);
 KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, dialog);
 KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, pubdirControls);
 KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, avatarWidget);
+KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, protocolName);
+KIRV_PRIVATE_MEMBER(KirvEditAccountDialog, accountWindow);
 
 KIRV_PRIVATE_MEMBER(KirvPubdirAccountReceivedEvent, account);
 KIRV_PRIVATE_MEMBER(KirvPubdirAccountReceivedEvent, data);
@@ -121,7 +124,8 @@ void TestMembers::membersOfTheAddDialogStandInTheirOrder()
           OFFSET(dialog, KirvAddAccountDialog, presenceCombo),
           OFFSET(dialog, KirvAddAccountDialog, rememberPasswordCheckbox),
           OFFSET(dialog, KirvAddAccountDialog, saveButton), OFFSET(dialog, KirvAddAccountDialog, dialog),
-          OFFSET(dialog, KirvAddAccountDialog, initialConfiguration) }));
+          OFFSET(dialog, KirvAddAccountDialog, initialConfiguration),
+          OFFSET(dialog, KirvAddAccountDialog, accountWindow) }));
     QCOMPARE(VALUE(dialog, KirvAddAccountDialog, protocol), static_cast<KirvProtocol *>(fixture->xmpp));
     QVERIFY(VALUE(dialog, KirvAddAccountDialog, fieldWidget) == nullptr);
     QCOMPARE(VALUE(dialog, KirvAddAccountDialog, initialConfiguration), QString("Home"));
@@ -143,7 +147,8 @@ void TestMembers::membersOfTheEditDialogStandInTheirOrder()
           OFFSET(dialog, KirvEditAccountDialog, saveButton), OFFSET(dialog, KirvEditAccountDialog, cancelButton),
           OFFSET(dialog, KirvEditAccountDialog, pubdirWidget), OFFSET(dialog, KirvEditAccountDialog, pubdirData),
           OFFSET(dialog, KirvEditAccountDialog, dialog), OFFSET(dialog, KirvEditAccountDialog, pubdirControls),
-          OFFSET(dialog, KirvEditAccountDialog, avatarWidget) }));
+          OFFSET(dialog, KirvEditAccountDialog, avatarWidget), OFFSET(dialog, KirvEditAccountDialog, protocolName),
+          OFFSET(dialog, KirvEditAccountDialog, accountWindow) }));
     QCOMPARE(VALUE(dialog, KirvEditAccountDialog, accountId), QString("alice"));
     QCOMPARE(VALUE(dialog, KirvEditAccountDialog, protocol), static_cast<KirvProtocol *>(fixture->xmpp));
     QVERIFY(VALUE(dialog, KirvEditAccountDialog, accountSettingsWidget) == nullptr);

@@ -18,12 +18,17 @@
 #include <memory>
 #include <vector>
 
+class QWidget;
+
 /// What the layouts lack or have in another form, so that tests can take away one thing at a time.
 struct KirvLayoutScript {
-    /// Object names of widgets that are left out.
+    /// Object names of widgets that are left out; a layout's name, which is that of its top widget, leaves it out
+    /// whole.
     QSet<QString> omitted;
     /// Whether the login frame has a QFormLayout; otherwise a QVBoxLayout.
     bool loginFrameHasForm = true;
+    /// Called at the end of loadUI(), before it returns, with the top widget that it built; null calls nothing.
+    std::function<void(QWidget *)> announce;
 };
 
 /// A client core that writes down every call of the contract, in order and with its arguments, and answers as a

@@ -119,6 +119,8 @@ QWidget *createEditAccount()
 
 QWidget *create(const QString &name)
 {
+    if (host().layouts.omitted.contains(name))
+        return nullptr;
     QWidget *top = nullptr;
     if (name == QLatin1String("Accounts"))
         top = createAccounts();
@@ -129,6 +131,14 @@ QWidget *create(const QString &name)
     if (top)
         top->setObjectName(name);
     return top;
+}
+
+void announce(QWidget *top)
+{
+    // A copy, as the announcement may replace itself.
+    const std::function<void(QWidget *)> announce = host().layouts.announce;
+    if (announce && top)
+        announce(top);
 }
 
 }
@@ -147,13 +157,16 @@ QWidget *KirvUILoader::loadUI(const QString &name, QWidget *parent, const QStrin
     auto *filling = new QVBoxLayout(parent);
     filling->setContentsMargins(0, 0, 0, 0);
     filling->addWidget(top);
+    announce(top);
     return top;
 }
 
 QWidget *KirvUILoader::loadUI(const QString &name, const QString &variant)
 {
     host().record(QString(), QStringLiteral("loadUI"), { kirvWritten(name), kirvWritten(variant) });
-    return create(name);
+    QWidget *top = create(name);
+    announce(top);
+    return top;
 }
 
 void KirvUILoader::insertWidget(QWidget *placeholder, QWidget *widget)
