@@ -3,20 +3,16 @@
 #define KIRV_CLIENT_H
 
 #include "client/kirv_client_options.h"
-#include "core/values/kirv_account_key.h"
 
-#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <memory>
 
 class KirvAccount;
 class KirvAccountCollection;
-class KirvAccountRows;
 class KirvAccountsTab;
 class KirvConnectionView;
-class KirvEditWindowKeeper;
-class KirvField;
+class KirvHostServices;
 class KirvLayoutCatalog;
 class KirvPasswordQuestions;
 class KirvPluginLoader;
@@ -25,6 +21,7 @@ class KirvProtocolBase;
 class KirvClientSettings;
 class KirvSettingsWindow;
 class KirvStore;
+class KirvWindowCompanions;
 
 /// The program without its command line: makes the services of the core and the settings window, and leads the
 /// news of the ones to the other. One per process at a time.
@@ -44,9 +41,9 @@ public:
 
     // What follows exists once start() has given true.
     KirvStore &profile() const { return *store; }
-    KirvAccountCollection &accounts() const { return *accountRegistry; }
-    KirvPluginLoader &plugins() const { return *pluginRegistry; }
-    KirvClientSettings &settings() const { return *settingsRegistry; }
+    KirvAccountCollection &accounts() const { return *accountCollection; }
+    KirvPluginLoader &plugins() const { return *pluginLoader; }
+    KirvClientSettings &settings() const { return *clientSettings; }
     KirvSettingsWindow *window() const { return settingsWindow.get(); }
     KirvAccountsTab *accountsPage() const;
     KirvConnectionView *connectionView() const;
@@ -64,13 +61,9 @@ private:
 
     void protocolLoaded(KirvProtocolBase *protocol);
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
-    void accountAdded(KirvAccount *account);
-    void accountRemoved(const QString &id, const QString &protocol);
     void accountChanged(KirvAccount *account);
-    void syncRowLater(const KirvAccountKey &key);
-    void syncRows();
+    void edit(KirvAccount *account);
     void updateTitle();
-    void deliverDirectoryAnswer(KirvAccount *account, const QList<KirvField> &fields);
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
 
@@ -78,18 +71,17 @@ private:
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;
-    std::unique_ptr<KirvClientSettings> settingsRegistry;
-    std::unique_ptr<KirvAccountCollection> accountRegistry;
-    std::unique_ptr<KirvPluginLoader> pluginRegistry;
+    std::unique_ptr<KirvClientSettings> clientSettings;
+    std::unique_ptr<KirvAccountCollection> accountCollection;
+    std::unique_ptr<KirvPluginLoader> pluginLoader;
+    std::unique_ptr<KirvHostServices> services;
     std::unique_ptr<KirvLayoutCatalog> layouts;
+    std::unique_ptr<KirvWindowCompanions> companions;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
-    std::unique_ptr<KirvAccountRows> rows;
     QPointer<KirvAccountsTab> page;
     QPointer<KirvConnectionView> connections;
     QPointer<KirvPluginsPage> pluginList;
-    QPointer<KirvEditWindowKeeper> editWindows;
     QPointer<KirvPasswordQuestions> passwordQuestions;
-    QList<KirvAccountKey> unsynced; ///< came or went since the page's rows were last compared
 };
 
 #endif

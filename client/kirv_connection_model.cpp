@@ -2,10 +2,8 @@
 #include "client/kirv_connection_model.h"
 
 #include "client/kirv_plain_text.h"
-#include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
-#include "core/protocol/kirv_connection.h"
-#include "host/kirv_protocol.h"
+#include "host/kirv_account_manager.h"
 
 #include <QFont>
 #include <QLocale>
@@ -16,6 +14,11 @@ QString sinceText(const QDateTime &time)
 {
     return time.date() == QDate::currentDate() ? QLocale().toString(time.time(), QLocale::ShortFormat)
                                                : QLocale().toString(time, QLocale::ShortFormat);
+}
+
+bool isMainAccount(const KirvAccount &account)
+{
+    return &account == KirvAccountManager::getInstance()->getMainAccount();
 }
 } // namespace
 
@@ -60,7 +63,7 @@ QVariant KirvConnectionModel::data(const QModelIndex &index, int role) const
     case Qt::DecorationRole:
         return index.column() == AccountColumn ? protocolIcon(*account) : QIcon();
     case Qt::FontRole:
-        if (index.column() == AccountColumn && account->isMainAccount()) {
+        if (index.column() == AccountColumn && isMainAccount(*account)) {
             QFont bold;
             bold.setBold(true);
             return bold;
@@ -128,7 +131,7 @@ QString KirvConnectionModel::stateText(const KirvAccount &account)
     case KirvConnection::Offline:
         break;
     }
-    return account.isEnabled() ? tr("Off line") : tr("Disabled");
+    return account.record().enabled ? tr("Off line") : tr("Disabled");
 }
 
 void KirvConnectionModel::append(KirvAccount *account)
@@ -165,9 +168,9 @@ QString KirvConnectionModel::text(const KirvAccount &account, int column) const
     switch (column) {
     case AccountColumn:
         //: %1 = name of an account
-        return account.isMainAccount() ? tr("%1 (main account)").arg(account.displayName()) : account.displayName();
+        return isMainAccount(account) ? tr("%1 (main account)").arg(account.displayName()) : account.displayName();
     case ProtocolColumn:
-        return account.getProtocolName();
+        return account.key().protocol;
     case StateColumn:
         return stateText(account);
     case SinceColumn:
@@ -183,7 +186,7 @@ QIcon KirvConnectionModel::protocolIcon(const KirvAccount &account) const
 {
     if (!account.isLoaded())
         return QIcon();
-    const QString path = account.getProtocol()->getIconPath(0);
+    const QString path = account.protocol()->getIconPath(0);
     auto icon = icons.find(path);
     if (icon == icons.end())
         icon = icons.insert(path, QIcon(path));

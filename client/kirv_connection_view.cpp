@@ -4,10 +4,7 @@
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_connection_model.h"
 #include "client/kirv_plain_text.h"
-#include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
-#include "core/protocol/kirv_connection.h"
-#include "host/kirv_protocol.h"
 #include "host/kirv_settings_manager.h"
 
 #include <QHBoxLayout>
@@ -20,28 +17,20 @@
 #include <QVBoxLayout>
 
 namespace {
-/// The presence to log in with: the one asked for last, unless that was to be logged out.
-KirvPresence loginPresence(const KirvAccount &account)
-{
-    const KirvPresence last = account.presence();
-    return last.getId().isEmpty() || account.connection()->isOfflinePresence(last) ? account.getDefaultPresence()
-                                                                                   : last;
-}
-
 /// A submenu of the presences that the account's protocol offers.
 QMenu *createPresenceMenu(KirvAccount *account, QMenu *parent)
 {
     auto *menu = parent->addMenu(KirvConnectionView::tr("&Presence"));
     menu->setObjectName(QStringLiteral("Connections_PresenceMenu"));
     const QString icons = KirvSettingsManager::getInstance()->getCurrentRosterThemeDir() + QLatin1String("icons/");
-    const QList<KirvPresence> presences = account->getProtocol()->getAllPresences();
+    const QList<KirvPresence> presences = account->protocol()->presences();
     for (const KirvPresence &presence : presences) {
         QAction *action = menu->addAction(QIcon(icons + presence.getIcon()), kirvPlainCommand(presence.getDisplay()));
         action->setCheckable(true);
         action->setChecked(presence.getId() == account->presence().getId());
         QObject::connect(action, &QAction::triggered, account, [account, presence] {
             account->setPresence(presence);
-            account->getProtocol()->accountPresenceChanged(account);
+            account->tryAgain();
         });
     }
     return menu;
@@ -145,8 +134,8 @@ void KirvConnectionView::updateDetails()
     details->setText(account ? account->lastFailure().text() : QString());
     const bool isLoaded = account && account->isLoaded();
     editButton->setEnabled(isLoaded);
-    reconnectButton->setEnabled(isLoaded && account->isEnabled());
-    passwordButton->setEnabled(isLoaded && account->isEnabled());
+    reconnectButton->setEnabled(isLoaded && account->record().enabled);
+    passwordButton->setEnabled(isLoaded && account->record().enabled);
 }
 
 void KirvConnectionView::edit()
@@ -159,11 +148,9 @@ void KirvConnectionView::edit()
 void KirvConnectionView::reconnect()
 {
     KirvAccount *account = currentAccount();
-    if (!account || !account->isLoaded() || !account->isEnabled())
+    if (!account || !account->isLoaded() || !account->record().enabled)
         return;
-    const KirvPresence presence = loginPresence(*account);
-    account->setPresence(presence);
-    account->connection()->reconnect(presence);
+    account->reconnect();
 }
 
 void KirvConnectionView::enterPassword()
@@ -185,7 +172,7 @@ void KirvConnectionView::showMenu(const QPoint &position)
         QAction *action = menu->addAction(button->text(), button, &QPushButton::click);
         action->setEnabled(button->isEnabled());
     }
-    if (account->isLoaded() && account->isEnabled())
+    if (account->isLoaded() && account->record().enabled)
         createPresenceMenu(account, menu);
     if (KirvAccountActionsMenu::isUseful(account->key(), accounts))
         menu->addMenu(new KirvAccountActionsMenu(account->key(), accounts, window(), menu));

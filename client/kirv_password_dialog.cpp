@@ -26,14 +26,14 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     question->setWordWrap(true);
     //: %1 = name of an account, %2 = its protocol
     question->setText(
-        tr("Enter the password of the account %1 (%2).").arg(account.displayName(), account.getProtocolName()));
+        tr("Enter the password of the account %1 (%2).").arg(account.displayName(), account.key().protocol));
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));
     passwordEdit->setAccessibleName(tr("Password"));
     passwordEdit->setEchoMode(QLineEdit::Password);
 
     rememberBox->setObjectName(QStringLiteral("PasswordQuestion_Remember"));
-    rememberBox->setChecked(account.remembersPassword());
+    rememberBox->setChecked(account.record().rememberPassword);
     rememberBox->setToolTip(tr("Keeps the password in your profile, so that it is not asked for again."));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

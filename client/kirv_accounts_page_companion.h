@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNTS_PAGE_COMPANION_H
+#define KIRV_ACCOUNTS_PAGE_COMPANION_H
+
+#include "core/values/kirv_account_key.h"
+
+#include <QList>
+#include <QObject>
+
+class KirvAccount;
+class KirvAccountCollection;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QWidget;
+
+/// What the client adds to the page: its list shows every configured account exactly once, whatever comes and goes.
+/// Owned by the top widget of the page's layout.
+///
+/// Changes made here reach none of the page's slots.
+class KirvAccountsPageCompanion : public QObject {
+    Q_OBJECT
+
+public:
+    /// \a top was just built for the page. \a accounts outlives it.
+    KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts);
+
+    /// The protocol was loaded, and its accounts with it.
+    void protocolLoaded(const QString &protocol);
+    /// The protocol was unloaded: its rows stay, greyed, as the accounts can still be disabled and removed.
+    void protocolUnloaded(const QString &protocol);
+
+private:
+    void syncRowLater(const KirvAccountKey &key);
+    void syncRows();
+
+    void remove(const KirvAccountKey &key);
+    void removeAll(const QString &protocol);
+    void markUnloaded(const QString &protocol);
+    KirvAccountKey current() const;
+    void setCurrent(const KirvAccountKey &key);
+
+    static KirvAccountKey keyOf(const QTreeWidgetItem *row);
+    QTreeWidgetItem *find(const KirvAccountKey &key) const;
+    QList<QTreeWidgetItem *> rowsOf(const QString &protocol) const;
+    void takeAway(QTreeWidgetItem *row);
+
+    KirvAccountCollection &accounts;
+    QTreeWidget *list;
+    QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
+};
+
+#endif

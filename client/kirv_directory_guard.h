@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_DIRECTORY_GUARD_H
+#define KIRV_DIRECTORY_GUARD_H
+
+#include "core/accounts/kirv_account_directory.h"
+#include "core/values/kirv_account_key.h"
+
+#include <QObject>
+#include <QPointer>
+
+class KirvAccount;
+class KirvAccountCollection;
+class KirvEditAccountDialog;
+class KirvFieldWidget;
+class QDialog;
+class QLabel;
+class QTabWidget;
+
+/// The directory tab of one edit window: delivers the answers that the window is to show, says why its fields are
+/// locked, and brings back what was typed when it could not be published. Owned by the window.
+class KirvDirectoryGuard : public QObject {
+    Q_OBJECT
+
+public:
+    /// \a controller drives \a window, which has everything in place. \a accounts outlives both.
+    KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *controller, KirvAccountCollection &accounts);
+    ~KirvDirectoryGuard() override;
+
+    /// A save begins, and ends; what it publishes is only sent when it was \a saved.
+    void saveBegins();
+    void saveEnded(bool saved);
+    /// Whether the last save published something that is without its answer. publicationEnded() follows.
+    bool isPublishing() const { return publishing; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The entry is on the server; or it is not, and the fields hold again what was typed.
+    void publicationEnded(bool succeeded);
+
+private:
+    KirvAccount *account() const;
+    void findFields();
+    void addMissingControls(QWidget *place);
+    void deliver(const QList<KirvField> &fields);
+    void receive(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
+    void bringBackTyped();
+    void onAccountChanged(KirvAccount *changed);
+    void updateStatus();
+    QString statusText() const;
+    bool isLocked() const;
+
+    QDialog *window;
+    QPointer<KirvEditAccountDialog> controller;
+    KirvAccountCollection &accounts;
+    const KirvAccountKey key;
+    QTabWidget *tabs;
+    QLabel *status = nullptr;
+    QPointer<KirvFieldWidget> fields; ///< null when the protocol has no directory
+    KirvFailure failure; ///< of the latest request
+    QList<KirvField> typed; ///< when the save began
+    bool wasLocked = false; ///< when the save began
+    bool publishing = false;
+    bool wasOnline = false;
+};
+
+#endif

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_edit_window_companion.h"
+
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_actions_menu.h"
+#include "client/kirv_directory_guard.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "edit_account/kirv_edit_account_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTextEdit>
+
+KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
+                                                 KirvAccountCollection &accounts)
+    : QObject(window)
+    , window(window)
+    , controller(controller)
+    , accounts(accounts)
+    , accountKey { controller->getAccountId(), controller->getProtocolName() }
+    , buttons(window->findChild<QDialogButtonBox *>(QStringLiteral("EditAccount_FrameButtons")))
+    , saveButton(buttons->button(QDialogButtonBox::Save))
+    , passwordEdit(window->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
+{
+    window->setCompanion(this);
+    connect(saveButton, &QPushButton::clicked, this, &KirvEditWindowCompanion::beginSave);
+}
+
+KirvEditWindowCompanion::~KirvEditWindowCompanion()
+{
+    window->setCompanion(nullptr);
+    if (saving)
+        saving->endSave();
+    if (!controller)
+        return;
+    controller->disconnect(this);
+    delete controller;
+}
+
+void KirvEditWindowCompanion::close()
+{
+    if (controller) {
+        controller->disconnect(this);
+        delete controller;
+    }
+    window->finish(QDialog::Rejected);
+    window->deleteLater(); // a window that was hidden already does not finish again
+}
+
+void KirvEditWindowCompanion::aboutToShow()
+{
+    if (isBound || !controller)
+        return;
+    isBound = true;
+    bindWindow();
+    KirvAccount *account = accounts.find(accountKey);
+    if (!account) { // the page leaves the buttons of such a window without effect
+        connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
+        return;
+    }
+    knownPassword = account->record().password;
+    showDescriptionAsPlainText(*account);
+    addServerAccountButton();
+    directory = new KirvDirectoryGuard(window, controller, accounts);
+    connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
+}
+
+void KirvEditWindowCompanion::bindWindow()
+{
+    connect(window, SIGNAL(finished(int)), controller, SLOT(finished(int)));
+    connect(window, &QDialog::finished, window, &QDialog::deleteLater);
+    // The page deletes the controller of the window before when it opens the next one.
+    connect(controller, &QObject::destroyed, this, &KirvEditWindowCompanion::close);
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvEditWindowCompanion::onAccountChanged);
+    connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this, [this](const KirvAccount *account) {
+        if (account->key() == accountKey)
+            close();
+    });
+}
+
+/// The page sets it as a text that may be markup.
+void KirvEditWindowCompanion::showDescriptionAsPlainText(const KirvAccount &account)
+{
+    auto *description = window->findChild<QTextEdit *>(QStringLiteral("EditAccount_DescriptionEdit"));
+    description->setPlainText(account.record().defaultDescription);
+}
+
+void KirvEditWindowCompanion::addServerAccountButton()
+{
+    if (!KirvAccountActionsMenu::isUseful(accountKey, accounts))
+        return;
+    QPushButton *more = buttons->addButton(tr("&Server Account"), QDialogButtonBox::ResetRole); // stands apart
+    more->setObjectName(QStringLiteral("EditAccount_ServerAccountButton"));
+    more->setAutoDefault(false);
+    more->setToolTip(tr("What can be done with the account on its server."));
+    more->setMenu(new KirvAccountActionsMenu(accountKey, accounts, window, more));
+}
+
+void KirvEditWindowCompanion::beginSave()
+{
+    saving = accounts.find(accountKey);
+    if (!saving)
+        return;
+    saving->beginSave();
+    if (directory)
+        directory->saveBegins();
+    QMetaObject::invokeMethod(this, &KirvEditWindowCompanion::endClick, Qt::QueuedConnection);
+}
+
+bool KirvEditWindowCompanion::mayFinish(int result)
+{
+    if (keepsOpen) // the page closes the window after it has accepted it
+        return false;
+    return result != QDialog::Accepted || !saving || commitSave();
+}
+
+/// Whether the window may finish now.
+bool KirvEditWindowCompanion::commitSave()
+{
+    const QPointer<KirvEditWindowCompanion> alive(this);
+    const QPointer<KirvAccount> account = saving;
+    saving.clear();
+    const bool isSaved = account->endSave();
+    if (!alive || !account)
+        return true;
+    if (directory)
+        directory->saveEnded(isSaved);
+    keepsOpen = !isSaved || (directory && directory->isPublishing());
+    if (!isSaved) {
+        KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
+        tellSaveRefused();
+    } else if (keepsOpen) {
+        setPublishing(true);
+    }
+    return !keepsOpen;
+}
+
+/// The click on Save has led to everything that it leads to.
+void KirvEditWindowCompanion::endClick()
+{
+    if (saving)
+        commitSave();
+    keepsOpen = false;
+}
+
+/// Meanwhile the window shows what is saved and can only be closed.
+void KirvEditWindowCompanion::setPublishing(bool isPublishing)
+{
+    if (auto *tabs = window->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs")))
+        tabs->setEnabled(!isPublishing);
+    saveButton->setEnabled(!isPublishing);
+}
+
+void KirvEditWindowCompanion::onPublicationEnded(bool succeeded)
+{
+    setPublishing(false);
+    if (succeeded) {
+        window->finish(QDialog::Accepted);
+        return;
+    }
+    if (auto *tabs = window->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs"))) {
+        const QSignalBlocker noFetch(tabs); // it would take away what was typed
+        tabs->setCurrentIndex(1);
+    }
+}
+
+void KirvEditWindowCompanion::tellSaveRefused()
+{
+    auto *box =
+        new QMessageBox(QMessageBox::Warning, tr("Saving Account"), accounts.lastError(), QMessageBox::Ok, window);
+    box->setObjectName(QStringLiteral("EditAccount_SaveFailed"));
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(tr("Nothing was changed. The window stays open, so that you can try again."));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    box->show();
+}
+
+/// The account may get another password while the window is open, on its server say: the window, which shows the one
+/// before, must not put that back.
+void KirvEditWindowCompanion::onAccountChanged(KirvAccount *account)
+{
+    if (account->key() != accountKey || account->isSaving())
+        return;
+    const QString password = account->record().password;
+    if (passwordEdit->text() == knownPassword && password != knownPassword)
+        passwordEdit->setText(password);
+    knownPassword = password;
+}

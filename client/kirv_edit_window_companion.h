@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_EDIT_WINDOW_COMPANION_H
+#define KIRV_EDIT_WINDOW_COMPANION_H
+
+#include "core/ui/kirv_layout_dialog.h"
+#include "core/values/kirv_account_key.h"
+
+#include <QObject>
+#include <QPointer>
+
+class KirvAccount;
+class KirvAccountCollection;
+class KirvDirectoryGuard;
+class KirvEditAccountDialog;
+class QDialogButtonBox;
+class QLineEdit;
+class QPushButton;
+
+/// What the client adds to an edit window: Save is one change, which keeps the window open when it is refused or until
+/// its directory entry is published; window and controller end together, and with the account.
+///
+/// Save's clicked() begins the change, before the slot of the page that fills it; the window's done() commits it.
+/// Owned by the window.
+class KirvEditWindowCompanion : public QObject, public KirvWindowCompanion {
+    Q_OBJECT
+
+public:
+    /// \a window was just built for \a controller. \a accounts outlives both.
+    KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
+                            KirvAccountCollection &accounts);
+    ~KirvEditWindowCompanion() override;
+
+    /// The account that the window edits.
+    KirvAccountKey key() const { return accountKey; }
+    /// Closes the window as Cancel does and ends its controller at once: nothing of it is followed any more.
+    void close();
+
+    void aboutToShow() override;
+    bool mayFinish(int result) override;
+
+private:
+    void bindWindow();
+    void addServerAccountButton();
+    void showDescriptionAsPlainText(const KirvAccount &account);
+    void beginSave();
+    bool commitSave();
+    void endClick();
+    void setPublishing(bool isPublishing);
+    void onPublicationEnded(bool succeeded);
+    void tellSaveRefused();
+    void onAccountChanged(KirvAccount *account);
+
+    KirvLayoutDialog *window;
+    QPointer<KirvEditAccountDialog> controller;
+    KirvAccountCollection &accounts;
+    const KirvAccountKey accountKey;
+    QDialogButtonBox *buttons;
+    QPushButton *saveButton;
+    QLineEdit *passwordEdit;
+    KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
+    QPointer<KirvAccount> saving; ///< while the change of a Save is open
+    QString knownPassword; ///< of the account, as far as the window shows it
+    bool keepsOpen = false; ///< whatever else the click on Save leads to
+    bool isBound = false;
+};
+
+#endif

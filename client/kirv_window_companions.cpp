@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_window_companions.h"
+
+#include "add_account/kirv_add_account_dialog.h"
+#include "client/kirv_accounts_page_companion.h"
+#include "client/kirv_add_window_companion.h"
+#include "client/kirv_edit_window_companion.h"
+#include "core/ui/kirv_layout_catalog.h"
+#include "edit_account/kirv_edit_account_dialog.h"
+
+KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts, QObject *parent)
+    : QObject(parent)
+    , accounts(accounts)
+{
+    connect(&layouts, &KirvLayoutCatalog::windowBuilt, this, &KirvWindowCompanions::add);
+}
+
+KirvAccountsPageCompanion *KirvWindowCompanions::page() const
+{
+    return pageCompanion;
+}
+
+void KirvWindowCompanions::closeWindowsOf(const QString &protocol)
+{
+    const auto openEditWindows = editWindows;
+    for (const auto &companion : openEditWindows) {
+        if (companion && companion->key().protocol == protocol)
+            companion->close();
+    }
+    const auto openAddWindows = addWindows;
+    for (const auto &companion : openAddWindows) {
+        if (companion && companion->protocol() == protocol)
+            companion->close();
+    }
+}
+
+void KirvWindowCompanions::add(const QString &layout, QWidget *top)
+{
+    auto *dialog = qobject_cast<KirvLayoutDialog *>(top);
+    if (layout == QLatin1String("Accounts")) {
+        pageCompanion = new KirvAccountsPageCompanion(top, accounts);
+    } else if (KirvEditAccountDialog *controller = KirvEditAccountDialog::of(dialog)) {
+        editWindows.removeAll(nullptr);
+        editWindows << new KirvEditWindowCompanion(dialog, controller, accounts);
+    } else if (const KirvAddAccountDialog *controller = KirvAddAccountDialog::of(dialog)) {
+        addWindows.removeAll(nullptr);
+        addWindows << new KirvAddWindowCompanion(dialog, controller);
+    }
+}

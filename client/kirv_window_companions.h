@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_WINDOW_COMPANIONS_H
+#define KIRV_WINDOW_COMPANIONS_H
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+class KirvAccountCollection;
+class KirvAccountsPageCompanion;
+class KirvAddWindowCompanion;
+class KirvEditWindowCompanion;
+class KirvLayoutCatalog;
+class QWidget;
+
+/// Gives each window that is built from a layout its companion, as soon as it is built.
+class KirvWindowCompanions : public QObject {
+    Q_OBJECT
+
+public:
+    /// None is owned, and all outlive this.
+    KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts, QObject *parent = nullptr);
+
+    /// That of the page; null before the page is built and after it is gone.
+    KirvAccountsPageCompanion *page() const;
+    /// Closes the windows that use the protocol: afterwards nothing follows a pointer to it.
+    void closeWindowsOf(const QString &protocol);
+
+private:
+    void add(const QString &layout, QWidget *top);
+
+    KirvAccountCollection &accounts;
+    QPointer<KirvAccountsPageCompanion> pageCompanion;
+    QList<QPointer<KirvEditWindowCompanion>> editWindows;
+    QList<QPointer<KirvAddWindowCompanion>> addWindows;
+};
+
+#endif
