@@ -194,8 +194,7 @@ void KirvEditAccountDialog::setupPresences(KirvAccountConnection *account)
         if (presence.getId() == account->getDefaultPresence().getId())
             presenceCombo->setCurrentIndex(i);
     }
-    // Not setText(), which would take a description that looks like markup for markup.
-    descriptionEdit->setPlainText(account->getDefaultPresence().getDescription());
+    descriptionEdit->setText(account->getDefaultPresence().getDescription());
 }
 
 void KirvEditAccountDialog::setupAccountSettings(KirvAccountConnection *account, QWidget *placeholder)

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void theDefaultPresenceIsCurrent();
     void theDescriptionIsShownAsText_data();
     void theDescriptionIsShownAsText();
+    void markupInTheDescriptionIsShownFormatted();
     void theAvatarPickerFillsItsPlace();
     void theSettingsFillTheirPlace();
     void withoutSettingsThePlaceStaysEmpty();
@@ -184,7 +185,7 @@ void TestEditAccountDialog::theDescriptionIsShownAsText_data()
     QTest::newRow("words") << "at lunch";
     QTest::newRow("empty") << "";
     QTest::newRow("lines") << "first\nsecond";
-    QTest::newRow("markup") << "<b>bold</b> & <script>x</script>";
+    QTest::newRow("characters of markup") << "3 < 4 & 5 > 2";
     QTest::newRow("right to left") << QString::fromUtf8("\u05e9\u05dc\u05d5\u05dd");
 }
 
@@ -194,6 +195,17 @@ void TestEditAccountDialog::theDescriptionIsShownAsText()
     fixture->alice->defaultPresence = fixture->xmpp->presence("away", description);
     fixture->open();
     QCOMPARE(fixture->child<QTextEdit>("DescriptionEdit")->toPlainText(), description);
+}
+
+void TestEditAccountDialog::markupInTheDescriptionIsShownFormatted()
+{
+    fixture->alice->defaultPresence = fixture->xmpp->presence("away", "at <b>lunch</b>");
+    fixture->open();
+    const auto *edit = fixture->child<QTextEdit>("DescriptionEdit");
+    QCOMPARE(edit->toPlainText(), QString("at lunch"));
+    QTextCursor cursor(edit->document());
+    cursor.setPosition(5);
+    QCOMPARE(cursor.charFormat().fontWeight(), int(QFont::Bold));
 }
 
 void TestEditAccountDialog::theAvatarPickerFillsItsPlace()
