@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 
+#include "accounts_tab/kirv_account_window_p.h"
 #include "accounts_tab/kirv_qt_compat_p.h"
 #include "add_account/kirv_add_account_dialog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
@@ -331,8 +332,9 @@ void KirvAccountsTab::itemActivated(QTreeWidgetItem *item, int column)
 void KirvAccountsTab::openEditDialog(const QString &accountId, const QString &protocolName)
 {
     KirvEditAccountDialog *opened = new KirvEditAccountDialog(accountId, protocolName, this, Qt::Sheet);
-    // A dialog for an unknown protocol does not record itself: nobody else would ever free it.
-    if (getInstance()->getAccEdit() != opened)
+    // A dialog for an unknown protocol is not recorded, so it has no other owner. One that is neither recorded nor
+    // alive was replaced and deleted while its window was being shown.
+    if (getInstance()->getAccEdit() != opened && KirvAccountWindow::hasController(opened))
         delete opened;
 }
 
