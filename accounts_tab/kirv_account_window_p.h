@@ -10,7 +10,7 @@
 #include <QString>
 
 /// The window that one controller drives. From all of them together the controller of a window is found, also while
-/// the window is still being loaded and nobody but the client's UI generator has a pointer to it.
+/// the window is still being loaded and only the client's UI generator has a pointer to it.
 ///
 /// The controller owns it. GUI thread only.
 class KirvAccountWindow {
@@ -55,6 +55,15 @@ public:
                 return candidate->controller;
         }
         return loading() && isTopLevelDialog(widget) ? loading()->controller : nullptr;
+    }
+
+    /// Whether \a controller exists; the pointer is only compared.
+    static bool hasController(const QObject *controller)
+    {
+        const KirvAccountWindow *candidate = first();
+        while (candidate && candidate->controller != controller)
+            candidate = candidate->next;
+        return candidate;
     }
 
 private:

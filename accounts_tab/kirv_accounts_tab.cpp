@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 
+#include "accounts_tab/kirv_account_window_p.h"
 #include "accounts_tab/kirv_qt_compat_p.h"
 #include "add_account/kirv_add_account_dialog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
@@ -92,7 +93,7 @@ KirvAccountsTab::KirvAccountsTab(QWidget *parent, Qt::WindowFlags f)
     , pendingItem(nullptr)
     , accEdit(nullptr)
     , refreshCount(0)
-    , rowAskedAbout(nullptr)
+    , rowInQuestion(nullptr)
 {
     setupGui();
 }
@@ -140,7 +141,7 @@ void KirvAccountsTab::setupList()
     accountList->setItemsExpandable(true);
     accountList->setIndentation(0);
     accountList->setSortingEnabled(true);
-    // Left alone, Qt would start from Z.
+    // Qt starts with the descending order otherwise.
     accountList->sortByColumn(AliasColumn, Qt::AscendingOrder);
     kirvSetResizeMode(accountList->header(), AliasColumn, QHeaderView::Stretch);
 
@@ -151,7 +152,7 @@ void KirvAccountsTab::setupList()
     connect(accountList, SIGNAL(itemActivated(QTreeWidgetItem *, int)), this,
             SLOT(itemActivated(QTreeWidgetItem *, int)));
     connect(accountList, SIGNAL(itemSelectionChanged()), this, SLOT(itemSelectionChanged()));
-    watchCheckBoxes(true);
+    connectCheckBoxes(true);
 }
 
 void KirvAccountsTab::showEvent(QShowEvent *event)
@@ -189,7 +190,7 @@ void KirvAccountsTab::removeProtocolAccounts(const QString &proto)
         addMenu->removeAction(action);
         delete action;
     }
-    // Intended: the column looked through is never filled, so the rows of the protocol stay in the list.
+    // Intended: this column is never filled, so the rows of the protocol stay in the list.
     qDeleteAll(accountList->findItems(proto, Qt::MatchExactly, UnusedColumn));
 }
 
@@ -199,7 +200,7 @@ void KirvAccountsTab::addAccountEntry(KirvAccountConnection *account)
     const QString alias = account->getAlias();
     const QString protocolName = protocol->getName();
     const QString accountId = account->getUid();
-    // Intended: listed as enabled without asking the account manager.
+    // Intended: listed as enabled whatever the account manager says.
     accountList->addTopLevelItem(createRow(alias, protocolName, accountId, QIcon(protocol->getIconPath(0)), true));
 }
 
@@ -222,7 +223,7 @@ void KirvAccountsTab::updateAccounts()
     KirvAccountManager *manager = KirvAccountManager::getInstance();
     const int refresh = ++refreshCount;
     if (mainAccountBox) {
-        watchSelector(false);
+        connectSelector(false);
         mainAccountBox->clear();
         offeredAccounts.clear();
     }
@@ -233,7 +234,7 @@ void KirvAccountsTab::updateAccounts()
         const AccountKey key(accountIdOf(row), protocolNameOf(row));
         const bool enabled = manager->accountEnabled(key.first, key.second);
         // Intended: a check box that really changes reaches setAccountEnabled(), which refreshes again. The
-        // refresh begun last fills the selector and watches it; those around it only go on with the boxes.
+        // refresh begun last fills and connects the selector; those around it only go on with the boxes.
         row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
         if (!enabled || refresh != refreshCount)
             continue;
@@ -245,11 +246,11 @@ void KirvAccountsTab::updateAccounts()
 
     // Made without a selector too; Qt then warns.
     if (refresh == refreshCount)
-        watchSelector(true);
+        connectSelector(true);
 }
 
-/// Each icon is made once per refresh and shared by its entries, so that its file is read once. The host may
-/// refresh while it is asked; the entry is the other refresh's affair then.
+/// Each icon is made once per refresh and shared by its entries, so that its file is read once. When a call of the
+/// host begins another refresh, that one makes the entry.
 void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
                                          QHash<QString, QIcon> &icons)
 {
@@ -268,23 +269,23 @@ void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const A
         mainAccountBox->setCurrentIndex(index);
 }
 
-void KirvAccountsTab::withdrawFromSelector(const QString &accountId, const QString &protocolName)
+void KirvAccountsTab::removeFromSelector(const QString &accountId, const QString &protocolName)
 {
     if (!mainAccountBox)
         return;
     const AccountKey key(accountId, protocolName);
-    // The entry that becomes current in place of a withdrawn one is no choice of the user's.
-    watchSelector(false);
+    // The entry that becomes current in place of a removed one was not chosen by the user.
+    connectSelector(false);
     for (int i = offeredAccounts.indexOf(key); i != -1; i = offeredAccounts.indexOf(key)) {
         offeredAccounts.removeAt(i);
         mainAccountBox->removeItem(i);
     }
-    watchSelector(true);
+    connectSelector(true);
 }
 
-void KirvAccountsTab::watchSelector(bool watch)
+void KirvAccountsTab::connectSelector(bool connected)
 {
-    if (watch)
+    if (connected)
         connect(mainAccountBox, SIGNAL(currentIndexChanged(int)), this, SLOT(mainAccountChanged(int)));
     else
         disconnect(mainAccountBox, SIGNAL(currentIndexChanged(int)), this, SLOT(mainAccountChanged(int)));
@@ -331,8 +332,9 @@ void KirvAccountsTab::itemActivated(QTreeWidgetItem *item, int column)
 void KirvAccountsTab::openEditDialog(const QString &accountId, const QString &protocolName)
 {
     KirvEditAccountDialog *opened = new KirvEditAccountDialog(accountId, protocolName, this, Qt::Sheet);
-    // A dialog for an unknown protocol does not record itself: nobody else would ever free it.
-    if (getInstance()->getAccEdit() != opened)
+    // A dialog for an unknown protocol is not recorded, so it has no other owner. One that is neither recorded nor
+    // alive was replaced and deleted while its window was being shown.
+    if (getInstance()->getAccEdit() != opened && KirvAccountWindow::hasController(opened))
         delete opened;
 }
 
@@ -357,7 +359,7 @@ void KirvAccountsTab::removeAccount()
     const QString question =
         QCoreApplication::translate("translation", "Do you want to remove account '%1' (%2) and all related data?",
                                     "%1 = account alias, %2 = account protocol. Confirmation of removing account");
-    ask(title, question.arg(alias).arg(protocolName), SLOT(removeAccountAccepted(int)));
+    showQuestion(title, question.arg(alias).arg(protocolName), SLOT(removeAccountAccepted(int)));
 }
 
 void KirvAccountsTab::removeAccountAccepted(int result)
@@ -370,11 +372,11 @@ void KirvAccountsTab::removeAccountAccepted(int result)
     const QString protocolName = protocolNameOf(row);
     const QString accountId = accountIdOf(row);
 
-    withdrawFromSelector(accountId, protocolName);
+    removeFromSelector(accountId, protocolName);
     KirvAccountManager::getInstance()->removeAccount(accountId, protocolName);
     if (row == pendingItem)
         pendingItem = nullptr;
-    // The host may have taken the row away itself while it removed the account.
+    // The host may have removed the row itself, with the account.
     if (accountList->indexOfTopLevelItem(row) != -1)
         delete row;
 }
@@ -382,7 +384,7 @@ void KirvAccountsTab::removeAccountAccepted(int result)
 void KirvAccountsTab::setAccountEnabled(QTreeWidgetItem *item, int column)
 {
     Q_UNUSED(column); // intended: a change in any column is handled through the check box
-    // The host may change other rows while it is asked, and with them what is pending: it is given copies.
+    // A call of the host may change other rows, and with them what is pending: it gets copies.
     const QString protocolName = protocolNameOf(item);
     const QString accountId = accountIdOf(item);
     pendingProtocol = protocolName;
@@ -390,36 +392,36 @@ void KirvAccountsTab::setAccountEnabled(QTreeWidgetItem *item, int column)
     pendingItem = item;
     accountList->setEnabled(false);
 
-    QTreeWidgetItem *const askedAboutBefore = rowAskedAbout;
+    QTreeWidgetItem *const outerRowInQuestion = rowInQuestion;
     KirvAccountManager *manager = KirvAccountManager::getInstance();
     if (item->data(AliasColumn, Qt::CheckStateRole).toInt() == Qt::Checked) {
         manager->enableAccount(accountId, protocolName);
     } else {
         KirvAccountConnection *account = manager->getAccount(accountId, protocolName);
-        // An account that is disabled and yet logged in is unticked again by the refresh below: one question will do.
-        if (account && account->isLoggedIn() && item != rowAskedAbout) {
-            rowAskedAbout = item;
-            setCheckedUnwatched(item, Qt::Checked); // still enabled while the question is open
-            askToDisable(accountId, protocolName);
+        // The refresh below unticks an account that is disabled but still logged in again: one question is enough.
+        if (account && account->isLoggedIn() && item != rowInQuestion) {
+            rowInQuestion = item;
+            setCheckStateDisconnected(item, Qt::Checked); // still enabled while the question is open
+            showDisableQuestion(accountId, protocolName);
         } else {
             disableAccount();
         }
     }
 
     updateAccounts();
-    rowAskedAbout = askedAboutBefore;
+    rowInQuestion = outerRowInQuestion;
     accountList->setEnabled(true);
     accountList->setFocus(Qt::OtherFocusReason);
 }
 
-void KirvAccountsTab::askToDisable(const QString &accountId, const QString &protocolName)
+void KirvAccountsTab::showDisableQuestion(const QString &accountId, const QString &protocolName)
 {
     const QString title = QCoreApplication::translate("translation", "Disabling account", "message box title");
     // Intended: no question mark, the translations are keyed on this text.
     const QString question = QCoreApplication::translate(
         "translation", "Do you want to disable account '%1' (%2) in which you are currently logged in.",
         "%1 = account id, %2 = account protocol. Confirmation of disabling account");
-    ask(title, question.arg(accountId).arg(protocolName), SLOT(disableAccountAccepted(int)));
+    showQuestion(title, question.arg(accountId).arg(protocolName), SLOT(disableAccountAccepted(int)));
 }
 
 void KirvAccountsTab::disableAccountAccepted(int result)
@@ -428,7 +430,7 @@ void KirvAccountsTab::disableAccountAccepted(int result)
         return;
     // Intended: the answer counts for the row whose check box or text changed last.
     if (pendingRowIsListed())
-        setCheckedUnwatched(pendingItem, Qt::Unchecked);
+        setCheckStateDisconnected(pendingItem, Qt::Unchecked);
     else if (!isConfigured(pendingAccountId, pendingProtocol))
         return;
     disableAccount();
@@ -442,23 +444,23 @@ void KirvAccountsTab::disableAccount()
     KirvAccountManager::getInstance()->disableAccount(accountId, protocolName);
 }
 
-/// The pointer alone does not tell: the row may be gone, and another one may stand at its address.
+/// The pointer alone is not enough: the row may have been deleted and another one created at its address.
 bool KirvAccountsTab::pendingRowIsListed() const
 {
     return pendingItem && accountList->indexOfTopLevelItem(pendingItem) != -1
         && accountIdOf(pendingItem) == pendingAccountId && protocolNameOf(pendingItem) == pendingProtocol;
 }
 
-void KirvAccountsTab::setCheckedUnwatched(QTreeWidgetItem *row, Qt::CheckState state)
+void KirvAccountsTab::setCheckStateDisconnected(QTreeWidgetItem *row, Qt::CheckState state)
 {
-    watchCheckBoxes(false);
+    connectCheckBoxes(false);
     row->setData(AliasColumn, Qt::CheckStateRole, QVariant(static_cast<int>(state)));
-    watchCheckBoxes(true);
+    connectCheckBoxes(true);
 }
 
-void KirvAccountsTab::watchCheckBoxes(bool watch)
+void KirvAccountsTab::connectCheckBoxes(bool connected)
 {
-    if (watch) {
+    if (connected) {
         connect(accountList, SIGNAL(itemChanged(QTreeWidgetItem *, int)), this,
                 SLOT(setAccountEnabled(QTreeWidgetItem *, int)));
     } else {
@@ -467,7 +469,7 @@ void KirvAccountsTab::watchCheckBoxes(bool watch)
     }
 }
 
-void KirvAccountsTab::ask(const QString &title, const QString &question, const char *answerSlot)
+void KirvAccountsTab::showQuestion(const QString &title, const QString &question, const char *answerSlot)
 {
     QMessageBox *box = new QMessageBox(QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No, this,
                                        Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);

@@ -37,7 +37,7 @@ public:
 
     /// Loads and binds the layout "Accounts". Clients call getInstance() instead.
     explicit KirvAccountsTab(QWidget *parent = nullptr, Qt::WindowFlags f = Qt::WindowFlags());
-    /// Makes the next getInstance() create a fresh page. An open edit dialog's controller is left alone.
+    /// Makes the next getInstance() create a fresh page. An open edit dialog's controller is not deleted.
     ~KirvAccountsTab() override;
 
     /// Appends a row for \a account, which was just created: it is listed as enabled. \a account must not be
@@ -56,14 +56,14 @@ public:
     KirvEditAccountDialog *getAccEdit() const;
 
 Q_SIGNALS:
-    /// The user chose another main account; the account manager and the stored setting know it already.
+    /// The user chose another main account; the account manager and the stored setting are up to date already.
     void mainAccountChanged();
 
 public Q_SLOTS:
     /// The client loaded the protocol \a proto: adds its entry to the add menu and a row per account. An
     /// unknown name is ignored; a second call adds everything a second time.
     void readProtocolAccounts(const QString &proto);
-    /// The client unloaded the protocol \a proto: takes its entry from the add menu. Its rows stay.
+    /// The client unloaded the protocol \a proto: removes its entry from the add menu. Its rows stay.
     void removeProtocolAccounts(const QString &proto);
 
 protected Q_SLOTS:
@@ -91,14 +91,14 @@ private:
     void setupList();
     void disableAccount();
     void openEditDialog(const QString &accountId, const QString &protocolName);
-    void askToDisable(const QString &accountId, const QString &protocolName);
-    void ask(const QString &title, const QString &question, const char *answerSlot);
+    void showDisableQuestion(const QString &accountId, const QString &protocolName);
+    void showQuestion(const QString &title, const QString &question, const char *answerSlot);
     void offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
                             QHash<QString, QIcon> &icons);
-    void withdrawFromSelector(const QString &accountId, const QString &protocolName);
-    void watchSelector(bool watch);
-    void watchCheckBoxes(bool watch);
-    void setCheckedUnwatched(QTreeWidgetItem *row, Qt::CheckState state);
+    void removeFromSelector(const QString &accountId, const QString &protocolName);
+    void connectSelector(bool connected);
+    void connectCheckBoxes(bool connected);
+    void setCheckStateDisconnected(QTreeWidgetItem *row, Qt::CheckState state);
     bool pendingRowIsListed() const;
 
     static KirvAccountsTab *instance;
@@ -116,9 +116,9 @@ private:
     KirvEditAccountDialog *accEdit;
     /// How many refreshes have begun: a refresh finds by it that another one ran inside it.
     int refreshCount;
-    /// The row whose disable question is just being asked, until the refresh that follows is over. Only compared.
-    QTreeWidgetItem *rowAskedAbout;
-    /// The account of each entry of the selector, in its order: it tells the entry of an account when the
+    /// The row whose disable question was opened last, until the refresh that follows is over. Only compared.
+    QTreeWidgetItem *rowInQuestion;
+    /// The account of each entry of the selector, in its order: finds the entry of an account when the
     /// pointer in it must not be followed any more.
     QList<AccountKey> offeredAccounts;
 };

@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-/// Marks the classes that libkirv_gui_accounts_tab offers; everything else in it stays hidden.
+/// Marks the classes that libkirv_gui_accounts_tab offers; everything else in it is hidden.
 #if defined(KIRV_GUI_ACCOUNTS_TAB_LIBRARY)
 #define KIRV_GUI_ACCOUNTS_TAB_EXPORT Q_DECL_EXPORT
 #else

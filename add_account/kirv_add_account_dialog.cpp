@@ -89,7 +89,7 @@ void KirvAddAccountDialog::setupGui()
     saveButton = buttons->button(QDialogButtonBox::Save);
     saveButton->setEnabled(false);
     connect(dialog, SIGNAL(finished(int)), this, SLOT(finished(int)));
-    // A window that is destroyed with its parent never finishes; the controller goes with it all the same.
+    // A window that is destroyed with its parent does not emit finished(); the controller is deleted all the same.
     connect(dialog, SIGNAL(destroyed()), this, SLOT(deleteLater()));
 
     QWidget *loginFrame = dialog->findChild<QWidget *>(QLatin1String("AddAccount_LoginFrame"));
@@ -113,7 +113,7 @@ void KirvAddAccountDialog::setupConfigurations(QComboBox *configurations, QWidge
         return;
     }
     configurations->addItem(QIcon(), noConfiguration());
-    // Intended: the protocol is asked once to test and once to fill.
+    // Intended: one call to test and one to fill.
     const QStringList names = protocol->getConfigurations();
     for (const QString &name : names)
         configurations->addItem(QIcon(), name);
@@ -158,7 +158,7 @@ void KirvAddAccountDialog::selectInitialConfiguration(QComboBox *configurations)
 void KirvAddAccountDialog::textChanged(const QString &text)
 {
     Q_UNUSED(text);
-    // Intended: the validator is not asked, a login that is only the beginning of one will do.
+    // Intended: without the validator, so that a login of which only the beginning is typed enables Save, too.
     saveButton->setEnabled(!usernameEdit->text().isEmpty() && !passwordEdit->text().isEmpty());
 }
 
@@ -173,7 +173,7 @@ void KirvAddAccountDialog::configurationChanged(const QString &name)
 
     if (fieldWidget)
         fieldWidget->fillWithFields(protocol->getConfigurationFields(name));
-    // Intended: the protocol is asked a second time, and the last "login" wins.
+    // Intended: a second call, and the last "login" wins.
     const QList<KirvField> fields = protocol->getConfigurationFields(name);
     for (const KirvField &field : fields) {
         if (field.getId() == QLatin1String("login"))

@@ -77,7 +77,7 @@ private:
     QPushButton *saveButton;
     QDialog *dialog;
     QString initialConfiguration;
-    /// Never null. Knows when the window is destroyed, and finds this controller by it.
+    /// Never null. Guards the pointer to the window and makes of() find this controller.
     QScopedPointer<KirvAccountWindow> accountWindow;
 };
 

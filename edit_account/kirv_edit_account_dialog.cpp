@@ -88,7 +88,7 @@ KirvEditAccountDialog::KirvEditAccountDialog(const QString &accountId, const QSt
     , accountWindow(new KirvAccountWindow(this))
 {
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
-    // Intended: the previous dialog goes also when this one does not come about.
+    // Intended: the previous dialog is deleted also when no window is opened below.
     delete page->accEdit;
     page->accEdit = nullptr;
     if (!protocol)
@@ -108,7 +108,7 @@ KirvEditAccountDialog::KirvEditAccountDialog(const QString &accountId, const QSt
 
 KirvEditAccountDialog::~KirvEditAccountDialog()
 {
-    // Not getInstance(): it would make a page where there is none any more.
+    // Not getInstance(): it would create a page when there is none any more.
     if (KirvAccountsTab::instance && KirvAccountsTab::instance->accEdit == this)
         KirvAccountsTab::instance->accEdit = nullptr;
 }
@@ -243,7 +243,7 @@ void KirvEditAccountDialog::setupPubdirControls()
     connect(box->button(QMessageBox::Yes), SIGNAL(clicked()), this, SLOT(removePubdirInfo()));
 }
 
-/// Fills what the account manager need not know the account for.
+/// Fills what does not depend on whether the account manager finds the account.
 void KirvEditAccountDialog::setupData()
 {
     const QList<KirvField> globals =
@@ -290,7 +290,7 @@ void KirvEditAccountDialog::saveSettings()
     KirvAccountsTab::getInstance()->updateAccount(account);
 }
 
-/// Unchanged data is not published again, and nothing is sent for an account that is off line.
+/// Unchanged data is not published again, and nothing is sent for an account that is offline.
 void KirvEditAccountDialog::savePubdirInfo(KirvAccountConnection *account)
 {
     const QList<KirvField> fields = pubdirWidget->getFields();
@@ -371,8 +371,8 @@ void KirvEditAccountDialog::removePubdirInfo()
     }
 }
 
-/// Disables the directory fields until the server has answered, and gives the account to ask for. Null when the
-/// server cannot be asked: intended, the fields then stay disabled until an answer for the account arrives.
+/// Disables the directory fields until the reply has arrived, and returns the account to send the request for. Null
+/// when no request can be sent: intended, the fields then stay disabled until a reply for the account arrives.
 KirvAccountConnection *KirvEditAccountDialog::lockPubdirFields()
 {
     if (!pubdirWidget)

@@ -28,7 +28,7 @@ class QWidget;
 ///
 /// It drives a window built from the layout "EditAccount" and shows it, modal to its parent, before the
 /// constructor returns. The page records the controller made last (KirvAccountsTab::getAccEdit()) and deletes
-/// the one before. It may be deleted at any time; its window is left alone then.
+/// the one before. It may be deleted at any time; its window is not deleted with it.
 class KIRV_GUI_ACCOUNTS_TAB_EXPORT KirvEditAccountDialog : public QObject {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ public:
 
     /// The id of the account that is edited.
     QString getAccountId() const;
-    /// The name of its protocol, as it was given to the constructor: it stays known when the protocol is gone.
+    /// The name of its protocol, as it was given to the constructor. Valid also when the protocol has been unloaded.
     QString getProtocolName() const;
     /// The window that this controller drives. Null while it is being loaded, when there is none and after the window
     /// was destroyed. Not owned by the caller.
@@ -70,7 +70,7 @@ protected Q_SLOTS:
     void reject();
 
 protected:
-    /// Takes the answers of the directory; other events are ignored.
+    /// Handles KirvPubdirAccountReceivedEvent; other events are ignored.
     void customEvent(QEvent *event) override;
 
 private:
@@ -105,7 +105,7 @@ private:
     QWidget *pubdirControls;
     KirvAvatarQuickSetWidget *avatarWidget;
     QString protocolName;
-    /// Never null. Knows when the window is destroyed, and finds this controller by it.
+    /// Never null. Guards the pointer to the window and makes of() find this controller.
     QScopedPointer<KirvAccountWindow> accountWindow;
 };
 

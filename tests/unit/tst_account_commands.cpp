@@ -18,6 +18,33 @@ KIRV_PRIVATE_MEMBER(KirvAccountsTab, protocolActions);
 
 Q_DECLARE_METATYPE(std::function<void(KirvEditAccountDialog *)>)
 
+namespace {
+
+/// Runs an action once, inside the next showing of a window that has the layout of the edit dialog.
+class NextEditWindowShown : public QObject {
+public:
+    explicit NextEditWindowShown(const std::function<void()> &action)
+        : action(action)
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && object->objectName() == QLatin1String("EditAccount")) {
+            qApp->removeEventFilter(this);
+            action();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> action;
+};
+
+}
+
 /// The commands that open a dialog or ask for a registration.
 class TestAccountCommands : public QObject {
     Q_OBJECT
@@ -45,6 +72,8 @@ private Q_SLOTS:
     void theRecordedDialogNeverDangles();
     void anUnknownProtocolEndsTheDialogBeforeAndRecordsNone();
     void aDialogForAnUnknownProtocolIsNotLeaked();
+    void anEditDialogReplacedWhileItIsShownIsDeletedOnce_data();
+    void anEditDialogReplacedWhileItIsShownIsDeletedOnce();
     void addDialogsLeaveNothingBehind();
     void registeringEmitsOneCoreSignalWithoutArguments();
 
@@ -231,7 +260,7 @@ void TestAccountCommands::theRecordedDialogNeverDangles_data()
     using End = std::function<void(KirvEditAccountDialog *)>;
     QTest::addColumn<End>("end");
     QTest::newRow("deleted") << End([](KirvEditAccountDialog *dialog) { delete dialog; });
-    QTest::newRow("told that its window has finished") << End(
+    QTest::newRow("its finished() called") << End(
         [](KirvEditAccountDialog *dialog) { QVERIFY(QMetaObject::invokeMethod(dialog, "finished", Q_ARG(int, 0))); });
     QTest::newRow("connected to its window, which is closed") << End([](KirvEditAccountDialog *dialog) {
         auto *window = kirvVisibleWindow<QDialog>();
@@ -279,6 +308,33 @@ void TestAccountCommands::aDialogForAnUnknownProtocolIsNotLeaked()
     QVERIFY(QMetaObject::invokeMethod(fixture->page(), "itemActivated",
                                       Q_ARG(QTreeWidgetItem *, fixture->row("bob", "IRC")), Q_ARG(int, 0)));
     QCOMPARE(counter.living(), 0);
+}
+
+void TestAccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce_data()
+{
+    QTest::addColumn<bool>("secondIsKnown");
+    QTest::newRow("by an account of a loaded protocol") << true;
+    QTest::newRow("by an account of an unloaded protocol") << false;
+}
+
+void TestAccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce()
+{
+    QFETCH(bool, secondIsKnown);
+    if (!secondIsKnown)
+        fixture->host.unloadProtocol("IRC");
+    QPointer<KirvEditAccountDialog> first;
+    QPointer<KirvEditAccountDialog> second;
+    const NextEditWindowShown showing([&] {
+        first = fixture->page()->getAccEdit();
+        QVERIFY(first);
+        fixture->page()->editAccount(bob);
+        QVERIFY(!first);
+        second = fixture->page()->getAccEdit();
+        QCOMPARE(!second.isNull(), secondIsKnown);
+    });
+    fixture->page()->editAccount(alice);
+    QCOMPARE(fixture->page()->getAccEdit(), second.data());
+    QCOMPARE(!second.isNull(), secondIsKnown);
 }
 
 void TestAccountCommands::addDialogsLeaveNothingBehind()
