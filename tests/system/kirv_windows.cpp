@@ -246,8 +246,8 @@ void KirvWindows::hurry(const QString &login) const
 {
     KirvConnection::Timing timing;
     timing.loginTimeout = 500;
-    timing.firstRetry = 50;
-    timing.lastRetry = 200;
+    timing.backOff.first = 50;
+    timing.backOff.last = 200;
     account(login)->connection()->setTiming(timing);
 }
 
