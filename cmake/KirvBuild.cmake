@@ -1,11 +1,25 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 # What all targets share: the Qt major, the language, warnings, sanitizers and where things are put.
 
-if(NOT KIRV_QT_MAJOR MATCHES "^[56]$")
-    message(FATAL_ERROR "KIRV_QT_MAJOR is ${KIRV_QT_MAJOR}; it must be 5 or 6")
+# What differs between the majors of Qt. KIRV_QT_MAJOR 4 builds the library alone, in the C++ that Qt 4.8 allows.
+if(NOT KIRV_QT_MAJOR MATCHES "^[456]$")
+    message(FATAL_ERROR "KIRV_QT_MAJOR is ${KIRV_QT_MAJOR}; it must be 5 or 6, or 4 for the library alone")
 endif()
 set(KIRV_QT Qt${KIRV_QT_MAJOR})
-find_package(${KIRV_QT} REQUIRED COMPONENTS Core Gui Widgets Sql Svg UiTools Network Xml Test)
+set(KIRV_LIBRARY_STANDARD 11)
+set(KIRV_WARNINGS -Wall -Wextra -Werror)
+if(KIRV_QT_MAJOR EQUAL 4)
+    find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)
+    # As it is called since Qt 5. Qt 4 has no module of this name.
+    add_library(Qt4::Widgets INTERFACE IMPORTED)
+    target_link_libraries(Qt4::Widgets INTERFACE Qt4::QtGui Qt4::QtCore)
+    list(REMOVE_ITEM KIRV_WARNINGS -Werror) # newer compilers warn of its macros and of what its moc generates
+else()
+    find_package(${KIRV_QT} REQUIRED COMPONENTS Core Gui Widgets Sql Svg UiTools Network Xml Test)
+endif()
+if(KIRV_QT_MAJOR EQUAL 6)
+    set(KIRV_LIBRARY_STANDARD 17) # the library is C++11, Qt 6 itself needs more
+endif()
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -33,7 +47,7 @@ endif()
 # Linked privately by every target of ours.
 add_library(kirv_build_options INTERFACE)
 target_include_directories(kirv_build_options INTERFACE "${PROJECT_SOURCE_DIR}")
-target_compile_options(kirv_build_options INTERFACE -Wall -Wextra -Werror)
+target_compile_options(kirv_build_options INTERFACE ${KIRV_WARNINGS})
 target_compile_definitions(kirv_build_options INTERFACE QT_DEPRECATED_WARNINGS)
 if(KIRV_SANITIZE)
     target_compile_options(kirv_build_options INTERFACE

@@ -84,7 +84,7 @@ QStringList KirvPageFixture::offered()
         const auto *account = static_cast<KirvRecordingAccount *>(
             static_cast<KirvAccountConnection *>(selector()->itemData(i).value<void *>()));
         const QString star = i == selector()->currentIndex() ? QStringLiteral("*") : QString();
-        entries.append(star + (account ? account->written() : QStringLiteral("nobody")));
+        entries.append(star + (account ? account->written() : QStringLiteral("none")));
     }
     return entries;
 }

@@ -45,7 +45,7 @@ private:
 
 }
 
-/// The commands that open a dialog or ask for a registration.
+/// The commands that open a dialog or request a registration.
 class TestAccountCommands : public QObject {
     Q_OBJECT
 

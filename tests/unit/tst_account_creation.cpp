@@ -22,7 +22,7 @@ private Q_SLOTS:
     void cleanup();
 
     void saveCreatesTheAccountAndListsIt();
-    void theHostIsAskedInOrder();
+    void theHostIsCalledInOrder();
     void withoutFieldWidgetTheSettingsAreEmpty();
     void onlyAnUncheckedBoxForgetsThePassword_data();
     void onlyAnUncheckedBoxForgetsThePassword();
@@ -108,7 +108,7 @@ void TestAccountCreation::saveCreatesTheAccountAndListsIt()
     QCOMPARE(fixture->list()->topLevelItemCount(), 1);
 }
 
-void TestAccountCreation::theHostIsAskedInOrder()
+void TestAccountCreation::theHostIsCalledInOrder()
 {
     fill("alice", "secret");
     run([&] { button(QDialogButtonBox::Save)->click(); });

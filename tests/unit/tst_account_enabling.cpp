@@ -16,7 +16,7 @@ private Q_SLOTS:
     void checkingEnablesTheAccount();
     void uncheckingAnOfflineAccountDisablesItAtOnce();
     void uncheckingAnUnknownAccountDisablesItAtOnce();
-    void uncheckingAConnectedAccountKeepsTheCheckAndAsks();
+    void uncheckingAConnectedAccountKeepsTheCheckAndOpensAQuestion();
     void theQuestionNamesIdAndProtocol();
     void markupInAnIdIsShownAsText();
     void yesClearsTheCheckDisablesAndRefreshes();
@@ -37,7 +37,7 @@ private Q_SLOTS:
     void aHostThatDoesNotDisableGetsTheCheckBack();
     void aHostThatRefreshesInsideAnOperation_data();
     void aHostThatRefreshesInsideAnOperation();
-    void anAliasChangedOnADisabledConnectedAccountAsks();
+    void anAliasChangedOnADisabledConnectedAccountOpensAQuestion();
 
 private:
     void uncheckAlice() { fixture->clickCheckBox(fixture->row("alice")); }
@@ -91,7 +91,7 @@ void TestAccountEnabling::uncheckingAnUnknownAccountDisablesItAtOnce()
     QVERIFY(!kirvVisibleWindow<QMessageBox>());
 }
 
-void TestAccountEnabling::uncheckingAConnectedAccountKeepsTheCheckAndAsks()
+void TestAccountEnabling::uncheckingAConnectedAccountKeepsTheCheckAndOpensAQuestion()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -345,19 +345,19 @@ void TestAccountEnabling::aHostThatRefreshesInsideAnOperation()
     QCOMPARE(fixture->isChecked("carol", "IRC"), carol->enabled);
 }
 
-void TestAccountEnabling::anAliasChangedOnADisabledConnectedAccountAsks()
+void TestAccountEnabling::anAliasChangedOnADisabledConnectedAccountOpensAQuestion()
 {
     KirvRecordingAccount *bob = fixture->host.findAccount("bob", "IRC");
-    int asked = 0;
+    int questions = 0;
     fixture->host.hook("isLoggedIn", [&] {
         // Ends a refresh that would never end.
-        if (++asked > 20)
+        if (++questions > 20)
             bob->loggedIn = false;
     });
     bob->loggedIn = true;
     bob->alias = "New";
     fixture->page()->updateAccount(bob);
-    QVERIFY2(asked <= 2, "the refresh and the question go round in circles");
+    QVERIFY2(questions <= 2, "the refresh and the question go round in circles");
 }
 
 QTEST_MAIN(TestAccountEnabling)

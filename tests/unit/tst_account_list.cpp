@@ -15,7 +15,7 @@ private Q_SLOTS:
     void init() { fixture = std::make_unique<KirvPageFixture>(); }
     void cleanup() { fixture.reset(); }
 
-    void aLoadedProtocolIsAskedOnceForItsAccounts();
+    void theAccountsOfALoadedProtocolAreReadOnce();
     void aRowShowsTheStoredAccount();
     void aRowUsesStandardRolesOnly();
     void anUnknownProtocolChangesNothing();
@@ -28,12 +28,12 @@ private Q_SLOTS:
     void anUnloadedProtocolLeavesTheMenuButNotTheList();
     void anUnknownProtocolIsUnloadedSilently();
     void readingAndUnloadingLeaveTheSelectorAlone();
-    void aNewAccountIsListedAsEnabledWithoutAsking();
+    void aNewAccountIsListedAsEnabledInAnyCase();
     void aNewAccountComesIntoTheSelectorWithTheNextShow();
     void aChangedAliasIsShownAtOnce();
     void aChangedAliasIsHandledLikeAChangeOfTheCheckBox_data();
     void aChangedAliasIsHandledLikeAChangeOfTheCheckBox();
-    void anUnchangedAliasIsHandledByNobody();
+    void anUnchangedAliasIsNotHandled();
     void onlyTheRowOfThatAccountIsUpdated();
     void idsAreComparedExactly();
     void buttonsFollowTheCurrentRow();
@@ -67,7 +67,7 @@ private:
     std::unique_ptr<KirvPageFixture> fixture;
 };
 
-void TestAccountList::aLoadedProtocolIsAskedOnceForItsAccounts()
+void TestAccountList::theAccountsOfALoadedProtocolAreReadOnce()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->host.addAccount("bob", "XMPP");
@@ -239,7 +239,7 @@ void TestAccountList::readingAndUnloadingLeaveTheSelectorAlone()
     QCOMPARE(fixture->offered(), QStringList { "*alice@XMPP" });
 }
 
-void TestAccountList::aNewAccountIsListedAsEnabledWithoutAsking()
+void TestAccountList::aNewAccountIsListedAsEnabledInAnyCase()
 {
     fixture->showFilledPage();
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", "Work");
@@ -258,7 +258,7 @@ void TestAccountList::aNewAccountIsListedAsEnabledWithoutAsking()
     QCOMPARE(fixture->host.effects(), QStringList());
     QCOMPARE(fixture->addMenu()->actions().size(), 2);
 
-    // The next refresh tells the truth.
+    // The next refresh shows the state in the host.
     fixture->page()->updateAccounts();
     QCOMPARE(fixture->row("alice")->checkState(0), Qt::Unchecked);
 }
@@ -306,7 +306,7 @@ void TestAccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox()
     QCOMPARE(fixture->host.count("accountEnabled(alice, XMPP)"), 1);
 }
 
-void TestAccountList::anUnchangedAliasIsHandledByNobody()
+void TestAccountList::anUnchangedAliasIsNotHandled()
 {
     KirvRecordingAccount *alice = fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();

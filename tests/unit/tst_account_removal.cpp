@@ -14,10 +14,10 @@ private Q_SLOTS:
     void cleanup() { fixture.reset(); }
 
     void theQuestionNamesAliasAndProtocol();
-    void theQuestionIsAskedWithoutWaiting();
+    void theQuestionDoesNotBlock();
     void markupInAnAliasIsShownAsText();
-    void askingNeedsExactlyOneSelectedRow_data();
-    void askingNeedsExactlyOneSelectedRow();
+    void removingNeedsExactlyOneSelectedRow_data();
+    void removingNeedsExactlyOneSelectedRow();
     void yesRemovesTheAccountAndItsRow();
     void anyOtherAnswerLeavesEverything_data();
     void anyOtherAnswerLeavesEverything();
@@ -32,10 +32,10 @@ private Q_SLOTS:
     void aHostThatTakesTheRowAwayItself();
     void theRowsAreNotRefreshed();
     void theSelectorNoLongerOffersTheAccount();
-    void theDeleteKeyAsksLikeTheButton();
+    void theDeleteKeyWorksLikeTheButton();
 
 private:
-    void ask(const QString &id)
+    void openQuestion(const QString &id)
     {
         fixture->clickRow(fixture->row(id));
         QTest::mouseClick(fixture->removeButton(), Qt::LeftButton);
@@ -55,12 +55,12 @@ void TestAccountRemoval::init()
 
 void TestAccountRemoval::theQuestionNamesAliasAndProtocol()
 {
-    ask("alice");
+    openQuestion("alice");
     kirvVerifyQuestion(*fixture, "Removing account",
                        "Do you want to remove account 'Work' (XMPP) and all related data?");
 }
 
-void TestAccountRemoval::theQuestionIsAskedWithoutWaiting()
+void TestAccountRemoval::theQuestionDoesNotBlock()
 {
     fixture->row("alice")->setSelected(true);
     QVERIFY(QMetaObject::invokeMethod(fixture->page(), "removeAccount"));
@@ -72,20 +72,20 @@ void TestAccountRemoval::markupInAnAliasIsShownAsText()
 {
     fixture->row("alice")->setText(0, "<h1>%2</h1>");
     fixture->host.forgetCalls();
-    ask("alice");
+    openQuestion("alice");
     // The placeholders are filled one after the other.
     kirvVerifyQuestion(*fixture, "Removing account",
                        "Do you want to remove account '<h1>XMPP</h1>' (XMPP) and all related data?");
 }
 
-void TestAccountRemoval::askingNeedsExactlyOneSelectedRow_data()
+void TestAccountRemoval::removingNeedsExactlyOneSelectedRow_data()
 {
     QTest::addColumn<bool>("all");
     QTest::newRow("no row selected") << false;
     QTest::newRow("several rows selected") << true;
 }
 
-void TestAccountRemoval::askingNeedsExactlyOneSelectedRow()
+void TestAccountRemoval::removingNeedsExactlyOneSelectedRow()
 {
     QFETCH(bool, all);
     fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -100,7 +100,7 @@ void TestAccountRemoval::askingNeedsExactlyOneSelectedRow()
 
 void TestAccountRemoval::yesRemovesTheAccountAndItsRow()
 {
-    ask("alice");
+    openQuestion("alice");
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(alice, XMPP)" });
     QVERIFY(!fixture->row("alice", "XMPP"));
@@ -119,7 +119,7 @@ void TestAccountRemoval::anyOtherAnswerLeavesEverything_data()
 void TestAccountRemoval::anyOtherAnswerLeavesEverything()
 {
     QFETCH(KirvAnswer, answer);
-    ask("alice");
+    openQuestion("alice");
     kirvAnswer(answer);
     QVERIFY(!kirvVisibleWindow<QMessageBox>());
     QCOMPARE(fixture->host.calls(), QStringList());
@@ -157,7 +157,7 @@ void TestAccountRemoval::theQuestionEndsWithTheAnswer_data()
 void TestAccountRemoval::theQuestionEndsWithTheAnswer()
 {
     QFETCH(KirvAnswer, answer);
-    ask("alice");
+    openQuestion("alice");
     const QPointer<QMessageBox> box = kirvVisibleWindow<QMessageBox>();
     kirvAnswer(answer);
     QTRY_VERIFY(!box);
@@ -165,7 +165,7 @@ void TestAccountRemoval::theQuestionEndsWithTheAnswer()
 
 void TestAccountRemoval::theAnswerCountsForWhatIsSelectedThen()
 {
-    ask("alice");
+    openQuestion("alice");
     fixture->list()->setCurrentItem(fixture->row("bob"));
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(bob, XMPP)" });
@@ -175,7 +175,7 @@ void TestAccountRemoval::theAnswerCountsForWhatIsSelectedThen()
 
 void TestAccountRemoval::yesWithoutASelectionRemovesNothing()
 {
-    ask("alice");
+    openQuestion("alice");
     fixture->list()->clearSelection();
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->host.effects(), QStringList());
@@ -185,7 +185,7 @@ void TestAccountRemoval::yesWithoutASelectionRemovesNothing()
 void TestAccountRemoval::yesWithSeveralSelectedRowsRemovesNothing()
 {
     fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    ask("alice");
+    openQuestion("alice");
     fixture->list()->selectAll();
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->host.effects(), QStringList());
@@ -194,7 +194,7 @@ void TestAccountRemoval::yesWithSeveralSelectedRowsRemovesNothing()
 
 void TestAccountRemoval::aRowThatIsGoneIsNotTouched()
 {
-    ask("alice");
+    openQuestion("alice");
     delete fixture->row("alice");
     fixture->list()->clearSelection();
     kirvAnswer(KirvAnswer::Yes);
@@ -205,7 +205,7 @@ void TestAccountRemoval::aRowThatIsGoneIsNotTouched()
 void TestAccountRemoval::aHostThatTakesTheRowAwayItself()
 {
     fixture->host.hook("removeAccount", [&] { delete fixture->row("alice"); });
-    ask("alice");
+    openQuestion("alice");
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(alice, XMPP)" });
     QCOMPARE(fixture->list()->topLevelItemCount(), 2);
@@ -214,7 +214,7 @@ void TestAccountRemoval::aHostThatTakesTheRowAwayItself()
 void TestAccountRemoval::theRowsAreNotRefreshed()
 {
     fixture->host.findAccount("bob", "XMPP")->enabled = false;
-    ask("alice");
+    openQuestion("alice");
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->host.calls({ "accountEnabled", "getAccount", "getMainAccount" }), QStringList());
     QVERIFY(fixture->isChecked("bob"));
@@ -224,13 +224,13 @@ void TestAccountRemoval::theSelectorNoLongerOffersTheAccount()
 {
     QSignalSpy reported(fixture->page(), SIGNAL(mainAccountChanged()));
     QCOMPARE(fixture->offered(), (QStringList { "*alice@IRC", "bob@XMPP", "alice@XMPP" }));
-    ask("alice");
+    openQuestion("alice");
     kirvAnswer(KirvAnswer::Yes);
     QCOMPARE(fixture->offered(), (QStringList { "*alice@IRC", "bob@XMPP" }));
     QCOMPARE(reported.count(), 0);
 }
 
-void TestAccountRemoval::theDeleteKeyAsksLikeTheButton()
+void TestAccountRemoval::theDeleteKeyWorksLikeTheButton()
 {
     fixture->clickRow(fixture->row("bob"));
     QTest::keyClick(fixture->list(), Qt::Key_Delete);

@@ -32,7 +32,7 @@ private Q_SLOTS:
     void theAddButtonItselfDoesNothing();
     void buttonsStartWithoutACurrentRow();
     void theDeleteKeyIsAShortcutOfTheList();
-    void theDeleteKeyAsksEvenWhileTheButtonIsDisabled();
+    void theDeleteKeyWorksEvenWhileTheButtonIsDisabled();
     void everyControlIsConnectedOnce_data();
     void everyControlIsConnectedOnce();
     void everyShowRefreshes();
@@ -197,7 +197,7 @@ void TestAccountsTab::theDeleteKeyIsAShortcutOfTheList()
     QVERIFY(shortcuts.first()->isEnabled());
 }
 
-void TestAccountsTab::theDeleteKeyAsksEvenWhileTheButtonIsDisabled()
+void TestAccountsTab::theDeleteKeyWorksEvenWhileTheButtonIsDisabled()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();

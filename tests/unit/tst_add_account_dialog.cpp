@@ -27,7 +27,7 @@ private Q_SLOTS:
     void slotsStandInTheirOrder_data();
     void slotsStandInTheirOrder();
     void theMetaObjectHoldsNothingElse();
-    void theProtocolIsAskedInOrder();
+    void theProtocolIsCalledInOrder();
     void theWindowIsAHiddenPlainDialogOfItsParent();
     void theWindowFitsItsContent();
     void presencesAreOfferedInOrder();
@@ -41,7 +41,7 @@ private Q_SLOTS:
     void withoutSettingsOrFormThereIsNoFieldWidget();
     void thePasswordIsMasked();
     void saveNeedsLoginAndPassword();
-    void saveDoesNotAskTheValidator();
+    void saveDoesNotDependOnTheValidator();
     void noConfigurationIsChosenBeforehand();
     void aConfigurationIsChosenBeforehand();
     void configurationsAreComparedExactly_data();
@@ -143,7 +143,7 @@ void TestAddAccountDialog::theMetaObjectHoldsNothingElse()
     QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
 }
 
-void TestAddAccountDialog::theProtocolIsAskedInOrder()
+void TestAddAccountDialog::theProtocolIsCalledInOrder()
 {
     open();
     QCOMPARE(fixture->host.calls(),
@@ -256,7 +256,7 @@ void TestAddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget_data()
 {
     QTest::addColumn<bool>("hasSettings");
     QTest::addColumn<bool>("hasForm");
-    QTest::addColumn<int>("askedForSettings");
+    QTest::addColumn<int>("settingsCalls");
     QTest::newRow("no settings") << false << true << 1;
     QTest::newRow("no form") << true << false << 0;
     QTest::newRow("neither") << false << false << 0;
@@ -266,13 +266,13 @@ void TestAddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget()
 {
     QFETCH(bool, hasSettings);
     QFETCH(bool, hasForm);
-    QFETCH(int, askedForSettings);
+    QFETCH(int, settingsCalls);
     if (!hasSettings)
         xmpp->accountSettings.clear();
     fixture->host.layouts.loginFrameHasForm = hasForm;
     open();
     QVERIFY(!window->findChild<KirvFieldWidget *>());
-    QCOMPARE(fixture->host.count("XMPP.getAccountSettings()"), askedForSettings);
+    QCOMPARE(fixture->host.count("XMPP.getAccountSettings()"), settingsCalls);
 }
 
 void TestAddAccountDialog::thePasswordIsMasked()
@@ -298,7 +298,7 @@ void TestAddAccountDialog::saveNeedsLoginAndPassword()
     QVERIFY(!save()->isEnabled());
 }
 
-void TestAddAccountDialog::saveDoesNotAskTheValidator()
+void TestAddAccountDialog::saveDoesNotDependOnTheValidator()
 {
     xmpp->loginPattern = "[a-z]+@[a-z]+";
     open();

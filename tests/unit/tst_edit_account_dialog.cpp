@@ -18,7 +18,7 @@ private Q_SLOTS:
     void slotsStandInTheirOrder_data();
     void slotsStandInTheirOrder();
     void theMetaObjectHoldsNothingElse();
-    void theHostIsAskedInOrder();
+    void theHostIsCalledInOrder();
     void theWindowIsShownWindowModal();
     void theDialogIsRecordedWithThePage();
     void theIdentifierNamesIdAndProtocol();
@@ -83,7 +83,7 @@ void TestEditAccountDialog::theMetaObjectHoldsNothingElse()
     QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
 }
 
-void TestEditAccountDialog::theHostIsAskedInOrder()
+void TestEditAccountDialog::theHostIsCalledInOrder()
 {
     fixture->open();
     QStringList calls = fixture->host.calls();

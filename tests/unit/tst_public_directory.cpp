@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// The account's directory entry: asked for, shown, published and deleted.
+/// The account's directory entry: requested, shown, published and deleted.
 class TestPublicDirectory : public QObject {
     Q_OBJECT
 
@@ -16,13 +16,13 @@ private Q_SLOTS:
     void cleanup() { fixture.reset(); }
 
     void theEventCarriesAccountAndData();
-    void everyVisitOfTheTabAsks();
-    void onlyTheFirstTabDoesNotAsk_data();
-    void onlyTheFirstTabDoesNotAsk();
-    void askingDisablesTheFields_data();
-    void askingDisablesTheFields();
-    void anAccountThatCannotBeAskedKeepsItsFieldsLocked_data();
-    void anAccountThatCannotBeAskedKeepsItsFieldsLocked();
+    void everyVisitOfTheTabSendsARequest();
+    void onlyTheFirstTabSendsNoRequest_data();
+    void onlyTheFirstTabSendsNoRequest();
+    void aRequestDisablesTheFields_data();
+    void aRequestDisablesTheFields();
+    void fieldsWithoutARequestStayDisabled_data();
+    void fieldsWithoutARequestStayDisabled();
     void anAnswerFillsAndEnablesTheFields();
     void aPostedAnswerIsHandledLikeASentOne();
     void anAnswerReplacesWhatTheUserTyped();
@@ -38,9 +38,9 @@ private Q_SLOTS:
     void savingSendsNothingForAnAccountThatIsOffline_data();
     void savingSendsNothingForAnAccountThatIsOffline();
     void fieldsEditedOffLineAreSentOnceConnected();
-    void theFetchButtonAsks();
-    void theDeleteButtonAsksTheUserFirst_data();
-    void theDeleteButtonAsksTheUserFirst();
+    void theFetchButtonSendsARequest();
+    void theDeleteButtonOpensAQuestionFirst_data();
+    void theDeleteButtonOpensAQuestionFirst();
     void aLayoutWithoutControlsIsServed_data();
     void aLayoutWithoutControlsIsServed();
 
@@ -94,7 +94,7 @@ void TestPublicDirectory::theEventCarriesAccountAndData()
     QVERIFY(event.getData() == entry("Alice", "Oslo"));
 }
 
-void TestPublicDirectory::everyVisitOfTheTabAsks()
+void TestPublicDirectory::everyVisitOfTheTabSendsARequest()
 {
     fixture->tabs()->setCurrentIndex(1);
     QCOMPARE(sent(), QStringList { "XMPP.fetchPubdirInfo(alice@XMPP)" });
@@ -104,7 +104,7 @@ void TestPublicDirectory::everyVisitOfTheTabAsks()
     QCOMPARE(sent().size(), 2);
 }
 
-void TestPublicDirectory::onlyTheFirstTabDoesNotAsk_data()
+void TestPublicDirectory::onlyTheFirstTabSendsNoRequest_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("requests");
@@ -114,7 +114,7 @@ void TestPublicDirectory::onlyTheFirstTabDoesNotAsk_data()
     QTest::newRow("none") << -1 << 1;
 }
 
-void TestPublicDirectory::onlyTheFirstTabDoesNotAsk()
+void TestPublicDirectory::onlyTheFirstTabSendsNoRequest()
 {
     QFETCH(int, index);
     QFETCH(int, requests);
@@ -123,7 +123,7 @@ void TestPublicDirectory::onlyTheFirstTabDoesNotAsk()
     QCOMPARE(fixture->directoryForm()->isEnabled(), requests == 0);
 }
 
-void TestPublicDirectory::askingDisablesTheFields_data()
+void TestPublicDirectory::aRequestDisablesTheFields_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<QString>("request");
@@ -131,7 +131,7 @@ void TestPublicDirectory::askingDisablesTheFields_data()
     QTest::newRow("delete") << QByteArray("removePubdirInfo") << "XMPP.deletePubdirInfo(alice@XMPP)";
 }
 
-void TestPublicDirectory::askingDisablesTheFields()
+void TestPublicDirectory::aRequestDisablesTheFields()
 {
     QFETCH(QByteArray, slot);
     QFETCH(QString, request);
@@ -147,7 +147,7 @@ void TestPublicDirectory::askingDisablesTheFields()
                             request }));
 }
 
-void TestPublicDirectory::anAccountThatCannotBeAskedKeepsItsFieldsLocked_data()
+void TestPublicDirectory::fieldsWithoutARequestStayDisabled_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<bool>("enabled");
@@ -165,7 +165,7 @@ void TestPublicDirectory::anAccountThatCannotBeAskedKeepsItsFieldsLocked_data()
     }
 }
 
-void TestPublicDirectory::anAccountThatCannotBeAskedKeepsItsFieldsLocked()
+void TestPublicDirectory::fieldsWithoutARequestStayDisabled()
 {
     QFETCH(QByteArray, slot);
     QFETCH(bool, enabled);
@@ -233,7 +233,7 @@ void TestPublicDirectory::anEmptyAnswerShowsBlankFieldsOrLeavesThem()
 void TestPublicDirectory::anEmptyAnswerAfterADeletionBlanksTheFields()
 {
     answer(alice, entry("Alice", "Oslo"));
-    // Cleared before the protocol is asked, which may answer at once.
+    // Cleared before the request, which may be answered at once.
     fixture->host.hook("deletePubdirInfo", [&] { answer(alice, {}); });
     fixture->call("removePubdirInfo");
     QCOMPARE(shown(), QString("[name=, town=]"));
@@ -362,7 +362,7 @@ void TestPublicDirectory::fieldsEditedOffLineAreSentOnceConnected()
     QCOMPARE(sent(), QStringList { "XMPP.publishPubdirInfo(alice@XMPP, [name=Alice, town=])" });
 }
 
-void TestPublicDirectory::theFetchButtonAsks()
+void TestPublicDirectory::theFetchButtonSendsARequest()
 {
     fixture->tabs()->setCurrentIndex(1);
     fixture->host.forgetCalls();
@@ -370,19 +370,19 @@ void TestPublicDirectory::theFetchButtonAsks()
     QCOMPARE(sent(), QStringList { "XMPP.fetchPubdirInfo(alice@XMPP)" });
 }
 
-void TestPublicDirectory::theDeleteButtonAsksTheUserFirst_data()
+void TestPublicDirectory::theDeleteButtonOpensAQuestionFirst_data()
 {
     QTest::addColumn<bool>("yes");
     QTest::newRow("yes") << true;
     QTest::newRow("no") << false;
 }
 
-void TestPublicDirectory::theDeleteButtonAsksTheUserFirst()
+void TestPublicDirectory::theDeleteButtonOpensAQuestionFirst()
 {
     QFETCH(bool, yes);
     fixture->tabs()->setCurrentIndex(1);
     fixture->host.forgetCalls();
-    // A second time too: the question can be asked again.
+    // A second time too: the question can be opened again.
     for (int i = 1; i <= 2; ++i) {
         QTest::mouseClick(fixture->child<QPushButton>("PubDirDelete"), Qt::LeftButton);
         QMessageBox *box = nullptr;

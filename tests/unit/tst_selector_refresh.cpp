@@ -8,7 +8,7 @@
 
 #include <memory>
 
-/// The refresh: check boxes as the account manager has them, the selector filled anew, nobody told of a choice that
+/// The refresh: check boxes as the account manager has them, the selector filled anew, no signal for a choice that
 /// the user did not make, also when refreshes run inside each other.
 class TestSelectorRefresh : public QObject {
     Q_OBJECT
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void theHostIsAskedInOrder();
+    void theHostIsCalledInOrder();
     void anEntryCarriesAliasIconAndAccount();
     void onlyEnabledAndLoadedAccountsAreOffered();
     void theMainAccountIsCurrent();
@@ -30,10 +30,10 @@ private Q_SLOTS:
     void everyRowChangesInOneRefresh();
     void aHostThatDoesNotEnable();
     void aHostThatDoesNotDisable();
-    void aHostThatRefreshesWhileItIsAsked_data();
-    void aHostThatRefreshesWhileItIsAsked();
-    void aHostThatListsAnAccountWhileItIsAsked();
-    void aDisabledAccountThatIsStillLoggedInIsAskedAboutOnce();
+    void aHostThatRefreshesWhileItIsCalled_data();
+    void aHostThatRefreshesWhileItIsCalled();
+    void aHostThatListsAnAccountWhileItIsCalled();
+    void aDisabledAccountThatIsStillLoggedInOpensOneQuestion();
 
 private:
     KirvRecordingAccount *addAccount(const QString &id, const QString &protocol, bool enabled)
@@ -67,7 +67,7 @@ void TestSelectorRefresh::verifyAgreement()
     QCOMPARE(reported->count(), 0);
     QCOMPARE(fixture->host.calls({ "writeGlobalSetting", "setMainAccount" }), QStringList());
 
-    // Boxes tell what the host knows; each enabled and loaded account is offered once, in the order of the rows.
+    // Boxes show the state in the host; each enabled and loaded account is offered once, in the order of the rows.
     QStringList expected;
     for (int i = 0; i < fixture->list()->topLevelItemCount(); ++i) {
         const QTreeWidgetItem *row = fixture->list()->topLevelItem(i);
@@ -91,7 +91,7 @@ void TestSelectorRefresh::verifyAgreement()
     reported->clear();
 }
 
-void TestSelectorRefresh::theHostIsAskedInOrder()
+void TestSelectorRefresh::theHostIsCalledInOrder()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", false);
@@ -263,31 +263,31 @@ void TestSelectorRefresh::aHostThatDoesNotDisable()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatRefreshesWhileItIsAsked_data()
+void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled_data()
 {
     QTest::addColumn<QString>("operation");
     for (const char *operation : { "accountEnabled", "getAccount", "getIconPath", "getMainAccount" })
         QTest::newRow(operation) << operation;
 }
 
-void TestSelectorRefresh::aHostThatRefreshesWhileItIsAsked()
+void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled()
 {
     QFETCH(QString, operation);
     for (const char *id : { "alice", "bob", "carol" })
         addAccount(id, "XMPP", true);
     fixture->showFilledPage();
-    int asked = 0;
+    int calls = 0;
     fixture->host.hook(operation, [&] {
-        if (++asked == 2)
+        if (++calls == 2)
             fixture->page()->updateAccounts();
     });
     fixture->page()->updateAccounts();
-    QVERIFY(asked > 2);
+    QVERIFY(calls > 2);
     fixture->host.hook(operation, nullptr);
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsAsked()
+void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
 {
     addAccount("bob", "XMPP", true);
     addAccount("carol", "XMPP", true);
@@ -304,7 +304,7 @@ void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsAsked()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInIsAskedAboutOnce()
+void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
 {
     // While an account logs out, say: the box is cleared by the refresh, and the question keeps it checked.
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
@@ -312,15 +312,15 @@ void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInIsAskedAboutOnce()
     alice->loggedIn = true;
     fixture->showFilledPage();
     alice->enabled = false;
-    int asked = 0;
+    int calls = 0;
     fixture->host.hook("isLoggedIn", [&] {
         // Ends a refresh that would never end.
-        if (++asked > 20)
+        if (++calls > 20)
             alice->loggedIn = false;
     });
     fixture->page()->updateAccounts();
     fixture->host.hook("isLoggedIn", nullptr);
-    QVERIFY2(asked <= 2, "the refresh and the question go round in circles");
+    QVERIFY2(calls <= 2, "the refresh and the question go round in circles");
     QVERIFY(fixture->list()->isEnabled());
     QCOMPARE(fixture->offered(), QStringList { "*bob@XMPP" });
 }

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// Translates everything of the library's context into "[text]" and writes down what it was asked for.
+/// Translates everything of the library's context into "[text]" and writes down what it translated.
 class KirvRecordingTranslator : public QTranslator {
 public:
     KirvRecordingTranslator() { QCoreApplication::installTranslator(this); }
@@ -20,12 +20,12 @@ public:
     {
         if (qstrcmp(context, "translation") != 0)
             return QString();
-        asked.append(qMakePair(QString::fromUtf8(text), QString::fromUtf8(comment)));
+        translated.append(qMakePair(QString::fromUtf8(text), QString::fromUtf8(comment)));
         return QLatin1Char('[') + QString::fromUtf8(text) + QLatin1Char(']');
     }
 
     /// Text and translator comment of each call.
-    mutable QList<QPair<QString, QString>> asked;
+    mutable QList<QPair<QString, QString>> translated;
 };
 
 /// Every text that users see goes through the translation, with a comment for the translator.
@@ -45,9 +45,9 @@ private Q_SLOTS:
     void whatIsNotTranslated();
 
 private:
-    void verifyAsked(const QString &text, const QString &comment)
+    void verifyTranslated(const QString &text, const QString &comment)
     {
-        QVERIFY2(translator->asked.contains(qMakePair(text, comment)), qPrintable(text));
+        QVERIFY2(translator->translated.contains(qMakePair(text, comment)), qPrintable(text));
     }
 
     std::unique_ptr<KirvRecordingTranslator> translator;
@@ -74,7 +74,7 @@ void TestTranslations::headerLabels()
     QCOMPARE(header->text(2), QString("uid"));
     const QList<QPair<QString, QString>> expected = { { "Alias", "account alias in account list" },
                                                       { "Protocol", "account protocol in account list" } };
-    QCOMPARE(translator->asked, expected);
+    QCOMPARE(translator->translated, expected);
 }
 
 void TestTranslations::removeQuestion()
@@ -85,9 +85,9 @@ void TestTranslations::removeQuestion()
     const auto *box = kirvVisibleWindow<QMessageBox>();
     QCOMPARE(box->windowTitle(), QString("[Removing account]"));
     QCOMPARE(box->text(), QString("[Do you want to remove account 'Alias of alice' (XMPP) and all related data?]"));
-    verifyAsked("Removing account", "message box title");
-    verifyAsked("Do you want to remove account '%1' (%2) and all related data?",
-                "%1 = account alias, %2 = account protocol. Confirmation of removing account");
+    verifyTranslated("Removing account", "message box title");
+    verifyTranslated("Do you want to remove account '%1' (%2) and all related data?",
+                     "%1 = account alias, %2 = account protocol. Confirmation of removing account");
 }
 
 void TestTranslations::disableQuestion()
@@ -99,9 +99,9 @@ void TestTranslations::disableQuestion()
     QCOMPARE(box->windowTitle(), QString("[Disabling account]"));
     QCOMPARE(box->text(),
              QString("[Do you want to disable account 'alice' (XMPP) in which you are currently logged in.]"));
-    verifyAsked("Disabling account", "message box title");
-    verifyAsked("Do you want to disable account '%1' (%2) in which you are currently logged in.",
-                "%1 = account id, %2 = account protocol. Confirmation of disabling account");
+    verifyTranslated("Disabling account", "message box title");
+    verifyTranslated("Do you want to disable account '%1' (%2) in which you are currently logged in.",
+                     "%1 = account id, %2 = account protocol. Confirmation of disabling account");
 }
 
 void TestTranslations::refusedAccount()
@@ -118,8 +118,8 @@ void TestTranslations::refusedAccount()
     });
     QVERIFY(QMetaObject::invokeMethod(dialog.get(), "addAccount"));
     QCOMPARE(refusal.shown, 1);
-    verifyAsked("Add account", "adding account error message box title");
-    verifyAsked("Account '%1' alerady exists!", "information about existing account while adding account");
+    verifyTranslated("Add account", "adding account error message box title");
+    verifyTranslated("Account '%1' alerady exists!", "information about existing account while adding account");
 }
 
 void TestTranslations::noConfiguration()
@@ -130,7 +130,7 @@ void TestTranslations::noConfiguration()
         fixture->page()->findChild<QDialog *>("AddAccount")->findChild<QComboBox *>("AddAccount_Configuration");
     QCOMPARE(configurations->itemText(0), QString("[None]"));
     QCOMPARE(configurations->itemText(1), QString("Home"));
-    verifyAsked("None", "nc");
+    verifyTranslated("None", "nc");
 }
 
 void TestTranslations::aConfigurationOfTheTranslatedNameIsNone()
@@ -154,7 +154,7 @@ void TestTranslations::whatIsNotTranslated()
     fixture->showFilledPage();
     fixture->open();
     QCOMPARE(fixture->child<QLabel>("Identifier")->text(), QString("alice (XMPP)"));
-    for (const auto &call : translator->asked) {
+    for (const auto &call : translator->translated) {
         QVERIFY2(!call.second.isEmpty(), qPrintable(call.first));
         QVERIFY(call.first != "uid");
     }

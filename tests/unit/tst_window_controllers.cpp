@@ -25,7 +25,7 @@ struct Found {
 
 }
 
-/// What the controllers of the add and the edit window tell about themselves, and how one is found by its window.
+/// What the controllers of the add and the edit window offer, and how one is found by its window.
 class TestWindowControllers : public QObject {
     Q_OBJECT
 
