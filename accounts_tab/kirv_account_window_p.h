@@ -25,9 +25,10 @@ public:
     ~KirvAccountWindow()
     {
         KirvAccountWindow **link = &first();
-        while (*link != this)
+        while (*link && *link != this)
             link = &(*link)->next;
-        *link = next;
+        if (*link)
+            *link = next;
     }
 
     /// Loads the layout called \a layout. Null when its top widget is no dialog. Other windows may be loaded meanwhile.

@@ -31,7 +31,7 @@ public:
     void startLogOut(bool comeBack);
     void finishLogOut();
     void abort();
-    void fail(KirvFailure failure);
+    void fail(const KirvFailure &failure);
     void waitAndRetry();
     bool accepts(State expected) const { return state == expected && !aborting; }
 
@@ -136,7 +136,7 @@ void KirvConnection::Private::abort()
     connection->abortConnection();
 }
 
-void KirvConnection::Private::fail(KirvFailure failure)
+void KirvConnection::Private::fail(const KirvFailure &failure)
 {
     abort();
     lastFailure = failure;
