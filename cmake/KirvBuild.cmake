@@ -55,6 +55,14 @@ if(KIRV_SANITIZE)
     target_link_options(kirv_build_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# kirv_add_protocol_library(NAME SOURCES...): what a protocol consists of without its plug-in class, as a static library
+# that tests link against, too.
+function(kirv_add_protocol_library name)
+    add_library(${name} STATIC ${ARGN})
+    target_link_libraries(${name} PRIVATE kirv_build_options PUBLIC kirv_protocol)
+    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
 # kirv_add_protocol(NAME [OUTPUT folder] SOURCES...): a protocol plug-in, loaded at run time. One with a folder of
 # its own stays out of the client: it is neither loaded from the protocols' folder nor installed.
 function(kirv_add_protocol name)

@@ -6,4 +6,4 @@ QList<KirvField> KirvServerRequest::fieldsOf(const QString &, const QList<KirvFi
     return filled;
 }
 
-void KirvServerRequest::goBack() { }
+void KirvServerRequest::goBack(const QList<KirvField> &) { }

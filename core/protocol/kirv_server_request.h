@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMetaType>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,9 @@
 ///
 /// It has no windows: it says step by step which fields are to be filled in, and one assistant of the client shows
 /// every request of every protocol. All texts may come from a server: show them as plain text.
+///
+/// What is under way ends in exactly one of stepReady(), failed(), inputRejected() and succeeded(), also when the
+/// connection that the request works over ends or is destroyed. A slot may destroy the request.
 class KIRV_PROTOCOL_EXPORT KirvServerRequest : public QObject {
     Q_OBJECT
 
@@ -30,6 +34,7 @@ public:
     /// What is to be filled in, or only confirmed, next.
     struct Step {
         QString text; ///< one or more paragraphs above the fields; may be empty
+        QString notice; ///< what is to be noticed first, a sentence shown where failures are; empty: nothing
         QStringList configurations; ///< ready-made values for the fields, see fieldsOf(); empty: none
         QList<KirvField> fields;
         QList<Picture> pictures;
@@ -58,10 +63,12 @@ public:
     /// Submits the present step: leads to stepReady() with the next one, to failed(), or to succeeded(). \a filled are
     /// the fields of the step in their order, with the values that were typed.
     virtual void submit(const QList<KirvField> &filled) = 0;
-    /// Leads to stepReady() with the step before.
-    virtual void goBack();
-    /// Ends what is under way; nothing is emitted. The present step can be submitted again.
-    virtual void cancel() = 0;
+    /// Leads to stepReady() with the step before, and ends what is under way. \a filled are the fields of the present
+    /// step, which has these values when it comes again.
+    virtual void goBack(const QList<KirvField> &filled);
+    /// Ends what is under way: nothing is emitted, and the present step can be submitted again. False when the server
+    /// may have carried it out already: succeeded() or failed() follows then as if nothing had been cancelled.
+    virtual bool cancel() = 0;
 
 Q_SIGNALS:
     void stepReady(const KirvServerRequest::Step &step);
@@ -73,5 +80,8 @@ Q_SIGNALS:
     void inputRejected(const QString &text);
     void succeeded(const KirvServerRequest::Result &result);
 };
+
+Q_DECLARE_METATYPE(KirvServerRequest::Step)
+Q_DECLARE_METATYPE(KirvServerRequest::Result)
 
 #endif

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
 
-#include "host/kirv_account_connection.h"
 #include "protocols/irc/kirv_irc_sasl.h"
 #include "protocols/irc/kirv_irc_text.h"
 
@@ -55,8 +54,8 @@ QList<QSslCertificate> readCertificates(const QString &path)
 
 } // namespace
 
-KirvIrcConnection::KirvIrcConnection(KirvAccountConnection *account, KirvClock &clock, QObject *parent)
-    : KirvConnection(account, clock, parent)
+KirvIrcConnection::KirvIrcConnection(KirvClock &clock, QObject *parent)
+    : KirvConnection(clock, parent)
 {
 }
 
@@ -67,7 +66,7 @@ KirvIrcConnection::~KirvIrcConnection()
 
 void KirvIrcConnection::startLogin(const KirvPresence &presence)
 {
-    settings = KirvIrcSettings(account()->getUid(), account()->getPassword(), account()->getAccountSettingsInOrder());
+    settings = KirvIrcSettings(login().id, login().password, login().settings);
     QString problem = settings.problem();
     if (!problem.isEmpty())
         return loginFailed({ KirvFailure::BadSettings, problem });
@@ -142,15 +141,15 @@ void KirvIrcConnection::finishLogin(const KirvPresence &presence)
     if (sasl && !sasl->isAccepted())
         return loginFailed(KirvFailure::AuthenticationNotOffered);
     applyPresence(presence);
-    connect(link.data(), &IrcConnection::nickNameChanged, this, &KirvIrcConnection::tellNick);
+    connect(link.data(), &IrcConnection::nickNameChanged, this, &KirvIrcConnection::announceNick);
     watchServer();
     const QPointer<KirvIrcConnection> alive(this);
     loginSucceeded();
     if (alive && state() == Online)
-        tellNick();
+        announceNick();
 }
 
-void KirvIrcConnection::tellNick()
+void KirvIrcConnection::announceNick()
 {
     if (link && link->nickName() != settings.nick) {
         Q_EMIT noticeReceived(tr("The nick “%1” could not be had; you are “%2” on this server now.")
@@ -246,7 +245,7 @@ void KirvIrcConnection::applyPresence(const KirvPresence &presence)
     link->sendCommand(IrcCommand::createAway(reason));
 }
 
-/// A connection can break without anybody saying so: a server that has been silent for long is asked for a sign.
+/// A connection can break without any sign of it: a server that has been silent for long gets a ping.
 void KirvIrcConnection::watchServer()
 {
     heard = false;
@@ -254,11 +253,11 @@ void KirvIrcConnection::watchServer()
         if (heard)
             watchServer();
         else
-            askWhetherServerIsThere();
+            checkServer();
     });
 }
 
-void KirvIrcConnection::askWhetherServerIsThere()
+void KirvIrcConnection::checkServer()
 {
     link->sendCommand(IrcCommand::createPing(settings.server));
     callLaterOnLink(timing().requestTimeout, [this] {
@@ -272,9 +271,9 @@ void KirvIrcConnection::askWhetherServerIsThere()
 /// Calls \a callback later, unless the link has ended by then.
 void KirvIrcConnection::callLaterOnLink(int milliseconds, std::function<void()> callback)
 {
-    IrcConnection *const asked = link.data();
-    clock().callLater(milliseconds, asked, [this, asked, callback] {
-        if (link.data() == asked && state() == Online)
+    IrcConnection *const watched = link.data();
+    clock().callLater(milliseconds, watched, [this, watched, callback] {
+        if (link.data() == watched && state() == Online)
             callback();
     });
 }

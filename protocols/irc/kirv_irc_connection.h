@@ -18,15 +18,15 @@ class QSslSocket;
 
 /// The connection of an IRC account to its server.
 ///
-/// When the nick is in use, the alternatives are tried and then the nick with underscores; with which one it
-/// worked out is told by noticeReceived(). "Away" is sent with the description of the presence, or a text of its
-/// own where that is empty, as away without a text means being back.
+/// When the nick is in use, the alternatives are tried and then the nick with underscores; noticeReceived() says which
+/// one it is then. "Away" is sent with the description of the presence, or a fixed text where that is empty, as away
+/// without a text means being back.
 class KirvIrcConnection : public KirvConnection {
     Q_OBJECT
 
 public:
-    explicit KirvIrcConnection(KirvAccountConnection *account, KirvClock &clock = KirvClock::system(),
-                               QObject *parent = nullptr);
+    /// \a clock is not owned and outlives the connection.
+    explicit KirvIrcConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr);
     ~KirvIrcConnection() override;
 
 protected:
@@ -41,14 +41,14 @@ private:
     void prepareAuthentication();
 
     void finishLogin(const KirvPresence &presence);
-    void tellNick();
+    void announceNick();
     void receiveNumeric(IrcNumericMessage *message);
     void tryNextNick(bool wasRefused);
     void receiveGoodbye(IrcErrorMessage *message);
     void receiveSocketError(QAbstractSocket::SocketError error);
 
     void watchServer();
-    void askWhetherServerIsThere();
+    void checkServer();
     void callLaterOnLink(int milliseconds, std::function<void()> callback);
 
     /// Deleted later, as it may be in the middle of a signal.
@@ -57,7 +57,7 @@ private:
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
     QStringList nicksLeft;
     QString certificateError; ///< why the server's certificate is not trusted
-    bool heard = false; ///< whether the server has said anything since it was watched last
+    bool heard = false; ///< whether anything came from the server since it was watched last
 };
 
 #endif

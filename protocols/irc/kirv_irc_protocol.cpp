@@ -4,6 +4,17 @@
 #include "protocols/irc/kirv_irc_connection.h"
 #include "protocols/irc/kirv_irc_settings.h"
 
+static void initializeResources()
+{
+    Q_INIT_RESOURCE(kirv_irc); // a static library's resources are left out unless they are referred to
+}
+
+KirvIrcProtocol::KirvIrcProtocol(QObject *parent)
+    : KirvProtocolBase(parent)
+{
+    initializeResources();
+}
+
 QString KirvIrcProtocol::getName()
 {
     return QStringLiteral("IRC");
@@ -50,5 +61,5 @@ QList<KirvField> KirvIrcProtocol::accountSettings() const
 
 KirvConnection *KirvIrcProtocol::createConnection()
 {
-    return new KirvIrcConnection(account);
+    return new KirvIrcConnection;
 }

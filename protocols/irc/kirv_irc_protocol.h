@@ -9,7 +9,7 @@ class KirvIrcProtocol : public KirvProtocolBase {
     Q_OBJECT
 
 public:
-    using KirvProtocolBase::KirvProtocolBase;
+    explicit KirvIrcProtocol(QObject *parent = nullptr);
 
     QString getName() override;
     QString getDescription() override;

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_connection.h"
 
-#include "host/kirv_account_connection.h"
 #include "protocols/xmpp/kirv_xmpp_directory.h"
-#include "protocols/xmpp/kirv_xmpp_link.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QXmppConfiguration.h>
@@ -15,8 +13,9 @@ const auto registrationSpace = QStringLiteral("jabber:iq:register");
 
 } // namespace
 
-KirvXmppConnection::KirvXmppConnection(KirvAccountConnection *account, KirvClock &clock, QObject *parent)
-    : KirvConnection(account, clock, parent)
+KirvXmppConnection::KirvXmppConnection(KirvClock &clock, QObject *parent, KirvXmppLinkFactory createLink)
+    : KirvConnection(clock, parent)
+    , createLink(std::move(createLink))
 {
 }
 
@@ -27,14 +26,14 @@ KirvXmppConnection::~KirvXmppConnection()
 
 void KirvXmppConnection::startLogin(const KirvPresence &presence)
 {
-    settings = KirvXmppSettings(account()->getAccountSettingsInOrder());
-    const QString user = account()->getUid().section(QLatin1Char('@'), 0, 0);
-    const QString domain = account()->getUid().section(QLatin1Char('@'), 1);
+    settings = KirvXmppSettings(login().settings);
+    const QString user = login().id.section(QLatin1Char('@'), 0, 0);
+    const QString domain = login().id.section(QLatin1Char('@'), 1);
     if (user.isEmpty() || domain.isEmpty()) {
         loginFailed(KirvFailure(KirvFailure::BadSettings, tr("The login must be an address such as user@domain.")));
         return;
     }
-    if (account()->getPassword().isEmpty()) {
+    if (login().password.isEmpty()) {
         loginFailed(KirvFailure::PasswordMissing);
         return;
     }
@@ -45,16 +44,16 @@ void KirvXmppConnection::startLogin(const KirvPresence &presence)
         return;
     }
     configuration.setUser(user);
-    configuration.setPassword(account()->getPassword());
+    configuration.setPassword(login().password);
     photoState = QXmppPresence::VCardUpdateNotReady;
-    createLink();
+    connectLink();
     link->open(configuration, toXmpp(presence));
 }
 
-void KirvXmppConnection::createLink()
+void KirvXmppConnection::connectLink()
 {
     abortConnection();
-    link.reset(new KirvXmppLink(KirvXmppLink::LogIn, clock(), timing().requestTimeout));
+    link.reset(createLink(KirvXmppLink::LogIn, clock(), timing().requestTimeout));
     directory.reset(new KirvXmppDirectory(*link));
     connect(link.data(), &KirvXmppLink::loggedIn, this, &KirvXmppConnection::finishLogin);
     connect(link.data(), &KirvXmppLink::ended, this, &KirvXmppConnection::receiveEnd);
@@ -62,7 +61,7 @@ void KirvXmppConnection::createLink()
 
 void KirvXmppConnection::finishLogin()
 {
-    if (account()->getCurrentAvatarPath().isEmpty()) {
+    if (avatarPath().isEmpty()) {
         directory->read([this](const KirvFailure &failure, const KirvXmppVCard &card) {
             if (!failure.isFailure())
                 advertise(card.photo());
@@ -126,40 +125,35 @@ QXmppPresence KirvXmppConnection::toXmpp(const KirvPresence &presence) const
     return result;
 }
 
-void KirvXmppConnection::fetchDirectory()
+void KirvXmppConnection::startDirectoryFetch(int request)
 {
-    changeDirectory([](KirvXmppVCard &) { return false; });
+    changeDirectory(request, [](KirvXmppVCard &) { return false; });
 }
 
-void KirvXmppConnection::publishDirectory(const QList<KirvField> &fields)
+void KirvXmppConnection::startDirectoryPublication(int request, const QList<KirvField> &changes)
 {
-    changeDirectory([fields](KirvXmppVCard &card) {
-        card.setFields(fields);
+    changeDirectory(request, [changes](KirvXmppVCard &card) {
+        card.setFields(changes);
         return true;
     });
 }
 
-void KirvXmppConnection::deleteDirectory()
+void KirvXmppConnection::startDirectoryDeletion(int request)
 {
-    changeDirectory([](KirvXmppVCard &card) {
+    changeDirectory(request, [](KirvXmppVCard &card) {
         card.clear();
         return true;
     });
 }
 
-/// Answers with the entry as it is after \a change.
-void KirvXmppConnection::changeDirectory(const std::function<bool(KirvXmppVCard &)> &change)
+/// Replies with the entry as it is after \a change.
+void KirvXmppConnection::changeDirectory(int request, const std::function<bool(KirvXmppVCard &)> &change)
 {
-    if (!isLoggedIn()) {
-        answerWithoutDirectory();
-        return;
-    }
-    const int request = beginDirectoryRequest();
     directory->change(change, [this, request](const KirvFailure &failure, const KirvXmppVCard &card) {
         if (failure.isFailure())
-            failDirectoryRequest(failure, request);
+            failDirectoryRequest(request, failure);
         else
-            finishDirectoryRequest(card.toFields(), request);
+            answerDirectoryRequest(request, card.toFields());
     });
 }
 
@@ -167,7 +161,7 @@ void KirvXmppConnection::publishAvatar()
 {
     if (!link || !link->isReady())
         return;
-    const QString path = account()->getCurrentAvatarPath();
+    const QString path = avatarPath();
     const KirvXmppPhoto photo = path.isEmpty() ? KirvXmppPhoto() : KirvXmppPhoto::fromFile(path);
     if (photo.isNull() && !path.isEmpty()) {
         requestFailed(KirvFailure(KirvFailure::RequestFailed, tr("The picture of the account cannot be read.")));
@@ -187,22 +181,22 @@ void KirvXmppConnection::publishAvatar()
     });
 }
 
-/// Tells the contacts in the presence which picture is the present one.
+/// Announces in the presence which picture is the present one.
 void KirvXmppConnection::advertise(const KirvXmppPhoto &photo)
 {
     photoState = photo.isNull() ? QXmppPresence::VCardUpdateNoPhoto : QXmppPresence::VCardUpdateValidPhoto;
     photoHash = photo.hash();
     if (isLoggedIn())
-        applyPresence(wantedPresence());
+        applyPresence(presence());
 }
 
 void KirvXmppConnection::changePassword(const QString &password, const Receiver &receiver)
 {
     const QDomDocument request = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
     QDomElement query = request.documentElement();
-    kirvXmppAppend(query, QStringLiteral("username"), account()->getUid().section(QLatin1Char('@'), 0, 0));
+    kirvXmppAppend(query, QStringLiteral("username"), login().id.section(QLatin1Char('@'), 0, 0));
     kirvXmppAppend(query, QStringLiteral("password"), password);
-    askServer(request, receiver);
+    sendToServer(request, receiver);
 }
 
 void KirvXmppConnection::deleteOnServer(const Receiver &receiver)
@@ -210,20 +204,20 @@ void KirvXmppConnection::deleteOnServer(const Receiver &receiver)
     const QDomDocument request = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
     QDomElement query = request.documentElement();
     kirvXmppAppend(query, QStringLiteral("remove"));
-    askServer(request, [this, receiver](const KirvFailure &failure) {
+    sendToServer(request, [this, receiver](const KirvFailure &failure) {
         if (!failure.isFailure())
             drop(); // the server ends the stream now, which is no failure
         receiver(failure);
     });
 }
 
-void KirvXmppConnection::askServer(const QDomDocument &request, const Receiver &receiver)
+void KirvXmppConnection::sendToServer(const QDomDocument &request, const Receiver &receiver)
 {
     if (!isLoggedIn()) {
         receiver(KirvFailure(KirvFailure::RequestFailed, tr("The account is not connected.")));
         return;
     }
-    const QString server = account()->getUid().section(QLatin1Char('@'), 1);
-    link->ask(
-        QXmppIq::Set, request, [receiver](const KirvXmppAnswer &answer) { receiver(answer.failure); }, server);
+    const QString server = login().id.section(QLatin1Char('@'), 1);
+    const auto receive = [receiver](const KirvXmppReply &reply) { receiver(reply.failure); };
+    link->sendRequest(QXmppIq::Set, request, receive, server);
 }

@@ -3,15 +3,14 @@
 #define KIRV_XMPP_CONNECTION_H
 
 #include "core/protocol/kirv_connection.h"
+#include "protocols/xmpp/kirv_xmpp_server_link.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
 #include <QScopedPointer>
-#include <QXmppPresence.h>
 #include <functional>
 
 class KirvXmppDirectory;
-class KirvXmppLink;
 class QDomDocument;
 
 /// The connection of an XMPP account to its server.
@@ -23,20 +22,16 @@ class KirvXmppConnection : public KirvConnection {
     Q_OBJECT
 
 public:
-    explicit KirvXmppConnection(KirvAccountConnection *account, KirvClock &clock = KirvClock::system(),
-                                QObject *parent = nullptr);
+    /// \a clock is not owned and outlives the connection.
+    explicit KirvXmppConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
+                                KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
     ~KirvXmppConnection() override;
 
-    void fetchDirectory() override;
-    void publishDirectory(const QList<KirvField> &fields) override;
-    void deleteDirectory() override;
-    void publishAvatar() override;
-
-    /// Told once how a request ended. A connection that is dropped or destroyed before says nothing.
+    /// Called once with how a request ended, unless the connection is dropped or destroyed before.
     using Receiver = std::function<void(const KirvFailure &)>;
-    /// Changes the password on the server; the account itself is left to \a receiver.
+    /// Changes the password on the server. The session goes on with it; login() stays for the owner to bring in line.
     void changePassword(const QString &password, const Receiver &receiver);
-    /// Deletes the account on the server, which ends the connection.
+    /// Deletes the account on the server, which ends the connection: it is off line when \a receiver is called.
     void deleteOnServer(const Receiver &receiver);
 
 protected:
@@ -44,17 +39,22 @@ protected:
     void startLogout() override;
     void abortConnection() override;
     void applyPresence(const KirvPresence &presence) override;
+    void publishAvatar() override;
+    void startDirectoryFetch(int request) override;
+    void startDirectoryPublication(int request, const QList<KirvField> &changes) override;
+    void startDirectoryDeletion(int request) override;
 
 private:
-    void createLink();
+    void connectLink();
     void finishLogin();
     void receiveEnd(const KirvFailure &failure);
 
-    void changeDirectory(const std::function<bool(KirvXmppVCard &)> &change);
+    void changeDirectory(int request, const std::function<bool(KirvXmppVCard &)> &change);
     void advertise(const KirvXmppPhoto &photo);
-    void askServer(const QDomDocument &request, const Receiver &receiver);
+    void sendToServer(const QDomDocument &request, const Receiver &receiver);
     QXmppPresence toXmpp(const KirvPresence &presence) const;
 
+    const KirvXmppLinkFactory createLink;
     /// Deleted later, as it may be in the middle of a signal.
     QScopedPointer<KirvXmppLink, QScopedPointerDeleteLater> link;
     QScopedPointer<KirvXmppDirectory> directory; ///< of the link

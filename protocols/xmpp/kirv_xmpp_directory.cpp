@@ -27,16 +27,17 @@ void KirvXmppDirectory::add(const Job &job)
 
 void KirvXmppDirectory::startNext()
 {
-    link.ask(QXmppIq::Get, KirvXmppVCard().document(), [this](const KirvXmppAnswer &answer) {
-        KirvXmppVCard card(answer.payload);
-        const bool hasNone = answer.condition == QLatin1String("item-not-found");
-        if (answer.isError() && !hasNone)
-            finish(answer.failure, KirvXmppVCard());
+    const auto receive = [this](const KirvXmppReply &reply) {
+        KirvXmppVCard card(reply.payload);
+        const bool hasNone = reply.condition == QLatin1String("item-not-found");
+        if (reply.isError() && !hasNone)
+            finish(reply.failure, KirvXmppVCard());
         else if (jobs.first().change(card))
             write(card);
         else
             finish(KirvFailure(), card);
-    });
+    };
+    link.sendRequest(QXmppIq::Get, KirvXmppVCard().document(), receive, QString());
 }
 
 void KirvXmppDirectory::write(const KirvXmppVCard &card)
@@ -45,8 +46,8 @@ void KirvXmppDirectory::write(const KirvXmppVCard &card)
         finish(KirvFailure(KirvFailure::RequestFailed, tr("The directory entry is too long to be sent.")), card);
         return;
     }
-    link.ask(QXmppIq::Set, card.document(),
-             [this, card](const KirvXmppAnswer &answer) { finish(answer.failure, card); });
+    const auto receive = [this, card](const KirvXmppReply &reply) { finish(reply.failure, card); };
+    link.sendRequest(QXmppIq::Set, card.document(), receive, QString());
 }
 
 void KirvXmppDirectory::finish(const KirvFailure &failure, const KirvXmppVCard &card)

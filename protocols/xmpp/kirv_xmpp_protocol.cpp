@@ -1,32 +1,34 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_protocol.h"
 
-#include "host/kirv_account_connection.h"
-#include "protocols/xmpp/kirv_xmpp_account_deletion.h"
 #include "protocols/xmpp/kirv_xmpp_connection.h"
-#include "protocols/xmpp/kirv_xmpp_password_dialog.h"
-#include "protocols/xmpp/kirv_xmpp_registration_window.h"
+#include "protocols/xmpp/kirv_xmpp_deletion_request.h"
+#include "protocols/xmpp/kirv_xmpp_password_request.h"
+#include "protocols/xmpp/kirv_xmpp_registration_request.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
-#include <QApplication>
+static void initializeResources()
+{
+    Q_INIT_RESOURCE(kirv_xmpp); // a static library's resources are left out unless they are referred to
+}
 
 namespace {
 
-const auto protocolName = QStringLiteral("XMPP");
 const auto changePasswordId = QStringLiteral("change-password");
 const auto deleteOnServerId = QStringLiteral("delete-on-server");
 
 } // namespace
 
-KirvXmppProtocol::~KirvXmppProtocol()
+KirvXmppProtocol::KirvXmppProtocol(QObject *parent)
+    : KirvProtocolBase(parent)
 {
-    delete registration;
+    initializeResources();
 }
 
 QString KirvXmppProtocol::getName()
 {
-    return protocolName;
+    return QStringLiteral("XMPP");
 }
 
 QString KirvXmppProtocol::getDescription()
@@ -79,15 +81,7 @@ QList<KirvField> KirvXmppProtocol::directoryFields() const
 
 KirvConnection *KirvXmppProtocol::createConnection()
 {
-    return new KirvXmppConnection(account);
-}
-
-void KirvXmppProtocol::handleCoreSignal(const QString &name, const QList<KirvArg> &args)
-{
-    if (name != QLatin1String("register_account"))
-        return;
-    if (args.isEmpty() || args.first().getValue().toString() == protocolName)
-        openRegistration();
+    return new KirvXmppConnection;
 }
 
 bool KirvXmppProtocol::offersRegistration() const
@@ -95,34 +89,26 @@ bool KirvXmppProtocol::offersRegistration() const
     return true;
 }
 
-void KirvXmppProtocol::openRegistration()
+KirvServerRequest *KirvXmppProtocol::createRegistration()
 {
-    if (!registration) {
-        registration = new KirvXmppRegistrationWindow(this, QApplication::activeWindow());
-        registration->setAttribute(Qt::WA_DeleteOnClose);
-    }
-    registration->show();
-    registration->raise();
-    registration->activateWindow();
+    return new KirvXmppRegistrationRequest;
 }
 
-QList<KirvAccountAction> KirvXmppProtocol::accountActions(KirvAccountConnection *) const
+QList<KirvAccountAction> KirvXmppProtocol::accountActions() const
 {
     return {
-        { changePasswordId, tr("Change Password on Server…"), tr("Gives the account a new password on its server."),
-          true },
+        { changePasswordId, tr("Change Password on Server…"), tr("Gives the account a new password on its server.") },
         { deleteOnServerId, tr("Delete Account on Server…"),
-          tr("Deletes the account on its server for good, and then here."), true },
+          tr("Deletes the account on its server for good, and then here.") },
     };
 }
 
-void KirvXmppProtocol::runAccountAction(const QString &id, KirvAccountConnection *account, QWidget *window)
+KirvServerRequest *KirvXmppProtocol::createAccountRequest(const QString &actionId, KirvConnection *connection)
 {
-    auto *connection = qobject_cast<KirvXmppConnection *>(connectionOf(account));
-    if (!connection)
-        return;
-    if (id == changePasswordId)
-        KirvXmppPasswordDialog::open(connection, window);
-    else if (id == deleteOnServerId)
-        KirvXmppAccountDeletion::start(connection, window);
+    auto *own = qobject_cast<KirvXmppConnection *>(connection);
+    if (own && actionId == changePasswordId)
+        return new KirvXmppPasswordRequest(own);
+    if (own && actionId == deleteOnServerId)
+        return new KirvXmppDeletionRequest(own);
+    return nullptr;
 }

@@ -4,17 +4,12 @@
 
 #include "core/protocol/kirv_protocol_base.h"
 
-#include <QPointer>
-
-class KirvXmppRegistrationWindow;
-
 /// XMPP. What a login is and what the settings mean: see KirvXmppSettings. The directory is the vCard.
 class KirvXmppProtocol : public KirvProtocolBase {
     Q_OBJECT
 
 public:
-    using KirvProtocolBase::KirvProtocolBase;
-    ~KirvXmppProtocol() override;
+    explicit KirvXmppProtocol(QObject *parent = nullptr);
 
     QString getName() override;
     QString getDescription() override;
@@ -28,17 +23,10 @@ public:
     QList<KirvField> directoryFields() const override;
     KirvConnection *createConnection() override;
 
-    /// Answers "register_account" without arguments or with the name of this protocol.
-    void handleCoreSignal(const QString &name, const QList<KirvArg> &args) override;
     bool offersRegistration() const override;
-
-    QList<KirvAccountAction> accountActions(KirvAccountConnection *account) const override;
-    void runAccountAction(const QString &id, KirvAccountConnection *account, QWidget *window) override;
-
-private:
-    void openRegistration();
-
-    QPointer<KirvXmppRegistrationWindow> registration;
+    KirvServerRequest *createRegistration() override;
+    QList<KirvAccountAction> accountActions() const override;
+    KirvServerRequest *createAccountRequest(const QString &actionId, KirvConnection *connection) override;
 };
 
 #endif

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_registration.h"
 
-#include "protocols/xmpp/kirv_xmpp_link.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QXmppConfiguration.h>
 
-KirvXmppRegistration::KirvXmppRegistration(KirvClock &clock, QObject *parent)
+KirvXmppRegistration::KirvXmppRegistration(KirvClock &clock, QObject *parent, KirvXmppLinkFactory createLink)
     : QObject(parent)
     , clock(clock)
+    , createLink(std::move(createLink))
 {
 }
 
@@ -56,34 +56,34 @@ void KirvXmppRegistration::open()
         fail(KirvFailure(KirvFailure::BadSettings, problem));
         return;
     }
-    clock.callLater(answerTimeout, this, [this, started = attempt] {
+    clock.callLater(replyTimeout, this, [this, started = attempt] {
         if (isBusy && started == attempt)
             fail(KirvFailure(KirvFailure::TimedOut, settings.server.isEmpty() ? domain : settings.server));
     });
-    link.reset(new KirvXmppLink(KirvXmppLink::Register, clock, answerTimeout));
+    link.reset(createLink(KirvXmppLink::Register, clock, replyTimeout));
     connect(link.data(), &KirvXmppLink::readyToRegister, this, [this](bool offered) {
         isOffered = offered;
-        askForForm();
+        requestForm();
     });
     connect(link.data(), &KirvXmppLink::ended, this, &KirvXmppRegistration::receiveEnd);
-    link->open(configuration);
+    link->open(configuration, QXmppPresence());
 }
 
-void KirvXmppRegistration::askForForm()
+void KirvXmppRegistration::requestForm()
 {
-    const QDomDocument question = kirvXmppNewDocument(QStringLiteral("jabber:iq:register"), QStringLiteral("query"));
-    link->ask(
-        QXmppIq::Get, question, [this](const KirvXmppAnswer &answer) { receiveForm(answer); }, domain);
+    const QDomDocument query = kirvXmppNewDocument(QStringLiteral("jabber:iq:register"), QStringLiteral("query"));
+    const auto receive = [this](const KirvXmppReply &reply) { receiveForm(reply); };
+    link->sendRequest(QXmppIq::Get, query, receive, domain);
 }
 
-void KirvXmppRegistration::receiveForm(const KirvXmppAnswer &answer)
+void KirvXmppRegistration::receiveForm(const KirvXmppReply &reply)
 {
-    if (answer.isError()) {
-        fail(isOffered ? answer.failure : KirvFailure(KirvFailure::NotSupported, tr("registration of accounts")));
+    if (reply.isError()) {
+        fail(isOffered ? reply.failure : KirvFailure(KirvFailure::NotSupported, tr("registration of accounts")));
         return;
     }
     const QList<KirvField> before = form.fields();
-    form = KirvXmppRegistrationForm(answer.iq);
+    form = KirvXmppRegistrationForm(reply.iq);
     const bool isSameForm = form.fields() == before && form.pictures().isEmpty();
     if (isSubmitting && isSameForm) {
         send();
@@ -97,18 +97,18 @@ void KirvXmppRegistration::receiveForm(const KirvXmppAnswer &answer)
 void KirvXmppRegistration::send()
 {
     isBusy = true;
-    const auto receive = [this](const KirvXmppAnswer &answer) {
-        if (answer.condition == QLatin1String("conflict")) {
+    const auto receive = [this](const KirvXmppReply &reply) {
+        if (reply.condition == QLatin1String("conflict")) {
             const QString name = KirvXmppRegistrationForm::userName(filled);
             fail(KirvFailure(KirvFailure::NameInUse, name));
-        } else if (answer.isError()) {
-            fail(answer.failure);
+        } else if (reply.isError()) {
+            fail(reply.failure);
         } else {
             cancel();
             Q_EMIT succeeded();
         }
     };
-    link->ask(QXmppIq::Set, form.toQuery(filled), receive, domain);
+    link->sendRequest(QXmppIq::Set, form.toQuery(filled), receive, domain);
 }
 
 void KirvXmppRegistration::receiveEnd(const KirvFailure &failure)

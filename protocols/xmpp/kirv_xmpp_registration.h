@@ -2,57 +2,55 @@
 #ifndef KIRV_XMPP_REGISTRATION_H
 #define KIRV_XMPP_REGISTRATION_H
 
-#include "core/values/kirv_clock.h"
-#include "core/values/kirv_failure.h"
 #include "protocols/xmpp/kirv_xmpp_registration_form.h"
+#include "protocols/xmpp/kirv_xmpp_server_link.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
 #include <QObject>
 #include <QScopedPointer>
-#include <functional>
 
-class KirvXmppLink;
-struct KirvXmppAnswer;
-
-/// Asks a server for its registration form and sends it back filled in.
+/// Requests the registration form of a server and sends it back filled in.
 ///
-/// Every request ends in exactly one signal, within the time-out. A stream that has ended while the user was
-/// filling the form is opened again for the answer.
+/// Every request ends in exactly one signal, within the time-out. A stream that has ended while the form was filled in
+/// is opened again to send it. A slot may destroy the object.
 class KirvXmppRegistration : public QObject {
     Q_OBJECT
 
 public:
-    explicit KirvXmppRegistration(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr);
+    /// \a clock is not owned and outlives the registration.
+    explicit KirvXmppRegistration(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
+                                  KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
     ~KirvXmppRegistration() override;
 
     /// How long the server may take, in milliseconds.
-    int timeout() const { return answerTimeout; }
-    void setTimeout(int milliseconds) { answerTimeout = milliseconds; }
+    int timeout() const { return replyTimeout; }
+    void setTimeout(int milliseconds) { replyTimeout = milliseconds; }
 
-    /// Asks the server of \a domain for its form; answered by formReceived() or failed().
+    /// Requests the form of the server of \a domain; the reply is formReceived() or failed().
     void fetchForm(const QString &domain, const KirvXmppSettings &settings);
-    /// Sends the form; answered by succeeded(), or by failed(), or by formReceived() when the server by now wants
-    /// another one filled in.
+    /// Sends the form; the reply is succeeded() or failed(), or formReceived() when the server has another form by
+    /// now.
     void submit(const QList<KirvField> &filled);
-    /// Ends what is under way; nothing is told.
+    /// Ends what is under way; nothing is emitted.
     void cancel();
 
 Q_SIGNALS:
     void formReceived(const KirvXmppRegistrationForm &form);
     void succeeded();
-    /// The server refused, or could not be asked.
+    /// The server refused, or could not be reached.
     void failed(const KirvFailure &failure);
 
 private:
     void open();
-    void askForForm();
-    void receiveForm(const KirvXmppAnswer &answer);
+    void requestForm();
+    void receiveForm(const KirvXmppReply &reply);
     void send();
     void receiveEnd(const KirvFailure &failure);
     void fail(const KirvFailure &failure);
 
     KirvClock &clock;
-    int answerTimeout = 30000;
+    const KirvXmppLinkFactory createLink;
+    int replyTimeout = 30000;
     QString domain;
     KirvXmppSettings settings;
     KirvXmppRegistrationForm form;

@@ -25,7 +25,7 @@ const auto passwordType = QStringLiteral("text-private");
 const auto linesType = QStringLiteral("text-multi");
 const auto addressesType = QStringLiteral("jid-multi");
 
-/// What people call the fixed fields.
+/// The labels of the fixed fields.
 QString labelOf(const QString &name)
 {
     const QHash<QString, QString> labels {
@@ -116,16 +116,16 @@ void KirvXmppRegistrationForm::readFixedFields(const QDomElement &query)
         if (child.namespaceURI() != registrationSpace || name == QLatin1String("instructions")
             || name == QLatin1String("registered"))
             continue;
-        Question question { name, QString(), {}, {} };
+        Entry entry { name, QString(), {}, {} };
         if (name == QLatin1String("key")) {
-            question.type = hiddenType;
-            question.values << child.text();
+            entry.type = hiddenType;
+            entry.values << child.text();
         } else {
-            question.fields << (name == passwordId ? KirvField::password(labelOf(name), name, child.text(), QString())
-                                                   : KirvField::textEdit(labelOf(name), name, child.text(), QString()));
-            question.fields.last().setRequired(true);
+            entry.fields << (name == passwordId ? KirvField::password(labelOf(name), name, child.text(), QString())
+                                                : KirvField::textEdit(labelOf(name), name, child.text(), QString()));
+            entry.fields.last().setRequired(true);
         }
-        questions << question;
+        entries << entry;
     }
 }
 
@@ -136,18 +136,18 @@ void KirvXmppRegistrationForm::readDataForm(const QDomElement &form, const QDomE
     if (!instructions.isEmpty())
         formInstructions = instructions;
     for (const QDomElement &field : children(form, formSpace, QStringLiteral("field"))) {
-        questions << readQuestion(field);
+        entries << readEntry(field);
         readPicture(field, iq);
     }
 }
 
-KirvXmppRegistrationForm::Question KirvXmppRegistrationForm::readQuestion(const QDomElement &field) const
+KirvXmppRegistrationForm::Entry KirvXmppRegistrationForm::readEntry(const QDomElement &field) const
 {
     const QStringList suggested = texts(field, QStringLiteral("value"));
     const QString first = suggested.value(0);
     const QString toolTip = text(field, QStringLiteral("desc"));
-    Question question { field.attribute(QStringLiteral("var")), field.attribute(QStringLiteral("type")), {}, {} };
-    const QString &id = question.name;
+    Entry entry { field.attribute(QStringLiteral("var")), field.attribute(QStringLiteral("type")), {}, {} };
+    const QString &id = entry.name;
     const QString label = field.attribute(QStringLiteral("label"), labelOf(id));
 
     QStringList optionValues;
@@ -157,35 +157,35 @@ KirvXmppRegistrationForm::Question KirvXmppRegistrationForm::readQuestion(const 
         optionLabels << option.attribute(QStringLiteral("label"), optionValues.last());
     }
 
-    if (question.type == hiddenType) {
-        question.values = suggested;
-    } else if (question.type == fixedType) {
+    if (entry.type == hiddenType) {
+        entry.values = suggested;
+    } else if (entry.type == fixedType) {
         // It may come without a name, and several do; the form needs one each.
-        const QString noteId = QStringLiteral("note/%1").arg(questions.size());
-        question.fields << KirvField::note(field.attribute(QStringLiteral("label")), noteId,
-                                           suggested.join(QLatin1Char('\n')), toolTip);
-    } else if (question.type == booleanType) {
-        question.fields << KirvField::checkBox(label, id, isTrue(first), toolTip);
-    } else if (question.type == choiceType) {
-        question.fields << KirvField::choice(label, id, first, optionValues, optionLabels, toolTip);
-    } else if (question.type == choicesType) {
-        question.values = optionValues;
-        question.fields << KirvField::note(QString(), QStringLiteral("note/%1").arg(questions.size()), label, toolTip);
+        const QString noteId = QStringLiteral("note/%1").arg(entries.size());
+        entry.fields << KirvField::note(field.attribute(QStringLiteral("label")), noteId,
+                                        suggested.join(QLatin1Char('\n')), toolTip);
+    } else if (entry.type == booleanType) {
+        entry.fields << KirvField::checkBox(label, id, isTrue(first), toolTip);
+    } else if (entry.type == choiceType) {
+        entry.fields << KirvField::choice(label, id, first, optionValues, optionLabels, toolTip);
+    } else if (entry.type == choicesType) {
+        entry.values = optionValues;
+        entry.fields << KirvField::note(QString(), QStringLiteral("note/%1").arg(entries.size()), label, toolTip);
         for (int i = 0; i < optionValues.size(); ++i) {
-            question.fields << KirvField::checkBox(optionLabels.at(i), QStringLiteral("%1/%2").arg(id).arg(i),
-                                                   suggested.contains(optionValues.at(i)), toolTip);
+            entry.fields << KirvField::checkBox(optionLabels.at(i), QStringLiteral("%1/%2").arg(id).arg(i),
+                                                suggested.contains(optionValues.at(i)), toolTip);
         }
-    } else if (question.type == passwordType || (question.type.isEmpty() && id == passwordId)) {
-        question.fields << KirvField::password(label, id, first, toolTip);
-    } else if (question.type == linesType || question.type == addressesType) {
-        question.fields << KirvField::multiLine(label, id, suggested.join(QLatin1Char('\n')), toolTip);
+    } else if (entry.type == passwordType || (entry.type.isEmpty() && id == passwordId)) {
+        entry.fields << KirvField::password(label, id, first, toolTip);
+    } else if (entry.type == linesType || entry.type == addressesType) {
+        entry.fields << KirvField::multiLine(label, id, suggested.join(QLatin1Char('\n')), toolTip);
     } else {
-        question.fields << KirvField::textEdit(label, id, first, toolTip);
+        entry.fields << KirvField::textEdit(label, id, first, toolTip);
     }
     const bool isRequired = !children(field, formSpace, QStringLiteral("required")).isEmpty();
-    if (isRequired && !question.fields.isEmpty())
-        question.fields.last().setRequired(true);
-    return question;
+    if (isRequired && !entry.fields.isEmpty())
+        entry.fields.last().setRequired(true);
+    return entry;
 }
 
 void KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomElement &iq)
@@ -193,7 +193,7 @@ void KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomE
     const QDomElement media = kirvXmppChild(field, mediaSpace, QStringLiteral("media"));
     if (media.isNull())
         return;
-    KirvXmppFormPicture picture;
+    KirvServerRequest::Picture picture;
     picture.label = field.attribute(QStringLiteral("label"), field.attribute(QStringLiteral("var")));
     const QDomElement query = kirvXmppChild(iq, registrationSpace, QStringLiteral("query"));
     const QList<QDomElement> bits =
@@ -213,8 +213,8 @@ void KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomE
 QList<KirvField> KirvXmppRegistrationForm::fields() const
 {
     QList<KirvField> all;
-    for (const Question &question : questions)
-        all << question.fields;
+    for (const Entry &entry : entries)
+        all << entry.fields;
     return all;
 }
 
@@ -229,6 +229,11 @@ QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &ty
         field.setChecked(known->isChecked());
     }
     return all;
+}
+
+bool KirvXmppRegistrationForm::hasPassword() const
+{
+    return find(fields(), passwordId);
 }
 
 QString KirvXmppRegistrationForm::userName(const QList<KirvField> &filled)
@@ -256,38 +261,38 @@ QString KirvXmppRegistrationForm::problem(const QList<KirvField> &filled) const
 
 QDomDocument KirvXmppRegistrationForm::toQuery(const QList<KirvField> &filled) const
 {
-    QDomDocument answer = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
-    QDomElement query = answer.documentElement();
+    QDomDocument result = kirvXmppNewDocument(registrationSpace, QStringLiteral("query"));
+    QDomElement query = result.documentElement();
     if (!isDataForm) {
-        for (const Question &question : questions)
-            kirvXmppAppend(query, question.name, answers(question, filled).value(0));
-        return answer;
+        for (const Entry &entry : entries)
+            kirvXmppAppend(query, entry.name, valuesOf(entry, filled).value(0));
+        return result;
     }
-    QDomElement form = answer.createElementNS(formSpace, QStringLiteral("x"));
+    QDomElement form = result.createElementNS(formSpace, QStringLiteral("x"));
     form.setAttribute(QStringLiteral("type"), QStringLiteral("submit"));
     query.appendChild(form);
-    for (const Question &question : questions) {
-        if (question.type == fixedType || question.name.isEmpty())
+    for (const Entry &entry : entries) {
+        if (entry.type == fixedType || entry.name.isEmpty())
             continue;
         QDomElement field = kirvXmppAppend(form, QStringLiteral("field"));
-        field.setAttribute(QStringLiteral("var"), question.name);
-        for (const QString &value : answers(question, filled))
+        field.setAttribute(QStringLiteral("var"), entry.name);
+        for (const QString &value : valuesOf(entry, filled))
             kirvXmppAppend(field, QStringLiteral("value"), value);
     }
-    return answer;
+    return result;
 }
 
-QStringList KirvXmppRegistrationForm::answers(const Question &question, const QList<KirvField> &filled)
+QStringList KirvXmppRegistrationForm::valuesOf(const Entry &entry, const QList<KirvField> &filled)
 {
-    if (question.type == hiddenType)
-        return question.values;
-    const KirvField *field = find(filled, question.name);
-    if (question.type == choicesType) {
+    if (entry.type == hiddenType)
+        return entry.values;
+    const KirvField *field = find(filled, entry.name);
+    if (entry.type == choicesType) {
         QStringList chosen;
-        for (int i = 0; i < question.values.size(); ++i) {
-            const KirvField *box = find(filled, QStringLiteral("%1/%2").arg(question.name).arg(i));
+        for (int i = 0; i < entry.values.size(); ++i) {
+            const KirvField *box = find(filled, QStringLiteral("%1/%2").arg(entry.name).arg(i));
             if (box && box->isChecked())
-                chosen << question.values.at(i);
+                chosen << entry.values.at(i);
         }
         return chosen;
     }

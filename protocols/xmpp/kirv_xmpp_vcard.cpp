@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
+#include "core/values/kirv_bounded_image.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
-#include <QImageReader>
+#include <QImage>
 #include <QPainter>
 
 namespace {
@@ -60,27 +61,11 @@ QImage flattened(const QImage &image)
     return result;
 }
 
-/// Reads the image no larger than needed: of a huge one only a small version is ever in memory where the format
-/// allows it.
-QImage readSmall(const QString &path)
-{
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide)
-        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    const QImage image = reader.read();
-    if (image.width() <= largestSide && image.height() <= largestSide)
-        return image;
-    return image.scaled(largestSide, largestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-}
-
 } // namespace
 
 KirvXmppPhoto KirvXmppPhoto::fromFile(const QString &path)
 {
-    const QImage image = readSmall(path);
+    const QImage image = KirvBoundedImage::fromFile(path, largestSide).image();
     if (image.isNull())
         return {};
     const QByteArray lossless = encode(image, "PNG");

@@ -13,7 +13,7 @@ struct KirvXmppPhoto {
     QByteArray data; ///< empty: no picture
     QString type; ///< its media type
 
-    /// Reads the picture at \a path and makes it small enough to be sent with ease. Null when there is none.
+    /// Reads the picture at \a path and scales it down to what is sent. Null when there is none that can be used.
     static KirvXmppPhoto fromFile(const QString &path);
     bool isNull() const { return data.isEmpty(); }
     /// What a presence says of the picture.
@@ -31,13 +31,13 @@ public:
 
     /// An empty entry.
     KirvXmppVCard();
-    /// Reads the answer of a server; an element that is no entry, or null, gives an empty one.
+    /// Reads the reply of a server; an element that is no entry, or null, gives an empty one.
     explicit KirvXmppVCard(const QDomElement &element);
 
     static QList<KirvField> blankFields();
     /// The entry as fields; an empty list when none of them has a text.
     QList<KirvField> toFields() const;
-    /// Takes the texts of \a fields over; fields that it does not know are ignored.
+    /// Changes what \a fields stand for, and nothing else; fields that it does not know are ignored.
     void setFields(const QList<KirvField> &fields);
 
     KirvXmppPhoto photo() const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_server_link.h"
 
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
@@ -36,20 +36,20 @@ ErrorDescription describe(const QDomElement &error, const QString &space)
     return description;
 }
 
-/// A sentence for the conditions that people meet; the server's own words or the bare condition otherwise.
+/// The text of the server; without one a sentence for the usual conditions, or the bare condition.
 QString sentenceFor(const ErrorDescription &description)
 {
     const QString &condition = description.condition;
     if (!description.text.isEmpty())
         return description.text;
     if (condition == QLatin1String("conflict"))
-        return KirvXmppLink::tr("the name is already in use");
+        return KirvXmppServerLink::tr("the name is already in use");
     if (condition == QLatin1String("not-acceptable") || condition == QLatin1String("bad-request"))
-        return KirvXmppLink::tr("the server does not accept what was sent");
+        return KirvXmppServerLink::tr("the server does not accept what was sent");
     if (condition == QLatin1String("not-allowed") || condition == QLatin1String("forbidden"))
-        return KirvXmppLink::tr("the server does not allow it");
+        return KirvXmppServerLink::tr("the server does not allow it");
     if (condition == QLatin1String("resource-constraint") || condition == QLatin1String("policy-violation"))
-        return KirvXmppLink::tr("the server does not allow it now");
+        return KirvXmppServerLink::tr("the server does not allow it now");
     return condition;
 }
 
@@ -64,9 +64,9 @@ KirvFailure failureOf(const ErrorDescription &description)
 } // namespace
 
 /// Sees every element of the stream before the library does.
-class KirvXmppLink::Tap : public QXmppClientExtension {
+class KirvXmppServerLink::Tap : public QXmppClientExtension {
 public:
-    explicit Tap(KirvXmppLink &link)
+    explicit Tap(KirvXmppServerLink &link)
         : link(link)
     {
     }
@@ -74,34 +74,38 @@ public:
     bool handleStanza(const QDomElement &stanza) override { return link.receive(stanza); }
 
 private:
-    KirvXmppLink &link;
+    KirvXmppServerLink &link;
 };
 
-KirvXmppLink::KirvXmppLink(Purpose purpose, KirvClock &clock, int answerTimeout, QObject *parent)
-    : QObject(parent)
+KirvXmppServerLink::KirvXmppServerLink(Purpose purpose, KirvClock &clock, int replyTimeout, QObject *parent)
+    : KirvXmppLink(parent)
     , purpose(purpose)
     , clock(clock)
-    , answerTimeout(answerTimeout)
+    , replyTimeout(replyTimeout)
 {
     client.insertExtension(0, new Tap(*this));
-    connect(&client, &QXmppClient::connected, this, &KirvXmppLink::receiveConnected);
-    connect(&client, &QXmppClient::disconnected, this, &KirvXmppLink::endSoon);
-    connect(&client, &QXmppClient::error, this, &KirvXmppLink::receiveError);
-    connect(&client, &QXmppClient::sslErrors, this, &KirvXmppLink::receiveSslErrors);
+    connect(&client, &QXmppClient::connected, this, &KirvXmppServerLink::receiveConnected);
+    connect(&client, &QXmppClient::disconnected, this, &KirvXmppServerLink::endSoon);
+    connect(&client, &QXmppClient::error, this, &KirvXmppServerLink::receiveError);
+    connect(&client, &QXmppClient::sslErrors, this, &KirvXmppServerLink::receiveSslErrors);
 }
 
-KirvXmppLink::~KirvXmppLink()
+KirvXmppServerLink::~KirvXmppServerLink()
 {
     client.disconnect(this);
 }
 
-void KirvXmppLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
+KirvXmppLink *KirvXmppServerLink::create(Purpose purpose, KirvClock &clock, int replyTimeout)
 {
-    address = configuration.jidBare();
+    return new KirvXmppServerLink(purpose, clock, replyTimeout);
+}
+
+void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
+{
     client.connectToServer(configuration, presence);
 }
 
-void KirvXmppLink::close()
+void KirvXmppServerLink::close()
 {
     isClosing = true;
     client.disconnectFromServer();
@@ -109,19 +113,19 @@ void KirvXmppLink::close()
         endSoon();
 }
 
-void KirvXmppLink::abort()
+void KirvXmppServerLink::abort()
 {
     hasEnded = true;
     receivers.clear();
     client.disconnectFromServer();
 }
 
-bool KirvXmppLink::isReady() const
+bool KirvXmppServerLink::isReady() const
 {
     return hasArrived && !isClosing && !hasEnded && !reason.isFailure();
 }
 
-void KirvXmppLink::sendPresence(const QXmppPresence &presence)
+void KirvXmppServerLink::sendPresence(const QXmppPresence &presence)
 {
     // The client would take an unavailable presence of its own for a wish to disconnect.
     if (presence.type() == QXmppPresence::Unavailable)
@@ -130,25 +134,26 @@ void KirvXmppLink::sendPresence(const QXmppPresence &presence)
         client.setClientPresence(presence);
 }
 
-void KirvXmppLink::ask(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver, const QString &to)
+void KirvXmppServerLink::sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
+                                     const QString &to)
 {
-    QXmppIq question(type);
-    question.setTo(to);
-    question.setExtensions({ QXmppElement(payload.documentElement()) });
-    const QString id = question.id();
+    QXmppIq request(type);
+    request.setTo(to);
+    request.setExtensions({ QXmppElement(payload.documentElement()) });
+    const QString id = request.id();
     receivers.insert(id, receiver);
     const auto giveUp = [this, id](const KirvFailure &failure) {
-        KirvXmppAnswer none;
+        KirvXmppReply none;
         none.failure = failure;
-        answer(id, none);
+        reply(id, none);
     };
-    if (isReady() && client.sendPacket(question))
-        clock.callLater(answerTimeout, this, [=] { giveUp(KirvFailure(KirvFailure::TimedOut, serverName())); });
+    if (isReady() && client.sendPacket(request))
+        clock.callLater(replyTimeout, this, [=] { giveUp(KirvFailure(KirvFailure::TimedOut, serverName())); });
     else
         clock.callLater(0, this, [=] { giveUp(KirvFailure::ConnectionLost); });
 }
 
-bool KirvXmppLink::receive(const QDomElement &stanza)
+bool KirvXmppServerLink::receive(const QDomElement &stanza)
 {
     const QString name = stanza.localName();
     const QString space = stanza.namespaceURI();
@@ -161,12 +166,12 @@ bool KirvXmppLink::receive(const QDomElement &stanza)
     else if (space == authenticationSpace && name == QLatin1String("failure"))
         receiveRefusal(stanza);
     else if (name == QLatin1String("iq"))
-        return receiveAnswer(stanza);
+        return receiveReply(stanza);
     return false;
 }
 
-/// True when the features are dealt with: the library would go on and log in.
-bool KirvXmppLink::receiveFeatures(const QDomElement &features)
+/// True when the features are dealt with: the library would continue and log in.
+bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
 {
     const auto security = client.configuration().streamSecurityMode();
     const QDomElement encryption = kirvXmppChild(features, encryptionSpace, QStringLiteral("starttls"));
@@ -190,7 +195,7 @@ bool KirvXmppLink::receiveFeatures(const QDomElement &features)
     return true;
 }
 
-void KirvXmppLink::receiveStreamError(const QDomElement &error)
+void KirvXmppServerLink::receiveStreamError(const QDomElement &error)
 {
     const ErrorDescription description = describe(error, streamErrorSpace);
     if (description.condition == QLatin1String("see-other-host"))
@@ -205,7 +210,7 @@ void KirvXmppLink::receiveStreamError(const QDomElement &error)
         fail(KirvFailure(KirvFailure::ServerShutDown, description.text));
 }
 
-void KirvXmppLink::receiveRefusal(const QDomElement &failure)
+void KirvXmppServerLink::receiveRefusal(const QDomElement &failure)
 {
     const ErrorDescription description = describe(failure, authenticationSpace);
     if (description.condition == QLatin1String("account-disabled"))
@@ -220,7 +225,7 @@ void KirvXmppLink::receiveRefusal(const QDomElement &failure)
         fail(KirvFailure::WrongPassword);
 }
 
-bool KirvXmppLink::receiveAnswer(const QDomElement &iq)
+bool KirvXmppServerLink::receiveReply(const QDomElement &iq)
 {
     const QString type = iq.attribute(QStringLiteral("type"));
     const QString id = iq.attribute(QStringLiteral("id"));
@@ -228,7 +233,7 @@ bool KirvXmppLink::receiveAnswer(const QDomElement &iq)
     if (!receivers.contains(id) || (!isError && type != QLatin1String("result")))
         return false;
 
-    KirvXmppAnswer received;
+    KirvXmppReply received;
     received.iq = iq;
     for (QDomElement child = iq.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         if (child.localName() == QLatin1String("error")) {
@@ -241,11 +246,11 @@ bool KirvXmppLink::receiveAnswer(const QDomElement &iq)
     }
     if (isError && !received.isError())
         received.failure = KirvFailure::RequestFailed;
-    answer(id, received);
+    reply(id, received);
     return true;
 }
 
-void KirvXmppLink::receiveConnected()
+void KirvXmppServerLink::receiveConnected()
 {
     if (!client.isAuthenticated()) {
         fail(KirvFailure::AuthenticationNotOffered);
@@ -255,7 +260,7 @@ void KirvXmppLink::receiveConnected()
     Q_EMIT loggedIn();
 }
 
-void KirvXmppLink::receiveError(QXmppClient::Error error)
+void KirvXmppServerLink::receiveError(QXmppClient::Error error)
 {
     if (error == QXmppClient::SocketError)
         fail(socketFailure());
@@ -265,51 +270,51 @@ void KirvXmppLink::receiveError(QXmppClient::Error error)
         fail(hasArrived ? KirvFailure::ServerShutDown : KirvFailure::AuthenticationNotOffered);
 }
 
-void KirvXmppLink::receiveSslErrors(const QList<QSslError> &errors)
+void KirvXmppServerLink::receiveSslErrors(const QList<QSslError> &errors)
 {
     fail(KirvFailure(KirvFailure::UntrustedCertificate, errors.isEmpty() ? QString() : errors.first().errorString()));
 }
 
-void KirvXmppLink::answer(const QString &id, const KirvXmppAnswer &answer)
+void KirvXmppServerLink::reply(const QString &id, const KirvXmppReply &reply)
 {
     if (const Receiver receiver = receivers.take(id))
-        receiver(answer);
+        receiver(reply);
 }
 
 /// Remembers the first reason, which the later ones follow from, and lets the library finish what it is at.
-void KirvXmppLink::fail(const KirvFailure &failure)
+void KirvXmppServerLink::fail(const KirvFailure &failure)
 {
     if (!reason.isFailure())
         reason = failure;
     endSoon();
 }
 
-void KirvXmppLink::endSoon()
+void KirvXmppServerLink::endSoon()
 {
     QMetaObject::invokeMethod(
         this, [this] { end(); }, Qt::QueuedConnection);
 }
 
-void KirvXmppLink::end()
+void KirvXmppServerLink::end()
 {
     if (hasEnded)
         return;
     hasEnded = true;
     if (!isClosing && !reason.isFailure())
         reason = silentEnd();
-    const QPointer<KirvXmppLink> alive(this);
+    const QPointer<KirvXmppServerLink> alive(this);
     const QList<QString> unanswered = receivers.keys();
-    KirvXmppAnswer none;
+    KirvXmppReply none;
     none.failure = reason.isFailure() ? reason : KirvFailure(KirvFailure::ConnectionLost);
     for (const QString &id : unanswered) {
-        answer(id, none);
+        reply(id, none);
         if (!alive)
             return;
     }
     Q_EMIT ended(isClosing ? KirvFailure() : reason);
 }
 
-KirvFailure KirvXmppLink::socketFailure()
+KirvFailure KirvXmppServerLink::socketFailure()
 {
     switch (client.socketError()) {
     case QAbstractSocket::HostNotFoundError:
@@ -327,14 +332,14 @@ KirvFailure KirvXmppLink::socketFailure()
     }
 }
 
-/// The stream has ended without a word: the library does that when it finds no way to go on.
-KirvFailure KirvXmppLink::silentEnd() const
+/// The stream has ended without an error: the library does that when it finds no way to go on.
+KirvFailure KirvXmppServerLink::silentEnd() const
 {
     return purpose == LogIn && hasMechanisms && !hasArrived ? KirvFailure::AuthenticationNotOffered
                                                             : KirvFailure::ConnectionLost;
 }
 
-QString KirvXmppLink::serverName()
+QString KirvXmppServerLink::serverName()
 {
     const QXmppConfiguration &configuration = client.configuration();
     return configuration.host().isEmpty() ? configuration.domain() : configuration.host();

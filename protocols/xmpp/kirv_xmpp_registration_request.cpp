@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_registration_request.h"
+
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <algorithm>
+
+namespace {
+
+const auto domainId = QStringLiteral("domain");
+
+KirvField createDomainField(const QString &domain)
+{
+    KirvField field = KirvField::textEdit(KirvXmppRegistrationRequest::tr("Domain"), domainId, domain,
+                                          KirvXmppRegistrationRequest::tr("The part of the address after the @."));
+    field.setRequired(true);
+    return field;
+}
+
+QString domainOf(const QList<KirvField> &fields)
+{
+    for (const KirvField &field : fields) {
+        if (field.getId() == domainId) // also of a whole address
+            return field.getText().section(QLatin1Char('@'), -1).trimmed();
+    }
+    return QString();
+}
+
+} // namespace
+
+KirvXmppRegistrationRequest::KirvXmppRegistrationRequest(KirvClock &clock, QObject *parent,
+                                                         KirvXmppLinkFactory createLink)
+    : KirvServerRequest(parent)
+    , registration(clock, nullptr, std::move(createLink))
+    , serverFields(QList<KirvField> { createDomainField(QString()) } + KirvXmppSettings().toServerFields())
+{
+    connect(&registration, &KirvXmppRegistration::formReceived, this, &KirvXmppRegistrationRequest::showForm);
+    connect(&registration, &KirvXmppRegistration::succeeded, this, &KirvXmppRegistrationRequest::finish);
+    connect(&registration, &KirvXmppRegistration::failed, this, &KirvServerRequest::failed);
+}
+
+QString KirvXmppRegistrationRequest::title() const
+{
+    return tr("Register XMPP Account");
+}
+
+void KirvXmppRegistrationRequest::start()
+{
+    showServerStep();
+}
+
+void KirvXmppRegistrationRequest::showServerStep()
+{
+    isAtForm = false;
+    Step step;
+    step.text = tr("Choose the server of the new account. The server determines what is to be filled in next.");
+    step.configurations = KirvXmppSettings::configurations();
+    step.fields = serverFields;
+    step.command = tr("Continue");
+    Q_EMIT stepReady(step);
+}
+
+QList<KirvField> KirvXmppRegistrationRequest::fieldsOf(const QString &name, const QList<KirvField> &filled) const
+{
+    const KirvXmppSettings settings(KirvXmppSettings::configurationFields(name));
+    QString known = domainOf(filled);
+    if (known.isEmpty() && !settings.server.isEmpty())
+        known = QStringLiteral("localhost");
+    return QList<KirvField> { createDomainField(known) } + settings.toServerFields();
+}
+
+void KirvXmppRegistrationRequest::submit(const QList<KirvField> &filled)
+{
+    if (isAtForm) {
+        formFields = filled;
+        sendForm();
+    } else {
+        serverFields = filled;
+        requestForm();
+    }
+}
+
+void KirvXmppRegistrationRequest::requestForm()
+{
+    domain = domainOf(serverFields);
+    const bool isSendable = std::all_of(serverFields.begin(), serverFields.end(),
+                                        [](const KirvField &field) { return kirvXmppIsSendable(field.getText()); });
+    if (domain.isEmpty()) {
+        Q_EMIT inputRejected(tr("Enter the domain of the server."));
+        return;
+    }
+    if (!isSendable) {
+        Q_EMIT inputRejected(tr("The name of a server holds characters that cannot be sent."));
+        return;
+    }
+    Q_EMIT waiting(tr("Requesting the registration form…"));
+    registration.fetchForm(domain, KirvXmppSettings(serverFields));
+}
+
+void KirvXmppRegistrationRequest::showForm(const KirvXmppRegistrationForm &received)
+{
+    const bool isAnother = isAtForm;
+    form = received;
+    formFields = form.fieldsWith(formFields);
+    isAtForm = true;
+
+    Step step;
+    step.text = textOf(form);
+    step.fields = formFields;
+    step.pictures = form.pictures();
+    step.canGoBack = true;
+    step.hasPassword = form.hasPassword();
+    if (step.fields.isEmpty())
+        step.notice = tr("This server does not register accounts from within a client.");
+    else
+        step.command = tr("Register");
+    if (isAnother && !step.fields.isEmpty())
+        step.notice = tr("The server sent another form. Check it and register again.");
+    Q_EMIT stepReady(step);
+}
+
+QString KirvXmppRegistrationRequest::textOf(const KirvXmppRegistrationForm &form) const
+{
+    QStringList texts { form.title(), form.instructions() };
+    if (!form.address().isEmpty()) {
+        //: %1 = a web address
+        texts << tr("The server also names this address: %1").arg(form.address());
+    }
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral("\n\n"));
+}
+
+void KirvXmppRegistrationRequest::sendForm()
+{
+    const QString problem = form.problem(formFields);
+    if (!problem.isEmpty()) {
+        Q_EMIT inputRejected(problem);
+        return;
+    }
+    Q_EMIT waiting(tr("Sending the form…"));
+    registration.submit(formFields);
+}
+
+void KirvXmppRegistrationRequest::finish()
+{
+    const QString name = KirvXmppRegistrationForm::userName(formFields);
+    Result result;
+    result.kind = Result::AccountRegistered;
+    if (!name.isEmpty()) {
+        result.account.id = name + QLatin1Char('@') + domain;
+        result.account.password = KirvXmppRegistrationForm::password(formFields);
+        result.account.settings = KirvXmppSettings(serverFields).toFields();
+    }
+    Q_EMIT succeeded(result);
+}
+
+void KirvXmppRegistrationRequest::goBack(const QList<KirvField> &filled)
+{
+    registration.cancel();
+    if (!isAtForm)
+        return;
+    formFields = filled;
+    showServerStep();
+}
+
+bool KirvXmppRegistrationRequest::cancel()
+{
+    registration.cancel();
+    return true;
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_XMPP_REGISTRATION_REQUEST_H
+#define KIRV_XMPP_REGISTRATION_REQUEST_H
+
+#include "core/protocol/kirv_server_request.h"
+#include "protocols/xmpp/kirv_xmpp_registration.h"
+
+/// Registers a new account: the first step is about the server, the second is the form of this server. Values that
+/// were typed stay when a step comes again and when the server sends another form.
+class KirvXmppRegistrationRequest : public KirvServerRequest {
+    Q_OBJECT
+    /// How long the server may take for a reply, in milliseconds.
+    Q_PROPERTY(int timeout READ timeout WRITE setTimeout)
+
+public:
+    /// \a clock is not owned and outlives the request.
+    explicit KirvXmppRegistrationRequest(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
+                                         KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
+
+    int timeout() const { return registration.timeout(); }
+    void setTimeout(int milliseconds) { registration.setTimeout(milliseconds); }
+
+    QString title() const override;
+    void start() override;
+    QList<KirvField> fieldsOf(const QString &name, const QList<KirvField> &filled) const override;
+    void submit(const QList<KirvField> &filled) override;
+    void goBack(const QList<KirvField> &filled) override;
+    bool cancel() override;
+
+private:
+    void showServerStep();
+    void requestForm();
+    void showForm(const KirvXmppRegistrationForm &received);
+    QString textOf(const KirvXmppRegistrationForm &form) const;
+    void sendForm();
+    void finish();
+
+    KirvXmppRegistration registration;
+    bool isAtForm = false;
+    QList<KirvField> serverFields; ///< of the first step, as filled in last
+    QString domain;
+    KirvXmppRegistrationForm form;
+    QList<KirvField> formFields; ///< of the second step, as filled in last
+};
+
+#endif

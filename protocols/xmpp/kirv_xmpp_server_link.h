@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_XMPP_SERVER_LINK_H
+#define KIRV_XMPP_SERVER_LINK_H
+
+#include "protocols/xmpp/kirv_xmpp_link.h"
+
+#include <QHash>
+#include <QXmppClient.h>
+
+/// The link to a real server, on QXmpp.
+class KirvXmppServerLink : public KirvXmppLink {
+    Q_OBJECT
+
+public:
+    /// \a clock is not owned; requests without a reply fail after \a replyTimeout milliseconds.
+    KirvXmppServerLink(Purpose purpose, KirvClock &clock, int replyTimeout, QObject *parent = nullptr);
+    ~KirvXmppServerLink() override;
+    /// A KirvXmppLinkFactory.
+    static KirvXmppLink *create(Purpose purpose, KirvClock &clock, int replyTimeout);
+
+    void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) override;
+    void close() override;
+    void abort() override;
+    bool isReady() const override;
+    void sendPresence(const QXmppPresence &presence) override;
+    void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
+                     const QString &to) override;
+
+private:
+    class Tap;
+
+    bool receive(const QDomElement &stanza);
+    bool receiveFeatures(const QDomElement &features);
+    void receiveStreamError(const QDomElement &error);
+    void receiveRefusal(const QDomElement &failure);
+    bool receiveReply(const QDomElement &iq);
+    void receiveConnected();
+    void receiveError(QXmppClient::Error error);
+    void receiveSslErrors(const QList<QSslError> &errors);
+
+    void reply(const QString &id, const KirvXmppReply &reply);
+    void fail(const KirvFailure &failure);
+    void endSoon();
+    void end();
+    KirvFailure socketFailure();
+    KirvFailure silentEnd() const;
+    QString serverName();
+
+    const Purpose purpose;
+    KirvClock &clock;
+    const int replyTimeout;
+    QXmppClient client;
+    QHash<QString, Receiver> receivers; ///< by the id of the request
+    KirvFailure reason; ///< the first one that was reported
+    bool isEncrypted = false;
+    bool isClosing = false;
+    bool hasArrived = false; ///< loggedIn() or readyToRegister() was emitted
+    bool hasEnded = false;
+    bool hasMechanisms = false; ///< the server has offered ways to log in
+};
+
+#endif
