@@ -263,16 +263,22 @@ void KirvAccount::providePassword(const QString &password, bool remember)
 
 bool KirvAccount::acceptServerPassword(const QString &password)
 {
+    if (removed)
+        return false;
     if (connection())
         connection()->acceptPassword(password);
+    // Stored by itself: it stays the password also when a save that is open is refused.
+    KirvAccountRecord accepted = isSaving() ? recordBefore : current;
+    accepted.password = password;
+    const bool isStored = !accepted.rememberPassword || profile.updateAccount(accepted);
+    current.password = recordBefore.password = password;
+    unstoredPassword = !isStored;
     const QPointer<KirvAccount> alive(this);
-    const bool isStored = change([&](KirvAccountRecord &record) { record.password = password; });
-    if (!alive || isStored || removed)
-        return isStored;
-    current.password = password;
-    unstoredPassword = current.rememberPassword;
+    const QString reason = profile.lastError();
     Q_EMIT changed();
-    return false;
+    if (!isStored && alive && !removed)
+        Q_EMIT refused(reason);
+    return isStored;
 }
 
 bool KirvAccount::isOnline() const
@@ -309,8 +315,8 @@ void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
 
 void KirvAccount::unload()
 {
-    dropConnection();
-    loadedProtocol.clear();
+    if (dropConnection())
+        loadedProtocol.clear();
 }
 
 void KirvAccount::leave()
@@ -321,8 +327,10 @@ void KirvAccount::leave()
         return;
     }
     connect(connection(), &KirvConnection::stateChanged, this, [this](KirvConnection::State state) {
-        if (state == KirvConnection::Offline)
-            deleteLater();
+        if (state != KirvConnection::Offline)
+            return;
+        connection()->drop(); // it does not log in again
+        deleteLater();
     });
     reconciler.wake();
 }
@@ -337,19 +345,23 @@ void KirvAccount::connectConnection(KirvConnection *created)
     });
 }
 
-/// Breaks the connection and destroys it; only outstanding requests are answered.
-void KirvAccount::dropConnection()
+/// Breaks the connection and destroys it; only outstanding requests are answered. False when a slot has destroyed the
+/// account, and the connection with it.
+bool KirvAccount::dropConnection()
 {
-    KirvConnection *dropped = connection();
+    const QPointer<KirvConnection> dropped = connection();
     if (!dropped)
-        return;
+        return true;
+    const QPointer<KirvAccount> alive(this);
     dropped->disconnect(this);
     reconciler.setConnection(nullptr);
-    entry.setConnection(nullptr);
     dropped->drop();
+    if (alive)
+        entry.setConnection(nullptr);
     delete dropped;
-    if (removed)
+    if (alive && removed)
         deleteLater();
+    return alive;
 }
 
 void KirvAccount::onStateChanged(KirvConnection::State state)
@@ -366,10 +378,10 @@ void KirvAccount::onFailed(const KirvFailure &failed)
     if (removed)
         return;
     setFailure(failed);
-    const bool needsPassword = failed.kind() == KirvFailure::PasswordMissing && current.enabled;
+    const bool needsPassword = failed.kind() == KirvFailure::PasswordMissing;
     const QPointer<KirvAccount> alive(this);
     Q_EMIT changed();
-    if (needsPassword && alive && !removed)
+    if (needsPassword && alive && !removed && current.enabled)
         Q_EMIT passwordNeeded();
 }
 

@@ -120,7 +120,7 @@ private:
     KirvPresence logInPresence() const;
     KirvReconciler::Wanted wanted() const;
     void connectConnection(KirvConnection *connection);
-    void dropConnection();
+    bool dropConnection();
     void onStateChanged(KirvConnection::State state);
     void onFailed(const KirvFailure &failed);
     void onDirectoryAnswered(const KirvDirectoryAnswer &answer);

@@ -7,6 +7,15 @@
 #include <QTimer>
 #include <algorithm>
 
+namespace {
+
+QList<QPointer<KirvAccount>> guarded(const QList<KirvAccount *> &accounts)
+{
+    return QList<QPointer<KirvAccount>>(accounts.begin(), accounts.end());
+}
+
+} // namespace
+
 KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
     : QObject(parent)
     , store(store)
@@ -20,8 +29,9 @@ KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
 
 KirvAccountCollection::~KirvAccountCollection()
 {
-    for (KirvAccount *account : findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly)) {
-        account->disconnect(this);
+    for (const QPointer<KirvAccount> &account : guarded(withLeaving())) {
+        if (account)
+            account->disconnect(this);
         delete account;
     }
 }
@@ -41,8 +51,11 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
     const QString name = protocol->getName();
     if (protocols.value(name) == protocol)
         return;
-    protocolAboutToBeUnloaded(name);
+    const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvProtocolBase> loaded(protocol);
+    protocolAboutToBeUnloaded(name);
+    if (!alive || !loaded || protocols.contains(name)) // a slot was quicker
+        return;
     protocols.insert(name, loaded);
     connect(protocol, &KirvProtocolBase::directoryRequested, this, &KirvAccountCollection::requestDirectory);
     connect(protocol, &QObject::destroyed, this, [this, name] {
@@ -50,10 +63,11 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
             protocolAboutToBeUnloaded(name);
     });
 
-    for (const QPointer<KirvAccount> &account : guarded(name)) {
-        if (!account || !loaded || protocols.value(name) != loaded)
-            continue;
-        account->load(protocol, logIn);
+    for (const QPointer<KirvAccount> &account : guarded(accountsOf(name))) {
+        if (!alive || !loaded || protocols.value(name) != loaded)
+            return;
+        if (account)
+            account->load(protocol, logIn);
         if (account)
             Q_EMIT account->changed();
     }
@@ -65,23 +79,19 @@ void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
         return;
     if (KirvProtocolBase *unloaded = protocols.take(protocol))
         unloaded->disconnect(this);
-    for (const QPointer<KirvAccount> &account : guarded(protocol)) {
-        if (account)
-            account->unload();
-        if (account)
-            Q_EMIT account->changed();
-    }
     // Those that were removed and are still logging out have connections of the protocol, too.
-    for (KirvAccount *account : findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (account->isRemoved() && account->key().protocol == protocol)
+    for (const QPointer<KirvAccount> &account : guarded(withLeaving())) {
+        if (account && account->key().protocol == protocol)
             account->unload();
+        if (account && account->key().protocol == protocol && !account->isRemoved())
+            Q_EMIT account->changed();
     }
 }
 
 void KirvAccountCollection::logOutAll(int milliseconds)
 {
     QList<QPointer<KirvConnection>> open;
-    for (KirvAccount *account : findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (KirvAccount *account : withLeaving()) {
         if (account->connection())
             open << account->connection();
         account->stopReconciling();
@@ -130,21 +140,21 @@ KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
     return account;
 }
 
-void KirvAccountCollection::takeOut(KirvAccount *account)
+/// \a account may be destroyed already.
+void KirvAccountCollection::takeOut(KirvAccount *account, const KirvAccountKey &key)
 {
     all.removeOne(account);
-    byKey.remove(account->key());
-    ProtocolAccounts &siblings = byProtocol[account->key().protocol];
-    siblings.accounts.removeOne(account);
-    siblings.infos.removeOne(account->info());
+    byKey.remove(key);
+    ProtocolAccounts &siblings = byProtocol[key.protocol];
+    const int index = int(siblings.accounts.indexOf(account));
+    siblings.accounts.removeAt(index);
+    siblings.infos.removeAt(index);
 }
 
-QList<QPointer<KirvAccount>> KirvAccountCollection::guarded(const QString &protocol) const
+/// With the removed ones that are not logged out yet.
+QList<KirvAccount *> KirvAccountCollection::withLeaving() const
 {
-    QList<QPointer<KirvAccount>> pointers;
-    for (KirvAccount *account : byProtocol.value(protocol).accounts)
-        pointers << account;
-    return pointers;
+    return findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 /// Empty when nothing but the store can refuse.
@@ -179,10 +189,11 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
         return nullptr;
     }
     error.clear();
+    const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
     account->load(known, true);
     Q_EMIT accountAdded(account);
-    return account && byKey.value(record.key) == account ? account.data() : nullptr;
+    return alive && account && byKey.value(record.key) == account ? account.data() : nullptr;
 }
 
 bool KirvAccountCollection::remove(KirvAccount *account)
@@ -197,10 +208,11 @@ bool KirvAccountCollection::remove(KirvAccount *account)
     error.clear();
     const KirvAccountKey key = account->key();
     account->leave();
-    const QPointer<KirvAccount> alive(account);
+    const QPointer<KirvAccountCollection> alive(this);
     Q_EMIT accountAboutToBeRemoved(account);
-    if (alive)
-        takeOut(account);
+    if (!alive)
+        return true;
+    takeOut(account, key);
     Q_EMIT accountRemoved(key.id, key.protocol);
     return true;
 }

@@ -67,8 +67,8 @@ private:
     };
 
     KirvAccount *append(const KirvAccountRecord &record);
-    void takeOut(KirvAccount *account);
-    QList<QPointer<KirvAccount>> guarded(const QString &protocol) const;
+    void takeOut(KirvAccount *account, const KirvAccountKey &key);
+    QList<KirvAccount *> withLeaving() const;
     QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);

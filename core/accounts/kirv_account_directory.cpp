@@ -25,10 +25,10 @@ void KirvAccountDirectory::setConnection(KirvConnection *newConnection)
         connection->disconnect(this);
     connection = newConnection;
     known.reset();
-    if (held || outstanding)
-        fail(held ? Publish : operation, tr("The connection ended before the server answered."));
     if (connection)
         connect(connection, &KirvConnection::directoryAnswered, this, &KirvAccountDirectory::receive);
+    if (held || outstanding)
+        fail(held ? Publish : operation, tr("The connection ended before the server answered."));
 }
 
 void KirvAccountDirectory::setBlankFields(const QList<KirvField> &fields)
@@ -47,7 +47,7 @@ void KirvAccountDirectory::publish(const QList<KirvField> &fields)
 {
     if (!known)
         return;
-    held = changes(fields, *known);
+    held = changes(fields, *known, unconfirmed);
     if (!saving)
         connectionSettled();
 }
@@ -88,14 +88,15 @@ void KirvAccountDirectory::connectionSettled()
     send(changes);
 }
 
-QList<KirvField> KirvAccountDirectory::changes(const QList<KirvField> &fields, const QList<KirvField> &base)
+QList<KirvField> KirvAccountDirectory::changes(const QList<KirvField> &fields, const QList<KirvField> &base,
+                                               const QSet<QString> &uncertain)
 {
     QList<KirvField> changed;
     for (const KirvField &field : fields) {
         const auto before = std::find_if(base.begin(), base.end(), [&field](const KirvField &candidate) {
             return candidate.getId() == field.getId();
         });
-        if (before == base.end() || !hasSameValue(*before, field))
+        if (before == base.end() || !hasSameValue(*before, field) || uncertain.contains(field.getId()))
             changed << field;
     }
     return changed;
@@ -109,10 +110,12 @@ void KirvAccountDirectory::begin(Operation newOperation, int request)
 
 void KirvAccountDirectory::send(const QList<KirvField> &changes)
 {
-    if (!changes.isEmpty()) {
+    for (const KirvField &field : changes)
+        unconfirmed.insert(field.getId());
+    if (!changes.isEmpty())
         begin(Publish, connection->publishDirectory(changes));
+    if (!changes.isEmpty() || outstanding || !known) // else a later request has taken its place
         return;
-    }
     KirvDirectoryAnswer unchanged;
     unchanged.outcome = KirvDirectoryAnswer::Data;
     unchanged.fields = base();
@@ -124,10 +127,10 @@ void KirvAccountDirectory::receive(const KirvDirectoryAnswer &answer)
     if (answer.request != outstanding)
         return;
     outstanding = 0;
-    if (answer.outcome == KirvDirectoryAnswer::Data)
-        known = answer.fields;
-    else if (answer.outcome == KirvDirectoryAnswer::None)
-        known = blank;
+    if (answer.outcome != KirvDirectoryAnswer::Failed) {
+        known = answer.outcome == KirvDirectoryAnswer::Data ? answer.fields : blank;
+        unconfirmed.clear();
+    }
     Q_EMIT answered(operation, answer);
 }
 

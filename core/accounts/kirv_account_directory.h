@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <optional>
 
 class KirvConnection;
@@ -48,8 +49,9 @@ public:
     /// The connection uses what was saved: publications that waited for this are sent.
     void connectionSettled();
 
-    /// Those of \a fields whose values differ from those of the same id in \a base.
-    static QList<KirvField> changes(const QList<KirvField> &fields, const QList<KirvField> &base);
+    /// Those of \a fields whose values differ from those of the same id in \a base, or whose id is among \a uncertain.
+    static QList<KirvField> changes(const QList<KirvField> &fields, const QList<KirvField> &base,
+                                    const QSet<QString> &uncertain = {});
 
 Q_SIGNALS:
     /// The latest request is answered. Answers to requests that a later one has replaced are not emitted.
@@ -64,6 +66,7 @@ private:
     QPointer<KirvConnection> connection;
     QList<KirvField> blank;
     std::optional<QList<KirvField>> known;
+    QSet<QString> unconfirmed; ///< ids of the fields that were sent since; the server holds the one value or the other
     std::optional<QList<KirvField>> held; ///< the changes of a publication that is not sent yet
     Operation operation = Fetch; ///< of the outstanding request
     int outstanding = 0; ///< the number of the latest request without an answer; 0: none

@@ -97,13 +97,19 @@ void KirvReconciler::reconcile()
     scheduled = false;
     if (!target || holds > 0)
         return;
+    const QPointer<KirvReconciler> alive(this);
     const Wanted now = wanted();
     const Step step = nextStep(now, *target, urge);
+    const bool leavesSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
+    if (!leavesSession) { // an avatar is not published over a session that is not wanted any more
+        target->setAvatarPath(now.avatarPath);
+        if (!alive || !target || scheduled) // a slot has changed something
+            return;
+    }
     urge = None;
-    const QPointer<KirvReconciler> alive(this);
-    target->setAvatarPath(now.avatarPath);
-    if (alive && target)
-        take(step, now);
+    take(step, now);
+    if (leavesSession && alive && target)
+        target->setAvatarPath(now.avatarPath);
     if (alive && target && (step == Nothing || step == ChangePresence))
         Q_EMIT settled();
 }

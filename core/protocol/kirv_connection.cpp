@@ -2,8 +2,8 @@
 #include "core/protocol/kirv_connection.h"
 
 #include <QPointer>
-#include <QScopedValueRollback>
-#include <QSet>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -24,17 +24,18 @@ public:
     }
 
     bool enter(State next);
-    bool failUnansweredRequests();
+    bool failRequests(const QList<int> &requests);
     void inThisState(int milliseconds, std::function<void()> callback);
 
     void logInNow();
     void startLogOut(bool comeBack);
     void finishLogOut();
-    void abort();
-    void fail(const KirvFailure &failure);
+    bool abort();
+    void fail(const KirvFailure &reported);
     void waitAndRetry();
     bool accepts(State expected) const { return state == expected && !aborting; }
 
+    bool callWith(bool &flag, const std::function<void()> &call);
     int startRequest(const std::function<void(int)> &start);
     void answer(const KirvDirectoryAnswer &answer);
 
@@ -57,7 +58,7 @@ public:
 
     int lastRequest = 0;
     bool starting = false; ///< a directory request is being started
-    QSet<int> outstanding;
+    QList<int> outstanding; ///< in the order in which they were made
 };
 
 /// Enters \a next and emits it. False when a slot has moved the connection on or destroyed it (and this object with
@@ -72,17 +73,16 @@ bool KirvConnection::Private::enter(State next)
     state = next;
     since = clock.now();
     const QPointer<KirvConnection> alive(connection);
+    // A slot may log in again and make new requests: these are not the ones that ended.
+    const QList<int> ended = next == Online ? QList<int>() : outstanding;
     Q_EMIT connection->stateChanged(next);
-    if (alive && next != Online && !failUnansweredRequests())
-        return false;
-    return alive && visit == entered;
+    return alive && failRequests(ended) && visit == entered;
 }
 
 /// False when a slot has destroyed the connection.
-bool KirvConnection::Private::failUnansweredRequests()
+bool KirvConnection::Private::failRequests(const QList<int> &requests)
 {
     const QPointer<KirvConnection> alive(connection);
-    const QList<int> requests = outstanding.values();
     const QString reason = KirvConnection::tr("The connection ended before the server answered.");
     for (int request : requests) {
         connection->failDirectoryRequest(request, KirvFailure(KirvFailure::RequestFailed, reason));
@@ -118,8 +118,8 @@ void KirvConnection::Private::startLogOut(bool comeBack)
     if (!enter(Disconnecting))
         return;
     inThisState(timing.logoutTimeout, [this] {
-        abort();
-        finishLogOut();
+        if (abort())
+            finishLogOut();
     });
     connection->startLogout();
 }
@@ -130,15 +130,28 @@ void KirvConnection::Private::finishLogOut()
         logInNow();
 }
 
-void KirvConnection::Private::abort()
+/// False when a slot has destroyed the connection.
+bool KirvConnection::Private::abort()
 {
-    const QScopedValueRollback<bool> deaf(aborting, true);
-    connection->abortConnection();
+    return callWith(aborting, [this] { connection->abortConnection(); });
 }
 
-void KirvConnection::Private::fail(const KirvFailure &failure)
+/// Sets \a flag during \a call. False when a slot has destroyed the connection.
+bool KirvConnection::Private::callWith(bool &flag, const std::function<void()> &call)
 {
-    abort();
+    const QPointer<KirvConnection> alive(connection);
+    const bool before = std::exchange(flag, true);
+    call();
+    if (alive)
+        flag = before;
+    return alive;
+}
+
+void KirvConnection::Private::fail(const KirvFailure &reported)
+{
+    const KirvFailure failure = reported; // a slot may destroy what it belongs to
+    if (!abort())
+        return;
     lastFailure = failure;
     const QPointer<KirvConnection> alive(connection);
     if (failure.isWorthRetrying())
@@ -164,12 +177,11 @@ void KirvConnection::Private::waitAndRetry()
 int KirvConnection::Private::startRequest(const std::function<void(int)> &start)
 {
     const int request = ++lastRequest;
-    outstanding.insert(request);
+    outstanding.append(request);
     if (state == Online) {
         clock.callLater(timing.requestTimeout, connection,
                         [this, request] { connection->failDirectoryRequest(request, KirvFailure::TimedOut); });
-        const QScopedValueRollback<bool> tooEarly(starting, true);
-        start(request);
+        callWith(starting, [&] { start(request); });
     } else {
         const KirvFailure failure(KirvFailure::RequestFailed, KirvConnection::tr("The account is not connected."));
         clock.callLater(0, connection,
@@ -182,7 +194,7 @@ void KirvConnection::Private::answer(const KirvDirectoryAnswer &answer)
 {
     if (starting) // the caller does not know the number yet
         clock.callLater(0, connection, [this, answer] { this->answer(answer); });
-    else if (outstanding.remove(answer.request))
+    else if (outstanding.removeOne(answer.request))
         Q_EMIT connection->directoryAnswered(answer);
 }
 
@@ -260,8 +272,8 @@ void KirvConnection::logIn(const KirvLogin &login, const KirvPresence &presence)
         d->logInNow();
         break;
     case Connecting:
-        d->abort();
-        d->logInNow();
+        if (d->abort())
+            d->logInNow();
         break;
     case Online:
         d->startLogOut(true);
@@ -296,8 +308,8 @@ void KirvConnection::drop()
     d->comesBack = false;
     if (d->state == Offline)
         return;
-    d->abort();
-    d->enter(Offline);
+    if (d->abort())
+        d->enter(Offline);
 }
 
 void KirvConnection::acceptPassword(const QString &password)
