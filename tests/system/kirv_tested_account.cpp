@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/system/kirv_tested_account.h"
+
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "core/connection/kirv_connection.h"
+#include "core/plugins/kirv_plugin_registry.h"
+#include "host/kirv_account_connection.h"
+#include "host/kirv_account_manager.h"
+#include "host/kirv_plugin_manager.h"
+#include "host/kirv_presence.h"
+#include "host/kirv_protocol.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QWindow>
+
+namespace {
+
+const char editButtons[] = "EditAccount_FrameButtons";
+const char addButtons[] = "AddAccount_ButtonFrame";
+
+/// The visible window with a child called \a child; null when there is none.
+QDialog *windowWith(const char *child)
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *window = qobject_cast<QDialog *>(widget);
+        const auto *part = window && window->isVisible() ? KirvWindows::child<QWidget>(window, child) : nullptr;
+        if (part && part->window() == window)
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+KirvTestedAccount::KirvTestedAccount(KirvWindows &windows, const QString &login, const QString &protocol)
+    : windows(windows)
+    , login(login)
+    , protocol(protocol)
+{
+}
+
+KirvAccountConnection *KirvTestedAccount::connection() const
+{
+    return KirvAccountManager::getInstance()->loadAccount(login, protocol);
+}
+
+bool KirvTestedAccount::create(const QString &password, const QString &configuration, const QString &presence)
+{
+    KirvProtocol *owner = KirvPluginManager::getInstance()->getProtocolByName(protocol);
+    if (!owner)
+        return false;
+    KirvAccountManager::getInstance()->createAccount(login, login, password, true, owner,
+                                                     owner->createPresenceWithId(presence, QString()),
+                                                     owner->getConfigurationFields(configuration));
+    return QTest::qWaitFor([this] { return windows.row(login); }, patience);
+}
+
+void KirvTestedAccount::goTo(const QString &presence)
+{
+    KirvProtocol *owner = connection()->getProtocol();
+    connection()->setPresence(owner->createPresenceWithId(presence, QString()));
+    owner->accountPresenceChanged(connection());
+}
+
+bool KirvTestedAccount::isConnected() const
+{
+    return windows.state(login) == QLatin1String("Connected");
+}
+
+bool KirvTestedAccount::isSettled() const
+{
+    const QString state = windows.state(login);
+    return state != QStringLiteral("Connecting…") && state != QStringLiteral("Logging out…");
+}
+
+QString KirvTestedAccount::password() const
+{
+    return connection()->getPassword();
+}
+
+QString KirvTestedAccount::alias() const
+{
+    return connection()->getAlias();
+}
+
+void KirvTestedAccount::remove()
+{
+    KirvAccountManager::getInstance()->removeAccount(login, protocol);
+}
+
+bool KirvTestedAccount::isThere() const
+{
+    return connection();
+}
+
+void KirvTestedAccount::waitForAnswers(int milliseconds)
+{
+    KirvConnection *internal = windows.account(login)->connection();
+    KirvConnection::Timing timing = internal->timing();
+    timing.requestTimeout = milliseconds;
+    timing.firstRetry = 3600 * 1000;
+    timing.lastRetry = timing.firstRetry;
+    internal->setTiming(timing);
+}
+
+bool KirvTestedAccount::loadProtocol(const QString &fileName)
+{
+    pluginFile = fileName;
+    return windows.client->plugins().load(fileName);
+}
+
+bool KirvTestedAccount::unloadProtocol()
+{
+    return windows.client->plugins().unload(pluginFile.isEmpty() ? windows.pluginFile(protocol) : pluginFile);
+}
+
+QDialog *KirvTestedAccount::openEditWindow()
+{
+    windows.showPage(0);
+    if (!QTest::qWaitFor([this] { return windows.client->accountsPage()->isVisible(); }, patience))
+        return nullptr;
+    windows.select(login);
+    KirvWalk::pressKey(windows.list(), Qt::Key_Return);
+    const bool isOpen = QTest::qWaitFor(
+        [] { return editWindow() && editWindow()->windowHandle() && editWindow()->windowHandle()->isExposed(); },
+        patience);
+    return isOpen ? editWindow() : nullptr;
+}
+
+QDialog *KirvTestedAccount::editWindow()
+{
+    return windowWith(editButtons);
+}
+
+QDialog *KirvTestedAccount::addWindow()
+{
+    return windowWith(addButtons);
+}
+
+bool KirvTestedAccount::isOutOfUse(const QPointer<QDialog> &window)
+{
+    return !window || !window->isVisible() || !saveButton(window)->isEnabled();
+}
+
+QPushButton *KirvTestedAccount::saveButton(const QDialog *window)
+{
+    const auto *box = KirvWindows::child<QDialogButtonBox>(window, editButtons);
+    return (box ? box : KirvWindows::child<QDialogButtonBox>(window, addButtons))->button(QDialogButtonBox::Save);
+}
+
+void KirvTestedAccount::pressSave(QDialog *window)
+{
+    KirvWalk::click(saveButton(window));
+}
+
+void KirvTestedAccount::pressCancel(QDialog *window)
+{
+    KirvWalk::click(KirvWindows::button(window, editButtons, QDialogButtonBox::Cancel));
+}
+
+void KirvTestedAccount::typePassword(QDialog *editWindow, const QString &password)
+{
+    KirvWalk::type(KirvWindows::child<QLineEdit>(editWindow, "EditAccount_Password"), password);
+}
+
+void KirvTestedAccount::typeAlias(QDialog *editWindow, const QString &alias)
+{
+    KirvWalk::type(KirvWindows::child<QLineEdit>(editWindow, "EditAccount_Alias"), alias);
+}
+
+bool KirvTestedAccount::confirmRefusedSave()
+{
+    if (!QTest::qWaitFor([this] { return windows.question(); }, patience))
+        return false;
+    KirvWalk::click(windows.question()->button(QMessageBox::Ok));
+    return QTest::qWaitFor([this] { return !windows.question(); }, patience);
+}
+
+bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QString &password)
+{
+    const QString command = QStringLiteral("Change Password on Server…");
+    KirvWalk walk(windows.profileFolder());
+    walk.expectOnTop(
+        QStringLiteral("The edit window is open"), [editWindow] { return editWindow->isVisible(); },
+        [editWindow] {
+            KirvWalk::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
+        });
+    walk.expect(
+        QStringLiteral("The menu offers the command"), [command] { return KirvWalk::menuOffers(command); },
+        [command] { KirvWalk::clickInMenu(command); });
+    const auto dialog = [] { return KirvWalk::window(QStringLiteral("XmppPassword")); };
+    if (!walk.run() || !QTest::qWaitFor([=] { return dialog(); }, patience))
+        return false;
+    KirvWalk::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Password"), password);
+    KirvWalk::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Repetition"), password);
+    KirvWalk::click(KirvWindows::button(dialog(), "XmppPassword_Buttons", QDialogButtonBox::Ok));
+    return QTest::qWaitFor([=] { return !dialog(); }, patience);
+}
+
+void KirvTestedAccount::showDirectory(QDialog *editWindow)
+{
+    KirvWalk::pressKey(KirvWindows::child<QTabWidget>(editWindow, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
+}
+
+void KirvTestedAccount::fetchAgain(QDialog *editWindow)
+{
+    KirvWalk::click(KirvWindows::child<QAbstractButton>(editWindow, "EditAccount_PubDirFetch"));
+}
+
+bool KirvTestedAccount::isDirectoryLocked(const QDialog *editWindow)
+{
+    return !KirvWindows::child<QWidget>(editWindow, "KirvField_town")->isEnabled();
+}
+
+QString KirvTestedAccount::directoryStatus(const QDialog *editWindow)
+{
+    return KirvWindows::child<QLabel>(editWindow, "EditAccount_PubDirStatus")->text();
+}
+
+QString KirvTestedAccount::directoryText(const QDialog *editWindow, const QString &field)
+{
+    const auto *widget = editWindow->findChild<QWidget *>(QLatin1String("KirvField_") + field);
+    if (const auto *line = qobject_cast<const QLineEdit *>(widget))
+        return line->text();
+    return qobject_cast<const QPlainTextEdit *>(widget)->toPlainText();
+}
+
+bool KirvTestedAccount::replaceLayout(const KirvWindows &windows, const QString &layout, const QString &topName)
+{
+    const QString name = layout + QStringLiteral(".ui");
+    QFile original(QStringLiteral(":/kirv/layouts/") + name);
+    const QDir folder(windows.profileFolder() + QStringLiteral("/layouts"));
+    QFile copy(folder.filePath(name));
+    if (!original.open(QFile::ReadOnly) || !folder.mkpath(QStringLiteral(".")) || !copy.open(QFile::WriteOnly))
+        return false;
+    const QByteArray topWidget = "name=\"" + layout.toUtf8() + "\"";
+    const QByteArray content = original.readAll();
+    return content.count(topWidget) == 1
+        && copy.write(QByteArray(content).replace(topWidget, "name=\"" + topName.toUtf8() + "\"")) > 0;
+}
