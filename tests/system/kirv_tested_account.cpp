@@ -2,8 +2,8 @@
 #include "tests/system/kirv_tested_account.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "core/connection/kirv_connection.h"
-#include "core/plugins/kirv_plugin_registry.h"
+#include "core/protocol/kirv_connection.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "host/kirv_account_connection.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
@@ -132,7 +132,7 @@ QDialog *KirvTestedAccount::openEditWindow()
     if (!QTest::qWaitFor([this] { return windows.client->accountsPage()->isVisible(); }, patience))
         return nullptr;
     windows.select(login);
-    KirvWalk::pressKey(windows.list(), Qt::Key_Return);
+    KirvWindowDriver::pressKey(windows.list(), Qt::Key_Return);
     const bool isOpen = QTest::qWaitFor(
         [] { return editWindow() && editWindow()->windowHandle() && editWindow()->windowHandle()->isExposed(); },
         patience);
@@ -162,61 +162,61 @@ QPushButton *KirvTestedAccount::saveButton(const QDialog *window)
 
 void KirvTestedAccount::pressSave(QDialog *window)
 {
-    KirvWalk::click(saveButton(window));
+    KirvWindowDriver::click(saveButton(window));
 }
 
 void KirvTestedAccount::pressCancel(QDialog *window)
 {
-    KirvWalk::click(KirvWindows::button(window, editButtons, QDialogButtonBox::Cancel));
+    KirvWindowDriver::click(KirvWindows::button(window, editButtons, QDialogButtonBox::Cancel));
 }
 
 void KirvTestedAccount::typePassword(QDialog *editWindow, const QString &password)
 {
-    KirvWalk::type(KirvWindows::child<QLineEdit>(editWindow, "EditAccount_Password"), password);
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(editWindow, "EditAccount_Password"), password);
 }
 
 void KirvTestedAccount::typeAlias(QDialog *editWindow, const QString &alias)
 {
-    KirvWalk::type(KirvWindows::child<QLineEdit>(editWindow, "EditAccount_Alias"), alias);
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(editWindow, "EditAccount_Alias"), alias);
 }
 
 bool KirvTestedAccount::confirmRefusedSave()
 {
     if (!QTest::qWaitFor([this] { return windows.question(); }, patience))
         return false;
-    KirvWalk::click(windows.question()->button(QMessageBox::Ok));
+    KirvWindowDriver::click(windows.question()->button(QMessageBox::Ok));
     return QTest::qWaitFor([this] { return !windows.question(); }, patience);
 }
 
 bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QString &password)
 {
     const QString command = QStringLiteral("Change Password on Server…");
-    KirvWalk walk(windows.profileFolder());
+    KirvWindowDriver walk(windows.profileFolder());
     walk.expectOnTop(
         QStringLiteral("The edit window is open"), [editWindow] { return editWindow->isVisible(); },
         [editWindow] {
-            KirvWalk::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
+            KirvWindowDriver::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
         });
     walk.expect(
-        QStringLiteral("The menu offers the command"), [command] { return KirvWalk::menuOffers(command); },
-        [command] { KirvWalk::clickInMenu(command); });
-    const auto dialog = [] { return KirvWalk::window(QStringLiteral("XmppPassword")); };
+        QStringLiteral("The menu offers the command"), [command] { return KirvWindowDriver::menuOffers(command); },
+        [command] { KirvWindowDriver::clickInMenu(command); });
+    const auto dialog = [] { return KirvWindowDriver::window(QStringLiteral("XmppPassword")); };
     if (!walk.run() || !QTest::qWaitFor([=] { return dialog(); }, patience))
         return false;
-    KirvWalk::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Password"), password);
-    KirvWalk::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Repetition"), password);
-    KirvWalk::click(KirvWindows::button(dialog(), "XmppPassword_Buttons", QDialogButtonBox::Ok));
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Password"), password);
+    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Repetition"), password);
+    KirvWindowDriver::click(KirvWindows::button(dialog(), "XmppPassword_Buttons", QDialogButtonBox::Ok));
     return QTest::qWaitFor([=] { return !dialog(); }, patience);
 }
 
 void KirvTestedAccount::showDirectory(QDialog *editWindow)
 {
-    KirvWalk::pressKey(KirvWindows::child<QTabWidget>(editWindow, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
+    KirvWindowDriver::pressKey(KirvWindows::child<QTabWidget>(editWindow, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
 }
 
 void KirvTestedAccount::fetchAgain(QDialog *editWindow)
 {
-    KirvWalk::click(KirvWindows::child<QAbstractButton>(editWindow, "EditAccount_PubDirFetch"));
+    KirvWindowDriver::click(KirvWindows::child<QAbstractButton>(editWindow, "EditAccount_PubDirFetch"));
 }
 
 bool KirvTestedAccount::isDirectoryLocked(const QDialog *editWindow)

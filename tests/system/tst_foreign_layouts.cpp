@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/system/kirv_tested_account.h"
 
@@ -118,20 +118,20 @@ bool tst_foreign_layouts::unloadWhileAdding(const QString &topName, const std::f
         return false;
     QPointer<QDialog> window;
     bool isUnloaded = false;
-    KirvWalk walk(windows->profileFolder());
+    KirvWindowDriver walk(windows->profileFolder());
     walk.expectOnTop(
         "The page is there", [this] { return windows->client->accountsPage()->isVisible(); },
         [this] {
-            KirvWalk::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
+            KirvWindowDriver::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
         });
     walk.expect(
-        "The menu offers the protocol", [] { return KirvWalk::menuOffers(xmpp); }, [] { KirvWalk::clickInMenu(xmpp); });
+        "The menu offers the protocol", [] { return KirvWindowDriver::menuOffers(xmpp); }, [] { KirvWindowDriver::clickInMenu(xmpp); });
     walk.expect(
         "The window is open", [] { return KirvTestedAccount::addWindow(); },
         [&] {
             window = KirvTestedAccount::addWindow();
-            KirvWalk::type(KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit"), bob);
-            KirvWalk::type(KirvWindows::child<QLineEdit>(window, "AddAccount_PasswordEdit"), secret);
+            KirvWindowDriver::type(KirvWindows::child<QLineEdit>(window, "AddAccount_UsernameEdit"), bob);
+            KirvWindowDriver::type(KirvWindows::child<QLineEdit>(window, "AddAccount_PasswordEdit"), secret);
             isUnloaded = account->unloadProtocol();
             if (then && window && window->isVisible())
                 then(window);

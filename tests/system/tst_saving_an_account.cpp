@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/demo/kirv_prosody_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 #include "tests/support/store_refusal.h"
 #include "tests/support/xmpp/xmpp_session_server.h"
 #include "tests/system/kirv_tested_account.h"
@@ -158,7 +158,7 @@ void tst_saving_an_account::refusedSaveChangesNothingOutside()
     QDialog *window = account->openEditWindow();
     QVERIFY(window);
     KirvTestedAccount::typePassword(window, newPassword);
-    KirvWalk::choose(KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo"), "Away");
+    KirvWindowDriver::choose(KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo"), "Away");
     StoreRefusal refusal(windows->profileFolder());
     QVERIFY(refusal.holds());
     KirvTestedAccount::pressSave(window);
@@ -189,7 +189,7 @@ void tst_saving_an_account::acceptedSaveReconnectsOnce()
     QDialog *window = account->openEditWindow();
     QVERIFY(window);
     KirvTestedAccount::typePassword(window, newPassword);
-    KirvWalk::choose(KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo"), "Away");
+    KirvWindowDriver::choose(KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo"), "Away");
     KirvWindows::fill(window, "resource", "elsewhere");
     KirvTestedAccount::pressSave(window);
     TRY(!KirvTestedAccount::editWindow());
