@@ -7,7 +7,7 @@
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plugins_page.h"
-#include "client/kirv_registration.h"
+#include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_window_companions.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -103,7 +103,6 @@ void KirvClient::createServices()
     pluginLoader = std::make_unique<KirvPluginLoader>();
     services = std::make_unique<KirvHostServices>(*accountCollection, *pluginLoader, *clientSettings);
     layouts = std::make_unique<KirvLayoutCatalog>();
-    companions = std::make_unique<KirvWindowCompanions>(*layouts, *accountCollection);
     const QDir profile(options.profileFolder);
     clientSettings->setThemeFolder(profile.filePath(QStringLiteral("themes")));
     layouts->setOverrideFolder(profile.filePath(QStringLiteral("layouts")));
@@ -115,18 +114,20 @@ void KirvClient::createWindow()
     // Building the page may reject layouts of the user's own already.
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
+    auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
+    companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, settingsWindow.get());
     page = KirvAccountsTab::getInstance();
-    connections = new KirvConnectionView(*accountCollection);
+    connections = new KirvConnectionView(*accountCollection, *serverCommands);
     pluginList = new KirvPluginsPage(*pluginLoader, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
     settingsWindow->addPage(connections, tr("Connections"), themeIcon(QStringLiteral("network-wired")));
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
-    auto *registration = new KirvRegistration(*pluginLoader, settingsWindow.get());
 
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
-    connect(registration, &KirvRegistration::unavailable, this, &KirvClient::showProblem);
+    connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
+    connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
     connect(connections, &KirvConnectionView::editRequested, this, &KirvClient::edit);
     connect(connections, &KirvConnectionView::passwordRequested, passwordQuestions, &KirvPasswordQuestions::ask);
 }

@@ -76,11 +76,11 @@ private:
     std::unique_ptr<KirvPluginLoader> pluginLoader;
     std::unique_ptr<KirvHostServices> services;
     std::unique_ptr<KirvLayoutCatalog> layouts;
-    std::unique_ptr<KirvWindowCompanions> companions;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
     QPointer<KirvAccountsTab> page;
     QPointer<KirvConnectionView> connections;
     QPointer<KirvPluginsPage> pluginList;
+    QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
 };
 

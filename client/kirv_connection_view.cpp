@@ -37,9 +37,10 @@ QMenu *createPresenceMenu(KirvAccount *account, QMenu *parent)
 }
 } // namespace
 
-KirvConnectionView::KirvConnectionView(KirvAccountCollection &accounts, QWidget *parent)
+KirvConnectionView::KirvConnectionView(KirvAccountCollection &accounts, KirvServerCommands &serverCommands,
+                                       QWidget *parent)
     : QWidget(parent)
-    , accounts(accounts)
+    , serverCommands(serverCommands)
     , model(new KirvConnectionModel(accounts, this))
     , sorted(new QSortFilterProxyModel(this))
     , list(new QTreeView(this))
@@ -174,7 +175,7 @@ void KirvConnectionView::showMenu(const QPoint &position)
     }
     if (account->isLoaded() && account->record().enabled)
         createPresenceMenu(account, menu);
-    if (KirvAccountActionsMenu::isUseful(account->key(), accounts))
-        menu->addMenu(new KirvAccountActionsMenu(account->key(), accounts, window(), menu));
+    if (KirvAccountActionsMenu::isUseful(account->key(), serverCommands))
+        menu->addMenu(new KirvAccountActionsMenu(account->key(), serverCommands, window(), menu));
     menu->popup(list->viewport()->mapToGlobal(position));
 }

@@ -7,6 +7,7 @@
 class KirvAccount;
 class KirvAccountCollection;
 class KirvConnectionModel;
+class KirvServerCommands;
 class QLabel;
 class QPushButton;
 class QSortFilterProxyModel;
@@ -17,8 +18,8 @@ class KirvConnectionView : public QWidget {
     Q_OBJECT
 
 public:
-    /// \a accounts is not owned and outlives the view.
-    explicit KirvConnectionView(KirvAccountCollection &accounts, QWidget *parent = nullptr);
+    /// Neither is owned, and both outlive the view.
+    KirvConnectionView(KirvAccountCollection &accounts, KirvServerCommands &serverCommands, QWidget *parent = nullptr);
 
     /// Another account became the main account.
     void refreshMainAccount();
@@ -41,7 +42,7 @@ private:
     void enterPassword();
     void showMenu(const QPoint &position);
 
-    KirvAccountCollection &accounts;
+    KirvServerCommands &serverCommands;
     KirvConnectionModel *model;
     QSortFilterProxyModel *sorted;
     QTreeView *list;

@@ -15,11 +15,13 @@
 #include <QTextEdit>
 
 KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
-                                                 KirvAccountCollection &accounts)
+                                                 KirvAccountCollection &accounts,
+                                                 KirvServerCommands &serverCommands)
     : QObject(window)
     , window(window)
     , controller(controller)
     , accounts(accounts)
+    , serverCommands(serverCommands)
     , accountKey { controller->getAccountId(), controller->getProtocolName() }
     , buttons(window->findChild<QDialogButtonBox *>(QStringLiteral("EditAccount_FrameButtons")))
     , saveButton(buttons->button(QDialogButtonBox::Save))
@@ -90,13 +92,13 @@ void KirvEditWindowCompanion::showDescriptionAsPlainText(const KirvAccount &acco
 
 void KirvEditWindowCompanion::addServerAccountButton()
 {
-    if (!KirvAccountActionsMenu::isUseful(accountKey, accounts))
+    if (!KirvAccountActionsMenu::isUseful(accountKey, serverCommands))
         return;
     QPushButton *more = buttons->addButton(tr("&Server Account"), QDialogButtonBox::ResetRole); // stands apart
     more->setObjectName(QStringLiteral("EditAccount_ServerAccountButton"));
     more->setAutoDefault(false);
     more->setToolTip(tr("What can be done with the account on its server."));
-    more->setMenu(new KirvAccountActionsMenu(accountKey, accounts, window, more));
+    more->setMenu(new KirvAccountActionsMenu(accountKey, serverCommands, window, more));
 }
 
 void KirvEditWindowCompanion::beginSave()

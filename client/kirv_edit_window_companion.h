@@ -12,6 +12,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvDirectoryGuard;
 class KirvEditAccountDialog;
+class KirvServerCommands;
 class QDialogButtonBox;
 class QLineEdit;
 class QPushButton;
@@ -25,9 +26,9 @@ class KirvEditWindowCompanion : public QObject, public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller. \a accounts outlives both.
+    /// \a window was just built for \a controller. \a accounts and \a serverCommands outlive both.
     KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
-                            KirvAccountCollection &accounts);
+                            KirvAccountCollection &accounts, KirvServerCommands &serverCommands);
     ~KirvEditWindowCompanion() override;
 
     /// The account that the window edits.
@@ -53,6 +54,7 @@ private:
     KirvLayoutDialog *window;
     QPointer<KirvEditAccountDialog> controller;
     KirvAccountCollection &accounts;
+    KirvServerCommands &serverCommands;
     const KirvAccountKey accountKey;
     QDialogButtonBox *buttons;
     QPushButton *saveButton;

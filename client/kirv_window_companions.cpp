@@ -8,9 +8,11 @@
 #include "core/ui/kirv_layout_catalog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 
-KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts, QObject *parent)
+KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
+                                           KirvServerCommands &serverCommands, QObject *parent)
     : QObject(parent)
     , accounts(accounts)
+    , serverCommands(serverCommands)
 {
     connect(&layouts, &KirvLayoutCatalog::windowBuilt, this, &KirvWindowCompanions::add);
 }
@@ -41,7 +43,7 @@ void KirvWindowCompanions::add(const QString &layout, QWidget *top)
         pageCompanion = new KirvAccountsPageCompanion(top, accounts);
     } else if (KirvEditAccountDialog *controller = KirvEditAccountDialog::of(dialog)) {
         editWindows.removeAll(nullptr);
-        editWindows << new KirvEditWindowCompanion(dialog, controller, accounts);
+        editWindows << new KirvEditWindowCompanion(dialog, controller, accounts, serverCommands);
     } else if (const KirvAddAccountDialog *controller = KirvAddAccountDialog::of(dialog)) {
         addWindows.removeAll(nullptr);
         addWindows << new KirvAddWindowCompanion(dialog, controller);

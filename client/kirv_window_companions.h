@@ -11,6 +11,7 @@ class KirvAccountsPageCompanion;
 class KirvAddWindowCompanion;
 class KirvEditWindowCompanion;
 class KirvLayoutCatalog;
+class KirvServerCommands;
 class QWidget;
 
 /// Gives each window that is built from a layout its companion, as soon as it is built.
@@ -19,7 +20,8 @@ class KirvWindowCompanions : public QObject {
 
 public:
     /// None is owned, and all outlive this.
-    KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts, QObject *parent = nullptr);
+    KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
+                         KirvServerCommands &serverCommands, QObject *parent = nullptr);
 
     /// That of the page; null before the page is built and after it is gone.
     KirvAccountsPageCompanion *page() const;
@@ -30,6 +32,7 @@ private:
     void add(const QString &layout, QWidget *top);
 
     KirvAccountCollection &accounts;
+    KirvServerCommands &serverCommands;
     QPointer<KirvAccountsPageCompanion> pageCompanion;
     QList<QPointer<KirvEditWindowCompanion>> editWindows;
     QList<QPointer<KirvAddWindowCompanion>> addWindows;
