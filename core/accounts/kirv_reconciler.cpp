@@ -77,9 +77,6 @@ KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvCo
             return LogIn;
         break;
     case KirvConnection::Connecting:
-        if (isOtherLogin)
-            return LogIn;
-        break;
     case KirvConnection::Online:
         if (isOtherLogin || urge == Reconnect)
             return LogIn;

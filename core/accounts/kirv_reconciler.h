@@ -34,7 +34,7 @@ public:
     enum Urge {
         None,
         Retry, ///< a connection that gave up or waits tries again at once
-        Reconnect ///< a connection that is logged in logs out and in again
+        Reconnect ///< also, a connection that is logged in logs out and in again, and an attempt starts afresh
     };
 
     /// \a wanted is called for what is wanted now.

@@ -250,7 +250,7 @@ void tst_Connection::aLoginThatTakesTooLongIsBrokenOff()
     QCOMPARE(connection->takeCalls(), QStringList { "abort" });
     QCOMPARE(connection->state(), State::Waiting);
     QCOMPARE(connection->lastFailure().kind(), KirvFailure::TimedOut);
-    clock.advance(connection->timing().firstRetry);
+    clock.advance(connection->timing().backOff.first);
     QCOMPARE(connection->takeCalls(), QStringList { "login available" });
     QCOMPARE(connection->state(), State::Connecting);
 }
@@ -441,7 +441,7 @@ void tst_Connection::goingSomewhereEndsTheWait()
     connection->goTo(away);
     QCOMPARE(connection->takeCalls(), QStringList { "login away" });
     QVERIFY(!connection->nextRetry().isValid());
-    clock.advance(connection->timing().firstRetry);
+    clock.advance(connection->timing().backOff.first);
     QCOMPARE(connection->takeCalls(), QStringList());
 }
 
@@ -570,7 +570,7 @@ void tst_Connection::ignoresReportsOfItsOwnAbort()
     QCOMPARE(failures.size(), 1);
     QCOMPARE(connection->lastFailure().kind(), KirvFailure::TimedOut);
     QCOMPARE(takeStates(), QList<State> { State::Waiting });
-    clock.advance(connection->timing().firstRetry);
+    clock.advance(connection->timing().backOff.first);
     connection->drop();
     QCOMPARE(failures.size(), 1);
     QCOMPARE(takeStates(), (QList<State> { State::Connecting, State::Offline }));
@@ -584,7 +584,7 @@ void tst_Connection::takesSynchronousAnswers()
     QCOMPARE(takeStates(), (QList<State> { State::Connecting, State::Waiting }));
     connection->answerToLogin = [this] { connection->loginSucceeded(); };
     connection->answerToLogout = [this] { connection->logoutFinished(); };
-    clock.advance(connection->timing().firstRetry);
+    clock.advance(connection->timing().backOff.first);
     QVERIFY(connection->isLoggedIn());
     connection->reconnect(available);
     QVERIFY(connection->isLoggedIn());

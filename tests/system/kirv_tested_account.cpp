@@ -110,8 +110,8 @@ void KirvTestedAccount::waitForAnswers(int milliseconds)
     KirvConnection *internal = windows.account(login)->connection();
     KirvConnection::Timing timing = internal->timing();
     timing.requestTimeout = milliseconds;
-    timing.firstRetry = 3600 * 1000;
-    timing.lastRetry = timing.firstRetry;
+    timing.backOff.first = 3600 * 1000;
+    timing.backOff.last = timing.backOff.first;
     internal->setTiming(timing);
 }
 
@@ -200,13 +200,22 @@ bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QStrin
     walk.expect(
         QStringLiteral("The menu offers the command"), [command] { return KirvWindowDriver::menuOffers(command); },
         [command] { KirvWindowDriver::clickInMenu(command); });
-    const auto dialog = [] { return KirvWindowDriver::window(QStringLiteral("XmppPassword")); };
-    if (!walk.run() || !QTest::qWaitFor([=] { return dialog(); }, patience))
+    const auto assistant = [] { return KirvWindowDriver::window(QStringLiteral("ServerAssistant")); };
+    if (!walk.run() || !QTest::qWaitFor([=] { return assistant(); }, patience))
         return false;
-    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Password"), password);
-    KirvWindowDriver::type(KirvWindows::child<QLineEdit>(dialog(), "XmppPassword_Repetition"), password);
-    KirvWindowDriver::click(KirvWindows::button(dialog(), "XmppPassword_Buttons", QDialogButtonBox::Ok));
-    return QTest::qWaitFor([=] { return !dialog(); }, patience);
+    const auto edits = assistant()->findChildren<QLineEdit *>();
+    for (QLineEdit *edit : edits)
+        KirvWindowDriver::type(edit, password);
+    const QPointer<QPushButton> next = KirvWindows::child<QPushButton>(assistant(), "ServerAssistant_NextButton");
+    KirvWindowDriver::click(next);
+    // It stays when the store has refused the password, and says so.
+    const auto *message = KirvWindows::child<QWidget>(assistant(), "ServerAssistant_Message");
+    const auto isDone = [&] { return !assistant() || (next && next->isEnabled() && message->isVisible()); };
+    if (!QTest::qWaitFor(isDone, patience))
+        return false;
+    if (assistant())
+        KirvWindowDriver::click(KirvWindows::child<QPushButton>(assistant(), "ServerAssistant_CloseButton"));
+    return QTest::qWaitFor([=] { return !assistant(); }, patience);
 }
 
 void KirvTestedAccount::showDirectory(QDialog *editWindow)

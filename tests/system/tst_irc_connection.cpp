@@ -202,8 +202,8 @@ KirvAccount *TestIrcConnection::createAccount(const QString &login, const Values
         login, login, password, true, protocol, presence("offline"), fields));
     KirvConnection::Timing timing;
     timing.loginTimeout = patience;
-    timing.firstRetry = 50;
-    timing.lastRetry = 200;
+    timing.backOff.first = 50;
+    timing.backOff.last = 200;
     account->connection()->setTiming(timing);
     return account;
 }
@@ -643,7 +643,7 @@ void TestIrcConnection::hungServerTimesOut()
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.loginTimeout = 100;
-    timing.firstRetry = patience;
+    timing.backOff.first = patience;
     account->connection()->setTiming(timing);
     goTo(account, "available");
     TRY_FAILURE(account, TimedOut);
@@ -657,7 +657,7 @@ void TestIrcConnection::serverThatFallsSilentIsLost()
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.requestTimeout = 50;
-    timing.firstRetry = patience;
+    timing.backOff.first = patience;
     account->connection()->setTiming(timing);
     goTo(account, "available");
     TRY_STATE(account, Online);

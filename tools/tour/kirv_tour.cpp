@@ -129,21 +129,21 @@ void KirvTour::planFirstAccount()
         QStringLiteral("The window for a new account opens"), [] { return KirvWindowDriver::window(add); },
         [] { chooseIn(add, QStringLiteral("AddAccount_Configuration"), QStringLiteral("Server on this computer")); });
     walk.expect(
-        QStringLiteral("The ready-made configuration is chosen; Save is asleep without login and password"),
+        QStringLiteral("The ready-made configuration is chosen; Save is disabled without login and password"),
         [] {
             const auto *box = child<QComboBox>(add, QStringLiteral("AddAccount_Configuration"));
             return box->currentText() == QLatin1String("Server on this computer") && !saveInAddWindow()->isEnabled();
         },
         [this] { typeInto(add, QStringLiteral("AddAccount_UsernameEdit"), demo.address()); });
     walk.expect(
-        QStringLiteral("Save is asleep without a password"),
+        QStringLiteral("Save is disabled without a password"),
         [this] {
             return child<QLineEdit>(add, QStringLiteral("AddAccount_UsernameEdit"))->text() == demo.address()
                 && !saveInAddWindow()->isEnabled();
         },
         [this] { typeInto(add, QStringLiteral("AddAccount_PasswordEdit"), demo.password()); });
     walk.expect(
-        QStringLiteral("Save is awake with login and password"), [] { return saveInAddWindow()->isEnabled(); },
+        QStringLiteral("Save is enabled with login and password"), [] { return saveInAddWindow()->isEnabled(); },
         [] {
             auto *remember = child<QCheckBox>(add, QStringLiteral("AddAccount_RememberPasswordCheckbox"));
             if (!remember->isChecked())
@@ -259,7 +259,7 @@ void KirvTour::planIrcAccount()
             typeInto(add, QStringLiteral("AddAccount_PasswordEdit"), demo.password());
         });
     walk.expect(
-        QStringLiteral("Save is awake with nickname and password"), [] { return saveInAddWindow()->isEnabled(); },
+        QStringLiteral("Save is enabled with nickname and password"), [] { return saveInAddWindow()->isEnabled(); },
         [] { KirvWindowDriver::click(saveInAddWindow()); });
     walk.expectOnTop(
         QStringLiteral("Both accounts stand in the list"),

@@ -14,6 +14,8 @@ XmppProfile::XmppProfile()
     }
     registry = std::make_unique<KirvAccountCollection>(store);
     pluginRegistry = std::make_unique<KirvPluginLoader>();
+    settings = std::make_unique<KirvClientSettings>(store);
+    services = std::make_unique<KirvHostServices>(*registry, *pluginRegistry, *settings);
     QObject::connect(pluginRegistry.get(), &KirvPluginLoader::protocolLoaded, registry.get(),
                      [this](KirvProtocolBase *loaded) { registry->protocolLoaded(loaded); });
     QObject::connect(pluginRegistry.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, registry.get(),
@@ -48,8 +50,8 @@ KirvAccount *XmppProfile::createAccount(const QString &login, const Values &valu
         login, login, password, true, xmpp, xmpp->createPresenceWithId("offline", QString()), fields));
     KirvConnection::Timing timing;
     timing.loginTimeout = patience;
-    timing.firstRetry = 50;
-    timing.lastRetry = 200;
+    timing.backOff.first = 50;
+    timing.backOff.last = 200;
     account->connection()->setTiming(timing);
     return account;
 }

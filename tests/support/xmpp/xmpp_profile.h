@@ -4,9 +4,11 @@
 
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/host/kirv_host_services.h"
 #include "core/protocol/kirv_connection.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
 
 #include <QMap>
@@ -46,6 +48,8 @@ private:
     KirvStore store;
     std::unique_ptr<KirvAccountCollection> registry;
     std::unique_ptr<KirvPluginLoader> pluginRegistry;
+    std::unique_ptr<KirvClientSettings> settings;
+    std::unique_ptr<KirvHostServices> services;
     KirvProtocolBase *xmpp = nullptr;
     QString error;
 };
