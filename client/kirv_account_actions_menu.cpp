@@ -2,23 +2,13 @@
 #include "client/kirv_account_actions_menu.h"
 
 #include "client/kirv_plain_text.h"
-#include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_collection.h"
-#include "core/protocol/kirv_protocol_base.h"
+#include "client/kirv_server_commands.h"
 
-namespace {
-/// Null when the account is gone or its protocol is not loaded.
-KirvProtocolBase *protocolOf(KirvAccount *account)
-{
-    return account && account->isLoaded() ? dynamic_cast<KirvProtocolBase *>(account->getProtocol()) : nullptr;
-}
-} // namespace
-
-KirvAccountActionsMenu::KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountCollection &accounts,
-                                               QWidget *window, QWidget *parent)
+KirvAccountActionsMenu::KirvAccountActionsMenu(const KirvAccountKey &key, KirvServerCommands &commands, QWidget *window,
+                                               QWidget *parent)
     : QMenu(parent)
     , key(key)
-    , accounts(accounts)
+    , commands(commands)
     , window(window)
 {
     setObjectName(QStringLiteral("AccountActions"));
@@ -27,31 +17,20 @@ KirvAccountActionsMenu::KirvAccountActionsMenu(const KirvAccountKey &key, KirvAc
     connect(this, &QMenu::aboutToShow, this, &KirvAccountActionsMenu::fill);
 }
 
-bool KirvAccountActionsMenu::isUseful(const KirvAccountKey &key, const KirvAccountCollection &accounts)
+bool KirvAccountActionsMenu::isUseful(const KirvAccountKey &key, const KirvServerCommands &commands)
 {
-    KirvAccount *account = accounts.find(key);
-    const KirvProtocolBase *protocol = protocolOf(account);
-    return protocol && !protocol->accountActions(account).isEmpty();
+    return !commands.actionsOf(key).isEmpty();
 }
 
 void KirvAccountActionsMenu::fill()
 {
     clear();
-    KirvAccount *account = accounts.find(key);
-    const KirvProtocolBase *protocol = protocolOf(account);
-    const QList<KirvAccountAction> commands = protocol ? protocol->accountActions(account) : QList<KirvAccountAction>();
-    for (const KirvAccountAction &command : commands) {
-        QAction *action = addAction(command.text);
-        action->setObjectName(command.id);
-        action->setToolTip(kirvPlainToolTip(command.toolTip));
-        action->setEnabled(!command.needsConnection || account->isLoggedIn());
-        connect(action, &QAction::triggered, this, [this, id = command.id] { run(id); });
+    const QList<KirvAccountAction> actions = commands.actionsOf(key);
+    for (const KirvAccountAction &offered : actions) {
+        QAction *action = addAction(offered.text);
+        action->setObjectName(offered.id);
+        action->setToolTip(kirvPlainToolTip(offered.toolTip));
+        action->setEnabled(commands.canRun(key));
+        connect(action, &QAction::triggered, this, [this, id = offered.id] { commands.run(key, id, window); });
     }
-}
-
-void KirvAccountActionsMenu::run(const QString &actionId)
-{
-    KirvAccount *account = accounts.find(key);
-    if (KirvProtocolBase *protocol = protocolOf(account))
-        protocol->runAccountAction(actionId, account, window);
 }

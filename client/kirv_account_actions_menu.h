@@ -5,28 +5,27 @@
 #include "core/values/kirv_account_key.h"
 
 #include <QMenu>
+#include <QPointer>
 
-class KirvAccountCollection;
+class KirvServerCommands;
 
-/// The commands that a protocol offers for one account beyond the ordinary ones, asked for each time the menu
-/// opens.
+/// What a protocol offers for one account on its server; read anew each time the menu opens.
 class KirvAccountActionsMenu : public QMenu {
     Q_OBJECT
 
 public:
-    /// \a accounts is not owned and outlives the menu. \a window is the parent for what a command asks.
-    KirvAccountActionsMenu(const KirvAccountKey &key, KirvAccountCollection &accounts, QWidget *window, QWidget *parent);
+    /// \a commands are not owned and outlive the menu. The windows of the actions stand over \a window.
+    KirvAccountActionsMenu(const KirvAccountKey &key, KirvServerCommands &commands, QWidget *window, QWidget *parent);
 
-    /// Whether the protocol has any command for the account.
-    static bool isUseful(const KirvAccountKey &key, const KirvAccountCollection &accounts);
+    /// Whether the protocol offers anything for the account.
+    static bool isUseful(const KirvAccountKey &key, const KirvServerCommands &commands);
 
 private:
     void fill();
-    void run(const QString &actionId);
 
     const KirvAccountKey key;
-    KirvAccountCollection &accounts;
-    QWidget *window;
+    KirvServerCommands &commands;
+    const QPointer<QWidget> window;
 };
 
 #endif

@@ -1,0 +1,357 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_server_assistant.h"
+
+#include "client/kirv_wrapped_text.h"
+#include "core/ui/kirv_form_area.h"
+#include "core/ui/kirv_keyboard.h"
+#include "core/values/kirv_bounded_image.h"
+#include "host/kirv_field_widget.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace {
+
+const int largestPictureSide = 400; // in pixels
+const int mostPictures = 4; // each may take long to decode
+const int longestMessage = 600; // in characters; it does not scroll
+
+QLabel *createIcon(const QString &objectName, QStyle::PixelMetric size, QWidget *parent)
+{
+    auto *icon = new QLabel(parent);
+    icon->setObjectName(objectName);
+    icon->setAccessibleName(KirvServerAssistant::tr("Warning"));
+    const int side = parent->style()->pixelMetric(size, nullptr, parent);
+    icon->setPixmap(parent->style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, parent).pixmap(side, side));
+    icon->setAlignment(Qt::AlignTop);
+    icon->hide();
+    return icon;
+}
+
+KirvWrappedText *createText(const QString &objectName, const QString &accessibleName, QWidget *parent)
+{
+    auto *text = new KirvWrappedText(parent);
+    text->setObjectName(objectName);
+    text->setAccessibleName(accessibleName);
+    return text;
+}
+
+/// The first control in \a form that is there to be filled in, or null.
+QWidget *firstControl(QWidget *form)
+{
+    for (QWidget *widget = form->nextInFocusChain(); widget != form; widget = widget->nextInFocusChain()) {
+        const bool takesTab = widget->focusPolicy() & Qt::TabFocus && widget->isEnabled();
+        if (takesTab && form->isAncestorOf(widget) && widget->isVisibleTo(form) && !widget->focusProxy())
+            return widget;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+KirvServerAssistant::KirvServerAssistant(KirvServerRequest *request, QWidget *parent)
+    : QDialog(parent)
+    , request(request)
+{
+    setObjectName(QStringLiteral("ServerAssistant"));
+    setWindowTitle(request->title());
+    build();
+    updateButtons();
+
+    connect(request, &KirvServerRequest::stepReady, this, &KirvServerAssistant::showStep);
+    connect(request, &KirvServerRequest::waiting, this, [this](const QString &reason) {
+        setWaiting(true);
+        showMessage(reason, false);
+    });
+    connect(request, &KirvServerRequest::failed, this, [this](const KirvFailure &failure) {
+        setWaiting(false);
+        showMessage(failure.text(), true);
+    });
+    connect(request, &KirvServerRequest::inputRejected, this, [this](const QString &reason) {
+        setWaiting(false);
+        showMessage(reason, true);
+    });
+}
+
+void KirvServerAssistant::build()
+{
+    area = new KirvFormArea(this);
+    area->setObjectName(QStringLiteral("ServerAssistant_Area"));
+    area->setWidget(createPage());
+    progress = new QProgressBar(this);
+    progress->setObjectName(QStringLiteral("ServerAssistant_Progress"));
+    progress->setAccessibleName(tr("Waiting for the server"));
+    progress->setRange(0, 0);
+    progress->setTextVisible(false);
+    progress->hide();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(area, 1);
+    layout->addWidget(createMessageRow());
+    layout->addWidget(progress);
+    layout->addWidget(createButtons());
+}
+
+QWidget *KirvServerAssistant::createPage()
+{
+    auto *page = new QWidget;
+    warningIcon = createIcon(QStringLiteral("ServerAssistant_Icon"), QStyle::PM_MessageBoxIconSize, page);
+    text = createText(QStringLiteral("ServerAssistant_Text"), tr("Instructions"), page);
+    connect(text, &QTextEdit::cursorPositionChanged, this, [this] {
+        const QPoint cursor = text->viewport()->mapTo(area->widget(), text->cursorRect().center());
+        if (text->hasFocus())
+            area->ensureVisible(cursor.x(), cursor.y());
+    });
+
+    configurationRow = new QWidget(page);
+    configurationRow->setObjectName(QStringLiteral("ServerAssistant_ConfigurationRow"));
+    configurationBox = new QComboBox(configurationRow);
+    configurationBox->setObjectName(QStringLiteral("ServerAssistant_Configuration"));
+    configurationBox->setAccessibleName(tr("Configuration"));
+    configurationBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    configurationBox->setMinimumContentsLength(12);
+    connect(configurationBox, QOverload<int>::of(&QComboBox::activated), this,
+            [this](int index) { useConfiguration(configurationBox->itemText(index)); });
+    auto *choice = new QFormLayout(configurationRow);
+    choice->setContentsMargins(0, 0, 0, 0);
+    choice->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    choice->addRow(tr("Con&figuration:"), configurationBox);
+
+    pictureList = new QWidget(page);
+    pictureList->setObjectName(QStringLiteral("ServerAssistant_Pictures"));
+    (new QVBoxLayout(pictureList))->setContentsMargins(0, 0, 0, 0);
+    fields = new KirvFieldWidget({}, page, KirvFieldWidget::LabelsBeside);
+    fields->setObjectName(QStringLiteral("ServerAssistant_Fields"));
+    rememberBox = new QCheckBox(tr("&Remember the password"), page);
+    rememberBox->setObjectName(QStringLiteral("ServerAssistant_Remember"));
+    rememberBox->setToolTip(tr("Stores the password in your profile."));
+    rememberBox->setChecked(true);
+
+    auto *introduction = new QHBoxLayout;
+    introduction->addWidget(warningIcon);
+    introduction->addWidget(text, 1);
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(introduction);
+    for (QWidget *part :
+         { configurationRow, pictureList, static_cast<QWidget *>(fields), static_cast<QWidget *>(rememberBox) })
+        layout->addWidget(part);
+    layout->addStretch();
+    return page;
+}
+
+QWidget *KirvServerAssistant::createMessageRow()
+{
+    messageRow = new QWidget(this);
+    messageRow->setObjectName(QStringLiteral("ServerAssistant_MessageRow"));
+    messageIcon = createIcon(QStringLiteral("ServerAssistant_MessageIcon"), QStyle::PM_SmallIconSize, messageRow);
+    message = createText(QStringLiteral("ServerAssistant_Message"), tr("Message"), messageRow);
+    auto *layout = new QHBoxLayout(messageRow);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(messageIcon);
+    layout->addWidget(message, 1);
+    messageRow->hide();
+    return messageRow;
+}
+
+QWidget *KirvServerAssistant::createButtons()
+{
+    auto *row = new QWidget(this);
+    const auto createButton = [row](const char *objectName, const QString &caption) {
+        auto *button = new QPushButton(caption, row);
+        button->setObjectName(QLatin1String(objectName));
+        button->setAutoDefault(false);
+        return button;
+    };
+    backButton = createButton("ServerAssistant_BackButton", tr("&Back"));
+    nextButton = createButton("ServerAssistant_NextButton", QString());
+    closeButton = createButton("ServerAssistant_CloseButton", QString());
+    connect(backButton, &QPushButton::clicked, this, &KirvServerAssistant::goBack);
+    connect(nextButton, &QPushButton::clicked, this, &KirvServerAssistant::goOn);
+    connect(closeButton, &QPushButton::clicked, this, &QDialog::close);
+
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addWidget(backButton);
+    layout->addWidget(nextButton);
+    layout->addWidget(closeButton);
+    return row;
+}
+
+bool KirvServerAssistant::isPasswordToBeRemembered() const
+{
+    return rememberBox->isChecked();
+}
+
+void KirvServerAssistant::showStep(const KirvServerRequest::Step &newStep)
+{
+    step = newStep;
+    setWaiting(false);
+    warningIcon->setVisible(step.isDangerous);
+    showText(text, step.text);
+    showConfigurations(step.configurations);
+    showPictures(step.pictures);
+    fields->fillWithFields(step.fields);
+    fields->setVisible(!step.fields.isEmpty());
+    rememberBox->setVisible(step.hasPassword);
+    showMessage(step.notice, true);
+    focusStep();
+    growLater();
+}
+
+void KirvServerAssistant::showConfigurations(const QStringList &configurations)
+{
+    configurationRow->setVisible(!configurations.isEmpty());
+    QStringList present;
+    for (int i = 0; i < configurationBox->count(); ++i)
+        present << configurationBox->itemText(i);
+    if (configurations.isEmpty() || configurations == present)
+        return; // what was chosen stays for when the step comes again
+    configurationBox->clear();
+    configurationBox->addItems(configurations);
+}
+
+void KirvServerAssistant::showPictures(const QList<KirvServerRequest::Picture> &pictures)
+{
+    QLayout *list = pictureList->layout();
+    while (QLayoutItem *item = list->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    for (int i = 0; i < pictures.size() && i < mostPictures; ++i)
+        list->addWidget(createPicture(pictures.at(i), i + 1));
+    pictureList->setVisible(!pictures.isEmpty());
+}
+
+QWidget *KirvServerAssistant::createPicture(const KirvServerRequest::Picture &picture, int number)
+{
+    const QString objectName = QStringLiteral("ServerAssistant_Picture%1").arg(number);
+    const KirvBoundedImage image = KirvBoundedImage::fromData(picture.data, picture.label, largestPictureSide);
+    if (image.isNull()) {
+        KirvWrappedText *replacement = createText(objectName, picture.label, pictureList);
+        //: %1 = a caption, %2 = an address
+        replacement->showText(
+            tr("There is a picture for “%1”, which cannot be shown: %2").arg(picture.label, picture.address));
+        return replacement;
+    }
+    auto *label = new QLabel(pictureList);
+    label->setObjectName(objectName);
+    label->setAccessibleName(picture.label);
+    label->setPixmap(QPixmap::fromImage(image.image()));
+    return label;
+}
+
+/// The keyboard stays in a field that the new step has, too, and goes to the first one otherwise.
+void KirvServerAssistant::focusStep()
+{
+    if (focusWidget() && fields->isAncestorOf(focusWidget()) && focusWidget()->isVisibleTo(this))
+        return;
+    QWidget *first = firstControl(fields);
+    if (!first)
+        first = nextButton->isDefault() ? nextButton : closeButton;
+    first->setFocus();
+}
+
+/// Makes room for what is new when it has found its size.
+void KirvServerAssistant::growLater()
+{
+    QMetaObject::invokeMethod(this, &KirvServerAssistant::grow, Qt::QueuedConnection);
+}
+
+void KirvServerAssistant::grow()
+{
+    area->updateGeometry();
+    const QSize available = screen()->availableGeometry().size() * 9 / 10;
+    resize(size().expandedTo(sizeHint().boundedTo(available)));
+}
+
+void KirvServerAssistant::showText(KirvWrappedText *widget, const QString &content)
+{
+    widget->showText(content);
+    widget->setVisible(!content.isEmpty());
+}
+
+void KirvServerAssistant::showMessage(const QString &content, bool isProblem)
+{
+    const bool isTooLong = content.size() > longestMessage;
+    showText(message, isTooLong ? content.left(longestMessage - 1) + QChar(0x2026) : content);
+    messageIcon->setVisible(isProblem);
+    messageRow->setVisible(!content.isEmpty());
+    growLater();
+    if (content.isEmpty() || !isVisible())
+        return;
+    QAccessibleEvent alert(message, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void KirvServerAssistant::useConfiguration(const QString &name)
+{
+    if (request)
+        fields->fillWithFields(request->fieldsOf(name, fields->getFields()));
+}
+
+void KirvServerAssistant::goOn()
+{
+    if (isOver)
+        Q_EMIT outcomeCommandTriggered();
+    else if (request)
+        request->submit(fields->getFields());
+}
+
+void KirvServerAssistant::goBack()
+{
+    if (request)
+        request->goBack(fields->getFields());
+}
+
+void KirvServerAssistant::showOutcome(const QString &content, const QString &command)
+{
+    isOver = true;
+    step.command = command;
+    step.isDangerous = false;
+    step.canGoBack = false;
+    setWaiting(false);
+    area->setEnabled(false);
+    showMessage(content, true);
+    (command.isEmpty() ? closeButton : nextButton)->setFocus();
+}
+
+void KirvServerAssistant::setWaiting(bool waiting)
+{
+    if (waiting && !isWaiting)
+        focusBefore = focusWidget();
+    isWaiting = waiting;
+    area->setEnabled(!waiting);
+    progress->setVisible(waiting);
+    updateButtons();
+    // It went to the close button when the rest was disabled.
+    if (!waiting && focusBefore && focusBefore->isVisibleTo(this) && isAncestorOf(focusBefore))
+        focusBefore->setFocus();
+    if (!waiting)
+        focusBefore.clear();
+}
+
+void KirvServerAssistant::updateButtons()
+{
+    const bool canGoOn = !step.command.isEmpty();
+    backButton->setVisible(step.canGoBack);
+    nextButton->setVisible(canGoOn);
+    nextButton->setEnabled(!isWaiting);
+    closeButton->setText(canGoOn && !isOver ? tr("Cancel") : tr("Cl&ose"));
+    nextButton->setText(QString());
+    QSet<QChar> taken = kirvMnemonicsAround(nextButton);
+    nextButton->setText(kirvWithMnemonic(step.command, &taken));
+    const bool isDefault = canGoOn && !step.isDangerous;
+    nextButton->setDefault(isDefault);
+    closeButton->setDefault(!isDefault);
+}

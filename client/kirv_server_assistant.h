@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_SERVER_ASSISTANT_H
+#define KIRV_SERVER_ASSISTANT_H
+
+#include "core/protocol/kirv_server_request.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class KirvFieldWidget;
+class KirvFormArea;
+class KirvWrappedText;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QVBoxLayout;
+
+/// Shows a server request of any protocol step by step. What comes from a server is shown as plain text; what was
+/// typed stays, whatever the server replies.
+///
+/// It knows nothing of accounts: whoever owns the request handles its result and calls showOutcome() when there is
+/// something to say about it. Closing the window does not end the request.
+class KirvServerAssistant : public QDialog {
+    Q_OBJECT
+
+public:
+    /// \a request is not owned; it may be destroyed first. Start it afterwards.
+    KirvServerAssistant(KirvServerRequest *request, QWidget *parent);
+
+    /// Whether the password of the new account is to be stored.
+    bool isPasswordToBeRemembered() const;
+    /// The request is over, and \a text says what is left to say. With a \a command, in title case, there is a button
+    /// besides Close that emits outcomeCommandTriggered().
+    void showOutcome(const QString &text, const QString &command);
+
+Q_SIGNALS:
+    void outcomeCommandTriggered();
+
+private:
+    void build();
+    QWidget *createPage();
+    QWidget *createMessageRow();
+    QWidget *createButtons();
+    QWidget *createPicture(const KirvServerRequest::Picture &picture, int number);
+
+    void showStep(const KirvServerRequest::Step &newStep);
+    void showConfigurations(const QStringList &configurations);
+    void showPictures(const QList<KirvServerRequest::Picture> &pictures);
+    void focusStep();
+    void growLater();
+    void grow();
+    void showText(KirvWrappedText *widget, const QString &text);
+    void showMessage(const QString &text, bool isProblem);
+
+    void useConfiguration(const QString &name);
+    void goOn();
+    void goBack();
+    void setWaiting(bool isWaiting);
+    void updateButtons();
+
+    const QPointer<KirvServerRequest> request;
+    KirvServerRequest::Step step;
+    bool isWaiting = false;
+    bool isOver = false;
+    QPointer<QWidget> focusBefore; ///< where the keyboard was when waiting began
+
+    KirvFormArea *area = nullptr;
+    QLabel *warningIcon = nullptr;
+    KirvWrappedText *text = nullptr;
+    QWidget *configurationRow = nullptr;
+    QComboBox *configurationBox = nullptr;
+    QWidget *pictureList = nullptr;
+    KirvFieldWidget *fields = nullptr;
+    QCheckBox *rememberBox = nullptr;
+    QWidget *messageRow = nullptr;
+    QLabel *messageIcon = nullptr;
+    KirvWrappedText *message = nullptr;
+    QProgressBar *progress = nullptr;
+    QPushButton *backButton = nullptr;
+    QPushButton *nextButton = nullptr;
+    QPushButton *closeButton = nullptr;
+};
+
+#endif
