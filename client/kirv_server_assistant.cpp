@@ -23,6 +23,7 @@ namespace {
 
 const int largestPictureSide = 400; // in pixels
 const int mostPictures = 4; // each may take long to decode
+const int longestMessage = 600; // in characters; it does not scroll
 
 QLabel *createIcon(const QString &objectName, QStyle::PixelMetric size, QWidget *parent)
 {
@@ -205,8 +206,7 @@ void KirvServerAssistant::showStep(const KirvServerRequest::Step &newStep)
     rememberBox->setVisible(step.hasPassword);
     showMessage(step.notice, true);
     focusStep();
-    // When all that is new has found its size.
-    QMetaObject::invokeMethod(this, &KirvServerAssistant::growToStep, Qt::QueuedConnection);
+    growLater();
 }
 
 void KirvServerAssistant::showConfigurations(const QStringList &configurations)
@@ -262,7 +262,13 @@ void KirvServerAssistant::focusStep()
     first->setFocus();
 }
 
-void KirvServerAssistant::growToStep()
+/// Makes room for what is new when it has found its size.
+void KirvServerAssistant::growLater()
+{
+    QMetaObject::invokeMethod(this, &KirvServerAssistant::grow, Qt::QueuedConnection);
+}
+
+void KirvServerAssistant::grow()
 {
     area->updateGeometry();
     const QSize available = screen()->availableGeometry().size() * 9 / 10;
@@ -277,9 +283,11 @@ void KirvServerAssistant::showText(KirvWrappedText *widget, const QString &conte
 
 void KirvServerAssistant::showMessage(const QString &content, bool isProblem)
 {
-    showText(message, content);
+    const bool isTooLong = content.size() > longestMessage;
+    showText(message, isTooLong ? content.left(longestMessage - 1) + QChar(0x2026) : content);
     messageIcon->setVisible(isProblem);
     messageRow->setVisible(!content.isEmpty());
+    growLater();
     if (content.isEmpty() || !isVisible())
         return;
     QAccessibleEvent alert(message, QAccessible::Alert);
@@ -316,7 +324,6 @@ void KirvServerAssistant::showOutcome(const QString &content, const QString &com
     area->setEnabled(false);
     showMessage(content, true);
     (command.isEmpty() ? closeButton : nextButton)->setFocus();
-    QMetaObject::invokeMethod(this, &KirvServerAssistant::growToStep, Qt::QueuedConnection);
 }
 
 void KirvServerAssistant::setWaiting(bool waiting)

@@ -49,7 +49,8 @@ private:
     void showConfigurations(const QStringList &configurations);
     void showPictures(const QList<KirvServerRequest::Picture> &pictures);
     void focusStep();
-    void growToStep();
+    void growLater();
+    void grow();
     void showText(KirvWrappedText *widget, const QString &text);
     void showMessage(const QString &text, bool isProblem);
 

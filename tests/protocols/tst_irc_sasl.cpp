@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_sasl.h"
+#include "tests/protocols/fake_irc_socket.h"
+
+#include <IrcConnection>
+#include <QSignalSpy>
+#include <QTest>
+#include <memory>
+
+/// The negotiation of a log-in with SASL, line by line.
+class TestIrcSasl : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void passwordIsSentOnceAndOnlyWhenItIsRequested();
+    void theNegotiationEndsWhenThePasswordIsAccepted_data();
+    void theNegotiationEndsWhenThePasswordIsAccepted();
+    void refusalsFail_data();
+    void refusalsFail();
+    void offersAreRead_data();
+    void offersAreRead();
+    void aListInSeveralLinesIsReadToItsEnd();
+    void aRefusedCapabilityFails();
+    void longCredentialsAreSentInPieces_data();
+    void longCredentialsAreSentInPieces();
+    void aServerWithoutCapabilitiesGetsNoPassword();
+
+private:
+    void connectWith(const QString &password);
+    QStringList receive(const QByteArray &line);
+    KirvFailure::Kind failure() const;
+    void offerSasl();
+
+    std::unique_ptr<IrcConnection> connection;
+    FakeIrcSocket *socket = nullptr;
+    KirvIrcSasl *sasl = nullptr;
+    std::unique_ptr<QSignalSpy> failed;
+    QStringList opening;
+};
+
+void TestIrcSasl::init()
+{
+    connectWith("secret");
+}
+
+void TestIrcSasl::cleanup()
+{
+    failed.reset();
+    connection.reset();
+}
+
+void TestIrcSasl::connectWith(const QString &password)
+{
+    failed.reset();
+    connection = std::make_unique<IrcConnection>();
+    socket = new FakeIrcSocket(connection.get());
+    connection->setSocket(socket);
+    connection->setHost("irc.example.org");
+    connection->setUserName("alice");
+    connection->setNickName("alice");
+    connection->setRealName("Alice");
+    sasl = new KirvIrcSasl(connection.get(), "alice", password);
+    connection->setProtocol(sasl);
+    failed = std::make_unique<QSignalSpy>(sasl, &KirvIrcSasl::failed);
+    connection->open();
+    opening = socket->takeSent();
+}
+
+/// What the client sends in reply to \a line.
+QStringList TestIrcSasl::receive(const QByteArray &line)
+{
+    socket->receive(line);
+    return socket->takeSent();
+}
+
+KirvFailure::Kind TestIrcSasl::failure() const
+{
+    return failed->isEmpty() ? KirvFailure::None : failed->first().first().value<KirvFailure>().kind();
+}
+
+void TestIrcSasl::offerSasl()
+{
+    QVERIFY2(opening.contains("CAP LS 302") || opening.contains("CAP LS"), qPrintable(opening.join(" / ")));
+    const QStringList requested = receive(":irc CAP * LS :multi-prefix sasl");
+    QVERIFY2(requested.contains("CAP REQ :sasl"), qPrintable(requested.join(" / ")));
+}
+
+void TestIrcSasl::passwordIsSentOnceAndOnlyWhenItIsRequested()
+{
+    const QString encoded = QByteArray(QByteArray("\0alice\0secret", 13).toBase64());
+    offerSasl();
+    QCOMPARE(receive(":irc CAP * ACK :sasl").filter("AUTHENTICATE"), QStringList { "AUTHENTICATE PLAIN" });
+    QVERIFY(receive(":irc CAP * ACK :multi-prefix").filter("AUTHENTICATE").isEmpty());
+    QCOMPARE(receive("AUTHENTICATE +"), QStringList { "AUTHENTICATE " + encoded });
+    QVERIFY(!sasl->isAccepted());
+    QCOMPARE(failure(), KirvFailure::None);
+    QVERIFY(opening.filter("secret").isEmpty() && opening.filter("PASS").isEmpty());
+}
+
+void TestIrcSasl::theNegotiationEndsWhenThePasswordIsAccepted_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("success") << QByteArray(":irc 903 alice :SASL authentication successful");
+    QTest::newRow("already") << QByteArray(":irc 907 alice :You have already authenticated");
+}
+
+void TestIrcSasl::theNegotiationEndsWhenThePasswordIsAccepted()
+{
+    QFETCH(QByteArray, line);
+    offerSasl();
+    QStringList sent = receive(":irc CAP * ACK :sasl") + receive("AUTHENTICATE +");
+    QVERIFY2(!sent.contains("CAP END"), qPrintable(sent.join(" / ")));
+    sent = receive(line);
+    QVERIFY2(sent.contains("CAP END"), qPrintable(sent.join(" / ")));
+    QVERIFY(sasl->isAccepted());
+    QCOMPARE(failed->size(), 0);
+}
+
+void TestIrcSasl::refusalsFail_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("kind");
+    QTest::newRow("locked nick") << QByteArray(":irc 902 alice :locked") << int(KirvFailure::WrongPassword);
+    QTest::newRow("wrong password") << QByteArray(":irc 904 alice :failed") << int(KirvFailure::WrongPassword);
+    QTest::newRow("too long") << QByteArray(":irc 905 alice :too long") << int(KirvFailure::WrongPassword);
+    QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted") << int(KirvFailure::WrongPassword);
+    QTest::newRow("other mechanisms") << QByteArray(":irc 908 alice EXTERNAL :are available")
+                                      << int(KirvFailure::AuthenticationNotOffered);
+}
+
+void TestIrcSasl::refusalsFail()
+{
+    QFETCH(QByteArray, line);
+    offerSasl();
+    receive(":irc CAP * ACK :sasl");
+    receive("AUTHENTICATE +");
+    const QStringList sent = receive(line);
+    QVERIFY2(!sent.contains("CAP END"), qPrintable(sent.join(" / ")));
+    QTEST(int(failure()), "kind");
+    QVERIFY(!sasl->isAccepted());
+}
+
+void TestIrcSasl::offersAreRead_data()
+{
+    QTest::addColumn<QByteArray>("offer");
+    QTest::addColumn<bool>("isUsable");
+    QTest::newRow("without mechanisms") << QByteArray("sasl") << true;
+    QTest::newRow("with ours") << QByteArray("away-notify sasl=EXTERNAL,PLAIN") << true;
+    QTest::newRow("with others only") << QByteArray("sasl=EXTERNAL,SCRAM-SHA-256") << false;
+    QTest::newRow("similar mechanism") << QByteArray("sasl=PLAINER") << false;
+    QTest::newRow("similar capability") << QByteArray("saslish") << false;
+    QTest::newRow("nothing") << QByteArray("") << false;
+}
+
+void TestIrcSasl::offersAreRead()
+{
+    QFETCH(QByteArray, offer);
+    QFETCH(bool, isUsable);
+    const QStringList sent = receive(":irc CAP * LS :" + offer);
+    QCOMPARE(sent.contains("CAP REQ :sasl"), isUsable);
+    QCOMPARE(failure(), isUsable ? KirvFailure::None : KirvFailure::AuthenticationNotOffered);
+    QVERIFY(!sent.contains("CAP END"));
+}
+
+void TestIrcSasl::aListInSeveralLinesIsReadToItsEnd()
+{
+    QVERIFY(!receive(":irc CAP * LS * :away-notify").contains("CAP REQ :sasl"));
+    QCOMPARE(failure(), KirvFailure::None);
+    QVERIFY(receive(":irc CAP * LS :sasl").contains("CAP REQ :sasl"));
+}
+
+void TestIrcSasl::aRefusedCapabilityFails()
+{
+    offerSasl();
+    receive(":irc CAP * NAK :sasl");
+    QCOMPARE(failure(), KirvFailure::AuthenticationNotOffered);
+}
+
+void TestIrcSasl::longCredentialsAreSentInPieces_data()
+{
+    QTest::addColumn<int>("length"); // of the password
+    QTest::addColumn<QList<int>>("pieces");
+    // Two null bytes and the name precede the password; three bytes become four.
+    QTest::newRow("just one piece") << 292 << QList<int> { 400, 1 };
+    QTest::newRow("one piece and a bit") << 294 << QList<int> { 400, 4 };
+    QTest::newRow("short") << 3 << QList<int> { 16 };
+    QTest::newRow("exactly two") << 592 << QList<int> { 400, 400, 1 };
+}
+
+void TestIrcSasl::longCredentialsAreSentInPieces()
+{
+    QFETCH(int, length);
+    QFETCH(QList<int>, pieces);
+    const QString password(length, 'x');
+    connectWith(password);
+    offerSasl();
+    receive(":irc CAP * ACK :sasl");
+    const QStringList sent = receive("AUTHENTICATE +");
+    QList<int> sizes;
+    QString joined;
+    for (const QString &line : sent) {
+        QVERIFY(line.startsWith("AUTHENTICATE "));
+        sizes << line.size() - int(qstrlen("AUTHENTICATE "));
+        joined += line.mid(int(qstrlen("AUTHENTICATE ")));
+    }
+    QCOMPARE(sizes, pieces);
+    joined.remove('+');
+    QCOMPARE(QByteArray::fromBase64(joined.toLatin1()), QByteArray("\0alice\0", 7) + password.toLatin1());
+}
+
+void TestIrcSasl::aServerWithoutCapabilitiesGetsNoPassword()
+{
+    const QStringList sent = receive(":irc 001 alice :Welcome") + receive(":irc 376 alice :End of /MOTD command.");
+    QVERIFY2(sent.filter("AUTHENTICATE").isEmpty() && sent.filter("secret").isEmpty(), qPrintable(sent.join(" / ")));
+    QVERIFY(!sasl->isAccepted());
+}
+
+QTEST_GUILESS_MAIN(TestIrcSasl)
+#include "tst_irc_sasl.moc"

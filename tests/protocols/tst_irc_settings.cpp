@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_settings.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+KirvField text(const QString &id, const QString &value)
+{
+    return KirvField::textEdit(QString(), id, value, QString());
+}
+
+QString valueOf(const QList<KirvField> &fields, const QString &id)
+{
+    for (const KirvField &field : fields) {
+        if (field.getId() == id)
+            return field.getText();
+    }
+    return "missing";
+}
+
+const QList<KirvField> onServer { text("server", "irc.example.org") };
+
+} // namespace
+
+/// What login, password and fields of an IRC account mean.
+class TestIrcSettings : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loginIsNickAndNetwork_data();
+    void loginIsNickAndNetwork();
+    void missingFieldsHaveDefaults();
+    void fieldsAreRead();
+    void problemsAreReported_data();
+    void problemsAreReported();
+    void passwordHasOneUse_data();
+    void passwordHasOneUse();
+    void alternativesAreTriedInTheirOrder();
+    void userNameIsLettersAndDigits_data();
+    void userNameIsLettersAndDigits();
+    void realNameIsOneLine();
+    void configurationsAreEncryptedNetworks();
+    void localConfigurationUsesTheLocalPort();
+    void loginPatternAccepts_data();
+    void loginPatternAccepts();
+};
+
+void TestIrcSettings::loginIsNickAndNetwork_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<QString>("serverField");
+    QTest::addColumn<QString>("nick");
+    QTest::addColumn<QString>("server");
+    QTest::newRow("nick and server") << "alice"
+                                     << "irc.example.org"
+                                     << "alice"
+                                     << "irc.example.org";
+    QTest::newRow("server in the login") << "alice@irc.libera.chat"
+                                         << ""
+                                         << "alice"
+                                         << "irc.libera.chat";
+    QTest::newRow("field wins") << "alice@work"
+                                << "irc.example.org"
+                                << "alice"
+                                << "irc.example.org";
+    QTest::newRow("no server") << "alice"
+                               << " "
+                               << "alice"
+                               << "";
+}
+
+void TestIrcSettings::loginIsNickAndNetwork()
+{
+    QFETCH(QString, login);
+    QFETCH(QString, serverField);
+    const KirvIrcSettings settings(login, QString(), { text("server", serverField) });
+    QTEST(settings.nick, "nick");
+    QTEST(settings.server, "server");
+}
+
+void TestIrcSettings::missingFieldsHaveDefaults()
+{
+    const KirvIrcSettings settings("alice@irc.example.org", "secret", {});
+    QCOMPARE(settings.problem(), QString());
+    QCOMPARE(settings.port, quint16(6697));
+    QVERIFY(settings.encrypted);
+    QCOMPARE(settings.certificateFile, QString());
+    QCOMPARE(settings.passwordUse, KirvIrcSettings::NotUsed);
+    QCOMPARE(settings.saslUser, QString("alice"));
+    QCOMPARE(settings.realName, QString("alice"));
+    QVERIFY(settings.alternativeNicks.isEmpty());
+}
+
+void TestIrcSettings::fieldsAreRead()
+{
+    const KirvIrcSettings settings("alice", "secret",
+                                   { text("server", " irc.example.org "), text("port", "7000"),
+                                     text("encryption", "none"), text("certificate", "/a.pem"),
+                                     text("password_use", "sasl"), text("sasl_user", "alice2"),
+                                     text("real_name", "Alice A."), text("alternative_nicks", "bob, carol") });
+    QCOMPARE(settings.problem(), QString());
+    QCOMPARE(settings.server, QString("irc.example.org"));
+    QCOMPARE(settings.port, quint16(7000));
+    QVERIFY(!settings.encrypted);
+    QCOMPARE(settings.certificateFile, QString("/a.pem"));
+    QCOMPARE(settings.passwordUse, KirvIrcSettings::ForSasl);
+    QCOMPARE(settings.password, QString("secret"));
+    QCOMPARE(settings.saslUser, QString("alice2"));
+    QCOMPARE(settings.realName, QString("Alice A."));
+    QCOMPARE(settings.alternativeNicks, QStringList({ "bob", "carol" }));
+}
+
+void TestIrcSettings::problemsAreReported_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("none") << "alice"
+                          << ""
+                          << "port"
+                          << "6697"
+                          << "";
+    QTest::newRow("digit first") << "1alice"
+                                 << ""
+                                 << "port"
+                                 << "6697"
+                                 << "1alice";
+    QTest::newRow("no nick") << "@network"
+                             << ""
+                             << "port"
+                             << "6697"
+                             << "cannot be a nick";
+    QTest::newRow("no server") << "alice"
+                               << ""
+                               << "server"
+                               << ""
+                               << "No server";
+    QTest::newRow("blank in the server") << "alice"
+                                         << ""
+                                         << "server"
+                                         << "a b"
+                                         << "a b";
+    QTest::newRow("line break in the server") << "alice"
+                                              << ""
+                                              << "server"
+                                              << "a\nQUIT"
+                                              << "not the name of a server";
+    QTest::newRow("server too long") << "alice"
+                                     << ""
+                                     << "server" << QString(256, 'a') << "not the name of a server";
+    QTest::newRow("port zero") << "alice"
+                               << ""
+                               << "port"
+                               << "0"
+                               << "65535";
+    QTest::newRow("port too large") << "alice"
+                                    << ""
+                                    << "port"
+                                    << "70000"
+                                    << "65535";
+    QTest::newRow("port no number") << "alice"
+                                    << ""
+                                    << "port"
+                                    << "tls"
+                                    << "65535";
+    QTest::newRow("line break in the server password") << "alice"
+                                                       << "a\nb"
+                                                       << "password_use"
+                                                       << "server"
+                                                       << "password";
+    QTest::newRow("server password too long") << "alice" << QString(401, 'a') << "password_use"
+                                              << "server"
+                                              << "password";
+    QTest::newRow("any SASL password") << "alice" << QString(401, '\n') << "password_use"
+                                       << "sasl"
+                                       << "";
+    QTest::newRow("any unused password") << "alice" << QString(401, '\n') << "password_use"
+                                         << "none"
+                                         << "";
+}
+
+void TestIrcSettings::problemsAreReported()
+{
+    QFETCH(QString, login);
+    QFETCH(QString, password);
+    QFETCH(QString, id);
+    QFETCH(QString, value);
+    QFETCH(QString, part);
+    const KirvIrcSettings settings(login, password, onServer + QList<KirvField> { text(id, value) });
+    QCOMPARE(settings.problem().isEmpty(), part.isEmpty());
+    QVERIFY2(settings.problem().contains(part), qPrintable(settings.problem()));
+    QVERIFY(!settings.problem().contains('\n'));
+}
+
+void TestIrcSettings::passwordHasOneUse_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<int>("use");
+    QTest::newRow("server") << "server" << int(KirvIrcSettings::ForServer);
+    QTest::newRow("nick") << "sasl" << int(KirvIrcSettings::ForSasl);
+    QTest::newRow("none") << "none" << int(KirvIrcSettings::NotUsed);
+    QTest::newRow("unknown") << "everywhere" << int(KirvIrcSettings::NotUsed);
+}
+
+void TestIrcSettings::passwordHasOneUse()
+{
+    QFETCH(QString, value);
+    QTEST(int(KirvIrcSettings("alice", "secret", { text("password_use", value) }).passwordUse), "use");
+}
+
+void TestIrcSettings::alternativesAreTriedInTheirOrder()
+{
+    const KirvIrcSettings settings("alice", QString(),
+                                   { text("alternative_nicks", ",bob  alice,1bad,\ncarol,alice_ b@d") });
+    QCOMPARE(settings.nicks(), QStringList({ "alice", "bob", "carol", "alice_", "alice__", "alice___" }));
+}
+
+void TestIrcSettings::userNameIsLettersAndDigits_data()
+{
+    QTest::addColumn<QString>("nick");
+    QTest::addColumn<QString>("userName");
+    QTest::newRow("nick") << "Alice"
+                          << "alice";
+    QTest::newRow("signs") << "[a-l_i]ce9"
+                           << "alice9";
+    QTest::newRow("long") << "abcdefghijklm"
+                          << "abcdefghi";
+    QTest::newRow("signs only") << "[]{}"
+                                << "user";
+}
+
+void TestIrcSettings::userNameIsLettersAndDigits()
+{
+    QFETCH(QString, nick);
+    QTEST(KirvIrcSettings(nick, QString(), onServer).userName(), "userName");
+}
+
+void TestIrcSettings::realNameIsOneLine()
+{
+    const KirvIrcSettings settings("alice", QString(), { text("real_name", "Al\nice" + QString(200, 'x')) });
+    QVERIFY(settings.realName.startsWith("Al ice") && settings.realName.size() == 100);
+}
+
+void TestIrcSettings::configurationsAreEncryptedNetworks()
+{
+    const QStringList names = KirvIrcSettings::configurations();
+    QVERIFY(names.contains("Libera.Chat") && names.size() == 6);
+    for (const QString &name : names) {
+        const QList<KirvField> fields = KirvIrcSettings::configurationFields(name);
+        QCOMPARE(fields.size(), KirvIrcSettings::defaultFields().size());
+        QCOMPARE(KirvIrcSettings("alice", QString(), fields).problem(), QString());
+        QCOMPARE(valueOf(fields, "login"), QString("missing"));
+        if (name != names.last())
+            QVERIFY(KirvIrcSettings("alice", QString(), fields).encrypted);
+    }
+    QVERIFY(KirvIrcSettings::configurationFields("no such network").isEmpty());
+}
+
+void TestIrcSettings::localConfigurationUsesTheLocalPort()
+{
+    const QString local = KirvIrcSettings::configurations().last();
+    qunsetenv("KIRV_IRC_LOCAL_PORT");
+    QCOMPARE(valueOf(KirvIrcSettings::configurationFields(local), "port"), QString("6667"));
+    qputenv("KIRV_IRC_LOCAL_PORT", "16667");
+    QCOMPARE(valueOf(KirvIrcSettings::configurationFields(local), "port"), QString("16667"));
+    qputenv("KIRV_IRC_LOCAL_PORT", "-1");
+    QCOMPARE(valueOf(KirvIrcSettings::configurationFields(local), "port"), QString("6667"));
+    qunsetenv("KIRV_IRC_LOCAL_PORT");
+    QCOMPARE(valueOf(KirvIrcSettings::configurationFields(local), "server"), QString("127.0.0.1"));
+    QCOMPARE(valueOf(KirvIrcSettings::configurationFields(local), "encryption"), QString("none"));
+}
+
+void TestIrcSettings::loginPatternAccepts_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<bool>("isGood");
+    QTest::newRow("nick") << "alice" << true;
+    QTest::newRow("signs") << "[a]\\`^{|}-_1" << true;
+    QTest::newRow("with a network") << "alice@irc.libera.chat" << true;
+    QTest::newRow("with an address") << "alice@[::1]" << false;
+    QTest::newRow("digit first") << "1alice" << false;
+    QTest::newRow("hyphen first") << "-alice" << false;
+    QTest::newRow("blank") << "al ice" << false;
+    QTest::newRow("empty network") << "alice@" << false;
+    QTest::newRow("empty") << "" << false;
+    QTest::newRow("other letters") << QString::fromUtf8("älice") << false;
+}
+
+void TestIrcSettings::loginPatternAccepts()
+{
+    QFETCH(QString, login);
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(KirvIrcSettings::loginPattern()));
+    QVERIFY(pattern.isValid());
+    QTEST(pattern.match(login).hasMatch(), "isGood");
+}
+
+QTEST_GUILESS_MAIN(TestIrcSettings)
+#include "tst_irc_settings.moc"

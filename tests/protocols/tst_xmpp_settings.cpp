@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_settings.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmppConfiguration.h>
+
+namespace {
+
+KirvField text(const QString &id, const QString &value)
+{
+    return KirvField::textEdit(QString(), id, value, QString());
+}
+
+QString valueOf(const QList<KirvField> &fields, const QString &id)
+{
+    for (const KirvField &field : fields) {
+        if (field.getId() == id)
+            return field.getText();
+    }
+    return "missing";
+}
+
+/// A self-signed certificate of a server called localhost.
+const QByteArray certificate = R"(-----BEGIN CERTIFICATE-----
+MIIBfzCCASWgAwIBAgIUPO5VTvD0zHNr2GqlMAcyWahCrl0wCgYIKoZIzj0EAwIw
+FDESMBAGA1UEAwwJbG9jYWxob3N0MCAXDTI2MTEyMTEyMjI0MVoYDzIxMjYxMDI4
+MTIyMjQxWjAUMRIwEAYDVQQDDAlsb2NhbGhvc3QwWTATBgcqhkjOPQIBBggqhkjO
+PQMBBwNCAAS7fRSrWyjjRPZYRLu+eFOSe0SFgKe6nenyaZaVea4LKnU+OlDaimgw
+XAB3VADfcOMu4WRAdrXg+S5nNQD5uMM7o1MwUTAdBgNVHQ4EFgQUstwjg2IhVuPv
+JaH90ssgOQHv0/8wHwYDVR0jBBgwFoAUstwjg2IhVuPvJaH90ssgOQHv0/8wDwYD
+VR0TAQH/BAUwAwEB/zAKBggqhkjOPQQDAgNIADBFAiEA6DhnLVYSYueSw/sRupE0
+Jw/+5Rj7L69k7tUGFBo2IFsCIEhuI65cxj451q/cyh+JbYoTJtachQZJ9hhVvrAY
+rWhE
+-----END CERTIFICATE-----
+)";
+
+} // namespace
+
+/// The settings of an XMPP account as fields, and what they make of the library's configuration.
+class TestXmppSettings : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fieldsAreReadAndWrittenAlike();
+    void badValuesFallBackToSafeOnes_data();
+    void badValuesFallBackToSafeOnes();
+    void serverFieldsAreAmongTheFields();
+    void configurationsGiveFields();
+    void theServerOfTheDomainIsTheDefault();
+    void encryptionBecomesAMode_data();
+    void encryptionBecomesAMode();
+    void theHostIsOnlyGivenWhenNeeded_data();
+    void theHostIsOnlyGivenWhenNeeded();
+    void theLibraryNeitherReconnectsNorAccepts();
+    void aTrustedCertificateIsAdded_data();
+    void aTrustedCertificateIsAdded();
+    void aCertificateThatCannotBeUsedIsReported_data();
+    void aCertificateThatCannotBeUsedIsReported();
+    void loginsAreAddresses_data();
+    void loginsAreAddresses();
+};
+
+void TestXmppSettings::fieldsAreReadAndWrittenAlike()
+{
+    KirvXmppSettings settings;
+    settings.server = "xmpp.example.org";
+    settings.port = 5223;
+    settings.resource = "Home";
+    settings.priority = -7;
+    settings.encryption = KirvXmppSettings::IfOffered;
+    settings.certificatePath = "/folder/file.pem";
+    const QList<KirvField> fields = settings.toFields();
+    const KirvXmppSettings again(fields);
+    QCOMPARE(again.server, settings.server);
+    QCOMPARE(again.port, settings.port);
+    QCOMPARE(again.resource, settings.resource);
+    QCOMPARE(again.priority, settings.priority);
+    QCOMPARE(again.encryption, settings.encryption);
+    QCOMPARE(again.certificatePath, settings.certificatePath);
+    QVERIFY(again.toFields() == fields);
+}
+
+void TestXmppSettings::badValuesFallBackToSafeOnes_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("read");
+    QTest::newRow("port is no number") << "port"
+                                       << "http"
+                                       << "5222";
+    QTest::newRow("port is zero") << "port"
+                                  << "0"
+                                  << "5222";
+    QTest::newRow("port is too large") << "port"
+                                       << "65536"
+                                       << "5222";
+    QTest::newRow("largest port") << "port"
+                                  << "65535"
+                                  << "65535";
+    QTest::newRow("port is empty") << "port"
+                                   << ""
+                                   << "5222";
+    QTest::newRow("priority is too small") << "priority"
+                                           << "-129"
+                                           << "0";
+    QTest::newRow("smallest priority") << "priority"
+                                       << "-128"
+                                       << "-128";
+    QTest::newRow("priority is no number") << "priority"
+                                           << "high"
+                                           << "0";
+    QTest::newRow("encryption is unknown") << "encryption"
+                                           << "maybe"
+                                           << "required";
+    QTest::newRow("encryption is empty") << "encryption"
+                                         << ""
+                                         << "required";
+    QTest::newRow("server with blanks") << "server"
+                                        << "  example.org "
+                                        << "example.org";
+    QTest::newRow("resource with blanks") << "resource"
+                                          << " Home "
+                                          << "Home";
+    QTest::newRow("certificate as an address") << "certificate"
+                                               << " file:///folder/file.pem "
+                                               << "/folder/file.pem";
+}
+
+void TestXmppSettings::badValuesFallBackToSafeOnes()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, value);
+    QFETCH(QString, read);
+    const KirvXmppSettings settings({ text(id, value), text("unknown", "ignored") });
+    QCOMPARE(valueOf(settings.toFields(), id), read);
+}
+
+void TestXmppSettings::serverFieldsAreAmongTheFields()
+{
+    const QList<KirvField> all = KirvXmppSettings().toFields();
+    for (const KirvField &field : KirvXmppSettings().toServerFields())
+        QVERIFY2(all.contains(field), qPrintable(field.getId()));
+    QCOMPARE(all.size(), KirvXmppSettings().toServerFields().size() + 2);
+}
+
+void TestXmppSettings::configurationsGiveFields()
+{
+    qputenv("KIRV_XMPP_LOCAL_PORT", "15222");
+    qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", "/local.pem");
+    const QStringList names = KirvXmppSettings::configurations();
+    QCOMPARE(names.size(), 3);
+    QVERIFY(KirvXmppSettings::configurationFields(names.at(0)) == KirvXmppSettings().toFields());
+    const QList<KirvField> encrypted = KirvXmppSettings::configurationFields(names.at(1));
+    QCOMPARE(valueOf(encrypted, "server"), QString("127.0.0.1"));
+    QCOMPARE(valueOf(encrypted, "port"), QString("15222"));
+    QCOMPARE(valueOf(encrypted, "encryption"), QString("required"));
+    QCOMPARE(valueOf(encrypted, "certificate"), QString("/local.pem"));
+    const QList<KirvField> plain = KirvXmppSettings::configurationFields(names.at(2));
+    QCOMPARE(valueOf(plain, "encryption"), QString("none"));
+    QCOMPARE(valueOf(plain, "certificate"), QString());
+    QVERIFY(KirvXmppSettings::configurationFields("no such configuration").isEmpty());
+
+    qputenv("KIRV_XMPP_LOCAL_PORT", "99999");
+    QCOMPARE(valueOf(KirvXmppSettings::configurationFields(names.at(1)), "port"), QString("5222"));
+    qunsetenv("KIRV_XMPP_LOCAL_PORT");
+    qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
+}
+
+void TestXmppSettings::theServerOfTheDomainIsTheDefault()
+{
+    for (const QString &name : KirvXmppSettings::configurations())
+        QCOMPARE(valueOf(KirvXmppSettings::configurationFields(name), "login"), QString("missing"));
+    QCOMPARE(valueOf(KirvXmppSettings().toFields(), "server"), QString());
+    QCOMPARE(valueOf(KirvXmppSettings().toFields(), "encryption"), QString("required"));
+}
+
+void TestXmppSettings::encryptionBecomesAMode_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<int>("mode");
+    QTest::newRow("required") << "required" << int(QXmppConfiguration::TLSRequired);
+    QTest::newRow("if offered") << "offered" << int(QXmppConfiguration::TLSEnabled);
+    QTest::newRow("none") << "none" << int(QXmppConfiguration::TLSDisabled);
+    QTest::newRow("unknown") << "what?" << int(QXmppConfiguration::TLSRequired);
+}
+
+void TestXmppSettings::encryptionBecomesAMode()
+{
+    QFETCH(QString, value);
+    QFETCH(int, mode);
+    QXmppConfiguration configuration;
+    QString problem;
+    QVERIFY(KirvXmppSettings({ text("encryption", value) }).apply("example.org", &configuration, &problem));
+    QCOMPARE(int(configuration.streamSecurityMode()), mode);
+}
+
+void TestXmppSettings::theHostIsOnlyGivenWhenNeeded_data()
+{
+    QTest::addColumn<QString>("server");
+    QTest::addColumn<QString>("port");
+    QTest::addColumn<QString>("host");
+    QTest::newRow("nothing given") << ""
+                                   << "5222"
+                                   << "";
+    QTest::newRow("server") << "xmpp.example.org"
+                            << "5222"
+                            << "xmpp.example.org";
+    QTest::newRow("other port of the domain") << ""
+                                              << "5223"
+                                              << "example.org";
+    QTest::newRow("both") << "127.0.0.1"
+                          << "5223"
+                          << "127.0.0.1";
+}
+
+void TestXmppSettings::theHostIsOnlyGivenWhenNeeded()
+{
+    QFETCH(QString, server);
+    QFETCH(QString, port);
+    QFETCH(QString, host);
+    QXmppConfiguration configuration;
+    QString problem;
+    const KirvXmppSettings settings({ text("server", server), text("port", port) });
+    QVERIFY(settings.apply("example.org", &configuration, &problem));
+    QCOMPARE(configuration.domain(), QString("example.org"));
+    QCOMPARE(configuration.host(), host);
+    QCOMPARE(configuration.port(), port.toInt());
+}
+
+void TestXmppSettings::theLibraryNeitherReconnectsNorAccepts()
+{
+    QXmppConfiguration configuration;
+    QString problem;
+    QVERIFY(KirvXmppSettings({ text("resource", "Home") }).apply("example.org", &configuration, &problem));
+    QCOMPARE(configuration.resource(), QString("Home"));
+    QVERIFY(!configuration.autoReconnectionEnabled());
+    QVERIFY(!configuration.autoAcceptSubscriptions());
+    QVERIFY(!configuration.useNonSASLAuthentication());
+    QVERIFY(!configuration.ignoreSslErrors());
+}
+
+void TestXmppSettings::aTrustedCertificateIsAdded_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::newRow("path") << "";
+    QTest::newRow("address") << "file://";
+}
+
+void TestXmppSettings::aTrustedCertificateIsAdded()
+{
+    QFETCH(QString, prefix);
+    QTemporaryDir folder;
+    QFile file(folder.filePath("localhost.pem"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(certificate) > 0);
+    file.close();
+    QXmppConfiguration configuration;
+    QString problem;
+    const KirvXmppSettings settings({ text("certificate", prefix + file.fileName()) });
+    QVERIFY2(settings.apply("example.org", &configuration, &problem), qPrintable(problem));
+    QVERIFY(!configuration.caCertificates().isEmpty());
+    QCOMPARE(configuration.caCertificates().last().subjectInfo(QSslCertificate::CommonName),
+             QStringList { "localhost" });
+}
+
+void TestXmppSettings::aCertificateThatCannotBeUsedIsReported_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("missing file") << QByteArray() << "cannot be read";
+    QTest::newRow("no certificate") << QByteArray("text") << "does not hold a certificate";
+}
+
+void TestXmppSettings::aCertificateThatCannotBeUsedIsReported()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, part);
+    QTemporaryDir folder;
+    QFile file(folder.filePath("localhost.pem"));
+    QVERIFY(content.isEmpty() || (file.open(QIODevice::WriteOnly) && file.write(content) > 0));
+    file.close();
+    QXmppConfiguration configuration;
+    QString problem;
+    QVERIFY(!KirvXmppSettings({ text("certificate", file.fileName()) }).apply("a.b", &configuration, &problem));
+    QVERIFY2(problem.contains(part) && problem.contains(file.fileName()), qPrintable(problem));
+}
+
+void TestXmppSettings::loginsAreAddresses_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<bool>("isGood");
+    QTest::newRow("address") << "anna@example.org" << true;
+    QTest::newRow("host without dots") << "anna@localhost" << true;
+    QTest::newRow("letters of any language") << QString::fromUtf8("änna@exämple.org") << true;
+    QTest::newRow("no domain") << "anna" << false;
+    QTest::newRow("empty domain") << "anna@" << false;
+    QTest::newRow("no user") << "@example.org" << false;
+    QTest::newRow("two at signs") << "anna@b@example.org" << false;
+    QTest::newRow("dots only") << "anna@a..b" << false;
+    QTest::newRow("resource") << "anna@example.org/home" << false;
+    QTest::newRow("blank") << "an na@example.org" << false;
+    QTest::newRow("markup") << "<b>@example.org" << false;
+}
+
+void TestXmppSettings::loginsAreAddresses()
+{
+    QFETCH(QString, login);
+    QFETCH(bool, isGood);
+    const QRegularExpression pattern(QRegularExpression::anchoredPattern(KirvXmppSettings::loginPattern()));
+    QVERIFY(pattern.isValid());
+    QCOMPARE(pattern.match(login).hasMatch(), isGood);
+}
+
+QTEST_GUILESS_MAIN(TestXmppSettings)
+#include "tst_xmpp_settings.moc"

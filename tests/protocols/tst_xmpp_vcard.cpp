@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_vcard.h"
+#include "tests/protocols/xmpp_parsing.h"
+
+#include <QImage>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+/// An entry with all fields and much that the page has no field for.
+const QByteArray fullEntry =
+    "<vCard xmlns='vcard-temp'>"
+    "<FN>Anna Example</FN><N><FAMILY>Example</FAMILY><GIVEN>Anna</GIVEN></N><NICKNAME>anna</NICKNAME>"
+    "<BDAY>1990-02-28</BDAY><TEL><WORK/><VOICE/><NUMBER>123</NUMBER></TEL><TEL><HOME/><NUMBER>456</NUMBER></TEL>"
+    "<EMAIL><INTERNET/><USERID>anna@example.org</USERID></EMAIL><URL>https://example.org/</URL>"
+    "<ADR><HOME/><STREET>Long Street 1</STREET><LOCALITY>Town</LOCALITY><PCODE>12345</PCODE><CTRY>Country</CTRY></ADR>"
+    "<ORG><ORGNAME>Organisation</ORGNAME><ORGUNIT>Unit</ORGUNIT></ORG><TITLE>Head</TITLE>"
+    "<DESC>One\nTwo &lt;b&gt;</DESC><PHOTO><TYPE>image/png</TYPE><BINVAL>QUJD</BINVAL></PHOTO>"
+    "<x:extra xmlns:x='urn:extra' x:kind='odd'>kept</x:extra></vCard>";
+
+KirvXmppVCard card(const QByteArray &xml)
+{
+    return KirvXmppVCard(parsed(xml).documentElement());
+}
+
+KirvField field(const QString &id, const QString &text)
+{
+    return KirvField::textEdit(QString(), id, text, QString());
+}
+
+QString valueOf(const KirvXmppVCard &card, const QString &id)
+{
+    for (const KirvField &field : card.toFields()) {
+        if (field.getId() == id)
+            return field.getText();
+    }
+    return QString();
+}
+
+QDomElement root(const KirvXmppVCard &card)
+{
+    return card.document().documentElement();
+}
+
+QString saved(const QImage &image, const QString &path)
+{
+    return image.save(path) ? path : QString();
+}
+
+QImage noise(int side)
+{
+    QImage image(side, side, QImage::Format_ARGB32);
+    QRandomGenerator random(1);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x)
+            image.setPixel(x, y, random.generate());
+    }
+    return image;
+}
+
+} // namespace
+
+/// A directory entry as fields and back.
+class TestXmppVCard : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachFieldHasItsPlace_data();
+    void eachFieldHasItsPlace();
+    void anEntryWithoutTextsHasNoFields_data();
+    void anEntryWithoutTextsHasNoFields();
+    void onlyTheGivenFieldsAreChanged();
+    void whatHasNoFieldStays();
+    void anEmptyTextRemovesItsElementAlone();
+    void unknownFieldsAreIgnored();
+    void whatCannotBeSentIsLeftOut();
+    void clearingKeepsThePicture();
+    void aPictureIsSetAndRemoved();
+    void aPictureFileIsMadeSmall_data();
+    void aPictureFileIsMadeSmall();
+    void aFileWithoutAPictureGivesNone_data();
+    void aFileWithoutAPictureGivesNone();
+    void theSizeIsThatOfTheXml();
+};
+
+void TestXmppVCard::eachFieldHasItsPlace_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("full name") << "fullname"
+                               << "FN"
+                               << "Anna Example";
+    QTest::newRow("nickname") << "nickname"
+                              << "NICKNAME"
+                              << "anna";
+    QTest::newRow("birthday") << "birthday"
+                              << "BDAY"
+                              << "1990-02-28";
+    QTest::newRow("e-mail") << "email"
+                            << "EMAIL/USERID"
+                            << "anna@example.org";
+    QTest::newRow("telephone") << "telephone"
+                               << "TEL/NUMBER"
+                               << "123";
+    QTest::newRow("town") << "town"
+                          << "ADR/LOCALITY"
+                          << "Town";
+    QTest::newRow("country") << "country"
+                             << "ADR/CTRY"
+                             << "Country";
+    QTest::newRow("web page") << "web"
+                              << "URL"
+                              << "https://example.org/";
+    QTest::newRow("organisation") << "organisation"
+                                  << "ORG/ORGNAME"
+                                  << "Organisation";
+    QTest::newRow("about") << "about"
+                           << "DESC"
+                           << "One\nTwo <b>";
+}
+
+void TestXmppVCard::eachFieldHasItsPlace()
+{
+    QFETCH(QString, id);
+    QFETCH(QString, path);
+    QFETCH(QString, value);
+    const KirvXmppVCard full = card(fullEntry);
+    QCOMPARE(valueOf(full, id), value);
+    QCOMPARE(full.toFields().size(), KirvXmppVCard::blankFields().size());
+
+    KirvXmppVCard made;
+    made.setFields({ field(id, value) });
+    QCOMPARE(textAt(root(made), path), value);
+    QCOMPARE(root(made).childNodes().size(), 1);
+    QCOMPARE(valueOf(KirvXmppVCard(root(made)), id), value);
+}
+
+void TestXmppVCard::anEntryWithoutTextsHasNoFields_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::newRow("empty") << QByteArray("<vCard xmlns='vcard-temp'/>");
+    QTest::newRow("blank elements") << QByteArray("<vCard xmlns='vcard-temp'><FN/><TEL><NUMBER/></TEL></vCard>");
+    QTest::newRow("picture alone") << QByteArray(
+        "<vCard xmlns='vcard-temp'><PHOTO><BINVAL>QUJD</BINVAL></PHOTO></vCard>");
+    QTest::newRow("other namespace") << QByteArray("<vCard xmlns='urn:other'><FN>Anna</FN></vCard>");
+}
+
+void TestXmppVCard::anEntryWithoutTextsHasNoFields()
+{
+    QFETCH(QByteArray, xml);
+    QVERIFY(card(xml).toFields().isEmpty());
+    QVERIFY(KirvXmppVCard(QDomElement()).toFields().isEmpty());
+}
+
+void TestXmppVCard::onlyTheGivenFieldsAreChanged()
+{
+    const QList<KirvField> before = card(fullEntry).toFields();
+    KirvXmppVCard changed = card(fullEntry);
+    changed.setFields({ field("telephone", "789") });
+    const QList<KirvField> after = changed.toFields();
+    QCOMPARE(after.size(), before.size());
+    for (int i = 0; i < before.size(); ++i) {
+        const bool isTheOne = before.at(i).getId() == "telephone";
+        QCOMPARE(after.at(i).getText(), isTheOne ? QString("789") : before.at(i).getText());
+    }
+}
+
+void TestXmppVCard::whatHasNoFieldStays()
+{
+    KirvXmppVCard changed = card(fullEntry);
+    changed.setFields({ field("telephone", "789"), field("town", "Elsewhere"), field("fullname", "New Name") });
+    QDomElement element = root(changed);
+    QCOMPARE(textAt(element, "N/GIVEN"), QString("Anna"));
+    QCOMPARE(textAt(element, "ADR/STREET"), QString("Long Street 1"));
+    QCOMPARE(textAt(element, "ADR/PCODE"), QString("12345"));
+    QCOMPARE(textAt(element, "ORG/ORGUNIT"), QString("Unit"));
+    QCOMPARE(textAt(element, "TITLE"), QString("Head"));
+    QVERIFY(!element.firstChildElement("TEL").firstChildElement("WORK").isNull());
+    QCOMPARE(textAt(element.firstChildElement("TEL").nextSiblingElement("TEL"), "NUMBER"), QString("456"));
+    QCOMPARE(textAt(element, "PHOTO/BINVAL"), QString("QUJD"));
+    const QByteArray xml = changed.document().toByteArray(-1);
+    QVERIFY2(xml.contains("urn:extra") && xml.contains("odd") && xml.contains("kept"), xml.constData());
+}
+
+void TestXmppVCard::anEmptyTextRemovesItsElementAlone()
+{
+    KirvXmppVCard changed = card(fullEntry);
+    changed.setFields({ field("town", ""), field("nickname", ""), field("web", "") });
+    QVERIFY(root(changed).firstChildElement("NICKNAME").isNull());
+    QVERIFY(root(changed).firstChildElement("URL").isNull());
+    QVERIFY(root(changed).firstChildElement("ADR").firstChildElement("LOCALITY").isNull());
+    QCOMPARE(textAt(root(changed), "ADR/CTRY"), QString("Country"));
+
+    KirvXmppVCard alone;
+    alone.setFields({ field("town", "Town") });
+    alone.setFields({ field("town", "") });
+    QVERIFY(!root(alone).hasChildNodes());
+}
+
+void TestXmppVCard::unknownFieldsAreIgnored()
+{
+    KirvXmppVCard made;
+    made.setFields({ field("shoe size", "43"), field("", "nothing") });
+    QVERIFY(!root(made).hasChildNodes());
+}
+
+void TestXmppVCard::whatCannotBeSentIsLeftOut()
+{
+    KirvXmppVCard made;
+    made.setFields({ field("about", QString("a") + QChar(0x1) + "b\n" + QChar(0xd800) + QString::fromUtf8("c😀")) });
+    QCOMPARE(valueOf(made, "about"), QString::fromUtf8("ab\nc😀"));
+}
+
+void TestXmppVCard::clearingKeepsThePicture()
+{
+    KirvXmppVCard cleared = card(fullEntry);
+    cleared.clear();
+    QCOMPARE(root(cleared).childNodes().size(), 1);
+    QCOMPARE(cleared.photo().data, QByteArray("ABC"));
+    QVERIFY(cleared.toFields().isEmpty());
+}
+
+void TestXmppVCard::aPictureIsSetAndRemoved()
+{
+    KirvXmppVCard changed = card(fullEntry);
+    changed.setPhoto({ "new", "image/jpeg" });
+    QCOMPARE(changed.photo().data, QByteArray("new"));
+    QCOMPARE(changed.photo().type, QString("image/jpeg"));
+    QCOMPARE(changed.photo().hash().toHex(), QByteArray("c2a6b03f190dfb2b4aa91f8af8d477a9bc3401dc"));
+    QCOMPARE(root(changed).elementsByTagName("PHOTO").size(), 1);
+
+    changed.setPhoto({});
+    QVERIFY(changed.photo().isNull() && changed.photo().hash().isEmpty());
+    QVERIFY(root(changed).firstChildElement("PHOTO").isNull());
+    QCOMPARE(valueOf(changed, "fullname"), QString("Anna Example"));
+}
+
+void TestXmppVCard::aPictureFileIsMadeSmall_data()
+{
+    QTest::addColumn<QImage>("image");
+    QTest::addColumn<QString>("type");
+    QImage plain(1000, 500, QImage::Format_RGB32);
+    plain.fill(Qt::blue);
+    QTest::newRow("simple") << plain << "image/png";
+    QTest::newRow("detailed") << noise(400) << "image/jpeg";
+}
+
+void TestXmppVCard::aPictureFileIsMadeSmall()
+{
+    QFETCH(QImage, image);
+    QFETCH(QString, type);
+    QTemporaryDir folder;
+    const KirvXmppPhoto photo = KirvXmppPhoto::fromFile(saved(image, folder.filePath("picture.png")));
+    QCOMPARE(photo.type, type);
+    const QImage sent = QImage::fromData(photo.data);
+    QCOMPARE(qMax(sent.width(), sent.height()), 192);
+    QVERIFY(photo.data.size() < KirvXmppVCard::largestSize / 2);
+}
+
+void TestXmppVCard::aFileWithoutAPictureGivesNone_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("text") << QByteArray("no picture");
+    QTest::newRow("drawing") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
+    QTest::newRow("more than the limit") << QByteArray(11 * 1024 * 1024, 'x');
+    QTest::newRow("empty") << QByteArray();
+}
+
+void TestXmppVCard::aFileWithoutAPictureGivesNone()
+{
+    QFETCH(QByteArray, content);
+    QTemporaryDir folder;
+    QFile file(folder.filePath("picture"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    QVERIFY(KirvXmppPhoto::fromFile(file.fileName()).isNull());
+    QVERIFY(KirvXmppPhoto::fromFile(folder.filePath("none")).isNull());
+    QVERIFY(KirvXmppPhoto::fromFile("/dev/zero").isNull());
+}
+
+void TestXmppVCard::theSizeIsThatOfTheXml()
+{
+    KirvXmppVCard made;
+    made.setFields({ field("nickname", "anna") });
+    QCOMPARE(made.size(),
+             int(qstrlen("<vCard xmlns=\"vcard-temp\"><NICKNAME xmlns=\"vcard-temp\">anna</NICKNAME></vCard>")));
+}
+
+QTEST_MAIN(TestXmppVCard)
+#include "tst_xmpp_vcard.moc"
