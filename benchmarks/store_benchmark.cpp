@@ -6,6 +6,7 @@
 
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
@@ -41,6 +42,7 @@ public:
         protocol = example;
         plugins->addProtocol(example);
         accounts->protocolLoaded(example);
+        services = std::make_unique<KirvHostServices>(*accounts, *plugins, *settings);
     }
 
     int commitCount() const { return store.commitCount(); }
@@ -66,6 +68,7 @@ private:
     std::unique_ptr<KirvClientSettings> settings;
     std::unique_ptr<KirvPluginLoader> plugins;
     std::unique_ptr<KirvAccountCollection> accounts;
+    std::unique_ptr<KirvHostServices> services;
 };
 
 /// The medians of one operation.

@@ -299,7 +299,9 @@ KirvReconciler::Wanted KirvAccount::wanted() const
 
 void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
 {
-    if (connection() || removed)
+    if (removed || (connection() && loadedProtocol == protocol))
+        return;
+    if (!dropConnection() || connection())
         return;
     loadedProtocol = protocol;
     mayLogIn = logIn;

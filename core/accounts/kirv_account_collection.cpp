@@ -81,9 +81,12 @@ void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
         unloaded->disconnect(this);
     // Those that were removed and are still logging out have connections of the protocol, too.
     for (const QPointer<KirvAccount> &account : guarded(withLeaving())) {
-        if (account && account->key().protocol == protocol)
-            account->unload();
-        if (account && account->key().protocol == protocol && !account->isRemoved())
+        if (!account || account->key().protocol != protocol)
+            continue;
+        if (account->protocol() && account->protocol() == protocols.value(protocol)) // by a slot, again
+            continue;
+        account->unload();
+        if (account && !account->isRemoved())
             Q_EMIT account->changed();
     }
 }

@@ -36,5 +36,6 @@ KirvPresence KirvProtocol::createPresenceWithId(const QString &id, const QString
 
 void KirvProtocol::accountPresenceChanged(KirvAccountConnection *account)
 {
-    static_cast<KirvAccount *>(account)->tryAgain();
+    if (account)
+        static_cast<KirvAccount *>(account)->tryAgain();
 }

@@ -28,10 +28,11 @@ QString KirvAvatarFolder::import(const QString &source, QString *error) const
 
     const QString name =
         QUuid::createUuid().toString(QUuid::WithoutBraces) + QLatin1Char('.') + QString::fromLatin1(format);
+    // Flushed by ourselves: commit() does not report that what was buffered could not be written.
     QSaveFile copy(QDir(folder).filePath(name));
     const bool written = copy.open(QIODevice::WriteOnly)
         && copy.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) && copy.write(data) == data.size()
-        && copy.commit() && kirvSyncFolder(folder);
+        && copy.flush() && copy.commit() && kirvSyncFolder(folder);
     if (!written) {
         QFile::remove(copy.fileName());
         *error = tr("The picture \"%1\" could not be copied into the profile: %2").arg(source, copy.errorString());

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/example/kirv_example_connection.h"
 
-#include "host/kirv_account_connection.h"
+#include <algorithm>
 
-KirvExampleConnection::KirvExampleConnection(KirvAccountConnection *account, KirvClock &clock)
-    : KirvConnection(account, clock)
+KirvExampleConnection::KirvExampleConnection(KirvClock &clock)
+    : KirvConnection(clock)
 {
 }
 
@@ -15,13 +15,13 @@ QString KirvExampleConnection::latencySetting()
 
 void KirvExampleConnection::startLogin(const KirvPresence &)
 {
-    const QString password = account()->getPassword();
+    const QString password = login().password;
     if (password.isEmpty()) {
         loginFailed(KirvFailure::PasswordMissing);
         return;
     }
     session = std::make_unique<QObject>();
-    answerLater([this, password] {
+    replyLater([this, password] {
         if (password == QLatin1String("wrong"))
             loginFailed(KirvFailure::WrongPassword);
         else
@@ -31,7 +31,7 @@ void KirvExampleConnection::startLogin(const KirvPresence &)
 
 void KirvExampleConnection::startLogout()
 {
-    answerLater([this] {
+    replyLater([this] {
         abortConnection();
         logoutFinished();
     });
@@ -46,37 +46,45 @@ void KirvExampleConnection::applyPresence(const KirvPresence &presence)
 {
     const QString description = presence.getDescription();
     if (!description.isEmpty())
-        answerLater([this, description] { Q_EMIT noticeReceived(tr("The server echoes: %1").arg(description)); });
+        replyLater([this, description] { Q_EMIT noticeReceived(tr("The server echoes: %1").arg(description)); });
 }
 
-void KirvExampleConnection::fetchDirectory()
+void KirvExampleConnection::startDirectoryFetch(int request)
 {
-    const int request = beginDirectoryRequest();
-    answerLater([this, request] { finishDirectoryRequest(entry, request); });
+    replyLater([this, request] { answerDirectoryRequest(request, entry); });
 }
 
-void KirvExampleConnection::publishDirectory(const QList<KirvField> &fields)
+void KirvExampleConnection::startDirectoryPublication(int request, const QList<KirvField> &changes)
 {
-    const int request = beginDirectoryRequest();
-    answerLater([this, request, fields] {
-        entry = fields;
-        finishDirectoryRequest(entry, request);
+    replyLater([this, request, changes] {
+        for (const KirvField &change : changes) {
+            const auto hasSameId = [&change](const KirvField &field) { return field.getId() == change.getId(); };
+            const auto field = std::find_if(entry.begin(), entry.end(), hasSameId);
+            if (field == entry.end())
+                entry.append(change);
+            else
+                *field = change;
+        }
+        answerDirectoryRequest(request, entry);
     });
 }
 
-void KirvExampleConnection::deleteDirectory()
+void KirvExampleConnection::startDirectoryDeletion(int request)
 {
-    publishDirectory({});
+    replyLater([this, request] {
+        entry.clear();
+        answerDirectoryRequest(request, entry);
+    });
 }
 
-void KirvExampleConnection::answerLater(std::function<void()> answer)
+void KirvExampleConnection::replyLater(std::function<void()> reply)
 {
-    clock().callLater(latency(), session.get(), std::move(answer));
+    clock().callLater(latency(), session.get(), std::move(reply));
 }
 
 int KirvExampleConnection::latency() const
 {
-    for (const KirvField &field : account()->getAccountSettingsInOrder()) {
+    for (const KirvField &field : login().settings) {
         if (field.getId() == latencySetting())
             return field.getText().toInt();
     }

@@ -4,20 +4,16 @@
 
 #include "core/protocol/kirv_connection.h"
 
-/// A connection to a server that exists in this object only. It answers after the account's latency, accepts
-/// every password but "wrong", and keeps one directory entry.
+/// A connection to a server that exists in this object only. It replies after the latency of the account's settings,
+/// accepts every password but "wrong", and keeps one directory entry.
 class KirvExampleConnection : public KirvConnection {
     Q_OBJECT
 
 public:
-    explicit KirvExampleConnection(KirvAccountConnection *account, KirvClock &clock = KirvClock::system());
+    explicit KirvExampleConnection(KirvClock &clock = KirvClock::system());
 
-    /// The id of the setting that says after how many milliseconds the server answers.
+    /// The id of the setting that says after how many milliseconds the server replies.
     static QString latencySetting();
-
-    void fetchDirectory() override;
-    void publishDirectory(const QList<KirvField> &fields) override;
-    void deleteDirectory() override;
 
 protected:
     void startLogin(const KirvPresence &presence) override;
@@ -25,11 +21,15 @@ protected:
     void abortConnection() override;
     void applyPresence(const KirvPresence &presence) override;
 
+    void startDirectoryFetch(int request) override;
+    void startDirectoryPublication(int request, const QList<KirvField> &changes) override;
+    void startDirectoryDeletion(int request) override;
+
 private:
-    void answerLater(std::function<void()> answer);
+    void replyLater(std::function<void()> reply);
     int latency() const;
 
-    std::unique_ptr<QObject> session; ///< stands for the open socket: what the server still has to say dies with it
+    std::unique_ptr<QObject> session; ///< stands for the open socket: replies that are under way end with it
     QList<KirvField> entry;
 };
 

@@ -7,9 +7,9 @@ namespace {
 
 KirvField latencyField(int milliseconds)
 {
-    return KirvField::number(KirvExampleProtocol::tr("Answers after"), KirvExampleConnection::latencySetting(),
+    return KirvField::number(KirvExampleProtocol::tr("Replies after"), KirvExampleConnection::latencySetting(),
                              milliseconds, 0, 60000,
-                             KirvExampleProtocol::tr("How long the server takes to answer, in milliseconds."));
+                             KirvExampleProtocol::tr("How long the server takes to reply, in milliseconds."));
 }
 
 } // namespace
@@ -72,5 +72,5 @@ QList<KirvField> KirvExampleProtocol::directoryFields() const
 
 KirvConnection *KirvExampleProtocol::createConnection()
 {
-    return new KirvExampleConnection(account);
+    return new KirvExampleConnection;
 }

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "core/protocol/kirv_connection.h"
-#include "tests/support/kirv_fake_clock.h"
+#include "tests/support/fakes/kirv_fake_clock.h"
+#include "tests/support/fakes/kirv_fake_connection.h"
 
 #include <QPointer>
-#include <QSignalSpy>
 #include <QtTest>
-
-#include <set>
 
 namespace {
 
@@ -15,62 +12,8 @@ using State = KirvConnection::State;
 const KirvPresence available(QStringLiteral("available"), QStringLiteral("Available"), QString());
 const KirvPresence away(QStringLiteral("away"), QStringLiteral("Away"), QString(), QStringLiteral("at lunch"));
 const KirvPresence offline(QStringLiteral("offline"), QStringLiteral("Offline"), QString());
-const QList<KirvField> entry { KirvField::textEdit(QString(), QStringLiteral("name"), QStringLiteral("Ann"),
-                                                   QString()) };
-
-/// Writes down what it is asked to do and answers when the test says so.
-class ScriptedConnection : public KirvConnection {
-public:
-    explicit ScriptedConnection(KirvClock &clock)
-        : KirvConnection(nullptr, clock)
-    {
-        Timing timing;
-        timing.retryJitter = 0;
-        setTiming(timing);
-    }
-
-    void fetchDirectory() override { request = beginDirectoryRequest(); }
-
-    using KirvConnection::connectionLost;
-    using KirvConnection::failDirectoryRequest;
-    using KirvConnection::finishDirectoryRequest;
-    using KirvConnection::loginFailed;
-    using KirvConnection::loginSucceeded;
-    using KirvConnection::logoutFinished;
-    using KirvConnection::requestFailed;
-
-    /// What was asked since the last look.
-    QStringList takeCalls() { return std::exchange(calls, {}); }
-
-    std::function<void()> answerToLogin = [] {};
-    std::function<void()> answerToLogout = [] {};
-    std::function<void()> answerToAbort = [] {};
-    int request = 0;
-
-protected:
-    void startLogin(const KirvPresence &presence) override
-    {
-        calls.append(QStringLiteral("login ") + presence.getId());
-        answerToLogin();
-    }
-    void startLogout() override
-    {
-        calls.append(QStringLiteral("logout"));
-        answerToLogout();
-    }
-    void abortConnection() override
-    {
-        calls.append(QStringLiteral("abort"));
-        answerToAbort();
-    }
-    void applyPresence(const KirvPresence &presence) override
-    {
-        calls.append(QStringLiteral("presence ") + presence.getId());
-    }
-
-private:
-    QStringList calls;
-};
+const KirvLogin login { QStringLiteral("ann"), QStringLiteral("secret"), {} };
+const KirvLogin otherLogin { QStringLiteral("ann"), QStringLiteral("changed"), {} };
 
 } // namespace
 
@@ -78,34 +21,36 @@ class tst_Connection : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
 
     void logsInAndOut();
-    void tellsOnlyRealChangesOfTheState();
-    void arrivesWithThePresenceAskedForLast();
+    void emitsOnlyRealChangesOfTheState();
+    void arrivesWithThePresenceThatWasWantedLast();
     void changesThePresenceWhileOnline();
     void aLoginThatTakesTooLongIsBrokenOff();
     void aLoginInTimeIsNotBrokenOff();
     void waitsTwiceAsLongAfterEachFailure();
-    void waitsUpToAFifthMoreOrLess();
     void aShortSuccessDoesNotShortenTheWait();
     void aLastingSuccessShortensTheWait();
-    void askingAgainShortensTheWait();
+    void loggingInAgainShortensTheWait();
+    void changingThePresenceKeepsTheWait();
     void retriesOnlyWhatMayHelp_data();
     void retriesOnlyWhatMayHelp();
-    void tellsEachFailureOnce();
+    void emitsEachFailureOnce();
     void forgetsTheFailureAfterASuccess();
     void saysSinceWhenAndUntilWhen();
-    void goesOffline_data();
-    void goesOffline();
-    void goingSomewhereEndsTheWait();
-    void goingSomewhereWhileLoggingOutComesBack();
-    void changesItsMindAboutComingBack();
+    void logsOut_data();
+    void logsOut();
+    void loggingInEndsTheWait();
+    void loggingInWhileLoggingOutComesBack();
+    void aLogOutCancelsComingBack();
     void aLogoutIsBounded();
-    void reconnects_data();
-    void reconnects();
+    void logsInAgain_data();
+    void logsInAgain();
+    void theServersNewPasswordKeepsTheSession();
+    void itsProtocolSaysWhichPresenceIsOffline();
+    void avatarsArePublishedWhileOnline();
     void drops_data();
     void drops();
     void ignoresLateReports_data();
@@ -114,19 +59,10 @@ private Q_SLOTS:
     void takesSynchronousAnswers();
     void survivesItsDestructionInASlot_data();
     void survivesItsDestructionInASlot();
-    void survivesItsDestructionWhenAFailureIsTold();
+    void survivesItsDestructionWhenAFailureIsEmitted();
     void survivesItsDestructionInEveryState_data();
     void survivesItsDestructionInEveryState();
     void aSlotMayMoveItOn();
-    void keepsTheWantedPresenceWithoutActing();
-    void answersADirectoryRequestOnce();
-    void answersADirectoryRequestThatTakesTooLong();
-    void answersADirectoryRequestThatFails();
-    void answersADirectoryRequestWhenTheConnectionEnds_data();
-    void answersADirectoryRequestWhenTheConnectionEnds();
-    void aNewerDirectoryRequestTakesThePlace();
-    void survivesItsDestructionByADirectoryAnswer();
-    void answersWithoutADirectory();
     void theSystemClockCallsLater();
     void theSystemClockForgetsADestroyedContext();
 
@@ -135,21 +71,19 @@ private:
     QList<State> takeStates();
 
     KirvFakeClock clock;
-    QPointer<ScriptedConnection> connection;
+    QPointer<KirvFakeConnection> connection;
     QList<State> states;
     QList<KirvFailure> failures;
 };
 
-Q_DECLARE_METATYPE(KirvField)
-
-void tst_Connection::initTestCase()
-{
-    qRegisterMetaType<QList<KirvField>>("QList<KirvField>");
-}
-
 void tst_Connection::init()
 {
-    connection = new ScriptedConnection(clock);
+    const auto server = std::make_shared<KirvFakeServer>();
+    server->logIn = server->logOut = KirvFakeServer::Holds;
+    connection = new KirvFakeConnection(server, clock);
+    KirvConnection::Timing timing;
+    timing.backOff.jitter = 0;
+    connection->setTiming(timing);
     states.clear();
     failures.clear();
     connect(connection, &KirvConnection::stateChanged, this, [this](State state) { states.append(state); });
@@ -166,7 +100,7 @@ void tst_Connection::cleanup()
 void tst_Connection::bringTo(State state)
 {
     if (state != State::Offline)
-        connection->goTo(available);
+        connection->logIn(login, available);
     if (state == State::Waiting)
         connection->loginFailed(KirvFailure::ConnectionRefused);
     if (state == State::Online || state == State::Disconnecting)
@@ -187,16 +121,16 @@ QList<State> tst_Connection::takeStates()
 void tst_Connection::logsInAndOut()
 {
     QCOMPARE(connection->state(), State::Offline);
-    connection->goTo(available);
+    connection->logIn(login, available);
     QCOMPARE(connection->state(), State::Connecting);
     QVERIFY(!connection->isLoggedIn());
     connection->loginSucceeded();
     QVERIFY(connection->isLoggedIn());
-    QCOMPARE(connection->takeCalls(), QStringList { "login available" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in available secret" });
 
     connection->logOut();
     QCOMPARE(connection->state(), State::Disconnecting);
-    QCOMPARE(connection->takeCalls(), QStringList { "logout" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log out" });
     connection->logoutFinished();
     QCOMPARE(takeStates(), (QList<State> { State::Connecting, State::Online, State::Disconnecting, State::Offline }));
     clock.advance(1000000);
@@ -204,40 +138,39 @@ void tst_Connection::logsInAndOut()
     QCOMPARE(takeStates(), QList<State>());
 }
 
-void tst_Connection::tellsOnlyRealChangesOfTheState()
+void tst_Connection::emitsOnlyRealChangesOfTheState()
 {
-    connection->goTo(available);
-    connection->goTo(available);
-    connection->reconnect(available);
+    connection->logIn(login, available);
+    connection->logIn(login, available);
+    connection->logIn(otherLogin, away);
     QCOMPARE(takeStates(), QList<State> { State::Connecting });
     connection->loginSucceeded();
     connection->loginSucceeded();
-    connection->goTo(away);
+    connection->changePresence(available);
     QCOMPARE(takeStates(), QList<State> { State::Online });
     connection->drop();
     connection->drop();
     connection->logOut();
-    connection->goTo(offline);
     QCOMPARE(takeStates(), QList<State> { State::Offline });
 }
 
-void tst_Connection::arrivesWithThePresenceAskedForLast()
+void tst_Connection::arrivesWithThePresenceThatWasWantedLast()
 {
-    connection->goTo(available);
-    connection->goTo(offline);
-    connection->goTo(available);
-    connection->goTo(away);
-    connection->takeCalls();
+    connection->changePresence(away);
+    QCOMPARE(connection->takeCalls(), QStringList());
+    connection->logIn(login, available);
+    connection->changePresence(away);
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in available secret" });
     connection->loginSucceeded();
-    QCOMPARE(connection->takeCalls(), QStringList { "presence away" });
-    QCOMPARE(connection->wantedPresence().getDescription(), QStringLiteral("at lunch"));
+    QCOMPARE(connection->takeCalls(), QStringList { "ann presence away" });
+    QCOMPARE(connection->presence().getDescription(), QStringLiteral("at lunch"));
 }
 
 void tst_Connection::changesThePresenceWhileOnline()
 {
     bringTo(State::Online);
-    connection->goTo(away);
-    QCOMPARE(connection->takeCalls(), QStringList { "presence away" });
+    connection->changePresence(away);
+    QCOMPARE(connection->takeCalls(), QStringList { "ann presence away" });
     QCOMPARE(takeStates(), QList<State>());
 }
 
@@ -247,11 +180,11 @@ void tst_Connection::aLoginThatTakesTooLongIsBrokenOff()
     clock.advance(connection->timing().loginTimeout - 1);
     QCOMPARE(connection->state(), State::Connecting);
     clock.advance(1);
-    QCOMPARE(connection->takeCalls(), QStringList { "abort" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann abort" });
     QCOMPARE(connection->state(), State::Waiting);
     QCOMPARE(connection->lastFailure().kind(), KirvFailure::TimedOut);
     clock.advance(connection->timing().backOff.first);
-    QCOMPARE(connection->takeCalls(), QStringList { "login available" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in available secret" });
     QCOMPARE(connection->state(), State::Connecting);
 }
 
@@ -265,7 +198,7 @@ void tst_Connection::aLoginInTimeIsNotBrokenOff()
 
 void tst_Connection::waitsTwiceAsLongAfterEachFailure()
 {
-    connection->goTo(available);
+    connection->logIn(login, available);
     for (const int wait : { 2000, 4000, 8000, 16000, 32000, 64000, 128000, 256000, 300000, 300000 }) {
         connection->loginFailed(KirvFailure::HostNotFound);
         QCOMPARE(connection->state(), State::Waiting);
@@ -274,22 +207,6 @@ void tst_Connection::waitsTwiceAsLongAfterEachFailure()
         clock.advance(1);
         QCOMPARE(connection->state(), State::Connecting);
     }
-}
-
-void tst_Connection::waitsUpToAFifthMoreOrLess()
-{
-    KirvConnection::Timing timing;
-    QCOMPARE(timing.retryJitter, 0.2);
-    connection->setTiming(timing);
-    std::set<qint64> waits;
-    for (int i = 0; i < 200; ++i) {
-        connection->goTo(available);
-        connection->loginFailed(KirvFailure::HostNotFound);
-        waits.insert(clock.now().msecsTo(connection->nextRetry()));
-    }
-    QVERIFY(*waits.begin() >= 1600);
-    QVERIFY(*waits.rbegin() <= 2400);
-    QVERIFY(*waits.begin() < 1800 && *waits.rbegin() > 2200);
 }
 
 void tst_Connection::aShortSuccessDoesNotShortenTheWait()
@@ -312,14 +229,24 @@ void tst_Connection::aLastingSuccessShortensTheWait()
     QCOMPARE(clock.now().msecsTo(connection->nextRetry()), 2000);
 }
 
-void tst_Connection::askingAgainShortensTheWait()
+void tst_Connection::loggingInAgainShortensTheWait()
 {
     bringTo(State::Waiting);
     clock.advance(2000);
     connection->loginFailed(KirvFailure::ConnectionRefused);
-    connection->goTo(available);
+    connection->logIn(login, available);
     connection->loginFailed(KirvFailure::ConnectionRefused);
     QCOMPARE(clock.now().msecsTo(connection->nextRetry()), 2000);
+}
+
+void tst_Connection::changingThePresenceKeepsTheWait()
+{
+    bringTo(State::Waiting);
+    connection->changePresence(away);
+    QCOMPARE(connection->state(), State::Waiting);
+    QCOMPARE(connection->takeCalls(), QStringList());
+    clock.advance(connection->timing().backOff.first);
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in away secret" });
 }
 
 void tst_Connection::retriesOnlyWhatMayHelp_data()
@@ -358,7 +285,7 @@ void tst_Connection::retriesOnlyWhatMayHelp()
     QCOMPARE(connection->state(), expected);
     QCOMPARE(connection->lastFailure().kind(), failure.kind());
 
-    connection->goTo(available);
+    connection->logIn(login, available);
     connection->loginSucceeded();
     connection->connectionLost(failure);
     QCOMPARE(connection->state(), expected);
@@ -367,7 +294,7 @@ void tst_Connection::retriesOnlyWhatMayHelp()
     QCOMPARE(!connection->takeCalls().isEmpty(), retries);
 }
 
-void tst_Connection::tellsEachFailureOnce()
+void tst_Connection::emitsEachFailureOnce()
 {
     bringTo(State::Connecting);
     connection->loginFailed(KirvFailure::WrongPassword);
@@ -376,7 +303,7 @@ void tst_Connection::tellsEachFailureOnce()
     QCOMPARE(failures.size(), 1);
     QCOMPARE(failures.first().kind(), KirvFailure::WrongPassword);
 
-    connection->goTo(available);
+    connection->logIn(login, available);
     connection->connectionLost(KirvFailure());
     QCOMPARE(failures.size(), 2);
     QCOMPARE(failures.last().kind(), KirvFailure::ConnectionLost);
@@ -386,7 +313,7 @@ void tst_Connection::forgetsTheFailureAfterASuccess()
 {
     bringTo(State::Waiting);
     QVERIFY(connection->lastFailure().isFailure());
-    connection->goTo(available);
+    connection->logIn(login, available);
     QVERIFY(connection->lastFailure().isFailure());
     connection->loginSucceeded();
     QVERIFY(!connection->lastFailure().isFailure());
@@ -406,28 +333,27 @@ void tst_Connection::saysSinceWhenAndUntilWhen()
     QVERIFY(!connection->nextRetry().isValid());
 }
 
-void tst_Connection::goesOffline_data()
+void tst_Connection::logsOut_data()
 {
     QTest::addColumn<State>("state");
     QTest::addColumn<QStringList>("calls");
     QTest::addColumn<State>("reached");
     QTest::newRow("Offline") << State::Offline << QStringList() << State::Offline;
-    QTest::newRow("Connecting") << State::Connecting << QStringList { "abort" } << State::Offline;
-    QTest::newRow("Online") << State::Online << QStringList { "logout" } << State::Disconnecting;
+    QTest::newRow("Connecting") << State::Connecting << QStringList { "ann abort" } << State::Offline;
+    QTest::newRow("Online") << State::Online << QStringList { "ann log out" } << State::Disconnecting;
     QTest::newRow("Disconnecting") << State::Disconnecting << QStringList() << State::Disconnecting;
-    QTest::newRow("Waiting") << State::Waiting << QStringList { "abort" } << State::Offline;
+    QTest::newRow("Waiting") << State::Waiting << QStringList { "ann abort" } << State::Offline;
 }
 
-void tst_Connection::goesOffline()
+void tst_Connection::logsOut()
 {
     QFETCH(State, state);
     QFETCH(QStringList, calls);
     QFETCH(State, reached);
     bringTo(state);
-    connection->goTo(offline);
+    connection->logOut();
     QCOMPARE(connection->takeCalls(), calls);
     QCOMPARE(connection->state(), reached);
-    QCOMPARE(connection->wantedPresence().getId(), QStringLiteral("offline"));
     connection->logoutFinished();
     clock.advance(1000000);
     QCOMPARE(connection->takeCalls(), QStringList());
@@ -435,35 +361,41 @@ void tst_Connection::goesOffline()
     QCOMPARE(failures.size(), 0);
 }
 
-void tst_Connection::goingSomewhereEndsTheWait()
+void tst_Connection::loggingInEndsTheWait()
 {
     bringTo(State::Waiting);
-    connection->goTo(away);
-    QCOMPARE(connection->takeCalls(), QStringList { "login away" });
+    connection->logIn(otherLogin, away);
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in away changed" });
     QVERIFY(!connection->nextRetry().isValid());
     clock.advance(connection->timing().backOff.first);
     QCOMPARE(connection->takeCalls(), QStringList());
 }
 
-void tst_Connection::goingSomewhereWhileLoggingOutComesBack()
+void tst_Connection::loggingInWhileLoggingOutComesBack()
 {
     bringTo(State::Disconnecting);
-    connection->goTo(away);
+    QVERIFY(!connection->comesBack());
+    connection->logIn(otherLogin, available);
+    QVERIFY(connection->comesBack());
+    connection->changePresence(away);
     QCOMPARE(connection->state(), State::Disconnecting);
     connection->logoutFinished();
-    QCOMPARE(connection->takeCalls(), QStringList { "login away" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in away changed" });
     QCOMPARE(takeStates(), (QList<State> { State::Offline, State::Connecting }));
+    QVERIFY(!connection->comesBack());
     connection->loginSucceeded();
     connection->logOut();
+    QVERIFY(!connection->comesBack());
     connection->logoutFinished();
     QCOMPARE(connection->state(), State::Offline);
 }
 
-void tst_Connection::changesItsMindAboutComingBack()
+void tst_Connection::aLogOutCancelsComingBack()
 {
     bringTo(State::Disconnecting);
-    connection->goTo(away);
-    connection->goTo(offline);
+    connection->logIn(login, away);
+    connection->logOut();
+    QVERIFY(!connection->comesBack());
     connection->logoutFinished();
     QCOMPARE(connection->state(), State::Offline);
     QCOMPARE(connection->takeCalls(), QStringList());
@@ -477,32 +409,67 @@ void tst_Connection::aLogoutIsBounded()
     QCOMPARE(connection->state(), State::Disconnecting);
     clock.advance(1);
     QCOMPARE(connection->state(), State::Offline);
-    QCOMPARE(connection->takeCalls(), (QStringList { "logout", "abort" }));
+    QCOMPARE(connection->takeCalls(), (QStringList { "ann log out", "ann abort" }));
     QCOMPARE(failures.size(), 0);
 }
 
-void tst_Connection::reconnects_data()
+void tst_Connection::logsInAgain_data()
 {
     QTest::addColumn<State>("state");
     QTest::addColumn<QStringList>("calls");
-    QTest::newRow("Offline") << State::Offline << QStringList { "login away" };
-    QTest::newRow("Connecting") << State::Connecting << QStringList { "abort", "login away" };
-    QTest::newRow("Online") << State::Online << QStringList { "logout", "login away" };
-    QTest::newRow("Disconnecting") << State::Disconnecting << QStringList { "login away" };
-    QTest::newRow("Waiting") << State::Waiting << QStringList { "login away" };
+    QTest::newRow("Offline") << State::Offline << QStringList { "ann log in away changed" };
+    QTest::newRow("Connecting") << State::Connecting << QStringList { "ann abort", "ann log in away changed" };
+    QTest::newRow("Online") << State::Online << QStringList { "ann log out", "ann log in away changed" };
+    QTest::newRow("Disconnecting") << State::Disconnecting << QStringList { "ann log in away changed" };
+    QTest::newRow("Waiting") << State::Waiting << QStringList { "ann log in away changed" };
 }
 
-void tst_Connection::reconnects()
+void tst_Connection::logsInAgain()
 {
     QFETCH(State, state);
     QFETCH(QStringList, calls);
     bringTo(state);
-    connection->reconnect(away);
+    connection->logIn(otherLogin, away);
+    QCOMPARE(connection->comesBack(), connection->state() == State::Disconnecting);
+    QCOMPARE(connection->login(), otherLogin);
     connection->logoutFinished();
     QCOMPARE(connection->takeCalls(), calls);
     QCOMPARE(connection->state(), State::Connecting);
-    connection->reconnect(offline);
+    connection->logOut();
     QCOMPARE(connection->state(), State::Offline);
+}
+
+void tst_Connection::theServersNewPasswordKeepsTheSession()
+{
+    bringTo(State::Online);
+    connection->acceptPassword(QStringLiteral("changed"));
+    QCOMPARE(connection->login(), otherLogin);
+    QCOMPARE(connection->takeCalls(), QStringList());
+    QCOMPARE(takeStates(), QList<State>());
+    connection->connectionLost(KirvFailure::ConnectionLost);
+    clock.advance(connection->timing().backOff.first);
+    QCOMPARE(connection->takeCalls().last(), QStringLiteral("ann log in available changed"));
+}
+
+void tst_Connection::itsProtocolSaysWhichPresenceIsOffline()
+{
+    QVERIFY(connection->isOfflinePresence(offline));
+    QVERIFY(!connection->isOfflinePresence(available));
+    QVERIFY(!connection->isOfflinePresence(KirvPresence()));
+}
+
+void tst_Connection::avatarsArePublishedWhileOnline()
+{
+    connection->setAvatarPath(QStringLiteral("one.png"));
+    connection->logIn(login, available);
+    connection->setAvatarPath(QStringLiteral("two.png"));
+    connection->loginSucceeded();
+    QCOMPARE(connection->takeCalls(), QStringList { "ann log in available secret" });
+    connection->setAvatarPath(QStringLiteral("two.png"));
+    QCOMPARE(connection->takeCalls(), QStringList());
+    connection->setAvatarPath(QString());
+    QCOMPARE(connection->takeCalls(), QStringList { "ann avatar" });
+    QCOMPARE(connection->avatarPath(), QString());
 }
 
 void tst_Connection::drops_data()
@@ -517,10 +484,10 @@ void tst_Connection::drops()
     QFETCH(State, state);
     bringTo(state);
     if (state == State::Disconnecting)
-        connection->goTo(away);
+        connection->logIn(login, away);
     connection->drop();
     QCOMPARE(connection->state(), State::Offline);
-    QCOMPARE(connection->takeCalls(), state == State::Offline ? QStringList() : QStringList { "abort" });
+    QCOMPARE(connection->takeCalls(), state == State::Offline ? QStringList() : QStringList { "ann abort" });
     clock.advance(1000000);
     QCOMPARE(connection->takeCalls(), QStringList());
     QCOMPARE(failures.size(), 0);
@@ -560,7 +527,7 @@ void tst_Connection::ignoresLateReports()
 
 void tst_Connection::ignoresReportsOfItsOwnAbort()
 {
-    connection->answerToAbort = [this] {
+    connection->onAbort = [this] {
         connection->loginFailed(KirvFailure::Other);
         connection->connectionLost(KirvFailure::ConnectionLost);
         connection->logoutFinished();
@@ -578,15 +545,15 @@ void tst_Connection::ignoresReportsOfItsOwnAbort()
 
 void tst_Connection::takesSynchronousAnswers()
 {
-    connection->answerToLogin = [this] { connection->loginFailed(KirvFailure::ConnectionRefused); };
-    connection->goTo(available);
-    QCOMPARE(connection->takeCalls(), (QStringList { "login available", "abort" }));
+    connection->onLogIn = [this] { connection->loginFailed(KirvFailure::ConnectionRefused); };
+    connection->logIn(login, available);
+    QCOMPARE(connection->takeCalls(), (QStringList { "ann log in available secret", "ann abort" }));
     QCOMPARE(takeStates(), (QList<State> { State::Connecting, State::Waiting }));
-    connection->answerToLogin = [this] { connection->loginSucceeded(); };
-    connection->answerToLogout = [this] { connection->logoutFinished(); };
+    connection->onLogIn = [this] { connection->loginSucceeded(); };
+    connection->onLogOut = [this] { connection->logoutFinished(); };
     clock.advance(connection->timing().backOff.first);
     QVERIFY(connection->isLoggedIn());
-    connection->reconnect(available);
+    connection->logIn(login, available);
     QVERIFY(connection->isLoggedIn());
     connection->logOut();
     QCOMPARE(connection->state(), State::Offline);
@@ -600,8 +567,8 @@ void tst_Connection::survivesItsDestructionInASlot_data()
     QTest::addColumn<State>("before");
     QTest::addColumn<State>("entered");
     QTest::addColumn<int>("action");
-    enum Action { GoTo, Succeed, Fail, Lose, LogOut, Finish, Drop, Advance };
-    QTest::newRow("goTo") << State::Offline << State::Connecting << int(GoTo);
+    enum Action { LogIn, Succeed, Fail, Lose, LogOut, Finish, Drop, Advance };
+    QTest::newRow("logIn") << State::Offline << State::Connecting << int(LogIn);
     QTest::newRow("loginSucceeded") << State::Connecting << State::Online << int(Succeed);
     QTest::newRow("loginFailed") << State::Connecting << State::Waiting << int(Fail);
     QTest::newRow("connectionLost") << State::Online << State::Waiting << int(Lose);
@@ -619,7 +586,7 @@ void tst_Connection::survivesItsDestructionInASlot()
     QFETCH(State, entered);
     QFETCH(int, action);
     const std::function<void()> actions[] = {
-        [this] { connection->goTo(available); },
+        [this] { connection->logIn(login, available); },
         [this] { connection->loginSucceeded(); },
         [this] { connection->loginFailed(KirvFailure::HostNotFound); },
         [this] { connection->connectionLost(KirvFailure::ConnectionLost); },
@@ -641,7 +608,7 @@ void tst_Connection::survivesItsDestructionInASlot()
     QCOMPARE(failures.size(), 0);
 }
 
-void tst_Connection::survivesItsDestructionWhenAFailureIsTold()
+void tst_Connection::survivesItsDestructionWhenAFailureIsEmitted()
 {
     bringTo(State::Online);
     connection->fetchDirectory();
@@ -670,159 +637,28 @@ void tst_Connection::survivesItsDestructionInEveryState()
 
 void tst_Connection::aSlotMayMoveItOn()
 {
-    connect(connection, &KirvConnection::stateChanged, this, [this](State state) {
-        if (state == State::Connecting && connection->wantedPresence().getId() == QLatin1String("available"))
-            connection->goTo(offline);
+    const auto movesOn = connect(connection, &KirvConnection::stateChanged, this, [this](State state) {
+        if (state == State::Connecting && connection->login() == login)
+            connection->logOut();
         else if (state == State::Waiting)
-            connection->goTo(away);
+            connection->logIn(otherLogin, away);
         else if (state == State::Online)
-            connection->goTo(available);
+            connection->changePresence(available);
     });
-    connection->goTo(available);
+    connection->logIn(login, available);
     QCOMPARE(connection->state(), State::Offline);
-    QCOMPARE(connection->takeCalls(), QStringList { "abort" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann abort" });
 
-    connection->goTo(away);
+    connection->logIn(otherLogin, away);
     connection->loginFailed(KirvFailure::TimedOut);
     QCOMPARE(connection->state(), State::Connecting);
-    QCOMPARE(connection->takeCalls(), (QStringList { "login away", "abort", "login away" }));
+    QCOMPARE(connection->takeCalls(),
+             (QStringList { "ann log in away changed", "ann abort", "ann log in away changed" }));
     connection->loginSucceeded();
-    QCOMPARE(connection->takeCalls(), QStringList { "presence available" });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann presence available" });
     clock.advance(1000000);
     QVERIFY(connection->isLoggedIn());
-}
-
-void tst_Connection::keepsTheWantedPresenceWithoutActing()
-{
-    bringTo(State::Online);
-    connection->setWantedPresence(away);
-    QCOMPARE(connection->wantedPresence().getId(), QStringLiteral("away"));
-    QCOMPARE(connection->takeCalls(), QStringList());
-    connection->goTo(connection->wantedPresence());
-    QCOMPARE(connection->takeCalls(), QStringList { "presence away" });
-}
-
-void tst_Connection::answersADirectoryRequestOnce()
-{
-    QSignalSpy answers(connection, &KirvConnection::directoryAnswered);
-    bringTo(State::Online);
-    connection->fetchDirectory();
-    QCOMPARE(answers.size(), 0);
-    connection->finishDirectoryRequest(entry);
-    connection->finishDirectoryRequest(entry);
-    connection->failDirectoryRequest(KirvFailure::RequestFailed);
-    clock.advance(1000000);
-    connection->drop();
-    QCOMPARE(answers.size(), 1);
-    QCOMPARE(answers.first().first().value<QList<KirvField>>(), entry);
-    QCOMPARE(failures.size(), 0);
-}
-
-void tst_Connection::answersADirectoryRequestThatTakesTooLong()
-{
-    QSignalSpy answers(connection, &KirvConnection::directoryAnswered);
-    bringTo(State::Online);
-    connection->fetchDirectory();
-    clock.advance(connection->timing().requestTimeout - 1);
-    QCOMPARE(answers.size(), 0);
-    clock.advance(1);
-    QCOMPARE(answers.size(), 1);
-    QVERIFY(answers.first().first().value<QList<KirvField>>().isEmpty());
-    QCOMPARE(failures.size(), 1);
-    QCOMPARE(failures.first().kind(), KirvFailure::TimedOut);
-    QVERIFY(connection->isLoggedIn());
-    QVERIFY(!connection->lastFailure().isFailure());
-    connection->finishDirectoryRequest(entry);
-    QCOMPARE(answers.size(), 1);
-}
-
-void tst_Connection::answersADirectoryRequestThatFails()
-{
-    QSignalSpy answers(connection, &KirvConnection::directoryAnswered);
-    bringTo(State::Online);
-    connection->fetchDirectory();
-    connection->failDirectoryRequest({ KirvFailure::RequestFailed, QStringLiteral("no room") });
-    QCOMPARE(answers.size(), 1);
-    QVERIFY(answers.first().first().value<QList<KirvField>>().isEmpty());
-    QCOMPARE(failures.size(), 1);
-    QCOMPARE(failures.first().detail(), QStringLiteral("no room"));
-}
-
-void tst_Connection::answersADirectoryRequestWhenTheConnectionEnds_data()
-{
-    QTest::addColumn<int>("action");
-    QTest::addColumn<QList<int>>("kinds");
-    QTest::newRow("logOut") << 0 << QList<int> { KirvFailure::RequestFailed };
-    QTest::newRow("drop") << 1 << QList<int> { KirvFailure::RequestFailed };
-    QTest::newRow("lost") << 2 << QList<int> { KirvFailure::RequestFailed, KirvFailure::ConnectionLost };
-    QTest::newRow("reconnect") << 3 << QList<int> { KirvFailure::RequestFailed };
-}
-
-void tst_Connection::answersADirectoryRequestWhenTheConnectionEnds()
-{
-    QFETCH(int, action);
-    QFETCH(QList<int>, kinds);
-    const std::function<void()> actions[] = {
-        [this] { connection->logOut(); },
-        [this] { connection->drop(); },
-        [this] { connection->connectionLost(KirvFailure::ConnectionLost); },
-        [this] { connection->reconnect(available); },
-    };
-    QSignalSpy answers(connection, &KirvConnection::directoryAnswered);
-    bringTo(State::Online);
-    connection->fetchDirectory();
-    actions[action]();
-    QCOMPARE(answers.size(), 1);
-    QVERIFY(answers.first().first().value<QList<KirvField>>().isEmpty());
-    QList<int> told;
-    for (const KirvFailure &failure : failures)
-        told.append(failure.kind());
-    QCOMPARE(told, kinds);
-    clock.advance(connection->timing().requestTimeout);
-    connection->finishDirectoryRequest(entry);
-    QCOMPARE(answers.size(), 1);
-}
-
-void tst_Connection::aNewerDirectoryRequestTakesThePlace()
-{
-    QSignalSpy answers(connection, &KirvConnection::directoryAnswered);
-    bringTo(State::Online);
-    connection->fetchDirectory();
-    const int first = connection->request;
-    clock.advance(10000);
-    connection->fetchDirectory();
-    QTRY_COMPARE(answers.size(), 1);
-    QVERIFY(answers.first().first().value<QList<KirvField>>().isEmpty());
-
-    connection->finishDirectoryRequest(entry, first);
-    clock.advance(connection->timing().requestTimeout - 10000);
-    QCOMPARE(answers.size(), 1);
-    connection->finishDirectoryRequest(entry, connection->request);
-    QCOMPARE(answers.size(), 2);
-    QCOMPARE(answers.last().first().value<QList<KirvField>>(), entry);
-}
-
-void tst_Connection::survivesItsDestructionByADirectoryAnswer()
-{
-    bringTo(State::Online);
-    connection->fetchDirectory();
-    connect(connection, &KirvConnection::directoryAnswered, this, [this] { delete connection; });
-    clock.advance(connection->timing().requestTimeout);
-    QVERIFY(!connection);
-}
-
-void tst_Connection::answersWithoutADirectory()
-{
-    QSignalSpy answers(connection, &KirvConnection::directoryAnswered);
-    bringTo(State::Online);
-    connection->KirvConnection::fetchDirectory();
-    connection->publishDirectory(entry);
-    connection->deleteDirectory();
-    QCOMPARE(answers.size(), 0);
-    QTRY_COMPARE(answers.size(), 3);
-    for (const QList<QVariant> &answer : answers)
-        QVERIFY(answer.first().value<QList<KirvField>>().isEmpty());
-    QCOMPARE(failures.size(), 0);
+    disconnect(movesOn);
 }
 
 void tst_Connection::theSystemClockCallsLater()

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/host/kirv_host_services.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_connection.h"
 #include "core/protocol/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
 
 #include <QDir>
@@ -13,8 +15,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-Q_DECLARE_METATYPE(KirvField)
-
 namespace {
 
 /// The core of a client with the example as its only protocol and one account of it.
@@ -22,7 +22,9 @@ class Core {
 public:
     Core()
         : isReady(store.open(folder.filePath(QStringLiteral("profile"))))
+        , settings(store)
         , accounts(store)
+        , services(accounts, plugins, settings)
     {
         QObject::connect(&plugins, &KirvPluginLoader::protocolLoaded, &accounts,
                          [this](KirvProtocolBase *protocol) { accounts.protocolLoaded(protocol); });
@@ -53,7 +55,9 @@ public:
     KirvStore store;
     bool isReady;
     KirvPluginLoader plugins;
+    KirvClientSettings settings;
     KirvAccountCollection accounts;
+    KirvHostServices services;
 };
 
 QString readFile(const QString &name)
@@ -61,9 +65,6 @@ QString readFile(const QString &name)
     QFile file(name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
-
-const QList<KirvField> entry { KirvField::textEdit(QString(), QStringLiteral("name"), QStringLiteral("Ann"),
-                                                   QString()) };
 
 } // namespace
 
@@ -79,16 +80,16 @@ private Q_SLOTS:
     void fillsAFormWithAConfiguration();
     void logsInAndOut();
     void aWrongPasswordIsNotTriedAgain();
-    void asksForAMissingPassword();
+    void needsAPassword();
     void aServerThatIsTooSlowIsGivenUp();
     void aChangedPresenceIsSent();
     void aChangedPasswordLogsInAgain();
     void theSamePasswordKeepsTheSession();
     void aDisabledAccountStaysOffline();
-    void anAccountWithoutConnectionIsLeftAlone();
+    void aChangedSettingLogsInAgain();
     void keepsADirectoryEntry();
-    void answersForAnAccountThatIsNotConnected();
-    void answersWhenTheProtocolGoes();
+    void aRequestOfAnAccountThatIsNotConnectedFails();
+    void aRequestFailsWhenTheProtocolIsUnloaded();
     void theGuideShowsThisExample();
 
 private:
@@ -97,7 +98,6 @@ private:
 
 void tst_ExampleProtocol::initTestCase()
 {
-    qRegisterMetaType<QList<KirvField>>("QList<KirvField>");
     qRegisterMetaType<KirvAccount *>();
     qRegisterMetaType<KirvConnection::State>();
 }
@@ -143,10 +143,13 @@ void tst_ExampleProtocol::logsInAndOut()
     QVERIFY(account);
     QVERIFY(!account->isLoggedIn());
     QTRY_VERIFY(account->isLoggedIn());
-    account->connection()->logOut();
+    account->setPresence(core->presence("offline"));
     QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
-    account->connection()->goTo(core->presence("away"));
+    account->setPresence(core->presence("away"));
     QTRY_VERIFY(account->isLoggedIn());
+    QCOMPARE(account->connection()->presence().getId(), QStringLiteral("away"));
+    account->setPresence(core->presence("offline"));
+    QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
 }
 
 void tst_ExampleProtocol::aWrongPasswordIsNotTriedAgain()
@@ -156,22 +159,20 @@ void tst_ExampleProtocol::aWrongPasswordIsNotTriedAgain()
     QCOMPARE(account->connection()->state(), KirvConnection::Offline);
 }
 
-void tst_ExampleProtocol::asksForAMissingPassword()
+void tst_ExampleProtocol::needsAPassword()
 {
     QSignalSpy questions(&core->accounts, &KirvAccountCollection::passwordNeeded);
     KirvAccount *account = core->createAccount(QString());
-    QCOMPARE(questions.size(), 1);
+    QTRY_COMPARE(questions.size(), 1);
     QCOMPARE(account->connection()->lastFailure().kind(), KirvFailure::PasswordMissing);
 }
 
 void tst_ExampleProtocol::aServerThatIsTooSlowIsGivenUp()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"), 60000);
-    account->connection()->drop();
     KirvConnection::Timing timing;
     timing.loginTimeout = 20;
     account->connection()->setTiming(timing);
-    account->connection()->goTo(core->presence("available"));
     QTRY_COMPARE(account->connection()->state(), KirvConnection::Waiting);
     QCOMPARE(account->connection()->lastFailure().kind(), KirvFailure::TimedOut);
 }
@@ -183,8 +184,8 @@ void tst_ExampleProtocol::aChangedPresenceIsSent()
     QSignalSpy notices(account->connection(), &KirvConnection::noticeReceived);
     account->setPresence(core->presence("away", QStringLiteral("at lunch")));
     core->protocol()->accountPresenceChanged(account);
-    QCOMPARE(account->connection()->wantedPresence().getId(), QStringLiteral("away"));
     QTRY_COMPARE(notices.size(), 1);
+    QCOMPARE(account->connection()->presence().getId(), QStringLiteral("away"));
     QCOMPARE(notices.first().first().toString(), QStringLiteral("The server echoes: at lunch"));
 
     account->setPresence(core->presence("offline"));
@@ -197,7 +198,6 @@ void tst_ExampleProtocol::aChangedPasswordLogsInAgain()
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
     QTRY_VERIFY(account->isLoggedIn());
     account->setPassword(QStringLiteral("wrong"));
-    QVERIFY(account->connection()->isPasswordOutdated());
     core->protocol()->accountPresenceChanged(account);
     QTRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
 
@@ -213,6 +213,7 @@ void tst_ExampleProtocol::theSamePasswordKeepsTheSession()
     QSignalSpy states(account->connection(), &KirvConnection::stateChanged);
     account->setPassword(QStringLiteral("secret"));
     core->protocol()->accountPresenceChanged(account);
+    QCoreApplication::processEvents();
     QCOMPARE(states.size(), 0);
     QVERIFY(account->isLoggedIn());
 }
@@ -225,66 +226,72 @@ void tst_ExampleProtocol::aDisabledAccountStaysOffline()
     QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
     account->setPresence(core->presence("available"));
     core->protocol()->accountPresenceChanged(account);
+    QCoreApplication::processEvents();
     QCOMPARE(account->connection()->state(), KirvConnection::Offline);
 }
 
-void tst_ExampleProtocol::anAccountWithoutConnectionIsLeftAlone()
+void tst_ExampleProtocol::aChangedSettingLogsInAgain()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
     QTRY_VERIFY(account->isLoggedIn());
-    auto *base = static_cast<KirvProtocolBase *>(core->protocol());
-    KirvConnection *connection = base->connectionOf(account);
-    QCOMPARE(connection, account->connection());
-    base->setConnectionOf(account, nullptr);
-    QSignalSpy states(connection, &KirvConnection::stateChanged);
-    account->setPresence(core->presence("offline"));
-    core->protocol()->accountPresenceChanged(account);
-    core->protocol()->fetchPubdirInfo(account);
-    QCOMPARE(states.size(), 0);
+    QSignalSpy states(account->connection(), &KirvConnection::stateChanged);
+    account->setAccountSettings({ KirvField::number(QString(), QStringLiteral("latency"), 2, 0, 60000, QString()) });
+    QTRY_COMPARE(states.size(), 4);
+    QTRY_VERIFY(account->isLoggedIn());
 }
 
 void tst_ExampleProtocol::keepsADirectoryEntry()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
     QTRY_VERIFY(account->isLoggedIn());
-    QSignalSpy answers(account->connection(), &KirvConnection::directoryAnswered);
-    const auto takeAnswer = [&] { return answers.takeFirst().first().value<QList<KirvField>>(); };
+    QList<KirvDirectoryAnswer> answers;
+    connect(account->connection(), &KirvConnection::directoryAnswered, this,
+            [&](const KirvDirectoryAnswer &answer) { answers << answer; });
+    const auto field = [](const char *id, const char *text) {
+        return KirvField::textEdit(QString(), QLatin1String(id), QLatin1String(text), QString());
+    };
 
     core->protocol()->fetchPubdirInfo(account);
     QTRY_COMPARE(answers.size(), 1);
-    QVERIFY(takeAnswer().isEmpty());
-    core->protocol()->publishPubdirInfo(account, entry);
+    QCOMPARE(answers.takeFirst().outcome, KirvDirectoryAnswer::None);
+    core->protocol()->publishPubdirInfo(account, { field("name", "Ann"), field("town", "Verona") });
     QTRY_COMPARE(answers.size(), 1);
-    QCOMPARE(takeAnswer(), entry);
-    core->protocol()->fetchPubdirInfo(account);
+    QCOMPARE(answers.takeFirst().fields.size(), 2);
+    // A change of one field leaves the other one as it is.
+    account->connection()->publishDirectory({ field("town", "Padua") });
     QTRY_COMPARE(answers.size(), 1);
-    QCOMPARE(takeAnswer(), entry);
+    QCOMPARE(answers.takeFirst().fields, (QList<KirvField> { field("name", "Ann"), field("town", "Padua") }));
     core->protocol()->deletePubdirInfo(account);
     QTRY_COMPARE(answers.size(), 1);
-    QVERIFY(takeAnswer().isEmpty());
+    QCOMPARE(answers.takeFirst().outcome, KirvDirectoryAnswer::None);
     core->protocol()->fetchPubdirInfo(account);
     QTRY_COMPARE(answers.size(), 1);
-    QVERIFY(takeAnswer().isEmpty());
+    QCOMPARE(answers.takeFirst().outcome, KirvDirectoryAnswer::None);
 }
 
-void tst_ExampleProtocol::answersForAnAccountThatIsNotConnected()
+void tst_ExampleProtocol::aRequestOfAnAccountThatIsNotConnectedFails()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("wrong"));
-    QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
-    QSignalSpy answers(account->connection(), &KirvConnection::directoryAnswered);
-    core->protocol()->publishPubdirInfo(account, entry);
+    QTRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
+    QList<KirvDirectoryAnswer> answers;
+    connect(&account->directory(), &KirvAccountDirectory::answered, this,
+            [&](KirvAccountDirectory::Operation, const KirvDirectoryAnswer &answer) { answers << answer; });
+    core->protocol()->fetchPubdirInfo(account);
     QTRY_COMPARE(answers.size(), 1);
-    QVERIFY(answers.first().first().value<QList<KirvField>>().isEmpty());
+    QCOMPARE(answers.first().outcome, KirvDirectoryAnswer::Failed);
 }
 
-void tst_ExampleProtocol::answersWhenTheProtocolGoes()
+void tst_ExampleProtocol::aRequestFailsWhenTheProtocolIsUnloaded()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
     QTRY_VERIFY(account->isLoggedIn());
-    QSignalSpy answers(&core->accounts, &KirvAccountCollection::directoryAnswered);
+    QList<KirvDirectoryAnswer> answers;
+    connect(&account->directory(), &KirvAccountDirectory::answered, this,
+            [&](KirvAccountDirectory::Operation, const KirvDirectoryAnswer &answer) { answers << answer; });
     core->protocol()->fetchPubdirInfo(account);
     QVERIFY(core->plugins.unload(core->file));
     QCOMPARE(answers.size(), 1);
+    QCOMPARE(answers.first().outcome, KirvDirectoryAnswer::Failed);
     QVERIFY(!account->connection());
 
     QVERIFY(core->plugins.load(core->file));

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/host/kirv_host_services.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_settings_table.h"
 #include "core/store/kirv_store.h"
-#include "tests/integration/kirv_fake_protocol.h"
+#include "tests/support/fakes/kirv_fake_protocol.h"
 
 #include <QDir>
 #include <QImage>
@@ -13,7 +15,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-class SettingsTest : public QObject {
+class tst_Settings : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -23,22 +25,13 @@ private Q_SLOTS:
         QVERIFY(home->isValid());
         store = std::make_unique<KirvStore>();
         QVERIFY(store->open(profile()));
-        settings = std::make_unique<KirvClientSettings>(*store);
+        start();
     }
 
     void cleanup()
     {
-        settings.reset();
+        stop();
         store.reset();
-    }
-
-    void theManagerIsThereBeforeAndAfterTheCore()
-    {
-        QCOMPARE(KirvSettingsManagerPrivate::settingsMgrPrivInstance, settings.get());
-        settings.reset();
-        QVERIFY(!KirvSettingsManagerPrivate::settingsMgrPrivInstance);
-        QVERIFY(KirvSettingsManager::getInstance());
-        QCOMPARE(KirvSettingsManager::getInstance()->getCurrentRosterThemeDir(), QString());
     }
 
     void everySettingStandsInTheTableOnce()
@@ -75,23 +68,22 @@ private Q_SLOTS:
         QCOMPARE(settings->value(QStringLiteral("main_account")), QStringLiteral("a@@b@@XMPP"));
     }
 
-    void aRefusedGlobalSettingIsSaid()
+    void aRefusedSettingIsReported()
     {
-        KirvAccountCollection accounts(*store);
-        QSignalSpy problems(&accounts, &KirvAccountCollection::problemOccurred);
+        QSignalSpy refusals(settings.get(), &KirvClientSettings::writeFailed);
+        QVERIFY(settings->setValue(QStringLiteral("key"), QStringLiteral("first")));
+        QCOMPARE(refusals.size(), 0);
         store->close();
-        KirvSettingsManagerPrivate::settingsMgrPrivInstance->writeGlobalSetting(
-            KirvField::textEdit(QString(), QStringLiteral("main_account"), QStringLiteral("a@@b"), QString()));
-        QCOMPARE(problems.size(), 1);
-        QVERIFY(!problems.first().first().toString().isEmpty());
-        QCOMPARE(accounts.lastError(), problems.first().first().toString());
+        QVERIFY(!settings->setValue(QStringLiteral("key"), QStringLiteral("second")));
+        QCOMPARE(refusals.size(), 1);
+        QCOMPARE(refusals.first().first().toString(), store->lastError());
+        QVERIFY(!store->lastError().isEmpty());
     }
 
     void theGlobalsOfAnAccountAreItsFiveFields()
     {
-        KirvAccountCollection accounts(*store);
-        FakeProtocol protocol;
-        accounts.protocolLoaded(&protocol);
+        KirvFakeProtocol protocol;
+        accounts->protocolLoaded(&protocol);
         KirvAccountConnection *account = KirvAccountManager::getInstance()->createAccount(
             QStringLiteral("id"), QStringLiteral("Alias"), QStringLiteral("word"), false, &protocol,
             protocol.presences().first(), {});
@@ -105,19 +97,8 @@ private Q_SLOTS:
         account->setRestoreLastDescription(true);
         account->setRestoreLastPresence(false);
         compareGlobals({ "", "word", "+", "-", "+" });
-        accounts.protocolAboutToBeUnloaded(protocol.getName());
+        accounts->protocolAboutToBeUnloaded(protocol.getName());
         compareGlobals({ "", "word", "+", "-", "+" });
-    }
-
-    void anUnknownAccountHasNoGlobals()
-    {
-        const auto read = [] {
-            return KirvSettingsManagerPrivate::settingsMgrPrivInstance->readAccountGlobals(QStringLiteral("id"),
-                                                                                           QStringLiteral("Fake"));
-        };
-        QVERIFY(read().isEmpty());
-        KirvAccountCollection accounts(*store);
-        QVERIFY(read().isEmpty());
     }
 
     void theBuiltInThemeHasAnIconForEveryPresence_data()
@@ -170,10 +151,24 @@ private:
 
     void restart()
     {
-        settings.reset();
+        stop();
         store->close();
         QVERIFY(store->open(profile()));
+        start();
+    }
+
+    void start()
+    {
         settings = std::make_unique<KirvClientSettings>(*store);
+        accounts = std::make_unique<KirvAccountCollection>(*store);
+        services = std::make_unique<KirvHostServices>(*accounts, plugins, *settings);
+    }
+
+    void stop()
+    {
+        services.reset();
+        accounts.reset();
+        settings.reset();
     }
 
     /// Compares the globals of the account "id" of the protocol "Fake": texts, and "+" or "-" for check boxes.
@@ -201,8 +196,11 @@ private:
 
     std::unique_ptr<QTemporaryDir> home;
     std::unique_ptr<KirvStore> store;
+    KirvPluginLoader plugins;
     std::unique_ptr<KirvClientSettings> settings;
+    std::unique_ptr<KirvAccountCollection> accounts;
+    std::unique_ptr<KirvHostServices> services;
 };
 
-QTEST_MAIN(SettingsTest)
+QTEST_MAIN(tst_Settings)
 #include "tst_settings.moc"

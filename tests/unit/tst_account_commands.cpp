@@ -3,7 +3,7 @@
 #include "tests/unit/kirv_object_counter.h"
 #include "tests/unit/kirv_page_fixture.h"
 #include "tests/unit/kirv_private_member.h"
-#include "tests/unit/kirv_window_watcher.h"
+#include "tests/support/gui/kirv_window_watcher.h"
 
 #include <QAction>
 #include <QDialog>

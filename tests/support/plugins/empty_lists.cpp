@@ -1,27 +1,23 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/plugins/kirv_fake_plugin.h"
 
-/// Answers every question with nothing.
-class KirvEmptyProtocol : public KirvFixtureProtocol {
-public:
-    KirvEmptyProtocol()
-        : KirvFixtureProtocol(QStringLiteral("Empty"))
-    {
-    }
-
-    QList<KirvPresence> presences() const override { return {}; }
-    QString getLoginPattern() override { return QString(); }
-    KirvConnection *createConnection(KirvAccountConnection *) override { return nullptr; }
-};
-
-/// The plug-in of the protocol that answers with nothing.
+/// Its protocol replies to every question with nothing.
 class KirvEmptyListsPlugin : public QObject, public KirvProtocolPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID KIRV_PROTOCOL_PLUGIN_IID FILE "fixture.json")
     Q_INTERFACES(KirvProtocolPlugin)
 
 public:
-    KirvProtocolBase *createProtocol(QString *) override { return new KirvEmptyProtocol; }
+    KirvProtocolBase *createProtocol(QString *) override
+    {
+        auto *protocol = new KirvFakeProtocol(QStringLiteral("Empty"));
+        protocol->offeredPresences.clear();
+        protocol->settings.clear();
+        protocol->directory.clear();
+        protocol->loginPattern.clear();
+        protocol->givesConnections = false;
+        return protocol;
+    }
 };
 
 #include "empty_lists.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/plugins/kirv_fake_plugin.h"
 
 /// States the interface but does not have it.
 class KirvFalseInterfacePlugin : public QObject {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/plugins/kirv_fake_plugin.h"
 
 /// Its protocol has no name.
 class KirvNoNamePlugin : public QObject, public KirvProtocolPlugin {
@@ -8,7 +8,7 @@ class KirvNoNamePlugin : public QObject, public KirvProtocolPlugin {
     Q_INTERFACES(KirvProtocolPlugin)
 
 public:
-    KirvProtocolBase *createProtocol(QString *) override { return new KirvFixtureProtocol(QString()); }
+    KirvProtocolBase *createProtocol(QString *) override { return new KirvFakeProtocol(QString()); }
 };
 
 #include "no_name.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/plugins/kirv_fake_plugin.h"
 
 #include <QThread>
 
@@ -13,7 +13,7 @@ public:
     KirvProtocolBase *createProtocol(QString *) override
     {
         QThread::msleep(300);
-        return new KirvFixtureProtocol(QStringLiteral("Slow"));
+        return new KirvFakeProtocol(QStringLiteral("Slow"));
     }
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/plugins/kirv_fake_plugin.h"
 
 /// Built for a version of the interface that does not exist yet.
 class KirvWrongVersionPlugin : public QObject, public KirvProtocolPlugin {
@@ -8,7 +8,7 @@ class KirvWrongVersionPlugin : public QObject, public KirvProtocolPlugin {
     Q_INTERFACES(KirvProtocolPlugin)
 
 public:
-    KirvProtocolBase *createProtocol(QString *) override { return new KirvFixtureProtocol(QStringLiteral("Tomorrow")); }
+    KirvProtocolBase *createProtocol(QString *) override { return new KirvFakeProtocol(QStringLiteral("Tomorrow")); }
 };
 
 #include "wrong_version.moc"
