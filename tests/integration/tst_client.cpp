@@ -1,26 +1,25 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_account_actions_menu.h"
 #include "client/kirv_client.h"
 #include "client/kirv_connection_model.h"
 #include "client/kirv_connection_view.h"
-#include "client/kirv_edit_window_binding.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_registration_chooser.h"
+#include "client/kirv_server_assistant.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
-#include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
-#include "core/protocol/kirv_connection.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_field_widget.h"
+#include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/fakes/kirv_fake_protocol.h"
+#include "tests/support/fakes/kirv_fake_server_request.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,6 +28,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -43,28 +43,24 @@ namespace {
 const QString example = QStringLiteral("Example");
 enum Column { AliasColumn, ProtocolColumn, IdColumn };
 
-/// A protocol that offers to register and has a command of its own.
-class OfferingProtocol : public KirvFixtureProtocol {
-public:
-    using KirvFixtureProtocol::KirvFixtureProtocol;
+/// A request that asks for a name, which is the only step.
+KirvServerRequest *createRequest()
+{
+    KirvServerRequest::Step step;
+    step.fields << KirvField::textEdit(QStringLiteral("Name"), QStringLiteral("name"), QString(), QString());
+    step.command = QStringLiteral("Send");
+    return new KirvFakeServerRequest({ step }, KirvServerRequest::Result());
+}
 
-    bool offersRegistration() const override { return true; }
-    void handleCoreSignal(const QString &name, const QList<KirvArg> &args) override
-    {
-        heard << name + QLatin1Char(':') + (args.isEmpty() ? QString() : args.first().getValue().toString());
-    }
-    QList<KirvAccountAction> accountActions(KirvAccountConnection *) const override
-    {
-        return { { QStringLiteral("always"), QStringLiteral("Always"), QString(), false },
-                 { QStringLiteral("online"), QStringLiteral("On Line Only"), QString(), true } };
-    }
-    void runAccountAction(const QString &id, KirvAccountConnection *account, QWidget *) override
-    {
-        heard << id + QLatin1Char(':') + account->getUid();
-    }
-
-    QStringList heard;
-};
+/// A protocol that offers to register and has a command of its own for an account.
+KirvFakeProtocol *createOfferingProtocol(const QString &name)
+{
+    auto *protocol = new KirvFakeProtocol(name);
+    protocol->makeRegistration = createRequest;
+    protocol->actions << KirvAccountAction { QStringLiteral("act"), QStringLiteral("Act on Server…"), QString() };
+    protocol->makeRequest = [](const QString &, KirvConnection *) { return createRequest(); };
+    return protocol;
+}
 } // namespace
 
 class tst_Client : public QObject {
@@ -148,6 +144,8 @@ private:
     void load() { QVERIFY(client->plugins().load(pluginFile())); }
     QString cell(const KirvAccount *account, int column) const;
     KirvPasswordDialog *passwordQuestion() const;
+    /// The assistants that are open.
+    QList<KirvServerAssistant *> assistants() const;
     static void processDeletions();
 
     std::unique_ptr<QTemporaryDir> folder;
@@ -254,6 +252,17 @@ KirvPasswordDialog *tst_Client::passwordQuestion() const
             return dialog;
     }
     return nullptr;
+}
+
+QList<KirvServerAssistant *> tst_Client::assistants() const
+{
+    QList<KirvServerAssistant *> open;
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *assistant = qobject_cast<KirvServerAssistant *>(widget); assistant && assistant->isVisible())
+            open << assistant;
+    }
+    return open;
 }
 
 void tst_Client::processDeletions()
@@ -578,7 +587,7 @@ void tst_Client::oneSaveIsOneTransaction()
     QVERIFY(!window->isVisible());
     QCOMPARE(anna->getAlias(), QStringLiteral("Anna"));
     QCOMPARE(anna->getPassword(), QStringLiteral("another"));
-    QVERIFY(anna->restoresLastPresence());
+    QVERIFY(anna->record().restorePresence);
     QCOMPARE(row(QStringLiteral("anna"))->text(AliasColumn), QStringLiteral("Anna"));
     QTRY_VERIFY(anna->isLoggedIn());
 }
@@ -609,7 +618,7 @@ void tst_Client::directoryTabSaysWhyItIsLocked()
     QCOMPARE(status->text(), QString());
     child<QTabWidget>(window, "EditAccount_Tabs")->setCurrentIndex(1);
     QVERIFY(!fields->isEnabled());
-    QCOMPARE(status->text(), QStringLiteral("Asking the server…"));
+    QCOMPARE(status->text(), QStringLiteral("Requesting the directory entry…"));
     QTRY_VERIFY(fields->isEnabled());
     QCOMPARE(status->text(), QString());
 }
@@ -634,11 +643,11 @@ void tst_Client::viewShowsStates()
 {
     KirvAccount *anna = addAccount(QStringLiteral("anna"));
     QCOMPARE(cell(anna, KirvConnectionModel::ProtocolColumn), example);
-    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connecting…"));
+    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connecting…"));
     QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connected"));
     QVERIFY(!cell(anna, KirvConnectionModel::SinceColumn).isEmpty());
-    anna->connection()->logOut();
-    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Logging out…"));
+    anna->setPresence(anna->protocol()->presenceWithId(QStringLiteral("offline"), QString()));
+    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Logging out…"));
     QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Off line"));
     KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
     QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Disabled"));
@@ -790,35 +799,40 @@ void tst_Client::registrationWithoutOfferIsTold()
 
 void tst_Client::registrationWithOneOfferGoesThere()
 {
-    auto *one = new OfferingProtocol(QStringLiteral("One"));
-    QVERIFY(client->plugins().addProtocol(one));
+    QVERIFY(client->plugins().addProtocol(createOfferingProtocol(QStringLiteral("One"))));
     child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
-    QCOMPARE(one->heard, QStringList { QStringLiteral("register_account:") });
+    QCOMPARE(int(assistants().size()), 1);
     QVERIFY(client->window()->findChildren<KirvRegistrationChooser *>().isEmpty());
 }
 
 void tst_Client::registrationWithSeveralOffersIsChosen()
 {
-    auto *one = new OfferingProtocol(QStringLiteral("One"));
-    auto *two = new OfferingProtocol(QStringLiteral("Two"));
-    QVERIFY(client->plugins().addProtocol(one) && client->plugins().addProtocol(two));
+    QVERIFY(client->plugins().addProtocol(createOfferingProtocol(QStringLiteral("One"))));
+    auto *two = createOfferingProtocol(QStringLiteral("Two"));
+    QStringList registrations;
+    two->makeRegistration = [&registrations] {
+        registrations << QStringLiteral("Two");
+        return createRequest();
+    };
+    QVERIFY(client->plugins().addProtocol(two));
     child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
     auto *chooser = client->window()->findChild<KirvRegistrationChooser *>();
     QVERIFY(chooser && chooser->isVisible());
-    QVERIFY(one->heard.isEmpty() && two->heard.isEmpty());
+    QVERIFY(assistants().isEmpty());
     auto *protocols = child<QListWidget>(chooser, "RegistrationChooser_List");
     QCOMPARE(protocols->count(), 2); // the example protocol offers none
     protocols->setCurrentRow(1);
     child<QDialogButtonBox>(chooser, "RegistrationChooser_Buttons")->button(QDialogButtonBox::Ok)->click();
-    QCOMPARE(two->heard, QStringList { QStringLiteral("register_account:Two") });
+    QCOMPARE(registrations, QStringList { QStringLiteral("Two") });
+    QCOMPARE(int(assistants().size()), 1);
     processDeletions();
     QVERIFY(!client->window()->findChild<KirvRegistrationChooser *>());
 }
 
 void tst_Client::registrationChoiceGoesWithItsProtocols()
 {
-    QVERIFY(client->plugins().addProtocol(new OfferingProtocol(QStringLiteral("One"))));
-    QVERIFY(client->plugins().addProtocol(new OfferingProtocol(QStringLiteral("Two"))));
+    QVERIFY(client->plugins().addProtocol(createOfferingProtocol(QStringLiteral("One"))));
+    QVERIFY(client->plugins().addProtocol(createOfferingProtocol(QStringLiteral("Two"))));
     child<QToolButton>(client->accountsPage(), "Accounts_RegisterButton")->click();
     auto *chooser = client->window()->findChild<KirvRegistrationChooser *>();
     QVERIFY(chooser);
@@ -830,27 +844,27 @@ void tst_Client::registrationChoiceGoesWithItsProtocols()
 
 void tst_Client::actionsOfTheProtocolAreOffered()
 {
-    auto *protocol = new OfferingProtocol(QStringLiteral("Offering"));
+    const QString offering = QStringLiteral("Offering");
+    auto *protocol = createOfferingProtocol(offering);
     QVERIFY(client->plugins().addProtocol(protocol));
     KirvAccountManager::getInstance()->createAccount(QStringLiteral("anna"), QStringLiteral("anna"),
                                                      QStringLiteral("secret"), true, protocol,
                                                      protocol->presences().first(), {});
-    QCoreApplication::processEvents();
+    const KirvAccount *anna = client->accounts().find({ QStringLiteral("anna"), offering });
+    QTRY_VERIFY(anna->isOnline());
     QDialog *window = openEditWindow(QStringLiteral("anna"));
     QVERIFY(window);
     auto *more = child<QPushButton>(window, "EditAccount_ServerAccountButton");
     QVERIFY(more && more->menu());
     emit more->menu()->aboutToShow();
-    QList<QAction *> commands = more->menu()->actions();
-    QCOMPARE(int(commands.size()), 2);
-    QVERIFY(commands.at(0)->isEnabled() && commands.at(1)->isEnabled());
-    commands.at(1)->trigger();
-    QCOMPARE(protocol->heard, QStringList { QStringLiteral("online:anna") });
+    QCOMPARE(int(more->menu()->actions().size()), 1);
+    QVERIFY(more->menu()->actions().first()->isEnabled());
+    more->menu()->actions().first()->trigger();
+    QCOMPARE(int(assistants().size()), 1);
 
-    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), QStringLiteral("Offering"));
+    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), offering);
     emit more->menu()->aboutToShow();
-    commands = more->menu()->actions();
-    QVERIFY(commands.at(0)->isEnabled() && !commands.at(1)->isEnabled());
+    QVERIFY(!more->menu()->actions().first()->isEnabled());
 }
 
 void tst_Client::messagesAreShownOnceAndClosed()

@@ -5,7 +5,7 @@
 #include "protocols/xmpp/kirv_xmpp_protocol.h"
 #include "protocols/xmpp/kirv_xmpp_registration_request.h"
 #include "tests/protocols/fake_xmpp_link.h"
-#include "tests/support/kirv_fake_clock.h"
+#include "tests/support/fakes/kirv_fake_clock.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -5,7 +5,7 @@
 #include "core/protocol/kirv_connection.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/protocol/kirv_protocol_plugin.h"
-#include "tests/support/kirv_fake_clock.h"
+#include "tests/support/fakes/kirv_fake_clock.h"
 
 /// A connection whose server does nothing by itself: a test says when it answers, and how, by the names of the
 /// invokable operations. Its time stands still until it is advanced.

@@ -26,15 +26,16 @@ void KirvFakeServerRequest::submit(const QList<KirvField> &filled)
     reply();
 }
 
-void KirvFakeServerRequest::goBack()
+void KirvFakeServerRequest::goBack(const QList<KirvField> &)
 {
     showStep(index - 1);
 }
 
-void KirvFakeServerRequest::cancel()
+bool KirvFakeServerRequest::cancel()
 {
     ++cancelled;
     next = -1;
+    return true;
 }
 
 void KirvFakeServerRequest::serverAccepts()

@@ -17,8 +17,8 @@ public:
     void start() override;
     QList<KirvField> fieldsOf(const QString &name, const QList<KirvField> &filled) const override;
     void submit(const QList<KirvField> &filled) override;
-    void goBack() override;
-    void cancel() override;
+    void goBack(const QList<KirvField> &filled) override;
+    bool cancel() override;
 
     void serverAccepts();
     void serverRefuses(const KirvFailure &failure);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/plugins/kirv_fixture_protocol.h"
+#include "tests/support/plugins/kirv_fake_plugin.h"
 
 /// The protocol has the name that stands in the environment variable KIRV_FIXTURE_PROTOCOL when it is loaded.
 class KirvNamedByTestPlugin : public QObject, public KirvProtocolPlugin {
@@ -10,7 +10,7 @@ class KirvNamedByTestPlugin : public QObject, public KirvProtocolPlugin {
 public:
     KirvProtocolBase *createProtocol(QString *) override
     {
-        return new KirvFixtureProtocol(qEnvironmentVariable("KIRV_FIXTURE_PROTOCOL"));
+        return new KirvFakeProtocol(qEnvironmentVariable("KIRV_FIXTURE_PROTOCOL"));
     }
 };
 

@@ -34,7 +34,7 @@ QXmppVCardIq entry(const QString &town, const QString &telephone)
 } // namespace
 
 /// The directory tab of the edit window, when a request fails, and what is published then.
-class tst_directory_requests : public QObject {
+class tst_directory_in_windows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -66,7 +66,7 @@ private:
     std::unique_ptr<KirvTestedAccount> account;
 };
 
-void tst_directory_requests::init()
+void tst_directory_in_windows::init()
 {
     server = std::make_unique<XmppSessionServer>();
     server->setCard(card);
@@ -76,21 +76,21 @@ void tst_directory_requests::init()
     account = std::make_unique<KirvTestedAccount>(*windows, ann);
 }
 
-void tst_directory_requests::cleanup()
+void tst_directory_in_windows::cleanup()
 {
     account.reset();
     windows.reset();
     server.reset();
 }
 
-void tst_directory_requests::failingFetches()
+void tst_directory_in_windows::failingFetches()
 {
     QTest::addColumn<int>("directory");
     QTest::newRow("refused") << int(XmppSessionServer::RefusesToRead);
     QTest::newRow("timed out") << int(XmppSessionServer::IsSilent);
 }
 
-bool tst_directory_requests::connectAccount()
+bool tst_directory_in_windows::connectAccount()
 {
     if (!account->create(secret, hereInClear))
         return false;
@@ -102,13 +102,13 @@ bool tst_directory_requests::connectAccount()
         patience);
 }
 
-bool tst_directory_requests::publishElsewhere(const KirvProsodyServer &prosody, const QXmppVCardIq &changed)
+bool tst_directory_in_windows::publishElsewhere(const KirvProsodyServer &prosody, const QXmppVCardIq &changed)
 {
     XmppObserver otherClient;
     return otherClient.logIn(prosody, "ann") && otherClient.publish(changed);
 }
 
-QDialog *tst_directory_requests::editDirectory()
+QDialog *tst_directory_in_windows::editDirectory()
 {
     QDialog *window = account->openEditWindow();
     if (window)
@@ -116,7 +116,7 @@ QDialog *tst_directory_requests::editDirectory()
     return window;
 }
 
-bool tst_directory_requests::openFetched(QPointer<QDialog> *window)
+bool tst_directory_in_windows::openFetched(QPointer<QDialog> *window)
 {
     *window = editDirectory();
     return *window
@@ -128,7 +128,7 @@ bool tst_directory_requests::openFetched(QPointer<QDialog> *window)
             patience);
 }
 
-void tst_directory_requests::failedFetchKeepsTheFieldsLocked()
+void tst_directory_in_windows::failedFetchKeepsTheFieldsLocked()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
@@ -146,7 +146,7 @@ void tst_directory_requests::failedFetchKeepsTheFieldsLocked()
     QCOMPARE(KirvTestedAccount::directoryStatus(window), QString());
 }
 
-void tst_directory_requests::savingAfterAFailedFetchPublishesNothing()
+void tst_directory_in_windows::savingAfterAFailedFetchPublishesNothing()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
@@ -169,7 +169,7 @@ void tst_directory_requests::savingAfterAFailedFetchPublishesNothing()
     QCOMPARE(KirvTestedAccount::directoryText(window, "telephone"), QString("1234"));
 }
 
-void tst_directory_requests::onlyTheChangedFieldIsPublished()
+void tst_directory_in_windows::onlyTheChangedFieldIsPublished()
 {
     QVERIFY(connectAccount());
     QPointer<QDialog> window;
@@ -180,7 +180,7 @@ void tst_directory_requests::onlyTheChangedFieldIsPublished()
     QCOMPARE(server->storedCard(), QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
-void tst_directory_requests::changedFieldIsPublishedOverAFreshCopy()
+void tst_directory_in_windows::changedFieldIsPublishedOverAFreshCopy()
 {
     KirvProsodyServer prosody;
     QVERIFY2(prosody.start() && prosody.addUser("ann", secret) && prosody.addUser("juliet", secret),
@@ -205,14 +205,14 @@ void tst_directory_requests::changedFieldIsPublishedOverAFreshCopy()
     QCOMPARE(seen.description(), QString("About me"));
 }
 
-void tst_directory_requests::failedPublicationLosesNothing_data()
+void tst_directory_in_windows::failedPublicationLosesNothing_data()
 {
     QTest::addColumn<int>("directory");
     QTest::newRow("refused") << int(XmppSessionServer::RefusesToPublish);
     QTest::newRow("timed out") << int(XmppSessionServer::IgnoresPublications);
 }
 
-void tst_directory_requests::failedPublicationLosesNothing()
+void tst_directory_in_windows::failedPublicationLosesNothing()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
@@ -236,7 +236,7 @@ void tst_directory_requests::failedPublicationLosesNothing()
     TRY(server->storedCard() == QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
-void tst_directory_requests::refusedSavePublishesNothingAndLosesNothing()
+void tst_directory_in_windows::refusedSavePublishesNothingAndLosesNothing()
 {
     QVERIFY(connectAccount());
     QPointer<QDialog> window = account->openEditWindow();
@@ -262,5 +262,5 @@ void tst_directory_requests::refusedSavePublishesNothingAndLosesNothing()
     QCOMPARE(server->storedCard(), QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
-QTEST_MAIN(tst_directory_requests)
-#include "tst_directory_requests.moc"
+QTEST_MAIN(tst_directory_in_windows)
+#include "tst_directory_in_windows.moc"
