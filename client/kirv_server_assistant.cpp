@@ -272,7 +272,10 @@ void KirvServerAssistant::grow()
 {
     area->updateGeometry();
     const QSize available = screen()->availableGeometry().size() * 9 / 10;
+    // A scroll bar takes the room that would make it needless.
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     resize(size().expandedTo(sizeHint().boundedTo(available)));
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 void KirvServerAssistant::showText(KirvWrappedText *widget, const QString &content)

@@ -46,8 +46,11 @@ void KirvServerTask::createAssistant(QWidget *window)
         assistant->setWindowModality(Qt::WindowModal);
     connect(assistant, &QDialog::finished, this, &KirvServerTask::windowClosed);
     connect(assistant, &KirvServerAssistant::outcomeCommandTriggered, this, &KirvServerTask::applyResult);
-    // With its parent, as a rule.
-    connect(assistant, &QObject::destroyed, this, &KirvServerTask::windowClosed);
+    // With its parent, as a rule. The pointer to a widget is cleared later than this.
+    connect(assistant, &QObject::destroyed, this, [this] {
+        assistant.clear();
+        windowClosed();
+    });
 }
 
 void KirvServerTask::windowClosed()

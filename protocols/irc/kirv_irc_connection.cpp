@@ -34,7 +34,7 @@ bool isDenial(const QString &goodbye)
     return expression.match(goodbye).hasMatch();
 }
 
-/// What others learn who ask for the program; the library would give its own name.
+/// The reply to requests for the name of the program; the library would give its own name.
 QString programName()
 {
     const QString name =
@@ -212,7 +212,7 @@ void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
             return connectionLost(KirvFailure::EncryptionNotOffered);
         return connectionLost({ KirvFailure::UntrustedCertificate, certificateError });
     case QAbstractSocket::RemoteHostClosedError:
-        return; // what the server said before is still to be read; the disconnection follows
+        return; // what the server sent before is still to be read; the disconnection follows
     default:
         return connectionLost({ KirvFailure::ConnectionLost, link->socket()->errorString() });
     }

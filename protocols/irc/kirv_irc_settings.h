@@ -18,7 +18,7 @@ class KirvIrcSettings {
     Q_DECLARE_TR_FUNCTIONS(KirvIrcSettings)
 
 public:
-    /// What the account's one password is for. Many networks ask for none at all.
+    /// What the account's one password is for. Many networks need none at all.
     enum PasswordUse {
         NotUsed, ///< it is not sent
         ForServer, ///< to be let in by the server (PASS)

@@ -3,6 +3,7 @@
 
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
+#include <QPointer>
 #include <algorithm>
 
 namespace {
@@ -93,8 +94,10 @@ void KirvXmppRegistrationRequest::requestForm()
         Q_EMIT inputRejected(tr("The name of a server holds characters that cannot be sent."));
         return;
     }
+    const QPointer<KirvXmppRegistrationRequest> alive(this);
     Q_EMIT waiting(tr("Requesting the registration form…"));
-    registration.fetchForm(domain, KirvXmppSettings(serverFields));
+    if (alive)
+        registration.fetchForm(domain, KirvXmppSettings(serverFields));
 }
 
 void KirvXmppRegistrationRequest::showForm(const KirvXmppRegistrationForm &received)
@@ -137,8 +140,10 @@ void KirvXmppRegistrationRequest::sendForm()
         Q_EMIT inputRejected(problem);
         return;
     }
+    const QPointer<KirvXmppRegistrationRequest> alive(this);
     Q_EMIT waiting(tr("Sending the form…"));
-    registration.submit(formFields);
+    if (alive)
+        registration.submit(formFields);
 }
 
 void KirvXmppRegistrationRequest::finish()

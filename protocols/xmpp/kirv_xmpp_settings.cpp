@@ -144,7 +144,7 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
         return false;
 
     configuration->setDomain(domain);
-    // Without a host the library asks the network, and uses the port only when it is not told another one.
+    // Without a host the library looks it up in the network, and uses the port only where no other one is found.
     configuration->setHost(server.isEmpty() && port != defaultPort ? domain : server);
     configuration->setPort(port);
     configuration->setResource(resource);

@@ -14,8 +14,8 @@ class QXmppConfiguration;
 
 /// What the settings of an XMPP account mean. A value type.
 ///
-/// A login is a bare address, user@domain. Without a server the network (DNS) is asked where the domain's
-/// server is; a port of one's own alone means that port of the domain itself. A certificate to trust is trusted
+/// A login is a bare address, user@domain. Without a server the server of the domain is looked up in the
+/// network (DNS); a port of one's own alone means that port of the domain itself. A certificate to trust is trusted
 /// besides those that the system trusts.
 class KirvXmppSettings {
     Q_DECLARE_TR_FUNCTIONS(KirvXmppSettings)

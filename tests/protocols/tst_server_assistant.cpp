@@ -245,6 +245,11 @@ void TestServerAssistant::longWordsDoNotWidenTheWindow()
     QVERIFY2(window->minimumSizeHint().width() <= 600, qPrintable(QString::number(window->minimumSizeHint().width())));
     QVERIFY2(window->width() <= qMax(ordinary + 100, 650), qPrintable(QString::number(window->width())));
     QVERIFY(window->height() <= window->screen()->availableGeometry().height());
+    for (const KirvWrappedText *text : window->findChildren<KirvWrappedText *>()) {
+        const QSizeF size = text->document()->size();
+        QVERIFY2(!text->isVisible() || (size.height() <= text->height() && size.width() <= text->width()),
+                 qPrintable(text->objectName()));
+    }
     QVERIFY(button("Close")->isVisible() && !button("Close")->visibleRegion().isEmpty());
 }
 
