@@ -215,7 +215,7 @@ std::vector<tst_random_walk::Step> tst_random_walk::steps()
         { "hide or show", 4, [this] { hideOrShow(); } },
         { "sort", 2, [this] { sortOtherwise(); } },
         { "load or unload", 4, [this] { toggleProtocol(); } },
-        { "server answers", 30, [this] { serverDoes("serverAnswers"); } },
+        { "server accepts", 30, [this] { serverDoes("serverAccepts"); } },
         { "server refuses", 4, [this] { serverDoes("serverRefuses"); } },
         { "server goes", 4, [this] { serverDoes("serverGoes"); } },
         { "time passes", 6, [this] { timePasses(); } },
