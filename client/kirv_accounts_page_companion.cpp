@@ -27,7 +27,9 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
             [this](const KirvAccount *account) { syncRowLater(account->key()); });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
-            [this](const QString &id, const QString &protocol) { syncRowLater({ id, protocol }); });
+            [this](const QString &id, const QString &protocol) {
+                syncRowLater({ id, protocol });
+            });
 }
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:

@@ -52,6 +52,7 @@ KirvClient::~KirvClient()
     // Nothing is emitted from now on: the window is destroyed first, the protocols and the store follow.
     accountCollection->disconnect(this);
     pluginLoader->disconnect(this);
+    clientSettings->disconnect(this);
     layouts->disconnect(this);
     settingsWindow.reset();
     for (KirvProtocolBase *protocol : pluginLoader->protocols())

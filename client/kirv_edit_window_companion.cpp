@@ -15,8 +15,7 @@
 #include <QTextEdit>
 
 KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
-                                                 KirvAccountCollection &accounts,
-                                                 KirvServerCommands &serverCommands)
+                                                 KirvAccountCollection &accounts, KirvServerCommands &serverCommands)
     : QObject(window)
     , window(window)
     , controller(controller)

@@ -176,9 +176,10 @@ QWidget *KirvLayoutCatalog::build(const QString &name, QWidget *parent)
         return nullptr;
     Q_EMIT windowBuilt(name, top);
     if (!reasons.isEmpty())
-        Q_EMIT overrideRejected(name,
-                                tr("The layout file %1 cannot be used; the built-in layout takes its place.\n%2")
-                                    .arg(QDir::toNativeSeparators(overrideFile(name)), reasons.join(QLatin1Char('\n'))));
+        Q_EMIT overrideRejected(
+            name,
+            tr("The layout file %1 cannot be used; the built-in layout takes its place.\n%2")
+                .arg(QDir::toNativeSeparators(overrideFile(name)), reasons.join(QLatin1Char('\n'))));
     return top;
 }
 

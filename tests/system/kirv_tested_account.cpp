@@ -2,8 +2,8 @@
 #include "tests/system/kirv_tested_account.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "core/protocol/kirv_connection.h"
 #include "core/plugins/kirv_plugin_loader.h"
+#include "core/protocol/kirv_connection.h"
 #include "host/kirv_account_connection.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"

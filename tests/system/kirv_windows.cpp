@@ -87,7 +87,8 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
         QStringLiteral("The page is there"), [this] { return client->accountsPage()->isVisible(); },
         [this] { KirvWindowDriver::openMenu(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")); });
     walk.expect(
-        QStringLiteral("The menu offers %1").arg(protocol), [protocol] { return KirvWindowDriver::menuOffers(protocol); },
+        QStringLiteral("The menu offers %1").arg(protocol),
+        [protocol] { return KirvWindowDriver::menuOffers(protocol); },
         [protocol] { KirvWindowDriver::clickInMenu(protocol); });
     walk.expect(
         QStringLiteral("The window opens, with Save asleep"), [=] { return window() && !saveButton()->isEnabled(); },
@@ -132,7 +133,8 @@ QDialog *KirvWindows::openEditWindow() const
     QWidget *window = nullptr;
     const bool isOpen = QTest::qWaitFor(
         [&window] {
-            return (window = KirvWindowDriver::window(QStringLiteral("EditAccount"))) && window->windowHandle()->isExposed();
+            return (window = KirvWindowDriver::window(QStringLiteral("EditAccount")))
+                && window->windowHandle()->isExposed();
         },
         patience);
     return isOpen ? qobject_cast<QDialog *>(window) : nullptr;
@@ -256,7 +258,8 @@ void KirvWindows::setLoaded(const QString &protocol, bool loaded)
     showPage(PluginsPage);
     auto *plugins = child<QTreeWidget>(client->pluginsPage(), "Plugins_List");
     plugins->setCurrentItem(plugins->findItems(protocol, Qt::MatchExactly).value(0));
-    KirvWindowDriver::click(child<QPushButton>(client->pluginsPage(), loaded ? "Plugins_LoadButton" : "Plugins_UnloadButton"));
+    KirvWindowDriver::click(
+        child<QPushButton>(client->pluginsPage(), loaded ? "Plugins_LoadButton" : "Plugins_UnloadButton"));
 }
 
 void KirvWindows::showPage(int index)

@@ -3,8 +3,8 @@
 #define KIRV_WINDOWS_H
 
 #include "client/kirv_client.h"
-#include "tools/tour/kirv_window_driver.h"
 #include "core/accounts/kirv_account.h"
+#include "tools/tour/kirv_window_driver.h"
 
 #include <QDialogButtonBox>
 #include <QTemporaryDir>

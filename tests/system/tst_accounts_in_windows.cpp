@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tools/servers/kirv_prosody_server.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_settings_window.h"
-#include "core/protocol/kirv_connection.h"
 #include "core/plugins/kirv_plugin_loader.h"
-#include "host/kirv_field_widget.h"
+#include "core/protocol/kirv_connection.h"
 #include "host/kirv_account_manager.h"
+#include "host/kirv_field_widget.h"
 #include "tests/system/kirv_windows.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QAccessible>
 #include <QComboBox>

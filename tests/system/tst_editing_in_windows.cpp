@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "tools/servers/kirv_prosody_server.h"
 #include "client/kirv_connection_view.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
-#include "core/protocol/kirv_connection.h"
 #include "core/plugins/kirv_plugin_loader.h"
+#include "core/protocol/kirv_connection.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_avatar_quick_set_widget.h"
@@ -15,6 +14,7 @@
 #include "host/kirv_protocol.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/system/kirv_windows.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -334,8 +334,8 @@ private:
         const KirvAccount *account = windows->account(ann);
         QStringList values { account->getAlias(), account->getPassword(), account->getDefaultPresence().getId(),
                              account->getDefaultPresence().getDescription() };
-        for (bool flag :
-             { account->record().rememberPassword, account->record().restorePresence, account->record().restoreDescription })
+        for (bool flag : { account->record().rememberPassword, account->record().restorePresence,
+                           account->record().restoreDescription })
             values << QString::number(flag);
         for (const KirvField &setting : account->getAccountSettingsInOrder())
             values << setting.getText();

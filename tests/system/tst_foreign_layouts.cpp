@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "tools/servers/kirv_prosody_server.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/system/kirv_tested_account.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -122,10 +122,12 @@ bool tst_foreign_layouts::unloadWhileAdding(const QString &topName, const std::f
     walk.expectOnTop(
         "The page is there", [this] { return windows->client->accountsPage()->isVisible(); },
         [this] {
-            KirvWindowDriver::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
+            KirvWindowDriver::openMenu(
+                KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
         });
     walk.expect(
-        "The menu offers the protocol", [] { return KirvWindowDriver::menuOffers(xmpp); }, [] { KirvWindowDriver::clickInMenu(xmpp); });
+        "The menu offers the protocol", [] { return KirvWindowDriver::menuOffers(xmpp); },
+        [] { KirvWindowDriver::clickInMenu(xmpp); });
     walk.expect(
         "The window is open", [] { return KirvTestedAccount::addWindow(); },
         [&] {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tools/servers/kirv_ngircd_server.h"
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_connection.h"
 #include "core/protocol/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/irc/irc_observer.h"
 #include "tests/support/irc/scripted_irc_server.h"
+#include "tools/servers/kirv_ngircd_server.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "tools/servers/kirv_ngircd_server.h"
-#include "tools/servers/kirv_prosody_server.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "host/kirv_account_manager.h"
 #include "tests/support/irc/irc_observer.h"
 #include "tests/support/irc/scripted_irc_server.h"
-#include "host/kirv_account_manager.h"
 #include "tests/system/kirv_windows.h"
+#include "tools/servers/kirv_ngircd_server.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -136,7 +136,8 @@ void tst_irc_in_windows::menuOffersBothProtocols()
     walk.expectOnTop(
         QStringLiteral("The page is there"), [this] { return windows->client->accountsPage()->isVisible(); },
         [this] {
-            KirvWindowDriver::openMenu(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
+            KirvWindowDriver::openMenu(
+                KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
         });
     walk.expect(
         QStringLiteral("The menu offers both protocols"),

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "tools/servers/kirv_prosody_server.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "tests/support/xmpp/registration_script.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/system/kirv_windows.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -86,7 +86,8 @@ private:
     }
     static void confirm(const char *question)
     {
-        KirvWindowDriver::click(box(question)->findChild<QPushButton *>(QLatin1String(question) + QLatin1String("_Delete")));
+        KirvWindowDriver::click(
+            box(question)->findChild<QPushButton *>(QLatin1String(question) + QLatin1String("_Delete")));
     }
 
     std::unique_ptr<KirvWindows> windows;
@@ -123,7 +124,8 @@ bool tst_registering_in_windows::openWindow(const QString &configuration)
     windows->showPage(0);
     if (!QTest::qWaitFor([this] { return windows->client->accountsPage()->isVisible(); }, patience))
         return false;
-    KirvWindowDriver::click(KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_RegisterButton"));
+    KirvWindowDriver::click(
+        KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_RegisterButton"));
     window = KirvWindowDriver::window(QStringLiteral("XmppRegistration"));
     if (!window || !QTest::qWaitForWindowExposed(window))
         return false;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tools/servers/kirv_prosody_server.h"
 #include "tests/support/store_refusal.h"
 #include "tests/support/xmpp/xmpp_session_server.h"
 #include "tests/system/kirv_tested_account.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QComboBox>
 #include <QDialog>

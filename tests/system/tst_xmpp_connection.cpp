@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tools/servers/kirv_prosody_server.h"
 #include "tests/support/xmpp/scripted_xmpp_server.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/support/xmpp/xmpp_profile.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QFile>
 #include <QRegularExpression>

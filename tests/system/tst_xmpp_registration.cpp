@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tools/servers/kirv_prosody_server.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/xmpp/registration_script.h"
 #include "tests/support/xmpp/xmpp_observer.h"
 #include "tests/support/xmpp/xmpp_profile.h"
+#include "tools/servers/kirv_prosody_server.h"
 
 #include <QApplication>
 #include <QCheckBox>

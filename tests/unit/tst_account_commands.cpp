@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "edit_account/kirv_edit_account_dialog.h"
+#include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/unit/kirv_object_counter.h"
 #include "tests/unit/kirv_page_fixture.h"
 #include "tests/unit/kirv_private_member.h"
-#include "tests/support/gui/kirv_window_watcher.h"
 
 #include <QAction>
 #include <QDialog>

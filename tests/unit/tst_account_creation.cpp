@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "add_account/kirv_add_account_dialog.h"
-#include "tests/unit/kirv_page_fixture.h"
 #include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/unit/kirv_page_fixture.h"
 
 #include <QCheckBox>
 #include <QDialog>

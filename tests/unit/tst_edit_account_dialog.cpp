@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/recording_host/kirv_recording_icons.h"
 #include "tests/unit/kirv_edit_fixture.h"
-#include "tests/support/gui/kirv_window_watcher.h"
 
 #include <QtTest>
 

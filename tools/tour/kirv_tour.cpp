@@ -218,7 +218,8 @@ void KirvTour::planWrongPassword()
 {
     const auto changePassword = [this](const QString &text, const QString &password) {
         walk.expectOnTop(
-            text, [this] { return page()->isVisible() && !KirvWindowDriver::window(edit); }, [this] { openEditWindow(xmpp); });
+            text, [this] { return page()->isVisible() && !KirvWindowDriver::window(edit); },
+            [this] { openEditWindow(xmpp); });
         walk.expect(
             QStringLiteral("The window of the account opens"), [] { return KirvWindowDriver::window(edit); },
             [password] {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_application.h"
-#include "tools/demo/kirv_demo.h"
 #include "client/kirv_quit_signals.h"
+#include "tools/demo/kirv_demo.h"
 #include "tools/tour/kirv_tour.h"
 
 #include <QDir>

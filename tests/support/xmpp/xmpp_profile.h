@@ -5,9 +5,9 @@
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/host/kirv_host_services.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_connection.h"
 #include "core/protocol/kirv_protocol_base.h"
-#include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
 
