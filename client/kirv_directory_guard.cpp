@@ -37,6 +37,7 @@ KirvDirectoryGuard::KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *c
     edited->directory().forget();
     // What is not fetched yet counts as blank and unchanged: the page would publish the blank fields otherwise.
     deliver(edited->protocol()->directoryFields());
+    connect(&edited->directory(), &KirvAccountDirectory::requested, this, &KirvDirectoryGuard::updateStatus);
     connect(&edited->directory(), &KirvAccountDirectory::answered, this, &KirvDirectoryGuard::receive);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvDirectoryGuard::onAccountChanged);
     updateStatus();

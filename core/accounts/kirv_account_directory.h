@@ -54,6 +54,8 @@ public:
                                     const QSet<QString> &uncertain = {});
 
 Q_SIGNALS:
+    /// A request was made; answered() follows, unless a later request replaces it.
+    void requested(KirvAccountDirectory::Operation operation);
     /// The latest request is answered. Answers to requests that a later one has replaced are not emitted.
     void answered(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
 
