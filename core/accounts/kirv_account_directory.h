@@ -11,7 +11,7 @@
 
 class KirvConnection;
 
-/// The public-directory entry of one account: makes the requests and tells their answers apart.
+/// The public-directory entry of one account: makes the requests and matches their answers.
 ///
 /// A publication needs a base, the entry as it was fetched before: only the fields that differ from it are published.
 /// Without one, after a failed fetch say, nothing is published. A publication that is made while a save is open waits

@@ -30,7 +30,7 @@ public:
         ChangePresence,
         LogOut
     };
-    /// How much somebody insists, besides what is wanted.
+    /// What is requested explicitly, besides what is wanted.
     enum Urge {
         None,
         Retry, ///< a connection that gave up or waits tries again at once

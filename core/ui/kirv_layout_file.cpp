@@ -35,7 +35,7 @@ public:
     QVariant loadResource(int, const QUrl &) override { return QVariant(); }
 };
 
-/// Makes our own classes where a layout asks for them or where they stand in for Qt's, and remembers what it could not
+/// Makes our own classes where a layout asks for them or where they stand in for Qt's, and notes what it could not
 /// make; the base class only prints a warning and leaves a gap or a base class.
 class Loader : public QUiLoader {
 public:
