@@ -2,7 +2,7 @@
 #include "client/kirv_server_assistant.h"
 #include "client/kirv_wrapped_text.h"
 #include "host/kirv_field_widget.h"
-#include "tests/protocols/fake_server_request.h"
+#include "tests/support/fakes/kirv_fake_server_request.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -107,13 +107,14 @@ private:
     }
     QString typed(const QString &field) const;
 
-    std::unique_ptr<FakeServerRequest> request;
+    std::unique_ptr<KirvFakeServerRequest> request;
     std::unique_ptr<KirvServerAssistant> window;
 };
 
 void TestServerAssistant::init()
 {
-    request = std::make_unique<FakeServerRequest>();
+    request = std::make_unique<KirvFakeServerRequest>();
+    request->isHeld = true;
     window = std::make_unique<KirvServerAssistant>(request.get(), nullptr);
 }
 
@@ -151,7 +152,7 @@ void TestServerAssistant::aStepIsShownWhole()
     whole.hasPassword = true;
     show(whole);
     QCOMPARE(window->objectName(), QString("ServerAssistant"));
-    QCOMPARE(window->windowTitle(), QString("Title of the Request"));
+    QCOMPARE(window->windowTitle(), QString("Fake Request"));
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), QString("Fill it in."));
     QCOMPARE(child<QComboBox>("Configuration")->count(), 2);
     QCOMPARE(child<KirvFieldWidget>("Fields")->getFields().size(), 2);

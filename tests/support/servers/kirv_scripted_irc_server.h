@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_TEST_SCRIPTED_IRC_SERVER_H
-#define KIRV_TEST_SCRIPTED_IRC_SERVER_H
+#ifndef KIRV_SCRIPTED_IRC_SERVER_H
+#define KIRV_SCRIPTED_IRC_SERVER_H
 
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -9,12 +9,12 @@
 #include <iterator>
 
 /// A server that does what a test tells it: answers lines with lines.
-class ScriptedIrcServer : public QTcpServer {
+class KirvScriptedIrcServer : public QTcpServer {
 public:
     /// Gives the lines that answer \a line, each with its line feed; nothing for no answer.
     using Script = std::function<QByteArray(const QByteArray &line)>;
 
-    explicit ScriptedIrcServer(Script script, const QByteArray &greeting = QByteArray())
+    explicit KirvScriptedIrcServer(Script script, const QByteArray &greeting = QByteArray())
         : script(std::move(script))
     {
         listen(QHostAddress::LocalHost);

@@ -2,7 +2,7 @@
 #ifndef KIRV_PATIENCE_H
 #define KIRV_PATIENCE_H
 
-#include <QtTest>
+#include <QTest>
 
 /// How long a test waits for a condition before it fails, in milliseconds: long enough for a loaded machine. A test
 /// that passes waits no longer than it must.

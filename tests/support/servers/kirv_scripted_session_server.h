@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_TEST_XMPP_SESSION_SERVER_H
-#define KIRV_TEST_XMPP_SESSION_SERVER_H
+#ifndef KIRV_SCRIPTED_SESSION_SERVER_H
+#define KIRV_SCRIPTED_SESSION_SERVER_H
 
 #include <QByteArrayList>
 #include <QList>
@@ -10,14 +10,14 @@
 
 /// A server that logs a client in by SASL PLAIN, changes its password, keeps one directory entry, and records what
 /// reaches its socket: the bytes in clear, the passwords, the presences. Serves "ann@localhost".
-class XmppSessionServer : public QTcpServer {
+class KirvScriptedSessionServer : public QTcpServer {
     Q_OBJECT
 
 public:
     /// What happens to requests for the directory entry.
     enum Directory { Answers, RefusesToRead, RefusesToPublish, IsSilent, IgnoresPublications };
 
-    XmppSessionServer();
+    KirvScriptedSessionServer();
 
     /// Offers encryption from now on with the certificate and the key of these PEM files; false when they cannot
     /// be read.

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/xmpp/xmpp_observer.h"
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
 
+#include "tests/support/kirv_patience.h"
 #include "tools/servers/kirv_prosody_server.h"
 
-#include <QTest>
 #include <QXmppRosterManager.h>
 #include <QXmppUtils.h>
 #include <QXmppVCardManager.h>
 
 namespace {
-
-const int patience = 15000;
 
 bool isMutual(QXmppClient &client, const QString &address)
 {
@@ -20,15 +18,15 @@ bool isMutual(QXmppClient &client, const QString &address)
 
 } // namespace
 
-XmppObserver::XmppObserver()
+KirvObservingXmppClient::KirvObservingXmppClient()
 {
     QObject::connect(&client, &QXmppClient::presenceReceived, &client, [this](const QXmppPresence &presence) {
         presences.insert(QXmppUtils::jidToBareJid(presence.from()), presence);
     });
 }
 
-bool XmppObserver::logIn(const KirvProsodyServer &server, const QString &user, const QString &password,
-                         const QString &resource)
+bool KirvObservingXmppClient::logIn(const KirvProsodyServer &server, const QString &user, const QString &password,
+                                    const QString &resource)
 {
     QXmppConfiguration configuration;
     configuration.setJid(user + '@' + server.domain());
@@ -45,34 +43,34 @@ bool XmppObserver::logIn(const KirvProsodyServer &server, const QString &user, c
                      [&isRefused](QXmppClient::Error error) { isRefused = error == QXmppClient::XmppStreamError; });
     client.connectToServer(configuration);
     const auto isIn = [this] { return client.isConnected() && client.isAuthenticated(); };
-    return QTest::qWaitFor([&] { return isRefused || isIn(); }, patience) && isIn();
+    return QTest::qWaitFor([&] { return isRefused || isIn(); }, kirvPatience) && isIn();
 }
 
-void XmppObserver::logOut()
+void KirvObservingXmppClient::logOut()
 {
     client.disconnectFromServer();
 }
 
-bool XmppObserver::befriend(const KirvProsodyServer &server, const QString &user)
+bool KirvObservingXmppClient::befriend(const KirvProsodyServer &server, const QString &user)
 {
-    XmppObserver other;
+    KirvObservingXmppClient other;
     if (!other.logIn(server, user))
         return false;
     const QString myAddress = client.configuration().jidBare();
     const QString otherAddress = other.client.configuration().jidBare();
     client.findExtension<QXmppRosterManager>()->subscribe(otherAddress);
-    const bool done =
-        QTest::qWaitFor([&] { return isMutual(client, otherAddress) && isMutual(other.client, myAddress); }, patience);
+    const bool done = QTest::qWaitFor(
+        [&] { return isMutual(client, otherAddress) && isMutual(other.client, myAddress); }, kirvPatience);
     other.logOut();
-    return done && QTest::qWaitFor([&] { return !sees(otherAddress); }, patience);
+    return done && QTest::qWaitFor([&] { return !sees(otherAddress); }, kirvPatience);
 }
 
-QXmppPresence XmppObserver::presenceOf(const QString &address) const
+QXmppPresence KirvObservingXmppClient::presenceOf(const QString &address) const
 {
     return presences.value(address, QXmppPresence(QXmppPresence::Unavailable));
 }
 
-QXmppVCardIq XmppObserver::vCardOf(const QString &address)
+QXmppVCardIq KirvObservingXmppClient::vCardOf(const QString &address)
 {
     QXmppVCardIq card;
     bool hasCome = false;
@@ -89,12 +87,12 @@ QXmppVCardIq XmppObserver::vCardOf(const QString &address)
     QObject::connect(&client, &QXmppClient::iqReceived, &context,
                      [&](const QXmppIq &iq) { hasCome = hasCome || iq.id() == question; });
     question = manager->requestVCard(address);
-    if (!QTest::qWaitFor([&] { return hasCome; }, patience))
+    if (!QTest::qWaitFor([&] { return hasCome; }, kirvPatience))
         qWarning() << "The directory entry of" << address << "did not come.";
     return card;
 }
 
-bool XmppObserver::publish(QXmppVCardIq card)
+bool KirvObservingXmppClient::publish(QXmppVCardIq card)
 {
     bool isDone = false;
     QObject context;
@@ -104,5 +102,5 @@ bool XmppObserver::publish(QXmppVCardIq card)
             isDone = iq.type() == QXmppIq::Result;
     });
     client.sendPacket(card);
-    return QTest::qWaitFor([&] { return isDone; }, patience);
+    return QTest::qWaitFor([&] { return isDone; }, kirvPatience);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_TEST_REGISTRATION_SCRIPT_H
-#define KIRV_TEST_REGISTRATION_SCRIPT_H
+#ifndef KIRV_REGISTRATION_SCRIPT_H
+#define KIRV_REGISTRATION_SCRIPT_H
 
-#include "tests/support/xmpp/scripted_xmpp_server.h"
+#include "tests/support/servers/kirv_scripted_xmpp_server.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -42,13 +42,13 @@ inline QByteArray pngPicture()
 
 /// The answers of a server that registers without encryption: \a form to the first question, \a result to what is
 /// sent (where %ID% stands for the id).
-inline ScriptedXmppServer::Script registering(const QByteArray &form,
-                                              const QByteArray &result = "<iq type='result' id='%ID%'/>")
+inline KirvScriptedXmppServer::Script registering(const QByteArray &form,
+                                                  const QByteArray &result = "<iq type='result' id='%ID%'/>")
 {
     return [form, result](const QByteArray &received) -> QByteArray {
-        const QByteArray id = ScriptedXmppServer::attribute(received, "id");
+        const QByteArray id = KirvScriptedXmppServer::attribute(received, "id");
         if (received.contains("<stream:stream"))
-            return ScriptedXmppServer::stream("<register xmlns='http://jabber.org/features/iq-register'/>");
+            return KirvScriptedXmppServer::stream("<register xmlns='http://jabber.org/features/iq-register'/>");
         if (received.contains("type=\"get\""))
             return "<iq type='result' id='" + id + "'><query xmlns='jabber:iq:register'>" + form + "</query></iq>";
         return received.contains("type=\"set\"") ? QByteArray(result).replace("%ID%", id) : QByteArray();

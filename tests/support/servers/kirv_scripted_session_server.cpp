@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/xmpp/xmpp_session_server.h"
+#include "tests/support/servers/kirv_scripted_session_server.h"
 
 #include <QFile>
 #include <QSslSocket>
@@ -66,9 +66,9 @@ QByteArray takeNext(QByteArray *buffer)
 } // namespace
 
 /// One connection; ends with its socket.
-class XmppSessionServer::Session : public QObject {
+class KirvScriptedSessionServer::Session : public QObject {
 public:
-    Session(XmppSessionServer &server, QSslSocket *socket)
+    Session(KirvScriptedSessionServer &server, QSslSocket *socket)
         : QObject(socket)
         , server(server)
         , socket(socket)
@@ -89,13 +89,13 @@ private:
     void reply(const QByteArray &request, const char *type, const QByteArray &children = QByteArray());
     void refuse(const QByteArray &request);
 
-    XmppSessionServer &server;
+    KirvScriptedSessionServer &server;
     QSslSocket *socket;
     QByteArray buffer;
     bool isLoggedIn = false;
 };
 
-void XmppSessionServer::Session::receive()
+void KirvScriptedSessionServer::Session::receive()
 {
     const bool isInClear = !socket->isEncrypted();
     const QByteArray chunk = socket->readAll();
@@ -106,7 +106,7 @@ void XmppSessionServer::Session::receive()
         answer(next);
 }
 
-void XmppSessionServer::Session::answer(const QByteArray &stanza)
+void KirvScriptedSessionServer::Session::answer(const QByteArray &stanza)
 {
     if (stanza.startsWith("<stream:"))
         openStream();
@@ -122,7 +122,7 @@ void XmppSessionServer::Session::answer(const QByteArray &stanza)
         answerRequest(stanza);
 }
 
-void XmppSessionServer::Session::openStream()
+void KirvScriptedSessionServer::Session::openStream()
 {
     QByteArray features;
     if (isLoggedIn) {
@@ -138,7 +138,7 @@ void XmppSessionServer::Session::openStream()
                   + features + "</stream:features>");
 }
 
-void XmppSessionServer::Session::startEncryption()
+void KirvScriptedSessionServer::Session::startEncryption()
 {
     socket->write(element("proceed", tlsSpace));
     socket->flush();
@@ -147,7 +147,7 @@ void XmppSessionServer::Session::startEncryption()
     socket->startServerEncryption();
 }
 
-void XmppSessionServer::Session::logIn(const QByteArray &auth)
+void KirvScriptedSessionServer::Session::logIn(const QByteArray &auth)
 {
     const QByteArray password = QByteArray::fromBase64(contentOf(auth, "auth")).split('\0').value(2);
     server.usedPasswords << password;
@@ -155,7 +155,7 @@ void XmppSessionServer::Session::logIn(const QByteArray &auth)
     socket->write(isLoggedIn ? element("success", saslSpace) : element("failure", saslSpace, "<not-authorized/>"));
 }
 
-void XmppSessionServer::Session::answerRequest(const QByteArray &request)
+void KirvScriptedSessionServer::Session::answerRequest(const QByteArray &request)
 {
     const QByteArray type = attribute(request, "type");
     if (type != "get" && type != "set")
@@ -172,7 +172,7 @@ void XmppSessionServer::Session::answerRequest(const QByteArray &request)
     }
 }
 
-void XmppSessionServer::Session::answerDirectory(const QByteArray &request)
+void KirvScriptedSessionServer::Session::answerDirectory(const QByteArray &request)
 {
     const bool isPublication = attribute(request, "type") == "set";
     if (isPublication)
@@ -191,30 +191,30 @@ void XmppSessionServer::Session::answerDirectory(const QByteArray &request)
     reply(request, "result", isPublication ? QByteArray() : element("vCard", "vcard-temp", server.card));
 }
 
-void XmppSessionServer::Session::changePassword(const QByteArray &request)
+void KirvScriptedSessionServer::Session::changePassword(const QByteArray &request)
 {
     server.acceptedPassword = contentOf(request, "password");
     reply(request, "result");
 }
 
-void XmppSessionServer::Session::reply(const QByteArray &request, const char *type, const QByteArray &children)
+void KirvScriptedSessionServer::Session::reply(const QByteArray &request, const char *type, const QByteArray &children)
 {
     socket->write("<iq type='" + QByteArray(type) + "' id='" + attribute(request, "id") + "'>" + children + "</iq>");
 }
 
-void XmppSessionServer::Session::refuse(const QByteArray &request)
+void KirvScriptedSessionServer::Session::refuse(const QByteArray &request)
 {
     reply(request, "error",
           "<error type='cancel'>" + element("not-allowed", "urn:ietf:params:xml:ns:xmpp-stanzas") + "</error>");
 }
 
-XmppSessionServer::XmppSessionServer()
+KirvScriptedSessionServer::KirvScriptedSessionServer()
 {
     listen(QHostAddress::LocalHost);
     port = serverPort();
 }
 
-bool XmppSessionServer::offerEncryption(const QString &certificatePath, const QString &keyPath)
+bool KirvScriptedSessionServer::offerEncryption(const QString &certificatePath, const QString &keyPath)
 {
     QFile certificateFile(certificatePath);
     QFile keyFile(keyPath);
@@ -225,7 +225,7 @@ bool XmppSessionServer::offerEncryption(const QString &certificatePath, const QS
     return !certificate.isNull() && !key.isNull();
 }
 
-void XmppSessionServer::goAway()
+void KirvScriptedSessionServer::goAway()
 {
     close();
     const QList<QSslSocket *> sockets = findChildren<QSslSocket *>();
@@ -233,12 +233,12 @@ void XmppSessionServer::goAway()
         socket->abort();
 }
 
-bool XmppSessionServer::comeBack()
+bool KirvScriptedSessionServer::comeBack()
 {
     return listen(QHostAddress::LocalHost, port);
 }
 
-void XmppSessionServer::incomingConnection(qintptr descriptor)
+void KirvScriptedSessionServer::incomingConnection(qintptr descriptor)
 {
     auto *socket = new QSslSocket(this);
     socket->setSocketDescriptor(descriptor);

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_TEST_IRC_OBSERVER_H
-#define KIRV_TEST_IRC_OBSERVER_H
+#ifndef KIRV_OBSERVING_IRC_CLIENT_H
+#define KIRV_OBSERVING_IRC_CLIENT_H
 
+#include "tests/support/kirv_patience.h"
 #include "tools/servers/kirv_ngircd_server.h"
 
 #include <QDebug>
 #include <QRegularExpression>
 #include <QSslConfiguration>
 #include <QSslSocket>
-#include <QTest>
 
 /// Another person on the same server, who speaks the protocol by hand.
-class IrcObserver {
+class KirvObservingIrcClient {
 public:
     bool logIn(const KirvNgircdServer &server, const QString &nick)
     {
@@ -52,7 +52,7 @@ private:
                     answer += QString::fromUtf8(socket.readLine());
                 return answer.contains(end);
             },
-            15000);
+            kirvPatience);
         if (!complete)
             qWarning().noquote() << "Asked" << line << "the server said:" << answer;
         return complete ? answer.trimmed() : QString();

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_TEST_SCRIPTED_XMPP_SERVER_H
-#define KIRV_TEST_SCRIPTED_XMPP_SERVER_H
+#ifndef KIRV_SCRIPTED_XMPP_SERVER_H
+#define KIRV_SCRIPTED_XMPP_SERVER_H
 
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <functional>
 
 /// A server that does what a real one would not do: answers what a test tells it, and nothing without a script.
-class ScriptedXmppServer : public QTcpServer {
+class KirvScriptedXmppServer : public QTcpServer {
 public:
     /// Gives the answer to a chunk of \a received; an empty one for none.
     using Script = std::function<QByteArray(const QByteArray &received)>;
 
-    explicit ScriptedXmppServer(Script answers = {})
+    explicit KirvScriptedXmppServer(Script answers = {})
         : script(std::move(answers))
     {
         listen(QHostAddress::LocalHost);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_TEST_XMPP_OBSERVER_H
-#define KIRV_TEST_XMPP_OBSERVER_H
+#ifndef KIRV_OBSERVING_XMPP_CLIENT_H
+#define KIRV_OBSERVING_XMPP_CLIENT_H
 
 #include <QHash>
 #include <QXmppClient.h>
@@ -9,9 +9,9 @@
 class KirvProsodyServer;
 
 /// Another person's client on the same server, which shares no code with ours.
-class XmppObserver {
+class KirvObservingXmppClient {
 public:
-    XmppObserver();
+    KirvObservingXmppClient();
 
     /// Logs in as \a user and waits for it; false when the server refuses, too.
     bool logIn(const KirvProsodyServer &server, const QString &user, const QString &password = "secret",

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/servers/kirv_xmpp_profile.h"
+
+#include "tools/servers/kirv_prosody_server.h"
+
+KirvXmppProfile::KirvXmppProfile()
+    : KirvPluginProfile(KIRV_XMPP_PLUGIN, "XMPP")
+{
+}
+
+KirvAccount *KirvXmppProfile::createAccount(const KirvProsodyServer &server, const QString &user, Values values,
+                                            const QString &password)
+{
+    const Values defaults { { "server", server.host() },
+                            { "port", QString::number(server.port()) },
+                            { "encryption", server.certificatePath().isEmpty() ? "none" : "required" },
+                            { "certificate", server.certificatePath() } };
+    for (auto value = defaults.begin(); value != defaults.end(); ++value) {
+        if (!values.contains(value.key()))
+            values.insert(value.key(), value.value());
+    }
+    return createAccount(user + '@' + server.domain(), values, password);
+}
