@@ -14,9 +14,8 @@ class KirvAddWindowCompanion : public QObject, public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller.
+    /// \a window was just built for \a controller and is to own this.
     KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller);
-    ~KirvAddWindowCompanion() override;
 
     /// The name of the protocol that the window adds an account of.
     QString protocol() const { return protocolName; }

@@ -22,8 +22,7 @@ const auto fetchName = QStringLiteral("EditAccount_PubDirFetch");
 
 KirvDirectoryGuard::KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *controller,
                                        KirvAccountCollection &accounts)
-    : QObject(window)
-    , window(window)
+    : window(window)
     , controller(controller)
     , accounts(accounts)
     , key { controller->getAccountId(), controller->getProtocolName() }
