@@ -34,6 +34,8 @@ void KirvFakeServerRequest::goBack(const QList<KirvField> &)
 bool KirvFakeServerRequest::cancel()
 {
     ++cancelled;
+    if (isCommitted && isUnderWay())
+        return false;
     next = -1;
     return true;
 }

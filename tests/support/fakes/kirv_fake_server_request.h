@@ -20,6 +20,8 @@ public:
     void goBack(const QList<KirvField> &filled) override;
     bool cancel() override;
 
+    /// Whether a reply of the server is awaited.
+    bool isUnderWay() const { return next >= 0; }
     void serverAccepts();
     void serverRefuses(const KirvFailure &failure);
 
@@ -27,6 +29,7 @@ public:
     QList<KirvField> configurationFields; ///< of each configuration; empty: what is filled in stays
     KirvFailure failure;
     bool isHeld = false;
+    bool isCommitted = false; ///< cancel() cannot end what is under way
     QList<QList<KirvField>> submitted;
     int cancelled = 0;
 
