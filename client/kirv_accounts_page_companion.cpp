@@ -30,7 +30,10 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
             [this](const QString &id, const QString &protocol) {
                 syncRowLater({ id, protocol });
             });
+    connect(&accounts, &KirvAccountCollection::removalRefused, this, &KirvAccountsPageCompanion::keepRow);
 }
+
+KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:
 /// the kept ones make room, so that each account stands there once.
@@ -54,6 +57,16 @@ void KirvAccountsPageCompanion::protocolUnloaded(const QString &protocol)
         page->updateAccounts();
 }
 
+/// The page takes the row of an account away after each attempt to remove the account.
+void KirvAccountsPageCompanion::keepRow(const KirvAccount *account)
+{
+    const QTreeWidgetItem *row = find(account->key());
+    if (!row)
+        return;
+    rowCopies.emplace_back(row->clone());
+    syncRowLater(account->key());
+}
+
 void KirvAccountsPageCompanion::syncRowLater(const KirvAccountKey &key)
 {
     if (unsynced.isEmpty())
@@ -65,6 +78,11 @@ void KirvAccountsPageCompanion::syncRowLater(const KirvAccountKey &key)
 void KirvAccountsPageCompanion::syncRows()
 {
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
+    for (std::unique_ptr<QTreeWidgetItem> &row : std::exchange(rowCopies, {})) {
+        const KirvAccountKey key = keyOf(row.get());
+        if (accounts.find(key) && !find(key))
+            list->addTopLevelItem(row.release());
+    }
     const QList<KirvAccountKey> keys = std::exchange(unsynced, {});
     for (const KirvAccountKey &key : keys) {
         KirvAccount *account = accounts.find(key);
