@@ -12,11 +12,6 @@ KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const K
     window->setCompanion(this);
 }
 
-KirvAddWindowCompanion::~KirvAddWindowCompanion()
-{
-    window->setCompanion(nullptr);
-}
-
 void KirvAddWindowCompanion::close()
 {
     const auto boxes = window->findChildren<QDialog *>();

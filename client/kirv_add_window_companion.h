@@ -16,7 +16,6 @@ class KirvAddWindowCompanion : public QObject, public KirvWindowCompanion {
 public:
     /// \a window was just built for \a controller.
     KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller);
-    ~KirvAddWindowCompanion() override;
 
     /// The name of the protocol that the window adds an account of.
     QString protocol() const { return protocolName; }

@@ -32,7 +32,7 @@ KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvE
 
 KirvEditWindowCompanion::~KirvEditWindowCompanion()
 {
-    window->setCompanion(nullptr);
+    // The window is no KirvLayoutDialog any more when it destroys this.
     if (saving)
         saving->endSave();
     if (!controller)

@@ -28,7 +28,8 @@ class KirvLayoutDialog : public QDialog {
 public:
     using QDialog::QDialog;
 
-    /// \a companion is not owned; null takes it away. It must be taken away before it is destroyed.
+    /// \a companion is not owned; null takes it away. One that does not live as long as the window is taken
+    /// away before it is destroyed.
     void setCompanion(KirvWindowCompanion *companion);
 
     /// Finishes with \a result without asking the companion.
