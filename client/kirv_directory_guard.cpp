@@ -112,7 +112,8 @@ void KirvDirectoryGuard::saveEnded(bool saved)
 
 bool KirvDirectoryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == fields && event->type() == QEvent::EnabledChange)
+    // The type first: events also come while the fields are being destroyed.
+    if (event->type() == QEvent::EnabledChange && watched == fields)
         updateStatus();
     return QObject::eventFilter(watched, event);
 }
