@@ -24,6 +24,8 @@ public:
     void goBack(const QList<KirvField> &filled) override;
     bool cancel() override;
 
+    /// Whether a reply of the server is awaited.
+    bool isUnderWay() const { return isSubmitted; }
     void serverAccepts();
     void serverRefuses(const KirvFailure &failure);
     /// Ends the dialogue with another result than the one that it was made with.
