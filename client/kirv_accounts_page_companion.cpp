@@ -23,14 +23,17 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
 {
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
-    // page takes the row away itself, after this, when it was asked to remove the account.
+    // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
             [this](const KirvAccount *account) { syncRowLater(account->key()); });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
             [this](const QString &id, const QString &protocol) {
                 syncRowLater({ id, protocol });
             });
+    connect(&accounts, &KirvAccountCollection::removalRefused, this, &KirvAccountsPageCompanion::keepRow);
 }
+
+KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:
 /// the kept ones make room, so that each account stands there once.
@@ -54,6 +57,16 @@ void KirvAccountsPageCompanion::protocolUnloaded(const QString &protocol)
         page->updateAccounts();
 }
 
+/// The page takes the row of an account away after each attempt to remove the account.
+void KirvAccountsPageCompanion::keepRow(const KirvAccount *account)
+{
+    const QTreeWidgetItem *row = find(account->key());
+    if (!row)
+        return;
+    rowCopies.emplace_back(row->clone());
+    syncRowLater(account->key());
+}
+
 void KirvAccountsPageCompanion::syncRowLater(const KirvAccountKey &key)
 {
     if (unsynced.isEmpty())
@@ -65,6 +78,11 @@ void KirvAccountsPageCompanion::syncRowLater(const KirvAccountKey &key)
 void KirvAccountsPageCompanion::syncRows()
 {
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
+    for (std::unique_ptr<QTreeWidgetItem> &row : std::exchange(rowCopies, {})) {
+        const KirvAccountKey key = keyOf(row.get());
+        if (accounts.find(key) && !find(key))
+            list->addTopLevelItem(row.release());
+    }
     const QList<KirvAccountKey> keys = std::exchange(unsynced, {});
     for (const KirvAccountKey &key : keys) {
         KirvAccount *account = accounts.find(key);
@@ -136,7 +154,7 @@ QTreeWidgetItem *KirvAccountsPageCompanion::find(const KirvAccountKey &key) cons
 
 QList<QTreeWidgetItem *> KirvAccountsPageCompanion::rowsOf(const QString &protocol) const
 {
-    // Qt compares case-insensitively unless told otherwise; names of protocols may differ in case only.
+    // Qt compares case-insensitively by default; names of protocols may differ in case only.
     return list->findItems(protocol, Qt::MatchExactly | Qt::MatchCaseSensitive, ProtocolColumn);
 }
 
@@ -149,7 +167,7 @@ void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
         list->clearSelection();
     }
     delete row;
-    // A current row need not have been selected: the page is told in any case that there is none now.
+    // A current row need not have been selected: the page needs the signal in any case.
     if (wasChosen)
         Q_EMIT list->itemSelectionChanged();
 }

@@ -6,6 +6,8 @@
 
 #include <QList>
 #include <QObject>
+#include <memory>
+#include <vector>
 
 class KirvAccount;
 class KirvAccountCollection;
@@ -23,6 +25,7 @@ class KirvAccountsPageCompanion : public QObject {
 public:
     /// \a top was just built for the page. \a accounts outlives it.
     KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts);
+    ~KirvAccountsPageCompanion() override;
 
     /// The protocol was loaded, and its accounts with it.
     void protocolLoaded(const QString &protocol);
@@ -30,6 +33,7 @@ public:
     void protocolUnloaded(const QString &protocol);
 
 private:
+    void keepRow(const KirvAccount *account);
     void syncRowLater(const KirvAccountKey &key);
     void syncRows();
 
@@ -46,6 +50,7 @@ private:
 
     KirvAccountCollection &accounts;
     QTreeWidget *list;
+    std::vector<std::unique_ptr<QTreeWidgetItem>> rowCopies; ///< of rows that the page takes away too early
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
 };
 

@@ -5,11 +5,9 @@
 #include "host/kirv_protocol.h"
 
 KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller)
-    : QObject(window)
-    , window(window)
+    : window(window)
     , protocolName(controller->getProtocol()->getName())
 {
-    window->setCompanion(this);
 }
 
 void KirvAddWindowCompanion::close()

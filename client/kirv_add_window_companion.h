@@ -14,7 +14,7 @@ class KirvAddWindowCompanion : public QObject, public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller.
+    /// \a window was just built for \a controller and is to own this.
     KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller);
 
     /// The name of the protocol that the window adds an account of.

@@ -23,7 +23,7 @@
 
 static void initializeResources()
 {
-    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless asked for
+    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
 }
 
 namespace {

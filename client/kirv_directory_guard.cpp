@@ -22,8 +22,7 @@ const auto fetchName = QStringLiteral("EditAccount_PubDirFetch");
 
 KirvDirectoryGuard::KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *controller,
                                        KirvAccountCollection &accounts)
-    : QObject(window)
-    , window(window)
+    : window(window)
     , controller(controller)
     , accounts(accounts)
     , key { controller->getAccountId(), controller->getProtocolName() }
@@ -37,6 +36,7 @@ KirvDirectoryGuard::KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *c
     edited->directory().forget();
     // What is not fetched yet counts as blank and unchanged: the page would publish the blank fields otherwise.
     deliver(edited->protocol()->directoryFields());
+    connect(&edited->directory(), &KirvAccountDirectory::requested, this, &KirvDirectoryGuard::updateStatus);
     connect(&edited->directory(), &KirvAccountDirectory::answered, this, &KirvDirectoryGuard::receive);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvDirectoryGuard::onAccountChanged);
     updateStatus();

@@ -17,12 +17,13 @@ class QLabel;
 class QTabWidget;
 
 /// The directory tab of one edit window: delivers the answers that the window is to show, says why its fields are
-/// locked, and brings back what was typed when it could not be published. Owned by the window.
+/// locked, and brings back what was typed when it could not be published.
 class KirvDirectoryGuard : public QObject {
     Q_OBJECT
 
 public:
-    /// \a controller drives \a window, which has everything in place. \a accounts outlives both.
+    /// \a controller drives \a window, which has everything in place. \a accounts outlives both, and \a window
+    /// outlives this, with its children.
     KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *controller, KirvAccountCollection &accounts);
     ~KirvDirectoryGuard() override;
 

@@ -16,8 +16,7 @@
 
 KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
                                                  KirvAccountCollection &accounts, KirvServerCommands &serverCommands)
-    : QObject(window)
-    , window(window)
+    : window(window)
     , controller(controller)
     , accounts(accounts)
     , serverCommands(serverCommands)
@@ -26,13 +25,11 @@ KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvE
     , saveButton(buttons->button(QDialogButtonBox::Save))
     , passwordEdit(window->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
 {
-    window->setCompanion(this);
     connect(saveButton, &QPushButton::clicked, this, &KirvEditWindowCompanion::beginSave);
 }
 
 KirvEditWindowCompanion::~KirvEditWindowCompanion()
 {
-    // The window is no KirvLayoutDialog any more when it destroys this.
     if (saving)
         saving->endSave();
     if (!controller)
@@ -65,8 +62,8 @@ void KirvEditWindowCompanion::aboutToShow()
     knownPassword = account->record().password;
     showDescriptionAsPlainText(*account);
     addServerAccountButton();
-    directory = new KirvDirectoryGuard(window, controller, accounts);
-    connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
+    directory = std::make_unique<KirvDirectoryGuard>(window, controller, accounts);
+    connect(directory.get(), &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
 }
 
 void KirvEditWindowCompanion::bindWindow()

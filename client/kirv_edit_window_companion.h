@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <memory>
 
 class KirvAccount;
 class KirvAccountCollection;
@@ -26,7 +27,7 @@ class KirvEditWindowCompanion : public QObject, public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller. \a accounts and \a serverCommands outlive both.
+    /// \a window was just built for \a controller and is to own this. \a accounts and \a serverCommands outlive both.
     KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
                             KirvAccountCollection &accounts, KirvServerCommands &serverCommands);
     ~KirvEditWindowCompanion() override;
@@ -59,7 +60,7 @@ private:
     QDialogButtonBox *buttons;
     QPushButton *saveButton;
     QLineEdit *passwordEdit;
-    KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
+    std::unique_ptr<KirvDirectoryGuard> directory; ///< from the first showing on
     QPointer<KirvAccount> saving; ///< while the change of a Save is open
     QString knownPassword; ///< of the account, as far as the window shows it
     bool keepsOpen = false; ///< whatever else the click on Save leads to

@@ -94,7 +94,7 @@ bool KirvAccount::endSave()
     discardUnusedAvatars();
     refreshDescription();
     entry.release(isStored);
-    reconciler.release();
+    reconciler.release(isStored);
 
     const QPointer<KirvAccount> alive(this);
     if (isStored && isChanged && !removed)

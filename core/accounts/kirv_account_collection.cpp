@@ -205,7 +205,10 @@ bool KirvAccountCollection::remove(KirvAccount *account)
         return true;
     // The one step that can be refused comes first: nothing has happened yet then.
     if (!store.removeAccount(account->key())) {
+        const QPointer<KirvAccount> refused(account);
         refuse(store.lastError());
+        if (refused)
+            Q_EMIT removalRefused(account);
         return false;
     }
     error.clear();

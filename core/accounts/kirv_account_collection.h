@@ -52,6 +52,8 @@ Q_SIGNALS:
     /// The account is still complete, but not logged in any more as far as it is concerned.
     void accountAboutToBeRemoved(KirvAccount *account);
     void accountRemoved(const QString &id, const QString &protocol);
+    /// The store did not remove \a account, which stays as it is; problemOccurred() says why.
+    void removalRefused(KirvAccount *account);
     /// Anything about it changed, see KirvAccount::changed().
     void accountChanged(KirvAccount *account);
     void passwordNeeded(KirvAccount *account);

@@ -145,7 +145,7 @@ void KirvPluginLoader::Private::add(KirvProtocolBase *protocol, const QString &f
     protocolsByName.insert(name, protocol);
 }
 
-/// False when the protocol is on its way out already: a receiver of the news asked for it again.
+/// False when the protocol is being unloaded already: a slot has requested it again.
 bool KirvPluginLoader::Private::remove(KirvProtocolBase *protocol)
 {
     const auto find = [&] {

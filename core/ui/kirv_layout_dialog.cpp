@@ -1,9 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_dialog.h"
 
-void KirvLayoutDialog::setCompanion(KirvWindowCompanion *newCompanion)
+#include <QPointer>
+#include <utility>
+
+KirvLayoutDialog::~KirvLayoutDialog()
 {
-    companion = newCompanion;
+    const std::unique_ptr<KirvWindowCompanion> last = std::move(companion); // it is not called any more
+}
+
+void KirvLayoutDialog::setCompanion(std::unique_ptr<KirvWindowCompanion> newCompanion)
+{
+    companion = std::move(newCompanion);
 }
 
 void KirvLayoutDialog::finish(int result)
@@ -20,6 +28,8 @@ void KirvLayoutDialog::setVisible(bool visible)
 
 void KirvLayoutDialog::done(int result)
 {
-    if (!companion || companion->mayFinish(result))
+    const QPointer<KirvLayoutDialog> alive(this);
+    const bool mayFinish = !companion || companion->mayFinish(result);
+    if (alive && mayFinish)
         QDialog::done(result);
 }

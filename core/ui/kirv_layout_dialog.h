@@ -3,6 +3,7 @@
 #define KIRV_LAYOUT_DIALOG_H
 
 #include <QDialog>
+#include <memory>
 
 /// What stands between a window that was built from a layout and the code that drives it: the one place where a client
 /// can add to a window, and refuse to let it finish.
@@ -27,10 +28,10 @@ class KirvLayoutDialog : public QDialog {
 
 public:
     using QDialog::QDialog;
+    /// The companion goes first, while the window and its children are complete.
+    ~KirvLayoutDialog() override;
 
-    /// \a companion is not owned; null takes it away. One that does not live as long as the window is taken
-    /// away before it is destroyed.
-    void setCompanion(KirvWindowCompanion *companion);
+    void setCompanion(std::unique_ptr<KirvWindowCompanion> companion);
 
     /// Finishes with \a result without asking the companion.
     void finish(int result);
@@ -39,7 +40,7 @@ public:
     void done(int result) override;
 
 private:
-    KirvWindowCompanion *companion = nullptr;
+    std::unique_ptr<KirvWindowCompanion> companion;
 };
 
 #endif

@@ -107,7 +107,7 @@ QString KirvFailure::textWithoutDetail() const
     case BadSettings:
         return tr("The settings of the account cannot be used.");
     case NotSupported:
-        return tr("The server does not offer what was asked for.");
+        return tr("The server does not offer what was requested.");
     case RequestFailed:
         return tr("The request failed.");
     case Other:
@@ -150,8 +150,8 @@ QString KirvFailure::textWithDetail() const
         //: %1 says which setting and what is wrong with it
         return tr("The settings of the account cannot be used: %1");
     case NotSupported:
-        //: %1 is what was asked for
-        return tr("The server does not offer what was asked for: %1");
+        //: %1 is what was requested
+        return tr("The server does not offer what was requested: %1");
     case RequestFailed:
         //: %1 is the reason
         return tr("The request failed: %1");

@@ -364,7 +364,7 @@ void tst_FieldWidget::hintTellsWhatIsWrong_data()
 {
     QTest::addColumn<KirvField>("field");
     QTest::addColumn<QString>("hint");
-    const QString form = "This does not have the form that is asked for.";
+    const QString form = "Invalid format: The tip."; // the tool tip says what is valid
     const QString number = "This must be a whole number from 1 to 65535.";
     QTest::newRow("no rule") << withRule("x", QString(), false) << QString();
     QTest::newRow("match") << withRule("12", "[0-9]+", true) << QString();

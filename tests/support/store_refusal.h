@@ -11,13 +11,15 @@
 /// connection of its own.
 class StoreRefusal {
 public:
-    /// \a condition limits the refusal to the changes for which it holds, an SQL expression over NEW and OLD.
-    explicit StoreRefusal(const QString &profileFolder, const QString &condition = QStringLiteral("1"))
+    /// \a condition limits the refusal to the changes for which it holds, an SQL expression over NEW and OLD, and
+    /// \a change is the kind of change, an SQL keyword.
+    explicit StoreRefusal(const QString &profileFolder, const QString &condition = QStringLiteral("1"),
+                          const QString &change = QStringLiteral("UPDATE"))
         : file(QDir(profileFolder).filePath(QStringLiteral("profile.sqlite")))
     {
-        isHolding = run(QStringLiteral("CREATE TRIGGER test_refusal BEFORE UPDATE ON account WHEN %1 "
+        isHolding = run(QStringLiteral("CREATE TRIGGER test_refusal BEFORE %1 ON account WHEN %2 "
                                        "BEGIN SELECT RAISE(ABORT, 'refused by the test'); END")
-                            .arg(condition));
+                            .arg(change, condition));
     }
     ~StoreRefusal() { end(); }
     Q_DISABLE_COPY(StoreRefusal)
