@@ -3,6 +3,7 @@
 #include "client/kirv_wrapped_text.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
+#include "tests/support/kirv_field_texts.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -105,7 +106,7 @@ private:
     {
         return child<QWidget>("MessageRow")->isVisible() ? child<QTextEdit>("Message")->toPlainText() : QString();
     }
-    QString typed(const QString &field) const;
+    QString typed(const QString &field) const { return valueOf(request->filled, field); }
 
     std::unique_ptr<KirvFakeServerRequest> request;
     std::unique_ptr<KirvServerAssistant> window;
@@ -131,15 +132,6 @@ void TestServerAssistant::show(const Step &first)
     window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
     QCoreApplication::processEvents();
-}
-
-QString TestServerAssistant::typed(const QString &id) const
-{
-    for (const KirvField &field : request->filled) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return "missing";
 }
 
 void TestServerAssistant::aStepIsShownWhole()

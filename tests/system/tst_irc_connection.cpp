@@ -135,6 +135,9 @@ private Q_SLOTS:
 private:
     KirvAccount *createAccount(const KirvLocalServer &server, Values values = {}, const QString &password = "secret");
     KirvAccount *createAccount(const QTcpServer &server, Values values = {}, const QString &password = "secret");
+    /// An account without encryption that is available; null when it does not get on line.
+    template <class Server>
+    KirvAccount *logIn(const Server &server);
     static Values plain() { return { { "encryption", "none" } }; }
 
     std::unique_ptr<KirvPluginProfile> profile;
@@ -165,6 +168,14 @@ KirvAccount *TestIrcConnection::createAccount(const QTcpServer &server, Values v
     values.insert("server", server.serverAddress().toString());
     values.insert("port", QString::number(server.serverPort()));
     return profile->createAccount("alice", values, password);
+}
+
+template <class Server>
+KirvAccount *TestIrcConnection::logIn(const Server &server)
+{
+    KirvAccount *account = createAccount(server, plain());
+    profile->goTo(account, "available");
+    return QTest::qWaitFor([account] { return account->isOnline(); }, kirvPatience) ? account : nullptr;
 }
 
 void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork_data()
@@ -418,8 +429,7 @@ void TestIrcConnection::serverPassword()
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, password);
     profile->goTo(account, "available");
-    QTRY_VERIFY_WITH_TIMEOUT(failure(account) != KirvFailure::None || state(account) == KirvConnection::Online,
-                             kirvPatience);
+    KIRV_TRY(failure(account) != KirvFailure::None || state(account) == KirvConnection::Online);
     QCOMPARE(failure(account), expected);
     if (expected != KirvFailure::None)
         KIRV_TRY_STATE(account, Offline);
@@ -453,7 +463,7 @@ void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
     qRegisterMetaType<KirvAccount *>();
     QSignalSpy questions(&profile->accounts(), &KirvAccountCollection::passwordNeeded);
     profile->goTo(account, "available");
-    QTRY_VERIFY_WITH_TIMEOUT(!questions.isEmpty() || state(account) == KirvConnection::Online, kirvPatience);
+    KIRV_TRY(!questions.isEmpty() || state(account) == KirvConnection::Online);
     QCOMPARE(!questions.isEmpty(), isAskedFor);
     QCOMPARE(server.linesWith("NICK").isEmpty(), isAskedFor);
 }
@@ -479,15 +489,13 @@ void TestIrcConnection::awayIsSeenByOthers()
     QFETCH(QString, text);
     QFETCH(QString, seen);
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvObservingIrcClient bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
 
     profile->goTo(account, "away", text);
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), seen, kirvPatience);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), seen);
     QCOMPARE(state(account), KirvConnection::Online);
     QVERIFY(bob.sees("alice"));
 }
@@ -495,42 +503,37 @@ void TestIrcConnection::awayIsSeenByOthers()
 void TestIrcConnection::backIsSeenByOthers()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvObservingIrcClient bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
     profile->goTo(account, "away", "Lunch");
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Lunch"), kirvPatience);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Lunch"));
     profile->goTo(account, "available", "This is not sent");
-    QTRY_VERIFY_WITH_TIMEOUT(bob.awayTextOf("alice").isNull(), kirvPatience);
+    KIRV_TRY(bob.awayTextOf("alice").isNull());
     QVERIFY(bob.sees("alice"));
 }
 
 void TestIrcConnection::arrivesAway()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvObservingIrcClient bob;
-    QVERIFY(bob.logIn(server, "bob"));
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server, plain());
     profile->goTo(account, "away", "Still asleep");
     KIRV_TRY_STATE(account, Online);
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Still asleep"), kirvPatience);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Still asleep"));
 }
 
 void TestIrcConnection::longAwayTextKeepsTheConnection()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvObservingIrcClient bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
     profile->goTo(account, "away", QString(1000000, QChar(0x65e5)));
-    QTRY_VERIFY_WITH_TIMEOUT(bob.awayTextOf("alice").startsWith(QString(30, QChar(0x65e5))), kirvPatience);
+    KIRV_TRY(bob.awayTextOf("alice").startsWith(QString(30, QChar(0x65e5))));
     QCOMPARE(state(account), KirvConnection::Online);
 }
 
@@ -552,20 +555,19 @@ void TestIrcConnection::killedServerIsReachedAgain()
     QCOMPARE(failure(account), KirvFailure::None);
     KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, "bob"));
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Out"), kirvPatience);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Out"));
 }
 
 void TestIrcConnection::stoppedServerSaysGoodbye()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    KirvAccount *account = createAccount(server, plain());
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
 
     QSignalSpy failures(account->connection(), &KirvConnection::failed);
     server.stop();
-    QTRY_VERIFY_WITH_TIMEOUT(!failures.isEmpty(), kirvPatience);
+    KIRV_TRY(!failures.isEmpty());
     QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::ServerShutDown);
     profile->goTo(account, "offline");
     KIRV_TRY_STATE(account, Offline);
@@ -610,7 +612,7 @@ void TestIrcConnection::quietServerIsKept()
     QSignalSpy failures(account->connection(), &KirvConnection::failed);
     profile->goTo(account, "available");
     const auto pings = [&server] { return server.linesWith("PING").size(); };
-    QTRY_VERIFY_WITH_TIMEOUT(pings() >= 2, kirvPatience);
+    KIRV_TRY(pings() >= 2);
     QCOMPARE(state(account), KirvConnection::Online);
     QVERIFY(failures.isEmpty());
 }
@@ -670,15 +672,13 @@ void TestIrcConnection::serverThatIsBusyIsTriedAgain()
 void TestIrcConnection::removedAccountLeavesTheServer()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvObservingIrcClient bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
     QVERIFY(bob.sees("alice"));
     KirvAccountManager::getInstance()->removeAccount("alice", "IRC");
-    QTRY_VERIFY_WITH_TIMEOUT(!bob.sees("alice"), kirvPatience);
+    KIRV_TRY(!bob.sees("alice"));
 }
 
 void TestIrcConnection::othersLearnTheNameOfTheProgram()
@@ -689,7 +689,7 @@ void TestIrcConnection::othersLearnTheNameOfTheProgram()
     KirvAccount *account = createAccount(server, plain());
     profile->goTo(account, "available");
     const QByteArray answer = "NOTICE bob :\1VERSION " + QCoreApplication::applicationName().toUtf8() + '\1';
-    QTRY_VERIFY_WITH_TIMEOUT(server.hasReceived(answer), kirvPatience);
+    KIRV_TRY(server.hasReceived(answer));
 }
 
 void TestIrcConnection::saslLogsIn_data()

@@ -23,6 +23,13 @@ KirvProsodyServer::Options unencrypted()
 
 const QString romeoAddress = "romeo@localhost";
 
+/// Starts \a server with Romeo and Juliet, who see each other's presence; Juliet is logged in.
+bool startWithFriend(KirvProsodyServer &server, KirvObservingXmppClient &juliet)
+{
+    return KirvXmppProfile::start(server, { "romeo", "juliet" }) && juliet.logIn(server, "juliet")
+        && juliet.befriend(server, "romeo");
+}
+
 } // namespace
 
 /// The XMPP plug-in in our core, against a real server where that can do it, and a scripted one where it cannot.
@@ -188,7 +195,7 @@ void TestXmppConnection::logsInAndOut()
     QFETCH(bool, encrypted);
     QFETCH(QString, encryption);
     KirvProsodyServer server(encrypted ? KirvProsodyServer::Options() : unencrypted());
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "encryption", encryption } });
 
     profile->goTo(account, "available");
@@ -215,7 +222,7 @@ QString TestXmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind e
 void TestXmppConnection::wrongPasswordIsSaidAndNotTriedAgain()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", {}, "wrong");
     QVERIFY(!tryToLogIn(account, KirvFailure::WrongPassword).isEmpty());
     QCOMPARE(state(account), KirvConnection::Offline);
@@ -256,7 +263,7 @@ void TestXmppConnection::domainThatTheServerDoesNotServe()
 void TestXmppConnection::untrustedCertificateIsRefusedUntilItIsTrusted()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "certificate", "" } });
     QVERIFY(!tryToLogIn(account, KirvFailure::UntrustedCertificate).isEmpty());
     QCOMPARE(state(account), KirvConnection::Offline);
@@ -289,7 +296,7 @@ void TestXmppConnection::passwordIsNotSentWithoutEncryption()
 void TestXmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "encryption", "none" } });
     QVERIFY(tryToLogIn(account, KirvFailure::BadSettings).contains("encryption"));
     QCOMPARE(state(account), KirvConnection::Offline);
@@ -351,10 +358,8 @@ void TestXmppConnection::presenceIsSeenByOthers()
     QFETCH(QString, presence);
     QFETCH(int, seen);
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
     KirvObservingXmppClient juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
     profile->goTo(account, presence == "available" ? "away" : "available");
     KIRV_TRY(juliet.sees(romeoAddress));
@@ -371,10 +376,8 @@ void TestXmppConnection::presenceIsSeenByOthers()
 void TestXmppConnection::arrivesWithItsPresence()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
     KirvObservingXmppClient juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
     profile->goTo(account, "dnd", "Busy");
     KIRV_TRY(juliet.sees(romeoAddress));
@@ -385,10 +388,8 @@ void TestXmppConnection::arrivesWithItsPresence()
 void TestXmppConnection::invisibleIsNotSeen()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
     KirvObservingXmppClient juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
 
     profile->goTo(account, "invisible");
@@ -410,10 +411,8 @@ void TestXmppConnection::invisibleIsNotSeen()
 void TestXmppConnection::statusThatCannotBeSentKeepsTheSession()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
     KirvObservingXmppClient juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
     profile->goTo(account, "away", QString("a") + QChar(1) + QChar(0xd800) + "b");
     KIRV_TRY(juliet.presenceOf(romeoAddress).statusText() == "ab");
@@ -425,10 +424,8 @@ void TestXmppConnection::statusThatCannotBeSentKeepsTheSession()
 void TestXmppConnection::priorityAndResourceAreTaken()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
     KirvObservingXmppClient juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "resource", "balcony" }, { "priority", "-7" } });
     profile->goTo(account, "available");
     KIRV_TRY(juliet.sees(romeoAddress));
@@ -439,10 +436,9 @@ void TestXmppConnection::priorityAndResourceAreTaken()
 void TestXmppConnection::killedServerIsReachedAgain()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
     server.kill();
@@ -457,10 +453,9 @@ void TestXmppConnection::killedServerIsReachedAgain()
 void TestXmppConnection::stoppedServerIsReachedAgain()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
     server.stop();
@@ -473,10 +468,9 @@ void TestXmppConnection::stoppedServerIsReachedAgain()
 void TestXmppConnection::sameResourceTwiceEndsTheOlder()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     KirvObservingXmppClient other;
     QVERIFY(other.logIn(server, "romeo", "secret", "Kirv"));
@@ -487,10 +481,9 @@ void TestXmppConnection::sameResourceTwiceEndsTheOlder()
 void TestXmppConnection::changedPasswordIsUsed()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     account->setPassword("wrong");
     profile->goTo(account, "available");
@@ -504,10 +497,9 @@ void TestXmppConnection::changedPasswordIsUsed()
 void TestXmppConnection::disabledAccountLeavesTheServer()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
     KirvAccountManager::getInstance()->disableAccount(romeoAddress, "XMPP");
     KIRV_TRY(!server.isOnline("romeo"));
     QVERIFY(!account->isOnline());
@@ -516,10 +508,9 @@ void TestXmppConnection::disabledAccountLeavesTheServer()
 void TestXmppConnection::removedAccountLeavesTheServer()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    KIRV_TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
     KirvAccountManager::getInstance()->removeAccount(romeoAddress, "XMPP");
     KIRV_TRY(!server.isOnline("romeo"));
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_field_texts.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_scripted_xmpp_server.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
@@ -15,15 +16,6 @@ using Values = KirvPluginProfile::Values;
 namespace {
 
 const QString romeoAddress = "romeo@localhost";
-
-QString valueOf(const QList<KirvField> &fields, const QString &id)
-{
-    for (const KirvField &field : fields) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return "there is no such field";
-}
 
 } // namespace
 
@@ -78,13 +70,11 @@ void TestXmppDirectory::init()
     profile = std::make_unique<KirvXmppProfile>();
     QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
     server = std::make_unique<KirvProsodyServer>();
-    QVERIFY2(server->start() && server->addUser("romeo", "secret") && server->addUser("juliet", "secret"),
-             qPrintable(server->errorString()));
+    QVERIFY(KirvXmppProfile::start(*server, { "romeo", "juliet" }));
     juliet = std::make_unique<KirvObservingXmppClient>();
     QVERIFY(juliet->logIn(*server, "juliet") && juliet->befriend(*server, "romeo"));
-    romeo = profile->createAccount(*server, "romeo");
-    profile->goTo(romeo, "available");
-    KIRV_TRY_STATE(romeo, Online);
+    romeo = profile->logIn(*server);
+    QVERIFY(romeo);
     KIRV_TRY(juliet->sees(romeoAddress));
 }
 
@@ -293,7 +283,7 @@ void TestXmppDirectory::refusedRequestIsAnswered()
     KirvProsodyServer::Options options;
     options.disabledModules << "vcard";
     KirvProsodyServer without(options);
-    QVERIFY2(without.start() && without.addUser("romeo", "secret"), qPrintable(without.errorString()));
+    QVERIFY(KirvXmppProfile::start(without));
     profile->setValue(romeo, "port", QString::number(without.port()));
     profile->setValue(romeo, "certificate", without.certificatePath());
     KIRV_TRY(without.isOnline("romeo"));

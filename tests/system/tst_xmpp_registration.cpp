@@ -63,8 +63,6 @@ private:
     bool openRegistration();
     /// Runs an action of romeo's account; false when no window opens.
     bool openAction(const QString &actionId);
-    /// Creates romeo's account and waits until it is on line; null when it does not get there.
-    KirvAccount *logIn(KirvProsodyServer &server);
     void type(const QString &field, const QString &text);
     void fillServer(const Values &values);
     void fillServer(const KirvProsodyServer &server);
@@ -105,13 +103,6 @@ bool TestXmppRegistration::openAction(const QString &actionId)
 {
     commands->run(romeoKey, actionId, window.get());
     return Assistant::window();
-}
-
-KirvAccount *TestXmppRegistration::logIn(KirvProsodyServer &server)
-{
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    return QTest::qWaitFor([account] { return account->isOnline(); }, kirvPatience) ? account : nullptr;
 }
 
 void TestXmppRegistration::type(const QString &field, const QString &text)
@@ -468,8 +459,8 @@ void TestXmppRegistration::accountThatIsInTheListAlreadyIsSaid()
 void TestXmppRegistration::passwordIsChangedOnTheServer()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = logIn(server);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
     QVERIFY(account);
     QSignalSpy states(account->connection(), &KirvConnection::stateChanged);
 
@@ -496,8 +487,8 @@ void TestXmppRegistration::passwordIsChangedOnTheServer()
 void TestXmppRegistration::passwordChangeThatFailsKeepsTheOldOne()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = logIn(server);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
     QVERIFY(account);
 
     QVERIFY(openAction("change-password"));
@@ -515,8 +506,8 @@ void TestXmppRegistration::passwordChangeThatFailsKeepsTheOldOne()
 void TestXmppRegistration::accountIsDeletedOnTheServer()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = logIn(server);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
     QVERIFY(account);
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
 
@@ -545,8 +536,8 @@ void TestXmppRegistration::deletionIsConfirmedTwice()
 {
     QFETCH(int, confirmations);
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = logIn(server);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
     QVERIFY(account);
 
     QVERIFY(openAction("delete-on-server"));

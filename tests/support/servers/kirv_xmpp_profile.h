@@ -11,10 +11,15 @@ class KirvXmppProfile : public KirvPluginProfile {
 public:
     KirvXmppProfile();
 
+    /// Starts \a server with \a users, whose password is "secret"; false, with a warning, when that fails.
+    static bool start(KirvProsodyServer &server, const QStringList &users = { "romeo" });
+
     using KirvPluginProfile::createAccount;
     /// An account on \a server, whose certificate it trusts.
     KirvAccount *createAccount(const KirvProsodyServer &server, const QString &user, Values values = {},
                                const QString &password = "secret");
+    /// Such an account that is available; null when it does not get on line.
+    KirvAccount *logIn(const KirvProsodyServer &server, const QString &user = "romeo");
 };
 
 #endif
