@@ -17,6 +17,9 @@ bool kirvMakePrivateFile(const QString &path);
 /// Gives the file \a from the name \a to in one step, in place of whatever file has it. Both are in one file system.
 bool kirvReplaceFile(const QString &from, const QString &to);
 
+/// Gives the file \a name the name \a second, too, which must be free; where the file system has no such names, a copy.
+bool kirvNameFileToo(const QString &name, const QString &second);
+
 /// Puts the content of the file \a path on the disk.
 bool kirvSyncFile(const QString &path);
 

@@ -373,15 +373,18 @@ bool KirvStore::saveTo(const QString &folder)
 
 bool KirvStore::Private::copyAllTo(KirvStore &other)
 {
-    const QList<KirvAccountRecord> records = accounts.readAll();
-    if (!database.errorText().isEmpty() || !other.begin())
+    QList<KirvAccountRecord> records = accounts.readAll();
+    if (!database.errorText().isEmpty())
         return false;
-    for (KirvAccountRecord record : records) {
+    for (KirvAccountRecord &record : records) {
         const QString avatar = avatars.usableName(record.avatar);
         // The picture is gone when its folder is; the account is not.
         record.avatar = avatar.isEmpty() ? QString() : other.importAvatar(QDir(avatars.path()).filePath(avatar));
-        other.insertAccount(record);
     }
+    if (!other.begin())
+        return false;
+    for (const KirvAccountRecord &record : qAsConst(records))
+        other.insertAccount(record);
     QSqlQuery *query = database.run(QStringLiteral("SELECT key, value FROM setting"));
     while (query && query->next())
         other.writeSetting(query->value(0).toString(), query->value(1).toString());

@@ -55,6 +55,20 @@ QStringList versionWithSecretsApart()
     };
 }
 
+/// Makes a database of that version in memory.
+bool makeVersion(KirvDatabase &database, int version)
+{
+    if (version < 1 || version > kirvStoreVersion() || !database.open(QStringLiteral(":memory:"), KirvDatabase::Plain))
+        return false;
+    for (const QStringList &step : kirvStoreSchemaSteps().mid(0, version)) {
+        for (const QString &statement : step) {
+            if (!database.execute(statement))
+                return false;
+        }
+    }
+    return true;
+}
+
 }
 
 const QList<QStringList> &kirvStoreSchemaSteps()
@@ -145,13 +159,17 @@ QStringList kirvSchemaOf(KirvDatabase &database)
 QStringList kirvSchemaOfVersion(int version)
 {
     KirvDatabase database;
-    if (version < 1 || version > kirvStoreVersion() || !database.open(QStringLiteral(":memory:"), KirvDatabase::Plain))
-        return QStringList();
-    for (const QStringList &step : kirvStoreSchemaSteps().mid(0, version)) {
-        for (const QString &statement : step) {
-            if (!database.execute(statement))
-                return QStringList();
-        }
-    }
-    return kirvSchemaOf(database);
+    return makeVersion(database, version) ? kirvSchemaOf(database) : QStringList();
+}
+
+QStringList kirvColumnsOfVersion(int version, const QString &table)
+{
+    KirvDatabase database;
+    QStringList columns;
+    if (!makeVersion(database, version))
+        return columns;
+    QSqlQuery *query = database.run(QStringLiteral("SELECT name FROM pragma_table_info(?) ORDER BY cid"), { table });
+    while (query && query->next())
+        columns << query->value(0).toString();
+    return columns;
 }

@@ -33,5 +33,7 @@ bool kirvUpgradeSchema(KirvDatabase &database, int version, quint32 applicationI
 QStringList kirvSchemaOf(KirvDatabase &database);
 /// The same of a database of that version. Empty when there is no such version.
 QStringList kirvSchemaOfVersion(int version);
+/// The columns that \a table has in that version, in their order.
+QStringList kirvColumnsOfVersion(int version, const QString &table);
 
 #endif
