@@ -44,6 +44,32 @@ QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields)
     return values;
 }
 
+QSet<QString> kirvSecretFields(const QList<KirvField> &fields)
+{
+    QSet<QString> secrets;
+    for (const KirvField &field : fields) {
+        if (field.getKind() == KirvField::Password && !field.getId().isEmpty())
+            secrets.insert(field.getId());
+    }
+    return secrets;
+}
+
+namespace {
+
+/// Notes in \a record which of the settings that \a fields describe are secret.
+void classify(KirvAccountRecord &record, const QList<KirvField> &fields)
+{
+    const QSet<QString> secrets = kirvSecretFields(fields);
+    for (const KirvField &field : fields) {
+        if (secrets.contains(field.getId()))
+            record.secretSettings.insert(field.getId());
+        else
+            record.secretSettings.remove(field.getId());
+    }
+}
+
+} // namespace
+
 KirvAccount::KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent)
     : QObject(parent)
     , profile(store)
@@ -167,6 +193,7 @@ bool KirvAccount::setSettings(const QList<KirvField> &fields)
     return change([&](KirvAccountRecord &record) {
         for (auto value = values.constBegin(); value != values.constEnd(); ++value)
             record.settings.insert(value.key(), value.value());
+        classify(record, fields);
     });
 }
 
@@ -304,6 +331,7 @@ void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
     if (!dropConnection() || connection())
         return;
     loadedProtocol = protocol;
+    classify(current, protocol->accountSettings());
     mayLogIn = logIn;
     KirvConnection *created = protocol->createConnection();
     if (!created)
