@@ -45,6 +45,7 @@ bool KirvFailure::isWorthRetrying() const
     case TimedOut:
     case ConnectionLost:
     case ServerShutDown:
+    case ServiceUnavailable:
     case Other:
         return true;
     case None:
@@ -92,6 +93,8 @@ QString KirvFailure::textWithoutDetail() const
         return tr("The account requires encryption, and the server does not offer it.");
     case AuthenticationNotOffered:
         return tr("The server offers no way to log in that this account can use.");
+    case ServiceUnavailable:
+        return tr("The server cannot log the account in at the moment.");
     case ConnectionLost:
         return tr("The connection to the server was lost.");
     case ServerShutDown:
@@ -131,6 +134,9 @@ QString KirvFailure::textWithDetail() const
     case UntrustedCertificate:
         //: %1 is what is wrong with the certificate
         return tr("The certificate of the server is not trusted: %1");
+    case ServiceUnavailable:
+        //: %1 is the reason
+        return tr("The server cannot log the account in at the moment: %1");
     case ConnectionLost:
         //: %1 is the reason
         return tr("The connection to the server was lost: %1");

@@ -23,6 +23,7 @@ public:
         UntrustedCertificate, ///< the server's certificate is not to be trusted; the detail says why
         EncryptionNotOffered, ///< encryption is required and the server has none
         AuthenticationNotOffered, ///< no common way to log in
+        ServiceUnavailable, ///< the server cannot log the account in for the moment; the detail says why
         ConnectionLost, ///< the connection broke
         ServerShutDown, ///< the server closed the stream in an orderly way
         LoggedInElsewhere, ///< another client took the session over
