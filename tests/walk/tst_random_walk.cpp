@@ -135,6 +135,7 @@ void tst_random_walk::initTestCase()
     options.pluginFolder = QStringLiteral(KIRV_WALK_PLUGINS);
     client = std::make_unique<KirvClient>(options);
     QVERIFY2(client->start(), qPrintable(client->errorString()));
+    QTRY_VERIFY(client->arePluginsLoaded());
     QCOMPARE(client->plugins().protocols().size(), 2);
 
     page = client->accountsPage();
