@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 
+#include "core/protocol/kirv_plugin_call.h"
 #include "core/store/kirv_store.h"
 
 #include <QDir>
@@ -333,7 +334,10 @@ void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
     loadedProtocol = protocol;
     classify(current, protocol->accountSettings());
     mayLogIn = logIn;
-    KirvConnection *created = protocol->createConnection();
+    KirvConnection *created = nullptr;
+    QString problem;
+    if (!kirvCallPlugin([&] { created = protocol->createConnection(); }, &problem))
+        Q_EMIT noticeReceived(problem);
     if (!created)
         return;
     created->setParent(this);

@@ -68,7 +68,8 @@ bool KirvWindows::start()
         return false;
     }
     client->window()->show();
-    return QTest::qWaitForWindowExposed(client->window());
+    return QTest::qWaitForWindowExposed(client->window())
+        && QTest::qWaitFor([this] { return client->arePluginsLoaded(); }, patience);
 }
 
 void KirvWindows::quit()

@@ -27,7 +27,7 @@ public:
     KirvWindows();
     ~KirvWindows();
 
-    /// Starts the client, or quits it and starts it again.
+    /// Starts the client, or quits it and starts it again, and waits until its plug-ins are loaded.
     bool start();
     void quit();
 
