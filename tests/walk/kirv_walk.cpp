@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QImage>
+#include <QTest>
 #include <QTreeWidget>
 
 KirvWalk::KirvWalk()
@@ -35,7 +36,7 @@ bool KirvWalk::start()
         return false;
     }
     client->window()->show();
-    return true;
+    return QTest::qWaitFor([this] { return client->arePluginsLoaded(); });
 }
 
 void KirvWalk::quit()
