@@ -23,7 +23,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
 {
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
-    // page takes the row away itself, after this, when it was asked to remove the account.
+    // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
             [this](const KirvAccount *account) { syncRowLater(account->key()); });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
@@ -154,7 +154,7 @@ QTreeWidgetItem *KirvAccountsPageCompanion::find(const KirvAccountKey &key) cons
 
 QList<QTreeWidgetItem *> KirvAccountsPageCompanion::rowsOf(const QString &protocol) const
 {
-    // Qt compares case-insensitively unless told otherwise; names of protocols may differ in case only.
+    // Qt compares case-insensitively by default; names of protocols may differ in case only.
     return list->findItems(protocol, Qt::MatchExactly | Qt::MatchCaseSensitive, ProtocolColumn);
 }
 
@@ -167,7 +167,7 @@ void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
         list->clearSelection();
     }
     delete row;
-    // A current row need not have been selected: the page is told in any case that there is none now.
+    // A current row need not have been selected: the page needs the signal in any case.
     if (wasChosen)
         Q_EMIT list->itemSelectionChanged();
 }

@@ -10,7 +10,7 @@
 
 static void initializeResources()
 {
-    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless asked for
+    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
 }
 
 KirvApplication::KirvApplication(int &argc, char **argv)
@@ -27,7 +27,7 @@ void KirvApplication::reportFatal(const QString &text)
 {
     std::fprintf(stderr, "kirv: %s\n", qPrintable(text));
     if (platformName() == QLatin1String("offscreen"))
-        return; // nobody sees the box, and nobody could close it
+        return; // there is no user who could close the box
     QMessageBox box(QMessageBox::Critical, tr("Kirv"), text, QMessageBox::Close);
     box.setObjectName(QStringLiteral("FatalProblem"));
     box.setTextFormat(Qt::PlainText);

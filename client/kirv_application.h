@@ -11,7 +11,7 @@ class KirvApplication : public QApplication {
 public:
     KirvApplication(int &argc, char **argv);
 
-    /// Tells the person why the program cannot start: on the terminal and, where somebody can close it, in a
+    /// Shows why the program cannot start: on the terminal and, where a user can close it, in a
     /// message box.
     static void reportFatal(const QString &text);
 };

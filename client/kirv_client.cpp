@@ -4,6 +4,7 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_connection_view.h"
+#include "client/kirv_first_paint.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plugins_page.h"
@@ -13,6 +14,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
+#include "core/plugins/kirv_plugin_queue.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
 #include "core/ui/kirv_layout_catalog.h"
@@ -23,7 +25,7 @@
 
 static void initializeResources()
 {
-    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless asked for
+    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
 }
 
 namespace {
@@ -48,6 +50,7 @@ KirvClient::~KirvClient()
         return;
     if (settingsWindow)
         settingsWindow->hide();
+    pluginsToLoad.reset();
     accountCollection->logOutAll(logOutMilliseconds);
     // Nothing is emitted from now on: the window is destroyed first, the protocols and the store follow.
     accountCollection->disconnect(this);
@@ -67,7 +70,7 @@ bool KirvClient::start()
     createServices();
     createWindow();
     connectServices();
-    loadPlugins();
+    kirvAfterFirstPaint(settingsWindow.get(), [this] { loadPlugins(); });
     services->restoreMainAccount();
     mainAccountChanged();
     return true;
@@ -101,10 +104,11 @@ void KirvClient::createServices()
 {
     clientSettings = std::make_unique<KirvClientSettings>(*store);
     accountCollection = std::make_unique<KirvAccountCollection>(*store);
+    const QDir profile(options.profileFolder);
     pluginLoader = std::make_unique<KirvPluginLoader>();
+    pluginsToLoad = std::make_unique<KirvPluginQueue>(*pluginLoader, profile.filePath(QStringLiteral("plugins.json")));
     services = std::make_unique<KirvHostServices>(*accountCollection, *pluginLoader, *clientSettings);
     layouts = std::make_unique<KirvLayoutCatalog>();
-    const QDir profile(options.profileFolder);
     clientSettings->setThemeFolder(profile.filePath(QStringLiteral("themes")));
     layouts->setOverrideFolder(profile.filePath(QStringLiteral("layouts")));
 }
@@ -119,7 +123,7 @@ void KirvClient::createWindow()
     companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, settingsWindow.get());
     page = KirvAccountsTab::getInstance();
     connections = new KirvConnectionView(*accountCollection, *serverCommands);
-    pluginList = new KirvPluginsPage(*pluginLoader, options.pluginFolder);
+    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
     settingsWindow->addPage(connections, tr("Connections"), themeIcon(QStringLiteral("network-wired")));
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
@@ -139,15 +143,24 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showProblem);
+    connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showProblem);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);
 }
 
+bool KirvClient::arePluginsLoaded() const
+{
+    return isLoadingStarted && !pluginsToLoad->isBusy();
+}
+
 void KirvClient::loadPlugins()
 {
-    if (!pluginLoader->loadFolder(options.pluginFolder)) {
+    if (!pluginsToLoad) // the program quits
+        return;
+    isLoadingStarted = true;
+    if (!pluginsToLoad->loadFolder(options.pluginFolder)) {
         //: %1 = path of a folder
         showProblem(tr("There is no folder %1, so no protocol is available.")
                         .arg(QDir::toNativeSeparators(options.pluginFolder)));

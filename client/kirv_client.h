@@ -16,6 +16,7 @@ class KirvHostServices;
 class KirvLayoutCatalog;
 class KirvPasswordQuestions;
 class KirvPluginLoader;
+class KirvPluginQueue;
 class KirvPluginsPage;
 class KirvProtocolBase;
 class KirvClientSettings;
@@ -33,8 +34,9 @@ public:
     /// Logs all accounts out, within a few seconds, and closes the profile.
     ~KirvClient() override;
 
-    /// Opens the profile, makes the window, which is not shown yet, and loads the plug-ins: the accounts start
-    /// to log in. False with errorString() when the profile cannot be used.
+    /// Opens the profile and makes the window, which is not shown yet. False with errorString() when the profile
+    /// cannot be used. The plug-ins are loaded from the event loop when the window has been painted, or soon when it is
+    /// not shown; with each the accounts of its protocol start to log in.
     bool start();
     /// A sentence or two for the user.
     QString errorString() const { return error; }
@@ -43,6 +45,9 @@ public:
     KirvStore &profile() const { return *store; }
     KirvAccountCollection &accounts() const { return *accountCollection; }
     KirvPluginLoader &plugins() const { return *pluginLoader; }
+    KirvPluginQueue &pluginQueue() const { return *pluginsToLoad; }
+    /// Whether every plug-in that there was at the start is loaded or left out.
+    bool arePluginsLoaded() const;
     KirvClientSettings &settings() const { return *clientSettings; }
     KirvSettingsWindow *window() const { return settingsWindow.get(); }
     KirvAccountsTab *accountsPage() const;
@@ -74,6 +79,8 @@ private:
     std::unique_ptr<KirvClientSettings> clientSettings;
     std::unique_ptr<KirvAccountCollection> accountCollection;
     std::unique_ptr<KirvPluginLoader> pluginLoader;
+    std::unique_ptr<KirvPluginQueue> pluginsToLoad;
+    bool isLoadingStarted = false;
     std::unique_ptr<KirvHostServices> services;
     std::unique_ptr<KirvLayoutCatalog> layouts;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the client is told when it is started.
+/// What the command line says.
 struct KirvClientOptions {
     Q_DECLARE_TR_FUNCTIONS(KirvClientOptions)
 
@@ -14,7 +14,7 @@ public:
     QString profileFolder;
     QString pluginFolder;
 
-    /// The person's own profile and the plug-ins that came with the program.
+    /// The user's own profile and the plug-ins that came with the program.
     static KirvClientOptions defaults();
     /// The options that \a arguments, the program's name first, ask for. Prints and ends the program for
     /// --help, --version and what it does not understand.

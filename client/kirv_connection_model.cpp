@@ -9,7 +9,7 @@
 #include <QLocale>
 
 namespace {
-/// Of today only the time is told.
+/// A time of today is shown without its date.
 QString sinceText(const QDateTime &time)
 {
     return time.date() == QDate::currentDate() ? QLocale().toString(time.time(), QLocale::ShortFormat)

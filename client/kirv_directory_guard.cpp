@@ -36,6 +36,7 @@ KirvDirectoryGuard::KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *c
     edited->directory().forget();
     // What is not fetched yet counts as blank and unchanged: the page would publish the blank fields otherwise.
     deliver(edited->protocol()->directoryFields());
+    connect(&edited->directory(), &KirvAccountDirectory::requested, this, &KirvDirectoryGuard::updateStatus);
     connect(&edited->directory(), &KirvAccountDirectory::answered, this, &KirvDirectoryGuard::receive);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvDirectoryGuard::onAccountChanged);
     updateStatus();
@@ -111,7 +112,8 @@ void KirvDirectoryGuard::saveEnded(bool saved)
 
 bool KirvDirectoryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == fields && event->type() == QEvent::EnabledChange)
+    // The type first: events also come while the fields are being destroyed.
+    if (event->type() == QEvent::EnabledChange && watched == fields)
         updateStatus();
     return QObject::eventFilter(watched, event);
 }

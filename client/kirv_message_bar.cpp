@@ -76,6 +76,6 @@ void KirvMessageBar::removeRow(int index)
     QWidget *row = rows->itemAt(index)->widget();
     rows->removeWidget(row);
     row->hide();
-    row->deleteLater(); // its own button may have asked for it
+    row->deleteLater(); // its own button may have caused this
     setVisible(!texts.isEmpty());
 }

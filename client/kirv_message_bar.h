@@ -8,7 +8,7 @@
 
 class QVBoxLayout;
 
-/// Problems told inside the window, above its pages, without stopping the user: one paragraph of plain text
+/// Problems shown inside the window, above its pages, without stopping the user: one paragraph of plain text
 /// each, with a button that takes it away. Hidden while there is none.
 class KirvMessageBar : public QFrame {
     Q_OBJECT

@@ -36,7 +36,7 @@ private:
     KirvAccountCollection &accounts;
     QWidget *window;
     QList<KirvAccountKey> waiting;
-    QPointer<KirvPasswordDialog> dialog; ///< null while nothing is asked
+    QPointer<KirvPasswordDialog> dialog; ///< null while no question is open
 };
 
 #endif

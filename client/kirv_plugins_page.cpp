@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_plugins_page.h"
 
+#include "core/plugins/kirv_plugin_queue.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -9,16 +11,30 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, const QString &folder, QWidget *parent)
+KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, KirvPluginQueue &queue, const QString &folder,
+                                 QWidget *parent)
     : QWidget(parent)
     , plugins(plugins)
+    , queue(queue)
     , list(new QTreeWidget(this))
     , details(new QLabel(this))
     , loadButton(new QPushButton(tr("&Load"), this))
     , unloadButton(new QPushButton(tr("&Unload"), this))
 {
     setObjectName(QStringLiteral("Plugins"));
+    createList();
+    createDetails();
+    createButtons();
+    arrange(createPlace(folder));
+    connect(list, &QTreeWidget::currentItemChanged, this, &KirvPluginsPage::updateDetails);
+    connect(loadButton, &QPushButton::clicked, this, &KirvPluginsPage::loadCurrent);
+    connect(unloadButton, &QPushButton::clicked, this, &KirvPluginsPage::unloadCurrent);
+    connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::refresh);
+    refresh();
+}
 
+void KirvPluginsPage::createList()
+{
     list->setObjectName(QStringLiteral("Plugins_List"));
     list->setAccessibleName(tr("Plug-ins"));
     list->setHeaderLabels({ tr("Plug-in"), tr("State"), tr("File") });
@@ -29,18 +45,27 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, const QString &folde
     const int unit = fontMetrics().averageCharWidth();
     list->setColumnWidth(0, 24 * unit);
     list->setColumnWidth(1, 18 * unit);
+}
 
+void KirvPluginsPage::createDetails()
+{
     details->setObjectName(QStringLiteral("Plugins_Details"));
     details->setAccessibleName(tr("About the plug-in"));
     details->setTextFormat(Qt::PlainText);
     details->setTextInteractionFlags(Qt::TextSelectableByMouse);
     details->setWordWrap(true);
+}
 
+void KirvPluginsPage::createButtons()
+{
     loadButton->setObjectName(QStringLiteral("Plugins_LoadButton"));
     loadButton->setToolTip(tr("Loads the plug-in; its accounts come back as they were."));
     unloadButton->setObjectName(QStringLiteral("Plugins_UnloadButton"));
     unloadButton->setToolTip(tr("Logs the accounts of the plug-in out. They stay in your profile."));
+}
 
+QLabel *KirvPluginsPage::createPlace(const QString &folder)
+{
     auto *place = new QLabel(this);
     place->setObjectName(QStringLiteral("Plugins_Folder"));
     place->setTextFormat(Qt::PlainText);
@@ -48,7 +73,11 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, const QString &folde
     place->setWordWrap(true);
     //: %1 = path of a folder
     place->setText(tr("Plug-ins are looked for in the folder %1.").arg(QDir::toNativeSeparators(folder)));
+    return place;
+}
 
+void KirvPluginsPage::arrange(QLabel *place)
+{
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(loadButton);
     buttons->addWidget(unloadButton);
@@ -59,16 +88,20 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, const QString &folde
     layout->addWidget(details);
     layout->addLayout(buttons);
     layout->addWidget(place);
-
-    connect(list, &QTreeWidget::currentItemChanged, this, &KirvPluginsPage::updateDetails);
-    connect(loadButton, &QPushButton::clicked, this, &KirvPluginsPage::loadCurrent);
-    connect(unloadButton, &QPushButton::clicked, this, &KirvPluginsPage::unloadCurrent);
-    connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::refresh);
-    refresh();
 }
 
 QString KirvPluginsPage::stateText(const KirvPluginInfo &plugin)
 {
+    switch (plugin.activity) {
+    case KirvPluginInfo::Waiting:
+        return tr("Waiting");
+    case KirvPluginInfo::BeingTested:
+        return tr("Being tested");
+    case KirvPluginInfo::BeingLoaded:
+        return tr("Loading");
+    case KirvPluginInfo::NoActivity:
+        break;
+    }
     if (plugin.loaded)
         return tr("Loaded");
     return plugin.error.isEmpty() ? tr("Not loaded") : tr("Failed");
@@ -96,14 +129,15 @@ void KirvPluginsPage::updateDetails()
     details->setText(!plugin                       ? tr("There are no plug-ins.")
                          : plugin->error.isEmpty() ? plugin->description
                                                    : plugin->error);
-    loadButton->setEnabled(plugin && !plugin->loaded && plugin->loadable);
+    loadButton->setEnabled(plugin && !plugin->loaded && plugin->loadable
+                           && plugin->activity == KirvPluginInfo::NoActivity);
     unloadButton->setEnabled(plugin && plugin->loaded);
 }
 
 void KirvPluginsPage::loadCurrent()
 {
     if (const KirvPluginInfo *plugin = current())
-        plugins.load(QString(plugin->fileName)); // a copy: the list is read anew meanwhile
+        queue.load(QString(plugin->fileName)); // a copy: the list is read anew meanwhile
 }
 
 void KirvPluginsPage::unloadCurrent()

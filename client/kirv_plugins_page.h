@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+class KirvPluginQueue;
 class QLabel;
 class QPushButton;
 class QTreeWidget;
@@ -15,13 +16,20 @@ class KirvPluginsPage : public QWidget {
     Q_OBJECT
 
 public:
-    /// \a plugins is not owned and outlives the page. \a folder is where they were looked for.
-    KirvPluginsPage(KirvPluginLoader &plugins, const QString &folder, QWidget *parent = nullptr);
+    /// \a plugins and the \a queue that loads them are not owned and outlive the page. \a folder is where they were
+    /// looked for.
+    KirvPluginsPage(KirvPluginLoader &plugins, KirvPluginQueue &queue, const QString &folder,
+                    QWidget *parent = nullptr);
 
     /// The state of a plug-in in words.
     static QString stateText(const KirvPluginInfo &plugin);
 
 private:
+    void createList();
+    void createDetails();
+    void createButtons();
+    QLabel *createPlace(const QString &folder);
+    void arrange(QLabel *place);
     void refresh();
     void updateDetails();
     void loadCurrent();
@@ -30,6 +38,7 @@ private:
     const KirvPluginInfo *current() const;
 
     KirvPluginLoader &plugins;
+    KirvPluginQueue &queue;
     QList<KirvPluginInfo> shown; ///< one per row of the list, in the same order
     QTreeWidget *list;
     QLabel *details;

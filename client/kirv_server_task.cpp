@@ -12,6 +12,7 @@ KirvServerTask::KirvServerTask(std::unique_ptr<KirvServerRequest> newRequest, Ki
     , requestAccount(account)
     , accounts(accounts)
 {
+    request->setParent(this); // below its owner in the tree of objects, where it can be found
     connect(request.get(), &KirvServerRequest::failed, this, &KirvServerTask::failed);
     connect(request.get(), &KirvServerRequest::succeeded, this, &KirvServerTask::finish);
 }

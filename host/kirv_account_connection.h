@@ -28,7 +28,7 @@ public:
     QString getAlias() const;
     void setAlias(const QString &alias);
 
-    /// The password as it is known now; empty when it must be asked for.
+    /// The password as it is known now; empty when it is not known.
     QString getPassword() const;
     void setPassword(const QString &password);
     /// Whether the password is kept between runs.

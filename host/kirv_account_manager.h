@@ -40,7 +40,7 @@ public:
     /// Deletes the account, its connection object and all data that belongs to it.
     void removeAccount(const QString &id, const QString &protocol);
 
-    /// Assigns the main account and nothing else: nothing is stored and nobody is told. Null is no
+    /// Assigns the main account and nothing else: nothing is stored or emitted. Null is no
     /// main account.
     void setMainAccount(KirvAccountConnection *account);
 };

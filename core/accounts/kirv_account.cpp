@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 
+#include "core/protocol/kirv_plugin_call.h"
 #include "core/store/kirv_store.h"
 
 #include <QDir>
@@ -43,6 +44,32 @@ QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields)
     }
     return values;
 }
+
+QSet<QString> kirvSecretFields(const QList<KirvField> &fields)
+{
+    QSet<QString> secrets;
+    for (const KirvField &field : fields) {
+        if (field.getKind() == KirvField::Password && !field.getId().isEmpty())
+            secrets.insert(field.getId());
+    }
+    return secrets;
+}
+
+namespace {
+
+/// Notes in \a record which of the settings that \a fields describe are secret.
+void classify(KirvAccountRecord &record, const QList<KirvField> &fields)
+{
+    const QSet<QString> secrets = kirvSecretFields(fields);
+    for (const KirvField &field : fields) {
+        if (secrets.contains(field.getId()))
+            record.secretSettings.insert(field.getId());
+        else
+            record.secretSettings.remove(field.getId());
+    }
+}
+
+} // namespace
 
 KirvAccount::KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent)
     : QObject(parent)
@@ -94,7 +121,7 @@ bool KirvAccount::endSave()
     discardUnusedAvatars();
     refreshDescription();
     entry.release(isStored);
-    reconciler.release();
+    reconciler.release(isStored);
 
     const QPointer<KirvAccount> alive(this);
     if (isStored && isChanged && !removed)
@@ -167,6 +194,7 @@ bool KirvAccount::setSettings(const QList<KirvField> &fields)
     return change([&](KirvAccountRecord &record) {
         for (auto value = values.constBegin(); value != values.constEnd(); ++value)
             record.settings.insert(value.key(), value.value());
+        classify(record, fields);
     });
 }
 
@@ -304,8 +332,12 @@ void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
     if (!dropConnection() || connection())
         return;
     loadedProtocol = protocol;
+    classify(current, protocol->accountSettings());
     mayLogIn = logIn;
-    KirvConnection *created = protocol->createConnection();
+    KirvConnection *created = nullptr;
+    QString problem;
+    if (!kirvCallPlugin([&] { created = protocol->createConnection(); }, &problem))
+        Q_EMIT noticeReceived(problem);
     if (!created)
         return;
     created->setParent(this);

@@ -149,5 +149,7 @@ private:
 
 /// \a fields by id in the form in which they are stored, without those that are only there to be read.
 QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields);
+/// The ids of those of \a fields whose values are secret.
+QSet<QString> kirvSecretFields(const QList<KirvField> &fields);
 
 #endif

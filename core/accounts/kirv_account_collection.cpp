@@ -63,6 +63,11 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
             protocolAboutToBeUnloaded(name);
     });
 
+    // Where this fails, more than necessary counts as secret until the next time.
+    const QStringList settings = kirvStoredValues(protocol->accountSettings()).keys();
+    store.classifySettings(name, QSet<QString>(settings.begin(), settings.end()),
+                           kirvSecretFields(protocol->accountSettings()));
+
     for (const QPointer<KirvAccount> &account : guarded(accountsOf(name))) {
         if (!alive || !loaded || protocols.value(name) != loaded)
             return;
@@ -187,6 +192,7 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     complete.settings = kirvStoredValues(known->accountSettings());
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
+    complete.secretSettings += kirvSecretFields(known->accountSettings());
     if (!store.insertAccount(complete)) {
         refuse(store.lastError());
         return nullptr;

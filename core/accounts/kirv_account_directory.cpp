@@ -106,6 +106,7 @@ void KirvAccountDirectory::begin(Operation newOperation, int request)
 {
     operation = newOperation;
     outstanding = request;
+    Q_EMIT requested(operation);
 }
 
 void KirvAccountDirectory::send(const QList<KirvField> &changes)

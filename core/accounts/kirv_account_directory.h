@@ -11,7 +11,7 @@
 
 class KirvConnection;
 
-/// The public-directory entry of one account: makes the requests and tells their answers apart.
+/// The public-directory entry of one account: makes the requests and matches their answers.
 ///
 /// A publication needs a base, the entry as it was fetched before: only the fields that differ from it are published.
 /// Without one, after a failed fetch say, nothing is published. A publication that is made while a save is open waits
@@ -54,6 +54,8 @@ public:
                                     const QSet<QString> &uncertain = {});
 
 Q_SIGNALS:
+    /// A request was made; answered() follows, unless a later request replaces it.
+    void requested(KirvAccountDirectory::Operation operation);
     /// The latest request is answered. Answers to requests that a later one has replaced are not emitted.
     void answered(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
 

@@ -49,12 +49,14 @@ void KirvReconciler::insist(Urge newUrge)
 
 void KirvReconciler::hold()
 {
-    ++holds;
+    if (holds++ == 0)
+        urgeBefore = urge;
 }
 
-void KirvReconciler::release()
+void KirvReconciler::release(bool kept)
 {
-    --holds;
+    if (--holds == 0 && !kept)
+        urge = urgeBefore;
     wake();
 }
 

@@ -30,7 +30,7 @@ public:
         ChangePresence,
         LogOut
     };
-    /// How much somebody insists, besides what is wanted.
+    /// What is requested explicitly, besides what is wanted.
     enum Urge {
         None,
         Retry, ///< a connection that gave up or waits tries again at once
@@ -47,9 +47,10 @@ public:
     /// Something that is wanted may have changed.
     void wake();
     void insist(Urge urge);
-    /// Nothing is done between hold() and the release() that belongs to it.
+    /// Nothing is done between hold() and the release() that belongs to it. What insist() requested meanwhile counts only
+    /// when it is \a kept.
     void hold();
-    void release();
+    void release(bool kept);
 
     /// The one step from the present state of \a connection towards \a wanted.
     static Step nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge);
@@ -65,6 +66,7 @@ private:
     const std::function<Wanted()> wanted;
     QPointer<KirvConnection> target;
     Urge urge = None;
+    Urge urgeBefore = None; ///< when hold() was called
     int holds = 0;
     bool scheduled = false;
 };

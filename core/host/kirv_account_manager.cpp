@@ -72,6 +72,7 @@ KirvAccountConnection *KirvAccountManager::createAccount(const QString &id, cons
     record.defaultPresence = record.lastPresence = presence.getId();
     record.defaultDescription = record.lastDescription = presence.getDescription();
     record.settings = kirvStoredValues(settings);
+    record.secretSettings = kirvSecretFields(settings);
     return accounts()->create(record, protocol);
 }
 

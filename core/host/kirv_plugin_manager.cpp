@@ -19,6 +19,7 @@ KirvProtocol *KirvPluginManager::getProtocolByName(const QString &name)
     return services ? services->plugins.protocol(name) : nullptr;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the contract says so
 void KirvPluginManagerPrivate::emitCoreSignal(const QString &name, QList<KirvArg> args)
 {
     // Every object of this class is a KirvHostServices.

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/plugins/kirv_plugin_loader.h"
 
+#include "core/protocol/kirv_plugin_call.h"
 #include "core/protocol/kirv_protocol_base.h"
-#include "core/protocol/kirv_protocol_plugin.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
-#include <QJsonObject>
-#include <QPluginLoader>
 #include <QPointer>
 
 #include <algorithm>
@@ -27,14 +26,12 @@ public:
     {
     }
 
-    static KirvPluginInfo inspect(const QString &fileName);
-    KirvProtocolBase *createUsableProtocol(const QString &fileName, QString *error) const;
-    QString whyUnusable(KirvProtocolBase *protocol) const;
+    bool isTaken(const QString &name) const { return protocolsByName.contains(name); }
 
-    KirvPluginInfo *info(const QString &fileName);
+    KirvPluginInfo *info(const QString &fileName); ///< null for a file that is not known
     void setInfo(const KirvPluginInfo &info);
     KirvProtocolBase *protocolOf(const QString &fileName) const;
-    void add(KirvProtocolBase *protocol, const QString &fileName);
+    void add(KirvProtocolBase *protocol, const QString &name, const QString &fileName);
     bool remove(KirvProtocolBase *protocol);
 
     KirvPluginLoader *const registry;
@@ -51,68 +48,6 @@ QString absolutePath(const QString &fileName)
 }
 
 } // namespace
-
-/// What can be said about the file without running any of its code.
-KirvPluginInfo KirvPluginLoader::Private::inspect(const QString &fileName)
-{
-    const QJsonObject plugin = QPluginLoader(fileName).metaData();
-    const QJsonObject stated = plugin.value(QLatin1String("MetaData")).toObject();
-    const QString interfaceId = plugin.value(QLatin1String("IID")).toString();
-    const int version = stated.value(QLatin1String("api")).toInt();
-
-    KirvPluginInfo info;
-    info.fileName = fileName;
-    info.name = stated.value(QLatin1String("name")).toString();
-    if (info.name.isEmpty())
-        info.name = QFileInfo(fileName).completeBaseName();
-    if (plugin.isEmpty())
-        info.error = KirvPluginLoader::tr("The file is not a plug-in library.");
-    else if (interfaceId != QLatin1String(KIRV_PROTOCOL_PLUGIN_IID))
-        info.error =
-            KirvPluginLoader::tr("The plug-in is not one for protocols: its interface is \"%1\".").arg(interfaceId);
-    else if (version != KIRV_PROTOCOL_PLUGIN_API)
-        info.error = KirvPluginLoader::tr("The plug-in was built for version %1 of the plug-in interface; "
-                                          "this program has version %2.")
-                         .arg(version)
-                         .arg(KIRV_PROTOCOL_PLUGIN_API);
-    info.loadable = info.error.isEmpty();
-    return info;
-}
-
-KirvProtocolBase *KirvPluginLoader::Private::createUsableProtocol(const QString &fileName, QString *error) const
-{
-    QPluginLoader loader(fileName);
-    // All symbols now, so that a missing one is an error and not a crash later. Never unloaded: what the library
-    // left in the event queue may still need its code.
-    loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    if (!loader.load()) {
-        *error = KirvPluginLoader::tr("The library cannot be loaded: %1").arg(loader.errorString());
-        return nullptr;
-    }
-    auto *plugin = qobject_cast<KirvProtocolPlugin *>(loader.instance());
-    if (!plugin) {
-        *error = KirvPluginLoader::tr("The plug-in does not have the interface that it states.");
-        return nullptr;
-    }
-    std::unique_ptr<KirvProtocolBase> protocol(plugin->createProtocol(error));
-    if (protocol)
-        *error = whyUnusable(protocol.get());
-    else if (error->isEmpty())
-        *error = KirvPluginLoader::tr("The plug-in did not create its protocol and gave no reason.");
-    return error->isEmpty() ? protocol.release() : nullptr;
-}
-
-QString KirvPluginLoader::Private::whyUnusable(KirvProtocolBase *protocol) const
-{
-    const QString name = protocol->getName();
-    if (name.isEmpty())
-        return KirvPluginLoader::tr("The protocol has no name.");
-    if (protocolsByName.contains(name))
-        return KirvPluginLoader::tr("A protocol with the name \"%1\" is loaded already.").arg(name);
-    if (protocol->presences().isEmpty())
-        return KirvPluginLoader::tr("The protocol \"%1\" offers no presence.").arg(name);
-    return QString();
-}
 
 KirvPluginInfo *KirvPluginLoader::Private::info(const QString &fileName)
 {
@@ -138,14 +73,13 @@ KirvProtocolBase *KirvPluginLoader::Private::protocolOf(const QString &fileName)
     return found == loaded.end() ? nullptr : found->protocol;
 }
 
-void KirvPluginLoader::Private::add(KirvProtocolBase *protocol, const QString &fileName)
+void KirvPluginLoader::Private::add(KirvProtocolBase *protocol, const QString &name, const QString &fileName)
 {
-    const QString name = protocol->getName();
     loaded.push_back({ protocol, name, fileName });
     protocolsByName.insert(name, protocol);
 }
 
-/// False when the protocol is on its way out already: a receiver of the news asked for it again.
+/// False when the protocol is being unloaded already: a slot has requested it again.
 bool KirvPluginLoader::Private::remove(KirvProtocolBase *protocol)
 {
     const auto find = [&] {
@@ -180,15 +114,72 @@ KirvPluginLoader::~KirvPluginLoader()
 
 bool KirvPluginLoader::loadFolder(const QString &folder)
 {
-    const QDir directory(folder);
-    if (!directory.exists())
+    if (!QDir(folder).exists())
         return false;
-    for (const QString &fileName : directory.entryList(QDir::Files, QDir::Name)) {
-        const QString path = absolutePath(directory.filePath(fileName));
+    const QStringList files = filesOf(folder);
+    for (const QString &path : files) {
         if (!d->info(path))
             load(path);
     }
     return true;
+}
+
+QStringList KirvPluginLoader::filesOf(const QString &folder)
+{
+    const QDir directory(folder);
+    QStringList paths;
+    const QStringList names = directory.entryList(QDir::Files, QDir::Name);
+    for (const QString &name : names)
+        paths += absolutePath(directory.filePath(name));
+    return paths;
+}
+
+void KirvPluginLoader::announce(const QString &fileName)
+{
+    const QString path = absolutePath(fileName);
+    if (d->info(path))
+        return;
+    KirvPluginInfo info;
+    info.fileName = path;
+    info.name = QFileInfo(path).completeBaseName();
+    d->setInfo(info);
+    Q_EMIT pluginsChanged();
+}
+
+bool KirvPluginLoader::inspect(const QString &fileName)
+{
+    const QString path = absolutePath(fileName);
+    if (d->protocolOf(path))
+        return true;
+    const KirvPluginInfo info = KirvPluginFile(path).inspect();
+    d->setInfo(info);
+    Q_EMIT pluginsChanged();
+    return info.loadable && info.error.isEmpty();
+}
+
+void KirvPluginLoader::setActivity(const QString &fileName, KirvPluginInfo::Activity activity)
+{
+    KirvPluginInfo *info = d->info(absolutePath(fileName));
+    if (!info || info->activity == activity)
+        return;
+    info->activity = activity;
+    Q_EMIT pluginsChanged();
+}
+
+void KirvPluginLoader::leaveOut(const QString &fileName, const QString &reason)
+{
+    KirvPluginInfo *info = d->info(absolutePath(fileName));
+    if (!info || info->loaded)
+        return;
+    info->activity = KirvPluginInfo::NoActivity;
+    info->error = reason;
+    Q_EMIT pluginsChanged();
+}
+
+KirvPluginInfo KirvPluginLoader::plugin(const QString &fileName) const
+{
+    const KirvPluginInfo *info = d->info(absolutePath(fileName));
+    return info ? *info : KirvPluginInfo();
 }
 
 QList<KirvPluginInfo> KirvPluginLoader::plugins() const
@@ -214,17 +205,26 @@ bool KirvPluginLoader::load(const QString &fileName)
     const QString path = absolutePath(fileName);
     if (d->protocolOf(path))
         return true;
-    KirvPluginInfo info = Private::inspect(path);
-    KirvProtocolBase *protocol = info.loadable ? d->createUsableProtocol(path, &info.error) : nullptr;
+    KirvPluginFile file(path);
+    KirvPluginInfo info = file.inspect();
+    std::unique_ptr<KirvProtocolBase> protocol;
+    if (info.error.isEmpty()) {
+        protocol = file.createProtocol();
+        info.error = file.problem();
+    }
+    if (protocol && d->isTaken(file.protocolName())) {
+        info.error = tr("A protocol with the name \"%1\" is loaded already.").arg(file.protocolName());
+        protocol.reset();
+    }
     if (protocol) {
-        info.name = protocol->getName();
-        info.description = protocol->getDescription();
+        info.name = file.protocolName();
+        info.description = file.protocolDescription();
         info.loaded = true;
-        d->add(protocol, path);
+        d->add(protocol.get(), info.name, path);
     }
     d->setInfo(info);
     if (protocol)
-        Q_EMIT protocolLoaded(protocol);
+        Q_EMIT protocolLoaded(protocol.release());
     Q_EMIT pluginsChanged();
     return info.loaded;
 }
@@ -241,9 +241,10 @@ bool KirvPluginLoader::unload(const QString &fileName)
 bool KirvPluginLoader::addProtocol(KirvProtocolBase *protocol)
 {
     std::unique_ptr<KirvProtocolBase> owned(protocol);
-    if (!protocol || !d->whyUnusable(protocol).isEmpty())
+    const QString name = protocol ? protocol->getName() : QString();
+    if (name.isEmpty() || d->isTaken(name) || protocol->presences().isEmpty())
         return false;
-    d->add(owned.release(), QString());
+    d->add(owned.release(), name, QString());
     Q_EMIT protocolLoaded(protocol);
     return true;
 }
@@ -255,7 +256,7 @@ void KirvPluginLoader::broadcast(const QString &name, const QList<KirvArg> &args
         receivers.append(protocol);
     for (const QPointer<KirvProtocolBase> &receiver : qAsConst(receivers)) {
         if (receiver) // a receiver before it may have unloaded it
-            receiver->handleCoreSignal(name, args);
+            kirvCallPlugin([&] { receiver->handleCoreSignal(name, args); });
     }
     Q_EMIT coreSignalEmitted(name, args);
 }

@@ -2,26 +2,21 @@
 #ifndef KIRV_PLUGIN_LOADER_H
 #define KIRV_PLUGIN_LOADER_H
 
+#include "core/plugins/kirv_plugin_file.h"
 #include "host/kirv_arg.h"
 
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <memory>
 
 class KirvProtocolBase;
 
-/// The state of one plug-in file, for a list of plug-ins. A value type.
-struct KirvPluginInfo {
-    QString fileName; ///< absolute path of the library
-    QString name; ///< the protocol's name, or the file's base name when it is not known
-    QString description; ///< a sentence of the protocol's own; may be empty
-    bool loaded = false;
-    bool loadable = false; ///< whether load() may be tried (a file that is no plug-in stays out)
-    QString error; ///< why it is not loaded, a sentence for the user; empty when nothing failed
-};
-
 /// Loads the protocol plug-ins of a folder and owns their protocols.
+///
+/// It runs the code of the plug-ins in this process, while its caller waits; KirvPluginQueue uses it one plug-in at a
+/// time. Exceptions of a plug-in become its error.
 class KirvPluginLoader : public QObject {
     Q_OBJECT
 
@@ -34,6 +29,18 @@ public:
     /// What cannot be used is reported in plugins(); files seen before are left as they are. A folder that does
     /// not exist is reported by false.
     bool loadFolder(const QString &folder);
+
+    /// The files of \a folder in the order of names, as absolute paths.
+    static QStringList filesOf(const QString &folder);
+    /// Lists the file in plugins() without reading it, unless it is there already.
+    void announce(const QString &fileName);
+    /// Reads what the file states, none of its code is run. False when it must not be loaded; plugins() says why.
+    bool inspect(const QString &fileName);
+    /// Shows what is being done with an announced file, or why it is left out: a sentence for the user.
+    void setActivity(const QString &fileName, KirvPluginInfo::Activity activity);
+    void leaveOut(const QString &fileName, const QString &reason);
+    /// The announced file; empty when it was not announced.
+    KirvPluginInfo plugin(const QString &fileName) const;
 
     /// Every file seen so far, in order.
     QList<KirvPluginInfo> plugins() const;

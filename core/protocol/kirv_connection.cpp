@@ -149,7 +149,8 @@ bool KirvConnection::Private::callWith(bool &flag, const std::function<void()> &
 
 void KirvConnection::Private::fail(const KirvFailure &reported)
 {
-    const KirvFailure failure = reported; // a slot may destroy what it belongs to
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a slot may destroy what it belongs to
+    const KirvFailure failure = reported;
     if (!abort())
         return;
     lastFailure = failure;

@@ -7,7 +7,6 @@ const QList<KirvAccountColumn> &kirvAccountColumns()
 {
     static const QList<KirvAccountColumn> columns {
         { "alias", &KirvAccountRecord::alias, nullptr },
-        { "password", &KirvAccountRecord::password, nullptr },
         { "remember_password", nullptr, &KirvAccountRecord::rememberPassword },
         { "enabled", nullptr, &KirvAccountRecord::enabled },
         { "restore_presence", nullptr, &KirvAccountRecord::restorePresence },
@@ -41,6 +40,12 @@ KirvAccountRecord kirvStoredForm(KirvAccountRecord record)
 {
     if (!record.rememberPassword)
         record.password.clear();
+    QSet<QString> secrets;
+    for (const QString &field : qAsConst(record.secretSettings)) {
+        if (record.settings.contains(field))
+            secrets.insert(field);
+    }
+    record.secretSettings = secrets;
     return record;
 }
 
@@ -54,6 +59,7 @@ QVariantList kirvColumnValues(const KirvAccountRecord &record)
 
 bool KirvAccountRecord::isStoredLike(const KirvAccountRecord &other) const
 {
-    return key == other.key && kirvColumnValues(kirvStoredForm(*this)) == kirvColumnValues(kirvStoredForm(other))
-        && settings == other.settings;
+    const KirvAccountRecord left = kirvStoredForm(*this), right = kirvStoredForm(other);
+    return key == other.key && left.password == right.password && kirvColumnValues(left) == kirvColumnValues(right)
+        && settings == other.settings && left.secretSettings == right.secretSettings;
 }

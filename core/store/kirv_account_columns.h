@@ -16,7 +16,7 @@ struct KirvAccountColumn {
     bool KirvAccountRecord::*flag;
 };
 
-/// All columns but the key and the position, in the order of kirvColumnValues().
+/// All columns but the key and the position, in the order of kirvColumnValues(). Secrets have no column here.
 const QList<KirvAccountColumn> &kirvAccountColumns();
 /// Their names, each with \a suffix behind it, separated by commas.
 QString kirvJoinedColumns(const QString &suffix);

@@ -5,6 +5,7 @@
 #include "core/values/kirv_account_key.h"
 
 #include <QMap>
+#include <QSet>
 #include <QString>
 
 /// What is stored of one account. A value type.
@@ -22,6 +23,9 @@ struct KirvAccountRecord {
     QString lastDescription;
     QString avatar; ///< file name inside KirvStore::avatarFolder(); empty: none
     QMap<QString, QString> settings; ///< protocol settings by field id; "true" and "false" for check boxes
+    /// The ids of those settings that are secret, as passwords are: no copy of the profile holds them. Ids that are
+    /// not in settings mean nothing.
+    QSet<QString> secretSettings;
 
     /// Whether both are the same, as far as they are stored.
     bool isStoredLike(const KirvAccountRecord &other) const;

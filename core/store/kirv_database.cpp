@@ -4,7 +4,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSqlError>
+#include <QUrl>
 #include <QUuid>
+#include <algorithm>
 
 namespace {
 
@@ -30,6 +32,25 @@ QVariant bindable(const QVariant &value)
     return isNullText ? QVariant(QString::fromLatin1("")) : value;
 }
 
+QString optionsOf(KirvDatabase::Access access)
+{
+    if (access == KirvDatabase::Immutable)
+        return QStringLiteral(";QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI");
+    return access == KirvDatabase::ReadOnly ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString();
+}
+
+/// Temporary tables stay in memory: they hold secrets.
+QStringList preparationsFor(KirvDatabase::Access access)
+{
+    QStringList statements { QStringLiteral("PRAGMA temp_store = MEMORY") };
+    if (access == KirvDatabase::Plain)
+        statements << QStringLiteral("PRAGMA journal_mode = OFF") << QStringLiteral("PRAGMA synchronous = FULL");
+    if (access == KirvDatabase::ReadWrite)
+        statements << QStringLiteral("PRAGMA foreign_keys = ON") << QStringLiteral("PRAGMA journal_mode = WAL")
+                   << QStringLiteral("PRAGMA synchronous = FULL") << QStringLiteral("PRAGMA secure_delete = ON");
+    return statements;
+}
+
 }
 
 KirvDatabase::KirvDatabase()
@@ -52,15 +73,17 @@ bool KirvDatabase::open(const QString &path, Access access)
     }
     connection = QSqlDatabase::addDatabase(driver, name);
     connection.setDatabaseName(file);
-    connection.setConnectOptions(QLatin1String("QSQLITE_BUSY_TIMEOUT=1000")
-                                 + QLatin1String(access == ReadOnly ? ";QSQLITE_OPEN_READONLY" : ""));
-    if (!connection.open()) {
-        fail(sentence(connection.lastError()));
-        return false;
+    if (access == Immutable) {
+        QUrl url = QUrl::fromLocalFile(file);
+        url.setQuery(QStringLiteral("mode=ro&immutable=1"));
+        connection.setDatabaseName(url.toString(QUrl::FullyEncoded));
     }
-    return access == ReadOnly
-        || (execute("PRAGMA foreign_keys = ON") && execute("PRAGMA journal_mode = WAL")
-            && execute("PRAGMA synchronous = FULL") && execute("PRAGMA secure_delete = ON"));
+    connection.setConnectOptions(QLatin1String("QSQLITE_BUSY_TIMEOUT=1000") + optionsOf(access));
+    if (!connection.open())
+        return failBy(connection.lastError());
+    const QStringList preparations = preparationsFor(access);
+    return std::all_of(preparations.begin(), preparations.end(),
+                       [this](const QString &statement) { return execute(statement); });
 }
 
 void KirvDatabase::close()
@@ -76,13 +99,15 @@ void KirvDatabase::close()
     QSqlDatabase::removeDatabase(name);
 }
 
-bool KirvDatabase::execute(const char *sql)
+bool KirvDatabase::execute(const QString &sql, const QVariantList &values)
 {
+    if (doomed)
+        return false;
     QSqlQuery query(connection);
-    if (query.exec(QLatin1String(sql)))
-        return true;
-    fail(sentence(query.lastError()));
-    return false;
+    bool good = query.prepare(sql);
+    for (int index = 0; good && index < values.size(); ++index)
+        query.bindValue(index, bindable(values.at(index)));
+    return (good && query.exec()) || failBy(query.lastError());
 }
 
 QSqlQuery *KirvDatabase::run(const QString &sql, const QVariantList &values)
@@ -98,7 +123,7 @@ QSqlQuery *KirvDatabase::run(const QString &sql, const QVariantList &values)
     if (isNew) {
         query.setForwardOnly(true);
         if (!query.prepare(sql)) {
-            fail(sentence(query.lastError()));
+            failBy(query.lastError());
             statements.erase(statement);
             return nullptr;
         }
@@ -106,19 +131,29 @@ QSqlQuery *KirvDatabase::run(const QString &sql, const QVariantList &values)
     for (int index = 0; index < values.size(); ++index)
         query.bindValue(index, bindable(values.at(index)));
     if (!query.exec()) {
-        fail(sentence(query.lastError()));
+        failBy(query.lastError());
         query.finish();
         return nullptr;
     }
     return &query;
 }
 
+bool KirvDatabase::readToEnd(QSqlQuery *query)
+{
+    if (!query)
+        return false;
+    const bool hasFailed = query->lastError().isValid();
+    if (hasFailed)
+        failBy(query->lastError());
+    query->finish();
+    return !hasFailed;
+}
+
 QVariant KirvDatabase::valueOf(const QString &sql, const QVariantList &values)
 {
     QSqlQuery *query = run(sql, values);
     const QVariant value = query && query->next() ? query->value(0) : QVariant();
-    if (query)
-        query->finish();
+    readToEnd(query);
     return value;
 }
 
@@ -159,6 +194,15 @@ void KirvDatabase::rollBack()
     query.exec(QStringLiteral("ROLLBACK"));
 }
 
+/// Always false.
+bool KirvDatabase::failBy(const QSqlError &failure)
+{
+    const int code = failure.nativeErrorCode().toInt() & 0xff;
+    damaged = damaged || code == Corrupt || code == NotADatabase;
+    fail(sentence(failure));
+    return false;
+}
+
 void KirvDatabase::fail(const QString &text)
 {
     if (!doomed)
@@ -168,8 +212,10 @@ void KirvDatabase::fail(const QString &text)
 
 void KirvDatabase::clearError()
 {
-    if (!doomed)
-        error.clear();
+    if (doomed)
+        return;
+    error.clear();
+    damaged = false;
 }
 
 QString KirvDatabase::sentence(const QSqlError &failure) const

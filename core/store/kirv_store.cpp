@@ -1,58 +1,67 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_store.h"
 
-#include "core/store/kirv_account_columns.h"
+#include "core/store/kirv_account_table.h"
 #include "core/store/kirv_avatar_folder.h"
 #include "core/store/kirv_database.h"
-#include "core/store/kirv_private_file.h"
-#include "core/store/kirv_store_schema.h"
+#include "core/store/kirv_profile_copies.h"
+#include "core/store/kirv_profile_lock.h"
+#include "core/store/kirv_profile_opening.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QHash>
-#include <QLockFile>
-#include <QSet>
+#include <algorithm>
+#include <sys/stat.h>
+
+namespace {
+
+/// What tells a file from every other one, whatever its name.
+struct FileIdentity {
+    dev_t device = 0;
+    ino_t number = 0;
+
+    static FileIdentity of(const QString &path)
+    {
+        struct stat status;
+        if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
+            return {};
+        return { status.st_dev, status.st_ino };
+    }
+    bool operator==(const FileIdentity &other) const { return device == other.device && number == other.number; }
+};
+
+}
 
 class KirvStore::Private {
     Q_DECLARE_TR_FUNCTIONS(KirvStore)
 
 public:
-    /// What stands in the database of an account that is about to change.
-    struct Row {
-        QVariant number;
-        QString password;
-        QString avatar;
-    };
-
-    bool openLocked();
-    bool prepareFolder();
-    bool lock();
-    bool examine();
-    bool upgrade();
-    void sweepAvatars();
-
+    KirvProfileState open();
+    bool begin();
+    bool commit();
+    void rollBack();
     template <typename Change>
     bool change(Change makeChange);
-    bool findRow(const KirvAccountKey &key, Row *row);
-    bool writeSettings(const QVariant &number, const QMap<QString, QString> &settings);
-    bool readSettings(const QVariant &number, QMap<QString, QString> *settings);
+    bool prepareCommit();
     void transactionEnded(bool committed);
+    void emptyLog();
+    bool hasCopy();
+    void keepCopy();
+    bool isInPlace() const { return FileIdentity::of(paths.database()) == openFile; }
+    bool failUnlessInPlace();
+    bool copyAllTo(KirvStore &other);
 
-    QString nativeFolder() const { return QDir::toNativeSeparators(folder); }
-    QString databaseFile() const { return QDir(folder).filePath(QStringLiteral("profile.sqlite")); }
-
-    QString folder;
-    std::unique_ptr<QLockFile> lockFile;
-    bool lockedByAnother = false;
-    KirvAvatarFolder avatars;
+    KirvProfilePaths paths;
+    KirvProfileLock lock;
+    KirvProfileState state;
     KirvDatabase database;
+    KirvAvatarFolder avatars { database };
+    KirvAccountTable accounts { database };
+    FileIdentity openFile;
     int commitsOfOpening = 0;
-
-    // What follows the commit of the running transaction.
-    QStringList obsoleteAvatars;
-    bool hasOverwrittenSecrets = false;
+    bool isCopied = false; ///< the newest copy has what is stored
+    QString copyError;
 };
 
 KirvStore::KirvStore()
@@ -68,25 +77,45 @@ KirvStore::~KirvStore()
 bool KirvStore::open(const QString &folder)
 {
     close();
-    d->folder = QDir(folder).absolutePath();
-    d->avatars = KirvAvatarFolder(QDir(d->folder).filePath(QStringLiteral("avatars")));
-    if (d->prepareFolder() && d->lock() && d->openLocked())
-        return true;
-    const QString reason = d->database.errorText();
-    const bool lockedByAnother = d->lockedByAnother;
-    close();
-    d->database.fail(reason);
-    d->lockedByAnother = lockedByAnother;
-    return false;
+    d->paths.folder = QDir(folder).absolutePath();
+    d->avatars.setPath(d->paths.avatars());
+    const KirvProfileState state = d->open();
+    if (!state.canBeOpened()) {
+        close();
+        d->database.fail(state.text);
+    }
+    d->state = state;
+    return state.canBeOpened();
+}
+
+KirvProfileState KirvStore::Private::open()
+{
+    KirvProfileOpening opening(paths);
+    KirvProfileState found = opening.prepare(lock);
+    if (found.canBeOpened())
+        found = opening.open(database);
+    if (!found.canBeOpened())
+        return found;
+    openFile = FileIdentity::of(paths.database());
+    emptyLog(); // what a process that was killed has overwritten is still there
+    avatars.removeUnused();
+    isCopied = hasCopy();
+    if (!isCopied)
+        keepCopy();
+    database.clearError();
+    commitsOfOpening = database.commitCount();
+    return found;
 }
 
 void KirvStore::close()
 {
+    if (isOpen() && !d->isCopied && d->isInPlace())
+        d->keepCopy();
     d->database.close();
     d->database.clearError();
-    d->transactionEnded(false);
-    d->lockFile.reset();
-    d->lockedByAnother = false;
+    d->accounts.effects() = {};
+    d->lock.release();
+    d->state = {};
 }
 
 bool KirvStore::isOpen() const
@@ -96,7 +125,7 @@ bool KirvStore::isOpen() const
 
 QString KirvStore::folder() const
 {
-    return d->folder;
+    return d->paths.folder;
 }
 
 QString KirvStore::avatarFolder() const
@@ -109,9 +138,19 @@ QString KirvStore::lastError() const
     return d->database.errorText();
 }
 
+KirvProfileState::Kind KirvStore::state() const
+{
+    return d->state.kind;
+}
+
 bool KirvStore::isLockedByAnother() const
 {
-    return d->lockedByAnother;
+    return d->state.kind == KirvProfileState::InUse;
+}
+
+QString KirvStore::copyError() const
+{
+    return d->copyError;
 }
 
 int KirvStore::commitCount() const
@@ -119,125 +158,65 @@ int KirvStore::commitCount() const
     return d->database.commitCount() - d->commitsOfOpening;
 }
 
-bool KirvStore::Private::prepareFolder()
+/// The database names the copy that has its content; the first change after it takes the name out.
+bool KirvStore::Private::hasCopy()
 {
-    if (!QDir().mkpath(folder)) {
-        database.fail(tr("The profile folder \"%1\" could not be made.").arg(nativeFolder()));
-        return false;
-    }
-    if (!kirvMakePrivate(folder)) {
-        database.fail(tr("The profile folder \"%1\" could not be closed to other users.").arg(nativeFolder()));
-        return false;
-    }
-    return true;
+    const QString name = database.valueOf(QStringLiteral("SELECT name FROM profile_copy")).toString();
+    if (!name.isEmpty())
+        return KirvProfileCopies(paths).has(name);
+    return !database.valueOf(QStringLiteral("SELECT 1 FROM account UNION ALL SELECT 1 FROM setting LIMIT 1")).isValid();
 }
 
-bool KirvStore::Private::lock()
+void KirvStore::Private::keepCopy()
 {
-    lockFile = std::make_unique<QLockFile>(QDir(folder).filePath(QStringLiteral("profile.lock")));
-    lockFile->setStaleLockTime(0); // only the death of its holder frees it
-    bool locked = lockFile->tryLock(0);
-    if (!locked && lockFile->error() == QLockFile::LockFailedError) {
-        // A dead process may have had the number that is ours now; a living one keeps its file from removal.
-        qint64 holder = 0;
-        QString host, program;
-        if (lockFile->getLockInfo(&holder, &host, &program) && holder == QCoreApplication::applicationPid()
-            && lockFile->removeStaleLockFile())
-            locked = lockFile->tryLock(0);
-    }
-    if (locked)
-        return kirvMakePrivate(QDir(folder).filePath(QStringLiteral("profile.lock")));
-
-    lockedByAnother = lockFile->error() == QLockFile::LockFailedError;
-    if (lockedByAnother)
-        database.fail(tr("The profile in \"%1\" is in use by another running instance of the program. Close that one "
-                         "first.")
-                          .arg(nativeFolder()));
+    KirvProfileCopies copies(paths);
+    const QString name = copies.make();
+    copyError = copies.lastError();
+    if (name.isEmpty() || !database.begin())
+        return;
+    const bool noted = database.execute(QStringLiteral("DELETE FROM profile_copy"))
+        && database.execute(QStringLiteral("INSERT INTO profile_copy (name) VALUES (?)"), { name });
+    if (noted)
+        isCopied = database.commit();
     else
-        database.fail(tr("The profile folder \"%1\" cannot be written. Check its owner and permissions, and whether "
-                         "the disk is full.")
-                          .arg(nativeFolder()));
+        database.rollBack();
+    database.clearError();
+}
+
+bool KirvStore::Private::failUnlessInPlace()
+{
+    if (!database.isOpen() || isInPlace())
+        return true;
+    database.fail(tr("The profile in \"%1\" was deleted, moved or replaced while the program was running, so nothing "
+                     "was stored. Save the accounts to another folder.")
+                      .arg(paths.nativeFolder()));
     return false;
 }
 
-bool KirvStore::Private::openLocked()
+bool KirvStore::Private::begin()
 {
-    const QString path = databaseFile();
-    if (QFileInfo(path).size() > 0 && !examine())
-        return false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite) || !kirvMakePrivate(path) || !avatars.create()) {
-        database.fail(
-            tr("The profile in \"%1\" cannot be written. Check its owner and permissions.").arg(nativeFolder()));
-        return false;
-    }
-    file.close();
-    if (!database.open(path, KirvDatabase::ReadWrite) || !upgrade())
-        return false;
-    sweepAvatars();
-    commitsOfOpening = database.commitCount();
-    return true;
+    return (database.isInTransaction() || failUnlessInPlace()) && database.begin();
 }
 
-/// Whether the file that is there can be used; nothing is written.
-bool KirvStore::Private::examine()
+bool KirvStore::Private::commit()
 {
-    if (!database.open(databaseFile(), KirvDatabase::ReadOnly))
-        return false;
-    const int version = database.valueOf(QStringLiteral("PRAGMA user_version")).toInt();
-    if (!database.errorText().isEmpty())
-        return false;
-    if (version > kirvStoreSchemaSteps().size()) {
-        database.fail(tr("The profile in \"%1\" was written by a newer version of the program. Use that version to "
-                         "open it; nothing in it was changed.")
-                          .arg(nativeFolder()));
-        return false;
-    }
-    const int tables = database.valueOf(QStringLiteral("SELECT count(*) FROM sqlite_master")).toInt();
-    if (version < 0 || (version == 0 && tables > 0)) {
-        database.fail(tr("The file \"%1\" belongs to another program; nothing in it was changed.")
-                          .arg(QDir::toNativeSeparators(databaseFile())));
-        return false;
-    }
-    const QString check = database.valueOf(QStringLiteral("PRAGMA quick_check(1)")).toString();
-    if (check != QLatin1String("ok")) {
-        database.fail(tr("The profile in \"%1\" is damaged. Nothing in it was changed: restore it from a backup, or "
-                         "move it away to start with an empty one.")
-                          .arg(nativeFolder()));
-        return false;
-    }
-    return true;
+    const bool committed = (!database.isOutermost() || prepareCommit()) && database.commit();
+    if (!committed && database.isInTransaction() && database.isOutermost())
+        database.rollBack();
+    transactionEnded(committed);
+    return committed;
 }
 
-bool KirvStore::Private::upgrade()
+void KirvStore::Private::rollBack()
 {
-    const QList<QStringList> &steps = kirvStoreSchemaSteps();
-    const int version = database.valueOf(QStringLiteral("PRAGMA user_version")).toInt();
-    if (!database.errorText().isEmpty())
-        return false;
-    if (version == steps.size())
-        return true;
-    return change([&] {
-        for (int step = version; step < steps.size(); ++step) {
-            for (const QString &statement : steps.at(step)) {
-                if (!database.run(statement))
-                    return false;
-            }
-        }
-        return database.run(QStringLiteral("PRAGMA user_version = %1").arg(steps.size())) != nullptr;
-    });
+    database.rollBack();
+    transactionEnded(false);
 }
 
-/// Removes what was copied for a change that never came to be.
-void KirvStore::Private::sweepAvatars()
+bool KirvStore::Private::prepareCommit()
 {
-    QSqlQuery *query = database.run(QStringLiteral("SELECT avatar FROM account WHERE avatar <> ''"));
-    if (!query)
-        return;
-    QSet<QString> used;
-    while (query->next())
-        used.insert(query->value(0).toString());
-    avatars.removeAllBut(used);
+    return failUnlessInPlace() && (!accounts.effects().hasOverwrittenSecrets || accounts.rewriteSecrets())
+        && (!isCopied || database.execute(QStringLiteral("DELETE FROM profile_copy")));
 }
 
 /// Runs \a makeChange in a transaction, or as a part of the one that is open.
@@ -245,15 +224,11 @@ template <typename Change>
 bool KirvStore::Private::change(Change makeChange)
 {
     database.clearError();
-    if (!database.begin())
+    if (!begin())
         return false;
-    if (makeChange()) {
-        const bool committed = database.commit();
-        transactionEnded(committed);
-        return committed;
-    }
-    database.rollBack();
-    transactionEnded(false);
+    if (makeChange())
+        return commit();
+    rollBack();
     return false;
 }
 
@@ -261,23 +236,35 @@ void KirvStore::Private::transactionEnded(bool committed)
 {
     if (database.isInTransaction())
         return;
-    if (committed && hasOverwrittenSecrets) {
-        // The log still holds the old pages. Where this fails, closing the profile does it.
-        if (QSqlQuery *query = database.run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")))
-            query->finish();
+    const KirvAccountTable::Effects effects = accounts.effects();
+    accounts.effects() = {};
+    isCopied = isCopied && !committed;
+    if (effects.hasOverwritten || effects.hasOverwrittenSecrets) {
+        const QString error = database.errorText();
+        emptyLog();
         database.clearError();
+        if (!error.isEmpty())
+            database.fail(error);
     }
     if (committed) {
-        for (const QString &avatar : qAsConst(obsoleteAvatars))
+        for (const QString &avatar : effects.obsoleteAvatars)
             avatars.remove(avatar);
     }
-    hasOverwrittenSecrets = false;
-    obsoleteAvatars.clear();
+}
+
+/// The log holds what was overwritten, also by a transaction that was undone. Where this fails, the next opening does
+/// it.
+void KirvStore::Private::emptyLog()
+{
+    if (QSqlQuery *query = database.run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")))
+        query->finish();
 }
 
 QString KirvStore::importAvatar(const QString &path)
 {
     d->database.clearError();
+    if (!d->failUnlessInPlace())
+        return QString();
     QString error;
     const QString name = d->avatars.import(path, &error);
     if (name.isEmpty())
@@ -287,137 +274,46 @@ QString KirvStore::importAvatar(const QString &path)
 
 void KirvStore::discardAvatar(const QString &name)
 {
-    d->avatars.remove(name);
+    if (isOpen() && d->isInPlace())
+        d->avatars.remove(name);
 }
 
 QList<KirvAccountRecord> KirvStore::readAccounts()
 {
     d->database.clearError();
-    static const QString select =
-        QStringLiteral("SELECT number, id, protocol, %1 FROM account ORDER BY position, number")
-            .arg(kirvJoinedColumns(QString()));
-    QSqlQuery *query = d->database.run(select);
-    if (!query)
-        return {};
-    QList<KirvAccountRecord> accounts;
-    QHash<qint64, int> indices;
-    while (query->next()) {
-        indices.insert(query->value(0).toLongLong(), int(accounts.size()));
-        KirvAccountRecord account;
-        account.key = { query->value(1).toString(), query->value(2).toString() };
-        int index = 3;
-        for (const KirvAccountColumn &column : kirvAccountColumns()) {
-            const QVariant value = query->value(index++);
-            if (column.text)
-                account.*column.text = value.toString();
-            else
-                account.*column.flag = value.toBool();
-        }
-        accounts.append(account);
-    }
-    query = d->database.run(QStringLiteral("SELECT account, field, value FROM account_setting"));
-    if (!query)
-        return {};
-    while (query->next()) {
-        const auto index = indices.constFind(query->value(0).toLongLong());
-        if (index != indices.constEnd())
-            accounts[*index].settings.insert(query->value(1).toString(), query->value(2).toString());
-    }
-    return accounts;
+    QList<KirvAccountRecord> records = d->accounts.readAll();
+    for (KirvAccountRecord &record : records)
+        record.avatar = d->avatars.usableName(record.avatar);
+    return records;
 }
 
 bool KirvStore::insertAccount(const KirvAccountRecord &account)
 {
-    static const QString insert =
-        QStringLiteral("INSERT INTO account (id, protocol, position, %1) "
-                       "VALUES (?, ?, (SELECT coalesce(max(position), 0) + 1 FROM account), %2)")
-            .arg(kirvJoinedColumns(QString()), kirvColumnPlaceHolders());
-    return d->change([&] {
-        const QVariantList keyValues { account.key.id, account.key.protocol };
-        const QSqlQuery *query = d->database.run(insert, keyValues + kirvColumnValues(kirvStoredForm(account)));
-        return query && d->writeSettings(query->lastInsertId(), account.settings);
-    });
+    return d->change([&] { return d->accounts.insert(account); });
 }
 
 bool KirvStore::updateAccount(const KirvAccountRecord &account)
 {
-    static const QString update =
-        QStringLiteral("UPDATE account SET %1 WHERE number = ?").arg(kirvJoinedColumns(QStringLiteral(" = ?")));
-    return d->change([&] {
-        Private::Row row;
-        const KirvAccountRecord stored = kirvStoredForm(account);
-        if (!d->findRow(account.key, &row)
-            || !d->database.run(update, kirvColumnValues(stored) + QVariantList { row.number }))
-            return false;
-        if (row.password != stored.password && !row.password.isEmpty())
-            d->hasOverwrittenSecrets = true;
-        if (row.avatar != stored.avatar && !row.avatar.isEmpty())
-            d->obsoleteAvatars << row.avatar;
-        return d->writeSettings(row.number, account.settings);
-    });
+    return d->change([&] { return d->accounts.update(account); });
 }
 
 bool KirvStore::removeAccount(const KirvAccountKey &key)
 {
+    return d->change([&] { return d->accounts.remove(key); });
+}
+
+bool KirvStore::classifySettings(const QString &protocol, const QSet<QString> &fields,
+                                 const QSet<QString> &secretFields)
+{
+    d->database.clearError();
+    const QStringList misplaced = d->accounts.misplaced(protocol, fields, secretFields);
+    if (misplaced.isEmpty())
+        return lastError().isEmpty();
     return d->change([&] {
-        Private::Row row;
-        if (!d->findRow(key, &row)
-            || !d->database.run(QStringLiteral("DELETE FROM account WHERE number = ?"), { row.number }))
-            return false;
-        d->hasOverwrittenSecrets = true;
-        if (!row.avatar.isEmpty())
-            d->obsoleteAvatars << row.avatar;
-        return true;
+        return std::all_of(misplaced.begin(), misplaced.end(), [&](const QString &field) {
+            return d->accounts.move(protocol, field, secretFields.contains(field));
+        });
     });
-}
-
-bool KirvStore::Private::findRow(const KirvAccountKey &key, Row *row)
-{
-    QSqlQuery *query =
-        database.run(QStringLiteral("SELECT number, password, avatar FROM account WHERE id = ? AND protocol = ?"),
-                     { key.id, key.protocol });
-    if (!query)
-        return false;
-    const bool found = query->next();
-    if (found)
-        *row = { query->value(0), query->value(1).toString(), query->value(2).toString() };
-    else
-        database.fail(tr("The account \"%1\" (%2) is not in the profile.").arg(key.id, key.protocol));
-    query->finish();
-    return found;
-}
-
-bool KirvStore::Private::readSettings(const QVariant &number, QMap<QString, QString> *settings)
-{
-    QSqlQuery *query =
-        database.run(QStringLiteral("SELECT field, value FROM account_setting WHERE account = ?"), { number });
-    while (query && query->next())
-        settings->insert(query->value(0).toString(), query->value(1).toString());
-    return query;
-}
-
-/// Makes the stored settings of account \a number those of \a settings, touching only what differs.
-bool KirvStore::Private::writeSettings(const QVariant &number, const QMap<QString, QString> &settings)
-{
-    QMap<QString, QString> stored;
-    if (!readSettings(number, &stored))
-        return false;
-    for (auto setting = stored.constBegin(); setting != stored.constEnd(); ++setting) {
-        if (settings.contains(setting.key()) && settings.value(setting.key()) == setting.value())
-            continue;
-        hasOverwrittenSecrets = true; // settings can be passwords, too
-        if (!database.run(QStringLiteral("DELETE FROM account_setting WHERE account = ? AND field = ?"),
-                          { number, setting.key() }))
-            return false;
-    }
-    for (auto setting = settings.constBegin(); setting != settings.constEnd(); ++setting) {
-        if (stored.contains(setting.key()) && stored.value(setting.key()) == setting.value())
-            continue;
-        if (!database.run(QStringLiteral("INSERT INTO account_setting (account, field, value) VALUES (?, ?, ?)"),
-                          { number, setting.key(), setting.value() }))
-            return false;
-    }
-    return true;
 }
 
 QString KirvStore::readSetting(const QString &key, const QString &fallback)
@@ -440,18 +336,60 @@ bool KirvStore::writeSetting(const QString &key, const QString &value)
 bool KirvStore::begin()
 {
     d->database.clearError();
-    return d->database.begin();
+    return d->begin();
 }
 
 bool KirvStore::commit()
 {
-    const bool committed = d->database.commit();
-    d->transactionEnded(committed);
-    return committed;
+    return d->commit();
 }
 
 void KirvStore::rollBack()
 {
-    d->database.rollBack();
-    d->transactionEnded(false);
+    d->rollBack();
+}
+
+bool KirvStore::isInPlace() const
+{
+    return isOpen() && d->isInPlace();
+}
+
+bool KirvStore::saveTo(const QString &folder)
+{
+    d->database.clearError();
+    KirvStore other;
+    const KirvProfilePaths target { QDir(folder).absolutePath() };
+    if (QFile::exists(target.database())) {
+        d->database.fail(
+            Private::tr("There is a profile in \"%1\" already. Choose an empty folder.").arg(target.nativeFolder()));
+        return false;
+    }
+    if (other.open(folder) && d->copyAllTo(other))
+        return true;
+    if (d->database.errorText().isEmpty())
+        d->database.fail(other.lastError());
+    return false;
+}
+
+bool KirvStore::Private::copyAllTo(KirvStore &other)
+{
+    QList<KirvAccountRecord> records = accounts.readAll();
+    if (!database.errorText().isEmpty())
+        return false;
+    for (KirvAccountRecord &record : records) {
+        const QString avatar = avatars.usableName(record.avatar);
+        // The picture is gone when its folder is; the account is not.
+        record.avatar = avatar.isEmpty() ? QString() : other.importAvatar(QDir(avatars.path()).filePath(avatar));
+    }
+    if (!other.begin())
+        return false;
+    for (const KirvAccountRecord &record : qAsConst(records))
+        other.insertAccount(record);
+    QSqlQuery *query = database.run(QStringLiteral("SELECT key, value FROM setting"));
+    while (query && query->next())
+        other.writeSetting(query->value(0).toString(), query->value(1).toString());
+    const bool isComplete = database.readToEnd(query);
+    if (!isComplete)
+        other.rollBack();
+    return isComplete && other.commit();
 }

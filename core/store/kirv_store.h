@@ -3,16 +3,23 @@
 #define KIRV_STORE_H
 
 #include "core/store/kirv_account_record.h"
+#include "core/store/kirv_profile_state.h"
 
 #include <QList>
 #include <QString>
 #include <memory>
 
-/// The profile on disk: accounts and settings in one SQLite database, avatars in a folder beside it.
+/// The profile on disk: accounts and settings in one SQLite database, avatars in a folder beside it, copies of the
+/// database without secrets in another.
 ///
-/// The folder is readable by its owner only (0700, the files 0600). Every write is committed, in WAL mode with
+/// What the store makes is readable by its owner only: the folder 0700, the files 0600. A folder that was there
+/// keeps its permissions. Nothing is written before the profile is known to be ours and whole, nothing is removed that
+/// the store has not written, and no link is followed inside the folder. Every write is committed, in WAL mode with
 /// full synchronisation, before the operation returns; between begin() and commit() the outermost commit does.
-/// A password that is overwritten or removed leaves no trace in the files.
+///
+/// A secret, which is a password or a secret setting, stands in the database and its log only. After the change that
+/// overwrites or removes it, and after every open(), no byte of it is in the files. (A database that was damaged is
+/// kept aside as it was, see KirvProfileRescue.)
 /// No operation throws; false or an empty result with lastError() says that something failed.
 class KirvStore {
 public:
@@ -22,6 +29,7 @@ public:
     /// Opens, creates or upgrades the profile in \a folder and locks it against other instances. False with
     /// lastError() when that is not possible; what is stored stays untouched then.
     bool open(const QString &folder);
+    /// Keeps a copy of the database when it has changed since the last one.
     void close();
     bool isOpen() const;
     QString folder() const;
@@ -33,13 +41,20 @@ public:
     void discardAvatar(const QString &name);
     /// A sentence for the user; empty when the last operation worked.
     QString lastError() const;
+    /// What the last open() has found the folder to be; Damaged: see KirvProfileRescue.
+    KirvProfileState::Kind state() const;
     /// Whether another running instance holds the profile (after open() gave false).
     bool isLockedByAnother() const;
+    /// Why the last copy could not be kept, a sentence for the user; empty otherwise. Nothing else depends on copies.
+    QString copyError() const;
 
     QList<KirvAccountRecord> readAccounts();
     bool insertAccount(const KirvAccountRecord &account); ///< appended to the order
     bool updateAccount(const KirvAccountRecord &account);
     bool removeAccount(const KirvAccountKey &key); ///< with its settings; the avatar file goes too
+    /// Which of the settings \a fields of \a protocol are secret, for the accounts that are stored: profiles of early
+    /// versions do not say so, and all their settings count as secret. Writes nothing when that is known.
+    bool classifySettings(const QString &protocol, const QSet<QString> &fields, const QSet<QString> &secretFields);
 
     /// Client-wide settings; \a fallback when the key is not set.
     QString readSetting(const QString &key, const QString &fallback = QString());
@@ -52,6 +67,12 @@ public:
     void rollBack();
     /// How many transactions were committed since open(); for tests and measurements.
     int commitCount() const;
+
+    /// Whether the open profile is still in its folder. When it was deleted, moved or replaced, every change fails.
+    bool isInPlace() const;
+    /// Writes everything that is stored, with secrets and avatars, into a new profile in \a folder, which must be
+    /// missing or empty. Works also when the profile's own folder is gone; this store stays as it is.
+    bool saveTo(const QString &folder);
 
 private:
     Q_DISABLE_COPY(KirvStore)

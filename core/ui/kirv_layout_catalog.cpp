@@ -102,7 +102,7 @@ QString missingChild(const Child &child, const QWidget *top)
     return KirvLayoutCatalog::tr("There is no %1 named “%2”.").arg(className, name);
 }
 
-/// What the classes alone do not tell: the parts of a found child that the dialogs use unasked.
+/// What the classes alone do not show: the parts of a found child that the dialogs use without a test.
 QStringList missingParts(const QWidget *top)
 {
     struct Button {

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QMetaEnum>
 #include <QPointer>
 #include <QTextBrowser>
@@ -27,15 +28,21 @@ namespace {
 const qint64 MaximumSize = 1024 * 1024;
 const int MaximumDepth = 200;
 
-/// A text view that fetches nothing: what a rich text refers to stays away.
+/// A text view that loads nothing of what a rich text refers to. Where nothing is returned Qt tries to read a file, so
+/// this returns an empty picture, which serves for other kinds of resources, too.
 template <class TextView>
 class ClosedTextView : public TextView {
 public:
     using TextView::TextView;
-    QVariant loadResource(int, const QUrl &) override { return QVariant(); }
+    QVariant loadResource(int, const QUrl &) override
+    {
+        QImage empty(1, 1, QImage::Format_ARGB32_Premultiplied);
+        empty.fill(Qt::transparent);
+        return empty;
+    }
 };
 
-/// Makes our own classes where a layout asks for them or where they stand in for Qt's, and remembers what it could not
+/// Makes our own classes where a layout asks for them or where they stand in for Qt's, and notes what it could not
 /// make; the base class only prints a warning and leaves a gap or a base class.
 class Loader : public QUiLoader {
 public:

@@ -45,6 +45,7 @@ bool KirvFailure::isWorthRetrying() const
     case TimedOut:
     case ConnectionLost:
     case ServerShutDown:
+    case ServiceUnavailable:
     case Other:
         return true;
     case None:
@@ -92,6 +93,8 @@ QString KirvFailure::textWithoutDetail() const
         return tr("The account requires encryption, and the server does not offer it.");
     case AuthenticationNotOffered:
         return tr("The server offers no way to log in that this account can use.");
+    case ServiceUnavailable:
+        return tr("The server cannot log the account in at the moment.");
     case ConnectionLost:
         return tr("The connection to the server was lost.");
     case ServerShutDown:
@@ -107,7 +110,7 @@ QString KirvFailure::textWithoutDetail() const
     case BadSettings:
         return tr("The settings of the account cannot be used.");
     case NotSupported:
-        return tr("The server does not offer what was asked for.");
+        return tr("The server does not offer what was requested.");
     case RequestFailed:
         return tr("The request failed.");
     case Other:
@@ -131,6 +134,9 @@ QString KirvFailure::textWithDetail() const
     case UntrustedCertificate:
         //: %1 is what is wrong with the certificate
         return tr("The certificate of the server is not trusted: %1");
+    case ServiceUnavailable:
+        //: %1 is the reason
+        return tr("The server cannot log the account in at the moment: %1");
     case ConnectionLost:
         //: %1 is the reason
         return tr("The connection to the server was lost: %1");
@@ -150,8 +156,8 @@ QString KirvFailure::textWithDetail() const
         //: %1 says which setting and what is wrong with it
         return tr("The settings of the account cannot be used: %1");
     case NotSupported:
-        //: %1 is what was asked for
-        return tr("The server does not offer what was asked for: %1");
+        //: %1 is what was requested
+        return tr("The server does not offer what was requested: %1");
     case RequestFailed:
         //: %1 is the reason
         return tr("The request failed: %1");

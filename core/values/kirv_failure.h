@@ -18,19 +18,20 @@ public:
         WrongPassword, ///< the server knows the login but refuses the password, or refuses both
         PasswordMissing, ///< a password is needed and none is known
         HostNotFound, ///< the server's name has no address; the detail is that name
-        ConnectionRefused, ///< nobody listens there; the detail is the server's name
+        ConnectionRefused, ///< no server accepts connections there; the detail is its name
         TimedOut, ///< the server did not answer in time; the detail is its name
         UntrustedCertificate, ///< the server's certificate is not to be trusted; the detail says why
         EncryptionNotOffered, ///< encryption is required and the server has none
         AuthenticationNotOffered, ///< no common way to log in
+        ServiceUnavailable, ///< the server cannot log the account in for the moment; the detail says why
         ConnectionLost, ///< the connection broke
-        ServerShutDown, ///< the server said good-bye
+        ServerShutDown, ///< the server closed the stream in an orderly way
         LoggedInElsewhere, ///< another client took the session over
         NameInUse, ///< the name (the detail) is taken, and no alternative was left
         NameNotAllowed, ///< the server does not accept that name (the detail)
         AccessDenied, ///< the server does not let us in (banned, wrong server password)
         BadSettings, ///< the account's settings cannot be used; the detail says which
-        NotSupported, ///< the server does not offer what was asked for
+        NotSupported, ///< the server does not offer what was requested
         RequestFailed, ///< the server refused a request; the detail says why
         Other ///< anything else; the detail says what
     };

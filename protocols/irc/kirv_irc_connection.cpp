@@ -2,6 +2,7 @@
 #include "protocols/irc/kirv_irc_connection.h"
 
 #include "protocols/irc/kirv_irc_sasl.h"
+#include "protocols/irc/kirv_irc_socket.h"
 #include "protocols/irc/kirv_irc_text.h"
 
 #include <Irc>
@@ -73,11 +74,12 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     if (settings.passwordUse != KirvIrcSettings::NotUsed && settings.password.isEmpty())
         return loginFailed(KirvFailure::PasswordMissing);
 
-    createLink();
-    if (settings.encrypted && !prepareEncryption(&problem))
+    QAbstractSocket *const transport = createTransport(&problem);
+    if (!transport)
         return loginFailed({ KirvFailure::BadSettings, problem });
+    createLink();
+    createSocket(transport);
     prepareAuthentication();
-    connect(link->socket(), &QAbstractSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
     connect(link.data(), &IrcConnection::connected, this, [this, presence] { finishLogin(presence); });
     nicksLeft = settings.nicks();
     link->setNickName(nicksLeft.takeFirst());
@@ -94,33 +96,48 @@ void KirvIrcConnection::createLink()
     link->setPort(settings.port);
     link->setUserName(settings.userName());
     link->setRealName(settings.realName);
-    connect(link.data(), &IrcConnection::messageReceived, this, [this] { heard = true; });
     connect(link.data(), &IrcConnection::numericMessageReceived, this, &KirvIrcConnection::receiveNumeric);
     connect(link.data(), &IrcConnection::errorMessageReceived, this, &KirvIrcConnection::receiveGoodbye);
     connect(link.data(), &IrcConnection::disconnected, this, [this] { connectionLost(KirvFailure::ConnectionLost); });
 }
 
-/// The library's own secure socket accepts every certificate; this one has to be convinced.
-bool KirvIrcConnection::prepareEncryption(QString *problem)
+/// The library reads and writes through a socket of ours that bounds both.
+void KirvIrcConnection::createSocket(QAbstractSocket *transport)
+{
+    socket = new KirvIrcSocket(transport, clock(), link.data());
+    link->setSocket(socket);
+    connect(socket, &KirvIrcSocket::heard, this, [this] { heard = true; });
+    connect(socket, &KirvIrcSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
+    connect(socket, &KirvIrcSocket::lineWasTooLong, this, [this] {
+        connectionLost({ KirvFailure::ConnectionLost, tr("The server sent a line that is longer than lines can be.") });
+    });
+}
+
+/// The library's own secure socket accepts every certificate; this one has to be convinced. Null when the settings
+/// cannot be used.
+QAbstractSocket *KirvIrcConnection::createTransport(QString *problem)
 {
     certificateError.clear();
-    auto *socket = new QSslSocket(link.data());
-    socket->setPeerVerifyMode(QSslSocket::VerifyPeer);
-    link->setSocket(socket);
-    connect(socket, QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
-            [this](const QList<QSslError> &errors) { certificateError = errors.first().errorString(); });
-
-    if (settings.certificateFile.isEmpty())
-        return true;
-    const QList<QSslCertificate> trusted = readCertificates(settings.certificateFile);
-    if (trusted.isEmpty()) {
-        *problem = tr("There is no certificate in the file “%1”.").arg(settings.certificateFile);
-        return false;
+    if (!settings.encrypted)
+        return new QTcpSocket;
+    QList<QSslCertificate> trusted;
+    if (!settings.certificateFile.isEmpty()) {
+        trusted = readCertificates(settings.certificateFile);
+        if (trusted.isEmpty()) {
+            *problem = tr("There is no certificate in the file “%1”.").arg(settings.certificateFile);
+            return nullptr;
+        }
     }
-    QSslConfiguration configuration = socket->sslConfiguration();
-    configuration.addCaCertificates(trusted);
-    socket->setSslConfiguration(configuration);
-    return true;
+    auto *encrypted = new QSslSocket;
+    encrypted->setPeerVerifyMode(QSslSocket::VerifyPeer);
+    connect(encrypted, QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
+            [this](const QList<QSslError> &errors) { certificateError = errors.first().errorString(); });
+    if (!trusted.isEmpty()) {
+        QSslConfiguration configuration = encrypted->sslConfiguration();
+        configuration.addCaCertificates(trusted);
+        encrypted->setSslConfiguration(configuration);
+    }
+    return encrypted;
 }
 
 void KirvIrcConnection::prepareAuthentication()
@@ -214,7 +231,7 @@ void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
     case QAbstractSocket::RemoteHostClosedError:
         return; // what the server sent before is still to be read; the disconnection follows
     default:
-        return connectionLost({ KirvFailure::ConnectionLost, link->socket()->errorString() });
+        return connectionLost({ KirvFailure::ConnectionLost, socket->errorString() });
     }
 }
 
@@ -229,7 +246,9 @@ void KirvIrcConnection::abortConnection()
     if (!link)
         return;
     link->disconnect(this);
-    link->socket()->disconnect(this);
+    socket->disconnect(this);
+    socket->breakOff();
+    socket = nullptr;
     link->close();
     link.reset();
 }

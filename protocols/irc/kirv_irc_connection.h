@@ -14,6 +14,7 @@ class IrcConnection;
 class IrcErrorMessage;
 class IrcNumericMessage;
 class KirvIrcSasl;
+class KirvIrcSocket;
 class QSslSocket;
 
 /// The connection of an IRC account to its server.
@@ -37,7 +38,8 @@ protected:
 
 private:
     void createLink();
-    bool prepareEncryption(QString *problem);
+    void createSocket(QAbstractSocket *transport);
+    QAbstractSocket *createTransport(QString *problem);
     void prepareAuthentication();
 
     void finishLogin(const KirvPresence &presence);
@@ -54,6 +56,7 @@ private:
     /// Deleted later, as it may be in the middle of a signal.
     QScopedPointer<IrcConnection, QScopedPointerDeleteLater> link;
     KirvIrcSettings settings;
+    KirvIrcSocket *socket = nullptr; ///< of the link
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
     QStringList nicksLeft;
     QString certificateError; ///< why the server's certificate is not trusted

@@ -2,21 +2,13 @@
 #include "protocols/xmpp/kirv_xmpp_password_request.h"
 
 #include "protocols/xmpp/kirv_xmpp_connection.h"
+#include "protocols/xmpp/kirv_xmpp_fields.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 namespace {
 
 const auto passwordId = QStringLiteral("new_password");
 const auto repetitionId = QStringLiteral("repetition");
-
-QString textOf(const QList<KirvField> &fields, const QString &id)
-{
-    for (const KirvField &field : fields) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return QString();
-}
 
 } // namespace
 
@@ -45,12 +37,12 @@ void KirvXmppPasswordRequest::start()
 
 void KirvXmppPasswordRequest::submit(const QList<KirvField> &filled)
 {
-    const QString password = textOf(filled, passwordId);
+    const QString password = kirvXmppTextOf(filled, passwordId);
     if (password.isEmpty()) {
         Q_EMIT inputRejected(tr("Enter the new password."));
         return;
     }
-    if (password != textOf(filled, repetitionId)) {
+    if (password != kirvXmppTextOf(filled, repetitionId)) {
         Q_EMIT inputRejected(tr("The two passwords are different. Enter the same password twice."));
         return;
     }

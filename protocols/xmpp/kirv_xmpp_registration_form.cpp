@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_registration_form.h"
 
+#include "protocols/xmpp/kirv_xmpp_fields.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QHash>
@@ -73,19 +74,6 @@ QString text(const QDomElement &parent, const QString &name)
 bool isTrue(const QString &value)
 {
     return value == QLatin1String("1") || value == QLatin1String("true");
-}
-
-const KirvField *find(const QList<KirvField> &fields, const QString &id)
-{
-    const auto found =
-        std::find_if(fields.begin(), fields.end(), [&id](const KirvField &field) { return field.getId() == id; });
-    return found == fields.end() ? nullptr : &*found;
-}
-
-QString textOf(const QList<KirvField> &fields, const QString &id)
-{
-    const KirvField *field = find(fields, id);
-    return field ? field->getText() : QString();
 }
 
 bool isBlank(const KirvField &field)
@@ -222,7 +210,7 @@ QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &ty
 {
     QList<KirvField> all = fields();
     for (KirvField &field : all) {
-        const KirvField *known = find(typed, field.getId());
+        const KirvField *known = kirvXmppFind(typed, field.getId());
         if (!known || field.getKind() == KirvField::Label || known->getKind() != field.getKind())
             continue;
         field.setText(known->getText());
@@ -233,18 +221,18 @@ QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &ty
 
 bool KirvXmppRegistrationForm::hasPassword() const
 {
-    return find(fields(), passwordId);
+    return kirvXmppFind(fields(), passwordId);
 }
 
 QString KirvXmppRegistrationForm::userName(const QList<KirvField> &filled)
 {
     // Whoever types the whole address means its first part.
-    return textOf(filled, userNameId).section(QLatin1Char('@'), 0, 0).trimmed();
+    return kirvXmppTextOf(filled, userNameId).section(QLatin1Char('@'), 0, 0).trimmed();
 }
 
 QString KirvXmppRegistrationForm::password(const QList<KirvField> &filled)
 {
-    return textOf(filled, passwordId);
+    return kirvXmppTextOf(filled, passwordId);
 }
 
 QString KirvXmppRegistrationForm::problem(const QList<KirvField> &filled) const
@@ -286,11 +274,11 @@ QStringList KirvXmppRegistrationForm::valuesOf(const Entry &entry, const QList<K
 {
     if (entry.type == hiddenType)
         return entry.values;
-    const KirvField *field = find(filled, entry.name);
+    const KirvField *field = kirvXmppFind(filled, entry.name);
     if (entry.type == choicesType) {
         QStringList chosen;
         for (int i = 0; i < entry.values.size(); ++i) {
-            const KirvField *box = find(filled, QStringLiteral("%1/%2").arg(entry.name).arg(i));
+            const KirvField *box = kirvXmppFind(filled, QStringLiteral("%1/%2").arg(entry.name).arg(i));
             if (box && box->isChecked())
                 chosen << entry.values.at(i);
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_registration_request.h"
 
+#include "protocols/xmpp/kirv_xmpp_fields.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QPointer>
@@ -18,13 +19,10 @@ KirvField createDomainField(const QString &domain)
     return field;
 }
 
+/// The domain that was filled in, also as the end of a whole address.
 QString domainOf(const QList<KirvField> &fields)
 {
-    for (const KirvField &field : fields) {
-        if (field.getId() == domainId) // also of a whole address
-            return field.getText().section(QLatin1Char('@'), -1).trimmed();
-    }
-    return QString();
+    return kirvXmppTextOf(fields, domainId).section(QLatin1Char('@'), -1).trimmed();
 }
 
 } // namespace

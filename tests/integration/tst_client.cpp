@@ -174,6 +174,7 @@ void tst_Client::start()
     QVERIFY2(client->start(), qPrintable(client->errorString()));
     client->window()->show();
     QVERIFY(QTest::qWaitForWindowExposed(client->window()));
+    QTRY_VERIFY(client->arePluginsLoaded());
 }
 
 void tst_Client::restart()
@@ -437,7 +438,8 @@ void tst_Client::reloadingFromThePluginsPage()
     QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Not loaded"));
     QVERIFY(!unloadButton->isEnabled());
     QTest::mouseClick(loadButton, Qt::LeftButton);
-    QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
+    QVERIFY(!loadButton->isEnabled());
+    QTRY_COMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
     QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
     QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
 }

@@ -56,6 +56,8 @@ void tst_Failure::theDetailStandsInTheSentence_data()
     QTest::newRow("NameInUse") << int(KirvFailure::NameInUse)
                                << "The name \"some.host\" is already in use on the server.";
     QTest::newRow("AccessDenied") << int(KirvFailure::AccessDenied) << "The server denied access: some.host";
+    QTest::newRow("ServiceUnavailable") << int(KirvFailure::ServiceUnavailable)
+                                        << "The server cannot log the account in at the moment: some.host";
     QTest::newRow("Other") << int(KirvFailure::Other) << "An error occurred: some.host";
 }
 

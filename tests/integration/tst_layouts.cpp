@@ -21,6 +21,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 #include <QVBoxLayout>
 
 #include <sys/stat.h>
@@ -142,6 +143,8 @@ private Q_SLOTS:
     void manyFieldsScrollInsteadOfGrowingTheWindow();
     void labelsOfTheFieldsLineUpWithThoseOfTheWindow();
     void fallbackIconsCanBePainted();
+    void richTextLoadsNothing_data();
+    void richTextLoadsNothing();
 
 private:
     void nameEveryLayout();
@@ -657,6 +660,43 @@ void tst_Layouts::fallbackIconsCanBePainted()
                 painted += qAlpha(image.pixel(x, y)) > 64;
         QVERIFY2(painted > 24, qPrintable(file));
     }
+}
+
+void tst_Layouts::richTextLoadsNothing_data()
+{
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<QString>("source");
+    for (const char *className : { "QTextEdit", "QTextBrowser" }) {
+        QTest::addRow("%s, address", className) << className << "file://%1";
+        QTest::addRow("%s, path", className) << className << "%1";
+    }
+}
+
+void tst_Layouts::richTextLoadsNothing()
+{
+    QFETCH(QString, className);
+    QFETCH(QString, source);
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("picture.png"));
+    QImage image(200, 200, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(picture));
+    QFile file(folder.filePath(QStringLiteral("EditAccount.ui")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(changed("EditAccount", "\"QTextEdit\"", "\"" + className.toLatin1() + "\""));
+    file.close();
+    KirvLayoutCatalog catalog;
+    catalog.setOverrideFolder(folder.path());
+    const std::unique_ptr<QWidget> top(catalog.build(QStringLiteral("EditAccount"), nullptr));
+    auto *view = top->findChild<QTextEdit *>(QStringLiteral("EditAccount_DescriptionEdit"));
+    QVERIFY(view);
+    QCOMPARE(view->inherits("QTextBrowser"), className == QLatin1String("QTextBrowser"));
+
+    view->setHtml(QStringLiteral("<img src=\"%1\">").arg(source.arg(picture)));
+    QVERIFY2(view->document()->size().height() < 100, "The picture was loaded.");
+    view->resize(300, 300);
+    const QColor drawn = view->grab().toImage().pixelColor(30, 30);
+    QVERIFY2(drawn != QColor(Qt::red), "The picture was loaded.");
 }
 
 QTEST_MAIN(tst_Layouts)

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void nestedSavesAreOne();
     void passwordAndSettingsOfASaveReachTheServerTogether();
     void aRefusedSaveChangesNothingOutside();
+    void aRefusedSaveTriesNothingAgain();
     void aSaveWithoutAnyDifferenceKeepsTheSession();
     void whatTheServerDoesMeanwhileIsTakenIntoAccount();
 
@@ -160,6 +161,23 @@ void tst_Reconciler::passwordAndSettingsOfASaveReachTheServerTogether()
     QCOMPARE(used.first().password, QString("new"));
     QCOMPARE(used.first().settings, account->settings());
     QCOMPARE(used.first().settings.at(1).getText(), QString("required"));
+}
+
+void tst_Reconciler::aRefusedSaveTriesNothingAgain()
+{
+    KirvAccount *account = online();
+    core->connection()->serverGoes();
+    core->takeCalls();
+    QCOMPARE(core->connection()->state(), State::Waiting);
+    core->setStoreFull(true);
+    account->beginSave();
+    account->tryAgain();
+    account->setAlias(core->storeFiller());
+    QVERIFY(!account->endSave());
+    QCOMPARE(core->takeCalls(), QStringList());
+    core->setStoreFull(false);
+    account->tryAgain();
+    QCOMPARE(core->takeCalls(), QStringList { "id log in available word of id" });
 }
 
 void tst_Reconciler::aRefusedSaveChangesNothingOutside()

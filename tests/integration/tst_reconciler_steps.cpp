@@ -63,7 +63,7 @@ void tst_ReconcilerSteps::oneStepLeadsToWhatIsWanted_data()
     const QHash<QString, Row> whenWanted {
         { "Offline", { logIn, logIn, logIn, logIn, logIn, logIn, logIn } },
         { "gave up", { nothing, nothing, logIn, logIn, logIn, logIn, logIn } },
-        { "Connecting", { nothing, presence, logIn, nothing, presence, nothing, presence } },
+        { "Connecting", { nothing, presence, logIn, nothing, presence, logIn, logIn } },
         { "Online", { nothing, presence, logIn, nothing, presence, logIn, logIn } },
         { "Waiting", { nothing, presence, logIn, logIn, logIn, logIn, logIn } },
         { "Disconnecting", { logIn, logIn, logIn, logIn, logIn, logIn, logIn } },

@@ -1,24 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_settings.h"
+#include "tests/support/kirv_field_texts.h"
 
 #include <QRegularExpression>
 #include <QTest>
 
 namespace {
-
-KirvField text(const QString &id, const QString &value)
-{
-    return KirvField::textEdit(QString(), id, value, QString());
-}
-
-QString valueOf(const QList<KirvField> &fields, const QString &id)
-{
-    for (const KirvField &field : fields) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return "missing";
-}
 
 const QList<KirvField> onServer { text("server", "irc.example.org") };
 

@@ -2,7 +2,8 @@
 #include "client/kirv_server_assistant.h"
 #include "client/kirv_wrapped_text.h"
 #include "host/kirv_field_widget.h"
-#include "tests/protocols/fake_server_request.h"
+#include "tests/support/fakes/kirv_fake_server_request.h"
+#include "tests/support/kirv_field_texts.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -105,15 +106,16 @@ private:
     {
         return child<QWidget>("MessageRow")->isVisible() ? child<QTextEdit>("Message")->toPlainText() : QString();
     }
-    QString typed(const QString &field) const;
+    QString typed(const QString &field) const { return valueOf(request->filled, field); }
 
-    std::unique_ptr<FakeServerRequest> request;
+    std::unique_ptr<KirvFakeServerRequest> request;
     std::unique_ptr<KirvServerAssistant> window;
 };
 
 void TestServerAssistant::init()
 {
-    request = std::make_unique<FakeServerRequest>();
+    request = std::make_unique<KirvFakeServerRequest>();
+    request->isHeld = true;
     window = std::make_unique<KirvServerAssistant>(request.get(), nullptr);
 }
 
@@ -132,15 +134,6 @@ void TestServerAssistant::show(const Step &first)
     QCoreApplication::processEvents();
 }
 
-QString TestServerAssistant::typed(const QString &id) const
-{
-    for (const KirvField &field : request->filled) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return "missing";
-}
-
 void TestServerAssistant::aStepIsShownWhole()
 {
     Step whole = step();
@@ -151,7 +144,7 @@ void TestServerAssistant::aStepIsShownWhole()
     whole.hasPassword = true;
     show(whole);
     QCOMPARE(window->objectName(), QString("ServerAssistant"));
-    QCOMPARE(window->windowTitle(), QString("Title of the Request"));
+    QCOMPARE(window->windowTitle(), QString("Fake Request"));
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), QString("Fill it in."));
     QCOMPARE(child<QComboBox>("Configuration")->count(), 2);
     QCOMPARE(child<KirvFieldWidget>("Fields")->getFields().size(), 2);

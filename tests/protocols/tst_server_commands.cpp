@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_account_actions_menu.h"
-#include "client/kirv_server_assistant.h"
 #include "client/kirv_server_commands.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_store.h"
-#include "tests/protocols/fake_server_request.h"
+#include "tests/support/fakes/kirv_fake_protocol.h"
+#include "tests/support/fakes/kirv_fake_server_request.h"
+#include "tests/support/gui/kirv_assistant_window.h"
 
-#include <QApplication>
 #include <QCheckBox>
+#include <QHash>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextEdit>
 #include <memory>
 
+using Assistant = KirvAssistantWindow;
 using Result = KirvServerRequest::Result;
 
 namespace {
@@ -72,14 +72,13 @@ private Q_SLOTS:
     void unknownActionsAreIgnored();
 
 private:
-    RequestProtocol *addProtocol(const QString &name, bool offers = true);
+    KirvFakeProtocol *addProtocol(const QString &name, bool offers = true);
+    KirvFakeServerRequest *createRequest(const QString &protocol);
     KirvAccount *addAccount();
-    KirvServerAssistant *assistant() const;
-    QString message() const;
-    QPushButton *button(const QString &name) const
-    {
-        return assistant()->findChild<QPushButton *>("ServerAssistant_" + name + "Button");
-    }
+    /// The latest request of \a protocol; null when it has gone or there was none.
+    KirvFakeServerRequest *request(const QString &protocol = "Alpha") const { return requests.value(protocol); }
+    int logIns() const { return alpha->server->calls.filter(" log in ").size(); }
+    static void press(QPushButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
     void registerAccount() { plugins->broadcast("register_account", {}); }
     void changePassword();
 
@@ -89,7 +88,9 @@ private:
     std::unique_ptr<KirvPluginLoader> plugins;
     std::unique_ptr<QWidget> window;
     KirvServerCommands *commands = nullptr;
-    RequestProtocol *alpha = nullptr;
+    KirvFakeProtocol *alpha = nullptr;
+    QHash<QString, QPointer<KirvFakeServerRequest>> requests; ///< the latest one of each protocol
+    int created = 0; ///< how many requests there were
     std::unique_ptr<QSignalSpy> unavailable;
     std::unique_ptr<QSignalSpy> problems;
 };
@@ -122,16 +123,34 @@ void TestServerCommands::cleanup()
     accounts.reset();
     store.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!assistant());
+    QVERIFY(!Assistant::window());
+    requests.clear();
+    created = 0;
 }
 
-RequestProtocol *TestServerCommands::addProtocol(const QString &name, bool offers)
+KirvFakeProtocol *TestServerCommands::addProtocol(const QString &name, bool offers)
 {
-    auto *protocol = new RequestProtocol(name, offers);
-    protocol->step.text = "Fill it in.";
-    protocol->step.command = "Continue";
-    protocol->step.hasPassword = true;
+    auto *protocol = new KirvFakeProtocol(name);
+    if (offers)
+        protocol->makeRegistration = [this, name] { return createRequest(name); };
+    protocol->actions = { { "act", "Act & More…", "Says <what>." }, { "none", "Nothing", QString() } };
+    protocol->makeRequest = [this, name](const QString &actionId, KirvConnection *) {
+        return actionId == "act" ? createRequest(name) : nullptr;
+    };
     return plugins->addProtocol(protocol) ? protocol : nullptr;
+}
+
+KirvFakeServerRequest *TestServerCommands::createRequest(const QString &protocol)
+{
+    KirvServerRequest::Step step;
+    step.text = "Fill it in.";
+    step.command = "Continue";
+    step.hasPassword = true;
+    auto *request = new KirvFakeServerRequest({ step });
+    request->isHeld = true;
+    requests[protocol] = request;
+    ++created;
+    return request;
 }
 
 /// An account that is logged in.
@@ -146,60 +165,43 @@ KirvAccount *TestServerCommands::addAccount()
     return QTest::qWaitFor([account] { return account->isOnline(); }) ? account : nullptr;
 }
 
-KirvServerAssistant *TestServerCommands::assistant() const
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        auto *found = qobject_cast<KirvServerAssistant *>(widget);
-        if (found && found->isVisible())
-            return found;
-    }
-    return nullptr;
-}
-
-QString TestServerCommands::message() const
-{
-    const auto *text = assistant() ? assistant()->findChild<QTextEdit *>("ServerAssistant_Message") : nullptr;
-    return text && text->isVisible() ? text->toPlainText() : QString();
-}
-
 /// Opens the window of the change and submits it, so that a reply of the server is awaited.
 void TestServerCommands::changePassword()
 {
     commands->run(romeoKey, "act", window.get());
-    QVERIFY(alpha->request && assistant());
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    Q_EMIT alpha->request->waiting("Changing the password…");
-    alpha->request->canBeCancelled = false;
+    QVERIFY(request() && Assistant::window());
+    press(Assistant::next());
+    request()->canBeCancelled = false;
 }
 
 void TestServerCommands::theSignalOpensTheOnlyRegistration()
 {
     addProtocol("Beta", false);
     registerAccount();
-    QVERIFY(assistant());
-    QCOMPARE(alpha->request->calls, QStringList { "start" });
-    QVERIFY(!assistant()->isModal());
+    QVERIFY(Assistant::window());
+    QCOMPARE(request()->calls, QStringList { "start" });
+    QVERIFY(!Assistant::window()->isModal());
 }
 
 void TestServerCommands::theSignalLetsChooseAmongSeveral()
 {
-    RequestProtocol *beta = addProtocol("Beta");
+    addProtocol("Beta");
     registerAccount();
-    QVERIFY(!assistant());
+    QVERIFY(!Assistant::window());
     auto *chooser = window->findChild<QDialog *>("RegistrationChooser");
     QVERIFY(chooser && chooser->isVisible());
     registerAccount();
     QCOMPARE(window->findChildren<QDialog *>("RegistrationChooser").size(), 1);
     chooser->findChild<QListWidget *>()->setCurrentRow(1);
     chooser->accept();
-    QVERIFY(assistant() && beta->request && !alpha->request);
+    QVERIFY(Assistant::window() && request("Beta") && !request());
 }
 
 void TestServerCommands::theSignalNamesAProtocol()
 {
-    RequestProtocol *beta = addProtocol("Beta");
+    addProtocol("Beta");
     plugins->broadcast("register_account", { KirvArg(QString("Beta")) });
-    QVERIFY(assistant() && beta->request && !alpha->request);
+    QVERIFY(Assistant::window() && request("Beta") && !request());
     QVERIFY(!window->findChild<QDialog *>("RegistrationChooser"));
 }
 
@@ -229,30 +231,30 @@ void TestServerCommands::withoutAProtocolItIsUnavailable()
                        argument.isEmpty() ? QList<KirvArg>() : QList<KirvArg> { KirvArg(argument) });
     QCOMPARE(unavailable->size(), 1);
     QVERIFY(unavailable->first().first().toString().contains(part));
-    QVERIFY(!assistant());
+    QVERIFY(!Assistant::window());
 }
 
 void TestServerCommands::otherSignalsAreIgnored()
 {
     plugins->broadcast("something_else", {});
-    QVERIFY(!assistant() && unavailable->isEmpty());
+    QVERIFY(!Assistant::window() && unavailable->isEmpty());
 }
 
 void TestServerCommands::aCommandOpensOneWindow()
 {
     QVERIFY(addAccount());
     registerAccount();
-    const QPointer<KirvServerAssistant> first = assistant();
+    const QPointer<KirvServerAssistant> first = Assistant::window();
     registerAccount();
-    QCOMPARE(alpha->created, 1);
+    QCOMPARE(created, 1);
     first->close();
     registerAccount();
-    QCOMPARE(alpha->created, 2);
-    QVERIFY(assistant() != first);
+    QCOMPARE(created, 2);
+    QVERIFY(Assistant::window() != first);
 
     commands->run(romeoKey, "act", window.get());
     commands->run(romeoKey, "act", window.get());
-    QCOMPARE(alpha->created, 3);
+    QCOMPARE(created, 3);
 }
 
 void TestServerCommands::theRegisteredAccountIsAdded_data()
@@ -266,11 +268,11 @@ void TestServerCommands::theRegisteredAccountIsAdded()
 {
     QFETCH(bool, isRemembered);
     registerAccount();
-    assistant()->findChild<QCheckBox *>("ServerAssistant_Remember")->setChecked(isRemembered);
+    Assistant::part<QCheckBox>("Remember")->setChecked(isRemembered);
     KirvLogin login = newAccount;
     login.settings = { KirvField::textEdit("", "server", "127.0.0.1", "") };
-    alpha->request->succeed(Result::AccountRegistered, login);
-    QVERIFY(!assistant() && !alpha->request);
+    request()->succeedWith(Result::AccountRegistered, login);
+    QVERIFY(!Assistant::window() && !request());
     KirvAccount *account = accounts->find(newKey);
     QVERIFY(account);
     QCOMPARE(account->record().password, QString("secret"));
@@ -284,58 +286,59 @@ void TestServerCommands::aKnownAccountIsNotAddedTwice()
 {
     addAccount();
     registerAccount();
-    alpha->request->succeed(Result::AccountRegistered, { romeoKey.id, "new", {} });
-    QVERIFY(message().contains(romeoKey.id) && message().contains("registered on the server"));
-    QVERIFY(message().contains("exists already"));
-    QVERIFY(!button("Next")->isVisible());
+    request()->succeedWith(Result::AccountRegistered, { romeoKey.id, "new", {} });
+    QVERIFY(Assistant::message().contains(romeoKey.id) && Assistant::message().contains("registered on the server"));
+    QVERIFY(Assistant::message().contains("exists already"));
+    QVERIFY(!Assistant::next()->isVisible());
     QCOMPARE(accounts->find(romeoKey)->record().password, QString("old"));
-    QTest::mouseClick(button("Close"), Qt::LeftButton);
-    QVERIFY(!assistant() && !alpha->request);
+    press(Assistant::close());
+    QVERIFY(!Assistant::window() && !request());
 }
 
 void TestServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
 {
     registerAccount();
     store->close();
-    alpha->request->succeed(Result::AccountRegistered, newAccount);
-    QVERIFY2(message().contains(newKey.id) && message().contains(accounts->lastError()), qPrintable(message()));
+    request()->succeedWith(Result::AccountRegistered, newAccount);
+    QVERIFY2(Assistant::message().contains(newKey.id) && Assistant::message().contains(accounts->lastError()),
+             qPrintable(Assistant::message()));
     QVERIFY(!accounts->lastError().isEmpty());
     QVERIFY(!accounts->find(newKey));
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    QVERIFY(assistant() && !accounts->find(newKey));
+    press(Assistant::next());
+    QVERIFY(Assistant::window() && !accounts->find(newKey));
     QVERIFY(store->open(folder->path()));
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    QVERIFY(!assistant() && accounts->find(newKey));
+    press(Assistant::next());
+    QVERIFY(!Assistant::window() && accounts->find(newKey));
 }
 
 void TestServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
 {
     registerAccount();
-    alpha->request->succeed(Result::AccountRegistered, KirvLogin());
-    QVERIFY(message().contains("Add the account"));
-    QVERIFY(accounts->accounts().isEmpty() && !button("Next")->isVisible());
+    request()->succeedWith(Result::AccountRegistered, KirvLogin());
+    QVERIFY(Assistant::message().contains("Add the account"));
+    QVERIFY(accounts->accounts().isEmpty() && !Assistant::next()->isVisible());
 }
 
 void TestServerCommands::closingTheWindowCancelsTheRegistration()
 {
     registerAccount();
-    Q_EMIT alpha->request->waiting("Sending the form…");
-    QTest::keyClick(assistant(), Qt::Key_Escape);
-    QVERIFY(!assistant() && !alpha->request);
+    press(Assistant::next());
+    QTest::keyClick(Assistant::window(), Qt::Key_Escape);
+    QVERIFY(!Assistant::window() && !request());
 }
 
 void TestServerCommands::theNewPasswordIsStored()
 {
     KirvAccount *account = addAccount();
     changePassword();
-    QVERIFY(assistant()->isModal());
+    QVERIFY(Assistant::window()->isModal());
     const int commits = store->commitCount();
-    alpha->request->succeed(Result::PasswordChanged, KirvLogin(), "new");
-    QVERIFY(!assistant() && !alpha->request);
+    request()->succeedWith(Result::PasswordChanged, KirvLogin(), "new");
+    QVERIFY(!Assistant::window() && !request());
     QCOMPARE(account->record().password, QString("new"));
     QCOMPARE(store->commitCount(), commits + 1);
     QCoreApplication::processEvents();
-    QCOMPARE(alpha->logins, 1); // the session goes on
+    QCOMPARE(logIns(), 1); // the session goes on
     QVERIFY(account->isOnline());
 }
 
@@ -344,31 +347,32 @@ void TestServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
     KirvAccount *account = addAccount();
     changePassword();
     store->close();
-    alpha->request->succeed(Result::PasswordChanged, KirvLogin(), "new");
-    QVERIFY2(message().contains("not stored") && message().contains(accounts->lastError()), qPrintable(message()));
+    request()->succeedWith(Result::PasswordChanged, KirvLogin(), "new");
+    QVERIFY2(Assistant::message().contains("not stored") && Assistant::message().contains(accounts->lastError()),
+             qPrintable(Assistant::message()));
     QCOMPARE(account->record().password, QString("new"));
     QVERIFY(account->hasUnstoredPassword());
-    QCOMPARE(button("Next")->text().remove('&'), QString("Store Again"));
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    QVERIFY(message().contains("not stored"));
+    QCOMPARE(Assistant::next()->text().remove('&'), QString("Store Again"));
+    press(Assistant::next());
+    QVERIFY(Assistant::message().contains("not stored"));
     QVERIFY(store->open(folder->path()));
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    QVERIFY(!assistant());
+    press(Assistant::next());
+    QVERIFY(!Assistant::window());
     QVERIFY(!account->hasUnstoredPassword());
     QCOMPARE(store->readAccounts().first().password, QString("new"));
-    QCOMPARE(alpha->logins, 1);
+    QCOMPARE(logIns(), 1);
 }
 
 void TestServerCommands::closingTheWindowKeepsTheNewPassword()
 {
     KirvAccount *account = addAccount();
     changePassword();
-    assistant()->close();
+    Assistant::window()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!assistant() && alpha->request);
-    alpha->request->succeed(Result::PasswordChanged, KirvLogin(), "new");
+    QVERIFY(!Assistant::window() && request());
+    request()->succeedWith(Result::PasswordChanged, KirvLogin(), "new");
     QCOMPARE(account->record().password, QString("new"));
-    QVERIFY(!assistant() && !alpha->request);
+    QVERIFY(!Assistant::window() && !request());
 }
 
 void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain_data()
@@ -384,28 +388,28 @@ void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
     KirvAccount *account = addAccount();
     changePassword();
     if (isDestroyed)
-        delete assistant();
+        delete Assistant::window();
     else
-        assistant()->close();
-    QVERIFY(!assistant());
+        Assistant::window()->close();
+    QVERIFY(!Assistant::window());
     store->close();
-    alpha->request->succeed(Result::PasswordChanged, KirvLogin(), "new");
-    QVERIFY(message().contains("not stored"));
+    request()->succeedWith(Result::PasswordChanged, KirvLogin(), "new");
+    QVERIFY(Assistant::message().contains("not stored"));
     QVERIFY(store->open(folder->path()));
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    QVERIFY(!assistant() && !account->hasUnstoredPassword());
+    press(Assistant::next());
+    QVERIFY(!Assistant::window() && !account->hasUnstoredPassword());
 }
 
 void TestServerCommands::aFailureAfterClosingIsReported()
 {
     KirvAccount *account = addAccount();
     changePassword();
-    assistant()->close();
-    Q_EMIT alpha->request->failed(KirvFailure(KirvFailure::RequestFailed, "too short"));
+    Assistant::window()->close();
+    request()->serverRefuses(KirvFailure(KirvFailure::RequestFailed, "too short"));
     QCOMPARE(problems->size(), 1);
     const QString text = problems->first().first().toString();
     QVERIFY(text.contains(romeoKey.id) && text.contains("too short"));
-    QVERIFY(!alpha->request);
+    QVERIFY(!request());
     QCOMPARE(account->record().password, QString("old"));
 }
 
@@ -413,20 +417,20 @@ void TestServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
 {
     addAccount();
     changePassword();
-    assistant()->close();
+    Assistant::window()->close();
     commands->run(romeoKey, "act", window.get());
-    QCOMPARE(alpha->created, 1);
-    QVERIFY(assistant() && message().contains("Changing"));
-    Q_EMIT alpha->request->failed(KirvFailure::TimedOut);
-    QVERIFY(assistant() && problems->isEmpty());
+    QCOMPARE(created, 1);
+    QVERIFY(Assistant::window() && Assistant::isWaiting());
+    request()->serverRefuses(KirvFailure::TimedOut);
+    QVERIFY(Assistant::window() && problems->isEmpty());
 }
 
 void TestServerCommands::theDeletedAccountIsRemoved()
 {
     addAccount();
     commands->run(romeoKey, "act", window.get());
-    alpha->request->succeed(Result::AccountDeleted, KirvLogin());
-    QVERIFY(!accounts->find(romeoKey) && !assistant() && !alpha->request);
+    request()->succeedWith(Result::AccountDeleted);
+    QVERIFY(!accounts->find(romeoKey) && !Assistant::window() && !request());
     QVERIFY(store->readAccounts().isEmpty());
 }
 
@@ -435,12 +439,13 @@ void TestServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
     addAccount();
     commands->run(romeoKey, "act", window.get());
     store->close();
-    alpha->request->succeed(Result::AccountDeleted, KirvLogin());
-    QVERIFY(message().contains("deleted on its server") && message().contains(accounts->lastError()));
+    request()->succeedWith(Result::AccountDeleted);
+    QVERIFY(Assistant::message().contains("deleted on its server")
+            && Assistant::message().contains(accounts->lastError()));
     QVERIFY(accounts->find(romeoKey));
     QVERIFY(store->open(folder->path()));
-    QTest::mouseClick(button("Next"), Qt::LeftButton);
-    QVERIFY(!accounts->find(romeoKey) && !assistant());
+    press(Assistant::next());
+    QVERIFY(!accounts->find(romeoKey) && !Assistant::window());
 }
 
 void TestServerCommands::windowsGoWithTheirProtocol_data()
@@ -458,9 +463,9 @@ void TestServerCommands::windowsGoWithTheirProtocol()
         registerAccount();
     else
         changePassword(); // also while a reply is awaited
-    QVERIFY(assistant());
+    QVERIFY(Assistant::window());
     bool wasFirst = false;
-    connect(alpha, &QObject::destroyed, this, [&] { wasFirst = !alpha->request && !assistant(); });
+    connect(alpha, &QObject::destroyed, this, [&] { wasFirst = !request() && !Assistant::window(); });
     plugins.reset();
     QVERIFY(wasFirst);
 }
@@ -469,18 +474,18 @@ void TestServerCommands::windowsGoWithTheirAccount()
 {
     KirvAccount *account = addAccount();
     registerAccount();
-    const QPointer<FakeServerRequest> registration = alpha->request;
+    const QPointer<KirvFakeServerRequest> registration = request();
     changePassword();
-    const QPointer<FakeServerRequest> change = alpha->request;
+    const QPointer<KirvFakeServerRequest> change = request();
     QVERIFY(accounts->remove(account));
     QVERIFY(!change && registration);
-    QVERIFY(assistant() && !assistant()->isModal());
+    QVERIFY(Assistant::window() && !Assistant::window()->isModal());
 }
 
 void TestServerCommands::windowsGoWhileAModalChildIsOpen()
 {
     registerAccount();
-    const QPointer<KirvServerAssistant> open = assistant();
+    const QPointer<KirvServerAssistant> open = Assistant::window();
     const QPointer<QMessageBox> child = new QMessageBox(open);
     QMetaObject::invokeMethod(
         this, [this] { plugins.reset(); }, Qt::QueuedConnection);
@@ -493,11 +498,11 @@ void TestServerCommands::theWindowMayBeDestroyedWithItsParent()
     addAccount();
     auto parent = std::make_unique<QWidget>();
     commands->run(romeoKey, "act", parent.get());
-    QVERIFY(assistant());
+    QVERIFY(Assistant::window());
     parent.reset();
-    QVERIFY(!assistant() && !alpha->request);
+    QVERIFY(!Assistant::window() && !request());
     commands->run(romeoKey, "act", window.get());
-    QVERIFY(assistant() && alpha->request);
+    QVERIFY(Assistant::window() && request());
 }
 
 void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
@@ -511,7 +516,7 @@ void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
     QAction *action = menu.actions().first();
     QVERIFY(action->isEnabled() && action->toolTip().contains("&lt;what&gt;"));
     action->trigger();
-    QVERIFY(assistant());
+    QVERIFY(Assistant::window());
 
     account->setPresence(alpha->presenceWithId("offline", QString()));
     QTRY_VERIFY(!account->isOnline());
@@ -527,7 +532,7 @@ void TestServerCommands::unknownActionsAreIgnored()
     addAccount();
     commands->run(romeoKey, "none", window.get());
     commands->run(newKey, "act", window.get());
-    QVERIFY(!assistant());
+    QVERIFY(!Assistant::window());
 }
 
 QTEST_MAIN(TestServerCommands)

@@ -6,6 +6,7 @@
 #include "protocols/xmpp/kirv_xmpp_registration_request.h"
 #include "tests/protocols/fake_xmpp_link.h"
 #include "tests/support/fakes/kirv_fake_clock.h"
+#include "tests/support/kirv_field_texts.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -27,15 +28,6 @@ QList<KirvField> filled(QList<KirvField> fields, const QString &id, const QStrin
             field.setText(text);
     }
     return fields;
-}
-
-QString valueOf(const QList<KirvField> &fields, const QString &id)
-{
-    for (const KirvField &field : fields) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return "missing";
 }
 
 QByteArray registrationForm(const QByteArray &fields)

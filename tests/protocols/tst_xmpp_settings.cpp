@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_settings.h"
+#include "tests/support/kirv_field_texts.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -8,20 +9,6 @@
 #include <QXmppConfiguration.h>
 
 namespace {
-
-KirvField text(const QString &id, const QString &value)
-{
-    return KirvField::textEdit(QString(), id, value, QString());
-}
-
-QString valueOf(const QList<KirvField> &fields, const QString &id)
-{
-    for (const KirvField &field : fields) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return "missing";
-}
 
 /// A self-signed certificate of a server called localhost.
 const QByteArray certificate = R"(-----BEGIN CERTIFICATE-----

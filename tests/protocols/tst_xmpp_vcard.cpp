@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 #include "tests/protocols/xmpp_parsing.h"
+#include "tests/support/kirv_field_texts.h"
 
 #include <QImage>
 #include <QRandomGenerator>
@@ -25,18 +26,9 @@ KirvXmppVCard card(const QByteArray &xml)
     return KirvXmppVCard(parsed(xml).documentElement());
 }
 
-KirvField field(const QString &id, const QString &text)
-{
-    return KirvField::textEdit(QString(), id, text, QString());
-}
-
 QString valueOf(const KirvXmppVCard &card, const QString &id)
 {
-    for (const KirvField &field : card.toFields()) {
-        if (field.getId() == id)
-            return field.getText();
-    }
-    return QString();
+    return valueOf(card.toFields(), id);
 }
 
 QDomElement root(const KirvXmppVCard &card)
@@ -132,7 +124,7 @@ void TestXmppVCard::eachFieldHasItsPlace()
     QCOMPARE(full.toFields().size(), KirvXmppVCard::blankFields().size());
 
     KirvXmppVCard made;
-    made.setFields({ field(id, value) });
+    made.setFields({ text(id, value) });
     QCOMPARE(textAt(root(made), path), value);
     QCOMPARE(root(made).childNodes().size(), 1);
     QCOMPARE(valueOf(KirvXmppVCard(root(made)), id), value);
@@ -159,7 +151,7 @@ void TestXmppVCard::onlyTheGivenFieldsAreChanged()
 {
     const QList<KirvField> before = card(fullEntry).toFields();
     KirvXmppVCard changed = card(fullEntry);
-    changed.setFields({ field("telephone", "789") });
+    changed.setFields({ text("telephone", "789") });
     const QList<KirvField> after = changed.toFields();
     QCOMPARE(after.size(), before.size());
     for (int i = 0; i < before.size(); ++i) {
@@ -171,7 +163,7 @@ void TestXmppVCard::onlyTheGivenFieldsAreChanged()
 void TestXmppVCard::whatHasNoFieldStays()
 {
     KirvXmppVCard changed = card(fullEntry);
-    changed.setFields({ field("telephone", "789"), field("town", "Elsewhere"), field("fullname", "New Name") });
+    changed.setFields({ text("telephone", "789"), text("town", "Elsewhere"), text("fullname", "New Name") });
     QDomElement element = root(changed);
     QCOMPARE(textAt(element, "N/GIVEN"), QString("Anna"));
     QCOMPARE(textAt(element, "ADR/STREET"), QString("Long Street 1"));
@@ -188,29 +180,29 @@ void TestXmppVCard::whatHasNoFieldStays()
 void TestXmppVCard::anEmptyTextRemovesItsElementAlone()
 {
     KirvXmppVCard changed = card(fullEntry);
-    changed.setFields({ field("town", ""), field("nickname", ""), field("web", "") });
+    changed.setFields({ text("town", ""), text("nickname", ""), text("web", "") });
     QVERIFY(root(changed).firstChildElement("NICKNAME").isNull());
     QVERIFY(root(changed).firstChildElement("URL").isNull());
     QVERIFY(root(changed).firstChildElement("ADR").firstChildElement("LOCALITY").isNull());
     QCOMPARE(textAt(root(changed), "ADR/CTRY"), QString("Country"));
 
     KirvXmppVCard alone;
-    alone.setFields({ field("town", "Town") });
-    alone.setFields({ field("town", "") });
+    alone.setFields({ text("town", "Town") });
+    alone.setFields({ text("town", "") });
     QVERIFY(!root(alone).hasChildNodes());
 }
 
 void TestXmppVCard::unknownFieldsAreIgnored()
 {
     KirvXmppVCard made;
-    made.setFields({ field("shoe size", "43"), field("", "nothing") });
+    made.setFields({ text("shoe size", "43"), text("", "nothing") });
     QVERIFY(!root(made).hasChildNodes());
 }
 
 void TestXmppVCard::whatCannotBeSentIsLeftOut()
 {
     KirvXmppVCard made;
-    made.setFields({ field("about", QString("a") + QChar(0x1) + "b\n" + QChar(0xd800) + QString::fromUtf8("c😀")) });
+    made.setFields({ text("about", QString("a") + QChar(0x1) + "b\n" + QChar(0xd800) + QString::fromUtf8("c😀")) });
     QCOMPARE(valueOf(made, "about"), QString::fromUtf8("ab\nc😀"));
 }
 
@@ -284,7 +276,7 @@ void TestXmppVCard::aFileWithoutAPictureGivesNone()
 void TestXmppVCard::theSizeIsThatOfTheXml()
 {
     KirvXmppVCard made;
-    made.setFields({ field("nickname", "anna") });
+    made.setFields({ text("nickname", "anna") });
     QCOMPARE(made.size(),
              int(qstrlen("<vCard xmlns=\"vcard-temp\"><NICKNAME xmlns=\"vcard-temp\">anna</NICKNAME></vCard>")));
 }

@@ -64,7 +64,7 @@ bool KirvTestedAccount::create(const QString &password, const QString &configura
     KirvAccountManager::getInstance()->createAccount(login, login, password, true, owner,
                                                      owner->createPresenceWithId(presence, QString()),
                                                      owner->getConfigurationFields(configuration));
-    return QTest::qWaitFor([this] { return windows.row(login); }, patience);
+    return QTest::qWaitFor([this] { return windows.row(login); }, kirvPatience);
 }
 
 void KirvTestedAccount::goTo(const QString &presence)
@@ -129,13 +129,13 @@ bool KirvTestedAccount::unloadProtocol()
 QDialog *KirvTestedAccount::openEditWindow()
 {
     windows.showPage(0);
-    if (!QTest::qWaitFor([this] { return windows.client->accountsPage()->isVisible(); }, patience))
+    if (!QTest::qWaitFor([this] { return windows.client->accountsPage()->isVisible(); }, kirvPatience))
         return nullptr;
     windows.select(login);
     KirvWindowDriver::pressKey(windows.list(), Qt::Key_Return);
     const bool isOpen = QTest::qWaitFor(
         [] { return editWindow() && editWindow()->windowHandle() && editWindow()->windowHandle()->isExposed(); },
-        patience);
+        kirvPatience);
     return isOpen ? editWindow() : nullptr;
 }
 
@@ -182,10 +182,10 @@ void KirvTestedAccount::typeAlias(QDialog *editWindow, const QString &alias)
 
 bool KirvTestedAccount::confirmRefusedSave()
 {
-    if (!QTest::qWaitFor([this] { return windows.question(); }, patience))
+    if (!QTest::qWaitFor([this] { return windows.question(); }, kirvPatience))
         return false;
     KirvWindowDriver::click(windows.question()->button(QMessageBox::Ok));
-    return QTest::qWaitFor([this] { return !windows.question(); }, patience);
+    return QTest::qWaitFor([this] { return !windows.question(); }, kirvPatience);
 }
 
 bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QString &password)
@@ -201,7 +201,7 @@ bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QStrin
         QStringLiteral("The menu offers the command"), [command] { return KirvWindowDriver::menuOffers(command); },
         [command] { KirvWindowDriver::clickInMenu(command); });
     const auto assistant = [] { return KirvWindowDriver::window(QStringLiteral("ServerAssistant")); };
-    if (!walk.run() || !QTest::qWaitFor([=] { return assistant(); }, patience))
+    if (!walk.run() || !QTest::qWaitFor([=] { return assistant(); }, kirvPatience))
         return false;
     const auto edits = assistant()->findChildren<QLineEdit *>();
     for (QLineEdit *edit : edits)
@@ -211,11 +211,11 @@ bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QStrin
     // It stays when the store has refused the password, and says so.
     const auto *message = KirvWindows::child<QWidget>(assistant(), "ServerAssistant_Message");
     const auto isDone = [&] { return !assistant() || (next && next->isEnabled() && message->isVisible()); };
-    if (!QTest::qWaitFor(isDone, patience))
+    if (!QTest::qWaitFor(isDone, kirvPatience))
         return false;
     if (assistant())
         KirvWindowDriver::click(KirvWindows::child<QPushButton>(assistant(), "ServerAssistant_CloseButton"));
-    return QTest::qWaitFor([=] { return !assistant(); }, patience);
+    return QTest::qWaitFor([=] { return !assistant(); }, kirvPatience);
 }
 
 void KirvTestedAccount::showDirectory(QDialog *editWindow)

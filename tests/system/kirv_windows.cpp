@@ -43,7 +43,7 @@ bool scrollTo(QWidget *widget)
             QWidget *met = window->childAt(widget->mapTo(window, widget->rect().center()));
             return met && (met == widget || widget->isAncestorOf(met));
         },
-        patience);
+        kirvPatience);
 }
 
 } // namespace
@@ -68,7 +68,8 @@ bool KirvWindows::start()
         return false;
     }
     client->window()->show();
-    return QTest::qWaitForWindowExposed(client->window());
+    return QTest::qWaitForWindowExposed(client->window())
+        && QTest::qWaitFor([this] { return client->arePluginsLoaded(); }, patience);
 }
 
 void KirvWindows::quit()
@@ -121,7 +122,7 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
 QDialog *KirvWindows::edit(const QString &login)
 {
     showPage(AccountsPage);
-    if (!QTest::qWaitFor([this] { return client->accountsPage()->isVisible(); }, patience))
+    if (!QTest::qWaitFor([this] { return client->accountsPage()->isVisible(); }, kirvPatience))
         return nullptr;
     list()->scrollToItem(row(login));
     KirvWindowDriver::doubleClick(list()->viewport(), list()->visualItemRect(row(login)).center());
@@ -136,14 +137,14 @@ QDialog *KirvWindows::openEditWindow() const
             return (window = KirvWindowDriver::window(QStringLiteral("EditAccount")))
                 && window->windowHandle()->isExposed();
         },
-        patience);
+        kirvPatience);
     return isOpen ? qobject_cast<QDialog *>(window) : nullptr;
 }
 
 bool KirvWindows::save(QDialog *editWindow)
 {
     KirvWindowDriver::click(button(editWindow, "EditAccount_FrameButtons", QDialogButtonBox::Save));
-    return QTest::qWaitFor([] { return !KirvWindowDriver::window(QStringLiteral("EditAccount")); }, patience);
+    return QTest::qWaitFor([] { return !KirvWindowDriver::window(QStringLiteral("EditAccount")); }, kirvPatience);
 }
 
 void KirvWindows::fill(QWidget *window, const QString &id, const QString &value)
@@ -237,11 +238,11 @@ bool KirvWindows::goTo(const QString &login, const QString &presence)
     QContextMenuEvent wish(QContextMenuEvent::Mouse, position, connections->viewport()->mapToGlobal(position));
     QApplication::sendEvent(connections->viewport(), &wish);
     for (const QString &command : { QStringLiteral("&Presence"), presence }) {
-        if (!QTest::qWaitFor([command] { return KirvWindowDriver::menuOffers(command); }, patience))
+        if (!QTest::qWaitFor([command] { return KirvWindowDriver::menuOffers(command); }, kirvPatience))
             return false;
         KirvWindowDriver::clickInMenu(command);
     }
-    return QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }, patience);
+    return QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }, kirvPatience);
 }
 
 void KirvWindows::hurry(const QString &login) const

@@ -4,11 +4,11 @@
 
 #include "client/kirv_client.h"
 #include "core/accounts/kirv_account.h"
+#include "tests/support/kirv_patience.h"
 #include "tools/tour/kirv_window_driver.h"
 
 #include <QDialogButtonBox>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <functional>
 #include <memory>
@@ -21,19 +21,13 @@ class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// Generous, for a busy machine; a test that works needs a fraction of it.
-const int patience = 20000;
-#define TRY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, patience)
-#define TRY_SAYS(text, word)                                                                                           \
-    QTRY_VERIFY2_WITH_TIMEOUT(text.contains(QLatin1String(word), Qt::CaseInsensitive), qPrintable(text), patience)
-
 /// The real client with a profile of its own, used through its windows as a person uses it.
 class KirvWindows {
 public:
     KirvWindows();
     ~KirvWindows();
 
-    /// Starts the client, or quits it and starts it again.
+    /// Starts the client, or quits it and starts it again, and waits until its plug-ins are loaded.
     bool start();
     void quit();
 

@@ -95,15 +95,15 @@ void tst_accounts_in_windows::addedAccountIsLoggedInAndComesBackAfterARestart()
     QVERIFY(addAnn());
     QVERIFY(windows->row(ann));
     QCOMPARE(windows->row(ann)->checkState(0), Qt::Checked);
-    TRY(isConnected(ann));
-    TRY(server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(isConnected(ann));
+    KIRV_TRY(server.isOnline(QStringLiteral("ann")));
 
     windows->quit();
-    TRY(!server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(!server.isOnline(QStringLiteral("ann")));
     QVERIFY(windows->start());
     QVERIFY(windows->row(ann));
-    TRY(isConnected(ann));
-    TRY(server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(isConnected(ann));
+    KIRV_TRY(server.isOnline(QStringLiteral("ann")));
 }
 
 void tst_accounts_in_windows::everythingInTheAddWindowHasAnAccessibleName()
@@ -146,22 +146,22 @@ void tst_accounts_in_windows::passwordThatIsNotRememberedIsAskedFor()
     QVERIFY(server.addUser(QStringLiteral("cy"), unusual));
     const QString cy = QStringLiteral("cy@localhost");
     QVERIFY(windows->add(xmpp, here, cy, unusual, forget));
-    TRY(isConnected(cy));
+    KIRV_TRY(isConnected(cy));
     QVERIFY(!windows->profileHolds(unusual.toUtf8()));
 
     QVERIFY(windows->start());
     KirvPasswordDialog *dialog = nullptr;
-    TRY((dialog = windows->client->window()->findChild<KirvPasswordDialog *>()));
-    TRY(dialog->isVisible());
+    KIRV_TRY((dialog = windows->client->window()->findChild<KirvPasswordDialog *>()));
+    KIRV_TRY(dialog->isVisible());
     KirvWindowDriver::type(dialog->findChild<QLineEdit *>(), unusual);
     KirvWindowDriver::click(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok));
-    TRY(isConnected(cy));
+    KIRV_TRY(isConnected(cy));
 }
 
 void tst_accounts_in_windows::wrongPasswordIsSaid()
 {
     QVERIFY(windows->add(xmpp, here, ann, QStringLiteral("mistyped")));
-    TRY_SAYS(windows->problem(ann), "password");
+    KIRV_TRY_CONTAINS(windows->problem(ann), "password");
     QCOMPARE(windows->state(ann), QStringLiteral("Off line"));
     QVERIFY(!server.isOnline(QStringLiteral("ann")));
 }
@@ -172,28 +172,28 @@ void tst_accounts_in_windows::serverThatIsNotThereIsSaid()
     QVERIFY(windows->add(xmpp, here, ann, secret, [nobody](QWidget *window) {
         window->findChild<QSpinBox *>(QStringLiteral("KirvField_port"))->setValue(nobody);
     }));
-    TRY(!windows->problem(ann).isEmpty());
-    TRY_SAYS(windows->state(ann), "waiting");
+    KIRV_TRY(!windows->problem(ann).isEmpty());
+    KIRV_TRY_CONTAINS(windows->state(ann), "waiting");
 }
 
 void tst_accounts_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
 {
     qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
     QVERIFY(addAnn());
-    TRY_SAYS(windows->problem(ann), "certificate");
+    KIRV_TRY_CONTAINS(windows->problem(ann), "certificate");
     QVERIFY(!isConnected(ann));
 
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
     window->findChild<QLineEdit *>(QStringLiteral("KirvField_certificate"))->setText(server.certificatePath());
     QVERIFY(windows->save(window));
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
 }
 
 void tst_accounts_in_windows::untickedOfflineAccountIsDisabledAtOnce()
 {
     QVERIFY(windows->add(xmpp, here, ann, QStringLiteral("mistyped")));
-    TRY_SAYS(windows->problem(ann), "password");
+    KIRV_TRY_CONTAINS(windows->problem(ann), "password");
     windows->toggle(ann);
     QVERIFY(!windows->question());
     QCOMPARE(windows->row(ann)->checkState(0), Qt::Unchecked);
@@ -203,31 +203,31 @@ void tst_accounts_in_windows::untickedOfflineAccountIsDisabledAtOnce()
 void tst_accounts_in_windows::untickedConnectedAccountIsAskedAbout()
 {
     QVERIFY(addAnn());
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
 
     windows->toggle(ann);
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     QCOMPARE(windows->row(ann)->checkState(0), Qt::Checked);
     KirvWindowDriver::click(windows->question()->button(QMessageBox::No));
-    TRY(!windows->question());
+    KIRV_TRY(!windows->question());
     QVERIFY(isConnected(ann) && windows->account(ann)->isEnabled());
 
     windows->toggle(ann);
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
-    TRY(windows->row(ann)->checkState(0) == Qt::Unchecked);
-    TRY(!server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(windows->row(ann)->checkState(0) == Qt::Unchecked);
+    KIRV_TRY(!server.isOnline(QStringLiteral("ann")));
     QCOMPARE(windows->selector()->count(), 0);
 
     windows->toggle(ann);
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     QCOMPARE(windows->selector()->count(), 1);
 }
 
 void tst_accounts_in_windows::removedAccountLeavesNothingBehind()
 {
     QVERIFY(addAnn());
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     QImage image(32, 32, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
     const QString picture = windows->profileFolder() + QStringLiteral("/../picture.png");
@@ -239,11 +239,11 @@ void tst_accounts_in_windows::removedAccountLeavesNothingBehind()
 
     windows->select(ann);
     KirvWindowDriver::pressKey(windows->list(), Qt::Key_Delete);
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     QVERIFY(windows->question()->text().contains(ann));
     KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
-    TRY(!windows->row(ann));
-    TRY(!server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(!windows->row(ann));
+    KIRV_TRY(!server.isOnline(QStringLiteral("ann")));
     QCOMPARE(windows->selector()->count(), 0);
     QVERIFY(!windows->account(ann));
     QVERIFY(!QFile::exists(avatar));
@@ -257,58 +257,58 @@ void tst_accounts_in_windows::mainAccountIsFollowedAndRestored()
 {
     QVERIFY(addAnn());
     QVERIFY(windows->add(xmpp, here, bob, secret, [](QWidget *window) { remember(window); }));
-    TRY(isConnected(ann) && isConnected(bob));
-    TRY(windows->selector()->count() == 2);
+    KIRV_TRY(isConnected(ann) && isConnected(bob));
+    KIRV_TRY(windows->selector()->count() == 2);
     // What is current there without the user's choice is no main account yet.
     KirvWindowDriver::choose(windows->selector(), ann);
     KirvWindowDriver::choose(windows->selector(), bob);
-    TRY_SAYS(windows->title(), "bob@localhost");
+    KIRV_TRY_CONTAINS(windows->title(), "bob@localhost");
 
     QVERIFY(windows->start());
-    TRY_SAYS(windows->title(), "bob@localhost");
+    KIRV_TRY_CONTAINS(windows->title(), "bob@localhost");
     QVERIFY(KirvAccountManager::getInstance()->getMainAccount() == windows->account(bob));
-    TRY(windows->selector()->currentText() == bob);
+    KIRV_TRY(windows->selector()->currentText() == bob);
 }
 
 void tst_accounts_in_windows::protocolGoesAndComesWhileConnected()
 {
     QVERIFY(addAnn());
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     windows->setLoaded(xmpp, false);
-    TRY(!server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(!server.isOnline(QStringLiteral("ann")));
     QVERIFY(!windows->account(ann)->isLoaded());
 
     windows->setLoaded(xmpp, true);
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     windows->showPage(0);
     QCOMPARE(windows->list()->topLevelItemCount(), 1);
-    TRY(windows->selector()->count() == 1);
+    KIRV_TRY(windows->selector()->count() == 1);
 }
 
 void tst_accounts_in_windows::protocolGoesWhileAnAccountIsEdited()
 {
     QVERIFY(addAnn());
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     QVERIFY(windows->edit(ann));
     QVERIFY(windows->client->plugins().unload(windows->pluginFile(xmpp)));
-    TRY(!KirvWindowDriver::window(QStringLiteral("EditAccount")));
+    KIRV_TRY(!KirvWindowDriver::window(QStringLiteral("EditAccount")));
     windows->setLoaded(xmpp, true);
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     QVERIFY(windows->edit(ann));
 }
 
 void tst_accounts_in_windows::protocolGoesWhileAQuestionIsOpen()
 {
     QVERIFY(addAnn());
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     windows->toggle(ann);
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     QVERIFY(windows->client->plugins().unload(windows->pluginFile(xmpp)));
     QVERIFY(windows->client->plugins().load(windows->pluginFile(xmpp)));
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
-    TRY(!windows->account(ann)->isEnabled());
-    TRY(!server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(!windows->account(ann)->isEnabled());
+    KIRV_TRY(!server.isOnline(QStringLiteral("ann")));
 }
 
 QTEST_MAIN(tst_accounts_in_windows)

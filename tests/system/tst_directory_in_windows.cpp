@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
+#include "tests/support/servers/kirv_scripted_session_server.h"
 #include "tests/support/store_refusal.h"
-#include "tests/support/xmpp/xmpp_observer.h"
-#include "tests/support/xmpp/xmpp_session_server.h"
 #include "tests/system/kirv_tested_account.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -61,14 +61,14 @@ private:
     /// The same; false when the fields do not hold the entry in time.
     bool openFetched(QPointer<QDialog> *window);
 
-    std::unique_ptr<XmppSessionServer> server;
+    std::unique_ptr<KirvScriptedSessionServer> server;
     std::unique_ptr<KirvWindows> windows;
     std::unique_ptr<KirvTestedAccount> account;
 };
 
 void tst_directory_in_windows::init()
 {
-    server = std::make_unique<XmppSessionServer>();
+    server = std::make_unique<KirvScriptedSessionServer>();
     server->setCard(card);
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server->serverPort()));
     windows = std::make_unique<KirvWindows>();
@@ -86,8 +86,8 @@ void tst_directory_in_windows::cleanup()
 void tst_directory_in_windows::failingFetches()
 {
     QTest::addColumn<int>("directory");
-    QTest::newRow("refused") << int(XmppSessionServer::RefusesToRead);
-    QTest::newRow("timed out") << int(XmppSessionServer::IsSilent);
+    QTest::newRow("refused") << int(KirvScriptedSessionServer::RefusesToRead);
+    QTest::newRow("timed out") << int(KirvScriptedSessionServer::IsSilent);
 }
 
 bool tst_directory_in_windows::connectAccount()
@@ -99,12 +99,12 @@ bool tst_directory_in_windows::connectAccount()
     // The presence that says which picture the entry has is sent after the entry was read.
     return QTest::qWaitFor(
         [this] { return account->isConnected() && server->presences().value(1).contains("vcard-temp:x:update"); },
-        patience);
+        kirvPatience);
 }
 
 bool tst_directory_in_windows::publishElsewhere(const KirvProsodyServer &prosody, const QXmppVCardIq &changed)
 {
-    XmppObserver otherClient;
+    KirvObservingXmppClient otherClient;
     return otherClient.logIn(prosody, "ann") && otherClient.publish(changed);
 }
 
@@ -125,23 +125,23 @@ bool tst_directory_in_windows::openFetched(QPointer<QDialog> *window)
                 return !KirvTestedAccount::isDirectoryLocked(*window)
                     && KirvTestedAccount::directoryText(*window, "fullname") == "Ann Example";
             },
-            patience);
+            kirvPatience);
 }
 
 void tst_directory_in_windows::failedFetchKeepsTheFieldsLocked()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
-    server->setDirectory(XmppSessionServer::Directory(directory));
+    server->setDirectory(KirvScriptedSessionServer::Directory(directory));
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!windows->problem(ann).isEmpty());
+    KIRV_TRY(!windows->problem(ann).isEmpty());
     QVERIFY2(KirvTestedAccount::isDirectoryLocked(window), "The fields are enabled although nothing was fetched.");
     QCOMPARE(KirvTestedAccount::directoryStatus(window), windows->problem(ann));
 
-    server->setDirectory(XmppSessionServer::Answers);
+    server->setDirectory(KirvScriptedSessionServer::Answers);
     KirvTestedAccount::fetchAgain(window);
-    TRY(!KirvTestedAccount::isDirectoryLocked(window));
+    KIRV_TRY(!KirvTestedAccount::isDirectoryLocked(window));
     QCOMPARE(KirvTestedAccount::directoryText(window, "fullname"), QString("Ann Example"));
     QCOMPARE(KirvTestedAccount::directoryStatus(window), QString());
 }
@@ -150,20 +150,20 @@ void tst_directory_in_windows::savingAfterAFailedFetchPublishesNothing()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
-    server->setDirectory(XmppSessionServer::Directory(directory));
+    server->setDirectory(KirvScriptedSessionServer::Directory(directory));
     QPointer<QDialog> window = editDirectory();
     QVERIFY(window);
-    TRY(!windows->problem(ann).isEmpty());
+    KIRV_TRY(!windows->problem(ann).isEmpty());
     if (!KirvTestedAccount::isDirectoryLocked(window))
         KirvWindows::fill(window, "town", "Potsdam");
-    server->setDirectory(XmppSessionServer::Answers);
+    server->setDirectory(KirvScriptedSessionServer::Answers);
     KirvTestedAccount::pressSave(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
 
     // The reply to this request comes after the reply to whatever the first window has sent.
     window = editDirectory();
     QVERIFY(window);
-    TRY(!KirvTestedAccount::isDirectoryLocked(window));
+    KIRV_TRY(!KirvTestedAccount::isDirectoryLocked(window));
     QCOMPARE(server->storedCard(), card);
     QCOMPARE(server->publications(), QByteArrayList());
     QCOMPARE(KirvTestedAccount::directoryText(window, "telephone"), QString("1234"));
@@ -176,7 +176,7 @@ void tst_directory_in_windows::onlyTheChangedFieldIsPublished()
     QVERIFY(openFetched(&window));
     KirvWindows::fill(window, "town", "Potsdam");
     KirvTestedAccount::pressSave(window);
-    TRY(server->publications().size() == 1);
+    KIRV_TRY(server->publications().size() == 1);
     QCOMPARE(server->storedCard(), QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
@@ -189,16 +189,16 @@ void tst_directory_in_windows::changedFieldIsPublishedOverAFreshCopy()
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", prosody.certificatePath().toLocal8Bit());
     QVERIFY(publishElsewhere(prosody, entry("Berlin", "1234")));
     QVERIFY(account->create(secret, here, "available"));
-    TRY(account->isConnected());
+    KIRV_TRY(account->isConnected());
     QPointer<QDialog> window;
     QVERIFY(openFetched(&window));
 
     QVERIFY(publishElsewhere(prosody, entry("Berlin", "5678")));
     KirvWindows::fill(window, "town", "Potsdam");
     KirvTestedAccount::pressSave(window);
-    XmppObserver juliet;
+    KirvObservingXmppClient juliet;
     QVERIFY(juliet.logIn(prosody, "juliet"));
-    TRY(juliet.vCardOf(ann).addresses().value(0).locality() == "Potsdam");
+    KIRV_TRY(juliet.vCardOf(ann).addresses().value(0).locality() == "Potsdam");
     const QXmppVCardIq seen = juliet.vCardOf(ann);
     QCOMPARE(seen.phones().value(0).number(), QString("5678"));
     QCOMPARE(seen.fullName(), QString("Ann Example"));
@@ -208,8 +208,8 @@ void tst_directory_in_windows::changedFieldIsPublishedOverAFreshCopy()
 void tst_directory_in_windows::failedPublicationLosesNothing_data()
 {
     QTest::addColumn<int>("directory");
-    QTest::newRow("refused") << int(XmppSessionServer::RefusesToPublish);
-    QTest::newRow("timed out") << int(XmppSessionServer::IgnoresPublications);
+    QTest::newRow("refused") << int(KirvScriptedSessionServer::RefusesToPublish);
+    QTest::newRow("timed out") << int(KirvScriptedSessionServer::IgnoresPublications);
 }
 
 void tst_directory_in_windows::failedPublicationLosesNothing()
@@ -218,22 +218,22 @@ void tst_directory_in_windows::failedPublicationLosesNothing()
     QVERIFY(connectAccount());
     QPointer<QDialog> window;
     QVERIFY(openFetched(&window));
-    server->setDirectory(XmppSessionServer::Directory(directory));
+    server->setDirectory(KirvScriptedSessionServer::Directory(directory));
     KirvWindows::fill(window, "town", "Potsdam");
     KirvTestedAccount::pressSave(window);
-    TRY(!windows->problem(ann).isEmpty());
+    KIRV_TRY(!windows->problem(ann).isEmpty());
     QCOMPARE(server->publications().size(), 1);
     QCOMPARE(server->storedCard(), card);
 
-    server->setDirectory(XmppSessionServer::Answers);
+    server->setDirectory(KirvScriptedSessionServer::Answers);
     if (!KirvTestedAccount::editWindow())
         QVERIFY(editDirectory());
     window = KirvTestedAccount::editWindow();
-    TRY(!KirvTestedAccount::isDirectoryLocked(window));
+    KIRV_TRY(!KirvTestedAccount::isDirectoryLocked(window));
     QCOMPARE(KirvTestedAccount::directoryText(window, "town"), QString("Potsdam"));
     QCOMPARE(KirvTestedAccount::directoryText(window, "telephone"), QString("1234"));
     KirvTestedAccount::pressSave(window);
-    TRY(server->storedCard() == QByteArray(card).replace("Berlin", "Potsdam"));
+    KIRV_TRY(server->storedCard() == QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
 void tst_directory_in_windows::refusedSavePublishesNothingAndLosesNothing()
@@ -243,22 +243,22 @@ void tst_directory_in_windows::refusedSavePublishesNothingAndLosesNothing()
     QVERIFY(window);
     KirvTestedAccount::typeAlias(window, "Ann");
     KirvTestedAccount::showDirectory(window);
-    TRY(!KirvTestedAccount::isDirectoryLocked(window));
+    KIRV_TRY(!KirvTestedAccount::isDirectoryLocked(window));
     KirvWindows::fill(window, "town", "Potsdam");
     StoreRefusal refusal(windows->profileFolder());
     QVERIFY(refusal.holds());
     KirvTestedAccount::pressSave(window);
     QVERIFY(account->confirmRefusedSave());
-    TRY(!KirvTestedAccount::isDirectoryLocked(window));
+    KIRV_TRY(!KirvTestedAccount::isDirectoryLocked(window));
     QCOMPARE(KirvTestedAccount::directoryText(window, "town"), QString("Potsdam"));
     QCOMPARE(server->storedCard(), card);
     QCOMPARE(server->publications(), QByteArrayList());
 
     refusal.end();
     KirvTestedAccount::pressSave(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
     QCOMPARE(account->alias(), QString("Ann"));
-    TRY(server->publications().size() == 1);
+    KIRV_TRY(server->publications().size() == 1);
     QCOMPARE(server->storedCard(), QByteArray(card).replace("Berlin", "Potsdam"));
 }
 

@@ -12,7 +12,7 @@
 #include "host/kirv_plugin_manager.h"
 #include "host/kirv_presence.h"
 #include "host/kirv_protocol.h"
-#include "tests/support/xmpp/xmpp_observer.h"
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/system/kirv_windows.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -298,7 +298,7 @@ private:
         KirvAccountManager::getInstance()->createAccount(login, login, secret, remember, protocol,
                                                          protocol->createPresenceWithId("available", QString()),
                                                          protocol->getConfigurationFields(here));
-        return QTest::qWaitFor([this, &login] { return windows->row(login) && isConnected(login); }, patience);
+        return QTest::qWaitFor([this, &login] { return windows->row(login) && isConnected(login); }, kirvPatience);
     }
     bool isConnected(const QString &login) const { return windows->state(login) == QLatin1String("Connected"); }
     QDialog *editDirectory()
@@ -343,7 +343,7 @@ private:
     }
     bool publishElsewhere(const Entry &entry)
     {
-        XmppObserver otherClient;
+        KirvObservingXmppClient otherClient;
         return otherClient.logIn(server, "ann") && otherClient.publish(cardOf(entry));
     }
     Entry seenEntry() { return entryOf(juliet->vCardOf(ann)); }
@@ -358,7 +358,7 @@ private:
 
     QTemporaryDir files;
     KirvProsodyServer server;
-    std::unique_ptr<XmppObserver> juliet;
+    std::unique_ptr<KirvObservingXmppClient> juliet;
     std::unique_ptr<KirvWindows> windows;
 };
 
@@ -369,14 +369,14 @@ void tst_editing_in_windows::initTestCase()
         QVERIFY(server.addUser(user, secret));
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server.port()));
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", server.certificatePath().toLocal8Bit());
-    XmppObserver friendOfAnn;
+    KirvObservingXmppClient friendOfAnn;
     QVERIFY(friendOfAnn.logIn(server, "juliet") && friendOfAnn.befriend(server, "ann"));
 }
 
 void tst_editing_in_windows::init()
 {
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    juliet = std::make_unique<XmppObserver>();
+    juliet = std::make_unique<KirvObservingXmppClient>();
     QVERIFY(juliet->logIn(server, "juliet"));
     QVERIFY(publishElsewhere({}));
     windows = std::make_unique<KirvWindows>();
@@ -454,8 +454,8 @@ void tst_editing_in_windows::unusualTextsAreShownAndStoredAsTheyAre()
 
     QVERIFY(windows->start());
     QCOMPARE(windows->row(ann)->text(0), text);
-    TRY(isConnected(ann));
-    TRY(juliet->sees(ann) && juliet->presenceOf(ann).statusText() == text.left(1000));
+    KIRV_TRY(isConnected(ann));
+    KIRV_TRY(juliet->sees(ann) && juliet->presenceOf(ann).statusText() == text.left(1000));
     window = windows->edit(ann);
     QVERIFY(window);
     QCOMPARE(alias(window)->text(), text);
@@ -479,9 +479,9 @@ void tst_editing_in_windows::whatIsRestoredGreysOutWhatItOverrides()
     QVERIFY(windows->save(window));
 
     windows->quit();
-    TRY(!juliet->sees(ann));
+    KIRV_TRY(!juliet->sees(ann));
     QVERIFY(windows->start());
-    TRY(juliet->sees(ann));
+    KIRV_TRY(juliet->sees(ann));
     QCOMPARE(juliet->presenceOf(ann).availableStatusType(), QXmppPresence::DND);
     QCOMPARE(juliet->presenceOf(ann).statusText(), QString("Writing"));
     window = windows->edit(ann);
@@ -497,17 +497,17 @@ void tst_editing_in_windows::wrongPasswordLogsOutAndTheRightOneLogsIn()
     QVERIFY(window);
     KirvWindowDriver::type(password(window), "mistyped");
     QVERIFY(windows->save(window));
-    TRY_SAYS(windows->problem(ann), "password");
-    TRY(windows->state(ann) == "Off line");
-    TRY(!server.isOnline("ann"));
+    KIRV_TRY_CONTAINS(windows->problem(ann), "password");
+    KIRV_TRY(windows->state(ann) == "Off line");
+    KIRV_TRY(!server.isOnline("ann"));
 
     window = windows->edit(ann);
     QVERIFY(window);
     QCOMPARE(password(window)->text(), QString("mistyped"));
     KirvWindowDriver::type(password(window), secret);
     QVERIFY(windows->save(window));
-    TRY(isConnected(ann));
-    TRY(server.isOnline("ann"));
+    KIRV_TRY(isConnected(ann));
+    KIRV_TRY(server.isOnline("ann"));
     QCOMPARE(windows->problem(ann), QString());
 }
 
@@ -538,7 +538,7 @@ void tst_editing_in_windows::changedSettingsMakeOneReconnection()
     paste(priority(window), "7");
     clickSave(window);
     QCOMPARE(logIns, 0); // not within the save
-    TRY(isConnected(ann) && juliet->presenceOf(ann).priority() == 7);
+    KIRV_TRY(isConnected(ann) && juliet->presenceOf(ann).priority() == 7);
     QCOMPARE(logIns, 1);
 }
 
@@ -569,15 +569,15 @@ void tst_editing_in_windows::cancelWritesNothingButThePicture()
         tick(box(window, what));
     paste(priority(window), "7");
     KirvWindowDriver::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     paste(field(window, "fullname"), "Somebody");
     KirvWindowDriver::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Left);
     leave(window);
-    TRY(!KirvWindowDriver::window("EditAccount"));
+    KIRV_TRY(!KirvWindowDriver::window("EditAccount"));
     QCOMPARE(storedValues(), before);
     QVERIFY(isConnected(ann));
     QCOMPARE(seenEntry(), fullEntry("1"));
-    TRY(!seenHash().isEmpty());
+    KIRV_TRY(!seenHash().isEmpty());
 
     QVERIFY(windows->start());
     QCOMPARE(storedValues(), before);
@@ -595,15 +595,15 @@ void tst_editing_in_windows::pickedPictureIsSeenByOthersAndSurvivesItsFile()
     QVERIFY(QFile::remove(picked));
     QVERIFY(windows->save(window));
 
-    TRY(!seenHash().isEmpty());
+    KIRV_TRY(!seenHash().isEmpty());
     const QByteArray photo = juliet->vCardOf(ann).photo();
     QCOMPARE(hashOf(photo), seenHash());
     QCOMPARE(QImage::fromData(photo).pixel(24, 24), red);
 
     windows->quit();
-    TRY(!juliet->sees(ann));
+    KIRV_TRY(!juliet->sees(ann));
     QVERIFY(windows->start());
-    TRY(juliet->sees(ann) && seenHash() == hashOf(photo));
+    KIRV_TRY(juliet->sees(ann) && seenHash() == hashOf(photo));
     window = windows->edit(ann);
     QVERIFY(window);
     const QImage shown = part<QWidget>(window, "KirvAvatar_Button")->grab().toImage();
@@ -645,15 +645,15 @@ void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused()
     pastePicture(window, createPicture("red.png", qRgb(255, 0, 0)));
     const QString avatar = windows->account(ann)->getCurrentAvatarPath();
     QVERIFY(QFile::exists(avatar));
-    TRY(!seenHash().isEmpty());
+    KIRV_TRY(!seenHash().isEmpty());
     const QByteArray hash = seenHash();
 
     pastePicture(window, path);
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     QVERIFY2(windows->question()->text().contains(reason), qPrintable(windows->question()->text()));
     QCOMPARE(windows->question()->textFormat(), Qt::PlainText);
     KirvWindowDriver::click(windows->question()->button(QMessageBox::Ok));
-    TRY(!windows->question());
+    KIRV_TRY(!windows->question());
 
     QCOMPARE(windows->account(ann)->getCurrentAvatarPath(), avatar);
     QVERIFY(QFile::exists(avatar));
@@ -672,7 +672,7 @@ void tst_editing_in_windows::pictureThatVanishedIsSaid()
     const QString avatar = windows->account(ann)->getCurrentAvatarPath();
     // Looked at by the picker, and gone before the account could take it.
     Q_EMIT window->findChild<KirvAvatarQuickSetWidget *>()->imageSelected(files.filePath("vanished.png"));
-    TRY_SAYS(windows->messages(), "vanished.png");
+    KIRV_TRY_CONTAINS(windows->messages(), "vanished.png");
     QCOMPARE(windows->account(ann)->getCurrentAvatarPath(), avatar);
     QVERIFY(QFile::exists(avatar));
     QVERIFY(windows->save(window));
@@ -685,7 +685,7 @@ void tst_editing_in_windows::entryComesFromTheServerAndGoesThere()
     QVERIFY(publishElsewhere(fullEntry("1")));
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(status(window), QString());
 
@@ -693,7 +693,7 @@ void tst_editing_in_windows::entryComesFromTheServerAndGoesThere()
     for (auto value = changed.begin(); value != changed.end(); ++value)
         paste(field(window, value.key()), value.value());
     QVERIFY(windows->save(window));
-    TRY(seenEntry() == changed);
+    KIRV_TRY(seenEntry() == changed);
     QCOMPARE(windows->problem(ann), QString());
 }
 
@@ -703,11 +703,11 @@ void tst_editing_in_windows::entryIsFetchedAgain()
     QVERIFY(publishElsewhere(fullEntry("1")));
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     paste(field(window, "town"), "Nowhere");
     QVERIFY(publishElsewhere(fullEntry("2")));
     KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
-    TRY(!isLocked(window) && shownEntry(window) == fullEntry("2"));
+    KIRV_TRY(!isLocked(window) && shownEntry(window) == fullEntry("2"));
 }
 
 void tst_editing_in_windows::entryStaysWhenOnlyTheAccountIsChanged()
@@ -721,7 +721,7 @@ void tst_editing_in_windows::entryStaysWhenOnlyTheAccountIsChanged()
     // What the first window sends arrives before what the second one asks for.
     window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
@@ -739,7 +739,7 @@ void tst_editing_in_windows::entryStaysWhenSavedBeforeItCame()
     silence.end();
     window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
@@ -750,13 +750,13 @@ void tst_editing_in_windows::entryIsDeletedAfterAQuestion()
     QVERIFY(publishElsewhere(fullEntry("1")));
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     const auto answer = [&](QMessageBox::StandardButton button) {
         KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
-        if (!QTest::qWaitFor([this] { return windows->question(); }, patience))
+        if (!QTest::qWaitFor([this] { return windows->question(); }, kirvPatience))
             return false;
         KirvWindowDriver::click(windows->question()->button(button));
-        return QTest::qWaitFor([this] { return !windows->question(); }, patience);
+        return QTest::qWaitFor([this] { return !windows->question(); }, kirvPatience);
     };
 
     QVERIFY(answer(QMessageBox::No));
@@ -765,8 +765,8 @@ void tst_editing_in_windows::entryIsDeletedAfterAQuestion()
     QCOMPARE(seenEntry(), fullEntry("1"));
 
     QVERIFY(answer(QMessageBox::Yes));
-    TRY(seenEntry() == entryOf(QXmppVCardIq()));
-    TRY(!isLocked(window));
+    KIRV_TRY(seenEntry() == entryOf(QXmppVCardIq()));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), entryOf(QXmppVCardIq()));
 }
 
@@ -778,11 +778,11 @@ void tst_editing_in_windows::veryLongEntryOfTheServerIsKept()
     QVERIFY(publishElsewhere(entry));
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     entry["town"] = "Potsdam";
     paste(field(window, "town"), entry["town"]);
     QVERIFY(windows->save(window));
-    TRY(seenEntry() == entry);
+    KIRV_TRY(seenEntry() == entry);
 }
 
 void tst_editing_in_windows::tooLongTextIsRefused()
@@ -791,11 +791,11 @@ void tst_editing_in_windows::tooLongTextIsRefused()
     QVERIFY(publishElsewhere(fullEntry("1")));
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     paste(field(window, "about"), QString("A line of sixteen\n").repeated(1024 * 1024 / 18));
     clickSave(window);
-    TRY_SAYS(status(window), "too long");
-    TRY_SAYS(windows->problem(ann), "too long");
+    KIRV_TRY_CONTAINS(status(window), "too long");
+    KIRV_TRY_CONTAINS(windows->problem(ann), "too long");
     QVERIFY(window->isVisible() && !isLocked(window));
     QVERIFY(isConnected(ann));
     QCOMPARE(seenEntry(), fullEntry("1"));
@@ -818,7 +818,7 @@ void tst_editing_in_windows::fieldsAreLockedUntilTheAccountIsConnected()
         manager->disableAccount(ann, xmpp);
     else
         goTo("offline");
-    TRY(!server.isOnline("ann"));
+    KIRV_TRY(!server.isOnline("ann"));
 
     QDialog *window = editDirectory();
     QVERIFY(window);
@@ -828,8 +828,8 @@ void tst_editing_in_windows::fieldsAreLockedUntilTheAccountIsConnected()
         manager->enableAccount(ann, xmpp);
     else
         goTo("available");
-    TRY(isConnected(ann));
-    TRY(!isLocked(window));
+    KIRV_TRY(isConnected(ann));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(status(window), QString());
 }
@@ -845,7 +845,7 @@ void tst_editing_in_windows::fieldsAreLockedWhileTheServerIsAsked()
     QVERIFY(isLocked(window));
     QVERIFY(!status(window).isEmpty() && !status(window).contains(mustBeConnected));
     silence.end();
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(status(window), QString());
 }
@@ -865,7 +865,7 @@ void tst_editing_in_windows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
     QVERIFY(isLocked(window));
     QVERIFY(!status(window).isEmpty());
     silence.end();
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(lockedAfterAnswers, (QList<bool> { true, false })); // the first request was replaced
     QCOMPARE(shownEntry(window), fullEntry("1"));
 }
@@ -878,7 +878,7 @@ void tst_editing_in_windows::serverThatDoesNotAnswerIsSaid()
     QVERIFY(silence.holds());
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!windows->problem(ann).isEmpty());
+    KIRV_TRY(!windows->problem(ann).isEmpty());
     QVERIFY(isLocked(window)); // what they would publish is based on nothing
     QCOMPARE(status(window), windows->problem(ann));
     QVERIFY(isConnected(ann));
@@ -891,27 +891,27 @@ void tst_editing_in_windows::serverKilledWhilePublishing()
     hurry();
     QDialog *window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     paste(field(window, "town"), "Potsdam");
     Silence silence(server);
     QVERIFY(silence.holds());
     clickSave(window);
     QVERIFY(window->isVisible());
     server.kill();
-    TRY(!isConnected(ann));
-    TRY(status(window).contains(mustBeConnected));
+    KIRV_TRY(!isConnected(ann));
+    KIRV_TRY(status(window).contains(mustBeConnected));
     QVERIFY(!windows->problem(ann).isEmpty());
     QCOMPARE(shownEntry(window)["town"], QString("Potsdam"));
 
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    TRY(isConnected(ann));
+    KIRV_TRY(isConnected(ann));
     QVERIFY(!isLocked(window));
     QVERIFY(windows->save(window));
     Entry entry = fullEntry("1");
     entry["town"] = "Potsdam";
     window = editDirectory();
     QVERIFY(window);
-    TRY(!isLocked(window));
+    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), entry);
 }
 
@@ -934,16 +934,16 @@ void tst_editing_in_windows::windowGoesWithWhatItEdits()
     QVERIFY(window);
     QVERIFY(isLocked(window));
     KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     QPointer<KirvEditAccountDialog> controller = windows->client->accountsPage()->getAccEdit();
     QVERIFY(controller);
 
     go(*windows);
-    TRY(!window && !controller);
+    KIRV_TRY(!window && !controller);
     QVERIFY(!QApplication::activeModalWidget());
     silence.end();
     QVERIFY(!windows->client || !windows->client->accountsPage()->getAccEdit());
-    TRY(!server.isOnline("ann"));
+    KIRV_TRY(!server.isOnline("ann"));
 }
 
 void tst_editing_in_windows::connectionViewLeavesOneWindow()
@@ -957,13 +957,13 @@ void tst_editing_in_windows::connectionViewLeavesOneWindow()
     const auto editWindows = [this] {
         return windows->client->window()->findChildren<QDialog *>(QStringLiteral("EditAccount"));
     };
-    TRY(editWindows().size() == 1);
+    KIRV_TRY(editWindows().size() == 1);
     QDialog *window = windows->openEditWindow();
     QVERIFY(window);
     QCOMPARE(part<QLabel>(window, "EditAccount_Identifier")->text(), QString("bob@localhost (XMPP)"));
     KirvWindowDriver::type(alias(window), "Bob");
     QVERIFY(windows->save(window));
-    TRY(editWindows().isEmpty());
+    KIRV_TRY(editWindows().isEmpty());
     QVERIFY(!windows->client->accountsPage()->getAccEdit());
     QCOMPARE(windows->row(bob)->text(0), QString("Bob"));
     QCOMPARE(windows->row(ann)->text(0), ann);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "tests/support/xmpp/xmpp_observer.h"
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/system/kirv_tested_account.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -52,7 +52,7 @@ private:
     bool unloadWhileAdding(const QString &topName, const std::function<void(QDialog *)> &then = {});
 
     KirvProsodyServer server;
-    std::unique_ptr<XmppObserver> juliet;
+    std::unique_ptr<KirvObservingXmppClient> juliet;
     std::unique_ptr<KirvWindows> windows;
     std::unique_ptr<KirvTestedAccount> account;
 };
@@ -68,9 +68,9 @@ void tst_foreign_layouts::initTestCase()
 
 void tst_foreign_layouts::init()
 {
-    juliet = std::make_unique<XmppObserver>();
+    juliet = std::make_unique<KirvObservingXmppClient>();
     QVERIFY(juliet->logIn(server, "juliet"));
-    XmppObserver otherClient;
+    KirvObservingXmppClient otherClient;
     QXmppVCardIq card;
     card.setFullName("Ann Example");
     card.setDescription("About me");
@@ -108,7 +108,7 @@ QDialog *tst_foreign_layouts::edit(const QString &topName)
 {
     const bool isReady = KirvTestedAccount::replaceLayout(*windows, "EditAccount", topName)
         && account->create(secret, here, "available")
-        && QTest::qWaitFor([this] { return account->isConnected(); }, patience);
+        && QTest::qWaitFor([this] { return account->isConnected(); }, kirvPatience);
     return isReady ? account->openEditWindow() : nullptr;
 }
 
@@ -154,13 +154,13 @@ void tst_foreign_layouts::savingWithoutAChangePublishesNothing()
     QDialog *window = edit(topName);
     QVERIFY(window);
     KirvTestedAccount::pressSave(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
 
     // The reply to this request comes after the reply to whatever the first window has sent.
     window = account->openEditWindow();
     QVERIFY(window);
     KirvTestedAccount::showDirectory(window);
-    TRY(!KirvTestedAccount::isDirectoryLocked(window));
+    KIRV_TRY(!KirvTestedAccount::isDirectoryLocked(window));
     const QXmppVCardIq seen = juliet->vCardOf(ann);
     QCOMPARE(seen.fullName(), QString("Ann Example"));
     QCOMPARE(seen.description(), QString("About me"));
@@ -173,7 +173,7 @@ void tst_foreign_layouts::editWindowGoesWithItsAccount()
     const QPointer<QDialog> window = edit(topName);
     QVERIFY(window);
     account->remove();
-    TRY(KirvTestedAccount::isOutOfUse(window));
+    KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
 void tst_foreign_layouts::editWindowGoesWithItsProtocol()
@@ -182,7 +182,7 @@ void tst_foreign_layouts::editWindowGoesWithItsProtocol()
     const QPointer<QDialog> window = edit(topName);
     QVERIFY(window);
     QVERIFY(account->unloadProtocol());
-    TRY(KirvTestedAccount::isOutOfUse(window));
+    KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
 void tst_foreign_layouts::usingTheEditWindowAfterItsProtocolDoesNoHarm()
@@ -197,10 +197,10 @@ void tst_foreign_layouts::usingTheEditWindowAfterItsProtocolDoesNoHarm()
         KirvWindows::child<QTabWidget>(window, "EditAccount_Tabs")->setCurrentIndex(1);
     if (window && window->isVisible())
         KirvTestedAccount::saveButton(window)->click();
-    TRY(!window || !window->isVisible());
+    KIRV_TRY(!window || !window->isVisible());
 
     QVERIFY(account->loadProtocol(fileName));
-    TRY(account->isConnected());
+    KIRV_TRY(account->isConnected());
     QCOMPARE(account->alias(), ann);
     QCOMPARE(juliet->vCardOf(ann).fullName(), QString("Ann Example"));
 }

@@ -1,33 +1,23 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "core/accounts/kirv_account.h"
-#include "core/accounts/kirv_account_collection.h"
-#include "core/plugins/kirv_plugin_loader.h"
-#include "core/protocol/kirv_connection.h"
-#include "core/protocol/kirv_protocol_base.h"
-#include "core/store/kirv_store.h"
-#include "tests/support/irc/irc_observer.h"
-#include "tests/support/irc/scripted_irc_server.h"
+#include "tests/support/servers/kirv_observing_irc_client.h"
+#include "tests/support/servers/kirv_plugin_profile.h"
+#include "tests/support/servers/kirv_scripted_irc_server.h"
 #include "tools/servers/kirv_ngircd_server.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSslSocket>
 #include <QTcpServer>
-#include <QTest>
 #include <algorithm>
 #include <memory>
 #include <vector>
 
 Q_DECLARE_METATYPE(KirvFailure::Kind)
 
+using Values = KirvPluginProfile::Values;
+
 namespace {
-
-using Values = QMap<QString, QString>;
-
-/// Generous, for a busy machine; a test that works needs a fraction of it.
-const int patience = 15000;
 
 /// A server that can do nothing but prove who it is.
 class TlsServer : public QTcpServer {
@@ -65,7 +55,8 @@ QByteArray welcomeAndPong(const QByteArray &line)
 }
 
 /// The answers of a server that has SASL; \a judgement is the numeric that follows the credentials.
-ScriptedIrcServer::Script saslServer(const QByteArray &judgement, const QByteArray &capabilities = "multi-prefix sasl")
+KirvScriptedIrcServer::Script saslServer(const QByteArray &judgement,
+                                         const QByteArray &capabilities = "multi-prefix sasl")
 {
     return [judgement, capabilities](const QByteArray &line) -> QByteArray {
         if (line.startsWith("CAP LS"))
@@ -142,95 +133,49 @@ private Q_SLOTS:
     void saslIsNotOffered();
 
 private:
-    KirvAccount *createAccount(const QString &login, const Values &values, const QString &password = "secret");
     KirvAccount *createAccount(const KirvLocalServer &server, Values values = {}, const QString &password = "secret");
     KirvAccount *createAccount(const QTcpServer &server, Values values = {}, const QString &password = "secret");
-    KirvPresence presence(const QString &id, const QString &description = QString()) const;
-    void goTo(KirvAccount *account, const QString &presenceId, const QString &text = QString());
-    static KirvConnection::State state(KirvAccount *account) { return account->connection()->state(); }
-    static KirvFailure::Kind failure(KirvAccount *account) { return account->connection()->lastFailure().kind(); }
+    /// An account without encryption that is available; null when it does not get on line.
+    template <class Server>
+    KirvAccount *logIn(const Server &server);
     static Values plain() { return { { "encryption", "none" } }; }
 
-    std::unique_ptr<QTemporaryDir> profile;
-    std::unique_ptr<KirvStore> store;
-    std::unique_ptr<KirvPluginLoader> plugins;
-    std::unique_ptr<KirvAccountCollection> accounts;
-    KirvProtocolBase *protocol = nullptr;
+    std::unique_ptr<KirvPluginProfile> profile;
+    KirvProtocolBase *protocol = nullptr; ///< of the profile
 };
-
-#define TRY_STATE(account, expected) QTRY_COMPARE_WITH_TIMEOUT(state(account), KirvConnection::expected, patience)
-#define TRY_FAILURE(account, expected) QTRY_COMPARE_WITH_TIMEOUT(failure(account), KirvFailure::expected, patience)
 
 void TestIrcConnection::init()
 {
-    profile = std::make_unique<QTemporaryDir>();
-    store = std::make_unique<KirvStore>();
-    QVERIFY2(store->open(profile->filePath("profile")), qPrintable(store->lastError()));
-    plugins = std::make_unique<KirvPluginLoader>();
-    accounts = std::make_unique<KirvAccountCollection>(*store);
-    connect(plugins.get(), &KirvPluginLoader::protocolLoaded, accounts.get(),
-            [this](KirvProtocolBase *loaded) { accounts->protocolLoaded(loaded); });
-    connect(plugins.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, accounts.get(),
-            [this](KirvProtocolBase *leaving) { accounts->protocolAboutToBeUnloaded(leaving->getName()); });
-
-    // Alone in its folder, whatever other plug-ins the build has made.
-    const QString folder = profile->filePath("protocols");
-    QVERIFY(QDir().mkpath(folder) && QFile::copy(KIRV_IRC_PLUGIN, folder + "/kirv_protocol_irc.so"));
-    QVERIFY(plugins->loadFolder(folder));
-    protocol = plugins->protocol("IRC");
-    QVERIFY2(protocol, qPrintable(plugins->plugins().value(0).error));
+    profile = std::make_unique<KirvPluginProfile>(KIRV_IRC_PLUGIN, "IRC");
+    QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
+    protocol = profile->protocol();
 }
 
 void TestIrcConnection::cleanup()
 {
-    protocol = nullptr;
-    plugins.reset();
-    accounts.reset();
-    store.reset();
     profile.reset();
-}
-
-/// An account that is off line yet, and does not keep a test waiting.
-KirvAccount *TestIrcConnection::createAccount(const QString &login, const Values &values, const QString &password)
-{
-    QList<KirvField> fields = protocol->getAccountSettings();
-    for (KirvField &field : fields) {
-        if (values.contains(field.getId()))
-            field.setText(values[field.getId()]);
-    }
-    auto *account = static_cast<KirvAccount *>(KirvAccountManager::getInstance()->createAccount(
-        login, login, password, true, protocol, presence("offline"), fields));
-    KirvConnection::Timing timing;
-    timing.loginTimeout = patience;
-    timing.backOff.first = 50;
-    timing.backOff.last = 200;
-    account->connection()->setTiming(timing);
-    return account;
 }
 
 KirvAccount *TestIrcConnection::createAccount(const KirvLocalServer &server, Values values, const QString &password)
 {
     values.insert("server", server.host());
     values.insert("port", QString::number(server.port()));
-    return createAccount("alice", values, password);
+    return profile->createAccount("alice", values, password);
 }
 
 KirvAccount *TestIrcConnection::createAccount(const QTcpServer &server, Values values, const QString &password)
 {
     values.insert("server", server.serverAddress().toString());
     values.insert("port", QString::number(server.serverPort()));
-    return createAccount("alice", values, password);
+    return profile->createAccount("alice", values, password);
 }
 
-KirvPresence TestIrcConnection::presence(const QString &id, const QString &description) const
+template <class Server>
+KirvAccount *TestIrcConnection::logIn(const Server &server)
 {
-    return protocol->createPresenceWithId(id, description);
-}
-
-void TestIrcConnection::goTo(KirvAccount *account, const QString &presenceId, const QString &text)
-{
-    account->setPresence(presence(presenceId, text));
-    protocol->accountPresenceChanged(account);
+    KirvAccount *account = createAccount(server, plain());
+    profile->goTo(account, "available");
+    return QTest::qWaitFor([account] { return account->isOnline(); }, kirvPatience) ? account : nullptr;
 }
 
 void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork_data()
@@ -261,7 +206,7 @@ void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork()
 void TestIrcConnection::configurationsFillTheForm()
 {
     QVERIFY(protocol->getConfigurations().size() >= 5);
-    const int expected = protocol->getAccountSettings().size();
+    const int expected = protocol->accountSettings().size();
     for (const QString &name : protocol->getConfigurations()) {
         Values values;
         for (const KirvField &field : protocol->getConfigurationFields(name))
@@ -315,10 +260,10 @@ void TestIrcConnection::unusableSettingsAreSaid()
 {
     QFETCH(QString, login);
     QFETCH(Values, values);
-    KirvAccount *account = createAccount(login, values);
-    goTo(account, "available");
-    TRY_FAILURE(account, BadSettings);
-    TRY_STATE(account, Offline);
+    KirvAccount *account = profile->createAccount(login, values);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, BadSettings);
+    KIRV_TRY_STATE(account, Offline);
     QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
 }
 
@@ -339,26 +284,26 @@ void TestIrcConnection::logsInAndOut()
         createAccount(server, encrypted ? Values { { "certificate", server.certificateFile() } } : plain());
     QSignalSpy notices(account->connection(), &KirvConnection::noticeReceived);
 
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
     QCOMPARE(failure(account), KirvFailure::None);
     QVERIFY(notices.isEmpty());
 
-    goTo(account, "offline");
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "offline");
+    KIRV_TRY_STATE(account, Offline);
     QCOMPARE(failure(account), KirvFailure::None);
-    QTRY_VERIFY2_WITH_TIMEOUT(server.output().contains("Got QUIT command"), qPrintable(server.output()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(server.output().contains("Got QUIT command"), qPrintable(server.output()), kirvPatience);
 }
 
 void TestIrcConnection::loginNamesTheServerWhenNoSettingDoes()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    KirvAccount *account =
-        createAccount("alice@127.0.0.1", { { "port", QString::number(server.port()) }, { "encryption", "none" } });
-    goTo(account, "available");
-    TRY_STATE(account, Online);
-    IrcObserver bob;
+    KirvAccount *account = profile->createAccount(
+        "alice@127.0.0.1", { { "port", QString::number(server.port()) }, { "encryption", "none" } });
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, "bob"));
     QVERIFY(bob.sees("alice"));
 }
@@ -369,9 +314,9 @@ void TestIrcConnection::untrustedCertificateIsRefused()
     server.setEncrypted(true);
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server);
-    goTo(account, "available");
-    TRY_FAILURE(account, UntrustedCertificate);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, UntrustedCertificate);
+    KIRV_TRY_STATE(account, Offline);
     QVERIFY(!server.output().contains("alice"));
 }
 
@@ -384,18 +329,18 @@ void TestIrcConnection::certificateForAnotherNameIsRefused()
     TlsServer other(server.certificateFile(), server.folder() + "/key.pem");
     QVERIFY2(other.listen(QHostAddress("127.0.0.2")), qPrintable(other.errorString()));
     KirvAccount *account = createAccount(other, { { "certificate", server.certificateFile() } });
-    goTo(account, "available");
-    TRY_FAILURE(account, UntrustedCertificate);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, UntrustedCertificate);
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::serverWithoutEncryptionIsRefused()
 {
-    ScriptedIrcServer server(nullptr, ":server NOTICE * :*** Looking up your name\r\n");
+    KirvScriptedIrcServer server(nullptr, ":server NOTICE * :*** Looking up your name\r\n");
     KirvAccount *account = createAccount(server);
-    goTo(account, "available");
-    TRY_FAILURE(account, EncryptionNotOffered);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, EncryptionNotOffered);
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::takenNickIsReplaced_data()
@@ -419,14 +364,14 @@ void TestIrcConnection::takenNickIsReplaced()
     QFETCH(QString, expected);
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    std::vector<IrcObserver> others(taken.size());
+    std::vector<KirvObservingIrcClient> others(taken.size());
     for (int i = 0; i < taken.size(); ++i)
         QVERIFY(others[i].logIn(server, taken[i]));
 
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "alternative_nicks", alternatives } });
     QSignalSpy notices(account->connection(), &KirvConnection::noticeReceived);
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
     QVERIFY(others[0].sees(expected));
     QTRY_COMPARE(notices.size(), 1);
     QVERIFY(notices[0][0].toString().contains(QString("“%1”").arg(expected)));
@@ -437,14 +382,14 @@ void TestIrcConnection::allNicksTaken()
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     const QStringList taken { "alice", "alice2", "alice_", "alice__", "alice___" };
-    std::vector<IrcObserver> others(taken.size());
+    std::vector<KirvObservingIrcClient> others(taken.size());
     for (int i = 0; i < taken.size(); ++i)
         QVERIFY(others[i].logIn(server, taken[i]));
 
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "alternative_nicks", "alice2" } });
-    goTo(account, "available");
-    TRY_FAILURE(account, NameInUse);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, NameInUse);
+    KIRV_TRY_STATE(account, Offline);
     QCOMPARE(account->connection()->lastFailure().detail(), QString("alice"));
 }
 
@@ -454,9 +399,9 @@ void TestIrcConnection::nickThatTheServerRefuses()
     server.setMaximumNickLength(4);
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "alternative_nicks", "al" } });
-    goTo(account, "available");
-    TRY_FAILURE(account, NameNotAllowed);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, NameNotAllowed);
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::serverPassword_data()
@@ -483,20 +428,19 @@ void TestIrcConnection::serverPassword()
     server.setPassword("open : sesame");
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, password);
-    goTo(account, "available");
-    QTRY_VERIFY_WITH_TIMEOUT(failure(account) != KirvFailure::None || state(account) == KirvConnection::Online,
-                             patience);
+    profile->goTo(account, "available");
+    KIRV_TRY(failure(account) != KirvFailure::None || state(account) == KirvConnection::Online);
     QCOMPARE(failure(account), expected);
     if (expected != KirvFailure::None)
-        TRY_STATE(account, Offline);
+        KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::passwordIsKeptWhenItIsNotUsed()
 {
-    ScriptedIrcServer server(welcome);
+    KirvScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, plain(), "topsecret");
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
     QVERIFY(server.hasReceived("NICK alice"));
     QVERIFY(!server.hasReceived("PASS") && !server.hasReceived("topsecret"));
 }
@@ -514,12 +458,12 @@ void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
 {
     QFETCH(QString, use);
     QFETCH(bool, isAskedFor);
-    ScriptedIrcServer server(welcome);
+    KirvScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", use } }, QString());
     qRegisterMetaType<KirvAccount *>();
-    QSignalSpy questions(accounts.get(), &KirvAccountCollection::passwordNeeded);
-    goTo(account, "available");
-    QTRY_VERIFY_WITH_TIMEOUT(!questions.isEmpty() || state(account) == KirvConnection::Online, patience);
+    QSignalSpy questions(&profile->accounts(), &KirvAccountCollection::passwordNeeded);
+    profile->goTo(account, "available");
+    KIRV_TRY(!questions.isEmpty() || state(account) == KirvConnection::Online);
     QCOMPARE(!questions.isEmpty(), isAskedFor);
     QCOMPARE(server.linesWith("NICK").isEmpty(), isAskedFor);
 }
@@ -545,15 +489,13 @@ void TestIrcConnection::awayIsSeenByOthers()
     QFETCH(QString, text);
     QFETCH(QString, seen);
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
-    IrcObserver bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    KirvObservingIrcClient bob;
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
 
-    goTo(account, "away", text);
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), seen, patience);
+    profile->goTo(account, "away", text);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), seen);
     QCOMPARE(state(account), KirvConnection::Online);
     QVERIFY(bob.sees("alice"));
 }
@@ -561,42 +503,37 @@ void TestIrcConnection::awayIsSeenByOthers()
 void TestIrcConnection::backIsSeenByOthers()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
-    IrcObserver bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_STATE(account, Online);
-    goTo(account, "away", "Lunch");
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Lunch"), patience);
-    goTo(account, "available", "This is not sent");
-    QTRY_VERIFY_WITH_TIMEOUT(bob.awayTextOf("alice").isNull(), patience);
+    KirvObservingIrcClient bob;
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
+    profile->goTo(account, "away", "Lunch");
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Lunch"));
+    profile->goTo(account, "available", "This is not sent");
+    KIRV_TRY(bob.awayTextOf("alice").isNull());
     QVERIFY(bob.sees("alice"));
 }
 
 void TestIrcConnection::arrivesAway()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
-    IrcObserver bob;
-    QVERIFY(bob.logIn(server, "bob"));
+    KirvObservingIrcClient bob;
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server, plain());
-    goTo(account, "away", "Still asleep");
-    TRY_STATE(account, Online);
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Still asleep"), patience);
+    profile->goTo(account, "away", "Still asleep");
+    KIRV_TRY_STATE(account, Online);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Still asleep"));
 }
 
 void TestIrcConnection::longAwayTextKeepsTheConnection()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
-    IrcObserver bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_STATE(account, Online);
-    goTo(account, "away", QString(1000000, QChar(0x65e5)));
-    QTRY_VERIFY_WITH_TIMEOUT(bob.awayTextOf("alice").startsWith(QString(30, QChar(0x65e5))), patience);
+    KirvObservingIrcClient bob;
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
+    profile->goTo(account, "away", QString(1000000, QChar(0x65e5)));
+    KIRV_TRY(bob.awayTextOf("alice").startsWith(QString(30, QChar(0x65e5))));
     QCOMPARE(state(account), KirvConnection::Online);
 }
 
@@ -605,78 +542,77 @@ void TestIrcConnection::killedServerIsReachedAgain()
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     KirvAccount *account = createAccount(server, plain());
-    goTo(account, "away", "Out");
-    TRY_STATE(account, Online);
+    profile->goTo(account, "away", "Out");
+    KIRV_TRY_STATE(account, Online);
 
     QSignalSpy failures(account->connection(), &KirvConnection::failed);
     server.kill();
-    TRY_STATE(account, Waiting);
+    KIRV_TRY_STATE(account, Waiting);
     QCOMPARE(failures.value(0).value(0).value<KirvFailure>().kind(), KirvFailure::ConnectionLost);
 
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
     QCOMPARE(failure(account), KirvFailure::None);
-    IrcObserver bob;
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, "bob"));
-    QTRY_COMPARE_WITH_TIMEOUT(bob.awayTextOf("alice"), QString("Out"), patience);
+    KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Out"));
 }
 
 void TestIrcConnection::stoppedServerSaysGoodbye()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
 
     QSignalSpy failures(account->connection(), &KirvConnection::failed);
     server.stop();
-    QTRY_VERIFY_WITH_TIMEOUT(!failures.isEmpty(), patience);
+    KIRV_TRY(!failures.isEmpty());
     QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::ServerShutDown);
-    goTo(account, "offline");
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "offline");
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::hungServerTimesOut()
 {
-    ScriptedIrcServer server(nullptr);
+    KirvScriptedIrcServer server(nullptr);
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.loginTimeout = 100;
-    timing.backOff.first = patience;
+    timing.backOff.first = kirvPatience;
     account->connection()->setTiming(timing);
-    goTo(account, "available");
-    TRY_FAILURE(account, TimedOut);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, TimedOut);
     QCOMPARE(state(account), KirvConnection::Waiting);
     QVERIFY(server.hasReceived("NICK alice"));
 }
 
 void TestIrcConnection::serverThatFallsSilentIsLost()
 {
-    ScriptedIrcServer server(welcome);
+    KirvScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.requestTimeout = 50;
-    timing.backOff.first = patience;
+    timing.backOff.first = kirvPatience;
     account->connection()->setTiming(timing);
-    goTo(account, "available");
-    TRY_STATE(account, Online);
-    TRY_FAILURE(account, ConnectionLost);
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
+    KIRV_TRY_FAILURE(account, ConnectionLost);
     QVERIFY(server.hasReceived("PING"));
     QCOMPARE(state(account), KirvConnection::Waiting);
 }
 
 void TestIrcConnection::quietServerIsKept()
 {
-    ScriptedIrcServer server(welcomeAndPong);
+    KirvScriptedIrcServer server(welcomeAndPong);
     KirvAccount *account = createAccount(server, plain());
     KirvConnection::Timing timing = account->connection()->timing();
     timing.requestTimeout = 200;
     account->connection()->setTiming(timing);
     QSignalSpy failures(account->connection(), &KirvConnection::failed);
-    goTo(account, "available");
+    profile->goTo(account, "available");
     const auto pings = [&server] { return server.linesWith("PING").size(); };
-    QTRY_VERIFY_WITH_TIMEOUT(pings() >= 2, patience);
+    KIRV_TRY(pings() >= 2);
     QCOMPARE(state(account), KirvConnection::Online);
     QVERIFY(failures.isEmpty());
 }
@@ -687,20 +623,20 @@ void TestIrcConnection::nobodyListens()
     QVERIFY(server.listen(QHostAddress::LocalHost));
     KirvAccount *account = createAccount(server, plain());
     server.close();
-    goTo(account, "available");
-    TRY_FAILURE(account, ConnectionRefused);
-    goTo(account, "offline");
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, ConnectionRefused);
+    profile->goTo(account, "offline");
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::serverIsNotFound()
 {
     // A label of more than 63 characters is no name: nobody has to be asked.
-    KirvAccount *account = createAccount("alice", { { "server", QString(70, 'a') + ".invalid" } });
-    goTo(account, "available");
-    TRY_FAILURE(account, HostNotFound);
-    goTo(account, "offline");
-    TRY_STATE(account, Offline);
+    KirvAccount *account = profile->createAccount("alice", { { "server", QString(70, 'a') + ".invalid" } });
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, HostNotFound);
+    profile->goTo(account, "offline");
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::bannedUserStaysOut_data()
@@ -713,49 +649,47 @@ void TestIrcConnection::bannedUserStaysOut_data()
 void TestIrcConnection::bannedUserStaysOut()
 {
     QFETCH(QByteArray, answer);
-    ScriptedIrcServer server([answer](const QByteArray &line) { return line.startsWith("USER ") ? answer : ""; });
+    KirvScriptedIrcServer server([answer](const QByteArray &line) { return line.startsWith("USER ") ? answer : ""; });
     KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_FAILURE(account, AccessDenied);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, AccessDenied);
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestIrcConnection::serverThatIsBusyIsTriedAgain()
 {
     bool busy = true;
-    ScriptedIrcServer server([&busy](const QByteArray &line) {
+    KirvScriptedIrcServer server([&busy](const QByteArray &line) {
         return busy && line.startsWith("USER ") ? "ERROR :Closing Link: Reconnecting too fast\r\n" : welcome(line);
     });
     KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_FAILURE(account, ServerShutDown);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, ServerShutDown);
     busy = false;
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
 }
 
 void TestIrcConnection::removedAccountLeavesTheServer()
 {
     KirvNgircdServer server;
-    QVERIFY2(server.start(), qPrintable(server.errorString()));
-    IrcObserver bob;
-    QVERIFY(bob.logIn(server, "bob"));
-    KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    KirvObservingIrcClient bob;
+    QVERIFY2(server.start() && bob.logIn(server, "bob"), qPrintable(server.errorString()));
+    KirvAccount *account = logIn(server);
+    QVERIFY(account);
     QVERIFY(bob.sees("alice"));
     KirvAccountManager::getInstance()->removeAccount("alice", "IRC");
-    QTRY_VERIFY_WITH_TIMEOUT(!bob.sees("alice"), patience);
+    KIRV_TRY(!bob.sees("alice"));
 }
 
 void TestIrcConnection::othersLearnTheNameOfTheProgram()
 {
-    ScriptedIrcServer server([](const QByteArray &line) {
+    KirvScriptedIrcServer server([](const QByteArray &line) {
         return line.startsWith("AWAY") ? ":bob!b@host PRIVMSG alice :\1VERSION\1\r\n" : welcome(line);
     });
     KirvAccount *account = createAccount(server, plain());
-    goTo(account, "available");
+    profile->goTo(account, "available");
     const QByteArray answer = "NOTICE bob :\1VERSION " + QCoreApplication::applicationName().toUtf8() + '\1';
-    QTRY_VERIFY_WITH_TIMEOUT(server.hasReceived(answer), patience);
+    KIRV_TRY(server.hasReceived(answer));
 }
 
 void TestIrcConnection::saslLogsIn_data()
@@ -777,11 +711,11 @@ void TestIrcConnection::saslLogsIn()
     QFETCH(QString, user);
     QFETCH(QString, password);
     QFETCH(QByteArray, capabilities);
-    ScriptedIrcServer server(saslServer("903", capabilities));
+    KirvScriptedIrcServer server(saslServer("903", capabilities));
     const Values values { { "encryption", "none" }, { "password_use", "sasl" }, { "sasl_user", user } };
     KirvAccount *account = createAccount(server, values, password);
-    goTo(account, "available");
-    TRY_STATE(account, Online);
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
 
     QByteArray credentials;
     for (const QByteArray &line : server.linesWith("AUTHENTICATE ")) {
@@ -797,11 +731,11 @@ void TestIrcConnection::saslLogsIn()
 
 void TestIrcConnection::saslPasswordIsRefused()
 {
-    ScriptedIrcServer server(saslServer("904"));
+    KirvScriptedIrcServer server(saslServer("904"));
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", "sasl" } });
-    goTo(account, "available");
-    TRY_FAILURE(account, WrongPassword);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, WrongPassword);
+    KIRV_TRY_STATE(account, Offline);
     QVERIFY(!server.hasReceived("CAP END"));
 }
 
@@ -821,7 +755,7 @@ void TestIrcConnection::saslIsNotOffered()
 {
     QFETCH(QByteArray, answerToList);
     QFETCH(QByteArray, answerToRequest);
-    ScriptedIrcServer server([=](const QByteArray &line) {
+    KirvScriptedIrcServer server([=](const QByteArray &line) {
         if (line.startsWith("CAP LS"))
             return answerToList;
         return line.startsWith("CAP REQ")  ? answerToRequest
@@ -830,9 +764,9 @@ void TestIrcConnection::saslIsNotOffered()
     });
     const Values values { { "encryption", "none" }, { "password_use", "sasl" } };
     KirvAccount *account = createAccount(server, values, "topsecret");
-    goTo(account, "available");
-    TRY_FAILURE(account, AuthenticationNotOffered);
-    TRY_STATE(account, Offline);
+    profile->goTo(account, "available");
+    KIRV_TRY_FAILURE(account, AuthenticationNotOffered);
+    KIRV_TRY_STATE(account, Offline);
     QVERIFY(!server.hasReceived("topsecret") && !server.hasReceived(QByteArray("\0alice\0topsecret", 16).toBase64()));
 }
 

@@ -2,8 +2,8 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_account_manager.h"
-#include "tests/support/irc/irc_observer.h"
-#include "tests/support/irc/scripted_irc_server.h"
+#include "tests/support/servers/kirv_observing_irc_client.h"
+#include "tests/support/servers/kirv_scripted_irc_server.h"
 #include "tests/system/kirv_windows.h"
 #include "tools/servers/kirv_ngircd_server.h"
 #include "tools/servers/kirv_prosody_server.h"
@@ -171,7 +171,7 @@ void tst_irc_in_windows::networksFillTheForm()
     for (const QString &network : qAsConst(networks))
         QVERIFY2(network.endsWith(QLatin1String(" 6697 ") + required), qPrintable(network));
     // The last one that was chosen is the one that counts.
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
 }
 
 void tst_irc_in_windows::addedAccountIsLoggedIn_data()
@@ -196,17 +196,17 @@ void tst_irc_in_windows::addedAccountIsLoggedIn()
     }));
     QVERIFY(windows->row(alice));
     QCOMPARE(windows->row(alice)->checkState(0), Qt::Checked);
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->messages(), QString());
-    IrcObserver bob;
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, QStringLiteral("bob")));
     QVERIFY(bob.sees(alice));
 
     windows->quit();
-    TRY(!bob.sees(alice));
+    KIRV_TRY(!bob.sees(alice));
     QVERIFY(windows->start());
-    TRY(isConnected(alice));
-    TRY(bob.sees(alice));
+    KIRV_TRY(isConnected(alice));
+    KIRV_TRY(bob.sees(alice));
 }
 
 void tst_irc_in_windows::editWindowHasNoDirectory()
@@ -214,7 +214,7 @@ void tst_irc_in_windows::editWindowHasNoDirectory()
     KirvNgircdServer server;
     QVERIFY(start(server));
     QVERIFY(addAlice());
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QDialog *window = windows->edit(alice);
     QVERIFY(window);
     QCOMPARE(KirvWindows::child<QTabWidget>(window, "EditAccount_Tabs")->count(), 1);
@@ -231,14 +231,14 @@ void tst_irc_in_windows::disabledAccountSaysGoodbye()
     KirvNgircdServer server;
     QVERIFY(start(server));
     QVERIFY(addAlice());
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     windows->toggle(alice);
-    TRY(windows->question());
+    KIRV_TRY(windows->question());
     QVERIFY(windows->question()->text().contains(alice) && windows->question()->text().contains(irc));
     QVERIFY(!server.output().contains(QLatin1String("Got QUIT command")));
     KirvWindowDriver::click(windows->question()->button(QMessageBox::Yes));
-    TRY(windows->state(alice) == QLatin1String("Disabled"));
-    TRY(server.output().contains(QLatin1String("Got QUIT command")));
+    KIRV_TRY(windows->state(alice) == QLatin1String("Disabled"));
+    KIRV_TRY(server.output().contains(QLatin1String("Got QUIT command")));
     QCOMPARE(windows->row(alice)->checkState(0), Qt::Unchecked);
 }
 
@@ -247,20 +247,20 @@ void tst_irc_in_windows::awayAndBackAreSeenByOthers()
     KirvNgircdServer server;
     QVERIFY(start(server));
     QVERIFY(addAlice());
-    TRY(isConnected(alice));
-    IrcObserver bob;
+    KIRV_TRY(isConnected(alice));
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, QStringLiteral("bob")));
     QVERIFY(bob.awayTextOf(alice).isNull());
 
     QVERIFY(windows->goTo(alice, QStringLiteral("Away")));
-    TRY(bob.awayTextOf(alice) == QLatin1String("Away"));
+    KIRV_TRY(bob.awayTextOf(alice) == QLatin1String("Away"));
     QVERIFY(windows->goTo(alice, QStringLiteral("Available")));
-    TRY(bob.awayTextOf(alice).isNull());
+    KIRV_TRY(bob.awayTextOf(alice).isNull());
     QVERIFY(isConnected(alice));
 
     QVERIFY(windows->goTo(alice, QStringLiteral("Offline")));
-    TRY(!bob.sees(alice));
-    TRY(windows->state(alice) == QLatin1String("Off line"));
+    KIRV_TRY(!bob.sees(alice));
+    KIRV_TRY(windows->state(alice) == QLatin1String("Off line"));
     QCOMPARE(windows->problem(alice), QString());
 }
 
@@ -269,7 +269,7 @@ void tst_irc_in_windows::defaultPresenceIsSeenByOthers()
     KirvNgircdServer server;
     QVERIFY(start(server));
     QVERIFY(addAlice(remember));
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QDialog *window = windows->edit(alice);
     QVERIFY(window);
     auto *choice = KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo");
@@ -282,8 +282,8 @@ void tst_irc_in_windows::defaultPresenceIsSeenByOthers()
     QVERIFY(windows->save(window));
 
     QVERIFY(windows->start());
-    TRY(isConnected(alice));
-    IrcObserver bob;
+    KIRV_TRY(isConnected(alice));
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, QStringLiteral("bob")));
     QCOMPARE(bob.awayTextOf(alice), QStringLiteral("Gone fishing"));
 }
@@ -292,14 +292,14 @@ void tst_irc_in_windows::takenNickIsReplacedAndSaid()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
-    IrcObserver other;
+    KirvObservingIrcClient other;
     QVERIFY(other.logIn(server, alice));
     QVERIFY(addAlice([](QWidget *window) {
         KirvWindows::fill(window, QStringLiteral("alternative_nicks"), QStringLiteral("wonderland"));
     }));
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QVERIFY(other.sees(QStringLiteral("wonderland")));
-    TRY_SAYS(windows->messages(), "wonderland");
+    KIRV_TRY_CONTAINS(windows->messages(), "wonderland");
     QVERIFY(windows->messages().startsWith(alice + QLatin1String(": ")));
     QCOMPARE(windows->problem(alice), QString());
 }
@@ -309,19 +309,19 @@ void tst_irc_in_windows::allNicksTakenIsSaid()
     KirvNgircdServer server;
     QVERIFY(start(server));
     const QStringList taken { alice, QStringLiteral("alice_"), QStringLiteral("alice__"), QStringLiteral("alice___") };
-    std::vector<IrcObserver> others(taken.size());
+    std::vector<KirvObservingIrcClient> others(taken.size());
     for (int i = 0; i < taken.size(); ++i)
         QVERIFY(others[i].logIn(server, taken[i]));
     QVERIFY(addAlice());
-    TRY_SAYS(windows->problem(alice), "already in use");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "already in use");
     QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
 
-    IrcObserver bob;
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, QStringLiteral("bob")));
     others.clear();
-    TRY(!bob.sees(alice));
+    KIRV_TRY(!bob.sees(alice));
     windows->reconnect(alice);
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
     QVERIFY(bob.sees(alice));
 }
@@ -332,13 +332,13 @@ void tst_irc_in_windows::nickThatTheServerRefusesIsSaid()
     server.setMaximumNickLength(4);
     QVERIFY(start(server));
     QVERIFY(addAlice());
-    TRY_SAYS(windows->problem(alice), "does not allow the name \"alice\"");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "does not allow the name \"alice\"");
     QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
 }
 
 void tst_irc_in_windows::textThatIsNoNickCannotBeTyped()
 {
-    ScriptedIrcServer silent(nullptr);
+    KirvScriptedIrcServer silent(nullptr);
     use(silent);
     QString typed;
     QVERIFY(addAlice([&typed](QWidget *window) {
@@ -358,15 +358,15 @@ void tst_irc_in_windows::wrongServerPasswordIsSaidAndCorrected()
         KirvWindows::fill(window, QStringLiteral("password_use"), passwordOfServer);
     };
     QVERIFY(addAlice(useForServer, QStringLiteral("mistyped")));
-    TRY_SAYS(windows->problem(alice), "denied");
-    TRY_SAYS(windows->problem(alice), "password");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "denied");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "password");
     QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
 
     QDialog *window = windows->edit(alice);
     QVERIFY(window);
     KirvWindowDriver::type(KirvWindows::child<QLineEdit>(window, "EditAccount_Password"), QStringLiteral("sesame"));
     QVERIFY(windows->save(window));
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
 }
 
@@ -376,7 +376,7 @@ void tst_irc_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
     server.setEncrypted(true);
     QVERIFY(start(server));
     QVERIFY(addAlice([](QWidget *window) { KirvWindows::fill(window, QStringLiteral("encryption"), required); }));
-    TRY_SAYS(windows->problem(alice), "certificate");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "certificate");
     QCOMPARE(windows->state(alice), QStringLiteral("Off line"));
 
     QDialog *window = windows->edit(alice);
@@ -384,7 +384,7 @@ void tst_irc_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
     KirvWindows::fill(window, QStringLiteral("certificate"), server.certificateFile());
     QVERIFY(windows->save(window));
     windows->reconnect(alice);
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
 }
 
@@ -393,49 +393,49 @@ void tst_irc_in_windows::killedServerIsReachedAgain()
     KirvNgircdServer server;
     QVERIFY(start(server));
     QVERIFY(addAlice());
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     windows->hurry(alice);
     server.kill();
-    TRY(!isConnected(alice));
-    TRY(!windows->problem(alice).isEmpty());
+    KIRV_TRY(!isConnected(alice));
+    KIRV_TRY(!windows->problem(alice).isEmpty());
 
     QVERIFY(start(server));
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
-    IrcObserver bob;
+    KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, QStringLiteral("bob")));
     QVERIFY(bob.sees(alice));
 }
 
 void tst_irc_in_windows::hungServerIsSaid()
 {
-    ScriptedIrcServer silent(nullptr);
+    KirvScriptedIrcServer silent(nullptr);
     use(silent);
     QVERIFY(addAlice());
     QCOMPARE(windows->state(alice), QStringLiteral("Connecting…"));
     windows->hurry(alice);
     windows->reconnect(alice);
-    TRY_SAYS(windows->problem(alice), "did not answer in time");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "did not answer in time");
     QVERIFY(!isConnected(alice));
     // The window still answers, and the account is told to stop trying at once.
     windows->showPage(0);
     windows->toggle(alice);
-    TRY(windows->state(alice) == QLatin1String("Disabled"));
+    KIRV_TRY(windows->state(alice) == QLatin1String("Disabled"));
 }
 
 void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
 {
     bool isAwake = false;
-    ScriptedIrcServer server([&isAwake](const QByteArray &line) { return isAwake ? welcome(line) : QByteArray(); });
+    KirvScriptedIrcServer server([&isAwake](const QByteArray &line) { return isAwake ? welcome(line) : QByteArray(); });
     use(server);
     QVERIFY(addAlice());
     windows->hurry(alice);
-    TRY(server.hasReceived("USER "));
+    KIRV_TRY(server.hasReceived("USER "));
     server.hangUp();
-    TRY_SAYS(windows->problem(alice), "lost");
+    KIRV_TRY_CONTAINS(windows->problem(alice), "lost");
     QVERIFY(!isConnected(alice));
     isAwake = true;
-    TRY(isConnected(alice));
+    KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
 }
 
@@ -452,22 +452,22 @@ void tst_irc_in_windows::bothProtocolsSideBySide()
 
     QVERIFY(windows->add(xmpp, here, ann, secret, remember));
     QVERIFY(addAlice(remember));
-    TRY(isConnected(ann) && isConnected(alice));
+    KIRV_TRY(isConnected(ann) && isConnected(alice));
     windows->showPage(0);
-    TRY(windows->selector()->count() == 2);
+    KIRV_TRY(windows->selector()->count() == 2);
     // What is current there without the user's choice is no main account yet.
     KirvWindowDriver::choose(windows->selector(), ann);
     KirvWindowDriver::choose(windows->selector(), alice);
-    TRY_SAYS(windows->title(), "alice");
+    KIRV_TRY_CONTAINS(windows->title(), "alice");
 
     QVERIFY(windows->start());
-    TRY(isConnected(ann) && isConnected(alice));
+    KIRV_TRY(isConnected(ann) && isConnected(alice));
     QCOMPARE(windows->list()->topLevelItemCount(), 2);
     QCOMPARE(windows->row(ann)->text(1), xmpp);
     QCOMPARE(windows->row(alice)->text(1), irc);
     QVERIFY(KirvAccountManager::getInstance()->getMainAccount() == windows->account(alice));
-    TRY_SAYS(windows->title(), "alice");
-    TRY(windows->selector()->currentText() == alice);
+    KIRV_TRY_CONTAINS(windows->title(), "alice");
+    KIRV_TRY(windows->selector()->currentText() == alice);
 }
 
 QTEST_MAIN(tst_irc_in_windows)

@@ -76,12 +76,12 @@ void tst_odd_protocol_names::saveIsOneChange()
     StoreRefusal refusal(windows->profileFolder(), "NEW.alias = 'Refused'");
     QVERIFY(refusal.holds());
     KirvTestedAccount::pressSave(window);
-    TRY(windows->question() || !KirvTestedAccount::editWindow());
+    KIRV_TRY(windows->question() || !KirvTestedAccount::editWindow());
     QVERIFY2(KirvTestedAccount::editWindow(), "The window is closed although its changes are not stored.");
     QVERIFY(account->confirmRefusedSave());
     QCOMPARE(account->password(), QString("old"));
     KirvTestedAccount::pressCancel(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
 
     QVERIFY(windows->start());
     QVERIFY(account->loadProtocol(pluginFile));
@@ -94,7 +94,7 @@ void tst_odd_protocol_names::editWindowGoesWithItsAccount()
     const QPointer<QDialog> window = edit();
     QVERIFY(window);
     account->remove();
-    TRY(KirvTestedAccount::isOutOfUse(window));
+    KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
 void tst_odd_protocol_names::editWindowGoesWithItsProtocol()
@@ -102,7 +102,7 @@ void tst_odd_protocol_names::editWindowGoesWithItsProtocol()
     const QPointer<QDialog> window = edit();
     QVERIFY(window);
     QVERIFY(account->unloadProtocol());
-    TRY(KirvTestedAccount::isOutOfUse(window));
+    KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
 QTEST_MAIN(tst_odd_protocol_names)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/servers/kirv_scripted_session_server.h"
 #include "tests/support/store_refusal.h"
-#include "tests/support/xmpp/xmpp_session_server.h"
 #include "tests/system/kirv_tested_account.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -54,7 +54,7 @@ QDialog *tst_password_on_server::edit(const QString &configuration, quint16 port
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(port));
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", certificate.toLocal8Bit());
     const bool isReady = account->create(secret, configuration, "available")
-        && QTest::qWaitFor([this] { return account->isConnected(); }, patience);
+        && QTest::qWaitFor([this] { return account->isConnected(); }, kirvPatience);
     return isReady ? account->openEditWindow() : nullptr;
 }
 
@@ -69,17 +69,17 @@ void tst_password_on_server::newPasswordIsKeptWhenTheStoreRefusesIt()
         QVERIFY(refusal.holds());
         QVERIFY(account->changePasswordOnServer(window, fresh));
         KirvTestedAccount::pressCancel(window);
-        TRY(!KirvTestedAccount::editWindow());
+        KIRV_TRY(!KirvTestedAccount::editWindow());
         QCOMPARE(account->password(), fresh);
         windows->reconnect(ann);
-        TRY(account->isConnected());
+        KIRV_TRY(account->isConnected());
     }
     window = account->openEditWindow();
     QVERIFY(window);
     KirvTestedAccount::pressSave(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
     QVERIFY(windows->start());
-    TRY(account->isConnected());
+    KIRV_TRY(account->isConnected());
 }
 
 void tst_password_on_server::acceptedChangeMakesNoReconnection_data()
@@ -92,7 +92,7 @@ void tst_password_on_server::acceptedChangeMakesNoReconnection_data()
 void tst_password_on_server::acceptedChangeMakesNoReconnection()
 {
     QFETCH(bool, isSaved);
-    XmppSessionServer server;
+    KirvScriptedSessionServer server;
     server.setPassword(secret.toUtf8());
     QDialog *window = edit(hereInClear, server.serverPort());
     QVERIFY(window);
@@ -101,12 +101,12 @@ void tst_password_on_server::acceptedChangeMakesNoReconnection()
         KirvTestedAccount::pressSave(window);
     else
         KirvTestedAccount::pressCancel(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
     QCOMPARE(account->password(), fresh);
 
     QVERIFY(windows->goTo(ann, "Away"));
-    TRY(server.lastPresence().contains("away"));
-    TRY(account->isConnected());
+    KIRV_TRY(server.lastPresence().contains("away"));
+    KIRV_TRY(account->isConnected());
     QCOMPARE(server.connections(), 1);
     QCOMPARE(server.passwords(), QByteArrayList { secret.toUtf8() });
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/servers/kirv_scripted_session_server.h"
 #include "tests/support/store_refusal.h"
-#include "tests/support/xmpp/xmpp_session_server.h"
 #include "tests/system/kirv_tested_account.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -40,7 +40,7 @@ private:
     bool isInClear(const QString &password) const;
 
     KirvProsodyServer certified; ///< has the certificate that the other server uses
-    std::unique_ptr<XmppSessionServer> server;
+    std::unique_ptr<KirvScriptedSessionServer> server;
     std::unique_ptr<KirvWindows> windows;
     std::unique_ptr<KirvTestedAccount> account;
 };
@@ -53,7 +53,7 @@ void tst_saving_an_account::initTestCase()
 
 void tst_saving_an_account::init()
 {
-    server = std::make_unique<XmppSessionServer>();
+    server = std::make_unique<KirvScriptedSessionServer>();
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server->serverPort()));
     windows = std::make_unique<KirvWindows>();
     QVERIFY(windows->start());
@@ -81,18 +81,18 @@ bool tst_saving_an_account::bring(int state)
     server->setPassword(state == Refused ? "another one" : "");
     if (!account->create(oldPassword, hereInClear, "available"))
         return false;
-    account->waitForAnswers(patience);
+    account->waitForAnswers(kirvPatience);
     const auto isThere = [&] {
         return state == Refused ? windows->problem(ann).contains(refused) && account->isSettled()
                                 : account->isConnected() && !server->presences().isEmpty();
     };
-    if (!QTest::qWaitFor(isThere, patience))
+    if (!QTest::qWaitFor(isThere, kirvPatience))
         return false;
     server->setPassword("");
     if (state != Waiting)
         return true;
     server->goAway();
-    return QTest::qWaitFor([this] { return windows->state(ann).startsWith("Waiting"); }, patience)
+    return QTest::qWaitFor([this] { return windows->state(ann).startsWith("Waiting"); }, kirvPatience)
         && server->comeBack();
 }
 
@@ -136,8 +136,8 @@ void tst_saving_an_account::newPasswordIsNotSentWithTheOldEncryption()
     if (isOffered)
         KirvWindows::fill(window, "certificate", certified.certificatePath());
     KirvTestedAccount::pressSave(window);
-    TRY(!KirvTestedAccount::editWindow());
-    TRY(server->connections() > connections && account->isSettled());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(server->connections() > connections && account->isSettled());
 
     QVERIFY2(!isInClear(newPassword), "The new password was sent in clear.");
     QCOMPARE(account->isConnected(), isOffered);
@@ -164,13 +164,13 @@ void tst_saving_an_account::refusedSaveChangesNothingOutside()
     KirvTestedAccount::pressSave(window);
     QVERIFY(account->confirmRefusedSave());
     KirvTestedAccount::pressCancel(window);
-    TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(!KirvTestedAccount::editWindow());
     refusal.end();
 
     QCOMPARE(account->password(), oldPassword);
     windows->reconnect(ann);
-    TRY(server->connections() > connections && account->isConnected());
-    TRY(server->lastPresence().contains("photo"));
+    KIRV_TRY(server->connections() > connections && account->isConnected());
+    KIRV_TRY(server->lastPresence().contains("photo"));
     QVERIFY2(!server->passwords().contains(newPassword.toUtf8()), "The refused password was used.");
     QVERIFY2(!server->presences().join().contains("away"), "The refused presence was sent.");
     QCOMPARE(server->connections(), connections + 1);
@@ -192,9 +192,9 @@ void tst_saving_an_account::acceptedSaveReconnectsOnce()
     KirvWindowDriver::choose(KirvWindows::child<QComboBox>(window, "EditAccount_PresenceCombo"), "Away");
     KirvWindows::fill(window, "resource", "elsewhere");
     KirvTestedAccount::pressSave(window);
-    TRY(!KirvTestedAccount::editWindow());
-    TRY(server->connections() > connections && account->isConnected());
-    TRY(server->lastPresence().contains("away") && server->lastPresence().contains("photo"));
+    KIRV_TRY(!KirvTestedAccount::editWindow());
+    KIRV_TRY(server->connections() > connections && account->isConnected());
+    KIRV_TRY(server->lastPresence().contains("away") && server->lastPresence().contains("photo"));
     QCOMPARE(server->passwords().last(), newPassword.toUtf8());
     QCOMPARE(server->resources().last(), QByteArray("elsewhere"));
     QCOMPARE(server->connections(), connections + 1);

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "tests/support/xmpp/scripted_xmpp_server.h"
-#include "tests/support/xmpp/xmpp_observer.h"
-#include "tests/support/xmpp/xmpp_profile.h"
+#include "tests/support/kirv_profile_files.h"
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
+#include "tests/support/servers/kirv_scripted_xmpp_server.h"
+#include "tests/support/servers/kirv_xmpp_profile.h"
 #include "tools/servers/kirv_prosody_server.h"
 
 #include <QFile>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+
+using Values = KirvPluginProfile::Values;
 
 namespace {
 
@@ -19,6 +22,13 @@ KirvProsodyServer::Options unencrypted()
 }
 
 const QString romeoAddress = "romeo@localhost";
+
+/// Starts \a server with Romeo and Juliet, who see each other's presence; Juliet is logged in.
+bool startWithFriend(KirvProsodyServer &server, KirvObservingXmppClient &juliet)
+{
+    return KirvXmppProfile::start(server, { "romeo", "juliet" }) && juliet.logIn(server, "juliet")
+        && juliet.befriend(server, "romeo");
+}
 
 } // namespace
 
@@ -69,12 +79,12 @@ private Q_SLOTS:
 private:
     QString tryToLogIn(KirvAccount *account, KirvFailure::Kind expected);
 
-    std::unique_ptr<XmppProfile> profile;
+    std::unique_ptr<KirvXmppProfile> profile;
 };
 
 void TestXmppConnection::init()
 {
-    profile = std::make_unique<XmppProfile>();
+    profile = std::make_unique<KirvXmppProfile>();
     QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
 }
 
@@ -121,7 +131,7 @@ void TestXmppConnection::everyConfigurationFillsTheForm()
         QStringList expected;
         for (const KirvField &field : profile->protocol()->getConfigurationFields(name))
             ids << field.getId();
-        for (const KirvField &field : profile->protocol()->getAccountSettings())
+        for (const KirvField &field : profile->protocol()->accountSettings())
             expected << field.getId();
         QCOMPARE(ids, expected);
     }
@@ -165,7 +175,7 @@ void TestXmppConnection::unusableSettingsAreSaid()
     QFETCH(Values, values);
     KirvAccount *account = profile->createAccount(login, values);
     profile->goTo(account, "available");
-    TRY_FAILURE(account, BadSettings);
+    KIRV_TRY_FAILURE(account, BadSettings);
     QCOMPARE(state(account), KirvConnection::Offline);
     QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
 }
@@ -185,26 +195,26 @@ void TestXmppConnection::logsInAndOut()
     QFETCH(bool, encrypted);
     QFETCH(QString, encryption);
     KirvProsodyServer server(encrypted ? KirvProsodyServer::Options() : unencrypted());
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "encryption", encryption } });
 
     profile->goTo(account, "available");
-    TRY_STATE(account, Online);
-    QVERIFY(account->isLoggedIn());
+    KIRV_TRY_STATE(account, Online);
+    QVERIFY(account->isOnline());
     QCOMPARE(server.sessions(), QStringList { romeoAddress + "/Kirv" });
 
     profile->goTo(account, "offline");
-    TRY_STATE(account, Offline);
-    TRY(!server.isOnline("romeo"));
+    KIRV_TRY_STATE(account, Offline);
+    KIRV_TRY(!server.isOnline("romeo"));
     QCOMPARE(failure(account), KirvFailure::None);
 }
 
-/// Lets \a account log in to no avail; gives what the user is told, null when it is not about \a expected.
+/// Lets \a account log in in vain; the text of the failure, null when it is not \a expected.
 QString TestXmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind expected)
 {
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
     profile->goTo(account, "available");
-    if (failed.isEmpty() && !failed.wait(patience))
+    if (!failed.wait(kirvPatience))
         return QString();
     return failure(account) == expected ? account->connection()->lastFailure().text() : QString();
 }
@@ -212,7 +222,7 @@ QString TestXmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind e
 void TestXmppConnection::wrongPasswordIsSaidAndNotTriedAgain()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", {}, "wrong");
     QVERIFY(!tryToLogIn(account, KirvFailure::WrongPassword).isEmpty());
     QCOMPARE(state(account), KirvConnection::Offline);
@@ -253,20 +263,20 @@ void TestXmppConnection::domainThatTheServerDoesNotServe()
 void TestXmppConnection::untrustedCertificateIsRefusedUntilItIsTrusted()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "certificate", "" } });
     QVERIFY(!tryToLogIn(account, KirvFailure::UntrustedCertificate).isEmpty());
     QCOMPARE(state(account), KirvConnection::Offline);
 
-    XmppProfile::setValue(account, "certificate", server.certificatePath());
+    profile->setValue(account, "certificate", server.certificatePath());
     profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
 }
 
 void TestXmppConnection::passwordIsNotSentWithoutEncryption()
 {
-    ScriptedXmppServer server([](const QByteArray &received) {
-        return received.contains("<stream:stream") ? ScriptedXmppServer::stream(
+    KirvScriptedXmppServer server([](const QByteArray &received) {
+        return received.contains("<stream:stream") ? KirvScriptedXmppServer::stream(
                    "<mechanisms xmlns='urn:ietf:params:xml:ns:xmpp-sasl'><mechanism>PLAIN</mechanism></mechanisms>")
                                                    : QByteArray();
     });
@@ -278,15 +288,15 @@ void TestXmppConnection::passwordIsNotSentWithoutEncryption()
     QVERIFY2(!server.received().contains("<auth"), server.received().constData());
 
     // The server would have got it from an account that allows that.
-    XmppProfile::setValue(account, "encryption", "offered");
+    profile->setValue(account, "encryption", "offered");
     profile->goTo(account, "available");
-    TRY(server.received().contains("<auth"));
+    KIRV_TRY(server.received().contains("<auth"));
 }
 
 void TestXmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
+    QVERIFY(KirvXmppProfile::start(server));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "encryption", "none" } });
     QVERIFY(tryToLogIn(account, KirvFailure::BadSettings).contains("encryption"));
     QCOMPARE(state(account), KirvConnection::Offline);
@@ -294,8 +304,8 @@ void TestXmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
 
 void TestXmppConnection::noWayToLogIn()
 {
-    ScriptedXmppServer server([](const QByteArray &received) {
-        return received.contains("<stream:stream") ? ScriptedXmppServer::stream(
+    KirvScriptedXmppServer server([](const QByteArray &received) {
+        return received.contains("<stream:stream") ? KirvScriptedXmppServer::stream(
                    "<mechanisms xmlns='urn:ietf:params:xml:ns:xmpp-sasl'><mechanism>X-ODD</mechanism></mechanisms>")
                                                    : QByteArray();
     });
@@ -316,9 +326,9 @@ void TestXmppConnection::hungServerTimesOut_data()
 void TestXmppConnection::hungServerTimesOut()
 {
     QFETCH(bool, opensStream);
-    ScriptedXmppServer server([opensStream](const QByteArray &received) {
+    KirvScriptedXmppServer server([opensStream](const QByteArray &received) {
         return opensStream && received.contains("<stream:stream")
-            ? ScriptedXmppServer::stream("<starttls xmlns='urn:ietf:params:xml:ns:xmpp-tls'/>")
+            ? KirvScriptedXmppServer::stream("<starttls xmlns='urn:ietf:params:xml:ns:xmpp-tls'/>")
             : QByteArray();
     });
     KirvAccount *account = profile->createAccount(
@@ -327,9 +337,9 @@ void TestXmppConnection::hungServerTimesOut()
     timing.loginTimeout = 200;
     account->connection()->setTiming(timing);
     QVERIFY(!tryToLogIn(account, KirvFailure::TimedOut).isEmpty());
-    TRY(server.connections() >= 2); // tried again
+    KIRV_TRY(server.connections() >= 2); // tried again
     profile->goTo(account, "offline");
-    QCOMPARE(state(account), KirvConnection::Offline);
+    KIRV_TRY_STATE(account, Offline);
 }
 
 void TestXmppConnection::presenceIsSeenByOthers_data()
@@ -348,33 +358,29 @@ void TestXmppConnection::presenceIsSeenByOthers()
     QFETCH(QString, presence);
     QFETCH(int, seen);
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
-    XmppObserver juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvObservingXmppClient juliet;
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
     profile->goTo(account, presence == "available" ? "away" : "available");
-    TRY(juliet.sees(romeoAddress));
+    KIRV_TRY(juliet.sees(romeoAddress));
 
     const QString text = QString::fromUtf8("Back <soon> & \"well\" ☕");
     profile->goTo(account, presence, text);
-    TRY(juliet.presenceOf(romeoAddress).statusText() == text);
+    KIRV_TRY(juliet.presenceOf(romeoAddress).statusText() == text);
     QCOMPARE(int(juliet.presenceOf(romeoAddress).availableStatusType()), seen);
 
     profile->goTo(account, "offline");
-    TRY(!juliet.sees(romeoAddress));
+    KIRV_TRY(!juliet.sees(romeoAddress));
 }
 
 void TestXmppConnection::arrivesWithItsPresence()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
-    XmppObserver juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvObservingXmppClient juliet;
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
     profile->goTo(account, "dnd", "Busy");
-    TRY(juliet.sees(romeoAddress));
+    KIRV_TRY(juliet.sees(romeoAddress));
     QCOMPARE(juliet.presenceOf(romeoAddress).availableStatusType(), QXmppPresence::DND);
     QCOMPARE(juliet.presenceOf(romeoAddress).statusText(), QString("Busy"));
 }
@@ -382,52 +388,47 @@ void TestXmppConnection::arrivesWithItsPresence()
 void TestXmppConnection::invisibleIsNotSeen()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
-    XmppObserver juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvObservingXmppClient juliet;
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
 
     profile->goTo(account, "invisible");
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
     QVERIFY(server.isOnline("romeo"));
     profile->goTo(account, "available");
-    TRY(juliet.sees(romeoAddress));
+    KIRV_TRY(juliet.sees(romeoAddress));
     profile->goTo(account, "invisible");
-    TRY(!juliet.sees(romeoAddress));
-    QVERIFY(account->isLoggedIn());
+    KIRV_TRY(!juliet.sees(romeoAddress));
+    QVERIFY(account->isOnline());
     QVERIFY(server.isOnline("romeo"));
-    // What follows later, such as news of the picture, does not give it away either.
-    account->connection()->publishAvatar();
-    QVERIFY(juliet.vCardOf(romeoAddress).photo().isEmpty());
+    // What follows later, such as a new picture, does not give it away either.
+    account->setAvatar(makePicture(profile->folder() + "/picture.png"));
+    KIRV_TRY(!juliet.vCardOf(romeoAddress).photo().isEmpty());
     QVERIFY(!juliet.sees(romeoAddress));
+    QVERIFY(account->isOnline());
 }
 
 void TestXmppConnection::statusThatCannotBeSentKeepsTheSession()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
-    XmppObserver juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvObservingXmppClient juliet;
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo");
     profile->goTo(account, "away", QString("a") + QChar(1) + QChar(0xd800) + "b");
-    TRY(juliet.presenceOf(romeoAddress).statusText() == "ab");
+    KIRV_TRY(juliet.presenceOf(romeoAddress).statusText() == "ab");
     profile->goTo(account, "away", QString(1000000, 'x'));
-    TRY(juliet.presenceOf(romeoAddress).statusText().startsWith("xxx"));
-    QVERIFY(account->isLoggedIn());
+    KIRV_TRY(juliet.presenceOf(romeoAddress).statusText().startsWith("xxx"));
+    QVERIFY(account->isOnline());
 }
 
 void TestXmppConnection::priorityAndResourceAreTaken()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret") && server.addUser("juliet", "secret"),
-             qPrintable(server.errorString()));
-    XmppObserver juliet;
-    QVERIFY(juliet.logIn(server, "juliet") && juliet.befriend(server, "romeo"));
+    KirvObservingXmppClient juliet;
+    QVERIFY(startWithFriend(server, juliet));
     KirvAccount *account = profile->createAccount(server, "romeo", { { "resource", "balcony" }, { "priority", "-7" } });
     profile->goTo(account, "available");
-    TRY(juliet.sees(romeoAddress));
+    KIRV_TRY(juliet.sees(romeoAddress));
     QCOMPARE(juliet.presenceOf(romeoAddress).from(), romeoAddress + "/balcony");
     QCOMPARE(juliet.presenceOf(romeoAddress).priority(), -7);
 }
@@ -435,89 +436,83 @@ void TestXmppConnection::priorityAndResourceAreTaken()
 void TestXmppConnection::killedServerIsReachedAgain()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
     server.kill();
-    TRY_STATE(account, Waiting);
+    KIRV_TRY_STATE(account, Waiting);
     QVERIFY(!failed.isEmpty());
     QCOMPARE(failed.first().first().value<KirvFailure>().kind(), KirvFailure::ConnectionLost);
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
     QVERIFY(server.isOnline("romeo"));
 }
 
 void TestXmppConnection::stoppedServerIsReachedAgain()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
     server.stop();
-    TRY_STATE(account, Waiting);
+    KIRV_TRY_STATE(account, Waiting);
     QCOMPARE(failed.first().first().value<KirvFailure>().kind(), KirvFailure::ServerShutDown);
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
 }
 
 void TestXmppConnection::sameResourceTwiceEndsTheOlder()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
-    XmppObserver other;
+    KirvObservingXmppClient other;
     QVERIFY(other.logIn(server, "romeo", "secret", "Kirv"));
-    TRY_FAILURE(account, LoggedInElsewhere);
+    KIRV_TRY_FAILURE(account, LoggedInElsewhere);
     QCOMPARE(state(account), KirvConnection::Offline);
 }
 
 void TestXmppConnection::changedPasswordIsUsed()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
 
     account->setPassword("wrong");
     profile->goTo(account, "available");
-    TRY_FAILURE(account, WrongPassword);
-    TRY(!server.isOnline("romeo"));
+    KIRV_TRY_FAILURE(account, WrongPassword);
+    KIRV_TRY(!server.isOnline("romeo"));
     account->setPassword("secret");
     profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    KIRV_TRY_STATE(account, Online);
 }
 
 void TestXmppConnection::disabledAccountLeavesTheServer()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
     KirvAccountManager::getInstance()->disableAccount(romeoAddress, "XMPP");
-    TRY(!server.isOnline("romeo"));
-    QVERIFY(!account->isLoggedIn());
+    KIRV_TRY(!server.isOnline("romeo"));
+    QVERIFY(!account->isOnline());
 }
 
 void TestXmppConnection::removedAccountLeavesTheServer()
 {
     KirvProsodyServer server;
-    QVERIFY2(server.start() && server.addUser("romeo", "secret"), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(server, "romeo");
-    profile->goTo(account, "available");
-    TRY_STATE(account, Online);
+    QVERIFY(KirvXmppProfile::start(server));
+    KirvAccount *account = profile->logIn(server);
+    QVERIFY(account);
     KirvAccountManager::getInstance()->removeAccount(romeoAddress, "XMPP");
-    TRY(!server.isOnline("romeo"));
+    KIRV_TRY(!server.isOnline("romeo"));
 }
 
 QTEST_MAIN(TestXmppConnection)

@@ -12,8 +12,8 @@
 #include <QTreeWidget>
 
 KirvWalk::KirvWalk()
-    : picture(folder.filePath(QStringLiteral("picked.png")))
 {
+    picture = folder.filePath(QStringLiteral("picked.png"));
     QImage image(20, 20, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
     image.save(picture);

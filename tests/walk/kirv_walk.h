@@ -66,7 +66,7 @@ public:
     bool hasSeen(const QString &what) const { return met.count(what) > 0; }
     const std::map<QString, int> &sights() const { return met; }
 
-    const QString picture; ///< an image file
+    QString picture; ///< the path of an image file
     std::unique_ptr<KirvClient> client;
     std::unique_ptr<StoreRefusal> refusal; ///< while the store refuses
 

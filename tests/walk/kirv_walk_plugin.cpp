@@ -124,7 +124,7 @@ KirvServerRequest *KirvWalkProtocol::createRequestFor(const QString &action, Kir
 KirvServerRequest *KirvWalkProtocol::hold(KirvFakeServerRequest *request)
 {
     request->isHeld = true;
-    request->isCommitted = ++created % 3 == 0;
+    request->canBeCancelled = ++created % 3 != 0;
     requests << request;
     // Before anybody else, who may destroy the request.
     connect(request, &KirvServerRequest::succeeded, this, [this] { ++succeeded; });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/support/fakes/kirv_fake_server_request.h"
 
+#include <utility>
+
 KirvFakeServerRequest::KirvFakeServerRequest(const QList<Step> &steps, const Result &result, QObject *parent)
     : KirvServerRequest(parent)
     , steps(steps)
@@ -10,65 +12,72 @@ KirvFakeServerRequest::KirvFakeServerRequest(const QList<Step> &steps, const Res
 
 void KirvFakeServerRequest::start()
 {
-    next = 0;
-    reply();
+    calls << QStringLiteral("start");
+    showStep(0);
 }
 
-QList<KirvField> KirvFakeServerRequest::fieldsOf(const QString &, const QList<KirvField> &filled) const
+QList<KirvField> KirvFakeServerRequest::fieldsOf(const QString &name, const QList<KirvField> &filled) const
 {
-    return configurationFields.isEmpty() ? filled : configurationFields;
+    QList<KirvField> fields = filled;
+    for (KirvField &field : fields)
+        field.setText(name);
+    return fields;
 }
 
-void KirvFakeServerRequest::submit(const QList<KirvField> &filled)
+void KirvFakeServerRequest::submit(const QList<KirvField> &newFilled)
 {
-    submitted << filled;
-    next = index + 1;
-    reply();
+    calls << QStringLiteral("submit");
+    filled = newFilled;
+    isSubmitted = true;
+    Q_EMIT waiting(QStringLiteral("Waiting for the fake server…"));
+    if (!isHeld)
+        serverAccepts();
 }
 
-void KirvFakeServerRequest::goBack(const QList<KirvField> &)
+void KirvFakeServerRequest::goBack(const QList<KirvField> &newFilled)
 {
-    showStep(index - 1);
+    calls << QStringLiteral("back");
+    filled = newFilled;
+    isSubmitted = false;
+    if (index > 0)
+        showStep(index - 1);
 }
 
 bool KirvFakeServerRequest::cancel()
 {
-    ++cancelled;
-    if (isCommitted && isUnderWay())
-        return false;
-    next = -1;
-    return true;
+    calls << QStringLiteral("cancel");
+    isSubmitted = isSubmitted && !canBeCancelled;
+    return canBeCancelled;
 }
 
 void KirvFakeServerRequest::serverAccepts()
 {
-    if (next >= 0)
-        showStep(std::exchange(next, -1));
-}
-
-void KirvFakeServerRequest::serverRefuses(const KirvFailure &refusal)
-{
-    if (std::exchange(next, -1) >= 0)
-        Q_EMIT failed(refusal);
-}
-
-void KirvFakeServerRequest::reply()
-{
-    Q_EMIT waiting(QStringLiteral("Waiting for the fake server…"));
-    if (isHeld)
+    if (!std::exchange(isSubmitted, false))
         return;
-    if (failure.isFailure())
-        serverRefuses(failure);
+    if (index + 1 < int(steps.size()))
+        showStep(index + 1);
     else
-        serverAccepts();
+        Q_EMIT succeeded(result);
+}
+
+void KirvFakeServerRequest::serverRefuses(const KirvFailure &failure)
+{
+    if (std::exchange(isSubmitted, false))
+        Q_EMIT failed(failure);
+}
+
+void KirvFakeServerRequest::succeedWith(Result::Kind kind, const KirvLogin &account, const QString &password)
+{
+    isSubmitted = false;
+    Result other;
+    other.kind = kind;
+    other.account = account;
+    other.password = password;
+    Q_EMIT succeeded(other);
 }
 
 void KirvFakeServerRequest::showStep(int shown)
 {
-    if (shown >= int(steps.size())) {
-        Q_EMIT succeeded(result);
-        return;
-    }
     index = shown;
     Q_EMIT stepReady(steps.at(index));
 }

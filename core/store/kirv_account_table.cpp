@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_account_table.h"
+
+#include "core/store/kirv_account_columns.h"
+#include "core/store/kirv_database.h"
+
+#include <QHash>
+
+namespace {
+
+const QString settingTable = QStringLiteral("account_setting");
+const QString secretTable = QStringLiteral("secret");
+
+}
+
+QList<KirvAccountRecord> KirvAccountTable::readAll()
+{
+    static const QString select =
+        QStringLiteral("SELECT number, id, protocol, %1 FROM account ORDER BY position, number")
+            .arg(kirvJoinedColumns(QString()));
+    QSqlQuery *query = database.run(select);
+    QList<KirvAccountRecord> accounts;
+    QHash<qint64, int> indices;
+    while (query && query->next()) {
+        indices.insert(query->value(0).toLongLong(), int(accounts.size()));
+        KirvAccountRecord account;
+        account.key = { query->value(1).toString(), query->value(2).toString() };
+        int index = 3;
+        for (const KirvAccountColumn &column : kirvAccountColumns()) {
+            const QVariant value = query->value(index++);
+            if (column.text)
+                account.*column.text = value.toString();
+            else
+                account.*column.flag = value.toBool();
+        }
+        accounts.append(account);
+    }
+    const bool good = database.readToEnd(query) && readValues(settingTable, accounts, indices)
+        && readValues(secretTable, accounts, indices);
+    return good ? accounts : QList<KirvAccountRecord>();
+}
+
+bool KirvAccountTable::readValues(const QString &table, QList<KirvAccountRecord> &accounts,
+                                  const QHash<qint64, int> &indices)
+{
+    QSqlQuery *query = database.run(QStringLiteral("SELECT account, field, value FROM %1").arg(table));
+    while (query && query->next()) {
+        const auto index = indices.constFind(query->value(0).toLongLong());
+        if (index == indices.constEnd())
+            continue;
+        KirvAccountRecord &account = accounts[*index];
+        const QString field = query->value(1).toString();
+        const QString value = query->value(2).toString();
+        if (table == secretTable && field.isEmpty()) {
+            account.password = value;
+            continue;
+        }
+        account.settings.insert(field, value);
+        if (table == secretTable)
+            account.secretSettings.insert(field);
+    }
+    return database.readToEnd(query);
+}
+
+bool KirvAccountTable::insert(const KirvAccountRecord &account)
+{
+    static const QString statement =
+        QStringLiteral("INSERT INTO account (id, protocol, position, %1) "
+                       "VALUES (?, ?, (SELECT coalesce(max(position), 0) + 1 FROM account), %2)")
+            .arg(kirvJoinedColumns(QString()), kirvColumnPlaceHolders());
+    const KirvAccountRecord stored = kirvStoredForm(account);
+    const QVariantList keyValues { account.key.id, account.key.protocol };
+    const QSqlQuery *query = database.run(statement, keyValues + kirvColumnValues(stored));
+    return query && writeValues(query->lastInsertId(), stored);
+}
+
+bool KirvAccountTable::update(const KirvAccountRecord &account)
+{
+    static const QString statement =
+        QStringLiteral("UPDATE account SET %1 WHERE number = ?").arg(kirvJoinedColumns(QStringLiteral(" = ?")));
+    Row row;
+    const KirvAccountRecord stored = kirvStoredForm(account);
+    if (!findRow(account.key, &row) || !database.run(statement, kirvColumnValues(stored) + QVariantList { row.number }))
+        return false;
+    if (row.avatar != stored.avatar && !row.avatar.isEmpty())
+        pending.obsoleteAvatars << row.avatar;
+    return writeValues(row.number, stored);
+}
+
+bool KirvAccountTable::remove(const KirvAccountKey &key)
+{
+    Row row;
+    if (!findRow(key, &row) || !writeValues(secretTable, row.number, Values(), &pending.hasOverwrittenSecrets)
+        || !database.run(QStringLiteral("DELETE FROM account WHERE number = ?"), { row.number }))
+        return false;
+    pending.hasOverwritten = true;
+    if (!row.avatar.isEmpty())
+        pending.obsoleteAvatars << row.avatar;
+    return true;
+}
+
+bool KirvAccountTable::findRow(const KirvAccountKey &key, Row *row)
+{
+    QSqlQuery *query = database.run(QStringLiteral("SELECT number, avatar FROM account WHERE id = ? AND protocol = ?"),
+                                    { key.id, key.protocol });
+    if (!query)
+        return false;
+    const bool found = query->next();
+    if (found)
+        *row = { query->value(0), query->value(1).toString() };
+    if (!database.readToEnd(query))
+        return false;
+    if (found || findOddRow(key, row))
+        return true;
+    database.fail(tr("The account \"%1\" (%2) is not in the profile.").arg(key.id, key.protocol));
+    return false;
+}
+
+/// Finds an account whose id is not stored as it is read: bytes that are no text were replaced.
+bool KirvAccountTable::findOddRow(const KirvAccountKey &key, Row *row)
+{
+    bool found = false;
+    QSqlQuery *query = database.run(QStringLiteral("SELECT id, protocol, number, avatar FROM account"));
+    while (query && !found && query->next()) {
+        found = query->value(0).toString() == key.id && query->value(1).toString() == key.protocol;
+        if (found)
+            *row = { query->value(2), query->value(3).toString() };
+    }
+    return database.readToEnd(query) && found;
+}
+
+/// The secret settings of \a account, and its password under the empty field, go into one table, the others into
+/// another.
+bool KirvAccountTable::writeValues(const QVariant &number, const KirvAccountRecord &account)
+{
+    Values settings, secrets;
+    for (auto setting = account.settings.constBegin(); setting != account.settings.constEnd(); ++setting)
+        (account.secretSettings.contains(setting.key()) ? secrets : settings).insert(setting.key(), setting.value());
+    if (!account.password.isEmpty())
+        secrets.insert(QString(), account.password);
+    return writeValues(settingTable, number, settings, &pending.hasOverwritten)
+        && writeValues(secretTable, number, secrets, &pending.hasOverwrittenSecrets);
+}
+
+/// Makes what \a table has of account \a number the \a values, touching only what differs.
+bool KirvAccountTable::writeValues(const QString &table, const QVariant &number, const Values &values,
+                                   bool *hasOverwritten)
+{
+    Values stored;
+    QSqlQuery *query =
+        database.run(QStringLiteral("SELECT field, value FROM %1 WHERE account = ?").arg(table), { number });
+    while (query && query->next())
+        stored.insert(query->value(0).toString(), query->value(1).toString());
+    if (!database.readToEnd(query))
+        return false;
+    for (auto value = stored.constBegin(); value != stored.constEnd(); ++value) {
+        if (values.contains(value.key()) && values.value(value.key()) == value.value())
+            continue;
+        *hasOverwritten = true;
+        if (!database.run(QStringLiteral("DELETE FROM %1 WHERE account = ? AND field = ?").arg(table),
+                          { number, value.key() }))
+            return false;
+    }
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value) {
+        if (stored.contains(value.key()) && stored.value(value.key()) == value.value())
+            continue;
+        if (!database.run(QStringLiteral("INSERT INTO %1 (account, field, value) VALUES (?, ?, ?)").arg(table),
+                          { number, value.key(), value.value() }))
+            return false;
+    }
+    return true;
+}
+
+namespace {
+
+const QString ofProtocol = QStringLiteral("field = ? AND account IN (SELECT number FROM account WHERE protocol = ?)");
+
+const QString &tableFor(bool isSecret)
+{
+    return isSecret ? secretTable : settingTable;
+}
+
+}
+
+QStringList KirvAccountTable::misplaced(const QString &protocol, const QSet<QString> &fields,
+                                        const QSet<QString> &secretFields)
+{
+    QStringList found;
+    for (const QString &field : fields) {
+        const QString exists = QStringLiteral("SELECT 1 FROM %1 WHERE %2 LIMIT 1")
+                                   .arg(tableFor(!secretFields.contains(field)), ofProtocol);
+        if (!field.isEmpty() && database.valueOf(exists, { field, protocol }).isValid())
+            found << field;
+    }
+    return found;
+}
+
+bool KirvAccountTable::move(const QString &protocol, const QString &field, bool toSecrets)
+{
+    const QVariantList values { field, protocol };
+    pending.hasOverwritten = true;
+    pending.hasOverwrittenSecrets = pending.hasOverwrittenSecrets || !toSecrets;
+    return database.execute(QStringLiteral("INSERT OR REPLACE INTO %1 SELECT account, field, value FROM %2 WHERE %3")
+                                .arg(tableFor(toSecrets), tableFor(!toSecrets), ofProtocol),
+                            values)
+        && database.execute(QStringLiteral("DELETE FROM %1 WHERE %2").arg(tableFor(!toSecrets), ofProtocol), values);
+}
+
+/// Deleting single rows leaves traces: what moved when pages were balanced stays in their gaps. Deleting all rows of
+/// a table clears its pages as a whole.
+bool KirvAccountTable::rewriteSecrets()
+{
+    return database.execute(QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS kept_secret (account, field, value)"))
+        && database.execute(QStringLiteral("INSERT INTO kept_secret SELECT account, field, value FROM secret"))
+        && database.execute(QStringLiteral("DELETE FROM secret"))
+        && database.execute(QStringLiteral("INSERT INTO secret (account, field, value) SELECT account, field, value "
+                                           "FROM kept_secret ORDER BY account, field"))
+        && database.execute(QStringLiteral("DELETE FROM kept_secret"));
+}

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_TABLE_H
+#define KIRV_ACCOUNT_TABLE_H
+
+#include "core/store/kirv_account_record.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QStringList>
+#include <QVariant>
+
+class KirvDatabase;
+
+/// The accounts in the tables of a database: records become rows and rows records. Private to the store.
+///
+/// Changes are made inside a transaction of the caller's, who looks after their effects().
+class KirvAccountTable {
+    Q_DECLARE_TR_FUNCTIONS(KirvStore)
+
+public:
+    /// What is left to do of the changes that were made.
+    struct Effects {
+        QStringList obsoleteAvatars; ///< after the commit
+        bool hasOverwritten = false; ///< after the commit, old values are still in the log
+        bool hasOverwrittenSecrets = false; ///< before the commit, rewriteSecrets()
+    };
+
+    /// \a database is not owned.
+    explicit KirvAccountTable(KirvDatabase &database)
+        : database(database)
+    {
+    }
+
+    /// All accounts in their order; the error of the database says whether that worked.
+    QList<KirvAccountRecord> readAll();
+    bool insert(const KirvAccountRecord &account);
+    bool update(const KirvAccountRecord &account);
+    bool remove(const KirvAccountKey &key);
+    /// Those of \a fields that accounts of \a protocol have in the table where \a secretFields says they do not belong.
+    QStringList misplaced(const QString &protocol, const QSet<QString> &fields, const QSet<QString> &secretFields);
+    /// Moves a setting of all accounts of \a protocol into the other table.
+    bool move(const QString &protocol, const QString &field, bool toSecrets);
+
+    /// Writes the table of the secrets anew, so that nothing is left between its rows.
+    bool rewriteSecrets();
+
+    Effects &effects() { return pending; }
+
+private:
+    /// The values of an account by field, in one of the two tables that have the same columns.
+    using Values = QMap<QString, QString>;
+    struct Row {
+        QVariant number;
+        QString avatar;
+    };
+
+    bool findRow(const KirvAccountKey &key, Row *row);
+    bool findOddRow(const KirvAccountKey &key, Row *row);
+    bool readValues(const QString &table, QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);
+    bool writeValues(const QVariant &number, const KirvAccountRecord &account);
+    bool writeValues(const QString &table, const QVariant &number, const Values &values, bool *hasOverwritten);
+
+    KirvDatabase &database;
+    Effects pending;
+};
+
+#endif

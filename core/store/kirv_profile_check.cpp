@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_profile_check.h"
+
+#include "core/store/kirv_database.h"
+#include "core/store/kirv_database_header.h"
+#include "core/store/kirv_store_schema.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <sys/stat.h>
+
+namespace {
+
+/// The kind of the file \a path itself, also when it is a link; 0 when there is none.
+mode_t kindOf(const QString &path)
+{
+    struct stat status;
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & S_IFMT : 0;
+}
+
+/// Finds rows that this program cannot have written: a value that is missing or of another kind than its column.
+QString wrongRowsIn(const QString &table, const QStringList &texts, const QStringList &numbers)
+{
+    QStringList conditions;
+    for (const QString &column : texts)
+        conditions << QStringLiteral("typeof(\"%1\") NOT IN ('text', 'blob')").arg(column);
+    for (const QString &column : numbers)
+        conditions << QStringLiteral("typeof(\"%1\") <> 'integer'").arg(column);
+    return QStringLiteral("SELECT 1 FROM \"%1\" WHERE %2 LIMIT 1").arg(table, conditions.join(QLatin1String(" OR ")));
+}
+
+bool hasWrongRows(KirvDatabase &database)
+{
+    QMap<QString, QStringList> texts, numbers;
+    QSqlQuery *columns = database.run(QStringLiteral("SELECT m.name, c.name, c.type FROM sqlite_master AS m, "
+                                                     "pragma_table_info(m.name) AS c WHERE m.type = 'table' "
+                                                     "AND m.name NOT GLOB 'sqlite_*'"));
+    while (columns && columns->next()) {
+        const bool isText = columns->value(2).toString() == QLatin1String("TEXT");
+        (isText ? texts : numbers)[columns->value(0).toString()] << columns->value(1).toString();
+    }
+    if (!database.readToEnd(columns))
+        return true;
+    for (auto table = texts.constBegin(); table != texts.constEnd(); ++table) {
+        if (database.valueOf(wrongRowsIn(table.key(), table.value(), numbers.value(table.key()))).isValid())
+            return true;
+    }
+    const bool hasSecrets = texts.contains(QStringLiteral("secret"));
+    return database.valueOf(QStringLiteral("PRAGMA foreign_key_check")).isValid()
+        || (hasSecrets
+            && database
+                   .valueOf(QStringLiteral("SELECT 1 FROM secret WHERE account NOT IN (SELECT number FROM account) "
+                                           "LIMIT 1"))
+                   .isValid())
+        || !database.errorText().isEmpty();
+}
+
+}
+
+KirvProfileState KirvProfileCheck::look() const
+{
+    const QFileInfo folder(paths.folder);
+    if (!folder.exists() && !folder.isSymLink())
+        return { KirvProfileState::New, QString() };
+    if (!folder.isDir())
+        return { KirvProfileState::Unusable,
+                 tr("The profile folder \"%1\" could not be made.").arg(paths.nativeFolder()) };
+    if (!folder.isReadable() || !folder.isExecutable())
+        return notWritable();
+    const QString link = linkInside();
+    if (!link.isEmpty())
+        return { KirvProfileState::Unusable,
+                 tr("\"%1\" is a link. The program follows no link inside a profile: replace it by what it leads to.")
+                     .arg(QDir::toNativeSeparators(link)) };
+    const mode_t avatars = kindOf(paths.avatars());
+    if (kindOf(paths.database()) == 0)
+        return lookAtFolderWithoutDatabase();
+    return avatars == 0 || avatars == S_IFDIR ? lookAtDatabase() : notWritable();
+}
+
+QString KirvProfileCheck::linkInside() const
+{
+    const QStringList names { paths.database(),   paths.log(),  paths.logIndex(), paths.journal(),
+                              paths.unfinished(), paths.lock(), paths.avatars(),  paths.copies() };
+    const auto link =
+        std::find_if(names.begin(), names.end(), [](const QString &name) { return kindOf(name) == S_IFLNK; });
+    return link == names.end() ? QString() : *link;
+}
+
+KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const
+{
+    QStringList content =
+        QDir(paths.folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    for (const QString &own : { paths.lock(), paths.unfinished() })
+        content.removeAll(QFileInfo(own).fileName());
+    if (content.isEmpty())
+        return { KirvProfileState::New, QString() };
+    const QString database = QFileInfo(paths.database()).fileName();
+    const bool wasProfile = std::any_of(content.begin(), content.end(), [&](const QString &name) {
+        return name.startsWith(database) || name == QFileInfo(paths.avatars()).fileName()
+            || name == QFileInfo(paths.copies()).fileName();
+    });
+    if (wasProfile)
+        return { KirvProfileState::Damaged,
+                 tr("The profile in \"%1\" is damaged: its database is missing. Nothing in it was changed: restore it "
+                    "from a backup, or choose an empty folder to start with an empty one.")
+                     .arg(paths.nativeFolder()) };
+    return { KirvProfileState::NotAProfile,
+             tr("The folder \"%1\" is not a profile: it holds other files. Nothing in it was changed: choose an empty "
+                "folder.")
+                 .arg(paths.nativeFolder()) };
+}
+
+KirvProfileState KirvProfileCheck::lookAtDatabase() const
+{
+    if (kindOf(paths.database()) != S_IFREG)
+        return damaged();
+    if (!QFileInfo(paths.database()).isReadable())
+        return notWritable();
+    const KirvDatabaseHeader header = KirvDatabaseHeader::ofFile(paths.database());
+    if (!header.isDatabase)
+        return damaged();
+    const bool isMarkedAsOurs = header.applicationId == kirvProfileId;
+    const bool isEarly = header.applicationId == 0 && header.version < kirvFirstMarkedVersion;
+    if (header.version > kirvStoreVersion() && (isMarkedAsOurs || header.applicationId == 0))
+        return { KirvProfileState::Newer,
+                 tr("The profile in \"%1\" was written by a newer version of the program. Use that version to "
+                    "open it; nothing in it was changed.")
+                     .arg(paths.nativeFolder()) };
+    if ((!isMarkedAsOurs && !isEarly) || header.version < 1)
+        return anotherProgram();
+    return { KirvProfileState::Good, QString() };
+}
+
+bool KirvProfileCheck::isMarked() const
+{
+    return KirvDatabaseHeader::ofFile(paths.database()).applicationId == kirvProfileId;
+}
+
+KirvProfileState KirvProfileCheck::examine(bool mayRecover) const
+{
+    const bool hasJournal = QFileInfo(paths.journal()).size() > 0;
+    const bool hasLog = QFileInfo(paths.log()).size() > 0;
+    if (hasJournal && !mayRecover)
+        return { KirvProfileState::Good, QString() };
+    KirvDatabase database;
+    // A file that nothing has to be recovered in is read as it is, without making anything beside it.
+    const KirvDatabase::Access access =
+        hasJournal ? KirvDatabase::Recovering : (hasLog ? KirvDatabase::ReadOnly : KirvDatabase::Immutable);
+    if (!database.open(paths.database(), access))
+        return { database.isDamaged() ? KirvProfileState::Damaged : KirvProfileState::Unusable, database.errorText() };
+    return examineOpen(database);
+}
+
+KirvProfileState KirvProfileCheck::examineFile(const QString &file, quint32 applicationId) const
+{
+    const KirvDatabaseHeader header = KirvDatabaseHeader::ofFile(file);
+    KirvDatabase database;
+    if (!header.isDatabase || header.applicationId != applicationId || !database.open(file, KirvDatabase::Immutable))
+        return damaged();
+    return examineOpen(database);
+}
+
+KirvProfileState KirvProfileCheck::examineOpen(KirvDatabase &database) const
+{
+    const int version = database.valueOf(QStringLiteral("PRAGMA user_version")).toInt();
+    const int id = database.valueOf(QStringLiteral("PRAGMA application_id")).toInt();
+    if (database.errorText().isEmpty()) {
+        const QStringList expected = kirvSchemaOfVersion(version);
+        if (expected.isEmpty() || kirvSchemaOf(database) != expected) {
+            if (database.errorText().isEmpty())
+                return id == 0 ? anotherProgram() : damaged();
+        } else if (database.valueOf(QStringLiteral("PRAGMA integrity_check(1)")).toString() == QLatin1String("ok")
+                   && !hasWrongRows(database)) {
+            return { KirvProfileState::Good, QString() };
+        }
+    }
+    if (database.errorText().isEmpty() || database.isDamaged())
+        return damaged();
+    return { KirvProfileState::Unusable, database.errorText() };
+}
+
+KirvProfileState KirvProfileCheck::inUse() const
+{
+    return { KirvProfileState::InUse,
+             tr("The profile in \"%1\" is in use by another running instance of the program. Close that one first.")
+                 .arg(paths.nativeFolder()) };
+}
+
+KirvProfileState KirvProfileCheck::notWritable() const
+{
+    return { KirvProfileState::Unusable,
+             tr("The profile folder \"%1\" cannot be written. Check its owner and permissions, and whether the disk is "
+                "full.")
+                 .arg(paths.nativeFolder()) };
+}
+
+KirvProfileState KirvProfileCheck::damaged() const
+{
+    return {
+        KirvProfileState::Damaged,
+        tr("The profile in \"%1\" is damaged. Nothing in it was changed: restore it from a backup, or move it away "
+           "to start with an empty one.")
+            .arg(paths.nativeFolder())
+    };
+}
+
+KirvProfileState KirvProfileCheck::anotherProgram() const
+{
+    return { KirvProfileState::NotAProfile,
+             tr("The file \"%1\" belongs to another program. Nothing in it was changed.")
+                 .arg(QDir::toNativeSeparators(paths.database())) };
+}

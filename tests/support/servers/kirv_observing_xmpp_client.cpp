@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
+
+#include "tests/support/kirv_patience.h"
+#include "tools/servers/kirv_prosody_server.h"
+
+#include <QXmppRosterManager.h>
+#include <QXmppUtils.h>
+#include <QXmppVCardManager.h>
+
+namespace {
+
+bool isMutual(QXmppClient &client, const QString &address)
+{
+    const auto *roster = client.findExtension<QXmppRosterManager>();
+    return roster->getRosterEntry(address).subscriptionType() == QXmppRosterIq::Item::Both;
+}
+
+} // namespace
+
+KirvObservingXmppClient::KirvObservingXmppClient()
+{
+    QObject::connect(&client, &QXmppClient::presenceReceived, &client, [this](const QXmppPresence &presence) {
+        presences.insert(QXmppUtils::jidToBareJid(presence.from()), presence);
+    });
+}
+
+bool KirvObservingXmppClient::logIn(const KirvProsodyServer &server, const QString &user, const QString &password,
+                                    const QString &resource)
+{
+    QXmppConfiguration configuration;
+    configuration.setJid(user + '@' + server.domain());
+    configuration.setPassword(password);
+    configuration.setResource(resource);
+    configuration.setHost(server.host());
+    configuration.setPort(server.port());
+    configuration.setIgnoreSslErrors(true);
+    configuration.setAutoReconnectionEnabled(false);
+    configuration.setAutoAcceptSubscriptions(true);
+    bool isRefused = false;
+    QObject context;
+    QObject::connect(&client, &QXmppClient::error, &context,
+                     [&isRefused](QXmppClient::Error error) { isRefused = error == QXmppClient::XmppStreamError; });
+    client.connectToServer(configuration);
+    const auto isIn = [this] { return client.isConnected() && client.isAuthenticated(); };
+    return QTest::qWaitFor([&] { return isRefused || isIn(); }, kirvPatience) && isIn();
+}
+
+void KirvObservingXmppClient::logOut()
+{
+    client.disconnectFromServer();
+}
+
+bool KirvObservingXmppClient::befriend(const KirvProsodyServer &server, const QString &user)
+{
+    KirvObservingXmppClient other;
+    if (!other.logIn(server, user))
+        return false;
+    const QString myAddress = client.configuration().jidBare();
+    const QString otherAddress = other.client.configuration().jidBare();
+    client.findExtension<QXmppRosterManager>()->subscribe(otherAddress);
+    const bool done = QTest::qWaitFor(
+        [&] { return isMutual(client, otherAddress) && isMutual(other.client, myAddress); }, kirvPatience);
+    other.logOut();
+    return done && QTest::qWaitFor([&] { return !sees(otherAddress); }, kirvPatience);
+}
+
+QXmppPresence KirvObservingXmppClient::presenceOf(const QString &address) const
+{
+    return presences.value(address, QXmppPresence(QXmppPresence::Unavailable));
+}
+
+QXmppVCardIq KirvObservingXmppClient::vCardOf(const QString &address)
+{
+    QXmppVCardIq card;
+    bool hasCome = false;
+    QString question;
+    QObject context;
+    auto *manager = client.findExtension<QXmppVCardManager>();
+    QObject::connect(manager, &QXmppVCardManager::vCardReceived, &context, [&](const QXmppVCardIq &received) {
+        if (received.id() == question) {
+            card = received;
+            hasCome = true;
+        }
+    });
+    // Who has no entry has an error in its place.
+    QObject::connect(&client, &QXmppClient::iqReceived, &context,
+                     [&](const QXmppIq &iq) { hasCome = hasCome || iq.id() == question; });
+    question = manager->requestVCard(address);
+    if (!QTest::qWaitFor([&] { return hasCome; }, kirvPatience))
+        qWarning() << "The directory entry of" << address << "did not come.";
+    return card;
+}
+
+bool KirvObservingXmppClient::publish(QXmppVCardIq card)
+{
+    bool isDone = false;
+    QObject context;
+    card.setType(QXmppIq::Set);
+    QObject::connect(&client, &QXmppClient::iqReceived, &context, [&](const QXmppIq &iq) {
+        if (iq.id() == card.id())
+            isDone = iq.type() == QXmppIq::Result;
+    });
+    client.sendPacket(card);
+    return QTest::qWaitFor([&] { return isDone; }, kirvPatience);
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_OBSERVING_XMPP_CLIENT_H
+#define KIRV_OBSERVING_XMPP_CLIENT_H
+
+#include <QHash>
+#include <QXmppClient.h>
+#include <QXmppVCardIq.h>
+
+class KirvProsodyServer;
+
+/// Another person's client on the same server, which shares no code with ours.
+class KirvObservingXmppClient {
+public:
+    KirvObservingXmppClient();
+
+    /// Logs in as \a user and waits for it; false when the server refuses, too.
+    bool logIn(const KirvProsodyServer &server, const QString &user, const QString &password = "secret",
+               const QString &resource = "observer");
+    void logOut();
+    /// Makes \a user and this one see each other's presence. \a user must not be on line; the password is "secret".
+    bool befriend(const KirvProsodyServer &server, const QString &user);
+
+    /// The last presence that was seen of the bare address \a address; an unavailable one when there was none.
+    QXmppPresence presenceOf(const QString &address) const;
+    bool sees(const QString &address) const { return presenceOf(address).type() == QXmppPresence::Available; }
+    /// The directory entry of \a address, as the server has it now.
+    QXmppVCardIq vCardOf(const QString &address);
+    /// Publishes \a card as one's own.
+    bool publish(QXmppVCardIq card);
+
+private:
+    QXmppClient client;
+    QHash<QString, QXmppPresence> presences;
+};
+
+#endif
