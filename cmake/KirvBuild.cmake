@@ -36,6 +36,15 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_INSTALL_RPATH "$ORIGIN") # installed libraries find each other; programs say it differently
 set(KIRV_PRIVATE_LIBRARY_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv")
+# The version of the plug-in interface, as its header has it.
+file(STRINGS "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h" api_line
+    REGEX "^#define KIRV_PROTOCOL_PLUGIN_API [0-9]+$")
+string(REGEX MATCH "[0-9]+$" KIRV_PROTOCOL_PLUGIN_API "${api_line}")
+if(NOT KIRV_PROTOCOL_PLUGIN_API)
+    message(FATAL_ERROR "core/protocol/kirv_protocol_plugin.h does not define KIRV_PROTOCOL_PLUGIN_API as a number")
+endif()
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+    "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h")
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
 set(KIRV_PROTOCOL_INSTALL_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv/protocols")
 

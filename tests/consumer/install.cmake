@@ -8,3 +8,15 @@ function(install_and_move folder)
     file(RENAME "${WORK}/first" "${WORK}/moved")
     set(${folder} "${WORK}/moved" PARENT_SCOPE)
 endfunction()
+
+function(run)
+    execute_process(COMMAND ${ARGV} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# build_with_packages(SOURCE PREFIX): builds the project in SOURCE with the packages in PREFIX into WORK/build, with
+# COMPILER and FLAGS.
+function(build_with_packages source prefix)
+    run("${CMAKE_COMMAND}" -S "${source}" -B "${WORK}/build" -G Ninja
+        "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+    run("${CMAKE_COMMAND}" --build "${WORK}/build")
+endfunction()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-# Installs everything and starts the client. Takes BUILD, WORK, VERSION, PROGRAM and PROTOCOLS.
+# Installs everything and starts the client. Takes BUILD, WORK, VERSION, PROGRAM, LIBRARIES and PROTOCOLS.
 include("${CMAKE_CURRENT_LIST_DIR}/install.cmake")
 install_and_move(folder)
 
@@ -9,11 +9,11 @@ if(NOT output MATCHES "${VERSION}")
 endif()
 
 # Nothing that was installed may need the build folder, or miss a library.
-file(GLOB plug_ins "${folder}/${PROTOCOLS}/*.so")
-foreach(file IN LISTS plug_ins ITEMS "${folder}/${PROGRAM}")
-    execute_process(COMMAND ldd "${file}" OUTPUT_VARIABLE libraries COMMAND_ERROR_IS_FATAL ANY)
-    string(FIND "${libraries}" "${BUILD}/lib/" in_build_folder)
-    if(libraries MATCHES "not found" OR NOT in_build_folder EQUAL -1)
-        message(FATAL_ERROR "${file} does not find its libraries:\n${libraries}")
+file(GLOB libraries "${folder}/${LIBRARIES}/*.so.*" "${folder}/${LIBRARIES}/kirv/*.so" "${folder}/${PROTOCOLS}/*.so")
+foreach(file IN LISTS libraries ITEMS "${folder}/${PROGRAM}")
+    execute_process(COMMAND ldd "${file}" OUTPUT_VARIABLE needed COMMAND_ERROR_IS_FATAL ANY)
+    string(FIND "${needed}" "${BUILD}/lib/" in_build_folder)
+    if(needed MATCHES "not found" OR NOT in_build_folder EQUAL -1)
+        message(FATAL_ERROR "${file} does not find its libraries:\n${needed}")
     endif()
 endforeach()

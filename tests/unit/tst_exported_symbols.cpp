@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <QProcess>
-#include <QRegularExpression>
+#include "tests/unit/kirv_library_symbols.h"
+
 #include <QtTest>
 
 namespace {
@@ -21,38 +21,18 @@ private Q_SLOTS:
     void whatClientsAndPlugInsNeedIsExported();
 
 private:
-    /// Demangled, without address and kind.
     QStringList symbols;
 };
 
 void TestExportedSymbols::initTestCase()
 {
-    QProcess nm;
-    nm.start(KIRV_NM, { "-D", "--defined-only", "--demangle", KIRV_LIBRARY });
-    QVERIFY(nm.waitForFinished());
-    QCOMPARE(nm.exitCode(), 0);
-    const QStringList lines = QString::fromLocal8Bit(nm.readAllStandardOutput()).split('\n');
-    for (const QString &line : lines) {
-        if (!line.isEmpty())
-            symbols.append(line.section(' ', 2));
-    }
+    symbols = exportedSymbols(QStringLiteral(KIRV_LIBRARY));
     QVERIFY(!symbols.isEmpty());
 }
 
 void TestExportedSymbols::onlyThePublicClassesAreExported()
 {
-    // Member, virtual table, type information, or what calls a member through a second base class.
-    const QRegularExpression ofAPublicClass(
-        QStringLiteral("^((vtable|typeinfo|typeinfo name) for |non-virtual thunk to )?(%1)(::|$)")
-            .arg(publicClasses.join('|')));
-    // The ends of sections, and what the sanitizers add: marks of exported data, types of Qt that they look into.
-    const QRegularExpression ofTheTools("^(__bss_start|_edata|_end|__odr_asan.*|typeinfo( name)? for Q\\w+)$");
-    QStringList others;
-    for (const QString &symbol : symbols) {
-        if (!ofAPublicClass.match(symbol).hasMatch() && !ofTheTools.match(symbol).hasMatch())
-            others.append(symbol);
-    }
-    QCOMPARE(others, QStringList());
+    QCOMPARE(symbolsOfOthers(symbols, publicClasses), QStringList());
 }
 
 void TestExportedSymbols::whatClientsAndPlugInsNeedIsExported_data()

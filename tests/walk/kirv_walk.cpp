@@ -6,6 +6,7 @@
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_connection.h"
 #include "edit_account/kirv_edit_account_dialog.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QComboBox>
 #include <QImage>
@@ -36,7 +37,8 @@ bool KirvWalk::start()
         return false;
     }
     client->window()->show();
-    return QTest::qWaitFor([this] { return client->arePluginsLoaded(); });
+    // They come from the event loop; the way on must not depend on when.
+    return QTest::qWaitFor([this] { return client->arePluginsLoaded(); }, kirvPatience);
 }
 
 void KirvWalk::quit()
