@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What a change of one account costs in a profile of few and of many accounts: milliseconds until the operation
-// returns, which is when it is safe on the disk, and transactions.
+// returns, which is when it is safe on the disk, and transactions. Then what opening a profile costs, with the check of
+// every row.
 #include "benchmarks/measurement.h"
 #include "protocols/example/kirv_example_protocol.h"
 
@@ -70,6 +71,67 @@ private:
     std::unique_ptr<KirvAccountCollection> accounts;
     std::unique_ptr<KirvHostServices> services;
 };
+
+/// An account with secrets, as the store keeps it.
+KirvAccountRecord accountWithSecrets(int number)
+{
+    KirvAccountRecord account;
+    account.key = { accountId(number), QStringLiteral("XMPP") };
+    account.alias = account.key.id;
+    account.rememberPassword = true;
+    account.password = QStringLiteral("password %1").arg(number);
+    account.settings = { { "server", "talk.example.org" }, { "port", "5222" }, { "encrypted", "true" } };
+    return account;
+}
+
+/// Milliseconds until the profile is open, until its accounts are read, and until it is open when a copy is to be kept.
+struct OpeningCost {
+    double opened = 0;
+    double read = 0;
+    double openedWithCopy = 0;
+    double passwordChanged = 0;
+};
+
+OpeningCost measureOpening(const QString &folder, int accountCount)
+{
+    const QTemporaryDir home(folder + QStringLiteral("/profile-XXXXXX"));
+    const QString profile = home.filePath(QStringLiteral("profile"));
+    OpeningCost cost;
+    KirvStore store;
+    bool good = store.open(profile) && store.begin();
+    for (int number = 0; good && number < accountCount; ++number)
+        good = store.insertAccount(accountWithSecrets(number));
+    good = good && store.commit();
+    KirvAccountRecord changed = accountWithSecrets(accountCount / 2);
+    changed.password = QStringLiteral("another password");
+    cost.passwordChanged = millisecondsOf([&] { good = good && store.updateAccount(changed); });
+    store.close();
+    QVector<double> opened, read;
+    for (int round = 0; round < 5; ++round) {
+        opened.append(millisecondsOf([&] { good = good && store.open(profile); }));
+        read.append(millisecondsOf([&] { good = good && store.readAccounts().size() == accountCount; }));
+        store.close();
+    }
+    QDir(profile + QStringLiteral("/copies")).removeRecursively();
+    cost.openedWithCopy = millisecondsOf([&] { good = good && store.open(profile); });
+    if (!good)
+        qFatal("The profile cannot be used: %s", qPrintable(store.lastError()));
+    cost.opened = median(opened);
+    cost.read = median(read);
+    return cost;
+}
+
+void reportOpenings(const QString &folder, const QStringList &numbers)
+{
+    Table table({ QStringLiteral("accounts"), QStringLiteral("open"), QStringLiteral("read all"),
+                  QStringLiteral("open and copy"), QStringLiteral("another password") });
+    for (const QString &number : numbers) {
+        const OpeningCost cost = measureOpening(folder, number.toInt());
+        table.addRow({ number, formatMilliseconds(cost.opened), formatMilliseconds(cost.read),
+                       formatMilliseconds(cost.openedWithCopy), formatMilliseconds(cost.passwordChanged) });
+    }
+    table.print(QStringLiteral("Opening a profile, every row checked (ms)"));
+}
 
 /// The medians of one operation.
 struct Cost {
@@ -159,6 +221,9 @@ int main(int argc, char **argv)
                        QStringLiteral("folder"), QDir::tempPath() });
     parser.addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
                        QStringLiteral("numbers"), QStringLiteral("10,100,1000,10000") });
+    parser.addOption({ QStringLiteral("openings"),
+                       QStringLiteral("The numbers of accounts of the profiles that are opened, separated by commas."),
+                       QStringLiteral("numbers"), QStringLiteral("10,1000,100000") });
     parser.addOption(
         { QStringLiteral("plot"), QStringLiteral("Draws the results into <file>."), QStringLiteral("file") });
     parser.process(application);
@@ -168,6 +233,8 @@ int main(int argc, char **argv)
         results[number.toInt()] = measureAll(parser.value(QStringLiteral("folder")), number.toInt());
 
     report(results);
+    reportOpenings(parser.value(QStringLiteral("folder")),
+                   parser.value(QStringLiteral("openings")).split(QLatin1Char(',')));
     const QString file = parser.value(QStringLiteral("plot"));
     if (!file.isEmpty()
         && !plot(file, QStringLiteral("One change in the store"), QStringLiteral("milliseconds (median) over accounts"),
