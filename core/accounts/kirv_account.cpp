@@ -5,6 +5,8 @@
 
 #include <QDir>
 
+#include <utility>
+
 namespace {
 
 /// The stored form of the value of \a field.
@@ -94,6 +96,8 @@ bool KirvAccount::endSave()
     discardUnusedAvatars();
     refreshDescription();
     entry.release(isStored);
+    if (std::exchange(triesAgainAfterSave, false) && isStored)
+        tryAgain();
     reconciler.release();
 
     const QPointer<KirvAccount> alive(this);
@@ -233,6 +237,10 @@ bool KirvAccount::setPresence(const KirvPresence &presence)
 
 void KirvAccount::tryAgain()
 {
+    if (isSaving()) {
+        triesAgainAfterSave = true;
+        return;
+    }
     mayLogIn = true;
     reconciler.insist(KirvReconciler::Retry);
 }

@@ -64,7 +64,8 @@ public:
     /// The present presence as it was wanted last.
     KirvPresence presence() const;
     bool setPresence(const KirvPresence &presence);
-    /// Logs in with what is stored, also when the connection gave up or waits. Does nothing for a disabled account.
+    /// Logs in with what is stored, also when the connection gave up or waits; during a save, after it was stored. Does
+    /// nothing for a disabled account.
     void tryAgain();
     /// The same, and a connection that is logged in logs out first.
     void reconnect();
@@ -134,6 +135,7 @@ private:
     KirvAccountRecord recordBefore; ///< when the open save began
     std::optional<KirvPresence> presenceBefore;
     QStringList importedAvatars; ///< by the open save
+    bool triesAgainAfterSave = false; ///< requested during the open save
 
     std::optional<KirvPresence> askedPresence; ///< in this run; empty: the stored one
     bool unstoredPassword = false;
