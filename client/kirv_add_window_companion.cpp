@@ -5,22 +5,15 @@
 #include "host/kirv_protocol.h"
 
 KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller)
-    : QObject(window)
-    , window(window)
+    : KirvWindowCompanion(window)
     , protocolName(controller->getProtocol()->getName())
 {
-    window->setCompanion(this);
-}
-
-KirvAddWindowCompanion::~KirvAddWindowCompanion()
-{
-    window->setCompanion(nullptr);
 }
 
 void KirvAddWindowCompanion::close()
 {
-    const auto boxes = window->findChildren<QDialog *>();
+    const auto boxes = window()->findChildren<QDialog *>();
     for (QDialog *box : boxes)
         box->close();
-    window->close();
+    window()->close();
 }

@@ -4,19 +4,17 @@
 
 #include "core/ui/kirv_layout_dialog.h"
 
-#include <QObject>
 #include <QString>
 
 class KirvAddAccountDialog;
 
 /// What the client adds to an add window: it ends with its protocol. Owned by the window.
-class KirvAddWindowCompanion : public QObject, public KirvWindowCompanion {
+class KirvAddWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
 public:
     /// \a window was just built for \a controller.
     KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller);
-    ~KirvAddWindowCompanion() override;
 
     /// The name of the protocol that the window adds an account of.
     QString protocol() const { return protocolName; }
@@ -24,7 +22,6 @@ public:
     void close();
 
 private:
-    KirvLayoutDialog *window;
     const QString protocolName;
 };
 

@@ -5,7 +5,7 @@
 #include "core/ui/kirv_layout_dialog.h"
 #include "core/values/kirv_account_key.h"
 
-#include <QObject>
+#include <QList>
 #include <QPointer>
 
 class KirvAccount;
@@ -22,7 +22,7 @@ class QPushButton;
 ///
 /// Save's clicked() begins the change, before the slot of the page that fills it; the window's done() commits it.
 /// Owned by the window.
-class KirvEditWindowCompanion : public QObject, public KirvWindowCompanion {
+class KirvEditWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
 public:
@@ -51,7 +51,6 @@ private:
     void tellSaveRefused();
     void onAccountChanged(KirvAccount *account);
 
-    KirvLayoutDialog *window;
     QPointer<KirvEditAccountDialog> controller;
     KirvAccountCollection &accounts;
     KirvServerCommands &serverCommands;
@@ -64,6 +63,7 @@ private:
     QString knownPassword; ///< of the account, as far as the window shows it
     bool keepsOpen = false; ///< whatever else the click on Save leads to
     bool isBound = false;
+    QList<QPointer<QWidget>> disabled; ///< while a publication is awaited
 };
 
 #endif

@@ -1,14 +1,22 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_dialog.h"
 
+KirvWindowCompanion::KirvWindowCompanion(KirvLayoutDialog *window)
+    : dialog(window)
+{
+    window->setCompanion(this);
+}
+
 void KirvLayoutDialog::setCompanion(KirvWindowCompanion *newCompanion)
 {
     companion = newCompanion;
+    newCompanion->setParent(this);
 }
 
 void KirvLayoutDialog::finish(int result)
 {
-    QDialog::done(result);
+    if (isVisible())
+        QDialog::done(result);
 }
 
 void KirvLayoutDialog::setVisible(bool visible)
@@ -20,6 +28,10 @@ void KirvLayoutDialog::setVisible(bool visible)
 
 void KirvLayoutDialog::done(int result)
 {
-    if (!companion || companion->mayFinish(result))
+    const QPointer<KirvLayoutDialog> alive(this);
+    const bool wasVisible = isVisible();
+    if (companion && !companion->mayFinish(result))
+        return;
+    if (alive && isVisible() == wasVisible)
         QDialog::done(result);
 }
