@@ -10,7 +10,7 @@
 #include "host/kirv_account_manager.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/fakes/kirv_fake_protocol.h"
-#include "tests/support/gui/kirv_patience.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
 #include <QCheckBox>
