@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What a change of one account costs in a profile of few and of many accounts: milliseconds until the operation
-// returns, which is when it is safe on the disk, and transactions.
+// returns, which is when it is safe on the disk, and transactions. And what it costs to open such a profile.
 #include "benchmarks/measurement.h"
 #include "protocols/example/kirv_example_protocol.h"
 
@@ -21,19 +21,33 @@
 namespace {
 
 const int repetitions = 50;
+const int openings = 11;
 
 QString accountId(int number)
 {
     return QStringLiteral("user%1").arg(number, 6, 10, QLatin1Char('0'));
 }
 
-/// The client's core over a profile with accounts that are all disabled, so that none of them logs in.
+/// Adds accounts that are all disabled, so that none of them logs in.
+bool addAccounts(KirvStore &store, int accountCount)
+{
+    bool good = store.begin();
+    for (int i = 0; good && i < accountCount; ++i) {
+        KirvAccountRecord account;
+        account.key = { accountId(i), KirvExampleProtocol().getName() };
+        account.alias = account.key.id;
+        account.enabled = false;
+        good = store.insertAccount(account);
+    }
+    return good && store.commit();
+}
+
+/// The client's core over a new profile with accounts.
 class Core {
 public:
     Core(const QString &folder, int accountCount)
-        : accountCount(accountCount)
     {
-        if (!store.open(folder) || !addAccounts())
+        if (!store.open(folder) || !addAccounts(store, accountCount))
             qFatal("The profile cannot be made: %s", qPrintable(store.lastError()));
         settings = std::make_unique<KirvClientSettings>(store);
         plugins = std::make_unique<KirvPluginLoader>();
@@ -50,20 +64,6 @@ public:
     KirvProtocol *protocol = nullptr;
 
 private:
-    bool addAccounts()
-    {
-        bool good = store.begin();
-        for (int i = 0; good && i < accountCount; ++i) {
-            KirvAccountRecord account;
-            account.key = { accountId(i), KirvExampleProtocol().getName() };
-            account.alias = account.key.id;
-            account.enabled = false;
-            good = store.insertAccount(account);
-        }
-        return good && store.commit();
-    }
-
-    int accountCount;
     KirvStore store;
     std::unique_ptr<KirvClientSettings> settings;
     std::unique_ptr<KirvPluginLoader> plugins;
@@ -119,6 +119,47 @@ QVector<Cost> measureAll(const QString &folder, int accountCount)
     return costs;
 }
 
+/// The medians of one opening.
+struct Opening {
+    double open = 0; ///< the store
+    double read = 0; ///< all accounts of it
+    double load = 0; ///< a connection for each of them
+};
+
+Opening measureOpening(const QString &folder, int accountCount)
+{
+    QTemporaryDir profile(folder + QStringLiteral("/profile-XXXXXX"));
+    {
+        KirvStore store;
+        if (!store.open(profile.path()) || !addAccounts(store, accountCount))
+            qFatal("The profile cannot be made: %s", qPrintable(store.lastError()));
+    }
+    QVector<double> open, read, load;
+    for (int i = 0; i < openings; ++i) {
+        KirvStore store;
+        open.append(millisecondsOf([&] { store.open(profile.path()); }));
+        std::unique_ptr<KirvAccountCollection> accounts;
+        read.append(millisecondsOf([&] { accounts = std::make_unique<KirvAccountCollection>(store); }));
+        KirvExampleProtocol protocol;
+        load.append(millisecondsOf([&] { accounts->protocolLoaded(&protocol); }));
+        if (accounts->accounts().size() != accountCount)
+            qFatal("The profile has lost accounts");
+        accounts.reset();
+    }
+    return { median(open), median(read), median(load) };
+}
+
+void report(const std::map<int, Opening> &results)
+{
+    Table table({ QStringLiteral("accounts"), QStringLiteral("open ms"), QStringLiteral("read ms"),
+                  QStringLiteral("load ms") });
+    for (const auto &[accountCount, opening] : results) {
+        table.addRow({ QString::number(accountCount), formatMilliseconds(opening.open),
+                       formatMilliseconds(opening.read), formatMilliseconds(opening.load) });
+    }
+    table.print(QStringLiteral("Opening a profile (medians of %1)").arg(openings));
+}
+
 void report(const std::map<int, QVector<Cost>> &results)
 {
     Table table(
@@ -153,7 +194,7 @@ int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Measures changes of one account in the client's store."));
+    parser.setApplicationDescription(QStringLiteral("Measures the client's store."));
     parser.addHelpOption();
     parser.addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
                        QStringLiteral("folder"), QDir::tempPath() });
@@ -164,10 +205,14 @@ int main(int argc, char **argv)
     parser.process(application);
 
     std::map<int, QVector<Cost>> results;
-    for (const QString &number : parser.value(QStringLiteral("accounts")).split(QLatin1Char(',')))
-        results[number.toInt()] = measureAll(parser.value(QStringLiteral("folder")), number.toInt());
-
+    std::map<int, Opening> openingResults;
+    const QString folder = parser.value(QStringLiteral("folder"));
+    for (const QString &number : parser.value(QStringLiteral("accounts")).split(QLatin1Char(','))) {
+        results[number.toInt()] = measureAll(folder, number.toInt());
+        openingResults[number.toInt()] = measureOpening(folder, number.toInt());
+    }
     report(results);
+    report(openingResults);
     const QString file = parser.value(QStringLiteral("plot"));
     if (!file.isEmpty()
         && !plot(file, QStringLiteral("One change in the store"), QStringLiteral("milliseconds (median) over accounts"),
