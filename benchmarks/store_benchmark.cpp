@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What a change of one account costs in a profile of few and of many accounts: milliseconds until the operation
-// returns, which is when it is safe on the disk, and transactions. And what it costs to open such a profile.
+// returns, which is when it is safe on the disk, and transactions. Then what opening a profile costs, with the check of
+// every row.
 #include "benchmarks/measurement.h"
 #include "protocols/example/kirv_example_protocol.h"
 
@@ -21,33 +22,19 @@
 namespace {
 
 const int repetitions = 50;
-const int openings = 11;
 
 QString accountId(int number)
 {
     return QStringLiteral("user%1").arg(number, 6, 10, QLatin1Char('0'));
 }
 
-/// Adds accounts that are all disabled, so that none of them logs in.
-bool addAccounts(KirvStore &store, int accountCount)
-{
-    bool good = store.begin();
-    for (int i = 0; good && i < accountCount; ++i) {
-        KirvAccountRecord account;
-        account.key = { accountId(i), KirvExampleProtocol().getName() };
-        account.alias = account.key.id;
-        account.enabled = false;
-        good = store.insertAccount(account);
-    }
-    return good && store.commit();
-}
-
-/// The client's core over a new profile with accounts.
+/// The client's core over a profile with accounts that are all disabled, so that none of them logs in.
 class Core {
 public:
     Core(const QString &folder, int accountCount)
+        : accountCount(accountCount)
     {
-        if (!store.open(folder) || !addAccounts(store, accountCount))
+        if (!store.open(folder) || !addAccounts())
             qFatal("The profile cannot be made: %s", qPrintable(store.lastError()));
         settings = std::make_unique<KirvClientSettings>(store);
         plugins = std::make_unique<KirvPluginLoader>();
@@ -64,12 +51,87 @@ public:
     KirvProtocol *protocol = nullptr;
 
 private:
+    bool addAccounts()
+    {
+        bool good = store.begin();
+        for (int i = 0; good && i < accountCount; ++i) {
+            KirvAccountRecord account;
+            account.key = { accountId(i), KirvExampleProtocol().getName() };
+            account.alias = account.key.id;
+            account.enabled = false;
+            good = store.insertAccount(account);
+        }
+        return good && store.commit();
+    }
+
+    int accountCount;
     KirvStore store;
     std::unique_ptr<KirvClientSettings> settings;
     std::unique_ptr<KirvPluginLoader> plugins;
     std::unique_ptr<KirvAccountCollection> accounts;
     std::unique_ptr<KirvHostServices> services;
 };
+
+/// An account with secrets, as the store keeps it.
+KirvAccountRecord accountWithSecrets(int number)
+{
+    KirvAccountRecord account;
+    account.key = { accountId(number), QStringLiteral("XMPP") };
+    account.alias = account.key.id;
+    account.rememberPassword = true;
+    account.password = QStringLiteral("password %1").arg(number);
+    account.settings = { { "server", "talk.example.org" }, { "port", "5222" }, { "encrypted", "true" } };
+    return account;
+}
+
+/// Milliseconds until the profile is open, until its accounts are read, and until it is open when a copy is to be kept.
+struct OpeningCost {
+    double opened = 0;
+    double read = 0;
+    double openedWithCopy = 0;
+    double passwordChanged = 0;
+};
+
+OpeningCost measureOpening(const QString &folder, int accountCount)
+{
+    const QTemporaryDir home(folder + QStringLiteral("/profile-XXXXXX"));
+    const QString profile = home.filePath(QStringLiteral("profile"));
+    OpeningCost cost;
+    KirvStore store;
+    bool good = store.open(profile) && store.begin();
+    for (int number = 0; good && number < accountCount; ++number)
+        good = store.insertAccount(accountWithSecrets(number));
+    good = good && store.commit();
+    KirvAccountRecord changed = accountWithSecrets(accountCount / 2);
+    changed.password = QStringLiteral("another password");
+    cost.passwordChanged = millisecondsOf([&] { good = good && store.updateAccount(changed); });
+    store.close();
+    QVector<double> opened, read;
+    for (int round = 0; round < 5; ++round) {
+        opened.append(millisecondsOf([&] { good = good && store.open(profile); }));
+        read.append(millisecondsOf([&] { good = good && store.readAccounts().size() == accountCount; }));
+        store.close();
+    }
+    QDir(profile + QStringLiteral("/copies")).removeRecursively();
+    cost.openedWithCopy = millisecondsOf([&] { good = good && store.open(profile); });
+    if (!good)
+        qFatal("The profile cannot be used: %s", qPrintable(store.lastError()));
+    cost.opened = median(opened);
+    cost.read = median(read);
+    return cost;
+}
+
+void reportOpenings(const QString &folder, const QStringList &numbers)
+{
+    Table table({ QStringLiteral("accounts"), QStringLiteral("open"), QStringLiteral("read all"),
+                  QStringLiteral("open and copy"), QStringLiteral("another password") });
+    for (const QString &number : numbers) {
+        const OpeningCost cost = measureOpening(folder, number.toInt());
+        table.addRow({ number, formatMilliseconds(cost.opened), formatMilliseconds(cost.read),
+                       formatMilliseconds(cost.openedWithCopy), formatMilliseconds(cost.passwordChanged) });
+    }
+    table.print(QStringLiteral("Opening a profile, every row checked (ms)"));
+}
 
 /// The medians of one operation.
 struct Cost {
@@ -119,47 +181,6 @@ QVector<Cost> measureAll(const QString &folder, int accountCount)
     return costs;
 }
 
-/// The medians of one opening.
-struct Opening {
-    double open = 0; ///< the store
-    double read = 0; ///< all accounts of it
-    double load = 0; ///< a connection for each of them
-};
-
-Opening measureOpening(const QString &folder, int accountCount)
-{
-    QTemporaryDir profile(folder + QStringLiteral("/profile-XXXXXX"));
-    {
-        KirvStore store;
-        if (!store.open(profile.path()) || !addAccounts(store, accountCount))
-            qFatal("The profile cannot be made: %s", qPrintable(store.lastError()));
-    }
-    QVector<double> open, read, load;
-    for (int i = 0; i < openings; ++i) {
-        KirvStore store;
-        open.append(millisecondsOf([&] { store.open(profile.path()); }));
-        std::unique_ptr<KirvAccountCollection> accounts;
-        read.append(millisecondsOf([&] { accounts = std::make_unique<KirvAccountCollection>(store); }));
-        KirvExampleProtocol protocol;
-        load.append(millisecondsOf([&] { accounts->protocolLoaded(&protocol); }));
-        if (accounts->accounts().size() != accountCount)
-            qFatal("The profile has lost accounts");
-        accounts.reset();
-    }
-    return { median(open), median(read), median(load) };
-}
-
-void report(const std::map<int, Opening> &results)
-{
-    Table table({ QStringLiteral("accounts"), QStringLiteral("open ms"), QStringLiteral("read ms"),
-                  QStringLiteral("load ms") });
-    for (const auto &[accountCount, opening] : results) {
-        table.addRow({ QString::number(accountCount), formatMilliseconds(opening.open),
-                       formatMilliseconds(opening.read), formatMilliseconds(opening.load) });
-    }
-    table.print(QStringLiteral("Opening a profile (medians of %1)").arg(openings));
-}
-
 void report(const std::map<int, QVector<Cost>> &results)
 {
     Table table(
@@ -194,25 +215,26 @@ int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Measures the client's store."));
+    parser.setApplicationDescription(QStringLiteral("Measures changes of one account in the client's store."));
     parser.addHelpOption();
     parser.addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
                        QStringLiteral("folder"), QDir::tempPath() });
     parser.addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
                        QStringLiteral("numbers"), QStringLiteral("10,100,1000,10000") });
+    parser.addOption({ QStringLiteral("openings"),
+                       QStringLiteral("The numbers of accounts of the profiles that are opened, separated by commas."),
+                       QStringLiteral("numbers"), QStringLiteral("10,1000,100000") });
     parser.addOption(
         { QStringLiteral("plot"), QStringLiteral("Draws the results into <file>."), QStringLiteral("file") });
     parser.process(application);
 
     std::map<int, QVector<Cost>> results;
-    std::map<int, Opening> openingResults;
-    const QString folder = parser.value(QStringLiteral("folder"));
-    for (const QString &number : parser.value(QStringLiteral("accounts")).split(QLatin1Char(','))) {
-        results[number.toInt()] = measureAll(folder, number.toInt());
-        openingResults[number.toInt()] = measureOpening(folder, number.toInt());
-    }
+    for (const QString &number : parser.value(QStringLiteral("accounts")).split(QLatin1Char(',')))
+        results[number.toInt()] = measureAll(parser.value(QStringLiteral("folder")), number.toInt());
+
     report(results);
-    report(openingResults);
+    reportOpenings(parser.value(QStringLiteral("folder")),
+                   parser.value(QStringLiteral("openings")).split(QLatin1Char(',')));
     const QString file = parser.value(QStringLiteral("plot"));
     if (!file.isEmpty()
         && !plot(file, QStringLiteral("One change in the store"), QStringLiteral("milliseconds (median) over accounts"),

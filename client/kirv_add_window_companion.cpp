@@ -5,15 +5,15 @@
 #include "host/kirv_protocol.h"
 
 KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller)
-    : window(window)
+    : KirvWindowCompanion(window)
     , protocolName(controller->getProtocol()->getName())
 {
 }
 
 void KirvAddWindowCompanion::close()
 {
-    const auto boxes = window->findChildren<QDialog *>();
+    const auto boxes = window()->findChildren<QDialog *>();
     for (QDialog *box : boxes)
         box->close();
-    window->close();
+    window()->close();
 }

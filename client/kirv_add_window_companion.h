@@ -4,17 +4,16 @@
 
 #include "core/ui/kirv_layout_dialog.h"
 
-#include <QObject>
 #include <QString>
 
 class KirvAddAccountDialog;
 
 /// What the client adds to an add window: it ends with its protocol. Owned by the window.
-class KirvAddWindowCompanion : public QObject, public KirvWindowCompanion {
+class KirvAddWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller and is to own this.
+    /// \a window was just built for \a controller.
     KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller);
 
     /// The name of the protocol that the window adds an account of.
@@ -23,7 +22,6 @@ public:
     void close();
 
 private:
-    KirvLayoutDialog *window;
     const QString protocolName;
 };
 

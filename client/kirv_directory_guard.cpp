@@ -15,18 +15,30 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include <memory>
+#include <utility>
+
 namespace {
 const auto statusName = QStringLiteral("EditAccount_PubDirStatus");
 const auto fetchName = QStringLiteral("EditAccount_PubDirFetch");
+
+/// Puts \a row above what \a place holds.
+void insertAbove(QWidget *place, QWidget *row)
+{
+    row->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    KirvUILoader::insertWidget(place, row);
+    if (auto *rows = qobject_cast<QBoxLayout *>(place->layout()))
+        rows->insertWidget(0, row);
+}
 } // namespace
 
 KirvDirectoryGuard::KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *controller,
                                        KirvAccountCollection &accounts)
-    : window(window)
+    : QObject(window)
+    , window(window)
     , controller(controller)
     , accounts(accounts)
     , key { controller->getAccountId(), controller->getProtocolName() }
-    , tabs(window->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs")))
 {
     findFields();
     KirvAccount *edited = account();
@@ -60,35 +72,38 @@ void KirvDirectoryGuard::findFields()
     if (!fields)
         return;
     fields->installEventFilter(this);
-    addMissingControls(place);
-    status = window->findChild<QLabel *>(statusName);
+    findControls(place);
     status->setTextFormat(Qt::PlainText);
 }
 
 /// A layout need not have them, but the reason for locked fields and a way on must be there.
-void KirvDirectoryGuard::addMissingControls(QWidget *place)
+void KirvDirectoryGuard::findControls(QWidget *place)
 {
-    const bool hasStatus = window->findChild<QLabel *>(statusName);
-    const bool hasFetch = window->findChild<QAbstractButton *>(fetchName);
-    if (hasStatus && hasFetch)
-        return;
-    auto *row = new QWidget(window);
-    auto *layout = new QHBoxLayout(row);
+    status = window->findChild<QLabel *>(statusName);
+    auto *button = window->findChild<QAbstractButton *>(fetchName);
+    // The page connects the button only there.
+    const auto *controls = window->findChild<QWidget *>(QStringLiteral("EditAccount_PubDirControls"));
+    const bool isConnected = button && controls && controls->isAncestorOf(button);
+    auto row = std::make_unique<QWidget>();
+    auto *layout = new QHBoxLayout(row.get());
     layout->setContentsMargins(0, 0, 0, 0);
-    if (!hasStatus) {
-        auto *label = new QLabel(row);
-        label->setObjectName(statusName);
-        label->setWordWrap(true);
-        layout->addWidget(label, 1);
+    if (!status) {
+        status = new QLabel;
+        status->setObjectName(statusName);
+        status->setWordWrap(true);
+        layout->addWidget(status, 1);
     }
-    if (!hasFetch) {
-        auto *button = new QPushButton(tr("&Fetch Again"), row);
-        button->setObjectName(fetchName);
-        button->setAutoDefault(false);
+    if (!button) {
+        auto *added = new QPushButton(tr("&Fetch Again"));
+        added->setObjectName(fetchName);
+        added->setAutoDefault(false);
+        layout->addWidget(added, 0, Qt::AlignRight);
+        button = added;
+    }
+    if (layout->count() > 0)
+        insertAbove(place, row.release());
+    if (!isConnected)
         connect(button, SIGNAL(clicked()), controller, SLOT(requestPubdirInfo()));
-        layout->addWidget(button);
-    }
-    KirvUILoader::insertWidget(place, row);
 }
 
 void KirvDirectoryGuard::saveBegins()
@@ -112,9 +127,10 @@ void KirvDirectoryGuard::saveEnded(bool saved)
 
 bool KirvDirectoryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    // The type first: events also come while the fields are being destroyed.
-    if (event->type() == QEvent::EnabledChange && watched == fields)
+    if (watched == fields && event->type() == QEvent::EnabledChange)
         updateStatus();
+    else if (watched == fields && event->type() == QEvent::Show) // from the event loop: the page is first
+        QMetaObject::invokeMethod(this, &KirvDirectoryGuard::fetchWhenSeen, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
 
@@ -135,14 +151,16 @@ void KirvDirectoryGuard::receive(KirvAccountDirectory::Operation operation, cons
         return;
     failure = answer.failure;
     const bool wasPublishing = std::exchange(publishing, false);
-    if (answer.outcome != KirvDirectoryAnswer::Failed)
-        deliver(edited->directory().base());
-    else if (operation == KirvAccountDirectory::Publish)
+    const bool isSuccess = answer.outcome != KirvDirectoryAnswer::Failed;
+    const bool isPublished = isSuccess && operation == KirvAccountDirectory::Publish;
+    if (wasPublishing && !isPublished) // a later request may have taken the place of the publication
         bringBackTyped();
+    else if (isSuccess)
+        deliver(edited->directory().base());
     // Else the fields stay locked: what they would publish is not based on anything.
     updateStatus();
     if (wasPublishing)
-        Q_EMIT publicationEnded(answer.outcome != KirvDirectoryAnswer::Failed);
+        Q_EMIT publicationEnded(isPublished);
 }
 
 /// The page takes what it published for the known entry. The entry before is known again, and the fields differ from
@@ -162,10 +180,29 @@ void KirvDirectoryGuard::onAccountChanged(KirvAccount *changed)
         return;
     const bool cameOnline = changed->isOnline() && !wasOnline;
     wasOnline = changed->isOnline();
-    const bool isShown = tabs && tabs->currentIndex() > 0;
-    if (cameOnline && isShown && isLocked() && !publishing && !changed->directory().isBusy())
-        QMetaObject::invokeMethod(controller, "requestPubdirInfo", Qt::DirectConnection);
+    if (cameOnline && isLocked())
+        fetchWhenSeen();
     updateStatus();
+}
+
+/// The page fetches the entry when the tab changes; the fields of a layout of the user's own may be seen without that.
+void KirvDirectoryGuard::fetchWhenSeen()
+{
+    KirvAccount *edited = account();
+    if (!controller || !edited || !fields || !fields->isVisible() || publishing || edited->directory().isBusy())
+        return;
+    if (isLocked() || !edited->directory().isKnown())
+        QMetaObject::invokeMethod(controller, "requestPubdirInfo", Qt::DirectConnection);
+}
+
+void KirvDirectoryGuard::showFields()
+{
+    for (QWidget *page = fields; page && page != window; page = page->parentWidget()) {
+        auto *tabs = qobject_cast<QTabWidget *>(page->parentWidget()->parentWidget());
+        const QSignalBlocker noFetch(tabs); // it would take away what was typed
+        if (tabs)
+            tabs->setCurrentWidget(page);
+    }
 }
 
 void KirvDirectoryGuard::updateStatus()

@@ -14,16 +14,14 @@ class KirvEditAccountDialog;
 class KirvFieldWidget;
 class QDialog;
 class QLabel;
-class QTabWidget;
 
 /// The directory tab of one edit window: delivers the answers that the window is to show, says why its fields are
-/// locked, and brings back what was typed when it could not be published.
+/// locked, and brings back what was typed when it could not be published. Owned by the window.
 class KirvDirectoryGuard : public QObject {
     Q_OBJECT
 
 public:
-    /// \a controller drives \a window, which has everything in place. \a accounts outlives both, and \a window
-    /// outlives this, with its children.
+    /// \a controller drives \a window, which has everything in place. \a accounts outlives both.
     KirvDirectoryGuard(QDialog *window, KirvEditAccountDialog *controller, KirvAccountCollection &accounts);
     ~KirvDirectoryGuard() override;
 
@@ -32,6 +30,8 @@ public:
     void saveEnded(bool saved);
     /// Whether the last save published something that is without its answer. publicationEnded() follows.
     bool isPublishing() const { return publishing; }
+    /// Brings the tab with the fields to the front; what is typed there stays.
+    void showFields();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -42,7 +42,8 @@ Q_SIGNALS:
 private:
     KirvAccount *account() const;
     void findFields();
-    void addMissingControls(QWidget *place);
+    void findControls(QWidget *place);
+    void fetchWhenSeen();
     void deliver(const QList<KirvField> &fields);
     void receive(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
     void bringBackTyped();
@@ -55,7 +56,6 @@ private:
     QPointer<KirvEditAccountDialog> controller;
     KirvAccountCollection &accounts;
     const KirvAccountKey key;
-    QTabWidget *tabs;
     QLabel *status = nullptr;
     QPointer<KirvFieldWidget> fields; ///< null when the protocol has no directory
     KirvFailure failure; ///< of the latest request

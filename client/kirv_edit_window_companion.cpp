@@ -11,12 +11,33 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QTextEdit>
+
+#include <utility>
+
+namespace {
+
+/// The outermost enabled widgets in \a container, without \a excluded and what contains it.
+QList<QPointer<QWidget>> enabledWidgets(const QWidget *container, const QWidget *excluded)
+{
+    QList<QPointer<QWidget>> found;
+    const auto children = container->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *widget : children) {
+        if (widget == excluded || widget->isWindow() || !widget->isEnabledTo(container))
+            continue;
+        if (widget->isAncestorOf(excluded))
+            found << enabledWidgets(widget, excluded);
+        else
+            found << widget;
+    }
+    return found;
+}
+
+} // namespace
 
 KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
                                                  KirvAccountCollection &accounts, KirvServerCommands &serverCommands)
-    : window(window)
+    : KirvWindowCompanion(window)
     , controller(controller)
     , accounts(accounts)
     , serverCommands(serverCommands)
@@ -30,6 +51,7 @@ KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvE
 
 KirvEditWindowCompanion::~KirvEditWindowCompanion()
 {
+    accounts.disconnect(this); // the widgets are gone already
     if (saving)
         saving->endSave();
     if (!controller)
@@ -44,8 +66,8 @@ void KirvEditWindowCompanion::close()
         controller->disconnect(this);
         delete controller;
     }
-    window->finish(QDialog::Rejected);
-    window->deleteLater(); // a window that was hidden already does not finish again
+    window()->finish(QDialog::Rejected);
+    window()->deleteLater(); // a window that was hidden already does not finish again
 }
 
 void KirvEditWindowCompanion::aboutToShow()
@@ -55,21 +77,21 @@ void KirvEditWindowCompanion::aboutToShow()
     isBound = true;
     bindWindow();
     KirvAccount *account = accounts.find(accountKey);
-    if (!account) { // the page leaves the buttons of such a window without effect
-        connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
+    if (!account || !account->isLoaded()) { // the page leaves the buttons of such a window without effect
+        connect(buttons, &QDialogButtonBox::rejected, window(), &QDialog::reject);
         return;
     }
     knownPassword = account->record().password;
     showDescriptionAsPlainText(*account);
     addServerAccountButton();
-    directory = std::make_unique<KirvDirectoryGuard>(window, controller, accounts);
-    connect(directory.get(), &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
+    directory = new KirvDirectoryGuard(window(), controller, accounts);
+    connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
 }
 
 void KirvEditWindowCompanion::bindWindow()
 {
-    connect(window, SIGNAL(finished(int)), controller, SLOT(finished(int)));
-    connect(window, &QDialog::finished, window, &QDialog::deleteLater);
+    connect(window(), SIGNAL(finished(int)), controller, SLOT(finished(int)));
+    connect(window(), &QDialog::finished, window(), &QDialog::deleteLater);
     // The page deletes the controller of the window before when it opens the next one.
     connect(controller, &QObject::destroyed, this, &KirvEditWindowCompanion::close);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvEditWindowCompanion::onAccountChanged);
@@ -82,7 +104,7 @@ void KirvEditWindowCompanion::bindWindow()
 /// The page sets it as a text that may be markup.
 void KirvEditWindowCompanion::showDescriptionAsPlainText(const KirvAccount &account)
 {
-    auto *description = window->findChild<QTextEdit *>(QStringLiteral("EditAccount_DescriptionEdit"));
+    auto *description = window()->findChild<QTextEdit *>(QStringLiteral("EditAccount_DescriptionEdit"));
     description->setPlainText(account.record().defaultDescription);
 }
 
@@ -94,7 +116,7 @@ void KirvEditWindowCompanion::addServerAccountButton()
     more->setObjectName(QStringLiteral("EditAccount_ServerAccountButton"));
     more->setAutoDefault(false);
     more->setToolTip(tr("What can be done with the account on its server."));
-    more->setMenu(new KirvAccountActionsMenu(accountKey, serverCommands, window, more));
+    more->setMenu(new KirvAccountActionsMenu(accountKey, serverCommands, window(), more));
 }
 
 void KirvEditWindowCompanion::beginSave()
@@ -147,28 +169,33 @@ void KirvEditWindowCompanion::endClick()
 /// Meanwhile the window shows what is saved and can only be closed.
 void KirvEditWindowCompanion::setPublishing(bool isPublishing)
 {
-    if (auto *tabs = window->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs")))
-        tabs->setEnabled(!isPublishing);
-    saveButton->setEnabled(!isPublishing);
+    if (isPublishing) {
+        disabled = enabledWidgets(window(), buttons) << saveButton;
+        for (QWidget *widget : qAsConst(disabled))
+            widget->setEnabled(false);
+        return;
+    }
+    for (QWidget *widget : std::exchange(disabled, {})) {
+        if (widget)
+            widget->setEnabled(true);
+    }
 }
 
 void KirvEditWindowCompanion::onPublicationEnded(bool succeeded)
 {
     setPublishing(false);
     if (succeeded) {
-        window->finish(QDialog::Accepted);
+        window()->finish(QDialog::Accepted);
         return;
     }
-    if (auto *tabs = window->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs"))) {
-        const QSignalBlocker noFetch(tabs); // it would take away what was typed
-        tabs->setCurrentIndex(1);
-    }
+    directory->showFields();
+    saveButton->setFocus(); // it lost the focus when it was disabled; Enter must not cancel now
 }
 
 void KirvEditWindowCompanion::tellSaveRefused()
 {
     auto *box =
-        new QMessageBox(QMessageBox::Warning, tr("Saving Account"), accounts.lastError(), QMessageBox::Ok, window);
+        new QMessageBox(QMessageBox::Warning, tr("Saving Account"), accounts.lastError(), QMessageBox::Ok, window());
     box->setObjectName(QStringLiteral("EditAccount_SaveFailed"));
     box->setTextFormat(Qt::PlainText);
     box->setInformativeText(tr("Nothing was changed. The window stays open, so that you can try again."));

@@ -5,9 +5,8 @@
 #include "core/ui/kirv_layout_dialog.h"
 #include "core/values/kirv_account_key.h"
 
-#include <QObject>
+#include <QList>
 #include <QPointer>
-#include <memory>
 
 class KirvAccount;
 class KirvAccountCollection;
@@ -23,11 +22,11 @@ class QPushButton;
 ///
 /// Save's clicked() begins the change, before the slot of the page that fills it; the window's done() commits it.
 /// Owned by the window.
-class KirvEditWindowCompanion : public QObject, public KirvWindowCompanion {
+class KirvEditWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller and is to own this. \a accounts and \a serverCommands outlive both.
+    /// \a window was just built for \a controller. \a accounts and \a serverCommands outlive both.
     KirvEditWindowCompanion(KirvLayoutDialog *window, KirvEditAccountDialog *controller,
                             KirvAccountCollection &accounts, KirvServerCommands &serverCommands);
     ~KirvEditWindowCompanion() override;
@@ -52,7 +51,6 @@ private:
     void tellSaveRefused();
     void onAccountChanged(KirvAccount *account);
 
-    KirvLayoutDialog *window;
     QPointer<KirvEditAccountDialog> controller;
     KirvAccountCollection &accounts;
     KirvServerCommands &serverCommands;
@@ -60,11 +58,12 @@ private:
     QDialogButtonBox *buttons;
     QPushButton *saveButton;
     QLineEdit *passwordEdit;
-    std::unique_ptr<KirvDirectoryGuard> directory; ///< from the first showing on
+    KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
     QPointer<KirvAccount> saving; ///< while the change of a Save is open
     QString knownPassword; ///< of the account, as far as the window shows it
     bool keepsOpen = false; ///< whatever else the click on Save leads to
     bool isBound = false;
+    QList<QPointer<QWidget>> disabled; ///< while a publication is awaited
 };
 
 #endif

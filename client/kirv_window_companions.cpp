@@ -43,13 +43,9 @@ void KirvWindowCompanions::add(const QString &layout, QWidget *top)
         pageCompanion = new KirvAccountsPageCompanion(top, accounts);
     } else if (KirvEditAccountDialog *controller = KirvEditAccountDialog::of(dialog)) {
         editWindows.removeAll(nullptr);
-        auto companion = std::make_unique<KirvEditWindowCompanion>(dialog, controller, accounts, serverCommands);
-        editWindows << companion.get();
-        dialog->setCompanion(std::move(companion));
+        editWindows << new KirvEditWindowCompanion(dialog, controller, accounts, serverCommands);
     } else if (const KirvAddAccountDialog *controller = KirvAddAccountDialog::of(dialog)) {
         addWindows.removeAll(nullptr);
-        auto companion = std::make_unique<KirvAddWindowCompanion>(dialog, controller);
-        addWindows << companion.get();
-        dialog->setCompanion(std::move(companion));
+        addWindows << new KirvAddWindowCompanion(dialog, controller);
     }
 }

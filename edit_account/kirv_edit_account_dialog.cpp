@@ -314,19 +314,21 @@ void KirvEditAccountDialog::savePassword(KirvAccountConnection *account)
 
 void KirvEditAccountDialog::saveAndClose()
 {
+    const QPointer<QDialog> window(dialog); // a slot may delete the controller, the window or both
     saveSettings();
-    if (dialog)
-        dialog->accept();
-    if (dialog)
-        dialog->close();
+    if (window)
+        window->accept();
+    if (window)
+        window->close();
 }
 
 void KirvEditAccountDialog::reject()
 {
-    if (dialog)
-        dialog->reject();
-    if (dialog)
-        dialog->close();
+    const QPointer<QDialog> window(dialog); // as in saveAndClose()
+    if (window)
+        window->reject();
+    if (window)
+        window->close();
 }
 
 void KirvEditAccountDialog::changeAvatar(const QString &path)

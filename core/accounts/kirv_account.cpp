@@ -6,6 +6,8 @@
 
 #include <QDir>
 
+#include <utility>
+
 namespace {
 
 /// The stored form of the value of \a field.

@@ -64,7 +64,8 @@ public:
     /// The present presence as it was wanted last.
     KirvPresence presence() const;
     bool setPresence(const KirvPresence &presence);
-    /// Logs in with what is stored, also when the connection gave up or waits. Does nothing for a disabled account.
+    /// Logs in with what is stored, also when the connection gave up or waits; during a save, after it was stored. Does
+    /// nothing for a disabled account.
     void tryAgain();
     /// The same, and a connection that is logged in logs out first.
     void reconnect();

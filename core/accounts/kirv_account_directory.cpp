@@ -27,8 +27,8 @@ void KirvAccountDirectory::setConnection(KirvConnection *newConnection)
     known.reset();
     if (connection)
         connect(connection, &KirvConnection::directoryAnswered, this, &KirvAccountDirectory::receive);
-    if (held || outstanding)
-        fail(held ? Publish : operation, tr("The connection ended before the server answered."));
+    if (isBusy())
+        fail(held || drafted ? Publish : operation, tr("The connection ended before the server answered."));
 }
 
 void KirvAccountDirectory::setBlankFields(const QList<KirvField> &fields)
@@ -47,9 +47,8 @@ void KirvAccountDirectory::publish(const QList<KirvField> &fields)
 {
     if (!known)
         return;
-    held = changes(fields, *known, unconfirmed);
-    if (!saving)
-        connectionSettled();
+    (saving ? drafted : held) = changes(fields, *known, unconfirmed);
+    connectionSettled();
 }
 
 void KirvAccountDirectory::deleteEntry()
@@ -72,8 +71,9 @@ void KirvAccountDirectory::hold()
 void KirvAccountDirectory::release(bool saved)
 {
     saving = false;
-    if (!saved)
-        held.reset();
+    if (saved && drafted)
+        held = drafted;
+    drafted.reset();
 }
 
 void KirvAccountDirectory::connectionSettled()
@@ -138,6 +138,7 @@ void KirvAccountDirectory::receive(const KirvDirectoryAnswer &answer)
 void KirvAccountDirectory::fail(Operation failed, const QString &reason)
 {
     outstanding = 0;
+    drafted.reset();
     held.reset();
     KirvDirectoryAnswer answer;
     answer.failure = KirvFailure(KirvFailure::RequestFailed, reason);

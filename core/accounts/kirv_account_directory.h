@@ -40,7 +40,7 @@ public:
     bool isKnown() const { return known.has_value(); }
     QList<KirvField> base() const { return known.value_or(QList<KirvField>()); }
     /// Whether a request or a held publication is without its answer.
-    bool isBusy() const { return outstanding != 0 || held.has_value(); }
+    bool isBusy() const { return outstanding != 0 || held || drafted; }
 
     /// A save begins: publications wait for its end.
     void hold();
@@ -69,7 +69,8 @@ private:
     QList<KirvField> blank;
     std::optional<QList<KirvField>> known;
     QSet<QString> unconfirmed; ///< ids of the fields that were sent since; the server holds the one value or the other
-    std::optional<QList<KirvField>> held; ///< the changes of a publication that is not sent yet
+    std::optional<QList<KirvField>> drafted; ///< the changes of a publication that the open save made
+    std::optional<QList<KirvField>> held; ///< the changes of a publication that is saved, but not sent yet
     Operation operation = Fetch; ///< of the outstanding request
     int outstanding = 0; ///< the number of the latest request without an answer; 0: none
     bool saving = false;

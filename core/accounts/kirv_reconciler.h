@@ -47,8 +47,8 @@ public:
     /// Something that is wanted may have changed.
     void wake();
     void insist(Urge urge);
-    /// Nothing is done between hold() and the release() that belongs to it. What insist() requested meanwhile counts only
-    /// when it is \a kept.
+    /// Nothing is done between hold() and the release() that belongs to it. What insist() requested meanwhile counts
+    /// only when it is \a kept.
     void hold();
     void release(bool kept);
 

@@ -318,6 +318,11 @@ void KirvConnection::acceptPassword(const QString &password)
     d->login.password = password;
 }
 
+QString KirvConnection::securityText() const
+{
+    return QString();
+}
+
 QString KirvConnection::avatarPath() const
 {
     return d->avatarPath;

@@ -80,6 +80,10 @@ public:
     /// Whether \a presence means being logged out; for most protocols the one with the id "offline".
     virtual bool isOfflinePresence(const KirvPresence &presence) const;
 
+    /// How the session is protected and how the account has proved who it is, in a few words for the user, as
+    /// "TLSv1.3, SASL EXTERNAL". Plain text; empty when off line, and where the protocol does not know it.
+    virtual QString securityText() const;
+
     /// The image file of the account's avatar; empty: none. A change is published at once when on line.
     QString avatarPath() const;
     void setAvatarPath(const QString &path);

@@ -80,6 +80,8 @@ KirvDatabaseHeader KirvDatabaseHeader::ofFile(const QString &path)
     KirvDatabaseHeader header;
     header.isDatabase = bytes.size() == headerSize && bytes.startsWith(QByteArray("SQLite format 3", 16));
     if (header.isDatabase) {
+        const int size = int(numberAt(bytes, 16) >> 16);
+        header.pageSize = size == 1 ? 65536 : size;
         header.version = qint32(numberAt(bytes, 60));
         header.applicationId = numberAt(bytes, 68);
     }

@@ -14,6 +14,7 @@ struct KirvDatabaseHeader {
     bool isDatabase = false;
     quint32 applicationId = 0;
     qint32 version = 0; ///< the user version
+    int pageSize = 0; ///< in bytes
 
     static KirvDatabaseHeader ofFile(const QString &path);
 };

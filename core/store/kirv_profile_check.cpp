@@ -144,6 +144,10 @@ KirvProfileState KirvProfileCheck::examine(bool mayRecover) const
     const bool hasLog = QFileInfo(paths.log()).size() > 0;
     if (hasJournal && !mayRecover)
         return { KirvProfileState::Good, QString() };
+    // SQLite takes what is missing of the last page for zeros.
+    const int pageSize = KirvDatabaseHeader::ofFile(paths.database()).pageSize;
+    if (!hasJournal && !hasLog && (pageSize < 512 || QFileInfo(paths.database()).size() % pageSize != 0))
+        return damaged();
     KirvDatabase database;
     // A file that nothing has to be recovered in is read as it is, without making anything beside it.
     const KirvDatabase::Access access =

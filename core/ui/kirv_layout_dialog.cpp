@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_dialog.h"
 
-#include <QPointer>
-#include <utility>
-
-KirvLayoutDialog::~KirvLayoutDialog()
+KirvWindowCompanion::KirvWindowCompanion(KirvLayoutDialog *window)
+    : dialog(window)
 {
-    const std::unique_ptr<KirvWindowCompanion> last = std::move(companion); // it is not called any more
+    window->setCompanion(this);
 }
 
-void KirvLayoutDialog::setCompanion(std::unique_ptr<KirvWindowCompanion> newCompanion)
+void KirvLayoutDialog::setCompanion(KirvWindowCompanion *newCompanion)
 {
-    companion = std::move(newCompanion);
+    companion = newCompanion;
+    newCompanion->setParent(this);
 }
 
 void KirvLayoutDialog::finish(int result)
 {
-    QDialog::done(result);
+    if (isVisible())
+        QDialog::done(result);
 }
 
 void KirvLayoutDialog::setVisible(bool visible)
@@ -29,7 +29,9 @@ void KirvLayoutDialog::setVisible(bool visible)
 void KirvLayoutDialog::done(int result)
 {
     const QPointer<KirvLayoutDialog> alive(this);
-    const bool mayFinish = !companion || companion->mayFinish(result);
-    if (alive && mayFinish)
+    const bool wasVisible = isVisible();
+    if (companion && !companion->mayFinish(result))
+        return;
+    if (alive && isVisible() == wasVisible)
         QDialog::done(result);
 }

@@ -2,6 +2,7 @@
 #include "core/ui/kirv_layout_file.h"
 
 #include "core/ui/kirv_form_area.h"
+#include "core/ui/kirv_layout_check.h"
 #include "core/ui/kirv_layout_dialog.h"
 
 #include <QAbstractButton>
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QLineEdit>
 #include <QMetaEnum>
 #include <QPointer>
 #include <QTextBrowser>
@@ -19,14 +21,12 @@
 #include <QUiLoader>
 #include <QVariant>
 #include <QWidget>
-#include <QXmlStreamReader>
 
 namespace {
 
-// The built-in layouts take some 20 kB and nest about 20 elements deep. The form builder recurses once per
-// nested element, so that a file nested without bounds would exhaust the stack.
+// The built-in layouts take some 20 kB.
 const qint64 MaximumSize = 1024 * 1024;
-const int MaximumDepth = 200;
+const int MaximumLength = 32767; ///< of a line edit, as Qt has it
 
 /// A text view that loads nothing of what a rich text refers to. Where nothing is returned Qt tries to read a file, so
 /// this returns an empty picture, which serves for other kinds of resources, too.
@@ -88,13 +88,40 @@ private:
     }
 };
 
-/// Made once and on first use, because that takes longer than to build a window.
+/// Made once and on first use. The loader would load every Designer plug-in of the system, which takes longer than to
+/// build a window and runs code that no layout may use: it finds none of them.
 Loader &sharedLoader()
 {
     static QPointer<Loader> loader;
-    if (!loader)
+    if (!loader) {
+        const QStringList paths = QCoreApplication::libraryPaths();
+        QCoreApplication::setLibraryPaths({});
         loader = new Loader(qApp);
+        QCoreApplication::setLibraryPaths(paths);
+    }
     return *loader;
+}
+
+/// Whatever the file says: what is typed comes back as a whole, and a password is never shown.
+void protectInput(QWidget *top)
+{
+    const QList<QLineEdit *> edits = top->findChildren<QLineEdit *>();
+    for (QLineEdit *edit : edits) {
+        edit->setInputMask(QString());
+        edit->setMaxLength(MaximumLength);
+        if (edit->objectName().endsWith(QLatin1String("_Password"))
+            || edit->objectName().endsWith(QLatin1String("_PasswordEdit")))
+            edit->setEchoMode(QLineEdit::Password);
+    }
+}
+
+/// A dialog as Qt Designer makes it finishes when a standard button is clicked, before the code that drives it and its
+/// companion have run.
+void disconnectStandardButtons(const QWidget *top)
+{
+    const QList<QDialogButtonBox *> boxes = top->findChildren<QDialogButtonBox *>();
+    for (const QDialogButtonBox *box : boxes)
+        box->disconnect(top);
 }
 
 /// Gives the standard buttons names, which a layout file cannot: that of their box, "_" and that of the button.
@@ -121,7 +148,7 @@ std::unique_ptr<QWidget> KirvLayoutFile::build()
 {
     QByteArray xml = read();
     if (failure.isEmpty())
-        failure = findFault(xml);
+        failure = KirvLayoutCheck(QFileInfo(path).absolutePath()).findFault(xml);
     if (!failure.isEmpty())
         return nullptr;
 
@@ -137,6 +164,8 @@ std::unique_ptr<QWidget> KirvLayoutFile::build()
         failure = tr("It is not a window layout: %1").arg(loader.errorString());
     if (!failure.isEmpty())
         return nullptr;
+    protectInput(top.get());
+    disconnectStandardButtons(top.get());
     nameStandardButtons(top.get());
     return top;
 }
@@ -158,24 +187,4 @@ QByteArray KirvLayoutFile::read()
     else if (xml.size() > MaximumSize)
         failure = tr("It is larger than %1 kB.").arg(MaximumSize / 1024);
     return xml;
-}
-
-QString KirvLayoutFile::findFault(const QByteArray &xml) const
-{
-    QXmlStreamReader reader(xml);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isEndElement())
-            --depth;
-        if (!reader.isStartElement())
-            continue;
-        if (++depth == 1 && reader.name() != QLatin1String("ui"))
-            return tr("It is not a window layout of Qt Designer.");
-        if (depth > MaximumDepth)
-            return tr("Its elements are nested too deeply.");
-    }
-    if (reader.hasError())
-        return tr("Line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
-    return QString();
 }

@@ -24,7 +24,6 @@ public:
 
 private:
     QByteArray read();
-    QString findFault(const QByteArray &xml) const;
 
     QString path;
     QString failure;

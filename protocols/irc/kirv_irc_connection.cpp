@@ -22,17 +22,38 @@ namespace {
 /// What fits into a line beside the command and is accepted by most servers, in bytes.
 const int longestAwayText = 300;
 
-/// A connection that is silent for this many times the time a request may take is checked.
-const int silencePerRequestTime = 4;
+/// A server that is silent for this many times the time a request may take gets a ping.
+const int silencePerRequestTime = 2;
+
+/// How long to wait for the goodbye that follows a refusal and says more, in milliseconds.
+const int goodbyeTime = 2000;
+
+/// How often a change of the nick is told at most, in milliseconds.
+const int nickPause = 10000;
+const int longestShownNick = 64;
+
+bool matches(const QString &text, const char *words)
+{
+    return QRegularExpression(QLatin1String(words), QRegularExpression::CaseInsensitiveOption).match(text).hasMatch();
+}
+
+/// Whether \a text says that the user is banned.
+bool isBan(const QString &text)
+{
+    return matches(text, "\\bbann?ed\\b|\\b[gkz]-?lined?\\b");
+}
+
+/// Whether \a text speaks of a limit that is reached for the moment.
+bool isLimit(const QString &text)
+{
+    return matches(text, "too (many|fast)|no more connections|\\bfull\\b|\\blimit\\b|try( again)? later");
+}
 
 /// Whether a server that closes the connection before the log-in says so because it does not want us. Everything
 /// else (it is full, we came back too fast) may pass.
-bool isDenial(const QString &goodbye)
+bool isDenial(const QString &text)
 {
-    static const QRegularExpression expression(QStringLiteral("denied|password|\\bbann?ed\\b|\\b[gkz]-?lined?\\b|"
-                                                              "not authori[sz]ed|unauthori[sz]ed"),
-                                               QRegularExpression::CaseInsensitiveOption);
-    return expression.match(goodbye).hasMatch();
+    return isBan(text) || (!isLimit(text) && matches(text, "denied|password|not authori[sz]ed|unauthori[sz]ed"));
 }
 
 /// The reply to requests for the name of the program; the library would give its own name.
@@ -74,6 +95,7 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     if (settings.passwordUse != KirvIrcSettings::NotUsed && settings.password.isEmpty())
         return loginFailed(KirvFailure::PasswordMissing);
 
+    certificateError.clear();
     QAbstractSocket *const transport = createTransport(&problem);
     if (!transport)
         return loginFailed({ KirvFailure::BadSettings, problem });
@@ -89,6 +111,9 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
 /// A new one for each attempt, so that nothing of an earlier attempt is left.
 void KirvIrcConnection::createLink()
 {
+    refusal.clear();
+    announcedNick = settings.nick;
+    announcesLater = false;
     link.reset(new IrcConnection);
     link->setReconnectDelay(0);
     link->setCtcpReplies({ { QStringLiteral("VERSION"), programName() } });
@@ -98,7 +123,7 @@ void KirvIrcConnection::createLink()
     link->setRealName(settings.realName);
     connect(link.data(), &IrcConnection::numericMessageReceived, this, &KirvIrcConnection::receiveNumeric);
     connect(link.data(), &IrcConnection::errorMessageReceived, this, &KirvIrcConnection::receiveGoodbye);
-    connect(link.data(), &IrcConnection::disconnected, this, [this] { connectionLost(KirvFailure::ConnectionLost); });
+    connect(link.data(), &IrcConnection::disconnected, this, [this] { loseConnection(); });
 }
 
 /// The library reads and writes through a socket of ours that bounds both.
@@ -106,7 +131,10 @@ void KirvIrcConnection::createSocket(QAbstractSocket *transport)
 {
     socket = new KirvIrcSocket(transport, clock(), link.data());
     link->setSocket(socket);
-    connect(socket, &KirvIrcSocket::heard, this, [this] { heard = true; });
+    connect(socket, &KirvIrcSocket::heard, this, [this] {
+        lastHeard = clock().now();
+        wasPinged = false;
+    });
     connect(socket, &KirvIrcSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
     connect(socket, &KirvIrcSocket::lineWasTooLong, this, [this] {
         connectionLost({ KirvFailure::ConnectionLost, tr("The server sent a line that is longer than lines can be.") });
@@ -117,7 +145,6 @@ void KirvIrcConnection::createSocket(QAbstractSocket *transport)
 /// cannot be used.
 QAbstractSocket *KirvIrcConnection::createTransport(QString *problem)
 {
-    certificateError.clear();
     if (!settings.encrypted)
         return new QTcpSocket;
     QList<QSslCertificate> trusted;
@@ -149,14 +176,16 @@ void KirvIrcConnection::prepareAuthentication()
         return;
     sasl = new KirvIrcSasl(link.data(), settings.saslUser, settings.password);
     link->setProtocol(sasl);
-    connect(sasl, &KirvIrcSasl::failed, this, &KirvIrcConnection::loginFailed);
+    connect(sasl, &KirvIrcSasl::failed, this, &KirvIrcConnection::failAuthentication);
 }
 
 void KirvIrcConnection::finishLogin(const KirvPresence &presence)
 {
     // A server that knows nothing of capabilities goes on without the password.
     if (sasl && !sasl->isAccepted())
-        return loginFailed(KirvFailure::AuthenticationNotOffered);
+        return failAuthentication(KirvFailure::AuthenticationNotOffered);
+    if (sasl)
+        saslServer = settings.server;
     applyPresence(presence);
     connect(link.data(), &IrcConnection::nickNameChanged, this, &KirvIrcConnection::announceNick);
     watchServer();
@@ -166,16 +195,36 @@ void KirvIrcConnection::finishLogin(const KirvPresence &presence)
         announceNick();
 }
 
+/// The services of a network that was restarted are back later than its servers.
+void KirvIrcConnection::failAuthentication(const KirvFailure &failure)
+{
+    if (failure.kind() == KirvFailure::AuthenticationNotOffered && saslServer == settings.server)
+        loginFailed({ KirvFailure::ServiceUnavailable, tr("It does not offer SASL now, as it did before.") });
+    else
+        loginFailed(failure);
+}
+
+/// Not for each of many changes in a row, but for the last one.
 void KirvIrcConnection::announceNick()
 {
-    if (link && link->nickName() != settings.nick) {
+    if (announcesLater || link->nickName() == announcedNick)
+        return;
+    announcesLater = true;
+    callLaterOnLink(nickPause, [this] {
+        announcesLater = false;
+        announceNick();
+    });
+    announcedNick = link->nickName();
+    if (announcedNick != settings.nick) {
         Q_EMIT noticeReceived(tr("The nick “%1” could not be had; you are “%2” on this server now.")
-                                  .arg(settings.nick, link->nickName()));
+                                  .arg(settings.nick, kirvIrcShown(announcedNick, longestShownNick)));
     }
 }
 
 void KirvIrcConnection::receiveNumeric(IrcNumericMessage *message)
 {
+    if (message->code() == Irc::ERR_YOUREBANNEDCREEP && (state() == Connecting || state() == Online))
+        return awaitGoodbye(message);
     if (state() != Connecting)
         return;
     switch (message->code()) {
@@ -188,8 +237,7 @@ void KirvIrcConnection::receiveNumeric(IrcNumericMessage *message)
         tryNextNick(false);
         break;
     case Irc::ERR_PASSWDMISMATCH:
-    case Irc::ERR_YOUREBANNEDCREEP:
-        loginFailed({ KirvFailure::AccessDenied, message->parameters().value(message->parameters().size() - 1) });
+        awaitGoodbye(message);
         break;
     default:
         break;
@@ -207,12 +255,42 @@ void KirvIrcConnection::tryNextNick(bool wasRefused)
     link->setNickName(nicksLeft.takeFirst());
 }
 
+/// The server closes the connection now, and often gives its reason only then.
+void KirvIrcConnection::awaitGoodbye(IrcNumericMessage *message)
+{
+    const bool isFirst = refusal.isEmpty();
+    refusal = message->parameters().value(message->parameters().size() - 1);
+    if (!isFirst || refusal.isEmpty())
+        return;
+    clock().callLater(goodbyeTime, link.data(), [this, refused = link.data()] {
+        if (link.data() == refused)
+            loseConnection();
+    });
+}
+
 void KirvIrcConnection::receiveGoodbye(IrcErrorMessage *message)
 {
-    if (state() == Disconnecting)
-        return;
-    const bool denied = state() == Connecting && isDenial(message->error());
-    connectionLost({ denied ? KirvFailure::AccessDenied : KirvFailure::ServerShutDown, message->error() });
+    if (state() != Disconnecting)
+        connectionLost(meaningOf(message->error()));
+}
+
+/// What it means that the server closes the connection with \a goodbye.
+KirvFailure KirvIrcConnection::meaningOf(const QString &goodbye) const
+{
+    if (refusal.isEmpty()) {
+        const bool isFinal = state() == Connecting && isDenial(goodbye);
+        return { isFinal ? KirvFailure::AccessDenied : KirvFailure::ServerShutDown, goodbye };
+    }
+    //: %1 is what a server says first, as "You are banned", %2 what it says when it closes the connection
+    const QString reason = goodbye.isEmpty() ? refusal : tr("%1 – %2").arg(refusal, goodbye);
+    const bool passes = isLimit(reason) && !isBan(reason);
+    return { passes ? KirvFailure::ServerShutDown : KirvFailure::AccessDenied, reason };
+}
+
+/// The connection has ended without a goodbye.
+void KirvIrcConnection::loseConnection(const QString &reason)
+{
+    connectionLost(refusal.isEmpty() ? KirvFailure(KirvFailure::ConnectionLost, reason) : meaningOf(QString()));
 }
 
 void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
@@ -231,7 +309,7 @@ void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
     case QAbstractSocket::RemoteHostClosedError:
         return; // what the server sent before is still to be read; the disconnection follows
     default:
-        return connectionLost({ KirvFailure::ConnectionLost, socket->errorString() });
+        return loseConnection(socket->errorString());
     }
 }
 
@@ -267,24 +345,16 @@ void KirvIrcConnection::applyPresence(const KirvPresence &presence)
 /// A connection can break without any sign of it: a server that has been silent for long gets a ping.
 void KirvIrcConnection::watchServer()
 {
-    heard = false;
-    callLaterOnLink(silencePerRequestTime * timing().requestTimeout, [this] {
-        if (heard)
-            watchServer();
-        else
-            checkServer();
-    });
-}
-
-void KirvIrcConnection::checkServer()
-{
+    const int time = timing().requestTimeout;
+    const int silence = silencePerRequestTime * time;
+    const qint64 silent = lastHeard.msecsTo(clock().now());
+    if (wasPinged)
+        return connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
+    if (silent >= 0 && silent < silence)
+        return callLaterOnLink(int(silence - silent), [this] { watchServer(); });
     link->sendCommand(IrcCommand::createPing(settings.server));
-    callLaterOnLink(timing().requestTimeout, [this] {
-        if (heard)
-            watchServer();
-        else
-            connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
-    });
+    wasPinged = true;
+    callLaterOnLink(time, [this] { watchServer(); });
 }
 
 /// Calls \a callback later, unless the link has ended by then.

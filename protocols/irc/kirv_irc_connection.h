@@ -6,6 +6,7 @@
 #include "protocols/irc/kirv_irc_settings.h"
 
 #include <QAbstractSocket>
+#include <QDateTime>
 #include <QScopedPointer>
 #include <QStringList>
 #include <functional>
@@ -43,14 +44,17 @@ private:
     void prepareAuthentication();
 
     void finishLogin(const KirvPresence &presence);
+    void failAuthentication(const KirvFailure &failure);
     void announceNick();
     void receiveNumeric(IrcNumericMessage *message);
     void tryNextNick(bool wasRefused);
+    void awaitGoodbye(IrcNumericMessage *message);
     void receiveGoodbye(IrcErrorMessage *message);
+    KirvFailure meaningOf(const QString &goodbye) const;
+    void loseConnection(const QString &reason = QString());
     void receiveSocketError(QAbstractSocket::SocketError error);
 
     void watchServer();
-    void checkServer();
     void callLaterOnLink(int milliseconds, std::function<void()> callback);
 
     /// Deleted later, as it may be in the middle of a signal.
@@ -60,7 +64,12 @@ private:
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
     QStringList nicksLeft;
     QString certificateError; ///< why the server's certificate is not trusted
-    bool heard = false; ///< whether anything came from the server since it was watched last
+    QString saslServer; ///< where SASL worked last, in this session of the program
+    QString refusal; ///< why the server is about to close the connection; its goodbye follows
+    QString announcedNick;
+    bool announcesLater = false; ///< a nick was announced not long ago
+    QDateTime lastHeard;
+    bool wasPinged = false; ///< since the server was last heard
 };
 
 #endif

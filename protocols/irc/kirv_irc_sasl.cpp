@@ -45,7 +45,8 @@ void KirvIrcSasl::receive(IrcMessage *message)
     if (message->type() == IrcMessage::Capability) {
         negotiate(message);
     } else if (message->command() == QLatin1String("AUTHENTICATE")) {
-        sendCredentials();
+        if (requested && !answered)
+            sendCredentials();
     } else if (message->type() == IrcMessage::Numeric) {
         switch (static_cast<IrcNumericMessage *>(message)->code()) {
         case 903: // RPL_SASLSUCCESS
@@ -56,7 +57,7 @@ void KirvIrcSasl::receive(IrcMessage *message)
         case 904: // ERR_SASLFAIL
         case 905: // ERR_SASLTOOLONG
         case 906: // ERR_SASLABORTED
-            Q_EMIT failed(KirvFailure::WrongPassword);
+            fail();
             break;
         case 908: // RPL_SASLMECHS
             Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
@@ -87,8 +88,15 @@ void KirvIrcSasl::negotiate(IrcMessage *message)
     }
 }
 
+/// A server without its services refuses before it has seen the password.
+void KirvIrcSasl::fail()
+{
+    Q_EMIT failed(answered ? KirvFailure::WrongPassword : KirvFailure::AuthenticationNotOffered);
+}
+
 void KirvIrcSasl::sendCredentials()
 {
+    answered = true;
     const QByteArray credentials = ('\0' + user.toUtf8() + '\0' + password.toUtf8()).toBase64();
     for (int begin = 0; begin < credentials.size(); begin += pieceSize)
         connection()->sendData("AUTHENTICATE " + credentials.mid(begin, pieceSize));
@@ -99,6 +107,8 @@ void KirvIrcSasl::sendCredentials()
 
 void KirvIrcSasl::accept()
 {
+    if (accepted || !answered)
+        return;
     accepted = true;
     connection()->sendData(endOfNegotiation);
 }

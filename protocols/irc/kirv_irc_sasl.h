@@ -32,12 +32,14 @@ Q_SIGNALS:
 private:
     void receive(IrcMessage *message);
     void negotiate(IrcMessage *message);
+    void fail();
     void sendCredentials();
     void accept();
 
     QString user;
     QString password;
     bool requested = false;
+    bool answered = false; ///< the credentials have been sent
     bool accepted = false;
 };
 

@@ -8,4 +8,8 @@
 /// spaces, what exceeds \a maximum bytes of UTF-8 is cut off at the end of a character.
 QString kirvIrcLine(const QString &text, int maximum);
 
+/// Makes \a text, which comes from a server, safe to show within a sentence: as kirvIrcLine(), and what turns the
+/// direction of writing is removed.
+QString kirvIrcShown(const QString &text, int maximum);
+
 #endif

@@ -3,8 +3,11 @@
 
 #include <atomic>
 #include <csignal>
+#include <cstdarg>
 #include <cstdio>
 #include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -71,3 +74,29 @@ KIRV_COUNTED_NOEXCEPT(int, renameat2,
 KIRV_COUNTED_NOEXCEPT(int, link, (const char *from, const char *to), (from, to))
 KIRV_COUNTED_NOEXCEPT(int, linkat, (int fromFolder, const char *from, int toFolder, const char *to, int flags),
                       (fromFolder, from, toFolder, to, flags))
+KIRV_COUNTED_NOEXCEPT(int, mkdir, (const char *path, mode_t mode), (path, mode))
+KIRV_COUNTED_NOEXCEPT(int, rmdir, (const char *path), (path))
+KIRV_COUNTED_NOEXCEPT(int, chmod, (const char *path, mode_t mode), (path, mode))
+KIRV_COUNTED_NOEXCEPT(int, fchmod, (int file, mode_t mode), (file, mode))
+KIRV_COUNTED_NOEXCEPT(int, flock, (int file, int operation), (file, operation))
+
+/// Only what makes or empties a file counts: the others leave everything as it is.
+#define KIRV_COUNTED_OPEN(name, beforeNames, before, beforeTypes)                                                      \
+    extern "C" int name beforeNames                                                                                    \
+    {                                                                                                                  \
+        static const auto original = next<int(*) beforeTypes>(#name);                                                  \
+        std::va_list arguments;                                                                                        \
+        va_start(arguments, flags);                                                                                    \
+        const mode_t mode = flags & O_CREAT ? va_arg(arguments, mode_t) : 0;                                           \
+        va_end(arguments);                                                                                             \
+        if (flags & (O_CREAT | O_TRUNC))                                                                               \
+            countCall();                                                                                               \
+        return original before;                                                                                        \
+    }
+
+KIRV_COUNTED_OPEN(open, (const char *path, int flags, ...), (path, flags, mode), (const char *, int, ...))
+KIRV_COUNTED_OPEN(open64, (const char *path, int flags, ...), (path, flags, mode), (const char *, int, ...))
+KIRV_COUNTED_OPEN(openat, (int folder, const char *path, int flags, ...), (folder, path, flags, mode),
+                  (int, const char *, int, ...))
+KIRV_COUNTED_OPEN(openat64, (int folder, const char *path, int flags, ...), (folder, path, flags, mode),
+                  (int, const char *, int, ...))

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_default_profile.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
@@ -94,6 +95,8 @@ private Q_SLOTS:
     void aLogThatWasLeftIsReplayed();
     void oddTextsAreReadChangedAndRemoved_data();
     void oddTextsAreReadChangedAndRemoved();
+    void theDefaultFolderNeedsAHome_data();
+    void theDefaultFolderNeedsAHome();
 
 private:
     void makeProfile(int accounts = 3) const;
@@ -521,6 +524,36 @@ void tst_ProfileOpening::oddTextsAreReadChangedAndRemoved()
     QVERIFY2(store.removeAccount(changed.key), qPrintable(store.lastError()));
     QCOMPARE(store.readAccounts().size(), 2);
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_ProfileOpening::theDefaultFolderNeedsAHome_data()
+{
+    QTest::addColumn<QByteArray>("home");
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("both") << QByteArray("/home/anna") << QByteArray("/data") << "/data/kirv";
+    QTest::newRow("only a home") << QByteArray("/home/anna") << QByteArray() << "/home/anna/.local/share/kirv";
+    QTest::newRow("a relative folder for data")
+        << QByteArray("/home/anna") << QByteArray("data") << "/home/anna/.local/share/kirv";
+    QTest::newRow("only a folder for data") << QByteArray() << QByteArray("/data/") << "/data/kirv";
+    QTest::newRow("neither") << QByteArray() << QByteArray() << "";
+    QTest::newRow("a relative home") << QByteArray("anna") << QByteArray("./data") << "";
+}
+
+void tst_ProfileOpening::theDefaultFolderNeedsAHome()
+{
+    QFETCH(QByteArray, home);
+    QFETCH(QByteArray, data);
+    QFETCH(QString, folder);
+    const QByteArray homeBefore = qgetenv("HOME"), dataBefore = qgetenv("XDG_DATA_HOME");
+    home.isNull() ? qunsetenv("HOME") : qputenv("HOME", home);
+    data.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", data);
+    QString error;
+    const QString found = kirvDefaultProfileFolder(&error);
+    qputenv("HOME", homeBefore);
+    dataBefore.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", dataBefore);
+    QCOMPARE(found, folder);
+    QCOMPARE(error.contains(QLatin1String("HOME")), folder.isEmpty());
 }
 
 int main(int argc, char *argv[])

@@ -20,6 +20,9 @@ private Q_SLOTS:
     void theNegotiationEndsWhenThePasswordIsAccepted();
     void refusalsFail_data();
     void refusalsFail();
+    void refusalBeforeThePasswordIsNoJudgement_data();
+    void refusalBeforeThePasswordIsNoJudgement();
+    void nothingIsSentTwiceOrUnrequested();
     void offersAreRead_data();
     void offersAreRead();
     void aListInSeveralLinesIsReadToItsEnd();
@@ -112,7 +115,8 @@ void TestIrcSasl::theNegotiationEndsWhenThePasswordIsAccepted()
 {
     QFETCH(QByteArray, line);
     offerSasl();
-    QStringList sent = receive(":irc CAP * ACK :sasl") + receive("AUTHENTICATE +");
+    QStringList sent = receive(":irc CAP * ACK :sasl");
+    sent += receive("AUTHENTICATE +");
     QVERIFY2(!sent.contains("CAP END"), qPrintable(sent.join(" / ")));
     sent = receive(line);
     QVERIFY2(sent.contains("CAP END"), qPrintable(sent.join(" / ")));
@@ -142,6 +146,37 @@ void TestIrcSasl::refusalsFail()
     QVERIFY2(!sent.contains("CAP END"), qPrintable(sent.join(" / ")));
     QTEST(int(failure()), "kind");
     QVERIFY(!sasl->isAccepted());
+}
+
+/// A server whose services are away refuses before it has seen the password.
+void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("failed") << QByteArray(":irc 904 alice :failed");
+    QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted");
+}
+
+void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement()
+{
+    QFETCH(QByteArray, line);
+    offerSasl();
+    receive(":irc CAP * ACK :sasl");
+    receive(line);
+    QCOMPARE(failure(), KirvFailure::AuthenticationNotOffered);
+}
+
+/// Whatever the server sends, in whatever order.
+void TestIrcSasl::nothingIsSentTwiceOrUnrequested()
+{
+    QVERIFY(receive("AUTHENTICATE +").filter("AUTHENTICATE").isEmpty());
+    QVERIFY(!receive(":irc 903 alice :welcome").contains("CAP END"));
+    QVERIFY(!sasl->isAccepted());
+    offerSasl();
+    receive(":irc CAP * ACK :sasl");
+    QCOMPARE(receive("AUTHENTICATE +").filter("AUTHENTICATE").size(), 1);
+    QVERIFY(receive("AUTHENTICATE +").filter("AUTHENTICATE").isEmpty());
+    QCOMPARE(receive(":irc 903 alice :welcome").filter("CAP END").size(), 1);
+    QVERIFY(receive(":irc 903 alice :welcome").filter("CAP END").isEmpty());
 }
 
 void TestIrcSasl::offersAreRead_data()

@@ -11,6 +11,8 @@ private Q_SLOTS:
     void textsBecomeOneLine_data();
     void textsBecomeOneLine();
     void aLineNeverExceedsItsBytes();
+    void shownTextKeepsItsDirection_data();
+    void shownTextKeepsItsDirection();
 };
 
 void TestIrcText::textsBecomeOneLine_data()
@@ -48,6 +50,29 @@ void TestIrcText::aLineNeverExceedsItsBytes()
         QVERIFY(line.toUtf8().size() > maximum - 4);
         QVERIFY(!line.contains('\n'));
     }
+}
+
+void TestIrcText::shownTextKeepsItsDirection_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("plain") << "alice"
+                           << "alice";
+    QTest::newRow("marks") << QString::fromUtf8("a\u200eb\u200fc\u061cd") << "abcd";
+    QTest::newRow("embeddings and overrides") << QString::fromUtf8("\u202aa\u202bb\u202cc\u202dd\u202e") << "abcd";
+    QTest::newRow("isolates") << QString::fromUtf8("\u2066a\u2067b\u2068c\u2069") << "abc";
+    QTest::newRow("nothing else") << QString::fromUtf8("\u202e\u2066") << "";
+    QTest::newRow("Hebrew stays") << QString::fromUtf8("\u05d0\u05d1") << QString::fromUtf8("\u05d0\u05d1");
+    QTest::newRow("joiners stay") << QString::fromUtf8("\u0645\u200c\u0645") << QString::fromUtf8("\u0645\u200c\u0645");
+    QTest::newRow("one line") << " a\r\n\2b "
+                              << "a b";
+    QTest::newRow("cut") << QString(100, 'x') << QString(20, 'x');
+}
+
+void TestIrcText::shownTextKeepsItsDirection()
+{
+    QFETCH(QString, text);
+    QTEST(kirvIrcShown(text, 20), "shown");
 }
 
 QTEST_APPLESS_MAIN(TestIrcText)

@@ -69,7 +69,7 @@ bool KirvWindows::start()
     }
     client->window()->show();
     return QTest::qWaitForWindowExposed(client->window())
-        && QTest::qWaitFor([this] { return client->arePluginsLoaded(); }, patience);
+        && QTest::qWaitFor([this] { return client->arePluginsLoaded(); }, kirvPatience);
 }
 
 void KirvWindows::quit()

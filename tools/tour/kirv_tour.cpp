@@ -120,7 +120,7 @@ void KirvTour::planFirstAccount()
 {
     walk.expectOnTop(
         QStringLiteral("The settings window opens on the Accounts page"),
-        [this] { return page() && page()->isVisible(); },
+        [this] { return page() && page()->isVisible() && client->arePluginsLoaded(); },
         [this] { KirvWindowDriver::openMenu(page()->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton"))); });
     walk.expect(
         QStringLiteral("The menu of the add button offers XMPP"), [] { return KirvWindowDriver::menuOffers(xmpp); },
