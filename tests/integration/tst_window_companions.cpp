@@ -134,6 +134,7 @@ private Q_SLOTS:
     void noEntryPublishesOnlyWhatWasTyped();
     void refusedPublicationIsSentByTheNextSave();
     void lostConnectionKeepsWhatWasTyped();
+    void failedReconnectionKeepsWhatWasTyped();
     void refusedSaveKeepsWhatWasTyped();
     void saveWaitsForItsPublication_data();
     void saveWaitsForItsPublication();
@@ -807,6 +808,32 @@ void tst_WindowCompanions::lostConnectionKeepsWhatWasTyped()
     save(window);
     KIRV_TRY(!window);
     QCOMPARE(server().takeCalls(), QStringList("ann publish name"));
+}
+
+void tst_WindowCompanions::failedReconnectionKeepsWhatWasTyped()
+{
+    QPointer<KirvLayoutDialog> window = editDirectory();
+    nameEdit(window)->setText(QStringLiteral("Typed"));
+    auto *password = child<QLineEdit>(window, "EditAccount_Password");
+    password->setText(QStringLiteral("wrong"));
+    server().logIn = KirvFakeServer::Refuses;
+    save(window);
+    settle();
+    QVERIFY(window && window->isVisible());
+    QCOMPARE(account()->record().password, QStringLiteral("wrong"));
+    QVERIFY(!isLocked(window));
+    QVERIFY(button(window, QDialogButtonBox::Save)->hasFocus());
+    QCOMPARE(nameEdit(window)->text(), QStringLiteral("Typed"));
+
+    server().logIn = KirvFakeServer::Accepts;
+    account()->providePassword(secret, true);
+    settle();
+    QVERIFY(account()->isOnline());
+    QCOMPARE(nameEdit(window)->text(), QStringLiteral("Typed"));
+    server().takeCalls();
+    save(window);
+    KIRV_TRY(!window);
+    QCOMPARE(name(), QStringLiteral("Typed"));
 }
 
 void tst_WindowCompanions::refusedSaveKeepsWhatWasTyped()
