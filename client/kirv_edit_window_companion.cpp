@@ -4,10 +4,12 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_directory_guard.h"
+#include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -63,6 +65,7 @@ void KirvEditWindowCompanion::aboutToShow()
         return;
     }
     knownPassword = account->record().password;
+    showIdentifierAsPlainText();
     showDescriptionAsPlainText(*account);
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window, controller, accounts);
@@ -80,6 +83,14 @@ void KirvEditWindowCompanion::bindWindow()
         if (account->key() == accountKey)
             close();
     });
+}
+
+void KirvEditWindowCompanion::showIdentifierAsPlainText()
+{
+    if (auto *identifier = window->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))) {
+        identifier->setTextFormat(Qt::PlainText);
+        identifier->setText(kirvPlainName(identifier->text()));
+    }
 }
 
 /// The page sets it as a text that may be markup.
