@@ -23,9 +23,11 @@ const QString &folder()
     static int count = 1;
     static char name[] = "fuzz_layout_check";
     static char *arguments[] = { name, nullptr };
-    static QApplication application(count, arguments);
+    static const QApplication *application =
+        new QApplication(count, arguments); // never destroyed: it must not outlive Qt's own statics
     static QTemporaryDir made;
     static const QString path = made.path();
+    Q_UNUSED(application)
     qInstallMessageHandler(ignoreMessages);
     return path;
 }
