@@ -7,9 +7,11 @@
 #include "client/kirv_first_paint.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
+#include "client/kirv_plain_text.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
+#include "client/kirv_visible_boxes.h"
 #include "client/kirv_window_companions.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/host/kirv_host_services.h"
@@ -116,6 +118,7 @@ void KirvClient::createServices()
 void KirvClient::createWindow()
 {
     settingsWindow = std::make_unique<KirvSettingsWindow>(*clientSettings);
+    new KirvVisibleBoxes(settingsWindow.get());
     // Building the page may reject layouts of the user's own already.
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
@@ -203,13 +206,13 @@ void KirvClient::mainAccountChanged()
 void KirvClient::updateTitle()
 {
     const auto *account = static_cast<KirvAccount *>(KirvAccountManager::getInstance()->getMainAccount());
-    settingsWindow->setMainAccount(account ? account->displayName() : QString());
+    settingsWindow->setMainAccount(account ? kirvPlainName(account->displayName()) : QString());
 }
 
 void KirvClient::showNotice(const KirvAccount *account, const QString &text)
 {
     //: %1 = name of an account, %2 = one or more sentences about it
-    showProblem(tr("%1: %2").arg(account->displayName(), text));
+    showProblem(tr("%1: %2").arg(kirvPlainName(account->displayName()), text));
 }
 
 void KirvClient::showProblem(const QString &text)

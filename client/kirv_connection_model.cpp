@@ -168,7 +168,8 @@ QString KirvConnectionModel::text(const KirvAccount &account, int column) const
     switch (column) {
     case AccountColumn:
         //: %1 = name of an account
-        return isMainAccount(account) ? tr("%1 (main account)").arg(account.displayName()) : account.displayName();
+        return kirvPlainName(isMainAccount(account) ? tr("%1 (main account)").arg(account.displayName())
+                                                    : account.displayName());
     case ProtocolColumn:
         return account.key().protocol;
     case StateColumn:

@@ -4,10 +4,12 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_directory_guard.h"
+#include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -42,9 +44,9 @@ KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvE
     , accounts(accounts)
     , serverCommands(serverCommands)
     , accountKey { controller->getAccountId(), controller->getProtocolName() }
-    , buttons(window->findChild<QDialogButtonBox *>(QStringLiteral("EditAccount_FrameButtons")))
+    , buttons(window()->findChild<QDialogButtonBox *>(QStringLiteral("EditAccount_FrameButtons")))
     , saveButton(buttons->button(QDialogButtonBox::Save))
-    , passwordEdit(window->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
+    , passwordEdit(window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
 {
     connect(saveButton, &QPushButton::clicked, this, &KirvEditWindowCompanion::beginSave);
 }
@@ -82,6 +84,7 @@ void KirvEditWindowCompanion::aboutToShow()
         return;
     }
     knownPassword = account->record().password;
+    showIdentifierAsPlainText();
     showDescriptionAsPlainText(*account);
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window(), controller, accounts);
@@ -99,6 +102,14 @@ void KirvEditWindowCompanion::bindWindow()
         if (account->key() == accountKey)
             close();
     });
+}
+
+void KirvEditWindowCompanion::showIdentifierAsPlainText()
+{
+    if (auto *identifier = window()->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))) {
+        identifier->setTextFormat(Qt::PlainText);
+        identifier->setText(kirvPlainName(identifier->text()));
+    }
 }
 
 /// The page sets it as a text that may be markup.

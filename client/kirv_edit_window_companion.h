@@ -42,6 +42,7 @@ public:
 private:
     void bindWindow();
     void addServerAccountButton();
+    void showIdentifierAsPlainText();
     void showDescriptionAsPlainText(const KirvAccount &account);
     void beginSave();
     bool commitSave();

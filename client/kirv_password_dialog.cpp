@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_password_dialog.h"
 
+#include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account.h"
 
 #include <QCheckBox>
@@ -25,8 +26,8 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     question->setTextFormat(Qt::PlainText);
     question->setWordWrap(true);
     //: %1 = name of an account, %2 = its protocol
-    question->setText(
-        tr("Enter the password of the account %1 (%2).").arg(account.displayName(), account.key().protocol));
+    question->setText(tr("Enter the password of the account %1 (%2).")
+                          .arg(kirvPlainName(account.displayName()), account.key().protocol));
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));
     passwordEdit->setAccessibleName(tr("Password"));

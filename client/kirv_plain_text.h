@@ -2,7 +2,16 @@
 #ifndef KIRV_PLAIN_TEXT_H
 #define KIRV_PLAIN_TEXT_H
 
+#include "core/values/kirv_visible_text.h"
+
 #include <QString>
+
+/// A login, alias or other name as labels and boxes show it, and a text with such names: nothing in it turns the text
+/// around. What shows it must be set to plain text.
+inline QString kirvPlainName(const QString &name)
+{
+    return kirvVisibleText(name);
+}
 
 /// A tool tip that shows \a text as it stands: Qt takes tool tips for markup when they look like it.
 inline QString kirvPlainToolTip(const QString &text)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_server_task.h"
 
+#include "client/kirv_plain_text.h"
 #include "client/kirv_server_assistant.h"
 #include "core/accounts/kirv_account_collection.h"
 
@@ -79,7 +80,7 @@ void KirvServerTask::failed(const KirvFailure &failure)
 {
     if (assistant && assistant->isVisible())
         return; // it is shown there
-    const QString name = requestAccount ? requestAccount->displayName() : QString();
+    const QString name = requestAccount ? kirvPlainName(requestAccount->displayName()) : QString();
     //: %1 = name of an account, %2 = one or more sentences about it
     Q_EMIT problemOccurred(name.isEmpty() ? failure.text() : tr("%1: %2").arg(name, failure.text()));
     end();
@@ -136,7 +137,7 @@ KirvServerTask::Outcome KirvServerTask::addAccount(const KirvLogin &login)
     const bool exists = accounts.find(record.key);
     //: %1 = login of an account, %2 = the reason, a sentence
     return { tr("The account %1 is registered on the server, but it was not added here. %2")
-                 .arg(login.id, accounts.lastError()),
+                 .arg(kirvPlainName(login.id), accounts.lastError()),
              exists ? QString() : tr("Add Again") };
 }
 
@@ -148,13 +149,13 @@ KirvServerTask::Outcome KirvServerTask::storePassword(const QString &password)
     //: %1 = name of an account, %2 = the reason, a sentence
     return { tr("The account %1 has the new password on its server. The password is used until the program ends, but "
                 "it is not stored. %2")
-                 .arg(requestAccount->displayName(), accounts.lastError()),
+                 .arg(kirvPlainName(requestAccount->displayName()), accounts.lastError()),
              tr("Store Again") };
 }
 
 KirvServerTask::Outcome KirvServerTask::removeAccount()
 {
-    const QString name = requestAccount ? requestAccount->displayName() : QString();
+    const QString name = requestAccount ? kirvPlainName(requestAccount->displayName()) : QString();
     if (!requestAccount || accounts.remove(requestAccount))
         return Outcome();
     //: %1 = name of an account, %2 = the reason, a sentence

@@ -119,6 +119,7 @@ private Q_SLOTS:
     void actionsOfTheProtocolAreOffered();
 
     void messagesAreShownOnceAndClosed();
+    void namesTurnNoTextAround();
     void germanTextsAreThere();
 
 private:
@@ -893,6 +894,33 @@ void tst_Client::messagesAreShownOnceAndClosed()
         processDeletions();
     }
     QVERIFY(!bar->isVisible());
+}
+
+void tst_Client::namesTurnNoTextAround()
+{
+    const QString turned = QStringLiteral("<b>anna</b>\u202Etxt.exe");
+    const QString shown = QStringLiteral("<b>anna</b>[U+202E]txt.exe");
+    addAccount(QStringLiteral("bert"));
+    KirvAccount *anna = addAccount(turned);
+    QVERIFY(anna);
+    QCOMPARE(cell(anna, KirvConnectionModel::AccountColumn), shown);
+    client->accountsPage()->updateAccounts();
+    for (const QString &name : { QStringLiteral("bert"), turned })
+        selector()->setCurrentIndex(selector()->findText(name));
+    QVERIFY2(client->window()->windowTitle().contains(shown), qPrintable(client->window()->windowTitle()));
+
+    // A box of the library: it does not know that a client looks after it.
+    list()->setCurrentItem(row(turned));
+    child<QToolButton>(client->accountsPage(), "Accounts_RemoveButton")->click();
+    auto *box = client->accountsPage()->findChild<QMessageBox *>();
+    QVERIFY(box && box->isVisible());
+    QVERIFY2(box->text().contains(shown) && !box->text().contains(QChar(0x202E)), qPrintable(box->text()));
+    QCOMPARE(box->textFormat(), Qt::PlainText);
+    box->button(QMessageBox::No)->click();
+    QDialog *window = openEditWindow(turned);
+    QVERIFY(window);
+    QVERIFY(child<QLabel>(window, "EditAccount_Identifier")->text().contains(shown));
+    QCOMPARE(child<QLineEdit>(window, "EditAccount_Alias")->text(), turned);
 }
 
 void tst_Client::germanTextsAreThere()

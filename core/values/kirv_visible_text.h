@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_VISIBLE_TEXT_H
+#define KIRV_VISIBLE_TEXT_H
+
+#include "core/values/kirv_values_export.h"
+
+#include <QString>
+
+/// \a text with a mark such as "[U+202E]" in place of each character that changes the direction of what follows and is
+/// invisible itself: a name from elsewhere could otherwise read as another one, and turn the sentence around it.
+KIRV_VALUES_EXPORT QString kirvVisibleText(const QString &text);
+
+#endif
