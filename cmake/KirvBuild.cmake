@@ -63,6 +63,9 @@ if(KIRV_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(kirv_build_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(KIRV_FUZZ)
+    target_compile_options(kirv_build_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # kirv_add_protocol_library(NAME SOURCES...): what a protocol consists of without its plug-in class, as a static library
 # that tests link against, too.

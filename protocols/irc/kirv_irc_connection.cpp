@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
 
+#include "protocols/irc/kirv_irc_certificates.h"
 #include "protocols/irc/kirv_irc_sasl.h"
 #include "protocols/irc/kirv_irc_socket.h"
 #include "protocols/irc/kirv_irc_text.h"
@@ -10,12 +11,13 @@
 #include <IrcConnection>
 #include <IrcMessage>
 #include <QCoreApplication>
-#include <QFile>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSslCertificate>
 #include <QSslConfiguration>
+#include <QSslKey>
 #include <QSslSocket>
+#include <memory>
 
 namespace {
 
@@ -64,16 +66,6 @@ QString programName()
     return name.trimmed();
 }
 
-/// A file that is larger than a bundle of certificates is none.
-QList<QSslCertificate> readCertificates(const QString &path)
-{
-    const qint64 largest = 1 << 20;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largest)
-        return {};
-    return QSslCertificate::fromData(file.read(largest), QSsl::Pem);
-}
-
 } // namespace
 
 KirvIrcConnection::KirvIrcConnection(KirvClock &clock, QObject *parent)
@@ -92,7 +84,7 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     QString problem = settings.problem();
     if (!problem.isEmpty())
         return loginFailed({ KirvFailure::BadSettings, problem });
-    if (settings.passwordUse != KirvIrcSettings::NotUsed && settings.password.isEmpty())
+    if (settings.needsPassword() && settings.password.isEmpty())
         return loginFailed(KirvFailure::PasswordMissing);
 
     certificateError.clear();
@@ -147,24 +139,35 @@ QAbstractSocket *KirvIrcConnection::createTransport(QString *problem)
 {
     if (!settings.encrypted)
         return new QTcpSocket;
-    QList<QSslCertificate> trusted;
-    if (!settings.certificateFile.isEmpty()) {
-        trusted = readCertificates(settings.certificateFile);
-        if (trusted.isEmpty()) {
-            *problem = tr("There is no certificate in the file “%1”.").arg(settings.certificateFile);
-            return nullptr;
-        }
-    }
-    auto *encrypted = new QSslSocket;
+    auto encrypted = std::make_unique<QSslSocket>();
+    if (!configure(encrypted.get(), problem))
+        return nullptr;
     encrypted->setPeerVerifyMode(QSslSocket::VerifyPeer);
-    connect(encrypted, QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
+    connect(encrypted.get(), QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
             [this](const QList<QSslError> &errors) { certificateError = errors.first().errorString(); });
-    if (!trusted.isEmpty()) {
-        QSslConfiguration configuration = encrypted->sslConfiguration();
-        configuration.addCaCertificates(trusted);
-        encrypted->setSslConfiguration(configuration);
+    return encrypted.release();
+}
+
+/// Sets the certificates. False when one of the files cannot be used.
+bool KirvIrcConnection::configure(QSslSocket *encrypted, QString *problem) const
+{
+    QSslConfiguration configuration = encrypted->sslConfiguration();
+    const auto read = [problem](const QString &path) {
+        const QList<QSslCertificate> certificates = kirvReadCertificates(path);
+        if (certificates.isEmpty())
+            *problem = tr("There is no certificate in the file “%1”.").arg(path);
+        return certificates;
+    };
+    if (!settings.certificateFile.isEmpty())
+        configuration.addCaCertificates(read(settings.certificateFile));
+    if (settings.usesClientCertificate()) {
+        configuration.setLocalCertificateChain(read(settings.clientCertificateFile));
+        configuration.setPrivateKey(kirvReadPrivateKey(settings.clientKeyFile));
+        if (problem->isEmpty() && configuration.privateKey().isNull())
+            *problem = tr("There is no private key that can be used in the file “%1”.").arg(settings.clientKeyFile);
     }
-    return encrypted;
+    encrypted->setSslConfiguration(configuration);
+    return problem->isEmpty();
 }
 
 void KirvIrcConnection::prepareAuthentication()
@@ -172,9 +175,12 @@ void KirvIrcConnection::prepareAuthentication()
     sasl = nullptr;
     if (settings.passwordUse == KirvIrcSettings::ForServer)
         link->setPassword(settings.password);
-    if (settings.passwordUse != KirvIrcSettings::ForSasl)
+    if (settings.usesClientCertificate())
+        sasl = new KirvIrcSasl(link.data());
+    else if (settings.passwordUse == KirvIrcSettings::ForSasl)
+        sasl = new KirvIrcSasl(link.data(), settings.saslUser, settings.password);
+    else
         return;
-    sasl = new KirvIrcSasl(link.data(), settings.saslUser, settings.password);
     link->setProtocol(sasl);
     connect(sasl, &KirvIrcSasl::failed, this, &KirvIrcConnection::failAuthentication);
 }
@@ -193,6 +199,19 @@ void KirvIrcConnection::finishLogin(const KirvPresence &presence)
     loginSucceeded();
     if (alive && state() == Online)
         announceNick();
+    if (alive && state() == Online)
+        warnOfOpenKey();
+}
+
+/// Whoever can read the key can log in as this user. Told once.
+void KirvIrcConnection::warnOfOpenKey()
+{
+    const QString file = settings.clientKeyFile;
+    if (file == keyWarnedOf || !settings.usesClientCertificate() || !kirvIsOpenToOthers(file))
+        return;
+    keyWarnedOf = file;
+    Q_EMIT noticeReceived(
+        tr("Other users of this computer can read or change the key file “%1”. Only its owner should.").arg(file));
 }
 
 /// The services of a network that was restarted are back later than its servers.
@@ -306,11 +325,26 @@ void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
         if (certificateError.isEmpty())
             return connectionLost(KirvFailure::EncryptionNotOffered);
         return connectionLost({ KirvFailure::UntrustedCertificate, certificateError });
+    case QAbstractSocket::SslInvalidUserDataError:
+        return connectionLost({ KirvFailure::BadSettings, socket->errorString() });
     case QAbstractSocket::RemoteHostClosedError:
         return; // what the server sent before is still to be read; the disconnection follows
     default:
         return loseConnection(socket->errorString());
     }
+}
+
+QString KirvIrcConnection::securityText() const
+{
+    if (state() != Online)
+        return QString();
+    const QString encryption = socket->encryptionName();
+    QString proof =
+        settings.passwordUse == KirvIrcSettings::ForServer ? tr("password of the server") : tr("no password");
+    if (sasl)
+        proof = QLatin1String("SASL ") + sasl->mechanismName();
+    //: %1 is the encryption, as "TLSv1.3", %2 how the user has proved who he is, as "SASL PLAIN"
+    return tr("%1, %2").arg(encryption.isEmpty() ? tr("not encrypted") : encryption, proof);
 }
 
 void KirvIrcConnection::startLogout()

@@ -31,6 +31,8 @@ public:
     explicit KirvIrcConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr);
     ~KirvIrcConnection() override;
 
+    QString securityText() const override;
+
 protected:
     void startLogin(const KirvPresence &presence) override;
     void startLogout() override;
@@ -41,6 +43,8 @@ private:
     void createLink();
     void createSocket(QAbstractSocket *transport);
     QAbstractSocket *createTransport(QString *problem);
+    bool configure(QSslSocket *encrypted, QString *problem) const;
+    void warnOfOpenKey();
     void prepareAuthentication();
 
     void finishLogin(const KirvPresence &presence);
@@ -65,6 +69,7 @@ private:
     QStringList nicksLeft;
     QString certificateError; ///< why the server's certificate is not trusted
     QString saslServer; ///< where SASL worked last, in this session of the program
+    QString keyWarnedOf; ///< the key file that others can read, when that was told
     QString refusal; ///< why the server is about to close the connection; its goodbye follows
     QString announcedNick;
     bool announcesLater = false; ///< a nick was announced not long ago

@@ -7,31 +7,38 @@
 
 namespace {
 
-const char mechanism[] = "PLAIN";
 const char endOfNegotiation[] = "CAP END";
 /// Longer credentials are sent in pieces of this size.
 const int pieceSize = 400;
-
-/// Whether the server offers SASL with our mechanism; a server that does not list its mechanisms may have it.
-bool offersPlain(const QStringList &capabilities)
-{
-    for (const QString &capability : capabilities) {
-        if (capability.section(QLatin1Char('='), 0, 0) != QLatin1String("sasl"))
-            continue;
-        const QString mechanisms = capability.section(QLatin1Char('='), 1);
-        return mechanisms.isEmpty() || mechanisms.split(QLatin1Char(',')).contains(QLatin1String(mechanism));
-    }
-    return false;
-}
 
 } // namespace
 
 KirvIrcSasl::KirvIrcSasl(IrcConnection *connection, const QString &user, const QString &password)
     : IrcProtocol(connection)
-    , user(user)
-    , password(password)
+    , mechanism("PLAIN")
+    , credentials(('\0' + user.toUtf8() + '\0' + password.toUtf8()).toBase64())
 {
     connect(connection, &IrcConnection::messageReceived, this, &KirvIrcSasl::receive);
+}
+
+KirvIrcSasl::KirvIrcSasl(IrcConnection *connection)
+    : IrcProtocol(connection)
+    , mechanism("EXTERNAL")
+{
+    connect(connection, &IrcConnection::messageReceived, this, &KirvIrcSasl::receive);
+}
+
+/// A server that does not list its mechanisms may have ours.
+bool KirvIrcSasl::isOffered() const
+{
+    const QStringList capabilities = connection()->network()->availableCapabilities();
+    for (const QString &capability : capabilities) {
+        if (capability.section(QLatin1Char('='), 0, 0) != QLatin1String("sasl"))
+            continue;
+        const QString mechanisms = capability.section(QLatin1Char('='), 1);
+        return mechanisms.isEmpty() || mechanisms.split(QLatin1Char(',')).contains(mechanismName());
+    }
+    return false;
 }
 
 bool KirvIrcSasl::write(const QByteArray &data)
@@ -75,13 +82,13 @@ void KirvIrcSasl::negotiate(IrcMessage *message)
         // A list in several lines has an asterisk in all but the last.
         if (message->parameter(2) == QLatin1String("*"))
             return;
-        if (offersPlain(connection()->network()->availableCapabilities()))
+        if (isOffered())
             connection()->sendRaw(QStringLiteral("CAP REQ :sasl"));
         else
             Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
     } else if (subCommand == QLatin1String("ACK")) {
         if (!requested)
-            connection()->sendRaw(QLatin1String("AUTHENTICATE ") + QLatin1String(mechanism));
+            connection()->sendData("AUTHENTICATE " + mechanism);
         requested = true;
     } else if (subCommand == QLatin1String("NAK")) {
         Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
@@ -91,13 +98,17 @@ void KirvIrcSasl::negotiate(IrcMessage *message)
 /// A server without its services refuses before it has seen the password.
 void KirvIrcSasl::fail()
 {
-    Q_EMIT failed(answered ? KirvFailure::WrongPassword : KirvFailure::AuthenticationNotOffered);
+    if (!answered)
+        Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+    else if (credentials.isEmpty())
+        Q_EMIT failed({ KirvFailure::AccessDenied, tr("The client certificate is not known there.") });
+    else
+        Q_EMIT failed(KirvFailure::WrongPassword);
 }
 
 void KirvIrcSasl::sendCredentials()
 {
     answered = true;
-    const QByteArray credentials = ('\0' + user.toUtf8() + '\0' + password.toUtf8()).toBase64();
     for (int begin = 0; begin < credentials.size(); begin += pieceSize)
         connection()->sendData("AUTHENTICATE " + credentials.mid(begin, pieceSize));
     // A piece of full size says that another one follows; there may be nothing left for it.

@@ -9,7 +9,7 @@
 
 class IrcMessage;
 
-/// Opens a session with SASL PLAIN, and only so.
+/// Opens a session with SASL PLAIN or EXTERNAL, and only so.
 ///
 /// The protocol of the library ends the negotiation before the server has judged the password, which can log in
 /// without it, and sends the password as that of the server where SASL is not offered. This one waits for the
@@ -18,10 +18,14 @@ class KirvIrcSasl : public IrcProtocol {
     Q_OBJECT
 
 public:
-    /// \a connection owns it and has no password and no SASL mechanism of its own.
+    /// PLAIN. \a connection owns it and has no password and no SASL mechanism of its own.
     KirvIrcSasl(IrcConnection *connection, const QString &user, const QString &password);
+    /// EXTERNAL: the certificate that the socket of \a connection shows says who the user is.
+    explicit KirvIrcSasl(IrcConnection *connection);
 
-    /// Whether the server has accepted the password.
+    /// As it is called in the protocol.
+    QString mechanismName() const { return QLatin1String(mechanism); }
+    /// Whether the server has accepted the password or the certificate.
     bool isAccepted() const { return accepted; }
 
     bool write(const QByteArray &data) override;
@@ -36,8 +40,10 @@ private:
     void sendCredentials();
     void accept();
 
-    QString user;
-    QString password;
+    bool isOffered() const;
+
+    const QByteArray mechanism;
+    QByteArray credentials; ///< empty for EXTERNAL
     bool requested = false;
     bool answered = false; ///< the credentials have been sent
     bool accepted = false;

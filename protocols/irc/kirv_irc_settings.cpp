@@ -12,6 +12,8 @@ const char serverId[] = "server";
 const char portId[] = "port";
 const char encryptionId[] = "encryption";
 const char certificateId[] = "certificate";
+const char clientCertificateId[] = "client_certificate";
+const char clientKeyId[] = "client_key";
 const char passwordUseId[] = "password_use";
 const char saslUserId[] = "sasl_user";
 const char realNameId[] = "real_name";
@@ -107,11 +109,15 @@ KirvIrcSettings::KirvIrcSettings(const QString &login, const QString &password, 
     port = text(portId).toUShort();
     encrypted = text(encryptionId) != QLatin1String(none);
     certificateFile = text(certificateId);
+    clientCertificateFile = text(clientCertificateId);
+    clientKeyFile = text(clientKeyId);
     passwordUse = readPasswordUse(text(passwordUseId));
     saslUser = text(saslUserId).isEmpty() ? nick : text(saslUserId);
     realName = kirvIrcLine(text(realNameId), 100);
     if (realName.isEmpty())
         realName = nick;
+    if (clientKeyFile.isEmpty())
+        clientKeyFile = clientCertificateFile;
     alternativeNicks = readNickList(text(alternativeNicksId));
 }
 
@@ -125,6 +131,10 @@ QString KirvIrcSettings::problem() const
         return tr("“%1” is not the name of a server.").arg(kirvIrcLine(server, 255));
     if (port == 0)
         return tr("The port must be a number from 1 to 65535.");
+    if (clientCertificateFile.isEmpty() && !clientKeyFile.isEmpty())
+        return tr("There is a key of a client certificate, but no client certificate.");
+    if (usesClientCertificate() && !encrypted)
+        return tr("A client certificate can be used with encryption only.");
     if (passwordUse == ForServer && password != kirvIrcLine(password, 400))
         return tr("The password cannot be sent: it is too long or has characters that do not belong to a line.");
     return QString();
@@ -138,6 +148,11 @@ QStringList KirvIrcSettings::nicks() const
         candidates += nick + QString(appended, QLatin1Char('_'));
     candidates.removeDuplicates();
     return candidates;
+}
+
+bool KirvIrcSettings::needsPassword() const
+{
+    return passwordUse == ForServer || (passwordUse == ForSasl && !usesClientCertificate());
 }
 
 QString KirvIrcSettings::userName() const
@@ -173,6 +188,12 @@ QList<KirvField> KirvIrcSettings::defaultFields()
                             tr("What others see as your name when they ask for it. Empty: the nick.")),
         KirvField::textEdit(tr("Alternative nicks"), QLatin1String(alternativeNicksId), QString(),
                             tr("Nicks to try when yours is in use, separated by commas.")),
+        KirvField::textEdit(tr("Client certificate"), QLatin1String(clientCertificateId), QString(),
+                            tr("The path of a file with a certificate of your own (PEM), to log in with instead of "
+                               "the password (SASL EXTERNAL). Empty: none.")),
+        KirvField::textEdit(tr("Key of the client certificate"), QLatin1String(clientKeyId), QString(),
+                            tr("The path of the file with the certificate's private key (PEM, without a password). "
+                               "Empty: it is in the certificate's file.")),
     };
 }
 

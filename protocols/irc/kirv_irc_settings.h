@@ -37,6 +37,8 @@ public:
     quint16 port = 0;
     bool encrypted = true;
     QString certificateFile; ///< PEM; trusted besides those of the system. Empty: none
+    QString clientCertificateFile; ///< PEM; shows who the user is (SASL EXTERNAL). Empty: none
+    QString clientKeyFile; ///< PEM; the certificate's file unless there is one of its own
     PasswordUse passwordUse = NotUsed;
     QString password;
     QString saslUser;
@@ -45,6 +47,9 @@ public:
 
     /// The nicks to try, the wanted one first: the alternatives follow, then the nick with something appended.
     QStringList nicks() const;
+    /// Whether the log-in needs the password. A client certificate takes the place of that for SASL.
+    bool needsPassword() const;
+    bool usesClientCertificate() const { return !clientCertificateFile.isEmpty(); }
     /// The name of the user on this computer as servers see it: letters and digits, never empty.
     QString userName() const;
 

@@ -2,6 +2,7 @@
 #include "protocols/irc/kirv_irc_socket.h"
 
 #include <QPointer>
+#include <QSslCipher>
 #include <QSslSocket>
 #include <algorithm>
 #include <cstring>
@@ -29,6 +30,12 @@ KirvIrcSocket::KirvIrcSocket(QAbstractSocket *transport, KirvClock &clock, QObje
 KirvIrcSocket::~KirvIrcSocket()
 {
     breakOff();
+}
+
+QString KirvIrcSocket::encryptionName() const
+{
+    const auto *encrypted = qobject_cast<QSslSocket *>(transport);
+    return encrypted && encrypted->isEncrypted() ? encrypted->sessionCipher().protocolString() : QString();
 }
 
 void KirvIrcSocket::breakOff()

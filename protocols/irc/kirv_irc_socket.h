@@ -24,6 +24,9 @@ public:
     KirvIrcSocket(QAbstractSocket *transport, KirvClock &clock, QObject *parent = nullptr);
     ~KirvIrcSocket() override;
 
+    /// The version of TLS that is used; empty without encryption and when it is not connected.
+    QString encryptionName() const;
+
     /// Ends the connection at once; emits nothing.
     void breakOff();
 

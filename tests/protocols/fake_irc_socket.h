@@ -25,9 +25,10 @@ public:
     bool canReadLine() const override { return incoming.contains('\n'); }
 
     /// The server sends one line.
-    void receive(const QByteArray &line)
+    void receive(const QByteArray &line) { receiveBytes(line + "\r\n"); }
+    void receiveBytes(const QByteArray &bytes)
     {
-        incoming += line + "\r\n";
+        incoming += bytes;
         Q_EMIT readyRead();
     }
     /// The lines sent since the last call.

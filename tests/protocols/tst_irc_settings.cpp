@@ -24,6 +24,10 @@ private Q_SLOTS:
     void problemsAreReported();
     void passwordHasOneUse_data();
     void passwordHasOneUse();
+    void clientCertificateTakesThePlaceOfThePassword_data();
+    void clientCertificateTakesThePlaceOfThePassword();
+    void keyIsInTheCertificatesFileUnlessThereIsAnother();
+    void clientCertificateNeedsEncryption();
     void alternativesAreTriedInTheirOrder();
     void userNameIsLettersAndDigits_data();
     void userNameIsLettersAndDigits();
@@ -197,6 +201,51 @@ void TestIrcSettings::passwordHasOneUse()
 {
     QFETCH(QString, value);
     QTEST(int(KirvIrcSettings("alice", "secret", { text("password_use", value) }).passwordUse), "use");
+}
+
+void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword_data()
+{
+    QTest::addColumn<QString>("use");
+    QTest::addColumn<QString>("certificate");
+    QTest::addColumn<bool>("needsPassword");
+    QTest::newRow("nothing") << "none" << QString() << false;
+    QTest::newRow("server") << "server" << QString() << true;
+    QTest::newRow("SASL") << "sasl" << QString() << true;
+    QTest::newRow("certificate") << "none"
+                                 << "/a.pem" << false;
+    QTest::newRow("server and certificate") << "server"
+                                            << "/a.pem" << true;
+    QTest::newRow("SASL and certificate") << "sasl"
+                                          << "/a.pem" << false;
+}
+
+void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword()
+{
+    QFETCH(QString, use);
+    QFETCH(QString, certificate);
+    const KirvIrcSettings settings(
+        "alice", QString(), onServer + QList { text("password_use", use), text("client_certificate", certificate) });
+    QTEST(settings.needsPassword(), "needsPassword");
+    QCOMPARE(settings.usesClientCertificate(), !certificate.isEmpty());
+}
+
+void TestIrcSettings::keyIsInTheCertificatesFileUnlessThereIsAnother()
+{
+    const QList<KirvField> fields = onServer + QList { text("client_certificate", " /a.pem ") };
+    QCOMPARE(KirvIrcSettings("alice", QString(), fields).clientCertificateFile, QString("/a.pem"));
+    QCOMPARE(KirvIrcSettings("alice", QString(), fields).clientKeyFile, QString("/a.pem"));
+    const KirvIrcSettings settings("alice", QString(), fields + QList { text("client_key", "/a.key") });
+    QCOMPARE(settings.clientKeyFile, QString("/a.key"));
+    QCOMPARE(settings.problem(), QString());
+    const KirvIrcSettings alone("alice", QString(), onServer + QList { text("client_key", "/a.key") });
+    QVERIFY(alone.problem().contains("no client certificate"));
+}
+
+void TestIrcSettings::clientCertificateNeedsEncryption()
+{
+    const KirvIrcSettings settings(
+        "alice", QString(), onServer + QList { text("client_certificate", "/a.pem"), text("encryption", "none") });
+    QVERIFY2(settings.problem().contains("encryption"), qPrintable(settings.problem()));
 }
 
 void TestIrcSettings::alternativesAreTriedInTheirOrder()
