@@ -44,9 +44,9 @@ KirvEditWindowCompanion::KirvEditWindowCompanion(KirvLayoutDialog *window, KirvE
     , accounts(accounts)
     , serverCommands(serverCommands)
     , accountKey { controller->getAccountId(), controller->getProtocolName() }
-    , buttons(window()->findChild<QDialogButtonBox *>(QStringLiteral("EditAccount_FrameButtons")))
+    , buttons(window->findChild<QDialogButtonBox *>(QStringLiteral("EditAccount_FrameButtons")))
     , saveButton(buttons->button(QDialogButtonBox::Save))
-    , passwordEdit(window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
+    , passwordEdit(window->findChild<QLineEdit *>(QStringLiteral("EditAccount_Password")))
 {
     connect(saveButton, &QPushButton::clicked, this, &KirvEditWindowCompanion::beginSave);
 }
