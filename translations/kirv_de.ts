@@ -1,6 +1,5 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- SPDX-License-Identifier: LGPL-2.1-or-later -->
 <TS version="2.1" language="de_DE">
 <context>
     <name>Accounts</name>
@@ -246,7 +245,14 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountRows</name>
+    <name>KirvAccountDirectory</name>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsPageCompanion</name>
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>Das Modul des Protokolls %1 ist nicht geladen. Laden Sie es auf der Seite „Module“.</translation>
@@ -262,51 +268,12 @@
 <context>
     <name>KirvAvatarFolder</name>
     <message>
-        <source>The picture &quot;%1&quot; cannot be read.</source>
-        <translation>Das Bild „%1“ kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>The picture &quot;%1&quot; is too large: at most %2 MB can be used.</source>
-        <translation>Das Bild „%1“ ist zu groß: Höchstens %2 MB sind möglich.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; is not a picture that can be used.</source>
-        <translation>Die Datei „%1“ ist kein brauchbares Bild.</translation>
-    </message>
-    <message>
-        <source>The picture &quot;%1&quot; has too many pixels: at most %2 million can be used.</source>
-        <translation>Das Bild „%1“ hat zu viele Bildpunkte: Höchstens %2 Millionen sind möglich.</translation>
-    </message>
-    <message>
         <source>The picture &quot;%1&quot; could not be copied into the profile: %2</source>
         <translation>Das Bild „%1“ konnte nicht ins Profil kopiert werden: %2</translation>
     </message>
-</context>
-<context>
-    <name>KirvBoundedImage</name>
     <message>
-        <source>The picture is too large: %1 × %2 pixels. Up to %3 million pixels are possible.</source>
-        <translation>Das Bild ist zu groß: %1 × %2 Bildpunkte. Bis zu %3 Millionen sind möglich.</translation>
-    </message>
-    <message>
-        <source>The file “%1” cannot be read.</source>
-        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>The file “%1” is too large. Up to %2 MB are possible.</source>
-        <translation>Die Datei „%1“ ist zu groß. Bis zu %2 MB sind möglich.</translation>
-    </message>
-    <message>
-        <source>The file “%1” is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
-        <translation>Die Datei „%1“ ist kein brauchbares Bild. Möglich sind Bilder in den Formaten PNG, JPEG, GIF, BMP und WebP.</translation>
-    </message>
-    <message>
-        <source>The picture in the file “%1” is damaged.</source>
-        <translation>Das Bild in der Datei „%1“ ist beschädigt.</translation>
-    </message>
-    <message>
-        <source>There is no picture that can be used.</source>
-        <translation>Es gibt kein brauchbares Bild.</translation>
+        <source>The folder &quot;%1&quot; cannot be written.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -350,6 +317,33 @@
     <message>
         <source>Picture of the Account</source>
         <translation>Bild des Kontos</translation>
+    </message>
+</context>
+<context>
+    <name>KirvBoundedImage</name>
+    <message>
+        <source>The picture is too large: %1 × %2 pixels. Up to %3 million pixels are possible.</source>
+        <translation>Das Bild ist zu groß: %1 × %2 Bildpunkte. Bis zu %3 Millionen sind möglich.</translation>
+    </message>
+    <message>
+        <source>The file “%1” cannot be read.</source>
+        <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is too large. Up to %2 MB are possible.</source>
+        <translation>Die Datei „%1“ ist zu groß. Bis zu %2 MB sind möglich.</translation>
+    </message>
+    <message>
+        <source>The file “%1” is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
+        <translation>Die Datei „%1“ ist kein brauchbares Bild. Möglich sind Bilder in den Formaten PNG, JPEG, GIF, BMP und WebP.</translation>
+    </message>
+    <message>
+        <source>The picture in the file “%1” is damaged.</source>
+        <translation>Das Bild in der Datei „%1“ ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>There is no picture that can be used.</source>
+        <translation>Es gibt kein brauchbares Bild.</translation>
     </message>
 </context>
 <context>
@@ -397,10 +391,6 @@
         <translation>Die Protokollmodule aus &lt;Ordner&gt; laden.</translation>
     </message>
     <message>
-        <source>Try it without an account: a throw-away profile and private servers on this computer.</source>
-        <translation>Ohne Konto ausprobieren: ein Wegwerf-Profil und private Server auf diesem Rechner.</translation>
-    </message>
-    <message>
         <source>Accounts of several instant-messaging protocols in one place.</source>
         <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
     </message>
@@ -410,6 +400,10 @@
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
+    </message>
+    <message>
+        <source>The account is not connected.</source>
+        <translation>Das Konto ist nicht verbunden.</translation>
     </message>
 </context>
 <context>
@@ -560,7 +554,30 @@
     </message>
 </context>
 <context>
-    <name>KirvEditWindowBinding</name>
+    <name>KirvDirectoryGuard</name>
+    <message>
+        <source>&amp;Fetch Again</source>
+        <translation>Erneut &amp;abrufen</translation>
+    </message>
+    <message>
+        <source>Publishing the directory entry…</source>
+        <translation>Der Verzeichniseintrag wird veröffentlicht…</translation>
+    </message>
+    <message>
+        <source>Requesting the directory entry…</source>
+        <translation>Der Verzeichniseintrag wird abgerufen…</translation>
+    </message>
+    <message>
+        <source>The account must be connected before its directory entry can be read or changed.</source>
+        <translation>Das Konto muss verbunden sein, damit sein Verzeichniseintrag gelesen oder geändert werden kann.</translation>
+    </message>
+    <message>
+        <source>The directory entry is not known. Fetch it again to change it.</source>
+        <translation>Der Verzeichniseintrag ist nicht bekannt. Rufen Sie ihn erneut ab, um ihn zu ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvEditWindowCompanion</name>
     <message>
         <source>&amp;Server Account</source>
         <translation>&amp;Serverkonto</translation>
@@ -576,14 +593,6 @@
     <message>
         <source>Nothing was changed. The window stays open, so that you can try again.</source>
         <translation>Nichts wurde geändert. Das Fenster bleibt offen, damit Sie es erneut versuchen können.</translation>
-    </message>
-    <message>
-        <source>The account must be connected before its directory entry can be read or changed.</source>
-        <translation>Das Konto muss verbunden sein, damit sein Verzeichniseintrag gelesen oder geändert werden kann.</translation>
-    </message>
-    <message>
-        <source>Asking the server…</source>
-        <translation>Der Server wird gefragt …</translation>
     </message>
 </context>
 <context>
@@ -649,10 +658,6 @@
         <translation>Die Einstellungen des Kontos sind nicht brauchbar.</translation>
     </message>
     <message>
-        <source>The server does not offer what was asked for.</source>
-        <translation>Der Server bietet das Verlangte nicht an.</translation>
-    </message>
-    <message>
         <source>The request failed.</source>
         <translation>Die Anfrage ist fehlgeschlagen.</translation>
     </message>
@@ -711,11 +716,6 @@
         <translation>Die Einstellungen des Kontos sind nicht brauchbar: %1</translation>
     </message>
     <message>
-        <source>The server does not offer what was asked for: %1</source>
-        <extracomment>%1 is what was asked for</extracomment>
-        <translation>Der Server bietet das Verlangte nicht an: %1</translation>
-    </message>
-    <message>
         <source>The request failed: %1</source>
         <extracomment>%1 is the reason</extracomment>
         <translation>Die Anfrage ist fehlgeschlagen: %1</translation>
@@ -724,6 +724,24 @@
         <source>An error occurred: %1</source>
         <extracomment>%1 is what the server or the network said</extracomment>
         <translation>Ein Fehler ist aufgetreten: %1</translation>
+    </message>
+    <message>
+        <source>The server cannot log the account in at the moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not offer what was requested.</source>
+        <translation>Der Server bietet das Angeforderte nicht an.</translation>
+    </message>
+    <message>
+        <source>The server cannot log the account in at the moment: %1</source>
+        <extracomment>%1 is the reason</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not offer what was requested: %1</source>
+        <extracomment>%1 is what was requested</extracomment>
+        <translation>Der Server bietet das Angeforderte nicht an: %1</translation>
     </message>
 </context>
 <context>
@@ -745,10 +763,6 @@
         <translation>Dies muss eine ganze Zahl von %1 bis %2 sein.</translation>
     </message>
     <message>
-        <source>This does not have the form that is asked for.</source>
-        <translation>Dies hat nicht die verlangte Form.</translation>
-    </message>
-    <message>
         <source>Required</source>
         <translation>Erforderlich</translation>
     </message>
@@ -763,6 +777,15 @@
     <message>
         <source>Show the text</source>
         <translation>Text zeigen</translation>
+    </message>
+    <message>
+        <source>Invalid format.</source>
+        <extracomment>%1 = a sentence that says what is valid</extracomment>
+        <translation>Ungültiges Format.</translation>
+    </message>
+    <message>
+        <source>Invalid format: %1</source>
+        <translation>Ungültiges Format: %1</translation>
     </message>
 </context>
 <context>
@@ -783,6 +806,44 @@
         <source>The server does not answer any more.</source>
         <translation>Der Server antwortet nicht mehr.</translation>
     </message>
+    <message>
+        <source>The server sent a line that is longer than lines can be.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no private key that can be used in the file “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other users of this computer can read or change the key file “%1”. Only its owner should.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It does not offer SASL now, as it did before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <extracomment>%1 is what a server says first, as &quot;You are banned&quot;, %2 what it says when it closes the connection</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>password of the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is the encryption, as &quot;TLSv1.3&quot;, %2 how the user has proved who he is, as &quot;SASL PLAIN&quot;</extracomment>
+        <translation>%1: %2 {1,?}</translation>
+    </message>
+    <message>
+        <source>not encrypted</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>KirvIrcProtocol</name>
@@ -801,6 +862,13 @@
     <message>
         <source>Offline</source>
         <translation>Abgemeldet</translation>
+    </message>
+</context>
+<context>
+    <name>KirvIrcSasl</name>
+    <message>
+        <source>The client certificate is not known there.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -913,6 +981,30 @@
         <source>Server on this computer</source>
         <translation>Server auf diesem Rechner</translation>
     </message>
+    <message>
+        <source>There is a key of a client certificate, but no client certificate.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A client certificate can be used with encryption only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Client certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The path of a file with a certificate of your own (PEM), to log in with instead of the password (SASL EXTERNAL). Empty: none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Key of the client certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The path of the file with the certificate&apos;s private key (PEM, without a password). Empty: it is in the certificate&apos;s file.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>KirvLayoutCatalog</name>
@@ -944,6 +1036,85 @@
     </message>
 </context>
 <context>
+    <name>KirvLayoutCheck</name>
+    <message>
+        <source>It declares a document type, which a layout cannot have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is not a window layout of Qt Designer.</source>
+        <translation>Sie ist kein Fensterlayout des Qt Designers.</translation>
+    </message>
+    <message>
+        <source>Its elements are nested too deeply.</source>
+        <translation>Ihre Elemente sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>It has too many widgets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>It connects widgets with each other, which only the program does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has an element “%1”, which a layout cannot have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has an attribute that is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is not the name of an icon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has a row or column that is out of bounds: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has a text of the format “%1”, which a layout cannot have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has a number that is out of bounds: %1 (%2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It sets “%1” to a text, which a layout cannot do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its style sheet contains “%1”, which a layout cannot have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style sheets and rich texts name pictures by their whole path, “%1” does not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has a rich text that is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no picture “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture “%1” is not in the folder of the layout.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It asks for a widget of the unknown class %1.</source>
+        <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
+    </message>
+</context>
+<context>
     <name>KirvLayoutFile</name>
     <message>
         <source>It asks for a widget of the unknown class %1.</source>
@@ -968,18 +1139,6 @@
     <message>
         <source>It is larger than %1 kB.</source>
         <translation>Sie ist größer als %1 kB.</translation>
-    </message>
-    <message>
-        <source>It is not a window layout of Qt Designer.</source>
-        <translation>Sie ist kein Fensterlayout des Qt Designers.</translation>
-    </message>
-    <message>
-        <source>Its elements are nested too deeply.</source>
-        <translation>Ihre Elemente sind zu tief verschachtelt.</translation>
-    </message>
-    <message>
-        <source>Line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1037,7 +1196,18 @@
     </message>
 </context>
 <context>
-    <name>KirvPluginLoader</name>
+    <name>KirvPluginCall</name>
+    <message>
+        <source>an exception of an unknown kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in failed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KirvPluginFile</name>
     <message>
         <source>The file is not a plug-in library.</source>
         <translation>Die Datei ist keine Modulbibliothek.</translation>
@@ -1051,6 +1221,10 @@
         <translation>Das Modul wurde für Version %1 der Modulschnittstelle gebaut; dieses Programm hat Version %2.</translation>
     </message>
     <message>
+        <source>The plug-in did not create its protocol and gave no reason.</source>
+        <translation>Das Modul hat sein Protokoll nicht erzeugt und keinen Grund genannt.</translation>
+    </message>
+    <message>
         <source>The library cannot be loaded: %1</source>
         <translation>Die Bibliothek kann nicht geladen werden: %1</translation>
     </message>
@@ -1059,20 +1233,64 @@
         <translation>Das Modul hat die Schnittstelle nicht, die es angibt.</translation>
     </message>
     <message>
-        <source>The plug-in did not create its protocol and gave no reason.</source>
-        <translation>Das Modul hat sein Protokoll nicht erzeugt und keinen Grund genannt.</translation>
-    </message>
-    <message>
         <source>The protocol has no name.</source>
         <translation>Das Protokoll hat keinen Namen.</translation>
     </message>
     <message>
+        <source>The protocol &quot;%1&quot; offers no presence.</source>
+        <translation>Das Protokoll „%1“ bietet keinen Status an.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPluginLoader</name>
+    <message>
         <source>A protocol with the name &quot;%1&quot; is loaded already.</source>
         <translation>Ein Protokoll mit dem Namen „%1“ ist schon geladen.</translation>
     </message>
+</context>
+<context>
+    <name>KirvPluginQueue</name>
     <message>
-        <source>The protocol &quot;%1&quot; offers no presence.</source>
-        <translation>Das Protokoll „%1“ bietet keinen Status an.</translation>
+        <source>The plug-in &quot;%1&quot; was left out, because the program ended when it was loaded the last time. It can be loaded on the page of the plug-ins.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in was left out, because it crashed when it was tested.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in was left out, because it ended the process in which it was tested.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in was left out, because it was not ready within %1 s when it was tested.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in was left out, because the program ended when it was loaded the last time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KirvPluginTrust</name>
+    <message>
+        <source>The file cannot be examined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in is not trusted: %1 belongs to another user.</source>
+        <extracomment>%1 = path of a file or folder</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plug-in is not trusted: others than you may write to %1.</source>
+        <extracomment>%1 = path of a file or folder</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1134,12 +1352,89 @@
         <source>There are no plug-ins.</source>
         <translation>Es gibt keine Module.</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Being tested</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>KirvRegistration</name>
+    <name>KirvProfileCheck</name>
     <message>
-        <source>None of the loaded plug-ins can register a new account.</source>
-        <translation>Keines der geladenen Module kann ein neues Konto registrieren.</translation>
+        <source>The profile folder &quot;%1&quot; could not be made.</source>
+        <translation>Der Profilordner „%1“ konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a link. The program follows no link inside a profile: replace it by what it leads to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is damaged: its database is missing. Nothing in it was changed: restore it from a backup, or choose an empty folder to start with an empty one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; is not a profile: it holds other files. Nothing in it was changed: choose an empty folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; was written by a newer version of the program. Use that version to open it; nothing in it was changed.</source>
+        <translation>Das Profil in „%1“ wurde von einer neueren Version des Programms geschrieben. Öffnen Sie es mit dieser; nichts darin wurde geändert.</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is in use by another running instance of the program. Close that one first.</source>
+        <translation>Das Profil in „%1“ wird von einem anderen laufenden Exemplar des Programms benutzt. Beenden Sie dieses zuerst.</translation>
+    </message>
+    <message>
+        <source>The profile folder &quot;%1&quot; cannot be written. Check its owner and permissions, and whether the disk is full.</source>
+        <translation>Der Profilordner „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte und ob der Datenträger voll ist.</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
+        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; belongs to another program. Nothing in it was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KirvProfileCopies</name>
+    <message>
+        <source>No copy of the profile in &quot;%1&quot; could be kept. Check the permissions of the folder &quot;copies&quot; in it, and whether the disk is full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KirvProfileOpening</name>
+    <message>
+        <source>The profile folder &quot;%1&quot; could not be made.</source>
+        <translation>Der Profilordner „%1“ konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be made. Check whether the disk is full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KirvProfileRescue</name>
+    <message>
+        <source>There is no profile in &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy &quot;%1&quot; is damaged, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing in the damaged profile in &quot;%1&quot; can be read any more.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1454,109 @@
     <message>
         <source>&amp;Continue</source>
         <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>KirvServerAssistant</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Waiting for the server</source>
+        <translation>Warten auf den Server</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Anweisungen</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Con&amp;figuration:</source>
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message>
+        <source>&amp;Remember the password</source>
+        <translation>Passwort &amp;merken</translation>
+    </message>
+    <message>
+        <source>Stores the password in your profile.</source>
+        <translation>Speichert das Passwort in Ihrem Profil.</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>There is a picture for “%1”, which cannot be shown: %2</source>
+        <extracomment>%1 = a caption, %2 = an address</extracomment>
+        <translation>Zu „%1“ gibt es ein Bild, das nicht gezeigt werden kann: %2</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>KirvServerCommands</name>
+    <message>
+        <source>None of the loaded plug-ins can register a new account.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>Keines der geladenen Module kann ein neues Konto registrieren.</translation>
+    </message>
+    <message>
+        <source>New accounts cannot be registered with %1.</source>
+        <translation>Mit %1 können keine neuen Konten registriert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvServerTask</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = name of an account, %2 = one or more sentences about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The server accepted the form. Add the account with the login that the server gives you.</source>
+        <translation>Der Server hat das Formular angenommen. Fügen Sie das Konto mit dem Anmeldenamen hinzu, den der Server Ihnen gibt.</translation>
+    </message>
+    <message>
+        <source>The account %1 is registered on the server, but it was not added here. %2</source>
+        <extracomment>%1 = login of an account, %2 = the reason, a sentence</extracomment>
+        <translation>Das Konto %1 ist auf dem Server registriert, wurde hier aber nicht hinzugefügt. %2</translation>
+    </message>
+    <message>
+        <source>Add Again</source>
+        <translation>Erneut hinzufügen</translation>
+    </message>
+    <message>
+        <source>The account %1 has the new password on its server. The password is used until the program ends, but it is not stored. %2</source>
+        <extracomment>%1 = name of an account, %2 = the reason, a sentence</extracomment>
+        <translation>Das Konto %1 hat auf seinem Server das neue Passwort. Es wird bis zum Ende des Programms verwendet, ist aber nicht gespeichert. %2</translation>
+    </message>
+    <message>
+        <source>Store Again</source>
+        <translation>Erneut speichern</translation>
+    </message>
+    <message>
+        <source>The account %1 is deleted on its server, but it was not removed here. %2</source>
+        <extracomment>%1 = name of an account, %2 = the reason, a sentence</extracomment>
+        <translation>Das Konto %1 ist auf seinem Server gelöscht, wurde hier aber nicht entfernt. %2</translation>
+    </message>
+    <message>
+        <source>Remove Again</source>
+        <translation>Erneut entfernen</translation>
     </message>
 </context>
 <context>
@@ -1207,70 +1605,20 @@
 <context>
     <name>KirvStore</name>
     <message>
-        <source>The profile folder &quot;%1&quot; could not be made.</source>
-        <translation>Der Profilordner „%1“ konnte nicht angelegt werden.</translation>
-    </message>
-    <message>
-        <source>The profile folder &quot;%1&quot; could not be closed to other users.</source>
-        <translation>Der Profilordner „%1“ konnte nicht vor anderen Benutzern verschlossen werden.</translation>
-    </message>
-    <message>
-        <source>The profile in &quot;%1&quot; is in use by another running instance of the program. Close that one first.</source>
-        <translation>Das Profil in „%1“ wird von einem anderen laufenden Exemplar des Programms benutzt. Beenden Sie dieses zuerst.</translation>
-    </message>
-    <message>
-        <source>The profile folder &quot;%1&quot; cannot be written. Check its owner and permissions, and whether the disk is full.</source>
-        <translation>Der Profilordner „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte und ob der Datenträger voll ist.</translation>
-    </message>
-    <message>
-        <source>The profile in &quot;%1&quot; cannot be written. Check its owner and permissions.</source>
-        <translation>Das Profil in „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte.</translation>
-    </message>
-    <message>
-        <source>The profile in &quot;%1&quot; was written by a newer version of the program. Use that version to open it; nothing in it was changed.</source>
-        <translation>Das Profil in „%1“ wurde von einer neueren Version des Programms geschrieben. Öffnen Sie es mit dieser; nichts darin wurde geändert.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; belongs to another program; nothing in it was changed.</source>
-        <translation>Die Datei „%1“ gehört zu einem anderen Programm; nichts darin wurde geändert.</translation>
-    </message>
-    <message>
-        <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The account &quot;%1&quot; (%2) is not in the profile.</source>
         <translation>Das Konto „%1“ (%2) ist nicht im Profil.</translation>
     </message>
-</context>
-<context>
-    <name>KirvXmppAccountDeletion</name>
     <message>
-        <source>Delete Account on Server</source>
-        <translation>Konto auf dem Server löschen</translation>
+        <source>There is no home folder to keep the profile in: the environment variable HOME is not set. Set it, or name a folder for the profile.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Do you want to delete the account %1 on its server? Its contacts and everything the server keeps for it are lost.</source>
-        <extracomment>%1 = the address of an account</extracomment>
-        <translation>Möchten Sie das Konto %1 auf seinem Server löschen? Seine Kontakte und alles, was der Server dafür aufbewahrt, gehen verloren.</translation>
+        <source>The profile in &quot;%1&quot; was deleted, moved or replaced while the program was running, so nothing was stored. Save the accounts to another folder.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Delete on Server</source>
-        <translation>Auf dem Server &amp;löschen</translation>
-    </message>
-    <message>
-        <source>This cannot be undone, and somebody else can take the address %1 afterwards. Is %1 really to be deleted?</source>
-        <extracomment>%1 = the address of an account</extracomment>
-        <translation>Das kann nicht rückgängig gemacht werden, und jemand anders kann danach die Adresse %1 nehmen. Soll %1 wirklich gelöscht werden?</translation>
-    </message>
-    <message>
-        <source>&amp;Delete for Good</source>
-        <translation>Endgültig &amp;löschen</translation>
-    </message>
-    <message>
-        <source>The account %1 was not deleted. %2</source>
-        <extracomment>%1 = the address of an account, %2 = the reason, a sentence</extracomment>
-        <translation>Das Konto %1 wurde nicht gelöscht. %2</translation>
+        <source>There is a profile in &quot;%1&quot; already. Choose an empty folder.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1289,6 +1637,35 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppDeletionRequest</name>
+    <message>
+        <source>Delete Account on Server</source>
+        <translation>Konto auf dem Server löschen</translation>
+    </message>
+    <message>
+        <source>Do you want to delete the account %1 on its server? Its contacts and everything the server keeps for it are lost.</source>
+        <extracomment>%1 = the address of an account</extracomment>
+        <translation>Möchten Sie das Konto %1 auf seinem Server löschen? Seine Kontakte und alles, was der Server dafür aufbewahrt, gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Delete on Server</source>
+        <translation>Auf dem Server löschen</translation>
+    </message>
+    <message>
+        <source>This cannot be undone, and somebody else can take the address %1 afterwards. Is %1 really to be deleted?</source>
+        <extracomment>%1 = the address of an account</extracomment>
+        <translation>Das kann nicht rückgängig gemacht werden, und jemand anders kann danach die Adresse %1 nehmen. Soll %1 wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>Delete for Good</source>
+        <translation>Endgültig löschen</translation>
+    </message>
+    <message>
+        <source>Deleting the account…</source>
+        <translation>Das Konto wird gelöscht…</translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppDirectory</name>
     <message>
         <source>The directory entry is too long to be sent.</source>
@@ -1296,46 +1673,15 @@
     </message>
 </context>
 <context>
-    <name>KirvXmppLink</name>
-    <message>
-        <source>the name is already in use</source>
-        <translation>der Name ist schon vergeben</translation>
-    </message>
-    <message>
-        <source>the server does not accept what was sent</source>
-        <translation>der Server nimmt das Gesendete nicht an</translation>
-    </message>
-    <message>
-        <source>the server does not allow it</source>
-        <translation>der Server erlaubt es nicht</translation>
-    </message>
-    <message>
-        <source>the server does not allow it now</source>
-        <translation>der Server erlaubt es jetzt nicht</translation>
-    </message>
-    <message>
-        <source>the server requires encryption</source>
-        <translation>der Server verlangt Verschlüsselung</translation>
-    </message>
-    <message>
-        <source>the server does not serve the domain of the login</source>
-        <translation>der Server bedient die Domäne des Anmeldenamens nicht</translation>
-    </message>
-    <message>
-        <source>the server does not answer any more</source>
-        <translation>der Server antwortet nicht mehr</translation>
-    </message>
-</context>
-<context>
-    <name>KirvXmppPasswordDialog</name>
+    <name>KirvXmppPasswordRequest</name>
     <message>
         <source>Change Password on Server</source>
         <translation>Passwort auf dem Server ändern</translation>
     </message>
     <message>
-        <source>The server gives the account %1 the new password; all clients need it then.</source>
+        <source>The account %1 gets a new password on its server. All clients need it then.</source>
         <extracomment>%1 = the address of an account</extracomment>
-        <translation>Der Server gibt dem Konto %1 das neue Passwort; alle Programme brauchen es dann.</translation>
+        <translation>Das Konto %1 erhält auf seinem Server ein neues Passwort. Alle Programme brauchen es dann.</translation>
     </message>
     <message>
         <source>New password</source>
@@ -1346,24 +1692,24 @@
         <translation>Noch einmal dasselbe</translation>
     </message>
     <message>
-        <source>C&amp;hange Password</source>
-        <translation>Passwort ä&amp;ndern</translation>
+        <source>Change Password</source>
+        <translation>Passwort ändern</translation>
     </message>
     <message>
-        <source>&amp;New password:</source>
-        <translation>&amp;Neues Passwort:</translation>
+        <source>Enter the new password.</source>
+        <translation>Geben Sie das neue Passwort ein.</translation>
     </message>
     <message>
-        <source>The same &amp;again:</source>
-        <translation>Noch ein&amp;mal dasselbe:</translation>
+        <source>The two passwords are different. Enter the same password twice.</source>
+        <translation>Die beiden Passwörter sind verschieden. Geben Sie zweimal dasselbe Passwort ein.</translation>
     </message>
     <message>
         <source>The password holds characters that cannot be sent.</source>
         <translation>Das Passwort enthält Zeichen, die nicht gesendet werden können.</translation>
     </message>
     <message>
-        <source>The server is asked…</source>
-        <translation>Der Server wird gefragt …</translation>
+        <source>Changing the password…</source>
+        <translation>Das Passwort wird geändert…</translation>
     </message>
 </context>
 <context>
@@ -1492,7 +1838,7 @@
     </message>
 </context>
 <context>
-    <name>KirvXmppRegistrationWindow</name>
+    <name>KirvXmppRegistrationRequest</name>
     <message>
         <source>Domain</source>
         <translation>Domäne</translation>
@@ -1506,40 +1852,36 @@
         <translation>XMPP-Konto registrieren</translation>
     </message>
     <message>
-        <source>Waiting for the server</source>
-        <translation>Warten auf den Server</translation>
+        <source>Choose the server of the new account. The server determines what is to be filled in next.</source>
+        <translation>Wählen Sie den Server des neuen Kontos. Der Server bestimmt, was danach auszufüllen ist.</translation>
     </message>
     <message>
-        <source>On which server is the new account to be? The server decides what it asks for next.</source>
-        <translation>Auf welchem Server soll das neue Konto sein? Der Server entscheidet, wonach er als Nächstes fragt.</translation>
-    </message>
-    <message>
-        <source>Configuration</source>
-        <translation>Vorlage</translation>
-    </message>
-    <message>
-        <source>Con&amp;figuration:</source>
-        <translation>&amp;Vorlage:</translation>
-    </message>
-    <message>
-        <source>&amp;Remember the password</source>
-        <translation>Passwort &amp;merken</translation>
-    </message>
-    <message>
-        <source>Keeps the password in your profile, so that it is not asked for again.</source>
-        <translation>Behält das Passwort in Ihrem Profil, damit nicht erneut danach gefragt wird.</translation>
-    </message>
-    <message>
-        <source>&amp;Back</source>
-        <translation>&amp;Zurück</translation>
+        <source>Continue</source>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Enter the domain of the server.</source>
         <translation>Geben Sie die Domäne des Servers ein.</translation>
     </message>
     <message>
-        <source>The server is asked for its form…</source>
-        <translation>Der Server wird nach seinem Formular gefragt …</translation>
+        <source>The name of a server holds characters that cannot be sent.</source>
+        <translation>Der Name eines Servers enthält Zeichen, die nicht gesendet werden können.</translation>
+    </message>
+    <message>
+        <source>Requesting the registration form…</source>
+        <translation>Das Registrierungsformular wird abgerufen…</translation>
+    </message>
+    <message>
+        <source>This server does not register accounts from within a client.</source>
+        <translation>Dieser Server registriert keine Konten aus einem Programm heraus.</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Registrieren</translation>
+    </message>
+    <message>
+        <source>The server sent another form. Check it and register again.</source>
+        <translation>Der Server hat ein anderes Formular gesendet. Prüfen Sie es und registrieren Sie sich erneut.</translation>
     </message>
     <message>
         <source>The server also names this address: %1</source>
@@ -1547,46 +1889,39 @@
         <translation>Der Server nennt auch diese Adresse: %1</translation>
     </message>
     <message>
-        <source>This server does not register accounts from within a client.</source>
-        <translation>Dieser Server registriert keine Konten aus einem Programm heraus.</translation>
+        <source>Sending the form…</source>
+        <translation>Das Formular wird gesendet…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvXmppServerLink</name>
+    <message>
+        <source>the name is already in use</source>
+        <translation>der Name ist schon vergeben</translation>
     </message>
     <message>
-        <source>The server has a new form. Check it and register again.</source>
-        <translation>Der Server hat ein neues Formular. Prüfen Sie es und registrieren Sie erneut.</translation>
+        <source>the server does not accept what was sent</source>
+        <translation>der Server nimmt das Gesendete nicht an</translation>
     </message>
     <message>
-        <source>There is a picture for “%1”, which cannot be shown: %2</source>
-        <extracomment>%1 = a caption, %2 = an address</extracomment>
-        <translation>Zu „%1“ gibt es ein Bild, das nicht gezeigt werden kann: %2</translation>
+        <source>the server does not allow it</source>
+        <translation>der Server erlaubt es nicht</translation>
     </message>
     <message>
-        <source>The form is sent…</source>
-        <translation>Das Formular wird gesendet …</translation>
+        <source>the server does not allow it now</source>
+        <translation>der Server erlaubt es jetzt nicht</translation>
     </message>
     <message>
-        <source>The server has taken the form. Add the account with the login that the server gives you.</source>
-        <translation>Der Server hat das Formular angenommen. Fügen Sie das Konto mit dem Anmeldenamen hinzu, den der Server Ihnen gibt.</translation>
+        <source>the server requires encryption</source>
+        <translation>der Server verlangt Verschlüsselung</translation>
     </message>
     <message>
-        <source>The account %1 is registered on the server, but it was not added here: it is in the list already, or the list cannot be stored.</source>
-        <extracomment>%1 = the address of an account</extracomment>
-        <translation>Das Konto %1 ist auf dem Server registriert, wurde hier aber nicht hinzugefügt: Es steht schon in der Liste, oder die Liste kann nicht gespeichert werden.</translation>
+        <source>the server does not serve the domain of the login</source>
+        <translation>der Server bedient die Domäne des Anmeldenamens nicht</translation>
     </message>
     <message>
-        <source>&amp;Register</source>
-        <translation>&amp;Registrieren</translation>
-    </message>
-    <message>
-        <source>&amp;Continue</source>
-        <translation>&amp;Weiter</translation>
-    </message>
-    <message>
-        <source>Cl&amp;ose</source>
-        <translation>S&amp;chließen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <source>the server does not answer any more</source>
+        <translation>der Server antwortet nicht mehr</translation>
     </message>
 </context>
 <context>

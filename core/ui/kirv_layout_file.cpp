@@ -115,15 +115,6 @@ void protectInput(QWidget *top)
     }
 }
 
-/// A dialog as Qt Designer makes it finishes when a standard button is clicked, before the code that drives it and its
-/// companion have run.
-void disconnectStandardButtons(const QWidget *top)
-{
-    const QList<QDialogButtonBox *> boxes = top->findChildren<QDialogButtonBox *>();
-    for (const QDialogButtonBox *box : boxes)
-        box->disconnect(top);
-}
-
 /// Gives the standard buttons names, which a layout file cannot: that of their box, "_" and that of the button.
 void nameStandardButtons(QWidget *top)
 {
@@ -165,7 +156,6 @@ std::unique_ptr<QWidget> KirvLayoutFile::build()
     if (!failure.isEmpty())
         return nullptr;
     protectInput(top.get());
-    disconnectStandardButtons(top.get());
     nameStandardButtons(top.get());
     return top;
 }

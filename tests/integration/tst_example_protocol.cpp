@@ -306,6 +306,8 @@ void tst_ExampleProtocol::theGuideShowsThisExample()
     QString sources;
     for (const QString &name : folder.entryList(QDir::Files))
         sources += readFile(folder.filePath(name));
+    // How it is built against the installed package, as a test builds it.
+    sources += readFile(QStringLiteral(KIRV_SOURCE_FOLDER "/tests/consumer/protocol/CMakeLists.txt"));
 
     static const QRegularExpression block(QStringLiteral("```[a-z]+\\n(.*?)```"),
                                           QRegularExpression::DotMatchesEverythingOption);

@@ -143,8 +143,6 @@ private Q_SLOTS:
     void manyFieldsScrollInsteadOfGrowingTheWindow();
     void labelsOfTheFieldsLineUpWithThoseOfTheWindow();
     void fallbackIconsCanBePainted();
-    void connectionsOfStandardButtonsAreDropped_data();
-    void connectionsOfStandardButtonsAreDropped();
     void richTextLoadsNothing_data();
     void richTextLoadsNothing();
 
@@ -662,39 +660,6 @@ void tst_Layouts::fallbackIconsCanBePainted()
                 painted += qAlpha(image.pixel(x, y)) > 64;
         QVERIFY2(painted > 24, qPrintable(file));
     }
-}
-
-void tst_Layouts::connectionsOfStandardButtonsAreDropped_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("box");
-    QTest::newRow("AddAccount") << QByteArray("AddAccount") << QByteArray("AddAccount_ButtonFrame");
-    QTest::newRow("EditAccount") << QByteArray("EditAccount") << QByteArray("EditAccount_FrameButtons");
-}
-
-/// Qt Designer makes them in a new dialog. They would finish a window before the code that drives it has run.
-void tst_Layouts::connectionsOfStandardButtonsAreDropped()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QByteArray, box);
-    QByteArray connections;
-    for (const char *slot : { "accept", "reject" })
-        connections += "<connection><sender>" + box + "</sender><signal>" + slot + "ed()</signal><receiver>" + name
-            + "</receiver><slot>" + slot + "()</slot></connection>";
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(name + ".ui"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(changed(name, "<connections/>", "<connections>" + connections + "</connections>"));
-    file.close();
-    KirvLayoutCatalog catalog;
-    QSignalSpy rejected(&catalog, &KirvLayoutCatalog::overrideRejected);
-    catalog.setOverrideFolder(folder.path());
-    const std::unique_ptr<QWidget> top(catalog.build(name, nullptr));
-    QCOMPARE(rejected.count(), 0);
-    QSignalSpy finished(qobject_cast<QDialog *>(top.get()), &QDialog::finished);
-    for (QAbstractButton *button : top->findChild<QDialogButtonBox *>(box)->buttons())
-        button->click();
-    QCOMPARE(finished.count(), 0);
 }
 
 void tst_Layouts::richTextLoadsNothing_data()

@@ -54,7 +54,7 @@ const QString xmpp = QStringLiteral("XMPP");
 const QString here = QStringLiteral("Server on this computer");
 const QString ann = QStringLiteral("ann@localhost");
 const QString bob = QStringLiteral("bob@localhost");
-const QString secret = QStringLiteral("secret");
+const QString secret = QStringLiteral("anns-password");
 const QString mustBeConnected = QStringLiteral("must be connected");
 
 using Entry = QMap<QString, QString>;

@@ -82,6 +82,7 @@ void tst_odd_protocol_names::saveIsOneChange()
     QCOMPARE(account->password(), QString("old"));
     KirvTestedAccount::pressCancel(window);
     KIRV_TRY(!KirvTestedAccount::editWindow());
+    refusal.end();
 
     QVERIFY(windows->start());
     QVERIFY(account->loadProtocol(pluginFile));
