@@ -50,7 +50,7 @@ public:
 private:
     struct Entry {
         KirvPluginFingerprint plugin;
-        Verdict verdict;
+        Verdict verdict = Unknown;
     };
 
     void read();
