@@ -344,7 +344,7 @@ private:
     bool publishElsewhere(const Entry &entry)
     {
         KirvObservingXmppClient otherClient;
-        return otherClient.logIn(server, "ann") && otherClient.publish(cardOf(entry));
+        return otherClient.logIn(server, "ann", secret) && otherClient.publish(cardOf(entry));
     }
     Entry seenEntry() { return entryOf(juliet->vCardOf(ann)); }
     QByteArray seenHash() const { return juliet->presenceOf(ann).photoHash(); }
@@ -370,14 +370,14 @@ void tst_editing_in_windows::initTestCase()
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server.port()));
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", server.certificatePath().toLocal8Bit());
     KirvObservingXmppClient friendOfAnn;
-    QVERIFY(friendOfAnn.logIn(server, "juliet") && friendOfAnn.befriend(server, "ann"));
+    QVERIFY(friendOfAnn.logIn(server, "juliet", secret) && friendOfAnn.befriend(server, "ann", secret));
 }
 
 void tst_editing_in_windows::init()
 {
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     juliet = std::make_unique<KirvObservingXmppClient>();
-    QVERIFY(juliet->logIn(server, "juliet"));
+    QVERIFY(juliet->logIn(server, "juliet", secret));
     QVERIFY(publishElsewhere({}));
     windows = std::make_unique<KirvWindows>();
     QVERIFY(windows->start());

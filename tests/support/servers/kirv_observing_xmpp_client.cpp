@@ -51,10 +51,10 @@ void KirvObservingXmppClient::logOut()
     client.disconnectFromServer();
 }
 
-bool KirvObservingXmppClient::befriend(const KirvProsodyServer &server, const QString &user)
+bool KirvObservingXmppClient::befriend(const KirvProsodyServer &server, const QString &user, const QString &password)
 {
     KirvObservingXmppClient other;
-    if (!other.logIn(server, user))
+    if (!other.logIn(server, user, password))
         return false;
     const QString myAddress = client.configuration().jidBare();
     const QString otherAddress = other.client.configuration().jidBare();

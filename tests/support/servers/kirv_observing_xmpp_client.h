@@ -17,8 +17,8 @@ public:
     bool logIn(const KirvProsodyServer &server, const QString &user, const QString &password = "secret",
                const QString &resource = "observer");
     void logOut();
-    /// Makes \a user and this one see each other's presence. \a user must not be on line; the password is "secret".
-    bool befriend(const KirvProsodyServer &server, const QString &user);
+    /// Makes \a user and this one see each other's presence. \a user must not be on line.
+    bool befriend(const KirvProsodyServer &server, const QString &user, const QString &password = "secret");
 
     /// The last presence that was seen of the bare address \a address; an unavailable one when there was none.
     QXmppPresence presenceOf(const QString &address) const;
