@@ -7,7 +7,8 @@ install_and_move(folder)
 
 # The include paths of the sources start above protocols/.
 file(COPY "${EXAMPLE}" DESTINATION "${WORK}/source/protocols")
-file(COPY "${PROJECT}" DESTINATION "${WORK}/source/protocols/example")
+# file(COPY) keeps a file of the same name and time, which a fresh checkout has.
+configure_file("${PROJECT}" "${WORK}/source/protocols/example/CMakeLists.txt" COPYONLY)
 build_with_packages("${WORK}/source/protocols/example" "${folder}")
 run("${CMAKE_COMMAND}" --install "${WORK}/build")
 
