@@ -392,7 +392,7 @@ void KirvIrcConnection::watchServer()
 }
 
 /// Calls \a callback later, unless the link has ended by then.
-void KirvIrcConnection::callLaterOnLink(int milliseconds, std::function<void()> callback)
+void KirvIrcConnection::callLaterOnLink(int milliseconds, const std::function<void()> &callback)
 {
     IrcConnection *const watched = link.data();
     clock().callLater(milliseconds, watched, [this, watched, callback] {

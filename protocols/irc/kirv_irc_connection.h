@@ -59,7 +59,7 @@ private:
     void receiveSocketError(QAbstractSocket::SocketError error);
 
     void watchServer();
-    void callLaterOnLink(int milliseconds, std::function<void()> callback);
+    void callLaterOnLink(int milliseconds, const std::function<void()> &callback);
 
     /// Deleted later, as it may be in the middle of a signal.
     QScopedPointer<IrcConnection, QScopedPointerDeleteLater> link;

@@ -63,7 +63,7 @@ void KirvIrcSocket::disconnectFromHost()
 
 qint64 KirvIrcSocket::bytesAvailable() const
 {
-    return used.size() + QIODevice::bytesAvailable();
+    return used.size() + QAbstractSocket::bytesAvailable();
 }
 
 bool KirvIrcSocket::canReadLine() const
