@@ -23,7 +23,7 @@ bool isName(const QString &name)
 
 bool isLink(const QString &path)
 {
-    struct stat status;
+    struct stat status { };
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 

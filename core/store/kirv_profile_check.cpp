@@ -15,7 +15,7 @@ namespace {
 /// The kind of the file \a path itself, also when it is a link; 0 when there is none.
 mode_t kindOf(const QString &path)
 {
-    struct stat status;
+    struct stat status { };
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & S_IFMT : 0;
 }
 

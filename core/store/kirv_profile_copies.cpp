@@ -37,7 +37,7 @@ QDateTime dateOf(const QString &name)
 /// Whether this program has made the file: it says so in its first bytes.
 bool isCopy(const QString &path)
 {
-    struct stat status;
+    struct stat status { };
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISREG(status.st_mode)
         && KirvDatabaseHeader::ofFile(path).applicationId == kirvCopyId;
 }
@@ -93,7 +93,7 @@ bool KirvProfileCopies::has(const QString &name) const
 
 bool KirvProfileCopies::prepareFolder() const
 {
-    struct stat status;
+    struct stat status { };
     const QByteArray folder = QFile::encodeName(paths.copies());
     if (::lstat(folder.constData(), &status) != 0)
         return kirvMakePrivateFolder(paths.copies());

@@ -13,14 +13,15 @@ namespace {
 /// Whether the open file is still the one of that name: earlier versions removed it when they ended.
 bool isStillNamed(int descriptor, const QByteArray &path)
 {
-    struct stat opened, named;
+    struct stat opened {
+    }, named {};
     return ::fstat(descriptor, &opened) == 0 && ::lstat(path.constData(), &named) == 0 && opened.st_dev == named.st_dev
         && opened.st_ino == named.st_ino;
 }
 
 bool isRegularFile(int descriptor)
 {
-    struct stat status;
+    struct stat status { };
     return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 

@@ -23,7 +23,7 @@ struct FileIdentity {
 
     static FileIdentity of(const QString &path)
     {
-        struct stat status;
+        struct stat status { };
         if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
             return {};
         return { status.st_dev, status.st_ino };

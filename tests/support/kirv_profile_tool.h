@@ -55,7 +55,7 @@ inline bool writeFile(const QString &path, const QByteArray &content)
 
 inline int permissionsOf(const QString &path)
 {
-    struct stat status;
+    struct stat status { };
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? int(status.st_mode & 07777) : -1;
 }
 
@@ -69,7 +69,7 @@ inline QMap<QString, QByteArray> treeOf(const QString &folder)
     while (iterator.hasNext())
         paths << iterator.next();
     for (const QString &path : qAsConst(paths)) {
-        struct stat status;
+        struct stat status { };
         if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
             continue;
         QByteArray content = QByteArray::number(status.st_mode, 8) + ' ';
