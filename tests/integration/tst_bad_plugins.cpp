@@ -262,7 +262,7 @@ void tst_BadPlugins::everythingHappensAfterTheFirstPaint()
     QCOMPARE(first.lines.value(0), QStringLiteral("painted|0"));
     const int blocked = first.of("blocked").value(0).section(QLatin1Char('|'), 1).toInt();
     qInfo("The event loop was blocked for at most %d ms.", blocked);
-    QVERIFY(blocked < limit);
+    QVERIFY2(blocked < 500, "Nothing here takes longer than 50 ms; the rest is for a busy machine.");
 }
 
 void tst_BadPlugins::aTestThatRunsEndsWithTheProgram()
