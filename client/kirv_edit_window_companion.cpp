@@ -132,10 +132,11 @@ void KirvEditWindowCompanion::addServerAccountButton()
 
 void KirvEditWindowCompanion::beginSave()
 {
-    saving = accounts.find(accountKey);
-    if (!saving)
+    KirvAccount *account = accounts.find(accountKey);
+    if (saving || !account || !account->isLoaded()) // the page saves nothing then
         return;
-    saving->beginSave();
+    saving = account;
+    account->beginSave();
     if (directory)
         directory->saveBegins();
     QMetaObject::invokeMethod(this, &KirvEditWindowCompanion::endClick, Qt::QueuedConnection);
@@ -155,7 +156,7 @@ bool KirvEditWindowCompanion::commitSave()
     const QPointer<KirvAccount> account = saving;
     saving.clear();
     const bool isSaved = account->endSave();
-    if (!alive || !account)
+    if (!alive || !account || account->isRemoved())
         return true;
     if (directory)
         directory->saveEnded(isSaved);

@@ -27,6 +27,7 @@
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <QtTest>
 
 namespace {
@@ -123,6 +124,7 @@ private Q_SLOTS:
     void pictureStaysWhenTheWindowIsCancelled();
     void slotsOfASaveMayEndTheWindow_data();
     void slotsOfASaveMayEndTheWindow();
+    void accountRemovedWithinASaveIsNotReportedAsRefused();
     void windowOfAnUnusableAccountCanOnlyBeClosed();
 
     // The directory.
@@ -422,6 +424,7 @@ void tst_WindowCompanions::refusedSaveCanBeTriedAgain()
         settle();
         QCOMPARE(account()->record().alias, ann);
         QCOMPARE(account()->record().password, secret);
+        QVERIFY(!isLocked(window)); // the directory has nothing to do with it
     }
     refusal.end();
     save(window);
@@ -630,6 +633,20 @@ void tst_WindowCompanions::slotsOfASaveMayEndTheWindow()
     QCOMPARE(name(), isPublished ? QStringLiteral("Ann New") : published);
 }
 
+void tst_WindowCompanions::accountRemovedWithinASaveIsNotReportedAsRefused()
+{
+    QPointer<KirvLayoutDialog> window = edit();
+    child<QLineEdit>(window, "EditAccount_Alias")->setText(QStringLiteral("Ann"));
+    // The page shows the new alias before the save ends.
+    connect(child<QTreeWidget>(client->accountsPage(), "Accounts_List"), &QTreeWidget::itemChanged, window,
+            [this] { KirvAccountManager::getInstance()->removeAccount(ann, protocol->name); });
+    save(window);
+    QVERIFY(!child<QMessageBox>(window, "EditAccount_SaveFailed"));
+    settle();
+    QVERIFY(!window);
+    QVERIFY(!account());
+}
+
 void tst_WindowCompanions::windowOfAnUnusableAccountCanOnlyBeClosed()
 {
     Q_EMIT client->plugins().protocolAboutToBeUnloaded(protocol);
@@ -641,8 +658,10 @@ void tst_WindowCompanions::windowOfAnUnusableAccountCanOnlyBeClosed()
     QVERIFY(window);
     child<QLineEdit>(window, "EditAccount_Alias")->setText(QStringLiteral("Ann"));
     save(window);
+    save(window);
     settle();
     QVERIFY(window && window->isVisible());
+    QVERIFY(!account()->isSaving());
     QCOMPARE(account()->record().alias, ann);
     button(window, QDialogButtonBox::Cancel)->click();
     settle();
