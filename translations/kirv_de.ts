@@ -273,7 +273,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Ordner „%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -727,7 +727,7 @@
     </message>
     <message>
         <source>The server cannot log the account in at the moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server kann das Konto zurzeit nicht anmelden.</translation>
     </message>
     <message>
         <source>The server does not offer what was requested.</source>
@@ -736,7 +736,7 @@
     <message>
         <source>The server cannot log the account in at the moment: %1</source>
         <extracomment>%1 is the reason</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Der Server kann das Konto zurzeit nicht anmelden: %1</translation>
     </message>
     <message>
         <source>The server does not offer what was requested: %1</source>
@@ -808,32 +808,32 @@
     </message>
     <message>
         <source>The server sent a line that is longer than lines can be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat eine Zeile gesendet, die länger ist, als Zeilen sein dürfen.</translation>
     </message>
     <message>
         <source>There is no private key that can be used in the file “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ enthält keinen privaten Schlüssel, der benutzt werden kann.</translation>
     </message>
     <message>
         <source>Other users of this computer can read or change the key file “%1”. Only its owner should.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Benutzer dieses Rechners können die Schlüsseldatei „%1“ lesen oder ändern. Das sollte nur ihr Besitzer können.</translation>
     </message>
     <message>
         <source>It does not offer SASL now, as it did before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er bietet SASL zurzeit nicht an, wie er es vorher tat.</translation>
     </message>
     <message>
         <source>%1 – %2</source>
         <extracomment>%1 is what a server says first, as &quot;You are banned&quot;, %2 what it says when it closes the connection</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2</translation>
     </message>
     <message>
         <source>password of the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort des Servers</translation>
     </message>
     <message>
         <source>no password</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Passwort</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -842,7 +842,7 @@
     </message>
     <message>
         <source>not encrypted</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht verschlüsselt</translation>
     </message>
 </context>
 <context>
@@ -868,7 +868,7 @@
     <name>KirvIrcSasl</name>
     <message>
         <source>The client certificate is not known there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Client-Zertifikat ist dort nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -983,27 +983,27 @@
     </message>
     <message>
         <source>There is a key of a client certificate, but no client certificate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt einen Schlüssel eines Client-Zertifikats, aber kein Client-Zertifikat.</translation>
     </message>
     <message>
         <source>A client certificate can be used with encryption only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Client-Zertifikat kann nur mit Verschlüsselung benutzt werden.</translation>
     </message>
     <message>
         <source>Client certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Client-Zertifikat</translation>
     </message>
     <message>
         <source>The path of a file with a certificate of your own (PEM), to log in with instead of the password (SASL EXTERNAL). Empty: none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Pfad einer Datei mit einem eigenen Zertifikat (PEM), mit dem statt mit dem Passwort angemeldet wird (SASL EXTERNAL). Leer: keines.</translation>
     </message>
     <message>
         <source>Key of the client certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel des Client-Zertifikats</translation>
     </message>
     <message>
         <source>The path of the file with the certificate&apos;s private key (PEM, without a password). Empty: it is in the certificate&apos;s file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Pfad der Datei mit dem privaten Schlüssel des Zertifikats (PEM, ohne Passwort). Leer: Er steht in der Datei des Zertifikats.</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1039,7 @@
     <name>KirvLayoutCheck</name>
     <message>
         <source>It declares a document type, which a layout cannot have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie gibt einen Dokumenttyp an, den ein Layout nicht haben darf.</translation>
     </message>
     <message>
         <source>It is not a window layout of Qt Designer.</source>
@@ -1051,7 +1051,7 @@
     </message>
     <message>
         <source>It has too many widgets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat zu viele Bedienelemente.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -1059,55 +1059,55 @@
     </message>
     <message>
         <source>It connects widgets with each other, which only the program does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie verbindet Bedienelemente miteinander, was nur das Programm tut.</translation>
     </message>
     <message>
         <source>It has an element “%1”, which a layout cannot have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat ein Element „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
         <source>It has an attribute that is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat ein Attribut, das zu lang ist.</translation>
     </message>
     <message>
         <source>“%1” is not the name of an icon.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht der Name eines Symbols.</translation>
     </message>
     <message>
         <source>It has a row or column that is out of bounds: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat eine Zeile oder Spalte außerhalb der Grenzen: %1.</translation>
     </message>
     <message>
         <source>It has a text of the format “%1”, which a layout cannot have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat einen Text im Format „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
         <source>It has a number that is out of bounds: %1 (%2).</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat eine Zahl außerhalb der Grenzen: %1 (%2).</translation>
     </message>
     <message>
         <source>It sets “%1” to a text, which a layout cannot do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie setzt „%1“ auf einen Text, was ein Layout nicht darf.</translation>
     </message>
     <message>
         <source>Its style sheet contains “%1”, which a layout cannot have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Stylesheet enthält „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
         <source>Style sheets and rich texts name pictures by their whole path, “%1” does not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stylesheets und formatierte Texte nennen Bilder mit ihrem vollen Pfad, „%1“ tut das nicht.</translation>
     </message>
     <message>
         <source>It has a rich text that is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie hat einen formatierten Text, der zu groß ist.</translation>
     </message>
     <message>
         <source>There is no picture “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Bild „%1“.</translation>
     </message>
     <message>
         <source>The picture “%1” is not in the folder of the layout.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ liegt nicht im Ordner des Layouts.</translation>
     </message>
     <message>
         <source>It asks for a widget of the unknown class %1.</source>
@@ -1199,11 +1199,11 @@
     <name>KirvPluginCall</name>
     <message>
         <source>an exception of an unknown kind</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Ausnahme unbekannter Art</translation>
     </message>
     <message>
         <source>The plug-in failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul ist fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
@@ -1253,44 +1253,44 @@
     <message>
         <source>The plug-in &quot;%1&quot; was left out, because the program ended when it was loaded the last time. It can be loaded on the page of the plug-ins.</source>
         <extracomment>%1 = name of a plug-in</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul „%1“ wurde ausgelassen, weil das Programm endete, als es zuletzt geladen wurde. Es kann auf der Seite „Module“ geladen werden.</translation>
     </message>
     <message>
         <source>The plug-in was left out, because it crashed when it was tested.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul wurde ausgelassen, weil es bei der Prüfung abgestürzt ist.</translation>
     </message>
     <message>
         <source>The plug-in was left out, because it ended the process in which it was tested.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul wurde ausgelassen, weil es den Prozess beendet hat, in dem es geprüft wurde.</translation>
     </message>
     <message>
         <source>The plug-in was left out, because it was not ready within %1 s when it was tested.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul wurde ausgelassen, weil es bei der Prüfung nicht innerhalb von %1 s bereit war.</translation>
     </message>
     <message>
         <source>The plug-in was left out, because the program ended when it was loaded the last time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modul wurde ausgelassen, weil das Programm endete, als es zuletzt geladen wurde.</translation>
     </message>
     <message>
         <source>The file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>KirvPluginTrust</name>
     <message>
         <source>The file cannot be examined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht untersucht werden.</translation>
     </message>
     <message>
         <source>The plug-in is not trusted: %1 belongs to another user.</source>
         <extracomment>%1 = path of a file or folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dem Modul wird nicht vertraut: %1 gehört einem anderen Benutzer.</translation>
     </message>
     <message>
         <source>The plug-in is not trusted: others than you may write to %1.</source>
         <extracomment>%1 = path of a file or folder</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dem Modul wird nicht vertraut: Andere als Sie dürfen %1 ändern.</translation>
     </message>
 </context>
 <context>
@@ -1354,15 +1354,15 @@
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>Being tested</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geprüft</translation>
     </message>
     <message>
         <source>Loading</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geladen</translation>
     </message>
 </context>
 <context>
@@ -1373,15 +1373,15 @@
     </message>
     <message>
         <source>&quot;%1&quot; is a link. The program follows no link inside a profile: replace it by what it leads to.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine Verknüpfung. Das Programm folgt in einem Profil keiner Verknüpfung: Ersetzen Sie sie durch das, worauf sie zeigt.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; is damaged: its database is missing. Nothing in it was changed: restore it from a backup, or choose an empty folder to start with an empty one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ ist beschädigt: Seine Datenbank fehlt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder wählen Sie einen leeren Ordner, um mit einem leeren zu beginnen.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is not a profile: it holds other files. Nothing in it was changed: choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ ist kein Profil: Er enthält andere Dateien. Nichts darin wurde geändert: Wählen Sie einen leeren Ordner.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; was written by a newer version of the program. Use that version to open it; nothing in it was changed.</source>
@@ -1401,14 +1401,14 @@
     </message>
     <message>
         <source>The file &quot;%1&quot; belongs to another program. Nothing in it was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ gehört einem anderen Programm. Nichts darin wurde geändert.</translation>
     </message>
 </context>
 <context>
     <name>KirvProfileCopies</name>
     <message>
         <source>No copy of the profile in &quot;%1&quot; could be kept. Check the permissions of the folder &quot;copies&quot; in it, and whether the disk is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Profil in „%1“ konnte keine Kopie behalten werden. Prüfen Sie die Rechte des Ordners „copies“ darin, und ob der Datenträger voll ist.</translation>
     </message>
 </context>
 <context>
@@ -1419,22 +1419,22 @@
     </message>
     <message>
         <source>&quot;%1&quot; could not be made. Check whether the disk is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht angelegt werden. Prüfen Sie, ob der Datenträger voll ist.</translation>
     </message>
 </context>
 <context>
     <name>KirvProfileRescue</name>
     <message>
         <source>There is no profile in &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ gibt es kein Profil.</translation>
     </message>
     <message>
         <source>The copy &quot;%1&quot; is damaged, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie „%1“ ist ebenfalls beschädigt.</translation>
     </message>
     <message>
         <source>Nothing in the damaged profile in &quot;%1&quot; can be read any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im beschädigten Profil in „%1“ ist nichts mehr lesbar.</translation>
     </message>
 </context>
 <context>
@@ -1610,15 +1610,15 @@
     </message>
     <message>
         <source>There is no home folder to keep the profile in: the environment variable HOME is not set. Set it, or name a folder for the profile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen persönlichen Ordner für das Profil: Die Umgebungsvariable HOME ist nicht gesetzt. Setzen Sie sie, oder nennen Sie einen Ordner für das Profil.</translation>
     </message>
     <message>
         <source>The profile in &quot;%1&quot; was deleted, moved or replaced while the program was running, so nothing was stored. Save the accounts to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Profil in „%1“ wurde gelöscht, verschoben oder ersetzt, während das Programm lief; daher wurde nichts gespeichert. Speichern Sie die Konten in einem anderen Ordner.</translation>
     </message>
     <message>
         <source>There is a profile in &quot;%1&quot; already. Choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ gibt es schon ein Profil. Wählen Sie einen leeren Ordner.</translation>
     </message>
 </context>
 <context>
