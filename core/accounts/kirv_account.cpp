@@ -368,7 +368,7 @@ void KirvAccount::leave()
         connection()->drop(); // it does not log in again
         deleteLater();
     });
-    reconciler.wake();
+    reconciler.schedule();
 }
 
 void KirvAccount::connectConnection(KirvConnection *created)

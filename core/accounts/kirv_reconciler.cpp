@@ -24,8 +24,8 @@ void KirvReconciler::setConnection(KirvConnection *connection)
     urge = None;
     if (!target)
         return;
-    connect(target, &KirvConnection::stateChanged, this, &KirvReconciler::wake);
-    wake();
+    connect(target, &KirvConnection::stateChanged, this, &KirvReconciler::schedule);
+    schedule();
 }
 
 KirvConnection *KirvReconciler::connection() const
@@ -33,7 +33,7 @@ KirvConnection *KirvReconciler::connection() const
     return target;
 }
 
-void KirvReconciler::wake()
+void KirvReconciler::schedule()
 {
     if (scheduled || !target)
         return;
@@ -44,7 +44,7 @@ void KirvReconciler::wake()
 void KirvReconciler::insist(Urge newUrge)
 {
     urge = qMax(urge, newUrge);
-    wake();
+    schedule();
 }
 
 void KirvReconciler::hold()
@@ -57,7 +57,7 @@ void KirvReconciler::release(bool kept)
 {
     if (--holds == 0 && !kept)
         urge = urgeBefore;
-    wake();
+    schedule();
 }
 
 KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge)

@@ -10,7 +10,7 @@
 
 /// Brings the connection of one account to what is wanted of it.
 ///
-/// Whatever changes an account only calls wake(); from the event loop, and not while a save is open, the reconciler
+/// Whatever changes an account only calls schedule(); from the event loop, and not while a save is open, the reconciler
 /// compares what is wanted with what the connection really uses and takes the one step that is needed. So nothing is
 /// sent from uncommitted state, and several changes make one step.
 class KirvReconciler : public QObject {
@@ -45,7 +45,7 @@ public:
     KirvConnection *connection() const;
 
     /// Something that is wanted may have changed.
-    void wake();
+    void schedule();
     void insist(Urge urge);
     /// Nothing is done between hold() and the release() that belongs to it. What insist() requested meanwhile counts
     /// only when it is \a kept.

@@ -17,6 +17,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,6 +27,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextEdit>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -281,7 +283,9 @@ void tst_WindowCompanions::fetch(const QWidget *window)
 void tst_WindowCompanions::settle()
 {
     for (int round = 0; round < 5; ++round) {
-        QTest::qWait(1); // timers without delay
+        QEventLoop loop;
+        QTimer::singleShot(0, &loop, &QEventLoop::quit); // after those that are due
+        loop.exec();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }

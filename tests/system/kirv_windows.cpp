@@ -92,7 +92,7 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
         [protocol] { return KirvWindowDriver::menuOffers(protocol); },
         [protocol] { KirvWindowDriver::clickInMenu(protocol); });
     walk.expect(
-        QStringLiteral("The window opens, with Save asleep"), [=] { return window() && !saveButton()->isEnabled(); },
+        QStringLiteral("The window opens, with Save disabled"), [=] { return window() && !saveButton()->isEnabled(); },
         [=] {
             KirvWindowDriver::choose(child<QComboBox>(window(), "AddAccount_Configuration"), configuration);
             KirvWindowDriver::type(child<QLineEdit>(window(), "AddAccount_UsernameEdit"), login);
@@ -101,7 +101,7 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
                 fillIn(window());
         });
     walk.expect(
-        QStringLiteral("Save is awake"), [=] { return saveButton()->isEnabled(); },
+        QStringLiteral("Save is enabled"), [=] { return saveButton()->isEnabled(); },
         [=] { KirvWindowDriver::click(saveButton()); });
     if (!isAccepted) {
         walk.expect(

@@ -425,8 +425,8 @@ void tst_irc_in_windows::hungServerIsSaid()
 
 void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
 {
-    bool isAwake = false;
-    KirvScriptedIrcServer server([&isAwake](const QByteArray &line) { return isAwake ? welcome(line) : QByteArray(); });
+    bool isReplying = false;
+    KirvScriptedIrcServer server([&isReplying](const QByteArray &line) { return isReplying ? welcome(line) : QByteArray(); });
     use(server);
     QVERIFY(addAlice());
     windows->hurry(alice);
@@ -434,7 +434,7 @@ void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
     server.hangUp();
     KIRV_TRY_CONTAINS(windows->problem(alice), "lost");
     QVERIFY(!isConnected(alice));
-    isAwake = true;
+    isReplying = true;
     KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->problem(alice), QString());
 }
