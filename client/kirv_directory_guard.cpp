@@ -127,9 +127,10 @@ void KirvDirectoryGuard::saveEnded(bool saved)
 
 bool KirvDirectoryGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == fields && event->type() == QEvent::EnabledChange)
+    // Only the fields are watched; while they are destroyed the pointer to them must not be followed.
+    if (event->type() == QEvent::EnabledChange)
         updateStatus();
-    else if (watched == fields && event->type() == QEvent::Show) // from the event loop: the page is first
+    else if (event->type() == QEvent::Show) // from the event loop: the page is first
         QMetaObject::invokeMethod(this, &KirvDirectoryGuard::fetchWhenSeen, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
