@@ -533,7 +533,8 @@ void tst_editing_in_windows::changedSettingsMakeOneReconnection()
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
     int logIns = 0;
-    connect(windows->account(ann)->connection(), &KirvConnection::stateChanged, this,
+    const QObject scope;
+    connect(windows->account(ann)->connection(), &KirvConnection::stateChanged, &scope,
             [&logIns](KirvConnection::State state) { logIns += state == KirvConnection::Connecting; });
     paste(priority(window), "7");
     clickSave(window);
