@@ -96,10 +96,19 @@ KirvPluginsPage *KirvClient::pluginsPage() const
 bool KirvClient::openStore()
 {
     store = std::make_unique<KirvStore>();
+    error = options.profileProblem;
+    if (options.profileFolder.isEmpty())
+        return false;
+    error.clear();
     if (store->open(options.profileFolder))
         return true;
     error = store->lastError();
     return false;
+}
+
+bool KirvClient::isProfileDamaged() const
+{
+    return store && store->state() == KirvProfileState::Damaged;
 }
 
 void KirvClient::createServices()

@@ -40,6 +40,8 @@ public:
     bool start();
     /// A sentence or two for the user.
     QString errorString() const { return error; }
+    /// Whether start() has given false because the profile is damaged. It can be called again when that was repaired.
+    bool isProfileDamaged() const;
 
     // What follows exists once start() has given true.
     KirvStore &profile() const { return *store; }
