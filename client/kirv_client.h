@@ -18,6 +18,7 @@ class KirvPasswordQuestions;
 class KirvPluginLoader;
 class KirvPluginQueue;
 class KirvPluginsPage;
+class KirvProfileSaver;
 class KirvProtocolBase;
 class KirvClientSettings;
 class KirvSettingsWindow;
@@ -73,6 +74,7 @@ private:
     void updateTitle();
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
+    void showRefusal(const QString &text);
 
     const KirvClientOptions options;
     QString error;
@@ -91,6 +93,7 @@ private:
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
+    QPointer<KirvProfileSaver> profileSaver;
 };
 
 #endif
