@@ -17,16 +17,35 @@ KirvApplication::KirvApplication(int &argc, char **argv)
     : QApplication(argc, argv)
 {
     initializeResources();
+    prepare(*this);
+    setWindowIcon(QIcon(QStringLiteral(":/kirv/client/icons/kirv.svg")));
+}
+
+void KirvApplication::prepare(QCoreApplication &application)
+{
     setApplicationName(QStringLiteral("kirv"));
     setApplicationVersion(QStringLiteral(KIRV_VERSION));
-    setWindowIcon(QIcon(QStringLiteral(":/kirv/client/icons/kirv.svg")));
-    kirvInstallTranslations(*this);
+    kirvInstallTranslations(application);
+}
+
+bool KirvApplication::hasDisplay()
+{
+    return platformName() != QLatin1String("offscreen") && platformName() != QLatin1String("minimal");
+}
+
+bool KirvApplication::expectsDisplay(const QStringList &arguments)
+{
+    for (const char *variable : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" }) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    }
+    return arguments.contains(QStringLiteral("-platform")) || arguments.contains(QStringLiteral("--platform"));
 }
 
 void KirvApplication::reportFatal(const QString &text)
 {
     std::fprintf(stderr, "kirv: %s\n", qPrintable(text));
-    if (platformName() == QLatin1String("offscreen"))
+    if (!hasDisplay())
         return; // there is no user who could close the box
     QMessageBox box(QMessageBox::Critical, tr("Kirv"), text, QMessageBox::Close);
     box.setObjectName(QStringLiteral("FatalProblem"));

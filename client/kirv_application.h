@@ -11,6 +11,13 @@ class KirvApplication : public QApplication {
 public:
     KirvApplication(int &argc, char **argv);
 
+    /// What of it a program without windows has, too: name, version and language.
+    static void prepare(QCoreApplication &application);
+    /// Whether windows can be seen, and answered, by anybody.
+    static bool hasDisplay();
+    /// Whether a program that is started with \a arguments can be expected to find a display. Needs no application.
+    static bool expectsDisplay(const QStringList &arguments);
+
     /// Shows why the program cannot start: on the terminal and, where a user can close it, in a
     /// message box.
     static void reportFatal(const QString &text);

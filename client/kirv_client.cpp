@@ -9,6 +9,7 @@
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_plugins_page.h"
+#include "client/kirv_profile_saver.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_visible_boxes.h"
@@ -96,10 +97,19 @@ KirvPluginsPage *KirvClient::pluginsPage() const
 bool KirvClient::openStore()
 {
     store = std::make_unique<KirvStore>();
+    error = options.profileProblem;
+    if (options.profileFolder.isEmpty())
+        return false;
+    error.clear();
     if (store->open(options.profileFolder))
         return true;
     error = store->lastError();
     return false;
+}
+
+bool KirvClient::isProfileDamaged() const
+{
+    return store && store->state() == KirvProfileState::Damaged;
 }
 
 void KirvClient::createServices()
@@ -132,6 +142,8 @@ void KirvClient::createWindow()
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
+    profileSaver = new KirvProfileSaver(*store, *settingsWindow->messageBar());
+    showProblem(store->copyError());
 
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
@@ -145,9 +157,9 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::accountRemoved, this, &KirvClient::mainAccountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
-    connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showProblem);
+    connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
-    connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showProblem);
+    connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);
@@ -218,4 +230,9 @@ void KirvClient::showNotice(const KirvAccount *account, const QString &text)
 void KirvClient::showProblem(const QString &text)
 {
     settingsWindow->messageBar()->showMessage(text);
+}
+
+void KirvClient::showRefusal(const QString &text)
+{
+    profileSaver->showRefusal(text);
 }

@@ -18,6 +18,7 @@ class KirvPasswordQuestions;
 class KirvPluginLoader;
 class KirvPluginQueue;
 class KirvPluginsPage;
+class KirvProfileSaver;
 class KirvProtocolBase;
 class KirvClientSettings;
 class KirvSettingsWindow;
@@ -40,6 +41,8 @@ public:
     bool start();
     /// A sentence or two for the user.
     QString errorString() const { return error; }
+    /// Whether start() has given false because the profile is damaged. It can be called again when that was repaired.
+    bool isProfileDamaged() const;
 
     // What follows exists once start() has given true.
     KirvStore &profile() const { return *store; }
@@ -71,6 +74,7 @@ private:
     void updateTitle();
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
+    void showRefusal(const QString &text);
 
     const KirvClientOptions options;
     QString error;
@@ -89,6 +93,7 @@ private:
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
+    QPointer<KirvProfileSaver> profileSaver;
 };
 
 #endif

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_client_options.h"
 
+#include "core/store/kirv_default_profile.h"
+
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -23,24 +25,87 @@ QString ownPluginFolder()
     return QDir::cleanPath(candidates.last());
 }
 
+[[noreturn]] void refuse(const QString &text)
+{
+    std::fprintf(stderr, "kirv: %s\n", qPrintable(text));
+    std::exit(1);
+}
+
 /// Ends the program when the option names no folder: the present one would be a surprise.
 QString folderOf(const QCommandLineParser &parser, const QCommandLineOption &option)
 {
     const QString folder = parser.value(option);
     if (folder.isEmpty()) {
         //: %1 = name of an option
-        std::fprintf(stderr, "kirv: %s\n",
-                     qPrintable(KirvClientOptions::tr("The option --%1 needs a folder.").arg(option.names().first())));
-        std::exit(1);
+        refuse(KirvClientOptions::tr("The option --%1 needs a folder.").arg(option.names().first()));
     }
     return QDir::current().absoluteFilePath(folder);
 }
+
+/// The commands among the options.
+class Commands {
+public:
+    Commands()
+        : options {
+            { KirvClientOptions::Check,
+              { QStringLiteral("check"),
+                KirvClientOptions::tr("Say whether the profile is damaged, list its copies and end: with 0 when "
+                                      "it can be used, 2 when it is damaged, and 1 when it cannot be used for "
+                                      "another reason.") } },
+            { KirvClientOptions::Restore,
+              { QStringLiteral("restore"),
+                KirvClientOptions::tr("Put a copy in the place of the profile's database and end: the newest, or "
+                                      "the one that is named. Passwords are in no copy.") } },
+            { KirvClientOptions::Recover,
+              { QStringLiteral("recover"),
+                KirvClientOptions::tr("Read what is still readable of the profile's damaged database, keep that, "
+                                      "and end.") } }
+        }
+    {
+    }
+
+    void addTo(QCommandLineParser &parser) const
+    {
+        for (const auto &option : options)
+            parser.addOption(option.second);
+        parser.addPositionalArgument(QStringLiteral("copy"), KirvClientOptions::tr("The copy to restore."),
+                                     KirvClientOptions::tr("[copy]"));
+    }
+
+    /// Ends the program when the command line has more than one command, or something behind a command that takes
+    /// nothing.
+    void read(const QCommandLineParser &parser, KirvClientOptions *read) const
+    {
+        QStringList names;
+        for (const auto &option : options) {
+            if (!parser.isSet(option.second))
+                continue;
+            read->command = option.first;
+            names << QLatin1String("--") + option.second.names().first();
+        }
+        if (names.size() > 1) {
+            //: %1, %2 = names of options
+            refuse(
+                KirvClientOptions::tr("The options %1 and %2 cannot be used together.").arg(names.at(0), names.at(1)));
+        }
+        QStringList others = parser.positionalArguments();
+        if (read->command == KirvClientOptions::Restore && !others.isEmpty())
+            read->copy = others.takeFirst();
+        if (!others.isEmpty()) {
+            //: %1 = a word of the command line
+            refuse(KirvClientOptions::tr("The argument \"%1\" is not known.").arg(others.first()));
+        }
+    }
+
+private:
+    const QList<QPair<KirvClientOptions::Command, QCommandLineOption>> options;
+};
 } // namespace
 
 KirvClientOptions KirvClientOptions::defaults()
 {
     KirvClientOptions options;
-    options.profileFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    options.profileFolder = kirvDefaultProfileFolder(&options.profileProblem);
     options.pluginFolder = ownPluginFolder();
     return options;
 }
@@ -58,12 +123,25 @@ KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &argument
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({ profile, plugins });
+    const Commands commands;
+    commands.addTo(parser);
     parser.process(arguments);
 
     KirvClientOptions options = defaults();
+    commands.read(parser, &options);
     if (parser.isSet(profile))
         options.profileFolder = folderOf(parser, profile);
     if (parser.isSet(plugins))
         options.pluginFolder = folderOf(parser, plugins);
     return options;
+}
+
+bool KirvClientOptions::maySayNoWindow(const QStringList &arguments)
+{
+    static const QStringList words { QStringLiteral("--check"),   QStringLiteral("--restore"),
+                                     QStringLiteral("--recover"), QStringLiteral("--help"),
+                                     QStringLiteral("-h"),        QStringLiteral("--version"),
+                                     QStringLiteral("-v") };
+    return std::any_of(arguments.begin(), arguments.end(),
+                       [](const QString &argument) { return words.contains(argument); });
 }

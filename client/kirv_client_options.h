@@ -11,14 +11,27 @@ struct KirvClientOptions {
     Q_DECLARE_TR_FUNCTIONS(KirvClientOptions)
 
 public:
-    QString profileFolder;
+    /// What the program is to do.
+    enum Command {
+        Start, ///< show its windows
+        Check, ///< say whether the profile is damaged
+        Restore, ///< put a copy in the place of the profile's database
+        Recover ///< read what is still readable of the profile's database
+    };
+
+    Command command = Start;
+    QString copy; ///< the file name or path of the copy to restore; empty: the newest
+    QString profileFolder; ///< absolute; empty when there is none, and profileProblem says why
+    QString profileProblem; ///< a sentence for the user
     QString pluginFolder;
 
     /// The user's own profile and the plug-ins that came with the program.
     static KirvClientOptions defaults();
-    /// The options that \a arguments, the program's name first, ask for. Prints and ends the program for
-    /// --help, --version and what it does not understand.
+    /// The options in \a arguments, the program's name first. Prints and ends the program for --help, --version and
+    /// what it does not understand.
     static KirvClientOptions fromCommandLine(const QStringList &arguments);
+    /// Whether one of \a arguments says that no window is to be shown, so that no display is needed.
+    static bool maySayNoWindow(const QStringList &arguments);
 };
 
 #endif

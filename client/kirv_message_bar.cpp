@@ -3,6 +3,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -26,16 +27,35 @@ KirvMessageBar::KirvMessageBar(QWidget *parent)
 
 void KirvMessageBar::showMessage(const QString &text)
 {
+    showMessage(text, QString(), {});
+}
+
+void KirvMessageBar::showMessage(const QString &text, const QString &command, const std::function<void()> &action)
+{
     if (text.isEmpty() || texts.contains(text))
         return;
     if (texts.size() == mostMessages)
         removeRow(0);
     texts << text;
-    rows->addWidget(createRow(text));
+    QPushButton *button = nullptr;
+    if (action) {
+        button = new QPushButton(command);
+        button->setObjectName(QStringLiteral("MessageBar_Command"));
+        connect(button, &QPushButton::clicked, this, action);
+    }
+    rows->addWidget(createRow(text, button));
     show();
 }
 
-QWidget *KirvMessageBar::createRow(const QString &text)
+void KirvMessageBar::removeMessage(const QString &text)
+{
+    const int index = int(texts.indexOf(text));
+    if (index >= 0)
+        removeRow(index);
+}
+
+/// \a button may be null; the row owns it.
+QWidget *KirvMessageBar::createRow(const QString &text, QWidget *button)
 {
     auto *row = new QWidget(this);
     row->setObjectName(QStringLiteral("MessageBar_Row"));
@@ -66,6 +86,8 @@ QWidget *KirvMessageBar::createRow(const QString &text)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(icon, 0, Qt::AlignTop);
     layout->addWidget(label, 1);
+    if (button)
+        layout->addWidget(button, 0, Qt::AlignTop);
     layout->addWidget(close, 0, Qt::AlignTop);
     return row;
 }

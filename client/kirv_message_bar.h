@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QVBoxLayout;
 
 /// Problems shown inside the window, above its pages, without stopping the user: one paragraph of plain text
@@ -18,11 +20,15 @@ public:
 
     /// Shows \a text, which is not interpreted. The same text is not shown twice; of many, the latest stay.
     void showMessage(const QString &text);
+    /// The same with a button: \a command is its text, \a action is what it does.
+    void showMessage(const QString &text, const QString &command, const std::function<void()> &action);
+    /// Takes \a text away, if it is shown.
+    void removeMessage(const QString &text);
     /// The texts shown now, oldest first.
     QStringList messages() const { return texts; }
 
 private:
-    QWidget *createRow(const QString &text);
+    QWidget *createRow(const QString &text, QWidget *button);
     void removeRow(int index);
 
     QVBoxLayout *rows; ///< one row per text, in the same order

@@ -2,21 +2,51 @@
 #include "client/kirv_application.h"
 #include "client/kirv_client.h"
 #include "client/kirv_client_options.h"
+#include "client/kirv_client_start.h"
+#include "client/kirv_profile_command.h"
 #include "client/kirv_quit_signals.h"
 #include "client/kirv_settings_window.h"
 
+namespace {
+
+/// Does what needs no window. True when that was all, with the exit status in \a status.
+bool runWithoutWindow(int argc, char *argv[], int *status)
+{
+    QStringList arguments;
+    for (int index = 0; index < argc; ++index)
+        arguments << QString::fromLocal8Bit(argv[index]);
+    const bool isForDisplay = KirvApplication::expectsDisplay(arguments);
+    if (isForDisplay && !KirvClientOptions::maySayNoWindow(arguments))
+        return false;
+    QCoreApplication application(argc, argv);
+    KirvApplication::prepare(application);
+    const KirvClientOptions options = KirvClientOptions::fromCommandLine(arguments);
+    KirvProfileCommand command(options);
+    if (options.command != KirvClientOptions::Start) {
+        *status = command.run();
+        return true;
+    }
+    // The windows, for which Qt ends a program that finds no display, come after what can be said without them.
+    *status = isForDisplay ? KirvProfileCommand::Success : command.checkBeforeStart();
+    return *status != KirvProfileCommand::Success;
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    int status = 0;
+    if (runWithoutWindow(argc, argv, &status))
+        return status;
     KirvApplication application(argc, argv);
     const KirvClientOptions options = KirvClientOptions::fromCommandLine(KirvApplication::arguments());
     KirvQuitSignals quitSignals;
-    QObject::connect(&quitSignals, &KirvQuitSignals::quitRequested, &application, &QApplication::quit);
+    // Also before the main event loop runs, while the window about a damaged profile is open.
+    QObject::connect(&quitSignals, &KirvQuitSignals::quitRequested, &application, [] { KirvApplication::exit(); });
 
     KirvClient client(options);
-    if (!client.start()) {
-        KirvApplication::reportFatal(client.errorString());
-        return 1;
-    }
+    if (!kirvStartClient(client, options, KirvApplication::hasDisplay(), &status))
+        return status;
     client.window()->show();
     return KirvApplication::exec();
 }

@@ -229,8 +229,8 @@ QString KirvDatabase::sentence(const QSqlError &failure) const
             .arg(folder, failure.databaseText());
     case Corrupt:
     case NotADatabase:
-        return tr("The profile in \"%1\" is damaged. Nothing in it was changed: restore it from a backup, or move it "
-                  "away to start with an empty one.")
+        return tr("The profile in \"%1\" is damaged, so nothing was stored. Start the program again to see what can "
+                  "be done.")
             .arg(folder);
     case Permission:
     case WriteProtected:

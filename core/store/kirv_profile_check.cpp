@@ -102,10 +102,7 @@ KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const
             || name == QFileInfo(paths.copies()).fileName();
     });
     if (wasProfile)
-        return { KirvProfileState::Damaged,
-                 tr("The profile in \"%1\" is damaged: its database is missing. Nothing in it was changed: restore it "
-                    "from a backup, or choose an empty folder to start with an empty one.")
-                     .arg(paths.nativeFolder()) };
+        return damaged(tr("Its database is missing."));
     return { KirvProfileState::NotAProfile,
              tr("The folder \"%1\" is not a profile: it holds other files. Nothing in it was changed: choose an empty "
                 "folder.")
@@ -115,12 +112,12 @@ KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const
 KirvProfileState KirvProfileCheck::lookAtDatabase() const
 {
     if (kindOf(paths.database()) != S_IFREG)
-        return damaged();
+        return noDatabase();
     if (!QFileInfo(paths.database()).isReadable())
         return notWritable();
     const KirvDatabaseHeader header = KirvDatabaseHeader::ofFile(paths.database());
     if (!header.isDatabase)
-        return damaged();
+        return noDatabase();
     const bool isMarkedAsOurs = header.applicationId == kirvProfileId;
     const bool isEarly = header.applicationId == 0 && header.version < kirvFirstMarkedVersion;
     if (header.version > kirvStoreVersion() && (isMarkedAsOurs || header.applicationId == 0))
@@ -147,13 +144,15 @@ KirvProfileState KirvProfileCheck::examine(bool mayRecover) const
     // SQLite takes what is missing of the last page for zeros.
     const int pageSize = KirvDatabaseHeader::ofFile(paths.database()).pageSize;
     if (!hasJournal && !hasLog && (pageSize < 512 || QFileInfo(paths.database()).size() % pageSize != 0))
-        return damaged();
+        return damaged(tr("The end of its database is missing."));
     KirvDatabase database;
     // A file that nothing has to be recovered in is read as it is, without making anything beside it.
     const KirvDatabase::Access access =
         hasJournal ? KirvDatabase::Recovering : (hasLog ? KirvDatabase::ReadOnly : KirvDatabase::Immutable);
-    if (!database.open(paths.database(), access))
-        return { database.isDamaged() ? KirvProfileState::Damaged : KirvProfileState::Unusable, database.errorText() };
+    if (!database.open(paths.database(), access)) {
+        return database.isDamaged() ? noDatabase()
+                                    : KirvProfileState { KirvProfileState::Unusable, database.errorText() };
+    }
     return examineOpen(database);
 }
 
@@ -162,7 +161,7 @@ KirvProfileState KirvProfileCheck::examineFile(const QString &file, quint32 appl
     const KirvDatabaseHeader header = KirvDatabaseHeader::ofFile(file);
     KirvDatabase database;
     if (!header.isDatabase || header.applicationId != applicationId || !database.open(file, KirvDatabase::Immutable))
-        return damaged();
+        return noDatabase();
     return examineOpen(database);
 }
 
@@ -174,14 +173,14 @@ KirvProfileState KirvProfileCheck::examineOpen(KirvDatabase &database) const
         const QStringList expected = kirvSchemaOfVersion(version);
         if (expected.isEmpty() || kirvSchemaOf(database) != expected) {
             if (database.errorText().isEmpty())
-                return id == 0 ? anotherProgram() : damaged();
+                return id == 0 ? anotherProgram() : damaged(tr("Tables or columns of its database are missing."));
         } else if (database.valueOf(QStringLiteral("PRAGMA integrity_check(1)")).toString() == QLatin1String("ok")
                    && !hasWrongRows(database)) {
             return { KirvProfileState::Good, QString() };
         }
     }
     if (database.errorText().isEmpty() || database.isDamaged())
-        return damaged();
+        return unreadable();
     return { KirvProfileState::Unusable, database.errorText() };
 }
 
@@ -200,14 +199,21 @@ KirvProfileState KirvProfileCheck::notWritable() const
                  .arg(paths.nativeFolder()) };
 }
 
-KirvProfileState KirvProfileCheck::damaged() const
+KirvProfileState KirvProfileCheck::damaged(const QString &fault) const
 {
-    return {
-        KirvProfileState::Damaged,
-        tr("The profile in \"%1\" is damaged. Nothing in it was changed: restore it from a backup, or move it away "
-           "to start with an empty one.")
-            .arg(paths.nativeFolder())
-    };
+    //: %1 = path of a folder, %2 = a sentence about what is wrong with it
+    return { KirvProfileState::Damaged,
+             tr("The profile in \"%1\" is damaged. %2 Nothing in it was changed.").arg(paths.nativeFolder(), fault) };
+}
+
+KirvProfileState KirvProfileCheck::noDatabase() const
+{
+    return damaged(tr("The file of its database does not hold one any more."));
+}
+
+KirvProfileState KirvProfileCheck::unreadable() const
+{
+    return damaged(tr("Parts of its database cannot be read, or contradict each other."));
 }
 
 KirvProfileState KirvProfileCheck::anotherProgram() const

@@ -32,9 +32,12 @@ public:
 
     KirvProfileState inUse() const;
     KirvProfileState notWritable() const;
-    KirvProfileState damaged() const;
+    KirvProfileState noDatabase() const;
+    KirvProfileState unreadable() const;
 
 private:
+    /// \a fault is a sentence about what is wrong.
+    KirvProfileState damaged(const QString &fault) const;
     KirvProfileState lookAtDatabase() const;
     KirvProfileState lookAtFolderWithoutDatabase() const;
     KirvProfileState examineOpen(KirvDatabase &database) const;

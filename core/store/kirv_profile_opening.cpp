@@ -107,7 +107,8 @@ KirvProfileState KirvProfileOpening::open(KirvDatabase &database)
         return check.notWritable();
     if (database.open(paths.database(), KirvDatabase::ReadWrite) && upgrade(database))
         return {};
-    return { database.isDamaged() ? KirvProfileState::Damaged : KirvProfileState::Unusable, database.errorText() };
+    return database.isDamaged() ? check.unreadable()
+                                : KirvProfileState { KirvProfileState::Unusable, database.errorText() };
 }
 
 bool KirvProfileOpening::upgrade(KirvDatabase &database) const

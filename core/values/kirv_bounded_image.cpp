@@ -46,12 +46,23 @@ QString tooManyBytes(const QString &name)
         .arg(KirvBoundedImage::maximumBytes / (1024 * 1024));
 }
 
-/// The size of the image that \a reader is about to decode; empty with the reason in \a problem when it is refused.
-QSize measure(QImageReader &reader, const QString &name, QString *problem)
+/// Qt measures the part of the screen that the pictures of a GIF fill when they are much smaller, and decodes all of
+/// it.
+QSize withScreenOfGif(const QSize &size, const QByteArray &data)
+{
+    const auto number = [&data](int place) { return uchar(data.at(place)) + 256 * uchar(data.at(place + 1)); };
+    return data.size() < 10 ? size : size.expandedTo(QSize(number(6), number(8)));
+}
+
+/// The size of the image in \a data that \a reader is about to decode; empty with the reason in \a problem when it is
+/// refused.
+QSize measure(QImageReader &reader, const QByteArray &data, const QString &name, QString *problem)
 {
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    const QSize size = reader.canRead() && isAccepted(reader.format()) ? reader.size() : QSize();
+    QSize size = reader.canRead() && isAccepted(reader.format()) ? reader.size() : QSize();
+    if (!size.isEmpty() && reader.format() == "gif")
+        size = withScreenOfGif(size, data);
     if (size.isEmpty()) {
         *problem = KirvBoundedImage::tr("The file “%1” is not a picture that can be used. Pictures in the formats PNG, "
                                         "JPEG, GIF, BMP and WebP are possible.")
@@ -98,7 +109,7 @@ KirvBoundedImage KirvBoundedImage::fromData(const QByteArray &data, const QStrin
     buffer.setData(data);
     QImageReader reader(&buffer);
     QString problem;
-    const QSize size = measure(reader, name, &problem);
+    const QSize size = measure(reader, data, name, &problem);
     if (!problem.isEmpty())
         return failed(problem);
 
@@ -127,7 +138,7 @@ QByteArray KirvBoundedImage::measuredFile(const QString &path, QByteArray *forma
     QBuffer buffer;
     buffer.setData(data);
     QImageReader reader(&buffer);
-    const QSize size = measure(reader, QFileInfo(path).fileName(), problem);
+    const QSize size = measure(reader, data, QFileInfo(path).fileName(), problem);
     *format = reader.format();
     return size.isEmpty() ? QByteArray() : data;
 }

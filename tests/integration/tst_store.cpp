@@ -346,14 +346,20 @@ private Q_SLOTS:
     void aDamagedProfileIsRefusedAndLeftAlone_data()
     {
         QTest::addColumn<QString>("damage");
-        QTest::newRow("no database at all") << "text";
-        QTest::newRow("cut off") << "cut";
-        QTest::newRow("a page overwritten") << "page";
-        QTest::newRow("the header overwritten") << "header";
+        QTest::addColumn<QString>("fault");
+        QTest::newRow("no database at all") << "text"
+                                            << "does not hold one";
+        QTest::newRow("cut off") << "cut"
+                                 << "The end of its database";
+        QTest::newRow("a page overwritten") << "page"
+                                            << "Parts of its database";
+        QTest::newRow("the header overwritten") << "header"
+                                                << "does not hold one";
     }
     void aDamagedProfileIsRefusedAndLeftAlone()
     {
         QFETCH(QString, damage);
+        QFETCH(QString, fault);
         makeProfile(200);
         const QString path = QDir(folder).filePath(databaseName);
         QByteArray content = contentOf(path);
@@ -371,6 +377,7 @@ private Q_SLOTS:
         KirvStore store;
         QVERIFY(!store.open(folder));
         QVERIFY2(store.lastError().contains(QLatin1String("damaged")), qPrintable(store.lastError()));
+        QVERIFY2(store.lastError().contains(fault), qPrintable(store.lastError()));
         QVERIFY(!store.isLockedByAnother());
         QCOMPARE(contentOf(path), content);
         QVERIFY(store.readAccounts().isEmpty());

@@ -50,6 +50,17 @@ QByteArray pngStating(const QSize &size)
     return data;
 }
 
+/// A GIF file with a screen of that size, of which its one picture fills the corner only.
+QByteArray gifWithScreen(const QSize &size)
+{
+    QByteArray data = QByteArray::fromBase64("R0lGODdhAQABAIAAAICAgAAAACwAAAAAAQABAAACAkQBADs=");
+    data[6] = char(size.width() % 256);
+    data[7] = char(size.width() / 256);
+    data[8] = char(size.height() % 256);
+    data[9] = char(size.height() / 256);
+    return data;
+}
+
 const QString name = QStringLiteral("face");
 
 } // namespace
@@ -68,6 +79,8 @@ private Q_SLOTS:
     void largeImageIsScaledDown();
     void tooManyPixelsAreRefusedUndecoded();
     void asManyPixelsAsAllowedAreAccepted();
+    void screenOfAGifCountsWithItsPixels();
+    void screenOfAGifKeepsItsShape();
     void tooManyBytesAreRefused();
     void asManyBytesAsAllowedAreAccepted();
     void whatIsNoImageIsRefused_data();
@@ -183,6 +196,21 @@ void tst_bounded_image::asManyPixelsAsAllowedAreAccepted()
     const KirvBoundedImage image = KirvBoundedImage::fromData(encoded(picture(QSize(5000, 5000)), "png"), name);
     QCOMPARE(image.problem(), QString());
     QCOMPARE(image.image().size(), QSize(512, 512));
+}
+
+/// Qt measures the part that the picture fills, and decodes the whole screen.
+void tst_bounded_image::screenOfAGifCountsWithItsPixels()
+{
+    const KirvBoundedImage image = KirvBoundedImage::fromData(gifWithScreen(QSize(1539, 65280)), name);
+    QVERIFY(image.isNull());
+    QCOMPARE(image.problem(),
+             QStringLiteral("The picture is too large: 1539 × 65280 pixels. Up to 25 million pixels are possible."));
+}
+
+void tst_bounded_image::screenOfAGifKeepsItsShape()
+{
+    const KirvBoundedImage image = KirvBoundedImage::fromData(gifWithScreen(QSize(3000, 1500)), name, 100);
+    QCOMPARE(image.image().size(), QSize(100, 50));
 }
 
 void tst_bounded_image::tooManyBytesAreRefused()

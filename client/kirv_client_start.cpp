@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_client_start.h"
+
+#include "client/kirv_application.h"
+#include "client/kirv_client.h"
+#include "client/kirv_profile_command.h"
+#include "client/kirv_rescue_window.h"
+
+bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status)
+{
+    while (!client.start()) {
+        if (!client.isProfileDamaged()) {
+            KirvApplication::reportFatal(client.errorString());
+            *status = KirvProfileCommand::Refused;
+            return false;
+        }
+        if (!hasDisplay) {
+            *status = KirvProfileCommand(options).reportDamage(client.errorString());
+            return false;
+        }
+        KirvRescueWindow window(options.profileFolder, client.errorString());
+        if (window.exec() != QDialog::Accepted) {
+            *status = window.isRepaired() ? KirvProfileCommand::Success : KirvProfileCommand::Damaged;
+            return false;
+        }
+    }
+    return true;
+}
