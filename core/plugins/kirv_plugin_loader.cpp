@@ -240,8 +240,10 @@ bool KirvPluginLoader::unload(const QString &fileName)
 
 bool KirvPluginLoader::addProtocol(KirvProtocolBase *protocol)
 {
+    if (!protocol)
+        return false;
     std::unique_ptr<KirvProtocolBase> owned(protocol);
-    const QString name = protocol ? protocol->getName() : QString();
+    const QString name = protocol->getName();
     if (name.isEmpty() || d->isTaken(name) || protocol->presences().isEmpty())
         return false;
     d->add(owned.release(), name, QString());

@@ -62,7 +62,7 @@ QString KirvPluginTrust::whyNotEntry(const QString &path) const
 {
     const QByteArray encoded = QFile::encodeName(path);
     const QString shown = QDir::toNativeSeparators(path);
-    struct stat state;
+    struct stat state { };
     if (::stat(encoded.constData(), &state) != 0)
         return tr("The file cannot be examined.");
     if (state.st_uid != 0 && state.st_uid != user)
