@@ -426,7 +426,8 @@ void tst_irc_in_windows::hungServerIsSaid()
 void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
 {
     bool isReplying = false;
-    KirvScriptedIrcServer server([&isReplying](const QByteArray &line) { return isReplying ? welcome(line) : QByteArray(); });
+    KirvScriptedIrcServer server(
+        [&isReplying](const QByteArray &line) { return isReplying ? welcome(line) : QByteArray(); });
     use(server);
     QVERIFY(addAlice());
     windows->hurry(alice);
