@@ -163,23 +163,31 @@ private:
         spent = true;
     }
 
-    /// False when the client has left or the test has ended.
+    /// False when the client has left or the test has ended. Little of \a data is copied at a time.
     bool send(QSslSocket &socket, const QByteArray &data)
     {
-        socket.write(data);
-        while (isAlive(socket) && (socket.bytesToWrite() > 0 || socket.encryptedBytesToWrite() > 0)) {
-            socket.waitForBytesWritten(20);
-            if (attack.readsReplies)
-                note(socket.readAll());
+        const int most = 65536;
+        for (int i = 0; i < data.size() && isAlive(socket); i += most) {
+            socket.write(data.constData() + i, qMin(most, data.size() - i));
+            while (isAlive(socket) && (socket.bytesToWrite() > 0 || socket.encryptedBytesToWrite() > 0)) {
+                socket.waitForBytesWritten(20);
+                if (attack.readsReplies)
+                    note(socket.readAll());
+            }
         }
         return isAlive(socket);
     }
 
+    /// The reply counts when it is no refusal.
     void note(const QByteArray &received)
     {
-        incoming = incoming.right(16) + received;
-        if (incoming.contains("\"digested\""))
-            digested = true;
+        incoming = incoming.right(200) + received;
+        const int id = incoming.indexOf("\"digested\"");
+        const int end = incoming.indexOf('>', id);
+        if (id < 0 || end < 0)
+            return;
+        const int begin = incoming.lastIndexOf('<', id);
+        digested = digested || incoming.mid(begin, end - begin).contains("\"result\"");
     }
 
     const Attack attack;
