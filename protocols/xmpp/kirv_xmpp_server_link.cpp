@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 
+#include "protocols/xmpp/kirv_xmpp_features.h"
+#include "protocols/xmpp/kirv_xmpp_stream_reader.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
+#include <QByteArrayList>
 #include <QPointer>
 #include <QXmppClientExtension.h>
+#include <QXmppDiscoveryManager.h>
 #include <QXmppElement.h>
+#include <QXmppEntityTimeManager.h>
+#include <QXmppOutgoingClient.h>
+#include <QXmppRosterManager.h>
+#include <QXmppVCardManager.h>
+#include <QXmppVersionManager.h>
 
 namespace {
 
@@ -61,6 +70,13 @@ KirvFailure failureOf(const ErrorDescription &description)
     return KirvFailure(KirvFailure::RequestFailed, sentenceFor(description));
 }
 
+template <typename Extension>
+void removeExtension(QXmppClient &client)
+{
+    if (auto *extension = client.findExtension<Extension>())
+        client.removeExtension(extension);
+}
+
 } // namespace
 
 /// Sees every element of the stream before the library does.
@@ -83,7 +99,14 @@ KirvXmppServerLink::KirvXmppServerLink(Purpose purpose, KirvClock &clock, int re
     , clock(clock)
     , replyTimeout(replyTimeout)
 {
+    // They answer everybody, with the name of the system among others, and fetch what is not used.
+    removeExtension<QXmppDiscoveryManager>(client);
+    removeExtension<QXmppEntityTimeManager>(client);
+    removeExtension<QXmppRosterManager>(client);
+    removeExtension<QXmppVCardManager>(client);
+    removeExtension<QXmppVersionManager>(client);
     client.insertExtension(0, new Tap(*this));
+    guardStream();
     connect(&client, &QXmppClient::connected, this, &KirvXmppServerLink::receiveConnected);
     connect(&client, &QXmppClient::disconnected, this, &KirvXmppServerLink::endSoon);
     connect(&client, &QXmppClient::error, this, &KirvXmppServerLink::receiveError);
@@ -92,6 +115,7 @@ KirvXmppServerLink::KirvXmppServerLink(Purpose purpose, KirvClock &clock, int re
 
 KirvXmppServerLink::~KirvXmppServerLink()
 {
+    reader->stop();
     client.disconnect(this);
 }
 
@@ -100,8 +124,55 @@ KirvXmppLink *KirvXmppServerLink::create(Purpose purpose, KirvClock &clock, int 
     return new KirvXmppServerLink(purpose, clock, replyTimeout);
 }
 
+/// Puts a reader with its guard before the library.
+void KirvXmppServerLink::guardStream()
+{
+    auto *stream = client.findChild<QXmppOutgoingClient *>();
+    reader = new KirvXmppStreamReader(
+        *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
+    connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
+    connect(reader, &KirvXmppStreamReader::stanzaDropped, this, &KirvXmppServerLink::receiveDropped);
+}
+
+/// Messages, presences and what others request or reply have no use here.
+bool KirvXmppServerLink::isUsed(const KirvXmppStanzaStart &start) const
+{
+    static const QByteArrayList used { "features", "error", "proceed", "failure", "challenge", "success" };
+    if (start.isStanza())
+        return start.name == "iq" && requests.isOwnServer(QString::fromUtf8(start.from));
+    return used.contains(start.name);
+}
+
+void KirvXmppServerLink::receiveViolation(KirvXmppStreamGuard::Violation violation)
+{
+    switch (violation) {
+    case KirvXmppStreamGuard::NoStream:
+        return fail(KirvFailure(KirvFailure::ConnectionLost, tr("What the server sent is no XMPP stream.")));
+    case KirvXmppStreamGuard::TooLarge:
+        return fail(KirvFailure(KirvFailure::ConnectionLost, tr("The server sent data that is longer than allowed.")));
+    case KirvXmppStreamGuard::Malformed:
+        return fail(KirvFailure(KirvFailure::ConnectionLost, tr("The server sent data that is no valid XML.")));
+    case KirvXmppStreamGuard::Forbidden:
+    case KirvXmppStreamGuard::None:
+        break;
+    }
+    fail(KirvFailure(KirvFailure::ConnectionLost, tr("The server sent XML that is not allowed in a stream.")));
+}
+
+/// A reply that was too large is one.
+void KirvXmppServerLink::receiveDropped(const KirvXmppStanzaStart &start)
+{
+    const QString id = QString::fromUtf8(start.id);
+    if (!requests.isAwaited(id, QString::fromUtf8(start.from)) || (start.type != "result" && start.type != "error"))
+        return;
+    KirvXmppReply none;
+    none.failure = KirvFailure(KirvFailure::RequestFailed, tr("the reply of the server is too large"));
+    reply(id, none);
+}
+
 void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
 {
+    requests.setAccount(configuration.jid());
     client.connectToServer(configuration, presence);
 }
 
@@ -116,7 +187,8 @@ void KirvXmppServerLink::close()
 void KirvXmppServerLink::abort()
 {
     hasEnded = true;
-    receivers.clear();
+    requests.clear();
+    reader->stop();
     client.disconnectFromServer();
 }
 
@@ -140,8 +212,8 @@ void KirvXmppServerLink::sendRequest(QXmppIq::Type type, const QDomDocument &pay
     QXmppIq request(type);
     request.setTo(to);
     request.setExtensions({ QXmppElement(payload.documentElement()) });
-    const QString id = request.id();
-    receivers.insert(id, receiver);
+    const QString id = requests.add(to, receiver);
+    request.setId(id); // the library's own can be guessed
     const auto giveUp = [this, id](const KirvFailure &failure) {
         KirvXmppReply none;
         none.failure = failure;
@@ -177,6 +249,9 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
     const QDomElement encryption = kirvXmppChild(features, encryptionSpace, QStringLiteral("starttls"));
     const bool mayEncrypt = !encryption.isNull() && security != QXmppConfiguration::TLSDisabled;
     hasMechanisms = !kirvXmppChild(features, authenticationSpace, QStringLiteral("mechanisms")).isNull();
+    QDomElement used = features; // the same elements, which the library reads afterwards
+    const bool sendsPasswords = reader->isEncrypted() || security == QXmppConfiguration::TLSDisabled;
+    const bool canLogIn = kirvXmppReduceFeatures(used, sendsPasswords);
 
     if (!isEncrypted && mayEncrypt)
         return false;
@@ -188,8 +263,10 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
         fail(KirvFailure(KirvFailure::BadSettings, tr("the server requires encryption")));
         return true;
     }
+    if (purpose == LogIn && !canLogIn && !sendsPasswords)
+        fail(KirvFailure::EncryptionNotOffered); // and the password is not to be read along
     if (purpose == LogIn)
-        return false;
+        return !canLogIn;
     hasArrived = true;
     Q_EMIT readyToRegister(!kirvXmppChild(features, registrationFeatureSpace, QStringLiteral("register")).isNull());
     return true;
@@ -230,8 +307,10 @@ bool KirvXmppServerLink::receiveReply(const QDomElement &iq)
     const QString type = iq.attribute(QStringLiteral("type"));
     const QString id = iq.attribute(QStringLiteral("id"));
     const bool isError = type == QLatin1String("error");
-    if (!receivers.contains(id) || (!isError && type != QLatin1String("result")))
+    if (!requests.contains(id) || (!isError && type != QLatin1String("result")))
         return false;
+    if (!requests.isAwaited(id, iq.attribute(QStringLiteral("from"))))
+        return true;
 
     KirvXmppReply received;
     received.iq = iq;
@@ -256,6 +335,7 @@ void KirvXmppServerLink::receiveConnected()
         fail(KirvFailure::AuthenticationNotOffered);
         return;
     }
+    requests.setAccount(client.configuration().jid()); // as the server has bound it
     hasArrived = true;
     Q_EMIT loggedIn();
 }
@@ -277,14 +357,16 @@ void KirvXmppServerLink::receiveSslErrors(const QList<QSslError> &errors)
 
 void KirvXmppServerLink::reply(const QString &id, const KirvXmppReply &reply)
 {
-    if (const Receiver receiver = receivers.take(id))
+    if (const Receiver receiver = requests.take(id))
         receiver(reply);
 }
 
-/// Remembers the first reason, which the later ones follow from, and lets the library finish what it is at.
+/// Remembers the first reason, which the later ones follow from, and lets the library finish what it is at. That the
+/// connection has ended can be known before what the server has said last.
 void KirvXmppServerLink::fail(const KirvFailure &failure)
 {
-    if (!reason.isFailure())
+    const bool saysLittle = reason.kind() == KirvFailure::ConnectionLost && reason.detail().isEmpty();
+    if (!reason.isFailure() || saysLittle)
         reason = failure;
     endSoon();
 }
@@ -303,7 +385,7 @@ void KirvXmppServerLink::end()
     if (!isClosing && !reason.isFailure())
         reason = silentEnd();
     const QPointer<KirvXmppServerLink> alive(this);
-    const QList<QString> unanswered = receivers.keys();
+    const QStringList unanswered = requests.ids();
     KirvXmppReply none;
     none.failure = reason.isFailure() ? reason : KirvFailure(KirvFailure::ConnectionLost);
     for (const QString &id : unanswered) {

@@ -3,11 +3,17 @@
 #define KIRV_XMPP_SERVER_LINK_H
 
 #include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_pending_requests.h"
+#include "protocols/xmpp/kirv_xmpp_stream_guard.h"
 
-#include <QHash>
 #include <QXmppClient.h>
 
+class KirvXmppStreamReader;
+
 /// The link to a real server, on QXmpp.
+///
+/// The library receives only what log-in and session need. Nobody but the server is answered, and nothing that the
+/// library would say by itself about the program or the system is said.
 class KirvXmppServerLink : public KirvXmppLink {
     Q_OBJECT
 
@@ -29,6 +35,10 @@ public:
 private:
     class Tap;
 
+    void guardStream();
+    bool isUsed(const KirvXmppStanzaStart &start) const;
+    void receiveViolation(KirvXmppStreamGuard::Violation violation);
+    void receiveDropped(const KirvXmppStanzaStart &start);
     bool receive(const QDomElement &stanza);
     bool receiveFeatures(const QDomElement &features);
     void receiveStreamError(const QDomElement &error);
@@ -50,7 +60,8 @@ private:
     KirvClock &clock;
     const int replyTimeout;
     QXmppClient client;
-    QHash<QString, Receiver> receivers; ///< by the id of the request
+    KirvXmppStreamReader *reader = nullptr; ///< owned by this
+    KirvXmppPendingRequests requests;
     KirvFailure reason; ///< the first one that was reported
     bool isEncrypted = false;
     bool isClosing = false;

@@ -1,51 +1,19 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
+#include "tests/support/kirv_load_meter.h"
 #include "tests/support/servers/kirv_hostile_irc_server.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-#include <functional>
 
 namespace {
 
-const int patience = 60000;
 const qint64 megabyte = 1 << 20;
 
-#if defined(__SANITIZE_ADDRESS__)
-const bool measuresMemory = false; // what is freed is kept for a while there
-const qint64 floodSize = 16 * megabyte;
-#else
-const bool measuresMemory = true;
-const qint64 floodSize = 645 * megabyte;
-#endif
-
-/// A value of this process in kB, or -1.
-qint64 processValue(const QByteArray &name)
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    const QList<QByteArray> lines = file.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        if (line.startsWith(name + ':'))
-            return line.mid(name.size() + 1).trimmed().split(' ').first().toLongLong();
-    }
-    return -1;
-}
-
-/// Sets the peak of this process back to what it uses now.
-void forgetPeak()
-{
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
-    if (file.open(QIODevice::WriteOnly))
-        file.write("5");
-}
+const qint64 floodSize = (KirvLoadMeter::measuresMemory ? 645 : 16) * megabyte;
 
 /// \a line repeated to a block of about 64 kB.
 QByteArray blockOf(const QByteArray &line)
@@ -80,12 +48,8 @@ private Q_SLOTS:
 private:
     /// Encrypted when a certificate is to be trusted.
     static KirvLogin loginTo(quint16 port, const QString &certificate = QString());
-    /// Runs the event loop until \a condition holds; measures meanwhile.
-    bool runUntil(const std::function<bool()> &condition);
-    void report(const KirvHostileIrcServer &server);
 
-    qint64 longestGap = 0; ///< of the event loop, in microseconds
-    qint64 peak = 0; ///< growth in kB
+    KirvLoadMeter meter;
 };
 
 KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificate)
@@ -106,36 +70,6 @@ KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificat
     return login;
 }
 
-bool TestIrcHostileServers::runUntil(const std::function<bool()> &condition)
-{
-    longestGap = 0;
-    forgetPeak();
-    const qint64 before = processValue("VmRSS");
-    QElapsedTimer sinceLast;
-    QElapsedTimer sinceStart;
-    QEventLoop loop;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, &loop, [&] {
-        longestGap = qMax(longestGap, sinceLast.nsecsElapsed() / 1000);
-        if (condition() || sinceStart.elapsed() > patience)
-            loop.quit();
-        sinceLast.restart();
-    });
-    sinceStart.start();
-    sinceLast.start();
-    timer.start(1);
-    loop.exec();
-    peak = processValue("VmHWM") - before;
-    return condition();
-}
-
-void TestIrcHostileServers::report(const KirvHostileIrcServer &server)
-{
-    qInfo("%s: %.1f MB sent, longest gap %.1f ms, peak memory +%.1f MB",
-          QTest::currentDataTag() ? QTest::currentDataTag() : QTest::currentTestFunction(),
-          double(server.sentBytes()) / double(megabyte), double(longestGap) / 1000, double(peak) / 1024);
-}
-
 void TestIrcHostileServers::lineWithoutEndEndsTheConnection_data()
 {
     QTest::addColumn<bool>("beforeWelcome");
@@ -150,14 +84,14 @@ void TestIrcHostileServers::lineWithoutEndEndsTheConnection()
     KirvIrcConnection connection;
     QSignalSpy failures(&connection, &KirvConnection::failed);
     connection.logIn(loginTo(server.port()), { QStringLiteral("available"), QString(), QString() });
-    QVERIFY(runUntil([&] { return !failures.isEmpty() || server.sentBytes() >= floodSize; }));
-    report(server);
+    QVERIFY(meter.runUntil([&] { return !failures.isEmpty() || server.sentBytes() >= floodSize; }));
+    meter.report(server.sentBytes());
     QCOMPARE(failures.size(), 1);
     const auto failure = failures[0][0].value<KirvFailure>();
     QVERIFY2(failure.detail().contains(QLatin1String("line")), qPrintable(failure.text()));
     QVERIFY(server.sentBytes() < 16 * megabyte);
-    if (measuresMemory)
-        QVERIFY2(peak < 16 * 1024, qPrintable(QString::number(peak)));
+    if (KirvLoadMeter::measuresMemory)
+        QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
 void TestIrcHostileServers::floodIsDigested_data()
@@ -189,12 +123,12 @@ void TestIrcHostileServers::floodIsDigested()
     KirvIrcConnection connection;
     QSignalSpy failures(&connection, &KirvConnection::failed);
     connection.logIn(loginTo(server.port()), { QStringLiteral("available"), QString(), QString() });
-    QVERIFY(runUntil([&] { return server.isDigested(); }));
-    report(server);
+    QVERIFY(meter.runUntil([&] { return server.isDigested(); }));
+    meter.report(server.sentBytes());
     QCOMPARE(connection.state(), KirvConnection::Online);
     QVERIFY(failures.isEmpty());
-    if (measuresMemory)
-        QVERIFY2(peak < 16 * 1024, qPrintable(QString::number(peak)));
+    if (KirvLoadMeter::measuresMemory)
+        QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
 /// The replies to a server that does not read them are not collected.
@@ -207,16 +141,16 @@ void TestIrcHostileServers::serverThatDoesNotReadIsNotReadEither()
     connection.logIn(loginTo(server.port()), { QStringLiteral("available"), QString(), QString() });
     qint64 sent = -1;
     QElapsedTimer unchanged;
-    QVERIFY(runUntil([&] {
+    QVERIFY(meter.runUntil([&] {
         if (sent != server.sentBytes())
             unchanged.start();
         sent = server.sentBytes();
         return sent >= floodSize || (sent > 0 && unchanged.elapsed() > 500);
     }));
-    report(server);
+    meter.report(server.sentBytes());
     QVERIFY(sent < floodSize);
-    if (measuresMemory)
-        QVERIFY2(peak < 16 * 1024, qPrintable(QString::number(peak)));
+    if (KirvLoadMeter::measuresMemory)
+        QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
 /// The socket for TLS has buffers of its own.
@@ -232,11 +166,11 @@ void TestIrcHostileServers::floodOverTlsIsDigested()
     KirvHostileIrcServer server(attack, certificate, key);
     KirvIrcConnection connection;
     connection.logIn(loginTo(server.port(), certificate), { QStringLiteral("available"), {}, {} });
-    QVERIFY(runUntil([&] { return server.isDigested(); }));
-    report(server);
+    QVERIFY(meter.runUntil([&] { return server.isDigested(); }));
+    meter.report(server.sentBytes());
     QCOMPARE(connection.state(), KirvConnection::Online);
-    if (measuresMemory)
-        QVERIFY2(peak < 16 * 1024, qPrintable(QString::number(peak)));
+    if (KirvLoadMeter::measuresMemory)
+        QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
 QTEST_GUILESS_MAIN(TestIrcHostileServers)

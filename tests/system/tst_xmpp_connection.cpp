@@ -287,8 +287,13 @@ void TestXmppConnection::passwordIsNotSentWithoutEncryption()
     QCOMPARE(server.connections(), 1);
     QVERIFY2(!server.received().contains("<auth"), server.received().constData());
 
-    // The server would have got it from an account that allows that.
+    // Encryption where it is offered does not mean a password in clear where somebody has taken the offer out.
     profile->setValue(account, "encryption", "offered");
+    QVERIFY(!tryToLogIn(account, KirvFailure::EncryptionNotOffered).isEmpty());
+    QVERIFY2(!server.received().contains("<auth"), server.received().constData());
+
+    // The server would have got it from an account that allows that.
+    profile->setValue(account, "encryption", "none");
     profile->goTo(account, "available");
     KIRV_TRY(server.received().contains("<auth"));
 }

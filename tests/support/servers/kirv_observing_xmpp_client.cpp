@@ -4,6 +4,9 @@
 #include "tests/support/kirv_patience.h"
 #include "tools/servers/kirv_prosody_server.h"
 
+#include <QSslSocket>
+#include <QXmppLogger.h>
+#include <QXmppOutgoingClient.h>
 #include <QXmppRosterManager.h>
 #include <QXmppUtils.h>
 #include <QXmppVCardManager.h>
@@ -23,6 +26,12 @@ KirvObservingXmppClient::KirvObservingXmppClient()
     QObject::connect(&client, &QXmppClient::presenceReceived, &client, [this](const QXmppPresence &presence) {
         presences.insert(QXmppUtils::jidToBareJid(presence.from()), presence);
     });
+    client.logger()->setLoggingType(QXmppLogger::SignalLogging);
+    QObject::connect(client.logger(), &QXmppLogger::message, &client,
+                     [this](QXmppLogger::MessageType type, const QString &text) {
+                         if (type == QXmppLogger::ReceivedMessage)
+                             everything += text;
+                     });
 }
 
 bool KirvObservingXmppClient::logIn(const KirvProsodyServer &server, const QString &user, const QString &password,
@@ -103,4 +112,24 @@ bool KirvObservingXmppClient::publish(QXmppVCardIq card)
     });
     client.sendPacket(card);
     return QTest::qWaitFor([&] { return isDone; }, kirvPatience);
+}
+
+bool KirvObservingXmppClient::send(const QByteArray &stanza)
+{
+    auto *stream = client.findChild<QXmppOutgoingClient *>();
+    return stream->sendData(stanza) && (stream->socket()->flush() || stream->socket()->bytesToWrite() == 0);
+}
+
+bool KirvObservingXmppClient::synchronise()
+{
+    const QByteArray id = "synchronised-" + QByteArray::number(++synchronisations);
+    const QByteArray domain = client.configuration().domain().toUtf8();
+    if (!send("<iq type='get' id='" + id + "' to='" + domain + "'><ping xmlns='urn:xmpp:ping'/></iq>"))
+        return false;
+    auto *socket = client.findChild<QXmppOutgoingClient *>()->socket();
+    while (!everything.contains(QLatin1String(id))) {
+        if (!socket->waitForReadyRead(kirvPatience))
+            return false;
+    }
+    return true;
 }

@@ -27,10 +27,19 @@ public:
     QXmppVCardIq vCardOf(const QString &address);
     /// Publishes \a card as one's own.
     bool publish(QXmppVCardIq card);
+    /// Sends \a stanza as it is and at once.
+    bool send(const QByteArray &stanza);
+    /// Everything that has come, as it came.
+    QString received() const { return everything; }
+    /// Waits until the server has done all that was sent before, and has sent what followed from that. Nobody else in
+    /// this program reads or writes meanwhile.
+    bool synchronise();
 
 private:
     QXmppClient client;
     QHash<QString, QXmppPresence> presences;
+    QString everything;
+    int synchronisations = 0;
 };
 
 #endif

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_connection.h"
+#include "tests/support/kirv_patience.h"
+#include "tests/support/servers/kirv_hostile_xmpp_server.h"
+#include "tests/support/servers/kirv_observing_xmpp_client.h"
+#include "tests/support/servers/kirv_scripted_session_server.h"
+#include "tests/support/servers/kirv_xmpp_profile.h"
+#include "tools/servers/kirv_prosody_server.h"
+
+#include <QSignalSpy>
+#include <QSysInfo>
+#include <QTest>
+
+namespace {
+
+KirvLogin loginTo(const QString &id, quint16 port, const QString &certificate, KirvXmppSettings::Encryption encryption)
+{
+    KirvLogin login;
+    login.id = id;
+    login.password = "secret";
+    KirvXmppSettings settings;
+    settings.server = "127.0.0.1";
+    settings.port = port;
+    settings.resource = "Kirv";
+    settings.encryption = encryption;
+    settings.certificatePath = certificate;
+    login.settings = settings.toFields();
+    return login;
+}
+
+KirvPresence presence(const QString &id)
+{
+    return { id, QString(), QString() };
+}
+
+} // namespace
+
+/// What others learn of an account that they have not been told.
+class TestXmppPrivacy : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void strangersAreNotAnswered_data();
+    void strangersAreNotAnswered();
+    void invisibleAccountAnswersItsServer();
+    void presenceTellsNothingOfTheProgram();
+    void passwordIsSentInClearOnlyWhereThatIsChosen_data();
+    void passwordIsSentInClearOnlyWhereThatIsChosen();
+};
+
+void TestXmppPrivacy::strangersAreNotAnswered_data()
+{
+    QTest::addColumn<QByteArray>("request");
+    QTest::addColumn<QString>("presenceId");
+    for (const QString &id : { QString("available"), QString("invisible") }) {
+        const auto row = [&id](const QByteArray &name, const QByteArray &request) {
+            QTest::newRow(id.toLatin1() + ": " + name) << request << id;
+        };
+        row("version", "<query xmlns='jabber:iq:version'/>");
+        row("time", "<time xmlns='urn:xmpp:time'/>");
+        row("ping", "<ping xmlns='urn:xmpp:ping'/>");
+        row("abilities", "<query xmlns='http://jabber.org/protocol/disco#info'/>");
+        row("items", "<query xmlns='http://jabber.org/protocol/disco#items'/>");
+        row("unknown request", "<query xmlns='urn:example:unknown'/>");
+    }
+}
+
+void TestXmppPrivacy::strangersAreNotAnswered()
+{
+    QFETCH(QByteArray, request);
+    QFETCH(QString, presenceId);
+    KirvProsodyServer server;
+    QVERIFY(KirvXmppProfile::start(server, { "romeo", "mallory" }));
+    KirvObservingXmppClient mallory;
+    QVERIFY(mallory.logIn(server, "mallory"));
+    KirvXmppConnection romeo;
+    const KirvLogin login =
+        loginTo("romeo@localhost", server.port(), server.certificatePath(), KirvXmppSettings::Required);
+    romeo.logIn(login, presence(presenceId));
+    KIRV_TRY_COMPARE(romeo.state(), KirvConnection::Online);
+
+    QVERIFY(mallory.send("<iq type='get' id='probe' to='romeo@localhost/Kirv'>" + request + "</iq>"));
+    QVERIFY(mallory.synchronise());
+    // Romeo has read the request when he has the first answer, and the server his reply when he has the second.
+    for (int i = 0; i < 2; ++i) {
+        QSignalSpy answers(&romeo, &KirvConnection::directoryAnswered);
+        romeo.fetchDirectory();
+        QVERIFY(answers.wait(kirvPatience));
+    }
+    QVERIFY(mallory.synchronise());
+    QVERIFY2(!mallory.received().contains("probe"), qPrintable(mallory.received()));
+    server.kill(); // an orderly end takes a second
+}
+
+/// Else it would end the session.
+void TestXmppPrivacy::invisibleAccountAnswersItsServer()
+{
+    KirvHostileXmppServer server(KirvHostileXmppServer::Attack {});
+    KirvXmppConnection connection;
+    connection.logIn(loginTo("ann@localhost", server.port(), QString(), KirvXmppSettings::None), presence("invisible"));
+    KIRV_TRY(server.isDigested());
+    QCOMPARE(connection.state(), KirvConnection::Online);
+}
+
+void TestXmppPrivacy::presenceTellsNothingOfTheProgram()
+{
+    KirvScriptedSessionServer server;
+    KirvXmppConnection connection;
+    connection.logIn(loginTo("ann@localhost", server.serverPort(), QString(), KirvXmppSettings::None),
+                     presence("available"));
+    KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
+    KIRV_TRY(!server.presences().isEmpty());
+    connection.changePresence(presence("away"));
+    KIRV_TRY(server.lastPresence().contains("away"));
+    for (const QByteArray &sent : server.presences())
+        QVERIFY2(!sent.contains("/caps"), sent.constData());
+    QVERIFY(!server.receivedInClear().contains(QSysInfo::prettyProductName().toUtf8()));
+    QVERIFY(!server.receivedInClear().contains("roster"));
+}
+
+void TestXmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen_data()
+{
+    QTest::addColumn<int>("encryption");
+    QTest::addColumn<bool>("isSent");
+    QTest::newRow("required") << int(KirvXmppSettings::Required) << false;
+    QTest::newRow("if offered") << int(KirvXmppSettings::IfOffered) << false;
+    QTest::newRow("none") << int(KirvXmppSettings::None) << true;
+}
+
+/// Somebody on the way takes encryption out of what the server offers.
+void TestXmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen()
+{
+    QFETCH(int, encryption);
+    QFETCH(bool, isSent);
+    KirvScriptedSessionServer server;
+    KirvXmppConnection connection;
+    QSignalSpy failures(&connection, &KirvConnection::failed);
+    connection.logIn(loginTo("ann@localhost", server.serverPort(), QString(), KirvXmppSettings::Encryption(encryption)),
+                     presence("available"));
+    KIRV_TRY(connection.state() == KirvConnection::Online || !failures.isEmpty());
+    QCOMPARE(connection.state() == KirvConnection::Online, isSent);
+    QCOMPARE(server.passwords(), isSent ? QByteArrayList { "secret" } : QByteArrayList());
+    QVERIFY2(isSent || !server.receivedInClear().contains("<auth"), server.receivedInClear().constData());
+    if (!isSent)
+        QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::EncryptionNotOffered);
+}
+
+QTEST_GUILESS_MAIN(TestXmppPrivacy)
+#include "tst_xmpp_privacy.moc"
