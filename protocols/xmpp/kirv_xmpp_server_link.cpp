@@ -3,6 +3,7 @@
 
 #include "protocols/xmpp/kirv_xmpp_features.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
+#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QByteArrayList>
@@ -173,7 +174,15 @@ void KirvXmppServerLink::receiveDropped(const KirvXmppStanzaStart &start)
 void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
 {
     requests.setAccount(configuration.jid());
-    client.connectToServer(configuration, presence);
+    if (configuration.caCertificates().isEmpty()) // the library looks up those of the system that it needs
+        return client.connectToServer(configuration, presence);
+    KirvXmppSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
+        if (hasEnded || isClosing)
+            return;
+        QXmppConfiguration complete = configuration;
+        complete.setCaCertificates(ofSystem + configuration.caCertificates());
+        client.connectToServer(complete, presence);
+    });
 }
 
 void KirvXmppServerLink::close()

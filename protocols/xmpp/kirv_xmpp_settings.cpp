@@ -3,7 +3,6 @@
 
 #include <QFile>
 #include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QXmppConfiguration.h>
 
 namespace {
@@ -153,8 +152,7 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
     configuration->setAutoAcceptSubscriptions(false);
     configuration->setUseNonSASLAuthentication(false);
     configuration->setIgnoreSslErrors(false);
-    if (!certificates.isEmpty())
-        configuration->setCaCertificates(QSslConfiguration::systemCaCertificates() + certificates);
+    configuration->setCaCertificates(certificates);
     return true;
 }
 
