@@ -350,7 +350,7 @@ void tst_LoginTurns::reconnectingIsNotDelayed()
     connection(0)->serverAccepts();
     started();
     account(number)->reconnect();
-    QCOMPARE(started().first(), id(number));
+    QCOMPARE(started().value(0), id(number));
     QCOMPARE(connection(number)->state(), State::Connecting);
     QVERIFY(core->accounts->logins().waitingCount() >= 15);
 }
