@@ -146,8 +146,11 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showProblem);
+    connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showProblem);
+    connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
+            &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
     connect(pluginLoader.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);
@@ -183,6 +186,13 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
     passwordQuestions->withdrawProtocol(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
+}
+
+void KirvClient::creationRefused(const KirvAccountKey &key, const QString &reason)
+{
+    const bool isSaid = companions && companions->takeRefusal(key, reason);
+    if (!isSaid && !accountCollection->find(key)) // whoever creates one that exists finds it
+        showProblem(reason);
 }
 
 void KirvClient::accountChanged(KirvAccount *account)

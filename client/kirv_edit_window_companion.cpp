@@ -7,6 +7,7 @@
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "edit_account/kirv_edit_account_dialog.h"
+#include "host/kirv_avatar_quick_set_widget.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -86,6 +87,7 @@ void KirvEditWindowCompanion::aboutToShow()
     knownPassword = account->record().password;
     showIdentifierAsPlainText();
     showDescriptionAsPlainText(*account);
+    watchRefusals(*account);
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
@@ -163,7 +165,8 @@ bool KirvEditWindowCompanion::commitSave()
     keepsOpen = !isSaved || (directory && directory->isPublishing());
     if (!isSaved) {
         KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
-        tellSaveRefused();
+        KirvAccountsTab::getInstance()->updateAccounts(); // and the selector, in the order of the rows
+        tellRefused(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
     } else if (keepsOpen) {
         setPublishing(true);
     }
@@ -204,13 +207,30 @@ void KirvEditWindowCompanion::onPublicationEnded(bool succeeded)
     saveButton->setFocus(); // it lost the focus when it was disabled; Enter must not cancel now
 }
 
-void KirvEditWindowCompanion::tellSaveRefused()
+void KirvEditWindowCompanion::watchRefusals(const KirvAccount &account)
 {
-    auto *box =
-        new QMessageBox(QMessageBox::Warning, tr("Saving Account"), accounts.lastError(), QMessageBox::Ok, window());
+    connect(&account, &KirvAccount::refused, this, [this] {
+        wasRefused = true;
+        QMetaObject::invokeMethod(
+            this, [this] { wasRefused = false; }, Qt::QueuedConnection);
+    });
+    auto *picker = window()->findChild<KirvAvatarQuickSetWidget *>();
+    // The page has made its connection already: the account has the picture by then, or has refused it.
+    connect(picker, &KirvAvatarQuickSetWidget::imageSelected, this, [this, picker] {
+        const KirvAccount *account = accounts.find(accountKey);
+        if (!wasRefused || !account)
+            return;
+        picker->setImage(account->avatarPath());
+        tellRefused(tr("Picture of the Account"), tr("The picture was not changed."));
+    });
+}
+
+void KirvEditWindowCompanion::tellRefused(const QString &title, const QString &advice)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, title, accounts.lastError(), QMessageBox::Ok, window());
     box->setObjectName(QStringLiteral("EditAccount_SaveFailed"));
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(tr("Nothing was changed. The window stays open, so that you can try again."));
+    box->setInformativeText(advice);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
     box->show();

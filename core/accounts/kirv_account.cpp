@@ -283,9 +283,11 @@ void KirvAccount::providePassword(const QString &password, bool remember)
     });
     if (!alive || removed)
         return;
-    if (!isStored) { // it still serves this run
+    if (!isStored) { // it still serves this run, and is stored with the next save
+        const KirvAccountRecord stored = current;
         current.password = password;
         current.rememberPassword = current.rememberPassword && remember;
+        unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
     }
     askedPresence = logInPresence();
     tryAgain();

@@ -84,9 +84,13 @@ QList<KirvField> KirvSettingsManagerPrivate::readAccountGlobals(const QString &i
     return fields;
 }
 
-/// A refusal of the store is reported by the settings.
+/// A refusal of the store is reported by the settings. The page has assigned a main account before it writes it: the
+/// one that is stored is the main account again.
 void KirvSettingsManagerPrivate::writeGlobalSetting(const KirvField &field)
 {
-    if (KirvHostServices *services = KirvHostServices::instance())
-        services->settings.setValue(field.getId(), field.getText());
+    KirvHostServices *services = KirvHostServices::instance();
+    if (!services || services->settings.setValue(field.getId(), field.getText()))
+        return;
+    if (field.getId() == KirvSettingKey::mainAccount)
+        services->restoreMainAccount();
 }
