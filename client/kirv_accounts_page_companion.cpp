@@ -2,6 +2,7 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_name_delegate.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 
@@ -23,6 +24,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     , accounts(accounts)
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
 {
+    list->setItemDelegate(new KirvNameDelegate(list));
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_message_bar.h"
 
+#include "client/kirv_plain_text.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -24,8 +26,9 @@ KirvMessageBar::KirvMessageBar(QWidget *parent)
     hide();
 }
 
-void KirvMessageBar::showMessage(const QString &text)
+void KirvMessageBar::showMessage(const QString &message)
 {
+    const QString text = kirvPlainName(message);
     if (text.isEmpty() || texts.contains(text))
         return;
     if (texts.size() == mostMessages)

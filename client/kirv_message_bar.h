@@ -16,8 +16,9 @@ class KirvMessageBar : public QFrame {
 public:
     explicit KirvMessageBar(QWidget *parent = nullptr);
 
-    /// Shows \a text, which is not interpreted. The same text is not shown twice; of many, the latest stay.
-    void showMessage(const QString &text);
+    /// Shows \a message, in which nothing is interpreted and nothing turns the text around. The same text is not shown
+    /// twice; of many, the latest stay.
+    void showMessage(const QString &message);
     /// The texts shown now, oldest first.
     QStringList messages() const { return texts; }
 
