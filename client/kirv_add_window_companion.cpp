@@ -3,9 +3,11 @@
 
 #include "add_account/kirv_add_account_dialog.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_length_limit.h"
 #include "host/kirv_protocol.h"
 
 #include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace {
@@ -29,6 +31,8 @@ KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const K
 
 void KirvAddWindowCompanion::aboutToShow()
 {
+    for (const char *name : { "AddAccount_UsernameEdit", "AddAccount_PasswordEdit" })
+        kirvLimitLength(window()->findChild<QLineEdit *>(QLatin1String(name)));
     // After the page's.
     connect(buttonsOf(window()), &QDialogButtonBox::accepted, this, [this] { isAdding = false; });
 }

@@ -6,6 +6,8 @@
 #include "client/kirv_directory_guard.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_length_limit.h"
+#include "core/values/kirv_text_limit.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_avatar_quick_set_widget.h"
 
@@ -84,7 +86,9 @@ void KirvEditWindowCompanion::aboutToShow()
         connect(buttons, &QDialogButtonBox::rejected, window(), &QDialog::reject);
         return;
     }
-    knownPassword = account->record().password;
+    knownPassword = account->getPassword();
+    kirvLimitLength(passwordEdit);
+    kirvLimitLength(window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias")));
     showIdentifierAsPlainText();
     showDescriptionAsPlainText(*account);
     watchRefusals(*account);
@@ -110,7 +114,8 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
 {
     if (auto *identifier = window()->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))) {
         identifier->setTextFormat(Qt::PlainText);
-        identifier->setText(kirvPlainName(identifier->text()));
+        identifier->setText(
+            kirvPlainName(kirvShortName(accountKey.id) + QLatin1String(" (") + accountKey.protocol + QLatin1Char(')')));
     }
 }
 
@@ -118,7 +123,8 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
 void KirvEditWindowCompanion::showDescriptionAsPlainText(const KirvAccount &account)
 {
     auto *description = window()->findChild<QTextEdit *>(QStringLiteral("EditAccount_DescriptionEdit"));
-    description->setPlainText(account.record().defaultDescription);
+    description->setPlainText(account.getDefaultPresence().getDescription());
+    kirvLimitLength(description);
 }
 
 void KirvEditWindowCompanion::addServerAccountButton()
@@ -242,7 +248,7 @@ void KirvEditWindowCompanion::onAccountChanged(KirvAccount *account)
 {
     if (account->key() != accountKey || account->isSaving())
         return;
-    const QString password = account->record().password;
+    const QString password = account->getPassword();
     if (passwordEdit->text() == knownPassword && password != knownPassword)
         passwordEdit->setText(password);
     knownPassword = password;

@@ -5,6 +5,7 @@
 #include "core/host/kirv_host_services.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_settings_table.h"
+#include "core/values/kirv_text_limit.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -48,9 +49,9 @@ KirvField fieldOf(const KirvSetting &setting, const QVariant &value)
     case KirvField::CheckBox:
         return KirvField::checkBox(text, setting.key, value.toBool(), QString());
     case KirvField::Password:
-        return KirvField::password(text, setting.key, value.toString(), QString());
+        return KirvField::password(text, setting.key, kirvEditablePart(value.toString()), QString());
     default:
-        return KirvField::textEdit(text, setting.key, value.toString(), QString());
+        return KirvField::textEdit(text, setting.key, kirvEditablePart(value.toString()), QString());
     }
 }
 
