@@ -2,12 +2,14 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_name_delegate.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 
 #include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QPalette>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
@@ -22,6 +24,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     , accounts(accounts)
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
 {
+    list->setItemDelegate(new KirvNameDelegate(list));
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
@@ -60,28 +63,59 @@ void KirvAccountsPageCompanion::protocolUnloaded(const QString &protocol)
 /// The page takes the row of an account away after each attempt to remove the account.
 void KirvAccountsPageCompanion::keepRow(const KirvAccount *account)
 {
-    const QTreeWidgetItem *row = find(account->key());
+    QTreeWidgetItem *row = find(account->key());
     if (!row)
         return;
-    rowCopies.emplace_back(row->clone());
+    keptRows.push_back({ std::unique_ptr<QTreeWidgetItem>(row->clone()), list->indexOfTopLevelItem(row),
+                         row == list->currentItem() ? list->currentColumn() : -1, row->isSelected(),
+                         list->verticalScrollBar()->value() });
     syncRowLater(account->key());
+}
+
+/// To the place, state and selection that it had, in all of which the view has put a neighbour meanwhile.
+void KirvAccountsPageCompanion::putBack(KeptRow kept)
+{
+    QTreeWidgetItem *row = kept.copy.release();
+    {
+        const QSignalBlocker noSignals(list);
+        // The list would put it before the rows that compare equal; sorting it as a whole keeps their order.
+        const bool isSorted = list->isSortingEnabled();
+        list->setSortingEnabled(false);
+        list->insertTopLevelItem(qBound(0, kept.index, list->topLevelItemCount()), row);
+        list->setSortingEnabled(isSorted);
+        if (kept.currentColumn >= 0)
+            list->setCurrentItem(row, kept.currentColumn,
+                                 kept.isSelected ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                                                 : QItemSelectionModel::NoUpdate);
+        else
+            row->setSelected(kept.isSelected);
+        list->doItemsLayout(); // the range of the scroll bar follows the rows later otherwise
+        list->verticalScrollBar()->setValue(kept.scrollValue);
+    }
+    Q_EMIT list->itemSelectionChanged(); // for the buttons of the page
 }
 
 void KirvAccountsPageCompanion::syncRowLater(const KirvAccountKey &key)
 {
-    if (unsynced.isEmpty())
-        QMetaObject::invokeMethod(this, &KirvAccountsPageCompanion::syncRows, Qt::QueuedConnection);
     unsynced << key;
+    refreshLater();
+}
+
+void KirvAccountsPageCompanion::refreshLater()
+{
+    if (!std::exchange(isSyncDue, true))
+        QMetaObject::invokeMethod(this, &KirvAccountsPageCompanion::syncRows, Qt::QueuedConnection);
 }
 
 /// Makes the page list the accounts that came and went exactly when they are configured.
 void KirvAccountsPageCompanion::syncRows()
 {
+    isSyncDue = false;
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
-    for (std::unique_ptr<QTreeWidgetItem> &row : std::exchange(rowCopies, {})) {
-        const KirvAccountKey key = keyOf(row.get());
+    for (KeptRow &row : std::exchange(keptRows, {})) {
+        const KirvAccountKey key = keyOf(row.copy.get());
         if (accounts.find(key) && !find(key))
-            list->addTopLevelItem(row.release());
+            putBack(std::move(row));
     }
     const QList<KirvAccountKey> keys = std::exchange(unsynced, {});
     for (const KirvAccountKey &key : keys) {

@@ -31,9 +31,21 @@ public:
     void protocolLoaded(const QString &protocol);
     /// The protocol was unloaded: its rows stay, greyed, as the accounts can still be disabled and removed.
     void protocolUnloaded(const QString &protocol);
+    /// Makes the page show again, from the event loop, what is stored: a change that it shows was refused.
+    void refreshLater();
 
 private:
+    /// A row that the page takes away too early, and how it stood in the list.
+    struct KeptRow {
+        std::unique_ptr<QTreeWidgetItem> copy;
+        int index;
+        int currentColumn; ///< -1: the row is not the current one
+        bool isSelected;
+        int scrollValue;
+    };
+
     void keepRow(const KirvAccount *account);
+    void putBack(KeptRow row);
     void syncRowLater(const KirvAccountKey &key);
     void syncRows();
 
@@ -50,8 +62,9 @@ private:
 
     KirvAccountCollection &accounts;
     QTreeWidget *list;
-    std::vector<std::unique_ptr<QTreeWidgetItem>> rowCopies; ///< of rows that the page takes away too early
+    std::vector<KeptRow> keptRows;
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
+    bool isSyncDue = false;
 };
 
 #endif

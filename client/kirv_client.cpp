@@ -158,8 +158,11 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
+    connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
+    connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
+            &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
     connect(pluginLoader.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);
@@ -195,6 +198,15 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
     passwordQuestions->withdrawProtocol(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
+}
+
+void KirvClient::creationRefused(const KirvAccountKey &key, const QString &reason)
+{
+    const bool isSaid = companions && companions->takeRefusal(key, reason);
+    if (accountCollection->find(key)) // whoever creates one that exists finds it
+        return;
+    if (!isSaid || !store->isInPlace()) // the bar has the button for another folder
+        showRefusal(reason);
 }
 
 void KirvClient::accountChanged(KirvAccount *account)

@@ -24,6 +24,7 @@ class KirvClientSettings;
 class KirvSettingsWindow;
 class KirvStore;
 class KirvWindowCompanions;
+struct KirvAccountKey;
 
 /// The program without its command line: makes the services of the core and the settings window, and leads the
 /// news of the ones to the other. One per process at a time.
@@ -69,6 +70,7 @@ private:
 
     void protocolLoaded(KirvProtocolBase *protocol);
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
+    void creationRefused(const KirvAccountKey &key, const QString &reason);
     void accountChanged(KirvAccount *account);
     void edit(KirvAccount *account);
     void updateTitle();

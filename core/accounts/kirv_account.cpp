@@ -3,6 +3,7 @@
 
 #include "core/protocol/kirv_plugin_call.h"
 #include "core/store/kirv_store.h"
+#include "core/values/kirv_text_limit.h"
 
 #include <QDir>
 
@@ -94,7 +95,7 @@ KirvAccount::~KirvAccount()
 
 QString KirvAccount::displayName() const
 {
-    return current.alias.isEmpty() ? current.key.id : current.alias;
+    return kirvShortName(current.alias.isEmpty() ? current.key.id : current.alias);
 }
 
 bool KirvAccount::change(const std::function<void(KirvAccountRecord &)> &makeChange)
@@ -283,9 +284,11 @@ void KirvAccount::providePassword(const QString &password, bool remember)
     });
     if (!alive || removed)
         return;
-    if (!isStored) { // it still serves this run
+    if (!isStored) { // it still serves this run, and is stored with the next save
+        const KirvAccountRecord stored = current;
         current.password = password;
         current.rememberPassword = current.rememberPassword && remember;
+        unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
     }
     askedPresence = logInPresence();
     tryAgain();
@@ -438,5 +441,5 @@ void KirvAccount::setFailure(const KirvFailure &newFailure)
 
 void KirvAccount::refreshDescription()
 {
-    description = KirvAccountInfo(current.key.id, current.alias, current.enabled);
+    description = KirvAccountInfo(current.key.id, kirvEditablePart(current.alias), current.enabled);
 }

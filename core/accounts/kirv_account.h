@@ -35,7 +35,7 @@ public:
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }
-    /// The alias, or the account id when the alias is empty.
+    /// The alias, or the account id when the alias is empty; of a long one the beginning.
     QString displayName() const;
     /// What is stored, with the changes of the save that is open, and the password also when it is not stored.
     const KirvAccountRecord &record() const { return current; }
@@ -69,12 +69,13 @@ public:
     void tryAgain();
     /// The same, and a connection that is logged in logs out first.
     void reconnect();
-    /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in.
+    /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in. Where the store
+    /// refuses, the next save stores it.
     void providePassword(const QString &password, bool remember);
     /// The server has changed the password to \a password. Where the store refuses, the account keeps it for this run,
     /// so that it can be stored later; the result is false then.
     bool acceptServerPassword(const QString &password);
-    /// Whether the password is one that acceptServerPassword() could not store.
+    /// Whether the password is one that acceptServerPassword() or providePassword() could not store.
     bool hasUnstoredPassword() const { return unstoredPassword; }
 
     /// The loaded protocol; null while it is not loaded.

@@ -180,23 +180,16 @@ QString KirvAccountCollection::whyNotCreated(const KirvAccountRecord &record, co
 KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, KirvProtocol *protocol)
 {
     const QString reason = whyNotCreated(record, protocol);
-    if (!reason.isEmpty()) {
-        if (byKey.contains(record.key)) // whoever adds it says so
-            error = reason;
-        else
-            refuse(reason);
-        return nullptr;
-    }
+    if (!reason.isEmpty())
+        return refuseCreation(record.key, reason);
     KirvProtocolBase *known = protocols.value(record.key.protocol);
     KirvAccountRecord complete = record;
     complete.settings = kirvStoredValues(known->accountSettings());
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
     complete.secretSettings += kirvSecretFields(known->accountSettings());
-    if (!store.insertAccount(complete)) {
-        refuse(store.lastError());
-        return nullptr;
-    }
+    if (!store.insertAccount(complete))
+        return refuseCreation(record.key, store.lastError());
     error.clear();
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
@@ -255,6 +248,14 @@ void KirvAccountCollection::requestDirectory(KirvAccountConnection *connection,
         account->directory().deleteEntry();
         break;
     }
+}
+
+/// Always null.
+KirvAccount *KirvAccountCollection::refuseCreation(const KirvAccountKey &key, const QString &reason)
+{
+    error = reason;
+    Q_EMIT creationRefused(key, reason);
+    return nullptr;
 }
 
 void KirvAccountCollection::refuse(const QString &reason)

@@ -28,8 +28,8 @@ public:
     KirvAccount *find(const KirvAccountKey &key) const { return byKey.value(key); }
 
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
-    /// defaults. Null when the account exists, the protocol is not the loaded one, or the store refuses; lastError()
-    /// then says why.
+    /// defaults. Null when the account exists, the protocol is not the loaded one, or the store refuses; then
+    /// creationRefused() is emitted, and lastError() says why.
     KirvAccount *create(const KirvAccountRecord &record, KirvProtocol *protocol);
     /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
     bool remove(KirvAccount *account);
@@ -58,7 +58,9 @@ Q_SIGNALS:
     void accountChanged(KirvAccount *account);
     void passwordNeeded(KirvAccount *account);
     void noticeReceived(KirvAccount *account, const QString &text);
-    /// The store did not take a change, or an account could not be created: \a text is for the user.
+    /// An account could not be created: \a reason is a sentence for the user, and nothing else says it.
+    void creationRefused(const KirvAccountKey &key, const QString &reason);
+    /// The store did not take a change: \a text is for the user.
     void problemOccurred(const QString &text);
 
 private:
@@ -72,6 +74,7 @@ private:
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
     QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
+    KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
     void refuse(const QString &reason);

@@ -44,7 +44,5 @@ KirvHostServices *KirvHostServices::instance()
 
 void KirvHostServices::restoreMainAccount()
 {
-    const QString stored = settings.value(KirvSettingKey::mainAccount);
-    if (KirvAccount *account = accounts.find(KirvAccountKey::fromSetting(stored)))
-        mainAccount = account;
+    mainAccount = accounts.find(KirvAccountKey::fromSetting(settings.value(KirvSettingKey::mainAccount)));
 }
