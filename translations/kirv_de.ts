@@ -394,6 +394,36 @@
         <source>Accounts of several instant-messaging protocols in one place.</source>
         <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
     </message>
+    <message>
+        <source>Say whether the profile is damaged, list its copies and end: with 0 when it can be used, 2 when it is damaged, and 1 when it cannot be used for another reason.</source>
+        <translation>Ausgeben, ob das Profil beschädigt ist, seine Kopien auflisten und enden: mit 0, wenn es benutzt werden kann, mit 2, wenn es beschädigt ist, und mit 1, wenn es aus einem anderen Grund nicht benutzt werden kann.</translation>
+    </message>
+    <message>
+        <source>Put a copy in the place of the profile&apos;s database and end: the newest, or the one that is named. Passwords are in no copy.</source>
+        <translation>Eine Kopie an die Stelle der Datenbank des Profils setzen und enden: die neueste oder die genannte. Passwörter sind in keiner Kopie.</translation>
+    </message>
+    <message>
+        <source>Read what is still readable of the profile&apos;s damaged database, keep that, and end.</source>
+        <translation>Lesen, was von der beschädigten Datenbank des Profils noch lesbar ist, es behalten und enden.</translation>
+    </message>
+    <message>
+        <source>The copy to restore.</source>
+        <translation>Die Kopie, die wiederhergestellt wird.</translation>
+    </message>
+    <message>
+        <source>[copy]</source>
+        <translation>[Kopie]</translation>
+    </message>
+    <message>
+        <source>The options %1 and %2 cannot be used together.</source>
+        <extracomment>%1, %2 = names of options</extracomment>
+        <translation>Die Optionen %1 und %2 können nicht zusammen benutzt werden.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>Das Argument „%1“ ist nicht bekannt.</translation>
+    </message>
 </context>
 <context>
     <name>KirvConnection</name>
@@ -500,6 +530,55 @@
     </message>
 </context>
 <context>
+    <name>KirvDamagedProfile</name>
+    <message>
+        <source>The copy of %1 was restored. Accounts: %2.</source>
+        <extracomment>%1 = date and time, %2 = number of accounts</extracomment>
+        <translation>Die Kopie vom %1 wurde wiederhergestellt. Konten: %2.</translation>
+    </message>
+    <message>
+        <source>Passwords and other secret settings are in no copy and have to be entered again.</source>
+        <translation>Passwörter und andere geheime Einstellungen sind in keiner Kopie und müssen neu eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Everything could be read.</source>
+        <translation>Alles konnte gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Only a part could be read. Accounts or settings are missing.</source>
+        <translation>Nur ein Teil konnte gelesen werden. Konten oder Einstellungen fehlen.</translation>
+    </message>
+    <message>
+        <source>Accounts: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Konten: %1</translation>
+    </message>
+    <message>
+        <source>Settings of accounts: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Einstellungen von Konten: %1</translation>
+    </message>
+    <message>
+        <source>Passwords and other secret settings: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Passwörter und andere geheime Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Settings of the program: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Einstellungen des Programms: %1</translation>
+    </message>
+    <message>
+        <source>The profile has no accounts now.</source>
+        <translation>Das Profil hat jetzt keine Konten.</translation>
+    </message>
+    <message>
+        <source>The database that was there is kept in &quot;%1&quot;, with the passwords in it. Delete it when it is no longer needed.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die bisherige Datenbank liegt in „%1“, mit den Passwörtern darin. Löschen Sie sie, wenn sie nicht mehr gebraucht wird.</translation>
+    </message>
+</context>
+<context>
     <name>KirvDatabase</name>
     <message>
         <source>The SQLite driver of Qt, which the profile needs, is not installed.</source>
@@ -518,10 +597,6 @@
         <translation>Das Profil in „%1“ konnte nicht gelesen oder geschrieben werden (%2). Der Datenträger ist vielleicht voll oder fehlerhaft.</translation>
     </message>
     <message>
-        <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The profile in &quot;%1&quot; cannot be written. Check its owner and permissions.</source>
         <translation>Das Profil in „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte.</translation>
     </message>
@@ -532,6 +607,10 @@
     <message>
         <source>The profile in &quot;%1&quot; could not be used: %2</source>
         <translation>Das Profil in „%1“ konnte nicht benutzt werden: %2</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is damaged, so nothing was stored. Start the program again to see what can be done.</source>
+        <translation>Das Profil in „%1“ ist beschädigt; daher wurde nichts gespeichert. Starten Sie das Programm neu, um zu sehen, was möglich ist.</translation>
     </message>
 </context>
 <context>
@@ -593,6 +672,14 @@
     <message>
         <source>Nothing was changed. The window stays open, so that you can try again.</source>
         <translation>Nichts wurde geändert. Das Fenster bleibt offen, damit Sie es erneut versuchen können.</translation>
+    </message>
+    <message>
+        <source>Picture of the Account</source>
+        <translation>Bild des Kontos</translation>
+    </message>
+    <message>
+        <source>The picture was not changed.</source>
+        <translation>Das Bild wurde nicht geändert.</translation>
     </message>
 </context>
 <context>
@@ -786,6 +873,10 @@
     <message>
         <source>Invalid format: %1</source>
         <translation>Ungültiges Format: %1</translation>
+    </message>
+    <message>
+        <source>This text is too long to be shown in full. It is kept as long as nothing is changed here.</source>
+        <translation>Dieser Text ist zu lang, um ganz gezeigt zu werden. Er bleibt erhalten, solange hier nichts geändert wird.</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1233,13 @@
     </message>
 </context>
 <context>
+    <name>KirvLengthLimit</name>
+    <message>
+        <source>The text is too long here. At most %1 characters are kept.</source>
+        <translation>Der Text ist hier zu lang. Höchstens %1 Zeichen werden behalten.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMessageBar</name>
     <message>
         <source>Messages</source>
@@ -1376,10 +1474,6 @@
         <translation>„%1“ ist eine Verknüpfung. Das Programm folgt in einem Profil keiner Verknüpfung: Ersetzen Sie sie durch das, worauf sie zeigt.</translation>
     </message>
     <message>
-        <source>The profile in &quot;%1&quot; is damaged: its database is missing. Nothing in it was changed: restore it from a backup, or choose an empty folder to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt: Seine Datenbank fehlt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder wählen Sie einen leeren Ordner, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The folder &quot;%1&quot; is not a profile: it holds other files. Nothing in it was changed: choose an empty folder.</source>
         <translation>Der Ordner „%1“ ist kein Profil: Er enthält andere Dateien. Nichts darin wurde geändert: Wählen Sie einen leeren Ordner.</translation>
     </message>
@@ -1396,12 +1490,73 @@
         <translation>Der Profilordner „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte und ob der Datenträger voll ist.</translation>
     </message>
     <message>
-        <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; belongs to another program. Nothing in it was changed.</source>
         <translation>Die Datei „%1“ gehört einem anderen Programm. Nichts darin wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Its database is missing.</source>
+        <translation>Seine Datenbank fehlt.</translation>
+    </message>
+    <message>
+        <source>The end of its database is missing.</source>
+        <translation>Das Ende seiner Datenbank fehlt.</translation>
+    </message>
+    <message>
+        <source>Tables or columns of its database are missing.</source>
+        <translation>Tabellen oder Spalten seiner Datenbank fehlen.</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is damaged. %2 Nothing in it was changed.</source>
+        <extracomment>%1 = path of a folder, %2 = a sentence about what is wrong with it</extracomment>
+        <translation>Das Profil in „%1“ ist beschädigt. %2 Nichts darin wurde geändert.</translation>
+    </message>
+    <message>
+        <source>The file of its database does not hold one any more.</source>
+        <translation>Die Datei seiner Datenbank enthält keine mehr.</translation>
+    </message>
+    <message>
+        <source>Parts of its database cannot be read, or contradict each other.</source>
+        <translation>Teile seiner Datenbank sind nicht lesbar oder widersprechen einander.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvProfileCommand</name>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>In „%1“ gibt es noch kein Profil.</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is not damaged.</source>
+        <translation>Das Profil in „%1“ ist nicht beschädigt.</translation>
+    </message>
+    <message>
+        <source>The profile is not damaged, so nothing was restored. Name a copy to go back to it.</source>
+        <translation>Das Profil ist nicht beschädigt; daher wurde nichts wiederhergestellt. Nennen Sie eine Kopie, um zu ihr zurückzukehren.</translation>
+    </message>
+    <message>
+        <source>There is no copy of the profile that could be restored.</source>
+        <translation>Es gibt keine Kopie des Profils, die wiederhergestellt werden könnte.</translation>
+    </message>
+    <message>
+        <source>There is no copy &quot;%1&quot; that could be restored.</source>
+        <translation>Es gibt keine Kopie „%1“, die wiederhergestellt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The profile is not damaged, so there is nothing to recover.</source>
+        <translation>Das Profil ist nicht beschädigt; daher gibt es nichts zu retten.</translation>
+    </message>
+    <message>
+        <source>The option --restore restores the newest copy or the one that is named, and --recover reads what is still readable of the damaged database. To start fresh, move the folder away.</source>
+        <translation>Die Option --restore stellt die neueste oder die genannte Kopie wieder her, und --recover liest, was von der beschädigten Datenbank noch lesbar ist. Um neu zu beginnen, legen Sie den Ordner beiseite.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords:</source>
+        <translation>Kopien des Profils, ohne Passwörter:</translation>
+    </message>
+    <message>
+        <source>  %1  %2  Accounts: %3</source>
+        <extracomment>%1 = name of a file, %2 = date and time, %3 = number of accounts</extracomment>
+        <translation>  %1  %2  Konten: %3</translation>
     </message>
 </context>
 <context>
@@ -1438,6 +1593,29 @@
     </message>
 </context>
 <context>
+    <name>KirvProfileSaver</name>
+    <message>
+        <source>&amp;Save to Another Folder…</source>
+        <translation>In anderem Ordner &amp;speichern…</translation>
+    </message>
+    <message>
+        <source>Save to an Empty Folder</source>
+        <translation>In leerem Ordner speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Everything that was stored is in &quot;%1&quot; again. Quit the program and start it again to go on with it.</source>
+        <translation>Alles Gespeicherte ist wieder in „%1“. Beenden Sie das Programm und starten Sie es neu, um damit weiterzuarbeiten.</translation>
+    </message>
+    <message>
+        <source>Everything that was stored is in &quot;%1&quot; now. Quit the program and start it with the option --profile &quot;%1&quot; to go on with it.</source>
+        <translation>Alles Gespeicherte ist jetzt in „%1“. Beenden Sie das Programm und starten Sie es mit der Option --profile &quot;%1&quot;, um damit weiterzuarbeiten.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRegistrationChooser</name>
     <message>
         <source>Register Account</source>
@@ -1454,6 +1632,81 @@
     <message>
         <source>&amp;Continue</source>
         <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>KirvRescueWindow</name>
+    <message>
+        <source>Damaged Profile</source>
+        <translation>Beschädigtes Profil</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Choose what to do. The damaged database is kept in any case, under a name with the date.</source>
+        <translation>Wählen Sie, was geschehen soll. Die beschädigte Datenbank bleibt in jedem Fall unter einem Namen mit dem Datum erhalten.</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>There is no copy of the profile that could be restored.</source>
+        <translation>Es gibt keine Kopie des Profils, die wiederhergestellt werden könnte.</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of the profile:</source>
+        <translation>Ko&amp;pien des Profils:</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Kopien des Profils</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>&amp;Restore the Selected Copy</source>
+        <translation>Gewählte Kopie &amp;wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Accounts and settings are then as they were at that time. Passwords and other secret settings are in no copy and have to be entered again.</source>
+        <translation>Konten und Einstellungen sind dann wie zu jener Zeit. Passwörter und andere geheime Einstellungen sind in keiner Kopie und müssen neu eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Recover &amp;What Is Readable</source>
+        <translation>&amp;Lesbares retten</translation>
+    </message>
+    <message>
+        <source>The damaged database is read row by row, with the passwords, and what was found is shown.</source>
+        <translation>Die beschädigte Datenbank wird Zeile für Zeile gelesen, mit den Passwörtern, und es wird gezeigt, was gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>Start &amp;Fresh</source>
+        <translation>&amp;Neu beginnen</translation>
+    </message>
+    <message>
+        <source>The profile then has no accounts.</source>
+        <translation>Das Profil hat dann keine Konten.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>The profile can be used again.</source>
+        <translation>Das Profil kann wieder benutzt werden.</translation>
     </message>
 </context>
 <context>
@@ -1922,6 +2175,26 @@
     <message>
         <source>the server does not answer any more</source>
         <translation>der Server antwortet nicht mehr</translation>
+    </message>
+    <message>
+        <source>What the server sent is no XMPP stream.</source>
+        <translation>Was der Server gesendet hat, ist kein XMPP-Strom.</translation>
+    </message>
+    <message>
+        <source>The server sent data that is longer than allowed.</source>
+        <translation>Der Server hat Daten gesendet, die länger sind als erlaubt.</translation>
+    </message>
+    <message>
+        <source>The server sent data that is no valid XML.</source>
+        <translation>Der Server hat Daten gesendet, die kein gültiges XML sind.</translation>
+    </message>
+    <message>
+        <source>The server sent XML that is not allowed in a stream.</source>
+        <translation>Der Server hat XML gesendet, das in einem Strom nicht erlaubt ist.</translation>
+    </message>
+    <message>
+        <source>the reply of the server is too large</source>
+        <translation>die Antwort des Servers ist zu groß</translation>
     </message>
 </context>
 <context>
