@@ -30,7 +30,8 @@ public:
 private:
     void showServerStep();
     void requestForm();
-    void showForm(const KirvXmppRegistrationForm &received);
+    void showForm(const KirvXmppRegistrationForm &received, const KirvFailure &refusal);
+    static QString noticeOf(const KirvFailure &refusal);
     QString textOf(const KirvXmppRegistrationForm &form) const;
     void sendForm();
     void finish();

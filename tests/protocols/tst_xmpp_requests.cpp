@@ -35,6 +35,26 @@ QByteArray registrationForm(const QByteArray &fields)
     return "<query xmlns='jabber:iq:register'>" + fields + "</query>";
 }
 
+/// The fields of a form with a picture that the server knows by \a challenge.
+QByteArray pictureForm(const QByteArray &challenge)
+{
+    return "<x xmlns='jabber:x:data'><field type='hidden' var='challenge'><value>" + challenge
+        + "</value></field><field var='username'/><field var='password' type='text-private'/>"
+          "<field var='ocr' label='What is there?'><media xmlns='urn:xmpp:media-element'><uri>https://example.org/"
+        + challenge + "</uri></media></field></x>";
+}
+
+/// The value of the field \a name in the data form of \a query.
+QString sentValue(const QDomElement &query, const QString &name)
+{
+    for (QDomElement field = query.firstChildElement("x").firstChildElement("field"); !field.isNull();
+         field = field.nextSiblingElement("field")) {
+        if (field.attribute("var") == name)
+            return field.firstChildElement("value").text();
+    }
+    return QString();
+}
+
 /// Everything that a request emits, in its order.
 class Listener {
 public:
@@ -116,6 +136,10 @@ private Q_SLOTS:
     void aFormWithoutAUserNameHasNoAccount();
     void goingBackKeepsBothSteps();
     void aTakenNameIsReported();
+    void aWrongAnswerToAPictureGetsANewOne();
+    void aFormThatWasRefusedIsNotSentAgain_data();
+    void aFormThatWasRefusedIsNotSentAgain();
+    void hiddenFieldsAreThoseOfTheLatestForm();
     void anotherFormKeepsWhatWasTyped();
     void aFormWithoutFieldsCannotBeSent();
     void registrationThatIsNotOfferedIsReported_data();
@@ -565,6 +589,89 @@ void TestXmppRequests::aTakenNameIsReported()
     QCOMPARE(server.links, 2);
     server.link()->reply();
     QCOMPARE(listener->result.account.id, QString("juliet2@example.org"));
+}
+
+void TestXmppRequests::aWrongAnswerToAPictureGetsANewOne()
+{
+    createRegistration();
+    receiveForm(pictureForm("first"));
+    const QList<KirvField> fields = filled(filled(listener->step.fields, "username", "juliet"), "password", "new");
+    request->submit(filled(fields, "ocr", "wrong"));
+    QCOMPARE(sentValue(server.payload(), "challenge"), QString("first"));
+    server.link()->refuse("not-allowed", KirvFailure(KirvFailure::RequestFailed, "The answer is wrong."));
+    QCOMPARE(listener->take(), QStringList { "waiting" });
+    QCOMPARE(server.link()->requests.first().type, QXmppIq::Get);
+    server.link()->reply(registrationForm(pictureForm("second")));
+
+    QCOMPARE(listener->take(), QStringList { "step" });
+    QVERIFY2(listener->step.notice.contains("The answer is wrong."), qPrintable(listener->step.notice));
+    QCOMPARE(listener->step.pictures.first().address, QString("https://example.org/second"));
+    QCOMPARE(valueOf(listener->step.fields, "username"), QString("juliet"));
+    QCOMPARE(valueOf(listener->step.fields, "password"), QString("new"));
+    QCOMPARE(valueOf(listener->step.fields, "ocr"), QString());
+
+    request->submit(filled(listener->step.fields, "ocr", "right"));
+    QCOMPARE(sentValue(server.payload(), "challenge"), QString("second"));
+    QCOMPARE(sentValue(server.payload(), "ocr"), QString("right"));
+    server.link()->reply();
+    QCOMPARE(listener->take(), QStringList({ "waiting", "succeeded" }));
+    QCOMPARE(server.links, 2);
+}
+
+void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain_data()
+{
+    QTest::addColumn<QString>("instead");
+    QTest::newRow("no new form") << "refuses";
+    QTest::newRow("the stream ends") << "ends";
+    QTest::newRow("cancelled") << "cancelled";
+}
+
+void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain()
+{
+    QFETCH(QString, instead);
+    createRegistration();
+    receiveForm(pictureForm("first"));
+    const QList<KirvField> fields = filled(listener->step.fields, "username", "juliet");
+    request->submit(fields);
+    server.link()->refuse("conflict");
+    if (instead == "refuses")
+        server.link()->refuse("resource-constraint");
+    else if (instead == "ends")
+        server.link()->end(KirvFailure::ConnectionLost);
+    else
+        QVERIFY(request->cancel());
+    if (instead != "cancelled") {
+        QCOMPARE(listener->take(), QStringList({ "waiting", "failed" }));
+        QCOMPARE(listener->failure.kind(), KirvFailure::NameInUse); // what it is all about
+    }
+    request->submit(fields);
+    QCOMPARE(server.links, 3);
+    server.link()->arrive();
+    QCOMPARE(server.link()->requests.first().type, QXmppIq::Get);
+    server.link()->reply(registrationForm(pictureForm("second")));
+    QCOMPARE(listener->step.pictures.first().address, QString("https://example.org/second"));
+    QVERIFY(!server.isAwaited());
+}
+
+void TestXmppRequests::hiddenFieldsAreThoseOfTheLatestForm()
+{
+    createRegistration();
+    receiveForm("<username/><password/><key>first</key>");
+    const QList<KirvField> fields = filled(filled(listener->step.fields, "username", "juliet"), "password", "new");
+    request->submit(fields);
+    server.link()->refuse("conflict");
+    server.link()->reply(registrationForm("<username/><password/><key>second</key>"));
+    QCOMPARE(listener->take(), QStringList({ "waiting", "step" }));
+    QVERIFY2(listener->step.notice.contains("juliet"), qPrintable(listener->step.notice));
+    request->submit(filled(listener->step.fields, "username", "juliet2"));
+    QCOMPARE(textAt(server.payload(), "key"), QString("second"));
+
+    // The same when the stream had to be opened again.
+    server.link()->end(KirvFailure::ConnectionLost);
+    request->submit(listener->step.fields);
+    server.link()->arrive();
+    server.link()->reply(registrationForm("<username/><password/><key>third</key>"));
+    QCOMPARE(textAt(server.payload(), "key"), QString("third"));
 }
 
 void TestXmppRequests::anotherFormKeepsWhatWasTyped()
