@@ -43,6 +43,7 @@ void KirvXmppConnection::startLogin(const KirvPresence &presence)
         loginFailed(KirvFailure(KirvFailure::BadSettings, problem));
         return;
     }
+    configuration.setResource(settings.resourceWith(randomPart));
     configuration.setUser(user);
     configuration.setPassword(login().password);
     photoState = QXmppPresence::VCardUpdateNotReady;

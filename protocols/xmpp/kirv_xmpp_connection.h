@@ -18,6 +18,9 @@ class QDomDocument;
 /// A picture that was chosen for the account is published in the directory entry as soon as it is chosen, or at
 /// the next log-in when the account is off line then; taken away on line, it is removed there too. A picture that
 /// another client has published stays as long as none is chosen here. Deleting the entry keeps the picture.
+///
+/// The random part of the resource is chosen once for the connection: a new session takes the place of one that the
+/// server still holds for a link that broke.
 class KirvXmppConnection : public KirvConnection {
     Q_OBJECT
 
@@ -58,6 +61,7 @@ private:
     /// Deleted later, as it may be in the middle of a signal.
     QScopedPointer<KirvXmppLink, QScopedPointerDeleteLater> link;
     QScopedPointer<KirvXmppDirectory> directory; ///< of the link
+    const QString randomPart = KirvXmppSettings::randomPart(); ///< of the resource
     KirvXmppSettings settings;
     QByteArray photoHash;
     QXmppPresence::VCardUpdateType photoState = QXmppPresence::VCardUpdateNotReady;

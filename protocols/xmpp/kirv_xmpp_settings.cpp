@@ -2,6 +2,7 @@
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
 #include <QFile>
+#include <QRandomGenerator>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QXmppConfiguration.h>
@@ -85,12 +86,28 @@ QList<KirvField> KirvXmppSettings::toFields() const
 {
     QList<KirvField> fields = toServerFields();
     fields.insert(2,
-                  KirvField::textEdit(tr("Resource"), resourceId, resource,
-                                      tr("Tells this client from your other ones. Empty: the server chooses.")));
+                  KirvField::textEdit(
+                      tr("Resource"), resourceId, resource,
+                      tr("Tells this client from your other ones. Characters by chance take the place of a *. Empty: "
+                         "the server chooses.")));
     fields.insert(3,
                   KirvField::number(tr("Priority"), priorityId, priority, -128, 127,
                                     tr("Messages go to the client with the highest priority.")));
     return fields;
+}
+
+QString KirvXmppSettings::randomPart()
+{
+    const QString characters = QStringLiteral("abcdefghijklmnopqrstuvwxyz0123456789");
+    QString part;
+    while (part.size() < 8)
+        part += characters.at(int(QRandomGenerator::system()->bounded(quint32(characters.size()))));
+    return part;
+}
+
+QString KirvXmppSettings::resourceWith(const QString &random) const
+{
+    return QString(resource).replace(QLatin1Char('*'), random);
 }
 
 QList<KirvField> KirvXmppSettings::toServerFields() const
@@ -147,7 +164,6 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
     // Without a host the library looks it up in the network, and uses the port only where no other one is found.
     configuration->setHost(server.isEmpty() && port != defaultPort ? domain : server);
     configuration->setPort(port);
-    configuration->setResource(resource);
     configuration->setStreamSecurityMode(securityMode(encryption));
     configuration->setAutoReconnectionEnabled(false);
     configuration->setAutoAcceptSubscriptions(false);

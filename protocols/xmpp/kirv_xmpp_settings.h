@@ -31,10 +31,16 @@ public:
 
     QString server;
     int port = defaultPort;
-    QString resource = QStringLiteral("Kirv");
+    QString resource = QStringLiteral("Kirv.*"); ///< see resourceWith()
     int priority = 0;
     Encryption encryption = Required;
     QString certificatePath; ///< of a PEM file; empty: none
+
+    /// Characters by chance for resourceWith(): letters and digits.
+    static QString randomPart();
+    /// The resource with \a random in the place of each "*". Two programs with the same settings have different ones
+    /// like that: a server ends the older one of two sessions with the same resource.
+    QString resourceWith(const QString &random) const;
 
     /// The settings as fields, in display order.
     QList<KirvField> toFields() const;

@@ -109,6 +109,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void theResourceStaysForTheConnection();
     void theProtocolOffersThem();
     void actionsNeedAConnectionOfTheProtocol();
 
@@ -209,6 +210,18 @@ void TestXmppRequests::receiveForm(const QByteArray &fields)
     server.link()->arrive();
     server.link()->reply(registrationForm(fields));
     QCOMPARE(listener->take(), QStringList({ "waiting", "step" }));
+}
+
+void TestXmppRequests::theResourceStaysForTheConnection()
+{
+    const QString resource = server.link()->configuration.resource();
+    QVERIFY(!resource.isEmpty() && resource != KirvXmppSettings().resource);
+    connection->drop();
+    logIn();
+    QCOMPARE(server.link()->configuration.resource(), resource);
+    connection = std::make_unique<KirvXmppConnection>(clock, nullptr, server.factory());
+    logIn();
+    QVERIFY(server.link()->configuration.resource() != resource);
 }
 
 void TestXmppRequests::theProtocolOffersThem()
