@@ -74,7 +74,7 @@ KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
         else if (id == resourceId)
             resource = text.trimmed();
         else if (id == priorityId)
-            priority = toNumber(text, -128, 127, 0);
+            priority = toNumber(text, -128, 127, KirvXmppSettings().priority);
         else if (id == encryptionId) // what is not known is the safest
             encryption = Encryption(qMax(0, int(encryptionValues.indexOf(text))));
         else if (id == certificateId)
@@ -90,9 +90,11 @@ QList<KirvField> KirvXmppSettings::toFields() const
                       tr("Resource"), resourceId, resource,
                       tr("Tells this client from your other ones. Characters by chance take the place of a *. Empty: "
                          "the server chooses.")));
-    fields.insert(3,
-                  KirvField::number(tr("Priority"), priorityId, priority, -128, 127,
-                                    tr("Messages go to the client with the highest priority.")));
+    fields.insert(
+        3,
+        KirvField::number(tr("Priority"), priorityId, priority, -128, 127,
+                          tr("Messages go to the client with the highest priority, and to none with a negative one. "
+                             "This client does not show messages.")));
     return fields;
 }
 

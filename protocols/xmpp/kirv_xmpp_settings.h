@@ -32,7 +32,7 @@ public:
     QString server;
     int port = defaultPort;
     QString resource = QStringLiteral("Kirv.*"); ///< see resourceWith()
-    int priority = 0;
+    int priority = -1; ///< a server gives messages to no session with a negative one, and keeps them
     Encryption encryption = Required;
     QString certificatePath; ///< of a PEM file; empty: none
 

@@ -157,12 +157,14 @@ private Q_SLOTS:
     void directoryRequestsAreDoneOneAfterTheOther();
     void directoryErrorsAreReported();
     void theAvatarIsPublished();
+    void thePictureOfAnotherClientIsReported();
 
 private:
     void logIn();
     void createRegistration();
     void receiveForm(const QByteArray &fields);
 
+    const KirvLogin login { "romeo@example.org", "secret", KirvXmppSettings().toFields() };
     KirvFakeClock clock;
     FakeXmppServer server;
     std::unique_ptr<KirvXmppConnection> connection;
@@ -187,9 +189,9 @@ void TestXmppRequests::cleanup()
 
 void TestXmppRequests::logIn()
 {
-    const KirvLogin login { "romeo@example.org", "secret", KirvXmppSettings().toFields() };
     connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
     server.link()->arrive();
+    server.link()->refuse("item-not-found"); // the picture among the personal events
     server.link()->reply("<vCard xmlns='vcard-temp'/>");
     QCOMPARE(connection->state(), KirvConnection::Online);
     QVERIFY(!server.isAwaited());
@@ -899,7 +901,9 @@ void TestXmppRequests::theAvatarIsPublished()
     QImage image(20, 20, QImage::Format_RGB32);
     image.fill(Qt::red);
     QVERIFY(image.save(folder.filePath("a.png")));
-    connection->setAvatarPath(folder.filePath("a.png"));
+    QSignalSpy published(connection.get(), &KirvConnection::avatarPublished);
+    connection->setAvatar({ folder.filePath("a.png"), QByteArray(), true });
+    server.link()->refuse("item-not-found");
     server.link()->reply("<vCard xmlns='vcard-temp'><FN>Romeo</FN></vCard>");
     QCOMPARE(textAt(server.payload(), "FN"), QString("Romeo"));
     QCOMPARE(textAt(server.payload(), "PHOTO/TYPE"), QString("image/png"));
@@ -908,14 +912,45 @@ void TestXmppRequests::theAvatarIsPublished()
     server.link()->reply();
     const QByteArray hash = QCryptographicHash::hash(sent, QCryptographicHash::Sha1);
     QCOMPARE(server.link()->presences.last().photoHash(), hash);
+    QCOMPARE(published.size(), 1);
+    QCOMPARE(published.first().first().toString(), folder.filePath("a.png"));
 
-    connection->setAvatarPath(QString());
+    connection->setAvatar({ QString(), QByteArray(), true });
+    server.link()->refuse("item-not-found");
     server.link()->reply("<vCard xmlns='vcard-temp'><FN>Romeo</FN><PHOTO><BINVAL>QUJD</BINVAL></PHOTO></vCard>");
     QVERIFY(server.payload().firstChildElement("PHOTO").isNull());
 
     QSignalSpy failed(connection.get(), &KirvConnection::failed);
-    connection->setAvatarPath(folder.filePath("none.png"));
+    server.link()->reply();
+    connection->setAvatar({ folder.filePath("none.png"), QByteArray(), true });
+    server.link()->refuse("item-not-found");
     QCOMPARE(failed.size(), 1);
+}
+
+void TestXmppRequests::thePictureOfAnotherClientIsReported()
+{
+    QSignalSpy received(connection.get(), &KirvConnection::avatarReceived);
+    QSignalSpy failed(connection.get(), &KirvConnection::failed);
+    connection->setAvatar({ "/a.png", "0123/", false });
+    connection->drop();
+    connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
+    server.link()->arrive();
+    server.link()->refuse("item-not-found");
+    server.link()->reply("<vCard xmlns='vcard-temp'><PHOTO><BINVAL>QUJD</BINVAL></PHOTO></vCard>");
+    QVERIFY(!server.isAwaited());
+    QCOMPARE(received.size(), 1);
+    QCOMPARE(received.first().first().toByteArray(), QByteArray("ABC"));
+    const QByteArray hash = QCryptographicHash::hash("ABC", QCryptographicHash::Sha1);
+    QCOMPARE(server.link()->presences.last().photoHash(), hash);
+
+    // A server that has no directory is nothing to report: no picture was to be published.
+    connection->drop();
+    connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
+    server.link()->arrive();
+    server.link()->refuse("service-unavailable");
+    server.link()->refuse("service-unavailable");
+    QCOMPARE(received.size(), 1);
+    QCOMPARE(failed.size(), 0);
 }
 
 QTEST_MAIN(TestXmppRequests)

@@ -93,13 +93,13 @@ void TestXmppSettings::badValuesFallBackToSafeOnes_data()
                                    << "5222";
     QTest::newRow("priority is too small") << "priority"
                                            << "-129"
-                                           << "0";
+                                           << "-1";
     QTest::newRow("smallest priority") << "priority"
                                        << "-128"
                                        << "-128";
     QTest::newRow("priority is no number") << "priority"
                                            << "high"
-                                           << "0";
+                                           << "-1";
     QTest::newRow("encryption is unknown") << "encryption"
                                            << "maybe"
                                            << "required";

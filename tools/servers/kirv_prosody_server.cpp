@@ -65,6 +65,7 @@ bool KirvProsodyServer::writeConfiguration()
     QStringList modules { "roster", "saslauth", "disco", "vcard", "register", "ping", "admin_shell" };
     if (options.offersEncryption)
         modules << QStringLiteral("tls");
+    modules << options.enabledModules;
     const QStringList lines {
         QStringLiteral("run_as_root = true"),
         QStringLiteral("data_path = %1").arg(quoted(home.filePath(QStringLiteral("data")))),
