@@ -273,6 +273,7 @@ void KirvServerAssistant::showPicture(int index, const KirvBoundedImage &picture
     QWidget *replaced = pictureList->layout()->itemAt(index)->widget();
     delete pictureList->layout()->replaceWidget(replaced, shown);
     delete replaced;
+    shown->show();
     growLater();
 }
 
