@@ -4,7 +4,7 @@
 
 #include "core/protocol/kirv_connection.h"
 #include "protocols/xmpp/kirv_xmpp_avatar.h"
-#include "protocols/xmpp/kirv_xmpp_server_link.h"
+#include "protocols/xmpp/kirv_xmpp_route.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
@@ -28,7 +28,7 @@ class KirvXmppConnection : public KirvConnection {
 public:
     /// \a clock is not owned and outlives the connection.
     explicit KirvXmppConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
-                                KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
+                                KirvXmppLinkFactory createLink = KirvXmppRoute::create);
     ~KirvXmppConnection() override;
 
     /// Called once with how a request ended, unless the connection is dropped or destroyed before.

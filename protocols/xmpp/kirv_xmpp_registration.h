@@ -3,7 +3,7 @@
 #define KIRV_XMPP_REGISTRATION_H
 
 #include "protocols/xmpp/kirv_xmpp_registration_form.h"
-#include "protocols/xmpp/kirv_xmpp_server_link.h"
+#include "protocols/xmpp/kirv_xmpp_route.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
 #include <QObject>
@@ -20,7 +20,7 @@ class KirvXmppRegistration : public QObject {
 public:
     /// \a clock is not owned and outlives the registration.
     explicit KirvXmppRegistration(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
-                                  KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
+                                  KirvXmppLinkFactory createLink = KirvXmppRoute::create);
     ~KirvXmppRegistration() override;
 
     /// How long the server may take, in milliseconds.

@@ -29,9 +29,11 @@ public:
 private:
     class Tap;
 
+    void startWithEncryption();
     bool receive(const QDomElement &stanza);
     bool receiveFeatures(const QDomElement &features);
-    void receiveStreamError(const QDomElement &error);
+    bool receiveStreamError(const QDomElement &error);
+    bool receiveReference(const QString &address);
     void receiveRefusal(const QDomElement &failure);
     bool receiveReply(const QDomElement &iq);
     void receiveConnected();
@@ -52,6 +54,8 @@ private:
     QXmppClient client;
     QHash<QString, Receiver> receivers; ///< by the id of the request
     KirvFailure reason; ///< the first one that was reported
+    QString referredHost; ///< the server that this one refers to; empty: none
+    int referredPort = 0;
     bool isEncrypted = false;
     bool isClosing = false;
     bool hasArrived = false; ///< loggedIn() or readyToRegister() was emitted

@@ -17,7 +17,8 @@ const auto encryptionId = QStringLiteral("encryption");
 const auto certificateId = QStringLiteral("certificate");
 
 /// The stored values, in the order of KirvXmppSettings::Encryption.
-const QStringList encryptionValues { QStringLiteral("required"), QStringLiteral("offered"), QStringLiteral("none") };
+const QStringList encryptionValues { QStringLiteral("required"), QStringLiteral("offered"), QStringLiteral("none"),
+                                     QStringLiteral("direct") };
 
 QXmppConfiguration::StreamSecurityMode securityMode(KirvXmppSettings::Encryption encryption)
 {
@@ -26,6 +27,8 @@ QXmppConfiguration::StreamSecurityMode securityMode(KirvXmppSettings::Encryption
         return QXmppConfiguration::TLSEnabled;
     case KirvXmppSettings::None:
         return QXmppConfiguration::TLSDisabled;
+    case KirvXmppSettings::Direct:
+        return QXmppConfiguration::LegacySSL;
     case KirvXmppSettings::Required:
         break;
     }
@@ -117,10 +120,12 @@ QList<KirvField> KirvXmppSettings::toServerFields() const
     return {
         KirvField::textEdit(tr("Server"), serverId, server,
                             tr("Only needed when it cannot be found by the domain of the login.")),
-        KirvField::number(tr("Port"), portId, port, 1, 65535, tr("Ordinarily %1.").arg(defaultPort)),
-        KirvField::choice(tr("Encryption"), encryptionId, encryptionValues.at(encryption), encryptionValues,
-                          { tr("Required"), tr("If the server offers it"), tr("None") },
-                          tr("Without encryption others in the network can read along, your password included.")),
+        KirvField::number(tr("Port"), portId, port, 1, 65535,
+                          tr("Ordinarily %1, and %2 with direct TLS.").arg(defaultPort).arg(directPort)),
+        KirvField::choice(
+            tr("Encryption"), encryptionId, encryptionValues.at(encryption), encryptionValues,
+            { tr("Required"), tr("If the server offers it"), tr("None"), tr("Required at once (direct TLS)") },
+            tr("Without encryption others in the network can read along, your password included.")),
         KirvField::textEdit(tr("Trusted certificate"), certificateId, certificatePath,
                             tr("A file with a certificate (PEM) that is trusted besides those of the system.")),
     };
@@ -163,9 +168,9 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
         return false;
 
     configuration->setDomain(domain);
-    // Without a host the library looks it up in the network, and uses the port only where no other one is found.
+    // Without a host it is looked up in the network, and the port is used only where no other one is found.
     configuration->setHost(server.isEmpty() && port != defaultPort ? domain : server);
-    configuration->setPort(port);
+    configuration->setPort(encryption == Direct && port == defaultPort ? directPort : port);
     configuration->setStreamSecurityMode(securityMode(encryption));
     configuration->setAutoReconnectionEnabled(false);
     configuration->setAutoAcceptSubscriptions(false);

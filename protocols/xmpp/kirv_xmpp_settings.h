@@ -21,9 +21,15 @@ class KirvXmppSettings {
     Q_DECLARE_TR_FUNCTIONS(KirvXmppSettings)
 
 public:
-    enum Encryption { Required, IfOffered, None };
+    enum Encryption {
+        Required, ///< STARTTLS, or direct TLS where the domain names such a server
+        IfOffered,
+        None,
+        Direct ///< TLS from the first byte
+    };
 
     static const int defaultPort = 5222;
+    static const int directPort = 5223; ///< takes the place of the default with direct TLS
 
     KirvXmppSettings() = default;
     /// Reads \a fields; what is missing keeps its default.

@@ -72,7 +72,9 @@ bool KirvProsodyServer::writeConfiguration()
         QStringLiteral("pidfile = %1").arg(quoted(home.filePath(QStringLiteral("prosody.pid")))),
         QStringLiteral("certificates = %1").arg(quoted(home.path())),
         QStringLiteral("interfaces = { %1 }").arg(quoted(host())),
-        QStringLiteral("c2s_ports = { %1 }").arg(port()),
+        QStringLiteral("c2s_ports = { %1 }").arg(options.encryptsAtOnce ? QString() : QString::number(port())),
+        QStringLiteral("c2s_direct_tls_ports = { %1 }")
+            .arg(options.encryptsAtOnce ? QString::number(port()) : QString()),
         QStringLiteral("modules_enabled = { %1 }").arg(quotedList(modules)),
         QStringLiteral("modules_disabled = { %1 }").arg(quotedList(options.disabledModules + QStringList("s2s"))),
         QStringLiteral("authentication = \"internal_plain\""),
