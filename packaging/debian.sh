@@ -6,7 +6,7 @@
 KIRV_BUILD_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqt5sql5-sqlite
-    libqxmpp-dev libcommuni-dev
+    libqxmpp-dev libidn-dev libcommuni-dev
     fonts-dejavu-core)
 # The private servers of the demo, the walk-through and the system tests.
 KIRV_SERVER_PACKAGES=(prosody ngircd openssl)

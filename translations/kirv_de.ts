@@ -243,6 +243,23 @@
         <source>An account needs a login.</source>
         <translation>Ein Konto braucht einen Anmeldenamen.</translation>
     </message>
+    <message>
+        <source>The accounts “%1” and “%2” (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
+        <extracomment>%1 and %2 are logins, %3 is the name of a protocol</extracomment>
+        <translation>Die Konten „%1“ und „%2“ (%3) sind für den Server dasselbe. Beide bleiben erhalten; entfernen Sie das, das nicht gebraucht wird.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The same is true of %n further logins.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) exists already: it is the same as &quot;%3&quot; to the server.</source>
+        <extracomment>%1 and %3 are two spellings of a login, %2 is the name of a protocol</extracomment>
+        <translation>Das Konto „%1“ (%2) gibt es schon: Für den Server ist es dasselbe wie „%3“.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
@@ -829,6 +846,11 @@
         <source>The server does not offer what was requested: %1</source>
         <extracomment>%1 is what was requested</extracomment>
         <translation>Der Server bietet das Angeforderte nicht an: %1</translation>
+    </message>
+    <message>
+        <source>Another client logged in to the account and took its place: %1</source>
+        <extracomment>%1 is what the server said</extracomment>
+        <translation>Ein anderer Client hat sich mit dem Konto angemeldet und seinen Platz eingenommen: %1</translation>
     </message>
 </context>
 <context>
@@ -1760,6 +1782,11 @@
         <source>Cl&amp;ose</source>
         <translation>S&amp;chließen</translation>
     </message>
+    <message>
+        <source>Reading the picture for “%1”…</source>
+        <extracomment>%1 = a caption</extracomment>
+        <translation>Das Bild für „%1“ wird gelesen…</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerCommands</name>
@@ -1875,14 +1902,17 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppAvatar</name>
+    <message>
+        <source>The picture of the account cannot be read.</source>
+        <translation>Das Bild des Kontos kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppConnection</name>
     <message>
         <source>The login must be an address such as user@domain.</source>
         <translation>Der Anmeldename muss eine Adresse wie name@domäne sein.</translation>
-    </message>
-    <message>
-        <source>The picture of the account cannot be read.</source>
-        <translation>Das Bild des Kontos kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The account is not connected.</source>
@@ -2147,6 +2177,23 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppRoute</name>
+    <message>
+        <source>servers refer to one another without end</source>
+        <translation>Server verweisen endlos aufeinander</translation>
+    </message>
+    <message>
+        <source>%1 starts with encryption at once. Choose direct TLS, or another port.</source>
+        <extracomment>%1 is a server and its port</extracomment>
+        <translation>%1 beginnt sofort mit Verschlüsselung. Wählen Sie direktes TLS oder einen anderen Port.</translation>
+    </message>
+    <message>
+        <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
+        <extracomment>%1 is a server and its port</extracomment>
+        <translation>%1 beginnt nicht sofort mit Verschlüsselung. Wählen Sie kein direktes TLS oder einen anderen Port.</translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppServerLink</name>
     <message>
         <source>the name is already in use</source>
@@ -2196,6 +2243,10 @@
         <source>the reply of the server is too large</source>
         <translation>die Antwort des Servers ist zu groß</translation>
     </message>
+    <message>
+        <source>it refers to a server without a name</source>
+        <translation>er verweist auf einen Server ohne Namen</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppSettings</name>
@@ -2204,16 +2255,8 @@
         <translation>Ressource</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Empty: the server chooses.</source>
-        <translation>Unterscheidet dieses Programm von Ihren anderen. Leer: Der Server wählt.</translation>
-    </message>
-    <message>
         <source>Priority</source>
         <translation>Priorität</translation>
-    </message>
-    <message>
-        <source>Messages go to the client with the highest priority.</source>
-        <translation>Nachrichten gehen an das Programm mit der höchsten Priorität.</translation>
     </message>
     <message>
         <source>Server</source>
@@ -2226,10 +2269,6 @@
     <message>
         <source>Port</source>
         <translation>Port</translation>
-    </message>
-    <message>
-        <source>Ordinarily %1.</source>
-        <translation>Gewöhnlich %1.</translation>
     </message>
     <message>
         <source>Encryption</source>
@@ -2279,6 +2318,22 @@
     <message>
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>Die Datei %1 enthält kein Zertifikat im PEM-Format.</translation>
+    </message>
+    <message>
+        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <translation>Unterscheidet diesen Client von Ihren anderen. Zufällige Zeichen treten an die Stelle eines *. Leer: Der Server wählt.</translation>
+    </message>
+    <message>
+        <source>Messages go to the client with the highest priority, and to none with a negative one. This client does not show messages.</source>
+        <translation>Nachrichten gehen an den Client mit der höchsten Priorität und an keinen mit einer negativen. Dieser Client zeigt keine Nachrichten.</translation>
+    </message>
+    <message>
+        <source>Ordinarily %1, and %2 with direct TLS.</source>
+        <translation>Gewöhnlich %1, und %2 mit direktem TLS.</translation>
+    </message>
+    <message>
+        <source>Required at once (direct TLS)</source>
+        <translation>Sofort verlangt (direktes TLS)</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #define KIRV_ACCOUNT_COLLECTION_H
 
 #include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_login_index.h"
 
 #include <QHash>
 #include <QList>
@@ -28,15 +29,16 @@ public:
     KirvAccount *find(const KirvAccountKey &key) const { return byKey.value(key); }
 
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
-    /// defaults. Null when the account exists, the protocol is not the loaded one, or the store refuses; then
-    /// creationRefused() is emitted, and lastError() says why.
+    /// defaults. Null when the account exists, also with another spelling of the login, the protocol is not the loaded
+    /// one, or the store refuses; then creationRefused() is emitted, and lastError() says why.
     KirvAccount *create(const KirvAccountRecord &record, KirvProtocol *protocol);
     /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
     bool remove(KirvAccount *account);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
     KirvAccount *load(KirvAccount *account);
 
-    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn.
+    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn. Accounts that
+    /// turn out to have the same login stay; problemOccurred() names them.
     void protocolLoaded(KirvProtocolBase *protocol, bool logIn = true);
     /// The protocol is about to be unloaded: its connections are closed and destroyed. The accounts stay.
     void protocolAboutToBeUnloaded(const QString &protocol);
@@ -77,12 +79,15 @@ private:
     KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
+    QString idWithSameLogin(const KirvAccountKey &key) const;
+    void reportTwins(const QString &protocol);
     void refuse(const QString &reason);
 
     KirvStore &store;
     QList<KirvAccount *> all;
     QHash<KirvAccountKey, KirvAccount *> byKey;
     QHash<QString, ProtocolAccounts> byProtocol;
+    KirvLoginIndex logins;
     QHash<QString, QPointer<KirvProtocolBase>> protocols;
     QString error;
 };

@@ -101,14 +101,14 @@ void KirvReconciler::reconcile()
     const Step step = nextStep(now, *target, urge);
     const bool leavesSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
     if (!leavesSession) { // an avatar is not published over a session that is not wanted any more
-        target->setAvatarPath(now.avatarPath);
+        target->setAvatar(now.avatar);
         if (!alive || !target || scheduled) // a slot has changed something
             return;
     }
     urge = None;
     take(step, now);
     if (leavesSession && alive && target)
-        target->setAvatarPath(now.avatarPath);
+        target->setAvatar(now.avatar);
     if (alive && target && (step == Nothing || step == ChangePresence))
         Q_EMIT settled();
 }

@@ -51,7 +51,7 @@ public:
     KirvLogin login;
     KirvPresence wanted;
     KirvPresence applied; ///< what the server received last
-    QString avatarPath;
+    KirvAvatar avatar;
     KirvBackOff backOff;
     bool aborting = false; ///< reports of the protocol are ignored meanwhile
     bool comesBack = false; ///< the log-out is followed by a log-in
@@ -323,17 +323,16 @@ QString KirvConnection::securityText() const
     return QString();
 }
 
-QString KirvConnection::avatarPath() const
+KirvAvatar KirvConnection::avatar() const
 {
-    return d->avatarPath;
+    return d->avatar;
 }
 
-void KirvConnection::setAvatarPath(const QString &path)
+void KirvConnection::setAvatar(const KirvAvatar &avatar)
 {
-    if (d->avatarPath == path)
-        return;
-    d->avatarPath = path;
-    if (d->state == Online)
+    const bool isNew = avatar.isChosen && (!d->avatar.isChosen || avatar.path != d->avatar.path);
+    d->avatar = avatar;
+    if (isNew && d->state == Online)
         publishAvatar();
 }
 

@@ -220,3 +220,19 @@ QString KirvIrcSettings::loginPattern()
 {
     return QLatin1String(nickPattern) + QLatin1String("(@[A-Za-z0-9.:-]+)?");
 }
+
+QString KirvIrcSettings::normalizedLogin(const QString &login)
+{
+    const QString upper = QStringLiteral("[]\\~"), lower = QStringLiteral("{}|^");
+    QString result = login;
+    bool isNick = true;
+    for (QChar &character : result) {
+        isNick = isNick && character != QLatin1Char('@');
+        const int index = isNick ? int(upper.indexOf(character)) : -1;
+        if (index >= 0)
+            character = lower.at(index);
+        else if (character >= QLatin1Char('A') && character <= QLatin1Char('Z'))
+            character = character.toLower();
+    }
+    return result;
+}
