@@ -250,9 +250,9 @@
     </message>
     <message numerus="yes">
         <source>The same is true of %n further logins.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Für %n weiteren Anmeldenamen gilt dasselbe.</numerusform>
+            <numerusform>Für %n weitere Anmeldenamen gilt dasselbe.</numerusform>
         </translation>
     </message>
     <message>
