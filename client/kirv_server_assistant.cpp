@@ -241,7 +241,7 @@ void KirvServerAssistant::showPictures()
     QList<KirvPictureReader::Source> sources;
     for (const KirvServerRequest::Picture &picture : qAsConst(step.pictures)) {
         //: %1 = a caption
-        list->addWidget(createPictureText(sources.size(), tr("Reading the picture for “%1”…").arg(picture.label)));
+        list->addWidget(createPictureText(sources.size(), tr("Reading the picture for \"%1\"…").arg(picture.label)));
         sources << KirvPictureReader::Source(picture.data, picture.label);
     }
     pictureList->setVisible(!sources.isEmpty());
@@ -261,7 +261,7 @@ void KirvServerAssistant::showPicture(int index, const KirvBoundedImage &picture
     QWidget *shown = nullptr;
     if (picture.isNull()) {
         //: %1 = a caption, %2 = an address
-        const QString problem = tr("There is a picture for “%1”, which cannot be shown: %2");
+        const QString problem = tr("There is a picture for \"%1\", which cannot be shown: %2");
         shown = createPictureText(index, problem.arg(source.label, source.address));
     } else {
         auto *label = new QLabel(pictureList);

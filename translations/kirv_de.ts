@@ -244,7 +244,7 @@
         <translation>Ein Konto braucht einen Anmeldenamen.</translation>
     </message>
     <message>
-        <source>The accounts “%1” and “%2” (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
+        <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
         <extracomment>%1 and %2 are logins, %3 is the name of a protocol</extracomment>
         <translation>Die Konten „%1“ und „%2“ (%3) sind für den Server dasselbe. Beide bleiben erhalten; entfernen Sie das, das nicht gebraucht wird.</translation>
     </message>
@@ -343,19 +343,19 @@
         <translation>Das Bild ist zu groß: %1 × %2 Bildpunkte. Bis zu %3 Millionen sind möglich.</translation>
     </message>
     <message>
-        <source>The file “%1” cannot be read.</source>
+        <source>The file &quot;%1&quot; cannot be read.</source>
         <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The file “%1” is too large. Up to %2 MB are possible.</source>
+        <source>The file &quot;%1&quot; is too large. Up to %2 MB are possible.</source>
         <translation>Die Datei „%1“ ist zu groß. Bis zu %2 MB sind möglich.</translation>
     </message>
     <message>
-        <source>The file “%1” is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
+        <source>The file &quot;%1&quot; is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
         <translation>Die Datei „%1“ ist kein brauchbares Bild. Möglich sind Bilder in den Formaten PNG, JPEG, GIF, BMP und WebP.</translation>
     </message>
     <message>
-        <source>The picture in the file “%1” is damaged.</source>
+        <source>The picture in the file &quot;%1&quot; is damaged.</source>
         <translation>Das Bild in der Datei „%1“ ist beschädigt.</translation>
     </message>
     <message>
@@ -904,11 +904,11 @@
 <context>
     <name>KirvIrcConnection</name>
     <message>
-        <source>There is no certificate in the file “%1”.</source>
+        <source>There is no certificate in the file &quot;%1&quot;.</source>
         <translation>In der Datei „%1“ ist kein Zertifikat.</translation>
     </message>
     <message>
-        <source>The nick “%1” could not be had; you are “%2” on this server now.</source>
+        <source>The nick &quot;%1&quot; could not be had; you are &quot;%2&quot; on this server now.</source>
         <translation>Der Spitzname „%1“ war nicht zu bekommen; Sie heißen auf diesem Server jetzt „%2“.</translation>
     </message>
     <message>
@@ -924,11 +924,11 @@
         <translation>Der Server hat eine Zeile gesendet, die länger ist, als Zeilen sein dürfen.</translation>
     </message>
     <message>
-        <source>There is no private key that can be used in the file “%1”.</source>
+        <source>There is no private key that can be used in the file &quot;%1&quot;.</source>
         <translation>Die Datei „%1“ enthält keinen privaten Schlüssel, der benutzt werden kann.</translation>
     </message>
     <message>
-        <source>Other users of this computer can read or change the key file “%1”. Only its owner should.</source>
+        <source>Other users of this computer can read or change the key file &quot;%1&quot;. Only its owner should.</source>
         <translation>Andere Benutzer dieses Rechners können die Schlüsseldatei „%1“ lesen oder ändern. Das sollte nur ihr Besitzer können.</translation>
     </message>
     <message>
@@ -987,7 +987,7 @@
 <context>
     <name>KirvIrcSettings</name>
     <message>
-        <source>“%1” cannot be a nick.</source>
+        <source>&quot;%1&quot; cannot be a nick.</source>
         <translation>„%1“ kann kein Spitzname sein.</translation>
     </message>
     <message>
@@ -995,7 +995,7 @@
         <translation>Es ist kein Server angegeben.</translation>
     </message>
     <message>
-        <source>“%1” is not the name of a server.</source>
+        <source>&quot;%1&quot; is not the name of a server.</source>
         <translation>„%1“ ist nicht der Name eines Servers.</translation>
     </message>
     <message>
@@ -1122,19 +1122,19 @@
 <context>
     <name>KirvLayoutCatalog</name>
     <message>
-        <source>“%1” is a %2, but must be a %3.</source>
+        <source>&quot;%1&quot; is a %2, but must be a %3.</source>
         <translation>„%1“ ist ein %2, muss aber ein %3 sein.</translation>
     </message>
     <message>
-        <source>There is no %1 named “%2”.</source>
+        <source>There is no %1 named &quot;%2&quot;.</source>
         <translation>Es gibt kein %1 mit dem Namen „%2“.</translation>
     </message>
     <message>
-        <source>“%1” has no standard button %2.</source>
+        <source>&quot;%1&quot; has no standard button %2.</source>
         <translation>„%1“ hat keinen Standardknopf %2.</translation>
     </message>
     <message>
-        <source>“%1” needs two tabs: the account and its directory entry.</source>
+        <source>&quot;%1&quot; needs two tabs: the account and its directory entry.</source>
         <translation>„%1“ braucht zwei Reiter: das Konto und seinen Verzeichniseintrag.</translation>
     </message>
     <message>
@@ -1175,7 +1175,7 @@
         <translation>Sie verbindet Bedienelemente miteinander, was nur das Programm tut.</translation>
     </message>
     <message>
-        <source>It has an element “%1”, which a layout cannot have.</source>
+        <source>It has an element &quot;%1&quot;, which a layout cannot have.</source>
         <translation>Sie hat ein Element „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
@@ -1183,7 +1183,7 @@
         <translation>Sie hat ein Attribut, das zu lang ist.</translation>
     </message>
     <message>
-        <source>“%1” is not the name of an icon.</source>
+        <source>&quot;%1&quot; is not the name of an icon.</source>
         <translation>„%1“ ist nicht der Name eines Symbols.</translation>
     </message>
     <message>
@@ -1191,7 +1191,7 @@
         <translation>Sie hat eine Zeile oder Spalte außerhalb der Grenzen: %1.</translation>
     </message>
     <message>
-        <source>It has a text of the format “%1”, which a layout cannot have.</source>
+        <source>It has a text of the format &quot;%1&quot;, which a layout cannot have.</source>
         <translation>Sie hat einen Text im Format „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
@@ -1199,15 +1199,15 @@
         <translation>Sie hat eine Zahl außerhalb der Grenzen: %1 (%2).</translation>
     </message>
     <message>
-        <source>It sets “%1” to a text, which a layout cannot do.</source>
+        <source>It sets &quot;%1&quot; to a text, which a layout cannot do.</source>
         <translation>Sie setzt „%1“ auf einen Text, was ein Layout nicht darf.</translation>
     </message>
     <message>
-        <source>Its style sheet contains “%1”, which a layout cannot have.</source>
+        <source>Its style sheet contains &quot;%1&quot;, which a layout cannot have.</source>
         <translation>Ihr Stylesheet enthält „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
-        <source>Style sheets and rich texts name pictures by their whole path, “%1” does not.</source>
+        <source>Style sheets and rich texts name pictures by their whole path, &quot;%1&quot; does not.</source>
         <translation>Stylesheets und formatierte Texte nennen Bilder mit ihrem vollen Pfad, „%1“ tut das nicht.</translation>
     </message>
     <message>
@@ -1215,11 +1215,11 @@
         <translation>Sie hat einen formatierten Text, der zu groß ist.</translation>
     </message>
     <message>
-        <source>There is no picture “%1”.</source>
+        <source>There is no picture &quot;%1&quot;.</source>
         <translation>Es gibt kein Bild „%1“.</translation>
     </message>
     <message>
-        <source>The picture “%1” is not in the folder of the layout.</source>
+        <source>The picture &quot;%1&quot; is not in the folder of the layout.</source>
         <translation>Das Bild „%1“ liegt nicht im Ordner des Layouts.</translation>
     </message>
     <message>
@@ -1770,7 +1770,7 @@
         <translation>&amp;Zurück</translation>
     </message>
     <message>
-        <source>There is a picture for “%1”, which cannot be shown: %2</source>
+        <source>There is a picture for &quot;%1&quot;, which cannot be shown: %2</source>
         <extracomment>%1 = a caption, %2 = an address</extracomment>
         <translation>Zu „%1“ gibt es ein Bild, das nicht gezeigt werden kann: %2</translation>
     </message>
@@ -1783,7 +1783,7 @@
         <translation>S&amp;chließen</translation>
     </message>
     <message>
-        <source>Reading the picture for “%1”…</source>
+        <source>Reading the picture for &quot;%1&quot;…</source>
         <extracomment>%1 = a caption</extracomment>
         <translation>Das Bild für „%1“ wird gelesen…</translation>
     </message>
@@ -2112,11 +2112,11 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>“%1” must be filled in.</source>
+        <source>&quot;%1&quot; must be filled in.</source>
         <translation>„%1“ muss ausgefüllt werden.</translation>
     </message>
     <message>
-        <source>“%1” holds characters that cannot be sent.</source>
+        <source>&quot;%1&quot; holds characters that cannot be sent.</source>
         <translation>„%1“ enthält Zeichen, die nicht gesendet werden können.</translation>
     </message>
 </context>

@@ -92,9 +92,10 @@ void KirvAccountCollection::reportTwins(const QString &protocol)
         return;
     const QString first = groups.first().at(0), second = groups.first().at(1);
     //: %1 and %2 are logins, %3 is the name of a protocol
-    QString text = tr("The accounts “%1” and “%2” (%3) are the same to the server. Both are kept; remove the one that "
-                      "is not needed.")
-                       .arg(first, second, protocol);
+    QString text =
+        tr("The accounts \"%1\" and \"%2\" (%3) are the same to the server. Both are kept; remove the one that "
+           "is not needed.")
+            .arg(first, second, protocol);
     if (groups.size() > 1)
         text += QLatin1Char('\n') + tr("The same is true of %n further logins.", nullptr, int(groups.size()) - 1);
     Q_EMIT problemOccurred(text);

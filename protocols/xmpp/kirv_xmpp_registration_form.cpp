@@ -262,9 +262,9 @@ QString KirvXmppRegistrationForm::problem(const QList<KirvField> &filled) const
     for (const KirvField &field : filled) {
         const QString name = field.getLabel().isEmpty() ? field.getId() : field.getLabel();
         if (field.isRequired() && isBlank(field))
-            return tr("“%1” must be filled in.").arg(name);
+            return tr("\"%1\" must be filled in.").arg(name);
         if (!kirvXmppIsSendable(field.getText()))
-            return tr("“%1” holds characters that cannot be sent.").arg(name);
+            return tr("\"%1\" holds characters that cannot be sent.").arg(name);
     }
     return QString();
 }
