@@ -21,7 +21,7 @@ KirvXmppConnection::KirvXmppConnection(KirvClock &clock, QObject *parent, KirvXm
 
 KirvXmppConnection::~KirvXmppConnection()
 {
-    abortConnection();
+    KirvXmppConnection::abortConnection(); // no other one: derived classes are gone
 }
 
 void KirvXmppConnection::startLogin(const KirvPresence &presence)
