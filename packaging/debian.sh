@@ -103,7 +103,7 @@ require_space() {
         die "the disk of $1 has $free MB free; $3 take up to $2 MB."
 }
 
-# build_preset NAME [TARGET...]: configures (the first time) and builds a preset of CMakePresets.json into build/NAME.
+# build_preset NAME [TARGET...]: configures and builds a preset of CMakePresets.json into build/NAME.
 # The output goes to build/logs; of a failure its end is shown.
 build_preset() {
     local preset=$1 log started=$SECONDS
@@ -111,7 +111,7 @@ build_preset() {
     mkdir -p build/logs
     log=build/logs/$preset.log
     say "Building build/$preset ..."
-    if { { [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+    if { { [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"; } &&
         cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
         say "Built build/$preset in $((SECONDS - started)) s."
     else
