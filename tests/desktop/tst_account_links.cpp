@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -26,6 +27,7 @@ private Q_SLOTS:
 
     void linkIsRead_data();
     void linkIsRead();
+    void schemesOfTheDesktopEntryAreLinks();
     void otherTextsAreNoLinks_data();
     void otherTextsAreNoLinks();
 
@@ -120,6 +122,19 @@ void tst_AccountLinks::linkIsRead()
     QVERIFY(!link.isNull());
     QTEST(link.protocol, "protocol");
     QTEST(link.login, "login");
+}
+
+void tst_AccountLinks::schemesOfTheDesktopEntryAreLinks()
+{
+    QFile entry(QStringLiteral(KIRV_DESKTOP_FILE));
+    QVERIFY(entry.open(QIODevice::ReadOnly));
+    QRegularExpressionMatchIterator scheme = QRegularExpression(QStringLiteral("x-scheme-handler/([^;\n]*)"))
+                                                 .globalMatch(QString::fromUtf8(entry.readAll()));
+    QVERIFY(scheme.hasNext());
+    while (scheme.hasNext()) {
+        const QString link = scheme.next().captured(1) + QStringLiteral("://ann@example.org");
+        QVERIFY2(!KirvAccountLink::fromText(link).isNull(), qPrintable(link));
+    }
 }
 
 void tst_AccountLinks::otherTextsAreNoLinks_data()
