@@ -75,11 +75,11 @@ void classify(KirvAccountRecord &record, const QList<KirvField> &fields)
 
 } // namespace
 
-KirvAccount::KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent)
+KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAccountRecord &record, QObject *parent)
     : QObject(parent)
     , profile(store)
     , current(record)
-    , reconciler([this] { return wanted(); })
+    , reconciler([this] { return wanted(); }, logins)
 {
     refreshDescription();
     connect(&reconciler, &KirvReconciler::settled, &entry, &KirvAccountDirectory::connectionSettled);
@@ -426,6 +426,10 @@ void KirvAccount::connectConnection(KirvConnection *created)
     connect(created, &KirvConnection::failed, this, &KirvAccount::onFailed);
     connect(created, &KirvConnection::avatarPublished, this, &KirvAccount::onAvatarPublished);
     connect(created, &KirvConnection::avatarReceived, this, &KirvAccount::onAvatarReceived);
+    connect(created, &KirvConnection::turnAwaited, this, [this] {
+        if (!removed)
+            Q_EMIT changed();
+    });
     connect(created, &KirvConnection::noticeReceived, this, [this](const QString &text) {
         if (!removed)
             Q_EMIT noticeReceived(text);

@@ -30,8 +30,8 @@ class KirvAccount : public QObject, public KirvAccountConnection {
     Q_OBJECT
 
 public:
-    /// \a store is not owned and outlives the account; \a record is stored in it.
-    KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent = nullptr);
+    /// \a store and \a logins are not owned and outlive the account; \a record is stored in the store.
+    KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAccountRecord &record, QObject *parent = nullptr);
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -46,6 +47,24 @@ QList<KirvAccountInfo *> KirvAccountCollection::descriptionsOf(const QString &pr
     return byProtocol.value(protocol).infos;
 }
 
+void KirvAccountCollection::setMainAccount(std::function<KirvAccount *()> newMainAccount)
+{
+    mainAccount = std::move(newMainAccount);
+    queue.setMainConnection([this]() -> const KirvConnection * {
+        const KirvAccount *account = mainAccount ? mainAccount() : nullptr;
+        return account ? account->connection() : nullptr;
+    });
+}
+
+/// \a accounts with the main account in front when it is among them.
+QList<KirvAccount *> KirvAccountCollection::mainFirst(QList<KirvAccount *> accounts) const
+{
+    const int index = mainAccount ? int(accounts.indexOf(mainAccount())) : -1;
+    if (index > 0)
+        accounts.move(index, 0);
+    return accounts;
+}
+
 void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logIn)
 {
     const QString name = protocol->getName();
@@ -72,7 +91,7 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
     store.classifySettings(name, QSet<QString>(settings.begin(), settings.end()),
                            kirvSecretFields(protocol->accountSettings()));
 
-    for (const QPointer<KirvAccount> &account : guarded(accountsOf(name))) {
+    for (const QPointer<KirvAccount> &account : guarded(mainFirst(accountsOf(name)))) {
         if (!alive || !loaded || protocols.value(name) != loaded)
             return;
         if (account)
@@ -157,7 +176,7 @@ void KirvAccountCollection::logOutAll(int milliseconds)
 
 KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
-    auto *account = new KirvAccount(store, record, this);
+    auto *account = new KirvAccount(store, queue, record, this);
     all.append(account);
     byKey.insert(record.key, account);
     logins.insert(record.key);
@@ -232,6 +251,7 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
     account->load(known, true);
+    account->tryAgain(); // the user has just made it: it does not wait behind the others
     Q_EMIT accountAdded(account);
     return alive && account && byKey.value(record.key) == account ? account.data() : nullptr;
 }

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <functional>
 
 /// Every configured account, over a store.
 ///
@@ -36,6 +37,11 @@ public:
     bool remove(KirvAccount *account);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
     KirvAccount *load(KirvAccount *account);
+
+    /// \a mainAccount is called for the account that logs in before the others; its result may be null.
+    void setMainAccount(std::function<KirvAccount *()> mainAccount);
+    /// Where the accounts have their turns to log in.
+    KirvLoginQueue &loginQueue() { return queue; }
 
     /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn. Accounts that
     /// turn out to have the same login stay; problemOccurred() names them.
@@ -73,6 +79,7 @@ private:
     };
 
     KirvAccount *append(const KirvAccountRecord &record);
+    QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
     QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
@@ -84,6 +91,8 @@ private:
     void refuse(const QString &reason);
 
     KirvStore &store;
+    KirvLoginQueue queue;
+    std::function<KirvAccount *()> mainAccount;
     QList<KirvAccount *> all;
     QHash<KirvAccountKey, KirvAccount *> byKey;
     QHash<QString, ProtocolAccounts> byProtocol;

@@ -21,6 +21,7 @@ KirvHostServices::KirvHostServices(KirvAccountCollection &accounts, KirvPluginLo
     KirvAccountManagerPrivate::ampInstance = this;
     KirvPluginManagerPrivate::instance = this;
     KirvSettingsManagerPrivate::settingsMgrPrivInstance = this;
+    accounts.setMainAccount([this] { return static_cast<KirvAccount *>(mainAccount); });
     connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this, [this](KirvAccount *account) {
         if (mainAccount == account)
             mainAccount = nullptr;
@@ -29,6 +30,7 @@ KirvHostServices::KirvHostServices(KirvAccountCollection &accounts, KirvPluginLo
 
 KirvHostServices::~KirvHostServices()
 {
+    accounts.setMainAccount(nullptr);
     if (present != this)
         return;
     present = nullptr;

@@ -30,6 +30,8 @@
 /// Reports that come too late, after drop() or a time-out say, are ignored. Slots may do with the connection what they
 /// like, also destroy it. Destroying it emits nothing and answers no request; drop() it first where a request is
 /// outstanding. The protocol's destructor closes what is open.
+///
+/// Whoever has many connections can make each wait for its turn before it starts to log in: setLoginGate().
 class KIRV_PROTOCOL_EXPORT KirvConnection : public QObject {
     Q_OBJECT
 
@@ -54,7 +56,9 @@ public:
     bool isLoggedIn() const; ///< state() is Online
     QDateTime since() const; ///< when the state was entered
     KirvFailure lastFailure() const; ///< of the last attempt; None after a success
-    QDateTime nextRetry() const; ///< when Waiting ends; invalid otherwise
+    QDateTime nextRetry() const; ///< when the next attempt is due; invalid when it waits for its turn, or for nothing
+    /// Whether the state is Waiting and what it waits for is beginLogin().
+    bool isWaitingForTurn() const;
 
     Timing timing() const;
     void setTiming(const Timing &timing);
@@ -78,6 +82,15 @@ public:
     /// The server has changed the password of the account to \a password: the session goes on with it.
     void acceptPassword(const QString &password);
 
+    /// \a mayBegin is called each time before a log-in starts, also one that follows a log-out or a failure. When its
+    /// result is false the connection is Waiting until beginLogin(), or until it is not to log in any more. Null: every
+    /// log-in starts at once. It must neither change nor destroy the connection.
+    void setLoginGate(std::function<bool()> mayBegin);
+    /// Starts the log-in that waits for its turn; does nothing when there is none.
+    void beginLogin();
+    /// \a random gives the numbers from 0 to 1 that make waits longer or shorter by chance; null: the usual ones.
+    void setRandomSource(std::function<double()> random);
+
     /// Whether \a presence means being logged out; for most protocols the one with the id "offline".
     virtual bool isOfflinePresence(const KirvPresence &presence) const;
 
@@ -99,6 +112,8 @@ public:
 
 Q_SIGNALS:
     void stateChanged(KirvConnection::State state);
+    /// The wait for the next attempt has become one for its turn; the state stays Waiting.
+    void turnAwaited();
     /// A log-in, the connection or a request without an answer of its own failed.
     void failed(const KirvFailure &failure);
     void directoryAnswered(const KirvDirectoryAnswer &answer);

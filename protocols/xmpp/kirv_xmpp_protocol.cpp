@@ -7,6 +7,7 @@
 #include "protocols/xmpp/kirv_xmpp_password_request.h"
 #include "protocols/xmpp/kirv_xmpp_registration_request.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
+#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
 static void initializeResources()
@@ -25,6 +26,7 @@ KirvXmppProtocol::KirvXmppProtocol(QObject *parent)
     : KirvProtocolBase(parent)
 {
     initializeResources();
+    KirvXmppSystemCertificates::prepareEncryption();
 }
 
 QString KirvXmppProtocol::getName()

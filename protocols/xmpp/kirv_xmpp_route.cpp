@@ -151,14 +151,13 @@ void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
 
 void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
 {
-    if (isGreeted || hasArrived || !failure.isFailure())
+    const bool wasReached = isGreeted || hasArrived || !failure.isFailure();
+    if (wasReached || (isUnreachable(failure) && targets.isEmpty()))
         end(failure);
-    else if (!isUnreachable(failure))
-        explainEnd(failure);
-    else if (targets.isEmpty())
-        end(failure);
-    else
+    else if (isUnreachable(failure))
         tryNext();
+    else
+        explainEnd(failure);
 }
 
 /// The server goes on being waited for where there is no other one.

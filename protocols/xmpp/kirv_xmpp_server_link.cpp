@@ -3,6 +3,7 @@
 
 #include "protocols/xmpp/kirv_xmpp_features.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
+#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QByteArrayList>
@@ -189,7 +190,15 @@ void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXm
     isEncrypted = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
     if (isEncrypted)
         startWithEncryption();
-    client.connectToServer(configuration, presence);
+    if (configuration.caCertificates().isEmpty()) // the library looks up those of the system that it needs
+        return client.connectToServer(configuration, presence);
+    KirvXmppSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
+        if (hasEnded || isClosing)
+            return;
+        QXmppConfiguration complete = configuration;
+        complete.setCaCertificates(ofSystem + configuration.caCertificates());
+        client.connectToServer(complete, presence);
+    });
 }
 
 /// The library would open the stream twice, also as soon as the socket is connected, and servers refuse that.

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QRandomGenerator>
 #include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QXmppConfiguration.h>
 
 namespace {
@@ -176,8 +175,7 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
     configuration->setAutoAcceptSubscriptions(false);
     configuration->setUseNonSASLAuthentication(false);
     configuration->setIgnoreSslErrors(false);
-    if (!certificates.isEmpty())
-        configuration->setCaCertificates(QSslConfiguration::systemCaCertificates() + certificates);
+    configuration->setCaCertificates(certificates);
     return true;
 }
 

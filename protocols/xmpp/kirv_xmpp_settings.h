@@ -59,8 +59,8 @@ public:
     static QList<KirvField> configurationFields(const QString &name);
     static QString loginPattern();
 
-    /// Writes the settings for a server of \a domain into \a configuration. False with a sentence in \a problem
-    /// when they cannot be used.
+    /// Writes the settings for a server of \a domain into \a configuration, whose certificates are those that are
+    /// trusted besides the system's. False with a sentence in \a problem when they cannot be used.
     bool apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const;
 
 private:
