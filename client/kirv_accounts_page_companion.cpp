@@ -2,9 +2,14 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_name_delegate.h"
+#include "client/kirv_account_list_frame.h"
+#include "client/kirv_account_row_delegate.h"
+#include "client/kirv_account_row_states.h"
+#include "client/kirv_account_rows.h"
+#include "client/kirv_account_strip.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "host/kirv_account_manager.h"
 
 #include <QCoreApplication>
 #include <QItemSelectionModel>
@@ -15,16 +20,16 @@
 
 #include <utility>
 
-namespace {
-enum Column { AliasColumn, ProtocolColumn, IdColumn };
-}
-
 KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts)
     : QObject(top)
     , accounts(accounts)
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
+    , rows(new KirvAccountRows(list))
+    , states(new KirvAccountRowStates(accounts, *rows, list))
+    , strip(new KirvAccountStrip)
 {
-    list->setItemDelegate(new KirvNameDelegate(list));
+    list->setItemDelegate(new KirvAccountRowDelegate(accounts, list));
+    addStrip();
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
@@ -37,6 +42,57 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
 }
 
 KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
+
+void KirvAccountsPageCompanion::addStrip()
+{
+    auto *frame = new KirvAccountListFrame(list);
+    frame->addBelow(strip);
+    strip->chooseMnemonics();
+    // The selection model's signals come also while those of the list are blocked.
+    connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &KirvAccountsPageCompanion::refreshStripLater);
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
+        if (account == currentAccount())
+            refreshStripLater();
+    });
+    connect(strip, &KirvAccountStrip::passwordRequested, this, [this] {
+        if (KirvAccount *account = currentAccount())
+            emit passwordRequested(account);
+    });
+    connect(strip, &KirvAccountStrip::reconnectionRequested, this, [this] {
+        if (KirvAccount *account = currentAccount())
+            account->reconnect();
+    });
+    connect(strip, &KirvAccountStrip::editRequested, this, [this] {
+        KirvAccount *account = currentAccount();
+        if (account && account->isLoaded())
+            KirvAccountsTab::getInstance()->editAccount(account);
+    });
+}
+
+void KirvAccountsPageCompanion::refreshStripLater()
+{
+    if (!std::exchange(isStripDue, true))
+        QMetaObject::invokeMethod(this, &KirvAccountsPageCompanion::refreshStrip, Qt::QueuedConnection);
+}
+
+void KirvAccountsPageCompanion::refreshStrip()
+{
+    isStripDue = false;
+    const KirvAccount *account = currentAccount();
+    strip->show(account, account && account == KirvAccountManager::getInstance()->getMainAccount());
+}
+
+void KirvAccountsPageCompanion::mainAccountChanged()
+{
+    states->mainAccountChanged();
+    refreshStripLater();
+}
+
+KirvAccount *KirvAccountsPageCompanion::currentAccount() const
+{
+    return accounts.find(current());
+}
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:
 /// the kept ones make room, so that each account stands there once.
@@ -63,7 +119,7 @@ void KirvAccountsPageCompanion::protocolUnloaded(const QString &protocol)
 /// The page takes the row of an account away after each attempt to remove the account.
 void KirvAccountsPageCompanion::keepRow(const KirvAccount *account)
 {
-    QTreeWidgetItem *row = find(account->key());
+    QTreeWidgetItem *row = rows->find(account->key());
     if (!row)
         return;
     keptRows.push_back({ std::unique_ptr<QTreeWidgetItem>(row->clone()), list->indexOfTopLevelItem(row),
@@ -113,8 +169,8 @@ void KirvAccountsPageCompanion::syncRows()
     isSyncDue = false;
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
     for (KeptRow &row : std::exchange(keptRows, {})) {
-        const KirvAccountKey key = keyOf(row.copy.get());
-        if (accounts.find(key) && !find(key))
+        const KirvAccountKey key = KirvAccountRows::keyOf(row.copy.get());
+        if (accounts.find(key) && !rows->find(key))
             putBack(std::move(row));
     }
     const QList<KirvAccountKey> keys = std::exchange(unsynced, {});
@@ -122,7 +178,7 @@ void KirvAccountsPageCompanion::syncRows()
         KirvAccount *account = accounts.find(key);
         if (!account)
             remove(key);
-        else if (account->isLoaded() && !find(key))
+        else if (account->isLoaded() && !rows->find(key))
             page->addAccountEntry(account);
     }
     // Also while the page is hidden: its selector must not keep accounts that are gone.
@@ -133,14 +189,14 @@ void KirvAccountsPageCompanion::syncRows()
 /// neighbour.
 void KirvAccountsPageCompanion::remove(const KirvAccountKey &key)
 {
-    if (QTreeWidgetItem *row = find(key))
+    if (QTreeWidgetItem *row = rows->find(key))
         takeAway(row);
 }
 
 void KirvAccountsPageCompanion::removeAll(const QString &protocol)
 {
-    const QList<QTreeWidgetItem *> rows = rowsOf(protocol);
-    for (QTreeWidgetItem *row : rows)
+    const QList<QTreeWidgetItem *> removed = rows->rowsOf(protocol);
+    for (QTreeWidgetItem *row : removed)
         takeAway(row);
 }
 
@@ -150,9 +206,9 @@ void KirvAccountsPageCompanion::markUnloaded(const QString &protocol)
     const QBrush grey = list->palette().brush(QPalette::Disabled, QPalette::Text);
     const QString reason = QCoreApplication::translate(
         "KirvAccountsPageCompanion", "The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.");
-    const QList<QTreeWidgetItem *> rows = rowsOf(protocol);
-    for (QTreeWidgetItem *row : rows) {
-        for (int column : { AliasColumn, ProtocolColumn }) {
+    const QList<QTreeWidgetItem *> removed = rows->rowsOf(protocol);
+    for (QTreeWidgetItem *row : removed) {
+        for (int column : { KirvAliasColumn, KirvProtocolColumn }) {
             row->setForeground(column, grey);
             row->setToolTip(column, kirvPlainToolTip(reason.arg(protocol)));
         }
@@ -162,34 +218,13 @@ void KirvAccountsPageCompanion::markUnloaded(const QString &protocol)
 KirvAccountKey KirvAccountsPageCompanion::current() const
 {
     const QTreeWidgetItem *row = list->currentItem();
-    return row ? keyOf(row) : KirvAccountKey();
+    return row ? KirvAccountRows::keyOf(row) : KirvAccountKey();
 }
 
 void KirvAccountsPageCompanion::setCurrent(const KirvAccountKey &key)
 {
-    if (QTreeWidgetItem *row = find(key))
+    if (QTreeWidgetItem *row = rows->find(key))
         list->setCurrentItem(row);
-}
-
-KirvAccountKey KirvAccountsPageCompanion::keyOf(const QTreeWidgetItem *row)
-{
-    return { row->text(IdColumn), row->text(ProtocolColumn) };
-}
-
-QTreeWidgetItem *KirvAccountsPageCompanion::find(const KirvAccountKey &key) const
-{
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *row = list->topLevelItem(i);
-        if (keyOf(row) == key)
-            return row;
-    }
-    return nullptr;
-}
-
-QList<QTreeWidgetItem *> KirvAccountsPageCompanion::rowsOf(const QString &protocol) const
-{
-    // Qt compares case-insensitively by default; names of protocols may differ in case only.
-    return list->findItems(protocol, Qt::MatchExactly | Qt::MatchCaseSensitive, ProtocolColumn);
 }
 
 void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
@@ -197,7 +232,7 @@ void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
     // Left alone, the view would make and select a neighbour as the current row.
     const bool wasChosen = row->isSelected() || row == list->currentItem();
     if (wasChosen) {
-        list->setCurrentItem(nullptr, AliasColumn, QItemSelectionModel::NoUpdate);
+        list->setCurrentItem(nullptr, KirvAliasColumn, QItemSelectionModel::NoUpdate);
         list->clearSelection();
     }
     delete row;

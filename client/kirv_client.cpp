@@ -150,6 +150,8 @@ void KirvClient::createWindow()
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
     connect(connections, &KirvConnectionView::editRequested, this, &KirvClient::edit);
     connect(connections, &KirvConnectionView::passwordRequested, passwordQuestions, &KirvPasswordQuestions::ask);
+    connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
+            &KirvPasswordQuestions::ask);
 }
 
 void KirvClient::connectServices()
@@ -225,6 +227,8 @@ void KirvClient::mainAccountChanged()
 {
     updateTitle();
     connections->refreshMainAccount();
+    if (companions->page())
+        companions->page()->mainAccountChanged();
 }
 
 void KirvClient::updateTitle()
