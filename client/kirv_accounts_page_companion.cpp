@@ -2,20 +2,25 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_strip.h"
+#include "client/kirv_main_account_selector.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_account_manager.h"
+#include "host/kirv_plugin_manager.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QPalette>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <utility>
@@ -27,9 +32,26 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     , rows(new KirvAccountRows(list))
     , states(new KirvAccountRowStates(accounts, *rows, list))
     , strip(new KirvAccountStrip)
+    , invitation(new KirvAccountInvitation)
+    , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
     list->setItemDelegate(new KirvAccountRowDelegate(accounts, list));
-    addStrip();
+    auto *frame = new KirvAccountListFrame(list);
+    frame->addBelow(strip);
+    frame->addBelow(invitation);
+    strip->chooseMnemonics();
+    invitation->chooseMnemonics();
+    invitation->hide();
+    connectStrip();
+    connect(invitation, &KirvAccountInvitation::registrationRequested, this, [] {
+        KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("register_account"), QList<KirvArg>());
+    });
+    if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
+        new KirvMainAccountSelector(selector);
+    invite();
+    // The page gives the button its menu after this.
+    QMetaObject::invokeMethod(
+        this, [this] { invitation->setAddMenu(addButton->menu()); }, Qt::QueuedConnection);
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
@@ -43,11 +65,26 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
 
 KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
 
-void KirvAccountsPageCompanion::addStrip()
+/// Shows the invitation while there is no account, and otherwise the list.
+void KirvAccountsPageCompanion::invite()
 {
-    auto *frame = new KirvAccountListFrame(list);
-    frame->addBelow(strip);
-    strip->chooseMnemonics();
+    const bool isEmpty = accounts.accounts().isEmpty();
+    if (list->isHidden() == isEmpty)
+        return;
+    const QWidget *focused = list->window()->focusWidget();
+    const bool hadFocus =
+        focused && (focused == list || strip->isAncestorOf(focused) || invitation->isAncestorOf(focused));
+    list->setVisible(!isEmpty);
+    strip->setVisible(!isEmpty);
+    invitation->setVisible(isEmpty);
+    if (hadFocus && isEmpty)
+        invitation->takeFocus();
+    else if (hadFocus)
+        list->setFocus(Qt::OtherFocusReason);
+}
+
+void KirvAccountsPageCompanion::connectStrip()
+{
     // The selection model's signals come also while those of the list are blocked.
     connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &KirvAccountsPageCompanion::refreshStripLater);
@@ -181,6 +218,7 @@ void KirvAccountsPageCompanion::syncRows()
         else if (account->isLoaded() && !rows->find(key))
             page->addAccountEntry(account);
     }
+    invite();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
 }

@@ -11,9 +11,11 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountInvitation;
 class KirvAccountRows;
 class KirvAccountRowStates;
 class KirvAccountStrip;
+class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 class QWidget;
@@ -56,7 +58,8 @@ private:
         int scrollValue;
     };
 
-    void addStrip();
+    void connectStrip();
+    void invite();
     void refreshStripLater();
     void refreshStrip();
 
@@ -78,6 +81,8 @@ private:
     KirvAccountRows *rows;
     KirvAccountRowStates *states;
     KirvAccountStrip *strip;
+    KirvAccountInvitation *invitation;
+    QToolButton *addButton;
     std::vector<KeptRow> keptRows;
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
     bool isSyncDue = false;
