@@ -56,6 +56,11 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
             [this](const KirvAccount *account) { syncRowLater(account->key()); });
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
+        const QTreeWidgetItem *row = rows->find(account->key());
+        if (row && row->text(KirvAliasColumn) != account->getAlias())
+            syncRowLater(account->key());
+    });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
             [this](const QString &id, const QString &protocol) {
                 syncRowLater({ id, protocol });
@@ -124,6 +129,7 @@ void KirvAccountsPageCompanion::mainAccountChanged()
 {
     states->mainAccountChanged();
     refreshStripLater();
+    refreshLater(); // for the selector
 }
 
 KirvAccount *KirvAccountsPageCompanion::currentAccount() const
@@ -215,12 +221,21 @@ void KirvAccountsPageCompanion::syncRows()
         KirvAccount *account = accounts.find(key);
         if (!account)
             remove(key);
-        else if (account->isLoaded() && !rows->find(key))
+        else if (rows->find(key))
+            updateAlias(account);
+        else if (account->isLoaded())
             page->addAccountEntry(account);
     }
     invite();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
+}
+
+/// A new alias that another part of the program gave.
+void KirvAccountsPageCompanion::updateAlias(const KirvAccount *account)
+{
+    const QSignalBlocker noItemChanged(list);
+    rows->find(account->key())->setText(KirvAliasColumn, account->getAlias());
 }
 
 /// A row that was current leaves no current row behind: an open question about it must not become one about its

@@ -39,7 +39,7 @@ public:
     void protocolUnloaded(const QString &protocol);
     /// Makes the page show again, from the event loop, what is stored: a change that it shows was refused.
     void refreshLater();
-    /// Another account may have become the main account.
+    /// Another account may have become the main account: the rows say so, and the page is refreshed.
     void mainAccountChanged();
     /// The account of the current row; null when there is none.
     KirvAccount *currentAccount() const;
@@ -68,6 +68,7 @@ private:
     void syncRowLater(const KirvAccountKey &key);
     void syncRows();
 
+    void updateAlias(const KirvAccount *account);
     void remove(const KirvAccountKey &key);
     void removeAll(const QString &protocol);
     void markUnloaded(const QString &protocol);

@@ -57,6 +57,7 @@ KirvClient::~KirvClient()
     accountCollection->logOutAll(logOutMilliseconds);
     // Nothing is emitted from now on: the window is destroyed first, the protocols and the store follow.
     accountCollection->disconnect(this);
+    services->mainAccountRule.disconnect(this);
     pluginLoader->disconnect(this);
     clientSettings->disconnect(this);
     layouts->disconnect(this);
@@ -74,7 +75,7 @@ bool KirvClient::start()
     createWindow();
     connectServices();
     kirvAfterFirstPaint(settingsWindow.get(), [this] { loadPlugins(); });
-    services->restoreMainAccount();
+    services->mainAccountRule.restore();
     mainAccountChanged();
     return true;
 }
@@ -156,7 +157,8 @@ void KirvClient::createWindow()
 
 void KirvClient::connectServices()
 {
-    connect(accountCollection.get(), &KirvAccountCollection::accountRemoved, this, &KirvClient::mainAccountChanged);
+    connect(&services->mainAccountRule, &KirvMainAccount::changed, this, &KirvClient::mainAccountChanged);
+    connect(&services->mainAccountRule, &KirvMainAccount::passedOn, this, &KirvClient::mainAccountPassedOn);
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
@@ -229,6 +231,16 @@ void KirvClient::mainAccountChanged()
     connections->refreshMainAccount();
     if (companions->page())
         companions->page()->mainAccountChanged();
+}
+
+void KirvClient::mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next)
+{
+    const QString text = reason == KirvMainAccount::Removed
+        //: %1 and %2 = names of accounts
+        ? tr("%1 is the main account now, because %2 was removed.")
+        //: %1 and %2 = names of accounts
+        : tr("%1 is the main account now, because %2 was disabled.");
+    showProblem(text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous)));
 }
 
 void KirvClient::updateTitle()

@@ -4,10 +4,12 @@
 
 #include <QObject>
 
+class KirvAccount;
 class QComboBox;
 
 /// Corrects the page's selector of the main account after each of its refreshes, without a change that the page takes
-/// for a choice of the user: the selector is disabled while it offers nothing.
+/// for a choice of the user: the selector is disabled while it offers nothing, shows the main account or, when that is
+/// not offered, names it without an entry, and offers an account without an alias under its login.
 class KirvMainAccountSelector : public QObject {
     Q_OBJECT
 
@@ -18,6 +20,8 @@ public:
 private:
     void correctLater();
     void correct();
+    void nameEntries();
+    int entryOf(const KirvAccount *account) const;
 
     QComboBox *box;
     bool isDue = false;
