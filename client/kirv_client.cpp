@@ -60,6 +60,7 @@ KirvClient::~KirvClient()
     accountCollection->logOutAll(logOutMilliseconds);
     // Nothing is emitted from now on: the window is destroyed first, the protocols and the store follow.
     accountCollection->disconnect(this);
+    services->mainAccountRule.disconnect(this);
     pluginLoader->disconnect(this);
     clientSettings->disconnect(this);
     layouts->disconnect(this);
@@ -77,7 +78,7 @@ bool KirvClient::start()
     createWindow();
     connectServices();
     kirvAfterFirstPaint(settingsWindow.get(), [this] { loadPlugins(); });
-    services->restoreMainAccount();
+    services->mainAccountRule.restore();
     mainAccountChanged();
     return true;
 }
@@ -153,11 +154,14 @@ void KirvClient::createWindow()
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
     connect(connections, &KirvConnectionView::editRequested, this, &KirvClient::edit);
     connect(connections, &KirvConnectionView::passwordRequested, passwordQuestions, &KirvPasswordQuestions::ask);
+    connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
+            &KirvPasswordQuestions::ask);
 }
 
 void KirvClient::connectServices()
 {
-    connect(accountCollection.get(), &KirvAccountCollection::accountRemoved, this, &KirvClient::mainAccountChanged);
+    connect(&services->mainAccountRule, &KirvMainAccount::changed, this, &KirvClient::mainAccountChanged);
+    connect(&services->mainAccountRule, &KirvMainAccount::passedOn, this, &KirvClient::mainAccountPassedOn);
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
@@ -239,6 +243,18 @@ void KirvClient::mainAccountChanged()
 {
     updateTitle();
     connections->refreshMainAccount();
+    if (companions->page())
+        companions->page()->mainAccountChanged();
+}
+
+void KirvClient::mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next)
+{
+    const QString text = reason == KirvMainAccount::Removed
+        //: %1 and %2 = names of accounts
+        ? tr("%1 is the main account now, because %2 was removed.")
+        //: %1 and %2 = names of accounts
+        : tr("%1 is the main account now, because %2 was disabled.");
+    showProblem(text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous)));
 }
 
 void KirvClient::updateTitle()

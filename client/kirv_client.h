@@ -3,6 +3,7 @@
 #define KIRV_CLIENT_H
 
 #include "client/kirv_client_options.h"
+#include "core/accounts/kirv_main_account.h"
 
 #include <QObject>
 #include <QPointer>
@@ -75,6 +76,7 @@ private:
     void accountChanged(KirvAccount *account);
     void edit(KirvAccount *account);
     void updateTitle();
+    void mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next);
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
     void showRefusal(const QString &text);

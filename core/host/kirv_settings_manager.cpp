@@ -93,5 +93,5 @@ void KirvSettingsManagerPrivate::writeGlobalSetting(const KirvField &field)
     if (!services || services->settings.setValue(field.getId(), field.getText()))
         return;
     if (field.getId() == KirvSettingKey::mainAccount)
-        services->restoreMainAccount();
+        services->mainAccountRule.restore();
 }

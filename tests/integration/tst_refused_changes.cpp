@@ -113,6 +113,7 @@ void tst_RefusedChanges::rowOfAnAccountThatStaysIsBack()
     QFETCH(int, order);
     if (!isEnabled)
         windows->toggleInPage(id);
+    const QStringList saidBefore = windows->messages(); // about the main account
     windows->list()->sortByColumn(0, Qt::SortOrder(order));
     const QStringList rows = windows->rowIds();
     QStringList offered;
@@ -132,7 +133,7 @@ void tst_RefusedChanges::rowOfAnAccountThatStaysIsBack()
     for (int i = 0; i < offered.size(); ++i)
         QVERIFY(offered.contains(windows->selector()->itemText(i)));
     QCOMPARE(windows->account(id)->isEnabled(), isEnabled);
-    QVERIFY(isMention(windows->messages()));
+    QVERIFY(isMention(windows->messages().mid(saidBefore.size())));
 }
 
 void tst_RefusedChanges::rowAmongEqualAliasesKeepsItsPlace()
