@@ -2,30 +2,65 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_invitation.h"
+#include "client/kirv_account_list_frame.h"
+#include "client/kirv_account_row_delegate.h"
+#include "client/kirv_account_row_states.h"
+#include "client/kirv_account_rows.h"
+#include "client/kirv_account_strip.h"
+#include "client/kirv_main_account_selector.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "host/kirv_account_manager.h"
+#include "host/kirv_plugin_manager.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QPalette>
+#include <QScrollBar>
 #include <QSignalBlocker>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <utility>
-
-namespace {
-enum Column { AliasColumn, ProtocolColumn, IdColumn };
-}
 
 KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts)
     : QObject(top)
     , accounts(accounts)
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
+    , rows(new KirvAccountRows(list))
+    , states(new KirvAccountRowStates(accounts, *rows, list))
+    , strip(new KirvAccountStrip)
+    , invitation(new KirvAccountInvitation)
+    , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
+    list->setItemDelegate(new KirvAccountRowDelegate(accounts, list));
+    auto *frame = new KirvAccountListFrame(list);
+    frame->addBelow(strip);
+    frame->addBelow(invitation);
+    strip->chooseMnemonics();
+    invitation->chooseMnemonics();
+    invitation->hide();
+    connectStrip();
+    connect(invitation, &KirvAccountInvitation::registrationRequested, this, [] {
+        KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("register_account"), QList<KirvArg>());
+    });
+    if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
+        new KirvMainAccountSelector(selector);
+    invite();
+    // The page gives the button its menu after this.
+    QMetaObject::invokeMethod(
+        this, [this] { invitation->setAddMenu(addButton->menu()); }, Qt::QueuedConnection);
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this,
             [this](const KirvAccount *account) { syncRowLater(account->key()); });
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
+        const QTreeWidgetItem *row = rows->find(account->key());
+        if (row && row->text(KirvAliasColumn) != account->getAlias())
+            syncRowLater(account->key());
+    });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
             [this](const QString &id, const QString &protocol) {
                 syncRowLater({ id, protocol });
@@ -34,6 +69,73 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
 }
 
 KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
+
+/// Shows the invitation while there is no account, and otherwise the list.
+void KirvAccountsPageCompanion::invite()
+{
+    const bool isEmpty = accounts.accounts().isEmpty();
+    if (list->isHidden() == isEmpty)
+        return;
+    const QWidget *focused = list->window()->focusWidget();
+    const bool hadFocus =
+        focused && (focused == list || strip->isAncestorOf(focused) || invitation->isAncestorOf(focused));
+    list->setVisible(!isEmpty);
+    strip->setVisible(!isEmpty);
+    invitation->setVisible(isEmpty);
+    if (hadFocus && isEmpty)
+        invitation->takeFocus();
+    else if (hadFocus)
+        list->setFocus(Qt::OtherFocusReason);
+}
+
+void KirvAccountsPageCompanion::connectStrip()
+{
+    // The selection model's signals come also while those of the list are blocked.
+    connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &KirvAccountsPageCompanion::refreshStripLater);
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
+        if (account == currentAccount())
+            refreshStripLater();
+    });
+    connect(strip, &KirvAccountStrip::passwordRequested, this, [this] {
+        if (KirvAccount *account = currentAccount())
+            emit passwordRequested(account);
+    });
+    connect(strip, &KirvAccountStrip::reconnectionRequested, this, [this] {
+        if (KirvAccount *account = currentAccount())
+            account->reconnect();
+    });
+    connect(strip, &KirvAccountStrip::editRequested, this, [this] {
+        KirvAccount *account = currentAccount();
+        if (account && account->isLoaded())
+            KirvAccountsTab::getInstance()->editAccount(account);
+    });
+}
+
+void KirvAccountsPageCompanion::refreshStripLater()
+{
+    if (!std::exchange(isStripDue, true))
+        QMetaObject::invokeMethod(this, &KirvAccountsPageCompanion::refreshStrip, Qt::QueuedConnection);
+}
+
+void KirvAccountsPageCompanion::refreshStrip()
+{
+    isStripDue = false;
+    const KirvAccount *account = currentAccount();
+    strip->show(account, account && account == KirvAccountManager::getInstance()->getMainAccount());
+}
+
+void KirvAccountsPageCompanion::mainAccountChanged()
+{
+    states->mainAccountChanged();
+    refreshStripLater();
+    refreshLater(); // for the selector
+}
+
+KirvAccount *KirvAccountsPageCompanion::currentAccount() const
+{
+    return accounts.find(current());
+}
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:
 /// the kept ones make room, so that each account stands there once.
@@ -60,53 +162,94 @@ void KirvAccountsPageCompanion::protocolUnloaded(const QString &protocol)
 /// The page takes the row of an account away after each attempt to remove the account.
 void KirvAccountsPageCompanion::keepRow(const KirvAccount *account)
 {
-    const QTreeWidgetItem *row = find(account->key());
+    QTreeWidgetItem *row = rows->find(account->key());
     if (!row)
         return;
-    rowCopies.emplace_back(row->clone());
+    keptRows.push_back({ std::unique_ptr<QTreeWidgetItem>(row->clone()), list->indexOfTopLevelItem(row),
+                         row == list->currentItem() ? list->currentColumn() : -1, row->isSelected(),
+                         list->verticalScrollBar()->value() });
     syncRowLater(account->key());
+}
+
+/// To the place, state and selection that it had, in all of which the view has put a neighbour meanwhile.
+void KirvAccountsPageCompanion::putBack(KeptRow kept)
+{
+    QTreeWidgetItem *row = kept.copy.release();
+    {
+        const QSignalBlocker noSignals(list);
+        // The list would put it before the rows that compare equal; sorting it as a whole keeps their order.
+        const bool isSorted = list->isSortingEnabled();
+        list->setSortingEnabled(false);
+        list->insertTopLevelItem(qBound(0, kept.index, list->topLevelItemCount()), row);
+        list->setSortingEnabled(isSorted);
+        if (kept.currentColumn >= 0)
+            list->setCurrentItem(row, kept.currentColumn,
+                                 kept.isSelected ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                                                 : QItemSelectionModel::NoUpdate);
+        else
+            row->setSelected(kept.isSelected);
+        list->doItemsLayout(); // the range of the scroll bar follows the rows later otherwise
+        list->verticalScrollBar()->setValue(kept.scrollValue);
+    }
+    Q_EMIT list->itemSelectionChanged(); // for the buttons of the page
 }
 
 void KirvAccountsPageCompanion::syncRowLater(const KirvAccountKey &key)
 {
-    if (unsynced.isEmpty())
-        QMetaObject::invokeMethod(this, &KirvAccountsPageCompanion::syncRows, Qt::QueuedConnection);
     unsynced << key;
+    refreshLater();
+}
+
+void KirvAccountsPageCompanion::refreshLater()
+{
+    if (!std::exchange(isSyncDue, true))
+        QMetaObject::invokeMethod(this, &KirvAccountsPageCompanion::syncRows, Qt::QueuedConnection);
 }
 
 /// Makes the page list the accounts that came and went exactly when they are configured.
 void KirvAccountsPageCompanion::syncRows()
 {
+    isSyncDue = false;
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
-    for (std::unique_ptr<QTreeWidgetItem> &row : std::exchange(rowCopies, {})) {
-        const KirvAccountKey key = keyOf(row.get());
-        if (accounts.find(key) && !find(key))
-            list->addTopLevelItem(row.release());
+    for (KeptRow &row : std::exchange(keptRows, {})) {
+        const KirvAccountKey key = KirvAccountRows::keyOf(row.copy.get());
+        if (accounts.find(key) && !rows->find(key))
+            putBack(std::move(row));
     }
     const QList<KirvAccountKey> keys = std::exchange(unsynced, {});
     for (const KirvAccountKey &key : keys) {
         KirvAccount *account = accounts.find(key);
         if (!account)
             remove(key);
-        else if (account->isLoaded() && !find(key))
+        else if (rows->find(key))
+            updateAlias(account);
+        else if (account->isLoaded())
             page->addAccountEntry(account);
     }
+    invite();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
+}
+
+/// A new alias that another part of the program gave.
+void KirvAccountsPageCompanion::updateAlias(const KirvAccount *account)
+{
+    const QSignalBlocker noItemChanged(list);
+    rows->find(account->key())->setText(KirvAliasColumn, account->getAlias());
 }
 
 /// A row that was current leaves no current row behind: an open question about it must not become one about its
 /// neighbour.
 void KirvAccountsPageCompanion::remove(const KirvAccountKey &key)
 {
-    if (QTreeWidgetItem *row = find(key))
+    if (QTreeWidgetItem *row = rows->find(key))
         takeAway(row);
 }
 
 void KirvAccountsPageCompanion::removeAll(const QString &protocol)
 {
-    const QList<QTreeWidgetItem *> rows = rowsOf(protocol);
-    for (QTreeWidgetItem *row : rows)
+    const QList<QTreeWidgetItem *> removed = rows->rowsOf(protocol);
+    for (QTreeWidgetItem *row : removed)
         takeAway(row);
 }
 
@@ -116,9 +259,9 @@ void KirvAccountsPageCompanion::markUnloaded(const QString &protocol)
     const QBrush grey = list->palette().brush(QPalette::Disabled, QPalette::Text);
     const QString reason = QCoreApplication::translate(
         "KirvAccountsPageCompanion", "The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.");
-    const QList<QTreeWidgetItem *> rows = rowsOf(protocol);
-    for (QTreeWidgetItem *row : rows) {
-        for (int column : { AliasColumn, ProtocolColumn }) {
+    const QList<QTreeWidgetItem *> removed = rows->rowsOf(protocol);
+    for (QTreeWidgetItem *row : removed) {
+        for (int column : { KirvAliasColumn, KirvProtocolColumn }) {
             row->setForeground(column, grey);
             row->setToolTip(column, kirvPlainToolTip(reason.arg(protocol)));
         }
@@ -128,34 +271,13 @@ void KirvAccountsPageCompanion::markUnloaded(const QString &protocol)
 KirvAccountKey KirvAccountsPageCompanion::current() const
 {
     const QTreeWidgetItem *row = list->currentItem();
-    return row ? keyOf(row) : KirvAccountKey();
+    return row ? KirvAccountRows::keyOf(row) : KirvAccountKey();
 }
 
 void KirvAccountsPageCompanion::setCurrent(const KirvAccountKey &key)
 {
-    if (QTreeWidgetItem *row = find(key))
+    if (QTreeWidgetItem *row = rows->find(key))
         list->setCurrentItem(row);
-}
-
-KirvAccountKey KirvAccountsPageCompanion::keyOf(const QTreeWidgetItem *row)
-{
-    return { row->text(IdColumn), row->text(ProtocolColumn) };
-}
-
-QTreeWidgetItem *KirvAccountsPageCompanion::find(const KirvAccountKey &key) const
-{
-    for (int i = 0; i < list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *row = list->topLevelItem(i);
-        if (keyOf(row) == key)
-            return row;
-    }
-    return nullptr;
-}
-
-QList<QTreeWidgetItem *> KirvAccountsPageCompanion::rowsOf(const QString &protocol) const
-{
-    // Qt compares case-insensitively by default; names of protocols may differ in case only.
-    return list->findItems(protocol, Qt::MatchExactly | Qt::MatchCaseSensitive, ProtocolColumn);
 }
 
 void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
@@ -163,7 +285,7 @@ void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
     // Left alone, the view would make and select a neighbour as the current row.
     const bool wasChosen = row->isSelected() || row == list->currentItem();
     if (wasChosen) {
-        list->setCurrentItem(nullptr, AliasColumn, QItemSelectionModel::NoUpdate);
+        list->setCurrentItem(nullptr, KirvAliasColumn, QItemSelectionModel::NoUpdate);
         list->clearSelection();
     }
     delete row;

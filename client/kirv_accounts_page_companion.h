@@ -11,12 +11,18 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountInvitation;
+class KirvAccountRows;
+class KirvAccountRowStates;
+class KirvAccountStrip;
+class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 class QWidget;
 
-/// What the client adds to the page: its list shows every configured account exactly once, whatever comes and goes.
-/// Owned by the top widget of the page's layout.
+/// What the client adds to the page: its list shows every configured account exactly once, whatever comes and goes,
+/// each row tells the state of its account, and a strip below the list says more about the current one. Owned by the
+/// top widget of the page's layout.
 ///
 /// Changes made here reach none of the page's slots.
 class KirvAccountsPageCompanion : public QObject {
@@ -31,27 +37,57 @@ public:
     void protocolLoaded(const QString &protocol);
     /// The protocol was unloaded: its rows stay, greyed, as the accounts can still be disabled and removed.
     void protocolUnloaded(const QString &protocol);
+    /// Makes the page show again, from the event loop, what is stored: a change that it shows was refused.
+    void refreshLater();
+    /// Another account may have become the main account: the rows say so, and the page is refreshed.
+    void mainAccountChanged();
+    /// The account of the current row; null when there is none.
+    KirvAccount *currentAccount() const;
+
+Q_SIGNALS:
+    /// The user wants to type the password of \a account.
+    void passwordRequested(KirvAccount *account);
 
 private:
+    /// A row that the page takes away too early, and how it stood in the list.
+    struct KeptRow {
+        std::unique_ptr<QTreeWidgetItem> copy;
+        int index;
+        int currentColumn; ///< -1: the row is not the current one
+        bool isSelected;
+        int scrollValue;
+    };
+
+    void connectStrip();
+    void invite();
+    void refreshStripLater();
+    void refreshStrip();
+
     void keepRow(const KirvAccount *account);
+    void putBack(KeptRow row);
     void syncRowLater(const KirvAccountKey &key);
     void syncRows();
 
+    void updateAlias(const KirvAccount *account);
     void remove(const KirvAccountKey &key);
     void removeAll(const QString &protocol);
     void markUnloaded(const QString &protocol);
     KirvAccountKey current() const;
     void setCurrent(const KirvAccountKey &key);
 
-    static KirvAccountKey keyOf(const QTreeWidgetItem *row);
-    QTreeWidgetItem *find(const KirvAccountKey &key) const;
-    QList<QTreeWidgetItem *> rowsOf(const QString &protocol) const;
     void takeAway(QTreeWidgetItem *row);
 
     KirvAccountCollection &accounts;
     QTreeWidget *list;
-    std::vector<std::unique_ptr<QTreeWidgetItem>> rowCopies; ///< of rows that the page takes away too early
+    KirvAccountRows *rows;
+    KirvAccountRowStates *states;
+    KirvAccountStrip *strip;
+    KirvAccountInvitation *invitation;
+    QToolButton *addButton;
+    std::vector<KeptRow> keptRows;
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
+    bool isSyncDue = false;
+    bool isStripDue = false;
 };
 
 #endif

@@ -3,26 +3,38 @@
 #define KIRV_ADD_WINDOW_COMPANION_H
 
 #include "core/ui/kirv_layout_dialog.h"
+#include "core/values/kirv_account_key.h"
 
 #include <QString>
 
+class KirvAccountCollection;
 class KirvAddAccountDialog;
 
-/// What the client adds to an add window: it ends with its protocol. Owned by the window.
+/// What the client adds to an add window: it ends with its protocol, and its message about a refused account says the
+/// true reason. Owned by the window.
 class KirvAddWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
 public:
-    /// \a window was just built for \a controller.
-    KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller);
+    /// \a window was just built for \a controller. \a accounts outlives it.
+    KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller,
+                           const KirvAccountCollection &accounts);
 
     /// The name of the protocol that the window adds an account of.
     QString protocol() const { return protocolName; }
     /// Closes the window, and the boxes over it, as Cancel does.
     void close();
+    /// The account \a key could not be created. Whether the window was just adding it: its message says why then.
+    bool takeRefusal(const KirvAccountKey &key, const QString &reason);
+
+    void aboutToShow() override;
 
 private:
+    void correctMessage(const KirvAccountKey &key, const QString &reason);
+
+    const KirvAccountCollection &accounts;
     const QString protocolName;
+    bool isAdding = false; ///< while the click on Save leads to what it leads to
 };
 
 #endif

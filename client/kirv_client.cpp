@@ -26,6 +26,8 @@
 #include <QDir>
 #include <QIcon>
 
+#include <utility>
+
 static void initializeResources()
 {
     Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
@@ -43,6 +45,7 @@ QIcon themeIcon(const QString &name)
 KirvClient::KirvClient(const KirvClientOptions &options, QObject *parent)
     : QObject(parent)
     , options(options)
+    , unopenedLink(options.link)
 {
     initializeResources();
 }
@@ -57,6 +60,7 @@ KirvClient::~KirvClient()
     accountCollection->logOutAll(logOutMilliseconds);
     // Nothing is emitted from now on: the window is destroyed first, the protocols and the store follow.
     accountCollection->disconnect(this);
+    services->mainAccountRule.disconnect(this);
     pluginLoader->disconnect(this);
     clientSettings->disconnect(this);
     layouts->disconnect(this);
@@ -74,7 +78,7 @@ bool KirvClient::start()
     createWindow();
     connectServices();
     kirvAfterFirstPaint(settingsWindow.get(), [this] { loadPlugins(); });
-    services->restoreMainAccount();
+    services->mainAccountRule.restore();
     mainAccountChanged();
     return true;
 }
@@ -150,16 +154,24 @@ void KirvClient::createWindow()
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
     connect(connections, &KirvConnectionView::editRequested, this, &KirvClient::edit);
     connect(connections, &KirvConnectionView::passwordRequested, passwordQuestions, &KirvPasswordQuestions::ask);
+    connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
+            &KirvPasswordQuestions::ask);
 }
 
 void KirvClient::connectServices()
 {
-    connect(accountCollection.get(), &KirvAccountCollection::accountRemoved, this, &KirvClient::mainAccountChanged);
+    connect(&services->mainAccountRule, &KirvMainAccount::changed, this, &KirvClient::mainAccountChanged);
+    connect(&services->mainAccountRule, &KirvMainAccount::passedOn, this, &KirvClient::mainAccountPassedOn);
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
+    connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
+    // Queued, as the window runs an event loop of its own.
+    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
+    connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
+            &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
     connect(pluginLoader.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);
@@ -182,6 +194,15 @@ void KirvClient::loadPlugins()
     }
 }
 
+void KirvClient::openLink()
+{
+    const KirvAccountLink link = std::exchange(unopenedLink, KirvAccountLink());
+    if (!link.isNull() && !link.open(page)) {
+        //: %1 = name of a protocol
+        showProblem(tr("The link cannot be opened: the protocol %1 is not available.").arg(link.protocol));
+    }
+}
+
 void KirvClient::protocolLoaded(KirvProtocolBase *protocol)
 {
     accountCollection->protocolLoaded(protocol);
@@ -195,6 +216,15 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
     passwordQuestions->withdrawProtocol(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
+}
+
+void KirvClient::creationRefused(const KirvAccountKey &key, const QString &reason)
+{
+    const bool isSaid = companions && companions->takeRefusal(key, reason);
+    if (accountCollection->find(key)) // whoever creates one that exists finds it
+        return;
+    if (!isSaid || !store->isInPlace()) // the bar has the button for another folder
+        showRefusal(reason);
 }
 
 void KirvClient::accountChanged(KirvAccount *account)
@@ -213,6 +243,18 @@ void KirvClient::mainAccountChanged()
 {
     updateTitle();
     connections->refreshMainAccount();
+    if (companions->page())
+        companions->page()->mainAccountChanged();
+}
+
+void KirvClient::mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next)
+{
+    const QString text = reason == KirvMainAccount::Removed
+        //: %1 and %2 = names of accounts
+        ? tr("%1 is the main account now, because %2 was removed.")
+        //: %1 and %2 = names of accounts
+        : tr("%1 is the main account now, because %2 was disabled.");
+    showProblem(text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous)));
 }
 
 void KirvClient::updateTitle()

@@ -3,6 +3,7 @@
 #define KIRV_CLIENT_H
 
 #include "client/kirv_client_options.h"
+#include "core/accounts/kirv_main_account.h"
 
 #include <QObject>
 #include <QPointer>
@@ -24,6 +25,7 @@ class KirvClientSettings;
 class KirvSettingsWindow;
 class KirvStore;
 class KirvWindowCompanions;
+struct KirvAccountKey;
 
 /// The program without its command line: makes the services of the core and the settings window, and leads the
 /// news of the ones to the other. One per process at a time.
@@ -66,17 +68,21 @@ private:
     void createWindow();
     void connectServices();
     void loadPlugins();
+    void openLink();
 
     void protocolLoaded(KirvProtocolBase *protocol);
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
+    void creationRefused(const KirvAccountKey &key, const QString &reason);
     void accountChanged(KirvAccount *account);
     void edit(KirvAccount *account);
     void updateTitle();
+    void mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next);
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
     void showRefusal(const QString &text);
 
     const KirvClientOptions options;
+    KirvAccountLink unopenedLink;
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;

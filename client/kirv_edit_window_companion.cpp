@@ -6,7 +6,10 @@
 #include "client/kirv_directory_guard.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_length_limit.h"
+#include "core/values/kirv_text_limit.h"
 #include "edit_account/kirv_edit_account_dialog.h"
+#include "host/kirv_avatar_quick_set_widget.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -83,9 +86,12 @@ void KirvEditWindowCompanion::aboutToShow()
         connect(buttons, &QDialogButtonBox::rejected, window(), &QDialog::reject);
         return;
     }
-    knownPassword = account->record().password;
+    knownPassword = account->getPassword();
+    kirvLimitLength(passwordEdit);
+    kirvLimitLength(window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias")));
     showIdentifierAsPlainText();
     showDescriptionAsPlainText(*account);
+    watchRefusals(*account);
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
@@ -108,7 +114,8 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
 {
     if (auto *identifier = window()->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))) {
         identifier->setTextFormat(Qt::PlainText);
-        identifier->setText(kirvPlainName(identifier->text()));
+        identifier->setText(
+            kirvPlainName(kirvShortName(accountKey.id) + QLatin1String(" (") + accountKey.protocol + QLatin1Char(')')));
     }
 }
 
@@ -116,7 +123,8 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
 void KirvEditWindowCompanion::showDescriptionAsPlainText(const KirvAccount &account)
 {
     auto *description = window()->findChild<QTextEdit *>(QStringLiteral("EditAccount_DescriptionEdit"));
-    description->setPlainText(account.record().defaultDescription);
+    description->setPlainText(account.getDefaultPresence().getDescription());
+    kirvLimitLength(description);
 }
 
 void KirvEditWindowCompanion::addServerAccountButton()
@@ -153,8 +161,7 @@ bool KirvEditWindowCompanion::mayFinish(int result)
 bool KirvEditWindowCompanion::commitSave()
 {
     const QPointer<KirvEditWindowCompanion> alive(this);
-    const QPointer<KirvAccount> account = saving;
-    saving.clear();
+    const QPointer<KirvAccount> account = std::exchange(saving, nullptr);
     const bool isSaved = account->endSave();
     if (!alive || !account || account->isRemoved())
         return true;
@@ -163,7 +170,8 @@ bool KirvEditWindowCompanion::commitSave()
     keepsOpen = !isSaved || (directory && directory->isPublishing());
     if (!isSaved) {
         KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
-        tellSaveRefused();
+        KirvAccountsTab::getInstance()->updateAccounts(); // and the selector, in the order of the rows
+        showRefusal(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
     } else if (keepsOpen) {
         setPublishing(true);
     }
@@ -204,13 +212,30 @@ void KirvEditWindowCompanion::onPublicationEnded(bool succeeded)
     saveButton->setFocus(); // it lost the focus when it was disabled; Enter must not cancel now
 }
 
-void KirvEditWindowCompanion::tellSaveRefused()
+void KirvEditWindowCompanion::watchRefusals(const KirvAccount &account)
 {
-    auto *box =
-        new QMessageBox(QMessageBox::Warning, tr("Saving Account"), accounts.lastError(), QMessageBox::Ok, window());
+    connect(&account, &KirvAccount::refused, this, [this] {
+        wasRefused = true;
+        QMetaObject::invokeMethod(
+            this, [this] { wasRefused = false; }, Qt::QueuedConnection);
+    });
+    auto *picker = window()->findChild<KirvAvatarQuickSetWidget *>();
+    // The page has made its connection already: the account has the picture by then, or has refused it.
+    connect(picker, &KirvAvatarQuickSetWidget::imageSelected, this, [this, picker] {
+        const KirvAccount *account = accounts.find(accountKey);
+        if (!wasRefused || !account)
+            return;
+        picker->setImage(account->avatarPath());
+        showRefusal(tr("Picture of the Account"), tr("The picture was not changed."));
+    });
+}
+
+void KirvEditWindowCompanion::showRefusal(const QString &title, const QString &advice)
+{
+    auto *box = new QMessageBox(QMessageBox::Warning, title, accounts.lastError(), QMessageBox::Ok, window());
     box->setObjectName(QStringLiteral("EditAccount_SaveFailed"));
     box->setTextFormat(Qt::PlainText);
-    box->setInformativeText(tr("Nothing was changed. The window stays open, so that you can try again."));
+    box->setInformativeText(advice);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::WindowModal);
     box->show();
@@ -222,7 +247,7 @@ void KirvEditWindowCompanion::onAccountChanged(KirvAccount *account)
 {
     if (account->key() != accountKey || account->isSaving())
         return;
-    const QString password = account->record().password;
+    const QString password = account->getPassword();
     if (passwordEdit->text() == knownPassword && password != knownPassword)
         passwordEdit->setText(password);
     knownPassword = password;

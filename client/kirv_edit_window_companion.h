@@ -18,7 +18,8 @@ class QLineEdit;
 class QPushButton;
 
 /// What the client adds to an edit window: Save is one change, which keeps the window open when it is refused or until
-/// its directory entry is published; window and controller end together, and with the account.
+/// its directory entry is published; a picture that is refused is not shown; window and controller end together, and
+/// with the account.
 ///
 /// Save's clicked() begins the change, before the slot of the page that fills it; the window's done() commits it.
 /// Owned by the window.
@@ -49,7 +50,8 @@ private:
     void endClick();
     void setPublishing(bool isPublishing);
     void onPublicationEnded(bool succeeded);
-    void tellSaveRefused();
+    void watchRefusals(const KirvAccount &account);
+    void showRefusal(const QString &title, const QString &advice);
     void onAccountChanged(KirvAccount *account);
 
     QPointer<KirvEditAccountDialog> controller;
@@ -62,6 +64,7 @@ private:
     KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
     QPointer<KirvAccount> saving; ///< while the change of a Save is open
     QString knownPassword; ///< of the account, as far as the window shows it
+    bool wasRefused = false; ///< a change of the account, by what the event loop is running now
     bool keepsOpen = false; ///< whatever else the click on Save leads to
     bool isBound = false;
     QList<QPointer<QWidget>> disabled; ///< while a publication is awaited

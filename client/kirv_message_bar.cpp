@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_message_bar.h"
 
+#include "client/kirv_plain_text.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -25,13 +27,14 @@ KirvMessageBar::KirvMessageBar(QWidget *parent)
     hide();
 }
 
-void KirvMessageBar::showMessage(const QString &text)
+void KirvMessageBar::showMessage(const QString &message)
 {
-    showMessage(text, QString(), {});
+    showMessage(message, QString(), {});
 }
 
-void KirvMessageBar::showMessage(const QString &text, const QString &command, const std::function<void()> &action)
+void KirvMessageBar::showMessage(const QString &message, const QString &command, const std::function<void()> &action)
 {
+    const QString text = kirvPlainName(message);
     if (text.isEmpty() || texts.contains(text))
         return;
     if (texts.size() == mostMessages)
@@ -47,9 +50,9 @@ void KirvMessageBar::showMessage(const QString &text, const QString &command, co
     show();
 }
 
-void KirvMessageBar::removeMessage(const QString &text)
+void KirvMessageBar::removeMessage(const QString &message)
 {
-    const int index = int(texts.indexOf(text));
+    const int index = int(texts.indexOf(kirvPlainName(message)));
     if (index >= 0)
         removeRow(index);
 }

@@ -18,12 +18,13 @@ class KirvMessageBar : public QFrame {
 public:
     explicit KirvMessageBar(QWidget *parent = nullptr);
 
-    /// Shows \a text, which is not interpreted. The same text is not shown twice; of many, the latest stay.
-    void showMessage(const QString &text);
+    /// Shows \a message, in which nothing is interpreted and nothing turns the text around. The same text is not shown
+    /// twice; of many, the latest stay.
+    void showMessage(const QString &message);
     /// The same with a button: \a command is its text, \a action is what it does.
-    void showMessage(const QString &text, const QString &command, const std::function<void()> &action);
-    /// Takes \a text away, if it is shown.
-    void removeMessage(const QString &text);
+    void showMessage(const QString &message, const QString &command, const std::function<void()> &action);
+    /// Takes \a message away, if it is shown.
+    void removeMessage(const QString &message);
     /// The texts shown now, oldest first.
     QStringList messages() const { return texts; }
 

@@ -3,6 +3,7 @@
 
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account.h"
+#include "core/ui/kirv_length_limit.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -26,12 +27,13 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     question->setTextFormat(Qt::PlainText);
     question->setWordWrap(true);
     //: %1 = name of an account, %2 = its protocol
-    question->setText(tr("Enter the password of the account %1 (%2).")
-                          .arg(kirvPlainName(account.displayName()), account.key().protocol));
+    question->setText(kirvPlainName(
+        tr("Enter the password of the account %1 (%2).").arg(account.displayName(), account.key().protocol)));
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));
     passwordEdit->setAccessibleName(tr("Password"));
     passwordEdit->setEchoMode(QLineEdit::Password);
+    kirvLimitLength(passwordEdit);
 
     rememberBox->setObjectName(QStringLiteral("PasswordQuestion_Remember"));
     rememberBox->setChecked(account.record().rememberPassword);

@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// As long as it exists, no message box of the program is turned around by a name in it: what would do that is made
-/// visible when the box is shown, whoever made it.
+/// As long as it exists, no message box of the program takes a name in it for markup, is turned around by it or too
+/// long for it, whoever made the box: its texts are changed before they are laid out.
 class KirvVisibleBoxes : public QObject {
     Q_OBJECT
 

@@ -8,6 +8,8 @@
 #include "core/ui/kirv_layout_catalog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 
+#include <algorithm>
+
 KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
                                            KirvServerCommands &serverCommands, QObject *parent)
     : QObject(parent)
@@ -20,6 +22,13 @@ KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccou
 KirvAccountsPageCompanion *KirvWindowCompanions::page() const
 {
     return pageCompanion;
+}
+
+bool KirvWindowCompanions::takeRefusal(const KirvAccountKey &key, const QString &reason) const
+{
+    return std::any_of(addWindows.begin(), addWindows.end(), [&](const QPointer<KirvAddWindowCompanion> &companion) {
+        return companion && companion->takeRefusal(key, reason);
+    });
 }
 
 void KirvWindowCompanions::closeWindowsOf(const QString &protocol)
@@ -46,6 +55,6 @@ void KirvWindowCompanions::add(const QString &layout, QWidget *top)
         editWindows << new KirvEditWindowCompanion(dialog, controller, accounts, serverCommands);
     } else if (const KirvAddAccountDialog *controller = KirvAddAccountDialog::of(dialog)) {
         addWindows.removeAll(nullptr);
-        addWindows << new KirvAddWindowCompanion(dialog, controller);
+        addWindows << new KirvAddWindowCompanion(dialog, controller, accounts);
     }
 }

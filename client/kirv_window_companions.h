@@ -2,6 +2,8 @@
 #ifndef KIRV_WINDOW_COMPANIONS_H
 #define KIRV_WINDOW_COMPANIONS_H
 
+#include "core/values/kirv_account_key.h"
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -25,6 +27,8 @@ public:
 
     /// That of the page; null before the page is built and after it is gone.
     KirvAccountsPageCompanion *page() const;
+    /// The account \a key could not be created. Whether an add window says why.
+    bool takeRefusal(const KirvAccountKey &key, const QString &reason) const;
     /// Closes the windows that use the protocol: afterwards nothing follows a pointer to it.
     void closeWindowsOf(const QString &protocol);
 

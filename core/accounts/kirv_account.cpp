@@ -3,8 +3,10 @@
 
 #include "core/protocol/kirv_plugin_call.h"
 #include "core/store/kirv_store.h"
+#include "core/values/kirv_text_limit.h"
 
 #include <QDir>
+#include <QTemporaryFile>
 
 #include <utility>
 
@@ -94,7 +96,7 @@ KirvAccount::~KirvAccount()
 
 QString KirvAccount::displayName() const
 {
-    return current.alias.isEmpty() ? current.key.id : current.alias;
+    return kirvShortName(current.alias.isEmpty() ? current.key.id : current.alias);
 }
 
 bool KirvAccount::change(const std::function<void(KirvAccountRecord &)> &makeChange)
@@ -167,10 +169,55 @@ bool KirvAccount::setAvatar(const QString &path)
             return false;
         }
     }
+    const bool hadNone = avatar.isEmpty() && current.avatar.isEmpty();
+    return takeAvatar(avatar, [hadNone](KirvAccountRecord &record) {
+        if (!hadNone)
+            record.settings.insert(KirvOwnSetting::avatarIsChosen, QStringLiteral("true"));
+    });
+}
+
+/// Makes \a imported, a name in the profile's folder or empty, the avatar.
+bool KirvAccount::takeAvatar(const QString &imported, const std::function<void(KirvAccountRecord &)> &alsoChange)
+{
     return change([&](KirvAccountRecord &record) {
-        record.avatar = avatar;
-        if (!avatar.isEmpty())
-            importedAvatars << avatar;
+        record.avatar = imported;
+        if (!imported.isEmpty())
+            importedAvatars << imported;
+        alsoChange(record);
+    });
+}
+
+KirvAvatar KirvAccount::avatar() const
+{
+    return { avatarPath(), current.settings.value(KirvOwnSetting::avatarOnServer).toLatin1(),
+             current.settings.contains(KirvOwnSetting::avatarIsChosen) };
+}
+
+void KirvAccount::onAvatarPublished(const QString &path, const QByteArray &onServer)
+{
+    if (removed)
+        return;
+    change([&](KirvAccountRecord &record) {
+        record.settings.insert(KirvOwnSetting::avatarOnServer, QString::fromLatin1(onServer));
+        if (path == avatarPath()) // otherwise another one was chosen since
+            record.settings.remove(KirvOwnSetting::avatarIsChosen);
+    });
+}
+
+/// A picture that cannot be used changes nothing here, and is not overwritten either.
+void KirvAccount::onAvatarReceived(const QByteArray &image, const QByteArray &onServer)
+{
+    if (removed || avatar().isChosen)
+        return;
+    QString imported;
+    if (!image.isEmpty()) {
+        QTemporaryFile file;
+        if (file.open() && file.write(image) == image.size() && file.flush())
+            imported = profile.importAvatar(file.fileName());
+    }
+    const bool isUsable = image.isEmpty() || !imported.isEmpty();
+    takeAvatar(isUsable ? imported : current.avatar, [&onServer](KirvAccountRecord &record) {
+        record.settings.insert(KirvOwnSetting::avatarOnServer, QString::fromLatin1(onServer));
     });
 }
 
@@ -283,9 +330,11 @@ void KirvAccount::providePassword(const QString &password, bool remember)
     });
     if (!alive || removed)
         return;
-    if (!isStored) { // it still serves this run
+    if (!isStored) { // it still serves this run, and is stored with the next save
+        const KirvAccountRecord stored = current;
         current.password = password;
         current.rememberPassword = current.rememberPassword && remember;
+        unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
     }
     askedPresence = logInPresence();
     tryAgain();
@@ -321,7 +370,7 @@ KirvReconciler::Wanted KirvAccount::wanted() const
     KirvReconciler::Wanted result;
     result.presence = presence();
     result.login = { current.key.id, current.password, settings() };
-    result.avatarPath = avatarPath();
+    result.avatar = avatar();
     result.online =
         mayLogIn && !removed && current.enabled && connection() && !connection()->isOfflinePresence(result.presence);
     return result;
@@ -375,6 +424,8 @@ void KirvAccount::connectConnection(KirvConnection *created)
 {
     connect(created, &KirvConnection::stateChanged, this, &KirvAccount::onStateChanged);
     connect(created, &KirvConnection::failed, this, &KirvAccount::onFailed);
+    connect(created, &KirvConnection::avatarPublished, this, &KirvAccount::onAvatarPublished);
+    connect(created, &KirvConnection::avatarReceived, this, &KirvAccount::onAvatarReceived);
     connect(created, &KirvConnection::turnAwaited, this, [this] {
         if (!removed)
             Q_EMIT changed();
@@ -442,5 +493,5 @@ void KirvAccount::setFailure(const KirvFailure &newFailure)
 
 void KirvAccount::refreshDescription()
 {
-    description = KirvAccountInfo(current.key.id, current.alias, current.enabled);
+    description = KirvAccountInfo(current.key.id, kirvEditablePart(current.alias), current.enabled);
 }

@@ -35,7 +35,7 @@ public:
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }
-    /// The alias, or the account id when the alias is empty.
+    /// The alias, or the account id when the alias is empty; of a long one the beginning.
     QString displayName() const;
     /// What is stored, with the changes of the save that is open, and the password also when it is not stored.
     const KirvAccountRecord &record() const { return current; }
@@ -48,7 +48,7 @@ public:
     void beginSave();
     bool endSave();
     bool isSaving() const { return saveDepth > 0; }
-    /// Copies the image at \a path into the profile as the avatar; an empty path removes the avatar.
+    /// Copies the image at \a path into the profile as the avatar; an empty path removes the avatar. It is published.
     bool setAvatar(const QString &path);
     /// The path of the avatar; empty: none.
     QString avatarPath() const;
@@ -69,12 +69,13 @@ public:
     void tryAgain();
     /// The same, and a connection that is logged in logs out first.
     void reconnect();
-    /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in.
+    /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in. Where the store
+    /// refuses, the next save stores it.
     void providePassword(const QString &password, bool remember);
     /// The server has changed the password to \a password. Where the store refuses, the account keeps it for this run,
     /// so that it can be stored later; the result is false then.
     bool acceptServerPassword(const QString &password);
-    /// Whether the password is one that acceptServerPassword() could not store.
+    /// Whether the password is one that acceptServerPassword() or providePassword() could not store.
     bool hasUnstoredPassword() const { return unstoredPassword; }
 
     /// The loaded protocol; null while it is not loaded.
@@ -120,10 +121,14 @@ private:
     KirvPresence startPresence() const;
     KirvPresence logInPresence() const;
     KirvReconciler::Wanted wanted() const;
+    KirvAvatar avatar() const;
+    bool takeAvatar(const QString &imported, const std::function<void(KirvAccountRecord &)> &alsoChange);
     void connectConnection(KirvConnection *connection);
     bool dropConnection();
     void onStateChanged(KirvConnection::State state);
     void onFailed(const KirvFailure &failed);
+    void onAvatarPublished(const QString &path, const QByteArray &onServer);
+    void onAvatarReceived(const QByteArray &image, const QByteArray &onServer);
     void onDirectoryAnswered(const KirvDirectoryAnswer &answer);
     void setFailure(const KirvFailure &newFailure);
 

@@ -50,7 +50,7 @@ QList<KirvAccountInfo *> KirvAccountCollection::descriptionsOf(const QString &pr
 void KirvAccountCollection::setMainAccount(std::function<KirvAccount *()> newMainAccount)
 {
     mainAccount = std::move(newMainAccount);
-    loginQueue.setMainConnection([this]() -> const KirvConnection * {
+    queue.setMainConnection([this]() -> const KirvConnection * {
         const KirvAccount *account = mainAccount ? mainAccount() : nullptr;
         return account ? account->connection() : nullptr;
     });
@@ -76,6 +76,10 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
     if (!alive || !loaded || protocols.contains(name)) // a slot was quicker
         return;
     protocols.insert(name, loaded);
+    QStringList ids;
+    for (const KirvAccount *account : accountsOf(name))
+        ids << account->key().id;
+    logins.load(protocol, name, ids);
     connect(protocol, &KirvProtocolBase::directoryRequested, this, &KirvAccountCollection::requestDirectory);
     connect(protocol, &QObject::destroyed, this, [this, name] {
         if (protocols.contains(name) && !protocols.value(name))
@@ -95,12 +99,32 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
         if (account)
             Q_EMIT account->changed();
     }
+    if (alive && loaded && protocols.value(name) == loaded)
+        reportTwins(name);
+}
+
+/// One text for all of them: there may be many.
+void KirvAccountCollection::reportTwins(const QString &protocol)
+{
+    const QList<QStringList> groups = logins.twins(protocol);
+    if (groups.isEmpty())
+        return;
+    const QString first = groups.first().at(0), second = groups.first().at(1);
+    //: %1 and %2 are logins, %3 is the name of a protocol
+    QString text =
+        tr("The accounts \"%1\" and \"%2\" (%3) are the same to the server. Both are kept; remove the one that "
+           "is not needed.")
+            .arg(first, second, protocol);
+    if (groups.size() > 1)
+        text += QLatin1Char('\n') + tr("The same is true of %n further logins.", nullptr, int(groups.size()) - 1);
+    Q_EMIT problemOccurred(text);
 }
 
 void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
 {
     if (!protocols.contains(protocol))
         return;
+    logins.unload(protocol);
     if (KirvProtocolBase *unloaded = protocols.take(protocol))
         unloaded->disconnect(this);
     // Those that were removed and are still logging out have connections of the protocol, too.
@@ -152,9 +176,10 @@ void KirvAccountCollection::logOutAll(int milliseconds)
 
 KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
-    auto *account = new KirvAccount(store, loginQueue, record, this);
+    auto *account = new KirvAccount(store, queue, record, this);
     all.append(account);
     byKey.insert(record.key, account);
+    logins.insert(record.key);
     ProtocolAccounts &siblings = byProtocol[record.key.protocol];
     siblings.accounts.append(account);
     siblings.infos.append(account->info());
@@ -172,6 +197,7 @@ void KirvAccountCollection::takeOut(KirvAccount *account, const KirvAccountKey &
 {
     all.removeOne(account);
     byKey.remove(key);
+    logins.remove(key);
     ProtocolAccounts &siblings = byProtocol[key.protocol];
     const int index = int(siblings.accounts.indexOf(account));
     siblings.accounts.removeAt(index);
@@ -184,12 +210,24 @@ QList<KirvAccount *> KirvAccountCollection::withLeaving() const
     return findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+/// Also of an account whose protocol is not loaded.
+QString KirvAccountCollection::idWithSameLogin(const KirvAccountKey &key) const
+{
+    return byKey.contains(key) ? key.id : logins.find(key);
+}
+
 /// Empty when nothing but the store can refuse.
 QString KirvAccountCollection::whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const
 {
     const KirvProtocolBase *known = protocols.value(record.key.protocol);
-    if (byKey.contains(record.key))
+    const QString same = idWithSameLogin(record.key);
+    if (same == record.key.id && !same.isEmpty())
         return tr("The account \"%1\" (%2) exists already.").arg(record.key.id, record.key.protocol);
+    if (!same.isEmpty()) {
+        //: %1 and %3 are two spellings of a login, %2 is the name of a protocol
+        return tr("The account \"%1\" (%2) exists already: it is the same as \"%3\" to the server.")
+            .arg(record.key.id, record.key.protocol, same);
+    }
     if (!known || known != protocol)
         return tr("The account \"%1\" could not be created: the protocol %2 is not loaded.")
             .arg(record.key.id, record.key.protocol);
@@ -199,23 +237,16 @@ QString KirvAccountCollection::whyNotCreated(const KirvAccountRecord &record, co
 KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, KirvProtocol *protocol)
 {
     const QString reason = whyNotCreated(record, protocol);
-    if (!reason.isEmpty()) {
-        if (byKey.contains(record.key)) // whoever adds it says so
-            error = reason;
-        else
-            refuse(reason);
-        return nullptr;
-    }
+    if (!reason.isEmpty())
+        return refuseCreation(record.key, reason);
     KirvProtocolBase *known = protocols.value(record.key.protocol);
     KirvAccountRecord complete = record;
     complete.settings = kirvStoredValues(known->accountSettings());
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
     complete.secretSettings += kirvSecretFields(known->accountSettings());
-    if (!store.insertAccount(complete)) {
-        refuse(store.lastError());
-        return nullptr;
-    }
+    if (!store.insertAccount(complete))
+        return refuseCreation(record.key, store.lastError());
     error.clear();
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
@@ -275,6 +306,14 @@ void KirvAccountCollection::requestDirectory(KirvAccountConnection *connection,
         account->directory().deleteEntry();
         break;
     }
+}
+
+/// Always null.
+KirvAccount *KirvAccountCollection::refuseCreation(const KirvAccountKey &key, const QString &reason)
+{
+    error = reason;
+    Q_EMIT creationRefused(key, reason);
+    return nullptr;
 }
 
 void KirvAccountCollection::refuse(const QString &reason)

@@ -3,6 +3,7 @@
 #define KIRV_ACCOUNT_COLLECTION_H
 
 #include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_login_index.h"
 
 #include <QHash>
 #include <QList>
@@ -29,8 +30,8 @@ public:
     KirvAccount *find(const KirvAccountKey &key) const { return byKey.value(key); }
 
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
-    /// defaults. Null when the account exists, the protocol is not the loaded one, or the store refuses; lastError()
-    /// then says why.
+    /// defaults. Null when the account exists, also with another spelling of the login, the protocol is not the loaded
+    /// one, or the store refuses; then creationRefused() is emitted, and lastError() says why.
     KirvAccount *create(const KirvAccountRecord &record, KirvProtocol *protocol);
     /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
     bool remove(KirvAccount *account);
@@ -40,9 +41,10 @@ public:
     /// \a mainAccount is called for the account that logs in before the others; its result may be null.
     void setMainAccount(std::function<KirvAccount *()> mainAccount);
     /// Where the accounts have their turns to log in.
-    KirvLoginQueue &logins() { return loginQueue; }
+    KirvLoginQueue &loginQueue() { return queue; }
 
-    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn.
+    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn. Accounts that
+    /// turn out to have the same login stay; problemOccurred() names them.
     void protocolLoaded(KirvProtocolBase *protocol, bool logIn = true);
     /// The protocol is about to be unloaded: its connections are closed and destroyed. The accounts stay.
     void protocolAboutToBeUnloaded(const QString &protocol);
@@ -64,7 +66,9 @@ Q_SIGNALS:
     void accountChanged(KirvAccount *account);
     void passwordNeeded(KirvAccount *account);
     void noticeReceived(KirvAccount *account, const QString &text);
-    /// The store did not take a change, or an account could not be created: \a text is for the user.
+    /// An account could not be created: \a reason is a sentence for the user, and nothing else says it.
+    void creationRefused(const KirvAccountKey &key, const QString &reason);
+    /// The store did not take a change: \a text is for the user.
     void problemOccurred(const QString &text);
 
 private:
@@ -79,16 +83,20 @@ private:
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
     QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
+    KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
+    QString idWithSameLogin(const KirvAccountKey &key) const;
+    void reportTwins(const QString &protocol);
     void refuse(const QString &reason);
 
     KirvStore &store;
-    KirvLoginQueue loginQueue;
+    KirvLoginQueue queue;
     std::function<KirvAccount *()> mainAccount;
     QList<KirvAccount *> all;
     QHash<KirvAccountKey, KirvAccount *> byKey;
     QHash<QString, ProtocolAccounts> byProtocol;
+    KirvLoginIndex logins;
     QHash<QString, QPointer<KirvProtocolBase>> protocols;
     QString error;
 };

@@ -113,13 +113,13 @@ void KirvReconciler::reconcile()
     const Step step = nextStep(now, *target, urge);
     const bool leavesSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
     if (!leavesSession) { // an avatar is not published over a session that is not wanted any more
-        target->setAvatarPath(now.avatarPath);
+        target->setAvatar(now.avatar);
         if (!alive || !target || scheduled) // a slot has changed something
             return;
     }
     take(step, now, std::exchange(urge, None));
     if (leavesSession && alive && target)
-        target->setAvatarPath(now.avatarPath);
+        target->setAvatar(now.avatar);
     if (alive && target && (step == Nothing || step == ChangePresence))
         Q_EMIT settled();
 }

@@ -24,7 +24,7 @@ public:
         bool online = false;
         KirvLogin login;
         KirvPresence presence;
-        QString avatarPath;
+        KirvAvatar avatar;
     };
     enum Step {
         Nothing,

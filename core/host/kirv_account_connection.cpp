@@ -2,6 +2,7 @@
 #include "host/kirv_account_connection.h"
 
 #include "core/accounts/kirv_account.h"
+#include "core/values/kirv_text_limit.h"
 
 namespace {
 
@@ -14,6 +15,46 @@ KirvAccount &self(KirvAccountConnection *connection)
 const KirvAccount &self(const KirvAccountConnection *connection)
 {
     return *static_cast<const KirvAccount *>(connection);
+}
+
+// The page gets as much of a text as its fields can hold. What comes back exactly as it was given stays what is stored.
+
+QString edited(const QString &stored, const QString &text)
+{
+    return text == kirvEditablePart(stored) ? stored : text;
+}
+
+/// \a text as a text edit gives it back.
+QString asEdited(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (QChar &character : text) {
+        switch (character.unicode()) {
+        case '\r':
+        case 0xfdd0: // in a document these begin and end a frame
+        case 0xfdd1:
+        case QChar::ParagraphSeparator:
+        case QChar::LineSeparator:
+            character = QLatin1Char('\n');
+            break;
+        case QChar::Nbsp:
+            character = QLatin1Char(' ');
+            break;
+        default:
+            break;
+        }
+    }
+    return text;
+}
+
+QString editedDescription(const QString &stored, const QString &text)
+{
+    return text == asEdited(kirvEditablePart(stored)) ? stored : edited(stored, text);
+}
+
+KirvPresence withDescription(const KirvPresence &presence, const QString &description)
+{
+    return KirvPresence(presence.getId(), presence.getDisplay(), presence.getIcon(), description);
 }
 
 } // namespace
@@ -35,22 +76,22 @@ KirvProtocol *KirvAccountConnection::getProtocol() const
 
 QString KirvAccountConnection::getAlias() const
 {
-    return self(this).record().alias;
+    return kirvEditablePart(self(this).record().alias);
 }
 
 void KirvAccountConnection::setAlias(const QString &alias)
 {
-    self(this).change([&](KirvAccountRecord &record) { record.alias = alias; });
+    self(this).change([&](KirvAccountRecord &record) { record.alias = edited(record.alias, alias); });
 }
 
 QString KirvAccountConnection::getPassword() const
 {
-    return self(this).record().password;
+    return kirvEditablePart(self(this).record().password);
 }
 
 void KirvAccountConnection::setPassword(const QString &password)
 {
-    self(this).change([&](KirvAccountRecord &record) { record.password = password; });
+    self(this).change([&](KirvAccountRecord &record) { record.password = edited(record.password, password); });
 }
 
 void KirvAccountConnection::setRememberPassword(bool remember)
@@ -70,20 +111,22 @@ void KirvAccountConnection::setRestoreLastDescription(bool restore)
 
 KirvPresence KirvAccountConnection::getDefaultPresence() const
 {
-    return self(this).defaultPresence();
+    const KirvPresence presence = self(this).defaultPresence();
+    return withDescription(presence, kirvEditablePart(presence.getDescription()));
 }
 
 void KirvAccountConnection::setDefaultPresence(const KirvPresence &presence)
 {
     self(this).change([&](KirvAccountRecord &record) {
         record.defaultPresence = presence.getId();
-        record.defaultDescription = presence.getDescription();
+        record.defaultDescription = editedDescription(record.defaultDescription, presence.getDescription());
     });
 }
 
 void KirvAccountConnection::setPresence(const KirvPresence &presence)
 {
-    self(this).setPresence(presence);
+    const QString stored = self(this).record().defaultDescription;
+    self(this).setPresence(withDescription(presence, editedDescription(stored, presence.getDescription())));
 }
 
 QString KirvAccountConnection::getCurrentAvatarPath() const

@@ -4,7 +4,6 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
-#include "core/store/kirv_settings_table.h"
 
 namespace {
 KirvHostServices *present = nullptr;
@@ -16,16 +15,13 @@ KirvHostServices::KirvHostServices(KirvAccountCollection &accounts, KirvPluginLo
     , accounts(accounts)
     , plugins(plugins)
     , settings(settings)
+    , mainAccountRule(accounts, settings, *this)
 {
     present = this;
     KirvAccountManagerPrivate::ampInstance = this;
     KirvPluginManagerPrivate::instance = this;
     KirvSettingsManagerPrivate::settingsMgrPrivInstance = this;
-    accounts.setMainAccount([this] { return static_cast<KirvAccount *>(mainAccount); });
-    connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this, [this](KirvAccount *account) {
-        if (mainAccount == account)
-            mainAccount = nullptr;
-    });
+    accounts.setMainAccount([this] { return mainAccountRule.account(); });
 }
 
 KirvHostServices::~KirvHostServices()
@@ -42,11 +38,4 @@ KirvHostServices::~KirvHostServices()
 KirvHostServices *KirvHostServices::instance()
 {
     return present;
-}
-
-void KirvHostServices::restoreMainAccount()
-{
-    const QString stored = settings.value(KirvSettingKey::mainAccount);
-    if (KirvAccount *account = accounts.find(KirvAccountKey::fromSetting(stored)))
-        mainAccount = account;
 }

@@ -2,6 +2,7 @@
 #ifndef KIRV_HOST_SERVICES_H
 #define KIRV_HOST_SERVICES_H
 
+#include "core/accounts/kirv_main_account.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
 #include "host/kirv_settings_manager.h"
@@ -29,12 +30,11 @@ public:
     /// The present services; null when there are none.
     static KirvHostServices *instance();
 
-    /// Makes the stored "main_account" the main account again, when it is still configured.
-    void restoreMainAccount();
-
     KirvAccountCollection &accounts;
     KirvPluginLoader &plugins;
     KirvClientSettings &settings;
+    /// The rule behind the main account; the client restores it at the start.
+    KirvMainAccount mainAccountRule;
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include "core/host/kirv_host_services.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_settings_table.h"
+#include "core/values/kirv_text_limit.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -48,9 +49,9 @@ KirvField fieldOf(const KirvSetting &setting, const QVariant &value)
     case KirvField::CheckBox:
         return KirvField::checkBox(text, setting.key, value.toBool(), QString());
     case KirvField::Password:
-        return KirvField::password(text, setting.key, value.toString(), QString());
+        return KirvField::password(text, setting.key, kirvEditablePart(value.toString()), QString());
     default:
-        return KirvField::textEdit(text, setting.key, value.toString(), QString());
+        return KirvField::textEdit(text, setting.key, kirvEditablePart(value.toString()), QString());
     }
 }
 
@@ -84,9 +85,13 @@ QList<KirvField> KirvSettingsManagerPrivate::readAccountGlobals(const QString &i
     return fields;
 }
 
-/// A refusal of the store is reported by the settings.
+/// A refusal of the store is reported by the settings. The page has assigned a main account before it writes it: the
+/// one that is stored is the main account again.
 void KirvSettingsManagerPrivate::writeGlobalSetting(const KirvField &field)
 {
-    if (KirvHostServices *services = KirvHostServices::instance())
-        services->settings.setValue(field.getId(), field.getText());
+    KirvHostServices *services = KirvHostServices::instance();
+    if (!services || services->settings.setValue(field.getId(), field.getText()))
+        return;
+    if (field.getId() == KirvSettingKey::mainAccount)
+        services->mainAccountRule.restore();
 }

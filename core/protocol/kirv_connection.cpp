@@ -53,7 +53,7 @@ public:
     KirvLogin login;
     KirvPresence wanted;
     KirvPresence applied; ///< what the server received last
-    QString avatarPath;
+    KirvAvatar avatar;
     KirvBackOff backOff;
     std::function<double()> random;
     std::function<bool()> mayBegin; ///< null: always
@@ -370,17 +370,16 @@ QString KirvConnection::securityText() const
     return QString();
 }
 
-QString KirvConnection::avatarPath() const
+KirvAvatar KirvConnection::avatar() const
 {
-    return d->avatarPath;
+    return d->avatar;
 }
 
-void KirvConnection::setAvatarPath(const QString &path)
+void KirvConnection::setAvatar(const KirvAvatar &avatar)
 {
-    if (d->avatarPath == path)
-        return;
-    d->avatarPath = path;
-    if (d->state == Online)
+    const bool isNew = avatar.isChosen && (!d->avatar.isChosen || avatar.path != d->avatar.path);
+    d->avatar = avatar;
+    if (isNew && d->state == Online)
         publishAvatar();
 }
 

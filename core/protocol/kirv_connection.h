@@ -2,6 +2,7 @@
 #ifndef KIRV_CONNECTION_H
 #define KIRV_CONNECTION_H
 
+#include "core/protocol/kirv_avatar.h"
 #include "core/protocol/kirv_back_off.h"
 #include "core/protocol/kirv_directory_answer.h"
 #include "core/protocol/kirv_login.h"
@@ -97,9 +98,9 @@ public:
     /// "TLSv1.3, SASL EXTERNAL". Plain text; empty when off line, and where the protocol does not know it.
     virtual QString securityText() const;
 
-    /// The image file of the account's avatar; empty: none. A change is published at once when on line.
-    QString avatarPath() const;
-    void setAvatarPath(const QString &path);
+    /// The account's avatar. One that was chosen is published at once when on line.
+    KirvAvatar avatar() const;
+    void setAvatar(const KirvAvatar &avatar);
 
     /// Requests to the public directory. Each returns the number of the request, never 0, and is answered by exactly
     /// one directoryAnswered() of that number, from the event loop or later: also on an error, on a time-out and when
@@ -118,6 +119,12 @@ Q_SIGNALS:
     void directoryAnswered(const KirvDirectoryAnswer &answer);
     /// The server says something that the user should read although nothing failed.
     void noticeReceived(const QString &text);
+    /// The server holds the picture of the file \a path now, or none when it is empty; \a onServer is for
+    /// KirvAvatar::onServer.
+    void avatarPublished(const QString &path, const QByteArray &onServer);
+    /// Another client has changed the picture on the server: \a image, the bytes of an image file, takes the place of
+    /// avatar(). Empty: it was removed.
+    void avatarReceived(const QByteArray &image, const QByteArray &onServer);
 
 protected:
     /// Starts to log in with login(); called in state Connecting only. Reply with loginSucceeded() or loginFailed(),
@@ -130,7 +137,8 @@ protected:
     virtual void abortConnection() = 0;
     /// Sends \a presence; called in state Online only.
     virtual void applyPresence(const KirvPresence &presence) = 0;
-    /// Publishes avatarPath(); called in state Online only, when it changed. The default does nothing.
+    /// Publishes avatar(); called in state Online only, when one was chosen. Emit avatarPublished() then. At the log-in
+    /// the protocol looks for itself whether it is to be published. The default does nothing.
     virtual void publishAvatar();
 
     /// Start a directory request; called in state Online only. Reply with answerDirectoryRequest() or

@@ -2,6 +2,8 @@
 #include "core/ui/kirv_field_form.h"
 
 #include "core/ui/kirv_keyboard.h"
+#include "core/ui/kirv_length_limit.h"
+#include "core/values/kirv_text_limit.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -33,8 +35,6 @@ const int LongestWord = 60;
 const int LongestToolTip = 1000;
 const int LongestLine = 2000;
 const int LabelWidth = 40; // in average characters
-// Laying out a text without a gap takes time with the square of its length: seconds for 100,000 characters.
-const int LongestEditableText = 32767;
 const int ShownLines = 4;
 
 QString shortened(const QString &text, int length)
@@ -78,7 +78,13 @@ bool fitsLabel(const QString &text)
 bool isTooLongToEdit(const KirvField &field)
 {
     const bool isText = field.getKind() == KirvField::Text || field.getKind() == KirvField::MultiLine;
-    return isText && field.getText().size() > LongestEditableText;
+    return isText && field.getText().size() > kirvLongestEditableText;
+}
+
+/// A password can be replaced whether it is shown in full or not.
+bool isTooLongPassword(const KirvField &field)
+{
+    return field.getKind() == KirvField::Password && field.getText().size() > kirvLongestEditableText;
 }
 
 bool isWholeNumberIn(const KirvField &field)
@@ -106,6 +112,9 @@ QString problemOf(const KirvField &field)
         return field.isRequired() ? KirvFieldForm::tr("This must be filled in.") : QString();
     if (isTooLongToEdit(field))
         return KirvFieldForm::tr("This text is too long to be shown in full and to be changed here.");
+    if (isTooLongPassword(field))
+        return KirvFieldForm::tr(
+            "This text is too long to be shown in full. It is kept as long as nothing is changed here.");
     if (field.getKind() == KirvField::Number && !isWholeNumberIn(field))
         return KirvFieldForm::tr("This must be a whole number from %1 to %2.")
             .arg(field.getMinimum())
@@ -121,7 +130,7 @@ QString problemOf(const KirvField &field)
 bool canHaveProblem(const KirvField &field)
 {
     return field.isRequired() || !field.getPattern().isEmpty() || field.getKind() == KirvField::Number
-        || isTooLongToEdit(field);
+        || isTooLongToEdit(field) || isTooLongPassword(field);
 }
 
 QString objectNameOf(const KirvField &field)
@@ -277,7 +286,7 @@ void KirvFieldForm::addNote(const KirvField &field)
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         note = label;
     } else {
-        auto *edit = new QPlainTextEdit(shortened(text, LongestEditableText), this);
+        auto *edit = new QPlainTextEdit(shortened(text, kirvLongestEditableText), this);
         edit->setReadOnly(true);
         edit->setTabChangesFocus(true);
         edit->setAccessibleName(caption);
@@ -315,8 +324,8 @@ KirvFieldForm::Editor KirvFieldForm::makeEditor(const KirvField &field, std::siz
 KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_t row)
 {
     auto *edit = new QLineEdit(this);
-    edit->setMaxLength(qMax(edit->maxLength(), int(field.getText().size())));
-    edit->setText(field.getText());
+    edit->setText(kirvEditablePart(field.getText()));
+    kirvLimitLength(edit);
     edit->setCursorPosition(0);
     if (field.getKind() == KirvField::Password)
         edit->setEchoMode(QLineEdit::Password);
@@ -328,7 +337,8 @@ KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_
 
 KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_t row)
 {
-    auto *edit = new QPlainTextEdit(shortened(field.getText(), LongestEditableText), this);
+    auto *edit = new QPlainTextEdit(shortened(field.getText(), kirvLongestEditableText), this);
+    kirvLimitLength(edit);
     edit->setReadOnly(isTooLongToEdit(field));
     edit->setTabChangesFocus(true);
     edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);

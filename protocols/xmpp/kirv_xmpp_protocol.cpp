@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_protocol.h"
 
+#include "protocols/xmpp/kirv_xmpp_address.h"
 #include "protocols/xmpp/kirv_xmpp_connection.h"
 #include "protocols/xmpp/kirv_xmpp_deletion_request.h"
 #include "protocols/xmpp/kirv_xmpp_password_request.h"
@@ -56,6 +57,11 @@ QList<KirvField> KirvXmppProtocol::getConfigurationFields(const QString &name)
 QString KirvXmppProtocol::getLoginPattern()
 {
     return KirvXmppSettings::loginPattern();
+}
+
+QString KirvXmppProtocol::normalizedLogin(const QString &login) const
+{
+    return kirvXmppNormalizedAddress(login);
 }
 
 QList<KirvPresence> KirvXmppProtocol::presences() const

@@ -330,6 +330,8 @@ void tst_Client::titleAndViewFollowTheMainAccount()
     restart();
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – Bert B."));
     KirvAccountManager::getInstance()->removeAccount(QStringLiteral("bert"), example);
+    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – anna"));
+    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings"));
 }
 

@@ -323,13 +323,13 @@ void tst_HostServices::theMainAccountIsRestored_data()
     QTest::newRow("an id with the separator in it") << "odd@@id@@Fake"
                                                     << "odd@@id";
     QTest::newRow("removed") << "gone@@Fake"
-                             << "";
+                             << "id";
     QTest::newRow("another protocol") << "id@@Other"
-                                      << "";
-    QTest::newRow("no separator") << "id"
-                                  << "";
+                                      << "id";
+    QTest::newRow("no separator") << "odd"
+                                  << "id";
     QTest::newRow("none") << ""
-                          << "";
+                          << "id";
 }
 
 void tst_HostServices::theMainAccountIsRestored()
@@ -338,8 +338,8 @@ void tst_HostServices::theMainAccountIsRestored()
     QFETCH(QString, id);
     QVERIFY(core->create("id") && core->create("odd@@id"));
     QVERIFY(core->store.writeSetting(KirvSettingKey::mainAccount, setting));
-    core->restart(true, [this] { core->services->restoreMainAccount(); });
-    QCOMPARE(manager().getMainAccount(), id.isEmpty() ? nullptr : core->account(id));
+    core->restart(true, [this] { core->services->mainAccountRule.restore(); });
+    QCOMPARE(manager().getMainAccount(), core->account(id));
 }
 
 void tst_HostServices::protocolsAreFoundByTheirName()

@@ -70,7 +70,7 @@ void tst_LoginTurns::setLimits(int attempts, int patience)
     KirvLoginQueue::Limits limits;
     limits.attempts = limits.urgentAttempts = attempts;
     limits.patience = patience;
-    core->accounts->logins().setLimits(limits);
+    core->accounts->loginQueue().setLimits(limits);
 }
 
 /// Starts the core with \a count accounts, three of which log in at once; the server holds their log-ins. An attempt
@@ -146,7 +146,7 @@ void tst_LoginTurns::onlyAFewAttemptsAreInProgress()
     for (int number = 0; number < 47; ++number) {
         connection(number)->serverAccepts();
         QCOMPARE(started(), QStringList { id(number + 3) });
-        QCOMPARE(core->accounts->logins().attemptCount(), 3);
+        QCOMPARE(core->accounts->loginQueue().attemptCount(), 3);
     }
 }
 
@@ -175,7 +175,7 @@ void tst_LoginTurns::theMainAccountIsFirstWhenAllReturn()
         QVERIFY(account(number)->isOnline());
         connection(number)->serverGoes();
     }
-    QTRY_COMPARE(core->accounts->logins().waitingCount(), 9);
+    QTRY_COMPARE(core->accounts->loginQueue().waitingCount(), 9);
     QCOMPARE(started(), ids({ 0 })); // it was back before the others
     connection(0)->serverAccepts();
     QCOMPARE(started(), ids({ 7 }));
@@ -220,7 +220,7 @@ void tst_LoginTurns::attemptsThatHangDoNotBlockTheOthers()
     QTRY_COMPARE(connection(2)->state(), State::Connecting);
     QTRY_COMPARE(connection(11)->state(), State::Connecting);
     QCOMPARE(connection(0)->state(), State::Connecting);
-    QTRY_COMPARE(core->accounts->logins().attemptCount(), 0);
+    QTRY_COMPARE(core->accounts->loginQueue().attemptCount(), 0);
     connection(0)->serverAccepts();
     QVERIFY(account(0)->isOnline());
 }
@@ -260,8 +260,8 @@ void tst_LoginTurns::unloadingTheProtocolEndsAllWaits()
     started();
     core->accounts->protocolAboutToBeUnloaded(core->fake);
     QCOMPARE(core->server().connections, 0);
-    QCOMPARE(core->accounts->logins().waitingCount(), 0);
-    QCOMPARE(core->accounts->logins().attemptCount(), 0);
+    QCOMPARE(core->accounts->loginQueue().waitingCount(), 0);
+    QCOMPARE(core->accounts->loginQueue().attemptCount(), 0);
     QCOMPARE(started(), QStringList());
     core->accounts->protocolLoaded(core->protocol.get());
     QCOMPARE(started(), ids({ 0, 1, 2 }));
@@ -277,7 +277,7 @@ void tst_LoginTurns::aRemovedAccountDoesNotLogIn()
     connection(1)->serverAccepts();
     QCOMPARE(started(), ids({ 4, 5 }));
     QTRY_VERIFY(!removed);
-    QCOMPARE(core->accounts->logins().waitingCount(), 0);
+    QCOMPARE(core->accounts->loginQueue().waitingCount(), 0);
 }
 
 void tst_LoginTurns::aDisabledAccountDoesNotLogIn()
@@ -298,7 +298,7 @@ void tst_LoginTurns::quittingEndsAllWaits()
     start(20);
     started();
     core->accounts->logOutAll(3000);
-    QCOMPARE(core->accounts->logins().waitingCount(), 0);
+    QCOMPARE(core->accounts->loginQueue().waitingCount(), 0);
     for (int number = 0; number < 20; ++number)
         QCOMPARE(connection(number)->state(), State::Offline);
     QCOMPARE(started(), QStringList());
@@ -352,7 +352,7 @@ void tst_LoginTurns::reconnectingIsNotDelayed()
     account(number)->reconnect();
     QCOMPARE(started().value(0), id(number));
     QCOMPARE(connection(number)->state(), State::Connecting);
-    QVERIFY(core->accounts->logins().waitingCount() >= 15);
+    QVERIFY(core->accounts->loginQueue().waitingCount() >= 15);
 }
 
 void tst_LoginTurns::aPresenceIsNotDelayed()

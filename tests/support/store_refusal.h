@@ -7,19 +7,20 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
-/// While it lives, the profile refuses to store changes of accounts: a trigger in its database, made over a
-/// connection of its own.
+/// While it lives, the profile refuses to store changes of accounts, or of another table: a trigger in its database,
+/// made over a connection of its own.
 class StoreRefusal {
 public:
     /// \a condition limits the refusal to the changes for which it holds, an SQL expression over NEW and OLD, and
     /// \a change is the kind of change, an SQL keyword.
     explicit StoreRefusal(const QString &profileFolder, const QString &condition = QStringLiteral("1"),
-                          const QString &change = QStringLiteral("UPDATE"))
+                          const QString &change = QStringLiteral("UPDATE"),
+                          const QString &table = QStringLiteral("account"))
         : file(QDir(profileFolder).filePath(QStringLiteral("profile.sqlite")))
     {
-        isHolding = run(QStringLiteral("CREATE TRIGGER test_refusal BEFORE %1 ON account WHEN %2 "
+        isHolding = run(QStringLiteral("CREATE TRIGGER test_refusal BEFORE %1 ON %3 WHEN %2 "
                                        "BEGIN SELECT RAISE(ABORT, 'refused by the test'); END")
-                            .arg(change, condition));
+                            .arg(change, condition, table));
     }
     ~StoreRefusal() { end(); }
     Q_DISABLE_COPY(StoreRefusal)

@@ -132,7 +132,9 @@ QString KirvWalkChecks::storeDisagreement() const
         return QStringLiteral("the store holds too many accounts");
     const auto *mainAccount = static_cast<KirvAccount *>(KirvAccountManager::getInstance()->getMainAccount());
     const QString stored = walk.client->settings().value(QStringLiteral("main_account"));
-    if (mainAccount && mainAccount->key().toSetting() != stored)
+    // Where the store refused the one that the rule has chosen, it still holds one that cannot be it.
+    const KirvAccount *storedAccount = walk.client->accounts().find(KirvAccountKey::fromSetting(stored));
+    if (storedAccount && storedAccount->isEnabled() && storedAccount != mainAccount)
         return QStringLiteral("the store holds the main account %1").arg(stored);
     return QString();
 }

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_account_row_delegate.h"
+
+#include "client/kirv_account_rows.h"
+#include "client/kirv_account_status.h"
+#include "client/kirv_plain_text.h"
+#include "client/kirv_state_shape.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "host/kirv_account_manager.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QTimer>
+#include <QTreeWidget>
+
+namespace {
+
+const int millisecondsOfASecond = 1000;
+/// How much of the colour of the name the line below it has.
+const qreal strengthOfState = 0.75;
+
+QColor mixed(const QColor &ink, const QColor &paper)
+{
+    const auto mix = [](qreal front, qreal back) { return front * strengthOfState + back * (1 - strengthOfState); };
+    return QColor::fromRgbF(mix(ink.redF(), paper.redF()), mix(ink.greenF(), paper.greenF()),
+                            mix(ink.blueF(), paper.blueF()));
+}
+
+QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
+{
+    if (!(option.state & QStyle::State_Enabled))
+        return QPalette::Disabled;
+    return option.state & QStyle::State_Active ? QPalette::Normal : QPalette::Inactive;
+}
+
+} // namespace
+
+KirvAccountRowDelegate::KirvAccountRowDelegate(const KirvAccountCollection &accounts, QTreeWidget *list)
+    : KirvNameDelegate(list)
+    , accounts(accounts)
+    , list(list)
+    , countdown(new QTimer(this))
+{
+    countdown->setSingleShot(true);
+    connect(countdown, &QTimer::timeout, list->viewport(), QOverload<>::of(&QWidget::update));
+}
+
+const KirvAccount *KirvAccountRowDelegate::accountOf(const QModelIndex &index) const
+{
+    return accounts.find(KirvAccountRows::keyOf(index));
+}
+
+void KirvAccountRowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    KirvNameDelegate::initStyleOption(option, index);
+    if (index.column() != KirvAliasColumn)
+        return;
+    if (option->text.isEmpty()) {
+        if (const KirvAccount *account = accountOf(index))
+            option->text = kirvPlainName(account->displayName());
+    }
+    // Room for the icon, which has no file. The style keeps check box, icon and text apart, in either direction.
+    option->features |= QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasDisplay;
+    const int edge = list->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, list);
+    option->decorationSize = QSize(edge, edge);
+    option->decorationAlignment = Qt::AlignCenter;
+}
+
+void KirvAccountRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index) const
+{
+    const KirvAccount *account = index.column() == KirvAliasColumn ? accountOf(index) : nullptr;
+    if (!account) {
+        KirvNameDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    const QStyle *style = list->style();
+    const QRect iconPlace = style->subElementRect(QStyle::SE_ItemViewItemDecoration, &row, list);
+    const QRect textPlace = style->subElementRect(QStyle::SE_ItemViewItemText, &row, list);
+    const QString name = row.text;
+    row.text.clear();
+    style->drawControl(QStyle::CE_ItemViewItem, &row, painter, list);
+
+    const KirvAccountStatus status(*account, account == KirvAccountManager::getInstance()->getMainAccount());
+    const bool isSelected = row.state & QStyle::State_Selected;
+    kirvPaintStateShape(painter, iconPlace, status.kind(),
+                        isSelected ? row.palette.color(colorGroup(row), QPalette::HighlightedText)
+                                   : kirvStateColor(status.kind(), row.palette));
+    if (status.kind() == KirvAccountStatus::Disabled || status.kind() == KirvAccountStatus::NotLoaded)
+        row.palette.setColor(QPalette::Text,
+                             mixed(row.palette.color(QPalette::Text), row.palette.color(QPalette::Base)));
+    paintLines(painter, row, textPlace, name, status.line());
+    if (status.kind() == KirvAccountStatus::Waiting && !countdown->isActive())
+        countdown->start(millisecondsOfASecond);
+}
+
+void KirvAccountRowDelegate::paintLines(QPainter *painter, const QStyleOptionViewItem &option, const QRect &place,
+                                        const QString &name, const QString &state) const
+{
+    const QPalette::ColorGroup group = colorGroup(option);
+    const bool isSelected = option.state & QStyle::State_Selected;
+    const QColor ink = option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
+    const QFont small = stateFont(option.font);
+    const QFontMetrics metrics(option.font);
+    const QFontMetrics smallMetrics(small);
+    const int margin = list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
+    QRect line = place.adjusted(margin, 0, -margin, 0);
+    line.setTop(place.center().y() - (metrics.height() + smallMetrics.height()) / 2);
+    line.setHeight(metrics.height());
+    const auto alignment = QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter);
+
+    painter->save();
+    painter->setFont(option.font);
+    painter->setPen(ink);
+    painter->drawText(line, int(alignment) | Qt::TextSingleLine,
+                      metrics.elidedText(QString(name).replace(QLatin1Char('\n'), QLatin1Char(' ')),
+                                         option.textElideMode, line.width()));
+    line.moveTop(line.bottom() + 1);
+    line.setHeight(smallMetrics.height());
+    painter->setFont(small);
+    painter->setPen(isSelected ? ink : mixed(ink, option.palette.color(group, QPalette::Base)));
+    painter->drawText(line, int(alignment) | Qt::TextSingleLine,
+                      smallMetrics.elidedText(state, Qt::ElideRight, line.width()));
+    painter->restore();
+}
+
+QSize KirvAccountRowDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QSize size = KirvNameDelegate::sizeHint(option, index);
+    if (index.column() == KirvAliasColumn) {
+        const int lines = QFontMetrics(option.font).height() + QFontMetrics(stateFont(option.font)).height();
+        size.setHeight(qMax(size.height(), lines + QFontMetrics(option.font).height() / 2));
+    }
+    return size;
+}
+
+QRect KirvAccountRowDelegate::textRect(const QModelIndex &index) const
+{
+    QStyleOptionViewItem row;
+    row.initFrom(list);
+    row.rect = list->visualRect(index);
+    row.widget = list;
+    initStyleOption(&row, index);
+    return list->style()->subElementRect(QStyle::SE_ItemViewItemText, &row, list);
+}
+
+QFont KirvAccountRowDelegate::stateFont(const QFont &font)
+{
+    QFont small = font;
+    if (font.pointSizeF() > 0)
+        small.setPointSizeF(font.pointSizeF() * 0.9);
+    else
+        small.setPixelSize(qMax(1, font.pixelSize() * 9 / 10));
+    return small;
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_account_rows.h"
+
+#include <QTreeWidget>
+
+KirvAccountRows::KirvAccountRows(QTreeWidget *list)
+    : QObject(list)
+    , list(list)
+{
+    // The model's signals come also while those of the list are blocked.
+    connect(list->model(), &QAbstractItemModel::rowsInserted, this, &KirvAccountRows::insert);
+    connect(list->model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, &KirvAccountRows::remove);
+    connect(list->model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] { byKey.clear(); });
+    insert(QModelIndex(), 0, list->topLevelItemCount() - 1);
+}
+
+KirvAccountKey KirvAccountRows::keyOf(const QTreeWidgetItem *row)
+{
+    return { row->text(KirvIdColumn), row->text(KirvProtocolColumn) };
+}
+
+KirvAccountKey KirvAccountRows::keyOf(const QModelIndex &index)
+{
+    return { index.sibling(index.row(), KirvIdColumn).data().toString(),
+             index.sibling(index.row(), KirvProtocolColumn).data().toString() };
+}
+
+QList<QTreeWidgetItem *> KirvAccountRows::rowsOf(const QString &protocol) const
+{
+    // Qt compares case-insensitively by default; names of protocols may differ in case only.
+    return list->findItems(protocol, Qt::MatchExactly | Qt::MatchCaseSensitive, KirvProtocolColumn);
+}
+
+void KirvAccountRows::insert(const QModelIndex &parent, int first, int last)
+{
+    for (int i = first; i <= last && !parent.isValid(); ++i) {
+        QTreeWidgetItem *row = list->topLevelItem(i);
+        const KirvAccountKey key = keyOf(row);
+        byKey.insert(key, row);
+        emit inserted(key);
+    }
+}
+
+void KirvAccountRows::remove(const QModelIndex &parent, int first, int last)
+{
+    for (int i = first; i <= last && !parent.isValid(); ++i) {
+        QTreeWidgetItem *row = list->topLevelItem(i);
+        const KirvAccountKey key = keyOf(row);
+        emit aboutToBeRemoved(key);
+        byKey.remove(key, row);
+    }
+}

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_account_strip.h"
+
+#include "client/kirv_account_status.h"
+#include "client/kirv_plain_text.h"
+#include "client/kirv_state_shape.h"
+#include "core/accounts/kirv_account.h"
+#include "core/ui/kirv_keyboard.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QTextDocument>
+#include <QTextEdit>
+
+namespace {
+/// Longer reasons are scrolled.
+const int linesOfReason = 3;
+}
+
+KirvAccountStrip::KirvAccountStrip(QWidget *parent)
+    : QFrame(parent)
+    , icon(new QLabel(this))
+    , title(new QLabel(this))
+    , reason(new QTextEdit(this))
+    , passwordButton(createButton("Accounts_PasswordButton", tr("Enter Password…"),
+                                  tr("Takes another password and logs the account in with it.")))
+    , reconnectButton(
+          createButton("Accounts_ReconnectButton", tr("Reconnect"), tr("Logs the account out and in again.")))
+    , editButton(createButton("Accounts_StripEditButton", tr("Edit…"), tr("Change the account")))
+{
+    setObjectName(QStringLiteral("Accounts_Strip"));
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::AlternateBase);
+    setForegroundRole(QPalette::Text);
+
+    icon->setObjectName(QStringLiteral("Accounts_StripIcon"));
+    title->setObjectName(QStringLiteral("Accounts_StripTitle"));
+    title->setTextFormat(Qt::PlainText);
+    title->setForegroundRole(QPalette::Text);
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
+    title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // no text widens the page
+
+    reason->setObjectName(QStringLiteral("Accounts_StripReason"));
+    reason->setAccessibleName(tr("Reason of the state of the account"));
+    reason->setReadOnly(true);
+    reason->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    reason->setTabChangesFocus(true);
+    reason->setFrameShape(QFrame::NoFrame);
+    reason->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    reason->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    reason->document()->setDocumentMargin(0);
+    reason->viewport()->setAutoFillBackground(false);
+
+    connect(passwordButton, &QPushButton::clicked, this, &KirvAccountStrip::passwordRequested);
+    connect(reconnectButton, &QPushButton::clicked, this, &KirvAccountStrip::reconnectionRequested);
+    connect(editButton, &QPushButton::clicked, this, &KirvAccountStrip::editRequested);
+    arrange();
+    fixHeight();
+    show(nullptr, false);
+}
+
+QPushButton *KirvAccountStrip::createButton(const char *name, const QString &text, const QString &toolTip)
+{
+    auto *button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(toolTip);
+    return button;
+}
+
+void KirvAccountStrip::arrange()
+{
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(passwordButton);
+    buttons->addWidget(reconnectButton);
+    buttons->addWidget(editButton);
+    auto *layout = new QGridLayout(this);
+    layout->setColumnStretch(1, 1);
+    layout->addWidget(icon, 0, 0);
+    layout->addWidget(title, 0, 1);
+    layout->addWidget(reason, 1, 1);
+    layout->addLayout(buttons, 2, 0, 1, 2);
+}
+
+void KirvAccountStrip::fixHeight()
+{
+    const int edge = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    icon->setFixedSize(edge, edge);
+    reason->setFixedHeight(linesOfReason * reason->fontMetrics().lineSpacing());
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void KirvAccountStrip::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if ((event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) && reason)
+        fixHeight();
+}
+
+void KirvAccountStrip::chooseMnemonics()
+{
+    QSet<QChar> taken = kirvMnemonicsAround(this);
+    passwordButton->setText(kirvWithMnemonic(tr("Enter Password…"), &taken));
+    reconnectButton->setText(kirvWithMnemonic(tr("Reconnect"), &taken));
+    editButton->setText(kirvWithMnemonic(tr("Edit…"), &taken));
+}
+
+void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
+{
+    passwordButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEnterPassword());
+    reconnectButton->setEnabled(account && KirvAccountStatus(*account, isMain).canReconnect());
+    editButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEdit());
+    if (!account) {
+        icon->setPixmap(QPixmap());
+        icon->setAccessibleName(QString());
+        title->setText(tr("No account is selected."));
+        setAccessibleName(title->text());
+        reason->clear();
+        return;
+    }
+    const KirvAccountStatus status(*account, isMain);
+    icon->setPixmap(kirvStatePixmap(status.kind(), this, icon->width()));
+    icon->setAccessibleName(status.spokenLine());
+    title->setText(status.spokenLine());
+    //: %1 = name of an account
+    setAccessibleName(tr("State of %1").arg(kirvPlainName(account->displayName())));
+    const QString text = status.reason();
+    if (reason->toPlainText() != text) // what is selected in it stays
+        reason->setPlainText(text);
+}

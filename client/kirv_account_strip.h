@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_STRIP_H
+#define KIRV_ACCOUNT_STRIP_H
+
+#include <QFrame>
+
+class KirvAccount;
+class QLabel;
+class QPushButton;
+class QTextEdit;
+
+/// Says of one account why it is in its state and what can be done. Its height never changes, and its buttons stay
+/// where they are: what cannot be done is disabled.
+class KirvAccountStrip : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit KirvAccountStrip(QWidget *parent = nullptr);
+
+    /// Shows \a account as it is now; null: none. The account is not kept. \a isMain: it is the main account.
+    void show(const KirvAccount *account, bool isMain);
+    /// To be called when the strip is in its window: gives the buttons mnemonics that the window has not.
+    void chooseMnemonics();
+
+Q_SIGNALS:
+    void passwordRequested();
+    void reconnectionRequested();
+    void editRequested();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    using QFrame::show;
+    QPushButton *createButton(const char *name, const QString &text, const QString &toolTip);
+    void arrange();
+    void fixHeight();
+
+    QLabel *icon;
+    QLabel *title;
+    QTextEdit *reason;
+    QPushButton *passwordButton;
+    QPushButton *reconnectButton;
+    QPushButton *editButton;
+};
+
+#endif

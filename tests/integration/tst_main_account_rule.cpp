@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_main_account.h"
+#include "core/host/kirv_host_services.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "core/store/kirv_client_settings.h"
+#include "core/store/kirv_store.h"
+#include "host/kirv_account_manager.h"
+#include "tests/integration/kirv_client_windows.h"
+#include "tests/support/kirv_patience.h"
+#include "tests/support/store_refusal.h"
+
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+const QString ann = QStringLiteral("ann");
+const QString bob = QStringLiteral("bob");
+const QString cleo = QStringLiteral("cleo");
+} // namespace
+
+/// Which account is the main account, and whether the windows show that one.
+class tst_MainAccountRule : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void firstEnabledAccountBecomesIt();
+    void chosenOneStaysOverARestart();
+    void removingPassesItOn_data();
+    void removingPassesItOn();
+    void disablingPassesItOn();
+    void itIsSaidOnceThatItPassedOn();
+    void nothingIsSaidWithoutASuccessor();
+    void withoutAnEnabledAccountThereIsNone();
+    void unloadedPlugInPassesNothingOn();
+    void accountOfAMissingPlugInStaysOverARestart();
+    void storedOneThatIsDisabledIsReplacedAtTheStart();
+    void refusedStoringPassesItOnAllTheSame();
+    void assigningStoresNothing();
+    void aliasOfItIsShownAtOnce();
+    void accountWithoutAliasIsOfferedUnderItsLogin();
+    void correctingTheSelectorIsNoChoice();
+
+private:
+    QString stored() const { return windows->client->settings().value(QStringLiteral("main_account")); }
+    /// The login of the main account, when the selector and the title show it and it is stored; otherwise what is
+    /// wrong.
+    QString mainAccount() const;
+    KirvMainAccount &rule() const { return KirvHostServices::instance()->mainAccountRule; }
+
+    std::unique_ptr<KirvClientWindows> windows;
+};
+
+void tst_MainAccountRule::init()
+{
+    windows = std::make_unique<KirvClientWindows>();
+    QVERIFY(windows->isReady());
+}
+
+void tst_MainAccountRule::cleanup()
+{
+    windows.reset();
+}
+
+QString tst_MainAccountRule::mainAccount() const
+{
+    KirvClientWindows::settle();
+    const auto *account = KirvAccountManager::getInstance()->getMainAccount();
+    const QString id = account ? account->getUid() : QString();
+    if (windows->shownMainAccount() != id)
+        return QStringLiteral("%1, but the selector shows %2").arg(id, windows->shownMainAccount());
+    if (stored() != (id.isEmpty() ? QString() : id + QStringLiteral("@@Fake")))
+        return QStringLiteral("%1, but %2 is stored").arg(id, stored());
+    const QString title = windows->client->window()->windowTitle();
+    if (title != (id.isEmpty() ? QStringLiteral("Kirv – Settings") : QStringLiteral("Kirv – Settings – ") + id))
+        return QStringLiteral("%1, but the title is %2").arg(id, title);
+    return id;
+}
+
+void tst_MainAccountRule::firstEnabledAccountBecomesIt()
+{
+    QCOMPARE(mainAccount(), QString());
+    windows->addAccount(bob);
+    QCOMPARE(mainAccount(), bob);
+    windows->addAccount(ann); // sorts before it
+    QCOMPARE(mainAccount(), bob);
+    windows->restart();
+    QCOMPARE(mainAccount(), bob);
+    QCOMPARE(windows->messages(), QStringList());
+}
+
+void tst_MainAccountRule::chosenOneStaysOverARestart()
+{
+    for (const QString &id : { ann, bob, cleo })
+        windows->addAccount(id);
+    windows->chooseMainAccount(bob);
+    QCOMPARE(mainAccount(), bob);
+    windows->restart();
+    QCOMPARE(mainAccount(), bob);
+    QVERIFY(rule().choose(windows->account(cleo)));
+    QCOMPARE(mainAccount(), cleo);
+}
+
+void tst_MainAccountRule::removingPassesItOn_data()
+{
+    QTest::addColumn<bool>("inPage");
+    QTest::newRow("in the page") << true;
+    QTest::newRow("by another part") << false;
+}
+
+void tst_MainAccountRule::removingPassesItOn()
+{
+    QFETCH(bool, inPage);
+    for (const QString &id : { cleo, ann, bob })
+        windows->addAccount(id);
+    windows->chooseMainAccount(ann);
+    windows->account(cleo)->setEnabled(false);
+    if (inPage)
+        windows->removeInPage(ann);
+    else
+        KirvAccountManager::getInstance()->removeAccount(ann, QStringLiteral("Fake"));
+    QCOMPARE(mainAccount(), bob);
+}
+
+void tst_MainAccountRule::disablingPassesItOn()
+{
+    for (const QString &id : { ann, bob, cleo })
+        windows->addAccount(id);
+    windows->toggleInPage(ann);
+    QCOMPARE(mainAccount(), bob);
+    windows->toggleInPage(ann); // is enabled again
+    QCOMPARE(mainAccount(), bob);
+}
+
+void tst_MainAccountRule::itIsSaidOnceThatItPassedOn()
+{
+    for (const QString &id : { ann, bob, cleo })
+        windows->addAccount(id);
+    windows->removeInPage(ann);
+    const QString removed = QStringLiteral("bob is the main account now, because ann was removed.");
+    QCOMPARE(windows->messages(), QStringList { removed });
+    windows->toggleInPage(bob);
+    const QString disabled = QStringLiteral("cleo is the main account now, because bob was disabled.");
+    QCOMPARE(windows->messages(), (QStringList { removed, disabled }));
+}
+
+void tst_MainAccountRule::nothingIsSaidWithoutASuccessor()
+{
+    windows->addAccount(ann);
+    windows->removeInPage(ann);
+    QCOMPARE(mainAccount(), QString());
+    QCOMPARE(windows->messages(), QStringList());
+}
+
+void tst_MainAccountRule::withoutAnEnabledAccountThereIsNone()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    windows->toggleInPage(ann);
+    windows->toggleInPage(bob);
+    QCOMPARE(mainAccount(), QString());
+    windows->toggleInPage(bob);
+    QCOMPARE(mainAccount(), bob);
+}
+
+void tst_MainAccountRule::unloadedPlugInPassesNothingOn()
+{
+    windows->addAccount(ann);
+    auto *other = new KirvFakeProtocol(QStringLiteral("Other"));
+    QVERIFY(windows->client->plugins().addProtocol(other));
+    KirvAccountManager::getInstance()->createAccount(bob, bob, QString(), true, other, other->presences().first(),
+                                                     other->accountSettings());
+    KirvClientWindows::settle();
+    windows->client->accounts().protocolAboutToBeUnloaded(QStringLiteral("Fake"));
+    windows->client->accountsPage()->updateAccounts();
+    KirvClientWindows::settle();
+    QCOMPARE(stored(), QStringLiteral("ann@@Fake"));
+    QCOMPARE(rule().account(), windows->account(ann));
+    // The selector offers "bob", and shows that he is not the main account.
+    QCOMPARE(windows->selector()->count(), 1);
+    QCOMPARE(windows->selector()->currentIndex(), -1);
+    QVERIFY2(windows->selector()->placeholderText().startsWith(QLatin1String("ann")),
+             qPrintable(windows->selector()->placeholderText()));
+    QCOMPARE(windows->messages(), QStringList());
+    windows->client->accounts().protocolLoaded(windows->protocol);
+    windows->client->accountsPage()->updateAccounts();
+    KirvClientWindows::settle();
+    QCOMPARE(windows->shownMainAccount(), ann);
+}
+
+void tst_MainAccountRule::accountOfAMissingPlugInStaysOverARestart()
+{
+    windows->addAccount(ann);
+    windows->end();
+    for (int i = 0; i < 2; ++i) {
+        windows->client = std::make_unique<KirvClient>(windows->options);
+        QVERIFY(windows->client->start());
+        KirvClientWindows::settle();
+        QCOMPARE(stored(), QStringLiteral("ann@@Fake"));
+        QVERIFY(rule().account());
+        windows->client.reset();
+    }
+}
+
+void tst_MainAccountRule::storedOneThatIsDisabledIsReplacedAtTheStart()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    windows->account(ann)->setEnabled(false);
+    QVERIFY(windows->client->settings().setValue(QStringLiteral("main_account"), QStringLiteral("ann@@Fake")));
+    windows->restart();
+    QCOMPARE(mainAccount(), bob);
+}
+
+void tst_MainAccountRule::refusedStoringPassesItOnAllTheSame()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    {
+        const StoreRefusal refusal(windows->profileFolder(), QStringLiteral("1"), QStringLiteral("INSERT"),
+                                   QStringLiteral("setting"));
+        QVERIFY(refusal.holds());
+        windows->removeInPage(ann);
+        KirvClientWindows::settle();
+        QCOMPARE(windows->shownMainAccount(), bob);
+        QCOMPARE(stored(), QStringLiteral("ann@@Fake"));
+    }
+    windows->restart();
+    QCOMPARE(mainAccount(), bob);
+}
+
+void tst_MainAccountRule::assigningStoresNothing()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    QSignalSpy changes(&rule(), &KirvMainAccount::changed);
+    const int commits = windows->client->profile().commitCount();
+    KirvAccountManager::getInstance()->setMainAccount(windows->account(bob));
+    QCOMPARE(int(changes.size()), 0);
+    QCOMPARE(windows->client->profile().commitCount(), commits);
+    QCOMPARE(rule().account(), windows->account(bob));
+}
+
+void tst_MainAccountRule::aliasOfItIsShownAtOnce()
+{
+    windows->addAccount(ann);
+    windows->account(ann)->setAlias(QStringLiteral("Anna"));
+    KirvClientWindows::settle();
+    QCOMPARE(windows->row(ann)->text(0), QStringLiteral("Anna"));
+    QCOMPARE(windows->selector()->currentText(), QStringLiteral("Anna"));
+    QCOMPARE(windows->client->window()->windowTitle(), QStringLiteral("Kirv – Settings – Anna"));
+}
+
+void tst_MainAccountRule::accountWithoutAliasIsOfferedUnderItsLogin()
+{
+    windows->addAccount(ann);
+    windows->account(ann)->setAlias(QString());
+    KirvClientWindows::settle();
+    QCOMPARE(windows->selector()->currentText(), ann);
+}
+
+void tst_MainAccountRule::correctingTheSelectorIsNoChoice()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    QSignalSpy choices(windows->client->accountsPage(), SIGNAL(mainAccountChanged()));
+    windows->toggleInPage(ann);
+    windows->toggleInPage(bob);
+    windows->toggleInPage(ann);
+    windows->removeInPage(ann);
+    KirvClientWindows::settle();
+    QCOMPARE(int(choices.size()), 0);
+}
+
+QTEST_MAIN(tst_MainAccountRule)
+#include "tst_main_account_rule.moc"
