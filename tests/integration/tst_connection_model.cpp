@@ -174,7 +174,7 @@ void tst_connection_model::waitForATurnIsNoWaitForATime()
 {
     KirvLoginQueue::Limits noPlaces;
     noPlaces.attempts = noPlaces.urgentAttempts = 0;
-    core->accounts->logins().setLimits(noPlaces);
+    core->accounts->loginQueue().setLimits(noPlaces);
     KirvConnection::Timing timing;
     timing.backOff.first = 100;
     core->connection("bob")->setTiming(timing);
