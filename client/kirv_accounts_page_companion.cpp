@@ -116,9 +116,15 @@ void KirvAccountsPageCompanion::invite()
     const QWidget *focused = list->window()->focusWidget();
     const bool hadFocus =
         focused && (focused == list || strip->isAncestorOf(focused) || invitation->isAncestorOf(focused));
-    list->setVisible(!isEmpty);
-    strip->setVisible(!isEmpty);
-    invitation->setVisible(isEmpty);
+    // Hidden first, shown then: both together would make the window higher.
+    QList<QWidget *> shown { list, strip };
+    QList<QWidget *> hidden { invitation };
+    if (isEmpty)
+        shown.swap(hidden);
+    for (QWidget *widget : qAsConst(hidden))
+        widget->hide();
+    for (QWidget *widget : qAsConst(shown))
+        widget->show();
     if (hadFocus && isEmpty)
         invitation->takeFocus();
     else if (hadFocus)
