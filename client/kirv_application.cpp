@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_application.h"
 
+#include "client/kirv_descriptor_limit.h"
 #include "client/kirv_translations.h"
 
 #include <QIcon>
@@ -18,6 +19,7 @@ KirvApplication::KirvApplication(int &argc, char **argv)
 {
     initializeResources();
     prepare(*this);
+    kirvRaiseDescriptorLimit(); // where it is refused, accounts beyond it say that they cannot connect
     setWindowIcon(QIcon(QStringLiteral(":/kirv/client/icons/kirv.svg")));
 }
 

@@ -27,6 +27,8 @@
 #include <QDir>
 #include <QIcon>
 
+#include <utility>
+
 static void initializeResources()
 {
     Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
@@ -44,6 +46,7 @@ QIcon themeIcon(const QString &name)
 KirvClient::KirvClient(const KirvClientOptions &options, QObject *parent)
     : QObject(parent)
     , options(options)
+    , unopenedLink(options.link)
 {
     initializeResources();
 }
@@ -167,6 +170,8 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
     connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
+    // Queued, as the window runs an event loop of its own.
+    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
             &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
@@ -189,6 +194,15 @@ void KirvClient::loadPlugins()
         //: %1 = path of a folder
         showProblem(tr("There is no folder %1, so no protocol is available.")
                         .arg(QDir::toNativeSeparators(options.pluginFolder)));
+    }
+}
+
+void KirvClient::openLink()
+{
+    const KirvAccountLink link = std::exchange(unopenedLink, KirvAccountLink());
+    if (!link.isNull() && !link.open(page)) {
+        //: %1 = name of a protocol
+        showProblem(tr("The link cannot be opened: the protocol %1 is not available.").arg(link.protocol));
     }
 }
 

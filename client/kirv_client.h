@@ -68,6 +68,7 @@ private:
     void createWindow();
     void connectServices();
     void loadPlugins();
+    void openLink();
 
     void protocolLoaded(KirvProtocolBase *protocol);
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
@@ -81,6 +82,7 @@ private:
     void showRefusal(const QString &text);
 
     const KirvClientOptions options;
+    KirvAccountLink unopenedLink;
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;

@@ -70,6 +70,10 @@ public:
             parser.addOption(option.second);
         parser.addPositionalArgument(QStringLiteral("copy"), KirvClientOptions::tr("The copy to restore."),
                                      KirvClientOptions::tr("[copy]"));
+        parser.addPositionalArgument(QStringLiteral("link"),
+                                     KirvClientOptions::tr("A link that begins with xmpp:, irc: or ircs: opens the "
+                                                           "window for a new account of that protocol."),
+                                     KirvClientOptions::tr("[link]"));
     }
 
     /// Ends the program when the command line has more than one command, or something behind a command that takes
@@ -91,6 +95,11 @@ public:
         QStringList others = parser.positionalArguments();
         if (read->command == KirvClientOptions::Restore && !others.isEmpty())
             read->copy = others.takeFirst();
+        if (read->command == KirvClientOptions::Start && !others.isEmpty()) {
+            read->link = KirvAccountLink::fromText(others.first());
+            if (!read->link.isNull())
+                others.removeFirst();
+        }
         if (!others.isEmpty()) {
             //: %1 = a word of the command line
             refuse(KirvClientOptions::tr("The argument \"%1\" is not known.").arg(others.first()));

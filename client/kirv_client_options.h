@@ -2,6 +2,8 @@
 #ifndef KIRV_CLIENT_OPTIONS_H
 #define KIRV_CLIENT_OPTIONS_H
 
+#include "client/kirv_account_link.h"
+
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
@@ -24,6 +26,7 @@ public:
     QString profileFolder; ///< absolute; empty when there is none, and profileProblem says why
     QString profileProblem; ///< a sentence for the user
     QString pluginFolder;
+    KirvAccountLink link; ///< whose account is to be added; null: none
 
     /// The user's own profile and the plug-ins that came with the program.
     static KirvClientOptions defaults();

@@ -125,6 +125,9 @@ QString KirvConnectionModel::stateText(const KirvAccount &account)
     case KirvConnection::Disconnecting:
         return tr("Logging out…");
     case KirvConnection::Waiting:
+        if (connection->isWaitingForTurn())
+            //: other accounts connect first
+            return tr("Waiting to connect…");
         //: %1 = time of day
         return tr("Waiting until %1")
             .arg(QLocale().toString(connection->nextRetry().time(), QStringLiteral("hh:mm:ss")));

@@ -161,8 +161,7 @@ bool KirvEditWindowCompanion::mayFinish(int result)
 bool KirvEditWindowCompanion::commitSave()
 {
     const QPointer<KirvEditWindowCompanion> alive(this);
-    const QPointer<KirvAccount> account = saving;
-    saving.clear();
+    const QPointer<KirvAccount> account = std::exchange(saving, nullptr);
     const bool isSaved = account->endSave();
     if (!alive || !account || account->isRemoved())
         return true;
@@ -172,7 +171,7 @@ bool KirvEditWindowCompanion::commitSave()
     if (!isSaved) {
         KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
         KirvAccountsTab::getInstance()->updateAccounts(); // and the selector, in the order of the rows
-        tellRefused(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
+        showRefusal(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
     } else if (keepsOpen) {
         setPublishing(true);
     }
@@ -227,11 +226,11 @@ void KirvEditWindowCompanion::watchRefusals(const KirvAccount &account)
         if (!wasRefused || !account)
             return;
         picker->setImage(account->avatarPath());
-        tellRefused(tr("Picture of the Account"), tr("The picture was not changed."));
+        showRefusal(tr("Picture of the Account"), tr("The picture was not changed."));
     });
 }
 
-void KirvEditWindowCompanion::tellRefused(const QString &title, const QString &advice)
+void KirvEditWindowCompanion::showRefusal(const QString &title, const QString &advice)
 {
     auto *box = new QMessageBox(QMessageBox::Warning, title, accounts.lastError(), QMessageBox::Ok, window());
     box->setObjectName(QStringLiteral("EditAccount_SaveFailed"));

@@ -51,7 +51,7 @@ private:
     void setPublishing(bool isPublishing);
     void onPublicationEnded(bool succeeded);
     void watchRefusals(const KirvAccount &account);
-    void tellRefused(const QString &title, const QString &advice);
+    void showRefusal(const QString &title, const QString &advice);
     void onAccountChanged(KirvAccount *account);
 
     QPointer<KirvEditAccountDialog> controller;

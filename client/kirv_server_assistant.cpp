@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_server_assistant.h"
 
+#include "client/kirv_picture_reader.h"
 #include "client/kirv_wrapped_text.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_keyboard.h"
@@ -22,7 +23,7 @@
 namespace {
 
 const int largestPictureSide = 400; // in pixels
-const int mostPictures = 4; // each may take long to decode
+const int mostPictures = 4; // each may take long to read
 const int longestMessage = 600; // in characters; it does not scroll
 
 QLabel *createIcon(const QString &objectName, QStyle::PixelMetric size, QWidget *parent)
@@ -43,6 +44,11 @@ KirvWrappedText *createText(const QString &objectName, const QString &accessible
     text->setObjectName(objectName);
     text->setAccessibleName(accessibleName);
     return text;
+}
+
+QString pictureName(int index)
+{
+    return QStringLiteral("ServerAssistant_Picture%1").arg(index + 1);
 }
 
 /// The first control in \a form that is there to be filled in, or null.
@@ -129,6 +135,8 @@ QWidget *KirvServerAssistant::createPage()
     pictureList = new QWidget(page);
     pictureList->setObjectName(QStringLiteral("ServerAssistant_Pictures"));
     (new QVBoxLayout(pictureList))->setContentsMargins(0, 0, 0, 0);
+    pictureReader = new KirvPictureReader(this);
+    connect(pictureReader, &KirvPictureReader::pictureRead, this, &KirvServerAssistant::showPicture);
     fields = new KirvFieldWidget({}, page, KirvFieldWidget::LabelsBeside);
     fields->setObjectName(QStringLiteral("ServerAssistant_Fields"));
     rememberBox = new QCheckBox(tr("&Remember the password"), page);
@@ -200,7 +208,7 @@ void KirvServerAssistant::showStep(const KirvServerRequest::Step &newStep)
     warningIcon->setVisible(step.isDangerous);
     showText(text, step.text);
     showConfigurations(step.configurations);
-    showPictures(step.pictures);
+    showPictures();
     fields->fillWithFields(step.fields);
     fields->setVisible(!step.fields.isEmpty());
     rememberBox->setVisible(step.hasPassword);
@@ -221,34 +229,52 @@ void KirvServerAssistant::showConfigurations(const QStringList &configurations)
     configurationBox->addItems(configurations);
 }
 
-void KirvServerAssistant::showPictures(const QList<KirvServerRequest::Picture> &pictures)
+/// Each picture is a text until it was read.
+void KirvServerAssistant::showPictures()
 {
+    step.pictures = step.pictures.mid(0, mostPictures);
     QLayout *list = pictureList->layout();
     while (QLayoutItem *item = list->takeAt(0)) {
         delete item->widget();
         delete item;
     }
-    for (int i = 0; i < pictures.size() && i < mostPictures; ++i)
-        list->addWidget(createPicture(pictures.at(i), i + 1));
-    pictureList->setVisible(!pictures.isEmpty());
+    QList<KirvPictureReader::Source> sources;
+    for (const KirvServerRequest::Picture &picture : qAsConst(step.pictures)) {
+        //: %1 = a caption
+        list->addWidget(createPictureText(sources.size(), tr("Reading the picture for \"%1\"…").arg(picture.label)));
+        sources << KirvPictureReader::Source(picture.data, picture.label);
+    }
+    pictureList->setVisible(!sources.isEmpty());
+    pictureReader->read(sources, largestPictureSide);
 }
 
-QWidget *KirvServerAssistant::createPicture(const KirvServerRequest::Picture &picture, int number)
+QWidget *KirvServerAssistant::createPictureText(int index, const QString &content)
 {
-    const QString objectName = QStringLiteral("ServerAssistant_Picture%1").arg(number);
-    const KirvBoundedImage image = KirvBoundedImage::fromData(picture.data, picture.label, largestPictureSide);
-    if (image.isNull()) {
-        KirvWrappedText *replacement = createText(objectName, picture.label, pictureList);
+    KirvWrappedText *widget = createText(pictureName(index), step.pictures.at(index).label, pictureList);
+    widget->showText(content);
+    return widget;
+}
+
+void KirvServerAssistant::showPicture(int index, const KirvBoundedImage &picture)
+{
+    const KirvServerRequest::Picture &source = step.pictures.at(index);
+    QWidget *shown = nullptr;
+    if (picture.isNull()) {
         //: %1 = a caption, %2 = an address
-        replacement->showText(
-            tr("There is a picture for “%1”, which cannot be shown: %2").arg(picture.label, picture.address));
-        return replacement;
+        const QString problem = tr("There is a picture for \"%1\", which cannot be shown: %2");
+        shown = createPictureText(index, problem.arg(source.label, source.address));
+    } else {
+        auto *label = new QLabel(pictureList);
+        label->setObjectName(pictureName(index));
+        label->setAccessibleName(source.label);
+        label->setPixmap(QPixmap::fromImage(picture.image()));
+        shown = label;
     }
-    auto *label = new QLabel(pictureList);
-    label->setObjectName(objectName);
-    label->setAccessibleName(picture.label);
-    label->setPixmap(QPixmap::fromImage(image.image()));
-    return label;
+    QWidget *replaced = pictureList->layout()->itemAt(index)->widget();
+    delete pictureList->layout()->replaceWidget(replaced, shown);
+    delete replaced;
+    shown->show();
+    growLater();
 }
 
 /// The keyboard stays in a field that the new step has, too, and goes to the first one otherwise.

@@ -7,8 +7,10 @@
 #include <QDialog>
 #include <QPointer>
 
+class KirvBoundedImage;
 class KirvFieldWidget;
 class KirvFormArea;
+class KirvPictureReader;
 class KirvWrappedText;
 class QCheckBox;
 class QComboBox;
@@ -43,11 +45,12 @@ private:
     QWidget *createPage();
     QWidget *createMessageRow();
     QWidget *createButtons();
-    QWidget *createPicture(const KirvServerRequest::Picture &picture, int number);
+    QWidget *createPictureText(int index, const QString &text);
 
     void showStep(const KirvServerRequest::Step &newStep);
     void showConfigurations(const QStringList &configurations);
-    void showPictures(const QList<KirvServerRequest::Picture> &pictures);
+    void showPictures();
+    void showPicture(int index, const KirvBoundedImage &picture);
     void focusStep();
     void growLater();
     void grow();
@@ -72,6 +75,7 @@ private:
     QWidget *configurationRow = nullptr;
     QComboBox *configurationBox = nullptr;
     QWidget *pictureList = nullptr;
+    KirvPictureReader *pictureReader = nullptr;
     KirvFieldWidget *fields = nullptr;
     QCheckBox *rememberBox = nullptr;
     QWidget *messageRow = nullptr;

@@ -7,15 +7,24 @@ if(NOT KIRV_QT_MAJOR MATCHES "^[456]$")
 endif()
 set(KIRV_QT Qt${KIRV_QT_MAJOR})
 set(KIRV_LIBRARY_STANDARD 11)
-set(KIRV_WARNINGS -Wall -Wextra -Werror)
+set(KIRV_WARNINGS -Wall -Wextra)
+# Newer compilers warn of the macros of Qt 4 and of what its moc generates.
+if(KIRV_WARNINGS_ARE_ERRORS AND NOT KIRV_QT_MAJOR EQUAL 4)
+    list(APPEND KIRV_WARNINGS -Werror)
+endif()
 if(KIRV_QT_MAJOR EQUAL 4)
     find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)
     # As it is called since Qt 5. Qt 4 has no module of this name.
     add_library(Qt4::Widgets INTERFACE IMPORTED)
     target_link_libraries(Qt4::Widgets INTERFACE Qt4::QtGui Qt4::QtCore)
-    list(REMOVE_ITEM KIRV_WARNINGS -Werror) # newer compilers warn of its macros and of what its moc generates
 else()
-    find_package(${KIRV_QT} REQUIRED COMPONENTS Core Gui Widgets Sql Svg UiTools Network Xml Test)
+    find_package(${KIRV_QT} REQUIRED COMPONENTS Core Gui Widgets)
+    if(KIRV_BUILD_CLIENT)
+        find_package(${KIRV_QT} REQUIRED COMPONENTS Sql UiTools Network Xml)
+    endif()
+    if(KIRV_BUILD_TESTS)
+        find_package(${KIRV_QT} REQUIRED COMPONENTS Test)
+    endif()
 endif()
 if(KIRV_QT_MAJOR EQUAL 6)
     set(KIRV_LIBRARY_STANDARD 17) # the library is C++11, Qt 6 itself needs more
@@ -34,7 +43,6 @@ endif()
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
-set(CMAKE_INSTALL_RPATH "$ORIGIN") # installed libraries find each other; programs say it differently
 set(KIRV_PRIVATE_LIBRARY_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv")
 # The version of the plug-in interface, as its header has it.
 file(STRINGS "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h" api_line
@@ -48,10 +56,21 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
 set(KIRV_PROTOCOL_INSTALL_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv/protocols")
 
-find_program(KIRV_CCACHE ccache)
-if(KIRV_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${KIRV_CCACHE}")
+if(KIRV_USE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    find_program(KIRV_CCACHE ccache)
+    if(KIRV_CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER "${KIRV_CCACHE}")
+    endif()
 endif()
+
+# kirv_find_libraries_in(TARGET FOLDERS...): what is installed of TARGET finds the project's libraries in these folders,
+# which are relative to its own. Who packages it can say otherwise by CMAKE_INSTALL_RPATH and CMAKE_SKIP_INSTALL_RPATH.
+function(kirv_find_libraries_in target)
+    if(NOT DEFINED CMAKE_INSTALL_RPATH)
+        list(TRANSFORM ARGN PREPEND "$ORIGIN/")
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "${ARGN}")
+    endif()
+endfunction()
 
 # Linked privately by every target of ours.
 add_library(kirv_build_options INTERFACE)
@@ -83,8 +102,8 @@ function(kirv_add_protocol name)
     target_link_libraries(${name} PRIVATE kirv_build_options kirv_protocol)
     set_target_properties(${name} PROPERTIES
         PREFIX "" CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
-        LIBRARY_OUTPUT_DIRECTORY "${KIRV_PROTOCOL_OUTPUT_DIRECTORY}"
-        INSTALL_RPATH "$ORIGIN/../..")
+        LIBRARY_OUTPUT_DIRECTORY "${KIRV_PROTOCOL_OUTPUT_DIRECTORY}")
+    kirv_find_libraries_in(${name} ../..)
     if(arg_OUTPUT)
         set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${arg_OUTPUT}")
         return()

@@ -6,14 +6,17 @@
 KIRV_BUILD_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqt5sql5-sqlite
-    libqxmpp-dev libcommuni-dev
+    libqxmpp-dev libidn-dev libcommuni-dev
     fonts-dejavu-core)
 # The private servers of the demo, the walk-through and the system tests.
 KIRV_SERVER_PACKAGES=(prosody ngircd openssl)
 # To build with the other major of Qt and to run all tests; clang and its runtime are for the fuzzers.
 KIRV_TEST_PACKAGES=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev libqt6opengl6-dev libqt6sql6-sqlite
-    binutils sqlite3 clang libclang-rt-14-dev clang-format clang-tidy git python3)
+    binutils sqlite3 clang libclang-rt-14-dev clang-format clang-tidy git python3 reuse
+    appstream desktop-file-utils man-db)
+# To build Debian packages, to look them over and to try them in a minimal system.
+KIRV_DEB_PACKAGES=(dpkg-dev debhelper lintian xz-utils debootstrap util-linux)
 
 say() { printf '%s\n' "$*"; }
 # Ends the script with a message for the user.
@@ -103,7 +106,7 @@ require_space() {
         die "the disk of $1 has $free MB free; $3 take up to $2 MB."
 }
 
-# build_preset NAME [TARGET...]: configures (the first time) and builds a preset of CMakePresets.json into build/NAME.
+# build_preset NAME [TARGET...]: configures and builds a preset of CMakePresets.json into build/NAME.
 # The output goes to build/logs; of a failure its end is shown.
 build_preset() {
     local preset=$1 log started=$SECONDS
@@ -111,7 +114,7 @@ build_preset() {
     mkdir -p build/logs
     log=build/logs/$preset.log
     say "Building build/$preset ..."
-    if { { [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+    if { { [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"; } &&
         cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
         say "Built build/$preset in $((SECONDS - started)) s."
     else

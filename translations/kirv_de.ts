@@ -243,6 +243,23 @@
         <source>An account needs a login.</source>
         <translation>Ein Konto braucht einen Anmeldenamen.</translation>
     </message>
+    <message>
+        <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
+        <extracomment>%1 and %2 are logins, %3 is the name of a protocol</extracomment>
+        <translation>Die Konten „%1“ und „%2“ (%3) sind für den Server dasselbe. Beide bleiben erhalten; entfernen Sie das, das nicht gebraucht wird.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The same is true of %n further logins.</source>
+        <translation>
+            <numerusform>Für %n weiteren Anmeldenamen gilt dasselbe.</numerusform>
+            <numerusform>Für %n weitere Anmeldenamen gilt dasselbe.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) exists already: it is the same as &quot;%3&quot; to the server.</source>
+        <extracomment>%1 and %3 are two spellings of a login, %2 is the name of a protocol</extracomment>
+        <translation>Das Konto „%1“ (%2) gibt es schon: Für den Server ist es dasselbe wie „%3“.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
@@ -326,19 +343,19 @@
         <translation>Das Bild ist zu groß: %1 × %2 Bildpunkte. Bis zu %3 Millionen sind möglich.</translation>
     </message>
     <message>
-        <source>The file “%1” cannot be read.</source>
+        <source>The file &quot;%1&quot; cannot be read.</source>
         <translation>Die Datei „%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The file “%1” is too large. Up to %2 MB are possible.</source>
+        <source>The file &quot;%1&quot; is too large. Up to %2 MB are possible.</source>
         <translation>Die Datei „%1“ ist zu groß. Bis zu %2 MB sind möglich.</translation>
     </message>
     <message>
-        <source>The file “%1” is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
+        <source>The file &quot;%1&quot; is not a picture that can be used. Pictures in the formats PNG, JPEG, GIF, BMP and WebP are possible.</source>
         <translation>Die Datei „%1“ ist kein brauchbares Bild. Möglich sind Bilder in den Formaten PNG, JPEG, GIF, BMP und WebP.</translation>
     </message>
     <message>
-        <source>The picture in the file “%1” is damaged.</source>
+        <source>The picture in the file &quot;%1&quot; is damaged.</source>
         <translation>Das Bild in der Datei „%1“ ist beschädigt.</translation>
     </message>
     <message>
@@ -393,6 +410,36 @@
     <message>
         <source>Accounts of several instant-messaging protocols in one place.</source>
         <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
+    </message>
+    <message>
+        <source>Say whether the profile is damaged, list its copies and end: with 0 when it can be used, 2 when it is damaged, and 1 when it cannot be used for another reason.</source>
+        <translation>Ausgeben, ob das Profil beschädigt ist, seine Kopien auflisten und enden: mit 0, wenn es benutzt werden kann, mit 2, wenn es beschädigt ist, und mit 1, wenn es aus einem anderen Grund nicht benutzt werden kann.</translation>
+    </message>
+    <message>
+        <source>Put a copy in the place of the profile&apos;s database and end: the newest, or the one that is named. Passwords are in no copy.</source>
+        <translation>Eine Kopie an die Stelle der Datenbank des Profils setzen und enden: die neueste oder die genannte. Passwörter sind in keiner Kopie.</translation>
+    </message>
+    <message>
+        <source>Read what is still readable of the profile&apos;s damaged database, keep that, and end.</source>
+        <translation>Lesen, was von der beschädigten Datenbank des Profils noch lesbar ist, es behalten und enden.</translation>
+    </message>
+    <message>
+        <source>The copy to restore.</source>
+        <translation>Die Kopie, die wiederhergestellt wird.</translation>
+    </message>
+    <message>
+        <source>[copy]</source>
+        <translation>[Kopie]</translation>
+    </message>
+    <message>
+        <source>The options %1 and %2 cannot be used together.</source>
+        <extracomment>%1, %2 = names of options</extracomment>
+        <translation>Die Optionen %1 und %2 können nicht zusammen benutzt werden.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>Das Argument „%1“ ist nicht bekannt.</translation>
     </message>
 </context>
 <context>
@@ -500,6 +547,55 @@
     </message>
 </context>
 <context>
+    <name>KirvDamagedProfile</name>
+    <message>
+        <source>The copy of %1 was restored. Accounts: %2.</source>
+        <extracomment>%1 = date and time, %2 = number of accounts</extracomment>
+        <translation>Die Kopie vom %1 wurde wiederhergestellt. Konten: %2.</translation>
+    </message>
+    <message>
+        <source>Passwords and other secret settings are in no copy and have to be entered again.</source>
+        <translation>Passwörter und andere geheime Einstellungen sind in keiner Kopie und müssen neu eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Everything could be read.</source>
+        <translation>Alles konnte gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Only a part could be read. Accounts or settings are missing.</source>
+        <translation>Nur ein Teil konnte gelesen werden. Konten oder Einstellungen fehlen.</translation>
+    </message>
+    <message>
+        <source>Accounts: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Konten: %1</translation>
+    </message>
+    <message>
+        <source>Settings of accounts: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Einstellungen von Konten: %1</translation>
+    </message>
+    <message>
+        <source>Passwords and other secret settings: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Passwörter und andere geheime Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>Settings of the program: %1</source>
+        <extracomment>what was found in a damaged database; %1 = a number</extracomment>
+        <translation>Einstellungen des Programms: %1</translation>
+    </message>
+    <message>
+        <source>The profile has no accounts now.</source>
+        <translation>Das Profil hat jetzt keine Konten.</translation>
+    </message>
+    <message>
+        <source>The database that was there is kept in &quot;%1&quot;, with the passwords in it. Delete it when it is no longer needed.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die bisherige Datenbank liegt in „%1“, mit den Passwörtern darin. Löschen Sie sie, wenn sie nicht mehr gebraucht wird.</translation>
+    </message>
+</context>
+<context>
     <name>KirvDatabase</name>
     <message>
         <source>The SQLite driver of Qt, which the profile needs, is not installed.</source>
@@ -518,10 +614,6 @@
         <translation>Das Profil in „%1“ konnte nicht gelesen oder geschrieben werden (%2). Der Datenträger ist vielleicht voll oder fehlerhaft.</translation>
     </message>
     <message>
-        <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The profile in &quot;%1&quot; cannot be written. Check its owner and permissions.</source>
         <translation>Das Profil in „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte.</translation>
     </message>
@@ -532,6 +624,10 @@
     <message>
         <source>The profile in &quot;%1&quot; could not be used: %2</source>
         <translation>Das Profil in „%1“ konnte nicht benutzt werden: %2</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is damaged, so nothing was stored. Start the program again to see what can be done.</source>
+        <translation>Das Profil in „%1“ ist beschädigt; daher wurde nichts gespeichert. Starten Sie das Programm neu, um zu sehen, was möglich ist.</translation>
     </message>
 </context>
 <context>
@@ -593,6 +689,14 @@
     <message>
         <source>Nothing was changed. The window stays open, so that you can try again.</source>
         <translation>Nichts wurde geändert. Das Fenster bleibt offen, damit Sie es erneut versuchen können.</translation>
+    </message>
+    <message>
+        <source>Picture of the Account</source>
+        <translation>Bild des Kontos</translation>
+    </message>
+    <message>
+        <source>The picture was not changed.</source>
+        <translation>Das Bild wurde nicht geändert.</translation>
     </message>
 </context>
 <context>
@@ -743,6 +847,11 @@
         <extracomment>%1 is what was requested</extracomment>
         <translation>Der Server bietet das Angeforderte nicht an: %1</translation>
     </message>
+    <message>
+        <source>Another client logged in to the account and took its place: %1</source>
+        <extracomment>%1 is what the server said</extracomment>
+        <translation>Ein anderer Client hat sich mit dem Konto angemeldet und seinen Platz eingenommen: %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -787,15 +896,19 @@
         <source>Invalid format: %1</source>
         <translation>Ungültiges Format: %1</translation>
     </message>
+    <message>
+        <source>This text is too long to be shown in full. It is kept as long as nothing is changed here.</source>
+        <translation>Dieser Text ist zu lang, um ganz gezeigt zu werden. Er bleibt erhalten, solange hier nichts geändert wird.</translation>
+    </message>
 </context>
 <context>
     <name>KirvIrcConnection</name>
     <message>
-        <source>There is no certificate in the file “%1”.</source>
+        <source>There is no certificate in the file &quot;%1&quot;.</source>
         <translation>In der Datei „%1“ ist kein Zertifikat.</translation>
     </message>
     <message>
-        <source>The nick “%1” could not be had; you are “%2” on this server now.</source>
+        <source>The nick &quot;%1&quot; could not be had; you are &quot;%2&quot; on this server now.</source>
         <translation>Der Spitzname „%1“ war nicht zu bekommen; Sie heißen auf diesem Server jetzt „%2“.</translation>
     </message>
     <message>
@@ -811,11 +924,11 @@
         <translation>Der Server hat eine Zeile gesendet, die länger ist, als Zeilen sein dürfen.</translation>
     </message>
     <message>
-        <source>There is no private key that can be used in the file “%1”.</source>
+        <source>There is no private key that can be used in the file &quot;%1&quot;.</source>
         <translation>Die Datei „%1“ enthält keinen privaten Schlüssel, der benutzt werden kann.</translation>
     </message>
     <message>
-        <source>Other users of this computer can read or change the key file “%1”. Only its owner should.</source>
+        <source>Other users of this computer can read or change the key file &quot;%1&quot;. Only its owner should.</source>
         <translation>Andere Benutzer dieses Rechners können die Schlüsseldatei „%1“ lesen oder ändern. Das sollte nur ihr Besitzer können.</translation>
     </message>
     <message>
@@ -874,7 +987,7 @@
 <context>
     <name>KirvIrcSettings</name>
     <message>
-        <source>“%1” cannot be a nick.</source>
+        <source>&quot;%1&quot; cannot be a nick.</source>
         <translation>„%1“ kann kein Spitzname sein.</translation>
     </message>
     <message>
@@ -882,7 +995,7 @@
         <translation>Es ist kein Server angegeben.</translation>
     </message>
     <message>
-        <source>“%1” is not the name of a server.</source>
+        <source>&quot;%1&quot; is not the name of a server.</source>
         <translation>„%1“ ist nicht der Name eines Servers.</translation>
     </message>
     <message>
@@ -1009,19 +1122,19 @@
 <context>
     <name>KirvLayoutCatalog</name>
     <message>
-        <source>“%1” is a %2, but must be a %3.</source>
+        <source>&quot;%1&quot; is a %2, but must be a %3.</source>
         <translation>„%1“ ist ein %2, muss aber ein %3 sein.</translation>
     </message>
     <message>
-        <source>There is no %1 named “%2”.</source>
+        <source>There is no %1 named &quot;%2&quot;.</source>
         <translation>Es gibt kein %1 mit dem Namen „%2“.</translation>
     </message>
     <message>
-        <source>“%1” has no standard button %2.</source>
+        <source>&quot;%1&quot; has no standard button %2.</source>
         <translation>„%1“ hat keinen Standardknopf %2.</translation>
     </message>
     <message>
-        <source>“%1” needs two tabs: the account and its directory entry.</source>
+        <source>&quot;%1&quot; needs two tabs: the account and its directory entry.</source>
         <translation>„%1“ braucht zwei Reiter: das Konto und seinen Verzeichniseintrag.</translation>
     </message>
     <message>
@@ -1062,7 +1175,7 @@
         <translation>Sie verbindet Bedienelemente miteinander, was nur das Programm tut.</translation>
     </message>
     <message>
-        <source>It has an element “%1”, which a layout cannot have.</source>
+        <source>It has an element &quot;%1&quot;, which a layout cannot have.</source>
         <translation>Sie hat ein Element „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
@@ -1070,7 +1183,7 @@
         <translation>Sie hat ein Attribut, das zu lang ist.</translation>
     </message>
     <message>
-        <source>“%1” is not the name of an icon.</source>
+        <source>&quot;%1&quot; is not the name of an icon.</source>
         <translation>„%1“ ist nicht der Name eines Symbols.</translation>
     </message>
     <message>
@@ -1078,7 +1191,7 @@
         <translation>Sie hat eine Zeile oder Spalte außerhalb der Grenzen: %1.</translation>
     </message>
     <message>
-        <source>It has a text of the format “%1”, which a layout cannot have.</source>
+        <source>It has a text of the format &quot;%1&quot;, which a layout cannot have.</source>
         <translation>Sie hat einen Text im Format „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
@@ -1086,15 +1199,15 @@
         <translation>Sie hat eine Zahl außerhalb der Grenzen: %1 (%2).</translation>
     </message>
     <message>
-        <source>It sets “%1” to a text, which a layout cannot do.</source>
+        <source>It sets &quot;%1&quot; to a text, which a layout cannot do.</source>
         <translation>Sie setzt „%1“ auf einen Text, was ein Layout nicht darf.</translation>
     </message>
     <message>
-        <source>Its style sheet contains “%1”, which a layout cannot have.</source>
+        <source>Its style sheet contains &quot;%1&quot;, which a layout cannot have.</source>
         <translation>Ihr Stylesheet enthält „%1“, das ein Layout nicht haben darf.</translation>
     </message>
     <message>
-        <source>Style sheets and rich texts name pictures by their whole path, “%1” does not.</source>
+        <source>Style sheets and rich texts name pictures by their whole path, &quot;%1&quot; does not.</source>
         <translation>Stylesheets und formatierte Texte nennen Bilder mit ihrem vollen Pfad, „%1“ tut das nicht.</translation>
     </message>
     <message>
@@ -1102,11 +1215,11 @@
         <translation>Sie hat einen formatierten Text, der zu groß ist.</translation>
     </message>
     <message>
-        <source>There is no picture “%1”.</source>
+        <source>There is no picture &quot;%1&quot;.</source>
         <translation>Es gibt kein Bild „%1“.</translation>
     </message>
     <message>
-        <source>The picture “%1” is not in the folder of the layout.</source>
+        <source>The picture &quot;%1&quot; is not in the folder of the layout.</source>
         <translation>Das Bild „%1“ liegt nicht im Ordner des Layouts.</translation>
     </message>
     <message>
@@ -1139,6 +1252,13 @@
     <message>
         <source>It is larger than %1 kB.</source>
         <translation>Sie ist größer als %1 kB.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLengthLimit</name>
+    <message>
+        <source>The text is too long here. At most %1 characters are kept.</source>
+        <translation>Der Text ist hier zu lang. Höchstens %1 Zeichen werden behalten.</translation>
     </message>
 </context>
 <context>
@@ -1376,10 +1496,6 @@
         <translation>„%1“ ist eine Verknüpfung. Das Programm folgt in einem Profil keiner Verknüpfung: Ersetzen Sie sie durch das, worauf sie zeigt.</translation>
     </message>
     <message>
-        <source>The profile in &quot;%1&quot; is damaged: its database is missing. Nothing in it was changed: restore it from a backup, or choose an empty folder to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt: Seine Datenbank fehlt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder wählen Sie einen leeren Ordner, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The folder &quot;%1&quot; is not a profile: it holds other files. Nothing in it was changed: choose an empty folder.</source>
         <translation>Der Ordner „%1“ ist kein Profil: Er enthält andere Dateien. Nichts darin wurde geändert: Wählen Sie einen leeren Ordner.</translation>
     </message>
@@ -1396,12 +1512,73 @@
         <translation>Der Profilordner „%1“ kann nicht geschrieben werden. Prüfen Sie Besitzer und Rechte und ob der Datenträger voll ist.</translation>
     </message>
     <message>
-        <source>The profile in &quot;%1&quot; is damaged. Nothing in it was changed: restore it from a backup, or move it away to start with an empty one.</source>
-        <translation>Das Profil in „%1“ ist beschädigt. Nichts darin wurde geändert: Stellen Sie es aus einer Sicherung wieder her, oder legen Sie es beiseite, um mit einem leeren zu beginnen.</translation>
-    </message>
-    <message>
         <source>The file &quot;%1&quot; belongs to another program. Nothing in it was changed.</source>
         <translation>Die Datei „%1“ gehört einem anderen Programm. Nichts darin wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Its database is missing.</source>
+        <translation>Seine Datenbank fehlt.</translation>
+    </message>
+    <message>
+        <source>The end of its database is missing.</source>
+        <translation>Das Ende seiner Datenbank fehlt.</translation>
+    </message>
+    <message>
+        <source>Tables or columns of its database are missing.</source>
+        <translation>Tabellen oder Spalten seiner Datenbank fehlen.</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is damaged. %2 Nothing in it was changed.</source>
+        <extracomment>%1 = path of a folder, %2 = a sentence about what is wrong with it</extracomment>
+        <translation>Das Profil in „%1“ ist beschädigt. %2 Nichts darin wurde geändert.</translation>
+    </message>
+    <message>
+        <source>The file of its database does not hold one any more.</source>
+        <translation>Die Datei seiner Datenbank enthält keine mehr.</translation>
+    </message>
+    <message>
+        <source>Parts of its database cannot be read, or contradict each other.</source>
+        <translation>Teile seiner Datenbank sind nicht lesbar oder widersprechen einander.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvProfileCommand</name>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>In „%1“ gibt es noch kein Profil.</translation>
+    </message>
+    <message>
+        <source>The profile in &quot;%1&quot; is not damaged.</source>
+        <translation>Das Profil in „%1“ ist nicht beschädigt.</translation>
+    </message>
+    <message>
+        <source>The profile is not damaged, so nothing was restored. Name a copy to go back to it.</source>
+        <translation>Das Profil ist nicht beschädigt; daher wurde nichts wiederhergestellt. Nennen Sie eine Kopie, um zu ihr zurückzukehren.</translation>
+    </message>
+    <message>
+        <source>There is no copy of the profile that could be restored.</source>
+        <translation>Es gibt keine Kopie des Profils, die wiederhergestellt werden könnte.</translation>
+    </message>
+    <message>
+        <source>There is no copy &quot;%1&quot; that could be restored.</source>
+        <translation>Es gibt keine Kopie „%1“, die wiederhergestellt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The profile is not damaged, so there is nothing to recover.</source>
+        <translation>Das Profil ist nicht beschädigt; daher gibt es nichts zu retten.</translation>
+    </message>
+    <message>
+        <source>The option --restore restores the newest copy or the one that is named, and --recover reads what is still readable of the damaged database. To start fresh, move the folder away.</source>
+        <translation>Die Option --restore stellt die neueste oder die genannte Kopie wieder her, und --recover liest, was von der beschädigten Datenbank noch lesbar ist. Um neu zu beginnen, legen Sie den Ordner beiseite.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords:</source>
+        <translation>Kopien des Profils, ohne Passwörter:</translation>
+    </message>
+    <message>
+        <source>  %1  %2  Accounts: %3</source>
+        <extracomment>%1 = name of a file, %2 = date and time, %3 = number of accounts</extracomment>
+        <translation>  %1  %2  Konten: %3</translation>
     </message>
 </context>
 <context>
@@ -1438,6 +1615,29 @@
     </message>
 </context>
 <context>
+    <name>KirvProfileSaver</name>
+    <message>
+        <source>&amp;Save to Another Folder…</source>
+        <translation>In anderem Ordner &amp;speichern…</translation>
+    </message>
+    <message>
+        <source>Save to an Empty Folder</source>
+        <translation>In leerem Ordner speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Everything that was stored is in &quot;%1&quot; again. Quit the program and start it again to go on with it.</source>
+        <translation>Alles Gespeicherte ist wieder in „%1“. Beenden Sie das Programm und starten Sie es neu, um damit weiterzuarbeiten.</translation>
+    </message>
+    <message>
+        <source>Everything that was stored is in &quot;%1&quot; now. Quit the program and start it with the option --profile &quot;%1&quot; to go on with it.</source>
+        <translation>Alles Gespeicherte ist jetzt in „%1“. Beenden Sie das Programm und starten Sie es mit der Option --profile &quot;%1&quot;, um damit weiterzuarbeiten.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRegistrationChooser</name>
     <message>
         <source>Register Account</source>
@@ -1454,6 +1654,81 @@
     <message>
         <source>&amp;Continue</source>
         <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>KirvRescueWindow</name>
+    <message>
+        <source>Damaged Profile</source>
+        <translation>Beschädigtes Profil</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Choose what to do. The damaged database is kept in any case, under a name with the date.</source>
+        <translation>Wählen Sie, was geschehen soll. Die beschädigte Datenbank bleibt in jedem Fall unter einem Namen mit dem Datum erhalten.</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>There is no copy of the profile that could be restored.</source>
+        <translation>Es gibt keine Kopie des Profils, die wiederhergestellt werden könnte.</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of the profile:</source>
+        <translation>Ko&amp;pien des Profils:</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Kopien des Profils</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>&amp;Restore the Selected Copy</source>
+        <translation>Gewählte Kopie &amp;wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Accounts and settings are then as they were at that time. Passwords and other secret settings are in no copy and have to be entered again.</source>
+        <translation>Konten und Einstellungen sind dann wie zu jener Zeit. Passwörter und andere geheime Einstellungen sind in keiner Kopie und müssen neu eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Recover &amp;What Is Readable</source>
+        <translation>&amp;Lesbares retten</translation>
+    </message>
+    <message>
+        <source>The damaged database is read row by row, with the passwords, and what was found is shown.</source>
+        <translation>Die beschädigte Datenbank wird Zeile für Zeile gelesen, mit den Passwörtern, und es wird gezeigt, was gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>Start &amp;Fresh</source>
+        <translation>&amp;Neu beginnen</translation>
+    </message>
+    <message>
+        <source>The profile then has no accounts.</source>
+        <translation>Das Profil hat dann keine Konten.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>The profile can be used again.</source>
+        <translation>Das Profil kann wieder benutzt werden.</translation>
     </message>
 </context>
 <context>
@@ -1495,7 +1770,7 @@
         <translation>&amp;Zurück</translation>
     </message>
     <message>
-        <source>There is a picture for “%1”, which cannot be shown: %2</source>
+        <source>There is a picture for &quot;%1&quot;, which cannot be shown: %2</source>
         <extracomment>%1 = a caption, %2 = an address</extracomment>
         <translation>Zu „%1“ gibt es ein Bild, das nicht gezeigt werden kann: %2</translation>
     </message>
@@ -1506,6 +1781,11 @@
     <message>
         <source>Cl&amp;ose</source>
         <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Reading the picture for &quot;%1&quot;…</source>
+        <extracomment>%1 = a caption</extracomment>
+        <translation>Das Bild für „%1“ wird gelesen…</translation>
     </message>
 </context>
 <context>
@@ -1622,14 +1902,17 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppAvatar</name>
+    <message>
+        <source>The picture of the account cannot be read.</source>
+        <translation>Das Bild des Kontos kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppConnection</name>
     <message>
         <source>The login must be an address such as user@domain.</source>
         <translation>Der Anmeldename muss eine Adresse wie name@domäne sein.</translation>
-    </message>
-    <message>
-        <source>The picture of the account cannot be read.</source>
-        <translation>Das Bild des Kontos kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The account is not connected.</source>
@@ -1829,11 +2112,11 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>“%1” must be filled in.</source>
+        <source>&quot;%1&quot; must be filled in.</source>
         <translation>„%1“ muss ausgefüllt werden.</translation>
     </message>
     <message>
-        <source>“%1” holds characters that cannot be sent.</source>
+        <source>&quot;%1&quot; holds characters that cannot be sent.</source>
         <translation>„%1“ enthält Zeichen, die nicht gesendet werden können.</translation>
     </message>
 </context>
@@ -1894,6 +2177,23 @@
     </message>
 </context>
 <context>
+    <name>KirvXmppRoute</name>
+    <message>
+        <source>servers refer to one another without end</source>
+        <translation>Server verweisen endlos aufeinander</translation>
+    </message>
+    <message>
+        <source>%1 starts with encryption at once. Choose direct TLS, or another port.</source>
+        <extracomment>%1 is a server and its port</extracomment>
+        <translation>%1 beginnt sofort mit Verschlüsselung. Wählen Sie direktes TLS oder einen anderen Port.</translation>
+    </message>
+    <message>
+        <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
+        <extracomment>%1 is a server and its port</extracomment>
+        <translation>%1 beginnt nicht sofort mit Verschlüsselung. Wählen Sie kein direktes TLS oder einen anderen Port.</translation>
+    </message>
+</context>
+<context>
     <name>KirvXmppServerLink</name>
     <message>
         <source>the name is already in use</source>
@@ -1923,6 +2223,30 @@
         <source>the server does not answer any more</source>
         <translation>der Server antwortet nicht mehr</translation>
     </message>
+    <message>
+        <source>What the server sent is no XMPP stream.</source>
+        <translation>Was der Server gesendet hat, ist kein XMPP-Strom.</translation>
+    </message>
+    <message>
+        <source>The server sent data that is longer than allowed.</source>
+        <translation>Der Server hat Daten gesendet, die länger sind als erlaubt.</translation>
+    </message>
+    <message>
+        <source>The server sent data that is no valid XML.</source>
+        <translation>Der Server hat Daten gesendet, die kein gültiges XML sind.</translation>
+    </message>
+    <message>
+        <source>The server sent XML that is not allowed in a stream.</source>
+        <translation>Der Server hat XML gesendet, das in einem Strom nicht erlaubt ist.</translation>
+    </message>
+    <message>
+        <source>the reply of the server is too large</source>
+        <translation>die Antwort des Servers ist zu groß</translation>
+    </message>
+    <message>
+        <source>it refers to a server without a name</source>
+        <translation>er verweist auf einen Server ohne Namen</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppSettings</name>
@@ -1931,16 +2255,8 @@
         <translation>Ressource</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Empty: the server chooses.</source>
-        <translation>Unterscheidet dieses Programm von Ihren anderen. Leer: Der Server wählt.</translation>
-    </message>
-    <message>
         <source>Priority</source>
         <translation>Priorität</translation>
-    </message>
-    <message>
-        <source>Messages go to the client with the highest priority.</source>
-        <translation>Nachrichten gehen an das Programm mit der höchsten Priorität.</translation>
     </message>
     <message>
         <source>Server</source>
@@ -1953,10 +2269,6 @@
     <message>
         <source>Port</source>
         <translation>Port</translation>
-    </message>
-    <message>
-        <source>Ordinarily %1.</source>
-        <translation>Gewöhnlich %1.</translation>
     </message>
     <message>
         <source>Encryption</source>
@@ -2006,6 +2318,22 @@
     <message>
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>Die Datei %1 enthält kein Zertifikat im PEM-Format.</translation>
+    </message>
+    <message>
+        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <translation>Unterscheidet diesen Client von Ihren anderen. Zufällige Zeichen treten an die Stelle eines *. Leer: Der Server wählt.</translation>
+    </message>
+    <message>
+        <source>Messages go to the client with the highest priority, and to none with a negative one. This client does not show messages.</source>
+        <translation>Nachrichten gehen an den Client mit der höchsten Priorität und an keinen mit einer negativen. Dieser Client zeigt keine Nachrichten.</translation>
+    </message>
+    <message>
+        <source>Ordinarily %1, and %2 with direct TLS.</source>
+        <translation>Gewöhnlich %1, und %2 mit direktem TLS.</translation>
+    </message>
+    <message>
+        <source>Required at once (direct TLS)</source>
+        <translation>Sofort verlangt (direktes TLS)</translation>
     </message>
 </context>
 <context>

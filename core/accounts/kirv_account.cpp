@@ -6,6 +6,7 @@
 #include "core/values/kirv_text_limit.h"
 
 #include <QDir>
+#include <QTemporaryFile>
 
 #include <utility>
 
@@ -74,11 +75,11 @@ void classify(KirvAccountRecord &record, const QList<KirvField> &fields)
 
 } // namespace
 
-KirvAccount::KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent)
+KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAccountRecord &record, QObject *parent)
     : QObject(parent)
     , profile(store)
     , current(record)
-    , reconciler([this] { return wanted(); })
+    , reconciler([this] { return wanted(); }, logins)
 {
     refreshDescription();
     connect(&reconciler, &KirvReconciler::settled, &entry, &KirvAccountDirectory::connectionSettled);
@@ -168,10 +169,55 @@ bool KirvAccount::setAvatar(const QString &path)
             return false;
         }
     }
+    const bool hadNone = avatar.isEmpty() && current.avatar.isEmpty();
+    return takeAvatar(avatar, [hadNone](KirvAccountRecord &record) {
+        if (!hadNone)
+            record.settings.insert(KirvOwnSetting::avatarIsChosen, QStringLiteral("true"));
+    });
+}
+
+/// Makes \a imported, a name in the profile's folder or empty, the avatar.
+bool KirvAccount::takeAvatar(const QString &imported, const std::function<void(KirvAccountRecord &)> &alsoChange)
+{
     return change([&](KirvAccountRecord &record) {
-        record.avatar = avatar;
-        if (!avatar.isEmpty())
-            importedAvatars << avatar;
+        record.avatar = imported;
+        if (!imported.isEmpty())
+            importedAvatars << imported;
+        alsoChange(record);
+    });
+}
+
+KirvAvatar KirvAccount::avatar() const
+{
+    return { avatarPath(), current.settings.value(KirvOwnSetting::avatarOnServer).toLatin1(),
+             current.settings.contains(KirvOwnSetting::avatarIsChosen) };
+}
+
+void KirvAccount::onAvatarPublished(const QString &path, const QByteArray &onServer)
+{
+    if (removed)
+        return;
+    change([&](KirvAccountRecord &record) {
+        record.settings.insert(KirvOwnSetting::avatarOnServer, QString::fromLatin1(onServer));
+        if (path == avatarPath()) // otherwise another one was chosen since
+            record.settings.remove(KirvOwnSetting::avatarIsChosen);
+    });
+}
+
+/// A picture that cannot be used changes nothing here, and is not overwritten either.
+void KirvAccount::onAvatarReceived(const QByteArray &image, const QByteArray &onServer)
+{
+    if (removed || avatar().isChosen)
+        return;
+    QString imported;
+    if (!image.isEmpty()) {
+        QTemporaryFile file;
+        if (file.open() && file.write(image) == image.size() && file.flush())
+            imported = profile.importAvatar(file.fileName());
+    }
+    const bool isUsable = image.isEmpty() || !imported.isEmpty();
+    takeAvatar(isUsable ? imported : current.avatar, [&onServer](KirvAccountRecord &record) {
+        record.settings.insert(KirvOwnSetting::avatarOnServer, QString::fromLatin1(onServer));
     });
 }
 
@@ -324,7 +370,7 @@ KirvReconciler::Wanted KirvAccount::wanted() const
     KirvReconciler::Wanted result;
     result.presence = presence();
     result.login = { current.key.id, current.password, settings() };
-    result.avatarPath = avatarPath();
+    result.avatar = avatar();
     result.online =
         mayLogIn && !removed && current.enabled && connection() && !connection()->isOfflinePresence(result.presence);
     return result;
@@ -378,6 +424,12 @@ void KirvAccount::connectConnection(KirvConnection *created)
 {
     connect(created, &KirvConnection::stateChanged, this, &KirvAccount::onStateChanged);
     connect(created, &KirvConnection::failed, this, &KirvAccount::onFailed);
+    connect(created, &KirvConnection::avatarPublished, this, &KirvAccount::onAvatarPublished);
+    connect(created, &KirvConnection::avatarReceived, this, &KirvAccount::onAvatarReceived);
+    connect(created, &KirvConnection::turnAwaited, this, [this] {
+        if (!removed)
+            Q_EMIT changed();
+    });
     connect(created, &KirvConnection::noticeReceived, this, [this](const QString &text) {
         if (!removed)
             Q_EMIT noticeReceived(text);

@@ -30,8 +30,8 @@ class KirvAccount : public QObject, public KirvAccountConnection {
     Q_OBJECT
 
 public:
-    /// \a store is not owned and outlives the account; \a record is stored in it.
-    KirvAccount(KirvStore &store, const KirvAccountRecord &record, QObject *parent = nullptr);
+    /// \a store and \a logins are not owned and outlive the account; \a record is stored in the store.
+    KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAccountRecord &record, QObject *parent = nullptr);
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }
@@ -48,7 +48,7 @@ public:
     void beginSave();
     bool endSave();
     bool isSaving() const { return saveDepth > 0; }
-    /// Copies the image at \a path into the profile as the avatar; an empty path removes the avatar.
+    /// Copies the image at \a path into the profile as the avatar; an empty path removes the avatar. It is published.
     bool setAvatar(const QString &path);
     /// The path of the avatar; empty: none.
     QString avatarPath() const;
@@ -121,10 +121,14 @@ private:
     KirvPresence startPresence() const;
     KirvPresence logInPresence() const;
     KirvReconciler::Wanted wanted() const;
+    KirvAvatar avatar() const;
+    bool takeAvatar(const QString &imported, const std::function<void(KirvAccountRecord &)> &alsoChange);
     void connectConnection(KirvConnection *connection);
     bool dropConnection();
     void onStateChanged(KirvConnection::State state);
     void onFailed(const KirvFailure &failed);
+    void onAvatarPublished(const QString &path, const QByteArray &onServer);
+    void onAvatarReceived(const QByteArray &image, const QByteArray &onServer);
     void onDirectoryAnswered(const KirvDirectoryAnswer &answer);
     void setFailure(const KirvFailure &newFailure);
 

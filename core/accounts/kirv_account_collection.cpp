@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -46,6 +47,24 @@ QList<KirvAccountInfo *> KirvAccountCollection::descriptionsOf(const QString &pr
     return byProtocol.value(protocol).infos;
 }
 
+void KirvAccountCollection::setMainAccount(std::function<KirvAccount *()> newMainAccount)
+{
+    mainAccount = std::move(newMainAccount);
+    queue.setMainConnection([this]() -> const KirvConnection * {
+        const KirvAccount *account = mainAccount ? mainAccount() : nullptr;
+        return account ? account->connection() : nullptr;
+    });
+}
+
+/// \a accounts with the main account in front when it is among them.
+QList<KirvAccount *> KirvAccountCollection::mainFirst(QList<KirvAccount *> accounts) const
+{
+    const int index = mainAccount ? int(accounts.indexOf(mainAccount())) : -1;
+    if (index > 0)
+        accounts.move(index, 0);
+    return accounts;
+}
+
 void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logIn)
 {
     const QString name = protocol->getName();
@@ -57,6 +76,10 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
     if (!alive || !loaded || protocols.contains(name)) // a slot was quicker
         return;
     protocols.insert(name, loaded);
+    QStringList ids;
+    for (const KirvAccount *account : accountsOf(name))
+        ids << account->key().id;
+    logins.load(protocol, name, ids);
     connect(protocol, &KirvProtocolBase::directoryRequested, this, &KirvAccountCollection::requestDirectory);
     connect(protocol, &QObject::destroyed, this, [this, name] {
         if (protocols.contains(name) && !protocols.value(name))
@@ -68,7 +91,7 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
     store.classifySettings(name, QSet<QString>(settings.begin(), settings.end()),
                            kirvSecretFields(protocol->accountSettings()));
 
-    for (const QPointer<KirvAccount> &account : guarded(accountsOf(name))) {
+    for (const QPointer<KirvAccount> &account : guarded(mainFirst(accountsOf(name)))) {
         if (!alive || !loaded || protocols.value(name) != loaded)
             return;
         if (account)
@@ -76,12 +99,32 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
         if (account)
             Q_EMIT account->changed();
     }
+    if (alive && loaded && protocols.value(name) == loaded)
+        reportTwins(name);
+}
+
+/// One text for all of them: there may be many.
+void KirvAccountCollection::reportTwins(const QString &protocol)
+{
+    const QList<QStringList> groups = logins.twins(protocol);
+    if (groups.isEmpty())
+        return;
+    const QString first = groups.first().at(0), second = groups.first().at(1);
+    //: %1 and %2 are logins, %3 is the name of a protocol
+    QString text =
+        tr("The accounts \"%1\" and \"%2\" (%3) are the same to the server. Both are kept; remove the one that "
+           "is not needed.")
+            .arg(first, second, protocol);
+    if (groups.size() > 1)
+        text += QLatin1Char('\n') + tr("The same is true of %n further logins.", nullptr, int(groups.size()) - 1);
+    Q_EMIT problemOccurred(text);
 }
 
 void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
 {
     if (!protocols.contains(protocol))
         return;
+    logins.unload(protocol);
     if (KirvProtocolBase *unloaded = protocols.take(protocol))
         unloaded->disconnect(this);
     // Those that were removed and are still logging out have connections of the protocol, too.
@@ -133,9 +176,10 @@ void KirvAccountCollection::logOutAll(int milliseconds)
 
 KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
-    auto *account = new KirvAccount(store, record, this);
+    auto *account = new KirvAccount(store, queue, record, this);
     all.append(account);
     byKey.insert(record.key, account);
+    logins.insert(record.key);
     ProtocolAccounts &siblings = byProtocol[record.key.protocol];
     siblings.accounts.append(account);
     siblings.infos.append(account->info());
@@ -153,6 +197,7 @@ void KirvAccountCollection::takeOut(KirvAccount *account, const KirvAccountKey &
 {
     all.removeOne(account);
     byKey.remove(key);
+    logins.remove(key);
     ProtocolAccounts &siblings = byProtocol[key.protocol];
     const int index = int(siblings.accounts.indexOf(account));
     siblings.accounts.removeAt(index);
@@ -165,12 +210,24 @@ QList<KirvAccount *> KirvAccountCollection::withLeaving() const
     return findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+/// Also of an account whose protocol is not loaded.
+QString KirvAccountCollection::idWithSameLogin(const KirvAccountKey &key) const
+{
+    return byKey.contains(key) ? key.id : logins.find(key);
+}
+
 /// Empty when nothing but the store can refuse.
 QString KirvAccountCollection::whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const
 {
     const KirvProtocolBase *known = protocols.value(record.key.protocol);
-    if (byKey.contains(record.key))
+    const QString same = idWithSameLogin(record.key);
+    if (same == record.key.id && !same.isEmpty())
         return tr("The account \"%1\" (%2) exists already.").arg(record.key.id, record.key.protocol);
+    if (!same.isEmpty()) {
+        //: %1 and %3 are two spellings of a login, %2 is the name of a protocol
+        return tr("The account \"%1\" (%2) exists already: it is the same as \"%3\" to the server.")
+            .arg(record.key.id, record.key.protocol, same);
+    }
     if (!known || known != protocol)
         return tr("The account \"%1\" could not be created: the protocol %2 is not loaded.")
             .arg(record.key.id, record.key.protocol);
@@ -194,6 +251,7 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
     account->load(known, true);
+    account->tryAgain(); // the user has just made it: it does not wait behind the others
     Q_EMIT accountAdded(account);
     return alive && account && byKey.value(record.key) == account ? account.data() : nullptr;
 }

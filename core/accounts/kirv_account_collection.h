@@ -3,10 +3,12 @@
 #define KIRV_ACCOUNT_COLLECTION_H
 
 #include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_login_index.h"
 
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <functional>
 
 /// Every configured account, over a store.
 ///
@@ -28,15 +30,21 @@ public:
     KirvAccount *find(const KirvAccountKey &key) const { return byKey.value(key); }
 
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
-    /// defaults. Null when the account exists, the protocol is not the loaded one, or the store refuses; then
-    /// creationRefused() is emitted, and lastError() says why.
+    /// defaults. Null when the account exists, also with another spelling of the login, the protocol is not the loaded
+    /// one, or the store refuses; then creationRefused() is emitted, and lastError() says why.
     KirvAccount *create(const KirvAccountRecord &record, KirvProtocol *protocol);
     /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
     bool remove(KirvAccount *account);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
     KirvAccount *load(KirvAccount *account);
 
-    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn.
+    /// \a mainAccount is called for the account that logs in before the others; its result may be null.
+    void setMainAccount(std::function<KirvAccount *()> mainAccount);
+    /// Where the accounts have their turns to log in.
+    KirvLoginQueue &loginQueue() { return queue; }
+
+    /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn. Accounts that
+    /// turn out to have the same login stay; problemOccurred() names them.
     void protocolLoaded(KirvProtocolBase *protocol, bool logIn = true);
     /// The protocol is about to be unloaded: its connections are closed and destroyed. The accounts stay.
     void protocolAboutToBeUnloaded(const QString &protocol);
@@ -71,18 +79,24 @@ private:
     };
 
     KirvAccount *append(const KirvAccountRecord &record);
+    QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
     QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
     KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
+    QString idWithSameLogin(const KirvAccountKey &key) const;
+    void reportTwins(const QString &protocol);
     void refuse(const QString &reason);
 
     KirvStore &store;
+    KirvLoginQueue queue;
+    std::function<KirvAccount *()> mainAccount;
     QList<KirvAccount *> all;
     QHash<KirvAccountKey, KirvAccount *> byKey;
     QHash<QString, ProtocolAccounts> byProtocol;
+    KirvLoginIndex logins;
     QHash<QString, QPointer<KirvProtocolBase>> protocols;
     QString error;
 };

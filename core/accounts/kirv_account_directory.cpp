@@ -80,8 +80,9 @@ void KirvAccountDirectory::connectionSettled()
 {
     if (!held || saving || !connection)
         return;
-    if (!connection->isLoggedIn() && connection->state() != KirvConnection::Offline
-        && connection->state() != KirvConnection::Waiting)
+    const bool isAway = connection->state() == KirvConnection::Offline
+        || (connection->state() == KirvConnection::Waiting && !connection->isWaitingForTurn());
+    if (!connection->isLoggedIn() && !isAway)
         return; // it is on its way
     const QList<KirvField> changes = *held;
     held.reset();

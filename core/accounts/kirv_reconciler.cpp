@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_reconciler.h"
 
+#include <utility>
+
 namespace {
 
 bool isSame(const KirvPresence &left, const KirvPresence &right)
@@ -10,21 +12,31 @@ bool isSame(const KirvPresence &left, const KirvPresence &right)
 
 } // namespace
 
-KirvReconciler::KirvReconciler(std::function<Wanted()> wanted, QObject *parent)
+KirvReconciler::KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, QObject *parent)
     : QObject(parent)
     , wanted(std::move(wanted))
+    , logins(logins)
 {
 }
 
 void KirvReconciler::setConnection(KirvConnection *connection)
 {
-    if (target)
+    if (target) {
         target->disconnect(this);
+        target->setLoginGate(nullptr);
+    }
     target = connection;
     urge = None;
+    isLoginUrgent = false;
     if (!target)
         return;
-    connect(target, &KirvConnection::stateChanged, this, &KirvReconciler::schedule);
+    target->setLoginGate(
+        [this] { return logins.request(*target, isLoginUrgent ? KirvLoginQueue::Urgent : KirvLoginQueue::Ordinary); });
+    connect(target, &KirvConnection::stateChanged, this, [this](KirvConnection::State state) {
+        if (state == KirvConnection::Connecting)
+            isLoginUrgent = false; // the attempts that follow are the connection's own
+        schedule();
+    });
     schedule();
 }
 
@@ -101,28 +113,31 @@ void KirvReconciler::reconcile()
     const Step step = nextStep(now, *target, urge);
     const bool leavesSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
     if (!leavesSession) { // an avatar is not published over a session that is not wanted any more
-        target->setAvatarPath(now.avatarPath);
+        target->setAvatar(now.avatar);
         if (!alive || !target || scheduled) // a slot has changed something
             return;
     }
-    urge = None;
-    take(step, now);
+    take(step, now, std::exchange(urge, None));
     if (leavesSession && alive && target)
-        target->setAvatarPath(now.avatarPath);
+        target->setAvatar(now.avatar);
     if (alive && target && (step == Nothing || step == ChangePresence))
         Q_EMIT settled();
 }
 
-void KirvReconciler::take(Step step, const Wanted &now)
+void KirvReconciler::take(Step step, const Wanted &now, Urge followed)
 {
     switch (step) {
     case LogIn:
+        // A session that is interrupted comes back before accounts that were not there yet.
+        isLoginUrgent = isLoginUrgent || followed != None || target->isLoggedIn()
+            || target->state() == KirvConnection::Disconnecting;
         target->logIn(now.login, now.presence);
         break;
     case ChangePresence:
         target->changePresence(now.presence);
         break;
     case LogOut:
+        isLoginUrgent = false;
         target->logOut();
         break;
     case Nothing:

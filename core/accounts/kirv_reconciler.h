@@ -2,6 +2,7 @@
 #ifndef KIRV_RECONCILER_H
 #define KIRV_RECONCILER_H
 
+#include "core/accounts/kirv_login_queue.h"
 #include "core/protocol/kirv_connection.h"
 
 #include <QObject>
@@ -12,7 +13,8 @@
 ///
 /// Whatever changes an account only calls schedule(); from the event loop, and not while a save is open, the reconciler
 /// compares what is wanted with what the connection really uses and takes the one step that is needed. So nothing is
-/// sent from uncommitted state, and several changes make one step.
+/// sent from uncommitted state, and several changes make one step. Log-ins have their turns from a queue; those that
+/// the user requests for this account are urgent there.
 class KirvReconciler : public QObject {
     Q_OBJECT
 
@@ -22,7 +24,7 @@ public:
         bool online = false;
         KirvLogin login;
         KirvPresence presence;
-        QString avatarPath;
+        KirvAvatar avatar;
     };
     enum Step {
         Nothing,
@@ -37,8 +39,8 @@ public:
         Reconnect ///< also, a connection that is logged in logs out and in again, and an attempt starts afresh
     };
 
-    /// \a wanted is called for what is wanted now.
-    explicit KirvReconciler(std::function<Wanted()> wanted, QObject *parent = nullptr);
+    /// \a wanted is called for what is wanted now. \a logins is not owned and outlives the reconciler.
+    KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, QObject *parent = nullptr);
 
     /// The connection to look after; not owned. Null: there is none.
     void setConnection(KirvConnection *connection);
@@ -61,14 +63,16 @@ Q_SIGNALS:
 
 private:
     void reconcile();
-    void take(Step step, const Wanted &wanted);
+    void take(Step step, const Wanted &wanted, Urge urge);
 
     const std::function<Wanted()> wanted;
+    KirvLoginQueue &logins;
     QPointer<KirvConnection> target;
     Urge urge = None;
     Urge urgeBefore = None; ///< when hold() was called
     int holds = 0;
     bool scheduled = false;
+    bool isLoginUrgent = false; ///< the one that is to start
 };
 
 #endif

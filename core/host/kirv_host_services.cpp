@@ -21,10 +21,12 @@ KirvHostServices::KirvHostServices(KirvAccountCollection &accounts, KirvPluginLo
     KirvAccountManagerPrivate::ampInstance = this;
     KirvPluginManagerPrivate::instance = this;
     KirvSettingsManagerPrivate::settingsMgrPrivInstance = this;
+    accounts.setMainAccount([this] { return mainAccountRule.account(); });
 }
 
 KirvHostServices::~KirvHostServices()
 {
+    accounts.setMainAccount(nullptr);
     if (present != this)
         return;
     present = nullptr;

@@ -6,7 +6,11 @@
 
 int KirvBackOff::next(const Limits &limits)
 {
+    return next(limits, QRandomGenerator::global()->generateDouble());
+}
+
+int KirvBackOff::next(const Limits &limits, double chance)
+{
     delay = delay ? int(qMin<qint64>(2 * qint64(delay), limits.last)) : limits.first;
-    const double chance = 2 * QRandomGenerator::global()->generateDouble() - 1;
-    return qRound(delay * (1 + chance * limits.jitter));
+    return qRound(delay * (1 + (2 * chance - 1) * limits.jitter));
 }

@@ -16,6 +16,8 @@ public:
 
     /// The next wait.
     int next(const Limits &limits);
+    /// The same with a number from 0 to 1 in place of chance: 0 makes the wait shortest, 1 longest.
+    int next(const Limits &limits, double chance);
     /// The next wait is the first one again.
     void reset() { delay = 0; }
 

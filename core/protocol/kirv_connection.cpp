@@ -28,6 +28,8 @@ public:
     void inThisState(int milliseconds, std::function<void()> callback);
 
     void logInNow();
+    void waitForTurn();
+    void begin();
     void startLogOut(bool comeBack);
     void finishLogOut();
     bool abort();
@@ -51,8 +53,11 @@ public:
     KirvLogin login;
     KirvPresence wanted;
     KirvPresence applied; ///< what the server received last
-    QString avatarPath;
+    KirvAvatar avatar;
     KirvBackOff backOff;
+    std::function<double()> random;
+    std::function<bool()> mayBegin; ///< null: always
+    bool waitsForTurn = false;
     bool aborting = false; ///< reports of the protocol are ignored meanwhile
     bool comesBack = false; ///< the log-out is followed by a log-in
 
@@ -66,8 +71,10 @@ public:
 bool KirvConnection::Private::enter(State next)
 {
     const quint64 entered = ++visit;
-    if (next != Waiting)
+    if (next != Waiting) {
         nextRetry = QDateTime();
+        waitsForTurn = false;
+    }
     if (next == state)
         return true;
     state = next;
@@ -101,9 +108,27 @@ void KirvConnection::Private::inThisState(int milliseconds, std::function<void()
     });
 }
 
+/// Logs in when it is the connection's turn, now or later.
 void KirvConnection::Private::logInNow()
 {
     comesBack = false;
+    if (mayBegin && !mayBegin())
+        waitForTurn();
+    else
+        begin();
+}
+
+void KirvConnection::Private::waitForTurn()
+{
+    const bool waitedForTime = state == Waiting && !waitsForTurn;
+    nextRetry = QDateTime();
+    waitsForTurn = true;
+    if (enter(Waiting) && waitedForTime)
+        Q_EMIT connection->turnAwaited();
+}
+
+void KirvConnection::Private::begin()
+{
     if (!enter(Connecting))
         return;
     inThisState(timing.loginTimeout, [this] { fail(KirvFailure::TimedOut); });
@@ -168,8 +193,9 @@ void KirvConnection::Private::waitAndRetry()
     const bool wasStable = state == Online && since.msecsTo(clock.now()) >= timing.stableAfter;
     if (wasStable)
         backOff.reset();
-    const int wait = backOff.next(timing.backOff);
+    const int wait = random ? backOff.next(timing.backOff, random()) : backOff.next(timing.backOff);
     nextRetry = clock.now().addMSecs(wait);
+    waitsForTurn = false;
     if (enter(Waiting))
         inThisState(wait, [this] { logInNow(); });
 }
@@ -230,6 +256,11 @@ KirvFailure KirvConnection::lastFailure() const
 QDateTime KirvConnection::nextRetry() const
 {
     return d->nextRetry;
+}
+
+bool KirvConnection::isWaitingForTurn() const
+{
+    return d->waitsForTurn;
 }
 
 KirvConnection::Timing KirvConnection::timing() const
@@ -318,22 +349,37 @@ void KirvConnection::acceptPassword(const QString &password)
     d->login.password = password;
 }
 
+void KirvConnection::setLoginGate(std::function<bool()> mayBegin)
+{
+    d->mayBegin = std::move(mayBegin);
+}
+
+void KirvConnection::beginLogin()
+{
+    if (d->waitsForTurn)
+        d->begin();
+}
+
+void KirvConnection::setRandomSource(std::function<double()> random)
+{
+    d->random = std::move(random);
+}
+
 QString KirvConnection::securityText() const
 {
     return QString();
 }
 
-QString KirvConnection::avatarPath() const
+KirvAvatar KirvConnection::avatar() const
 {
-    return d->avatarPath;
+    return d->avatar;
 }
 
-void KirvConnection::setAvatarPath(const QString &path)
+void KirvConnection::setAvatar(const KirvAvatar &avatar)
 {
-    if (d->avatarPath == path)
-        return;
-    d->avatarPath = path;
-    if (d->state == Online)
+    const bool isNew = avatar.isChosen && (!d->avatar.isChosen || avatar.path != d->avatar.path);
+    d->avatar = avatar;
+    if (isNew && d->state == Online)
         publishAvatar();
 }
 

@@ -2,6 +2,7 @@
 #ifndef KIRV_CONNECTION_H
 #define KIRV_CONNECTION_H
 
+#include "core/protocol/kirv_avatar.h"
 #include "core/protocol/kirv_back_off.h"
 #include "core/protocol/kirv_directory_answer.h"
 #include "core/protocol/kirv_login.h"
@@ -29,6 +30,8 @@
 /// Reports that come too late, after drop() or a time-out say, are ignored. Slots may do with the connection what they
 /// like, also destroy it. Destroying it emits nothing and answers no request; drop() it first where a request is
 /// outstanding. The protocol's destructor closes what is open.
+///
+/// Whoever has many connections can make each wait for its turn before it starts to log in: setLoginGate().
 class KIRV_PROTOCOL_EXPORT KirvConnection : public QObject {
     Q_OBJECT
 
@@ -53,7 +56,9 @@ public:
     bool isLoggedIn() const; ///< state() is Online
     QDateTime since() const; ///< when the state was entered
     KirvFailure lastFailure() const; ///< of the last attempt; None after a success
-    QDateTime nextRetry() const; ///< when Waiting ends; invalid otherwise
+    QDateTime nextRetry() const; ///< when the next attempt is due; invalid when it waits for its turn, or for nothing
+    /// Whether the state is Waiting and what it waits for is beginLogin().
+    bool isWaitingForTurn() const;
 
     Timing timing() const;
     void setTiming(const Timing &timing);
@@ -77,6 +82,15 @@ public:
     /// The server has changed the password of the account to \a password: the session goes on with it.
     void acceptPassword(const QString &password);
 
+    /// \a mayBegin is called each time before a log-in starts, also one that follows a log-out or a failure. When its
+    /// result is false the connection is Waiting until beginLogin(), or until it is not to log in any more. Null: every
+    /// log-in starts at once. It must neither change nor destroy the connection.
+    void setLoginGate(std::function<bool()> mayBegin);
+    /// Starts the log-in that waits for its turn; does nothing when there is none.
+    void beginLogin();
+    /// \a random gives the numbers from 0 to 1 that make waits longer or shorter by chance; null: the usual ones.
+    void setRandomSource(std::function<double()> random);
+
     /// Whether \a presence means being logged out; for most protocols the one with the id "offline".
     virtual bool isOfflinePresence(const KirvPresence &presence) const;
 
@@ -84,9 +98,9 @@ public:
     /// "TLSv1.3, SASL EXTERNAL". Plain text; empty when off line, and where the protocol does not know it.
     virtual QString securityText() const;
 
-    /// The image file of the account's avatar; empty: none. A change is published at once when on line.
-    QString avatarPath() const;
-    void setAvatarPath(const QString &path);
+    /// The account's avatar. One that was chosen is published at once when on line.
+    KirvAvatar avatar() const;
+    void setAvatar(const KirvAvatar &avatar);
 
     /// Requests to the public directory. Each returns the number of the request, never 0, and is answered by exactly
     /// one directoryAnswered() of that number, from the event loop or later: also on an error, on a time-out and when
@@ -98,11 +112,19 @@ public:
 
 Q_SIGNALS:
     void stateChanged(KirvConnection::State state);
+    /// The wait for the next attempt has become one for its turn; the state stays Waiting.
+    void turnAwaited();
     /// A log-in, the connection or a request without an answer of its own failed.
     void failed(const KirvFailure &failure);
     void directoryAnswered(const KirvDirectoryAnswer &answer);
     /// The server says something that the user should read although nothing failed.
     void noticeReceived(const QString &text);
+    /// The server holds the picture of the file \a path now, or none when it is empty; \a onServer is for
+    /// KirvAvatar::onServer.
+    void avatarPublished(const QString &path, const QByteArray &onServer);
+    /// Another client has changed the picture on the server: \a image, the bytes of an image file, takes the place of
+    /// avatar(). Empty: it was removed.
+    void avatarReceived(const QByteArray &image, const QByteArray &onServer);
 
 protected:
     /// Starts to log in with login(); called in state Connecting only. Reply with loginSucceeded() or loginFailed(),
@@ -115,7 +137,8 @@ protected:
     virtual void abortConnection() = 0;
     /// Sends \a presence; called in state Online only.
     virtual void applyPresence(const KirvPresence &presence) = 0;
-    /// Publishes avatarPath(); called in state Online only, when it changed. The default does nothing.
+    /// Publishes avatar(); called in state Online only, when one was chosen. Emit avatarPublished() then. At the log-in
+    /// the protocol looks for itself whether it is to be published. The default does nothing.
     virtual void publishAvatar();
 
     /// Start a directory request; called in state Online only. Reply with answerDirectoryRequest() or

@@ -8,6 +8,11 @@ KirvProtocolBase::KirvProtocolBase(QObject *parent)
 
 KirvProtocolBase::~KirvProtocolBase() = default;
 
+QString KirvProtocolBase::normalizedLogin(const QString &login) const
+{
+    return login;
+}
+
 KirvPresence KirvProtocolBase::presenceWithId(const QString &id, const QString &description) const
 {
     const QList<KirvPresence> offered = presences();

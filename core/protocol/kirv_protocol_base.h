@@ -33,6 +33,11 @@ public:
     explicit KirvProtocolBase(QObject *parent = nullptr);
     ~KirvProtocolBase() override;
 
+    /// What \a login is to the server: logins for which it is the same are spellings of one, and only one of them can
+    /// be added. The login itself stays as it was typed. Must depend on nothing else, and be quick: it is called for
+    /// every account when the protocol is loaded. The default is \a login.
+    virtual QString normalizedLogin(const QString &login) const;
+
     /// Every presence in display order; the first is the default. Must not be empty.
     virtual QList<KirvPresence> presences() const = 0;
     /// The presence with that \a id, carrying \a description. An unknown id gives the first presence.

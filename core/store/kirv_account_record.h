@@ -4,9 +4,16 @@
 
 #include "core/values/kirv_account_key.h"
 
+#include <QLatin1String>
 #include <QMap>
 #include <QSet>
 #include <QString>
+
+/// What the core itself stores among the settings of a protocol; no field of a protocol is called like that.
+namespace KirvOwnSetting {
+const QLatin1String avatarOnServer("kirv/avatar_on_server"); ///< see KirvAvatar::onServer
+const QLatin1String avatarIsChosen("kirv/avatar_is_chosen"); ///< "true", or missing
+}
 
 /// What is stored of one account. A value type.
 struct KirvAccountRecord {
@@ -22,7 +29,8 @@ struct KirvAccountRecord {
     QString lastPresence; ///< id; empty: none yet
     QString lastDescription;
     QString avatar; ///< file name inside KirvStore::avatarFolder(); empty: none
-    QMap<QString, QString> settings; ///< protocol settings by field id; "true" and "false" for check boxes
+    /// Protocol settings by field id; "true" and "false" for check boxes. And those of KirvOwnSetting.
+    QMap<QString, QString> settings;
     /// The ids of those settings that are secret, as passwords are: no copy of the profile holds them. Ids that are
     /// not in settings mean nothing.
     QSet<QString> secretSettings;

@@ -95,11 +95,11 @@ QString missingChild(const Child &child, const QWidget *top)
             return QString();
     }
     if (!found.isEmpty())
-        return KirvLayoutCatalog::tr("“%1” is a %2, but must be a %3.")
+        return KirvLayoutCatalog::tr("\"%1\" is a %2, but must be a %3.")
             .arg(name, QLatin1String(found.first()->metaObject()->className()), className);
     if (child.need == Optional)
         return QString();
-    return KirvLayoutCatalog::tr("There is no %1 named “%2”.").arg(className, name);
+    return KirvLayoutCatalog::tr("There is no %1 named \"%2\".").arg(className, name);
 }
 
 /// What the classes alone do not show: the parts of a found child that the dialogs use without a test.
@@ -120,13 +120,13 @@ QStringList missingParts(const QWidget *top)
     for (const Button &button : buttons) {
         const auto *box = top->findChild<QDialogButtonBox *>(QLatin1String(button.box));
         if (box && !box->button(button.button))
-            missing += KirvLayoutCatalog::tr("“%1” has no standard button %2.")
+            missing += KirvLayoutCatalog::tr("\"%1\" has no standard button %2.")
                            .arg(QLatin1String(button.box), QLatin1String(button.text));
     }
     const auto *tabs = top->findChild<QTabWidget *>(QStringLiteral("EditAccount_Tabs"));
     if (tabs && tabs->count() < 2)
-        missing +=
-            KirvLayoutCatalog::tr("“%1” needs two tabs: the account and its directory entry.").arg(tabs->objectName());
+        missing += KirvLayoutCatalog::tr("\"%1\" needs two tabs: the account and its directory entry.")
+                       .arg(tabs->objectName());
     return missing;
 }
 

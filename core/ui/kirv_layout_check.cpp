@@ -139,7 +139,7 @@ QString KirvLayoutCheck::faultOfStart(const QXmlStreamReader &reader)
     if (name == QLatin1String("connection") || name == QLatin1String("signal") || name == QLatin1String("slot"))
         return tr("It connects widgets with each other, which only the program does.");
     if (!KirvLayoutVocabulary::has(KirvLayoutVocabulary::elements, name))
-        return tr("It has an element “%1”, which a layout cannot have.").arg(name.left(40));
+        return tr("It has an element \"%1\", which a layout cannot have.").arg(name.left(40));
     if ((name == QLatin1String("widget") && !KirvLayoutVocabulary::has(KirvLayoutVocabulary::widgets, className))
         || (name == QLatin1String("layout")
             && !KirvLayoutVocabulary::has(KirvLayoutVocabulary::layoutClasses, className)))
@@ -152,7 +152,7 @@ QString KirvLayoutCheck::faultOfStart(const QXmlStreamReader &reader)
     // A theme's icon can also be a path.
     const QString theme = attribute(reader, "theme");
     if (theme.contains(QLatin1Char('/')) || theme.contains(QLatin1Char('\\')) || theme.startsWith(QLatin1Char('.')))
-        return tr("“%1” is not the name of an icon.").arg(theme.left(200));
+        return tr("\"%1\" is not the name of an icon.").arg(theme.left(200));
     return faultOfPlace(reader);
 }
 
@@ -187,7 +187,7 @@ QString KirvLayoutCheck::faultOfEnd(const QList<Element> &open) const
         && !QStringList({ "Qt::PlainText", "Qt::RichText", "Qt::AutoText", "Qt::TextFormat::PlainText",
                           "Qt::TextFormat::RichText", "Qt::TextFormat::AutoText" })
                 .contains(element.text))
-        return tr("It has a text of the format “%1”, which a layout cannot have.").arg(element.text.left(40));
+        return tr("It has a text of the format \"%1\", which a layout cannot have.").arg(element.text.left(40));
     return QString();
 }
 
@@ -211,7 +211,7 @@ QString KirvLayoutCheck::faultOfText(const Element &element) const
 {
     if (!KirvLayoutVocabulary::has(KirvLayoutVocabulary::textProperties, element.property)
         && !element.property.isEmpty())
-        return tr("It sets “%1” to a text, which a layout cannot do.").arg(element.property.left(40));
+        return tr("It sets \"%1\" to a text, which a layout cannot do.").arg(element.property.left(40));
     if (element.property == QLatin1String("styleSheet"))
         return faultOfStyleSheet(element.text);
     return element.text.contains(QLatin1Char('<')) ? faultOfRichText(element.text) : QString();
@@ -224,7 +224,7 @@ QString KirvLayoutCheck::faultOfStyleSheet(const QString &text) const
                                               QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = forbidden.match(text);
     if (match.hasMatch())
-        return tr("Its style sheet contains “%1”, which a layout cannot have.").arg(match.captured().trimmed());
+        return tr("Its style sheet contains \"%1\", which a layout cannot have.").arg(match.captured().trimmed());
     static const QRegularExpression url(QStringLiteral("url\\s*\\(([^)]*)(\\)|$)"),
                                         QRegularExpression::CaseInsensitiveOption);
     QRegularExpressionMatchIterator found = url.globalMatch(text);
@@ -236,7 +236,7 @@ QString KirvLayoutCheck::faultOfStyleSheet(const QString &text) const
             return fault;
         // Qt would look for it in the folder in which the program was started.
         if (QDir::isRelativePath(path))
-            return tr("Style sheets and rich texts name pictures by their whole path, “%1” does not.").arg(path);
+            return tr("Style sheets and rich texts name pictures by their whole path, \"%1\" does not.").arg(path);
     }
     return QString();
 }
@@ -254,7 +254,7 @@ QString KirvLayoutCheck::faultOfRichText(const QString &text) const
         if (!fault.isEmpty())
             return fault;
         if (QDir::isRelativePath(path))
-            return tr("Style sheets and rich texts name pictures by their whole path, “%1” does not.").arg(path);
+            return tr("Style sheets and rich texts name pictures by their whole path, \"%1\" does not.").arg(path);
     }
     return QString();
 }
@@ -282,10 +282,10 @@ QString KirvLayoutCheck::faultOfPictureFile(const QString &path) const
 {
     const QString real = QFileInfo(path).canonicalFilePath();
     if (real.isEmpty())
-        return tr("There is no picture “%1”.").arg(path.left(200));
+        return tr("There is no picture \"%1\".").arg(path.left(200));
     const QString own = QFileInfo(folder).canonicalFilePath();
     if (own.isEmpty() || !real.startsWith(own + QLatin1Char('/')))
-        return tr("The picture “%1” is not in the folder of the layout.").arg(path.left(200));
+        return tr("The picture \"%1\" is not in the folder of the layout.").arg(path.left(200));
     QByteArray format;
     QString problem;
     KirvBoundedImage::measuredFile(real, &format, &problem);

@@ -41,7 +41,7 @@ QString tooManyPixels(const QSize &size)
 
 QString tooManyBytes(const QString &name)
 {
-    return KirvBoundedImage::tr("The file “%1” is too large. Up to %2 MB are possible.")
+    return KirvBoundedImage::tr("The file \"%1\" is too large. Up to %2 MB are possible.")
         .arg(name)
         .arg(KirvBoundedImage::maximumBytes / (1024 * 1024));
 }
@@ -64,9 +64,10 @@ QSize measure(QImageReader &reader, const QByteArray &data, const QString &name,
     if (!size.isEmpty() && reader.format() == "gif")
         size = withScreenOfGif(size, data);
     if (size.isEmpty()) {
-        *problem = KirvBoundedImage::tr("The file “%1” is not a picture that can be used. Pictures in the formats PNG, "
-                                        "JPEG, GIF, BMP and WebP are possible.")
-                       .arg(name);
+        *problem =
+            KirvBoundedImage::tr("The file \"%1\" is not a picture that can be used. Pictures in the formats PNG, "
+                                 "JPEG, GIF, BMP and WebP are possible.")
+                .arg(name);
         return QSize();
     }
     if (hasTooManyPixels(size)) {
@@ -82,7 +83,7 @@ QByteArray readFile(const QString &path, QString *problem)
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-        *problem = KirvBoundedImage::tr("The file “%1” cannot be read.").arg(name);
+        *problem = KirvBoundedImage::tr("The file \"%1\" cannot be read.").arg(name);
         return QByteArray();
     }
     const QByteArray data = file.read(KirvBoundedImage::maximumBytes + 1);
@@ -116,7 +117,7 @@ KirvBoundedImage KirvBoundedImage::fromData(const QByteArray &data, const QStrin
     reader.setScaledSize(bounded(size, largestSide));
     KirvBoundedImage result;
     result.picture = reader.read();
-    return result.isNull() ? failed(tr("The picture in the file “%1” is damaged.").arg(name)) : result;
+    return result.isNull() ? failed(tr("The picture in the file \"%1\" is damaged.").arg(name)) : result;
 }
 
 KirvBoundedImage KirvBoundedImage::fromImage(const QImage &image, int largestSide)

@@ -143,6 +143,9 @@ QString KirvFailure::textWithDetail() const
     case ServerShutDown:
         //: %1 is what the server said
         return tr("The server closed the connection: %1");
+    case LoggedInElsewhere:
+        //: %1 is what the server said
+        return tr("Another client logged in to the account and took its place: %1");
     case NameInUse:
         //: %1 is the name of a user
         return tr("The name \"%1\" is already in use on the server.");

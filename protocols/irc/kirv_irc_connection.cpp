@@ -155,7 +155,7 @@ bool KirvIrcConnection::configure(QSslSocket *encrypted, QString *problem) const
     const auto read = [problem](const QString &path) {
         const QList<QSslCertificate> certificates = kirvReadCertificates(path);
         if (certificates.isEmpty())
-            *problem = tr("There is no certificate in the file “%1”.").arg(path);
+            *problem = tr("There is no certificate in the file \"%1\".").arg(path);
         return certificates;
     };
     if (!settings.certificateFile.isEmpty())
@@ -164,7 +164,7 @@ bool KirvIrcConnection::configure(QSslSocket *encrypted, QString *problem) const
         configuration.setLocalCertificateChain(read(settings.clientCertificateFile));
         configuration.setPrivateKey(kirvReadPrivateKey(settings.clientKeyFile));
         if (problem->isEmpty() && configuration.privateKey().isNull())
-            *problem = tr("There is no private key that can be used in the file “%1”.").arg(settings.clientKeyFile);
+            *problem = tr("There is no private key that can be used in the file \"%1\".").arg(settings.clientKeyFile);
     }
     encrypted->setSslConfiguration(configuration);
     return problem->isEmpty();
@@ -211,7 +211,7 @@ void KirvIrcConnection::warnOfOpenKey()
         return;
     keyWarnedOf = file;
     Q_EMIT noticeReceived(
-        tr("Other users of this computer can read or change the key file “%1”. Only its owner should.").arg(file));
+        tr("Other users of this computer can read or change the key file \"%1\". Only its owner should.").arg(file));
 }
 
 /// The services of a network that was restarted are back later than its servers.
@@ -235,7 +235,7 @@ void KirvIrcConnection::announceNick()
     });
     announcedNick = link->nickName();
     if (announcedNick != settings.nick) {
-        Q_EMIT noticeReceived(tr("The nick “%1” could not be had; you are “%2” on this server now.")
+        Q_EMIT noticeReceived(tr("The nick \"%1\" could not be had; you are \"%2\" on this server now.")
                                   .arg(settings.nick, kirvIrcShown(announcedNick, longestShownNick)));
     }
 }

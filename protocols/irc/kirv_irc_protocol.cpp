@@ -45,6 +45,11 @@ QString KirvIrcProtocol::getLoginPattern()
     return KirvIrcSettings::loginPattern();
 }
 
+QString KirvIrcProtocol::normalizedLogin(const QString &login) const
+{
+    return KirvIrcSettings::normalizedLogin(login);
+}
+
 QList<KirvPresence> KirvIrcProtocol::presences() const
 {
     return {

@@ -124,11 +124,11 @@ KirvIrcSettings::KirvIrcSettings(const QString &login, const QString &password, 
 QString KirvIrcSettings::problem() const
 {
     if (!isNick(nick))
-        return tr("“%1” cannot be a nick.").arg(nick);
+        return tr("\"%1\" cannot be a nick.").arg(nick);
     if (server.isEmpty())
         return tr("No server is given.");
     if (server != kirvIrcLine(server, 255) || server.contains(QLatin1Char(' ')))
-        return tr("“%1” is not the name of a server.").arg(kirvIrcLine(server, 255));
+        return tr("\"%1\" is not the name of a server.").arg(kirvIrcLine(server, 255));
     if (port == 0)
         return tr("The port must be a number from 1 to 65535.");
     if (clientCertificateFile.isEmpty() && !clientKeyFile.isEmpty())
@@ -219,4 +219,20 @@ QList<KirvField> KirvIrcSettings::configurationFields(const QString &name)
 QString KirvIrcSettings::loginPattern()
 {
     return QLatin1String(nickPattern) + QLatin1String("(@[A-Za-z0-9.:-]+)?");
+}
+
+QString KirvIrcSettings::normalizedLogin(const QString &login)
+{
+    const QString upper = QStringLiteral("[]\\~"), lower = QStringLiteral("{}|^");
+    QString result = login;
+    bool isNick = true;
+    for (QChar &character : result) {
+        isNick = isNick && character != QLatin1Char('@');
+        const int index = isNick ? int(upper.indexOf(character)) : -1;
+        if (index >= 0)
+            character = lower.at(index);
+        else if (character >= QLatin1Char('A') && character <= QLatin1Char('Z'))
+            character = character.toLower();
+    }
+    return result;
 }

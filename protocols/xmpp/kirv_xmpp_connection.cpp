@@ -21,7 +21,7 @@ KirvXmppConnection::KirvXmppConnection(KirvClock &clock, QObject *parent, KirvXm
 
 KirvXmppConnection::~KirvXmppConnection()
 {
-    abortConnection();
+    KirvXmppConnection::abortConnection(); // no other one: derived classes are gone
 }
 
 void KirvXmppConnection::startLogin(const KirvPresence &presence)
@@ -43,6 +43,7 @@ void KirvXmppConnection::startLogin(const KirvPresence &presence)
         loginFailed(KirvFailure(KirvFailure::BadSettings, problem));
         return;
     }
+    configuration.setResource(settings.resourceWith(randomPart));
     configuration.setUser(user);
     configuration.setPassword(login().password);
     photoState = QXmppPresence::VCardUpdateNotReady;
@@ -55,20 +56,15 @@ void KirvXmppConnection::connectLink()
     abortConnection();
     link.reset(createLink(KirvXmppLink::LogIn, clock(), timing().requestTimeout));
     directory.reset(new KirvXmppDirectory(*link));
+    picture.reset(new KirvXmppAvatar(*link, *directory));
     connect(link.data(), &KirvXmppLink::loggedIn, this, &KirvXmppConnection::finishLogin);
     connect(link.data(), &KirvXmppLink::ended, this, &KirvXmppConnection::receiveEnd);
 }
 
 void KirvXmppConnection::finishLogin()
 {
-    if (avatarPath().isEmpty()) {
-        directory->read([this](const KirvFailure &failure, const KirvXmppVCard &card) {
-            if (!failure.isFailure())
-                advertise(card.photo());
-        });
-    } else {
-        publishAvatar();
-    }
+    const KirvAvatar own = avatar();
+    picture->synchronize(own, [=](const KirvXmppAvatar::Result &result) { finishAvatar(own, result); });
     loginSucceeded();
 }
 
@@ -93,6 +89,7 @@ void KirvXmppConnection::abortConnection()
         return;
     link->disconnect(this);
     link->abort();
+    picture.reset();
     directory.reset();
     link.reset();
 }
@@ -161,24 +158,23 @@ void KirvXmppConnection::publishAvatar()
 {
     if (!link || !link->isReady())
         return;
-    const QString path = avatarPath();
-    const KirvXmppPhoto photo = path.isEmpty() ? KirvXmppPhoto() : KirvXmppPhoto::fromFile(path);
-    if (photo.isNull() && !path.isEmpty()) {
-        requestFailed(KirvFailure(KirvFailure::RequestFailed, tr("The picture of the account cannot be read.")));
+    const KirvAvatar own = avatar();
+    picture->publish(own, [=](const KirvXmppAvatar::Result &result) { finishAvatar(own, result); });
+}
+
+/// Reported last: a slot may destroy the connection.
+void KirvXmppConnection::finishAvatar(const KirvAvatar &own, const KirvXmppAvatar::Result &result)
+{
+    if (result.failure.isFailure()) {
+        if (own.isChosen) // otherwise nothing was wanted
+            requestFailed(result.failure);
         return;
     }
-    const auto change = [photo](KirvXmppVCard &card) {
-        const bool differs = card.photo().data != photo.data;
-        if (differs)
-            card.setPhoto(photo);
-        return differs;
-    };
-    directory->change(change, [this](const KirvFailure &failure, const KirvXmppVCard &card) {
-        if (failure.isFailure())
-            requestFailed(failure);
-        else
-            advertise(card.photo());
-    });
+    advertise(result.photo);
+    if (result.kind == KirvXmppAvatar::Result::Published)
+        Q_EMIT avatarPublished(own.path, result.onServer);
+    else if (result.kind == KirvXmppAvatar::Result::Received)
+        Q_EMIT avatarReceived(result.image, result.onServer);
 }
 
 /// Announces in the presence which picture is the present one.

@@ -3,7 +3,8 @@
 #define KIRV_XMPP_CONNECTION_H
 
 #include "core/protocol/kirv_connection.h"
-#include "protocols/xmpp/kirv_xmpp_server_link.h"
+#include "protocols/xmpp/kirv_xmpp_avatar.h"
+#include "protocols/xmpp/kirv_xmpp_route.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
@@ -15,16 +16,19 @@ class QDomDocument;
 
 /// The connection of an XMPP account to its server.
 ///
-/// A picture that was chosen for the account is published in the directory entry as soon as it is chosen, or at
-/// the next log-in when the account is off line then; taken away on line, it is removed there too. A picture that
-/// another client has published stays as long as none is chosen here. Deleting the entry keeps the picture.
+/// A picture that was chosen or removed here is published in the directory entry as soon as that is done, or at the
+/// next log-in when the account is off line then. Otherwise the picture that another client has published since is
+/// used here. Deleting the entry keeps the picture.
+///
+/// The random part of the resource is chosen once for the connection: a new session takes the place of one that the
+/// server still holds for a link that broke.
 class KirvXmppConnection : public KirvConnection {
     Q_OBJECT
 
 public:
     /// \a clock is not owned and outlives the connection.
     explicit KirvXmppConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
-                                KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
+                                KirvXmppLinkFactory createLink = KirvXmppRoute::create);
     ~KirvXmppConnection() override;
 
     /// Called once with how a request ended, unless the connection is dropped or destroyed before.
@@ -50,6 +54,7 @@ private:
     void receiveEnd(const KirvFailure &failure);
 
     void changeDirectory(int request, const std::function<bool(KirvXmppVCard &)> &change);
+    void finishAvatar(const KirvAvatar &own, const KirvXmppAvatar::Result &result);
     void advertise(const KirvXmppPhoto &photo);
     void sendToServer(const QDomDocument &request, const Receiver &receiver);
     QXmppPresence toXmpp(const KirvPresence &presence) const;
@@ -58,6 +63,8 @@ private:
     /// Deleted later, as it may be in the middle of a signal.
     QScopedPointer<KirvXmppLink, QScopedPointerDeleteLater> link;
     QScopedPointer<KirvXmppDirectory> directory; ///< of the link
+    QScopedPointer<KirvXmppAvatar> picture; ///< of the link
+    const QString randomPart = KirvXmppSettings::randomPart(); ///< of the resource
     KirvXmppSettings settings;
     QByteArray photoHash;
     QXmppPresence::VCardUpdateType photoState = QXmppPresence::VCardUpdateNotReady;

@@ -55,6 +55,11 @@ public:
                              const QString &to) = 0;
 
 Q_SIGNALS:
+    /// The server has begun to speak: it has said what it offers. May be emitted several times.
+    void greeted();
+    /// The server refers to another one, in the place of ended(); \a port is 0 when it names none. \a wasEncrypted: it
+    /// said so over an encrypted stream.
+    void redirected(const QString &host, int port, bool wasEncrypted);
     void loggedIn();
     /// The stream is as safe as it was to be. \a isOffered: the server says that it offers registration; some
     /// offer it without saying so.

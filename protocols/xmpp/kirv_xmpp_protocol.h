@@ -18,6 +18,7 @@ public:
     QList<KirvField> getConfigurationFields(const QString &name) override;
     QString getLoginPattern() override;
 
+    QString normalizedLogin(const QString &login) const override;
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QList<KirvField> directoryFields() const override;

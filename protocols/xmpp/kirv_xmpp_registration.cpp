@@ -29,7 +29,8 @@ void KirvXmppRegistration::submit(const QList<KirvField> &filled)
 {
     this->filled = filled;
     isSubmitting = true;
-    if (link && link->isReady())
+    // What the server refused stays refused, also when no new form came.
+    if (link && link->isReady() && !refusal.isFailure())
         send();
     else
         open();
@@ -49,6 +50,7 @@ void KirvXmppRegistration::cancel()
 void KirvXmppRegistration::open()
 {
     cancel();
+    refusal = KirvFailure();
     QXmppConfiguration configuration;
     QString problem;
     isBusy = true;
@@ -78,6 +80,10 @@ void KirvXmppRegistration::requestForm()
 
 void KirvXmppRegistration::receiveForm(const KirvXmppReply &reply)
 {
+    if (reply.isError() && refusal.isFailure()) {
+        fail(refusal);
+        return;
+    }
     if (reply.isError()) {
         fail(isOffered ? reply.failure : KirvFailure(KirvFailure::NotSupported, tr("registration of accounts")));
         return;
@@ -85,13 +91,15 @@ void KirvXmppRegistration::receiveForm(const KirvXmppReply &reply)
     const QList<KirvField> before = form.fields();
     form = KirvXmppRegistrationForm(reply.iq);
     const bool isSameForm = form.fields() == before && form.pictures().isEmpty();
-    if (isSubmitting && isSameForm) {
+    if (isSubmitting && isSameForm && !refusal.isFailure()) {
         send();
         return;
     }
     isBusy = false;
     ++attempt;
-    Q_EMIT formReceived(form);
+    const KirvFailure reason = refusal;
+    refusal = KirvFailure();
+    Q_EMIT formReceived(form, reason);
 }
 
 void KirvXmppRegistration::send()
@@ -100,15 +108,26 @@ void KirvXmppRegistration::send()
     const auto receive = [this](const KirvXmppReply &reply) {
         if (reply.condition == QLatin1String("conflict")) {
             const QString name = KirvXmppRegistrationForm::userName(filled);
-            fail(KirvFailure(KirvFailure::NameInUse, name));
+            refuse(KirvFailure(KirvFailure::NameInUse, name));
         } else if (reply.isError()) {
-            fail(reply.failure);
+            refuse(reply.failure);
         } else {
             cancel();
             Q_EMIT succeeded();
         }
     };
     link->sendRequest(QXmppIq::Set, form.toQuery(filled), receive, domain);
+}
+
+/// The server knows the answer to a picture only once: the right one for the same form would be refused, too.
+void KirvXmppRegistration::refuse(const KirvFailure &failure)
+{
+    if (!form.isSingleUse() || !link || !link->isReady()) {
+        fail(failure);
+        return;
+    }
+    refusal = failure;
+    requestForm();
 }
 
 void KirvXmppRegistration::receiveEnd(const KirvFailure &failure)
@@ -118,6 +137,8 @@ void KirvXmppRegistration::receiveEnd(const KirvFailure &failure)
         cancel();
     else if (!isOffered && !isSubmitting)
         fail(KirvFailure(KirvFailure::NotSupported, tr("registration of accounts")));
+    else if (refusal.isFailure())
+        fail(refusal);
     else
         fail(failure.isFailure() ? failure : KirvFailure::ConnectionLost);
 }

@@ -3,7 +3,7 @@
 #define KIRV_XMPP_REGISTRATION_H
 
 #include "protocols/xmpp/kirv_xmpp_registration_form.h"
-#include "protocols/xmpp/kirv_xmpp_server_link.h"
+#include "protocols/xmpp/kirv_xmpp_route.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
 #include <QObject>
@@ -12,14 +12,15 @@
 /// Requests the registration form of a server and sends it back filled in.
 ///
 /// Every request ends in exactly one signal, within the time-out. A stream that has ended while the form was filled in
-/// is opened again to send it. A slot may destroy the object.
+/// is opened again to send it. A form that can be sent only once is requested anew when the server refused it. A slot
+/// may destroy the object.
 class KirvXmppRegistration : public QObject {
     Q_OBJECT
 
 public:
     /// \a clock is not owned and outlives the registration.
     explicit KirvXmppRegistration(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
-                                  KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
+                                  KirvXmppLinkFactory createLink = KirvXmppRoute::create);
     ~KirvXmppRegistration() override;
 
     /// How long the server may take, in milliseconds.
@@ -29,13 +30,14 @@ public:
     /// Requests the form of the server of \a domain; the reply is formReceived() or failed().
     void fetchForm(const QString &domain, const KirvXmppSettings &settings);
     /// Sends the form; the reply is succeeded() or failed(), or formReceived() when the server has another form by
-    /// now.
+    /// now, or refused this one and has sent a new one.
     void submit(const QList<KirvField> &filled);
     /// Ends what is under way; nothing is emitted.
     void cancel();
 
 Q_SIGNALS:
-    void formReceived(const KirvXmppRegistrationForm &form);
+    /// \a refusal: why the form before was refused; None when it was not.
+    void formReceived(const KirvXmppRegistrationForm &form, const KirvFailure &refusal);
     void succeeded();
     /// The server refused, or could not be reached.
     void failed(const KirvFailure &failure);
@@ -45,6 +47,7 @@ private:
     void requestForm();
     void receiveForm(const KirvXmppReply &reply);
     void send();
+    void refuse(const KirvFailure &failure);
     void receiveEnd(const KirvFailure &failure);
     void fail(const KirvFailure &failure);
 
@@ -55,6 +58,7 @@ private:
     KirvXmppSettings settings;
     KirvXmppRegistrationForm form;
     QList<KirvField> filled;
+    KirvFailure refusal; ///< of the form that a new one was requested for
     bool isSubmitting = false;
     bool isBusy = false;
     bool isOffered = true;

@@ -76,6 +76,11 @@ bool isTrue(const QString &value)
     return value == QLatin1String("1") || value == QLatin1String("true");
 }
 
+bool hasSameValue(const KirvField &left, const KirvField &right)
+{
+    return left.getText() == right.getText() && left.isChecked() == right.isChecked();
+}
+
 bool isBlank(const KirvField &field)
 {
     return field.getText().isEmpty() && field.getKind() != KirvField::CheckBox;
@@ -104,7 +109,7 @@ void KirvXmppRegistrationForm::readFixedFields(const QDomElement &query)
         if (child.namespaceURI() != registrationSpace || name == QLatin1String("instructions")
             || name == QLatin1String("registered"))
             continue;
-        Entry entry { name, QString(), {}, {} };
+        Entry entry { name, QString(), {}, {}, false };
         if (name == QLatin1String("key")) {
             entry.type = hiddenType;
             entry.values << child.text();
@@ -125,7 +130,7 @@ void KirvXmppRegistrationForm::readDataForm(const QDomElement &form, const QDomE
         formInstructions = instructions;
     for (const QDomElement &field : children(form, formSpace, QStringLiteral("field"))) {
         entries << readEntry(field);
-        readPicture(field, iq);
+        entries.last().hasPicture = readPicture(field, iq);
     }
 }
 
@@ -134,7 +139,7 @@ KirvXmppRegistrationForm::Entry KirvXmppRegistrationForm::readEntry(const QDomEl
     const QStringList suggested = texts(field, QStringLiteral("value"));
     const QString first = suggested.value(0);
     const QString toolTip = text(field, QStringLiteral("desc"));
-    Entry entry { field.attribute(QStringLiteral("var")), field.attribute(QStringLiteral("type")), {}, {} };
+    Entry entry { field.attribute(QStringLiteral("var")), field.attribute(QStringLiteral("type")), {}, {}, false };
     const QString &id = entry.name;
     const QString label = field.attribute(QStringLiteral("label"), labelOf(id));
 
@@ -176,11 +181,12 @@ KirvXmppRegistrationForm::Entry KirvXmppRegistrationForm::readEntry(const QDomEl
     return entry;
 }
 
-void KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomElement &iq)
+/// Whether the field has a picture.
+bool KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomElement &iq)
 {
     const QDomElement media = kirvXmppChild(field, mediaSpace, QStringLiteral("media"));
     if (media.isNull())
-        return;
+        return false;
     KirvServerRequest::Picture picture;
     picture.label = field.attribute(QStringLiteral("label"), field.attribute(QStringLiteral("var")));
     const QDomElement query = kirvXmppChild(iq, registrationSpace, QStringLiteral("query"));
@@ -196,6 +202,7 @@ void KirvXmppRegistrationForm::readPicture(const QDomElement &field, const QDomE
             break;
     }
     formPictures << picture;
+    return true;
 }
 
 QList<KirvField> KirvXmppRegistrationForm::fields() const
@@ -206,17 +213,32 @@ QList<KirvField> KirvXmppRegistrationForm::fields() const
     return all;
 }
 
-QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &typed) const
+QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &filled,
+                                                      const QList<KirvField> &before) const
 {
-    QList<KirvField> all = fields();
-    for (KirvField &field : all) {
-        const KirvField *known = kirvXmppFind(typed, field.getId());
-        if (!known || field.getKind() == KirvField::Label || known->getKind() != field.getKind())
-            continue;
-        field.setText(known->getText());
-        field.setChecked(known->isChecked());
+    QList<KirvField> all;
+    for (const Entry &entry : entries) {
+        for (KirvField field : entry.fields) {
+            const KirvField *typed = kirvXmppFind(filled, field.getId());
+            const KirvField *suggested = kirvXmppFind(before, field.getId());
+            const bool isOfSameKind = typed && typed->getKind() == field.getKind();
+            const bool isTyped =
+                isOfSameKind && field.getKind() != KirvField::Label && !(suggested && hasSameValue(*typed, *suggested));
+            if (isTyped && !entry.hasPicture) {
+                field.setText(typed->getText());
+                field.setChecked(typed->isChecked());
+            }
+            all << field;
+        }
     }
     return all;
+}
+
+bool KirvXmppRegistrationForm::isSingleUse() const
+{
+    return !formPictures.isEmpty() || std::any_of(entries.begin(), entries.end(), [](const Entry &entry) {
+        return entry.type == hiddenType && entry.name != QLatin1String("FORM_TYPE");
+    });
 }
 
 bool KirvXmppRegistrationForm::hasPassword() const
@@ -240,9 +262,9 @@ QString KirvXmppRegistrationForm::problem(const QList<KirvField> &filled) const
     for (const KirvField &field : filled) {
         const QString name = field.getLabel().isEmpty() ? field.getId() : field.getLabel();
         if (field.isRequired() && isBlank(field))
-            return tr("“%1” must be filled in.").arg(name);
+            return tr("\"%1\" must be filled in.").arg(name);
         if (!kirvXmppIsSendable(field.getText()))
-            return tr("“%1” holds characters that cannot be sent.").arg(name);
+            return tr("\"%1\" holds characters that cannot be sent.").arg(name);
     }
     return QString();
 }

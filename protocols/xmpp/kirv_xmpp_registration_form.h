@@ -30,9 +30,13 @@ public:
     QList<KirvServerRequest::Picture> pictures() const { return formPictures; }
     /// The fields to fill in, with what the server suggests.
     QList<KirvField> fields() const;
-    /// \a fields() with the values that \a typed has for the same ids.
-    QList<KirvField> fieldsWith(const QList<KirvField> &typed) const;
+    /// \a fields() with the values that \a filled has for the same ids, as far as they were typed: what \a before, the
+    /// fields of the form that was filled in, suggested is not taken over, and neither is an answer to a picture.
+    QList<KirvField> fieldsWith(const QList<KirvField> &filled, const QList<KirvField> &before) const;
 
+    /// Whether the form can be sent only once: a server that refused it does not know its picture or its hidden fields
+    /// any more.
+    bool isSingleUse() const;
     /// Whether the form has a field for the password of the new account.
     bool hasPassword() const;
     /// The user name and the password among \a filled; empty when the form has no such field.
@@ -50,12 +54,13 @@ private:
         QString type;
         QList<KirvField> fields;
         QStringList values; ///< of a hidden one: what is sent back; of several options: theirs
+        bool hasPicture = false; ///< what is typed answers it
     };
 
     void readFixedFields(const QDomElement &query);
     void readDataForm(const QDomElement &form, const QDomElement &iq);
     Entry readEntry(const QDomElement &field) const;
-    void readPicture(const QDomElement &field, const QDomElement &iq);
+    bool readPicture(const QDomElement &field, const QDomElement &iq);
     static QStringList valuesOf(const Entry &entry, const QList<KirvField> &filled);
 
     bool isDataForm = false;

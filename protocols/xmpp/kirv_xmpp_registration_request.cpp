@@ -98,11 +98,11 @@ void KirvXmppRegistrationRequest::requestForm()
         registration.fetchForm(domain, KirvXmppSettings(serverFields));
 }
 
-void KirvXmppRegistrationRequest::showForm(const KirvXmppRegistrationForm &received)
+void KirvXmppRegistrationRequest::showForm(const KirvXmppRegistrationForm &received, const KirvFailure &refusal)
 {
     const bool isAnother = isAtForm;
+    formFields = received.fieldsWith(formFields, form.fields());
     form = received;
-    formFields = form.fieldsWith(formFields);
     isAtForm = true;
 
     Step step;
@@ -116,8 +116,14 @@ void KirvXmppRegistrationRequest::showForm(const KirvXmppRegistrationForm &recei
     else
         step.command = tr("Register");
     if (isAnother && !step.fields.isEmpty())
-        step.notice = tr("The server sent another form. Check it and register again.");
+        step.notice = noticeOf(refusal);
     Q_EMIT stepReady(step);
+}
+
+QString KirvXmppRegistrationRequest::noticeOf(const KirvFailure &refusal)
+{
+    const QString notice = tr("The server sent another form. Check it and register again.");
+    return refusal.isFailure() ? refusal.text() + QLatin1Char('\n') + notice : notice;
 }
 
 QString KirvXmppRegistrationRequest::textOf(const KirvXmppRegistrationForm &form) const

@@ -4,6 +4,7 @@
 
 #include "core/protocol/kirv_server_request.h"
 #include "protocols/xmpp/kirv_xmpp_registration.h"
+#include "protocols/xmpp/kirv_xmpp_route.h"
 
 /// Registers a new account: the first step is about the server, the second is the form of this server. Values that
 /// were typed stay when a step comes again and when the server sends another form.
@@ -15,7 +16,7 @@ class KirvXmppRegistrationRequest : public KirvServerRequest {
 public:
     /// \a clock is not owned and outlives the request.
     explicit KirvXmppRegistrationRequest(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
-                                         KirvXmppLinkFactory createLink = KirvXmppServerLink::create);
+                                         KirvXmppLinkFactory createLink = KirvXmppRoute::create);
 
     int timeout() const { return registration.timeout(); }
     void setTimeout(int milliseconds) { registration.setTimeout(milliseconds); }
@@ -30,7 +31,8 @@ public:
 private:
     void showServerStep();
     void requestForm();
-    void showForm(const KirvXmppRegistrationForm &received);
+    void showForm(const KirvXmppRegistrationForm &received, const KirvFailure &refusal);
+    static QString noticeOf(const KirvFailure &refusal);
     QString textOf(const KirvXmppRegistrationForm &form) const;
     void sendForm();
     void finish();

@@ -3,10 +3,13 @@
 
 #include "protocols/xmpp/kirv_xmpp_features.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
+#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QByteArrayList>
 #include <QPointer>
+#include <QSslSocket>
+#include <QUrl>
 #include <QXmppClientExtension.h>
 #include <QXmppDiscoveryManager.h>
 #include <QXmppElement.h>
@@ -15,6 +18,7 @@
 #include <QXmppRosterManager.h>
 #include <QXmppVCardManager.h>
 #include <QXmppVersionManager.h>
+#include <algorithm>
 
 namespace {
 
@@ -60,6 +64,16 @@ QString sentenceFor(const ErrorDescription &description)
     if (condition == QLatin1String("resource-constraint") || condition == QLatin1String("policy-violation"))
         return KirvXmppServerLink::tr("the server does not allow it now");
     return condition;
+}
+
+/// Some servers use the condition also for what an administrator does to a session, and give the reason as the text.
+bool isConflict(const QString &text)
+{
+    const QStringList words { QStringLiteral("replaced"), QStringLiteral("new connection"), QStringLiteral("resource"),
+                              QStringLiteral("conflict") };
+    return text.isEmpty() || std::any_of(words.begin(), words.end(), [&text](const QString &word) {
+               return text.contains(word, Qt::CaseInsensitive);
+           });
 }
 
 KirvFailure failureOf(const ErrorDescription &description)
@@ -173,7 +187,25 @@ void KirvXmppServerLink::receiveDropped(const KirvXmppStanzaStart &start)
 void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
 {
     requests.setAccount(configuration.jid());
-    client.connectToServer(configuration, presence);
+    isEncrypted = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
+    if (isEncrypted)
+        startWithEncryption();
+    if (configuration.caCertificates().isEmpty()) // the library looks up those of the system that it needs
+        return client.connectToServer(configuration, presence);
+    KirvXmppSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
+        if (hasEnded || isClosing)
+            return;
+        QXmppConfiguration complete = configuration;
+        complete.setCaCertificates(ofSystem + configuration.caCertificates());
+        client.connectToServer(complete, presence);
+    });
+}
+
+/// The library would open the stream twice, also as soon as the socket is connected, and servers refuse that.
+void KirvXmppServerLink::startWithEncryption()
+{
+    if (auto *stream = client.findChild<QXmppOutgoingClient *>())
+        QObject::disconnect(stream->socket(), &QAbstractSocket::connected, stream, nullptr);
 }
 
 void KirvXmppServerLink::close()
@@ -232,8 +264,8 @@ bool KirvXmppServerLink::receive(const QDomElement &stanza)
     if (space == streamSpace && name == QLatin1String("features"))
         return receiveFeatures(stanza);
     if (space == streamSpace && name == QLatin1String("error"))
-        receiveStreamError(stanza);
-    else if (space == encryptionSpace && name == QLatin1String("proceed"))
+        return receiveStreamError(stanza);
+    if (space == encryptionSpace && name == QLatin1String("proceed"))
         isEncrypted = true;
     else if (space == authenticationSpace && name == QLatin1String("failure"))
         receiveRefusal(stanza);
@@ -248,6 +280,7 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
     const auto security = client.configuration().streamSecurityMode();
     const QDomElement encryption = kirvXmppChild(features, encryptionSpace, QStringLiteral("starttls"));
     const bool mayEncrypt = !encryption.isNull() && security != QXmppConfiguration::TLSDisabled;
+    Q_EMIT greeted();
     hasMechanisms = !kirvXmppChild(features, authenticationSpace, QStringLiteral("mechanisms")).isNull();
     QDomElement used = features; // the same elements, which the library reads afterwards
     const bool sendsPasswords = reader->isEncrypted() || security == QXmppConfiguration::TLSDisabled;
@@ -272,19 +305,39 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
     return true;
 }
 
-void KirvXmppServerLink::receiveStreamError(const QDomElement &error)
+/// True when the library is not to see it: it would go to another server by itself, after having said that the stream
+/// is over.
+bool KirvXmppServerLink::receiveStreamError(const QDomElement &error)
 {
     const ErrorDescription description = describe(error, streamErrorSpace);
-    if (description.condition == QLatin1String("see-other-host"))
-        return; // the library goes there
-    if (description.condition == QLatin1String("conflict"))
-        fail(KirvFailure::LoggedInElsewhere);
-    else if (description.condition == QLatin1String("host-unknown"))
+    const QString &condition = description.condition;
+    Q_EMIT greeted();
+    if (condition == QLatin1String("see-other-host"))
+        return receiveReference(kirvXmppChild(error, streamErrorSpace, condition).text());
+    if (condition == QLatin1String("conflict") && isConflict(description.text))
+        fail(KirvFailure(KirvFailure::LoggedInElsewhere, description.text));
+    else if (condition == QLatin1String("host-unknown"))
         fail(KirvFailure(KirvFailure::BadSettings, tr("the server does not serve the domain of the login")));
-    else if (description.condition == QLatin1String("policy-violation"))
+    else if (condition == QLatin1String("policy-violation") || condition == QLatin1String("not-authorized")
+             || condition == QLatin1String("conflict"))
         fail(KirvFailure(KirvFailure::AccessDenied, description.text));
     else
         fail(KirvFailure(KirvFailure::ServerShutDown, description.text));
+    return false;
+}
+
+bool KirvXmppServerLink::receiveReference(const QString &address)
+{
+    // An address of the new kind is in brackets, as it holds colons.
+    const QUrl url(QStringLiteral("xmpp://") + address.trimmed(), QUrl::StrictMode);
+    if (url.host().isEmpty() || !url.userInfo().isEmpty() || !url.path().isEmpty()) {
+        fail(KirvFailure(KirvFailure::ServerShutDown, tr("it refers to a server without a name")));
+        return true;
+    }
+    referredHost = url.host();
+    referredPort = url.port(0);
+    fail(KirvFailure::ServerShutDown);
+    return true;
 }
 
 void KirvXmppServerLink::receiveRefusal(const QDomElement &failure)
@@ -393,7 +446,10 @@ void KirvXmppServerLink::end()
         if (!alive)
             return;
     }
-    Q_EMIT ended(isClosing ? KirvFailure() : reason);
+    if (!isClosing && !referredHost.isEmpty())
+        Q_EMIT redirected(referredHost, referredPort, isEncrypted);
+    else
+        Q_EMIT ended(isClosing ? KirvFailure() : reason);
 }
 
 KirvFailure KirvXmppServerLink::socketFailure()

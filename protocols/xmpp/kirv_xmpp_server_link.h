@@ -39,9 +39,11 @@ private:
     bool isUsed(const KirvXmppStanzaStart &start) const;
     void receiveViolation(KirvXmppStreamGuard::Violation violation);
     void receiveDropped(const KirvXmppStanzaStart &start);
+    void startWithEncryption();
     bool receive(const QDomElement &stanza);
     bool receiveFeatures(const QDomElement &features);
-    void receiveStreamError(const QDomElement &error);
+    bool receiveStreamError(const QDomElement &error);
+    bool receiveReference(const QString &address);
     void receiveRefusal(const QDomElement &failure);
     bool receiveReply(const QDomElement &iq);
     void receiveConnected();
@@ -63,6 +65,8 @@ private:
     KirvXmppStreamReader *reader = nullptr; ///< owned by this
     KirvXmppPendingRequests requests;
     KirvFailure reason; ///< the first one that was reported
+    QString referredHost; ///< the server that this one refers to; empty: none
+    int referredPort = 0;
     bool isEncrypted = false;
     bool isClosing = false;
     bool hasArrived = false; ///< loggedIn() or readyToRegister() was emitted

@@ -2,8 +2,8 @@
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
 #include <QFile>
+#include <QRandomGenerator>
 #include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QXmppConfiguration.h>
 
 namespace {
@@ -16,7 +16,8 @@ const auto encryptionId = QStringLiteral("encryption");
 const auto certificateId = QStringLiteral("certificate");
 
 /// The stored values, in the order of KirvXmppSettings::Encryption.
-const QStringList encryptionValues { QStringLiteral("required"), QStringLiteral("offered"), QStringLiteral("none") };
+const QStringList encryptionValues { QStringLiteral("required"), QStringLiteral("offered"), QStringLiteral("none"),
+                                     QStringLiteral("direct") };
 
 QXmppConfiguration::StreamSecurityMode securityMode(KirvXmppSettings::Encryption encryption)
 {
@@ -25,6 +26,8 @@ QXmppConfiguration::StreamSecurityMode securityMode(KirvXmppSettings::Encryption
         return QXmppConfiguration::TLSEnabled;
     case KirvXmppSettings::None:
         return QXmppConfiguration::TLSDisabled;
+    case KirvXmppSettings::Direct:
+        return QXmppConfiguration::LegacySSL;
     case KirvXmppSettings::Required:
         break;
     }
@@ -73,7 +76,7 @@ KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
         else if (id == resourceId)
             resource = text.trimmed();
         else if (id == priorityId)
-            priority = toNumber(text, -128, 127, 0);
+            priority = toNumber(text, -128, 127, KirvXmppSettings().priority);
         else if (id == encryptionId) // what is not known is the safest
             encryption = Encryption(qMax(0, int(encryptionValues.indexOf(text))));
         else if (id == certificateId)
@@ -85,12 +88,30 @@ QList<KirvField> KirvXmppSettings::toFields() const
 {
     QList<KirvField> fields = toServerFields();
     fields.insert(2,
-                  KirvField::textEdit(tr("Resource"), resourceId, resource,
-                                      tr("Tells this client from your other ones. Empty: the server chooses.")));
-    fields.insert(3,
-                  KirvField::number(tr("Priority"), priorityId, priority, -128, 127,
-                                    tr("Messages go to the client with the highest priority.")));
+                  KirvField::textEdit(
+                      tr("Resource"), resourceId, resource,
+                      tr("Tells this client from your other ones. Characters by chance take the place of a *. Empty: "
+                         "the server chooses.")));
+    fields.insert(
+        3,
+        KirvField::number(tr("Priority"), priorityId, priority, -128, 127,
+                          tr("Messages go to the client with the highest priority, and to none with a negative one. "
+                             "This client does not show messages.")));
     return fields;
+}
+
+QString KirvXmppSettings::randomPart()
+{
+    const QString characters = QStringLiteral("abcdefghijklmnopqrstuvwxyz0123456789");
+    QString part;
+    while (part.size() < 8)
+        part += characters.at(int(QRandomGenerator::system()->bounded(quint32(characters.size()))));
+    return part;
+}
+
+QString KirvXmppSettings::resourceWith(const QString &random) const
+{
+    return QString(resource).replace(QLatin1Char('*'), random);
 }
 
 QList<KirvField> KirvXmppSettings::toServerFields() const
@@ -98,10 +119,12 @@ QList<KirvField> KirvXmppSettings::toServerFields() const
     return {
         KirvField::textEdit(tr("Server"), serverId, server,
                             tr("Only needed when it cannot be found by the domain of the login.")),
-        KirvField::number(tr("Port"), portId, port, 1, 65535, tr("Ordinarily %1.").arg(defaultPort)),
-        KirvField::choice(tr("Encryption"), encryptionId, encryptionValues.at(encryption), encryptionValues,
-                          { tr("Required"), tr("If the server offers it"), tr("None") },
-                          tr("Without encryption others in the network can read along, your password included.")),
+        KirvField::number(tr("Port"), portId, port, 1, 65535,
+                          tr("Ordinarily %1, and %2 with direct TLS.").arg(defaultPort).arg(directPort)),
+        KirvField::choice(
+            tr("Encryption"), encryptionId, encryptionValues.at(encryption), encryptionValues,
+            { tr("Required"), tr("If the server offers it"), tr("None"), tr("Required at once (direct TLS)") },
+            tr("Without encryption others in the network can read along, your password included.")),
         KirvField::textEdit(tr("Trusted certificate"), certificateId, certificatePath,
                             tr("A file with a certificate (PEM) that is trusted besides those of the system.")),
     };
@@ -144,17 +167,15 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
         return false;
 
     configuration->setDomain(domain);
-    // Without a host the library looks it up in the network, and uses the port only where no other one is found.
+    // Without a host it is looked up in the network, and the port is used only where no other one is found.
     configuration->setHost(server.isEmpty() && port != defaultPort ? domain : server);
-    configuration->setPort(port);
-    configuration->setResource(resource);
+    configuration->setPort(encryption == Direct && port == defaultPort ? directPort : port);
     configuration->setStreamSecurityMode(securityMode(encryption));
     configuration->setAutoReconnectionEnabled(false);
     configuration->setAutoAcceptSubscriptions(false);
     configuration->setUseNonSASLAuthentication(false);
     configuration->setIgnoreSslErrors(false);
-    if (!certificates.isEmpty())
-        configuration->setCaCertificates(QSslConfiguration::systemCaCertificates() + certificates);
+    configuration->setCaCertificates(certificates);
     return true;
 }
 

@@ -21,9 +21,15 @@ class KirvXmppSettings {
     Q_DECLARE_TR_FUNCTIONS(KirvXmppSettings)
 
 public:
-    enum Encryption { Required, IfOffered, None };
+    enum Encryption {
+        Required, ///< STARTTLS, or direct TLS where the domain names such a server
+        IfOffered,
+        None,
+        Direct ///< TLS from the first byte
+    };
 
     static const int defaultPort = 5222;
+    static const int directPort = 5223; ///< takes the place of the default with direct TLS
 
     KirvXmppSettings() = default;
     /// Reads \a fields; what is missing keeps its default.
@@ -31,10 +37,16 @@ public:
 
     QString server;
     int port = defaultPort;
-    QString resource = QStringLiteral("Kirv");
-    int priority = 0;
+    QString resource = QStringLiteral("Kirv.*"); ///< see resourceWith()
+    int priority = -1; ///< a server gives messages to no session with a negative one, and keeps them
     Encryption encryption = Required;
     QString certificatePath; ///< of a PEM file; empty: none
+
+    /// Characters by chance for resourceWith(): letters and digits.
+    static QString randomPart();
+    /// The resource with \a random in the place of each "*". Two programs with the same settings have different ones
+    /// like that: a server ends the older one of two sessions with the same resource.
+    QString resourceWith(const QString &random) const;
 
     /// The settings as fields, in display order.
     QList<KirvField> toFields() const;
@@ -47,8 +59,8 @@ public:
     static QList<KirvField> configurationFields(const QString &name);
     static QString loginPattern();
 
-    /// Writes the settings for a server of \a domain into \a configuration. False with a sentence in \a problem
-    /// when they cannot be used.
+    /// Writes the settings for a server of \a domain into \a configuration, whose certificates are those that are
+    /// trusted besides the system's. False with a sentence in \a problem when they cannot be used.
     bool apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const;
 
 private:

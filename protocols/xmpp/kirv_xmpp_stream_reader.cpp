@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
 
+#include "protocols/xmpp/kirv_xmpp_turns.h"
+
 #include <QDomDocument>
 #include <QPointer>
 #include <QSslSocket>
@@ -35,9 +37,8 @@ KirvXmppStreamReader::KirvXmppStreamReader(QXmppOutgoingClient &stream, const Ki
     , stream(stream)
     , socket(stream.socket())
     , guard(isUsed)
+    , turns(KirvXmppTurns::instance())
 {
-    nextTurn.setSingleShot(true);
-    connect(&nextTurn, &QTimer::timeout, this, &KirvXmppStreamReader::takeTurn);
     disconnect(socket, SIGNAL(readyRead()), &stream, nullptr);
     socket->setReadBufferSize(2 * bytesPerTurn);
     const auto startOver = [this] {
@@ -46,10 +47,7 @@ KirvXmppStreamReader::KirvXmppStreamReader(QXmppOutgoingClient &stream, const Ki
     };
     connect(socket, &QAbstractSocket::connected, this, startOver);
     connect(socket, &QSslSocket::encrypted, this, startOver);
-    connect(socket, &QIODevice::readyRead, this, [this] {
-        if (!nextTurn.isActive())
-            takeTurn();
-    });
+    connect(socket, &QIODevice::readyRead, this, &KirvXmppStreamReader::goOn);
     connect(socket, &QIODevice::bytesWritten, this, &KirvXmppStreamReader::goOn);
     connect(socket, &QSslSocket::encryptedBytesWritten, this, &KirvXmppStreamReader::goOn);
     connect(socket, &QAbstractSocket::errorOccurred, this, &KirvXmppStreamReader::takeRest);
@@ -64,15 +62,14 @@ bool KirvXmppStreamReader::isEncrypted() const
 void KirvXmppStreamReader::stop()
 {
     isStopped = true;
-    nextTurn.stop();
+    turns.cancel(this);
     socket->disconnect(this);
 }
 
-/// A timer and no queued call: other events are handled between two turns.
 void KirvXmppStreamReader::goOn()
 {
-    if (!isStopped && !nextTurn.isActive() && (hasUnread || socket->bytesAvailable() > 0))
-        nextTurn.start(0);
+    if (!isStopped && (hasUnread || socket->bytesAvailable() > 0))
+        turns.request(this, [this] { takeTurn(); });
 }
 
 bool KirvXmppStreamReader::isBacklogged() const

@@ -5,17 +5,18 @@
 #include "protocols/xmpp/kirv_xmpp_stream_guard.h"
 
 #include <QObject>
-#include <QTimer>
 
 class QDomElement;
+class KirvXmppTurns;
 class QSslSocket;
 class QXmppOutgoingClient;
 
 /// Reads the socket of a stream in the library's place and hands on to it what the guard lets through.
 ///
 /// The library collects what comes without a bound, and makes a tree of all of it again for each piece that comes. It
-/// never sees the bytes now: a little is read in each turn of the event loop, and the library receives single stanzas
-/// as elements. While the server does not read what it has caused to be sent, nothing is read either.
+/// never sees the bytes now: a little is read in each turn of the event loop, of one stream at a time, and the library
+/// receives single stanzas as elements. While the server does not read what it has caused to be sent, nothing is read
+/// either.
 class KirvXmppStreamReader : public QObject {
     Q_OBJECT
 
@@ -52,7 +53,7 @@ private:
     QXmppOutgoingClient &stream;
     QSslSocket *const socket;
     KirvXmppStreamGuard guard;
-    QTimer nextTurn;
+    KirvXmppTurns &turns; ///< shared by all streams
     QByteArray header; ///< of the stream: stanzas are read with its namespaces
     QByteArray footer;
     bool hasUnread = false; ///< the guard has more to give

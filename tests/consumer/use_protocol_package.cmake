@@ -10,6 +10,9 @@ file(COPY "${EXAMPLE}" DESTINATION "${WORK}/source/protocols")
 # file(COPY) keeps a file of the same name and time, which a fresh checkout has.
 configure_file("${PROJECT}" "${WORK}/source/protocols/example/CMakeLists.txt" COPYONLY)
 build_with_packages("${WORK}/source/protocols/example" "${folder}")
+if(PREFIX)
+    return() # only root may install it there
+endif()
 run("${CMAKE_COMMAND}" --install "${WORK}/build")
 
 set(plug_in "${folder}/${PROTOCOLS}/kirv_protocol_example.so")

@@ -253,6 +253,77 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(old));
     }
 
+    void aChosenAvatarCountsUntilItIsOnTheServer()
+    {
+        QVERIFY(core->create("id"));
+        core->settle();
+        KirvFakeConnection *connection = core->connection();
+        QVERIFY(!connection->avatar().isChosen);
+        core->account("id")->setAvatar(core->makePicture());
+        core->restart(); // the server has not replied
+        core->settle();
+        connection = core->connection();
+        QVERIFY(connection->avatar().isChosen);
+        Q_EMIT connection->avatarPublished("/an/older/one.png", "first");
+        core->settle();
+        QVERIFY(connection->avatar().isChosen);
+        core->takeCalls();
+        Q_EMIT connection->avatarPublished(connection->avatar().path, "second");
+        core->settle();
+        QVERIFY(!connection->avatar().isChosen);
+        core->restart();
+        core->settle();
+        connection = core->connection();
+        QVERIFY(!connection->avatar().isChosen);
+        QCOMPARE(connection->avatar().onServer, QByteArray("second"));
+        QVERIFY(!core->takeCalls().contains("id avatar"));
+        // Removing it is a choice, too; removing none is not.
+        core->account("id")->setAvatar(QString());
+        core->settle();
+        QVERIFY(connection->avatar().isChosen);
+        Q_EMIT connection->avatarPublished(QString(), "third");
+        core->account("id")->setAvatar(QString());
+        core->settle();
+        QVERIFY(!connection->avatar().isChosen);
+        QCOMPARE(core->valuesOf(core->account("id")), QStringList({ "Read me", "localhost", "5222", "+", "" }));
+    }
+
+    void anAvatarOfAnotherClientTakesThePlace()
+    {
+        QVERIFY(core->create("id"));
+        core->account("id")->setAvatar(core->makePicture());
+        core->settle();
+        KirvFakeConnection *connection = core->connection();
+        const QByteArray image = contentOf(core->makePicture(QSize(16, 16)));
+        Q_EMIT connection->avatarReceived(image, "too early");
+        QCOMPARE(QImage(core->account("id")->getCurrentAvatarPath()).width(), 32); // the one that was chosen here
+
+        Q_EMIT connection->avatarPublished(connection->avatar().path, "first");
+        core->takeCalls();
+        QSignalSpy changed(core->account("id"), &KirvAccount::changed);
+        QSignalSpy problems(core->accounts.get(), &KirvAccountCollection::problemOccurred);
+        Q_EMIT connection->avatarReceived(image, "second");
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(core->takeCalls(), QStringList()); // it is not published again
+        const QString path = core->account("id")->getCurrentAvatarPath();
+        QCOMPARE(contentOf(path), image);
+        QCOMPARE(filesIn(core->store.avatarFolder()).size(), 1);
+
+        Q_EMIT connection->avatarReceived("no picture", "third");
+        QCOMPARE(core->account("id")->getCurrentAvatarPath(), path);
+        QCOMPARE(problems.size(), 0);
+        core->restart();
+        core->settle();
+        connection = core->connection();
+        QCOMPARE(connection->avatar().onServer, QByteArray("third"));
+        QCOMPARE(core->account("id")->getCurrentAvatarPath(), path);
+
+        Q_EMIT connection->avatarReceived(QByteArray(), "fourth");
+        QCOMPARE(core->account("id")->getCurrentAvatarPath(), QString());
+        QVERIFY(filesIn(core->store.avatarFolder()).isEmpty());
+        QVERIFY(!core->takeCalls().contains("id avatar"));
+    }
+
     void onlyTheLastAvatarOfASaveStays()
     {
         QVERIFY(core->create("id"));

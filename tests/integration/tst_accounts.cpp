@@ -117,6 +117,81 @@ private Q_SLOTS:
         core->accounts->protocolAboutToBeUnloaded("Other");
     }
 
+    void anotherSpellingOfALoginIsTheSameAccount()
+    {
+        core->protocol->normalize = [](const QString &login) { return login.toLower(); };
+        core->restart();
+        QVERIFY(core->create("Name"));
+        QSignalSpy problems(core->accounts.get(), &KirvAccountCollection::problemOccurred);
+        QVERIFY(!core->create("nAME"));
+        QCOMPARE(problems.size(), 0); // the page says so
+        QVERIFY2(core->accounts->lastError().contains("Name") && core->accounts->lastError().contains("nAME"),
+                 qPrintable(core->accounts->lastError()));
+        QCOMPARE(core->idsOf(core->fake), QStringList({ "Name" })); // as it was typed
+        QVERIFY(core->create("other"));
+
+        core->restart();
+        QVERIFY(!core->create("NAME"));
+        core->manager().removeAccount("Name", core->fake);
+        QVERIFY(core->create("NAME"));
+        QVERIFY(!core->create("Name"));
+    }
+
+    void storedSpellingsOfALoginStayAndAreNamed()
+    {
+        for (const char *id : { "Name", "single", "NAME", "two", "Two", "name" })
+            QVERIFY(core->create(id));
+        core->protocol->normalize = [](const QString &login) { return login.toLower(); };
+        std::unique_ptr<QSignalSpy> problems;
+        core->restart(true, [&] {
+            problems = std::make_unique<QSignalSpy>(core->accounts.get(), &KirvAccountCollection::problemOccurred);
+        });
+        QCOMPARE(core->accounts->accounts().size(), 6);
+        QCOMPARE(problems->size(), 1);
+        const QString said = problems->first().first().toString();
+        QVERIFY2(said.contains("Name") && said.contains("NAME") && said.contains("1") && !said.contains("single"),
+                 qPrintable(said));
+
+        // Those that are there can be used and removed, and the login is known until the last of them is gone.
+        core->manager().removeAccount("Name", core->fake);
+        QVERIFY(core->account("NAME") && core->account("name"));
+        QVERIFY(!core->create("nAMe"));
+        core->manager().removeAccount("name", core->fake);
+        core->manager().removeAccount("NAME", core->fake);
+        QVERIFY(core->create("nAMe"));
+    }
+
+    void aProtocolThatCannotNormalizeALoginComparesItAsItIs()
+    {
+        core->protocol->normalize = [](const QString &login) -> QString {
+            if (login == QLatin1String("odd"))
+                throw std::runtime_error("odd");
+            return QString();
+        };
+        core->restart();
+        QVERIFY(core->create("odd") && core->create("id"));
+        QVERIFY(!core->create("odd") && !core->create("id"));
+        QCOMPARE(core->accounts->accounts().size(), 2);
+    }
+
+    void eachLoginIsNormalizedOnceWhateverTheNumberOfAccounts()
+    {
+        int calls = 0;
+        core->protocol->normalize = [&calls](const QString &login) {
+            ++calls;
+            return login.toLower();
+        };
+        for (int i = 0; i < 50; ++i)
+            QVERIFY(core->create(QString::number(i)));
+        calls = 0;
+        core->restart();
+        QCOMPARE(calls, 50);
+        calls = 0;
+        QVERIFY(core->create("one more"));
+        QVERIFY2(calls <= 3, qPrintable(QString::number(calls)));
+        core->protocol->normalize = nullptr;
+    }
+
     void aProtocolThatGivesNoConnectionLeavesTheAccountUnloaded()
     {
         core->protocol->givesConnections = false;

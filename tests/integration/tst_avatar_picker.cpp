@@ -258,7 +258,7 @@ void tst_AvatarPicker::fileThatCannotServeIsRefused_data()
     QTest::newRow("head only") << "head.png"
                                << "damaged";
     QTest::newRow("large file") << "large.png"
-                                << "“large.png” is too large. Up to 10 MB";
+                                << "\"large.png\" is too large. Up to 10 MB";
     QTest::newRow("many pixels") << "pixels.png"
                                  << "10000 × 5000 pixels. Up to 25 million";
 }

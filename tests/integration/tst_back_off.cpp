@@ -15,6 +15,8 @@ private Q_SLOTS:
     void theLongestWaitCanBeDoubledWithoutHarm();
     void jitterStaysWithinItsFraction();
     void jitterDoesNotAddUp();
+    void chanceCanBeReplaced_data();
+    void chanceCanBeReplaced();
 };
 
 void tst_BackOff::theDefaultsAreWhatIsDocumented()
@@ -78,6 +80,25 @@ void tst_BackOff::jitterDoesNotAddUp()
     backOff.next(limits);
     limits.jitter = 0;
     QCOMPARE(backOff.next(limits), 4 * limits.first);
+}
+
+void tst_BackOff::chanceCanBeReplaced_data()
+{
+    QTest::addColumn<double>("chance");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("second");
+    QTest::newRow("shortest") << 0.0 << 1600 << 3200;
+    QTest::newRow("shorter") << 0.25 << 1800 << 3600;
+    QTest::newRow("middle") << 0.5 << 2000 << 4000;
+    QTest::newRow("longest") << 1.0 << 2400 << 4800;
+}
+
+void tst_BackOff::chanceCanBeReplaced()
+{
+    QFETCH(double, chance);
+    KirvBackOff backOff;
+    QTEST(backOff.next(KirvBackOff::Limits(), chance), "first");
+    QTEST(backOff.next(KirvBackOff::Limits(), chance), "second");
 }
 
 QTEST_APPLESS_MAIN(tst_BackOff)

@@ -460,16 +460,23 @@ void tst_Connection::itsProtocolSaysWhichPresenceIsOffline()
 
 void tst_Connection::avatarsArePublishedWhileOnline()
 {
-    connection->setAvatarPath(QStringLiteral("one.png"));
+    const auto chosen = [](const char *path) { return KirvAvatar { QString(path), QByteArray(), true }; };
+    connection->setAvatar(chosen("one.png"));
     connection->logIn(login, available);
-    connection->setAvatarPath(QStringLiteral("two.png"));
+    connection->setAvatar(chosen("two.png"));
     connection->loginSucceeded();
     QCOMPARE(connection->takeCalls(), QStringList { "ann log in available secret" });
-    connection->setAvatarPath(QStringLiteral("two.png"));
+    connection->setAvatar(chosen("two.png"));
     QCOMPARE(connection->takeCalls(), QStringList());
-    connection->setAvatarPath(QString());
+    connection->setAvatar(chosen(""));
     QCOMPARE(connection->takeCalls(), QStringList { "ann avatar" });
-    QCOMPARE(connection->avatarPath(), QString());
+    // What was not chosen here came from the server.
+    connection->setAvatar({ "three.png", "hash", false });
+    QCOMPARE(connection->takeCalls(), QStringList());
+    QCOMPARE(connection->avatar().path, QString("three.png"));
+    QCOMPARE(connection->avatar().onServer, QByteArray("hash"));
+    connection->setAvatar({ "three.png", "hash", true });
+    QCOMPARE(connection->takeCalls(), QStringList { "ann avatar" });
 }
 
 void tst_Connection::drops_data()

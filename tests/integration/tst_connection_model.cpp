@@ -21,6 +21,7 @@ private Q_SLOTS:
     void removedAccountIsTakenOut();
     void changeTouchesItsRowOnly();
     void stateFollowsTheConnection();
+    void waitForATurnIsNoWaitForATime();
     void unloadedProtocolKeepsItsRows();
     void mainAccountIsMarked();
     void textsAreOneLineOfPlainText();
@@ -167,6 +168,19 @@ void tst_connection_model::stateFollowsTheConnection()
     KirvAccountsFixture::manager().disableAccount(QStringLiteral("ann"), core->fake);
     KirvAccountsFixture::settle();
     QCOMPARE(state(), QStringLiteral("Disabled"));
+}
+
+void tst_connection_model::waitForATurnIsNoWaitForATime()
+{
+    KirvLoginQueue::Limits noPlaces;
+    noPlaces.attempts = noPlaces.urgentAttempts = 0;
+    core->accounts->logins().setLimits(noPlaces);
+    KirvConnection::Timing timing;
+    timing.backOff.first = 100;
+    core->connection("bob")->setTiming(timing);
+    core->connection("bob")->serverGoes();
+    QVERIFY(text("bob", KirvConnectionModel::StateColumn).startsWith("Waiting until"));
+    QTRY_COMPARE(text("bob", KirvConnectionModel::StateColumn), QString("Waiting to connect…"));
 }
 
 void tst_connection_model::unloadedProtocolKeepsItsRows()

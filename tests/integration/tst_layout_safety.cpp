@@ -191,10 +191,10 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
         "unknown class QWebEngineView");
     add("custom page method",
         builtIn("AddAccount").replace("<container>1", "<addpagemethod>f</addpagemethod><container>1"),
-        "element “addpagemethod”");
-    add("script", builtIn("AddAccount").replace("<connections/>", "<script>x</script>"), "element “script”");
+        "element \"addpagemethod\"");
+    add("script", builtIn("AddAccount").replace("<connections/>", "<script>x</script>"), "element \"script\"");
     add("address", label("<property name=\"source\"><url><string>file:///dev/zero</string></url></property>"),
-        "element “url”");
+        "element \"url\"");
     add("entities", "<!DOCTYPE ui [<!ENTITY a \"aaaa\">]>" + builtIn("AddAccount"), "document type");
 
     add("style sheet: device", text("styleSheet", "QLabel { image: url(/dev/zero); }"), "not in the folder");
@@ -206,9 +206,9 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
     add("style sheet: property", text("styleSheet", "QLineEdit { qproperty-echoMode: 0; }"), "qproperty-");
     add("style sheet: mask", text("styleSheet", "QLineEdit { lineedit-password-mask-delay: 99999 }"),
         "lineedit-password");
-    add("style sheet: file", text("styleSheet", "file:///dev/zero"), "contains “file:”");
+    add("style sheet: file", text("styleSheet", "file:///dev/zero"), "contains \"file:\"");
     add("rich text: device", text("text", "<img src=\"/dev/zero\">"), "not in the folder");
-    add("rich text: entity", text("text", "<img src=\"&#47;dev/zero\">"), "icture “");
+    add("rich text: entity", text("text", "<img src=\"&#47;dev/zero\">"), "icture \"");
     add("rich text: address", text("toolTip", "<p><img src='file:///dev/zero'></p>"), "not in the folder");
     add("rich text: network", text("text", "<img src='http://localhost/x.png'>"), "no picture");
     add("rich text: background", text("text", "<table background='/dev/zero'><tr><td>x</table>"), "not in the folder");
@@ -219,7 +219,7 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
     add("markdown",
         label("<property name=\"textFormat\"><enum>Qt::MarkdownText</enum></property>"
               "<property name=\"text\"><string>![x](/dev/zero)</string></property>"),
-        "format “Qt::MarkdownText”");
+        "format \"Qt::MarkdownText\"");
     add("markdown by number", label("<property name=\"textFormat\"><number>3</number></property>"), "out of bounds");
 
     add("rows",
@@ -231,7 +231,7 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
         with("AddAccount",
              "<widget class=\"QTableWidget\" name=\"t\"><property name=\"rowCount\"><string>2000000000</string>"
              "</property></widget>"),
-        "sets “rowCount” to a text");
+        "sets \"rowCount\" to a text");
     add("place in a grid",
         with("AddAccount",
              "<widget class=\"QWidget\" name=\"g\"><layout class=\"QGridLayout\"><item row=\"2000000000\" column=\"0\">"

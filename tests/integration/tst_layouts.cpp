@@ -404,13 +404,13 @@ void tst_Layouts::brokenOverrideIsReportedAndTheBuiltInLayoutUsed_data()
     QTest::newRow("unknown layout class")
         << "Accounts" << changed("Accounts", "\"QVBoxLayout\"", "\"OtherLayout\"") << "unknown class OtherLayout";
     QTest::newRow("missing child") << "Accounts" << changed("Accounts", "\"Accounts_List\"", "\"Other\"")
-                                   << "no QTreeWidget named “Accounts_List”";
+                                   << "no QTreeWidget named \"Accounts_List\"";
     QTest::newRow("wrong class") << "Accounts" << changed("Accounts", "\"QTreeWidget\"", "\"QListView\"")
-                                 << "“Accounts_List” is a QListView, but must be a QTreeWidget";
+                                 << "\"Accounts_List\" is a QListView, but must be a QTreeWidget";
     QTest::newRow("wrong class of an optional child")
         << "Accounts" << changed("Accounts", "\"QComboBox\"", "\"QSpinBox\"") << "must be a QComboBox";
     QTest::newRow("layout of another window")
-        << "Accounts" << builtIn("AddAccount") << "no QToolButton named “Accounts_AddButton”";
+        << "Accounts" << builtIn("AddAccount") << "no QToolButton named \"Accounts_AddButton\"";
     QTest::newRow("no dialog") << "AddAccount" << changed("AddAccount", "\"QDialog\"", "\"QWidget\"")
                                << "The window is a QWidget, but must be a QDialog";
     QTest::newRow("add without Save") << "AddAccount"

@@ -195,7 +195,7 @@ void tst_Reconciler::aRefusedSaveChangesNothingOutside()
     QVERIFY(account->isOnline());
     QCOMPARE(core->connection()->login(), login);
     QCOMPARE(core->connection()->presence().getId(), QString("available"));
-    QCOMPARE(core->connection()->avatarPath(), QString());
+    QCOMPARE(core->connection()->avatar().path, QString());
     // Also later, when the server ends the session.
     core->connection()->serverGoes();
     account->tryAgain();
@@ -400,7 +400,7 @@ void tst_Reconciler::anAvatarIsKnownBeforeTheLogIn()
     QVERIFY(core->create());
     core->account()->setAvatar(core->makePicture());
     QString path;
-    core->connection()->onLogIn = [&] { path = core->connection()->avatarPath(); };
+    core->connection()->onLogIn = [&] { path = core->connection()->avatar().path; };
     core->settle();
     QCOMPARE(path, core->account()->avatarPath());
     QVERIFY(!path.isEmpty());
@@ -415,7 +415,7 @@ void tst_Reconciler::anAvatarIsNotPublishedOverASessionThatEnds()
     account->setPassword("new");
     QVERIFY(account->endSave());
     QCOMPARE(core->takeCalls(), QStringList { "id log out" });
-    QCOMPARE(core->connection()->avatarPath(), account->avatarPath());
+    QCOMPARE(core->connection()->avatar().path, account->avatarPath());
     core->connection()->serverAccepts();
     QCOMPARE(core->takeCalls(), QStringList { "id log in available new" });
 

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void localConfigurationUsesTheLocalPort();
     void loginPatternAccepts_data();
     void loginPatternAccepts();
+    void spellingsOfANickAreOneLogin_data();
+    void spellingsOfANickAreOneLogin();
 };
 
 void TestIrcSettings::loginIsNickAndNetwork_data()
@@ -332,6 +334,31 @@ void TestIrcSettings::loginPatternAccepts()
     const QRegularExpression pattern(QRegularExpression::anchoredPattern(KirvIrcSettings::loginPattern()));
     QVERIFY(pattern.isValid());
     QTEST(pattern.match(login).hasMatch(), "isGood");
+}
+
+void TestIrcSettings::spellingsOfANickAreOneLogin_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<QString>("normalized");
+    QTest::newRow("lower case") << "alice"
+                                << "alice";
+    QTest::newRow("capitals") << "Alice"
+                              << "alice";
+    QTest::newRow("signs") << "[A]\\~"
+                           << "{a}|^";
+    QTest::newRow("network") << "Alice@Irc.Example"
+                             << "alice@irc.example";
+    QTest::newRow("signs of a network") << "a@[~"
+                                        << "a@[~";
+    QTest::newRow("no letters of others") << QString::fromUtf8("Älice") << QString::fromUtf8("Älice");
+    QTest::newRow("empty") << ""
+                           << "";
+}
+
+void TestIrcSettings::spellingsOfANickAreOneLogin()
+{
+    QFETCH(QString, login);
+    QTEST(KirvIrcSettings::normalizedLogin(login), "normalized");
 }
 
 QTEST_GUILESS_MAIN(TestIrcSettings)

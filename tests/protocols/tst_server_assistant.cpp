@@ -17,6 +17,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThreadPool>
 #include <memory>
 
 using Step = KirvServerRequest::Step;
@@ -89,6 +90,7 @@ private Q_SLOTS:
 
     void picturesAreShown();
     void picturesAreBounded();
+    void picturesAreReadOutsideTheGuiThread();
 
     void anOutcomeStays();
     void theRequestMayGoFirst();
@@ -148,6 +150,7 @@ void TestServerAssistant::aStepIsShownWhole()
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), QString("Fill it in."));
     QCOMPARE(child<QComboBox>("Configuration")->count(), 2);
     QCOMPARE(child<KirvFieldWidget>("Fields")->getFields().size(), 2);
+    QTRY_VERIFY(child<QLabel>("Picture1"));
     QCOMPARE(child<QLabel>("Picture1")->pixmap(Qt::ReturnByValue).size(), QSize(60, 20));
     QVERIFY(child<QCheckBox>("Remember")->isVisible() && window->isPasswordToBeRemembered());
     QCOMPARE(message(), QString("Look at this."));
@@ -187,6 +190,7 @@ void TestServerAssistant::textsAreShownAsTheyAre()
     Q_EMIT request->failed(KirvFailure(KirvFailure::RequestFailed, "<i>no</i>"));
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), markup);
     QVERIFY(message().contains("<i>no</i>"));
+    QTRY_VERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("cannot be shown"));
     QVERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("<b>bold</b>"));
     QVERIFY(button("Next")->text().contains("&&"));
     for (const QLabel *label : window->findChildren<QLabel *>())
@@ -450,6 +454,7 @@ void TestServerAssistant::picturesAreShown()
                        { "Broken", "no picture", "https://example.org/a" },
                        { "Elsewhere", QByteArray(), "https://example.org/b" } };
     show(shown);
+    QTRY_VERIFY(child<QLabel>("Picture1") && child<QTextEdit>("Picture3")->toPlainText().contains("example.org"));
     QCOMPARE(child<QLabel>("Picture1")->pixmap(Qt::ReturnByValue).width(), 400);
     QCOMPARE(child<QLabel>("Picture1")->accessibleName(), QString("Large"));
     QVERIFY(child<QTextEdit>("Picture2")->toPlainText().contains("https://example.org/a"));
@@ -465,6 +470,30 @@ void TestServerAssistant::picturesAreBounded()
         shown.pictures << KirvServerRequest::Picture { "Picture", png({ 10, 10 }), QString() };
     show(shown);
     QVERIFY(child<QWidget>("Picture4") && !child<QWidget>("Picture5"));
+    QTRY_VERIFY(child<QLabel>("Picture4"));
+    QVERIFY(!child<QWidget>("Picture5"));
+}
+
+void TestServerAssistant::picturesAreReadOutsideTheGuiThread()
+{
+    Step shown = step();
+    shown.pictures = { { "Picture", png({ 60, 20 }), QString() } };
+    show(step());
+    Q_EMIT request->stepReady(shown);
+    QVERIFY(!child<QLabel>("Picture1")); // the window is there before the picture
+    QVERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("Picture"));
+    QTRY_VERIFY(child<QLabel>("Picture1"));
+
+    // Neither the next step nor the end of the window waits for one.
+    Q_EMIT request->stepReady(shown);
+    Q_EMIT request->stepReady(step());
+    QVERIFY(QThreadPool::globalInstance()->waitForDone());
+    QCoreApplication::processEvents();
+    QVERIFY(!child<QWidget>("Picture1"));
+    Q_EMIT request->stepReady(shown);
+    window.reset();
+    QVERIFY(QThreadPool::globalInstance()->waitForDone());
+    QCoreApplication::processEvents();
 }
 
 void TestServerAssistant::anOutcomeStays()

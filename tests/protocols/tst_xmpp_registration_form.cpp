@@ -104,6 +104,9 @@ private Q_SLOTS:
     void theAddressOfAPageIsRead();
     void aReplyWithoutAFormHasNoFields();
     void whatWasTypedIsKept();
+    void onlyWhatWasTypedIsKept();
+    void whatTheServerKnowsOnceIsSentOnce_data();
+    void whatTheServerKnowsOnceIsSentOnce();
     void whatIsMissingIsReported_data();
     void whatIsMissingIsReported();
     void userNameIsTheFirstPartOfAnAddress();
@@ -338,7 +341,7 @@ void TestXmppRegistrationForm::whatWasTypedIsKept()
     const KirvXmppRegistrationForm shown = form(dataForm);
     QList<KirvField> typed = filled(form(fixedFields).fields(), "username", "romeo");
     typed << KirvField::checkBox("", "news", false, "") << KirvField::textEdit("", "colour", "r", "");
-    const QList<KirvField> fields = shown.fieldsWith(typed);
+    const QList<KirvField> fields = shown.fieldsWith(typed, form(fixedFields).fields());
     QCOMPARE(fields.size(), shown.fields().size());
     for (int i = 0; i < fields.size(); ++i) {
         const QString id = fields.at(i).getId();
@@ -347,6 +350,42 @@ void TestXmppRegistrationForm::whatWasTypedIsKept()
         QCOMPARE(fields.at(i).isChecked(), id != "news" && before.isChecked()); // another kind is another field
         QCOMPARE(fields.at(i).isRequired(), before.isRequired());
     }
+}
+
+void TestXmppRegistrationForm::onlyWhatWasTypedIsKept()
+{
+    const QByteArray start = "<x xmlns='jabber:x:data'><field var='one'><value>";
+    const QByteArray end = "</value></field><field var='ocr'><media xmlns='urn:xmpp:media-element'/></field></x>";
+    const QList<KirvField> before = form(start + "old" + end).fields();
+    const KirvXmppRegistrationForm shown = form(start + "new" + end);
+    const auto textOf = [&](const QList<KirvField> &typed, int index) {
+        return shown.fieldsWith(typed, before).at(index).getText();
+    };
+    QCOMPARE(textOf(before, 0), QString("new"));
+    QCOMPARE(textOf(filled(before, "one", "mine"), 0), QString("mine"));
+    QCOMPARE(textOf(filled(before, "one", ""), 0), QString());
+    QCOMPARE(textOf(filled(before, "ocr", "what was in the old picture"), 1), QString());
+}
+
+void TestXmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce_data()
+{
+    QTest::addColumn<QByteArray>("query");
+    QTest::addColumn<bool>("once");
+    const QByteArray type = "<field type='hidden' var='FORM_TYPE'><value>jabber:iq:register</value></field>";
+    const auto dataForm = [&type](const QByteArray &fields) {
+        return "<x xmlns='jabber:x:data'>" + type + fields + "</x>";
+    };
+    QTest::newRow("name and password") << QByteArray("<username/><password/>") << false;
+    QTest::newRow("key") << QByteArray("<username/><key>k</key>") << true;
+    QTest::newRow("data form") << dataForm("<field var='username'/>") << false;
+    QTest::newRow("hidden field") << dataForm("<field type='hidden' var='sid'><value>1</value></field>") << true;
+    QTest::newRow("picture") << dataForm("<field var='ocr'><media xmlns='urn:xmpp:media-element'/></field>") << true;
+}
+
+void TestXmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce()
+{
+    QFETCH(QByteArray, query);
+    QTEST(form(query).isSingleUse(), "once");
 }
 
 void TestXmppRegistrationForm::whatIsMissingIsReported_data()

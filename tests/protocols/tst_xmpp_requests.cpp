@@ -35,6 +35,26 @@ QByteArray registrationForm(const QByteArray &fields)
     return "<query xmlns='jabber:iq:register'>" + fields + "</query>";
 }
 
+/// The fields of a form with a picture that the server knows by \a challenge.
+QByteArray pictureForm(const QByteArray &challenge)
+{
+    return "<x xmlns='jabber:x:data'><field type='hidden' var='challenge'><value>" + challenge
+        + "</value></field><field var='username'/><field var='password' type='text-private'/>"
+          "<field var='ocr' label='What is there?'><media xmlns='urn:xmpp:media-element'><uri>https://example.org/"
+        + challenge + "</uri></media></field></x>";
+}
+
+/// The value of the field \a name in the data form of \a query.
+QString sentValue(const QDomElement &query, const QString &name)
+{
+    for (QDomElement field = query.firstChildElement("x").firstChildElement("field"); !field.isNull();
+         field = field.nextSiblingElement("field")) {
+        if (field.attribute("var") == name)
+            return field.firstChildElement("value").text();
+    }
+    return QString();
+}
+
 /// Everything that a request emits, in its order.
 class Listener {
 public:
@@ -89,6 +109,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void theResourceStaysForTheConnection();
     void theProtocolOffersThem();
     void actionsNeedAConnectionOfTheProtocol();
 
@@ -116,6 +137,10 @@ private Q_SLOTS:
     void aFormWithoutAUserNameHasNoAccount();
     void goingBackKeepsBothSteps();
     void aTakenNameIsReported();
+    void aWrongAnswerToAPictureGetsANewOne();
+    void aFormThatWasRefusedIsNotSentAgain_data();
+    void aFormThatWasRefusedIsNotSentAgain();
+    void hiddenFieldsAreThoseOfTheLatestForm();
     void anotherFormKeepsWhatWasTyped();
     void aFormWithoutFieldsCannotBeSent();
     void registrationThatIsNotOfferedIsReported_data();
@@ -132,12 +157,14 @@ private Q_SLOTS:
     void directoryRequestsAreDoneOneAfterTheOther();
     void directoryErrorsAreReported();
     void theAvatarIsPublished();
+    void thePictureOfAnotherClientIsReported();
 
 private:
     void logIn();
     void createRegistration();
     void receiveForm(const QByteArray &fields);
 
+    const KirvLogin login { "romeo@example.org", "secret", KirvXmppSettings().toFields() };
     KirvFakeClock clock;
     FakeXmppServer server;
     std::unique_ptr<KirvXmppConnection> connection;
@@ -162,9 +189,9 @@ void TestXmppRequests::cleanup()
 
 void TestXmppRequests::logIn()
 {
-    const KirvLogin login { "romeo@example.org", "secret", KirvXmppSettings().toFields() };
     connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
     server.link()->arrive();
+    server.link()->refuse("item-not-found"); // the picture among the personal events
     server.link()->reply("<vCard xmlns='vcard-temp'/>");
     QCOMPARE(connection->state(), KirvConnection::Online);
     QVERIFY(!server.isAwaited());
@@ -185,6 +212,18 @@ void TestXmppRequests::receiveForm(const QByteArray &fields)
     server.link()->arrive();
     server.link()->reply(registrationForm(fields));
     QCOMPARE(listener->take(), QStringList({ "waiting", "step" }));
+}
+
+void TestXmppRequests::theResourceStaysForTheConnection()
+{
+    const QString resource = server.link()->configuration.resource();
+    QVERIFY(!resource.isEmpty() && resource != KirvXmppSettings().resource);
+    connection->drop();
+    logIn();
+    QCOMPARE(server.link()->configuration.resource(), resource);
+    connection = std::make_unique<KirvXmppConnection>(clock, nullptr, server.factory());
+    logIn();
+    QVERIFY(server.link()->configuration.resource() != resource);
 }
 
 void TestXmppRequests::theProtocolOffersThem()
@@ -567,6 +606,89 @@ void TestXmppRequests::aTakenNameIsReported()
     QCOMPARE(listener->result.account.id, QString("juliet2@example.org"));
 }
 
+void TestXmppRequests::aWrongAnswerToAPictureGetsANewOne()
+{
+    createRegistration();
+    receiveForm(pictureForm("first"));
+    const QList<KirvField> fields = filled(filled(listener->step.fields, "username", "juliet"), "password", "new");
+    request->submit(filled(fields, "ocr", "wrong"));
+    QCOMPARE(sentValue(server.payload(), "challenge"), QString("first"));
+    server.link()->refuse("not-allowed", KirvFailure(KirvFailure::RequestFailed, "The answer is wrong."));
+    QCOMPARE(listener->take(), QStringList { "waiting" });
+    QCOMPARE(server.link()->requests.first().type, QXmppIq::Get);
+    server.link()->reply(registrationForm(pictureForm("second")));
+
+    QCOMPARE(listener->take(), QStringList { "step" });
+    QVERIFY2(listener->step.notice.contains("The answer is wrong."), qPrintable(listener->step.notice));
+    QCOMPARE(listener->step.pictures.first().address, QString("https://example.org/second"));
+    QCOMPARE(valueOf(listener->step.fields, "username"), QString("juliet"));
+    QCOMPARE(valueOf(listener->step.fields, "password"), QString("new"));
+    QCOMPARE(valueOf(listener->step.fields, "ocr"), QString());
+
+    request->submit(filled(listener->step.fields, "ocr", "right"));
+    QCOMPARE(sentValue(server.payload(), "challenge"), QString("second"));
+    QCOMPARE(sentValue(server.payload(), "ocr"), QString("right"));
+    server.link()->reply();
+    QCOMPARE(listener->take(), QStringList({ "waiting", "succeeded" }));
+    QCOMPARE(server.links, 2);
+}
+
+void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain_data()
+{
+    QTest::addColumn<QString>("instead");
+    QTest::newRow("no new form") << "refuses";
+    QTest::newRow("the stream ends") << "ends";
+    QTest::newRow("cancelled") << "cancelled";
+}
+
+void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain()
+{
+    QFETCH(QString, instead);
+    createRegistration();
+    receiveForm(pictureForm("first"));
+    const QList<KirvField> fields = filled(listener->step.fields, "username", "juliet");
+    request->submit(fields);
+    server.link()->refuse("conflict");
+    if (instead == "refuses")
+        server.link()->refuse("resource-constraint");
+    else if (instead == "ends")
+        server.link()->end(KirvFailure::ConnectionLost);
+    else
+        QVERIFY(request->cancel());
+    if (instead != "cancelled") {
+        QCOMPARE(listener->take(), QStringList({ "waiting", "failed" }));
+        QCOMPARE(listener->failure.kind(), KirvFailure::NameInUse); // what it is all about
+    }
+    request->submit(fields);
+    QCOMPARE(server.links, 3);
+    server.link()->arrive();
+    QCOMPARE(server.link()->requests.first().type, QXmppIq::Get);
+    server.link()->reply(registrationForm(pictureForm("second")));
+    QCOMPARE(listener->step.pictures.first().address, QString("https://example.org/second"));
+    QVERIFY(!server.isAwaited());
+}
+
+void TestXmppRequests::hiddenFieldsAreThoseOfTheLatestForm()
+{
+    createRegistration();
+    receiveForm("<username/><password/><key>first</key>");
+    const QList<KirvField> fields = filled(filled(listener->step.fields, "username", "juliet"), "password", "new");
+    request->submit(fields);
+    server.link()->refuse("conflict");
+    server.link()->reply(registrationForm("<username/><password/><key>second</key>"));
+    QCOMPARE(listener->take(), QStringList({ "waiting", "step" }));
+    QVERIFY2(listener->step.notice.contains("juliet"), qPrintable(listener->step.notice));
+    request->submit(filled(listener->step.fields, "username", "juliet2"));
+    QCOMPARE(textAt(server.payload(), "key"), QString("second"));
+
+    // The same when the stream had to be opened again.
+    server.link()->end(KirvFailure::ConnectionLost);
+    request->submit(listener->step.fields);
+    server.link()->arrive();
+    server.link()->reply(registrationForm("<username/><password/><key>third</key>"));
+    QCOMPARE(textAt(server.payload(), "key"), QString("third"));
+}
+
 void TestXmppRequests::anotherFormKeepsWhatWasTyped()
 {
     createRegistration();
@@ -779,7 +901,9 @@ void TestXmppRequests::theAvatarIsPublished()
     QImage image(20, 20, QImage::Format_RGB32);
     image.fill(Qt::red);
     QVERIFY(image.save(folder.filePath("a.png")));
-    connection->setAvatarPath(folder.filePath("a.png"));
+    QSignalSpy published(connection.get(), &KirvConnection::avatarPublished);
+    connection->setAvatar({ folder.filePath("a.png"), QByteArray(), true });
+    server.link()->refuse("item-not-found");
     server.link()->reply("<vCard xmlns='vcard-temp'><FN>Romeo</FN></vCard>");
     QCOMPARE(textAt(server.payload(), "FN"), QString("Romeo"));
     QCOMPARE(textAt(server.payload(), "PHOTO/TYPE"), QString("image/png"));
@@ -788,14 +912,45 @@ void TestXmppRequests::theAvatarIsPublished()
     server.link()->reply();
     const QByteArray hash = QCryptographicHash::hash(sent, QCryptographicHash::Sha1);
     QCOMPARE(server.link()->presences.last().photoHash(), hash);
+    QCOMPARE(published.size(), 1);
+    QCOMPARE(published.first().first().toString(), folder.filePath("a.png"));
 
-    connection->setAvatarPath(QString());
+    connection->setAvatar({ QString(), QByteArray(), true });
+    server.link()->refuse("item-not-found");
     server.link()->reply("<vCard xmlns='vcard-temp'><FN>Romeo</FN><PHOTO><BINVAL>QUJD</BINVAL></PHOTO></vCard>");
     QVERIFY(server.payload().firstChildElement("PHOTO").isNull());
 
     QSignalSpy failed(connection.get(), &KirvConnection::failed);
-    connection->setAvatarPath(folder.filePath("none.png"));
+    server.link()->reply();
+    connection->setAvatar({ folder.filePath("none.png"), QByteArray(), true });
+    server.link()->refuse("item-not-found");
     QCOMPARE(failed.size(), 1);
+}
+
+void TestXmppRequests::thePictureOfAnotherClientIsReported()
+{
+    QSignalSpy received(connection.get(), &KirvConnection::avatarReceived);
+    QSignalSpy failed(connection.get(), &KirvConnection::failed);
+    connection->setAvatar({ "/a.png", "0123/", false });
+    connection->drop();
+    connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
+    server.link()->arrive();
+    server.link()->refuse("item-not-found");
+    server.link()->reply("<vCard xmlns='vcard-temp'><PHOTO><BINVAL>QUJD</BINVAL></PHOTO></vCard>");
+    QVERIFY(!server.isAwaited());
+    QCOMPARE(received.size(), 1);
+    QCOMPARE(received.first().first().toByteArray(), QByteArray("ABC"));
+    const QByteArray hash = QCryptographicHash::hash("ABC", QCryptographicHash::Sha1);
+    QCOMPARE(server.link()->presences.last().photoHash(), hash);
+
+    // A server that has no directory is nothing to report: no picture was to be published.
+    connection->drop();
+    connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
+    server.link()->arrive();
+    server.link()->refuse("service-unavailable");
+    server.link()->refuse("service-unavailable");
+    QCOMPARE(received.size(), 1);
+    QCOMPARE(failed.size(), 0);
 }
 
 QTEST_MAIN(TestXmppRequests)

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void encryptionBecomesAMode();
     void theHostIsOnlyGivenWhenNeeded_data();
     void theHostIsOnlyGivenWhenNeeded();
+    void theResourceHasARandomPartByDefault();
     void theLibraryNeitherReconnectsNorAccepts();
     void aTrustedCertificateIsAdded_data();
     void aTrustedCertificateIsAdded();
@@ -92,13 +93,13 @@ void TestXmppSettings::badValuesFallBackToSafeOnes_data()
                                    << "5222";
     QTest::newRow("priority is too small") << "priority"
                                            << "-129"
-                                           << "0";
+                                           << "-1";
     QTest::newRow("smallest priority") << "priority"
                                        << "-128"
                                        << "-128";
     QTest::newRow("priority is no number") << "priority"
                                            << "high"
-                                           << "0";
+                                           << "-1";
     QTest::newRow("encryption is unknown") << "encryption"
                                            << "maybe"
                                            << "required";
@@ -217,12 +218,25 @@ void TestXmppSettings::theHostIsOnlyGivenWhenNeeded()
     QCOMPARE(configuration.port(), port.toInt());
 }
 
+void TestXmppSettings::theResourceHasARandomPartByDefault()
+{
+    const KirvXmppSettings settings;
+    const QString resource = settings.resourceWith("abc");
+    QVERIFY2(resource.contains("abc") && resource.size() > 3, qPrintable(resource));
+    QVERIFY(KirvXmppSettings::randomPart() != KirvXmppSettings::randomPart());
+    const QRegularExpression expression("^[a-z0-9]{8,}$");
+    QVERIFY(expression.match(KirvXmppSettings::randomPart()).hasMatch());
+    // What the user sets is used as it is.
+    QCOMPARE(KirvXmppSettings({ text("resource", "Home") }).resourceWith("abc"), QString("Home"));
+    QCOMPARE(KirvXmppSettings({ text("resource", "") }).resourceWith("abc"), QString());
+    QCOMPARE(KirvXmppSettings({ text("resource", "*, *") }).resourceWith("abc"), QString("abc, abc"));
+}
+
 void TestXmppSettings::theLibraryNeitherReconnectsNorAccepts()
 {
     QXmppConfiguration configuration;
     QString problem;
-    QVERIFY(KirvXmppSettings({ text("resource", "Home") }).apply("example.org", &configuration, &problem));
-    QCOMPARE(configuration.resource(), QString("Home"));
+    QVERIFY(KirvXmppSettings().apply("example.org", &configuration, &problem));
     QVERIFY(!configuration.autoReconnectionEnabled());
     QVERIFY(!configuration.autoAcceptSubscriptions());
     QVERIFY(!configuration.useNonSASLAuthentication());

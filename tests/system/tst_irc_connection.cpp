@@ -374,7 +374,7 @@ void TestIrcConnection::takenNickIsReplaced()
     KIRV_TRY_STATE(account, Online);
     QVERIFY(others[0].sees(expected));
     QTRY_COMPARE(notices.size(), 1);
-    QVERIFY(notices[0][0].toString().contains(QString("“%1”").arg(expected)));
+    QVERIFY(notices[0][0].toString().contains(QString("\"%1\"").arg(expected)));
 }
 
 void TestIrcConnection::allNicksTaken()

@@ -251,6 +251,7 @@ void tst_registering_in_windows::formIsShownAsTheServerHasIt()
     QVERIFY(openForm());
     const QString instructions = Assistant::text();
     QVERIFY(instructions.contains(QLatin1String("Join <us>")) && instructions.contains(QLatin1String("Fill it in.")));
+    QTRY_VERIFY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
     QVERIFY(picture && picture->isVisible() && !picture->pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(Assistant::filled(QStringLiteral("odd")), QStringLiteral("as it was"));

@@ -201,7 +201,8 @@ void TestXmppConnection::logsInAndOut()
     profile->goTo(account, "available");
     KIRV_TRY_STATE(account, Online);
     QVERIFY(account->isOnline());
-    QCOMPARE(server.sessions(), QStringList { romeoAddress + "/Kirv" });
+    QCOMPARE(server.sessions().size(), 1);
+    QVERIFY(server.isOnline("romeo"));
 
     profile->goTo(account, "offline");
     KIRV_TRY_STATE(account, Offline);
@@ -474,11 +475,12 @@ void TestXmppConnection::sameResourceTwiceEndsTheOlder()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
-    KirvAccount *account = profile->logIn(server);
-    QVERIFY(account);
+    KirvAccount *account = profile->createAccount(server, "romeo", { { "resource", "balcony" } });
+    profile->goTo(account, "available");
+    KIRV_TRY_STATE(account, Online);
 
     KirvObservingXmppClient other;
-    QVERIFY(other.logIn(server, "romeo", "secret", "Kirv"));
+    QVERIFY(other.logIn(server, "romeo", "secret", "balcony"));
     KIRV_TRY_FAILURE(account, LoggedInElsewhere);
     QCOMPARE(state(account), KirvConnection::Offline);
 }

@@ -323,6 +323,7 @@ void TestXmppRegistration::formIsShownAsItComes()
     fillServer(server);
     QVERIFY(openForm());
     QVERIFY(Assistant::text().contains("Join <us>") && Assistant::text().contains("Fill it in."));
+    QTRY_VERIFY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
     QVERIFY(picture && picture->pixmap(Qt::ReturnByValue).size() == QSize(60, 20));
     QCOMPARE(picture->accessibleName(), QString("What is written there?"));

@@ -220,7 +220,7 @@ void tst_bounded_image::tooManyBytesAreRefused()
     for (const KirvBoundedImage &image :
          { KirvBoundedImage::fromData(data, name), KirvBoundedImage::fromFile(write(name, data)) }) {
         QVERIFY(image.isNull());
-        QCOMPARE(image.problem(), QStringLiteral("The file “face” is too large. Up to 10 MB are possible."));
+        QCOMPARE(image.problem(), QStringLiteral("The file \"face\" is too large. Up to 10 MB are possible."));
     }
 }
 
@@ -246,7 +246,7 @@ void tst_bounded_image::whatIsNoImageIsRefused()
     QFETCH(QByteArray, data);
     const KirvBoundedImage image = KirvBoundedImage::fromData(data, QStringLiteral("<b>face</b>"));
     QVERIFY(image.isNull());
-    QVERIFY2(image.problem().contains(QStringLiteral("“<b>face</b>”")), qPrintable(image.problem()));
+    QVERIFY2(image.problem().contains(QStringLiteral("\"<b>face</b>\"")), qPrintable(image.problem()));
 }
 
 void tst_bounded_image::damagedImageIsRefused()
@@ -260,7 +260,7 @@ void tst_bounded_image::damagedImageIsRefused()
     data.truncate(data.size() / 2);
     const KirvBoundedImage image = KirvBoundedImage::fromData(data, name);
     QVERIFY(image.isNull());
-    QCOMPARE(image.problem(), QStringLiteral("The picture in the file “face” is damaged."));
+    QCOMPARE(image.problem(), QStringLiteral("The picture in the file \"face\" is damaged."));
 }
 
 void tst_bounded_image::onlyOrdinaryFilesAreRead_data()

@@ -65,13 +65,16 @@ bool KirvProsodyServer::writeConfiguration()
     QStringList modules { "roster", "saslauth", "disco", "vcard", "register", "ping", "admin_shell" };
     if (options.offersEncryption)
         modules << QStringLiteral("tls");
+    modules << options.enabledModules;
     const QStringList lines {
         QStringLiteral("run_as_root = true"),
         QStringLiteral("data_path = %1").arg(quoted(home.filePath(QStringLiteral("data")))),
         QStringLiteral("pidfile = %1").arg(quoted(home.filePath(QStringLiteral("prosody.pid")))),
         QStringLiteral("certificates = %1").arg(quoted(home.path())),
         QStringLiteral("interfaces = { %1 }").arg(quoted(host())),
-        QStringLiteral("c2s_ports = { %1 }").arg(port()),
+        QStringLiteral("c2s_ports = { %1 }").arg(options.encryptsAtOnce ? QString() : QString::number(port())),
+        QStringLiteral("c2s_direct_tls_ports = { %1 }")
+            .arg(options.encryptsAtOnce ? QString::number(port()) : QString()),
         QStringLiteral("modules_enabled = { %1 }").arg(quotedList(modules)),
         QStringLiteral("modules_disabled = { %1 }").arg(quotedList(options.disabledModules + QStringList("s2s"))),
         QStringLiteral("authentication = \"internal_plain\""),

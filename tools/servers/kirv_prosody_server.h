@@ -12,7 +12,9 @@ public:
     struct Options {
         bool offersEncryption = true; ///< with a certificate of its own making, which nobody trusts yet
         bool requiresEncryption = true; ///< only together with offersEncryption
+        bool encryptsAtOnce = false; ///< TLS from the first byte; only together with offersEncryption
         bool allowsRegistration = true;
+        QStringList enabledModules; ///< in addition to those that a private server has
         QStringList disabledModules; ///< in addition to those that a private server has no use for
     };
 

@@ -24,6 +24,7 @@ public:
     QList<KirvField> getConfigurationFields(const QString &name) override;
     QString getLoginPattern() override { return loginPattern; }
 
+    QString normalizedLogin(const QString &login) const override { return normalize ? normalize(login) : login; }
     QList<KirvPresence> presences() const override { return offeredPresences; }
     QList<KirvField> accountSettings() const override { return settings; }
     QList<KirvField> directoryFields() const override { return directory; }
@@ -45,6 +46,7 @@ public:
     QList<KirvField> directory; ///< "name" and "town" at first
     QList<KirvAccountAction> actions;
     bool givesConnections = true;
+    std::function<QString(const QString &login)> normalize;
     std::function<KirvServerRequest *()> makeRegistration;
     std::function<KirvServerRequest *(const QString &actionId, KirvConnection *connection)> makeRequest;
 

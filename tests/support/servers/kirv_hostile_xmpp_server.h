@@ -18,7 +18,7 @@ public:
         BeforeEncryption, ///< in place of the first features
         BeforeLogIn, ///< in place of the features after encryption, or of the first ones without it
         AfterLogIn, ///< when the client has sent its first presence
-        InReply ///< when the client fetches its entry for the second time; "%id" in the start stands for the id
+        InReply ///< when the client fetches its entry; "%id" in the start stands for the id
     };
     struct Attack {
         QByteArray start;
@@ -115,12 +115,10 @@ private:
                          + "'><bind xmlns='urn:ietf:params:xml:ns:xmpp-bind'><jid>ann@localhost/Kirv</jid></bind>"
                            "</iq>");
         isLoggedIn = isLoggedIn || received.contains("<auth");
-        const bool fetches = received.contains("<vCard");
-        const QByteArray id = attribute(received.mid(received.indexOf("<iq")), "id");
-        if (fetches && attack.time == InReply && ++fetchCount == 1)
-            socket.write("<iq type='result' id='" + id + "'/>");
-        else if (attack.time == InReply ? fetches : received.contains("<presence"))
-            strike(socket, id);
+        // The log-in waits for a reply about personal events, which never comes, before it fetches the entry.
+        const int entry = received.indexOf("<vCard");
+        if (attack.time == InReply ? entry >= 0 : received.contains("<presence"))
+            strike(socket, attribute(received.mid(qMax(0, received.lastIndexOf("<iq", entry))), "id"));
     }
 
     void openStream(QSslSocket &socket)
@@ -195,7 +193,6 @@ private:
     const QString keyFile;
     quint16 freePort = 0;
     bool isLoggedIn = false;
-    int fetchCount = 0;
     QByteArray incoming;
     std::atomic<bool> listening { false };
     std::atomic<bool> stopped { false };

@@ -4,8 +4,12 @@
 #include "tests/support/kirv_patience.h"
 #include "tools/servers/kirv_prosody_server.h"
 
+#include <QCryptographicHash>
+#include <QDomDocument>
 #include <QSslSocket>
+#include <QXmppElement.h>
 #include <QXmppLogger.h>
+#include <QXmppMessage.h>
 #include <QXmppOutgoingClient.h>
 #include <QXmppRosterManager.h>
 #include <QXmppUtils.h>
@@ -32,6 +36,8 @@ KirvObservingXmppClient::KirvObservingXmppClient()
                          if (type == QXmppLogger::ReceivedMessage)
                              everything += text;
                      });
+    QObject::connect(&client, &QXmppClient::messageReceived, &client,
+                     [this](const QXmppMessage &message) { messages << message.body(); });
 }
 
 bool KirvObservingXmppClient::logIn(const KirvProsodyServer &server, const QString &user, const QString &password,
@@ -132,4 +138,37 @@ bool KirvObservingXmppClient::synchronise()
             return false;
     }
     return true;
+}
+
+bool KirvObservingXmppClient::publishEvent(const QByteArray &picture)
+{
+    const QString hash = QCryptographicHash::hash(picture, QCryptographicHash::Sha1).toHex();
+    const QString form = "<pubsub xmlns='http://jabber.org/protocol/pubsub'><publish node='urn:xmpp:avatar:%1'>"
+                         "<item id='%2'>%3</item></publish></pubsub>";
+    const QString data = "<data xmlns='urn:xmpp:avatar:data'>" + picture.toBase64() + "</data>";
+    const QString metadata = QString("<metadata xmlns='urn:xmpp:avatar:metadata'>"
+                                     "<info id='%1' type='image/png' bytes='%2'/></metadata>")
+                                 .arg(hash)
+                                 .arg(picture.size());
+    QDomDocument first, second;
+    return first.setContent(form.arg("data", hash, data), true) && request(QXmppIq::Set, first.documentElement())
+        && second.setContent(form.arg("metadata", hash, metadata), true)
+        && request(QXmppIq::Set, second.documentElement());
+}
+
+/// Whether the server carries it out.
+bool KirvObservingXmppClient::request(QXmppIq::Type type, const QDomElement &payload)
+{
+    bool hasCome = false, isDone = false;
+    QObject context;
+    QXmppIq iq(type);
+    iq.setExtensions({ QXmppElement(payload) });
+    QObject::connect(&client, &QXmppClient::iqReceived, &context, [&](const QXmppIq &reply) {
+        if (reply.id() != iq.id())
+            return;
+        hasCome = true;
+        isDone = reply.type() == QXmppIq::Result;
+    });
+    client.sendPacket(iq);
+    return QTest::qWaitFor([&] { return hasCome; }, kirvPatience) && isDone;
 }

@@ -3,7 +3,9 @@
 #define KIRV_OBSERVING_XMPP_CLIENT_H
 
 #include <QHash>
+#include <QStringList>
 #include <QXmppClient.h>
+#include <QXmppIq.h>
 #include <QXmppVCardIq.h>
 
 class KirvProsodyServer;
@@ -34,12 +36,20 @@ public:
     /// Waits until the server has done all that was sent before, and has sent what followed from that. Nobody else in
     /// this program reads or writes meanwhile.
     bool synchronise();
+    /// Puts \a picture, a PNG, among one's own personal events (urn:xmpp:avatar).
+    bool publishEvent(const QByteArray &picture);
+    void say(const QString &address, const QString &text) { client.sendMessage(address, text); }
+    /// The texts of the messages that came, in their order.
+    QStringList heard() const { return messages; }
 
 private:
     QXmppClient client;
+    bool request(QXmppIq::Type type, const QDomElement &payload);
+
     QHash<QString, QXmppPresence> presences;
     QString everything;
     int synchronisations = 0;
+    QStringList messages;
 };
 
 #endif

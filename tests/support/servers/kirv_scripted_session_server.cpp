@@ -225,6 +225,13 @@ bool KirvScriptedSessionServer::offerEncryption(const QString &certificatePath, 
     return !certificate.isNull() && !key.isNull();
 }
 
+void KirvScriptedSessionServer::say(const QByteArray &bytes)
+{
+    const QList<QSslSocket *> sockets = findChildren<QSslSocket *>();
+    for (QSslSocket *socket : sockets)
+        socket->write(bytes);
+}
+
 void KirvScriptedSessionServer::goAway()
 {
     close();

@@ -28,6 +28,8 @@ public:
     /// Replaces the children of the directory entry, as another client would.
     void setCard(const QByteArray &children) { card = children; }
 
+    /// Sends \a bytes over all connections.
+    void say(const QByteArray &bytes);
     /// Breaks all connections and accepts none until comeBack(), which listens on the same port.
     void goAway();
     bool comeBack();

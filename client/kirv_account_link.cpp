@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_account_link.h"
+
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "add_account/kirv_add_account_dialog.h"
+#include "host/kirv_plugin_manager.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+// The longest address that XMPP allows, and longer than any of IRC.
+const int longestLogin = 2047;
+
+QString loginOfAuthority(const QUrl &url)
+{
+    const QString user = url.userName(QUrl::FullyDecoded);
+    if (user.isEmpty() || url.host().isEmpty())
+        return QString();
+    const QString login = user + QLatin1Char('@') + url.host(QUrl::FullyDecoded);
+    return url.port() == -1 ? login : QStringLiteral("%1:%2").arg(login).arg(url.port());
+}
+
+QString loginOfAddress(const QUrl &url)
+{
+    const QString action = url.query().section(QLatin1Char(';'), 0, 0);
+    if (!action.isEmpty() && action != QLatin1String("register"))
+        return QString();
+    const QString address = url.path(QUrl::FullyDecoded).section(QLatin1Char('/'), 0, 0);
+    return address.contains(QLatin1Char('@')) ? address : QString();
+}
+
+bool isShowable(const QString &login)
+{
+    return login.size() <= longestLogin
+        && std::all_of(login.begin(), login.end(), [](QChar character) { return character.isPrint(); });
+}
+} // namespace
+
+KirvAccountLink KirvAccountLink::fromText(const QString &text)
+{
+    const QUrl url(text, QUrl::StrictMode);
+    KirvAccountLink link;
+    if (!url.isValid())
+        return link;
+    if (url.scheme() == QLatin1String("xmpp")) {
+        link.protocol = QStringLiteral("XMPP");
+        link.login = url.authority().isEmpty() ? loginOfAddress(url) : loginOfAuthority(url);
+    } else if (url.scheme() == QLatin1String("irc") || url.scheme() == QLatin1String("ircs")) {
+        link.protocol = QStringLiteral("IRC");
+        link.login = loginOfAuthority(url);
+    }
+    if (!isShowable(link.login))
+        link.login.clear();
+    return link;
+}
+
+bool KirvAccountLink::open(KirvAccountsTab *page) const
+{
+    KirvProtocol *loaded = KirvPluginManager::getInstance()->getProtocolByName(protocol);
+    if (!loaded)
+        return false;
+    // It deletes itself when its window has finished.
+    auto *dialog = new KirvAddAccountDialog(loaded, QString(), page, Qt::Sheet);
+    if (dialog->getWindow()) {
+        if (auto *line = dialog->getWindow()->findChild<QLineEdit *>(QStringLiteral("AddAccount_UsernameEdit")))
+            line->setText(login);
+    }
+    dialog->exec();
+    return true;
+}

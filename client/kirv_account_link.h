@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_LINK_H
+#define KIRV_ACCOUNT_LINK_H
+
+#include <QString>
+
+class KirvAccountsTab;
+
+/// What a link says of an account that could be added: xmpp:user\@server, xmpp://user\@server/…,
+/// irc://nick\@server:port/… and the same with ircs.
+struct KirvAccountLink {
+    QString protocol; ///< its name; empty: this is no link
+    QString login; ///< empty when the link does not say whose account it is
+
+    bool isNull() const { return protocol.isEmpty(); }
+    /// The link in \a text; null when it is none of those above. An address that an xmpp link names to write to, or to
+    /// do anything with but to register there, is somebody else's and no login.
+    static KirvAccountLink fromText(const QString &text);
+
+    /// Runs the window for a new account over \a page, filled with the login. False when the protocol is not loaded.
+    bool open(KirvAccountsTab *page) const;
+};
+
+#endif

@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+# Writes the client's description for catalogs of software to the file ${metainfo}, with the addresses that are known:
+# KIRV_HOME_PAGE, KIRV_BUG_TRACKER and KIRV_SCREENSHOTS. Takes KIRV_APPLICATION_ID, too. Included, or run as a script.
+set(KIRV_METAINFO_ADDRESSES "")
+if(KIRV_HOME_PAGE)
+    string(APPEND KIRV_METAINFO_ADDRESSES "  <url type=\"homepage\">${KIRV_HOME_PAGE}</url>\n")
+endif()
+if(KIRV_BUG_TRACKER)
+    string(APPEND KIRV_METAINFO_ADDRESSES "  <url type=\"bugtracker\">${KIRV_BUG_TRACKER}</url>\n")
+endif()
+if(KIRV_SCREENSHOTS)
+    string(APPEND KIRV_METAINFO_ADDRESSES "  <screenshots>
+    <screenshot type=\"default\">
+      <caption>The accounts of two protocols</caption>
+      <caption xml:lang=\"de\">Die Konten zweier Protokolle</caption>
+      <image>${KIRV_SCREENSHOTS}/accounts-page.png</image>
+    </screenshot>
+  </screenshots>\n")
+endif()
+configure_file("${CMAKE_CURRENT_LIST_DIR}/kirv.metainfo.xml.in" "${metainfo}" @ONLY)

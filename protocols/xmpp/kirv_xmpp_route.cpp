@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_route.h"
+
+#include "protocols/xmpp/kirv_xmpp_server_link.h"
+#include "protocols/xmpp/kirv_xmpp_settings.h"
+
+#include <QRandomGenerator>
+
+namespace {
+
+const int lookUpTimeout = 5000; // in milliseconds
+
+int randomUpTo(int largest)
+{
+    return QRandomGenerator::global()->bounded(largest + 1);
+}
+
+/// Whether another server of the domain may be reached.
+bool isUnreachable(const KirvFailure &failure)
+{
+    return failure.kind() == KirvFailure::HostNotFound || failure.kind() == KirvFailure::ConnectionRefused;
+}
+
+} // namespace
+
+KirvXmppRoute::KirvXmppRoute(Purpose purpose, KirvClock &clock, int replyTimeout, KirvXmppLinkFactory createLink,
+                             KirvXmppServiceLookup lookUp, KirvXmppPortProbe probe)
+    : purpose(purpose)
+    , clock(clock)
+    , replyTimeout(replyTimeout)
+    , createLink(std::move(createLink))
+    , lookUp(std::move(lookUp))
+    , probe(std::move(probe))
+{
+}
+
+KirvXmppRoute::~KirvXmppRoute()
+{
+    dropLink();
+}
+
+KirvXmppLink *KirvXmppRoute::create(Purpose purpose, KirvClock &clock, int replyTimeout)
+{
+    return new KirvXmppRoute(purpose, clock, replyTimeout, KirvXmppServerLink::create);
+}
+
+void KirvXmppRoute::open(const QXmppConfiguration &newConfiguration, const QXmppPresence &newPresence)
+{
+    configuration = newConfiguration;
+    presence = newPresence;
+    const bool isDirect = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
+    if (configuration.host().isEmpty())
+        lookUpServers();
+    else
+        start({ configuration.host(), configuration.port(), isDirect });
+}
+
+/// A domain without encryption has no use for the one service, and one with nothing but direct TLS none for the other.
+void KirvXmppRoute::lookUpServers()
+{
+    const auto security = configuration.streamSecurityMode();
+    QList<bool> services;
+    if (security != QXmppConfiguration::LegacySSL)
+        services << false;
+    if (security != QXmppConfiguration::TLSDisabled)
+        services << true;
+    lookUps = int(services.size());
+    const int started = attempt;
+    clock.callLater(lookUpTimeout, this, [this, started] {
+        if (started == attempt && !isOver && lookUps > 0)
+            tryNext();
+    });
+    for (const bool isDirect : qAsConst(services)) {
+        lookUp(kirvXmppServiceName(configuration.domain(), isDirect), this,
+               [this, started, isDirect](const QList<KirvXmppServiceRecord> &records) {
+                   if (started == attempt && !isOver)
+                       receiveRecords(isDirect, records);
+               });
+    }
+}
+
+void KirvXmppRoute::receiveRecords(bool isDirect, const QList<KirvXmppServiceRecord> &records)
+{
+    (isDirect ? directRecords : ordinaryRecords) = records;
+    if (--lookUps == 0)
+        tryNext();
+}
+
+/// The first time with what the records say.
+void KirvXmppRoute::tryNext()
+{
+    if (attempt == 0) {
+        targets = kirvXmppTargets(ordinaryRecords, directRecords, randomUpTo);
+        const bool isDirect = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
+        targets << KirvXmppTarget { configuration.domain(), configuration.port(), isDirect };
+    }
+    start(targets.takeFirst());
+}
+
+void KirvXmppRoute::start(const KirvXmppTarget &next)
+{
+    dropLink();
+    target = next;
+    isGreeted = false;
+    link = createLink(purpose, clock, replyTimeout);
+    link->setParent(this);
+    connectLink();
+    QXmppConfiguration own = configuration;
+    own.setHost(target.host);
+    own.setPort(target.port);
+    if (target.isDirect)
+        own.setStreamSecurityMode(QXmppConfiguration::LegacySSL);
+    clock.callLater(silence, this, [this, started = attempt] {
+        if (started == attempt && !isGreeted && !isOver)
+            receiveSilence();
+    });
+    link->open(own, presence);
+}
+
+void KirvXmppRoute::connectLink()
+{
+    connect(link, &KirvXmppLink::greeted, this, [this] { isGreeted = true; });
+    connect(link, &KirvXmppLink::redirected, this, &KirvXmppRoute::follow);
+    connect(link, &KirvXmppLink::ended, this, &KirvXmppRoute::receiveEnd);
+    connect(link, &KirvXmppLink::loggedIn, this, [this] {
+        hasArrived = true;
+        Q_EMIT loggedIn();
+    });
+    connect(link, &KirvXmppLink::readyToRegister, this, [this](bool isOffered) {
+        hasArrived = true;
+        Q_EMIT readyToRegister(isOffered);
+    });
+}
+
+void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
+{
+    if (hasArrived) { // the next log-in is referred again, before it is one
+        end(KirvFailure::ServerShutDown);
+        return;
+    }
+    if (++references > mostReferences) {
+        end(KirvFailure(KirvFailure::ServiceUnavailable, tr("servers refer to one another without end")));
+        return;
+    }
+    if (wasEncrypted && configuration.streamSecurityMode() == QXmppConfiguration::TLSEnabled)
+        configuration.setStreamSecurityMode(QXmppConfiguration::TLSRequired);
+    targets.clear();
+    const int ordinary = target.isDirect ? KirvXmppSettings::directPort : KirvXmppSettings::defaultPort;
+    start({ host, port > 0 ? port : ordinary, target.isDirect });
+}
+
+void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
+{
+    const bool wasReached = isGreeted || hasArrived || !failure.isFailure();
+    if (wasReached || (isUnreachable(failure) && targets.isEmpty()))
+        end(failure);
+    else if (isUnreachable(failure))
+        tryNext();
+    else
+        explainEnd(failure);
+}
+
+/// The server goes on being waited for where there is no other one.
+void KirvXmppRoute::receiveSilence()
+{
+    if (!targets.isEmpty()) {
+        tryNext();
+        return;
+    }
+    const auto receive = [this, started = attempt](bool isOther) {
+        if (started == attempt && !isOver && !isGreeted && isOther)
+            end(otherStart());
+    };
+    probe(target, configuration.networkProxy(), clock, this, receive);
+}
+
+/// The server has hung up, or made no sense, before it began to speak.
+void KirvXmppRoute::explainEnd(const KirvFailure &failure)
+{
+    if (failure.kind() == KirvFailure::UntrustedCertificate) {
+        end(failure);
+        return;
+    }
+    dropLink();
+    const auto receive = [this, failure, started = attempt](bool isOther) {
+        if (started != attempt || isOver)
+            return;
+        if (!targets.isEmpty())
+            tryNext();
+        else
+            end(isOther ? otherStart() : failure);
+    };
+    probe(target, configuration.networkProxy(), clock, this, receive);
+}
+
+KirvFailure KirvXmppRoute::otherStart() const
+{
+    const QString name = QStringLiteral("%1:%2").arg(target.host).arg(target.port);
+    //: %1 is a server and its port
+    const QString direct = tr("%1 starts with encryption at once. Choose direct TLS, or another port.");
+    //: %1 is a server and its port
+    const QString ordinary =
+        tr("%1 does not start with encryption at once. Do not choose direct TLS, or choose another "
+           "port.");
+    return KirvFailure(KirvFailure::BadSettings, (target.isDirect ? ordinary : direct).arg(name));
+}
+
+void KirvXmppRoute::close()
+{
+    if (link)
+        link->close();
+    else
+        clock.callLater(0, this, [this] { end(KirvFailure()); });
+}
+
+void KirvXmppRoute::abort()
+{
+    isOver = true;
+    dropLink();
+}
+
+/// What comes of it later is not wanted any more.
+void KirvXmppRoute::dropLink()
+{
+    ++attempt;
+    if (!link)
+        return;
+    link->disconnect(this);
+    link->abort();
+    link->deleteLater();
+    link.clear();
+}
+
+/// Emits only once.
+void KirvXmppRoute::end(const KirvFailure &failure)
+{
+    if (isOver)
+        return;
+    abort();
+    Q_EMIT ended(failure);
+}
+
+void KirvXmppRoute::sendPresence(const QXmppPresence &newPresence)
+{
+    if (link)
+        link->sendPresence(newPresence);
+}
+
+void KirvXmppRoute::sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
+                                const QString &to)
+{
+    if (link) {
+        link->sendRequest(type, payload, receiver, to);
+        return;
+    }
+    clock.callLater(0, this, [receiver] {
+        KirvXmppReply none;
+        none.failure = KirvFailure::ConnectionLost;
+        receiver(none);
+    });
+}

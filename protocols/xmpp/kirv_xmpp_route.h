@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_XMPP_ROUTE_H
+#define KIRV_XMPP_ROUTE_H
+
+#include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_port_probe.h"
+#include "protocols/xmpp/kirv_xmpp_server_finder.h"
+
+#include <QPointer>
+
+/// A link that finds its way to the server.
+///
+/// Without a host in the configuration it looks the service records of the domain up and tries the servers they name,
+/// one after the other, until one answers; then the domain itself. It goes where a server refers to (see-other-host), a
+/// few times and never to weaker security. Where a port expects TLS from the first byte and the settings do not, or the
+/// other way round, the end says so.
+class KirvXmppRoute : public KirvXmppLink {
+    Q_OBJECT
+
+public:
+    static const int mostReferences = 5;
+    /// How long a server may be silent before another one is tried, in milliseconds.
+    static const int silence = 8000;
+
+    /// \a createLink makes the links to single servers.
+    KirvXmppRoute(Purpose purpose, KirvClock &clock, int replyTimeout, KirvXmppLinkFactory createLink,
+                  KirvXmppServiceLookup lookUp = kirvXmppLookUpService, KirvXmppPortProbe probe = kirvXmppProbePort);
+    ~KirvXmppRoute() override;
+    /// To real servers. A KirvXmppLinkFactory.
+    static KirvXmppLink *create(Purpose purpose, KirvClock &clock, int replyTimeout);
+
+    void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) override;
+    void close() override;
+    void abort() override;
+    bool isReady() const override { return link && link->isReady(); }
+    void sendPresence(const QXmppPresence &presence) override;
+    void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
+                     const QString &to) override;
+
+private:
+    void lookUpServers();
+    void receiveRecords(bool isDirect, const QList<KirvXmppServiceRecord> &records);
+    void tryNext();
+    void start(const KirvXmppTarget &target);
+    void connectLink();
+    void follow(const QString &host, int port, bool wasEncrypted);
+    void receiveEnd(const KirvFailure &failure);
+    void receiveSilence();
+    void explainEnd(const KirvFailure &failure);
+    KirvFailure otherStart() const;
+    void dropLink();
+    void end(const KirvFailure &failure);
+
+    const Purpose purpose;
+    KirvClock &clock;
+    const int replyTimeout;
+    const KirvXmppLinkFactory createLink;
+    const KirvXmppServiceLookup lookUp;
+    const KirvXmppPortProbe probe;
+
+    QXmppConfiguration configuration;
+    QXmppPresence presence;
+    QList<KirvXmppServiceRecord> ordinaryRecords, directRecords;
+    int lookUps = 0; ///< without a reply
+    QList<KirvXmppTarget> targets; ///< not tried yet
+    KirvXmppTarget target; ///< the present one
+    int references = 0; ///< that were followed
+    int attempt = 0; ///< tells a timer or a probe whether it is still wanted
+    bool isGreeted = false; ///< the present server has begun to speak
+    bool hasArrived = false;
+    bool isOver = false;
+    QPointer<KirvXmppLink> link;
+};
+
+#endif

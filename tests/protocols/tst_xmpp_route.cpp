@@ -1,0 +1,477 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_route.h"
+#include "tests/protocols/fake_xmpp_link.h"
+#include "tests/support/fakes/kirv_fake_clock.h"
+
+#include <QHash>
+#include <QSignalSpy>
+#include <QTest>
+#include <memory>
+
+using Records = QList<KirvXmppServiceRecord>;
+using Security = QXmppConfiguration::StreamSecurityMode;
+
+Q_DECLARE_METATYPE(Security)
+Q_DECLARE_METATYPE(KirvFailure::Kind)
+Q_DECLARE_METATYPE(KirvXmppTarget)
+Q_DECLARE_METATYPE(KirvXmppServiceRecord)
+
+namespace {
+
+const QString ordinaryName = "_xmpp-client._tcp.example.org";
+const QString directName = "_xmpps-client._tcp.example.org";
+
+KirvXmppServiceRecord record(const QString &host, int port, int priority = 0, int weight = 0)
+{
+    return { host, port, priority, weight };
+}
+
+} // namespace
+
+/// The way to a server, with service records, servers and ports that a test scripts.
+class TestXmppRoute : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void recordsAreTriedInTheirOrder_data();
+    void recordsAreTriedInTheirOrder();
+    void serviceNamesAreThoseOfTheDomain();
+
+    void aServerThatIsGivenIsNotLookedUp();
+    void theServicesFollowTheEncryption_data();
+    void theServicesFollowTheEncryption();
+    void theNextServerIsTriedWhenOneCannotBeReached_data();
+    void theNextServerIsTriedWhenOneCannotBeReached();
+    void aServerThatRefusesEndsTheSearch();
+    void aSilentLookUpDoesNotHoldTheLogIn();
+    void aSilentServerIsLeftForTheNext();
+    void theLastServerMayTakeItsTime();
+
+    void aReferenceIsFollowed_data();
+    void aReferenceIsFollowed();
+    void referencesWithoutEndAreNotFollowed();
+    void aReferenceNeverWeakensSecurity_data();
+    void aReferenceNeverWeakensSecurity();
+    void aReferenceOfASessionEndsIt();
+
+    void theOtherStartIsNamed_data();
+    void theOtherStartIsNamed();
+    void anotherEndIsReportedAsItIs_data();
+    void anotherEndIsReportedAsItIs();
+
+    void everythingIsPassedOn();
+    void requestsWithoutAServerFail();
+    void nothingComesAfterAnAbort_data();
+    void nothingComesAfterAnAbort();
+    void closingDuringTheLookUpEndsIt();
+
+private:
+    void open(Security security = QXmppConfiguration::TLSRequired, const QString &host = QString());
+    void answer(const QString &name, const Records &records) { lookUps.take(name)(records); }
+    QString address() const
+    {
+        const QXmppConfiguration &used = server.link()->configuration;
+        const bool isDirect = used.streamSecurityMode() == QXmppConfiguration::LegacySSL;
+        return QString("%1:%2%3").arg(used.host()).arg(used.port()).arg(isDirect ? " direct" : "");
+    }
+    KirvFailure ending() const { return ended->isEmpty() ? KirvFailure() : ended->last().first().value<KirvFailure>(); }
+
+    KirvFakeClock clock;
+    FakeXmppServer server;
+    QHash<QString, std::function<void(const Records &)>> lookUps; ///< without a reply
+    QList<std::function<void(bool)>> probes; ///< without a reply
+    std::unique_ptr<KirvXmppRoute> route;
+    std::unique_ptr<QSignalSpy> ended;
+};
+
+void TestXmppRoute::init()
+{
+    qRegisterMetaType<KirvFailure>("KirvFailure");
+    server = FakeXmppServer();
+    lookUps.clear();
+    probes.clear();
+    route = std::make_unique<KirvXmppRoute>(
+        KirvXmppLink::LogIn, clock, 1000, server.factory(),
+        [this](const QString &name, QObject *, const std::function<void(const Records &)> &receiver) {
+            lookUps.insert(name, receiver);
+        },
+        [this](const KirvXmppTarget &, const QNetworkProxy &, KirvClock &, QObject *,
+               const std::function<void(bool)> &receiver) { probes << receiver; });
+    ended = std::make_unique<QSignalSpy>(route.get(), &KirvXmppLink::ended);
+}
+
+void TestXmppRoute::cleanup()
+{
+    ended.reset();
+    route.reset();
+}
+
+void TestXmppRoute::open(Security security, const QString &host)
+{
+    QXmppConfiguration configuration;
+    configuration.setDomain("example.org");
+    configuration.setHost(host);
+    configuration.setPort(security == QXmppConfiguration::LegacySSL ? 5223 : 5222);
+    configuration.setStreamSecurityMode(security);
+    route->open(configuration, QXmppPresence());
+}
+
+void TestXmppRoute::recordsAreTriedInTheirOrder_data()
+{
+    QTest::addColumn<Records>("ordinary");
+    QTest::addColumn<Records>("direct");
+    QTest::addColumn<bool>("isHighest");
+    QTest::addColumn<QList<KirvXmppTarget>>("targets");
+    const KirvXmppTarget a { "a", 1, false }, b { "b", 2, false }, c { "c", 3, true };
+    QTest::newRow("none") << Records() << Records() << false << QList<KirvXmppTarget>();
+    QTest::newRow("priority") << Records { record("b", 2, 20), record("a", 1, 10) } << Records() << false
+                              << QList<KirvXmppTarget> { a, b };
+    QTest::newRow("both services, one order")
+        << Records { record("b", 2, 20), record("a", 1, 5) } << Records { record("c", 3, 10) } << false
+        << QList<KirvXmppTarget> { a, c, b };
+    QTest::newRow("weight, the smallest number") << Records { record("a", 1, 0, 10), record("b", 2, 0, 90) }
+                                                 << Records() << false << QList<KirvXmppTarget> { a, b };
+    QTest::newRow("weight, the largest number") << Records { record("a", 1, 0, 10), record("b", 2, 0, 90) } << Records()
+                                                << true << QList<KirvXmppTarget> { b, a };
+    QTest::newRow("no such service") << Records { record(".", 0) } << Records { record("", 5223) } << false
+                                     << QList<KirvXmppTarget>();
+    QTest::newRow("root of the names, port 0") << Records { record("a.", 1), record("b", 0), record("b", 70000) }
+                                               << Records() << false << QList<KirvXmppTarget> { a };
+}
+
+void TestXmppRoute::recordsAreTriedInTheirOrder()
+{
+    QFETCH(Records, ordinary);
+    QFETCH(Records, direct);
+    QFETCH(bool, isHighest);
+    QFETCH(QList<KirvXmppTarget>, targets);
+    QCOMPARE(kirvXmppTargets(ordinary, direct, [=](int largest) { return isHighest ? largest : 0; }), targets);
+}
+
+void TestXmppRoute::serviceNamesAreThoseOfTheDomain()
+{
+    QCOMPARE(kirvXmppServiceName("example.org", false), ordinaryName);
+    QCOMPARE(kirvXmppServiceName("example.org", true), directName);
+    QCOMPARE(kirvXmppServiceName(QString::fromUtf8("bücher.example"), false),
+             QString("_xmpp-client._tcp.xn--bcher-kva.example"));
+    Records many;
+    for (int i = 1; i < 1000; ++i)
+        many << record("a", i);
+    QVERIFY(kirvXmppTargets(many, many, [](int) { return 0; }).size() <= 40);
+}
+
+void TestXmppRoute::aServerThatIsGivenIsNotLookedUp()
+{
+    open(QXmppConfiguration::TLSRequired, "127.0.0.1");
+    QVERIFY(lookUps.isEmpty());
+    QCOMPARE(address(), QString("127.0.0.1:5222"));
+    server.link()->end(KirvFailure::ConnectionRefused);
+    QCOMPARE(ending().kind(), KirvFailure::ConnectionRefused);
+    QCOMPARE(server.links, 1);
+}
+
+void TestXmppRoute::theServicesFollowTheEncryption_data()
+{
+    QTest::addColumn<Security>("security");
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("domain");
+    QTest::newRow("required") << QXmppConfiguration::TLSRequired << QStringList { ordinaryName, directName }
+                              << "example.org:5222";
+    QTest::newRow("offered") << QXmppConfiguration::TLSEnabled << QStringList { ordinaryName, directName }
+                             << "example.org:5222";
+    QTest::newRow("none") << QXmppConfiguration::TLSDisabled << QStringList { ordinaryName } << "example.org:5222";
+    QTest::newRow("direct") << QXmppConfiguration::LegacySSL << QStringList { directName } << "example.org:5223 direct";
+}
+
+void TestXmppRoute::theServicesFollowTheEncryption()
+{
+    QFETCH(Security, security);
+    QFETCH(QStringList, names);
+    open(security);
+    QStringList requested = lookUps.keys();
+    requested.sort();
+    QCOMPARE(requested, names);
+    QCOMPARE(server.links, 0);
+    for (const QString &name : names)
+        answer(name, Records());
+    QTEST(address(), "domain");
+    QCOMPARE(server.link()->configuration.streamSecurityMode(), security);
+}
+
+void TestXmppRoute::theNextServerIsTriedWhenOneCannotBeReached_data()
+{
+    QTest::addColumn<KirvFailure::Kind>("kind");
+    QTest::newRow("not found") << KirvFailure::HostNotFound;
+    QTest::newRow("refused") << KirvFailure::ConnectionRefused;
+    QTest::newRow("lost at once") << KirvFailure::ConnectionLost;
+}
+
+void TestXmppRoute::theNextServerIsTriedWhenOneCannotBeReached()
+{
+    QFETCH(KirvFailure::Kind, kind);
+    open();
+    answer(directName, Records { record("one", 443, 10) });
+    QCOMPARE(server.links, 0);
+    answer(ordinaryName, Records { record("two", 5000, 20) });
+    const auto fail = [&] {
+        server.link()->end(kind);
+        if (!probes.isEmpty())
+            probes.takeFirst()(false);
+    };
+    QCOMPARE(address(), QString("one:443 direct"));
+    fail();
+    QCOMPARE(address(), QString("two:5000"));
+    QCOMPARE(server.link()->configuration.streamSecurityMode(), QXmppConfiguration::TLSRequired);
+    fail();
+    QCOMPARE(address(), QString("example.org:5222"));
+    QCOMPARE(ended->size(), 0);
+    fail();
+    QCOMPARE(ended->size(), 1);
+    QCOMPARE(ending().kind(), kind);
+}
+
+void TestXmppRoute::aServerThatRefusesEndsTheSearch()
+{
+    open();
+    answer(directName, Records());
+    answer(ordinaryName, Records { record("one", 1), record("two", 2, 10) });
+    Q_EMIT server.link()->greeted();
+    server.link()->end(KirvFailure::WrongPassword);
+    QCOMPARE(ending().kind(), KirvFailure::WrongPassword);
+    QCOMPARE(server.links, 1);
+}
+
+void TestXmppRoute::aSilentLookUpDoesNotHoldTheLogIn()
+{
+    open();
+    answer(directName, Records { record("one", 443) });
+    const auto late = lookUps.take(ordinaryName);
+    clock.advance(4999);
+    QCOMPARE(server.links, 0);
+    clock.advance(1);
+    QCOMPARE(address(), QString("one:443 direct"));
+    late(Records { record("two", 2) });
+    QCOMPARE(server.links, 1);
+}
+
+void TestXmppRoute::aSilentServerIsLeftForTheNext()
+{
+    open();
+    answer(directName, Records());
+    answer(ordinaryName, Records { record("one", 1), record("two", 2, 10) });
+    clock.advance(KirvXmppRoute::silence);
+    QCOMPARE(address(), QString("two:2"));
+    Q_EMIT server.link()->greeted();
+    clock.advance(KirvXmppRoute::silence);
+    QCOMPARE(address(), QString("two:2"));
+    QCOMPARE(ended->size(), 0);
+}
+
+void TestXmppRoute::theLastServerMayTakeItsTime()
+{
+    open(QXmppConfiguration::TLSRequired, "one");
+    clock.advance(KirvXmppRoute::silence);
+    QCOMPARE(probes.size(), 1);
+    Q_EMIT server.link()->greeted();
+    probes.takeFirst()(true); // too late
+    QSignalSpy loggedIn(route.get(), &KirvXmppLink::loggedIn);
+    server.link()->arrive();
+    QCOMPARE(loggedIn.size(), 1);
+    QCOMPARE(ended->size(), 0);
+}
+
+void TestXmppRoute::aReferenceIsFollowed_data()
+{
+    QTest::addColumn<Security>("security");
+    QTest::addColumn<int>("port");
+    QTest::addColumn<QString>("followed");
+    QTest::newRow("with a port") << QXmppConfiguration::TLSRequired << 5333 << "other:5333";
+    QTest::newRow("without a port") << QXmppConfiguration::TLSRequired << 0 << "other:5222";
+    QTest::newRow("direct") << QXmppConfiguration::LegacySSL << 0 << "other:5223 direct";
+}
+
+void TestXmppRoute::aReferenceIsFollowed()
+{
+    QFETCH(Security, security);
+    QFETCH(int, port);
+    open(security, "one");
+    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->redirected("other", port, true);
+    QTEST(address(), "followed");
+    QCOMPARE(server.link()->configuration.domain(), QString("example.org")); // whose certificate it needs
+    QCOMPARE(ended->size(), 0);
+    server.link()->arrive();
+    QVERIFY(route->isReady());
+}
+
+void TestXmppRoute::referencesWithoutEndAreNotFollowed()
+{
+    open(QXmppConfiguration::TLSRequired, "one");
+    for (int i = 0; i < 100 && ended->isEmpty(); ++i)
+        Q_EMIT server.link()->redirected("other", 5222, true);
+    QCOMPARE(server.links, 1 + KirvXmppRoute::mostReferences);
+    QCOMPARE(ended->size(), 1);
+    QCOMPARE(ending().kind(), KirvFailure::ServiceUnavailable);
+}
+
+void TestXmppRoute::aReferenceNeverWeakensSecurity_data()
+{
+    QTest::addColumn<Security>("before");
+    QTest::addColumn<bool>("wasEncrypted");
+    QTest::addColumn<Security>("after");
+    QTest::newRow("required") << QXmppConfiguration::TLSRequired << false << QXmppConfiguration::TLSRequired;
+    QTest::newRow("direct") << QXmppConfiguration::LegacySSL << true << QXmppConfiguration::LegacySSL;
+    QTest::newRow("offered and used") << QXmppConfiguration::TLSEnabled << true << QXmppConfiguration::TLSRequired;
+    QTest::newRow("offered, not used yet") << QXmppConfiguration::TLSEnabled << false << QXmppConfiguration::TLSEnabled;
+    QTest::newRow("none") << QXmppConfiguration::TLSDisabled << false << QXmppConfiguration::TLSDisabled;
+}
+
+void TestXmppRoute::aReferenceNeverWeakensSecurity()
+{
+    QFETCH(Security, before);
+    QFETCH(bool, wasEncrypted);
+    open(before, "one");
+    Q_EMIT server.link()->redirected("other", 5222, wasEncrypted);
+    QTEST(server.link()->configuration.streamSecurityMode(), "after");
+    // The reference after it was received in clear.
+    Q_EMIT server.link()->redirected("third", 5222, false);
+    QTEST(server.link()->configuration.streamSecurityMode(), "after");
+}
+
+void TestXmppRoute::aReferenceOfASessionEndsIt()
+{
+    open(QXmppConfiguration::TLSRequired, "one");
+    server.link()->arrive();
+    Q_EMIT server.link()->redirected("other", 5222, true);
+    QCOMPARE(ending().kind(), KirvFailure::ServerShutDown); // and the account comes back by itself
+    QCOMPARE(server.links, 1);
+}
+
+void TestXmppRoute::theOtherStartIsNamed_data()
+{
+    QTest::addColumn<Security>("security");
+    QTest::addColumn<bool>("isSilent");
+    QTest::newRow("TLS at once, silent") << QXmppConfiguration::TLSRequired << true;
+    QTest::newRow("TLS at once, hangs up") << QXmppConfiguration::TLSRequired << false;
+    QTest::newRow("TLS later, silent") << QXmppConfiguration::LegacySSL << true;
+    QTest::newRow("TLS later, hangs up") << QXmppConfiguration::LegacySSL << false;
+}
+
+void TestXmppRoute::theOtherStartIsNamed()
+{
+    QFETCH(Security, security);
+    QFETCH(bool, isSilent);
+    open(security, "one");
+    if (isSilent)
+        clock.advance(KirvXmppRoute::silence);
+    else
+        server.link()->end(KirvFailure::ConnectionLost);
+    QCOMPARE(probes.size(), 1);
+    QCOMPARE(ended->size(), 0);
+    probes.takeFirst()(true);
+    QCOMPARE(ending().kind(), KirvFailure::BadSettings);
+    const QString text = ending().detail();
+    QVERIFY2(text.contains("one:522") && text.contains("direct TLS"), qPrintable(text));
+    QCOMPARE(text.contains("Do not choose"), security == QXmppConfiguration::LegacySSL);
+}
+
+void TestXmppRoute::anotherEndIsReportedAsItIs_data()
+{
+    QTest::addColumn<KirvFailure::Kind>("kind");
+    QTest::addColumn<int>("probed");
+    QTest::newRow("lost") << KirvFailure::ConnectionLost << 1;
+    QTest::newRow("handshake") << KirvFailure::Other << 1;
+    QTest::newRow("certificate") << KirvFailure::UntrustedCertificate << 0;
+    QTest::newRow("not found") << KirvFailure::HostNotFound << 0;
+}
+
+void TestXmppRoute::anotherEndIsReportedAsItIs()
+{
+    QFETCH(KirvFailure::Kind, kind);
+    QFETCH(int, probed);
+    open(QXmppConfiguration::TLSRequired, "one");
+    server.link()->end(kind);
+    QCOMPARE(probes.size(), probed);
+    if (!probes.isEmpty())
+        probes.takeFirst()(false);
+    QCOMPARE(ending().kind(), kind);
+    QCOMPARE(ended->size(), 1);
+}
+
+void TestXmppRoute::everythingIsPassedOn()
+{
+    open(QXmppConfiguration::TLSRequired, "one");
+    QSignalSpy loggedIn(route.get(), &KirvXmppLink::loggedIn);
+    QVERIFY(!route->isReady());
+    server.link()->arrive();
+    QCOMPARE(loggedIn.size(), 1);
+    QVERIFY(route->isReady());
+    route->sendPresence(QXmppPresence());
+    QCOMPARE(server.link()->presences.size(), 1);
+    int replies = 0;
+    route->sendRequest(
+        QXmppIq::Get, QDomDocument(), [&replies](const KirvXmppReply &) { ++replies; }, "to");
+    QCOMPARE(server.link()->requests.first().to, QString("to"));
+    server.link()->reply("<a xmlns='b'/>");
+    QCOMPARE(replies, 1);
+    route->close();
+    QCOMPARE(ended->size(), 1);
+    QVERIFY(!ending().isFailure());
+}
+
+void TestXmppRoute::requestsWithoutAServerFail()
+{
+    int replies = 0;
+    KirvXmppReply last;
+    route->sendRequest(
+        QXmppIq::Get, QDomDocument(),
+        [&](const KirvXmppReply &reply) {
+            ++replies;
+            last = reply;
+        },
+        QString());
+    QCOMPARE(replies, 0);
+    clock.advance(0);
+    QCOMPARE(replies, 1);
+    QCOMPARE(last.failure.kind(), KirvFailure::ConnectionLost);
+}
+
+void TestXmppRoute::nothingComesAfterAnAbort_data()
+{
+    QTest::addColumn<QString>("moment");
+    for (const char *moment : { "look-up", "connecting", "probing" })
+        QTest::newRow(moment) << moment;
+}
+
+void TestXmppRoute::nothingComesAfterAnAbort()
+{
+    QFETCH(QString, moment);
+    open(QXmppConfiguration::TLSRequired, moment == "look-up" ? "" : "one");
+    if (moment == "probing")
+        server.link()->end(KirvFailure::ConnectionLost);
+    route->abort();
+    for (const QString &name : lookUps.keys())
+        answer(name, Records { record("one", 1) });
+    for (const auto &probe : probes)
+        probe(true);
+    clock.advance(100000);
+    QCoreApplication::processEvents();
+    QCOMPARE(ended->size(), 0);
+    QCOMPARE(server.links, moment == "look-up" ? 0 : 1);
+}
+
+void TestXmppRoute::closingDuringTheLookUpEndsIt()
+{
+    open();
+    route->close();
+    QCOMPARE(ended->size(), 0);
+    clock.advance(0);
+    QCOMPARE(ended->size(), 1);
+    QVERIFY(!ending().isFailure());
+}
+
+QTEST_GUILESS_MAIN(TestXmppRoute)
+#include "tst_xmpp_route.moc"
