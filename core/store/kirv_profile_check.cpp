@@ -73,6 +73,11 @@ KirvProfileState KirvProfileCheck::look() const
         return { KirvProfileState::Unusable,
                  tr("\"%1\" is a link. The program follows no link inside a profile: replace it by what it leads to.")
                      .arg(QDir::toNativeSeparators(link)) };
+    const QString special = specialFileInside();
+    if (!special.isEmpty())
+        return { KirvProfileState::Unusable,
+                 tr("\"%1\" is not an ordinary file. Move it away to use the profile.")
+                     .arg(QDir::toNativeSeparators(special)) };
     const mode_t avatars = kindOf(paths.avatars());
     if (kindOf(paths.database()) == 0)
         return lookAtFolderWithoutDatabase();
@@ -86,6 +91,17 @@ QString KirvProfileCheck::linkInside() const
     const auto link =
         std::find_if(names.begin(), names.end(), [](const QString &name) { return kindOf(name) == S_IFLNK; });
     return link == names.end() ? QString() : *link;
+}
+
+/// Reading a pipe or a device would wait for ever.
+QString KirvProfileCheck::specialFileInside() const
+{
+    const QStringList names { paths.log(), paths.logIndex(), paths.journal(), paths.unfinished(), paths.lock() };
+    const auto special = std::find_if(names.begin(), names.end(), [](const QString &name) {
+        const mode_t kind = kindOf(name);
+        return kind != 0 && kind != S_IFREG;
+    });
+    return special == names.end() ? QString() : *special;
 }
 
 KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const

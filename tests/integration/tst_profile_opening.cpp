@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_default_profile.h"
+#include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
@@ -77,6 +78,8 @@ private Q_SLOTS:
     void filesOfOthersStayInTheAvatarFolder();
     void noLinkLeadsOutOfTheProfile_data();
     void noLinkLeadsOutOfTheProfile();
+    void aPipeOrFolderInPlaceOfAFileIsSaid_data();
+    void aPipeOrFolderInPlaceOfAFileIsSaid();
     void anAvatarNameThatLeavesTheFolderIsNeverUsed_data();
     void anAvatarNameThatLeavesTheFolderIsNeverUsed();
     void aLostDatabaseIsNeverNew_data();
@@ -90,6 +93,8 @@ private Q_SLOTS:
     void aDeadLockLocksNobodyOut();
     void theLockIsFoundOnEveryWayToTheProfile_data();
     void theLockIsFoundOnEveryWayToTheProfile();
+    void whatAnotherInstanceHoldsIsNotDamaged_data();
+    void whatAnotherInstanceHoldsIsNotDamaged();
     void ofSixAtOnceOneOpens();
     void aHotJournalIsRolledBack();
     void aLogThatWasLeftIsReplayed();
@@ -238,6 +243,39 @@ void tst_ProfileOpening::noLinkLeadsOutOfTheProfile()
     store.close();
     store.open(folder);
     QCOMPARE(treeOf(outside), before);
+}
+
+void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isPipe");
+    for (const char *name : { "profile.sqlite-wal", "profile.sqlite-shm", "profile.sqlite-journal",
+                              "profile.sqlite.unfinished", "profile.lock" }) {
+        QTest::addRow("pipe %s", name) << name << true;
+        QTest::addRow("folder %s", name) << name << false;
+    }
+}
+
+/// Whoever reads a pipe waits for its other end: opening is tried in a process of its own.
+void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isPipe);
+    makeProfile();
+    const QString file = QDir(folder).filePath(name);
+    QFile::remove(file);
+    if (isPipe)
+        QCOMPARE(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    else
+        QVERIFY(QDir().mkdir(file));
+    QProcess holder;
+    holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
+    const bool hasReplied = holder.waitForReadyRead(20000);
+    const QByteArray reply = holder.readAll();
+    holder.kill();
+    holder.waitForFinished();
+    QVERIFY(hasReplied);
+    QVERIFY2(reply.contains("is not an ordinary file") && reply.contains(name.toLatin1()), reply.constData());
 }
 
 void tst_ProfileOpening::anAvatarNameThatLeavesTheFolderIsNeverUsed_data()
@@ -425,6 +463,36 @@ void tst_ProfileOpening::theLockIsFoundOnEveryWayToTheProfile()
         ::umount2(QFile::encodeName(other).constData(), MNT_DETACH);
     QVERIFY(!opened && locked);
     QVERIFY(openedAfter);
+}
+
+void tst_ProfileOpening::whatAnotherInstanceHoldsIsNotDamaged_data()
+{
+    QTest::addColumn<bool>("isMissing");
+    QTest::newRow("its database has no name yet") << true;
+    QTest::newRow("its database is empty") << false;
+}
+
+/// What can be seen for a moment while the other one makes the database or empties its log.
+void tst_ProfileOpening::whatAnotherInstanceHoldsIsNotDamaged()
+{
+    QFETCH(bool, isMissing);
+    makeProfile();
+    QProcess holder;
+    holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
+    QVERIFY(holder.waitForReadyRead(20000));
+    for (const char *suffix : { "", "-wal", "-shm" })
+        QFile::remove(database() + QLatin1String(suffix));
+    if (!isMissing)
+        QVERIFY(writeFile(database(), QByteArray()));
+    KirvStore store;
+    QVERIFY(!store.open(folder));
+    QCOMPARE(store.state(), KirvProfileState::InUse);
+    QCOMPARE(KirvProfileRescue(folder).check().kind, KirvProfileState::InUse);
+    holder.kill();
+    holder.waitForFinished();
+    QVERIFY(!store.open(folder));
+    QCOMPARE(store.state(), KirvProfileState::Damaged);
+    QCOMPARE(KirvProfileRescue(folder).check().kind, KirvProfileState::Damaged);
 }
 
 void tst_ProfileOpening::ofSixAtOnceOneOpens()
