@@ -11,6 +11,11 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+namespace {
+/// In average characters: a narrower text would make the window higher than small screens are.
+const int shortestLine = 32;
+} // namespace
+
 KirvAccountInvitation::KirvAccountInvitation(QWidget *parent)
     : QWidget(parent)
     , addButton(new QPushButton(tr("Add an Account"), this))
@@ -34,6 +39,7 @@ KirvAccountInvitation::KirvAccountInvitation(QWidget *parent)
     text->setObjectName(QStringLiteral("Accounts_InvitationText"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
+    text->setMinimumWidth(shortestLine * fontMetrics().averageCharWidth());
     text->setAlignment(Qt::AlignCenter);
 
     auto *buttons = new QVBoxLayout;

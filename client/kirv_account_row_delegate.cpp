@@ -26,6 +26,15 @@ QColor mixed(const QColor &ink, const QColor &paper)
                             mix(ink.blueF(), paper.blueF()));
 }
 
+/// The icon as it is, also on a selected row: styles mix it with the colour behind it.
+QIcon untintedIcon(const QStyleOptionViewItem &option)
+{
+    const QPixmap picture = option.icon.pixmap(option.decorationSize);
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
+
 QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
 {
     if (!(option.state & QStyle::State_Enabled))
@@ -53,6 +62,8 @@ const KirvAccount *KirvAccountRowDelegate::accountOf(const QModelIndex &index) c
 void KirvAccountRowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     KirvNameDelegate::initStyleOption(option, index);
+    if (index.column() == KirvProtocolColumn && option->state & QStyle::State_Selected)
+        option->icon = untintedIcon(*option);
     if (index.column() != KirvAliasColumn)
         return;
     if (option->text.isEmpty()) {

@@ -77,6 +77,9 @@ QString KirvAccountStatus::text(const QDateTime &now) const
 
 QString KirvAccountStatus::waitingText(const QDateTime &now) const
 {
+    if (account.connection()->isWaitingForTurn())
+        //: other accounts connect first
+        return tr("Waiting to connect…");
     const qint64 seconds = qMax<qint64>(1, (now.msecsTo(account.connection()->nextRetry()) + 999) / 1000);
     if (seconds < secondsShown)
         //: %1 = number of seconds; keep it short
@@ -92,7 +95,7 @@ QString KirvAccountStatus::line(const QDateTime &now) const
 
 QString KirvAccountStatus::spokenLine() const
 {
-    if (stateKind != Waiting)
+    if (stateKind != Waiting || account.connection()->isWaitingForTurn())
         return lineOf(text());
     //: %1 = time of day
     return lineOf(tr("Waiting, next try at %1").arg(timeText(account.connection()->nextRetry())));
@@ -119,9 +122,7 @@ QString KirvAccountStatus::reason() const
     case Connecting:
         return sentences({ failure.text(), since() });
     case Waiting:
-        return sentences({ failure.text(),
-                           //: %1 = time of day
-                           tr("The next try is at %1.").arg(timeText(account.connection()->nextRetry())) });
+        return sentences({ failure.text(), waitingReason() });
     case Failed:
         return sentences({ failure.text(), advice(failure), since() });
     case OffLine:
@@ -133,6 +134,14 @@ QString KirvAccountStatus::reason() const
     }
     return tr("The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.")
         .arg(kirvPlainName(account.key().protocol));
+}
+
+QString KirvAccountStatus::waitingReason() const
+{
+    const KirvConnection *connection = account.connection();
+    return connection->isWaitingForTurn() ? tr("Other accounts connect first.")
+                                          //: %1 = time of day
+                                          : tr("The next try is at %1.").arg(timeText(connection->nextRetry()));
 }
 
 QString KirvAccountStatus::connectedReason() const

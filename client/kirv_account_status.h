@@ -51,6 +51,7 @@ private:
     static QString advice(const KirvFailure &failure);
     QString lineOf(const QString &state) const;
     QString waitingText(const QDateTime &now) const;
+    QString waitingReason() const;
     QString connectedReason() const;
     /// Since when the connection has been in its state; a sentence.
     QString since() const;

@@ -2,14 +2,17 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_commands.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_strip.h"
+#include "client/kirv_alias_editor.h"
 #include "client/kirv_main_account_selector.h"
 #include "client/kirv_plain_text.h"
+#include "client/kirv_selecting_style.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
@@ -17,15 +20,18 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QItemSelectionModel>
+#include <QMessageBox>
 #include <QPalette>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <utility>
 
-KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts)
+KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts,
+                                                     KirvServerCommands &serverCommands, KirvMainAccount &mainAccount)
     : QObject(top)
     , accounts(accounts)
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
@@ -35,7 +41,30 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     , invitation(new KirvAccountInvitation)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
-    list->setItemDelegate(new KirvAccountRowDelegate(accounts, list));
+    addWidgets(top);
+    addCommands(top, serverCommands, mainAccount);
+    // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
+    // page takes the row away itself, after this, when it removed the account.
+    connect(&accounts, &KirvAccountCollection::accountAdded, this, [this](const KirvAccount *account) {
+        added = account->key();
+        syncRowLater(account->key());
+    });
+    connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
+        const QTreeWidgetItem *row = rows->find(account->key());
+        if (row && row->text(KirvAliasColumn) != account->getAlias())
+            syncRowLater(account->key());
+    });
+    connect(&accounts, &KirvAccountCollection::accountRemoved, this,
+            [this](const QString &id, const QString &protocol) {
+                syncRowLater({ id, protocol });
+            });
+    connect(&accounts, &KirvAccountCollection::removalRefused, this, &KirvAccountsPageCompanion::keepRow);
+}
+
+KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
+
+void KirvAccountsPageCompanion::addWidgets(QWidget *top)
+{
     auto *frame = new KirvAccountListFrame(list);
     frame->addBelow(strip);
     frame->addBelow(invitation);
@@ -52,23 +81,31 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     // The page gives the button its menu after this.
     QMetaObject::invokeMethod(
         this, [this] { invitation->setAddMenu(addButton->menu()); }, Qt::QueuedConnection);
-    // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
-    // page takes the row away itself, after this, when it removed the account.
-    connect(&accounts, &KirvAccountCollection::accountAdded, this,
-            [this](const KirvAccount *account) { syncRowLater(account->key()); });
-    connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
-        const QTreeWidgetItem *row = rows->find(account->key());
-        if (row && row->text(KirvAliasColumn) != account->getAlias())
-            syncRowLater(account->key());
-    });
-    connect(&accounts, &KirvAccountCollection::accountRemoved, this,
-            [this](const QString &id, const QString &protocol) {
-                syncRowLater({ id, protocol });
-            });
-    connect(&accounts, &KirvAccountCollection::removalRefused, this, &KirvAccountsPageCompanion::keepRow);
 }
 
-KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
+void KirvAccountsPageCompanion::addCommands(QWidget *top, KirvServerCommands &serverCommands,
+                                            KirvMainAccount &mainAccount)
+{
+    auto *delegate = new KirvAccountRowDelegate(accounts, list);
+    list->setItemDelegate(delegate);
+    list->setStyle(new KirvSelectingStyle(list));
+    aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
+    auto *commands = new KirvAccountCommands({ accounts, *rows, serverCommands, mainAccount }, aliasEditor, top, list);
+    connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
+}
+
+/// What the user does in the list is not disturbed: an open question is answered for what is selected then.
+void KirvAccountsPageCompanion::selectNewRow(const KirvAccountKey &key)
+{
+    QTreeWidgetItem *row = rows->find(key);
+    const auto questions = KirvAccountsTab::getInstance()->findChildren<QMessageBox *>();
+    const bool isAsked =
+        std::any_of(questions.begin(), questions.end(), [](const QMessageBox *box) { return box->isVisible(); });
+    if (!row || isAsked || aliasEditor->isOpen())
+        return;
+    list->setCurrentItem(row);
+    list->scrollToItem(row);
+}
 
 /// Shows the invitation while there is no account, and otherwise the list.
 void KirvAccountsPageCompanion::invite()
@@ -79,9 +116,15 @@ void KirvAccountsPageCompanion::invite()
     const QWidget *focused = list->window()->focusWidget();
     const bool hadFocus =
         focused && (focused == list || strip->isAncestorOf(focused) || invitation->isAncestorOf(focused));
-    list->setVisible(!isEmpty);
-    strip->setVisible(!isEmpty);
-    invitation->setVisible(isEmpty);
+    // Hidden first, shown then: both together would make the window higher.
+    QList<QWidget *> shown { list, strip };
+    QList<QWidget *> hidden { invitation };
+    if (isEmpty)
+        shown.swap(hidden);
+    for (QWidget *widget : qAsConst(hidden))
+        widget->hide();
+    for (QWidget *widget : qAsConst(shown))
+        widget->show();
     if (hadFocus && isEmpty)
         invitation->takeFocus();
     else if (hadFocus)
@@ -229,6 +272,7 @@ void KirvAccountsPageCompanion::syncRows()
     invite();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
+    selectNewRow(std::exchange(added, KirvAccountKey()));
 }
 
 /// A new alias that another part of the program gave.

@@ -15,6 +15,9 @@ class KirvAccountInvitation;
 class KirvAccountRows;
 class KirvAccountRowStates;
 class KirvAccountStrip;
+class KirvAliasEditor;
+class KirvMainAccount;
+class KirvServerCommands;
 class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -29,8 +32,9 @@ class KirvAccountsPageCompanion : public QObject {
     Q_OBJECT
 
 public:
-    /// \a top was just built for the page. \a accounts outlives it.
-    KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts);
+    /// \a top was just built for the page. The others are not owned and outlive it.
+    KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts, KirvServerCommands &serverCommands,
+                              KirvMainAccount &mainAccount);
     ~KirvAccountsPageCompanion() override;
 
     /// The protocol was loaded, and its accounts with it.
@@ -58,8 +62,11 @@ private:
         int scrollValue;
     };
 
+    void addWidgets(QWidget *top);
+    void addCommands(QWidget *top, KirvServerCommands &serverCommands, KirvMainAccount &mainAccount);
     void connectStrip();
     void invite();
+    void selectNewRow(const KirvAccountKey &key);
     void refreshStripLater();
     void refreshStrip();
 
@@ -84,7 +91,9 @@ private:
     KirvAccountStrip *strip;
     KirvAccountInvitation *invitation;
     QToolButton *addButton;
+    KirvAliasEditor *aliasEditor = nullptr;
     std::vector<KeptRow> keptRows;
+    KirvAccountKey added; ///< the latest account, until its row is selected
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
     bool isSyncDue = false;
     bool isStripDue = false;

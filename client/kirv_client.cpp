@@ -13,6 +13,7 @@
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_visible_boxes.h"
+#include "client/kirv_wheel_guard.h"
 #include "client/kirv_window_companions.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/host/kirv_host_services.h"
@@ -133,11 +134,13 @@ void KirvClient::createWindow()
 {
     settingsWindow = std::make_unique<KirvSettingsWindow>(*clientSettings);
     new KirvVisibleBoxes(settingsWindow.get());
+    new KirvWheelGuard(settingsWindow.get());
     // Building the page may reject layouts of the user's own already.
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
-    companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, settingsWindow.get());
+    companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, services->mainAccountRule,
+                                          settingsWindow.get());
     page = KirvAccountsTab::getInstance();
     connections = new KirvConnectionView(*accountCollection, *serverCommands);
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);

@@ -11,10 +11,12 @@
 #include <algorithm>
 
 KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
-                                           KirvServerCommands &serverCommands, QObject *parent)
+                                           KirvServerCommands &serverCommands, KirvMainAccount &mainAccount,
+                                           QObject *parent)
     : QObject(parent)
     , accounts(accounts)
     , serverCommands(serverCommands)
+    , mainAccount(mainAccount)
 {
     connect(&layouts, &KirvLayoutCatalog::windowBuilt, this, &KirvWindowCompanions::add);
 }
@@ -49,7 +51,7 @@ void KirvWindowCompanions::add(const QString &layout, QWidget *top)
 {
     auto *dialog = qobject_cast<KirvLayoutDialog *>(top);
     if (layout == QLatin1String("Accounts")) {
-        pageCompanion = new KirvAccountsPageCompanion(top, accounts);
+        pageCompanion = new KirvAccountsPageCompanion(top, accounts, serverCommands, mainAccount);
     } else if (KirvEditAccountDialog *controller = KirvEditAccountDialog::of(dialog)) {
         editWindows.removeAll(nullptr);
         editWindows << new KirvEditWindowCompanion(dialog, controller, accounts, serverCommands);

@@ -13,6 +13,7 @@ class KirvAccountsPageCompanion;
 class KirvAddWindowCompanion;
 class KirvEditWindowCompanion;
 class KirvLayoutCatalog;
+class KirvMainAccount;
 class KirvServerCommands;
 class QWidget;
 
@@ -23,7 +24,7 @@ class KirvWindowCompanions : public QObject {
 public:
     /// None is owned, and all outlive this.
     KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
-                         KirvServerCommands &serverCommands, QObject *parent = nullptr);
+                         KirvServerCommands &serverCommands, KirvMainAccount &mainAccount, QObject *parent = nullptr);
 
     /// That of the page; null before the page is built and after it is gone.
     KirvAccountsPageCompanion *page() const;
@@ -37,6 +38,7 @@ private:
 
     KirvAccountCollection &accounts;
     KirvServerCommands &serverCommands;
+    KirvMainAccount &mainAccount;
     QPointer<KirvAccountsPageCompanion> pageCompanion;
     QList<QPointer<KirvEditWindowCompanion>> editWindows;
     QList<QPointer<KirvAddWindowCompanion>> addWindows;

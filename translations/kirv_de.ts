@@ -262,6 +262,45 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCommands</name>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>E&amp;ntfernen…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Deaktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Aktivieren</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>Zum &amp;Hauptkonto machen</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>&amp;Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>&amp;Passwort eingeben …</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>An&amp;wesenheit</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -269,10 +308,273 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountInvitation</name>
+    <message>
+        <source>Add an Account</source>
+        <translation>Konto hinzufügen</translation>
+    </message>
+    <message>
+        <source>Register a New One…</source>
+        <translation>Neues registrieren…</translation>
+    </message>
+    <message>
+        <source>Create a new account on a server</source>
+        <translation>Ein neues Konto auf einem Server anlegen</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, or register a new one.</source>
+        <translation>Es gibt noch kein Konto. Fügen Sie eines hinzu, das Sie schon haben, oder registrieren Sie ein neues.</translation>
+    </message>
+    <message>
+        <source>Add an account that you already have</source>
+        <translation>Ein Konto hinzufügen, das Sie schon haben</translation>
+    </message>
+    <message>
+        <source>No protocol is loaded. Load one on the Plug-ins page.</source>
+        <translation>Kein Protokoll ist geladen. Laden Sie eines auf der Seite „Module“.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountRowStates</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>read aloud for a row: %1 = name of an account, %2 = its state</extracomment>
+        <translation>%1: %2 {1,?}</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountStatus</name>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Logging out…</source>
+        <translation>Meldet sich ab …</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbindet …</translation>
+    </message>
+    <message>
+        <source>Off line</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>Its plug-in is not loaded</source>
+        <translation>Sein Modul ist nicht geladen</translation>
+    </message>
+    <message>
+        <source>Waiting to connect…</source>
+        <extracomment>other accounts connect first</extracomment>
+        <translation>Wartet auf die Verbindung…</translation>
+    </message>
+    <message>
+        <source>Waiting, next try in %1 s</source>
+        <extracomment>%1 = number of seconds; keep it short</extracomment>
+        <translation>Wartet, nächster Versuch in %1 s</translation>
+    </message>
+    <message>
+        <source>Waiting, next try in %1 min</source>
+        <extracomment>%1 = number of minutes; keep it short</extracomment>
+        <translation>Wartet, nächster Versuch in %1 min</translation>
+    </message>
+    <message>
+        <source>Waiting, next try at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>Wartet, nächster Versuch um %1</translation>
+    </message>
+    <message>
+        <source>main account</source>
+        <translation>Hauptkonto</translation>
+    </message>
+    <message>
+        <source> · </source>
+        <extracomment>between the parts of the line below the name of an account, as in &quot;Connected · Away · main account&quot;</extracomment>
+        <translation> · </translation>
+    </message>
+    <message>
+        <source>The account is logged out. It can be logged in with Reconnect.</source>
+        <translation>Das Konto ist abgemeldet. Es kann mit „Neu verbinden“ angemeldet werden.</translation>
+    </message>
+    <message>
+        <source>The account does not log in. It can be enabled with its check box.</source>
+        <translation>Das Konto meldet sich nicht an. Es kann mit seinem Kästchen aktiviert werden.</translation>
+    </message>
+    <message>
+        <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
+        <translation>Das Modul des Protokolls %1 ist nicht geladen. Laden Sie es auf der Seite „Module“.</translation>
+    </message>
+    <message>
+        <source>Other accounts connect first.</source>
+        <translation>Andere Konten verbinden sich zuerst.</translation>
+    </message>
+    <message>
+        <source>The next try is at %1.</source>
+        <translation>Der nächste Versuch ist um %1.</translation>
+    </message>
+    <message>
+        <source>The presence is %1.</source>
+        <translation>Die Anwesenheit ist %1.</translation>
+    </message>
+    <message>
+        <source>The connection is protected by %1.</source>
+        <translation>Die Verbindung ist durch %1 geschützt.</translation>
+    </message>
+    <message>
+        <source>Since %1.</source>
+        <extracomment>%1 = time of day, or date and time, since when a connection has been in its state</extracomment>
+        <translation>Seit %1.</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Falsches Passwort</translation>
+    </message>
+    <message>
+        <source>Password needed</source>
+        <translation>Passwort nötig</translation>
+    </message>
+    <message>
+        <source>Server not found</source>
+        <translation>Server nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Server not reachable</source>
+        <translation>Server nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No reply from the server</source>
+        <translation>Keine Antwort vom Server</translation>
+    </message>
+    <message>
+        <source>Certificate not trusted</source>
+        <translation>Zertifikat nicht vertrauenswürdig</translation>
+    </message>
+    <message>
+        <source>Encryption not offered</source>
+        <translation>Keine Verschlüsselung angeboten</translation>
+    </message>
+    <message>
+        <source>No usable log-in offered</source>
+        <translation>Keine brauchbare Anmeldung angeboten</translation>
+    </message>
+    <message>
+        <source>Server not available</source>
+        <translation>Server nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Verbindung verloren</translation>
+    </message>
+    <message>
+        <source>Connection closed by the server</source>
+        <translation>Verbindung vom Server geschlossen</translation>
+    </message>
+    <message>
+        <source>Logged in elsewhere</source>
+        <translation>Anderswo angemeldet</translation>
+    </message>
+    <message>
+        <source>Name in use</source>
+        <translation>Name vergeben</translation>
+    </message>
+    <message>
+        <source>Name not allowed</source>
+        <translation>Name nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Access denied</source>
+        <translation>Zugang verweigert</translation>
+    </message>
+    <message>
+        <source>Settings cannot be used</source>
+        <translation>Einstellungen nicht benutzbar</translation>
+    </message>
+    <message>
+        <source>Not supported by the server</source>
+        <translation>Vom Server nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Log-in failed</source>
+        <translation>Anmeldung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Enter the password again, or edit the account if the login is wrong.</source>
+        <translation>Geben Sie das Passwort erneut ein, oder bearbeiten Sie das Konto, wenn der Anmeldename falsch ist.</translation>
+    </message>
+    <message>
+        <source>Enter the password.</source>
+        <translation>Geben Sie das Passwort ein.</translation>
+    </message>
+    <message>
+        <source>Edit the account to change its settings.</source>
+        <translation>Bearbeiten Sie das Konto, um seine Einstellungen zu ändern.</translation>
+    </message>
+    <message>
+        <source>It can be logged in here again with Reconnect.</source>
+        <translation>Es kann mit „Neu verbinden“ hier wieder angemeldet werden.</translation>
+    </message>
+    <message>
+        <source>It can be tried again with Reconnect.</source>
+        <translation>Mit „Neu verbinden“ kann es erneut versucht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountStrip</name>
+    <message>
+        <source>Enter Password…</source>
+        <translation>Passwort eingeben…</translation>
+    </message>
+    <message>
+        <source>Takes another password and logs the account in with it.</source>
+        <translation>Nimmt ein anderes Passwort und meldet das Konto damit an.</translation>
+    </message>
+    <message>
+        <source>Reconnect</source>
+        <translation>Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Logs the account out and in again.</source>
+        <translation>Meldet das Konto ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Change the account</source>
+        <translation>Das Konto ändern</translation>
+    </message>
+    <message>
+        <source>Reason of the state of the account</source>
+        <translation>Grund für den Zustand des Kontos</translation>
+    </message>
+    <message>
+        <source>No account is selected.</source>
+        <translation>Kein Konto ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>State of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Zustand von %1</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountsPageCompanion</name>
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>Das Modul des Protokolls %1 ist nicht geladen. Laden Sie es auf der Seite „Module“.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAliasEditor</name>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
     </message>
 </context>
 <context>
@@ -387,6 +689,19 @@
         <extracomment>%1 = name of an account, %2 = one or more sentences about it</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>The link cannot be opened: the protocol %1 is not available.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>Die Verknüpfung kann nicht geöffnet werden: Das Protokoll %1 ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>%1 is the main account now, because %2 was removed.</source>
+        <translation>%1 ist jetzt das Hauptkonto, weil %2 entfernt wurde.</translation>
+    </message>
+    <message>
+        <source>%1 is the main account now, because %2 was disabled.</source>
+        <translation>%1 ist jetzt das Hauptkonto, weil %2 deaktiviert wurde.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -440,6 +755,14 @@
         <source>The argument &quot;%1&quot; is not known.</source>
         <extracomment>%1 = a word of the command line</extracomment>
         <translation>Das Argument „%1“ ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>A link that begins with xmpp:, irc: or ircs: opens the window for a new account of that protocol.</source>
+        <translation>Eine Verknüpfung, die mit xmpp:, irc: oder ircs: beginnt, öffnet das Fenster für ein neues Konto dieses Protokolls.</translation>
+    </message>
+    <message>
+        <source>[link]</source>
+        <translation>[Verknüpfung]</translation>
     </message>
 </context>
 <context>
@@ -509,6 +832,11 @@
         <source>%1 (main account)</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>%1 (Hauptkonto)</translation>
+    </message>
+    <message>
+        <source>Waiting to connect…</source>
+        <extracomment>other accounts connect first</extracomment>
+        <translation>Wartet auf die Verbindung…</translation>
     </message>
 </context>
 <context>
@@ -1262,6 +1590,14 @@
     </message>
 </context>
 <context>
+    <name>KirvMainAccountSelector</name>
+    <message>
+        <source>%1 (its plug-in is not loaded)</source>
+        <extracomment>%1 = name of the main account</extracomment>
+        <translation>%1 (sein Modul ist nicht geladen)</translation>
+    </message>
+</context>
+<context>
     <name>KirvMessageBar</name>
     <message>
         <source>Messages</source>
@@ -1539,6 +1875,10 @@
     <message>
         <source>Parts of its database cannot be read, or contradict each other.</source>
         <translation>Teile seiner Datenbank sind nicht lesbar oder widersprechen einander.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file. Move it away to use the profile.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei. Legen Sie sie beiseite, um das Profil zu benutzen.</translation>
     </message>
 </context>
 <context>

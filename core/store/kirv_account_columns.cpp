@@ -3,6 +3,16 @@
 
 #include <QStringList>
 
+namespace {
+
+QString withDefault(const KirvAccountColumn &column)
+{
+    const QString fallback = column.text ? QStringLiteral("''") : QString::number(KirvAccountRecord().*column.flag);
+    return QStringLiteral("coalesce(%1, %2)").arg(QLatin1String(column.name), fallback);
+}
+
+}
+
 const QList<KirvAccountColumn> &kirvAccountColumns()
 {
     static const QList<KirvAccountColumn> columns {
@@ -26,6 +36,23 @@ QString kirvJoinedColumns(const QString &suffix)
     for (const KirvAccountColumn &column : kirvAccountColumns())
         names << QLatin1String(column.name) + suffix;
     return names.join(QLatin1String(", "));
+}
+
+QString kirvColumnsWithDefaults()
+{
+    QStringList expressions;
+    for (const KirvAccountColumn &column : kirvAccountColumns())
+        expressions << withDefault(column);
+    return expressions.join(QLatin1String(", "));
+}
+
+QString kirvColumnWithDefault(const QString &name)
+{
+    for (const KirvAccountColumn &column : kirvAccountColumns()) {
+        if (name == QLatin1String(column.name))
+            return withDefault(column);
+    }
+    return QString();
 }
 
 QString kirvColumnPlaceHolders()

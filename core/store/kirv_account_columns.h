@@ -20,6 +20,10 @@ struct KirvAccountColumn {
 const QList<KirvAccountColumn> &kirvAccountColumns();
 /// Their names, each with \a suffix behind it, separated by commas.
 QString kirvJoinedColumns(const QString &suffix);
+/// Expressions, separated by commas, that give for each its value, and the default where a row has none.
+QString kirvColumnsWithDefaults();
+/// The one of the column called \a name; empty when it is none of them.
+QString kirvColumnWithDefault(const QString &name);
 /// A question mark for each.
 QString kirvColumnPlaceHolders();
 

@@ -17,7 +17,7 @@ QList<KirvAccountRecord> KirvAccountTable::readAll()
 {
     static const QString select =
         QStringLiteral("SELECT number, id, protocol, %1 FROM account ORDER BY position, number")
-            .arg(kirvJoinedColumns(QString()));
+            .arg(kirvColumnsWithDefaults());
     QSqlQuery *query = database.run(select);
     QList<KirvAccountRecord> accounts;
     QHash<qint64, int> indices;
@@ -76,15 +76,41 @@ bool KirvAccountTable::insert(const KirvAccountRecord &account)
 
 bool KirvAccountTable::update(const KirvAccountRecord &account)
 {
-    static const QString statement =
-        QStringLiteral("UPDATE account SET %1 WHERE number = ?").arg(kirvJoinedColumns(QStringLiteral(" = ?")));
     Row row;
     const KirvAccountRecord stored = kirvStoredForm(account);
-    if (!findRow(account.key, &row) || !database.run(statement, kirvColumnValues(stored) + QVariantList { row.number }))
+    if (!findRow(account.key, &row) || !writeColumns(row.number, kirvColumnValues(stored)))
         return false;
     if (row.avatar != stored.avatar && !row.avatar.isEmpty())
         pending.obsoleteAvatars << row.avatar;
     return writeValues(row.number, stored);
+}
+
+/// Touches only what differs: bytes that are no text are read as other characters and stay as they are.
+bool KirvAccountTable::writeColumns(const QVariant &number, const QVariantList &values)
+{
+    static const QString select =
+        QStringLiteral("SELECT %1 FROM account WHERE number = ?").arg(kirvColumnsWithDefaults());
+    QStringList changes;
+    QVariantList changed;
+    QSqlQuery *query = database.run(select, { number });
+    while (query && query->next()) {
+        for (int index = 0; index < values.size(); ++index) {
+            // Numbers are flags; whatever is not 0 is read as set.
+            const QVariant &value = values.at(index);
+            const QVariant stored = query->value(index);
+            if (value.userType() == QMetaType::QString ? stored.toString() == value.toString()
+                                                       : stored.toBool() == value.toBool())
+                continue;
+            changes << QLatin1String(kirvAccountColumns().at(index).name) + QLatin1String(" = ?");
+            changed << value;
+        }
+    }
+    if (!database.readToEnd(query))
+        return false;
+    return changes.isEmpty()
+        || database.execute(
+            QStringLiteral("UPDATE account SET %1 WHERE number = ?").arg(changes.join(QLatin1String(", "))),
+            changed + QVariantList { number });
 }
 
 bool KirvAccountTable::remove(const KirvAccountKey &key)

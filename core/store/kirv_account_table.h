@@ -57,6 +57,7 @@ private:
     bool findRow(const KirvAccountKey &key, Row *row);
     bool findOddRow(const KirvAccountKey &key, Row *row);
     bool readValues(const QString &table, QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);
+    bool writeColumns(const QVariant &number, const QVariantList &values);
     bool writeValues(const QVariant &number, const KirvAccountRecord &account);
     bool writeValues(const QString &table, const QVariant &number, const Values &values, bool *hasOverwritten);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_profile_check.h"
 
+#include "core/store/kirv_account_columns.h"
 #include "core/store/kirv_database.h"
 #include "core/store/kirv_database_header.h"
 #include "core/store/kirv_store_schema.h"
@@ -19,14 +20,42 @@ mode_t kindOf(const QString &path)
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & S_IFMT : 0;
 }
 
+const QLatin1String accountTable("account");
+
+/// Whether a row without a value in that column is readable: it has the default then.
+bool hasDefault(const QString &table, const QString &column)
+{
+    return table == accountTable && !kirvColumnWithDefault(column).isEmpty();
+}
+
+/// Whether the structure is whole, and values are missing only where there is a default.
+bool isSound(KirvDatabase &database)
+{
+    const QLatin1String ok("ok");
+    if (database.valueOf(QStringLiteral("PRAGMA integrity_check(1)")).toString() == ok)
+        return true;
+    const QString missing = QStringLiteral("NULL value in %1.").arg(accountTable);
+    bool isSound = true;
+    QSqlQuery *query = database.run(QStringLiteral("PRAGMA integrity_check(1000000)"));
+    while (isSound && query && query->next()) {
+        const QString fault = query->value(0).toString();
+        isSound = fault == ok || (fault.startsWith(missing) && hasDefault(accountTable, fault.mid(missing.size())));
+    }
+    return database.readToEnd(query) && isSound;
+}
+
 /// Finds rows that this program cannot have written: a value that is missing or of another kind than its column.
 QString wrongRowsIn(const QString &table, const QStringList &texts, const QStringList &numbers)
 {
     QStringList conditions;
-    for (const QString &column : texts)
-        conditions << QStringLiteral("typeof(\"%1\") NOT IN ('text', 'blob')").arg(column);
-    for (const QString &column : numbers)
-        conditions << QStringLiteral("typeof(\"%1\") <> 'integer'").arg(column);
+    const auto exclude = [&](const QStringList &columns, const char *kinds) {
+        for (const QString &column : columns)
+            conditions << QStringLiteral("typeof(\"%1\") NOT IN (%2%3)")
+                              .arg(column, QLatin1String(kinds),
+                                   hasDefault(table, column) ? QStringLiteral(", 'null'") : QString());
+    };
+    exclude(texts, "'text', 'blob'");
+    exclude(numbers, "'integer'");
     return QStringLiteral("SELECT 1 FROM \"%1\" WHERE %2 LIMIT 1").arg(table, conditions.join(QLatin1String(" OR ")));
 }
 
@@ -73,6 +102,11 @@ KirvProfileState KirvProfileCheck::look() const
         return { KirvProfileState::Unusable,
                  tr("\"%1\" is a link. The program follows no link inside a profile: replace it by what it leads to.")
                      .arg(QDir::toNativeSeparators(link)) };
+    const QString special = specialFileInside();
+    if (!special.isEmpty())
+        return { KirvProfileState::Unusable,
+                 tr("\"%1\" is not an ordinary file. Move it away to use the profile.")
+                     .arg(QDir::toNativeSeparators(special)) };
     const mode_t avatars = kindOf(paths.avatars());
     if (kindOf(paths.database()) == 0)
         return lookAtFolderWithoutDatabase();
@@ -86,6 +120,17 @@ QString KirvProfileCheck::linkInside() const
     const auto link =
         std::find_if(names.begin(), names.end(), [](const QString &name) { return kindOf(name) == S_IFLNK; });
     return link == names.end() ? QString() : *link;
+}
+
+/// Reading a pipe or a device would wait for ever.
+QString KirvProfileCheck::specialFileInside() const
+{
+    const QStringList names { paths.log(), paths.logIndex(), paths.journal(), paths.unfinished(), paths.lock() };
+    const auto special = std::find_if(names.begin(), names.end(), [](const QString &name) {
+        const mode_t kind = kindOf(name);
+        return kind != 0 && kind != S_IFREG;
+    });
+    return special == names.end() ? QString() : *special;
 }
 
 KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const
@@ -174,8 +219,7 @@ KirvProfileState KirvProfileCheck::examineOpen(KirvDatabase &database) const
         if (expected.isEmpty() || kirvSchemaOf(database) != expected) {
             if (database.errorText().isEmpty())
                 return id == 0 ? anotherProgram() : damaged(tr("Tables or columns of its database are missing."));
-        } else if (database.valueOf(QStringLiteral("PRAGMA integrity_check(1)")).toString() == QLatin1String("ok")
-                   && !hasWrongRows(database)) {
+        } else if (isSound(database) && !hasWrongRows(database)) {
             return { KirvProfileState::Good, QString() };
         }
     }

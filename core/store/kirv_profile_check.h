@@ -43,6 +43,7 @@ private:
     KirvProfileState examineOpen(KirvDatabase &database) const;
     KirvProfileState anotherProgram() const;
     QString linkInside() const;
+    QString specialFileInside() const;
 
     const KirvProfilePaths paths;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_profile_copies.h"
 
+#include "core/store/kirv_account_columns.h"
 #include "core/store/kirv_database.h"
 #include "core/store/kirv_database_header.h"
 #include "core/store/kirv_private_file.h"
@@ -68,10 +69,12 @@ QStringList columnsOf(KirvDatabase &database, const QString &schema, const QStri
 
 /// What a column of the present schema is taken from in a table that has \a columns; empty when its table had no such
 /// value yet.
-QString sourceOf(const QString &column, const QStringList &columns)
+QString sourceOf(const QString &table, const QString &column, const QStringList &columns)
 {
-    if (columns.contains(column))
-        return column;
+    if (columns.contains(column)) {
+        const QString value = kirvColumnWithDefault(column);
+        return table == QLatin1String("account") && !value.isEmpty() ? value : column;
+    }
     if (column == QLatin1String("default_presence"))
         return QStringLiteral("presence");
     if (column == QLatin1String("position"))
@@ -136,7 +139,7 @@ bool KirvProfileCopies::fill(KirvDatabase &copy) const
         const QStringList known = columnsOf(copy, QStringLiteral("source"), table);
         QStringList sources;
         for (const QString &column : columns)
-            sources << sourceOf(column, known);
+            sources << sourceOf(table, column, known);
         if (!copy.errorText().isEmpty()
             || !copy.execute(QStringLiteral("INSERT INTO main.%1 (%2) SELECT %3 FROM source.%1")
                                  .arg(table, columns.join(QLatin1String(", ")), sources.join(QLatin1String(", ")))))

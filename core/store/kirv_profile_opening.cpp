@@ -11,10 +11,22 @@
 #include <QFile>
 #include <QFileInfo>
 
+KirvProfileState KirvProfileOpening::look(KirvProfileLock &lock) const
+{
+    const KirvProfileCheck check(paths);
+    const KirvProfileState state = check.look();
+    if (state.kind != KirvProfileState::Damaged)
+        return state;
+    const KirvProfileState locked = lockOnly(lock, false);
+    return locked.canBeOpened() && lock.isHeld() ? check.look()
+        : locked.kind == KirvProfileState::InUse ? locked
+                                                 : state;
+}
+
 KirvProfileState KirvProfileOpening::prepare(KirvProfileLock &lock)
 {
     const KirvProfileCheck check(paths);
-    KirvProfileState state = check.look();
+    KirvProfileState state = look(lock);
     if (!state.canBeOpened())
         return state;
     if (state.kind == KirvProfileState::New && !makeFolder())

@@ -20,13 +20,13 @@ KirvProfileRescue::KirvProfileRescue(const QString &folder)
 
 KirvProfileState KirvProfileRescue::check()
 {
-    const KirvProfileCheck look(paths);
-    KirvProfileState state = look.look();
+    const KirvProfileOpening opening(paths);
+    KirvProfileLock lock;
+    KirvProfileState state = opening.look(lock);
     if (state.kind != KirvProfileState::Good)
         return state;
-    KirvProfileLock lock;
-    state = KirvProfileOpening(paths).lockOnly(lock, false);
-    return state.canBeOpened() ? look.examine(false) : state;
+    state = opening.lockOnly(lock, false);
+    return state.canBeOpened() ? KirvProfileCheck(paths).examine(false) : state;
 }
 
 QList<KirvProfileCopy> KirvProfileRescue::copies() const

@@ -144,7 +144,7 @@ void KirvRowSalvage::readAccounts()
             const QVariant value = row.value(QLatin1String(column.name));
             if (column.text)
                 account.*column.text = value.toString();
-            else if (value.isValid())
+            else if (!value.isNull())
                 account.*column.flag = value.toBool();
         }
         if (version == 1)

@@ -9,36 +9,36 @@ namespace {
 // In the order of KirvLayoutVocabulary::List.
 const char *const words[] = {
     // widgets
-    "KirvFormArea Line QCalendarWidget QCheckBox QColumnView QComboBox QCommandLinkButton QDateEdit "
-    "QDateTimeEdit QDial QDialog QDialogButtonBox QDoubleSpinBox QFontComboBox QFrame QGroupBox "
-    "QKeySequenceEdit QLCDNumber QLabel QLineEdit QListView QListWidget QPlainTextEdit QProgressBar "
-    "QPushButton QRadioButton QScrollArea QScrollBar QSlider QSpinBox QSplitter QStackedWidget QTabWidget "
-    "QTableView QTableWidget QTextBrowser QTextEdit QTimeEdit QToolBox QToolButton QTreeView QTreeWidget "
-    "QWidget",
+    ("KirvFormArea Line QCalendarWidget QCheckBox QColumnView QComboBox QCommandLinkButton QDateEdit "
+     "QDateTimeEdit QDial QDialog QDialogButtonBox QDoubleSpinBox QFontComboBox QFrame QGroupBox "
+     "QKeySequenceEdit QLCDNumber QLabel QLineEdit QListView QListWidget QPlainTextEdit QProgressBar "
+     "QPushButton QRadioButton QScrollArea QScrollBar QSlider QSpinBox QSplitter QStackedWidget QTabWidget "
+     "QTableView QTableWidget QTextBrowser QTextEdit QTimeEdit QToolBox QToolButton QTreeView QTreeWidget "
+     "QWidget"),
     // layoutClasses
     "QFormLayout QGridLayout QHBoxLayout QVBoxLayout",
     // elements
-    "ui author comment exportmacro class widget layout item spacer property attribute layoutdefault "
-    "zorder tabstops tabstop customwidgets customwidget extends header container resources include "
-    "connections slots designerdata buttongroups buttongroup row column bool color red green blue cstring "
-    "cursorShape enum set string stringlist number float double uint longlong ulonglong char unicode date "
-    "year month day time hour minute second datetime size sizef width height rect rectf x y point pointf "
-    "font family pointsize weight italic bold underline strikeout antialiasing stylestrategy kerning "
-    "hintingpreference fontweight palette active inactive disabled colorrole colorgroup brush texture "
-    "gradient gradientstop sizepolicy hsizetype vsizetype horstretch verstretch iconset normaloff "
-    "normalon disabledoff disabledon activeoff activeon selectedoff selectedon pixmap locale",
+    ("ui author comment exportmacro class widget layout item spacer property attribute layoutdefault "
+     "zorder tabstops tabstop customwidgets customwidget extends header container resources include "
+     "connections slots designerdata buttongroups buttongroup row column bool color red green blue cstring "
+     "cursorShape enum set string stringlist number float double uint longlong ulonglong char unicode date "
+     "year month day time hour minute second datetime size sizef width height rect rectf x y point pointf "
+     "font family pointsize weight italic bold underline strikeout antialiasing stylestrategy kerning "
+     "hintingpreference fontweight palette active inactive disabled colorrole colorgroup brush texture "
+     "gradient gradientstop sizepolicy hsizetype vsizetype horstretch verstretch iconset normaloff "
+     "normalon disabledoff disabledon activeoff activeon selectedoff selectedon pixmap locale"),
     // pictureElements
     "iconset normaloff normalon disabledoff disabledon activeoff activeon selectedoff selectedon pixmap",
     // numberElements
     "number float double uint longlong ulonglong width height x y pointsize horstretch verstretch weight",
     // textProperties
-    "text title label toolTip statusTip whatsThis windowTitle windowIconText accessibleName "
-    "accessibleDescription placeholderText buddy styleSheet html plainText prefix suffix specialValueText "
-    "displayFormat inputMask shortcut format currentText description objectName documentTitle icon "
-    "currentPageName currentTabName",
+    ("text title label toolTip statusTip whatsThis windowTitle windowIconText accessibleName "
+     "accessibleDescription placeholderText buddy styleSheet html plainText prefix suffix specialValueText "
+     "displayFormat inputMask shortcut format currentText description objectName documentTitle icon "
+     "currentPageName currentTabName"),
     // rangeProperties
-    "minimum maximum value singleStep pageStep maxLength maximumWidth maximumHeight maximumBlockCount "
-    "maximumSize",
+    ("minimum maximum value singleStep pageStep maxLength maximumWidth maximumHeight maximumBlockCount "
+     "maximumSize"),
     // countProperties
     "rowCount columnCount digitCount",
 };

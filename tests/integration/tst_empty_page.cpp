@@ -28,6 +28,7 @@ private Q_SLOTS:
 
     void pageWithoutAccountsInvites();
     void firstAccountShowsTheList();
+    void windowKeepsItsSize();
     void lastAccountBringsTheInvitationBack();
     void listIsShownAgainAfterARestart();
     void accountWithoutItsProtocolIsAnAccount();
@@ -85,6 +86,20 @@ void tst_EmptyPage::firstAccountShowsTheList()
     windows->addAccount(ann);
     QVERIFY(isListing());
     QVERIFY(windows->list()->hasFocus());
+}
+
+void tst_EmptyPage::windowKeepsItsSize()
+{
+    QWidget *window = windows->client->window();
+    window->resize(window->minimumSizeHint().width(), 360);
+    KirvClientWindows::settle();
+    QCOMPARE(window->height(), 360);
+    windows->addAccount(ann);
+    QVERIFY(isListing());
+    QCOMPARE(window->height(), 360);
+    windows->removeInPage(ann);
+    KIRV_TRY(isInviting());
+    QCOMPARE(window->height(), 360);
 }
 
 void tst_EmptyPage::lastAccountBringsTheInvitationBack()

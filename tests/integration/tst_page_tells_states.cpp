@@ -46,6 +46,7 @@ private Q_SLOTS:
     void failureHasShortWords();
     void waitingIsCountedDown_data();
     void waitingIsCountedDown();
+    void waitingForItsTurnNamesNoTime();
     void everyStateHasAShapeOfItsOwn();
     void paintedRowFollowsTheState();
     void accountWithoutAliasShowsItsLogin();
@@ -192,6 +193,17 @@ void tst_PageTellsStates::waitingIsCountedDown()
     // What is read aloud stays right while the time passes.
     const QString time = connection()->nextRetry().time().toString(QStringLiteral("hh:mm:ss"));
     QVERIFY2(spoken().contains(QStringLiteral("Waiting, next try at ") + time), qPrintable(spoken()));
+}
+
+void tst_PageTellsStates::waitingForItsTurnNamesNoTime()
+{
+    bringTo(KirvAccountStatus::Waiting);
+    connection()->setLoginGate([] { return false; });
+    windows->account(ann)->reconnect();
+    KIRV_TRY(connection()->isWaitingForTurn());
+    KIRV_TRY_COMPARE(spoken(), QStringLiteral("ann, Waiting to connect… · main account"));
+    QCOMPARE(status().text(), QStringLiteral("Waiting to connect…"));
+    QVERIFY2(status().reason().endsWith(QLatin1String("Other accounts connect first.")), qPrintable(status().reason()));
 }
 
 void tst_PageTellsStates::everyStateHasAShapeOfItsOwn()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_default_profile.h"
+#include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
@@ -77,24 +78,32 @@ private Q_SLOTS:
     void filesOfOthersStayInTheAvatarFolder();
     void noLinkLeadsOutOfTheProfile_data();
     void noLinkLeadsOutOfTheProfile();
+    void aPipeOrFolderInPlaceOfAFileIsSaid_data();
+    void aPipeOrFolderInPlaceOfAFileIsSaid();
     void anAvatarNameThatLeavesTheFolderIsNeverUsed_data();
     void anAvatarNameThatLeavesTheFolderIsNeverUsed();
     void aLostDatabaseIsNeverNew_data();
     void aLostDatabaseIsNeverNew();
     void aDatabaseThatDiffersIsRefusedUntouched_data();
     void aDatabaseThatDiffersIsRefusedUntouched();
-    void rowsWithoutAValueAreRefused();
+    void aMissingValueOfAnAccountIsItsDefault_data();
+    void aMissingValueOfAnAccountIsItsDefault();
+    void aMissingValueElsewhereIsRefused_data();
+    void aMissingValueElsewhereIsRefused();
     void aProfileOfTheVersionBeforeIsTakenOver();
     void aNewProfileCarriesTheMarkOfTheProgram();
     void aDeadLockLocksNobodyOut_data();
     void aDeadLockLocksNobodyOut();
     void theLockIsFoundOnEveryWayToTheProfile_data();
     void theLockIsFoundOnEveryWayToTheProfile();
+    void whatAnotherInstanceHoldsIsNotDamaged_data();
+    void whatAnotherInstanceHoldsIsNotDamaged();
     void ofSixAtOnceOneOpens();
     void aHotJournalIsRolledBack();
     void aLogThatWasLeftIsReplayed();
     void oddTextsAreReadChangedAndRemoved_data();
     void oddTextsAreReadChangedAndRemoved();
+    void bytesThatAreNoTextStayWhenSomethingElseIsChanged();
     void theDefaultFolderNeedsAHome_data();
     void theDefaultFolderNeedsAHome();
 
@@ -102,6 +111,8 @@ private:
     void makeProfile(int accounts = 3) const;
     /// Opening is refused with a sentence that has \a reason in it, and nothing in the folder changes.
     void verifyRefused(const QString &reason) const;
+    /// Makes the values in a column NULL, which its table does not take.
+    void takeValueAway(const QString &table, const QString &column, const QString &type) const;
     QString database() const { return databaseIn(folder); }
     QString path(const char *name) const { return QDir(folder).filePath(QLatin1String(name)); }
 
@@ -240,6 +251,39 @@ void tst_ProfileOpening::noLinkLeadsOutOfTheProfile()
     QCOMPARE(treeOf(outside), before);
 }
 
+void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isPipe");
+    for (const char *name : { "profile.sqlite-wal", "profile.sqlite-shm", "profile.sqlite-journal",
+                              "profile.sqlite.unfinished", "profile.lock" }) {
+        QTest::addRow("pipe %s", name) << name << true;
+        QTest::addRow("folder %s", name) << name << false;
+    }
+}
+
+/// Whoever reads a pipe waits for its other end: opening is tried in a process of its own.
+void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isPipe);
+    makeProfile();
+    const QString file = QDir(folder).filePath(name);
+    QFile::remove(file);
+    if (isPipe)
+        QCOMPARE(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    else
+        QVERIFY(QDir().mkdir(file));
+    QProcess holder;
+    holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
+    const bool hasReplied = holder.waitForReadyRead(20000);
+    const QByteArray reply = holder.readAll();
+    holder.kill();
+    holder.waitForFinished();
+    QVERIFY(hasReplied);
+    QVERIFY2(reply.contains("is not an ordinary file") && reply.contains(name.toLatin1()), reply.constData());
+}
+
 void tst_ProfileOpening::anAvatarNameThatLeavesTheFolderIsNeverUsed_data()
 {
     QTest::addColumn<QString>("name");
@@ -337,18 +381,75 @@ void tst_ProfileOpening::aDatabaseThatDiffersIsRefusedUntouched()
     }
 }
 
-void tst_ProfileOpening::rowsWithoutAValueAreRefused()
+void tst_ProfileOpening::takeValueAway(const QString &table, const QString &column, const QString &type) const
 {
-    makeProfile();
-    const auto replaced = [](const char *from, const char *to) {
-        return QStringLiteral("UPDATE sqlite_master SET sql = replace(sql, '%1', '%2')")
-            .arg(QLatin1String(from), QLatin1String(to));
+    const QString loose = QStringLiteral("%1 %2").arg(column, type);
+    const QString strict = loose + QStringLiteral(" NOT NULL");
+    const auto replaced = [&table](const QString &from, const QString &to) {
+        return QStringLiteral("UPDATE sqlite_master SET sql = replace(sql, '%1', '%2') WHERE name = '%3'")
+            .arg(from, to, table);
     };
     const QString writable = QStringLiteral("PRAGMA writable_schema = ON");
-    QCOMPARE(runInDatabase(database(), { writable, replaced("alias TEXT NOT NULL", "alias TEXT") }), QVariant());
-    QCOMPARE(runInDatabase(database(), { QStringLiteral("UPDATE account SET alias = NULL WHERE number = 2") }),
-             QVariant());
-    QCOMPARE(runInDatabase(database(), { writable, replaced("alias TEXT", "alias TEXT NOT NULL") }), QVariant());
+    const QString update = QStringLiteral("UPDATE %1 SET %2 = NULL").arg(table, column);
+    QCOMPARE(runInDatabase(database(), { writable, replaced(strict, loose) }), QVariant());
+    QCOMPARE(runInDatabase(database(), { update }), QVariant());
+    QCOMPARE(runInDatabase(database(), { writable, replaced(loose, strict) }), QVariant());
+}
+
+void tst_ProfileOpening::aMissingValueOfAnAccountIsItsDefault_data()
+{
+    QTest::addColumn<QString>("column");
+    for (const char *column : { "alias", "default_presence", "last_description", "avatar" })
+        QTest::newRow(column) << column + QStringLiteral(" TEXT");
+    for (const char *column : { "enabled", "remember_password", "restore_presence" })
+        QTest::newRow(column) << column + QStringLiteral(" INTEGER");
+}
+
+void tst_ProfileOpening::aMissingValueOfAnAccountIsItsDefault()
+{
+    QFETCH(QString, column);
+    makeProfile();
+    takeValueAway(QStringLiteral("account"), column.section(QLatin1Char(' '), 0, 0),
+                  column.section(QLatin1Char(' '), 1));
+    KirvStore store;
+    QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+    QCOMPARE(store.copyError(), QString());
+    const QList<KirvAccountRecord> accounts = store.readAccounts();
+    QCOMPARE(accounts.size(), 3);
+    KirvAccountRecord expected = makeAccount(QStringLiteral("1"));
+    if (column.startsWith(QLatin1String("alias")))
+        expected.alias.clear();
+    QVERIFY(accounts.at(1) == expected);
+    expected.alias = QStringLiteral("changed");
+    QVERIFY2(store.updateAccount(expected), qPrintable(store.lastError()));
+    QVERIFY(store.readAccounts().at(1) == expected);
+    QVERIFY2(store.removeAccount(expected.key), qPrintable(store.lastError()));
+    store.close();
+    QCOMPARE(store.copyError(), QString());
+    QVERIFY(store.open(folder));
+    QCOMPARE(store.readAccounts().size(), 2);
+}
+
+void tst_ProfileOpening::aMissingValueElsewhereIsRefused_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("column");
+    QTest::newRow("login") << "account"
+                           << "id TEXT";
+    QTest::newRow("protocol") << "account"
+                              << "protocol TEXT";
+    QTest::newRow("place") << "account"
+                           << "position INTEGER";
+    QTest::newRow("value of a setting") << "account_setting"
+                                        << "value TEXT";
+}
+
+void tst_ProfileOpening::aMissingValueElsewhereIsRefused()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, column);
+    makeProfile();
+    takeValueAway(table, column.section(QLatin1Char(' '), 0, 0), column.section(QLatin1Char(' '), 1));
     verifyRefused(QStringLiteral("damaged"));
 }
 
@@ -425,6 +526,36 @@ void tst_ProfileOpening::theLockIsFoundOnEveryWayToTheProfile()
         ::umount2(QFile::encodeName(other).constData(), MNT_DETACH);
     QVERIFY(!opened && locked);
     QVERIFY(openedAfter);
+}
+
+void tst_ProfileOpening::whatAnotherInstanceHoldsIsNotDamaged_data()
+{
+    QTest::addColumn<bool>("isMissing");
+    QTest::newRow("its database has no name yet") << true;
+    QTest::newRow("its database is empty") << false;
+}
+
+/// What can be seen for a moment while the other one makes the database or empties its log.
+void tst_ProfileOpening::whatAnotherInstanceHoldsIsNotDamaged()
+{
+    QFETCH(bool, isMissing);
+    makeProfile();
+    QProcess holder;
+    holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
+    QVERIFY(holder.waitForReadyRead(20000));
+    for (const char *suffix : { "", "-wal", "-shm" })
+        QFile::remove(database() + QLatin1String(suffix));
+    if (!isMissing)
+        QVERIFY(writeFile(database(), QByteArray()));
+    KirvStore store;
+    QVERIFY(!store.open(folder));
+    QCOMPARE(store.state(), KirvProfileState::InUse);
+    QCOMPARE(KirvProfileRescue(folder).check().kind, KirvProfileState::InUse);
+    holder.kill();
+    holder.waitForFinished();
+    QVERIFY(!store.open(folder));
+    QCOMPARE(store.state(), KirvProfileState::Damaged);
+    QCOMPARE(KirvProfileRescue(folder).check().kind, KirvProfileState::Damaged);
 }
 
 void tst_ProfileOpening::ofSixAtOnceOneOpens()
@@ -524,6 +655,28 @@ void tst_ProfileOpening::oddTextsAreReadChangedAndRemoved()
     QVERIFY2(store.removeAccount(changed.key), qPrintable(store.lastError()));
     QCOMPARE(store.readAccounts().size(), 2);
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void tst_ProfileOpening::bytesThatAreNoTextStayWhenSomethingElseIsChanged()
+{
+    makeProfile();
+    QCOMPARE(runInDatabase(database(),
+                           { QStringLiteral(
+                               "UPDATE account SET alias = CAST(x'ff61fe' AS TEXT), last_description = x'6161ff'") }),
+             QVariant());
+    KirvStore store;
+    QVERIFY(store.open(folder));
+    KirvAccountRecord changed = store.readAccounts().at(1);
+    changed.enabled = false;
+    changed.defaultDescription = QStringLiteral("away");
+    QVERIFY2(store.updateAccount(changed), qPrintable(store.lastError()));
+    QVERIFY(store.readAccounts().at(1) == changed);
+    store.close();
+    QCOMPARE(runInDatabase(database(),
+                           { QStringLiteral("SELECT hex(alias) || ' ' || hex(last_description) FROM account "
+                                            "WHERE id = '1'") })
+                 .toString(),
+             QStringLiteral("FF61FE 6161FF"));
 }
 
 void tst_ProfileOpening::theDefaultFolderNeedsAHome_data()

@@ -259,7 +259,6 @@ void tst_accounts_in_windows::mainAccountIsFollowedAndRestored()
     QVERIFY(windows->add(xmpp, here, bob, secret, [](QWidget *window) { remember(window); }));
     KIRV_TRY(isConnected(ann) && isConnected(bob));
     KIRV_TRY(windows->selector()->count() == 2);
-    // What is current there without the user's choice is no main account yet.
     KirvWindowDriver::choose(windows->selector(), ann);
     KirvWindowDriver::choose(windows->selector(), bob);
     KIRV_TRY_CONTAINS(windows->title(), "bob@localhost");

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_account_commands.h"
+
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_actions_menu.h"
+#include "client/kirv_account_rows.h"
+#include "client/kirv_account_status.h"
+#include "client/kirv_alias_editor.h"
+#include "client/kirv_plain_text.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_main_account.h"
+#include "host/kirv_settings_manager.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QShortcut>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace {
+
+template <typename Function>
+QAction *addCommand(QMenu *menu, const char *name, const QString &text, KirvAccount *account, Function function)
+{
+    QAction *action = menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    QObject::connect(action, &QAction::triggered, account, function);
+    return action;
+}
+
+} // namespace
+
+KirvAccountCommands::KirvAccountCommands(const Environment &environment, KirvAliasEditor *editor, QWidget *top,
+                                         QTreeWidget *list)
+    : QObject(top)
+    , environment(environment)
+    , editor(editor)
+    , top(top)
+    , list(list)
+    , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
+    , removeButton(top->findChild<QAbstractButton *>(QStringLiteral("Accounts_RemoveButton")))
+{
+    list->installEventFilter(this);
+    list->viewport()->installEventFilter(this);
+    auto *rename = new QShortcut(Qt::Key_F2, list);
+    rename->setContext(Qt::WidgetShortcut);
+    connect(rename, &QShortcut::activated, this, &KirvAccountCommands::rename);
+    auto *add = new QShortcut(QKeySequence::New, top);
+    connect(add, &QShortcut::activated, this, &KirvAccountCommands::openAddMenu);
+}
+
+bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ContextMenu) {
+        const auto *request = static_cast<QContextMenuEvent *>(event);
+        if (request->reason() == QContextMenuEvent::Keyboard)
+            openMenuOfCurrentRow();
+        else if (const QTreeWidgetItem *row = watched == list->viewport() ? list->itemAt(request->pos()) : nullptr)
+            openMenu(KirvAccountRows::keyOf(row), request->globalPos());
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress || watched != list)
+        return false;
+    // Not every platform makes a request for the menu of these keys.
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->key() != Qt::Key_Menu && !(key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier))
+        return false;
+    openMenuOfCurrentRow();
+    return true;
+}
+
+KirvAccountKey KirvAccountCommands::currentKey() const
+{
+    const QTreeWidgetItem *row = list->currentItem();
+    return row ? KirvAccountRows::keyOf(row) : KirvAccountKey();
+}
+
+void KirvAccountCommands::rename()
+{
+    editor->edit(currentKey());
+}
+
+void KirvAccountCommands::openAddMenu()
+{
+    QMenu *menu = addButton->menu();
+    if (!menu || menu->actions().isEmpty())
+        return;
+    const QWidget *place = addButton->isVisible() ? static_cast<QWidget *>(addButton) : top;
+    menu->popup(
+        place->mapToGlobal(QPoint(place->isRightToLeft() ? place->width() : 0, place == top ? 0 : place->height())));
+    menu->setActiveAction(menu->actions().first());
+}
+
+void KirvAccountCommands::openMenuOfCurrentRow()
+{
+    QTreeWidgetItem *row = list->currentItem();
+    if (!row || QApplication::activePopupWidget())
+        return;
+    list->scrollToItem(row);
+    openMenu(KirvAccountRows::keyOf(row), list->viewport()->mapToGlobal(list->visualItemRect(row).center()));
+}
+
+void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &position)
+{
+    KirvAccount *account = environment.accounts.find(key);
+    QTreeWidgetItem *row = environment.rows.find(key);
+    if (!account || !row)
+        return;
+    list->setCurrentItem(row);
+    auto *menu = new QMenu(list);
+    menu->setObjectName(QStringLiteral("Accounts_Menu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    addEditing(menu, account);
+    menu->addSeparator();
+    addConnecting(menu, account);
+    menu->addSeparator();
+    addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
+    connect(account, &QObject::destroyed, menu, &QWidget::close);
+    menu->popup(position);
+    menu->setActiveAction(menu->actions().first());
+}
+
+void KirvAccountCommands::addEditing(QMenu *menu, KirvAccount *account)
+{
+    const KirvAccountKey key = account->key();
+    addCommand(menu, "Accounts_EditAction", tr("&Edit…"), account, [account] {
+        if (account->isLoaded())
+            KirvAccountsTab::getInstance()->editAccount(account);
+    })->setEnabled(account->isLoaded());
+    QAction *rename = addCommand(menu, "Accounts_RenameAction", tr("Re&name"), account, [this, key] {
+        // The menu gives the focus back first.
+        QMetaObject::invokeMethod(
+            editor, [this, key] { editor->edit(key); }, Qt::QueuedConnection);
+    });
+    rename->setShortcut(Qt::Key_F2);
+    rename->setShortcutContext(Qt::WidgetShortcut); // shown only: the list has the key
+    addCommand(menu, "Accounts_EnableAction", account->record().enabled ? tr("&Disable") : tr("&Enable"), account,
+               [this, key] { toggle(key); });
+    const bool canBecomeMain = account->isLoaded() && account->record().enabled;
+    addCommand(menu, "Accounts_MainAction", tr("Make Main &Account"), account, [this, account] {
+        environment.mainAccount.choose(account);
+    })->setEnabled(canBecomeMain && account != environment.mainAccount.account());
+}
+
+void KirvAccountCommands::addConnecting(QMenu *menu, KirvAccount *account)
+{
+    const KirvAccountStatus status(*account, false);
+    addCommand(menu, "Accounts_ReconnectAction", tr("&Reconnect"), account, [account] {
+        account->reconnect();
+    })->setEnabled(status.canReconnect());
+    addCommand(menu, "Accounts_PasswordAction", tr("Enter &Password…"), account, [this, account] {
+        emit passwordRequested(account);
+    })->setEnabled(status.canEnterPassword());
+    if (status.canReconnect())
+        addPresences(menu, account);
+    if (KirvAccountActionsMenu::isUseful(account->key(), environment.serverCommands))
+        menu->addMenu(new KirvAccountActionsMenu(account->key(), environment.serverCommands, list->window(), menu));
+}
+
+void KirvAccountCommands::addPresences(QMenu *menu, KirvAccount *account)
+{
+    QMenu *choices = menu->addMenu(tr("Pre&sence"));
+    choices->setObjectName(QStringLiteral("Accounts_PresenceMenu"));
+    const QString icons = KirvSettingsManager::getInstance()->getCurrentRosterThemeDir() + QLatin1String("icons/");
+    const QList<KirvPresence> presences = account->protocol()->presences();
+    for (const KirvPresence &presence : presences) {
+        QAction *action =
+            choices->addAction(QIcon(icons + presence.getIcon()), kirvPlainCommand(presence.getDisplay()));
+        action->setCheckable(true);
+        action->setChecked(presence.getId() == account->presence().getId());
+        connect(action, &QAction::triggered, account, [account, presence] {
+            account->setPresence(presence);
+            account->tryAgain();
+        });
+    }
+}
+
+/// As a click on the check box does, with its question.
+void KirvAccountCommands::toggle(const KirvAccountKey &key)
+{
+    if (QTreeWidgetItem *row = environment.rows.find(key))
+        row->setCheckState(KirvAliasColumn,
+                           row->checkState(KirvAliasColumn) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+}
+
+void KirvAccountCommands::remove(const KirvAccountKey &key)
+{
+    if (QTreeWidgetItem *row = environment.rows.find(key)) {
+        list->setCurrentItem(row);
+        removeButton->click();
+    }
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_COMMANDS_H
+#define KIRV_ACCOUNT_COMMANDS_H
+
+#include "core/values/kirv_account_key.h"
+
+#include <QObject>
+
+class KirvAccount;
+class KirvAccountCollection;
+class KirvAccountRows;
+class KirvAliasEditor;
+class KirvMainAccount;
+class KirvServerCommands;
+class QAbstractButton;
+class QMenu;
+class QPoint;
+class QToolButton;
+class QTreeWidget;
+
+/// The commands on the accounts of the page's list, in its context menu and by keys: F2 renames, Ctrl+N adds, the Menu
+/// key and Shift+F10 open the menu.
+class KirvAccountCommands : public QObject {
+    Q_OBJECT
+
+public:
+    /// What the commands work on. Nothing is owned, and all of it outlives them.
+    struct Environment {
+        const KirvAccountCollection &accounts;
+        const KirvAccountRows &rows;
+        KirvServerCommands &serverCommands;
+        KirvMainAccount &mainAccount;
+    };
+
+    /// \a top is that of the page's layout and owns this. \a editor renames.
+    KirvAccountCommands(const Environment &environment, KirvAliasEditor *editor, QWidget *top, QTreeWidget *list);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The user wants to type the password of \a account.
+    void passwordRequested(KirvAccount *account);
+
+private:
+    void rename();
+    void openAddMenu();
+    void openMenuOfCurrentRow();
+    void openMenu(const KirvAccountKey &key, const QPoint &position);
+    void addEditing(QMenu *menu, KirvAccount *account);
+    void addConnecting(QMenu *menu, KirvAccount *account);
+    void addPresences(QMenu *menu, KirvAccount *account);
+    void toggle(const KirvAccountKey &key);
+    void remove(const KirvAccountKey &key);
+    KirvAccountKey currentKey() const;
+
+    const Environment environment;
+    KirvAliasEditor *editor;
+    QWidget *top;
+    QTreeWidget *list;
+    QToolButton *addButton;
+    QAbstractButton *removeButton;
+};
+
+#endif
