@@ -10,6 +10,7 @@
 #include "host/kirv_account_manager.h"
 #include "host/kirv_avatar_quick_set_widget.h"
 #include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/support/kirv_due_work.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QAction>
@@ -68,10 +69,7 @@ void KirvClientWindows::end()
 
 void KirvClientWindows::settle()
 {
-    for (int round = 0; round < 3; ++round) {
-        QTest::qWait(1); // timers without delay
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
+    kirvRunDueWork(3);
 }
 
 KirvAccount *KirvClientWindows::addAccount(const QString &id)

@@ -10,6 +10,7 @@
 #include "host/kirv_account_manager.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/fakes/kirv_fake_protocol.h"
+#include "tests/support/kirv_due_work.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
@@ -17,7 +18,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,7 +27,6 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextEdit>
-#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
@@ -282,12 +281,7 @@ void tst_WindowCompanions::fetch(const QWidget *window)
 /// Runs what is due, with the deletions.
 void tst_WindowCompanions::settle()
 {
-    for (int round = 0; round < 5; ++round) {
-        QEventLoop loop;
-        QTimer::singleShot(0, &loop, &QEventLoop::quit); // after those that are due
-        loop.exec();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
+    kirvRunDueWork(5);
 }
 
 void tst_WindowCompanions::companionSeesEachShowing()
@@ -502,12 +496,14 @@ void tst_WindowCompanions::reconnectingAfterARefusedSaveIsOneLogIn()
     QCOMPARE(connection()->state(), isWaiting ? KirvConnection::Waiting : KirvConnection::Offline);
     server().logIn = KirvFakeServer::Holds;
     QPointer<KirvLayoutDialog> window = edit();
+    child<QLineEdit>(window, "EditAccount_Alias")->setText(QStringLiteral("Ann")); // what is refused
     child<QLineEdit>(window, "EditAccount_Password")->setText(QStringLiteral("new"));
     {
         const StoreRefusal refusal(options.profileFolder);
         save(window);
         settle();
     }
+    QVERIFY(window);
     window->reject();
     settle();
     QCOMPARE(server().takeCalls(), QStringList()); // nothing was tried by the Save

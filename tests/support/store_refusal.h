@@ -7,8 +7,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
-/// While it lives, the profile refuses to store changes of accounts, or of another table: a trigger in its database,
-/// made over a connection of its own.
+/// While it lives, the profile refuses to store changes of accounts but for their passwords and other secrets, or of
+/// another table: a trigger in its database, made over a connection of its own.
 class StoreRefusal {
 public:
     /// \a condition limits the refusal to the changes for which it holds, an SQL expression over NEW and OLD, and
