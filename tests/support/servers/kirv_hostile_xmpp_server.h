@@ -2,17 +2,14 @@
 #ifndef KIRV_HOSTILE_XMPP_SERVER_H
 #define KIRV_HOSTILE_XMPP_SERVER_H
 
-#include <QSslSocket>
-#include <QTcpServer>
-#include <QThread>
-#include <atomic>
+#include "tests/support/servers/kirv_hostile_server.h"
 
 /// A server that sends one client what it should not, on a thread of its own and in bounded memory.
 ///
 /// The client is logged in as ann@localhost/Kirv, whatever its password is, or attacked before that. The start and
 /// then the block, again and again until the total is reached, are sent; a ping with the id "digested" follows, so
 /// that its reply shows when the client is through.
-class KirvHostileXmppServer : public QThread {
+class KirvHostileXmppServer : public KirvHostileServer {
 public:
     enum Time {
         BeforeEncryption, ///< in place of the first features
@@ -31,44 +28,19 @@ public:
     /// Encrypted when there is a \a certificateFile, which is PEM as the key is.
     explicit KirvHostileXmppServer(const Attack &attack, const QString &certificateFile = QString(),
                                    const QString &keyFile = QString())
-        : attack(attack)
-        , certificateFile(certificateFile)
-        , keyFile(keyFile)
+        : KirvHostileServer(certificateFile, keyFile)
+        , attack(attack)
     {
-        QTcpServer reservation;
-        reservation.listen(QHostAddress::LocalHost);
-        freePort = reservation.serverPort();
-        reservation.close();
-        start();
-        while (!listening && isRunning())
-            msleep(1);
+        listen();
     }
-    ~KirvHostileXmppServer() override
-    {
-        stopped = true;
-        wait();
-    }
+    ~KirvHostileXmppServer() override { end(); }
 
-    quint16 port() const { return freePort; }
-    qint64 sentBytes() const { return sent; }
     /// Whether everything was sent.
     bool isSpent() const { return spent; }
-    bool isDigested() const { return digested; }
-    /// Whether the client has closed the connection.
-    bool isLeft() const { return left; }
 
-protected:
-    void run() override
+private:
+    void serve(QSslSocket &socket) override
     {
-        OneClientServer server;
-        if (!server.listen(QHostAddress::LocalHost, freePort))
-            return;
-        listening = true;
-        while (!stopped && server.client < 0)
-            server.waitForNewConnection(20);
-        QSslSocket socket; // without encryption until it is started
-        if (server.client < 0 || !socket.setSocketDescriptor(server.client))
-            return;
         while (isAlive(socket) && !spent) {
             socket.waitForReadyRead(20);
             answer(socket, socket.readAll());
@@ -77,21 +49,6 @@ protected:
             socket.waitForReadyRead(20);
             note(socket.readAll());
         }
-        left = socket.state() != QAbstractSocket::ConnectedState;
-    }
-
-private:
-    class OneClientServer : public QTcpServer {
-    public:
-        qintptr client = -1;
-
-    protected:
-        void incomingConnection(qintptr handle) override { client = handle; }
-    };
-
-    bool isAlive(const QSslSocket &socket) const
-    {
-        return !stopped && socket.state() == QAbstractSocket::ConnectedState;
     }
 
     static QByteArray attribute(const QByteArray &text, const QByteArray &name)
@@ -107,7 +64,7 @@ private:
         if (received.contains("<stream:stream"))
             openStream(socket);
         else if (received.contains("<starttls"))
-            startEncryption(socket);
+            encrypt(socket);
         else if (received.contains("<auth"))
             socket.write("<success xmlns='urn:ietf:params:xml:ns:xmpp-sasl'/>");
         else if (received.contains("urn:ietf:params:xml:ns:xmpp-bind"))
@@ -125,26 +82,23 @@ private:
     {
         socket.write("<?xml version='1.0'?><stream:stream xmlns='jabber:client' "
                      "xmlns:stream='http://etherx.jabber.org/streams' id='1' from='localhost' version='1.0'>");
-        const bool encrypts = !certificateFile.isEmpty() && !socket.isEncrypted();
-        if (!isLoggedIn && attack.time == (encrypts ? BeforeEncryption : BeforeLogIn))
+        const bool offersEncryption = encrypts() && !socket.isEncrypted();
+        if (!isLoggedIn && attack.time == (offersEncryption ? BeforeEncryption : BeforeLogIn))
             return strike(socket);
         QByteArray features = "<mechanisms xmlns='urn:ietf:params:xml:ns:xmpp-sasl'><mechanism>PLAIN</mechanism>"
                               "</mechanisms>";
-        if (encrypts)
+        if (offersEncryption)
             features = "<starttls xmlns='urn:ietf:params:xml:ns:xmpp-tls'><required/></starttls>";
         else if (isLoggedIn)
             features = "<bind xmlns='urn:ietf:params:xml:ns:xmpp-bind'/>";
         socket.write("<stream:features>" + features + "</stream:features>");
     }
 
-    void startEncryption(QSslSocket &socket)
+    void encrypt(QSslSocket &socket)
     {
         socket.write("<proceed xmlns='urn:ietf:params:xml:ns:xmpp-tls'/>");
         socket.flush();
-        socket.setLocalCertificate(certificateFile);
-        socket.setPrivateKey(keyFile, QSsl::Ec);
-        socket.startServerEncryption();
-        socket.waitForEncrypted();
+        startEncryption(socket);
     }
 
     void strike(QSslSocket &socket, const QByteArray &id = QByteArray())
@@ -189,17 +143,9 @@ private:
     }
 
     const Attack attack;
-    const QString certificateFile;
-    const QString keyFile;
-    quint16 freePort = 0;
     bool isLoggedIn = false;
     QByteArray incoming;
-    std::atomic<bool> listening { false };
-    std::atomic<bool> stopped { false };
     std::atomic<bool> spent { false };
-    std::atomic<bool> digested { false };
-    std::atomic<bool> left { false };
-    std::atomic<qint64> sent { 0 };
 };
 
 #endif
