@@ -83,7 +83,8 @@ void KirvAccountInvitation::takeFocus()
 
 bool KirvAccountInvitation::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == addMenu && (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionRemoved))
+    // Only menus are watched; while one is destroyed the pointer to it must not be followed.
+    if (event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionRemoved)
         QMetaObject::invokeMethod(this, &KirvAccountInvitation::updateAddButton, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);
 }

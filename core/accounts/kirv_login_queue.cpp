@@ -42,14 +42,19 @@ void KirvLoginQueue::onStateChanged(KirvConnection::State state)
         forget(connection);
 }
 
-/// \a connection may be under destruction.
+/// \a connection may be under destruction, when it is none any more: only its address is used.
 void KirvLoginQueue::forget(QObject *connection)
 {
-    auto *forgotten = static_cast<KirvConnection *>(connection);
-    waiting[Ordinary].removeOne(forgotten);
-    waiting[Urgent].removeOne(forgotten);
-    if (attempts.remove(forgotten) > 0)
+    const auto isForgotten = [connection](const QObject *other) { return other == connection; };
+    for (QList<KirvConnection *> &list : waiting)
+        list.erase(std::remove_if(list.begin(), list.end(), isForgotten), list.end());
+    for (auto attempt = attempts.begin(); attempt != attempts.end(); ++attempt) {
+        if (!isForgotten(attempt.key()))
+            continue;
+        attempts.erase(attempt);
         goOn();
+        return;
+    }
 }
 
 bool KirvLoginQueue::isWaiting(KirvConnection *connection, Priority priority) const
