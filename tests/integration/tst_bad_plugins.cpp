@@ -159,7 +159,6 @@ void tst_BadPlugins::theVerdictIsRemembered()
     QVERIFY(first.lines.contains(QStringLiteral("plugin|Fixture|Being tested|")));
     const Start second = start(QStringLiteral("loop in protocol"));
     QVERIFY(!second.lines.contains(QStringLiteral("plugin|Fixture|Being tested|")));
-    QVERIFY(second.milliseconds < limit);
     QCOMPARE(second.state(QStringLiteral("Fixture")), first.state(QStringLiteral("Fixture")));
     QCOMPARE(second.state(QStringLiteral("Example")), QStringLiteral("Loaded|"));
 }

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// What is done often on the page of the client with many accounts: painting, scrolling, a keystroke, a change of state.
+// Each takes at most 50 ms with 10,000 accounts.
+#include "benchmarks/measurement.h"
+
+#include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account.h"
+#include "core/store/kirv_store.h"
+#include "tests/integration/kirv_client_windows.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QTest>
+#include <QTreeWidget>
+#include <cstdio>
+
+namespace {
+
+const int rounds = 21;
+
+QString idOf(int index)
+{
+    return QStringLiteral("user%1").arg(index, 6, 10, QLatin1Char('0'));
+}
+
+bool storeAccounts(const QString &folder, int count)
+{
+    KirvStore store;
+    if (!store.open(folder))
+        return false;
+    for (int i = 0; i < count; ++i) {
+        KirvAccountRecord record;
+        record.key = { idOf(i), QStringLiteral("Fake") };
+        record.alias = record.key.id;
+        record.enabled = i >= count - 2;
+        record.defaultPresence = QStringLiteral("available");
+        if (!store.insertAccount(record))
+            return false;
+    }
+    return true;
+}
+
+/// The middle of several rounds.
+QString measure(const QTreeWidget *list, const std::function<void(bool isOdd)> &work)
+{
+    QVector<double> times;
+    for (int round = 0; round < rounds; ++round) {
+        times << millisecondsOf([&] {
+            work(round % 2 == 1);
+            QCoreApplication::processEvents();
+            list->viewport()->repaint();
+        });
+    }
+    return formatMilliseconds(median(times));
+}
+
+bool measureWith(int count, Table *table)
+{
+    KirvClientWindows windows;
+    windows.end();
+    if (!storeAccounts(windows.profileFolder(), count))
+        return false;
+    windows.restart();
+    QTreeWidget *list = windows.list();
+    const QString last = idOf(count - 1);
+    if (!windows.isReady() || !QTest::qWaitForWindowExposed(windows.client->window())
+        || !QTest::qWaitFor([&] { return list->topLevelItemCount() == count; }, 60000))
+        return false;
+    windows.select(last);
+    KirvAccount *account = windows.account(last);
+    if (!QTest::qWaitFor([&] { return account->isOnline(); }, 60000))
+        return false;
+    list->setFocus();
+    const QString painting = measure(list, [](bool) {});
+    const QString scrolling =
+        measure(list, [&](bool isOdd) { list->verticalScrollBar()->setValue(isOdd ? 0 : count); });
+    const QString keystroke =
+        measure(list, [&](bool isOdd) { QTest::keyClick(list, isOdd ? Qt::Key_Down : Qt::Key_Up); });
+    const QString state = measure(list, [&](bool isOdd) {
+        account->setPresence(windows.protocol->presenceWithId(QLatin1String(isOdd ? "available" : "away"), QString()));
+    });
+    table->addRow({ QString::number(count), painting, scrolling, keystroke, state });
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    Table table({ QStringLiteral("rows"), QStringLiteral("painting"), QStringLiteral("scrolling"),
+                  QStringLiteral("keystroke"), QStringLiteral("change of state") });
+    for (const int count : { 10, 1000, 10000 }) {
+        if (!measureWith(count, &table)) {
+            std::fprintf(stderr, "The client with %d accounts could not be started.\n", count);
+            return 1;
+        }
+    }
+    table.print(QStringLiteral("The page of the client, in milliseconds"));
+    return 0;
+}
