@@ -73,6 +73,7 @@ bool KirvFormArea::eventFilter(QObject *watched, QEvent *event)
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         alignLabels();
         updateGeometry();
+        QMetaObject::invokeMethod(this, &KirvFormArea::dropNeedlessScrollBar, Qt::QueuedConnection);
     }
     if (watched == verticalScrollBar() && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
         keepClearOfScrollBar(event->type() == QEvent::Show);
@@ -87,6 +88,27 @@ int KirvFormArea::gap() const
 void KirvFormArea::keepClearOfScrollBar(bool shown)
 {
     setViewportMargins(0, 0, shown ? gap() : 0, 0);
+}
+
+void KirvFormArea::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    QMetaObject::invokeMethod(this, &KirvFormArea::dropNeedlessScrollBar, Qt::QueuedConnection); // when it is laid out
+}
+
+/// The scroll bar makes the form narrower and that can make it higher: what only fits without it would keep it for
+/// ever.
+void KirvFormArea::dropNeedlessScrollBar()
+{
+    if (!verticalScrollBar()->isVisible() || !widget())
+        return;
+    const QSize whole = contentsRect().size();
+    const int needed =
+        widget()->hasHeightForWidth() ? widget()->heightForWidth(whole.width()) : widget()->minimumSizeHint().height();
+    if (needed > whole.height())
+        return;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 /// Leaves room for the scroll bar, which must not cover the controls when it comes.

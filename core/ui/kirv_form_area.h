@@ -18,11 +18,13 @@ public:
 protected:
     bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     int gap() const;
     int narrowestWidth() const;
     void alignLabels();
+    void dropNeedlessScrollBar();
     void keepClearOfScrollBar(bool shown);
 };
 

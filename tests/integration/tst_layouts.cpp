@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_layout_catalog.h"
 #include "host/kirv_avatar_quick_set_widget.h"
 #include "host/kirv_field_widget.h"
@@ -16,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTabWidget>
@@ -141,6 +143,7 @@ private Q_SLOTS:
     void everyFocusableWidgetHasNames();
     void layoutMirrorsForRightToLeftLanguages();
     void manyFieldsScrollInsteadOfGrowingTheWindow();
+    void scrollBarGoesWhenTheFormFitsWithoutIt();
     void labelsOfTheFieldsLineUpWithThoseOfTheWindow();
     void fallbackIconsCanBePainted();
     void richTextLoadsNothing_data();
@@ -609,6 +612,26 @@ void tst_Layouts::layoutMirrorsForRightToLeftLanguages()
     const auto *edit = top->findChild<QWidget *>("AddAccount_UsernameEdit");
     const auto *label = top->findChild<QWidget *>("AddAccount_UsernameLabel");
     QVERIFY(label->mapTo(top.get(), origin).x() > edit->mapTo(top.get(), origin).x());
+}
+
+void tst_Layouts::scrollBarGoesWhenTheFormFitsWithoutIt()
+{
+    KirvFormArea area;
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    auto *text = new QLabel(QStringLiteral("word ").repeated(60));
+    text->setWordWrap(true);
+    column->addWidget(text);
+    area.setWidget(content);
+    area.resize(300, 40);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    QTRY_VERIFY(area.verticalScrollBar()->isVisible());
+    const int needed = content->heightForWidth(300);
+    QVERIFY(content->heightForWidth(content->width()) > needed); // with the bar it would not fit
+    area.resize(300, needed);
+    QTRY_VERIFY(!area.verticalScrollBar()->isVisible());
+    QTRY_COMPARE(content->width(), 300);
 }
 
 void tst_Layouts::manyFieldsScrollInsteadOfGrowingTheWindow()
