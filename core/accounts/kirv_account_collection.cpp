@@ -216,30 +216,35 @@ QString KirvAccountCollection::idWithSameLogin(const KirvAccountKey &key) const
     return byKey.contains(key) ? key.id : logins.find(key);
 }
 
-/// Empty when nothing but the store can refuse.
-QString KirvAccountCollection::whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const
+QString KirvAccountCollection::problemWithNew(const KirvAccountKey &key) const
 {
-    const KirvProtocolBase *known = protocols.value(record.key.protocol);
-    const QString same = idWithSameLogin(record.key);
-    if (same == record.key.id && !same.isEmpty())
-        return tr("The account \"%1\" (%2) exists already.").arg(record.key.id, record.key.protocol);
+    const QString same = idWithSameLogin(key);
+    if (same == key.id && !same.isEmpty())
+        return tr("The account \"%1\" (%2) exists already.").arg(key.id, key.protocol);
     if (!same.isEmpty()) {
         //: %1 and %3 are two spellings of a login, %2 is the name of a protocol
         return tr("The account \"%1\" (%2) exists already: it is the same as \"%3\" to the server.")
-            .arg(record.key.id, record.key.protocol, same);
+            .arg(key.id, key.protocol, same);
     }
-    if (!known || known != protocol)
-        return tr("The account \"%1\" could not be created: the protocol %2 is not loaded.")
-            .arg(record.key.id, record.key.protocol);
-    return record.key.id.isEmpty() ? tr("An account needs a login.") : QString();
+    const KirvProtocolBase *protocol = protocols.value(key.protocol);
+    if (!protocol)
+        return protocolIsNotLoaded(key);
+    return key.id.isEmpty() ? tr("An account needs a login.") : protocol->loginProblem(key.id);
+}
+
+QString KirvAccountCollection::protocolIsNotLoaded(const KirvAccountKey &key)
+{
+    return tr("The account \"%1\" could not be created: the protocol %2 is not loaded.").arg(key.id, key.protocol);
 }
 
 KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, KirvProtocol *protocol)
 {
-    const QString reason = whyNotCreated(record, protocol);
+    KirvProtocolBase *known = protocols.value(record.key.protocol);
+    QString reason = problemWithNew(record.key);
+    if (reason.isEmpty() && known != protocol)
+        reason = protocolIsNotLoaded(record.key);
     if (!reason.isEmpty())
         return refuseCreation(record.key, reason);
-    KirvProtocolBase *known = protocols.value(record.key.protocol);
     KirvAccountRecord complete = record;
     complete.settings = kirvStoredValues(known->accountSettings());
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)

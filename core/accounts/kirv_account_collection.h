@@ -31,8 +31,12 @@ public:
 
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
     /// defaults. Null when the account exists, also with another spelling of the login, the protocol is not the loaded
-    /// one, or the store refuses; then creationRefused() is emitted, and lastError() says why.
+    /// one, finds something wrong with the login, or the store refuses; then creationRefused() is emitted, and
+    /// lastError() says why.
     KirvAccount *create(const KirvAccountRecord &record, KirvProtocol *protocol);
+    /// Why no account \a key can be created, a sentence for the user: it exists, the protocol is not loaded or finds
+    /// something wrong with the login. Empty when nothing but the store could refuse it.
+    QString problemWithNew(const KirvAccountKey &key) const;
     /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
     bool remove(KirvAccount *account);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
@@ -82,10 +86,10 @@ private:
     QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
-    QString whyNotCreated(const KirvAccountRecord &record, const KirvProtocol *protocol) const;
     KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
+    static QString protocolIsNotLoaded(const KirvAccountKey &key);
     QString idWithSameLogin(const KirvAccountKey &key) const;
     void reportTwins(const QString &protocol);
     void refuse(const QString &reason);

@@ -13,6 +13,21 @@ QString KirvProtocolBase::normalizedLogin(const QString &login) const
     return login;
 }
 
+QString KirvProtocolBase::loginExample() const
+{
+    return QString();
+}
+
+QString KirvProtocolBase::loginProblem(const QString &) const
+{
+    return QString();
+}
+
+bool KirvProtocolBase::needsPassword(const QString &, const QList<KirvField> &) const
+{
+    return true;
+}
+
 KirvPresence KirvProtocolBase::presenceWithId(const QString &id, const QString &description) const
 {
     const QList<KirvPresence> offered = presences();

@@ -37,6 +37,14 @@ public:
     /// be added. The login itself stays as it was typed. Must depend on nothing else, and be quick: it is called for
     /// every account when the protocol is loaded. The default is \a login.
     virtual QString normalizedLogin(const QString &login) const;
+    /// An example of a login, as it is shown in an empty field; the default is empty.
+    virtual QString loginExample() const;
+    /// What is wrong with \a login, or missing of it, as a sentence for the user; empty when nothing is. No account is
+    /// created with a login that has a problem. Must depend on nothing else, and be quick: it is called while the user
+    /// types. The default finds nothing wrong.
+    virtual QString loginProblem(const QString &login) const;
+    /// Whether an account with \a login and \a settings can log in with a password only. The default is true.
+    virtual bool needsPassword(const QString &login, const QList<KirvField> &settings) const;
 
     /// Every presence in display order; the first is the default. Must not be empty.
     virtual QList<KirvPresence> presences() const = 0;

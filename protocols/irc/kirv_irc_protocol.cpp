@@ -50,6 +50,21 @@ QString KirvIrcProtocol::normalizedLogin(const QString &login) const
     return KirvIrcSettings::normalizedLogin(login);
 }
 
+QString KirvIrcProtocol::loginExample() const
+{
+    return tr("anna, or anna@irc.example.org");
+}
+
+QString KirvIrcProtocol::loginProblem(const QString &login) const
+{
+    return KirvIrcSettings::loginProblem(login);
+}
+
+bool KirvIrcProtocol::needsPassword(const QString &login, const QList<KirvField> &settings) const
+{
+    return KirvIrcSettings(login, QString(), settings).needsPassword();
+}
+
 QList<KirvPresence> KirvIrcProtocol::presences() const
 {
     return {

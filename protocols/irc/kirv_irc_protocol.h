@@ -19,6 +19,9 @@ public:
     QString getLoginPattern() override;
 
     QString normalizedLogin(const QString &login) const override;
+    QString loginExample() const override;
+    QString loginProblem(const QString &login) const override;
+    bool needsPassword(const QString &login, const QList<KirvField> &settings) const override;
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     KirvConnection *createConnection() override;

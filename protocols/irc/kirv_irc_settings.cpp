@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_settings.h"
 
+#include "core/values/kirv_visible_text.h"
 #include "protocols/irc/kirv_irc_text.h"
 
 #include <QHash>
@@ -29,6 +30,8 @@ const int encryptedPort = 6697;
 const int plainPort = 6667;
 
 const char nickPattern[] = "[A-Za-z_`^{|}\\[\\]\\\\][A-Za-z0-9_`^{|}\\[\\]\\\\-]*";
+
+const char serverPattern[] = "[A-Za-z0-9.:-]+";
 
 struct Network {
     const char *name;
@@ -218,7 +221,30 @@ QList<KirvField> KirvIrcSettings::configurationFields(const QString &name)
 
 QString KirvIrcSettings::loginPattern()
 {
-    return QLatin1String(nickPattern) + QLatin1String("(@[A-Za-z0-9.:-]+)?");
+    return QStringLiteral("%1(@%2)?").arg(QLatin1String(nickPattern), QLatin1String(serverPattern));
+}
+
+QString KirvIrcSettings::loginProblem(const QString &login)
+{
+    const int at = int(login.indexOf(QLatin1Char('@')));
+    const QString nick = login.left(at);
+    if (std::any_of(login.begin(), login.end(), [](QChar character) { return character.isSpace(); }))
+        return tr("A nickname contains no blanks.");
+    if (nick.isEmpty())
+        return tr("The nickname is missing.");
+    if (nick.front().isDigit() || nick.front() == QLatin1Char('-'))
+        return tr("A nickname starts with a letter.");
+    if (!isNick(nick))
+        return tr("A nickname consists of unaccented letters, digits and the characters %1.")
+            .arg(QStringLiteral("- _ ` ^ { | } [ ] \\"));
+    if (at < 0)
+        return QString();
+    const QString server = login.mid(at + 1);
+    if (server.isEmpty())
+        return tr("The server after the \"@\" is missing.");
+    static const QRegularExpression address(QRegularExpression::anchoredPattern(QLatin1String(serverPattern)));
+    return address.match(server).hasMatch() ? QString()
+                                            : tr("\"%1\" is no address of a server.").arg(kirvVisibleText(server));
 }
 
 QString KirvIrcSettings::normalizedLogin(const QString &login)

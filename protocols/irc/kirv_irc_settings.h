@@ -61,6 +61,8 @@ public:
 
     /// What a login looks like.
     static QString loginPattern();
+    /// What is wrong with \a login, or missing of it, a sentence for the user; empty when nothing is.
+    static QString loginProblem(const QString &login);
     /// The login in lower case, where {, }, | and ^ are the lower case of [, ], \ and ~ in a nick (rfc1459): most
     /// networks compare nicks like that, and which one it is shows only after the log-in.
     static QString normalizedLogin(const QString &login);

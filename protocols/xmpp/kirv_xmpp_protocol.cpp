@@ -64,6 +64,16 @@ QString KirvXmppProtocol::normalizedLogin(const QString &login) const
     return kirvXmppNormalizedAddress(login);
 }
 
+QString KirvXmppProtocol::loginExample() const
+{
+    return QStringLiteral("anna@example.org");
+}
+
+QString KirvXmppProtocol::loginProblem(const QString &login) const
+{
+    return KirvXmppSettings::loginProblem(login);
+}
+
 QList<KirvPresence> KirvXmppProtocol::presences() const
 {
     return {

@@ -19,6 +19,8 @@ public:
     QString getLoginPattern() override;
 
     QString normalizedLogin(const QString &login) const override;
+    QString loginExample() const override;
+    QString loginProblem(const QString &login) const override;
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QList<KirvField> directoryFields() const override;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
+#include "core/values/kirv_visible_text.h"
+
 #include <QFile>
 #include <QRandomGenerator>
 #include <QSslCertificate>
@@ -14,6 +16,14 @@ const auto resourceId = QStringLiteral("resource");
 const auto priorityId = QStringLiteral("priority");
 const auto encryptionId = QStringLiteral("encryption");
 const auto certificateId = QStringLiteral("certificate");
+
+const int longestPart = 1023; // of an address, in bytes of UTF-8, as the standard has it
+
+/// Besides the "@" between its parts.
+QString charactersNeverInLogins()
+{
+    return QStringLiteral("\"&'/:<>");
+}
 
 /// The stored values, in the order of KirvXmppSettings::Encryption.
 const QStringList encryptionValues { QStringLiteral("required"), QStringLiteral("offered"), QStringLiteral("none"),
@@ -158,6 +168,33 @@ QString KirvXmppSettings::loginPattern()
     const QString part = QStringLiteral("[^\\s\"&'/:<>@]+");
     const QString label = QStringLiteral("[^\\s\"&'/:<>@.]+");
     return QStringLiteral("%1@%2(\\.%2)*").arg(part, label);
+}
+
+QString KirvXmppSettings::loginProblem(const QString &login)
+{
+    const int at = int(login.indexOf(QLatin1Char('@')));
+    const QString name = login.left(at), domain = at < 0 ? QString() : login.mid(at + 1);
+    for (const QChar character : login) {
+        if (character.isSurrogate())
+            continue;
+        if (character.isSpace())
+            return tr("An address contains no blanks.");
+        const bool isSeparator = character == QLatin1Char('@');
+        if (!character.isPrint() || (!isSeparator && charactersNeverInLogins().contains(character)))
+            return tr("The character \"%1\" is not allowed in an address.").arg(kirvVisibleText(character));
+    }
+    if (at < 0)
+        return tr("The domain is missing, as in anna@example.org.");
+    if (domain.contains(QLatin1Char('@')))
+        return tr("An address contains one \"@\" only.");
+    if (name.isEmpty())
+        return tr("The name before the \"@\" is missing.");
+    if (domain.isEmpty())
+        return tr("The domain after the \"@\" is missing.");
+    if (domain.split(QLatin1Char('.')).contains(QString()))
+        return tr("The domain after the \"@\" is not complete.");
+    const auto isTooLong = [](const QString &part) { return part.toUtf8().size() > longestPart; };
+    return isTooLong(name) || isTooLong(domain) ? tr("The address is too long.") : QString();
 }
 
 bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const

@@ -58,6 +58,8 @@ public:
     /// replace what the user has typed by a name that is not theirs.
     static QList<KirvField> configurationFields(const QString &name);
     static QString loginPattern();
+    /// What is wrong with \a login as an address, or missing of it, a sentence for the user; empty when nothing is.
+    static QString loginProblem(const QString &login);
 
     /// Writes the settings for a server of \a domain into \a configuration, whose certificates are those that are
     /// trusted besides the system's. False with a sentence in \a problem when they cannot be used.

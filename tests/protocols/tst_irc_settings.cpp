@@ -36,6 +36,8 @@ private Q_SLOTS:
     void localConfigurationUsesTheLocalPort();
     void loginPatternAccepts_data();
     void loginPatternAccepts();
+    void problemsOfLoginsAreSaid_data();
+    void problemsOfLoginsAreSaid();
     void spellingsOfANickAreOneLogin_data();
     void spellingsOfANickAreOneLogin();
 };
@@ -326,6 +328,33 @@ void TestIrcSettings::loginPatternAccepts_data()
     QTest::newRow("empty network") << "alice@" << false;
     QTest::newRow("empty") << "" << false;
     QTest::newRow("other letters") << QString::fromUtf8("älice") << false;
+}
+
+void TestIrcSettings::problemsOfLoginsAreSaid_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<QString>("problem");
+    const auto add = [](const char *name, const QString &login, const QString &problem) {
+        QTest::newRow(name) << login << problem;
+    };
+    const QString letters = "A nickname consists of unaccented letters, digits and the characters "
+                            "- _ ` ^ { | } [ ] \\.";
+    add("nick", "alice", "");
+    add("signs", "[a]\\`^{|}-_1", "");
+    add("with a network", "alice@irc.libera.chat", "");
+    add("digit first", "1alice", "A nickname starts with a letter.");
+    add("hyphen first", "-alice", "A nickname starts with a letter.");
+    add("blank", "al ice", "A nickname contains no blanks.");
+    add("other letters", QString::fromUtf8("\xc3\xa4lice"), letters);
+    add("empty network", "alice@", "The server after the \"@\" is missing.");
+    add("no nick", "@irc.libera.chat", "The nickname is missing.");
+    add("with an address", "alice@[::1]", "\"[::1]\" is no address of a server.");
+}
+
+void TestIrcSettings::problemsOfLoginsAreSaid()
+{
+    QFETCH(QString, login);
+    QTEST(KirvIrcSettings::loginProblem(login), "problem");
 }
 
 void TestIrcSettings::loginPatternAccepts()

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void aCertificateThatCannotBeUsedIsReported();
     void loginsAreAddresses_data();
     void loginsAreAddresses();
+    void problemsOfLoginsAreSaid_data();
+    void problemsOfLoginsAreSaid();
 };
 
 void TestXmppSettings::fieldsAreReadAndWrittenAlike()
@@ -303,6 +305,40 @@ void TestXmppSettings::loginsAreAddresses_data()
     QTest::newRow("resource") << "anna@example.org/home" << false;
     QTest::newRow("blank") << "an na@example.org" << false;
     QTest::newRow("markup") << "<b>@example.org" << false;
+}
+
+void TestXmppSettings::problemsOfLoginsAreSaid_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<QString>("problem");
+    const auto add = [](const char *name, const QString &login, const QString &problem) {
+        QTest::newRow(name) << login << problem;
+    };
+    add("address", "anna@example.org", "");
+    add("host without dots", "anna@localhost", "");
+    add("letters of any language", QString::fromUtf8("\xc3\xa4nna@\xe4\xbe\x8b.org"), "");
+    add("beyond 16 bits", QString::fromUtf8("\xf0\x9f\x98\x80@example.org"), "");
+    add("no domain", "anna", "The domain is missing, as in anna@example.org.");
+    add("empty domain", "anna@", "The domain after the \"@\" is missing.");
+    add("no name", "@example.org", "The name before the \"@\" is missing.");
+    add("two at signs", "anna@b@example.org", "An address contains one \"@\" only.");
+    add("dots only", "anna@a..b", "The domain after the \"@\" is not complete.");
+    add("dot first", "anna@.org", "The domain after the \"@\" is not complete.");
+    add("dot last", "anna@example.", "The domain after the \"@\" is not complete.");
+    add("resource", "anna@example.org/home", "The character \"/\" is not allowed in an address.");
+    add("blank", "an na@example.org", "An address contains no blanks.");
+    add("markup", "<b>@example.org", "The character \"<\" is not allowed in an address.");
+    add("text turned around", QString("a%1b@example.org").arg(QChar(0x202e)),
+        "The character \"[U+202E]\" is not allowed in an address.");
+    add("long name", QString(1024, 'a') + "@example.org", "The address is too long.");
+    add("longest name", QString(1023, 'a') + "@example.org", "");
+    add("long domain", "a@" + QString(1024, 'a'), "The address is too long.");
+}
+
+void TestXmppSettings::problemsOfLoginsAreSaid()
+{
+    QFETCH(QString, login);
+    QTEST(KirvXmppSettings::loginProblem(login), "problem");
 }
 
 void TestXmppSettings::loginsAreAddresses()

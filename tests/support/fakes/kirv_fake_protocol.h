@@ -25,6 +25,12 @@ public:
     QString getLoginPattern() override { return loginPattern; }
 
     QString normalizedLogin(const QString &login) const override { return normalize ? normalize(login) : login; }
+    QString loginExample() const override { return example; }
+    QString loginProblem(const QString &login) const override { return findProblem ? findProblem(login) : QString(); }
+    bool needsPassword(const QString &, const QList<KirvField> &settings) const override
+    {
+        return !worksWithoutPassword || !worksWithoutPassword(settings);
+    }
     QList<KirvPresence> presences() const override { return offeredPresences; }
     QList<KirvField> accountSettings() const override { return settings; }
     QList<KirvField> directoryFields() const override { return directory; }
@@ -46,7 +52,10 @@ public:
     QList<KirvField> directory; ///< "name" and "town" at first
     QList<KirvAccountAction> actions;
     bool givesConnections = true;
+    QString example;
     std::function<QString(const QString &login)> normalize;
+    std::function<QString(const QString &login)> findProblem; ///< null: nothing is wrong with any login
+    std::function<bool(const QList<KirvField> &settings)> worksWithoutPassword; ///< null: none does
     std::function<KirvServerRequest *()> makeRegistration;
     std::function<KirvServerRequest *(const QString &actionId, KirvConnection *connection)> makeRequest;
 
