@@ -2,13 +2,27 @@
 #include "client/kirv_add_window_companion.h"
 
 #include "add_account/kirv_add_account_dialog.h"
+#include "client/kirv_advanced_section.h"
+#include "client/kirv_login_line.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/protocol/kirv_protocol_base.h"
+#include "core/ui/kirv_field_form.h"
+#include "core/ui/kirv_keyboard.h"
 #include "core/ui/kirv_length_limit.h"
-#include "host/kirv_protocol.h"
+#include "core/ui/kirv_reveal_button.h"
+#include "host/kirv_field_widget.h"
 
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -17,13 +31,19 @@ QDialogButtonBox *buttonsOf(const QWidget *window)
     return window->findChild<QDialogButtonBox *>(QStringLiteral("AddAccount_ButtonFrame"));
 }
 
+bool isEmptyThoughRequired(const KirvField &field)
+{
+    return field.isRequired() && field.getText().isEmpty();
+}
+
 } // namespace
 
 KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const KirvAddAccountDialog *controller,
                                                const KirvAccountCollection &accounts)
     : KirvWindowCompanion(window)
     , accounts(accounts)
-    , protocolName(controller->getProtocol()->getName())
+    , base(static_cast<KirvProtocolBase *>(controller->getProtocol())) // every protocol of this client is one
+    , protocolName(base->getName())
 {
     // Before the page's connection is made, so that it comes first.
     connect(buttonsOf(window), &QDialogButtonBox::accepted, this, [this] { isAdding = true; });
@@ -31,10 +51,120 @@ KirvAddWindowCompanion::KirvAddWindowCompanion(KirvLayoutDialog *window, const K
 
 void KirvAddWindowCompanion::aboutToShow()
 {
-    for (const char *name : { "AddAccount_UsernameEdit", "AddAccount_PasswordEdit" })
-        kirvLimitLength(window()->findChild<QLineEdit *>(QLatin1String(name)));
+    if (loginEdit)
+        return;
+    //: %1 = the name of a protocol
+    window()->setWindowTitle(tr("Add %1 Account").arg(protocolName));
+    setUpLogin();
+    setUpSettings();
+    setUpSaving();
+    updateSaving();
+    fitHeight();
+    // What the style makes higher is known when the window is visible.
+    QMetaObject::invokeMethod(this, &KirvAddWindowCompanion::growToFit, Qt::QueuedConnection);
+    loginEdit->setFocus();
     // After the page's.
     connect(buttonsOf(window()), &QDialogButtonBox::accepted, this, [this] { isAdding = false; });
+}
+
+void KirvAddWindowCompanion::setUpLogin()
+{
+    loginEdit = window()->findChild<QLineEdit *>(QStringLiteral("AddAccount_UsernameEdit"));
+    passwordEdit = window()->findChild<QLineEdit *>(QStringLiteral("AddAccount_PasswordEdit"));
+    kirvLimitLength(loginEdit);
+    kirvLimitLength(passwordEdit);
+    loginLine = new KirvLoginLine(loginEdit, protocolName, base->loginExample(), accounts);
+    if (KirvRevealButton *reveal = KirvRevealButton::addBeside(passwordEdit))
+        reveal->setObjectName(QStringLiteral("AddAccount_PasswordReveal"));
+    connect(loginLine, &KirvLoginLine::problemChanged, this, &KirvAddWindowCompanion::growToFit);
+    connect(loginEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
+    connect(passwordEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
+}
+
+void KirvAddWindowCompanion::setUpSettings()
+{
+    settings = window()->findChild<KirvFieldWidget *>();
+    if (!settings)
+        return;
+    advanced = KirvAdvancedSection::addAbove(settings);
+    if (advanced)
+        connect(advanced, &KirvAdvancedSection::toggled, this, &KirvAddWindowCompanion::fitHeight);
+    takeNewSettings();
+    // After the page's connection, which fills the settings in.
+    if (const auto *configurations = window()->findChild<QComboBox *>(QStringLiteral("AddAccount_Configuration")))
+        connect(configurations, &QComboBox::currentTextChanged, this, &KirvAddWindowCompanion::takeNewSettings);
+}
+
+void KirvAddWindowCompanion::setUpSaving()
+{
+    QDialogButtonBox *buttons = buttonsOf(window());
+    saveWithoutPassword = new QPushButton(buttons);
+    saveWithoutPassword->setObjectName(QStringLiteral("AddAccount_SaveWithoutPassword"));
+    QSet<QChar> taken = kirvMnemonicsAround(saveWithoutPassword);
+    saveWithoutPassword->setText(kirvWithMnemonic(tr("Save Without a Password"), &taken));
+    buttons->addButton(saveWithoutPassword, QDialogButtonBox::AcceptRole);
+
+    auto *column = qobject_cast<QBoxLayout *>(window()->layout());
+    if (!column || column->indexOf(buttons) < 0)
+        return;
+    saveHint = new QLabel(window());
+    saveHint->setObjectName(QStringLiteral("AddAccount_SaveHint"));
+    saveHint->setTextFormat(Qt::PlainText);
+    saveHint->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    column->insertWidget(column->indexOf(buttons), saveHint);
+}
+
+/// The form of the settings is a new one. Settings that differ from those of any new account, or that must be filled
+/// in, are not hidden.
+void KirvAddWindowCompanion::takeNewSettings()
+{
+    const auto forms = settings->findChildren<KirvFieldForm *>(); // the one before is about to be deleted
+    connect(forms.last(), &KirvFieldForm::edited, this, &KirvAddWindowCompanion::updateSaving);
+    updateSaving();
+    if (!advanced)
+        return;
+    const QList<KirvField> fields = settings->getFields();
+    if (fields != base->accountSettings() || std::any_of(fields.begin(), fields.end(), isEmptyThoughRequired))
+        advanced->setOpen(true);
+}
+
+/// As high as its content wants it to be and the screen lets it; the width that the user gave it stays.
+void KirvAddWindowCompanion::fitHeight()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of what was just shown or hidden
+    const QSize wanted = window()->sizeHint();
+    const QSize available = window()->screen()->availableSize();
+    window()->resize(std::min(std::max(window()->width(), wanted.width()), available.width()),
+                     std::min(wanted.height(), available.height()));
+}
+
+/// A sentence of several lines must not hide what is below it.
+void KirvAddWindowCompanion::growToFit()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (window()->isVisible() && window()->sizeHint().height() > window()->height())
+        fitHeight();
+}
+
+void KirvAddWindowCompanion::updateSaving()
+{
+    if (!saveWithoutPassword) // not built yet
+        return;
+    const bool hasLogin = !loginEdit->text().isEmpty(), hasPassword = !passwordEdit->text().isEmpty();
+    const bool canDoWithout = hasLogin && !hasPassword
+        && !base->needsPassword(loginEdit->text(), settings ? settings->getFields() : QList<KirvField>());
+    saveWithoutPassword->setVisible(canDoWithout);
+    QString why;
+    if (!hasLogin)
+        why = hasPassword ? tr("The login is missing.") : tr("The login and the password are missing.");
+    else if (!hasPassword)
+        why = canDoWithout ? tr("The account can be used without a password.") : tr("The password is missing.");
+    if (QPushButton *save = buttonsOf(window())->button(QDialogButtonBox::Save)) {
+        save->setToolTip(why);
+        save->setAccessibleDescription(why);
+    }
+    if (saveHint)
+        saveHint->setText(why);
 }
 
 void KirvAddWindowCompanion::close()
@@ -50,6 +180,7 @@ bool KirvAddWindowCompanion::takeRefusal(const KirvAccountKey &key, const QStrin
     if (!isAdding || key.protocol != protocolName)
         return false;
     isAdding = false;
+    loginLine->showRefusal(reason);
     // The page's message box, which comes next, blocks: its own event loop delivers this.
     QMetaObject::invokeMethod(
         this, [this, key, reason] { correctMessage(key, reason); }, Qt::QueuedConnection);

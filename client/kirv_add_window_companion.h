@@ -9,9 +9,17 @@
 
 class KirvAccountCollection;
 class KirvAddAccountDialog;
+class KirvAdvancedSection;
+class KirvFieldWidget;
+class KirvLoginLine;
+class KirvProtocolBase;
+class QLabel;
+class QLineEdit;
+class QPushButton;
 
-/// What the client adds to an add window: it ends with its protocol, and its message about a refused account says the
-/// true reason. Owned by the window.
+/// What the client adds to an add window: its settings are below "Advanced", it says what is wrong with the login and
+/// why it cannot be saved yet, it ends with its protocol, and its message about a refused account says the true reason.
+/// Owned by the window.
 class KirvAddWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
@@ -30,10 +38,25 @@ public:
     void aboutToShow() override;
 
 private:
+    void setUpLogin();
+    void setUpSettings();
+    void setUpSaving();
+    void takeNewSettings();
+    void fitHeight();
+    void growToFit();
+    void updateSaving();
     void correctMessage(const KirvAccountKey &key, const QString &reason);
 
     const KirvAccountCollection &accounts;
+    KirvProtocolBase *const base; ///< the window is closed before the protocol goes
     const QString protocolName;
+    QLineEdit *loginEdit = nullptr;
+    QLineEdit *passwordEdit = nullptr;
+    KirvLoginLine *loginLine = nullptr;
+    KirvFieldWidget *settings = nullptr; ///< null when the protocol has none
+    KirvAdvancedSection *advanced = nullptr; ///< null where the layout has no place for it
+    QLabel *saveHint = nullptr; ///< null where the layout has no place for it
+    QPushButton *saveWithoutPassword = nullptr;
     bool isAdding = false; ///< while the click on Save leads to what it leads to
 };
 

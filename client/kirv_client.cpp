@@ -141,6 +141,7 @@ void KirvClient::createWindow()
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
     companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, services->mainAccountRule,
                                           settingsWindow.get());
+    connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
     page = KirvAccountsTab::getInstance();
     connections = new KirvConnectionView(*accountCollection, *serverCommands);
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
@@ -200,7 +201,13 @@ void KirvClient::loadPlugins()
 void KirvClient::openLink()
 {
     const KirvAccountLink link = std::exchange(unopenedLink, KirvAccountLink());
-    if (!link.isNull() && !link.open(page)) {
+    if (!link.isNull())
+        open(link);
+}
+
+void KirvClient::open(const KirvAccountLink &link)
+{
+    if (!link.open(page)) {
         //: %1 = name of a protocol
         showProblem(tr("The link cannot be opened: the protocol %1 is not available.").arg(link.protocol));
     }

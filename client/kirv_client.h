@@ -69,6 +69,7 @@ private:
     void connectServices();
     void loadPlugins();
     void openLink();
+    void open(const KirvAccountLink &link);
 
     void protocolLoaded(KirvProtocolBase *protocol);
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);

@@ -5,6 +5,7 @@
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_add_window_companion.h"
 #include "client/kirv_edit_window_companion.h"
+#include "client/kirv_link_target.h"
 #include "core/ui/kirv_layout_catalog.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 
@@ -52,6 +53,7 @@ void KirvWindowCompanions::add(const QString &layout, QWidget *top)
     auto *dialog = qobject_cast<KirvLayoutDialog *>(top);
     if (layout == QLatin1String("Accounts")) {
         pageCompanion = new KirvAccountsPageCompanion(top, accounts, serverCommands, mainAccount);
+        connect(new KirvLinkTarget(top), &KirvLinkTarget::linkTaken, this, &KirvWindowCompanions::linkTaken);
     } else if (KirvEditAccountDialog *controller = KirvEditAccountDialog::of(dialog)) {
         editWindows.removeAll(nullptr);
         editWindows << new KirvEditWindowCompanion(dialog, controller, accounts, serverCommands);

@@ -2,6 +2,7 @@
 #ifndef KIRV_WINDOW_COMPANIONS_H
 #define KIRV_WINDOW_COMPANIONS_H
 
+#include "client/kirv_account_link.h"
 #include "core/values/kirv_account_key.h"
 
 #include <QList>
@@ -32,6 +33,10 @@ public:
     bool takeRefusal(const KirvAccountKey &key, const QString &reason) const;
     /// Closes the windows that use the protocol: afterwards nothing follows a pointer to it.
     void closeWindowsOf(const QString &protocol);
+
+Q_SIGNALS:
+    /// The user has put \a link onto the page.
+    void linkTaken(const KirvAccountLink &link);
 
 private:
     void add(const QString &layout, QWidget *top);

@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_field_form.h"
 
+#include "core/ui/kirv_hint_line.h"
 #include "core/ui/kirv_keyboard.h"
 #include "core/ui/kirv_length_limit.h"
+#include "core/ui/kirv_reveal_button.h"
 #include "core/values/kirv_text_limit.h"
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSpinBox>
-#include <QStyle>
 #include <QTextDocument>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <limits>
@@ -243,10 +241,13 @@ void KirvFieldForm::addControl(Row *row)
     line->setSpacing(0);
     line->addWidget(row->editor.widget);
     if (row->field.getKind() == KirvField::Password)
-        line->addWidget(makeRevealButton(static_cast<QLineEdit *>(row->editor.widget), row->field));
+        line->addWidget(makeRevealButton(*row));
     cell->addLayout(line);
-    if (canHaveProblem(row->field))
-        cell->addWidget(makeHint(row));
+    if (canHaveProblem(row->field)) {
+        row->hint = new KirvHintLine(objectNameOf(row->field) + QStringLiteral("_Hint"), this);
+        row->editor.widget->installEventFilter(this);
+        cell->addWidget(row->hint);
+    }
 
     const QString caption = captionOf(row->field);
     const bool isCheckBox = row->field.getKind() == KirvField::CheckBox;
@@ -331,7 +332,7 @@ KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_
         edit->setEchoMode(QLineEdit::Password);
     if (field.isRequired())
         edit->setPlaceholderText(tr("Required"));
-    connect(edit, &QLineEdit::textChanged, this, [this, row] { updateHint(rows[row], true); });
+    connect(edit, &QLineEdit::textChanged, this, [this, row] { takeEdit(row); });
     return { edit, [edit] { return edit->text(); } };
 }
 
@@ -345,14 +346,15 @@ KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_
     edit->setFixedHeight(heightOfLines(edit, ShownLines));
     if (field.isRequired())
         edit->setPlaceholderText(tr("Required"));
-    connect(edit, &QPlainTextEdit::textChanged, this, [this, row] { updateHint(rows[row], true); });
+    connect(edit, &QPlainTextEdit::textChanged, this, [this, row] { takeEdit(row); });
     return { edit, [edit] { return edit->toPlainText(); } };
 }
 
-KirvFieldForm::Editor KirvFieldForm::makeCheckBox(const KirvField &field, std::size_t)
+KirvFieldForm::Editor KirvFieldForm::makeCheckBox(const KirvField &field, std::size_t row)
 {
     auto *box = new QCheckBox(this);
     box->setChecked(field.isChecked());
+    connect(box, &QCheckBox::toggled, this, [this, row] { takeEdit(row); });
     return { box, [box] { return box->isChecked(); } };
 }
 
@@ -376,8 +378,7 @@ KirvFieldForm::Editor KirvFieldForm::makeChoice(const KirvField &field, std::siz
         current = 0;
     }
     box->setCurrentIndex(current);
-    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this, row] { updateHint(rows[row], true); });
+    connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this, row] { takeEdit(row); });
     return { box, [box] { return box->currentData(); } };
 }
 
@@ -396,49 +397,21 @@ KirvFieldForm::Editor KirvFieldForm::makeNumber(const KirvField &field, std::siz
                                      : shortened(field.getText().left(LongestCaption).simplified(), LongestNumber));
         box->setValue(box->minimum());
     }
-    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, row] { updateHint(rows[row], true); });
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, row] { takeEdit(row); });
     return { box, [box] { return box->value(); } };
 }
 
-QWidget *KirvFieldForm::makeRevealButton(QLineEdit *edit, const KirvField &field)
+QWidget *KirvFieldForm::makeRevealButton(const Row &row)
 {
-    auto *button = new QToolButton(this);
-    button->setObjectName(objectNameOf(field) + QStringLiteral("_Reveal"));
-    button->setCheckable(true);
-    button->setAutoRaise(true);
-    const QIcon hidden =
-        QIcon::fromTheme(QStringLiteral("password-show-on"), QIcon(QStringLiteral(":/kirv/icons/password-show.svg")));
-    const QIcon revealed =
-        QIcon::fromTheme(QStringLiteral("password-show-off"), QIcon(QStringLiteral(":/kirv/icons/password-hide.svg")));
-    const auto reveal = [=](bool on) {
-        edit->setEchoMode(on ? QLineEdit::Normal : QLineEdit::Password);
-        button->setIcon(on ? revealed : hidden);
-        button->setToolTip(on ? tr("Hide the text") : tr("Show the text"));
-        button->setAccessibleName(button->toolTip());
-    };
-    connect(button, &QToolButton::toggled, edit, reveal);
-    reveal(false);
+    auto *button = new KirvRevealButton(static_cast<QLineEdit *>(row.editor.widget), this);
+    button->setObjectName(objectNameOf(row.field) + QStringLiteral("_Reveal"));
     return button;
 }
 
-QWidget *KirvFieldForm::makeHint(Row *row)
+void KirvFieldForm::takeEdit(std::size_t row)
 {
-    auto *hintLine = new QWidget(this);
-    auto *icon = new QLabel(hintLine);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).pixmap(size, size));
-    row->hint = new QLabel(hintLine);
-    row->hint->setObjectName(objectNameOf(row->field) + QStringLiteral("_Hint"));
-    row->hint->setTextFormat(Qt::PlainText);
-    row->hint->setWordWrap(true);
-
-    auto *line = new QHBoxLayout(hintLine);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->addWidget(icon);
-    line->addWidget(row->hint, 1);
-    hintLine->hide();
-    row->editor.widget->installEventFilter(this);
-    return hintLine;
+    updateHint(rows[row], true);
+    Q_EMIT edited();
 }
 
 void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)
@@ -449,12 +422,7 @@ void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)
     const QString problem = field.getText().isEmpty() && !remindOfEmpty ? QString() : problemOf(field);
     if (problem == row.hint->text())
         return;
-    row.hint->setText(problem);
-    row.hint->parentWidget()->setVisible(!problem.isEmpty());
     row.editor.widget->setAccessibleDescription(problem.isEmpty() ? shortened(field.getToolTip(), LongestToolTip)
                                                                   : problem);
-    if (!problem.isEmpty() && isVisible()) {
-        QAccessibleEvent alert(row.hint, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    }
+    row.hint->setText(problem);
 }

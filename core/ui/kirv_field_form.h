@@ -12,8 +12,8 @@
 #include <functional>
 #include <vector>
 
+class KirvHintLine;
 class QLabel;
-class QLineEdit;
 
 /// The rows of a field widget for one list of fields; a new list makes a new form.
 ///
@@ -32,6 +32,10 @@ public:
     /// Gives the captions mnemonics that do not clash in the window that the form is in by now.
     void assignMnemonics();
 
+Q_SIGNALS:
+    /// The user has changed a value.
+    void edited();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -45,7 +49,7 @@ private:
         KirvField field;
         Editor editor;
         QVariant shown;
-        QLabel *hint = nullptr;
+        KirvHintLine *hint = nullptr;
 
         KirvField edited() const;
     };
@@ -62,10 +66,10 @@ private:
     Editor makeCheckBox(const KirvField &field, std::size_t row);
     Editor makeChoice(const KirvField &field, std::size_t row);
     Editor makeNumber(const KirvField &field, std::size_t row);
-    QWidget *makeRevealButton(QLineEdit *edit, const KirvField &field);
-    QWidget *makeHint(Row *row);
+    QWidget *makeRevealButton(const Row &row);
     QLabel *makeLabel(const KirvField &field);
     void addControl(Row *row);
+    void takeEdit(std::size_t row);
     void updateHint(const Row &row, bool remindOfEmpty);
 
     QFormLayout *layout;

@@ -33,7 +33,8 @@ namespace {
 const QString password = QStringLiteral("secret");
 }
 
-KirvClientWindows::KirvClientWindows()
+KirvClientWindows::KirvClientWindows(const QString &protocolName)
+    : protocolName(protocolName)
 {
     options.profileFolder = folder.filePath(QStringLiteral("profile"));
     options.pluginFolder = folder.path();
@@ -47,7 +48,7 @@ bool KirvClientWindows::start()
     client = std::make_unique<KirvClient>(options);
     if (!client->start())
         return false;
-    protocol = new KirvFakeProtocol;
+    protocol = new KirvFakeProtocol(protocolName);
     if (!client->plugins().addProtocol(protocol))
         return false;
     client->window()->show();

@@ -20,10 +20,10 @@ class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// A client with its windows over a profile of its own, with the protocol "Fake", as a user has them.
+/// A client with its windows over a profile of its own, with one fake protocol, as a user has them.
 class KirvClientWindows {
 public:
-    KirvClientWindows();
+    explicit KirvClientWindows(const QString &protocolName = QStringLiteral("Fake"));
     ~KirvClientWindows();
 
     /// Whether the client could be started.
@@ -88,6 +88,8 @@ public:
 
 private:
     bool start();
+
+    const QString protocolName;
 
     bool ready;
 };

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ADVANCED_SECTION_H
+#define KIRV_ADVANCED_SECTION_H
+
+#include <QWidget>
+
+class KirvFieldWidget;
+class QToolButton;
+
+/// A row above the settings of a new account that shows and hides them. They are hidden at first.
+class KirvAdvancedSection : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Puts a section above \a fields in the form that they stand in; null when they do not stand in one.
+    static KirvAdvancedSection *addAbove(KirvFieldWidget *fields);
+
+    void setOpen(bool open);
+
+Q_SIGNALS:
+    void toggled(bool isOpen);
+
+private:
+    KirvAdvancedSection(KirvFieldWidget *fields, QWidget *parent);
+
+    QToolButton *button;
+};
+
+#endif

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_login_line.h"
+
+#include "client/kirv_account_link.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_hint_line.h"
+#include "core/values/kirv_visible_text.h"
+
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace {
+
+/// A hint in the row below \a edit; null where that does not stand in a form.
+KirvHintLine *addHintBelow(QLineEdit *edit)
+{
+    QWidget *parent = edit->parentWidget();
+    auto *form = parent ? qobject_cast<QFormLayout *>(parent->layout()) : nullptr;
+    if (!form || form->indexOf(edit) < 0)
+        return nullptr;
+    int row = 0;
+    QFormLayout::ItemRole role = QFormLayout::FieldRole;
+    form->getWidgetPosition(edit, &row, &role);
+    form->removeWidget(edit);
+    auto *hint = new KirvHintLine(edit->objectName() + QStringLiteral("_Hint"), parent);
+    hint->keepPlace(); // what is below must not move while the user types
+    auto *cell = new QVBoxLayout;
+    cell->addWidget(edit);
+    cell->addWidget(hint);
+    form->setLayout(row, role, cell);
+    return hint;
+}
+
+} // namespace
+
+KirvLoginLine::KirvLoginLine(QLineEdit *edit, const QString &protocol, const QString &example,
+                             const KirvAccountCollection &accounts)
+    : QObject(edit)
+    , edit(edit)
+    , protocol(protocol)
+    , accounts(accounts)
+    , hint(addHintBelow(edit))
+{
+    edit->setPlaceholderText(example);
+    connect(edit, &QLineEdit::textChanged, this, &KirvLoginLine::check);
+    // The line holds what it refuses until it returns.
+    connect(edit, &QLineEdit::inputRejected, this, [this, edit] {
+        const QString text = edit->text();
+        QMetaObject::invokeMethod(
+            this, [this, text] { explainRefusal(text); }, Qt::QueuedConnection);
+    });
+    check();
+}
+
+void KirvLoginLine::check()
+{
+    const QString login = edit->text();
+    if (!takeLink(login))
+        show(login.isEmpty() ? QString() : accounts.problemWithNew({ login, protocol }));
+}
+
+bool KirvLoginLine::takeLink(const QString &text)
+{
+    const KirvAccountLink link = KirvAccountLink::fromText(text.trimmed());
+    if (link.protocol != protocol || link.login.isEmpty() || link.login == text)
+        return false;
+    edit->setText(link.login);
+    return true;
+}
+
+/// The line takes only what can become a login, and would refuse anything else in silence. \a text is what it would
+/// hold.
+void KirvLoginLine::explainRefusal(const QString &text)
+{
+    if (text.size() >= edit->maxLength() || takeLink(text))
+        return;
+    const QString problem = accounts.problemWithNew({ text, protocol });
+    show(problem.isEmpty() ? tr("A login cannot contain this.") : problem);
+}
+
+void KirvLoginLine::show(const QString &problem)
+{
+    if (problem == shown)
+        return;
+    shown = problem;
+    const QString visible = kirvVisibleText(problem);
+    edit->setAccessibleDescription(visible);
+    if (hint)
+        hint->setText(visible);
+    Q_EMIT problemChanged();
+}

@@ -1,0 +1,585 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "host/kirv_field_widget.h"
+#include "tests/integration/kirv_client_windows.h"
+#include "tests/support/gui/kirv_window_watcher.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QToolButton>
+#include <QtTest>
+
+namespace {
+
+template <typename T>
+T *child(const QWidget *window, const char *name)
+{
+    return KirvClientWindows::child<T>(window, name);
+}
+
+QLineEdit *login(const QWidget *window)
+{
+    return child<QLineEdit>(window, "AddAccount_UsernameEdit");
+}
+
+QLineEdit *password(const QWidget *window)
+{
+    return child<QLineEdit>(window, "AddAccount_PasswordEdit");
+}
+
+QPushButton *save(const QWidget *window)
+{
+    return child<QDialogButtonBox>(window, "AddAccount_ButtonFrame")->button(QDialogButtonBox::Save);
+}
+
+QPushButton *saveWithoutPassword(const QWidget *window)
+{
+    return child<QPushButton>(window, "AddAccount_SaveWithoutPassword");
+}
+
+/// What stands below the login.
+QString hint(const QWidget *window)
+{
+    const auto *label = child<QLabel>(window, "AddAccount_UsernameEdit_Hint");
+    return label && label->isVisible() ? label->text() : QString();
+}
+
+QString whyNotSaved(const QWidget *window)
+{
+    return child<QLabel>(window, "AddAccount_SaveHint")->text();
+}
+
+KirvFieldWidget *settings(const QWidget *window)
+{
+    return window->findChild<KirvFieldWidget *>();
+}
+
+QToolButton *advanced(const QWidget *window)
+{
+    return child<QToolButton>(window, "AddAccount_Advanced");
+}
+
+} // namespace
+
+/// The window for a new account, as a user meets it: little to fill in, and what is wrong is said while it is typed.
+class tst_AddingAnAccount : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void titleNamesTheProtocol();
+    void typingStartsInTheLogin();
+    void emptyLoginShowsAnExample();
+    void settingsAreBelowAdvanced();
+    void advancedNamesTheFirstSettings();
+    void readyMadeConfigurationOpensTheSettings();
+    void configurationWithoutOtherSettingsOpensNothing();
+    void settingThatMustBeFilledInIsNotHidden();
+    void hiddenSettingsAreSaved();
+    void windowFitsItsContentWhenSettingsComeAndGo();
+    void passwordIsShownWhileTheEyeIsDown();
+    void wrongLoginIsSaidWhileItIsTyped();
+    void existingAccountIsSaidBeforeItIsSaved();
+    void hintMovesNothing();
+    void windowGrowsWithALongHint();
+    void hintIsReadByAssistiveTechnology();
+    void refusedCharacterIsSaid_data();
+    void refusedCharacterIsSaid();
+    void reasonWhySaveIsDisabled_data();
+    void reasonWhySaveIsDisabled();
+    void wrongLoginIsRefusedWithTheReason();
+    void accountWithoutPasswordHasAButtonOfItsOwn();
+    void settingDecidesWhetherAPasswordIsNeeded();
+    void keyboardAloneAddsAnAccount();
+    void nothingIsCutOffInASmallWindow();
+    void linkIsTakenForItsLogin_data();
+    void linkIsTakenForItsLogin();
+    void linkOnThePageOpensTheWindow_data();
+    void linkOnThePageOpensTheWindow();
+    void otherTextOnThePageOpensNothing();
+
+private:
+    void open(const std::function<void(KirvLayoutDialog *)> &inWindow);
+
+    std::unique_ptr<KirvClientWindows> windows;
+};
+
+void tst_AddingAnAccount::init()
+{
+    windows = std::make_unique<KirvClientWindows>();
+    QVERIFY(windows->isReady());
+    windows->protocol->example = QStringLiteral("anna@example.org");
+    windows->protocol->findProblem = [](const QString &text) {
+        return text.contains(QLatin1Char('@')) ? QString() : QStringLiteral("The domain is missing.");
+    };
+}
+
+void tst_AddingAnAccount::cleanup()
+{
+    windows.reset();
+}
+
+/// Opens the window for a new account and cancels it afterwards when it is still there.
+void tst_AddingAnAccount::open(const std::function<void(KirvLayoutDialog *)> &inWindow)
+{
+    bool isRun = false;
+    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
+        const QPointer<KirvLayoutDialog> added(window);
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        inWindow(window);
+        isRun = true;
+        if (added && added->isVisible())
+            added->reject();
+    });
+    child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton")->menu()->actions().first()->trigger();
+    windows->settle();
+    QVERIFY(isRun);
+}
+
+void tst_AddingAnAccount::titleNamesTheProtocol()
+{
+    open([](KirvLayoutDialog *window) { QCOMPARE(window->windowTitle(), QString("Add Fake Account")); });
+}
+
+void tst_AddingAnAccount::typingStartsInTheLogin()
+{
+    open([](KirvLayoutDialog *window) {
+        QCOMPARE(window->focusWidget(), login(window));
+        QTest::keyClicks(window->focusWidget(), "anna");
+        QCOMPARE(login(window)->text(), QString("anna"));
+    });
+}
+
+void tst_AddingAnAccount::emptyLoginShowsAnExample()
+{
+    open([](KirvLayoutDialog *window) { QCOMPARE(login(window)->placeholderText(), QString("anna@example.org")); });
+}
+
+void tst_AddingAnAccount::settingsAreBelowAdvanced()
+{
+    open([](KirvLayoutDialog *window) {
+        QVERIFY(!settings(window)->isVisible());
+        QVERIFY(login(window)->isVisible() && password(window)->isVisible());
+        QVERIFY(advanced(window)->focusPolicy() & Qt::TabFocus);
+        QTest::keyClick(advanced(window), Qt::Key_Space);
+        QVERIFY(settings(window)->isVisible());
+        QTest::keyClick(advanced(window), Qt::Key_Space);
+        QVERIFY(!settings(window)->isVisible());
+    });
+}
+
+void tst_AddingAnAccount::advancedNamesTheFirstSettings()
+{
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", ""),
+                                    KirvField::number("Port", "port", 1, 1, 9, "") };
+    open([](KirvLayoutDialog *window) {
+        QCOMPARE(child<QLabel>(window, "AddAccount_AdvancedSummary")->text(), QString("Server, Port"));
+        QCOMPARE(advanced(window)->accessibleDescription(), QString("Server, Port"));
+    });
+    for (const char *name : { "A", "B" })
+        windows->protocol->settings << KirvField::textEdit(name, name, "", "");
+    open([](KirvLayoutDialog *window) {
+        const auto *summary = child<QLabel>(window, "AddAccount_AdvancedSummary");
+        QCOMPARE(summary->text(), QString("Server, Port, A…"));
+        QVERIFY(summary->isVisible());
+        advanced(window)->click();
+        QVERIFY(!summary->isVisible());
+    });
+}
+
+void tst_AddingAnAccount::readyMadeConfigurationOpensTheSettings()
+{
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
+    windows->protocol->configurations = QStringList("Local");
+    windows->protocol->configurationFields = { KirvField::textEdit("Server", "server", "127.0.0.1", "") };
+    open([](KirvLayoutDialog *window) {
+        QVERIFY(!settings(window)->isVisible());
+        child<QComboBox>(window, "AddAccount_Configuration")->setCurrentText("Local");
+        QVERIFY(settings(window)->isVisible());
+        QCOMPARE(settings(window)->getFields().first().getText(), QString("127.0.0.1"));
+    });
+}
+
+void tst_AddingAnAccount::configurationWithoutOtherSettingsOpensNothing()
+{
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
+    windows->protocol->configurations = QStringList("Usual");
+    windows->protocol->configurationFields = windows->protocol->settings;
+    open([](KirvLayoutDialog *window) {
+        child<QComboBox>(window, "AddAccount_Configuration")->setCurrentText("Usual");
+        QVERIFY(!settings(window)->isVisible());
+    });
+}
+
+void tst_AddingAnAccount::settingThatMustBeFilledInIsNotHidden()
+{
+    KirvField server = KirvField::textEdit("Server", "server", "", "");
+    server.setRequired(true);
+    windows->protocol->settings = { server };
+    open([](KirvLayoutDialog *window) { QVERIFY(settings(window)->isVisible()); });
+}
+
+void tst_AddingAnAccount::hiddenSettingsAreSaved()
+{
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "example.org", "") };
+    QVERIFY(windows->addInWindow("anna@fake"));
+    QCOMPARE(windows->account("anna@fake")->record().settings.value("server"), QString("example.org"));
+}
+
+void tst_AddingAnAccount::windowFitsItsContentWhenSettingsComeAndGo()
+{
+    open([](KirvLayoutDialog *window) {
+        const QSize closed = window->size();
+        QCOMPARE(closed.height(), window->sizeHint().height());
+        advanced(window)->click();
+        QVERIFY(window->height() > closed.height());
+        QVERIFY(window->height() <= window->screen()->availableSize().height());
+        window->resize(window->width() + 50, window->height());
+        const int chosenWidth = window->width();
+        advanced(window)->click();
+        QCOMPARE(window->size(), QSize(chosenWidth, closed.height()));
+    });
+}
+
+void tst_AddingAnAccount::passwordIsShownWhileTheEyeIsDown()
+{
+    open([](KirvLayoutDialog *window) {
+        auto *eye = child<QToolButton>(window, "AddAccount_PasswordReveal");
+        QVERIFY(eye && eye->isVisible());
+        QCOMPARE(password(window)->echoMode(), QLineEdit::Password);
+        QTest::keyClick(eye, Qt::Key_Space);
+        QCOMPARE(password(window)->echoMode(), QLineEdit::Normal);
+        QTest::keyClick(eye, Qt::Key_Space);
+        QCOMPARE(password(window)->echoMode(), QLineEdit::Password);
+    });
+}
+
+void tst_AddingAnAccount::wrongLoginIsSaidWhileItIsTyped()
+{
+    open([](KirvLayoutDialog *window) {
+        QCOMPARE(hint(window), QString());
+        QTest::keyClicks(login(window), "anna");
+        QCOMPARE(hint(window), QString("The domain is missing."));
+        QTest::keyClicks(login(window), "@");
+        QCOMPARE(hint(window), QString());
+        login(window)->clear();
+        QCOMPARE(hint(window), QString());
+    });
+}
+
+void tst_AddingAnAccount::existingAccountIsSaidBeforeItIsSaved()
+{
+    windows->protocol->normalize = [](const QString &text) { return text.toLower(); };
+    QVERIFY(windows->addAccount("anna@fake"));
+    open([](KirvLayoutDialog *window) {
+        login(window)->setText("Anna@Fake");
+        QCOMPARE(hint(window),
+                 QString("The account \"Anna@Fake\" (Fake) exists already: it is the same as \"anna@fake\" to the "
+                         "server."));
+        login(window)->setText("anna@fake");
+        QCOMPARE(hint(window), QString("The account \"anna@fake\" (Fake) exists already."));
+    });
+}
+
+void tst_AddingAnAccount::hintMovesNothing()
+{
+    open([](KirvLayoutDialog *window) {
+        const QPoint before = password(window)->mapTo(window, QPoint());
+        const QSize size = window->size();
+        QTest::keyClicks(login(window), "anna");
+        QCOMPARE(hint(window), QString("The domain is missing."));
+        QCoreApplication::processEvents();
+        QCOMPARE(password(window)->mapTo(window, QPoint()), before);
+        QCOMPARE(window->size(), size);
+    });
+}
+
+void tst_AddingAnAccount::windowGrowsWithALongHint()
+{
+    windows->protocol->findProblem = [](const QString &) {
+        return QStringLiteral(
+                   "This sentence has a good many words, so that it takes more than one line where it is shown. ")
+            .repeated(3);
+    };
+    open([](KirvLayoutDialog *window) {
+        const int before = window->height();
+        QTest::keyClicks(login(window), "a");
+        QVERIFY(window->height() > before);
+        QCOMPARE(window->height(), window->sizeHint().height());
+    });
+}
+
+void tst_AddingAnAccount::hintIsReadByAssistiveTechnology()
+{
+    open([](KirvLayoutDialog *window) {
+        QTest::keyClicks(login(window), "anna");
+        QAccessibleInterface *line = QAccessible::queryAccessibleInterface(login(window));
+        QCOMPARE(line->text(QAccessible::Description), QString("The domain is missing."));
+        QCOMPARE(line->text(QAccessible::Name), QString("Login"));
+    });
+}
+
+void tst_AddingAnAccount::refusedCharacterIsSaid_data()
+{
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("the protocol knows why") << "A login contains no blanks."
+                                            << "A login contains no blanks.";
+    QTest::newRow("it does not") << ""
+                                 << "A login cannot contain this.";
+}
+
+void tst_AddingAnAccount::refusedCharacterIsSaid()
+{
+    QFETCH(QString, reason);
+    QFETCH(QString, said);
+    windows->protocol->loginPattern = QStringLiteral("\\S+");
+    windows->protocol->findProblem = [reason](const QString &text) {
+        return text == QLatin1String("an na") || text == QLatin1String("a b") ? reason : QString();
+    };
+    open([&](KirvLayoutDialog *window) {
+        QTest::keyClicks(login(window), "anna");
+        login(window)->setCursorPosition(2);
+        QTest::keyClick(login(window), Qt::Key_Space);
+        QCOMPARE(login(window)->text(), QString("anna"));
+        QTRY_COMPARE(hint(window), said);
+        QTest::keyClick(login(window), Qt::Key_X);
+        QCOMPARE(hint(window), QString());
+        login(window)->clear();
+        QGuiApplication::clipboard()->setText("a b");
+        login(window)->paste();
+        QTRY_COMPARE(hint(window), said);
+    });
+}
+
+void tst_AddingAnAccount::reasonWhySaveIsDisabled_data()
+{
+    QTest::addColumn<QString>("typedLogin");
+    QTest::addColumn<QString>("typedPassword");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("nothing") << ""
+                             << ""
+                             << "The login and the password are missing.";
+    QTest::newRow("login") << "anna@fake"
+                           << ""
+                           << "The password is missing.";
+    QTest::newRow("password") << ""
+                              << "secret"
+                              << "The login is missing.";
+    QTest::newRow("both") << "anna@fake"
+                          << "secret"
+                          << "";
+}
+
+void tst_AddingAnAccount::reasonWhySaveIsDisabled()
+{
+    QFETCH(QString, typedLogin);
+    QFETCH(QString, typedPassword);
+    QFETCH(QString, reason);
+    open([&](KirvLayoutDialog *window) {
+        login(window)->setText(typedLogin);
+        password(window)->setText(typedPassword);
+        QCOMPARE(whyNotSaved(window), reason);
+        QCOMPARE(save(window)->toolTip(), reason);
+        QCOMPARE(save(window)->accessibleDescription(), reason);
+        QCOMPARE(save(window)->isEnabled(), reason.isEmpty());
+        QVERIFY(!saveWithoutPassword(window)->isVisible());
+    });
+}
+
+void tst_AddingAnAccount::wrongLoginIsRefusedWithTheReason()
+{
+    QString said;
+    const KirvWindowWatcher<QMessageBox> boxes([&](QMessageBox *box) {
+        QCoreApplication::processEvents();
+        said = box->text();
+        box->close();
+    });
+    open([](KirvLayoutDialog *window) {
+        login(window)->setText("anna");
+        password(window)->setText("secret");
+        QVERIFY(save(window)->isEnabled()); // intended: Save has its own rule
+        save(window)->click();
+        QVERIFY(window->isVisible());
+        QCOMPARE(hint(window), QString("The domain is missing."));
+        QCOMPARE(login(window)->text(), QString("anna"));
+        QCOMPARE(password(window)->text(), QString("secret"));
+    });
+    QCOMPARE(said, QString("The domain is missing."));
+    QVERIFY(!windows->account("anna"));
+}
+
+void tst_AddingAnAccount::accountWithoutPasswordHasAButtonOfItsOwn()
+{
+    windows->protocol->worksWithoutPassword = [](const QList<KirvField> &) { return true; };
+    open([](KirvLayoutDialog *window) {
+        QVERIFY(!saveWithoutPassword(window)->isVisible());
+        login(window)->setText("anna@fake");
+        QVERIFY(saveWithoutPassword(window)->isVisible());
+        QVERIFY(!save(window)->isEnabled()); // intended: Save has its own rule
+        QCOMPARE(whyNotSaved(window), QString("The account can be used without a password."));
+        password(window)->setText("secret");
+        QVERIFY(!saveWithoutPassword(window)->isVisible());
+        password(window)->clear();
+        saveWithoutPassword(window)->click();
+    });
+    QVERIFY(windows->account("anna@fake"));
+    QCOMPARE(windows->account("anna@fake")->record().password, QString());
+    QVERIFY(windows->row("anna@fake"));
+}
+
+void tst_AddingAnAccount::settingDecidesWhetherAPasswordIsNeeded()
+{
+    windows->protocol->settings = { KirvField::checkBox("Guest", "guest", false, "") };
+    windows->protocol->configurations = QStringList("Guest");
+    windows->protocol->configurationFields = { KirvField::checkBox("Guest", "guest", true, ""),
+                                               KirvField::textEdit("login", "login", "anna@fake", "") };
+    windows->protocol->worksWithoutPassword = [](const QList<KirvField> &fields) { return fields.first().isChecked(); };
+    open([](KirvLayoutDialog *window) {
+        login(window)->setText("anna@fake");
+        QVERIFY(!saveWithoutPassword(window)->isVisible());
+        advanced(window)->click();
+        auto *guest = child<QAbstractButton>(window, "KirvField_guest");
+        guest->setFocus();
+        QTest::keyClick(guest, Qt::Key_Space);
+        QVERIFY(saveWithoutPassword(window)->isVisible());
+        QTest::keyClick(guest, Qt::Key_Space);
+        QVERIFY(!saveWithoutPassword(window)->isVisible());
+        // A ready-made configuration brings another form.
+        child<QComboBox>(window, "AddAccount_Configuration")->setCurrentText("Guest");
+        QVERIFY(saveWithoutPassword(window)->isVisible());
+    });
+}
+
+void tst_AddingAnAccount::keyboardAloneAddsAnAccount()
+{
+    open([](KirvLayoutDialog *window) {
+        const auto type = [window](const char *text) { QTest::keyClicks(window->focusWidget(), text); };
+        type("anna@fake");
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(window->focusWidget(), password(window));
+        type("secret");
+        QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+    });
+    QVERIFY(windows->account("anna@fake"));
+    QCOMPARE(windows->account("anna@fake")->record().password, QString("secret"));
+}
+
+void tst_AddingAnAccount::nothingIsCutOffInASmallWindow()
+{
+    open([](KirvLayoutDialog *window) {
+        advanced(window)->click();
+        window->resize(window->minimumSizeHint());
+        QVERIFY2(window->width() <= 480 && window->height() <= 360,
+                 qPrintable(QString("%1x%2").arg(window->width()).arg(window->height())));
+        const QRect inside = window->rect();
+        for (const char *name : { "AddAccount_ButtonFrame", "AddAccount_SaveHint", "AddAccount_FormArea" }) {
+            const auto *widget = child<QWidget>(window, name);
+            QVERIFY2(inside.contains(QRect(widget->mapTo(window, QPoint()), widget->size())), name);
+        }
+    });
+}
+
+void tst_AddingAnAccount::linkIsTakenForItsLogin_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::newRow("any text can be a login") << ".*";
+    QTest::newRow("a link cannot be a login") << "[a-z@.]+";
+}
+
+void tst_AddingAnAccount::linkIsTakenForItsLogin()
+{
+    QFETCH(QString, pattern);
+    windows.reset();
+    windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
+    windows->protocol->loginPattern = pattern;
+    open([](KirvLayoutDialog *window) {
+        QGuiApplication::clipboard()->setText("xmpp:anna@example.org");
+        login(window)->paste();
+        QTRY_COMPARE(login(window)->text(), QString("anna@example.org"));
+        QCOMPARE(hint(window), QString());
+        login(window)->clear();
+        QTest::keySequence(login(window), QKeySequence::Paste);
+        QTRY_COMPARE(login(window)->text(), QString("anna@example.org"));
+    });
+}
+
+/// Drops \a text on the page as a drag from elsewhere does. Whether the page took it.
+static bool dropOnPage(QWidget *page, const QString &text, bool isUrl)
+{
+    QMimeData data;
+    if (isUrl)
+        data.setUrls({ QUrl(text) });
+    else
+        data.setText(text);
+    QWidget *top = KirvClientWindows::child<QWidget>(page, "Accounts");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(top, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(top, &drop);
+    return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+}
+
+void tst_AddingAnAccount::linkOnThePageOpensTheWindow_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const char *how : { "pasted", "dropped address", "dropped text" })
+        QTest::newRow(how) << how;
+}
+
+void tst_AddingAnAccount::linkOnThePageOpensTheWindow()
+{
+    QFETCH(QString, how);
+    windows.reset();
+    windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
+    QString filledIn;
+    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
+        filledIn = login(window)->text();
+        window->reject();
+    });
+    QWidget *page = windows->client->accountsPage();
+    const QString link = QStringLiteral("xmpp:anna@example.org");
+    if (how == QLatin1String("pasted")) {
+        QGuiApplication::clipboard()->setText(link);
+        page->window()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(page->window()));
+        child<QToolButton>(page, "Accounts_AddButton")->setFocus();
+        QTest::keySequence(page->window()->focusWidget(), QKeySequence::Paste);
+    } else {
+        QVERIFY(dropOnPage(page, link, how == QLatin1String("dropped address")));
+    }
+    QTRY_COMPARE(filledIn, QString("anna@example.org"));
+}
+
+void tst_AddingAnAccount::otherTextOnThePageOpensNothing()
+{
+    windows.reset();
+    windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
+    QWidget *page = windows->client->accountsPage();
+    for (const char *text : { "anna@example.org", "https://example.org", "", "xmpp" }) {
+        QVERIFY(!dropOnPage(page, QString::fromLatin1(text), false));
+        QVERIFY(!dropOnPage(page, QString::fromLatin1(text), true));
+    }
+    QVERIFY(!dropOnPage(page, "xmpp:anna@" + QString(5000, QLatin1Char('a')), false));
+}
+
+QTEST_MAIN(tst_AddingAnAccount)
+#include "tst_adding_an_account.moc"
