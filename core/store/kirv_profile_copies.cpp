@@ -89,9 +89,14 @@ QString KirvProfileCopies::unfinished() const
     return QDir(paths.copies()).filePath(QStringLiteral("unfinished.sqlite"));
 }
 
+bool KirvProfileCopies::isName(const QString &name)
+{
+    return dateOf(name).isValid();
+}
+
 bool KirvProfileCopies::has(const QString &name) const
 {
-    return dateOf(name).isValid() && isCopy(QDir(paths.copies()).filePath(name));
+    return isName(name) && isCopy(QDir(paths.copies()).filePath(name));
 }
 
 bool KirvProfileCopies::prepareFolder() const

@@ -36,6 +36,8 @@ public:
     QString make();
     /// Those that are there and whole, the newest first.
     QList<KirvProfileCopy> list() const;
+    /// Whether it has the form of the names that make() gives.
+    static bool isName(const QString &name);
     /// Whether the copy of that name is there.
     bool has(const QString &name) const;
     QString lastError() const { return error; }
