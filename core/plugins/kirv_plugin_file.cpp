@@ -87,6 +87,13 @@ void KirvPluginFile::examine(KirvProtocolBase *protocol)
         name = protocol->getName();
         description = protocol->getDescription();
         offersPresences = !protocol->presences().isEmpty();
+        // The page, its windows and the accounts read these: an exception is known before.
+        protocol->getIconPath(0);
+        protocol->getConfigurations();
+        protocol->getLoginPattern();
+        protocol->accountSettings();
+        protocol->directoryFields();
+        protocol->accountActions();
     };
     if (!kirvCallPlugin(readWhatItStates, &failure))
         return;
