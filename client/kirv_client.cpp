@@ -151,6 +151,7 @@ void KirvClient::createWindow()
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
     profileSaver = new KirvProfileSaver(*store, *settingsWindow->messageBar());
+    connect(profileSaver, &KirvProfileSaver::continuationRequested, this, &KirvClient::continuationRequested);
     showProblem(store->copyError());
 
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
