@@ -128,7 +128,8 @@ QString KirvProfileCheck::linkInside() const
 /// Reading a pipe or a device would wait for ever.
 QString KirvProfileCheck::specialFileInside() const
 {
-    const QStringList names { paths.log(), paths.logIndex(), paths.journal(), paths.unfinished(), paths.lock() };
+    const QStringList names { paths.database(), paths.log(),        paths.logIndex(),
+                              paths.journal(),  paths.unfinished(), paths.lock() };
     const auto special = std::find_if(names.begin(), names.end(), [](const QString &name) {
         const mode_t kind = kindOf(name);
         return kind != 0 && kind != S_IFREG;

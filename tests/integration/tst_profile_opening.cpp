@@ -269,7 +269,7 @@ void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isPipe");
-    for (const char *name : { "profile.sqlite-wal", "profile.sqlite-shm", "profile.sqlite-journal",
+    for (const char *name : { "profile.sqlite", "profile.sqlite-wal", "profile.sqlite-shm", "profile.sqlite-journal",
                               "profile.sqlite.unfinished", "profile.lock" }) {
         QTest::addRow("pipe %s", name) << name << true;
         QTest::addRow("folder %s", name) << name << false;
