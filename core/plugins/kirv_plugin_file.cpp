@@ -10,6 +10,12 @@
 #include <QJsonObject>
 #include <QPluginLoader>
 
+namespace {
+
+const int longestName = 100; ///< in characters; it stands in menus, lists and windows
+
+} // namespace
+
 KirvPluginFile::KirvPluginFile(const QString &path)
     : path(path)
 {
@@ -100,6 +106,8 @@ void KirvPluginFile::examine(KirvProtocolBase *protocol)
     // A reason that came along with a protocol keeps it out.
     if (name.isEmpty())
         failure = tr("The protocol has no name.");
+    else if (name.size() > longestName)
+        failure = tr("The name of the protocol has more than %1 characters.").arg(longestName);
     else if (!offersPresences)
         failure = tr("The protocol \"%1\" offers no presence.").arg(name);
 }
