@@ -3,6 +3,7 @@
 
 #include "client/kirv_descriptor_limit.h"
 #include "client/kirv_translations.h"
+#include "core/protocol/kirv_plugin_call.h"
 
 #include <QIcon>
 #include <QMessageBox>
@@ -42,6 +43,18 @@ bool KirvApplication::expectsDisplay(const QStringList &arguments)
             return true;
     }
     return arguments.contains(QStringLiteral("-platform")) || arguments.contains(QStringLiteral("--platform"));
+}
+
+bool KirvApplication::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (...) {
+        QString problem;
+        kirvCallPlugin([] { throw; }, &problem);
+        Q_EMIT exceptionCaught(problem);
+        return true;
+    }
 }
 
 void KirvApplication::reportFatal(const QString &text)

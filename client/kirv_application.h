@@ -18,9 +18,17 @@ public:
     /// Whether a program that is started with \a arguments can be expected to find a display. Needs no application.
     static bool expectsDisplay(const QStringList &arguments);
 
+    /// Lets no exception out of an event: one that a plug-in throws while it handles a timer, or what a server has
+    /// sent, would end the program.
+    bool notify(QObject *receiver, QEvent *event) override;
+
     /// Shows why the program cannot start: on the terminal and, where a user can close it, in a
     /// message box.
     static void reportFatal(const QString &text);
+
+Q_SIGNALS:
+    /// An exception was caught; \a text is a sentence for the user.
+    void exceptionCaught(const QString &text);
 };
 
 #endif

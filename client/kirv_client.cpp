@@ -3,6 +3,7 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_accounts_page_companion.h"
+#include "client/kirv_application.h"
 #include "client/kirv_connection_view.h"
 #include "client/kirv_first_paint.h"
 #include "client/kirv_message_bar.h"
@@ -151,6 +152,7 @@ void KirvClient::createWindow()
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
     profileSaver = new KirvProfileSaver(*store, *settingsWindow->messageBar());
+    connect(profileSaver, &KirvProfileSaver::continuationRequested, this, &KirvClient::continuationRequested);
     showProblem(store->copyError());
 
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
@@ -173,6 +175,8 @@ void KirvClient::connectServices()
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
     // Queued, as the window runs an event loop of its own.
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
+    if (const auto *application = qobject_cast<KirvApplication *>(QCoreApplication::instance()))
+        connect(application, &KirvApplication::exceptionCaught, this, &KirvClient::showProblem);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
             &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused

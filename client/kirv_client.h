@@ -59,6 +59,10 @@ public:
     KirvConnectionView *connectionView() const;
     KirvPluginsPage *pluginsPage() const;
 
+Q_SIGNALS:
+    /// The profile was saved to \a folder, and the user wants to go on with that: the program is to be started anew.
+    void continuationRequested(const QString &folder);
+
 private Q_SLOTS:
     void mainAccountChanged();
 

@@ -5,6 +5,7 @@
 #include "client/kirv_client.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_rescue_window.h"
+#include "client/kirv_settings_window.h"
 
 bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status)
 {
@@ -25,4 +26,25 @@ bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool 
         }
     }
     return true;
+}
+
+int kirvRunClient(const KirvClientOptions &options, bool hasDisplay)
+{
+    KirvClientOptions current = options;
+    int status = 0;
+    for (bool goesOn = true; goesOn;) {
+        goesOn = false;
+        KirvClient client(current);
+        QObject::connect(&client, &KirvClient::continuationRequested, [&](const QString &folder) {
+            current.profileFolder = folder;
+            current.link = KirvAccountLink();
+            goesOn = true;
+            KirvApplication::exit();
+        });
+        if (!kirvStartClient(client, current, hasDisplay, &status))
+            return status;
+        client.window()->show();
+        status = KirvApplication::exec();
+    }
+    return status;
 }

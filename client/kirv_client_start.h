@@ -10,4 +10,7 @@ struct KirvClientOptions;
 /// status of the program in \a status when it is not started; the reason was shown then.
 bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status);
 
+/// Runs the program with \a options, and anew when the user goes on with another profile. Gives its exit status.
+int kirvRunClient(const KirvClientOptions &options, bool hasDisplay);
+
 #endif

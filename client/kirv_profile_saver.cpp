@@ -53,11 +53,10 @@ void KirvProfileSaver::saveTo(const QString &folder)
     messages.removeMessage(shownReason);
     const QString path = QDir::toNativeSeparators(folder);
     const bool isSameFolder = QDir(folder) == QDir(store.folder());
-    messages.showMessage(isSameFolder
-                             ? tr("Everything that was stored is in \"%1\" again. Quit the program and start it again "
-                                  "to go on with it.")
-                                   .arg(path)
-                             : tr("Everything that was stored is in \"%1\" now. Quit the program and start it with the "
-                                  "option --profile \"%1\" to go on with it.")
-                                   .arg(path));
+    const QString text = isSameFolder
+        ? tr(
+            "Everything that was stored is in \"%1\" again. Continue to go on with it; the accounts log in again then.")
+        : tr("Everything that was stored is in \"%1\" now. Continue to go on with it; the accounts log in again then. "
+             "From the next start on, start the program with the option --profile \"%1\".");
+    messages.showMessage(text.arg(path), tr("&Continue"), [this, folder] { Q_EMIT continuationRequested(folder); });
 }

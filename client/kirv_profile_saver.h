@@ -22,6 +22,10 @@ public:
     /// \a reason says why a change was not stored.
     void showRefusal(const QString &reason);
 
+Q_SIGNALS:
+    /// The user wants to go on with the profile that was saved to \a folder.
+    void continuationRequested(const QString &folder);
+
 private:
     void chooseFolder();
     void saveTo(const QString &folder);

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_application.h"
-#include "client/kirv_client.h"
 #include "client/kirv_client_options.h"
 #include "client/kirv_client_start.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_quit_signals.h"
-#include "client/kirv_settings_window.h"
 
 namespace {
 
@@ -43,10 +41,5 @@ int main(int argc, char *argv[])
     KirvQuitSignals quitSignals;
     // Also before the main event loop runs, while the window about a damaged profile is open.
     QObject::connect(&quitSignals, &KirvQuitSignals::quitRequested, &application, [] { KirvApplication::exit(); });
-
-    KirvClient client(options);
-    if (!kirvStartClient(client, options, KirvApplication::hasDisplay(), &status))
-        return status;
-    client.window()->show();
-    return KirvApplication::exec();
+    return kirvRunClient(options, KirvApplication::hasDisplay());
 }

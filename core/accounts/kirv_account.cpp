@@ -383,17 +383,20 @@ void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
     if (!dropConnection() || connection())
         return;
     loadedProtocol = protocol;
-    classify(current, protocol->accountSettings());
     mayLogIn = logIn;
     KirvConnection *created = nullptr;
+    const auto readProtocol = [&] {
+        classify(current, protocol->accountSettings());
+        entry.setBlankFields(protocol->directoryFields());
+        created = protocol->createConnection();
+    };
     QString problem;
-    if (!kirvCallPlugin([&] { created = protocol->createConnection(); }, &problem))
+    if (!kirvCallPlugin(readProtocol, &problem))
         Q_EMIT noticeReceived(problem);
     if (!created)
         return;
     created->setParent(this);
     connectConnection(created);
-    entry.setBlankFields(protocol->directoryFields());
     entry.setConnection(created);
     reconciler.setConnection(created);
 }

@@ -10,6 +10,12 @@
 #include <QJsonObject>
 #include <QPluginLoader>
 
+namespace {
+
+const int longestName = 100; ///< in characters; it stands in menus, lists and windows
+
+} // namespace
+
 KirvPluginFile::KirvPluginFile(const QString &path)
     : path(path)
 {
@@ -87,12 +93,21 @@ void KirvPluginFile::examine(KirvProtocolBase *protocol)
         name = protocol->getName();
         description = protocol->getDescription();
         offersPresences = !protocol->presences().isEmpty();
+        // The page, its windows and the accounts read these: an exception is known before.
+        protocol->getIconPath(0);
+        protocol->getConfigurations();
+        protocol->getLoginPattern();
+        protocol->accountSettings();
+        protocol->directoryFields();
+        protocol->accountActions();
     };
     if (!kirvCallPlugin(readWhatItStates, &failure))
         return;
     // A reason that came along with a protocol keeps it out.
     if (name.isEmpty())
         failure = tr("The protocol has no name.");
+    else if (name.size() > longestName)
+        failure = tr("The name of the protocol has more than %1 characters.").arg(longestName);
     else if (!offersPresences)
         failure = tr("The protocol \"%1\" offers no presence.").arg(name);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/protocol/kirv_connection.h"
 
+#include "core/protocol/kirv_plugin_call.h"
+
 #include <QPointer>
 #include <algorithm>
 #include <utility>
@@ -38,6 +40,7 @@ public:
     bool accepts(State expected) const { return state == expected && !aborting; }
 
     bool callWith(bool &flag, const std::function<void()> &call);
+    void callProtocol(const std::function<void()> &call, const std::function<void(const KirvFailure &)> &onException);
     int startRequest(const std::function<void(int)> &start);
     void answer(const KirvDirectoryAnswer &answer);
 
@@ -133,7 +136,7 @@ void KirvConnection::Private::begin()
         return;
     inThisState(timing.loginTimeout, [this] { fail(KirvFailure::TimedOut); });
     applied = wanted;
-    connection->startLogin(wanted);
+    callProtocol([this] { connection->startLogin(wanted); }, [this](const KirvFailure &failure) { fail(failure); });
 }
 
 void KirvConnection::Private::startLogOut(bool comeBack)
@@ -142,11 +145,12 @@ void KirvConnection::Private::startLogOut(bool comeBack)
     backOff.reset();
     if (!enter(Disconnecting))
         return;
-    inThisState(timing.logoutTimeout, [this] {
+    const auto end = [this] {
         if (abort())
             finishLogOut();
-    });
-    connection->startLogout();
+    };
+    inThisState(timing.logoutTimeout, end);
+    callProtocol([this] { connection->startLogout(); }, [end](const KirvFailure &) { end(); });
 }
 
 void KirvConnection::Private::finishLogOut()
@@ -158,7 +162,7 @@ void KirvConnection::Private::finishLogOut()
 /// False when a slot has destroyed the connection.
 bool KirvConnection::Private::abort()
 {
-    return callWith(aborting, [this] { connection->abortConnection(); });
+    return callWith(aborting, [this] { callProtocol([this] { connection->abortConnection(); }, {}); });
 }
 
 /// Sets \a flag during \a call. False when a slot has destroyed the connection.
@@ -170,6 +174,17 @@ bool KirvConnection::Private::callWith(bool &flag, const std::function<void()> &
     if (alive)
         flag = before;
     return alive;
+}
+
+/// Runs code of the protocol; an exception that leaves it is handed to \a onException, if the connection is still
+/// there.
+void KirvConnection::Private::callProtocol(const std::function<void()> &call,
+                                           const std::function<void(const KirvFailure &)> &onException)
+{
+    const QPointer<KirvConnection> alive(connection);
+    QString problem;
+    if (!kirvCallPlugin(call, &problem) && alive && onException)
+        onException(KirvFailure(KirvFailure::Other, problem));
 }
 
 void KirvConnection::Private::fail(const KirvFailure &reported)
@@ -208,7 +223,10 @@ int KirvConnection::Private::startRequest(const std::function<void(int)> &start)
     if (state == Online) {
         clock.callLater(timing.requestTimeout, connection,
                         [this, request] { connection->failDirectoryRequest(request, KirvFailure::TimedOut); });
-        callWith(starting, [&] { start(request); });
+        callWith(starting, [&] {
+            callProtocol([&] { start(request); },
+                         [&](const KirvFailure &failure) { connection->failDirectoryRequest(request, failure); });
+        });
     } else {
         const KirvFailure failure(KirvFailure::RequestFailed, KirvConnection::tr("The account is not connected."));
         clock.callLater(0, connection,
@@ -322,7 +340,7 @@ void KirvConnection::changePresence(const KirvPresence &presence)
     if (d->state != Online)
         return;
     d->applied = presence;
-    applyPresence(presence);
+    d->callProtocol([&] { applyPresence(presence); }, [this](const KirvFailure &failure) { requestFailed(failure); });
 }
 
 void KirvConnection::logOut()
@@ -380,7 +398,7 @@ void KirvConnection::setAvatar(const KirvAvatar &avatar)
     const bool isNew = avatar.isChosen && (!d->avatar.isChosen || avatar.path != d->avatar.path);
     d->avatar = avatar;
     if (isNew && d->state == Online)
-        publishAvatar();
+        d->callProtocol([this] { publishAvatar(); }, [this](const KirvFailure &failure) { requestFailed(failure); });
 }
 
 int KirvConnection::fetchDirectory()

@@ -162,10 +162,21 @@ bool KirvAccountTable::writeValues(const QVariant &number, const KirvAccountReco
     Values settings, secrets;
     for (auto setting = account.settings.constBegin(); setting != account.settings.constEnd(); ++setting)
         (account.secretSettings.contains(setting.key()) ? secrets : settings).insert(setting.key(), setting.value());
+    if (!noteNewSecrets(number, secrets))
+        return false;
     if (!account.password.isEmpty())
         secrets.insert(QString(), account.password);
     return writeValues(settingTable, number, settings, &pending.hasOverwritten)
         && writeValues(secretTable, number, secrets, &pending.hasOverwrittenSecrets);
+}
+
+/// Finds out whether one of the \a secrets of account \a number has not been secret so far.
+bool KirvAccountTable::noteNewSecrets(const QVariant &number, const Values &secrets)
+{
+    const QString select = QStringLiteral("SELECT 1 FROM %1 WHERE account = ? AND field = ?").arg(settingTable);
+    for (auto secret = secrets.constBegin(); secret != secrets.constEnd(); ++secret)
+        pending.hasNewSecrets = pending.hasNewSecrets || database.valueOf(select, { number, secret.key() }).isValid();
+    return database.errorText().isEmpty();
 }
 
 /// Makes what \a table has of account \a number the \a values, touching only what differs.
@@ -226,6 +237,7 @@ bool KirvAccountTable::move(const QString &protocol, const QString &field, bool 
     const QVariantList values { field, protocol };
     pending.hasOverwritten = true;
     pending.hasOverwrittenSecrets = pending.hasOverwrittenSecrets || !toSecrets;
+    pending.hasNewSecrets = pending.hasNewSecrets || toSecrets;
     return database.execute(QStringLiteral("INSERT OR REPLACE INTO %1 SELECT account, field, value FROM %2 WHERE %3")
                                 .arg(tableFor(toSecrets), tableFor(!toSecrets), ofProtocol),
                             values)
@@ -234,12 +246,23 @@ bool KirvAccountTable::move(const QString &protocol, const QString &field, bool 
 
 /// Deleting single rows leaves traces: what moved when pages were balanced stays in their gaps. Deleting all rows of
 /// a table clears its pages as a whole.
+bool KirvAccountTable::rewrite(const QString &table)
+{
+    const QString columns = QStringLiteral("account, field, value");
+    return database.execute(QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS kept_value (%1)").arg(columns))
+        && database.execute(QStringLiteral("INSERT INTO kept_value SELECT %1 FROM %2").arg(columns, table))
+        && database.execute(QStringLiteral("DELETE FROM %1").arg(table))
+        && database.execute(
+            QStringLiteral("INSERT INTO %2 (%1) SELECT %1 FROM kept_value ORDER BY account, field").arg(columns, table))
+        && database.execute(QStringLiteral("DELETE FROM kept_value"));
+}
+
 bool KirvAccountTable::rewriteSecrets()
 {
-    return database.execute(QStringLiteral("CREATE TEMP TABLE IF NOT EXISTS kept_secret (account, field, value)"))
-        && database.execute(QStringLiteral("INSERT INTO kept_secret SELECT account, field, value FROM secret"))
-        && database.execute(QStringLiteral("DELETE FROM secret"))
-        && database.execute(QStringLiteral("INSERT INTO secret (account, field, value) SELECT account, field, value "
-                                           "FROM kept_secret ORDER BY account, field"))
-        && database.execute(QStringLiteral("DELETE FROM kept_secret"));
+    return rewrite(secretTable);
+}
+
+bool KirvAccountTable::rewriteSettings()
+{
+    return rewrite(settingTable);
 }

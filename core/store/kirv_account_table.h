@@ -23,6 +23,8 @@ public:
         QStringList obsoleteAvatars; ///< after the commit
         bool hasOverwritten = false; ///< after the commit, old values are still in the log
         bool hasOverwrittenSecrets = false; ///< before the commit, rewriteSecrets()
+        bool hasNewSecrets =
+            false; ///< settings have become secret: before the commit, rewriteSettings(); copies have them
     };
 
     /// \a database is not owned.
@@ -41,8 +43,9 @@ public:
     /// Moves a setting of all accounts of \a protocol into the other table.
     bool move(const QString &protocol, const QString &field, bool toSecrets);
 
-    /// Writes the table of the secrets anew, so that nothing is left between its rows.
+    /// Writes the table of the secrets, or of the other settings, anew, so that nothing is left between its rows.
     bool rewriteSecrets();
+    bool rewriteSettings();
 
     Effects &effects() { return pending; }
 
@@ -57,6 +60,8 @@ private:
     bool findRow(const KirvAccountKey &key, Row *row);
     bool findOddRow(const KirvAccountKey &key, Row *row);
     bool readValues(const QString &table, QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);
+    bool rewrite(const QString &table);
+    bool noteNewSecrets(const QVariant &number, const Values &secrets);
     bool writeColumns(const QVariant &number, const QVariantList &values);
     bool writeValues(const QVariant &number, const KirvAccountRecord &account);
     bool writeValues(const QString &table, const QVariant &number, const Values &values, bool *hasOverwritten);

@@ -13,20 +13,19 @@
 
 namespace {
 
-/// Whether it has the form of the names that import() makes; such a name stays inside the folder.
-bool isName(const QString &name)
-{
-    static const QRegularExpression form(
-        QRegularExpression::anchoredPattern(QStringLiteral("[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}\\.[a-z0-9+-]+")));
-    return form.match(name).hasMatch();
-}
-
 bool isLink(const QString &path)
 {
     struct stat status { };
     return ::lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
+}
+
+bool KirvAvatarFolder::isName(const QString &name)
+{
+    static const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QStringLiteral("[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}\\.[a-z0-9+-]+")));
+    return form.match(name).hasMatch();
 }
 
 QString KirvAvatarFolder::import(const QString &source, QString *error)

@@ -23,6 +23,8 @@ public:
 
     void setPath(const QString &path) { folder = path; }
     QString path() const { return folder; }
+    /// Whether it has the form of the names that import() makes; such a name stays inside the folder.
+    static bool isName(const QString &name);
     /// Copies the image at \a source; gives the name of the copy, which is on the disk then. Empty with a
     /// sentence in \a error when the image cannot be taken.
     QString import(const QString &source, QString *error);

@@ -2,8 +2,10 @@
 #include "core/store/kirv_profile_check.h"
 
 #include "core/store/kirv_account_columns.h"
+#include "core/store/kirv_avatar_folder.h"
 #include "core/store/kirv_database.h"
 #include "core/store/kirv_database_header.h"
+#include "core/store/kirv_profile_copies.h"
 #include "core/store/kirv_store_schema.h"
 
 #include <QFile>
@@ -21,6 +23,7 @@ mode_t kindOf(const QString &path)
 }
 
 const QLatin1String accountTable("account");
+const QDir::Filters allEntries = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
 /// Whether a row without a value in that column is readable: it has the default then.
 bool hasDefault(const QString &table, const QString &column)
@@ -125,7 +128,8 @@ QString KirvProfileCheck::linkInside() const
 /// Reading a pipe or a device would wait for ever.
 QString KirvProfileCheck::specialFileInside() const
 {
-    const QStringList names { paths.log(), paths.logIndex(), paths.journal(), paths.unfinished(), paths.lock() };
+    const QStringList names { paths.database(), paths.log(),        paths.logIndex(),
+                              paths.journal(),  paths.unfinished(), paths.lock() };
     const auto special = std::find_if(names.begin(), names.end(), [](const QString &name) {
         const mode_t kind = kindOf(name);
         return kind != 0 && kind != S_IFREG;
@@ -135,23 +139,39 @@ QString KirvProfileCheck::specialFileInside() const
 
 KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const
 {
-    QStringList content =
-        QDir(paths.folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    QStringList content = QDir(paths.folder).entryList(allEntries);
     for (const QString &own : { paths.lock(), paths.unfinished() })
         content.removeAll(QFileInfo(own).fileName());
     if (content.isEmpty())
         return { KirvProfileState::New, QString() };
-    const QString database = QFileInfo(paths.database()).fileName();
-    const bool wasProfile = std::any_of(content.begin(), content.end(), [&](const QString &name) {
-        return name.startsWith(database) || name == QFileInfo(paths.avatars()).fileName()
-            || name == QFileInfo(paths.copies()).fileName();
-    });
-    if (wasProfile)
+    if (hasTracesOfDatabase(content) || isFolderOfOurs(paths.avatars(), KirvAvatarFolder::isName)
+        || isFolderOfOurs(paths.copies(), KirvProfileCopies::isName))
         return damaged(tr("Its database is missing."));
     return { KirvProfileState::NotAProfile,
              tr("The folder \"%1\" is not a profile: it holds other files. Nothing in it was changed: choose an empty "
                 "folder.")
                  .arg(paths.nativeFolder()) };
+}
+
+/// Whether \a content has what stands beside a database of ours, or took its place.
+bool KirvProfileCheck::hasTracesOfDatabase(const QStringList &content) const
+{
+    const QString database = QFileInfo(paths.database()).fileName();
+    const QString kept = database + QLatin1String(".damaged-");
+    const QStringList beside { QFileInfo(paths.log()).fileName(), QFileInfo(paths.logIndex()).fileName(),
+                               QFileInfo(paths.journal()).fileName() };
+    return std::any_of(content.begin(), content.end(),
+                       [&](const QString &name) { return beside.contains(name) || name.startsWith(kept); });
+}
+
+/// Whether \a folder is one that this program makes. Others may have one of the same name: it is empty, or something in
+/// it is called as this program does; beside a lock of ours its name is enough.
+bool KirvProfileCheck::isFolderOfOurs(const QString &folder, bool (*isOurs)(const QString &)) const
+{
+    if (kindOf(folder) != S_IFDIR)
+        return false;
+    const QStringList names = QDir(folder).entryList(allEntries);
+    return names.isEmpty() || kindOf(paths.lock()) != 0 || std::any_of(names.begin(), names.end(), isOurs);
 }
 
 KirvProfileState KirvProfileCheck::lookAtDatabase() const

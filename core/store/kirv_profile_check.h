@@ -6,6 +6,7 @@
 #include "core/store/kirv_profile_state.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 class KirvDatabase;
 
@@ -40,6 +41,8 @@ private:
     KirvProfileState damaged(const QString &fault) const;
     KirvProfileState lookAtDatabase() const;
     KirvProfileState lookAtFolderWithoutDatabase() const;
+    bool hasTracesOfDatabase(const QStringList &content) const;
+    bool isFolderOfOurs(const QString &folder, bool (*isOurs)(const QString &)) const;
     KirvProfileState examineOpen(KirvDatabase &database) const;
     KirvProfileState anotherProgram() const;
     QString linkInside() const;

@@ -55,6 +55,16 @@ QStringList copyNamesIn(const QString &folder)
     return names;
 }
 
+/// Removes the copies of a folder but for the newest \a count. False when one stays.
+bool removeAllBut(const QString &folder, int count)
+{
+    bool areRemoved = true;
+    const QStringList names = copyNamesIn(folder);
+    for (const QString &name : names.mid(count))
+        areRemoved = QFile::remove(QDir(folder).filePath(name)) && areRemoved;
+    return areRemoved;
+}
+
 /// The columns of \a table in the database that is attached as \a schema.
 QStringList columnsOf(KirvDatabase &database, const QString &schema, const QString &table)
 {
@@ -89,9 +99,14 @@ QString KirvProfileCopies::unfinished() const
     return QDir(paths.copies()).filePath(QStringLiteral("unfinished.sqlite"));
 }
 
+bool KirvProfileCopies::isName(const QString &name)
+{
+    return dateOf(name).isValid();
+}
+
 bool KirvProfileCopies::has(const QString &name) const
 {
-    return dateOf(name).isValid() && isCopy(QDir(paths.copies()).filePath(name));
+    return isName(name) && isCopy(QDir(paths.copies()).filePath(name));
 }
 
 bool KirvProfileCopies::prepareFolder() const
@@ -166,15 +181,13 @@ QString KirvProfileCopies::finish()
     if (!kirvSyncFile(unfinished()) || !kirvReplaceFile(unfinished(), QDir(paths.copies()).filePath(name))
         || !kirvSyncFolder(paths.copies()))
         return QString();
-    removeOldest();
+    removeAllBut(paths.copies(), most);
     return name;
 }
 
-void KirvProfileCopies::removeOldest() const
+bool KirvProfileCopies::removeAll() const
 {
-    const QStringList names = copyNamesIn(paths.copies());
-    for (const QString &name : names.mid(most))
-        QFile::remove(QDir(paths.copies()).filePath(name));
+    return QFileInfo(paths.copies()).isSymLink() || removeAllBut(paths.copies(), 0);
 }
 
 QList<KirvProfileCopy> KirvProfileCopies::list() const

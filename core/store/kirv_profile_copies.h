@@ -34,8 +34,12 @@ public:
     /// Copies the database, which must have been found whole and may be open; gives the name of the copy, which is
     /// complete and was read back then. Empty when it could not be made; lastError() then says why.
     QString make();
+    /// Removes those that are there. False when one stays.
+    bool removeAll() const;
     /// Those that are there and whole, the newest first.
     QList<KirvProfileCopy> list() const;
+    /// Whether it has the form of the names that make() gives.
+    static bool isName(const QString &name);
     /// Whether the copy of that name is there.
     bool has(const QString &name) const;
     QString lastError() const { return error; }
@@ -46,7 +50,6 @@ private:
     bool fill(KirvDatabase &copy) const;
     bool isWhole(const QString &file) const;
     QString finish();
-    void removeOldest() const;
 
     const KirvProfilePaths paths;
     QString error;

@@ -44,6 +44,7 @@ public:
     template <typename Change>
     bool change(Change makeChange);
     bool prepareCommit();
+    bool forgetNewSecrets();
     void transactionEnded(bool committed);
     void emptyLog();
     bool hasCopy();
@@ -216,7 +217,24 @@ void KirvStore::Private::rollBack()
 bool KirvStore::Private::prepareCommit()
 {
     return failUnlessInPlace() && (!accounts.effects().hasOverwrittenSecrets || accounts.rewriteSecrets())
+        && (!accounts.effects().hasNewSecrets || forgetNewSecrets())
         && (!isCopied || database.execute(QStringLiteral("DELETE FROM profile_copy")));
+}
+
+/// Copies have what was no secret when they were made. They go before the commit, so that none is left with a secret in
+/// it; one is made after it.
+bool KirvStore::Private::forgetNewSecrets()
+{
+    isCopied = false;
+    if (accounts.rewriteSettings() && database.execute(QStringLiteral("DELETE FROM profile_copy"))
+        && KirvProfileCopies(paths).removeAll())
+        return true;
+    if (database.errorText().isEmpty())
+        database.fail(
+            tr("The copies of the profile in \"%1\" could not be removed. Check the permissions of the folder "
+               "\"copies\" in it.")
+                .arg(paths.nativeFolder()));
+    return false;
 }
 
 /// Runs \a makeChange in a transaction, or as a part of the one that is open.
@@ -239,17 +257,19 @@ void KirvStore::Private::transactionEnded(bool committed)
     const KirvAccountTable::Effects effects = accounts.effects();
     accounts.effects() = {};
     isCopied = isCopied && !committed;
-    if (effects.hasOverwritten || effects.hasOverwrittenSecrets) {
+    if (effects.hasOverwritten || effects.hasOverwrittenSecrets || effects.hasNewSecrets) {
         const QString error = database.errorText();
         emptyLog();
         database.clearError();
         if (!error.isEmpty())
             database.fail(error);
     }
-    if (committed) {
-        for (const QString &avatar : effects.obsoleteAvatars)
-            avatars.remove(avatar);
-    }
+    if (!committed)
+        return;
+    for (const QString &avatar : effects.obsoleteAvatars)
+        avatars.remove(avatar);
+    if (effects.hasNewSecrets)
+        keepCopy();
 }
 
 /// The log holds what was overwritten, also by a transaction that was undone. Where this fails, the next opening does

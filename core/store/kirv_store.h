@@ -19,8 +19,9 @@
 ///
 /// A secret, which is a password or a secret setting, stands in the database and its log only. After the change that
 /// overwrites or removes it, and after every open(), no byte of it is in the files. (A database that was damaged is
-/// kept aside as it was, see KirvProfileRescue.)
-/// No operation throws; false or an empty result with lastError() says that something failed.
+/// kept aside as it was, see KirvProfileRescue.) Where a setting becomes secret the same holds for its former values,
+/// and the copies, which have it, are replaced by a new one. No operation throws; false or an empty result with
+/// lastError() says that something failed.
 class KirvStore {
 public:
     KirvStore();

@@ -12,6 +12,8 @@
 #include <QUrl>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace {
 
 // The built-in layouts take some 20 kB, nest about 20 elements deep and have some 500 of them. The form builder
@@ -56,6 +58,17 @@ private:
             fetched += name;
     }
 };
+
+/// Whether \a text is a number, or some between commas, each between \a least and \a most.
+bool areNumbers(const QString &text, int least, int most)
+{
+    const QStringList numbers = text.split(QLatin1Char(','));
+    return std::all_of(numbers.begin(), numbers.end(), [=](const QString &each) {
+        bool isNumber = false;
+        const int number = each.toInt(&isNumber);
+        return isNumber && number >= least && number <= most;
+    });
+}
 
 QString attribute(const QXmlStreamReader &reader, const char *name)
 {
@@ -124,6 +137,8 @@ QString KirvLayoutCheck::faultOfContent(QXmlStreamReader &reader) const
             fault = faultOfStart(reader);
         } else if (reader.isCharacters() && !open.isEmpty()) {
             open.last().text += reader.text();
+            if (!reader.isWhitespace())
+                open.last().parts += reader.text();
         } else if (reader.isEndElement()) {
             fault = faultOfEnd(open);
             open.removeLast();
@@ -144,27 +159,30 @@ QString KirvLayoutCheck::faultOfStart(const QXmlStreamReader &reader)
         || (name == QLatin1String("layout")
             && !KirvLayoutVocabulary::has(KirvLayoutVocabulary::layoutClasses, className)))
         return unknownClass(className);
-    const QXmlStreamAttributes attributes = reader.attributes();
-    for (const QXmlStreamAttribute &each : attributes) {
-        if (each.value().size() > maximumAttribute)
-            return tr("It has an attribute that is too long.");
-    }
     // A theme's icon can also be a path.
     const QString theme = attribute(reader, "theme");
     if (theme.contains(QLatin1Char('/')) || theme.contains(QLatin1Char('\\')) || theme.startsWith(QLatin1Char('.')))
         return tr("\"%1\" is not the name of an icon.").arg(theme.left(200));
-    return faultOfPlace(reader);
+    return faultOfAttributes(reader);
 }
 
 /// A place in a grid makes all rows and columns before it.
-QString KirvLayoutCheck::faultOfPlace(const QXmlStreamReader &reader)
+QString KirvLayoutCheck::faultOfAttributes(const QXmlStreamReader &reader)
 {
-    for (const char *name : { "row", "column", "rowspan", "colspan" }) {
-        const QString value = attribute(reader, name);
-        bool isNumber = false;
-        const int place = value.toInt(&isNumber);
-        if (!value.isEmpty() && (!isNumber || place < 0 || place > maximumPlace))
+    const QXmlStreamAttributes attributes = reader.attributes();
+    for (const QXmlStreamAttribute &each : attributes) {
+        const QString name = each.qualifiedName().toString();
+        const QString value = each.value().toString();
+        if (!KirvLayoutVocabulary::has(KirvLayoutVocabulary::attributes, name))
+            return tr("It has an attribute \"%1\", which a layout cannot have.").arg(name.left(40));
+        if (value.size() > maximumAttribute)
+            return tr("It has an attribute that is too long.");
+        const bool isPlace = KirvLayoutVocabulary::has(KirvLayoutVocabulary::placeAttributes, name);
+        if (isPlace && !value.isEmpty() && !areNumbers(value, 0, maximumPlace))
             return tr("It has a row or column that is out of bounds: %1.").arg(value.left(20));
+        if (KirvLayoutVocabulary::has(KirvLayoutVocabulary::numberAttributes, name)
+            && !areNumbers(value, -1, maximumNumber))
+            return tr("It has a number that is out of bounds: %1 (%2).").arg(value.left(40), name);
     }
     return QString();
 }
@@ -172,6 +190,9 @@ QString KirvLayoutCheck::faultOfPlace(const QXmlStreamReader &reader)
 QString KirvLayoutCheck::faultOfEnd(const QList<Element> &open) const
 {
     const Element &element = open.last();
+    // The form builder drops parts that are only spaces; parts come from comments and the like between them.
+    if (!element.parts.isEmpty() && element.parts.trimmed() != element.text.trimmed())
+        return tr("It has a text that can be read in more than one way: \"%1\".").arg(element.text.left(200));
     const QString parent = open.size() > 1 ? open.at(open.size() - 2).name : QString();
     if (element.name == QLatin1String("class") && parent == QLatin1String("customwidget")
         && element.text != QLatin1String("KirvFormArea"))
@@ -247,15 +268,28 @@ QString KirvLayoutCheck::faultOfRichText(const QString &text) const
         return tr("It has a rich text that is too large.");
     const ClosedDocument document(text);
     for (const QString &name : document.fetched) {
-        QString path = name.startsWith(QLatin1String("file:")) ? QUrl(name).toLocalFile() : name;
-        if (path.startsWith(QLatin1String("qrc:/")))
-            path.remove(0, 3);
-        const QString fault = faultOfPicture(path);
+        const QString fault = faultOfAddress(name);
         if (!fault.isEmpty())
             return fault;
-        if (QDir::isRelativePath(path))
-            return tr("Style sheets and rich texts name pictures by their whole path, \"%1\" does not.").arg(path);
     }
+    return QString();
+}
+
+/// Qt reads what is no address as one all the same: behind some characters another file is named.
+QString KirvLayoutCheck::faultOfAddress(const QString &name) const
+{
+    const bool isAddress = name.startsWith(QLatin1String("file:"));
+    QString path = isAddress ? QUrl(name).toLocalFile() : name;
+    if (path.startsWith(QLatin1String("qrc:/")))
+        path.remove(0, 3);
+    const QString fault = faultOfPicture(path);
+    if (!fault.isEmpty())
+        return fault;
+    if (QDir::isRelativePath(path))
+        return tr("Style sheets and rich texts name pictures by their whole path, \"%1\" does not.").arg(path);
+    static const QRegularExpression signsOfAddresses(QStringLiteral("[%#?]"));
+    if (!isAddress && path.contains(signsOfAddresses))
+        return tr("It has a text that can be read in more than one way: \"%1\".").arg(path.left(200));
     return QString();
 }
 

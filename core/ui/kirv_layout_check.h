@@ -27,17 +27,19 @@ private:
         QString name;
         QString property; ///< the name of the property that it is or belongs to
         QString text;
+        QString parts; ///< the text without those of its parts that are only spaces
     };
 
     static QString faultOfStructure(QXmlStreamReader &reader);
     QString faultOfContent(QXmlStreamReader &reader) const;
     static QString faultOfStart(const QXmlStreamReader &reader);
-    static QString faultOfPlace(const QXmlStreamReader &reader);
+    static QString faultOfAttributes(const QXmlStreamReader &reader);
     QString faultOfEnd(const QList<Element> &open) const;
     static QString faultOfNumber(const Element &element);
     QString faultOfText(const Element &element) const;
     QString faultOfStyleSheet(const QString &text) const;
     QString faultOfRichText(const QString &text) const;
+    QString faultOfAddress(const QString &name) const;
     QString faultOfPicture(const QString &path) const;
     QString faultOfPictureFile(const QString &path) const;
     static QString unknownClass(const QString &className);

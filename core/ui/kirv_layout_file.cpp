@@ -110,8 +110,10 @@ void protectInput(QWidget *top)
         edit->setInputMask(QString());
         edit->setMaxLength(MaximumLength);
         if (edit->objectName().endsWith(QLatin1String("_Password"))
-            || edit->objectName().endsWith(QLatin1String("_PasswordEdit")))
+            || edit->objectName().endsWith(QLatin1String("_PasswordEdit"))) {
+            edit->setEchoMode(QLineEdit::Normal); // only a change sets the hints for input methods
             edit->setEchoMode(QLineEdit::Password);
+        }
     }
 }
 

@@ -27,6 +27,16 @@ const char *const words[] = {
      "hintingpreference fontweight palette active inactive disabled colorrole colorgroup brush texture "
      "gradient gradientstop sizepolicy hsizetype vsizetype horstretch verstretch iconset normaloff "
      "normalon disabledoff disabledon activeoff activeon selectedoff selectedon pixmap locale"),
+    // attributes
+    ("version language displayname stdsetdef stdSetDef connectslotsbyname class name native stretch rowstretch "
+     "columnstretch rowminimumheight columnminimumwidth row column rowspan colspan alignment spacing margin stdset "
+     "notr comment extracomment theme resource alias location impldecl hsizetype vsizetype alpha role brushstyle "
+     "startx starty endx endy centralx centraly focalx focaly radius angle type spread coordinatemode position "
+     "country"),
+    // placeAttributes
+    "row column rowspan colspan",
+    // numberAttributes
+    "stretch rowstretch columnstretch rowminimumheight columnminimumwidth spacing margin",
     // pictureElements
     "iconset normaloff normalon disabledoff disabledon activeoff activeon selectedoff selectedon pixmap",
     // numberElements
@@ -53,8 +63,9 @@ QSet<QString> wordsOf(KirvLayoutVocabulary::List list)
 
 bool KirvLayoutVocabulary::has(List list, const QString &word)
 {
-    static const QSet<QString> sets[] = { wordsOf(widgets),         wordsOf(layoutClasses),  wordsOf(elements),
-                                          wordsOf(pictureElements), wordsOf(numberElements), wordsOf(textProperties),
+    static const QSet<QString> sets[] = { wordsOf(widgets),         wordsOf(layoutClasses),   wordsOf(elements),
+                                          wordsOf(attributes),      wordsOf(placeAttributes), wordsOf(numberAttributes),
+                                          wordsOf(pictureElements), wordsOf(numberElements),  wordsOf(textProperties),
                                           wordsOf(rangeProperties), wordsOf(countProperties) };
     return sets[list].contains(word);
 }

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void theLoadButtonTriesItAgain();
     void aConnectionThatCrashesLeavesItOut();
     void anExceptionForAConnectionLeavesTheAccountOut();
+    void anExceptionOfAConnectionEndsNothing_data();
+    void anExceptionOfAConnectionEndsNothing();
     void theTestHasTenSeconds();
     void everythingHappensAfterTheFirstPaint();
     void aTestThatRunsEndsWithTheProgram();
@@ -137,7 +139,7 @@ void tst_BadPlugins::theProgramStartsWithoutIt()
 void tst_BadPlugins::anExceptionIsItsError_data()
 {
     QTest::addColumn<QString>("error");
-    for (const char *place : { "constructor", "protocol", "name" }) {
+    for (const char *place : { "constructor", "protocol", "name", "icon", "settings", "directory" }) {
         QTest::newRow(qPrintable(QStringLiteral("exception in ") + place)) << "The plug-in failed: no moon tonight";
         QTest::newRow(qPrintable(QStringLiteral("odd exception in ") + place))
             << "The plug-in failed: an exception of an unknown kind";
@@ -243,6 +245,26 @@ void tst_BadPlugins::anExceptionForAConnectionLeavesTheAccountOut()
     const Start next = start(QStringLiteral("exception in connection"));
     QVERIFY(!next.crashed && next.exitCode == 0);
     QCOMPARE(next.of("messages"), QStringList { QStringLiteral("messages|anna: The plug-in failed: no moon tonight") });
+}
+
+void tst_BadPlugins::anExceptionOfAConnectionEndsNothing_data()
+{
+    QTest::addColumn<bool>("isSaid");
+    for (const char *place : { "log-in", "end", "event" }) {
+        QTest::newRow(qPrintable(QStringLiteral("exception in ") + place)) << (place == QLatin1String("event"));
+        QTest::newRow(qPrintable(QStringLiteral("odd exception in ") + place)) << false;
+    }
+}
+
+void tst_BadPlugins::anExceptionOfAConnectionEndsNothing()
+{
+    QFETCH(bool, isSaid);
+    start(QString(), { QStringLiteral("account"), QStringLiteral("Misbehaving") });
+    const Start next = start(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(!next.crashed && next.exitCode == 0);
+    QCOMPARE(next.state(QStringLiteral("Misbehaving")), QStringLiteral("Loaded|"));
+    if (isSaid)
+        QCOMPARE(next.of("messages"), QStringList { QStringLiteral("messages|The plug-in failed: no moon tonight") });
 }
 
 void tst_BadPlugins::theTestHasTenSeconds()

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QtTest>
 
+#include <stdexcept>
+
 namespace {
 
 using State = KirvConnection::State;
@@ -57,6 +59,7 @@ private Q_SLOTS:
     void ignoresLateReports();
     void ignoresReportsOfItsOwnAbort();
     void takesSynchronousAnswers();
+    void noExceptionOfTheProtocolLeavesIt();
     void survivesItsDestructionInASlot_data();
     void survivesItsDestructionInASlot();
     void survivesItsDestructionWhenAFailureIsEmitted();
@@ -567,6 +570,33 @@ void tst_Connection::takesSynchronousAnswers()
     QCOMPARE(takeStates(),
              (QList<State> { State::Connecting, State::Online, State::Disconnecting, State::Offline, State::Connecting,
                              State::Online, State::Disconnecting, State::Offline }));
+}
+
+void tst_Connection::noExceptionOfTheProtocolLeavesIt()
+{
+    const auto throwing = [] { throw std::runtime_error("no moon tonight"); };
+    connection->onLogIn = connection->onLogOut = connection->onAbort = connection->onAvatar = throwing;
+    connection->onDirectory = [throwing](int) { throwing(); };
+    connection->logIn(login, available);
+    QCOMPARE(connection->state(), connection->lastFailure().isWorthRetrying() ? State::Waiting : State::Offline);
+    QVERIFY(failures.value(0).text().contains(QLatin1String("no moon tonight")));
+    connection->onLogIn = nullptr;
+    connection->logIn(login, available);
+    connection->loginSucceeded();
+    failures.clear();
+    connection->setAvatar({ QStringLiteral("/picture.png"), QByteArray(), true });
+    QCOMPARE(int(failures.size()), 1);
+    QStringList reasons;
+    connect(connection, &KirvConnection::directoryAnswered, this,
+            [&](const KirvDirectoryAnswer &answer) { reasons << answer.failure.text(); });
+    connection->fetchDirectory();
+    connection->publishDirectory({});
+    connection->deleteDirectory();
+    clock.advance(0);
+    QCOMPARE(int(reasons.filter(QStringLiteral("no moon tonight")).size()), 3);
+    QVERIFY(connection->isLoggedIn());
+    connection->logOut();
+    QCOMPARE(connection->state(), State::Offline);
 }
 
 void tst_Connection::survivesItsDestructionInASlot_data()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_layout_catalog.h"
+#include "core/ui/kirv_layout_check.h"
 
 #include <QDialog>
 #include <QDir>
@@ -39,12 +40,15 @@ private Q_SLOTS:
     void designerPluginsStayOut();
     void passwordsStayMasked_data();
     void passwordsStayMasked();
+    void passwordsAreKeptFromInputMethods();
     void inputIsNotCut();
     void harmfulLayoutIsRefused_data();
     void harmfulLayoutIsRefused();
     void pictureThatIsNoFileIsRefused_data();
     void pictureThatIsNoFileIsRefused();
     void pictureForFineScreensIsLookedAt();
+    void pictureThatIsReadInTwoWaysIsRefused_data();
+    void pictureThatIsReadInTwoWaysIsRefused();
     void picturesOfTheOwnFolderAreShown_data();
     void picturesOfTheOwnFolderAreShown();
     void whatDesignerWritesIsAccepted();
@@ -149,6 +153,19 @@ void tst_LayoutSafety::passwordsStayMasked()
     QCOMPARE(top->findChild<QLineEdit *>(edit)->echoMode(), QLineEdit::Password);
 }
 
+void tst_LayoutSafety::passwordsAreKeptFromInputMethods()
+{
+    QByteArray xml = builtIn("EditAccount");
+    const int start = int(xml.indexOf("name=\"EditAccount_Password\">"));
+    const int end = int(xml.indexOf("</widget>", start));
+    QVERIFY(start > 0 && end > start);
+    xml.insert(end, "<property name=\"inputMethodHints\"><set>Qt::ImhNone</set></property>");
+    const std::unique_ptr<QWidget> top = build("EditAccount", xml);
+    QCOMPARE(reasons, QStringList());
+    const Qt::InputMethodHints wanted = Qt::ImhHiddenText | Qt::ImhNoPredictiveText | Qt::ImhSensitiveData;
+    QCOMPARE(top->findChild<QLineEdit *>("EditAccount_Password")->inputMethodHints() & wanted, wanted);
+}
+
 void tst_LayoutSafety::inputIsNotCut()
 {
     QByteArray xml = builtIn("AddAccount");
@@ -203,9 +220,19 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
     add("style sheet: network", text("styleSheet", "* { image: url(http://localhost/x.png); }"), "no picture");
     add("style sheet: open end", text("styleSheet", "* { image: url(/dev/zero"), "not in the folder");
     add("style sheet: escape", text("styleSheet", "* { image: u\\72l(/dev/zero); }"), "style sheet contains");
-    add("style sheet: property", text("styleSheet", "QLineEdit { qproperty-echoMode: 0; }"), "qproperty-");
+    add("style sheet: property", text("styleSheet", "QLineEdit { qproperty-echoMode: 'Normal'; }"), "qproperty-");
     add("style sheet: mask", text("styleSheet", "QLineEdit { lineedit-password-mask-delay: 99999 }"),
         "lineedit-password");
+    add("style sheet: property in parts",
+        label("<property name=\"styleSheet\"><string>QLineEdit { qproperty<!-- --> <!-- -->-echoMode: 'Normal'; "
+              "}</string>"
+              "</property>"),
+        "more than one way");
+    add("style sheet: in place of a translation",
+        label("<property name=\"styleSheet\"><string id=\"QLineEdit { qproperty-echoMode: 'Normal'; "
+              "}\">x</string></property>")
+            .replace("<ui ", "<ui idbasedtr=\"true\" "),
+        "attribute \"id");
     add("style sheet: file", text("styleSheet", "file:///dev/zero"), "contains \"file:\"");
     add("rich text: device", text("text", "<img src=\"/dev/zero\">"), "not in the folder");
     add("rich text: entity", text("text", "<img src=\"&#47;dev/zero\">"), "icture \"");
@@ -216,6 +243,10 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
     add("rich text: style sheet", text("text", "<link rel=stylesheet type=text/css href=/dev/zero>x"),
         "not in the folder");
     add("rich text: nested tables", text("text", QByteArray("<table><tr><td>").repeated(1000)), "too large");
+    add("rich text: in place of a translation",
+        label("<property name=\"text\"><string id=\"&lt;img src='/dev/zero'&gt;\">x</string></property>")
+            .replace("<ui ", "<ui idbasedtr=\"true\" "),
+        "attribute \"id");
     add("markdown",
         label("<property name=\"textFormat\"><enum>Qt::MarkdownText</enum></property>"
               "<property name=\"text\"><string>![x](/dev/zero)</string></property>"),
@@ -237,6 +268,15 @@ void tst_LayoutSafety::harmfulLayoutIsRefused_data()
              "<widget class=\"QWidget\" name=\"g\"><layout class=\"QGridLayout\"><item row=\"2000000000\" column=\"0\">"
              "<widget class=\"QLabel\" name=\"l\"/></item></layout></widget>"),
         "row or column");
+    add("width of a column",
+        with("AddAccount",
+             "<widget class=\"QWidget\" name=\"g\"><layout class=\"QGridLayout\" columnminimumwidth=\"0,2000000000\">"
+             "<item row=\"0\" column=\"1\"><widget class=\"QLabel\" name=\"l\"/></item></layout></widget>"),
+        "out of bounds");
+    add("default space",
+        builtIn("AddAccount")
+            .replace("<customwidgets>", "<layoutdefault spacing=\"2000000000\" margin=\"9\"/><customwidgets>"),
+        "out of bounds");
     add("icon size",
         with("AddAccount",
              "<widget class=\"QToolButton\" name=\"b\"><property name=\"iconSize\"><size><width>100000</width>"
@@ -308,6 +348,41 @@ void tst_LayoutSafety::pictureForFineScreensIsLookedAt()
                        "<widget class=\"QLabel\" name=\"l\"><property name=\"pixmap\">"
                        "<pixmap>own.png</pixmap></property></widget>")));
     QVERIFY2(reasons.value(0).contains(QLatin1String("cannot be read")), qPrintable(reasons.value(0)));
+}
+
+void tst_LayoutSafety::pictureThatIsReadInTwoWaysIsRefused_data()
+{
+    QTest::addColumn<QString>("seen");
+    QTest::addColumn<QByteArray>("property");
+    const QByteArray image = "<property name=\"text\"><string>&lt;img src=\"FOLDER/%1\"&gt;</string></property>";
+    const auto add = [](const char *row, const char *seen, QByteArray property, const char *name) {
+        QTest::newRow(row) << QString::fromLatin1(seen) << property.replace("%1", name);
+    };
+    add("rich text: part of an address", "pipe.png#.png", image, "pipe.png#.png");
+    add("rich text: question to an address", "pipe.png?.png", image, "pipe.png?.png");
+    add("rich text: characters as numbers", "p%69pe.png", image, "p%69pe.png");
+    add("rich text: in parts", "pi pe.png", image, "pi<!-- --> <!-- -->pe.png");
+    add("style sheet: in parts", "pi pe.png",
+        "<property name=\"styleSheet\"><string>QLabel { image: url(FOLDER/%1); }</string></property>",
+        "pi<?x?> <?x?>pe.png");
+    add("pixmap: in parts", "pi\npe.png", "<property name=\"pixmap\"><pixmap>%1</pixmap></property>",
+        "pi<!-- -->\n<!-- -->pe.png");
+}
+
+/// What the check takes for a picture is one, what Qt would read is a pipe.
+void tst_LayoutSafety::pictureThatIsReadInTwoWaysIsRefused()
+{
+    QFETCH(QString, seen);
+    QFETCH(QByteArray, property);
+    QCOMPARE(::mkfifo(qPrintable(path("pipe.png")), 0600), 0);
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path(seen)));
+    property.replace("FOLDER", folder->path().toLocal8Bit());
+    const QByteArray xml = with("AddAccount", "<widget class=\"QLabel\" name=\"l\">" + property + "</widget>");
+    QVERIFY2(!KirvLayoutCheck(folder->path()).findFault(xml).isEmpty(), "It would be read.");
+    QVERIFY(build("AddAccount", xml));
+    QCOMPARE(int(reasons.size()), 1);
 }
 
 void tst_LayoutSafety::picturesOfTheOwnFolderAreShown_data()

@@ -39,6 +39,7 @@ private Q_SLOTS:
 
     void saysWhyAFileCannotBeUsed_data();
     void saysWhyAFileCannotBeUsed();
+    void aNameWithoutBoundsIsRefused();
     void loadsTheGoodPlugin();
     void looksAtEveryFileOfAFolderInOrder();
     void saysThatAFolderDoesNotExist();
@@ -110,6 +111,19 @@ void tst_Plugins::saysWhyAFileCannotBeUsed()
     QVERIFY(!loader.load(file));
     QCOMPARE(loader.plugins().size(), 1);
     QVERIFY(!loader.unload(file));
+}
+
+/// It would be laid out in menus, lists and windows.
+void tst_Plugins::aNameWithoutBoundsIsRefused()
+{
+    KirvPluginLoader loader;
+    qputenv("KIRV_FIXTURE_PROTOCOL", QByteArray(100, 'x'));
+    QVERIFY(loader.load(fixture(QStringLiteral("named_by_test"))));
+    QVERIFY(loader.unload(fixture(QStringLiteral("named_by_test"))));
+    qputenv("KIRV_FIXTURE_PROTOCOL", QByteArray(101, 'x'));
+    QVERIFY(!loader.load(fixture(QStringLiteral("named_by_test"))));
+    qunsetenv("KIRV_FIXTURE_PROTOCOL");
+    QCOMPARE(loader.plugins().first().error, QStringLiteral("The name of the protocol has more than 100 characters."));
 }
 
 void tst_Plugins::loadsTheGoodPlugin()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_client.h"
+#include "client/kirv_client_start.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -19,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void messageIsShownOnce();
     void everythingIsSavedToAnotherFolder();
     void everythingIsSavedToTheFolderThatWasDeleted();
+    void programGoesOnWithTheOtherFolder();
     void folderOfOthersIsRefusedAndAnotherCanBeChosen();
     void oneFolderIsChosenAtATime();
     void otherRefusalsHaveNoButton();
@@ -51,10 +54,12 @@ private:
     /// Disables an account in the list.
     void changeSomething() const;
     QStringList messages() const { return client->window()->messageBar()->messages(); }
-    QPushButton *saveButton() const
+    /// The buttons in messages.
+    QList<QPushButton *> commands() const
     {
-        return client->window()->findChild<QPushButton *>(QStringLiteral("MessageBar_Command"));
+        return client->window()->findChildren<QPushButton *>(QStringLiteral("MessageBar_Command"));
     }
+    QPushButton *saveButton() const { return commands().value(0); }
     /// Clicks the button and chooses \a folder in the window that it opens.
     void saveTo(const QString &folder) const;
 
@@ -154,7 +159,10 @@ void tst_ProfileGone::everythingIsSavedToAnotherFolder()
     QCOMPARE(messages().size(), 1);
     QVERIFY2(messages().first().contains(QStringLiteral("--profile \"%1\"").arg(other)),
              qPrintable(messages().first()));
-    QTRY_VERIFY(!saveButton());
+    QTRY_COMPARE(commands().size(), 1);
+    QSignalSpy continued(client.get(), &KirvClient::continuationRequested);
+    commands().first()->click();
+    QCOMPARE(continued.value(0), QVariantList { other });
     options.profileFolder = other;
     start();
     QCOMPARE(client->accounts().accounts().size(), 2);
@@ -169,9 +177,54 @@ void tst_ProfileGone::everythingIsSavedToTheFolderThatWasDeleted()
     QVERIFY(QDir().mkpath(options.profileFolder));
     saveTo(options.profileFolder);
     QCOMPARE(messages().size(), 1);
-    QVERIFY2(messages().first().contains(QLatin1String("start it again")), qPrintable(messages().first()));
+    QVERIFY2(!messages().first().contains(QLatin1String("--profile")), qPrintable(messages().first()));
     start();
     QCOMPARE(client->accounts().accounts().size(), 2);
+}
+
+/// The program as its main() runs it.
+void tst_ProfileGone::programGoesOnWithTheOtherFolder()
+{
+    client.reset();
+    const QString other = home->filePath(QStringLiteral("other"));
+    QVERIFY(QDir().mkpath(other));
+    const auto window = [] {
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        const auto found = std::find_if(widgets.begin(), widgets.end(),
+                                        [](QWidget *widget) { return qobject_cast<KirvSettingsWindow *>(widget); });
+        return found == widgets.end() ? nullptr : static_cast<KirvSettingsWindow *>(*found);
+    };
+    int started = 0;
+    QPointer<KirvSettingsWindow> last;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        if (!window() || window() == last || !KirvAccountManager::getInstance()->getAccount("anna", example))
+            return;
+        last = window();
+        if (++started == 2) {
+            changeSomething();
+            timer.stop();
+            QCoreApplication::exit(7);
+            return;
+        }
+        deleteProfile();
+        changeSomething();
+        const KirvWindowWatcher<QFileDialog> watcher([other](QFileDialog *dialog) {
+            dialog->findChild<QLineEdit *>()->setText(other);
+            dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
+        });
+        last->findChild<QPushButton *>(QStringLiteral("MessageBar_Command"))->click();
+        QTRY_COMPARE(last->messageBar()->messages().value(0).contains(QLatin1String("--profile")), true);
+        last->findChildren<QPushButton *>(QStringLiteral("MessageBar_Command")).last()->click();
+    });
+    timer.start(10);
+    QCOMPARE(kirvRunClient(options, true), 7);
+    QCOMPARE(started, 2);
+    KirvStore store;
+    QVERIFY(store.open(other));
+    QCOMPARE(store.readAccounts().size(), 2);
+    QVERIFY(!store.readAccounts().first().enabled);
+    QVERIFY(!QDir(options.profileFolder).exists());
 }
 
 void tst_ProfileGone::folderOfOthersIsRefusedAndAnotherCanBeChosen()

@@ -161,7 +161,21 @@ void tst_ProfileOpening::aFolderThatIsNoProfileIsRefusedUntouched_data()
     QTest::newRow("a folder") << "letters/letter.txt"
                               << "not a profile";
     QTest::newRow("pictures in a folder of that name") << "avatars/photo1.jpg"
+                                                       << "not a profile";
+    QTest::newRow("a file of that name") << "avatars"
+                                         << "not a profile";
+    QTest::newRow("copies of something else") << "copies/letter.txt"
+                                              << "not a profile";
+    QTest::newRow("a database of a similar name") << "profile.sqlite3"
+                                                  << "not a profile";
+    QTest::newRow("a picture as this program names them")
+        << QStringLiteral("avatars/") + pictureName << "database is missing";
+    QTest::newRow("a copy as this program names them") << "copies/copy-20260101-120000-000.sqlite"
                                                        << "database is missing";
+    QTest::newRow("a log") << "profile.sqlite-wal"
+                           << "database is missing";
+    QTest::newRow("a damaged database that was kept") << "profile.sqlite.damaged-20260101-120000-000"
+                                                      << "database is missing";
 }
 
 void tst_ProfileOpening::aFolderThatIsNoProfileIsRefusedUntouched()
@@ -255,7 +269,7 @@ void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isPipe");
-    for (const char *name : { "profile.sqlite-wal", "profile.sqlite-shm", "profile.sqlite-journal",
+    for (const char *name : { "profile.sqlite", "profile.sqlite-wal", "profile.sqlite-shm", "profile.sqlite-journal",
                               "profile.sqlite.unfinished", "profile.lock" }) {
         QTest::addRow("pipe %s", name) << name << true;
         QTest::addRow("folder %s", name) << name << false;
@@ -320,8 +334,8 @@ void tst_ProfileOpening::anAvatarNameThatLeavesTheFolderIsNeverUsed()
 void tst_ProfileOpening::aLostDatabaseIsNeverNew_data()
 {
     QTest::addColumn<QString>("what");
-    for (const char *what :
-         { "zero bytes", "one byte", "missing beside avatars", "missing beside a log", "zero bytes and nothing else" })
+    for (const char *what : { "zero bytes", "one byte", "missing beside avatars", "missing beside a log",
+                              "missing beside empty folders", "zero bytes and nothing else" })
         QTest::newRow(what) << what;
 }
 
@@ -339,6 +353,10 @@ void tst_ProfileOpening::aLostDatabaseIsNeverNew()
     if (what.startsWith(QLatin1String("missing"))) {
         if (what.endsWith(QLatin1String("log")))
             QVERIFY(QDir(path("avatars")).removeRecursively() && writeFile(database() + QLatin1String("-wal"), "x"));
+        if (what.endsWith(QLatin1String("folders"))) {
+            for (const char *name : { "avatars", "copies" })
+                QVERIFY(QDir(path(name)).removeRecursively() && QDir(folder).mkdir(QLatin1String(name)));
+        }
     } else {
         if (what.endsWith(QLatin1String("else")))
             QVERIFY(QDir(folder).removeRecursively() && QDir().mkpath(folder));

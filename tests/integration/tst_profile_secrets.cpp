@@ -118,6 +118,8 @@ private Q_SLOTS:
     void noOldSecretIsLeftByChangesAndKills();
     void noOldSecretIsLeftByAnUpgrade();
     void aRefusedSecretLeavesNoTrace();
+    void aSettingThatBecomesSecretLeavesNoTrace_data();
+    void aSettingThatBecomesSecretLeavesNoTrace();
     void aChangeOfASecretStaysFast_data();
     void aChangeOfASecretStaysFast();
 };
@@ -208,6 +210,63 @@ void tst_ProfileSecrets::aRefusedSecretLeavesNoTrace()
     }
     store.rollBack();
     QVERIFY(!isTextInFiles(QStringLiteral("refused refused"), folder));
+}
+
+void tst_ProfileSecrets::aSettingThatBecomesSecretLeavesNoTrace_data()
+{
+    QTest::addColumn<bool>("byProtocol");
+    QTest::newRow("of all accounts of a protocol") << true;
+    QTest::newRow("of single accounts") << false;
+}
+
+/// As when a new version of a plug-in makes a text a password.
+void tst_ProfileSecrets::aSettingThatBecomesSecretLeavesNoTrace()
+{
+    QFETCH(bool, byProtocol);
+    const QString token = QStringLiteral("server-password");
+    QTemporaryDir home;
+    const QString folder = home.filePath(QStringLiteral("profile"));
+    KirvStore store;
+    QVERIFY(store.open(folder));
+    QRandomGenerator random(3); // soon leaves something
+    QSet<int> stored;
+    QSet<QByteArray> gaps; // until something is left between the rows
+    for (int number = 1; number <= 2000 && gaps.isEmpty(); ++number) {
+        const int chosen = random.bounded(accountCount);
+        KirvAccountRecord account;
+        account.key = keyOf(chosen);
+        account.settings.insert(token, secret(number));
+        account.settings.insert(QStringLiteral("server"), QString(150, QLatin1Char('x')));
+        if (!stored.contains(chosen))
+            QVERIFY(store.insertAccount(account));
+        else
+            QVERIFY(random.bounded(10) == 0 ? store.removeAccount(account.key) && store.insertAccount(account)
+                                            : store.updateAccount(account));
+        stored.insert(chosen);
+        gaps = marksIn(folder) - currentMarks(store);
+    }
+    QVERIFY(!gaps.isEmpty());
+    store.close(); // with a copy
+    QVERIFY(store.open(folder));
+    if (byProtocol)
+        QVERIFY(store.classifySettings(keyOf(1).protocol, { token }, { token }));
+    QList<KirvAccountRecord> accounts = store.readAccounts();
+    for (KirvAccountRecord &account : accounts) {
+        account.secretSettings.insert(token);
+        QVERIFY(store.updateAccount(account));
+    }
+    QVERIFY(!currentMarks(store).isEmpty());
+    const QSet<QByteArray> copied = marksIn(folder + QLatin1String("/copies"));
+    QVERIFY2(copied.isEmpty(), listed(copied).constData());
+    QVERIFY(!QDir(folder + QLatin1String("/copies")).isEmpty());
+    const QSet<QByteArray> old = marksIn(folder) - currentMarks(store);
+    QVERIFY2(old.isEmpty(), listed(old).constData());
+    for (KirvAccountRecord &account : accounts) {
+        account.settings.remove(token);
+        QVERIFY(store.updateAccount(account));
+    }
+    const QSet<QByteArray> left = marksIn(folder);
+    QVERIFY2(left.isEmpty(), listed(left).constData());
 }
 
 void tst_ProfileSecrets::aChangeOfASecretStaysFast_data()

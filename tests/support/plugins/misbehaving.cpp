@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 #include <QThread>
+#include <QTimer>
 
 #include <csignal>
 #include <cstdlib>
@@ -53,10 +54,29 @@ public:
         misbehave("name");
         return KirvFakeProtocol::getName();
     }
+    QString getIconPath(int variant) override
+    {
+        misbehave("icon");
+        return KirvFakeProtocol::getIconPath(variant);
+    }
+    QList<KirvField> accountSettings() const override
+    {
+        misbehave("settings");
+        return KirvFakeProtocol::accountSettings();
+    }
+    QList<KirvField> directoryFields() const override
+    {
+        misbehave("directory");
+        return KirvFakeProtocol::directoryFields();
+    }
     KirvConnection *createConnection() override
     {
         misbehave("connection");
-        return KirvFakeProtocol::createConnection();
+        auto *connection = new KirvFakeConnection(server, clock);
+        connection->onLogIn = [] { misbehave("log-in"); };
+        connection->onAbort = [] { misbehave("end"); };
+        QTimer::singleShot(0, connection, [] { misbehave("event"); });
+        return connection;
     }
 };
 
