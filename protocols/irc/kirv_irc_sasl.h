@@ -8,6 +8,7 @@
 #include <QString>
 
 class IrcMessage;
+class IrcNumericMessage;
 
 /// Opens a session with SASL PLAIN or EXTERNAL, and only so.
 ///
@@ -36,7 +37,8 @@ Q_SIGNALS:
 private:
     void receive(IrcMessage *message);
     void negotiate(IrcMessage *message);
-    void fail();
+    void judge(IrcNumericMessage *message);
+    KirvFailure refusal() const;
     void sendCredentials();
     void accept();
 
