@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 
+#include "protocols/tls/kirv_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_features.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
-#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QByteArrayList>
@@ -192,7 +192,7 @@ void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXm
         startWithEncryption();
     if (configuration.caCertificates().isEmpty()) // the library looks up those of the system that it needs
         return client.connectToServer(configuration, presence);
-    KirvXmppSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
+    KirvSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
         if (hasEnded || isClosing)
             return;
         QXmppConfiguration complete = configuration;
