@@ -46,6 +46,10 @@ public:
     /// Whether requests can be sent: after loggedIn() or readyToRegister(), until the end.
     virtual bool isReady() const = 0;
 
+    /// How the session is protected and how the account has logged in, as "TLSv1.3, SASL SCRAM-SHA-256"; empty before
+    /// the log-in and when that is not known.
+    virtual QString securityText() const { return QString(); }
+
     /// Sends a presence; an unavailable one hides the session and keeps it.
     virtual void sendPresence(const QXmppPresence &presence) = 0;
     using Receiver = std::function<void(const KirvXmppReply &)>;

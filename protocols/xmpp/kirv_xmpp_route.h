@@ -33,6 +33,7 @@ public:
     void close() override;
     void abort() override;
     bool isReady() const override { return link && link->isReady(); }
+    QString securityText() const override { return link ? link->securityText() : QString(); }
     void sendPresence(const QXmppPresence &presence) override;
     void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
                      const QString &to) override;

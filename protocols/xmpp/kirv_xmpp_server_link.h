@@ -3,6 +3,7 @@
 #define KIRV_XMPP_SERVER_LINK_H
 
 #include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_login_guard.h"
 #include "protocols/xmpp/kirv_xmpp_pending_requests.h"
 #include "protocols/xmpp/kirv_xmpp_stream_guard.h"
 
@@ -28,6 +29,7 @@ public:
     void close() override;
     void abort() override;
     bool isReady() const override;
+    QString securityText() const override;
     void sendPresence(const QXmppPresence &presence) override;
     void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
                      const QString &to) override;
@@ -44,7 +46,7 @@ private:
     bool receiveFeatures(const QDomElement &features);
     bool receiveStreamError(const QDomElement &error);
     bool receiveReference(const QString &address);
-    void receiveRefusal(const QDomElement &failure);
+    bool receiveLoginStep(const QDomElement &step);
     bool receiveReply(const QDomElement &iq);
     void receiveConnected();
     void receiveError(QXmppClient::Error error);
@@ -63,7 +65,9 @@ private:
     const int replyTimeout;
     QXmppClient client;
     KirvXmppStreamReader *reader = nullptr; ///< owned by this
+    KirvXmppLoginGuard loginGuard;
     KirvXmppPendingRequests requests;
+    QString accountAddress; ///< without a resource
     KirvFailure reason; ///< the first one that was reported
     QString referredHost; ///< the server that this one refers to; empty: none
     int referredPort = 0;
