@@ -38,6 +38,11 @@ public:
 
     using QObject::QObject;
 
+    /// From now on the link ends, before anything is sent, where its server has an address of this computer or of a
+    /// private network.
+    virtual void refuseLocalServers() { }
+    /// Whether the server has such an address; false while that is not known.
+    virtual bool isServerLocal() const { return false; }
     virtual void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) = 0;
     /// Ends the stream in an orderly way; ended() follows.
     virtual void close() = 0;

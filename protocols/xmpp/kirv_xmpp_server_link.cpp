@@ -4,10 +4,12 @@
 #include "protocols/tls/kirv_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_address.h"
 #include "protocols/xmpp/kirv_xmpp_errors.h"
+#include "protocols/xmpp/kirv_xmpp_server_finder.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QByteArrayList>
+#include <QHostAddress>
 #include <QPointer>
 #include <QSslSocket>
 #include <QUrl>
@@ -91,6 +93,7 @@ void KirvXmppServerLink::guardStream()
     reader = new KirvXmppStreamReader(
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
+    connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::lookAtServer);
     connect(reader, &KirvXmppStreamReader::stanzaDropped, this, &KirvXmppServerLink::receiveDropped);
 }
 
@@ -153,6 +156,17 @@ void KirvXmppServerLink::startWithEncryption()
 {
     if (auto *stream = client.findChild<QXmppOutgoingClient *>())
         QObject::disconnect(stream->socket(), &QAbstractSocket::connected, stream, nullptr);
+}
+
+/// What the library has written by now is not on its way yet.
+void KirvXmppServerLink::lookAtServer()
+{
+    QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
+    isLocal = kirvXmppIsLocal(socket->peerAddress());
+    if (!isLocal || !refusesLocal)
+        return;
+    fail(KirvFailure(KirvFailure::ServerShutDown, tr("it refers to a server of a private network")));
+    socket->abort();
 }
 
 void KirvXmppServerLink::close()

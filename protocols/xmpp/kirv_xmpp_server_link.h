@@ -25,6 +25,8 @@ public:
     /// A KirvXmppLinkFactory.
     static KirvXmppLink *create(Purpose purpose, KirvClock &clock, int replyTimeout);
 
+    void refuseLocalServers() override { refusesLocal = true; }
+    bool isServerLocal() const override { return isLocal; }
     void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) override;
     void close() override;
     void abort() override;
@@ -42,6 +44,7 @@ private:
     void receiveViolation(KirvXmppStreamGuard::Violation violation);
     void receiveDropped(const KirvXmppStanzaStart &start);
     void startWithEncryption();
+    void lookAtServer();
     bool receive(const QDomElement &stanza);
     bool receiveFeatures(const QDomElement &features);
     bool receiveStreamError(const QDomElement &error);
@@ -71,6 +74,8 @@ private:
     KirvFailure reason; ///< the first one that was reported
     QString referredHost; ///< the server that this one refers to; empty: none
     int referredPort = 0;
+    bool refusesLocal = false;
+    bool isLocal = false;
     bool isEncrypted = false;
     bool isClosing = false;
     bool hasArrived = false; ///< loggedIn() or readyToRegister() was emitted

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void aReferenceToNowhereIsReported_data();
     void aReferenceToNowhereIsReported();
     void serversThatReferToOneAnotherAreLeft();
+    void aLocalServerIsRefusedBeforeAnythingIsSent();
     void theServersWordsAreReported_data();
     void theServersWordsAreReported();
 
@@ -228,6 +229,26 @@ void TestXmppWays::serversThatReferToOneAnotherAreLeft()
     logIn(settings);
     QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::ServiceUnavailable, kirvPatience);
     QCOMPARE(referring.connections(), 1 + KirvXmppRoute::mostReferences);
+}
+
+/// Whoever is there receives nothing of what a server outside wanted it to receive.
+void TestXmppWays::aLocalServerIsRefusedBeforeAnythingIsSent()
+{
+    KirvScriptedXmppServer server([](const QByteArray &) { return QByteArray(); });
+    KirvXmppServerLink link(KirvXmppLink::LogIn, KirvClock::system(), 1000);
+    link.refuseLocalServers();
+    QSignalSpy ended(&link, &KirvXmppLink::ended);
+    QXmppConfiguration configuration;
+    configuration.setJid("ann@localhost");
+    configuration.setHost("127.0.0.1");
+    configuration.setPort(server.serverPort());
+    link.open(configuration, QXmppPresence());
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, kirvPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(server.connections(), 1, kirvPatience);
+    const auto failure = ended[0][0].value<KirvFailure>();
+    QVERIFY2(failure.detail().contains("private network"), qPrintable(failure.text()));
+    QTRY_COMPARE_WITH_TIMEOUT(server.open(), 0, kirvPatience);
+    QCOMPARE(server.received(), QByteArray());
 }
 
 void TestXmppWays::theServersWordsAreReported_data()
