@@ -103,10 +103,11 @@ void KirvIrcSasl::negotiate(IrcMessage *message)
         // A list in several lines has an asterisk in all but the last.
         if (message->parameter(2) == QLatin1String("*"))
             return;
-        if (isOffered())
-            connection()->sendRaw(QStringLiteral("CAP REQ :sasl"));
-        else
+        if (!isOffered())
             Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+        else if (!capabilityRequested)
+            connection()->sendRaw(QStringLiteral("CAP REQ :sasl"));
+        capabilityRequested = true;
     } else if (subCommand == QLatin1String("ACK")) {
         if (!requested)
             connection()->sendData("AUTHENTICATE " + mechanism);

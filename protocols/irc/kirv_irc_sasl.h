@@ -46,7 +46,8 @@ private:
 
     const QByteArray mechanism;
     QByteArray credentials; ///< empty for EXTERNAL
-    bool requested = false;
+    bool capabilityRequested = false;
+    bool requested = false; ///< the mechanism
     bool answered = false; ///< the credentials have been sent
     bool accepted = false;
 };
