@@ -75,14 +75,15 @@ KirvFailure KirvXmppLoginGuard::receiveChallenge(const QString &text)
         return KirvFailure();
     const QByteArray message = QByteArray::fromBase64(text.toLatin1());
     isProven = isProven || !attributeOf(message, 'v').isEmpty(); // the library ends the stream when it is wrong
+    const int most = chosen == QLatin1String("SCRAM-SHA-512") ? mostRoundsOfSha512 : mostRounds;
     bool isNumber = false;
     const QByteArray rounds = attributeOf(message, 'i');
-    if (rounds.isEmpty() || (rounds.toInt(&isNumber) <= mostRounds && isNumber))
+    if (rounds.isEmpty() || (rounds.toInt(&isNumber) <= most && isNumber))
         return KirvFailure();
     return KirvFailure(KirvFailure::ServiceUnavailable,
                        tr("It asks for more work to check the password than is allowed (%1 rounds, at most %2).")
                            .arg(QString::fromLatin1(rounds.left(12)))
-                           .arg(mostRounds));
+                           .arg(most));
 }
 
 KirvFailure KirvXmppLoginGuard::receiveSuccess(const QDomElement &success)

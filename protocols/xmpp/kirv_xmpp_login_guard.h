@@ -22,7 +22,9 @@ public:
     static constexpr int mostFeatures = 3; ///< before encryption, with it, and logged in
     static constexpr int mostChallenges = 3;
     static constexpr int longestChallenge = 4096; ///< characters, as it is sent
-    static constexpr int mostRounds = 50000; ///< of the derivation of the password's key; usual are 4,096 to 10,000
+    /// How many rounds a server may ask for in the derivation of the password's key, which blocks for that long. Usual
+    /// are 4,096 to 10,000; those of SHA-512 take longer.
+    static constexpr int mostRounds = 30000, mostRoundsOfSha512 = 20000;
 
     /// \a stream is not owned and lives longer.
     explicit KirvXmppLoginGuard(QXmppOutgoingClient &stream);

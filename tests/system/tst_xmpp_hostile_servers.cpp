@@ -118,6 +118,10 @@ void TestXmppHostileServers::strangersAreDigested_data()
     flood("100,000 presences", "<presence" + from + "><status>Gone to lunch</status></presence>", 100000);
     flood("100,000 requests for the version",
           "<iq type='get' id='1'" + from + "><query xmlns='jabber:iq:version'/></iq>", 100000);
+    flood("100,000 forged replies", "<iq type='result' id='1'" + from + "><vCard xmlns='vcard-temp'/></iq>", 100000);
+    flood("100,000 replies that nobody awaits", "<iq type='result' id='1'><vCard xmlns='vcard-temp'/></iq>", 100000);
+    flood("100,000 unknown requests of the server", "<iq type='set' id='1' from='localhost'><a xmlns='urn:x'/></iq>",
+          100000);
     flood("100,000 messages over TLS", "<message" + from + "><body>Hello there</body></message>", 100000, true);
     flood("spaces without end", QByteArray(65536, ' '), floodSize / 65536);
 }
