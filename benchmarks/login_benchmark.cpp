@@ -20,6 +20,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <sys/resource.h>
 
 namespace {
@@ -63,14 +64,41 @@ QString loadOfTheMachine()
     return getloadavg(&load, 1) == 1 ? QString::number(load, 'f', 1) : QString();
 }
 
-/// The gaps of the event loop: how long after one millisecond's timer the next one comes.
+/// What this thread has used of the processor, in milliseconds.
+double threadTime()
+{
+    timespec used {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return double(used.tv_sec) * 1e3 + double(used.tv_nsec) / 1e6;
+}
+
+/// The longest of some times, and the one that 99 % of them do not exceed, in milliseconds.
+struct Spread {
+    explicit Spread(QVector<double> times = {})
+    {
+        if (times.isEmpty())
+            return;
+        std::sort(times.begin(), times.end());
+        longest = times.last();
+        percentile99 = times.at(int(0.99 * double(times.size() - 1)));
+    }
+
+    double longest = 0;
+    double percentile99 = 0;
+};
+
+/// The gaps of the event loop: how long after one millisecond's timer the next one comes, and how much of that the
+/// program has worked itself. The rest it has waited for the processor.
 class GapMeter : public QObject {
 public:
     GapMeter()
     {
         timer.setTimerType(Qt::PreciseTimer);
         connect(&timer, &QTimer::timeout, this, [this] {
+            const double used = threadTime();
             gaps.append(double(sinceLast.nsecsElapsed()) / 1e6);
+            workInGaps.append(used - usedBefore);
+            usedBefore = used;
             sinceLast.restart();
         });
         restart();
@@ -80,22 +108,20 @@ public:
     void restart()
     {
         gaps.clear();
+        workInGaps.clear();
+        usedBefore = threadTime();
         sinceLast.start();
     }
 
-    double longest() const { return gaps.isEmpty() ? 0 : *std::max_element(gaps.cbegin(), gaps.cend()); }
-    double percentile99()
-    {
-        if (gaps.isEmpty())
-            return 0;
-        std::sort(gaps.begin(), gaps.end());
-        return gaps.at(int(0.99 * double(gaps.size() - 1)));
-    }
+    Spread whole() const { return Spread(gaps); }
+    Spread work() const { return Spread(workInGaps); }
 
 private:
     QTimer timer;
     QElapsedTimer sinceLast;
+    double usedBefore = 0;
     QVector<double> gaps;
+    QVector<double> workInGaps;
 };
 
 /// What the started program does: the same as the client's main(), and it prints a line whenever all of its accounts
@@ -130,8 +156,10 @@ private:
 
     void print()
     {
-        std::printf("%lld %f %lld %f %f\n", static_cast<long long>(now()), processorTime() - processorBefore,
-                    static_cast<long long>(residentMemory()), meter.longest(), meter.percentile99());
+        const Spread gaps = meter.whole(), work = meter.work();
+        std::printf("%lld %f %lld %f %f %f %f\n", static_cast<long long>(now()), processorTime() - processorBefore,
+                    static_cast<long long>(residentMemory()), gaps.longest, gaps.percentile99, work.longest,
+                    work.percentile99);
         std::fflush(stdout);
     }
 
@@ -163,6 +191,8 @@ struct Report {
     qint64 memory = 0; ///< kB
     double longestGap = 0;
     double gap99 = 0;
+    double longestWork = 0; ///< in a gap
+    double work99 = 0;
     bool isGood = false;
 };
 
@@ -190,10 +220,10 @@ public:
             QCoreApplication::processEvents(); // reads what the server prints, which would wait for that otherwise
         }
         const QList<QByteArray> line = process.readLine().trimmed().split(' ');
-        if (line.size() != 5)
+        if (line.size() != 7)
             return {};
-        return { line.at(0).toLongLong(), line.at(1).toDouble(), line.at(2).toLongLong(),
-                 line.at(3).toDouble(),   line.at(4).toDouble(), true };
+        return { line.at(0).toLongLong(), line.at(1).toDouble(), line.at(2).toLongLong(), line.at(3).toDouble(),
+                 line.at(4).toDouble(),   line.at(5).toDouble(), line.at(6).toDouble(),   true };
     }
 
     qint64 started = 0;
@@ -264,6 +294,8 @@ QStringList row(const QString &name, int count, const Report &report, qint64 sin
              QString::number(double(report.memory - memoryBefore) / 1024 / count, 'f', 3),
              QString::number(report.longestGap, 'f', 1),
              QString::number(report.gap99, 'f', 1),
+             QString::number(report.longestWork, 'f', 1),
+             QString::number(report.work99, 'f', 1),
              loadOfTheMachine() };
 }
 
@@ -319,7 +351,7 @@ int main(int argc, char **argv)
     Table table({ QStringLiteral("encryption"), QStringLiteral("accounts"), QStringLiteral("all on line s"),
                   QStringLiteral("seen by the server"), QStringLiteral("processor s"), QStringLiteral("memory MB"),
                   QStringLiteral("MB each"), QStringLiteral("longest gap ms"), QStringLiteral("gap ms, 99 %"),
-                  QStringLiteral("load") });
+                  QStringLiteral("most work in a gap ms"), QStringLiteral("work ms, 99 %"), QStringLiteral("load") });
     const int patience = 1000 * parser.value(QStringLiteral("patience")).toInt();
     for (const QString &number : parser.value(QStringLiteral("accounts")).split(QLatin1Char(','))) {
         for (const bool isEncrypted : { false, true })

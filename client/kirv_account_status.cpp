@@ -156,7 +156,8 @@ QString KirvAccountStatus::connectedReason() const
                        since(),
                        security.isEmpty() ? QString()
                                           //: %1 = how a connection is protected, as "TLSv1.3, SASL EXTERNAL"
-                                          : tr("The connection is protected by %1.").arg(kirvPlainName(security)) });
+                                          //: or "not encrypted, no password"
+                                          : tr("Protection: %1.").arg(kirvPlainName(security)) });
 }
 
 QString KirvAccountStatus::since() const

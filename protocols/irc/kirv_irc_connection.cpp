@@ -68,8 +68,9 @@ QString programName()
 
 } // namespace
 
-KirvIrcConnection::KirvIrcConnection(KirvClock &clock, QObject *parent)
+KirvIrcConnection::KirvIrcConnection(KirvClock &clock, QObject *parent, KirvSystemCertificates &systemCertificates)
     : KirvConnection(clock, parent)
+    , systemCertificates(systemCertificates)
 {
 }
 
@@ -97,7 +98,25 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     connect(link.data(), &IrcConnection::connected, this, [this, presence] { finishLogin(presence); });
     nicksLeft = settings.nicks();
     link->setNickName(nicksLeft.takeFirst());
-    link->open();
+    openLink(qobject_cast<QSslSocket *>(transport));
+}
+
+/// A list of one's own takes the place of the system's, which is then needed as a whole.
+void KirvIrcConnection::openLink(QSslSocket *encrypted)
+{
+    if (!encrypted || settings.certificateFile.isEmpty()) {
+        link->open();
+        return;
+    }
+    IrcConnection *const opened = link.data();
+    systemCertificates.request(opened, [this, opened, encrypted](const QList<QSslCertificate> &ofSystem) {
+        if (link.data() != opened)
+            return;
+        QSslConfiguration configuration = encrypted->sslConfiguration();
+        configuration.addCaCertificates(ofSystem);
+        encrypted->setSslConfiguration(configuration);
+        opened->open();
+    });
 }
 
 /// A new one for each attempt, so that nothing of an earlier attempt is left.

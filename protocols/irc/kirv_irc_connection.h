@@ -4,6 +4,7 @@
 
 #include "core/protocol/kirv_connection.h"
 #include "protocols/irc/kirv_irc_settings.h"
+#include "protocols/tls/kirv_system_certificates.h"
 
 #include <QAbstractSocket>
 #include <QDateTime>
@@ -27,8 +28,9 @@ class KirvIrcConnection : public KirvConnection {
     Q_OBJECT
 
 public:
-    /// \a clock is not owned and outlives the connection.
-    explicit KirvIrcConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr);
+    /// \a clock and \a systemCertificates are not owned and outlive the connection.
+    explicit KirvIrcConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr,
+                               KirvSystemCertificates &systemCertificates = KirvSystemCertificates::instance());
     ~KirvIrcConnection() override;
 
     QString securityText() const override;
@@ -44,6 +46,7 @@ private:
     void createSocket(QAbstractSocket *transport);
     QAbstractSocket *createTransport(QString *problem);
     bool configure(QSslSocket *encrypted, QString *problem) const;
+    void openLink(QSslSocket *encrypted);
     void warnOfOpenKey();
     void prepareAuthentication();
 
@@ -61,6 +64,7 @@ private:
     void watchServer();
     void callLaterOnLink(int milliseconds, const std::function<void()> &callback);
 
+    KirvSystemCertificates &systemCertificates;
     /// Deleted later, as it may be in the middle of a signal.
     QScopedPointer<IrcConnection, QScopedPointerDeleteLater> link;
     KirvIrcSettings settings;

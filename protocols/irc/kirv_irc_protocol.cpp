@@ -3,6 +3,7 @@
 
 #include "protocols/irc/kirv_irc_connection.h"
 #include "protocols/irc/kirv_irc_settings.h"
+#include "protocols/tls/kirv_system_certificates.h"
 
 static void initializeResources()
 {
@@ -13,6 +14,7 @@ KirvIrcProtocol::KirvIrcProtocol(QObject *parent)
     : KirvProtocolBase(parent)
 {
     initializeResources();
+    KirvSystemCertificates::prepareEncryption();
 }
 
 QString KirvIrcProtocol::getName()

@@ -52,24 +52,45 @@ void KirvIrcSasl::receive(IrcMessage *message)
     if (message->type() == IrcMessage::Capability) {
         negotiate(message);
     } else if (message->command() == QLatin1String("AUTHENTICATE")) {
-        if (requested && !answered)
+        if (requested && !answered && !accepted)
             sendCredentials();
     } else if (message->type() == IrcMessage::Numeric) {
-        switch (static_cast<IrcNumericMessage *>(message)->code()) {
-        case 903: // RPL_SASLSUCCESS
-        case 907: // ERR_SASLALREADY
+        judge(static_cast<IrcNumericMessage *>(message));
+    }
+}
+
+void KirvIrcSasl::judge(IrcNumericMessage *message)
+{
+    const QString words = message->parameter(message->parameters().size() - 1);
+    switch (message->code()) {
+    case 903: // RPL_SASLSUCCESS
+        if (answered)
             accept();
-            break;
-        case 902: // ERR_NICKLOCKED
-        case 904: // ERR_SASLFAIL
-        case 905: // ERR_SASLTOOLONG
-        case 906: // ERR_SASLABORTED
-            fail();
-            break;
-        case 908: // RPL_SASLMECHS
+        break;
+    case 907: // ERR_SASLALREADY
+        if (requested)
+            accept();
+        break;
+    case 902: // ERR_NICKLOCKED
+        Q_EMIT failed({ KirvFailure::AccessDenied, words });
+        break;
+    case 904: // ERR_SASLFAIL
+        Q_EMIT failed(refusal());
+        break;
+    case 905: // ERR_SASLTOOLONG
+        if (answered)
+            Q_EMIT failed({ KirvFailure::BadSettings, tr("The password is longer than the server accepts.") });
+        else
             Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
-            break;
-        }
+        break;
+    case 906: // ERR_SASLABORTED, which nobody but the server can have done
+        Q_EMIT failed({ KirvFailure::ServiceUnavailable, tr("It has ended SASL before it was done.") });
+        break;
+    case 908: // RPL_SASLMECHS
+        Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+        break;
+    default:
+        break;
     }
 }
 
@@ -82,10 +103,11 @@ void KirvIrcSasl::negotiate(IrcMessage *message)
         // A list in several lines has an asterisk in all but the last.
         if (message->parameter(2) == QLatin1String("*"))
             return;
-        if (isOffered())
-            connection()->sendRaw(QStringLiteral("CAP REQ :sasl"));
-        else
+        if (!isOffered())
             Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
+        else if (!capabilityRequested)
+            connection()->sendRaw(QStringLiteral("CAP REQ :sasl"));
+        capabilityRequested = true;
     } else if (subCommand == QLatin1String("ACK")) {
         if (!requested)
             connection()->sendData("AUTHENTICATE " + mechanism);
@@ -96,14 +118,13 @@ void KirvIrcSasl::negotiate(IrcMessage *message)
 }
 
 /// A server without its services refuses before it has seen the password.
-void KirvIrcSasl::fail()
+KirvFailure KirvIrcSasl::refusal() const
 {
     if (!answered)
-        Q_EMIT failed(KirvFailure::AuthenticationNotOffered);
-    else if (credentials.isEmpty())
-        Q_EMIT failed({ KirvFailure::AccessDenied, tr("The client certificate is not known there.") });
-    else
-        Q_EMIT failed(KirvFailure::WrongPassword);
+        return KirvFailure::AuthenticationNotOffered;
+    if (credentials.isEmpty())
+        return { KirvFailure::AccessDenied, tr("The client certificate is not known there.") };
+    return KirvFailure::WrongPassword;
 }
 
 void KirvIrcSasl::sendCredentials()
@@ -118,7 +139,7 @@ void KirvIrcSasl::sendCredentials()
 
 void KirvIrcSasl::accept()
 {
-    if (accepted || !answered)
+    if (accepted)
         return;
     accepted = true;
     connection()->sendData(endOfNegotiation);

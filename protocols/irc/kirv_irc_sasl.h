@@ -8,6 +8,7 @@
 #include <QString>
 
 class IrcMessage;
+class IrcNumericMessage;
 
 /// Opens a session with SASL PLAIN or EXTERNAL, and only so.
 ///
@@ -36,7 +37,8 @@ Q_SIGNALS:
 private:
     void receive(IrcMessage *message);
     void negotiate(IrcMessage *message);
-    void fail();
+    void judge(IrcNumericMessage *message);
+    KirvFailure refusal() const;
     void sendCredentials();
     void accept();
 
@@ -44,7 +46,8 @@ private:
 
     const QByteArray mechanism;
     QByteArray credentials; ///< empty for EXTERNAL
-    bool requested = false;
+    bool capabilityRequested = false;
+    bool requested = false; ///< the mechanism
     bool answered = false; ///< the credentials have been sent
     bool accepted = false;
 };

@@ -24,6 +24,11 @@ KirvXmppConnection::~KirvXmppConnection()
     KirvXmppConnection::abortConnection(); // no other one: derived classes are gone
 }
 
+QString KirvXmppConnection::securityText() const
+{
+    return isLoggedIn() && link ? link->securityText() : QString();
+}
+
 void KirvXmppConnection::startLogin(const KirvPresence &presence)
 {
     settings = KirvXmppSettings(login().settings);

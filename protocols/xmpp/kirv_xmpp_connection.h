@@ -31,6 +31,8 @@ public:
                                 KirvXmppLinkFactory createLink = KirvXmppRoute::create);
     ~KirvXmppConnection() override;
 
+    QString securityText() const override;
+
     /// Called once with how a request ended, unless the connection is dropped or destroyed before.
     using Receiver = std::function<void(const KirvFailure &)>;
     /// Changes the password on the server. The session goes on with it; login() stays for the owner to bring in line.

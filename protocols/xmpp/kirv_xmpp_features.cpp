@@ -12,38 +12,53 @@ const QStringList usedFeatures {
     QStringLiteral("http://jabber.org/features/iq-register"),
 };
 
-/// Whether this way to log in sends a secret that can be read along and used again.
-bool sendsSecret(const QString &mechanism)
+/// The ways to log in, the best first. Others that the library knows have no use for a password, or hand it to others.
+const QStringList usedMechanisms { QStringLiteral("SCRAM-SHA-512"), QStringLiteral("SCRAM-SHA-256"),
+                                   QStringLiteral("SCRAM-SHA-1"), QStringLiteral("DIGEST-MD5"),
+                                   QStringLiteral("PLAIN") };
+
+/// The place of \a mechanism among those that are used; -1 when it is none of them.
+int rankOf(const QString &mechanism, bool sendsPasswords)
 {
-    const QString name = mechanism.trimmed().toUpper();
-    return name == QLatin1String("PLAIN") || name == QLatin1String("LOGIN") || name.contains(QLatin1String("OAUTH"))
-        || name.startsWith(QLatin1String("X-"));
+    const bool isForbidden = !sendsPasswords && mechanism == usedMechanisms.last();
+    return isForbidden ? -1 : int(usedMechanisms.indexOf(mechanism));
+}
+
+/// Leaves one of \a mechanisms, the children of an element; its name, or an empty one.
+QString leaveBest(QDomElement &mechanisms, bool sendsPasswords)
+{
+    QDomElement best;
+    int bestRank = -1;
+    QDomElement next;
+    for (QDomElement way = mechanisms.firstChildElement(); !way.isNull(); way = next) {
+        next = way.nextSiblingElement();
+        const int rank = rankOf(way.text(), sendsPasswords);
+        const bool isBetter = rank >= 0 && (bestRank < 0 || rank < bestRank);
+        mechanisms.removeChild(isBetter ? best : way);
+        if (isBetter) {
+            best = way;
+            bestRank = rank;
+        }
+    }
+    return usedMechanisms.value(bestRank);
 }
 
 } // namespace
 
-bool kirvXmppReduceFeatures(QDomElement &features, bool sendsPasswords)
+bool kirvXmppReduceFeatures(QDomElement &features, bool sendsPasswords, QString *mechanism)
 {
+    mechanism->clear();
     bool isOffered = false;
-    bool isLeft = false;
     QDomElement next;
     for (QDomElement feature = features.firstChildElement(); !feature.isNull(); feature = next) {
         next = feature.nextSiblingElement();
-        if (!usedFeatures.contains(feature.namespaceURI())) {
+        const bool isMechanisms = feature.localName() == QLatin1String("mechanisms");
+        if (!usedFeatures.contains(feature.namespaceURI()) || (isMechanisms && isOffered)) {
             features.removeChild(feature);
-            continue;
-        }
-        if (feature.localName() != QLatin1String("mechanisms"))
-            continue;
-        QDomElement nextWay;
-        for (QDomElement way = feature.firstChildElement(); !way.isNull(); way = nextWay) {
-            nextWay = way.nextSiblingElement();
+        } else if (isMechanisms && !feature.firstChildElement().isNull()) {
             isOffered = true;
-            if (!sendsPasswords && sendsSecret(way.text()))
-                feature.removeChild(way);
-            else
-                isLeft = true;
+            *mechanism = leaveBest(feature, sendsPasswords);
         }
     }
-    return isLeft || !isOffered;
+    return !mechanism->isEmpty() || !isOffered;
 }

@@ -38,6 +38,11 @@ public:
 
     using QObject::QObject;
 
+    /// From now on the link ends, before anything is sent, where its server has an address of this computer or of a
+    /// private network.
+    virtual void refuseLocalServers() { }
+    /// Whether the server has such an address; false while that is not known.
+    virtual bool isServerLocal() const { return false; }
     virtual void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) = 0;
     /// Ends the stream in an orderly way; ended() follows.
     virtual void close() = 0;
@@ -45,6 +50,10 @@ public:
     virtual void abort() = 0;
     /// Whether requests can be sent: after loggedIn() or readyToRegister(), until the end.
     virtual bool isReady() const = 0;
+
+    /// How the session is protected and how the account has logged in, as "TLSv1.3, SASL SCRAM-SHA-256"; empty before
+    /// the log-in and when that is not known.
+    virtual QString securityText() const { return QString(); }
 
     /// Sends a presence; an unavailable one hides the session and keeps it.
     virtual void sendPresence(const QXmppPresence &presence) = 0;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_protocol.h"
 
+#include "protocols/tls/kirv_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_address.h"
 #include "protocols/xmpp/kirv_xmpp_connection.h"
 #include "protocols/xmpp/kirv_xmpp_deletion_request.h"
 #include "protocols/xmpp/kirv_xmpp_password_request.h"
 #include "protocols/xmpp/kirv_xmpp_registration_request.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
-#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
 static void initializeResources()
@@ -26,7 +26,7 @@ KirvXmppProtocol::KirvXmppProtocol(QObject *parent)
     : KirvProtocolBase(parent)
 {
     initializeResources();
-    KirvXmppSystemCertificates::prepareEncryption();
+    KirvSystemCertificates::prepareEncryption();
 }
 
 QString KirvXmppProtocol::getName()

@@ -4,6 +4,7 @@
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
+#include <QHostAddress>
 #include <QRandomGenerator>
 
 namespace {
@@ -104,6 +105,8 @@ void KirvXmppRoute::start(const KirvXmppTarget &next)
     isGreeted = false;
     link = createLink(purpose, clock, replyTimeout);
     link->setParent(this);
+    if (!mayBeLocal)
+        link->refuseLocalServers();
     connectLink();
     QXmppConfiguration own = configuration;
     own.setHost(target.host);
@@ -142,6 +145,12 @@ void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
         end(KirvFailure(KirvFailure::ServiceUnavailable, tr("servers refer to one another without end")));
         return;
     }
+    mayBeLocal = link && link->isServerLocal();
+    const QHostAddress address(host);
+    if (!mayBeLocal && !address.isNull() && kirvXmppIsLocal(address)) {
+        end(KirvFailure(KirvFailure::ServerShutDown, tr("it refers to a server of a private network")));
+        return;
+    }
     if (wasEncrypted && configuration.streamSecurityMode() == QXmppConfiguration::TLSEnabled)
         configuration.setStreamSecurityMode(QXmppConfiguration::TLSRequired);
     targets.clear();
@@ -167,6 +176,8 @@ void KirvXmppRoute::receiveSilence()
         tryNext();
         return;
     }
+    if (!mayBeLocal)
+        return; // what looks at the port does not look where it leads
     const auto receive = [this, started = attempt](bool isOther) {
         if (started == attempt && !isOver && !isGreeted && isOther)
             end(otherStart());
@@ -177,7 +188,7 @@ void KirvXmppRoute::receiveSilence()
 /// The server has hung up, or made no sense, before it began to speak.
 void KirvXmppRoute::explainEnd(const KirvFailure &failure)
 {
-    if (failure.kind() == KirvFailure::UntrustedCertificate) {
+    if (failure.kind() == KirvFailure::UntrustedCertificate || !mayBeLocal) {
         end(failure);
         return;
     }

@@ -12,8 +12,8 @@
 ///
 /// Without a host in the configuration it looks the service records of the domain up and tries the servers they name,
 /// one after the other, until one answers; then the domain itself. It goes where a server refers to (see-other-host), a
-/// few times and never to weaker security. Where a port expects TLS from the first byte and the settings do not, or the
-/// other way round, the end says so.
+/// few times, never to weaker security, and from outside into no private network. Where a port expects TLS from the
+/// first byte and the settings do not, or the other way round, the end says so.
 class KirvXmppRoute : public KirvXmppLink {
     Q_OBJECT
 
@@ -33,6 +33,7 @@ public:
     void close() override;
     void abort() override;
     bool isReady() const override { return link && link->isReady(); }
+    QString securityText() const override { return link ? link->securityText() : QString(); }
     void sendPresence(const QXmppPresence &presence) override;
     void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
                      const QString &to) override;
@@ -65,6 +66,7 @@ private:
     QList<KirvXmppTarget> targets; ///< not tried yet
     KirvXmppTarget target; ///< the present one
     int references = 0; ///< that were followed
+    bool mayBeLocal = true; ///< nobody outside has led here
     int attempt = 0; ///< tells a timer or a probe whether it is still wanted
     bool isGreeted = false; ///< the present server has begun to speak
     bool hasArrived = false;

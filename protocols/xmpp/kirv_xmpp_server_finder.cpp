@@ -2,10 +2,12 @@
 #include "protocols/xmpp/kirv_xmpp_server_finder.h"
 
 #include <QDnsLookup>
+#include <QHostAddress>
 #include <QObject>
 #include <QPair>
 #include <QUrl>
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -80,4 +82,19 @@ QList<KirvXmppTarget> kirvXmppTargets(const QList<KirvXmppServiceRecord> &ordina
         }
     }
     return targets;
+}
+
+bool kirvXmppIsLocal(const QHostAddress &address)
+{
+    bool isOld = false;
+    const QHostAddress old(address.toIPv4Address(&isOld)); // also of one that is written as a new one
+    if (!isOld)
+        return address.isNull() || address.isLoopback() || address.isLinkLocal() || address.isSiteLocal()
+            || address.isUniqueLocalUnicast() || address == QHostAddress(QHostAddress::AnyIPv6);
+    const QPair<const char *, int> networks[] { { "0.0.0.0", 8 },     { "10.0.0.0", 8 },     { "100.64.0.0", 10 },
+                                                { "127.0.0.0", 8 },   { "169.254.0.0", 16 }, { "172.16.0.0", 12 },
+                                                { "192.168.0.0", 16 } };
+    return std::any_of(std::begin(networks), std::end(networks), [&old](const QPair<const char *, int> &network) {
+        return old.isInSubnet(QHostAddress(QLatin1String(network.first)), network.second);
+    });
 }

@@ -6,6 +6,7 @@
 #include <QString>
 #include <functional>
 
+class QHostAddress;
 class QObject;
 
 /// Where a server accepts connections. A value type.
@@ -45,5 +46,8 @@ QString kirvXmppServiceName(const QString &domain, bool isDirect);
 QList<KirvXmppTarget> kirvXmppTargets(const QList<KirvXmppServiceRecord> &ordinary,
                                       const QList<KirvXmppServiceRecord> &direct,
                                       const std::function<int(int largest)> &random);
+
+/// Whether \a address is one of this computer or of a private network: the rest of the world does not reach it.
+bool kirvXmppIsLocal(const QHostAddress &address);
 
 #endif

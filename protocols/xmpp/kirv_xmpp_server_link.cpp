@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 
-#include "protocols/xmpp/kirv_xmpp_features.h"
+#include "protocols/tls/kirv_system_certificates.h"
+#include "protocols/xmpp/kirv_xmpp_address.h"
+#include "protocols/xmpp/kirv_xmpp_errors.h"
+#include "protocols/xmpp/kirv_xmpp_server_finder.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
-#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QByteArrayList>
+#include <QHostAddress>
 #include <QPointer>
 #include <QSslSocket>
 #include <QUrl>
@@ -18,7 +21,6 @@
 #include <QXmppRosterManager.h>
 #include <QXmppVCardManager.h>
 #include <QXmppVersionManager.h>
-#include <algorithm>
 
 namespace {
 
@@ -28,61 +30,6 @@ const auto stanzaErrorSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-stanza
 const auto encryptionSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-tls");
 const auto authenticationSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-sasl");
 const auto registrationFeatureSpace = QStringLiteral("http://jabber.org/features/iq-register");
-
-struct ErrorDescription {
-    QString condition;
-    QString text;
-};
-
-/// What an error element says: its condition and, where it has one, a text for people.
-ErrorDescription describe(const QDomElement &error, const QString &space)
-{
-    ErrorDescription description;
-    for (QDomElement child = error.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        if (child.namespaceURI() != space)
-            continue;
-        if (child.localName() == QLatin1String("text"))
-            description.text = child.text();
-        else if (description.condition.isEmpty())
-            description.condition = child.localName();
-    }
-    return description;
-}
-
-/// The text of the server; without one a sentence for the usual conditions, or the bare condition.
-QString sentenceFor(const ErrorDescription &description)
-{
-    const QString &condition = description.condition;
-    if (!description.text.isEmpty())
-        return description.text;
-    if (condition == QLatin1String("conflict"))
-        return KirvXmppServerLink::tr("the name is already in use");
-    if (condition == QLatin1String("not-acceptable") || condition == QLatin1String("bad-request"))
-        return KirvXmppServerLink::tr("the server does not accept what was sent");
-    if (condition == QLatin1String("not-allowed") || condition == QLatin1String("forbidden"))
-        return KirvXmppServerLink::tr("the server does not allow it");
-    if (condition == QLatin1String("resource-constraint") || condition == QLatin1String("policy-violation"))
-        return KirvXmppServerLink::tr("the server does not allow it now");
-    return condition;
-}
-
-/// Some servers use the condition also for what an administrator does to a session, and give the reason as the text.
-bool isConflict(const QString &text)
-{
-    const QStringList words { QStringLiteral("replaced"), QStringLiteral("new connection"), QStringLiteral("resource"),
-                              QStringLiteral("conflict") };
-    return text.isEmpty() || std::any_of(words.begin(), words.end(), [&text](const QString &word) {
-               return text.contains(word, Qt::CaseInsensitive);
-           });
-}
-
-KirvFailure failureOf(const ErrorDescription &description)
-{
-    const QString &condition = description.condition;
-    if (condition == QLatin1String("feature-not-implemented") || condition == QLatin1String("service-unavailable"))
-        return KirvFailure(KirvFailure::NotSupported, description.text);
-    return KirvFailure(KirvFailure::RequestFailed, sentenceFor(description));
-}
 
 template <typename Extension>
 void removeExtension(QXmppClient &client)
@@ -112,6 +59,7 @@ KirvXmppServerLink::KirvXmppServerLink(Purpose purpose, KirvClock &clock, int re
     , purpose(purpose)
     , clock(clock)
     , replyTimeout(replyTimeout)
+    , loginGuard(*client.findChild<QXmppOutgoingClient *>())
 {
     // They answer everybody, with the name of the system among others, and fetch what is not used.
     removeExtension<QXmppDiscoveryManager>(client);
@@ -145,6 +93,7 @@ void KirvXmppServerLink::guardStream()
     reader = new KirvXmppStreamReader(
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
+    connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::lookAtServer);
     connect(reader, &KirvXmppStreamReader::stanzaDropped, this, &KirvXmppServerLink::receiveDropped);
 }
 
@@ -186,13 +135,14 @@ void KirvXmppServerLink::receiveDropped(const KirvXmppStanzaStart &start)
 
 void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXmppPresence &presence)
 {
+    accountAddress = configuration.jidBare();
     requests.setAccount(configuration.jid());
     isEncrypted = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
     if (isEncrypted)
         startWithEncryption();
     if (configuration.caCertificates().isEmpty()) // the library looks up those of the system that it needs
         return client.connectToServer(configuration, presence);
-    KirvXmppSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
+    KirvSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
         if (hasEnded || isClosing)
             return;
         QXmppConfiguration complete = configuration;
@@ -206,6 +156,17 @@ void KirvXmppServerLink::startWithEncryption()
 {
     if (auto *stream = client.findChild<QXmppOutgoingClient *>())
         QObject::disconnect(stream->socket(), &QAbstractSocket::connected, stream, nullptr);
+}
+
+/// What the library has written by now is not on its way yet.
+void KirvXmppServerLink::lookAtServer()
+{
+    QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
+    isLocal = kirvXmppIsLocal(socket->peerAddress());
+    if (!isLocal || !refusesLocal)
+        return;
+    fail(KirvFailure(KirvFailure::ServerShutDown, tr("it refers to a server of a private network")));
+    socket->abort();
 }
 
 void KirvXmppServerLink::close()
@@ -227,6 +188,16 @@ void KirvXmppServerLink::abort()
 bool KirvXmppServerLink::isReady() const
 {
     return hasArrived && !isClosing && !hasEnded && !reason.isFailure();
+}
+
+QString KirvXmppServerLink::securityText() const
+{
+    if (!isReady() || loginGuard.mechanism().isEmpty())
+        return QString();
+    const QString encryption = reader->encryptionName();
+    //: %1 is the encryption, as "TLSv1.3", %2 how the user has proved who he is, as "SASL SCRAM-SHA-256"
+    return tr("%1, %2").arg(encryption.isEmpty() ? tr("not encrypted") : encryption,
+                            QLatin1String("SASL ") + loginGuard.mechanism());
 }
 
 void KirvXmppServerLink::sendPresence(const QXmppPresence &presence)
@@ -267,8 +238,8 @@ bool KirvXmppServerLink::receive(const QDomElement &stanza)
         return receiveStreamError(stanza);
     if (space == encryptionSpace && name == QLatin1String("proceed"))
         isEncrypted = true;
-    else if (space == authenticationSpace && name == QLatin1String("failure"))
-        receiveRefusal(stanza);
+    else if (space == authenticationSpace)
+        return receiveLoginStep(stanza);
     else if (name == QLatin1String("iq"))
         return receiveReply(stanza);
     return false;
@@ -284,7 +255,11 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
     hasMechanisms = !kirvXmppChild(features, authenticationSpace, QStringLiteral("mechanisms")).isNull();
     QDomElement used = features; // the same elements, which the library reads afterwards
     const bool sendsPasswords = reader->isEncrypted() || security == QXmppConfiguration::TLSDisabled;
-    const bool canLogIn = kirvXmppReduceFeatures(used, sendsPasswords);
+    const bool canLogIn = loginGuard.receiveFeatures(used, sendsPasswords);
+    if (loginGuard.isEndless()) {
+        fail(KirvFailure(KirvFailure::ConnectionLost, tr("The server begins the log-in again and again.")));
+        return true;
+    }
 
     if (!isEncrypted && mayEncrypt)
         return false;
@@ -296,8 +271,8 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
         fail(KirvFailure(KirvFailure::BadSettings, tr("the server requires encryption")));
         return true;
     }
-    if (purpose == LogIn && !canLogIn && !sendsPasswords)
-        fail(KirvFailure::EncryptionNotOffered); // and the password is not to be read along
+    if (purpose == LogIn && !canLogIn) // without encryption the password is not to be read along
+        fail(sendsPasswords ? KirvFailure::AuthenticationNotOffered : KirvFailure::EncryptionNotOffered);
     if (purpose == LogIn)
         return !canLogIn;
     hasArrived = true;
@@ -309,12 +284,12 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
 /// is over.
 bool KirvXmppServerLink::receiveStreamError(const QDomElement &error)
 {
-    const ErrorDescription description = describe(error, streamErrorSpace);
+    const KirvXmppError description(error, streamErrorSpace);
     const QString &condition = description.condition;
     Q_EMIT greeted();
     if (condition == QLatin1String("see-other-host"))
         return receiveReference(kirvXmppChild(error, streamErrorSpace, condition).text());
-    if (condition == QLatin1String("conflict") && isConflict(description.text))
+    if (description.isConflict())
         fail(KirvFailure(KirvFailure::LoggedInElsewhere, description.text));
     else if (condition == QLatin1String("host-unknown"))
         fail(KirvFailure(KirvFailure::BadSettings, tr("the server does not serve the domain of the login")));
@@ -340,19 +315,15 @@ bool KirvXmppServerLink::receiveReference(const QString &address)
     return true;
 }
 
-void KirvXmppServerLink::receiveRefusal(const QDomElement &failure)
+/// True when the library is not to see it.
+bool KirvXmppServerLink::receiveLoginStep(const QDomElement &step)
 {
-    const ErrorDescription description = describe(failure, authenticationSpace);
-    if (description.condition == QLatin1String("account-disabled"))
-        fail(KirvFailure(KirvFailure::AccessDenied, description.text));
-    else if (description.condition == QLatin1String("temporary-auth-failure"))
-        fail(KirvFailure(KirvFailure::Other, sentenceFor(description)));
-    else if (description.condition == QLatin1String("encryption-required"))
-        fail(KirvFailure(KirvFailure::BadSettings, tr("the server requires encryption")));
-    else if (description.condition.contains(QLatin1String("mechanism")))
-        fail(KirvFailure::AuthenticationNotOffered);
-    else
-        fail(KirvFailure::WrongPassword);
+    const KirvFailure failure = step.localName() == QLatin1String("failure")
+        ? KirvXmppError(step, authenticationSpace).loginFailure()
+        : loginGuard.receiveStep(step);
+    if (failure.isFailure())
+        fail(failure);
+    return failure.isFailure() && step.localName() != QLatin1String("failure");
 }
 
 bool KirvXmppServerLink::receiveReply(const QDomElement &iq)
@@ -369,9 +340,9 @@ bool KirvXmppServerLink::receiveReply(const QDomElement &iq)
     received.iq = iq;
     for (QDomElement child = iq.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         if (child.localName() == QLatin1String("error")) {
-            const ErrorDescription description = describe(child, stanzaErrorSpace);
+            const KirvXmppError description(child, stanzaErrorSpace);
             received.condition = description.condition;
-            received.failure = failureOf(description);
+            received.failure = description.requestFailure();
         } else if (received.payload.isNull()) {
             received.payload = child;
         }
@@ -386,6 +357,12 @@ void KirvXmppServerLink::receiveConnected()
 {
     if (!client.isAuthenticated()) {
         fail(KirvFailure::AuthenticationNotOffered);
+        return;
+    }
+    const QString bound = client.configuration().jidBare();
+    if (kirvXmppNormalizedAddress(bound) != kirvXmppNormalizedAddress(accountAddress)) {
+        //: %1 is the address of an account
+        fail(KirvFailure(KirvFailure::ServiceUnavailable, tr("It has logged in the account \"%1\".").arg(bound)));
         return;
     }
     requests.setAccount(client.configuration().jid()); // as the server has bound it
@@ -473,6 +450,8 @@ KirvFailure KirvXmppServerLink::socketFailure()
 /// The stream has ended without an error: the library does that when it finds no way to go on.
 KirvFailure KirvXmppServerLink::silentEnd() const
 {
+    if (purpose == LogIn && loginGuard.isUnderWay())
+        return KirvFailure(KirvFailure::ServiceUnavailable, tr("Its part of the log-in is wrong."));
     return purpose == LogIn && hasMechanisms && !hasArrived ? KirvFailure::AuthenticationNotOffered
                                                             : KirvFailure::ConnectionLost;
 }

@@ -3,6 +3,7 @@
 #define KIRV_XMPP_SERVER_LINK_H
 
 #include "protocols/xmpp/kirv_xmpp_link.h"
+#include "protocols/xmpp/kirv_xmpp_login_guard.h"
 #include "protocols/xmpp/kirv_xmpp_pending_requests.h"
 #include "protocols/xmpp/kirv_xmpp_stream_guard.h"
 
@@ -24,10 +25,13 @@ public:
     /// A KirvXmppLinkFactory.
     static KirvXmppLink *create(Purpose purpose, KirvClock &clock, int replyTimeout);
 
+    void refuseLocalServers() override { refusesLocal = true; }
+    bool isServerLocal() const override { return isLocal; }
     void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) override;
     void close() override;
     void abort() override;
     bool isReady() const override;
+    QString securityText() const override;
     void sendPresence(const QXmppPresence &presence) override;
     void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
                      const QString &to) override;
@@ -40,11 +44,12 @@ private:
     void receiveViolation(KirvXmppStreamGuard::Violation violation);
     void receiveDropped(const KirvXmppStanzaStart &start);
     void startWithEncryption();
+    void lookAtServer();
     bool receive(const QDomElement &stanza);
     bool receiveFeatures(const QDomElement &features);
     bool receiveStreamError(const QDomElement &error);
     bool receiveReference(const QString &address);
-    void receiveRefusal(const QDomElement &failure);
+    bool receiveLoginStep(const QDomElement &step);
     bool receiveReply(const QDomElement &iq);
     void receiveConnected();
     void receiveError(QXmppClient::Error error);
@@ -63,10 +68,14 @@ private:
     const int replyTimeout;
     QXmppClient client;
     KirvXmppStreamReader *reader = nullptr; ///< owned by this
+    KirvXmppLoginGuard loginGuard;
     KirvXmppPendingRequests requests;
+    QString accountAddress; ///< without a resource
     KirvFailure reason; ///< the first one that was reported
     QString referredHost; ///< the server that this one refers to; empty: none
     int referredPort = 0;
+    bool refusesLocal = false;
+    bool isLocal = false;
     bool isEncrypted = false;
     bool isClosing = false;
     bool hasArrived = false; ///< loggedIn() or readyToRegister() was emitted

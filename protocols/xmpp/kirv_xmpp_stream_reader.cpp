@@ -5,6 +5,7 @@
 
 #include <QDomDocument>
 #include <QPointer>
+#include <QSslCipher>
 #include <QSslSocket>
 #include <QXmlStreamReader>
 #include <QXmppOutgoingClient.h>
@@ -57,6 +58,11 @@ KirvXmppStreamReader::KirvXmppStreamReader(QXmppOutgoingClient &stream, const Ki
 bool KirvXmppStreamReader::isEncrypted() const
 {
     return socket->isEncrypted();
+}
+
+QString KirvXmppStreamReader::encryptionName() const
+{
+    return socket->isEncrypted() ? socket->sessionCipher().protocolString() : QString();
 }
 
 void KirvXmppStreamReader::stop()

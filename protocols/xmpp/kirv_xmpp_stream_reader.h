@@ -31,6 +31,8 @@ public:
 
     /// Whether what is sent now is encrypted.
     bool isEncrypted() const;
+    /// The version of encryption, as "TLSv1.3"; empty while there is none.
+    QString encryptionName() const;
     /// Reads and emits nothing any more.
     void stop();
 

@@ -44,6 +44,23 @@ QList<Place> places()
     };
 }
 
+/// What of \a text can be sent, as it is read back: line ends are line feeds, and nothing but spaces is no text.
+QString storable(const QString &text)
+{
+    QString sendable = kirvXmppSendable(text);
+    sendable.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    return sendable.trimmed().isEmpty() ? QString() : sendable;
+}
+
+/// Elements are looked for by their names: the prefixes of other clients are taken away.
+void removePrefixes(QDomElement element)
+{
+    if (element.namespaceURI() == vCardSpace)
+        element.setPrefix(QString());
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        removePrefixes(child);
+}
+
 QByteArray encode(const QImage &image, const char *format)
 {
     QByteArray data;
@@ -92,6 +109,7 @@ KirvXmppVCard::KirvXmppVCard(const QDomElement &element)
         return;
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
         root.appendChild(content.importNode(child, true));
+    removePrefixes(root);
 }
 
 QList<KirvField> KirvXmppVCard::blankFields()
@@ -119,7 +137,7 @@ void KirvXmppVCard::setFields(const QList<KirvField> &fields)
     for (const Place &place : places()) {
         for (const KirvField &field : fields) {
             if (field.getId() == place.field.getId())
-                setText(place.path, kirvXmppSendable(field.getText()));
+                setText(place.path, storable(field.getText()));
         }
     }
 }

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void statesReachNoSlotOfThePage();
     void accessibilityTreeHoldsStateAndReason();
     void stripTellsTheWholeReason();
+    void stripTellsTheProtection();
     void stripOffersWhatIsPossible();
     void stripAsksForThePassword();
     void stripReconnects();
@@ -298,6 +299,21 @@ void tst_PageTellsStates::stripTellsTheWholeReason()
     windows->account(ann)->reconnect();
     KIRV_TRY(part<QLabel>("Accounts_StripTitle")->text().startsWith(QLatin1String("Connected")));
     QVERIFY2(reason().startsWith(QLatin1String("The presence is Available.")), qPrintable(reason()));
+}
+
+void tst_PageTellsStates::stripTellsTheProtection()
+{
+    bringTo(KirvAccountStatus::Connected);
+    windows->select(ann);
+    KIRV_TRY(reason().contains(QLatin1String("Since ")));
+    QVERIFY2(!reason().contains(QLatin1String("Protection")), qPrintable(reason()));
+    server().logIn = KirvFakeServer::Holds;
+    windows->account(ann)->reconnect();
+    KIRV_TRY_COMPARE(status().kind(), KirvAccountStatus::Connecting);
+    connection()->security = QStringLiteral("TLSv1.3, SASL EXTERNAL");
+    connection()->serverAccepts();
+    KIRV_TRY_COMPARE(status().kind(), KirvAccountStatus::Connected);
+    KIRV_TRY(reason().endsWith(QLatin1String("Protection: TLSv1.3, SASL EXTERNAL.")));
 }
 
 void tst_PageTellsStates::stripOffersWhatIsPossible()

@@ -23,6 +23,8 @@ public:
     {
     }
 
+    void refuseLocalServers() override { refusesLocal = true; }
+    bool isServerLocal() const override { return isLocal; }
     void open(const QXmppConfiguration &with, const QXmppPresence &) override
     {
         isOpened = true;
@@ -84,6 +86,8 @@ public:
     QList<QXmppPresence> presences;
     bool isOpened = false;
     bool isArrived = false;
+    bool isLocal = false;
+    bool refusesLocal = false;
 
 private:
     QList<QDomDocument> documents; ///< elements do not keep theirs

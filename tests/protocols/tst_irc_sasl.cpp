@@ -22,6 +22,7 @@ private Q_SLOTS:
     void refusalsFail();
     void refusalBeforeThePasswordIsNoJudgement_data();
     void refusalBeforeThePasswordIsNoJudgement();
+    void alreadyLoggedInNeedsNoPassword();
     void nothingIsSentTwiceOrUnrequested();
     void offersAreRead_data();
     void offersAreRead();
@@ -128,12 +129,18 @@ void TestIrcSasl::refusalsFail_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<int>("kind");
-    QTest::newRow("locked nick") << QByteArray(":irc 902 alice :locked") << int(KirvFailure::WrongPassword);
-    QTest::newRow("wrong password") << QByteArray(":irc 904 alice :failed") << int(KirvFailure::WrongPassword);
-    QTest::newRow("too long") << QByteArray(":irc 905 alice :too long") << int(KirvFailure::WrongPassword);
-    QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted") << int(KirvFailure::WrongPassword);
+    QTest::addColumn<QString>("said");
+    QTest::addColumn<bool>("isWorthRetrying");
+    QTest::newRow("locked nick") << QByteArray(":irc 902 alice :You must use another nick")
+                                 << int(KirvFailure::AccessDenied) << "another nick" << false;
+    QTest::newRow("wrong password") << QByteArray(":irc 904 alice :failed") << int(KirvFailure::WrongPassword)
+                                    << "password" << false;
+    QTest::newRow("too long") << QByteArray(":irc 905 alice :SASL message too long") << int(KirvFailure::BadSettings)
+                              << "longer" << false;
+    QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted") << int(KirvFailure::ServiceUnavailable) << "SASL"
+                             << true;
     QTest::newRow("other mechanisms") << QByteArray(":irc 908 alice EXTERNAL :are available")
-                                      << int(KirvFailure::AuthenticationNotOffered);
+                                      << int(KirvFailure::AuthenticationNotOffered) << "no way" << false;
 }
 
 void TestIrcSasl::refusalsFail()
@@ -145,6 +152,10 @@ void TestIrcSasl::refusalsFail()
     const QStringList sent = receive(line);
     QVERIFY2(!sent.contains("CAP END"), qPrintable(sent.join(" / ")));
     QTEST(int(failure()), "kind");
+    const auto refusal = failed->first().first().value<KirvFailure>();
+    QFETCH(QString, said);
+    QVERIFY2(refusal.text().contains(said), qPrintable(refusal.text()));
+    QTEST(refusal.isWorthRetrying(), "isWorthRetrying");
     QVERIFY(!sasl->isAccepted());
 }
 
@@ -152,8 +163,10 @@ void TestIrcSasl::refusalsFail()
 void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement_data()
 {
     QTest::addColumn<QByteArray>("line");
-    QTest::newRow("failed") << QByteArray(":irc 904 alice :failed");
-    QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted");
+    QTest::addColumn<int>("kind");
+    QTest::newRow("failed") << QByteArray(":irc 904 alice :failed") << int(KirvFailure::AuthenticationNotOffered);
+    QTest::newRow("too long") << QByteArray(":irc 905 alice :too long") << int(KirvFailure::AuthenticationNotOffered);
+    QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted") << int(KirvFailure::ServiceUnavailable);
 }
 
 void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement()
@@ -162,7 +175,19 @@ void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement()
     offerSasl();
     receive(":irc CAP * ACK :sasl");
     receive(line);
-    QCOMPARE(failure(), KirvFailure::AuthenticationNotOffered);
+    QTEST(int(failure()), "kind");
+}
+
+/// A server can know already who a user is.
+void TestIrcSasl::alreadyLoggedInNeedsNoPassword()
+{
+    QVERIFY(!receive(":irc 907 alice :already").contains("CAP END"));
+    offerSasl();
+    receive(":irc CAP * ACK :sasl");
+    const QStringList sent = receive(":irc 907 alice :You have already authenticated");
+    QVERIFY2(sent.contains("CAP END"), qPrintable(sent.join(" / ")));
+    QVERIFY(sasl->isAccepted());
+    QVERIFY(receive("AUTHENTICATE +").filter("AUTHENTICATE").isEmpty());
 }
 
 /// Whatever the server sends, in whatever order.

@@ -4,6 +4,7 @@
 #include "host/kirv_field_widget.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/kirv_field_texts.h"
+#include "tests/support/kirv_load_meter.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -18,6 +19,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QThreadPool>
+#include <QTimer>
 #include <memory>
 
 using Step = KirvServerRequest::Step;
@@ -28,6 +30,18 @@ QByteArray png(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::green);
+    QByteArray data;
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return data;
+}
+
+/// A file of few bytes with so many pixels.
+QByteArray blank(const QSize &size)
+{
+    QImage image(size, QImage::Format_Mono);
+    image.fill(0);
     QByteArray data;
     QBuffer buffer(&data);
     buffer.open(QIODevice::WriteOnly);
@@ -91,6 +105,8 @@ private Q_SLOTS:
     void picturesAreShown();
     void picturesAreBounded();
     void picturesAreReadOutsideTheGuiThread();
+    void hugePicturesBlockNothing_data();
+    void hugePicturesBlockNothing();
 
     void anOutcomeStays();
     void theRequestMayGoFirst();
@@ -477,6 +493,30 @@ void TestServerAssistant::picturesAreBounded()
     QVERIFY(child<QWidget>("Picture4") && !child<QWidget>("Picture5"));
     QTRY_VERIFY(child<QLabel>("Picture4"));
     QVERIFY(!child<QWidget>("Picture5"));
+}
+
+void TestServerAssistant::hugePicturesBlockNothing_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("picture of 16,000 x 16,000 pixels") << blank({ 16000, 16000 });
+    QTest::newRow("picture of 30,000 x 30,000 pixels") << blank({ 30000, 30000 });
+    QTest::newRow("picture of 8 MB") << png({ 60, 20 }) + QByteArray(8 << 20, 'x');
+    QTest::newRow("picture that ends early") << png({ 3000, 3000 }).left(3000);
+}
+
+/// Whatever a server sends as a picture is read beside the window, or refused before it is decoded.
+void TestServerAssistant::hugePicturesBlockNothing()
+{
+    QFETCH(QByteArray, data);
+    show(step());
+    Step shown = step();
+    shown.pictures = { { "Picture", data, QString() }, { "Other", png({ 60, 20 }), QString() } };
+    KirvLoadMeter meter;
+    QTimer::singleShot(0, request.get(), [&] { Q_EMIT request->stepReady(shown); });
+    QVERIFY(meter.runUntil([this] { return child<QLabel>("Picture2"); })); // the other one is read after it
+    meter.report(data.size());
+    if (KirvLoadMeter::measuresMemory)
+        QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
 void TestServerAssistant::picturesAreReadOutsideTheGuiThread()

@@ -39,8 +39,8 @@ class TestXmppFeatures : public QObject {
 
 private Q_SLOTS:
     void unusedFeaturesAreTakenOut();
-    void passwordsAreSentAsTheyAreOnlyWhereThatIsAllowed_data();
-    void passwordsAreSentAsTheyAreOnlyWhereThatIsAllowed();
+    void theBestAllowedWayIsLeft_data();
+    void theBestAllowedWayIsLeft();
 };
 
 void TestXmppFeatures::unusedFeaturesAreTakenOut()
@@ -53,22 +53,30 @@ void TestXmppFeatures::unusedFeaturesAreTakenOut()
                                               "<session xmlns='urn:ietf:params:xml:ns:xmpp-session'/>"
                                               "<register xmlns='http://jabber.org/features/iq-register'/>"));
     QDomElement features = document.documentElement();
-    QVERIFY(kirvXmppReduceFeatures(features, true));
+    QString mechanism;
+    QVERIFY(kirvXmppReduceFeatures(features, true, &mechanism));
     QStringList names;
     for (QDomElement child = features.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
         names << child.localName();
     QCOMPARE(names, QStringList({ "starttls", "bind", "session", "register" }));
 }
 
-void TestXmppFeatures::passwordsAreSentAsTheyAreOnlyWhereThatIsAllowed_data()
+void TestXmppFeatures::theBestAllowedWayIsLeft_data()
 {
     QTest::addColumn<QByteArrayList>("offered");
     QTest::addColumn<bool>("sendsPasswords");
     QTest::addColumn<QStringList>("left");
     QTest::addColumn<bool>("canLogIn");
     const QByteArrayList usual { "PLAIN", "SCRAM-SHA-1", "DIGEST-MD5" };
-    QTest::newRow("allowed") << usual << true << QStringList({ "PLAIN", "SCRAM-SHA-1", "DIGEST-MD5" }) << true;
-    QTest::newRow("not allowed") << usual << false << QStringList({ "SCRAM-SHA-1", "DIGEST-MD5" }) << true;
+    QTest::newRow("allowed") << usual << true << QStringList("SCRAM-SHA-1") << true;
+    QTest::newRow("not allowed") << usual << false << QStringList("SCRAM-SHA-1") << true;
+    QTest::newRow("the best is last") << QByteArrayList { "PLAIN", "DIGEST-MD5", "SCRAM-SHA-1", "SCRAM-SHA-256" }
+                                      << true << QStringList("SCRAM-SHA-256") << true;
+    QTest::newRow("the best is first") << QByteArrayList { "SCRAM-SHA-512", "SCRAM-SHA-256", "PLAIN" } << true
+                                       << QStringList("SCRAM-SHA-512") << true;
+    QTest::newRow("no password") << QByteArrayList { "ANONYMOUS", "EXTERNAL", "X-FACEBOOK-PLATFORM" } << true
+                                 << QStringList() << false;
+    QTest::newRow("twice") << QByteArrayList { "PLAIN", "PLAIN" } << true << QStringList("PLAIN") << true;
     QTest::newRow("nothing else") << QByteArrayList { "PLAIN" } << false << QStringList() << false;
     QTest::newRow("nothing else but allowed") << QByteArrayList { "PLAIN" } << true << QStringList("PLAIN") << true;
     QTest::newRow("written otherwise") << QByteArrayList { " plain\n" } << false << QStringList() << false;
@@ -77,13 +85,15 @@ void TestXmppFeatures::passwordsAreSentAsTheyAreOnlyWhereThatIsAllowed_data()
     QTest::newRow("nothing is offered") << QByteArrayList() << false << QStringList() << true;
 }
 
-void TestXmppFeatures::passwordsAreSentAsTheyAreOnlyWhereThatIsAllowed()
+void TestXmppFeatures::theBestAllowedWayIsLeft()
 {
     QFETCH(QByteArrayList, offered);
     QFETCH(bool, sendsPasswords);
     QDomDocument document = parsed(featuresOf(mechanisms(offered)));
     QDomElement features = document.documentElement();
-    QTEST(kirvXmppReduceFeatures(features, sendsPasswords), "canLogIn");
+    QString mechanism;
+    QTEST(kirvXmppReduceFeatures(features, sendsPasswords, &mechanism), "canLogIn");
+    QCOMPARE(mechanism, mechanismsOf(features).value(0));
     QTEST(mechanismsOf(features), "left");
 }
 

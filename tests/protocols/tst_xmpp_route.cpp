@@ -55,6 +55,9 @@ private Q_SLOTS:
     void referencesWithoutEndAreNotFollowed();
     void aReferenceNeverWeakensSecurity_data();
     void aReferenceNeverWeakensSecurity();
+    void privateNetworksAreReachedFromWithinOnly_data();
+    void privateNetworksAreReachedFromWithinOnly();
+    void aRefusedLocalServerIsNotLookedAt();
     void aReferenceOfASessionEndsIt();
 
     void theOtherStartIsNamed_data();
@@ -339,6 +342,50 @@ void TestXmppRoute::aReferenceNeverWeakensSecurity()
     // The reference after it was received in clear.
     Q_EMIT server.link()->redirected("third", 5222, false);
     QTEST(server.link()->configuration.streamSecurityMode(), "after");
+}
+
+void TestXmppRoute::privateNetworksAreReachedFromWithinOnly_data()
+{
+    QTest::addColumn<QString>("host");
+    QTest::addColumn<bool>("isLocal"); // the server that refers
+    QTest::addColumn<bool>("isFollowed");
+    for (const char *host :
+         { "127.0.0.1", "127.9.9.9", "0.0.0.0", "10.1.2.3", "172.31.0.1", "192.168.1.1", "169.254.169.254",
+           "100.64.0.1", "::1", "::", "fe80::1", "fd00::1", "::ffff:127.0.0.1" }) {
+        QTest::newRow(host) << host << false << false;
+        QTest::newRow(QByteArray("from within: ") + host) << host << true << true;
+    }
+    for (const char *host : { "192.0.2.1", "172.32.0.1", "100.128.0.1", "2001:db8::1", "other.example" }) {
+        QTest::newRow(host) << host << false << true;
+        QTest::newRow(QByteArray("from within: ") + host) << host << true << true;
+    }
+}
+
+void TestXmppRoute::privateNetworksAreReachedFromWithinOnly()
+{
+    QFETCH(QString, host);
+    QFETCH(bool, isLocal);
+    QFETCH(bool, isFollowed);
+    open(QXmppConfiguration::TLSRequired, "one");
+    QVERIFY(!server.link()->refusesLocal); // it stands in the settings
+    server.link()->isLocal = isLocal;
+    Q_EMIT server.link()->redirected(host, 5222, true);
+    QCOMPARE(server.links, isFollowed ? 2 : 1);
+    QCOMPARE(ended->size(), isFollowed ? 0 : 1);
+    if (isFollowed)
+        QCOMPARE(server.link()->refusesLocal, !isLocal); // its name may have such an address
+    else
+        QVERIFY(ending().detail().contains("private network"));
+}
+
+/// To find out how its port starts would be to connect to it again.
+void TestXmppRoute::aRefusedLocalServerIsNotLookedAt()
+{
+    open(QXmppConfiguration::TLSRequired, "one");
+    Q_EMIT server.link()->redirected("other.example", 5222, true);
+    server.link()->end(KirvFailure(KirvFailure::ServerShutDown, "a private network"));
+    QCOMPARE(ending().detail(), QString("a private network"));
+    QVERIFY(probes.isEmpty());
 }
 
 void TestXmppRoute::aReferenceOfASessionEndsIt()

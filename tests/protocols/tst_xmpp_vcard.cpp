@@ -65,9 +65,11 @@ private Q_SLOTS:
     void anEntryWithoutTextsHasNoFields();
     void onlyTheGivenFieldsAreChanged();
     void whatHasNoFieldStays();
+    void prefixesOfNamespacesMakeNoDifference();
     void anEmptyTextRemovesItsElementAlone();
     void unknownFieldsAreIgnored();
     void whatCannotBeSentIsLeftOut();
+    void whatXmlWouldNotKeepIsNotStored();
     void clearingKeepsThePicture();
     void aPictureIsSetAndRemoved();
     void aPictureFileIsMadeSmall_data();
@@ -177,6 +179,18 @@ void TestXmppVCard::whatHasNoFieldStays()
     QVERIFY2(xml.contains("urn:extra") && xml.contains("odd") && xml.contains("kept"), xml.constData());
 }
 
+void TestXmppVCard::prefixesOfNamespacesMakeNoDifference()
+{
+    const QDomDocument entry = parsed("<v:vCard xmlns:v='vcard-temp'><v:FN>Ann</v:FN><v:ORG><v:ORGNAME>Post</v:ORGNAME>"
+                                      "</v:ORG><x:OTHER xmlns:x='urn:x'>1</x:OTHER></v:vCard>");
+    KirvXmppVCard read(entry.documentElement());
+    QCOMPARE(valueOf(read, "fullname"), QString("Ann"));
+    QCOMPARE(valueOf(read, "organisation"), QString("Post"));
+    read.setFields({ text("fullname", "Bea") });
+    QCOMPARE(root(read).childNodes().size(), 3);
+    QCOMPARE(root(read).lastChildElement().namespaceURI(), QString("urn:x"));
+}
+
 void TestXmppVCard::anEmptyTextRemovesItsElementAlone()
 {
     KirvXmppVCard changed = card(fullEntry);
@@ -204,6 +218,14 @@ void TestXmppVCard::whatCannotBeSentIsLeftOut()
     KirvXmppVCard made;
     made.setFields({ text("about", QString("a") + QChar(0x1) + "b\n" + QChar(0xd800) + QString::fromUtf8("c😀")) });
     QCOMPARE(valueOf(made, "about"), QString::fromUtf8("ab\nc😀"));
+}
+
+void TestXmppVCard::whatXmlWouldNotKeepIsNotStored()
+{
+    KirvXmppVCard made;
+    made.setFields({ text("about", "a\r\nb\rc"), text("town", " \t ") });
+    QCOMPARE(valueOf(made, "about"), QString("a\nb\nc"));
+    QCOMPARE(valueOf(made, "town"), QString());
 }
 
 void TestXmppVCard::clearingKeepsThePicture()

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTest>
 #include <QTimer>
+#include <ctime>
 #include <functional>
 
 /// Runs the event loop and measures what the program suffers meanwhile.
@@ -23,14 +24,19 @@ public:
     {
         const int patience = 60000;
         longestGap = 0;
+        mostWork = 0;
         forgetPeak();
         const qint64 before = processValue("VmRSS");
         QElapsedTimer sinceLast;
         QElapsedTimer sinceStart;
+        qint64 usedBefore = threadTime();
         QEventLoop loop;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
+            const qint64 used = threadTime();
             longestGap = qMax(longestGap, sinceLast.nsecsElapsed() / 1000);
+            mostWork = qMax(mostWork, used - usedBefore);
+            usedBefore = used;
             if (condition() || sinceStart.elapsed() > patience)
                 loop.quit();
             sinceLast.restart();
@@ -51,12 +57,21 @@ public:
 
     void report(qint64 sentBytes) const
     {
-        qInfo("%s: %.1f MB sent, longest gap %.1f ms, peak memory +%.1f MB",
+        qInfo("%s: %.1f MB sent, longest gap %.1f ms, most work in a gap %.1f ms, peak memory +%.1f MB",
               QTest::currentDataTag() ? QTest::currentDataTag() : QTest::currentTestFunction(),
-              double(sentBytes) / double(1 << 20), double(longestGap) / 1000, double(peak) / 1024);
+              double(sentBytes) / double(1 << 20), double(longestGap) / 1000, double(mostWork) / 1000,
+              double(peak) / 1024);
     }
 
 private:
+    /// What this thread has used of the processor, in microseconds.
+    static qint64 threadTime()
+    {
+        timespec used {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+        return qint64(used.tv_sec) * 1000000 + used.tv_nsec / 1000;
+    }
+
     /// A value of this process in kB, or -1.
     static qint64 processValue(const QByteArray &name)
     {
@@ -80,6 +95,7 @@ private:
     }
 
     qint64 longestGap = 0; ///< of the event loop, in microseconds
+    qint64 mostWork = 0; ///< of this thread in a gap, in microseconds; the rest it has waited for the processor
     qint64 peak = 0;
 };
 

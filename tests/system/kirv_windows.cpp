@@ -20,6 +20,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -210,6 +211,13 @@ QString KirvWindows::problem(const QString &login) const
 {
     const auto *model = client->connectionView()->findChild<KirvConnectionModel *>();
     return model->index(model->rowOf(account(login)), KirvConnectionModel::ErrorColumn).data().toString();
+}
+
+QString KirvWindows::reason(const QString &login) const
+{
+    select(login);
+    const auto *text = child<QTextEdit>(client->accountsPage(), "Accounts_StripReason");
+    return text ? text->toPlainText() : QString();
 }
 
 QString KirvWindows::title() const

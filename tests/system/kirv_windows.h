@@ -57,6 +57,8 @@ public:
     /// What the connection view says of the account.
     QString state(const QString &login) const;
     QString problem(const QString &login) const;
+    /// What the strip below the list says about the account, which is selected for it.
+    QString reason(const QString &login) const;
     QString title() const;
     /// What the bar above the pages says.
     QString messages() const;

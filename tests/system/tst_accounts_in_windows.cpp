@@ -97,6 +97,9 @@ void tst_accounts_in_windows::addedAccountIsLoggedInAndComesBackAfterARestart()
     QCOMPARE(windows->row(ann)->checkState(0), Qt::Checked);
     KIRV_TRY(isConnected(ann));
     KIRV_TRY(server.isOnline(QStringLiteral("ann")));
+    KIRV_TRY(windows->reason(ann).contains(QLatin1String("Protection: ")));
+    const QString protection = windows->reason(ann).section(QStringLiteral("Protection: "), 1);
+    QVERIFY2(protection.contains(QLatin1String(", SASL SCRAM-SHA-")), qPrintable(protection));
 
     windows->quit();
     KIRV_TRY(!server.isOnline(QStringLiteral("ann")));

@@ -64,6 +64,10 @@ private Q_SLOTS:
     void keyThatOthersCanReadIsTold();
     void protectionOfTheSessionIsKnown();
 
+    void trustedCertificateIsTrustedBesidesTheSystems_data();
+    void trustedCertificateIsTrustedBesidesTheSystems();
+    void logInThatIsLeftBeforeTheCertificatesAreThereDoesNotConnect();
+
 private:
     QString path(const QString &name) const { return folder.filePath(name); }
     void serve(KirvTlsIrcServer::Script script);
@@ -118,7 +122,8 @@ void TestIrcClientCertificate::logIn(const Values &values)
     Values all = values;
     all.insert("server", "127.0.0.1");
     all.insert("port", QString::number(server ? server->serverPort() : 1));
-    all.insert("certificate", path("server.pem"));
+    if (!all.contains("certificate"))
+        all.insert("certificate", path("server.pem"));
     KirvLogin login;
     login.id = QStringLiteral("alice");
     login.password = QStringLiteral("secret");
@@ -269,6 +274,50 @@ void TestIrcClientCertificate::protectionOfTheSessionIsKnown()
     logIn({ { "password_use", "sasl" } });
     QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
     QVERIFY(connection->securityText().endsWith("SASL PLAIN"));
+}
+
+void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data()
+{
+    QTest::addColumn<QString>("own");
+    QTest::addColumn<QString>("ofSystem");
+    QTest::addColumn<bool>("isTrusted");
+    QTest::newRow("by the account") << "server.pem"
+                                    << "rsa.pem" << true;
+    QTest::newRow("by the system") << "rsa.pem"
+                                   << "server.pem" << true;
+    QTest::newRow("by nobody") << "rsa.pem"
+                               << "ec.pem" << false;
+}
+
+void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
+{
+    QFETCH(QString, own);
+    QFETCH(QString, ofSystem);
+    QFETCH(bool, isTrusted);
+    KirvSystemCertificates system([&] { return QSslCertificate::fromPath(path(ofSystem)); });
+    connection = std::make_unique<KirvIrcConnection>(KirvClock::system(), nullptr, system);
+    serve([](const QByteArray &line) { return line.startsWith("USER ") ? ":server 001 alice :Welcome\r\n" : ""; });
+    logIn({ { "certificate", path(own) } });
+    QTRY_VERIFY_WITH_TIMEOUT(isOnline() || failure().isFailure(), patience);
+    QVERIFY2(isOnline() == isTrusted, qPrintable(failure().text()));
+    if (!isTrusted)
+        QCOMPARE(failure().kind(), KirvFailure::UntrustedCertificate);
+    connection.reset(); // it ends before the certificates do
+}
+
+void TestIrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesNotConnect()
+{
+    KirvSystemCertificates system([&] { return QSslCertificate::fromPath(path("server.pem")); });
+    connection = std::make_unique<KirvIrcConnection>(KirvClock::system(), nullptr, system);
+    serve([](const QByteArray &) { return ""; });
+    logIn({});
+    connection->drop();
+    bool areRead = false;
+    system.request(this, [&areRead](const QList<QSslCertificate> &) { areRead = true; });
+    QTRY_VERIFY_WITH_TIMEOUT(areRead, patience);
+    QCOMPARE(connection->state(), KirvConnection::Offline);
+    QVERIFY(!server->waitForNewConnection(0));
+    connection.reset();
 }
 
 QTEST_GUILESS_MAIN(TestIrcClientCertificate)

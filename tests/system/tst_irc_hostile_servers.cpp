@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
+#include "tests/support/fakes/kirv_fake_clock.h"
 #include "tests/support/kirv_load_meter.h"
 #include "tests/support/servers/kirv_hostile_irc_server.h"
 
@@ -38,24 +39,28 @@ class TestIrcHostileServers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void lineWithoutEndEndsTheConnection_data();
-    void lineWithoutEndEndsTheConnection();
+    void whatCannotGoOnEndsTheConnection_data();
+    void whatCannotGoOnEndsTheConnection();
     void floodIsDigested_data();
     void floodIsDigested();
+    void logInWithoutEndIsLeft_data();
+    void logInWithoutEndIsLeft();
     void serverThatDoesNotReadIsNotReadEither();
     void floodOverTlsIsDigested();
 
 private:
     /// Encrypted when a certificate is to be trusted.
-    static KirvLogin loginTo(quint16 port, const QString &certificate = QString());
+    static KirvLogin loginTo(quint16 port, const QString &certificate = QString(),
+                             const QString &passwordUse = QStringLiteral("none"));
 
     KirvLoadMeter meter;
 };
 
-KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificate)
+KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificate, const QString &passwordUse)
 {
     KirvLogin login;
     login.id = QStringLiteral("alice");
+    login.password = QStringLiteral("secret");
     login.settings = KirvIrcSettings::defaultFields();
     for (KirvField &field : login.settings) {
         if (field.getId() == QLatin1String("server"))
@@ -66,29 +71,46 @@ KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificat
             field.setText(QStringLiteral("none"));
         else if (field.getId() == QLatin1String("certificate"))
             field.setText(certificate);
+        else if (field.getId() == QLatin1String("password_use"))
+            field.setText(passwordUse);
     }
     return login;
 }
 
-void TestIrcHostileServers::lineWithoutEndEndsTheConnection_data()
+void TestIrcHostileServers::whatCannotGoOnEndsTheConnection_data()
 {
+    QTest::addColumn<QByteArray>("block");
     QTest::addColumn<bool>("beforeWelcome");
-    QTest::newRow("line without end") << false;
-    QTest::newRow("line without end before the welcome") << true;
+    QTest::addColumn<QString>("said");
+    const QByteArray endless(65536, 'x');
+    QTest::newRow("line without end") << endless << false << "line";
+    QTest::newRow("line without end before the welcome") << endless << true << "line";
+    QTest::newRow("goodbyes without end") << blockOf("ERROR :Closing Link: bye\r\n") << false << "Closing Link";
+    QTest::newRow("goodbyes without end before the welcome")
+        << blockOf("ERROR :Closing Link: bye\r\n") << true << "Closing Link";
+    QTest::newRow("bans without end") << blockOf(":server 465 alice :You are banned\r\n") + "ERROR :K-lined\r\n"
+                                      << false << "banned";
+    QTest::newRow("nicks that are in use without end")
+        << blockOf(":server 433 * alice :Nickname is already in use\r\n") << true << "alice";
+    QTest::newRow("refusals of SASL without end")
+        << blockOf(":server CAP * LS :sasl\r\n:server CAP * ACK :sasl\r\n:server 906 * :aborted\r\n") << true << "SASL";
 }
 
-void TestIrcHostileServers::lineWithoutEndEndsTheConnection()
+void TestIrcHostileServers::whatCannotGoOnEndsTheConnection()
 {
+    QFETCH(QByteArray, block);
     QFETCH(bool, beforeWelcome);
-    KirvHostileIrcServer server({ QByteArray(65536, 'x'), floodSize, beforeWelcome, true, false });
+    QFETCH(QString, said);
+    KirvHostileIrcServer server({ block, floodSize, beforeWelcome, true, false });
     KirvIrcConnection connection;
     QSignalSpy failures(&connection, &KirvConnection::failed);
-    connection.logIn(loginTo(server.port()), { QStringLiteral("available"), QString(), QString() });
+    connection.logIn(loginTo(server.port(), QString(), said == "SASL" ? "sasl" : "none"),
+                     { QStringLiteral("available"), QString(), QString() });
     QVERIFY(meter.runUntil([&] { return !failures.isEmpty() || server.sentBytes() >= floodSize; }));
     meter.report(server.sentBytes());
     QCOMPARE(failures.size(), 1);
     const auto failure = failures[0][0].value<KirvFailure>();
-    QVERIFY2(failure.detail().contains(QLatin1String("line")), qPrintable(failure.text()));
+    QVERIFY2(failure.detail().contains(said), qPrintable(failure.text()));
     QVERIFY(server.sentBytes() < 16 * megabyte);
     if (KirvLoadMeter::measuresMemory)
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
@@ -112,6 +134,10 @@ void TestIrcHostileServers::floodIsDigested_data()
     lines("1,000 lines of many words", ":server 001 alice" + QByteArray(" a").repeated(4000) + "\r\n", 1000);
     lines("100,000 changes of the nick", ":alice!user@host.example NICK alice\r\n", 100000);
     lines("100,000 capabilities", ":server CAP * LS * :multi-prefix sasl\r\n", 100000);
+    lines("1,000 lists of abilities", ":server 005 alice NICKLEN=9" + QByteArray(60000, '9') + " :are supported\r\n",
+          1000);
+    lines("100,000 welcomes with another nick", ":server 001 mallory :Welcome\r\n", 100000);
+    lines("100,000 bans of somebody else", ":server 474 alice #channel :Cannot join\r\n", 100000);
     lines("100,000 PING lines", "PING :are you there\r\n", 100000);
 }
 
@@ -127,6 +153,38 @@ void TestIrcHostileServers::floodIsDigested()
     meter.report(server.sentBytes());
     QCOMPARE(connection.state(), KirvConnection::Online);
     QVERIFY(failures.isEmpty());
+    if (KirvLoadMeter::measuresMemory)
+        QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
+}
+
+void TestIrcHostileServers::logInWithoutEndIsLeft_data()
+{
+    QTest::addColumn<QByteArray>("block");
+    QTest::newRow("capabilities without end") << blockOf(":server CAP * LS * :multi-prefix away-notify\r\n");
+    QTest::newRow("capabilities that come and go without end")
+        << blockOf(":server CAP * NEW :a=b\r\n:server CAP * DEL :a\r\n:server CAP * ACK :b\r\n");
+    QTest::newRow("pieces of SASL without end") << blockOf(
+        ":server CAP * LS :sasl\r\n:server CAP * ACK :sasl\r\nAUTHENTICATE " + QByteArray(400, 'A') + "\r\n");
+    QTest::newRow("requests for the password without end")
+        << blockOf(":server CAP * LS :sasl\r\n:server CAP * ACK :sasl\r\nAUTHENTICATE +\r\n");
+}
+
+/// It is left when its time is over, whatever the server sends until then.
+void TestIrcHostileServers::logInWithoutEndIsLeft()
+{
+    QFETCH(QByteArray, block);
+    KirvHostileIrcServer server({ block, floodSize / 4, true, true, false });
+    KirvFakeClock clock;
+    KirvIrcConnection connection(clock);
+    QSignalSpy failures(&connection, &KirvConnection::failed);
+    connection.logIn(loginTo(server.port(), QString(), "sasl"), { QStringLiteral("available"), QString(), QString() });
+    QVERIFY(meter.runUntil([&] { return server.isDigested(); }));
+    meter.report(server.sentBytes());
+    QCOMPARE(connection.state(), KirvConnection::Connecting);
+    QVERIFY(server.receivedLines() < 20); // a few bytes of a server must not cause many of ours
+    clock.advance(60000);
+    QCOMPARE(failures.size(), 1);
+    QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::TimedOut);
     if (KirvLoadMeter::measuresMemory)
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }

@@ -198,6 +198,9 @@ void tst_irc_in_windows::addedAccountIsLoggedIn()
     QCOMPARE(windows->row(alice)->checkState(0), Qt::Checked);
     KIRV_TRY(isConnected(alice));
     QCOMPARE(windows->messages(), QString());
+    KIRV_TRY(windows->reason(alice).contains(QLatin1String("Protection: ")));
+    const QString protection = windows->reason(alice).section(QStringLiteral("Protection: "), 1);
+    QVERIFY2(protection.startsWith(encrypted ? "TLSv1." : "not encrypted, "), qPrintable(protection));
     KirvObservingIrcClient bob;
     QVERIFY(bob.logIn(server, QStringLiteral("bob")));
     QVERIFY(bob.sees(alice));

@@ -118,6 +118,10 @@ void TestXmppHostileServers::strangersAreDigested_data()
     flood("100,000 presences", "<presence" + from + "><status>Gone to lunch</status></presence>", 100000);
     flood("100,000 requests for the version",
           "<iq type='get' id='1'" + from + "><query xmlns='jabber:iq:version'/></iq>", 100000);
+    flood("100,000 forged replies", "<iq type='result' id='1'" + from + "><vCard xmlns='vcard-temp'/></iq>", 100000);
+    flood("100,000 replies that nobody awaits", "<iq type='result' id='1'><vCard xmlns='vcard-temp'/></iq>", 100000);
+    flood("100,000 unknown requests of the server", "<iq type='set' id='1' from='localhost'><a xmlns='urn:x'/></iq>",
+          100000);
     flood("100,000 messages over TLS", "<message" + from + "><body>Hello there</body></message>", 100000, true);
     flood("spaces without end", QByteArray(65536, ' '), floodSize / 65536);
 }
@@ -172,6 +176,16 @@ void TestXmppHostileServers::streamThatCannotGoOnIsEnded_data()
     row("NUL", QByteArray("<message><body>\0</body></message>", 34), {}, Server::AfterLogIn, false, "XML");
     row("NUL outside of stanzas", QByteArray("\0", 1), {}, Server::AfterLogIn, false, "XML");
     row("DOCTYPE", "<!DOCTYPE a [<!ENTITY b 'c'>]>", {}, Server::AfterLogIn, false, "XML");
+    const QByteArray sasl = " xmlns='urn:ietf:params:xml:ns:xmpp-sasl'>";
+    const QByteArray offer =
+        "<stream:features><mechanisms" + sasl + "<mechanism>SCRAM-SHA-1</mechanism></mechanisms></stream:features>";
+    row("features again and again", {}, blockOf(offer), Server::BeforeLogIn, false, "again and again");
+    row("challenges without end", offer, blockOf("<challenge" + sasl + "cj14LHM9eCxpPTE=</challenge>"),
+        Server::BeforeLogIn, false, "more than a log-in needs");
+    row("success again and again", offer, blockOf("<success" + sasl + "</success>"), Server::BeforeLogIn, false,
+        "proved");
+    row("challenge of a megabyte", offer, "<challenge" + sasl + QByteArray(megabyte, 'x') + "</challenge>",
+        Server::BeforeLogIn, false, "more than a log-in needs");
     row("processing instruction", "<?a b?>", {}, Server::AfterLogIn, false, "XML");
     row("undeclared entity", "<message><body>&b;</body></message>", {}, Server::AfterLogIn, false, "XML");
 }

@@ -43,6 +43,8 @@ private Q_SLOTS:
     void strangersAreNotAnswered_data();
     void strangersAreNotAnswered();
     void invisibleAccountAnswersItsServer();
+    void requestsAreAnsweredAsTheSenderNeeds_data();
+    void requestsAreAnsweredAsTheSenderNeeds();
     void presenceTellsNothingOfTheProgram();
     void passwordIsSentInClearOnlyWhereThatIsChosen_data();
     void passwordIsSentInClearOnlyWhereThatIsChosen();
@@ -99,6 +101,51 @@ void TestXmppPrivacy::invisibleAccountAnswersItsServer()
     KirvXmppConnection connection;
     connection.logIn(loginTo("ann@localhost", server.port(), QString(), KirvXmppSettings::None), presence("invisible"));
     KIRV_TRY(server.isDigested());
+    QCOMPARE(connection.state(), KirvConnection::Online);
+}
+
+void TestXmppPrivacy::requestsAreAnsweredAsTheSenderNeeds_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("request");
+    QTest::addColumn<QByteArray>("answer"); // its type, and what it holds
+    const QByteArray ping = "<ping xmlns='urn:xmpp:ping'/>", version = "<query xmlns='jabber:iq:version'/>",
+                     unknown = "<query xmlns='urn:example:unknown'/>", push = "<query xmlns='jabber:iq:roster'/>", none;
+    const QByteArray refusal = "error feature-not-implemented";
+    const QByteArray server = " from='localhost'";
+    QTest::newRow("server: ping") << server << ping << QByteArray("result");
+    QTest::newRow("server: version") << server << version << refusal;
+    QTest::newRow("server: unknown") << server << unknown << refusal;
+    QTest::newRow("server: list of contacts") << server << push << refusal;
+    QTest::newRow("server without a name: unknown") << none << unknown << refusal;
+    for (const QByteArray &sender : { QByteArray("contact@localhost/x"), QByteArray("contact@elsewhere.example/x"),
+                                      QByteArray("ann@localhost/other"), QByteArray("elsewhere.example") }) {
+        QTest::newRow(sender + ": ping") << " from='" + sender + '\'' << ping << none;
+        QTest::newRow(sender + ": unknown") << " from='" + sender + '\'' << unknown << none;
+    }
+}
+
+/// The server receives an error for what is not known here. Others would learn from it that the account is on line.
+void TestXmppPrivacy::requestsAreAnsweredAsTheSenderNeeds()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, request);
+    QFETCH(QByteArray, answer);
+    KirvScriptedSessionServer server;
+    KirvXmppConnection connection;
+    connection.logIn(loginTo("ann@localhost", server.serverPort(), QString(), KirvXmppSettings::None),
+                     presence("available"));
+    KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
+    for (const QByteArray &type : { QByteArray("get"), QByteArray("set") })
+        server.say("<iq type='" + type + "' id='probe'" + from + " to='ann@localhost/Kirv'>" + request + "</iq>");
+    server.say("<iq type='get' id='last' from='localhost'><ping xmlns='urn:xmpp:ping'/></iq>");
+    KIRV_TRY(server.receivedInClear().contains("id=\"last\""));
+    const QByteArray received = server.receivedInClear();
+    const int reply = received.indexOf("id=\"probe\"");
+    QCOMPARE(reply >= 0, !answer.isEmpty());
+    const QByteArray stanza = received.mid(received.lastIndexOf("<iq", reply)).split('\n').value(0);
+    for (const QByteArray &part : answer.split(' '))
+        QVERIFY2(answer.isEmpty() || stanza.contains(part), stanza.constData());
     QCOMPARE(connection.state(), KirvConnection::Online);
 }
 

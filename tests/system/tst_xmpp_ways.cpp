@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_connection.h"
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
+#include "tests/support/kirv_load_meter.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_scripted_session_server.h"
 #include "tests/support/servers/kirv_scripted_xmpp_server.h"
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void aReferenceToNowhereIsReported_data();
     void aReferenceToNowhereIsReported();
     void serversThatReferToOneAnotherAreLeft();
+    void aLocalServerIsRefusedBeforeAnythingIsSent();
     void theServersWordsAreReported_data();
     void theServersWordsAreReported();
 
@@ -226,8 +228,31 @@ void TestXmppWays::serversThatReferToOneAnotherAreLeft()
     settings.server = "127.0.0.1";
     settings.port = referring.serverPort();
     logIn(settings);
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::ServiceUnavailable, kirvPatience);
+    KirvLoadMeter meter;
+    QVERIFY(meter.runUntil([this] { return failure().isFailure(); }));
+    meter.report(referring.received().size());
+    QCOMPARE(failure().kind(), KirvFailure::ServiceUnavailable);
     QCOMPARE(referring.connections(), 1 + KirvXmppRoute::mostReferences);
+}
+
+/// Whoever is there receives nothing of what a server outside wanted it to receive.
+void TestXmppWays::aLocalServerIsRefusedBeforeAnythingIsSent()
+{
+    KirvScriptedXmppServer server([](const QByteArray &) { return QByteArray(); });
+    KirvXmppServerLink link(KirvXmppLink::LogIn, KirvClock::system(), 1000);
+    link.refuseLocalServers();
+    QSignalSpy ended(&link, &KirvXmppLink::ended);
+    QXmppConfiguration configuration;
+    configuration.setJid("ann@localhost");
+    configuration.setHost("127.0.0.1");
+    configuration.setPort(server.serverPort());
+    link.open(configuration, QXmppPresence());
+    QTRY_COMPARE_WITH_TIMEOUT(ended.size(), 1, kirvPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(server.connections(), 1, kirvPatience);
+    const auto failure = ended[0][0].value<KirvFailure>();
+    QVERIFY2(failure.detail().contains("private network"), qPrintable(failure.text()));
+    QTRY_COMPARE_WITH_TIMEOUT(server.open(), 0, kirvPatience);
+    QCOMPARE(server.received(), QByteArray());
 }
 
 void TestXmppWays::theServersWordsAreReported_data()

@@ -84,8 +84,9 @@ bool answers(quint16 port)
 
 } // namespace
 
-KirvLocalServer::KirvLocalServer()
+KirvLocalServer::KirvLocalServer(quint16 port)
     : process(new ServerProcess)
+    , serverPort(port)
 {
     QObject::connect(process.get(), &QProcess::readyRead, process.get(), [this] { collected += process->readAll(); });
 }

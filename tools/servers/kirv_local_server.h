@@ -36,7 +36,8 @@ public:
     static quint16 findFreePort();
 
 protected:
-    KirvLocalServer();
+    /// At \a port; 0: at a free one that is chosen.
+    explicit KirvLocalServer(quint16 port = 0);
     /// Writes what the program needs into folder(); called by every start(). False with fail().
     virtual bool writeConfiguration() = 0;
     /// The program (looked for in PATH and the sbin folders) and its arguments.

@@ -6,10 +6,11 @@
 
 #include <QStringList>
 
-/// A private XMPP server (Prosody) for the domain "localhost".
+/// A private XMPP server (Prosody) for one domain.
 class KirvProsodyServer : public KirvLocalServer {
 public:
     struct Options {
+        QString domain = QStringLiteral("localhost");
         bool offersEncryption = true; ///< with a certificate of its own making, which nobody trusts yet
         bool requiresEncryption = true; ///< only together with offersEncryption
         bool encryptsAtOnce = false; ///< TLS from the first byte; only together with offersEncryption
@@ -21,7 +22,7 @@ public:
     KirvProsodyServer();
     explicit KirvProsodyServer(const Options &options);
 
-    QString domain() const { return QStringLiteral("localhost"); }
+    QString domain() const { return options.domain; }
     /// The server's certificate as a PEM file; there once the server was started, when it offers encryption.
     QString certificatePath() const;
 

@@ -45,7 +45,10 @@ public:
     using KirvConnection::logoutFinished;
     using KirvConnection::requestFailed;
 
+    QString securityText() const override { return security; }
+
     const std::shared_ptr<KirvFakeServer> server;
+    QString security;
     /// Run in place of the server's reply where they are set.
     std::function<void()> onLogIn;
     std::function<void()> onLogOut;

@@ -19,11 +19,15 @@ public:
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket *socket = nextPendingConnection();
             ++connectionCount;
+            ++openCount;
+            connect(socket, &QTcpSocket::disconnected, this, [this] { --openCount; });
             connect(socket, &QTcpSocket::readyRead, this, [this, socket] { answer(socket); });
         });
     }
 
     int connections() const { return connectionCount; }
+    /// How many of them have not ended.
+    int open() const { return openCount; }
     QByteArray received() const { return everything; }
     /// Breaks all connections.
     void hangUp()
@@ -63,6 +67,7 @@ private:
     Script script;
     QByteArray everything;
     int connectionCount = 0;
+    int openCount = 0;
 };
 
 #endif

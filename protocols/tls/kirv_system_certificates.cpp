@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "protocols/xmpp/kirv_xmpp_system_certificates.h"
+#include "protocols/tls/kirv_system_certificates.h"
 
 #include <QCoreApplication>
 #include <QSslConfiguration>
@@ -7,31 +7,31 @@
 #include <QThreadPool>
 #include <utility>
 
-KirvXmppSystemCertificates::KirvXmppSystemCertificates(const Reader &read, int freshFor, QObject *parent)
+KirvSystemCertificates::KirvSystemCertificates(const Reader &read, int freshFor, QObject *parent)
     : QObject(parent)
     , read(read)
     , freshness(freshFor)
 {
 }
 
-KirvXmppSystemCertificates::~KirvXmppSystemCertificates()
+KirvSystemCertificates::~KirvSystemCertificates()
 {
     if (thread)
         thread->wait();
     delete thread;
 }
 
-KirvXmppSystemCertificates &KirvXmppSystemCertificates::instance()
+KirvSystemCertificates &KirvSystemCertificates::instance()
 {
-    static QPointer<KirvXmppSystemCertificates> shared;
+    static QPointer<KirvSystemCertificates> shared;
     if (!shared) {
-        shared = new KirvXmppSystemCertificates(&QSslConfiguration::systemCaCertificates, freshFor,
-                                                QCoreApplication::instance());
+        shared = new KirvSystemCertificates(&QSslConfiguration::systemCaCertificates, freshFor,
+                                            QCoreApplication::instance());
     }
     return *shared;
 }
 
-void KirvXmppSystemCertificates::request(QObject *context, const Receiver &receiver)
+void KirvSystemCertificates::request(QObject *context, const Receiver &receiver)
 {
     if (isFresh()) {
         receiver(certificates);
@@ -41,21 +41,21 @@ void KirvXmppSystemCertificates::request(QObject *context, const Receiver &recei
     startReading();
 }
 
-void KirvXmppSystemCertificates::prepareEncryption()
+void KirvSystemCertificates::prepareEncryption()
 {
     QThreadPool::globalInstance()->start([] { QSslConfiguration::defaultConfiguration(); });
 }
 
-void KirvXmppSystemCertificates::startReading()
+void KirvSystemCertificates::startReading()
 {
     if (thread)
         return;
     thread = QThread::create([this] { result = read(); });
-    connect(thread, &QThread::finished, this, &KirvXmppSystemCertificates::finishReading);
+    connect(thread, &QThread::finished, this, &KirvSystemCertificates::finishReading);
     thread->start();
 }
 
-void KirvXmppSystemCertificates::finishReading()
+void KirvSystemCertificates::finishReading()
 {
     thread->wait();
     delete std::exchange(thread, nullptr);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_XMPP_SYSTEM_CERTIFICATES_H
-#define KIRV_XMPP_SYSTEM_CERTIFICATES_H
+#ifndef KIRV_SYSTEM_CERTIFICATES_H
+#define KIRV_SYSTEM_CERTIFICATES_H
 
 #include <QElapsedTimer>
 #include <QList>
@@ -11,13 +11,13 @@
 
 class QThread;
 
-/// The certificates that the system trusts, as one list that all connections share.
+/// The certificates that the system trusts, as one list that all connections of a protocol share.
 ///
 /// They are needed as a list only where a connection trusts others besides: without a list of its own, a connection
 /// looks up the one that it needs in the folder of the system, and no list takes any memory. Reading them takes long
 /// and is done in a thread, when they are needed first and again when what was read is not fresh any more. GUI thread
 /// only.
-class KirvXmppSystemCertificates : public QObject {
+class KirvSystemCertificates : public QObject {
     Q_OBJECT
 
 public:
@@ -27,11 +27,11 @@ public:
     static constexpr int freshFor = 600000; ///< milliseconds
 
     /// \a read gives the certificates; it is called in another thread, at most once at a time.
-    explicit KirvXmppSystemCertificates(const Reader &read, int freshFor = KirvXmppSystemCertificates::freshFor,
-                                        QObject *parent = nullptr);
-    ~KirvXmppSystemCertificates() override;
-    /// Those of this system, for all connections of the process.
-    static KirvXmppSystemCertificates &instance();
+    explicit KirvSystemCertificates(const Reader &read, int freshFor = KirvSystemCertificates::freshFor,
+                                    QObject *parent = nullptr);
+    ~KirvSystemCertificates() override;
+    /// Those of this system, for all connections of a plug-in.
+    static KirvSystemCertificates &instance();
 
     /// Calls \a receiver with the certificates: at once when they are there, otherwise from the event loop when they
     /// were read, unless \a context has been destroyed by then.

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_login_guard.h"
+
+#include "protocols/xmpp/kirv_xmpp_features.h"
+#include "protocols/xmpp/kirv_xmpp_xml.h"
+
+#include <QDomDocument>
+#include <QSslSocket>
+#include <QXmppOutgoingClient.h>
+
+namespace {
+
+const auto authenticationSpace = QStringLiteral("urn:ietf:params:xml:ns:xmpp-sasl");
+
+/// What the library keeps for classes that derive from a stream.
+class Stream : public QXmppOutgoingClient {
+public:
+    static void receiveStanza(QXmppOutgoingClient &stream, const QDomElement &element)
+    {
+        (stream.*(&Stream::handleStanza))(element);
+    }
+};
+
+/// What Qt keeps for classes that derive from a socket.
+class Socket : public QAbstractSocket {
+public:
+    static void setState(QAbstractSocket &socket, SocketState state) { (socket.*(&Socket::setSocketState))(state); }
+};
+
+/// The value of the attribute \a name in a message of SCRAM ("r=…,s=…,i=…").
+QByteArray attributeOf(const QByteArray &message, char name)
+{
+    const QList<QByteArray> attributes = message.split(',');
+    for (const QByteArray &attribute : attributes) {
+        if (attribute.startsWith(QByteArray(1, name) + '='))
+            return attribute.mid(2);
+    }
+    return QByteArray();
+}
+
+} // namespace
+
+KirvXmppLoginGuard::KirvXmppLoginGuard(QXmppOutgoingClient &stream)
+    : stream(stream)
+{
+}
+
+bool KirvXmppLoginGuard::receiveFeatures(QDomElement &features, bool sendsPasswords)
+{
+    ++featureCount;
+    QString mechanism;
+    const bool canLogIn = kirvXmppReduceFeatures(features, sendsPasswords, &mechanism);
+    if (!isDone && !isEndless()) {
+        chosen = mechanism;
+        return canLogIn;
+    }
+    features.removeChild(kirvXmppChild(features, authenticationSpace, QStringLiteral("mechanisms")));
+    return true;
+}
+
+KirvFailure KirvXmppLoginGuard::receiveStep(const QDomElement &step)
+{
+    if (step.localName() == QLatin1String("challenge"))
+        return receiveChallenge(step.text());
+    return step.localName() == QLatin1String("success") ? receiveSuccess(step) : KirvFailure();
+}
+
+KirvFailure KirvXmppLoginGuard::receiveChallenge(const QString &text)
+{
+    if (isChecking)
+        return KirvFailure();
+    if (++challengeCount > mostChallenges || text.size() > longestChallenge)
+        return KirvFailure(KirvFailure::ServiceUnavailable, tr("It asks for more than a log-in needs."));
+    if (!isMutual())
+        return KirvFailure();
+    const QByteArray message = QByteArray::fromBase64(text.toLatin1());
+    isProven = isProven || !attributeOf(message, 'v').isEmpty(); // the library ends the stream when it is wrong
+    const int most = chosen == QLatin1String("SCRAM-SHA-512") ? mostRoundsOfSha512 : mostRounds;
+    bool isNumber = false;
+    const QByteArray rounds = attributeOf(message, 'i');
+    if (rounds.isEmpty() || (rounds.toInt(&isNumber) <= most && isNumber))
+        return KirvFailure();
+    return KirvFailure(KirvFailure::ServiceUnavailable,
+                       tr("It asks for more work to check the password than is allowed (%1 rounds, at most %2).")
+                           .arg(QString::fromLatin1(rounds.left(12)))
+                           .arg(most));
+}
+
+KirvFailure KirvXmppLoginGuard::receiveSuccess(const QDomElement &success)
+{
+    if (isMutual() && !isProven && !isProof(success))
+        return KirvFailure(KirvFailure::ServiceUnavailable, tr("It has not proved that it knows the password."));
+    isDone = true;
+    return KirvFailure();
+}
+
+/// The library checks the proof of a challenge, to which it replies. That reply must not be sent: for as long as it
+/// takes, the socket does not seem to be connected.
+bool KirvXmppLoginGuard::isProof(const QDomElement &success)
+{
+    if (challengeCount == 0 || success.text().size() > longestChallenge)
+        return false;
+    bool isReplied = false;
+    const auto note = [&isReplied](QXmppLogger::MessageType type, const QString &text) {
+        isReplied = isReplied || (type == QXmppLogger::SentMessage && text.startsWith(QLatin1String("<response")));
+    };
+    QDomDocument document;
+    QDomElement challenge = document.createElementNS(success.namespaceURI(), QStringLiteral("challenge"));
+    challenge.appendChild(document.createTextNode(success.text()));
+    document.appendChild(challenge);
+
+    const auto state = stream.socket()->state();
+    const QMetaObject::Connection connection = QObject::connect(&stream, &QXmppLoggable::logMessage, &stream, note);
+    Socket::setState(*stream.socket(), QAbstractSocket::ClosingState);
+    isChecking = true;
+    Stream::receiveStanza(stream, challenge);
+    isChecking = false;
+    Socket::setState(*stream.socket(), state);
+    QObject::disconnect(connection);
+    return isReplied;
+}

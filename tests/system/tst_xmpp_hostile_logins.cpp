@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_connection.h"
+#include "protocols/xmpp/kirv_xmpp_login_guard.h"
+#include "tests/support/kirv_load_meter.h"
+#include "tests/support/kirv_patience.h"
+#include "tests/support/servers/kirv_scripted_xmpp_server.h"
+#include "tests/support/servers/kirv_xmpp_profile.h"
+#include "tools/servers/kirv_prosody_server.h"
+
+#include <QMessageAuthenticationCode>
+#include <QPasswordDigestor>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const QByteArray saslSpace = "urn:ietf:params:xml:ns:xmpp-sasl";
+
+QByteArray sasl(const QByteArray &name, const QByteArray &content = QByteArray())
+{
+    return '<' + name + " xmlns='" + saslSpace + "'>" + content.toBase64() + "</" + name + '>';
+}
+
+QByteArray mechanisms(const QByteArrayList &names)
+{
+    return "<mechanisms xmlns='" + saslSpace + "'><mechanism>" + names.join("</mechanism><mechanism>")
+        + "</mechanism></mechanisms>";
+}
+
+QByteArray features(const QByteArray &content)
+{
+    return "<stream:features>" + content + "</stream:features>";
+}
+
+/// A server's side of SCRAM, as far as its messages differ from those of a good one.
+struct Scram {
+    QByteArray password = "secret"; ///< that the server knows
+    QByteArray rounds = "4096";
+    QByteArray mechanism = "SCRAM-SHA-1";
+    QCryptographicHash::Algorithm hash = QCryptographicHash::Sha1; ///< of the mechanism
+    QByteArray noncePrefix; ///< before the client's nonce
+    QByteArray padding; ///< at the end of the challenge
+    bool sendsChallenge = true;
+    bool repeatsChallenge = false; ///< in the place of an end
+    bool provesInChallenge = false; ///< in the place of the end
+    bool proves = true;
+
+    /// The reply to \a received, which is one element.
+    QByteArray answer(const QByteArray &received)
+    {
+        const int begin = received.indexOf('>') + 1;
+        const QByteArray message = QByteArray::fromBase64(received.mid(begin, received.lastIndexOf('<') - begin));
+        if (received.contains("<auth")) {
+            clientFirst = message.mid(int(qstrlen("n,,")));
+            const QByteArray nonce = clientFirst.mid(clientFirst.indexOf(",r=") + 3);
+            serverFirst = "r=" + noncePrefix + nonce + "srv,s=c2FsdA==,i=" + rounds + padding;
+            return sendsChallenge ? sasl("challenge", serverFirst) : sasl("success");
+        }
+        if (repeatsChallenge)
+            return sasl("challenge", serverFirst);
+        if (message.isEmpty())
+            return sasl("success"); // the proof was sent
+        if (!proves)
+            return sasl("success");
+        return sasl(provesInChallenge ? "challenge" : "success", "v=" + proof(message).toBase64());
+    }
+
+private:
+    QByteArray hashed(const QByteArray &message, const QByteArray &key) const
+    {
+        return QMessageAuthenticationCode::hash(message, key, hash);
+    }
+    QByteArray proof(const QByteArray &clientFinal) const
+    {
+        const int length = QCryptographicHash::hashLength(hash);
+        const QByteArray key =
+            QPasswordDigestor::deriveKeyPbkdf2(hash, password, "salt", rounds.toInt(), quint64(length));
+        const QByteArray withoutProof = clientFinal.left(clientFinal.indexOf(",p="));
+        return hashed(clientFirst + ',' + serverFirst + ',' + withoutProof, hashed("Server Key", key));
+    }
+
+    QByteArray clientFirst;
+    QByteArray serverFirst;
+};
+
+/// A server that logs \a scram's client in and binds it to \a address.
+KirvScriptedXmppServer::Script logsIn(Scram scram, const QByteArray &address = "ann@localhost/x",
+                                      const QByteArray &lastFeatures = QByteArray())
+{
+    bool isLoggedIn = false;
+    return [=](const QByteArray &received) mutable -> QByteArray {
+        if (received.contains("<stream:stream"))
+            return KirvScriptedXmppServer::stream(isLoggedIn ? "<bind xmlns='urn:ietf:params:xml:ns:xmpp-bind'/>"
+                                                          + lastFeatures
+                                                             : mechanisms({ "PLAIN", scram.mechanism }));
+        if (received.contains("<auth") || received.contains("<response")) {
+            const QByteArray answer = scram.answer(received);
+            isLoggedIn = answer.startsWith("<success");
+            return answer;
+        }
+        if (received.contains("urn:ietf:params:xml:ns:xmpp-bind"))
+            return "<iq type='result' id='" + KirvScriptedXmppServer::attribute(received, "id")
+                + "'><bind xmlns='urn:ietf:params:xml:ns:xmpp-bind'><jid>" + address + "</jid></bind></iq>";
+        return QByteArray();
+    };
+}
+
+KirvLogin loginTo(quint16 port, KirvXmppSettings::Encryption encryption = KirvXmppSettings::None)
+{
+    KirvXmppSettings settings;
+    settings.server = "127.0.0.1";
+    settings.port = port;
+    settings.encryption = encryption;
+    return { "ann@localhost", "secret", settings.toFields() };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(KirvScriptedXmppServer::Script)
+
+/// Servers that do not keep to the order of a log-in, pretend it, or demand more of it than is reasonable.
+class TestXmppHostileLogins : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void honestServersLogIn_data();
+    void honestServersLogIn();
+    void othersAreLeftWithASentence_data();
+    void othersAreLeftWithASentence();
+    void nothingIsSentForMechanismsWithoutThePassword();
+    void protectionOfTheSessionIsKnown_data();
+    void protectionOfTheSessionIsKnown();
+};
+
+void TestXmppHostileLogins::honestServersLogIn_data()
+{
+    QTest::addColumn<KirvScriptedXmppServer::Script>("script");
+    QTest::newRow("proof at the end") << logsIn(Scram());
+    Scram inChallenge;
+    inChallenge.provesInChallenge = true;
+    QTest::newRow("proof in a challenge") << logsIn(inChallenge);
+    QTest::newRow("no address") << logsIn(Scram(), "");
+    QTest::newRow("address in capitals") << logsIn(Scram(), "Ann@LOCALHOST/x");
+    QTest::newRow("mechanisms after the log-in") << logsIn(Scram(), "ann@localhost/x", mechanisms({ "PLAIN" }));
+    Scram laborious;
+    laborious.rounds = QByteArray::number(KirvXmppLoginGuard::mostRounds);
+    QTest::newRow("30,000 rounds of SHA-1") << logsIn(laborious);
+    laborious.mechanism = "SCRAM-SHA-256";
+    laborious.hash = QCryptographicHash::Sha256;
+    QTest::newRow("30,000 rounds of SHA-256") << logsIn(laborious);
+    laborious.mechanism = "SCRAM-SHA-512";
+    laborious.hash = QCryptographicHash::Sha512;
+    laborious.rounds = QByteArray::number(KirvXmppLoginGuard::mostRoundsOfSha512);
+    QTest::newRow("20,000 rounds of SHA-512") << logsIn(laborious);
+}
+
+void TestXmppHostileLogins::honestServersLogIn()
+{
+    QFETCH(KirvScriptedXmppServer::Script, script);
+    KirvScriptedXmppServer server(script);
+    KirvXmppConnection connection;
+    connection.logIn(loginTo(server.serverPort()), { "available", QString(), QString() });
+    KirvLoadMeter meter;
+    QVERIFY(meter.runUntil(
+        [&] { return connection.state() == KirvConnection::Online || connection.lastFailure().isFailure(); }));
+    meter.report(server.received().size());
+    QVERIFY2(connection.state() == KirvConnection::Online, qPrintable(connection.lastFailure().text()));
+    QCOMPARE(server.received().count("<auth"), 1);
+    // The library's reply to the proof is sent only where the server waits for one.
+    const bool isAwaited = QByteArray(QTest::currentDataTag()) == "proof in a challenge";
+    QCOMPARE(server.received().count("<response"), isAwaited ? 2 : 1);
+    QVERIFY(connection.securityText().startsWith("not encrypted, SASL SCRAM-SHA-"));
+}
+
+void TestXmppHostileLogins::othersAreLeftWithASentence_data()
+{
+    QTest::addColumn<KirvScriptedXmppServer::Script>("script");
+    QTest::addColumn<QString>("said");
+    const auto row = [](const char *name, const Scram &scram, const char *said) {
+        QTest::newRow(name) << logsIn(scram) << said;
+    };
+    Scram scram;
+    scram.rounds = "2147483647";
+    row("rounds of hours", scram, "2147483647 rounds");
+    scram.rounds = "99999999999999999999";
+    row("rounds beyond numbers", scram, "rounds");
+    scram.rounds = QByteArray::number(KirvXmppLoginGuard::mostRounds + 1);
+    row("one round too many", scram, "rounds");
+    scram.mechanism = "SCRAM-SHA-512";
+    scram.hash = QCryptographicHash::Sha512;
+    scram.rounds = QByteArray::number(KirvXmppLoginGuard::mostRoundsOfSha512 + 1);
+    row("one round too many of SHA-512", scram, "rounds");
+    scram = Scram();
+    scram.padding = ',' + QByteArray(1000000, 'x');
+    row("challenge of a megabyte", scram, "more than a log-in needs");
+    scram = Scram();
+    scram.sendsChallenge = false;
+    row("success without a challenge", scram, "proved");
+    scram = Scram();
+    scram.proves = false;
+    row("success without a proof", scram, "proved");
+    scram = Scram();
+    scram.password = "another";
+    row("server that does not know the password", scram, "proved");
+    scram.provesInChallenge = true;
+    row("wrong proof in a challenge", scram, "part of the log-in is wrong");
+    scram = Scram();
+    scram.noncePrefix = "x";
+    row("answer to somebody else", scram, "part of the log-in is wrong");
+    scram = Scram();
+    scram.repeatsChallenge = true;
+    row("challenges without end", scram, "part of the log-in is wrong");
+    QTest::newRow("another account") << logsIn(Scram(), "eve@localhost/x") << "eve@localhost";
+    QTest::newRow("another domain") << logsIn(Scram(), "ann@elsewhere.example/x") << "ann@elsewhere.example";
+    QTest::newRow("success before anything") << KirvScriptedXmppServer::Script([](const QByteArray &received) {
+        return received.contains("<stream:stream") ? KirvScriptedXmppServer::stream(QByteArray()) + sasl("success")
+                                                   : QByteArray();
+    }) << "no way to log in";
+    QTest::newRow("encryption that was not requested")
+        << KirvScriptedXmppServer::Script([](const QByteArray &received) {
+               return received.contains("<stream:stream")
+                   ? KirvScriptedXmppServer::stream(QByteArray()).split('>').value(1) + '>'
+                       + "<proceed xmlns='urn:ietf:params:xml:ns:xmpp-tls'/><a/>"
+                   : QByteArray();
+           })
+        << "";
+    QTest::newRow("log-in again and again") << KirvScriptedXmppServer::Script([](const QByteArray &received) {
+        if (received.contains("<stream:stream"))
+            return KirvScriptedXmppServer::stream(mechanisms({ "PLAIN" }));
+        return received.contains("<auth") ? features(mechanisms({ "PLAIN" })) : QByteArray();
+    }) << "again and again";
+}
+
+void TestXmppHostileLogins::othersAreLeftWithASentence()
+{
+    QFETCH(KirvScriptedXmppServer::Script, script);
+    QFETCH(QString, said);
+    KirvScriptedXmppServer server(script);
+    KirvXmppConnection connection;
+    QSignalSpy failures(&connection, &KirvConnection::failed);
+    QElapsedTimer time;
+    time.start();
+    connection.logIn(loginTo(server.serverPort()), { "available", QString(), QString() });
+    KIRV_TRY(!failures.isEmpty() || connection.state() == KirvConnection::Online);
+    QVERIFY(!failures.isEmpty());
+    const auto failure = failures[0][0].value<KirvFailure>();
+    QVERIFY2(failure.text().contains(said), qPrintable(failure.text()));
+    QVERIFY2(!failure.text().isEmpty() && failure.kind() != KirvFailure::WrongPassword, qPrintable(failure.text()));
+    QVERIFY(connection.securityText().isEmpty());
+}
+
+/// They would log in nobody, or give the password to others.
+void TestXmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
+{
+    KirvScriptedXmppServer server([](const QByteArray &received) {
+        return received.contains("<stream:stream")
+            ? KirvScriptedXmppServer::stream(mechanisms({ "ANONYMOUS", "X-FACEBOOK-PLATFORM", "X-OAUTH2" }))
+            : QByteArray();
+    });
+    KirvXmppConnection connection;
+    QSignalSpy failures(&connection, &KirvConnection::failed);
+    connection.logIn(loginTo(server.serverPort()), { "available", QString(), QString() });
+    KIRV_TRY(!failures.isEmpty());
+    QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::AuthenticationNotOffered);
+    QVERIFY2(!server.received().contains("<auth"), server.received().constData());
+}
+
+void TestXmppHostileLogins::protectionOfTheSessionIsKnown_data()
+{
+    QTest::addColumn<bool>("isEncrypted");
+    QTest::addColumn<QString>("start");
+    QTest::newRow("TLS") << true << "TLSv1.";
+    QTest::newRow("in clear") << false << "not encrypted, ";
+}
+
+void TestXmppHostileLogins::protectionOfTheSessionIsKnown()
+{
+    QFETCH(bool, isEncrypted);
+    QFETCH(QString, start);
+    KirvProsodyServer::Options options;
+    options.offersEncryption = options.requiresEncryption = isEncrypted;
+    KirvProsodyServer server(options);
+    QVERIFY(KirvXmppProfile::start(server, { "ann" }));
+    KirvXmppConnection connection;
+    KirvLogin login = loginTo(server.port(), isEncrypted ? KirvXmppSettings::Required : KirvXmppSettings::None);
+    for (KirvField &field : login.settings) {
+        if (field.getId() == "certificate")
+            field.setText(server.certificatePath());
+    }
+    QCOMPARE(connection.securityText(), QString());
+    connection.logIn(login, { "available", QString(), QString() });
+    KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
+    const QString text = connection.securityText();
+    QVERIFY2(text.startsWith(start) && text.endsWith(", SASL SCRAM-SHA-256"), qPrintable(text));
+    connection.logOut();
+    QCOMPARE(connection.securityText(), QString());
+    server.kill(); // an orderly end takes a second
+}
+
+QTEST_GUILESS_MAIN(TestXmppHostileLogins)
+#include "tst_xmpp_hostile_logins.moc"
