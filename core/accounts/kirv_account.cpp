@@ -253,6 +253,8 @@ bool KirvAccount::setEnabled(bool enabled)
         return true;
     const KirvPresence presence = logInPresence();
     const QPointer<KirvAccount> alive(this);
+    if (!enabled)
+        Q_EMIT disablingBegins();
     const bool isStored = change([&](KirvAccountRecord &record) {
         record.enabled = enabled;
         if (enabled)
