@@ -3,8 +3,11 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
+#include "client/kirv_account_group.h"
+#include "client/kirv_account_invitation.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_status.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -22,11 +25,11 @@
 namespace {
 
 template <typename Function>
-QAction *addCommand(QMenu *menu, const char *name, const QString &text, KirvAccount *account, Function function)
+QAction *addCommand(QMenu *menu, const char *name, const QString &text, QObject *context, Function function)
 {
     QAction *action = menu->addAction(text);
     action->setObjectName(QLatin1String(name));
-    QObject::connect(action, &QAction::triggered, account, function);
+    QObject::connect(action, &QAction::triggered, context, function);
     return action;
 }
 
@@ -44,6 +47,8 @@ KirvAccountCommands::KirvAccountCommands(const Environment &environment, KirvAli
 {
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
+    if (auto *invitation = top->findChild<KirvAccountInvitation *>())
+        invitation->installEventFilter(this);
     auto *rename = new QShortcut(Qt::Key_F2, list);
     rename->setContext(Qt::WidgetShortcut);
     connect(rename, &QShortcut::activated, this, &KirvAccountCommands::rename);
@@ -59,6 +64,8 @@ bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
             openMenuOfCurrentRow();
         else if (const QTreeWidgetItem *row = watched == list->viewport() ? list->itemAt(request->pos()) : nullptr)
             openMenu(KirvAccountRows::keyOf(row), request->globalPos());
+        else
+            openGeneralMenu(request->globalPos());
         return true;
     }
     if (event->type() != QEvent::KeyPress || watched != list)
@@ -96,8 +103,13 @@ void KirvAccountCommands::openAddMenu()
 void KirvAccountCommands::openMenuOfCurrentRow()
 {
     QTreeWidgetItem *row = list->currentItem();
-    if (!row || QApplication::activePopupWidget())
+    if (QApplication::activePopupWidget())
         return;
+    if (!row) {
+        const QWidget *place = list->isVisible() ? static_cast<QWidget *>(list->viewport()) : top;
+        openGeneralMenu(place->mapToGlobal(place->rect().center()));
+        return;
+    }
     list->scrollToItem(row);
     openMenu(KirvAccountRows::keyOf(row), list->viewport()->mapToGlobal(list->visualItemRect(row).center()));
 }
@@ -109,14 +121,14 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     if (!account || !row)
         return;
     list->setCurrentItem(row);
-    auto *menu = new QMenu(list);
-    menu->setObjectName(QStringLiteral("Accounts_Menu"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QMenu *menu = createMenu();
     addEditing(menu, account);
     menu->addSeparator();
     addConnecting(menu, account);
     menu->addSeparator();
     addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
+    menu->addSeparator();
+    addGeneral(menu);
     connect(account, &QObject::destroyed, menu, &QWidget::close);
     menu->popup(position);
     menu->setActiveAction(menu->actions().first());
@@ -175,6 +187,39 @@ void KirvAccountCommands::addPresences(QMenu *menu, KirvAccount *account)
             account->tryAgain();
         });
     }
+}
+
+void KirvAccountCommands::openGeneralMenu(const QPoint &position)
+{
+    QMenu *menu = createMenu();
+    addGeneral(menu);
+    menu->popup(position);
+    menu->setActiveAction(menu->actions().first());
+}
+
+QMenu *KirvAccountCommands::createMenu()
+{
+    auto *menu = new QMenu(top);
+    menu->setObjectName(QStringLiteral("Accounts_Menu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    return menu;
+}
+
+/// What needs no row.
+void KirvAccountCommands::addGeneral(QMenu *menu)
+{
+    addCommand(menu, "Accounts_DisableAllAction", tr("Disable A&ll…"), &environment.group, [this] {
+        environment.group.disableAll();
+    })->setEnabled(environment.group.canDisableAll());
+    if (environment.group.canEnableAgain())
+        addCommand(menu, "Accounts_EnableAgainAction", tr("Enable Those &Again"), &environment.group,
+                   [this] { environment.group.enableAgain(); });
+    const QString undo = environment.undo.command();
+    QAction *action = addCommand(menu, "Accounts_UndoAction", undo.isEmpty() ? tr("&Undo") : undo, &environment.undo,
+                                 [this] { environment.undo.undoLatest(); });
+    action->setEnabled(!undo.isEmpty());
+    action->setShortcut(QKeySequence::Undo);
+    action->setShortcutContext(Qt::WidgetShortcut); // shown only: the window has the key
 }
 
 /// As a click on the check box does, with its question.

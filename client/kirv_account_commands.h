@@ -8,7 +8,9 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountGroup;
 class KirvAccountRows;
+class KirvAccountUndo;
 class KirvAliasEditor;
 class KirvMainAccount;
 class KirvServerCommands;
@@ -30,6 +32,8 @@ public:
         const KirvAccountRows &rows;
         KirvServerCommands &serverCommands;
         KirvMainAccount &mainAccount;
+        KirvAccountUndo &undo;
+        KirvAccountGroup &group;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.
@@ -49,6 +53,9 @@ private:
     void addEditing(QMenu *menu, KirvAccount *account);
     void addConnecting(QMenu *menu, KirvAccount *account);
     void addPresences(QMenu *menu, KirvAccount *account);
+    void openGeneralMenu(const QPoint &position);
+    QMenu *createMenu();
+    void addGeneral(QMenu *menu);
     void toggle(const KirvAccountKey &key);
     void remove(const KirvAccountKey &key);
     KirvAccountKey currentKey() const;

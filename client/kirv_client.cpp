@@ -2,6 +2,7 @@
 #include "client/kirv_client.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_connection_view.h"
 #include "client/kirv_first_paint.h"
@@ -16,6 +17,7 @@
 #include "client/kirv_wheel_guard.h"
 #include "client/kirv_window_companions.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_history.h"
 #include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/plugins/kirv_plugin_queue.h"
@@ -125,6 +127,7 @@ void KirvClient::createServices()
     pluginLoader = std::make_unique<KirvPluginLoader>();
     pluginsToLoad = std::make_unique<KirvPluginQueue>(*pluginLoader, profile.filePath(QStringLiteral("plugins.json")));
     services = std::make_unique<KirvHostServices>(*accountCollection, *pluginLoader, *clientSettings);
+    history = std::make_unique<KirvAccountHistory>(*accountCollection, services->mainAccountRule);
     layouts = std::make_unique<KirvLayoutCatalog>();
     clientSettings->setThemeFolder(profile.filePath(QStringLiteral("themes")));
     layouts->setOverrideFolder(profile.filePath(QStringLiteral("layouts")));
@@ -139,12 +142,15 @@ void KirvClient::createWindow()
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
-    companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, services->mainAccountRule,
-                                          settingsWindow.get());
+    auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
+    companions = new KirvWindowCompanions(
+        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo }, settingsWindow.get());
     page = KirvAccountsTab::getInstance();
     connections = new KirvConnectionView(*accountCollection, *serverCommands);
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
+    if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
+        settingsWindow->messageBar()->floatOver(list);
     settingsWindow->addPage(connections, tr("Connections"), themeIcon(QStringLiteral("network-wired")));
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
 
@@ -170,6 +176,8 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
     connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
+    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, companions->page(),
+            &KirvAccountsPageCompanion::pluginsLoaded);
     // Queued, as the window runs an event loop of its own.
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
@@ -191,6 +199,7 @@ void KirvClient::loadPlugins()
         return;
     isLoadingStarted = true;
     if (!pluginsToLoad->loadFolder(options.pluginFolder)) {
+        companions->page()->pluginsLoaded();
         //: %1 = path of a folder
         showProblem(tr("There is no folder %1, so no protocol is available.")
                         .arg(QDir::toNativeSeparators(options.pluginFolder)));
@@ -245,6 +254,7 @@ void KirvClient::edit(KirvAccount *account)
 void KirvClient::mainAccountChanged()
 {
     updateTitle();
+    settingsWindow->messageBar()->removeMessage(std::exchange(passingOn, QString())); // it names another one
     connections->refreshMainAccount();
     if (companions->page())
         companions->page()->mainAccountChanged();
@@ -257,7 +267,8 @@ void KirvClient::mainAccountPassedOn(const QString &previous, KirvMainAccount::R
         ? tr("%1 is the main account now, because %2 was removed.")
         //: %1 and %2 = names of accounts
         : tr("%1 is the main account now, because %2 was disabled.");
-    showProblem(text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous)));
+    passingOn = text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous));
+    settingsWindow->messageBar()->showMessage(passingOn, QString(), {}, KirvMessageBar::Information);
 }
 
 void KirvClient::updateTitle()

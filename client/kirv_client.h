@@ -11,6 +11,7 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountHistory;
 class KirvAccountsTab;
 class KirvConnectionView;
 class KirvHostServices;
@@ -83,6 +84,7 @@ private:
 
     const KirvClientOptions options;
     KirvAccountLink unopenedLink;
+    QString passingOn; ///< the message about the main account
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;
@@ -92,6 +94,7 @@ private:
     std::unique_ptr<KirvPluginQueue> pluginsToLoad;
     bool isLoadingStarted = false;
     std::unique_ptr<KirvHostServices> services;
+    std::unique_ptr<KirvAccountHistory> history;
     std::unique_ptr<KirvLayoutCatalog> layouts;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
     QPointer<KirvAccountsTab> page;

@@ -84,12 +84,12 @@ void KirvSettingsWindow::arrange()
     newsLayout->setContentsMargins(left, top, left, 0);
     newsLayout->setSpacing(top);
     newsLayout->addWidget(banner);
-    newsLayout->addWidget(messages);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(newsLayout);
     layout->addLayout(pagesLayout, 1);
+    messages->floatOver(pages);
 }
 
 void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIcon &icon)

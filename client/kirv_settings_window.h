@@ -10,7 +10,7 @@ class QLabel;
 class QListWidget;
 class QStackedWidget;
 
-/// The settings window: a list of pages, the chosen page beside it, and above it what the user should know.
+/// The settings window: a list of pages and the chosen page beside it, and over it what the user should know.
 class KirvSettingsWindow : public QWidget {
     Q_OBJECT
 

@@ -495,5 +495,6 @@ void KirvAccount::setFailure(const KirvFailure &newFailure)
 
 void KirvAccount::refreshDescription()
 {
-    description = KirvAccountInfo(current.key.id, kirvEditablePart(current.alias), current.enabled);
+    const QString name = current.alias.isEmpty() ? displayName() : kirvEditablePart(current.alias);
+    description = KirvAccountInfo(current.key.id, name, current.enabled);
 }
