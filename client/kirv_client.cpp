@@ -4,7 +4,6 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
-#include "client/kirv_connection_view.h"
 #include "client/kirv_first_paint.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
@@ -91,11 +90,6 @@ KirvAccountsTab *KirvClient::accountsPage() const
     return page;
 }
 
-KirvConnectionView *KirvClient::connectionView() const
-{
-    return connections;
-}
-
 KirvPluginsPage *KirvClient::pluginsPage() const
 {
     return pluginList;
@@ -146,12 +140,10 @@ void KirvClient::createWindow()
     companions = new KirvWindowCompanions(
         *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo }, settingsWindow.get());
     page = KirvAccountsTab::getInstance();
-    connections = new KirvConnectionView(*accountCollection, *serverCommands);
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
     if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
         settingsWindow->messageBar()->floatOver(list);
-    settingsWindow->addPage(connections, tr("Connections"), themeIcon(QStringLiteral("network-wired")));
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
@@ -161,8 +153,6 @@ void KirvClient::createWindow()
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
-    connect(connections, &KirvConnectionView::editRequested, this, &KirvClient::edit);
-    connect(connections, &KirvConnectionView::passwordRequested, passwordQuestions, &KirvPasswordQuestions::ask);
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
             &KirvPasswordQuestions::ask);
 }
@@ -245,17 +235,10 @@ void KirvClient::accountChanged(KirvAccount *account)
         updateTitle();
 }
 
-void KirvClient::edit(KirvAccount *account)
-{
-    if (account->isLoaded())
-        page->editAccount(account);
-}
-
 void KirvClient::mainAccountChanged()
 {
     updateTitle();
     settingsWindow->messageBar()->removeMessage(std::exchange(passingOn, QString())); // it names another one
-    connections->refreshMainAccount();
     if (companions->page())
         companions->page()->mainAccountChanged();
 }

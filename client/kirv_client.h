@@ -13,7 +13,6 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHistory;
 class KirvAccountsTab;
-class KirvConnectionView;
 class KirvHostServices;
 class KirvLayoutCatalog;
 class KirvPasswordQuestions;
@@ -57,7 +56,6 @@ public:
     KirvClientSettings &settings() const { return *clientSettings; }
     KirvSettingsWindow *window() const { return settingsWindow.get(); }
     KirvAccountsTab *accountsPage() const;
-    KirvConnectionView *connectionView() const;
     KirvPluginsPage *pluginsPage() const;
 
 private Q_SLOTS:
@@ -75,7 +73,6 @@ private:
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
     void creationRefused(const KirvAccountKey &key, const QString &reason);
     void accountChanged(KirvAccount *account);
-    void edit(KirvAccount *account);
     void updateTitle();
     void mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next);
     void showNotice(const KirvAccount *account, const QString &text);
@@ -98,7 +95,6 @@ private:
     std::unique_ptr<KirvLayoutCatalog> layouts;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
     QPointer<KirvAccountsTab> page;
-    QPointer<KirvConnectionView> connections;
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
