@@ -22,6 +22,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace {
 
 template <typename Function>
@@ -44,7 +46,11 @@ KirvAccountCommands::KirvAccountCommands(const Environment &environment, KirvAli
     , list(list)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
     , removeButton(top->findChild<QAbstractButton *>(QStringLiteral("Accounts_RemoveButton")))
+    , editButton(top->findChild<QAbstractButton *>(QStringLiteral("Accounts_EditButton")))
 {
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // The page makes its own connections after this.
+    QMetaObject::invokeMethod(this, &KirvAccountCommands::joinPage, Qt::QueuedConnection);
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
     if (auto *invitation = top->findChild<KirvAccountInvitation *>())
@@ -76,6 +82,64 @@ bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
         return false;
     openMenuOfCurrentRow();
     return true;
+}
+
+void KirvAccountCommands::joinPage()
+{
+    connect(list, &QTreeWidget::itemSelectionChanged, this, &KirvAccountCommands::updateButtons);
+    connect(removeButton, &QAbstractButton::clicked, this, &KirvAccountCommands::removeSeveral);
+    const auto shortcuts = list->findChildren<QShortcut *>();
+    for (const QShortcut *shortcut : shortcuts) {
+        if (shortcut->key() == QKeySequence(QKeySequence::Delete))
+            connect(shortcut, &QShortcut::activated, this, &KirvAccountCommands::removeSeveral);
+    }
+    updateButtons();
+}
+
+/// The page looks at the current row only.
+void KirvAccountCommands::updateButtons()
+{
+    if (list->selectionModel()->selectedRows().size() > 1)
+        editButton->setEnabled(false);
+}
+
+/// One is removed by the page.
+void KirvAccountCommands::removeSeveral()
+{
+    const QList<KirvAccountKey> keys = selectedKeys();
+    if (keys.size() > 1)
+        environment.group.remove(keys);
+}
+
+/// In the order of the rows.
+QList<KirvAccountKey> KirvAccountCommands::selectedKeys() const
+{
+    QModelIndexList selected = list->selectionModel()->selectedRows();
+    std::sort(selected.begin(), selected.end());
+    QList<KirvAccountKey> keys;
+    for (const QModelIndex &index : qAsConst(selected)) {
+        if (!list->isRowHidden(index.row(), QModelIndex()))
+            keys << KirvAccountRows::keyOf(index);
+    }
+    return keys;
+}
+
+void KirvAccountCommands::openGroupMenu(const QPoint &position)
+{
+    const QList<KirvAccountKey> keys = selectedKeys();
+    const int count = int(keys.size());
+    KirvAccountGroup *group = &environment.group;
+    QMenu *menu = createMenu();
+    addCommand(menu, "Accounts_EnableSeveralAction", tr("&Enable %n Accounts", nullptr, count), group,
+               [group, keys] { group->enable(keys); });
+    addCommand(menu, "Accounts_DisableSeveralAction", tr("&Disable %n Accounts", nullptr, count), group,
+               [group, keys] { group->disable(keys); });
+    addCommand(menu, "Accounts_RemoveSeveralAction", tr("Re&move %n Accounts…", nullptr, count), group,
+               [group, keys] { group->remove(keys); });
+    menu->addSeparator();
+    addGeneral(menu);
+    menu->popup(position);
+    menu->setActiveAction(menu->actions().first());
 }
 
 KirvAccountKey KirvAccountCommands::currentKey() const
@@ -120,6 +184,10 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     QTreeWidgetItem *row = environment.rows.find(key);
     if (!account || !row)
         return;
+    if (row->isSelected() && list->selectionModel()->selectedRows().size() > 1) {
+        openGroupMenu(position);
+        return;
+    }
     list->setCurrentItem(row);
     QMenu *menu = createMenu();
     addEditing(menu, account);

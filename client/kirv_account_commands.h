@@ -21,7 +21,8 @@ class QToolButton;
 class QTreeWidget;
 
 /// The commands on the accounts of the page's list, in its context menu and by keys: F2 renames, Ctrl+N adds, the Menu
-/// key and Shift+F10 open the menu.
+/// key and Shift+F10 open the menu. Several selected accounts have a menu of their own, and are removed by the button
+/// and the key of the page, which itself removes one only.
 class KirvAccountCommands : public QObject {
     Q_OBJECT
 
@@ -56,6 +57,11 @@ private:
     void openGeneralMenu(const QPoint &position);
     QMenu *createMenu();
     void addGeneral(QMenu *menu);
+    void joinPage();
+    void updateButtons();
+    void removeSeveral();
+    QList<KirvAccountKey> selectedKeys() const;
+    void openGroupMenu(const QPoint &position);
     void toggle(const KirvAccountKey &key);
     void remove(const KirvAccountKey &key);
     KirvAccountKey currentKey() const;
@@ -66,6 +72,7 @@ private:
     QTreeWidget *list;
     QToolButton *addButton;
     QAbstractButton *removeButton;
+    QAbstractButton *editButton;
 };
 
 #endif

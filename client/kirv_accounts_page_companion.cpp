@@ -9,6 +9,7 @@
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
 #include "client/kirv_account_rows.h"
+#include "client/kirv_account_search.h"
 #include "client/kirv_account_strip.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
@@ -50,6 +51,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environ
     , rows(new KirvAccountRows(list))
     , states(new KirvAccountRowStates(accounts, *rows, list))
     , strip(new KirvAccountStrip)
+    , searchBar(new KirvAccountSearch(accounts, *rows, list))
     , invitation(new KirvAccountInvitation)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
@@ -86,6 +88,7 @@ KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
 void KirvAccountsPageCompanion::addWidgets(QWidget *top)
 {
     auto *frame = new KirvAccountListFrame(list);
+    frame->addAbove(searchBar);
     frame->addBelow(strip);
     frame->addBelow(invitation);
     strip->chooseMnemonics();
@@ -125,6 +128,7 @@ void KirvAccountsPageCompanion::selectNewRow(const KirvAccountKey &key)
         std::any_of(questions.begin(), questions.end(), [](const QMessageBox *box) { return box->isVisible(); });
     if (!row || isAsked || aliasEditor->isOpen())
         return;
+    searchBar->reveal(key);
     list->setCurrentItem(row);
     list->scrollToItem(row);
 }
@@ -158,6 +162,8 @@ void KirvAccountsPageCompanion::connectStrip()
     // The selection model's signals come also while those of the list are blocked.
     connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &KirvAccountsPageCompanion::refreshStripLater);
+    connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &KirvAccountsPageCompanion::refreshStripLater);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
         if (account == currentAccount())
             refreshStripLater();
@@ -186,6 +192,11 @@ void KirvAccountsPageCompanion::refreshStripLater()
 void KirvAccountsPageCompanion::refreshStrip()
 {
     isStripDue = false;
+    const int selected = int(list->selectionModel()->selectedRows().size());
+    if (selected > 1) {
+        strip->showSeveral(selected);
+        return;
+    }
     const KirvAccount *account = currentAccount();
     strip->show(account, account && account == KirvAccountManager::getInstance()->getMainAccount());
 }
@@ -298,6 +309,7 @@ void KirvAccountsPageCompanion::syncRows()
     }
     listUnloaded();
     invite();
+    searchBar->accountsChanged();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
     selectNewRow(std::exchange(added, KirvAccountKey()));

@@ -14,6 +14,7 @@ class KirvAccountCollection;
 class KirvAccountInvitation;
 class KirvAccountRows;
 class KirvAccountRowStates;
+class KirvAccountSearch;
 class KirvAccountStrip;
 class KirvAccountUndo;
 class KirvAliasEditor;
@@ -102,6 +103,7 @@ private:
     KirvAccountRows *rows;
     KirvAccountRowStates *states;
     KirvAccountStrip *strip;
+    KirvAccountSearch *searchBar;
     KirvAccountInvitation *invitation;
     QToolButton *addButton;
     KirvAliasEditor *aliasEditor = nullptr;

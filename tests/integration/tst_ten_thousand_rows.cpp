@@ -7,11 +7,14 @@
 #include "tests/support/kirv_patience.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTreeWidget>
 #include <QtTest>
 
 #include <algorithm>
+#include <ctime>
 
 namespace {
 
@@ -52,6 +55,10 @@ private Q_SLOTS:
     void repaintIsQuick();
     void scrollingIsQuick();
     void keystrokeIsQuick();
+    void searchIsQuick_data();
+    void searchIsQuick();
+    void searchEnds();
+    void toggleIsQuick();
     void changeOfStateIsQuick();
 
 private:
@@ -112,6 +119,76 @@ void tst_TenThousandRows::keystrokeIsQuick()
         QCoreApplication::processEvents();
         windows->list()->viewport()->repaint();
     });
+    QVERIFY2(time <= mostMilliseconds, qPrintable(QString::number(time)));
+}
+
+void tst_TenThousandRows::searchIsQuick_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("id") << QStringLiteral("user0999");
+    QTest::newRow("word that nothing has") << QStringLiteral("xyzxyzxy");
+    QTest::newRow("state") << QStringLiteral("disabled");
+    QTest::newRow("problem") << QStringLiteral("problem ");
+}
+
+/// Each keystroke is measured by itself, and the slowest one counts: the first hides most rows. Measured is the time
+/// of the processor, as the whole time of so many keystrokes meets other programs somewhere.
+void tst_TenThousandRows::searchIsQuick()
+{
+    QFETCH(QString, text);
+    auto *field = windows->client->accountsPage()->findChild<QLineEdit *>(QStringLiteral("Accounts_Search"));
+    const auto *count = windows->client->accountsPage()->findChild<QLabel *>(QStringLiteral("Accounts_SearchCount"));
+    QVERIFY(field && field->isVisible());
+    std::vector<std::vector<qint64>> times(size_t(text.size()) + 1);
+    for (int round = 0; round < 5; ++round) {
+        field->setFocus();
+        for (size_t i = 0; i < times.size(); ++i) {
+            const bool isText = i < size_t(text.size());
+            const std::clock_t start = std::clock();
+            if (isText)
+                QTest::keyClick(field, text.at(int(i)).toLatin1());
+            else
+                QTest::keyClick(field, Qt::Key_Escape);
+            QCoreApplication::processEvents();
+            windows->list()->viewport()->repaint();
+            times[i].push_back(qint64(std::clock() - start) * 1000 / CLOCKS_PER_SEC);
+        }
+        KIRV_TRY(count->text().isEmpty());
+    }
+    qint64 slowest = 0;
+    for (std::vector<qint64> &ofOne : times) {
+        std::nth_element(ofOne.begin(), ofOne.begin() + 2, ofOne.end());
+        slowest = std::max(slowest, ofOne.at(2));
+    }
+    qInfo("%lld ms", slowest);
+    QVERIFY2(slowest <= mostMilliseconds, qPrintable(QString::number(slowest)));
+}
+
+void tst_TenThousandRows::searchEnds()
+{
+    auto *field = windows->client->accountsPage()->findChild<QLineEdit *>(QStringLiteral("Accounts_Search"));
+    const auto *count = windows->client->accountsPage()->findChild<QLabel *>(QStringLiteral("Accounts_SearchCount"));
+    QTest::keyClicks(field, QStringLiteral("user0999"));
+    KIRV_TRY_COMPARE(count->text(), QStringLiteral("10 of 10000"));
+    QVERIFY(windows->row(idOf(0))->isHidden());
+    QVERIFY(!windows->row(idOf(9995))->isHidden());
+    QTest::keyClick(field, Qt::Key_Escape);
+    KIRV_TRY(!windows->row(idOf(0))->isHidden() && !windows->row(idOf(9000))->isHidden());
+    KIRV_TRY_COMPARE(count->text(), QString());
+}
+
+/// Of an account that cannot log in: no question comes.
+void tst_TenThousandRows::toggleIsQuick()
+{
+    windows->protocol->server->logIn = KirvFakeServer::Refuses;
+    QTreeWidgetItem *row = windows->row(idOf(0));
+    windows->list()->scrollToItem(row);
+    const qint64 time = measure([this, row](int round) {
+        row->setCheckState(0, round % 2 ? Qt::Unchecked : Qt::Checked);
+        QCoreApplication::processEvents();
+        windows->list()->viewport()->repaint();
+    });
+    windows->protocol->server->logIn = KirvFakeServer::Accepts;
     QVERIFY2(time <= mostMilliseconds, qPrintable(QString::number(time)));
 }
 
