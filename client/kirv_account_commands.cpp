@@ -5,6 +5,7 @@
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_account_group.h"
 #include "client/kirv_account_invitation.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_status.h"
 #include "client/kirv_account_undo.h"
@@ -188,12 +189,13 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
         openGroupMenu(position);
         return;
     }
-    list->setCurrentItem(row);
+    environment.rows.select(row);
     QMenu *menu = createMenu();
     addEditing(menu, account);
     menu->addSeparator();
     addConnecting(menu, account);
     menu->addSeparator();
+    addMoving(menu, account);
     addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
     menu->addSeparator();
     addGeneral(menu);
@@ -273,6 +275,23 @@ QMenu *KirvAccountCommands::createMenu()
     return menu;
 }
 
+/// Only in the user's own order.
+void KirvAccountCommands::addMoving(QMenu *menu, KirvAccount *account)
+{
+    const KirvAccountKey key = account->key();
+    if (!environment.order.isOwn())
+        return;
+    for (const bool isUp : { true, false }) {
+        QAction *action = addCommand(menu, isUp ? "Accounts_MoveUpAction" : "Accounts_MoveDownAction",
+                                     isUp ? tr("Move Up") : tr("Move Down"), account,
+                                     [this, key, isUp] { environment.order.move(key, isUp); });
+        action->setEnabled(environment.order.canMove(key, isUp));
+        action->setShortcut(QKeySequence(int(Qt::ALT) | int(isUp ? Qt::Key_Up : Qt::Key_Down)));
+        action->setShortcutContext(Qt::WidgetShortcut); // shown only: the list has the keys
+    }
+    menu->addSeparator();
+}
+
 /// What needs no row.
 void KirvAccountCommands::addGeneral(QMenu *menu)
 {
@@ -282,6 +301,10 @@ void KirvAccountCommands::addGeneral(QMenu *menu)
     if (environment.group.canEnableAgain())
         addCommand(menu, "Accounts_EnableAgainAction", tr("Enable Those &Again"), &environment.group,
                    [this] { environment.group.enableAgain(); });
+    QAction *own = addCommand(menu, "Accounts_OwnOrderAction", tr("&Own Order"), &environment.order,
+                              [this] { environment.order.setOwn(!environment.order.isOwn()); });
+    own->setCheckable(true);
+    own->setChecked(environment.order.isOwn());
     const QString undo = environment.undo.command();
     QAction *action = addCommand(menu, "Accounts_UndoAction", undo.isEmpty() ? tr("&Undo") : undo, &environment.undo,
                                  [this] { environment.undo.undoLatest(); });
@@ -301,7 +324,7 @@ void KirvAccountCommands::toggle(const KirvAccountKey &key)
 void KirvAccountCommands::remove(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = environment.rows.find(key)) {
-        list->setCurrentItem(row);
+        environment.rows.select(row);
         removeButton->click();
     }
 }

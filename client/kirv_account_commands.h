@@ -9,6 +9,7 @@
 class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountGroup;
+class KirvAccountOrder;
 class KirvAccountRows;
 class KirvAccountUndo;
 class KirvAliasEditor;
@@ -35,6 +36,7 @@ public:
         KirvMainAccount &mainAccount;
         KirvAccountUndo &undo;
         KirvAccountGroup &group;
+        KirvAccountOrder &order;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.
@@ -56,6 +58,7 @@ private:
     void addPresences(QMenu *menu, KirvAccount *account);
     void openGeneralMenu(const QPoint &position);
     QMenu *createMenu();
+    void addMoving(QMenu *menu, KirvAccount *account);
     void addGeneral(QMenu *menu);
     void joinPage();
     void updateButtons();

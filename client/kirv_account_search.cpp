@@ -124,7 +124,7 @@ void KirvAccountSearch::moveToList()
     for (int i = 0; i < list->topLevelItemCount(); ++i) {
         if (list->isRowHidden(i, QModelIndex()))
             continue;
-        list->setCurrentItem(list->topLevelItem(i));
+        rows.select(list->topLevelItem(i));
         list->setFocus(Qt::OtherFocusReason);
         return;
     }

@@ -6,6 +6,7 @@
 #include "client/kirv_account_group.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
 #include "client/kirv_account_rows.h"
@@ -112,10 +113,11 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
     list->setItemDelegate(delegate);
     list->setStyle(new KirvSelectingStyle(list));
     aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
+    auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
     auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
     auto *commands = new KirvAccountCommands(
-        { accounts, *rows, environment.serverCommands, environment.mainAccount, environment.undo, *group }, aliasEditor,
-        top, list);
+        { accounts, *rows, environment.serverCommands, environment.mainAccount, environment.undo, *group, *order },
+        aliasEditor, top, list);
     connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
 }
 
@@ -129,7 +131,7 @@ void KirvAccountsPageCompanion::selectNewRow(const KirvAccountKey &key)
     if (!row || isAsked || aliasEditor->isOpen())
         return;
     searchBar->reveal(key);
-    list->setCurrentItem(row);
+    rows->select(row);
     list->scrollToItem(row);
 }
 
@@ -391,7 +393,7 @@ KirvAccountKey KirvAccountsPageCompanion::current() const
 void KirvAccountsPageCompanion::setCurrent(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = rows->find(key))
-        list->setCurrentItem(row);
+        rows->select(row);
 }
 
 void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)

@@ -18,6 +18,7 @@ class KirvAccountSearch;
 class KirvAccountStrip;
 class KirvAccountUndo;
 class KirvAliasEditor;
+class KirvClientSettings;
 class KirvMainAccount;
 class KirvServerCommands;
 class QToolButton;
@@ -40,6 +41,7 @@ public:
         KirvServerCommands &serverCommands;
         KirvMainAccount &mainAccount;
         KirvAccountUndo &undo;
+        KirvClientSettings &settings;
     };
 
     /// \a top was just built for the page.

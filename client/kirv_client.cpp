@@ -138,7 +138,8 @@ void KirvClient::createWindow()
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
     auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
     companions = new KirvWindowCompanions(
-        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo }, settingsWindow.get());
+        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings },
+        settingsWindow.get());
     page = KirvAccountsTab::getInstance();
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));

@@ -14,6 +14,7 @@
 
 namespace {
 const QLatin1String geometryKey("settings_window/geometry");
+const QLatin1String pageKey("settings_window/page");
 }
 
 KirvSettingsWindow::KirvSettingsWindow(KirvClientSettings &settings, QWidget *parent)
@@ -62,6 +63,9 @@ KirvSettingsWindow::~KirvSettingsWindow()
     const QString geometry = QString::fromLatin1(saveGeometry().toBase64());
     if (settings.value(geometryKey) != geometry)
         settings.setValue(geometryKey, geometry);
+    const QString page = QString::number(list->currentRow());
+    if (settings.value(pageKey) != page)
+        settings.setValue(pageKey, page);
 }
 
 /// Each page has margins of its own; what stands beside and above them gets the same.
@@ -97,8 +101,9 @@ void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIco
     pages->addWidget(page);
     list->addItem(new QListWidgetItem(icon, title));
     fitListToContents();
-    if (list->currentRow() < 0)
-        list->setCurrentRow(0);
+    const int row = list->count() - 1;
+    if (row == 0 || settings.value(pageKey) == QString::number(row))
+        list->setCurrentRow(row);
 }
 
 void KirvSettingsWindow::showPage(QWidget *page)

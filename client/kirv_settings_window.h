@@ -15,7 +15,7 @@ class KirvSettingsWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// The window remembers its size in \a settings, which is not owned and outlives the window.
+    /// The window remembers its size and its page in \a settings, which is not owned and outlives the window.
     explicit KirvSettingsWindow(KirvClientSettings &settings, QWidget *parent = nullptr);
     ~KirvSettingsWindow() override;
 

@@ -419,7 +419,7 @@ bool KirvAccountCollection::place(KirvAccount *account, const KirvAccount *next)
     }
     error.clear();
     arrange(account, next);
-    Q_EMIT orderChanged();
+    Q_EMIT orderChanged(account);
     return true;
 }
 

@@ -79,8 +79,8 @@ Q_SIGNALS:
     void accountRemoved(const QString &id, const QString &protocol);
     /// The store did not remove \a account, which stays as it is; problemOccurred() says why.
     void removalRefused(KirvAccount *account);
-    /// The order of the accounts changed.
-    void orderChanged();
+    /// \a account has another place in the order.
+    void orderChanged(KirvAccount *account);
     /// \a account is going to be disabled, or the store refuses that: nothing has happened yet, and a slot changes
     /// nothing.
     void disablingBegins(KirvAccount *account);

@@ -156,6 +156,7 @@ void tst_UndoInPage::ctrlZUndoesFromEverywhereInTheWindow()
         QVERIFY2(windows->account(bob), name);
         QVERIFY(windows->row(bob));
         QCOMPARE(windows->messages(), QStringList());
+        QCOMPARE(list()->selectedItems(), QList<QTreeWidgetItem *> { windows->row(bob) }); // although Ctrl is held
     }
     press(list(), Qt::Key_Z); // nothing is left
     QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
