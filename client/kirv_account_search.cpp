@@ -47,6 +47,7 @@ KirvAccountSearch::KirvAccountSearch(const KirvAccountCollection &accounts, cons
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(field, 1);
     layout->addWidget(count);
+    count->hide();
     hide();
 
     turn->setSingleShot(true);
@@ -245,5 +246,6 @@ void KirvAccountSearch::showCount()
     //: how many accounts a search shows, as "3 of 120"
     const QString text = words.isEmpty() ? QString() : tr("%1 of %2").arg(shown).arg(all);
     count->setText(text);
+    count->setVisible(!text.isEmpty());
     field->setAccessibleDescription(text);
 }

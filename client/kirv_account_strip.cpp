@@ -93,8 +93,9 @@ void KirvAccountStrip::fixHeight()
 {
     const int edge = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     icon->setFixedSize(edge, edge);
-    reason->setFixedHeight(linesOfReason * reason->fontMetrics().lineSpacing());
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    reason->setMinimumHeight(reason->fontMetrics().lineSpacing());
+    reason->setMaximumHeight(linesOfReason * reason->fontMetrics().lineSpacing());
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 void KirvAccountStrip::changeEvent(QEvent *event)

@@ -9,8 +9,8 @@ class QLabel;
 class QPushButton;
 class QTextEdit;
 
-/// Says of one account why it is in its state and what can be done. Its height never changes, and its buttons stay
-/// where they are: what cannot be done is disabled.
+/// Says of one account why it is in its state and what can be done. Its height depends on the window only, and its
+/// buttons stay where they are: what cannot be done is disabled.
 class KirvAccountStrip : public QFrame {
     Q_OBJECT
 

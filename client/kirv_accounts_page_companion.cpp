@@ -15,6 +15,7 @@
 #include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
 #include "client/kirv_main_account_selector.h"
+#include "client/kirv_narrow_button.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_selecting_style.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -23,6 +24,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMessageBox>
 #include <QPalette>
@@ -101,6 +103,10 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top)
     });
     if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
         new KirvMainAccountSelector(selector);
+    if (auto *button = top->findChild<QToolButton *>(QStringLiteral("Accounts_RegisterButton")))
+        new KirvNarrowButton(button, top);
+    // Room for one row, also in a small window.
+    list->setMinimumHeight(list->header()->sizeHint().height() + 3 * list->fontMetrics().lineSpacing());
     invite();
     // The page gives the button its menu after this.
     QMetaObject::invokeMethod(

@@ -99,7 +99,9 @@ void KirvSettingsWindow::arrange()
 void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIcon &icon)
 {
     pages->addWidget(page);
-    list->addItem(new QListWidgetItem(icon, title));
+    auto *item = new QListWidgetItem(icon, title);
+    item->setToolTip(title); // in a narrow window only the icon is left
+    list->addItem(item);
     fitListToContents();
     const int row = list->count() - 1;
     if (row == 0 || settings.value(pageKey) == QString::number(row))
@@ -134,5 +136,7 @@ void KirvSettingsWindow::restoreSize()
 
 void KirvSettingsWindow::fitListToContents()
 {
-    list->setFixedWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() + 2 * fontMetrics().averageCharWidth());
+    const int edges = 2 * list->frameWidth() + 2 * fontMetrics().averageCharWidth();
+    list->setMinimumWidth(list->iconSize().width() + edges);
+    list->setMaximumWidth(list->sizeHintForColumn(0) + edges);
 }
