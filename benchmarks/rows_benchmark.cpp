@@ -3,12 +3,14 @@
 // Each takes at most 50 ms with 10,000 accounts.
 #include "benchmarks/measurement.h"
 
+#include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account.h"
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_client_windows.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
@@ -79,7 +81,18 @@ bool measureWith(int count, Table *table)
     const QString state = measure(list, [&](bool isOdd) {
         account->setPresence(windows.protocol->presenceWithId(QLatin1String(isOdd ? "available" : "away"), QString()));
     });
-    table->addRow({ QString::number(count), painting, scrolling, keystroke, state });
+    auto *search = windows.client->accountsPage()->findChild<QLineEdit *>(QStringLiteral("Accounts_Search"));
+    const QString searching = measure(list, [&](bool isOdd) {
+        if (isOdd)
+            QTest::keyClick(search, Qt::Key_Escape);
+        else
+            QTest::keyClick(search, Qt::Key_9);
+    });
+    windows.protocol->server->logIn = KirvFakeServer::Refuses; // so that no question comes
+    QTreeWidgetItem *row = windows.row(idOf(0));
+    const QString toggle =
+        measure(list, [&](bool isOdd) { row->setCheckState(0, isOdd ? Qt::Unchecked : Qt::Checked); });
+    table->addRow({ QString::number(count), painting, scrolling, keystroke, state, searching, toggle });
     return true;
 }
 
@@ -89,7 +102,8 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     Table table({ QStringLiteral("rows"), QStringLiteral("painting"), QStringLiteral("scrolling"),
-                  QStringLiteral("keystroke"), QStringLiteral("change of state") });
+                  QStringLiteral("keystroke"), QStringLiteral("change of state"), QStringLiteral("search"),
+                  QStringLiteral("toggle") });
     for (const int count : { 10, 1000, 10000 }) {
         if (!measureWith(count, &table)) {
             std::fprintf(stderr, "The client with %d accounts could not be started.\n", count);

@@ -3,8 +3,12 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
+#include "client/kirv_account_group.h"
+#include "client/kirv_account_invitation.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_status.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -19,14 +23,16 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace {
 
 template <typename Function>
-QAction *addCommand(QMenu *menu, const char *name, const QString &text, KirvAccount *account, Function function)
+QAction *addCommand(QMenu *menu, const char *name, const QString &text, QObject *context, Function function)
 {
     QAction *action = menu->addAction(text);
     action->setObjectName(QLatin1String(name));
-    QObject::connect(action, &QAction::triggered, account, function);
+    QObject::connect(action, &QAction::triggered, context, function);
     return action;
 }
 
@@ -41,9 +47,15 @@ KirvAccountCommands::KirvAccountCommands(const Environment &environment, KirvAli
     , list(list)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
     , removeButton(top->findChild<QAbstractButton *>(QStringLiteral("Accounts_RemoveButton")))
+    , editButton(top->findChild<QAbstractButton *>(QStringLiteral("Accounts_EditButton")))
 {
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    // The page makes its own connections after this.
+    QMetaObject::invokeMethod(this, &KirvAccountCommands::joinPage, Qt::QueuedConnection);
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
+    if (auto *invitation = top->findChild<KirvAccountInvitation *>())
+        invitation->installEventFilter(this);
     auto *rename = new QShortcut(Qt::Key_F2, list);
     rename->setContext(Qt::WidgetShortcut);
     connect(rename, &QShortcut::activated, this, &KirvAccountCommands::rename);
@@ -59,6 +71,8 @@ bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
             openMenuOfCurrentRow();
         else if (const QTreeWidgetItem *row = watched == list->viewport() ? list->itemAt(request->pos()) : nullptr)
             openMenu(KirvAccountRows::keyOf(row), request->globalPos());
+        else
+            openGeneralMenu(request->globalPos());
         return true;
     }
     if (event->type() != QEvent::KeyPress || watched != list)
@@ -69,6 +83,64 @@ bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
         return false;
     openMenuOfCurrentRow();
     return true;
+}
+
+void KirvAccountCommands::joinPage()
+{
+    connect(list, &QTreeWidget::itemSelectionChanged, this, &KirvAccountCommands::updateButtons);
+    connect(removeButton, &QAbstractButton::clicked, this, &KirvAccountCommands::removeSeveral);
+    const auto shortcuts = list->findChildren<QShortcut *>();
+    for (const QShortcut *shortcut : shortcuts) {
+        if (shortcut->key() == QKeySequence(QKeySequence::Delete))
+            connect(shortcut, &QShortcut::activated, this, &KirvAccountCommands::removeSeveral);
+    }
+    updateButtons();
+}
+
+/// The page looks at the current row only.
+void KirvAccountCommands::updateButtons()
+{
+    if (list->selectionModel()->selectedRows().size() > 1)
+        editButton->setEnabled(false);
+}
+
+/// One is removed by the page.
+void KirvAccountCommands::removeSeveral()
+{
+    const QList<KirvAccountKey> keys = selectedKeys();
+    if (keys.size() > 1)
+        environment.group.remove(keys);
+}
+
+/// In the order of the rows.
+QList<KirvAccountKey> KirvAccountCommands::selectedKeys() const
+{
+    QModelIndexList selected = list->selectionModel()->selectedRows();
+    std::sort(selected.begin(), selected.end());
+    QList<KirvAccountKey> keys;
+    for (const QModelIndex &index : qAsConst(selected)) {
+        if (!list->isRowHidden(index.row(), QModelIndex()))
+            keys << KirvAccountRows::keyOf(index);
+    }
+    return keys;
+}
+
+void KirvAccountCommands::openGroupMenu(const QPoint &position)
+{
+    const QList<KirvAccountKey> keys = selectedKeys();
+    const int count = int(keys.size());
+    KirvAccountGroup *group = &environment.group;
+    QMenu *menu = createMenu();
+    addCommand(menu, "Accounts_EnableSeveralAction", tr("&Enable %n Accounts", nullptr, count), group,
+               [group, keys] { group->enable(keys); });
+    addCommand(menu, "Accounts_DisableSeveralAction", tr("&Disable %n Accounts", nullptr, count), group,
+               [group, keys] { group->disable(keys); });
+    addCommand(menu, "Accounts_RemoveSeveralAction", tr("Re&move %n Accounts…", nullptr, count), group,
+               [group, keys] { group->remove(keys); });
+    menu->addSeparator();
+    addGeneral(menu);
+    menu->popup(position);
+    menu->setActiveAction(menu->actions().first());
 }
 
 KirvAccountKey KirvAccountCommands::currentKey() const
@@ -96,8 +168,13 @@ void KirvAccountCommands::openAddMenu()
 void KirvAccountCommands::openMenuOfCurrentRow()
 {
     QTreeWidgetItem *row = list->currentItem();
-    if (!row || QApplication::activePopupWidget())
+    if (QApplication::activePopupWidget())
         return;
+    if (!row) {
+        const QWidget *place = list->isVisible() ? static_cast<QWidget *>(list->viewport()) : top;
+        openGeneralMenu(place->mapToGlobal(place->rect().center()));
+        return;
+    }
     list->scrollToItem(row);
     openMenu(KirvAccountRows::keyOf(row), list->viewport()->mapToGlobal(list->visualItemRect(row).center()));
 }
@@ -108,15 +185,20 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     QTreeWidgetItem *row = environment.rows.find(key);
     if (!account || !row)
         return;
-    list->setCurrentItem(row);
-    auto *menu = new QMenu(list);
-    menu->setObjectName(QStringLiteral("Accounts_Menu"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (row->isSelected() && list->selectionModel()->selectedRows().size() > 1) {
+        openGroupMenu(position);
+        return;
+    }
+    environment.rows.select(row);
+    QMenu *menu = createMenu();
     addEditing(menu, account);
     menu->addSeparator();
     addConnecting(menu, account);
     menu->addSeparator();
+    addMoving(menu, account);
     addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
+    menu->addSeparator();
+    addGeneral(menu);
     connect(account, &QObject::destroyed, menu, &QWidget::close);
     menu->popup(position);
     menu->setActiveAction(menu->actions().first());
@@ -177,6 +259,60 @@ void KirvAccountCommands::addPresences(QMenu *menu, KirvAccount *account)
     }
 }
 
+void KirvAccountCommands::openGeneralMenu(const QPoint &position)
+{
+    QMenu *menu = createMenu();
+    addGeneral(menu);
+    menu->popup(position);
+    menu->setActiveAction(menu->actions().first());
+}
+
+QMenu *KirvAccountCommands::createMenu()
+{
+    auto *menu = new QMenu(top);
+    menu->setObjectName(QStringLiteral("Accounts_Menu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    return menu;
+}
+
+/// Only in the user's own order.
+void KirvAccountCommands::addMoving(QMenu *menu, KirvAccount *account)
+{
+    const KirvAccountKey key = account->key();
+    if (!environment.order.isOwn())
+        return;
+    for (const bool isUp : { true, false }) {
+        QAction *action = addCommand(menu, isUp ? "Accounts_MoveUpAction" : "Accounts_MoveDownAction",
+                                     isUp ? tr("Move Up") : tr("Move Down"), account,
+                                     [this, key, isUp] { environment.order.move(key, isUp); });
+        action->setEnabled(environment.order.canMove(key, isUp));
+        action->setShortcut(QKeySequence(int(Qt::ALT) | int(isUp ? Qt::Key_Up : Qt::Key_Down)));
+        action->setShortcutContext(Qt::WidgetShortcut); // shown only: the list has the keys
+    }
+    menu->addSeparator();
+}
+
+/// What needs no row.
+void KirvAccountCommands::addGeneral(QMenu *menu)
+{
+    addCommand(menu, "Accounts_DisableAllAction", tr("Disable A&ll…"), &environment.group, [this] {
+        environment.group.disableAll();
+    })->setEnabled(environment.group.canDisableAll());
+    if (environment.group.canEnableAgain())
+        addCommand(menu, "Accounts_EnableAgainAction", tr("Enable Those &Again"), &environment.group,
+                   [this] { environment.group.enableAgain(); });
+    QAction *own = addCommand(menu, "Accounts_OwnOrderAction", tr("&Own Order"), &environment.order,
+                              [this] { environment.order.setOwn(!environment.order.isOwn()); });
+    own->setCheckable(true);
+    own->setChecked(environment.order.isOwn());
+    const QString undo = environment.undo.command();
+    QAction *action = addCommand(menu, "Accounts_UndoAction", undo.isEmpty() ? tr("&Undo") : undo, &environment.undo,
+                                 [this] { environment.undo.undoLatest(); });
+    action->setEnabled(!undo.isEmpty());
+    action->setShortcut(QKeySequence::Undo);
+    action->setShortcutContext(Qt::WidgetShortcut); // shown only: the window has the key
+}
+
 /// As a click on the check box does, with its question.
 void KirvAccountCommands::toggle(const KirvAccountKey &key)
 {
@@ -188,7 +324,7 @@ void KirvAccountCommands::toggle(const KirvAccountKey &key)
 void KirvAccountCommands::remove(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = environment.rows.find(key)) {
-        list->setCurrentItem(row);
+        environment.rows.select(row);
         removeButton->click();
     }
 }

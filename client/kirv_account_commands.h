@@ -8,7 +8,10 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountGroup;
+class KirvAccountOrder;
 class KirvAccountRows;
+class KirvAccountUndo;
 class KirvAliasEditor;
 class KirvMainAccount;
 class KirvServerCommands;
@@ -19,7 +22,8 @@ class QToolButton;
 class QTreeWidget;
 
 /// The commands on the accounts of the page's list, in its context menu and by keys: F2 renames, Ctrl+N adds, the Menu
-/// key and Shift+F10 open the menu.
+/// key and Shift+F10 open the menu. Several selected accounts have a menu of their own, and are removed by the button
+/// and the key of the page, which itself removes one only.
 class KirvAccountCommands : public QObject {
     Q_OBJECT
 
@@ -30,6 +34,9 @@ public:
         const KirvAccountRows &rows;
         KirvServerCommands &serverCommands;
         KirvMainAccount &mainAccount;
+        KirvAccountUndo &undo;
+        KirvAccountGroup &group;
+        KirvAccountOrder &order;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.
@@ -49,6 +56,15 @@ private:
     void addEditing(QMenu *menu, KirvAccount *account);
     void addConnecting(QMenu *menu, KirvAccount *account);
     void addPresences(QMenu *menu, KirvAccount *account);
+    void openGeneralMenu(const QPoint &position);
+    QMenu *createMenu();
+    void addMoving(QMenu *menu, KirvAccount *account);
+    void addGeneral(QMenu *menu);
+    void joinPage();
+    void updateButtons();
+    void removeSeveral();
+    QList<KirvAccountKey> selectedKeys() const;
+    void openGroupMenu(const QPoint &position);
     void toggle(const KirvAccountKey &key);
     void remove(const KirvAccountKey &key);
     KirvAccountKey currentKey() const;
@@ -59,6 +75,7 @@ private:
     QTreeWidget *list;
     QToolButton *addButton;
     QAbstractButton *removeButton;
+    QAbstractButton *editButton;
 };
 
 #endif

@@ -47,3 +47,9 @@ void KirvAccountListFrame::addBelow(QWidget *widget)
     rows->addWidget(widget);
     kirvPlaceInTabOrder(widget);
 }
+
+void KirvAccountListFrame::addAbove(QWidget *widget)
+{
+    rows->insertWidget(0, widget);
+    kirvPlaceInTabOrder(widget);
+}

@@ -18,6 +18,7 @@ public:
 
     /// The frame owns \a widget.
     void addBelow(QWidget *widget);
+    void addAbove(QWidget *widget);
 
 private:
     void takePlaceOf(QWidget *widget, QWidget *place);

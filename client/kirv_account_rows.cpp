@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_account_rows.h"
 
+#include <QItemSelectionModel>
 #include <QTreeWidget>
 
 KirvAccountRows::KirvAccountRows(QTreeWidget *list)
@@ -23,6 +24,11 @@ KirvAccountKey KirvAccountRows::keyOf(const QModelIndex &index)
 {
     return { index.sibling(index.row(), KirvIdColumn).data().toString(),
              index.sibling(index.row(), KirvProtocolColumn).data().toString() };
+}
+
+void KirvAccountRows::select(QTreeWidgetItem *row) const
+{
+    list->setCurrentItem(row, KirvAliasColumn, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 QList<QTreeWidgetItem *> KirvAccountRows::rowsOf(const QString &protocol) const

@@ -28,6 +28,8 @@ public:
     static KirvAccountKey keyOf(const QModelIndex &index);
     /// Null when the account has no row.
     QTreeWidgetItem *find(const KirvAccountKey &key) const { return byKey.value(key); }
+    /// Makes \a row the current one and the only one selected, whatever keys are held down.
+    void select(QTreeWidgetItem *row) const;
     /// The rows of one protocol, by an exact comparison.
     QList<QTreeWidgetItem *> rowsOf(const QString &protocol) const;
 

@@ -93,8 +93,9 @@ void KirvAccountStrip::fixHeight()
 {
     const int edge = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     icon->setFixedSize(edge, edge);
-    reason->setFixedHeight(linesOfReason * reason->fontMetrics().lineSpacing());
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    reason->setMinimumHeight(reason->fontMetrics().lineSpacing());
+    reason->setMaximumHeight(linesOfReason * reason->fontMetrics().lineSpacing());
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 void KirvAccountStrip::changeEvent(QEvent *event)
@@ -118,11 +119,7 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
     reconnectButton->setEnabled(account && KirvAccountStatus(*account, isMain).canReconnect());
     editButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEdit());
     if (!account) {
-        icon->setPixmap(QPixmap());
-        icon->setAccessibleName(QString());
-        title->setText(tr("No account is selected."));
-        setAccessibleName(title->text());
-        reason->clear();
+        showNone(tr("No account is selected."), QString());
         return;
     }
     const KirvAccountStatus status(*account, isMain);
@@ -134,4 +131,21 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
     const QString text = status.reason();
     if (reason->toPlainText() != text) // what is selected in it stays
         reason->setPlainText(text);
+}
+
+void KirvAccountStrip::showSeveral(int count)
+{
+    for (QPushButton *button : { passwordButton, reconnectButton, editButton })
+        button->setEnabled(false);
+    showNone(tr("%n accounts are selected.", nullptr, count),
+             tr("They can be enabled, disabled and removed with the context menu."));
+}
+
+void KirvAccountStrip::showNone(const QString &text, const QString &details)
+{
+    icon->setPixmap(QPixmap());
+    icon->setAccessibleName(QString());
+    title->setText(text);
+    setAccessibleName(text);
+    reason->setPlainText(details);
 }

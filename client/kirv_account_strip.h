@@ -9,8 +9,8 @@ class QLabel;
 class QPushButton;
 class QTextEdit;
 
-/// Says of one account why it is in its state and what can be done. Its height never changes, and its buttons stay
-/// where they are: what cannot be done is disabled.
+/// Says of one account why it is in its state and what can be done. Its height depends on the window only, and its
+/// buttons stay where they are: what cannot be done is disabled.
 class KirvAccountStrip : public QFrame {
     Q_OBJECT
 
@@ -19,6 +19,8 @@ public:
 
     /// Shows \a account as it is now; null: none. The account is not kept. \a isMain: it is the main account.
     void show(const KirvAccount *account, bool isMain);
+    /// Says that \a count accounts are selected.
+    void showSeveral(int count);
     /// To be called when the strip is in its window: gives the buttons mnemonics that the window has not.
     void chooseMnemonics();
 
@@ -35,6 +37,7 @@ private:
     QPushButton *createButton(const char *name, const QString &text, const QString &toolTip);
     void arrange();
     void fixHeight();
+    void showNone(const QString &text, const QString &details);
 
     QLabel *icon;
     QLabel *title;

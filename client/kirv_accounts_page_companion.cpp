@@ -3,14 +3,19 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_commands.h"
+#include "client/kirv_account_group.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
 #include "client/kirv_account_rows.h"
+#include "client/kirv_account_search.h"
 #include "client/kirv_account_strip.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
 #include "client/kirv_main_account_selector.h"
+#include "client/kirv_narrow_button.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_selecting_style.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -19,6 +24,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMessageBox>
 #include <QPalette>
@@ -30,19 +36,30 @@
 #include <algorithm>
 #include <utility>
 
-KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts,
-                                                     KirvServerCommands &serverCommands, KirvMainAccount &mainAccount)
+namespace {
+
+/// What the row of an account without an alias shows is its login.
+QString shownName(const KirvAccount &account)
+{
+    const QString alias = account.getAlias();
+    return alias.isEmpty() ? account.displayName() : alias;
+}
+
+} // namespace
+
+KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environment &environment)
     : QObject(top)
-    , accounts(accounts)
+    , accounts(environment.accounts)
     , list(top->findChild<QTreeWidget *>(QStringLiteral("Accounts_List")))
     , rows(new KirvAccountRows(list))
     , states(new KirvAccountRowStates(accounts, *rows, list))
     , strip(new KirvAccountStrip)
+    , searchBar(new KirvAccountSearch(accounts, *rows, list))
     , invitation(new KirvAccountInvitation)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
     addWidgets(top);
-    addCommands(top, serverCommands, mainAccount);
+    addCommands(top, environment);
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this, [this](const KirvAccount *account) {
@@ -51,7 +68,15 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, KirvAccountCo
     });
     connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
         const QTreeWidgetItem *row = rows->find(account->key());
-        if (row && row->text(KirvAliasColumn) != account->getAlias())
+        if (row && !isUpToDate(row, *account)) {
+            updateRow(account);
+            refreshLater();
+        }
+    });
+    // After a save the page rewrites the row itself, with an alias that may be empty.
+    connect(list->model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &index) {
+        const KirvAccount *account = accounts.find(KirvAccountRows::keyOf(index));
+        if (index.column() == KirvAliasColumn && account && index.data().toString() != shownName(*account))
             syncRowLater(account->key());
     });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
@@ -66,6 +91,7 @@ KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
 void KirvAccountsPageCompanion::addWidgets(QWidget *top)
 {
     auto *frame = new KirvAccountListFrame(list);
+    frame->addAbove(searchBar);
     frame->addBelow(strip);
     frame->addBelow(invitation);
     strip->chooseMnemonics();
@@ -77,20 +103,27 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top)
     });
     if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
         new KirvMainAccountSelector(selector);
+    if (auto *button = top->findChild<QToolButton *>(QStringLiteral("Accounts_RegisterButton")))
+        new KirvNarrowButton(button, top);
+    // Room for one row, also in a small window.
+    list->setMinimumHeight(list->header()->sizeHint().height() + 3 * list->fontMetrics().lineSpacing());
     invite();
     // The page gives the button its menu after this.
     QMetaObject::invokeMethod(
         this, [this] { invitation->setAddMenu(addButton->menu()); }, Qt::QueuedConnection);
 }
 
-void KirvAccountsPageCompanion::addCommands(QWidget *top, KirvServerCommands &serverCommands,
-                                            KirvMainAccount &mainAccount)
+void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &environment)
 {
     auto *delegate = new KirvAccountRowDelegate(accounts, list);
     list->setItemDelegate(delegate);
     list->setStyle(new KirvSelectingStyle(list));
     aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
-    auto *commands = new KirvAccountCommands({ accounts, *rows, serverCommands, mainAccount }, aliasEditor, top, list);
+    auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
+    auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
+    auto *commands = new KirvAccountCommands(
+        { accounts, *rows, environment.serverCommands, environment.mainAccount, environment.undo, *group, *order },
+        aliasEditor, top, list);
     connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
 }
 
@@ -103,7 +136,8 @@ void KirvAccountsPageCompanion::selectNewRow(const KirvAccountKey &key)
         std::any_of(questions.begin(), questions.end(), [](const QMessageBox *box) { return box->isVisible(); });
     if (!row || isAsked || aliasEditor->isOpen())
         return;
-    list->setCurrentItem(row);
+    searchBar->reveal(key);
+    rows->select(row);
     list->scrollToItem(row);
 }
 
@@ -136,6 +170,8 @@ void KirvAccountsPageCompanion::connectStrip()
     // The selection model's signals come also while those of the list are blocked.
     connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &KirvAccountsPageCompanion::refreshStripLater);
+    connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &KirvAccountsPageCompanion::refreshStripLater);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
         if (account == currentAccount())
             refreshStripLater();
@@ -164,6 +200,11 @@ void KirvAccountsPageCompanion::refreshStripLater()
 void KirvAccountsPageCompanion::refreshStrip()
 {
     isStripDue = false;
+    const int selected = int(list->selectionModel()->selectedRows().size());
+    if (selected > 1) {
+        strip->showSeveral(selected);
+        return;
+    }
     const KirvAccount *account = currentAccount();
     strip->show(account, account && account == KirvAccountManager::getInstance()->getMainAccount());
 }
@@ -197,7 +238,12 @@ void KirvAccountsPageCompanion::protocolUnloaded(const QString &protocol)
 {
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
     page->removeProtocolAccounts(protocol);
-    markUnloaded(protocol);
+    const QList<QTreeWidgetItem *> kept = rows->rowsOf(protocol);
+    {
+        const QSignalBlocker noItemChanged(list);
+        for (QTreeWidgetItem *row : kept)
+            markUnloaded(row);
+    }
     if (page->isVisible())
         page->updateAccounts();
 }
@@ -264,22 +310,58 @@ void KirvAccountsPageCompanion::syncRows()
         KirvAccount *account = accounts.find(key);
         if (!account)
             remove(key);
-        else if (rows->find(key))
-            updateAlias(account);
-        else if (account->isLoaded())
+        else if (!rows->find(key) && account->isLoaded())
             page->addAccountEntry(account);
+        if (account && rows->find(key))
+            updateRow(account);
     }
+    listUnloaded();
     invite();
+    searchBar->accountsChanged();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
     selectNewRow(std::exchange(added, KirvAccountKey()));
 }
 
-/// A new alias that another part of the program gave.
-void KirvAccountsPageCompanion::updateAlias(const KirvAccount *account)
+bool KirvAccountsPageCompanion::isUpToDate(const QTreeWidgetItem *row, const KirvAccount &account)
+{
+    return row->text(KirvAliasColumn) == shownName(account)
+        && (row->checkState(KirvAliasColumn) == Qt::Checked) == account.record().enabled;
+}
+
+/// What another part of the program changed. The check box comes before the next refresh of the page, which would
+/// handle it as a click.
+void KirvAccountsPageCompanion::updateRow(const KirvAccount *account)
 {
     const QSignalBlocker noItemChanged(list);
-    rows->find(account->key())->setText(KirvAliasColumn, account->getAlias());
+    QTreeWidgetItem *row = rows->find(account->key());
+    row->setText(KirvAliasColumn, shownName(*account));
+    row->setCheckState(KirvAliasColumn, account->record().enabled ? Qt::Checked : Qt::Unchecked);
+}
+
+/// The page lists the accounts of loaded protocols only.
+void KirvAccountsPageCompanion::listUnloaded()
+{
+    if (!mayListUnloaded)
+        return;
+    QList<QTreeWidgetItem *> missing;
+    const QList<KirvAccount *> all = accounts.accounts();
+    for (const KirvAccount *account : all) {
+        const KirvAccountKey key = account->key();
+        if (account->isLoaded() || rows->find(key))
+            continue;
+        auto *row = new QTreeWidgetItem({ shownName(*account), key.protocol, key.id });
+        row->setCheckState(KirvAliasColumn, account->record().enabled ? Qt::Checked : Qt::Unchecked);
+        markUnloaded(row);
+        missing << row;
+    }
+    list->addTopLevelItems(missing);
+}
+
+void KirvAccountsPageCompanion::pluginsLoaded()
+{
+    mayListUnloaded = true;
+    refreshLater();
 }
 
 /// A row that was current leaves no current row behind: an open question about it must not become one about its
@@ -297,18 +379,14 @@ void KirvAccountsPageCompanion::removeAll(const QString &protocol)
         takeAway(row);
 }
 
-void KirvAccountsPageCompanion::markUnloaded(const QString &protocol)
+void KirvAccountsPageCompanion::markUnloaded(QTreeWidgetItem *row) const
 {
-    const QSignalBlocker noItemChanged(list);
     const QBrush grey = list->palette().brush(QPalette::Disabled, QPalette::Text);
     const QString reason = QCoreApplication::translate(
         "KirvAccountsPageCompanion", "The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.");
-    const QList<QTreeWidgetItem *> removed = rows->rowsOf(protocol);
-    for (QTreeWidgetItem *row : removed) {
-        for (int column : { KirvAliasColumn, KirvProtocolColumn }) {
-            row->setForeground(column, grey);
-            row->setToolTip(column, kirvPlainToolTip(reason.arg(protocol)));
-        }
+    for (int column : { KirvAliasColumn, KirvProtocolColumn }) {
+        row->setForeground(column, grey);
+        row->setToolTip(column, kirvPlainToolTip(reason.arg(row->text(KirvProtocolColumn))));
     }
 }
 
@@ -321,7 +399,7 @@ KirvAccountKey KirvAccountsPageCompanion::current() const
 void KirvAccountsPageCompanion::setCurrent(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = rows->find(key))
-        list->setCurrentItem(row);
+        rows->select(row);
 }
 
 void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)

@@ -14,8 +14,11 @@ class KirvAccountCollection;
 class KirvAccountInvitation;
 class KirvAccountRows;
 class KirvAccountRowStates;
+class KirvAccountSearch;
 class KirvAccountStrip;
+class KirvAccountUndo;
 class KirvAliasEditor;
+class KirvClientSettings;
 class KirvMainAccount;
 class KirvServerCommands;
 class QToolButton;
@@ -32,15 +35,26 @@ class KirvAccountsPageCompanion : public QObject {
     Q_OBJECT
 
 public:
-    /// \a top was just built for the page. The others are not owned and outlive it.
-    KirvAccountsPageCompanion(QWidget *top, KirvAccountCollection &accounts, KirvServerCommands &serverCommands,
-                              KirvMainAccount &mainAccount);
+    /// What the page works on. Nothing is owned, and all of it outlives the page.
+    struct Environment {
+        KirvAccountCollection &accounts;
+        KirvServerCommands &serverCommands;
+        KirvMainAccount &mainAccount;
+        KirvAccountUndo &undo;
+        KirvClientSettings &settings;
+    };
+
+    /// \a top was just built for the page.
+    KirvAccountsPageCompanion(QWidget *top, const Environment &environment);
     ~KirvAccountsPageCompanion() override;
 
     /// The protocol was loaded, and its accounts with it.
     void protocolLoaded(const QString &protocol);
     /// The protocol was unloaded: its rows stay, greyed, as the accounts can still be disabled and removed.
     void protocolUnloaded(const QString &protocol);
+    /// Every plug-in that there is was loaded: accounts of protocols that are not there get rows, too, greyed as those
+    /// of protocolUnloaded().
+    void pluginsLoaded();
     /// Makes the page show again, from the event loop, what is stored: a change that it shows was refused.
     void refreshLater();
     /// Another account may have become the main account: the rows say so, and the page is refreshed.
@@ -63,7 +77,7 @@ private:
     };
 
     void addWidgets(QWidget *top);
-    void addCommands(QWidget *top, KirvServerCommands &serverCommands, KirvMainAccount &mainAccount);
+    void addCommands(QWidget *top, const Environment &environment);
     void connectStrip();
     void invite();
     void selectNewRow(const KirvAccountKey &key);
@@ -75,10 +89,12 @@ private:
     void syncRowLater(const KirvAccountKey &key);
     void syncRows();
 
-    void updateAlias(const KirvAccount *account);
+    static bool isUpToDate(const QTreeWidgetItem *row, const KirvAccount &account);
+    void updateRow(const KirvAccount *account);
+    void listUnloaded();
     void remove(const KirvAccountKey &key);
     void removeAll(const QString &protocol);
-    void markUnloaded(const QString &protocol);
+    void markUnloaded(QTreeWidgetItem *row) const;
     KirvAccountKey current() const;
     void setCurrent(const KirvAccountKey &key);
 
@@ -89,12 +105,14 @@ private:
     KirvAccountRows *rows;
     KirvAccountRowStates *states;
     KirvAccountStrip *strip;
+    KirvAccountSearch *searchBar;
     KirvAccountInvitation *invitation;
     QToolButton *addButton;
     KirvAliasEditor *aliasEditor = nullptr;
     std::vector<KeptRow> keptRows;
     KirvAccountKey added; ///< the latest account, until its row is selected
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
+    bool mayListUnloaded = false;
     bool isSyncDue = false;
     bool isStripDue = false;
 };

@@ -2,9 +2,9 @@
 #include "client/kirv_client.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
-#include "client/kirv_connection_view.h"
 #include "client/kirv_first_paint.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
@@ -17,6 +17,7 @@
 #include "client/kirv_wheel_guard.h"
 #include "client/kirv_window_companions.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_history.h"
 #include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/plugins/kirv_plugin_queue.h"
@@ -90,11 +91,6 @@ KirvAccountsTab *KirvClient::accountsPage() const
     return page;
 }
 
-KirvConnectionView *KirvClient::connectionView() const
-{
-    return connections;
-}
-
 KirvPluginsPage *KirvClient::pluginsPage() const
 {
     return pluginList;
@@ -126,6 +122,7 @@ void KirvClient::createServices()
     pluginLoader = std::make_unique<KirvPluginLoader>();
     pluginsToLoad = std::make_unique<KirvPluginQueue>(*pluginLoader, profile.filePath(QStringLiteral("plugins.json")));
     services = std::make_unique<KirvHostServices>(*accountCollection, *pluginLoader, *clientSettings);
+    history = std::make_unique<KirvAccountHistory>(*accountCollection, services->mainAccountRule);
     layouts = std::make_unique<KirvLayoutCatalog>();
     clientSettings->setThemeFolder(profile.filePath(QStringLiteral("themes")));
     layouts->setOverrideFolder(profile.filePath(QStringLiteral("layouts")));
@@ -140,14 +137,16 @@ void KirvClient::createWindow()
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
-    companions = new KirvWindowCompanions(*layouts, *accountCollection, *serverCommands, services->mainAccountRule,
-                                          settingsWindow.get());
+    auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
+    companions = new KirvWindowCompanions(
+        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings },
+        settingsWindow.get());
     connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
     page = KirvAccountsTab::getInstance();
-    connections = new KirvConnectionView(*accountCollection, *serverCommands);
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
-    settingsWindow->addPage(connections, tr("Connections"), themeIcon(QStringLiteral("network-wired")));
+    if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
+        settingsWindow->messageBar()->floatOver(list);
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
@@ -158,8 +157,6 @@ void KirvClient::createWindow()
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
-    connect(connections, &KirvConnectionView::editRequested, this, &KirvClient::edit);
-    connect(connections, &KirvConnectionView::passwordRequested, passwordQuestions, &KirvPasswordQuestions::ask);
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
             &KirvPasswordQuestions::ask);
 }
@@ -173,6 +170,8 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
     connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
+    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, companions->page(),
+            &KirvAccountsPageCompanion::pluginsLoaded);
     // Queued, as the window runs an event loop of its own.
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
     if (const auto *application = qobject_cast<KirvApplication *>(QCoreApplication::instance()))
@@ -196,6 +195,7 @@ void KirvClient::loadPlugins()
         return;
     isLoadingStarted = true;
     if (!pluginsToLoad->loadFolder(options.pluginFolder)) {
+        companions->page()->pluginsLoaded();
         //: %1 = path of a folder
         showProblem(tr("There is no folder %1, so no protocol is available.")
                         .arg(QDir::toNativeSeparators(options.pluginFolder)));
@@ -247,16 +247,10 @@ void KirvClient::accountChanged(KirvAccount *account)
         updateTitle();
 }
 
-void KirvClient::edit(KirvAccount *account)
-{
-    if (account->isLoaded())
-        page->editAccount(account);
-}
-
 void KirvClient::mainAccountChanged()
 {
     updateTitle();
-    connections->refreshMainAccount();
+    settingsWindow->messageBar()->removeMessage(std::exchange(passingOn, QString())); // it names another one
     if (companions->page())
         companions->page()->mainAccountChanged();
 }
@@ -268,7 +262,8 @@ void KirvClient::mainAccountPassedOn(const QString &previous, KirvMainAccount::R
         ? tr("%1 is the main account now, because %2 was removed.")
         //: %1 and %2 = names of accounts
         : tr("%1 is the main account now, because %2 was disabled.");
-    showProblem(text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous)));
+    passingOn = text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous));
+    settingsWindow->messageBar()->showMessage(passingOn, QString(), {}, KirvMessageBar::Information);
 }
 
 void KirvClient::updateTitle()

@@ -11,8 +11,8 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountHistory;
 class KirvAccountsTab;
-class KirvConnectionView;
 class KirvHostServices;
 class KirvLayoutCatalog;
 class KirvPasswordQuestions;
@@ -56,7 +56,6 @@ public:
     KirvClientSettings &settings() const { return *clientSettings; }
     KirvSettingsWindow *window() const { return settingsWindow.get(); }
     KirvAccountsTab *accountsPage() const;
-    KirvConnectionView *connectionView() const;
     KirvPluginsPage *pluginsPage() const;
 
 Q_SIGNALS:
@@ -79,7 +78,6 @@ private:
     void protocolAboutToBeUnloaded(KirvProtocolBase *protocol);
     void creationRefused(const KirvAccountKey &key, const QString &reason);
     void accountChanged(KirvAccount *account);
-    void edit(KirvAccount *account);
     void updateTitle();
     void mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next);
     void showNotice(const KirvAccount *account, const QString &text);
@@ -88,6 +86,7 @@ private:
 
     const KirvClientOptions options;
     KirvAccountLink unopenedLink;
+    QString passingOn; ///< the message about the main account
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;
@@ -97,10 +96,10 @@ private:
     std::unique_ptr<KirvPluginQueue> pluginsToLoad;
     bool isLoadingStarted = false;
     std::unique_ptr<KirvHostServices> services;
+    std::unique_ptr<KirvAccountHistory> history;
     std::unique_ptr<KirvLayoutCatalog> layouts;
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
     QPointer<KirvAccountsTab> page;
-    QPointer<KirvConnectionView> connections;
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;

@@ -3,6 +3,8 @@
 #define KIRV_MESSAGE_BAR_H
 
 #include <QFrame>
+#include <QList>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -10,30 +12,51 @@
 
 class QVBoxLayout;
 
-/// Problems shown inside the window, above its pages, without stopping the user: one paragraph of plain text
-/// each, with a button that takes it away. Hidden while there is none.
+/// What the user should know, shown inside the window without stopping the user: one paragraph of plain text each, with
+/// a button that takes it away. Hidden while there is none.
+///
+/// The bar floats over its window: nothing there moves when messages come and go. It stands at the bottom of a place,
+/// or at the top when the pointer is there as it appears, and grows away from that edge.
 class KirvMessageBar : public QFrame {
     Q_OBJECT
 
 public:
+    enum Kind { Problem, Information };
+
     explicit KirvMessageBar(QWidget *parent = nullptr);
 
+    /// Stands over \a place while that is visible, rather than over the places of earlier calls. It is in the bar's
+    /// window and not owned.
+    void floatOver(QWidget *place);
     /// Shows \a message, in which nothing is interpreted and nothing turns the text around. The same text is not shown
     /// twice; of many, the latest stay.
     void showMessage(const QString &message);
     /// The same with a button: \a command is its text, \a action is what it does.
-    void showMessage(const QString &message, const QString &command, const std::function<void()> &action);
+    void showMessage(const QString &message, const QString &command, const std::function<void()> &action,
+                     Kind kind = Problem);
     /// Takes \a message away, if it is shown.
     void removeMessage(const QString &message);
     /// The texts shown now, oldest first.
     QStringList messages() const { return texts; }
 
-private:
-    QWidget *createRow(const QString &text, QWidget *button);
-    void removeRow(int index);
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
-    QVBoxLayout *rows; ///< one row per text, in the same order
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    QWidget *createRow(const QString &text, QWidget *button, Kind kind);
+    void removeRow(int index);
+    const QWidget *place() const;
+    QRect areaAt(bool isTop) const;
+    void chooseEdge();
+    void arrange();
+
+    QVBoxLayout *layout;
+    QList<QWidget *> rows; ///< one row per text, in the same order
     QStringList texts;
+    QList<QPointer<QWidget>> places; ///< the latest first
+    bool isAtTop = false;
 };
 
 #endif

@@ -14,6 +14,7 @@
 
 namespace {
 const QLatin1String geometryKey("settings_window/geometry");
+const QLatin1String pageKey("settings_window/page");
 }
 
 KirvSettingsWindow::KirvSettingsWindow(KirvClientSettings &settings, QWidget *parent)
@@ -62,6 +63,9 @@ KirvSettingsWindow::~KirvSettingsWindow()
     const QString geometry = QString::fromLatin1(saveGeometry().toBase64());
     if (settings.value(geometryKey) != geometry)
         settings.setValue(geometryKey, geometry);
+    const QString page = QString::number(list->currentRow());
+    if (settings.value(pageKey) != page)
+        settings.setValue(pageKey, page);
 }
 
 /// Each page has margins of its own; what stands beside and above them gets the same.
@@ -84,21 +88,24 @@ void KirvSettingsWindow::arrange()
     newsLayout->setContentsMargins(left, top, left, 0);
     newsLayout->setSpacing(top);
     newsLayout->addWidget(banner);
-    newsLayout->addWidget(messages);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(newsLayout);
     layout->addLayout(pagesLayout, 1);
+    messages->floatOver(pages);
 }
 
 void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIcon &icon)
 {
     pages->addWidget(page);
-    list->addItem(new QListWidgetItem(icon, title));
+    auto *item = new QListWidgetItem(icon, title);
+    item->setToolTip(title); // in a narrow window only the icon is left
+    list->addItem(item);
     fitListToContents();
-    if (list->currentRow() < 0)
-        list->setCurrentRow(0);
+    const int row = list->count() - 1;
+    if (row == 0 || settings.value(pageKey) == QString::number(row))
+        list->setCurrentRow(row);
 }
 
 void KirvSettingsWindow::showPage(QWidget *page)
@@ -129,5 +136,7 @@ void KirvSettingsWindow::restoreSize()
 
 void KirvSettingsWindow::fitListToContents()
 {
-    list->setFixedWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() + 2 * fontMetrics().averageCharWidth());
+    const int edges = 2 * list->frameWidth() + 2 * fontMetrics().averageCharWidth();
+    list->setMinimumWidth(list->iconSize().width() + edges);
+    list->setMaximumWidth(list->sizeHintForColumn(0) + edges);
 }

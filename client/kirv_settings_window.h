@@ -10,12 +10,12 @@ class QLabel;
 class QListWidget;
 class QStackedWidget;
 
-/// The settings window: a list of pages, the chosen page beside it, and above it what the user should know.
+/// The settings window: a list of pages and the chosen page beside it, and over it what the user should know.
 class KirvSettingsWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// The window remembers its size in \a settings, which is not owned and outlives the window.
+    /// The window remembers its size and its page in \a settings, which is not owned and outlives the window.
     explicit KirvSettingsWindow(KirvClientSettings &settings, QWidget *parent = nullptr);
     ~KirvSettingsWindow() override;
 

@@ -2,7 +2,6 @@
 #include "client/kirv_window_companions.h"
 
 #include "add_account/kirv_add_account_dialog.h"
-#include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_add_window_companion.h"
 #include "client/kirv_edit_window_companion.h"
 #include "client/kirv_link_target.h"
@@ -11,13 +10,10 @@
 
 #include <algorithm>
 
-KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
-                                           KirvServerCommands &serverCommands, KirvMainAccount &mainAccount,
-                                           QObject *parent)
+KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts,
+                                           const KirvAccountsPageCompanion::Environment &environment, QObject *parent)
     : QObject(parent)
-    , accounts(accounts)
-    , serverCommands(serverCommands)
-    , mainAccount(mainAccount)
+    , environment(environment)
 {
     connect(&layouts, &KirvLayoutCatalog::windowBuilt, this, &KirvWindowCompanions::add);
 }
@@ -52,13 +48,14 @@ void KirvWindowCompanions::add(const QString &layout, QWidget *top)
 {
     auto *dialog = qobject_cast<KirvLayoutDialog *>(top);
     if (layout == QLatin1String("Accounts")) {
-        pageCompanion = new KirvAccountsPageCompanion(top, accounts, serverCommands, mainAccount);
+        pageCompanion = new KirvAccountsPageCompanion(top, environment);
         connect(new KirvLinkTarget(top), &KirvLinkTarget::linkTaken, this, &KirvWindowCompanions::linkTaken);
     } else if (KirvEditAccountDialog *controller = KirvEditAccountDialog::of(dialog)) {
         editWindows.removeAll(nullptr);
-        editWindows << new KirvEditWindowCompanion(dialog, controller, accounts, serverCommands);
+        editWindows << new KirvEditWindowCompanion(dialog, controller, environment.accounts,
+                                                   environment.serverCommands);
     } else if (const KirvAddAccountDialog *controller = KirvAddAccountDialog::of(dialog)) {
         addWindows.removeAll(nullptr);
-        addWindows << new KirvAddWindowCompanion(dialog, controller, accounts);
+        addWindows << new KirvAddWindowCompanion(dialog, controller, environment.accounts);
     }
 }

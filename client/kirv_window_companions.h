@@ -3,19 +3,16 @@
 #define KIRV_WINDOW_COMPANIONS_H
 
 #include "client/kirv_account_link.h"
+#include "client/kirv_accounts_page_companion.h"
 #include "core/values/kirv_account_key.h"
 
 #include <QList>
 #include <QObject>
 #include <QPointer>
 
-class KirvAccountCollection;
-class KirvAccountsPageCompanion;
 class KirvAddWindowCompanion;
 class KirvEditWindowCompanion;
 class KirvLayoutCatalog;
-class KirvMainAccount;
-class KirvServerCommands;
 class QWidget;
 
 /// Gives each window that is built from a layout its companion, as soon as it is built.
@@ -23,9 +20,9 @@ class KirvWindowCompanions : public QObject {
     Q_OBJECT
 
 public:
-    /// None is owned, and all outlive this.
-    KirvWindowCompanions(KirvLayoutCatalog &layouts, KirvAccountCollection &accounts,
-                         KirvServerCommands &serverCommands, KirvMainAccount &mainAccount, QObject *parent = nullptr);
+    /// \a layouts is not owned, and outlives this.
+    KirvWindowCompanions(KirvLayoutCatalog &layouts, const KirvAccountsPageCompanion::Environment &environment,
+                         QObject *parent = nullptr);
 
     /// That of the page; null before the page is built and after it is gone.
     KirvAccountsPageCompanion *page() const;
@@ -41,9 +38,7 @@ Q_SIGNALS:
 private:
     void add(const QString &layout, QWidget *top);
 
-    KirvAccountCollection &accounts;
-    KirvServerCommands &serverCommands;
-    KirvMainAccount &mainAccount;
+    const KirvAccountsPageCompanion::Environment environment;
     QPointer<KirvAccountsPageCompanion> pageCompanion;
     QList<QPointer<KirvEditWindowCompanion>> editWindows;
     QList<QPointer<KirvAddWindowCompanion>> addWindows;

@@ -253,6 +253,8 @@ bool KirvAccount::setEnabled(bool enabled)
         return true;
     const KirvPresence presence = logInPresence();
     const QPointer<KirvAccount> alive(this);
+    if (!enabled)
+        Q_EMIT disablingBegins();
     const bool isStored = change([&](KirvAccountRecord &record) {
         record.enabled = enabled;
         if (enabled)
@@ -496,5 +498,6 @@ void KirvAccount::setFailure(const KirvFailure &newFailure)
 
 void KirvAccount::refreshDescription()
 {
-    description = KirvAccountInfo(current.key.id, kirvEditablePart(current.alias), current.enabled);
+    const QString name = current.alias.isEmpty() ? displayName() : kirvEditablePart(current.alias);
+    description = KirvAccountInfo(current.key.id, name, current.enabled);
 }

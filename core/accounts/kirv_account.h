@@ -106,6 +106,8 @@ public:
 Q_SIGNALS:
     /// Anything about it changed: what is stored, the state of its connection, the last failure.
     void changed();
+    /// The account is going to be disabled, or the store refuses that. A slot of this signal changes nothing.
+    void disablingBegins();
     /// The store did not take a change; \a reason is a sentence for the user.
     void refused(const QString &reason);
     /// The account cannot log in without a password. Reply with providePassword().

@@ -2,8 +2,11 @@
 #include "core/accounts/kirv_account_collection.h"
 
 #include "core/store/kirv_store.h"
+#include "core/values/kirv_bounded_image.h"
 
 #include <QEventLoop>
+#include <QFile>
+#include <QTemporaryFile>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -185,6 +188,7 @@ KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
     siblings.infos.append(account->info());
 
     connect(account, &KirvAccount::changed, this, [this, account] { Q_EMIT accountChanged(account); });
+    connect(account, &KirvAccount::disablingBegins, this, [this, account] { Q_EMIT disablingBegins(account); });
     connect(account, &KirvAccount::refused, this, &KirvAccountCollection::refuse);
     connect(account, &KirvAccount::passwordNeeded, this, [this, account] { Q_EMIT passwordNeeded(account); });
     connect(account, &KirvAccount::noticeReceived, this,
@@ -216,16 +220,24 @@ QString KirvAccountCollection::idWithSameLogin(const KirvAccountKey &key) const
     return byKey.contains(key) ? key.id : logins.find(key);
 }
 
-QString KirvAccountCollection::problemWithNew(const KirvAccountKey &key) const
+/// Empty when there is no such account.
+QString KirvAccountCollection::whyExists(const KirvAccountKey &key) const
 {
     const QString same = idWithSameLogin(key);
-    if (same == key.id && !same.isEmpty())
+    if (same.isEmpty())
+        return QString();
+    if (same == key.id)
         return tr("The account \"%1\" (%2) exists already.").arg(key.id, key.protocol);
-    if (!same.isEmpty()) {
-        //: %1 and %3 are two spellings of a login, %2 is the name of a protocol
-        return tr("The account \"%1\" (%2) exists already: it is the same as \"%3\" to the server.")
-            .arg(key.id, key.protocol, same);
-    }
+    //: %1 and %3 are two spellings of a login, %2 is the name of a protocol
+    return tr("The account \"%1\" (%2) exists already: it is the same as \"%3\" to the server.")
+        .arg(key.id, key.protocol, same);
+}
+
+QString KirvAccountCollection::problemWithNew(const KirvAccountKey &key) const
+{
+    const QString twin = whyExists(key);
+    if (!twin.isEmpty())
+        return twin;
     const KirvProtocolBase *protocol = protocols.value(key.protocol);
     if (!protocol)
         return protocolIsNotLoaded(key);
@@ -263,26 +275,176 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
 
 bool KirvAccountCollection::remove(KirvAccount *account)
 {
-    if (account->isRemoved())
+    return remove(QList<KirvAccount *> { account });
+}
+
+bool KirvAccountCollection::remove(const QList<KirvAccount *> &accounts)
+{
+    QList<QPointer<KirvAccount>> removed;
+    for (KirvAccount *account : accounts) {
+        if (account->isRemoved())
+            continue;
+        removed << account;
+        Q_EMIT removalBegins(account);
+    }
+    if (removed.isEmpty())
         return true;
     // The one step that can be refused comes first: nothing has happened yet then.
-    if (!store.removeAccount(account->key())) {
-        const QPointer<KirvAccount> refused(account);
-        refuse(store.lastError());
-        if (refused)
-            Q_EMIT removalRefused(account);
+    const bool isStored = store.begin() && std::all_of(removed.begin(), removed.end(), [this](const auto &account) {
+                              return store.removeAccount(account->key());
+                          });
+    if (!isStored)
+        store.rollBack();
+    if (!isStored || !store.commit()) {
+        refuseRemoval(removed);
         return false;
     }
     error.clear();
+    const QPointer<KirvAccountCollection> alive(this);
+    for (const QPointer<KirvAccount> &account : qAsConst(removed)) {
+        if (alive && account && !account->isRemoved())
+            removeStored(account);
+    }
+    return true;
+}
+
+void KirvAccountCollection::refuseRemoval(const QList<QPointer<KirvAccount>> &accounts)
+{
+    const QPointer<KirvAccountCollection> alive(this);
+    refuse(store.lastError());
+    for (const QPointer<KirvAccount> &account : accounts) {
+        if (alive && account)
+            Q_EMIT removalRefused(account);
+    }
+}
+
+/// The store has removed it already.
+void KirvAccountCollection::removeStored(KirvAccount *account)
+{
     const KirvAccountKey key = account->key();
     account->leave();
     const QPointer<KirvAccountCollection> alive(this);
     Q_EMIT accountAboutToBeRemoved(account);
     if (!alive)
-        return true;
+        return;
     takeOut(account, key);
     Q_EMIT accountRemoved(key.id, key.protocol);
+}
+
+KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account) const
+{
+    KirvRemovedAccount copy;
+    copy.record = account->record();
+    copy.presence = account->presence();
+    QFile picture(account->avatarPath());
+    if (!copy.record.avatar.isEmpty() && picture.open(QIODevice::ReadOnly))
+        copy.picture = picture.read(KirvBoundedImage::maximumBytes);
+    const int index = int(all.indexOf(const_cast<KirvAccount *>(account)));
+    if (index > 0)
+        copy.previous = all.at(index - 1)->key();
+    if (index + 1 < all.size())
+        copy.next = all.at(index + 1)->key();
+    return copy;
+}
+
+KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
+{
+    error = whyExists(removed.record.key);
+    if (!error.isEmpty())
+        return nullptr;
+    KirvAccountRecord record = removed.record;
+    record.avatar = importPicture(removed.picture);
+    const KirvAccount *next = accountAfter(removed);
+    if ((record.avatar.isEmpty() && !removed.picture.isEmpty()) || !insertBefore(record, next)) {
+        error = store.lastError();
+        store.discardAvatar(record.avatar);
+        return nullptr;
+    }
+    const QPointer<KirvAccountCollection> alive(this);
+    const QPointer<KirvAccount> account = append(record);
+    arrange(account, next);
+    loadRestored(account, removed.presence);
+    if (alive && account)
+        Q_EMIT accountAdded(account);
+    return alive && account && byKey.value(record.key) == account ? account.data() : nullptr;
+}
+
+/// The name under which the picture is in the profile; empty when there is none, or the store refuses.
+QString KirvAccountCollection::importPicture(const QByteArray &picture)
+{
+    QTemporaryFile file;
+    if (!picture.isEmpty() && file.open() && file.write(picture) == picture.size() && file.flush())
+        return store.importAvatar(file.fileName());
+    return QString();
+}
+
+bool KirvAccountCollection::insertBefore(const KirvAccountRecord &record, const KirvAccount *next)
+{
+    if (!store.begin())
+        return false;
+    if (store.insertAccount(record) && (!next || store.placeAccount(record.key, next->key())))
+        return store.commit();
+    store.rollBack();
+    return false;
+}
+
+/// The account that a removed one comes before: the neighbours tell it, as far as they are there. Null: the end.
+const KirvAccount *KirvAccountCollection::accountAfter(const KirvRemovedAccount &removed) const
+{
+    if (const KirvAccount *next = find(removed.next))
+        return next;
+    const int previous = int(all.indexOf(find(removed.previous)));
+    return previous >= 0 ? all.value(previous + 1) : nullptr;
+}
+
+/// The connection of the removed account may still log out: its server would refuse a second one, or end the first.
+void KirvAccountCollection::loadRestored(KirvAccount *account, const KirvPresence &presence)
+{
+    KirvProtocolBase *protocol = protocols.value(account->key().protocol);
+    if (!protocol)
+        return;
+    const auto children = withLeaving();
+    const auto twin = std::find_if(children.begin(), children.end(), [account](const KirvAccount *candidate) {
+        return candidate->isRemoved() && candidate->key() == account->key();
+    });
+    account->load(protocol, twin == children.end());
+    account->setPresence(presence);
+    if (twin != children.end())
+        connect(*twin, &QObject::destroyed, account, &KirvAccount::tryAgain);
+}
+
+bool KirvAccountCollection::place(KirvAccount *account, const KirvAccount *next)
+{
+    const int index = int(all.indexOf(account));
+    if (account == next || all.value(index + 1) == next)
+        return true;
+    if (!store.placeAccount(account->key(), next ? next->key() : KirvAccountKey())) {
+        refuse(store.lastError());
+        return false;
+    }
+    error.clear();
+    arrange(account, next);
+    Q_EMIT orderChanged(account);
     return true;
+}
+
+/// In memory only.
+void KirvAccountCollection::arrange(KirvAccount *account, const KirvAccount *next)
+{
+    all.removeOne(account);
+    const int place = next ? int(all.indexOf(const_cast<KirvAccount *>(next))) : int(all.size());
+    all.insert(place, account);
+    ProtocolAccounts &siblings = byProtocol[account->key().protocol];
+    siblings.accounts.removeOne(account);
+    siblings.infos.removeOne(account->info());
+    const auto isSibling = [account](const KirvAccount *candidate) {
+        return candidate->key().protocol == account->key().protocol;
+    };
+    const auto following = std::find_if(all.begin() + place + 1, all.end(), isSibling);
+    const int among =
+        following == all.end() ? int(siblings.accounts.size()) : int(siblings.accounts.indexOf(*following));
+    siblings.accounts.insert(among, account);
+    siblings.infos.insert(among, account->info());
 }
 
 KirvAccount *KirvAccountCollection::load(KirvAccount *account)

@@ -4,6 +4,7 @@
 
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_login_index.h"
+#include "core/accounts/kirv_removed_account.h"
 
 #include <QHash>
 #include <QList>
@@ -29,6 +30,9 @@ public:
     /// The configured account, loaded or not; null when there is none. Constant time.
     KirvAccount *find(const KirvAccountKey &key) const { return byKey.value(key); }
 
+    /// Whether there is an account with the login of \a key, also with another spelling of it.
+    bool hasLogin(const KirvAccountKey &key) const { return !idWithSameLogin(key).isEmpty(); }
+
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
     /// defaults. Null when the account exists, also with another spelling of the login, the protocol is not the loaded
     /// one, finds something wrong with the login, or the store refuses; then creationRefused() is emitted, and
@@ -39,6 +43,16 @@ public:
     QString problemWithNew(const KirvAccountKey &key) const;
     /// Deletes the account and all its data. False when the store refuses; nothing has changed then.
     bool remove(KirvAccount *account);
+    /// The same for several: all of them, or none when the store refuses.
+    bool remove(const QList<KirvAccount *> &accounts);
+    /// What restore() needs of \a account, which is not removed yet.
+    KirvRemovedAccount copyOf(const KirvAccount *account) const;
+    /// Makes a removed account again as it was, at its place in the order; its protocol need not be loaded. Null when
+    /// there is such an account, also with another spelling of the login, or the store refuses; nothing has changed
+    /// then, and lastError() says why.
+    KirvAccount *restore(const KirvRemovedAccount &removed);
+    /// Puts \a account before \a next in the order, or at its end when \a next is null. False when the store refuses.
+    bool place(KirvAccount *account, const KirvAccount *next);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
     KirvAccount *load(KirvAccount *account);
 
@@ -61,11 +75,19 @@ public:
 
 Q_SIGNALS:
     void accountAdded(KirvAccount *account);
+    /// \a account is going to be removed, or the store refuses that: nothing has happened yet, and a slot changes
+    /// nothing.
+    void removalBegins(KirvAccount *account);
     /// The account is still complete, but not logged in any more as far as it is concerned.
     void accountAboutToBeRemoved(KirvAccount *account);
     void accountRemoved(const QString &id, const QString &protocol);
     /// The store did not remove \a account, which stays as it is; problemOccurred() says why.
     void removalRefused(KirvAccount *account);
+    /// \a account has another place in the order.
+    void orderChanged(KirvAccount *account);
+    /// \a account is going to be disabled, or the store refuses that: nothing has happened yet, and a slot changes
+    /// nothing.
+    void disablingBegins(KirvAccount *account);
     /// Anything about it changed, see KirvAccount::changed().
     void accountChanged(KirvAccount *account);
     void passwordNeeded(KirvAccount *account);
@@ -83,9 +105,17 @@ private:
     };
 
     KirvAccount *append(const KirvAccountRecord &record);
+    void removeStored(KirvAccount *account);
+    void refuseRemoval(const QList<QPointer<KirvAccount>> &accounts);
+    QString importPicture(const QByteArray &picture);
+    bool insertBefore(const KirvAccountRecord &record, const KirvAccount *next);
+    void arrange(KirvAccount *account, const KirvAccount *next);
+    const KirvAccount *accountAfter(const KirvRemovedAccount &removed) const;
+    void loadRestored(KirvAccount *account, const KirvPresence &presence);
     QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
+    QString whyExists(const KirvAccountKey &key) const;
     KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);

@@ -125,6 +125,29 @@ bool KirvAccountTable::remove(const KirvAccountKey &key)
     return true;
 }
 
+bool KirvAccountTable::place(const KirvAccountKey &key, const KirvAccountKey &next)
+{
+    Row row;
+    if (!findRow(key, &row))
+        return false;
+    if (next.id.isEmpty())
+        return database.execute(
+            QStringLiteral("UPDATE account SET position = (SELECT max(position) + 1 FROM account) WHERE number = ?"),
+            { row.number });
+    Row following;
+    if (!findRow(next, &following))
+        return false;
+    // Of equal positions, which profiles that were repaired may have, the number decides.
+    const QVariant position =
+        database.valueOf(QStringLiteral("SELECT position FROM account WHERE number = ?"), { following.number });
+    return position.isValid()
+        && database.execute(QStringLiteral("UPDATE account SET position = position + 2 "
+                                           "WHERE (position, number) >= (?, ?)"),
+                            { position, following.number })
+        && database.execute(QStringLiteral("UPDATE account SET position = ? + 1 WHERE number = ?"),
+                            { position, row.number });
+}
+
 bool KirvAccountTable::findRow(const KirvAccountKey &key, Row *row)
 {
     QSqlQuery *query = database.run(QStringLiteral("SELECT number, avatar FROM account WHERE id = ? AND protocol = ?"),

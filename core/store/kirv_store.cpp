@@ -322,6 +322,11 @@ bool KirvStore::removeAccount(const KirvAccountKey &key)
     return d->change([&] { return d->accounts.remove(key); });
 }
 
+bool KirvStore::placeAccount(const KirvAccountKey &key, const KirvAccountKey &next)
+{
+    return d->change([&] { return d->accounts.place(key, next); });
+}
+
 bool KirvStore::classifySettings(const QString &protocol, const QSet<QString> &fields,
                                  const QSet<QString> &secretFields)
 {

@@ -134,7 +134,8 @@ QAbstractButton *KirvClientWindows::pageButton(const char *name) const
 
 void KirvClientWindows::select(const QString &id) const
 {
-    list()->setCurrentItem(row(id));
+    // Whatever keys the test has pressed last.
+    list()->setCurrentItem(row(id), 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 QStringList KirvClientWindows::messages() const

@@ -33,7 +33,7 @@ private:
     QString rowDifference(const QTreeWidgetItem *row) const;
     QString selectorDifference() const;
     QString titleDifference() const;
-    QString connectionsDifference() const;
+    QString statesDifference() const;
     QString editDifference(const QString &id);
     QString windowDifference(const QWidget *window, const QString &id) const;
     QString fieldDifference(const QWidget *window, const Account &account, bool hasUnstoredPassword) const;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_status.h"
 #include "client/kirv_client.h"
-#include "client/kirv_connection_model.h"
-#include "client/kirv_connection_view.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_plugins_page.h"
@@ -74,7 +73,7 @@ private Q_SLOTS:
     void secondInstanceIsRefusedWithAReason();
     void missingPluginFolderIsTold();
     void accountsLogInAgainAfterARestart();
-    void titleAndViewFollowTheMainAccount();
+    void titleAndRowsFollowTheMainAccount();
     void windowRemembersItsSize();
 
     void unloadedProtocolKeepsItsRows();
@@ -91,7 +90,6 @@ private Q_SLOTS:
     void editAndCloseLeavesNothingBehind();
     void closingTheWindowEndsTheController();
     void secondEditWindowReplacesTheFirst();
-    void viewOpensTheEditWindow();
     void editWindowGoesWithItsAccount();
     void editWindowGoesWithItsProtocol();
     void editWindowGoesWithThePage();
@@ -100,11 +98,8 @@ private Q_SLOTS:
     void directoryTabSaysWhyItIsLocked();
     void directoryIsAskedWhenTheAccountComesOnLine();
 
-    void viewShowsStates();
-    void viewShowsTheLastProblemAsPlainText();
-    void viewEnablesWhatIsPossible();
+    void rowsShowStates();
     void reconnectLogsInAgain();
-    void viewUpdatesRowsOneByOne();
 
     void passwordIsAskedForAndTaken();
     void passwordsAreAskedOneAfterTheOther();
@@ -143,7 +138,7 @@ private:
     QString pluginFile() const { return client->plugins().plugins().first().fileName; }
     void unload() { QVERIFY(client->plugins().unload(pluginFile())); }
     void load() { QVERIFY(client->plugins().load(pluginFile())); }
-    QString cell(const KirvAccount *account, int column) const;
+    static QString state(const KirvAccount *account);
     KirvPasswordDialog *passwordQuestion() const;
     /// The assistants that are open.
     QList<KirvServerAssistant *> assistants() const;
@@ -240,10 +235,9 @@ QDialog *tst_Client::openEditWindow(const QString &id)
     return editWindow();
 }
 
-QString tst_Client::cell(const KirvAccount *account, int column) const
+QString tst_Client::state(const KirvAccount *account)
 {
-    KirvConnectionModel *model = client->connectionView()->findChild<KirvConnectionModel *>();
-    return model->index(model->rowOf(account), column).data().toString();
+    return KirvAccountStatus(*account, false).text();
 }
 
 KirvPasswordDialog *tst_Client::passwordQuestion() const
@@ -280,10 +274,8 @@ void tst_Client::startsWithAnEmptyProfile()
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings"));
     QVERIFY(client->accountsPage()->isVisible());
     auto *pages = child<QListWidget>(client->window(), "Settings_Pages");
-    QCOMPARE(pages->count(), 3);
+    QCOMPARE(pages->count(), 2);
     pages->setCurrentRow(1);
-    QVERIFY(client->connectionView()->isVisible());
-    pages->setCurrentRow(2);
     QVERIFY(client->pluginsPage()->isVisible());
     QVERIFY(client->window()->messageBar()->messages().isEmpty());
 }
@@ -314,7 +306,7 @@ void tst_Client::accountsLogInAgainAfterARestart()
     QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
 }
 
-void tst_Client::titleAndViewFollowTheMainAccount()
+void tst_Client::titleAndRowsFollowTheMainAccount()
 {
     addAccount(QStringLiteral("anna"));
     KirvAccount *bert = addAccount(QStringLiteral("bert"));
@@ -323,7 +315,11 @@ void tst_Client::titleAndViewFollowTheMainAccount()
     QVERIFY(index > 0);
     selector()->setCurrentIndex(index);
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – bert"));
-    QCOMPARE(cell(bert, KirvConnectionModel::AccountColumn), QStringLiteral("bert (main account)"));
+    QTRY_COMPARE(
+        row(QStringLiteral("anna"))->data(AliasColumn, Qt::AccessibleTextRole).toString().contains("main account"),
+        false);
+    QTRY_VERIFY(
+        row(QStringLiteral("bert"))->data(AliasColumn, Qt::AccessibleTextRole).toString().contains("main account"));
     bert->setAlias(QStringLiteral("Bert\nB."));
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – Bert B."));
 
@@ -354,8 +350,7 @@ void tst_Client::unloadedProtocolKeepsItsRows()
     QVERIFY(row(QStringLiteral("anna"))->toolTip(AliasColumn).contains(example));
     QCOMPARE(selector()->count(), 0);
     QVERIFY(account(QStringLiteral("anna"))->isEnabled());
-    QCOMPARE(cell(account(QStringLiteral("anna")), KirvConnectionModel::StateColumn),
-             QStringLiteral("Plug-in not loaded"));
+    QCOMPARE(state(account(QStringLiteral("anna"))), QStringLiteral("Its plug-in is not loaded"));
 }
 
 void tst_Client::reloadedProtocolListsItsAccountsOnce()
@@ -528,20 +523,6 @@ void tst_Client::secondEditWindowReplacesTheFirst()
     QVERIFY(client->accountsPage()->getAccEdit());
 }
 
-void tst_Client::viewOpensTheEditWindow()
-{
-    addAccount(QStringLiteral("anna"));
-    KirvAccount *bert = addAccount(QStringLiteral("bert"));
-    QPointer<QDialog> first = openEditWindow(QStringLiteral("anna"));
-    client->window()->showPage(client->connectionView());
-    client->connectionView()->setCurrentAccount(bert);
-    child<QPushButton>(client->connectionView(), "Connections_EditButton")->click();
-    processDeletions();
-    QVERIFY(!first);
-    QVERIFY(editWindow());
-    QCOMPARE(child<QLabel>(editWindow(), "EditAccount_Identifier")->text(), QStringLiteral("bert (Example)"));
-}
-
 void tst_Client::editWindowGoesWithItsAccount()
 {
     addAccount(QStringLiteral("anna"));
@@ -644,51 +625,16 @@ void tst_Client::directoryIsAskedWhenTheAccountComesOnLine()
     QCOMPARE(status->text(), QString());
 }
 
-void tst_Client::viewShowsStates()
+void tst_Client::rowsShowStates()
 {
     KirvAccount *anna = addAccount(QStringLiteral("anna"));
-    QCOMPARE(cell(anna, KirvConnectionModel::ProtocolColumn), example);
-    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connecting…"));
-    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Connected"));
-    QVERIFY(!cell(anna, KirvConnectionModel::SinceColumn).isEmpty());
+    QTRY_COMPARE(state(anna), QStringLiteral("Connecting…"));
+    QTRY_COMPARE(state(anna), QStringLiteral("Connected"));
     anna->setPresence(anna->protocol()->presenceWithId(QStringLiteral("offline"), QString()));
-    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Logging out…"));
-    QTRY_COMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Off line"));
+    QTRY_COMPARE(state(anna), QStringLiteral("Logging out…"));
+    QTRY_COMPARE(state(anna), QStringLiteral("Off line"));
     KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
-    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Disabled"));
-}
-
-void tst_Client::viewShowsTheLastProblemAsPlainText()
-{
-    KirvAccount *anna = addAccount(QStringLiteral("anna"), QStringLiteral("wrong"));
-    QTRY_VERIFY(anna->lastFailure().isFailure());
-    const QString problem = anna->lastFailure().text();
-    QVERIFY(!problem.isEmpty());
-    QCOMPARE(cell(anna, KirvConnectionModel::ErrorColumn), problem.simplified());
-    client->window()->showPage(client->connectionView());
-    client->connectionView()->setCurrentAccount(anna);
-    auto *details = child<QLabel>(client->connectionView(), "Connections_Details");
-    QCOMPARE(details->text(), problem);
-    QCOMPARE(details->textFormat(), Qt::PlainText);
-
-    anna->setAlias(QStringLiteral("<b>bold</b>"));
-    KirvConnectionModel *model = client->connectionView()->findChild<KirvConnectionModel *>();
-    const QString toolTip = model->index(0, 0).data(Qt::ToolTipRole).toString();
-    QVERIFY2(toolTip.contains(QLatin1String("&lt;b&gt;bold")), qPrintable(toolTip));
-}
-
-void tst_Client::viewEnablesWhatIsPossible()
-{
-    KirvAccount *anna = addAccount(QStringLiteral("anna"));
-    auto *edit = child<QPushButton>(client->connectionView(), "Connections_EditButton");
-    auto *reconnect = child<QPushButton>(client->connectionView(), "Connections_ReconnectButton");
-    QVERIFY(!edit->isEnabled() && !reconnect->isEnabled());
-    client->connectionView()->setCurrentAccount(anna);
-    QVERIFY(edit->isEnabled() && reconnect->isEnabled());
-    KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
-    QVERIFY(edit->isEnabled() && !reconnect->isEnabled());
-    unload();
-    QVERIFY(!edit->isEnabled());
+    QCOMPARE(state(anna), QStringLiteral("Disabled"));
 }
 
 void tst_Client::reconnectLogsInAgain()
@@ -697,27 +643,12 @@ void tst_Client::reconnectLogsInAgain()
     anna->setPresence(anna->getProtocol()->createPresenceWithId(QStringLiteral("offline"), QString()));
     anna->getProtocol()->accountPresenceChanged(anna);
     QTRY_COMPARE(anna->connection()->state(), KirvConnection::Offline);
-    client->connectionView()->setCurrentAccount(anna);
-    child<QPushButton>(client->connectionView(), "Connections_ReconnectButton")->click();
+    list()->setCurrentItem(row(QStringLiteral("anna")));
+    auto *reconnect = child<QPushButton>(client->accountsPage(), "Accounts_ReconnectButton");
+    QTRY_VERIFY(reconnect->isEnabled());
+    reconnect->click();
     QTRY_VERIFY(anna->isLoggedIn());
     QCOMPARE(anna->presence().getId(), QStringLiteral("available"));
-}
-
-void tst_Client::viewUpdatesRowsOneByOne()
-{
-    addOnlineAccount(QStringLiteral("anna"));
-    KirvAccount *bert = addOnlineAccount(QStringLiteral("bert"));
-    addOnlineAccount(QStringLiteral("carl"));
-    KirvConnectionModel *model = client->connectionView()->findChild<KirvConnectionModel *>();
-    QSignalSpy changes(model, &QAbstractItemModel::dataChanged);
-    QSignalSpy resets(model, &QAbstractItemModel::modelReset);
-    bert->setAlias(QStringLiteral("Bert"));
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(changes.first().at(0).toModelIndex().row(), 1);
-    QCOMPARE(changes.first().at(1).toModelIndex().row(), 1);
-    KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
-    QCOMPARE(model->rowOf(bert), 0);
-    QCOMPARE(resets.size(), 0);
 }
 
 void tst_Client::passwordIsAskedForAndTaken()
@@ -765,9 +696,11 @@ void tst_Client::cancelledPasswordQuestionLeavesTheAccountOffLine()
     QTRY_VERIFY(passwordQuestion());
     passwordQuestion()->reject();
     KirvAccount *anna = account(QStringLiteral("anna"));
-    QCOMPARE(cell(anna, KirvConnectionModel::StateColumn), QStringLiteral("Off line"));
-    client->connectionView()->setCurrentAccount(anna);
-    child<QPushButton>(client->connectionView(), "Connections_PasswordButton")->click();
+    QCOMPARE(state(anna), QStringLiteral("Password needed"));
+    list()->setCurrentItem(row(QStringLiteral("anna")));
+    auto *enter = child<QPushButton>(client->accountsPage(), "Accounts_PasswordButton");
+    QTRY_VERIFY(enter->isEnabled());
+    enter->click();
     QVERIFY(passwordQuestion());
     QTest::keyClicks(child<QLineEdit>(passwordQuestion(), "PasswordQuestion_Password"), QStringLiteral("secret"));
     QTest::keyClick(passwordQuestion(), Qt::Key_Return);
@@ -905,7 +838,6 @@ void tst_Client::namesTurnNoTextAround()
     addAccount(QStringLiteral("bert"));
     KirvAccount *anna = addAccount(turned);
     QVERIFY(anna);
-    QCOMPARE(cell(anna, KirvConnectionModel::AccountColumn), shown);
     client->accountsPage()->updateAccounts();
     for (const QString &name : { QStringLiteral("bert"), turned })
         selector()->setCurrentIndex(selector()->findText(name));

@@ -53,6 +53,8 @@ private:
     /// The login of the main account, when the selector and the title show it and it is stored; otherwise what is
     /// wrong.
     QString mainAccount() const;
+    /// What is said about the main account.
+    QStringList sayings() const { return windows->messages().filter(QStringLiteral("main account")); }
     KirvMainAccount &rule() const { return KirvHostServices::instance()->mainAccountRule; }
 
     std::unique_ptr<KirvClientWindows> windows;
@@ -145,10 +147,10 @@ void tst_MainAccountRule::itIsSaidOnceThatItPassedOn()
         windows->addAccount(id);
     windows->removeInPage(ann);
     const QString removed = QStringLiteral("bob is the main account now, because ann was removed.");
-    QCOMPARE(windows->messages(), QStringList { removed });
+    QCOMPARE(sayings(), QStringList { removed });
     windows->toggleInPage(bob);
     const QString disabled = QStringLiteral("cleo is the main account now, because bob was disabled.");
-    QCOMPARE(windows->messages(), (QStringList { removed, disabled }));
+    QCOMPARE(sayings(), QStringList { disabled }); // the other one has become wrong
 }
 
 void tst_MainAccountRule::nothingIsSaidWithoutASuccessor()
@@ -156,7 +158,7 @@ void tst_MainAccountRule::nothingIsSaidWithoutASuccessor()
     windows->addAccount(ann);
     windows->removeInPage(ann);
     QCOMPARE(mainAccount(), QString());
-    QCOMPARE(windows->messages(), QStringList());
+    QCOMPARE(sayings(), QStringList());
 }
 
 void tst_MainAccountRule::withoutAnEnabledAccountThereIsNone()

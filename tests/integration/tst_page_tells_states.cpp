@@ -10,9 +10,11 @@
 #include "tests/support/kirv_patience.h"
 
 #include <QAccessible>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
@@ -59,6 +61,7 @@ private Q_SLOTS:
     void stripReconnects();
     void stripOpensTheEditWindow();
     void stripIsReachedByTheKeyboard();
+    void accountWithoutAnAliasIsNamedByItsLogin();
     void stripDoesNotJump();
     void longReasonCanBeScrolled();
     void stripStandsBelowTheListInAnyLayout_data();
@@ -242,7 +245,7 @@ void tst_PageTellsStates::accountWithoutAliasShowsItsLogin()
     windows->account(ann)->setAlias(QString());
     windows->client->accountsPage()->updateAccount(windows->account(ann));
     KirvClientWindows::settle();
-    QCOMPARE(windows->row(ann)->text(0), QString());
+    QCOMPARE(windows->row(ann)->text(0), ann);
     QVERIFY2(spoken().startsWith(QLatin1String("ann, ")), qPrintable(spoken()));
     windows->list()->clearFocus();
     QCOMPARE(windows->list()->viewport()->grab(place).toImage(), named);
@@ -385,6 +388,30 @@ void tst_PageTellsStates::stripIsReachedByTheKeyboard()
         const QString key = QKeySequence::mnemonic(shown->text()).toString();
         QVERIFY2(key.isEmpty() || !mnemonics.contains(key), qPrintable(shown->text()));
         mnemonics << key;
+    }
+}
+
+void tst_PageTellsStates::accountWithoutAnAliasIsNamedByItsLogin()
+{
+    windows->addAccount(ann);
+    for (const bool isRestarted : { false, true }) {
+        windows->account(ann)->setAlias(QString());
+        KirvClientWindows::settle();
+        if (isRestarted)
+            windows->restart();
+        QCOMPARE(windows->row(ann)->text(0), ann);
+        QCOMPARE(windows->selector()->itemText(0), ann);
+        KirvLayoutDialog *window = windows->edit(ann);
+        QVERIFY(window);
+        auto *alias = KirvClientWindows::child<QLineEdit>(window, "EditAccount_Alias");
+        QCOMPARE(alias->text(), QString());
+        KirvClientWindows::save(window); // the page rewrites the row
+        QCOMPARE(windows->row(ann)->text(0), ann);
+        QCOMPARE(windows->account(ann)->getAlias(), QString());
+        window = windows->edit(ann);
+        KirvClientWindows::child<QLineEdit>(window, "EditAccount_Alias")->setText(QStringLiteral("Anna"));
+        KirvClientWindows::save(window);
+        QCOMPARE(windows->row(ann)->text(0), QStringLiteral("Anna"));
     }
 }
 

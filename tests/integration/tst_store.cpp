@@ -186,6 +186,55 @@ private Q_SLOTS:
         QCOMPARE(store.readAccounts().first().settings, account.settings);
     }
 
+    void anAccountIsPlacedBeforeAnother_data()
+    {
+        QTest::addColumn<QString>("placed");
+        QTest::addColumn<QString>("next");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("down") << "a"
+                              << "c"
+                              << "b a c d";
+        QTest::newRow("up") << "d"
+                            << "b"
+                            << "a d b c";
+        QTest::newRow("to the start") << "c"
+                                      << "a"
+                                      << "c a b d";
+        QTest::newRow("to the end") << "b"
+                                    << ""
+                                    << "a c d b";
+        QTest::newRow("where it is") << "b"
+                                     << "c"
+                                     << "a b c d";
+    }
+
+    void anAccountIsPlacedBeforeAnother()
+    {
+        QFETCH(QString, placed);
+        QFETCH(QString, next);
+        QFETCH(QString, order);
+        for (const bool hasEqualPositions : { false, true }) {
+            KirvStore store;
+            QVERIFY(store.open(folder + QString::number(hasEqualPositions)));
+            for (const char *id : { "a", "b", "c", "d" })
+                QVERIFY(store.insertAccount(makeAccount(QLatin1String(id))));
+            if (hasEqualPositions)
+                QVERIFY(QSqlQuery(ownConnection()).exec(QStringLiteral("UPDATE account SET position = 7")));
+            QVERIFY(store.placeAccount({ placed, "XMPP" }, { next, "XMPP" }));
+            QCOMPARE(idsOf(store).join(QLatin1Char(' ')), order);
+        }
+    }
+
+    void anUnknownAccountIsNotPlaced()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("a"))));
+        QVERIFY(!store.placeAccount({ "b", "XMPP" }, { "a", "XMPP" }));
+        QVERIFY(!store.placeAccount({ "a", "XMPP" }, { "b", "XMPP" }));
+        QVERIFY(!store.lastError().isEmpty());
+    }
+
     void theOrderOfAccountsIsKept()
     {
         {

@@ -6,6 +6,8 @@
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/kirv_patience.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
@@ -65,7 +67,9 @@ private Q_SLOTS:
     void repaintPaintsWhatIsVisible();
     void scrollingPaintsWhatIsVisible();
     void keystrokeChangesNoRow();
+    void toggleChangesItsRow();
     void changeOfStateChangesItsRow();
+    void searchEnds();
 
 private:
     template <typename Function>
@@ -148,6 +152,20 @@ void tst_TenThousandRows::keystrokeChangesNoRow()
     });
 }
 
+/// Of an account that cannot log in: no question comes.
+void tst_TenThousandRows::toggleChangesItsRow()
+{
+    windows->protocol->server->logIn = KirvFakeServer::Refuses;
+    QTreeWidgetItem *row = windows->row(idOf(0));
+    windows->list()->scrollToItem(row);
+    checkWork(8, [this, row](int round) {
+        row->setCheckState(0, round % 2 ? Qt::Unchecked : Qt::Checked);
+        QCoreApplication::processEvents();
+        windows->list()->viewport()->repaint();
+    });
+    windows->protocol->server->logIn = KirvFakeServer::Accepts;
+}
+
 void tst_TenThousandRows::changeOfStateChangesItsRow()
 {
     KirvAccount *last = windows->account(idOf(accountCount - 1));
@@ -158,6 +176,19 @@ void tst_TenThousandRows::changeOfStateChangesItsRow()
         QCoreApplication::processEvents();
         windows->list()->viewport()->repaint();
     });
+}
+
+void tst_TenThousandRows::searchEnds()
+{
+    auto *field = windows->client->accountsPage()->findChild<QLineEdit *>(QStringLiteral("Accounts_Search"));
+    const auto *count = windows->client->accountsPage()->findChild<QLabel *>(QStringLiteral("Accounts_SearchCount"));
+    QTest::keyClicks(field, QStringLiteral("user0999"));
+    KIRV_TRY_COMPARE(count->text(), QStringLiteral("10 of 10000"));
+    QVERIFY(windows->row(idOf(0))->isHidden());
+    QVERIFY(!windows->row(idOf(9995))->isHidden());
+    QTest::keyClick(field, Qt::Key_Escape);
+    KIRV_TRY(!windows->row(idOf(0))->isHidden() && !windows->row(idOf(9000))->isHidden());
+    KIRV_TRY_COMPARE(count->text(), QString());
 }
 
 QTEST_MAIN(tst_TenThousandRows)

@@ -2,8 +2,7 @@
 #include "tests/system/kirv_windows.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_connection_model.h"
-#include "client/kirv_connection_view.h"
+#include "client/kirv_account_status.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_settings_window.h"
@@ -27,7 +26,7 @@
 
 namespace {
 
-enum Page { AccountsPage, ConnectionsPage, PluginsPage };
+enum Page { AccountsPage, PluginsPage };
 enum Column { AliasColumn, ProtocolColumn, IdColumn };
 
 /// Waits until the window has arranged itself and \a widget is what the mouse would meet there.
@@ -204,13 +203,19 @@ KirvAccount *KirvWindows::account(const QString &login) const
 QString KirvWindows::state(const QString &login) const
 {
     const KirvAccount *shown = account(login);
-    return shown ? KirvConnectionModel::stateText(*shown) : QString();
+    return shown ? KirvAccountStatus(*shown, false).text() : QString();
+}
+
+bool KirvWindows::hasGivenUp(const QString &login) const
+{
+    const KirvAccount *shown = account(login);
+    return shown && KirvAccountStatus(*shown, false).kind() == KirvAccountStatus::Failed;
 }
 
 QString KirvWindows::problem(const QString &login) const
 {
-    const auto *model = client->connectionView()->findChild<KirvConnectionModel *>();
-    return model->index(model->rowOf(account(login)), KirvConnectionModel::ErrorColumn).data().toString();
+    const KirvAccount *shown = account(login);
+    return shown ? shown->lastFailure().text().simplified() : QString();
 }
 
 QString KirvWindows::reason(const QString &login) const
@@ -232,20 +237,20 @@ QString KirvWindows::messages() const
 
 void KirvWindows::reconnect(const QString &login)
 {
-    showPage(ConnectionsPage);
-    client->connectionView()->setCurrentAccount(account(login));
-    KirvWindowDriver::click(child<QPushButton>(client->connectionView(), "Connections_ReconnectButton"));
+    showPage(AccountsPage);
+    list()->setCurrentItem(row(login));
+    auto *button = child<QPushButton>(client->accountsPage(), "Accounts_ReconnectButton");
+    QVERIFY(QTest::qWaitFor([button] { return button->isEnabled(); }, kirvPatience));
+    KirvWindowDriver::click(button);
 }
 
 bool KirvWindows::goTo(const QString &login, const QString &presence)
 {
-    showPage(ConnectionsPage);
-    client->connectionView()->setCurrentAccount(account(login));
-    auto *connections = child<QTreeView>(client->connectionView(), "Connections_List");
-    const QPoint position = connections->visualRect(connections->currentIndex()).center();
-    QContextMenuEvent wish(QContextMenuEvent::Mouse, position, connections->viewport()->mapToGlobal(position));
-    QApplication::sendEvent(connections->viewport(), &wish);
-    for (const QString &command : { QStringLiteral("&Presence"), presence }) {
+    showPage(AccountsPage);
+    const QPoint position = list()->visualItemRect(row(login)).center();
+    QContextMenuEvent wish(QContextMenuEvent::Mouse, position, list()->viewport()->mapToGlobal(position));
+    QApplication::sendEvent(list()->viewport(), &wish);
+    for (const QString &command : { QStringLiteral("Pre&sence"), presence }) {
         if (!QTest::qWaitFor([command] { return KirvWindowDriver::menuOffers(command); }, kirvPatience))
             return false;
         KirvWindowDriver::clickInMenu(command);

@@ -54,18 +54,20 @@ public:
     QMessageBox *question() const;
 
     KirvAccount *account(const QString &login) const;
-    /// What the connection view says of the account.
+    /// What the page says of the account.
     QString state(const QString &login) const;
+    /// Whether its connection failed in a way that no other attempt follows.
+    bool hasGivenUp(const QString &login) const;
     QString problem(const QString &login) const;
     /// What the strip below the list says about the account, which is selected for it.
     QString reason(const QString &login) const;
     QString title() const;
-    /// What the bar above the pages says.
+    /// What the message bar says.
     QString messages() const;
 
-    /// Presses Reconnect on the Connections page.
+    /// Presses Reconnect below the list.
     void reconnect(const QString &login);
-    /// Chooses \a presence in the menu of the account on the Connections page; false when it is not offered.
+    /// Chooses \a presence in the menu of the account; false when it is not offered.
     bool goTo(const QString &login, const QString &presence);
     /// Makes the account's connection wait a fraction of a second where it would wait long; for what it does next.
     void hurry(const QString &login) const;

@@ -2,14 +2,15 @@
 #include "tests/walk/kirv_walk_user.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_connection_view.h"
 #include "client/kirv_plugins_page.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_avatar_quick_set_widget.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -20,7 +21,6 @@
 #include <QTextEdit>
 #include <QTimer>
 #include <QToolButton>
-#include <QTreeView>
 #include <QTreeWidget>
 
 namespace {
@@ -55,7 +55,8 @@ std::vector<KirvWalkStep> KirvWalkUser::steps()
         { "answer other window", 12, [this] { answerOtherWindow(); } },
         { "hide or show", 2, [this] { hideOrShow(); } },
         { "switch page", 4, [this] { switchPage(); } },
-        { "use connections", 6, [this] { useConnections(); } },
+        { "use strip", 3, [this] { useStrip(); } },
+        { "use menu", 5, [this] { useMenu(); } },
         { "sort", 2, [this] { sortOtherwise(); } },
         { "restart", 1, [this] { restart(); } },
     };
@@ -357,33 +358,33 @@ void KirvWalkUser::trigger(QMenu *menu)
         action->trigger();
 }
 
-void KirvWalkUser::useConnections()
+void KirvWalkUser::useStrip()
 {
-    KirvConnectionView *view = walk.client->connectionView();
-    if (!view->isVisible())
+    static const char *const buttons[] = { "Accounts_StripEditButton", "Accounts_ReconnectButton",
+                                           "Accounts_PasswordButton" };
+    if (walk.page()->isVisible())
+        walk.page()->findChild<QPushButton *>(QLatin1String(buttons[walk.below(3)]))->click();
+}
+
+/// Opens the menu of the list for the current row, or the one without a row, and chooses something.
+void KirvWalkUser::useMenu()
+{
+    auto *rows = walk.page()->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));
+    if (!rows->isVisible())
         return;
-    if (walk.maybe(50)) {
-        view->setCurrentAccount(walk.anyAccount());
-    } else if (walk.maybe(40)) {
-        auto *rows = view->findChild<QTreeView *>(QStringLiteral("Connections_List"));
-        const QPoint position = rows->visualRect(rows->currentIndex()).center();
-        QMetaObject::invokeMethod(rows, "customContextMenuRequested", Q_ARG(QPoint, position));
-        if (QPointer<QMenu> menu = view->findChild<QMenu *>(QStringLiteral("Connections_Menu"))) {
-            trigger(menu);
-            if (menu)
-                menu->close();
-        }
-    } else {
-        static const char *const buttons[] = { "Connections_EditButton", "Connections_ReconnectButton",
-                                               "Connections_PasswordButton" };
-        view->findChild<QPushButton *>(QLatin1String(buttons[walk.below(3)]))->click();
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(), rows->mapToGlobal(QPoint()));
+    QApplication::sendEvent(rows, &request);
+    if (QPointer<QMenu> menu = walk.page()->findChild<QMenu *>(QStringLiteral("Accounts_Menu"))) {
+        trigger(menu);
+        if (menu)
+            menu->close();
     }
 }
 
 /// The walk is on the page of the accounts most of the time.
 void KirvWalkUser::switchPage()
 {
-    QWidget *const pages[] = { walk.page(), walk.page(), walk.client->connectionView(), walk.client->pluginsPage() };
+    QWidget *const pages[] = { walk.page(), walk.page(), walk.page(), walk.client->pluginsPage() };
     walk.client->window()->showPage(pages[walk.below(4)]);
 }
 

@@ -45,7 +45,8 @@ private:
     void goThroughAssistant();
     void hideOrShow();
     void switchPage();
-    void useConnections();
+    void useStrip();
+    void useMenu();
     void sortOtherwise();
     void restart();
 

@@ -2,8 +2,7 @@
 #include "tools/tour/kirv_tour.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_connection_model.h"
-#include "client/kirv_connection_view.h"
+#include "client/kirv_account_status.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -163,8 +162,8 @@ void KirvTour::planFirstAccount()
             return !KirvWindowDriver::window(add) && row(xmpp) && row(xmpp)->text(AliasColumn) == demo.address()
                 && row(xmpp)->checkState(AliasColumn) == Qt::Checked;
         },
-        [this] { showConnections(xmpp); });
-    walk.expect(QStringLiteral("The connection view says that the account is connected"),
+        [this] { select(xmpp); });
+    walk.expect(QStringLiteral("The row says that the account is connected"),
                 [this] { return state(xmpp) == QLatin1String("Connected"); });
     walk.expect(QStringLiteral("The server sees the session"), [this] { return demo.isOnline(); });
 }
@@ -180,7 +179,7 @@ void KirvTour::planRestart()
     walk.expectOnTop(
         QStringLiteral("After the next start the account is back"),
         [this] { return client && row(xmpp) && row(xmpp)->checkState(AliasColumn) == Qt::Checked; },
-        [this] { showConnections(xmpp); });
+        [this] { select(xmpp); });
     walk.expect(
         QStringLiteral("It has logged in by itself"), [this] { return state(xmpp) == QLatin1String("Connected"); },
         [] { showPage(0); });
@@ -228,13 +227,13 @@ void KirvTour::planWrongPassword()
             });
         walk.expectOnTop(
             QStringLiteral("The change is saved"), [] { return !KirvWindowDriver::window(edit); },
-            [this] { showConnections(xmpp); });
+            [this] { select(xmpp); });
     };
     changePassword(QStringLiteral("The password is changed to a wrong one"), QStringLiteral("mistyped"));
     walk.expect(
-        QStringLiteral("The connection view says that the password is wrong"),
+        QStringLiteral("The row says that the password is wrong"),
         [this] {
-            return state(xmpp) == QLatin1String("Off line")
+            return state(xmpp) == QLatin1String("Wrong password")
                 && problem(xmpp).contains(QLatin1String("password"), Qt::CaseInsensitive);
         },
         [] { showPage(0); });
@@ -265,7 +264,7 @@ void KirvTour::planIrcAccount()
     walk.expectOnTop(
         QStringLiteral("Both accounts stand in the list"),
         [this] { return row(irc) && row(xmpp) && row(irc)->checkState(AliasColumn) == Qt::Checked; },
-        [this] { showConnections(irc); });
+        [this] { select(irc); });
     walk.expect(
         QStringLiteral("The IRC account is connected"), [this] { return state(irc) == QLatin1String("Connected"); },
         [] { showPage(0); });
@@ -285,9 +284,8 @@ void KirvTour::planDisabling()
         [] { KirvWindowDriver::click(question()->button(QMessageBox::Yes)); });
     walk.expectOnTop(
         QStringLiteral("The account is disabled"),
-        [this] { return row(xmpp)->checkState(AliasColumn) == Qt::Unchecked; }, [this] { showConnections(xmpp); });
-    walk.expect(QStringLiteral("The connection view says so"),
-                [this] { return state(xmpp) == QLatin1String("Disabled"); });
+        [this] { return row(xmpp)->checkState(AliasColumn) == Qt::Unchecked; }, [this] { select(xmpp); });
+    walk.expect(QStringLiteral("The row says so"), [this] { return state(xmpp) == QLatin1String("Disabled"); });
     walk.expect(
         QStringLiteral("The server sees the session end"), [this] { return !demo.isOnline(); }, [] { showPage(0); });
 }
@@ -327,21 +325,19 @@ void KirvTour::openEditWindow(const QString &protocol) const
     KirvWindowDriver::doubleClick(list->viewport(), QPoint(cell.center().x(), cell.center().y()));
 }
 
-void KirvTour::showConnections(const QString &protocol) const
+void KirvTour::select(const QString &protocol) const
 {
-    showPage(1);
-    client->connectionView()->setCurrentAccount(client->accounts().accountsOf(protocol).value(0));
+    row(protocol)->treeWidget()->setCurrentItem(row(protocol));
 }
 
 QString KirvTour::state(const QString &protocol) const
 {
     const KirvAccount *account = client->accounts().accountsOf(protocol).value(0);
-    return account && client->connectionView()->isVisible() ? KirvConnectionModel::stateText(*account) : QString();
+    return account && page()->isVisible() ? KirvAccountStatus(*account, false).text() : QString();
 }
 
 QString KirvTour::problem(const QString &protocol) const
 {
-    const auto *model = client->connectionView()->findChild<KirvConnectionModel *>();
-    const int row = model->rowOf(client->accounts().accountsOf(protocol).value(0));
-    return model->index(row, KirvConnectionModel::ErrorColumn).data().toString();
+    const KirvAccount *account = client->accounts().accountsOf(protocol).value(0);
+    return account ? account->lastFailure().text() : QString();
 }

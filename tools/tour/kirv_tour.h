@@ -33,7 +33,7 @@ private:
     QWidget *page() const;
     QTreeWidgetItem *row(const QString &protocol) const;
     void openEditWindow(const QString &protocol) const;
-    void showConnections(const QString &protocol) const;
+    void select(const QString &protocol) const;
     QString state(const QString &protocol) const;
     QString problem(const QString &protocol) const;
 

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_account_order.h"
+
+#include "client/kirv_account_rows.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/store/kirv_client_settings.h"
+
+#include <QApplication>
+#include <QDragMoveEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QTreeWidget>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const int numberColumn = 3;
+const QLatin1String sortingKey("accounts_page/sorting");
+const QLatin1String widthKey("accounts_page/protocol_width");
+const int widestColumn = 2000;
+
+QPoint positionOf(const QDropEvent *event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->position().toPoint();
+#else
+    return event->pos();
+#endif
+}
+
+double numberOf(const QTreeWidgetItem *row)
+{
+    return row->data(numberColumn, Qt::DisplayRole).toDouble();
+}
+
+bool hasNumber(const QTreeWidgetItem *row)
+{
+    return row && row->data(numberColumn, Qt::DisplayRole).isValid();
+}
+
+} // namespace
+
+KirvAccountOrder::KirvAccountOrder(KirvAccountCollection &accounts, const KirvAccountRows &rows,
+                                   KirvClientSettings &settings, QTreeWidget *list)
+    : QObject(list)
+    , accounts(accounts)
+    , rows(rows)
+    , settings(settings)
+    , list(list)
+{
+    list->installEventFilter(this);
+    list->viewport()->installEventFilter(this);
+    connect(&rows, &KirvAccountRows::inserted, this, &KirvAccountOrder::numberLater);
+    connect(&accounts, &KirvAccountCollection::orderChanged, this,
+            [this](const KirvAccount *moved) { numberLater(moved->key()); });
+    // The page sorts its list after this.
+    QMetaObject::invokeMethod(this, &KirvAccountOrder::joinPage, Qt::QueuedConnection);
+}
+
+void KirvAccountOrder::joinPage()
+{
+    restore();
+    connect(list->header(), &QHeaderView::sectionClicked, this, &KirvAccountOrder::headerClicked);
+    connect(list->header(), &QHeaderView::sortIndicatorChanged, this, &KirvAccountOrder::sortingChanged);
+    sortingChanged();
+}
+
+bool KirvAccountOrder::isOwn() const
+{
+    return list->header()->sortIndicatorSection() == numberColumn;
+}
+
+void KirvAccountOrder::setOwn(bool isOwn)
+{
+    numberRows();
+    list->sortByColumn(isOwn ? numberColumn : int(KirvAliasColumn), Qt::AscendingOrder);
+    lastSection = list->header()->sortIndicatorSection();
+    lastOrder = Qt::AscendingOrder;
+}
+
+/// The header has sorted already: the third time ascending again.
+void KirvAccountOrder::headerClicked()
+{
+    const int section = list->header()->sortIndicatorSection();
+    const bool isThird = section == lastSection && lastOrder == Qt::DescendingOrder;
+    lastSection = section;
+    lastOrder = list->header()->sortIndicatorOrder();
+    if (isThird)
+        setOwn(true);
+}
+
+void KirvAccountOrder::sortingChanged()
+{
+    list->setDragDropMode(isOwn() ? QAbstractItemView::InternalMove : QAbstractItemView::NoDragDrop);
+    const QString sorting = QStringLiteral("%1,%2")
+                                .arg(list->header()->sortIndicatorSection())
+                                .arg(int(list->header()->sortIndicatorOrder()));
+    if (settings.value(sortingKey) != sorting)
+        settings.setValue(sortingKey, sorting);
+}
+
+void KirvAccountOrder::restore()
+{
+    const QStringList sorting = settings.value(sortingKey).split(QLatin1Char(','));
+    bool isSection = false;
+    const int section = sorting.first().toInt(&isSection);
+    if (isSection && (section == KirvAliasColumn || section == KirvProtocolColumn || section == numberColumn)) {
+        numberRows();
+        const bool isDescending = sorting.value(1).toInt() == Qt::DescendingOrder && section != numberColumn;
+        list->sortByColumn(section, isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    }
+    lastSection = list->header()->sortIndicatorSection();
+    lastOrder = list->header()->sortIndicatorOrder();
+    const int width = settings.value(widthKey).toInt();
+    if (width > 0)
+        list->header()->resizeSection(KirvProtocolColumn,
+                                      qBound(list->header()->minimumSectionSize(), width, widestColumn));
+}
+
+void KirvAccountOrder::saveWidth()
+{
+    const QString width = QString::number(list->columnWidth(KirvProtocolColumn));
+    if (settings.value(widthKey) != width)
+        settings.setValue(widthKey, width);
+}
+
+bool KirvAccountOrder::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Hide:
+        if (watched == list && !list->header()->isHidden())
+            saveWidth();
+        return false;
+    case QEvent::KeyPress: {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        return watched == list && key->modifiers().testFlag(Qt::AltModifier) && keyPressed(key->key());
+    }
+    case QEvent::DragMove:
+        return watched == list->viewport() && dragMoved(static_cast<QDragMoveEvent *>(event));
+    case QEvent::Drop:
+        return watched == list->viewport() && dropped(static_cast<QDropEvent *>(event));
+    default:
+        return false;
+    }
+}
+
+bool KirvAccountOrder::keyPressed(int key)
+{
+    if (key != Qt::Key_Up && key != Qt::Key_Down)
+        return false;
+    if (const QTreeWidgetItem *row = list->currentItem())
+        move(KirvAccountRows::keyOf(row), key == Qt::Key_Up);
+    return true;
+}
+
+/// The next row in that direction that is not hidden; -1 when there is none.
+int KirvAccountOrder::neighbour(int row, bool isUp) const
+{
+    const int step = isUp ? -1 : 1;
+    int next = row + step;
+    while (next >= 0 && next < list->topLevelItemCount() && list->isRowHidden(next, QModelIndex()))
+        next += step;
+    return next < list->topLevelItemCount() ? next : -1;
+}
+
+const KirvAccount *KirvAccountOrder::accountAt(int row) const
+{
+    const QTreeWidgetItem *item = list->topLevelItem(row);
+    return item ? accounts.find(KirvAccountRows::keyOf(item)) : nullptr;
+}
+
+bool KirvAccountOrder::canMove(const KirvAccountKey &key, bool isUp) const
+{
+    QTreeWidgetItem *row = rows.find(key);
+    return row && isOwn() && neighbour(list->indexOfTopLevelItem(row), isUp) >= 0;
+}
+
+void KirvAccountOrder::move(const KirvAccountKey &key, bool isUp)
+{
+    KirvAccount *account = accounts.find(key);
+    if (!account || !canMove(key, isUp))
+        return;
+    numberRows();
+    const int past = neighbour(list->indexOfTopLevelItem(rows.find(key)), isUp);
+    accounts.place(account, accountAt(isUp ? past : past + 1));
+    numberRows();
+    list->scrollToItem(rows.find(key));
+}
+
+/// The page never looks at children, so nothing is dropped onto a row: the drag is led to its nearer edge.
+bool KirvAccountOrder::dragMoved(QDragMoveEvent *event)
+{
+    const QPoint position = positionOf(event);
+    const QTreeWidgetItem *row = list->itemAt(position);
+    if (isSnapping || !row)
+        return false;
+    const QRect place = list->visualItemRect(row);
+    const bool isUpper = position.y() < place.center().y();
+    QDragMoveEvent atEdge(QPoint(position.x(), isUpper ? place.top() : place.bottom()), event->possibleActions(),
+                          event->mimeData(),
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+                          event->buttons(), event->modifiers());
+#else
+                          event->mouseButtons(), event->keyboardModifiers());
+#endif
+    atEdge.setDropAction(event->dropAction());
+    isSnapping = true;
+    QApplication::sendEvent(list->viewport(), &atEdge);
+    isSnapping = false;
+    event->setAccepted(atEdge.isAccepted());
+    return true;
+}
+
+/// The view only learns that it is over: it would move the rows, and take those away that were moved.
+bool KirvAccountOrder::dropped(QDropEvent *event)
+{
+    if (!isOwn() || event->source() != list) {
+        event->ignore();
+        return true;
+    }
+    moveSelection(positionOf(event));
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    return true;
+}
+
+void KirvAccountOrder::moveSelection(const QPoint &position)
+{
+    numberRows();
+    QTreeWidgetItem *row = list->itemAt(position);
+    int before = list->topLevelItemCount();
+    if (row)
+        before = list->indexOfTopLevelItem(row) + (position.y() < list->visualItemRect(row).center().y() ? 0 : 1);
+    // The first row behind that place that stays where it is.
+    while (before < list->topLevelItemCount() && list->topLevelItem(before)->isSelected())
+        ++before;
+    const KirvAccount *next = accountAt(before);
+    QModelIndexList selected = list->selectionModel()->selectedRows();
+    std::sort(selected.begin(), selected.end());
+    QList<KirvAccountKey> moved;
+    for (const QModelIndex &index : qAsConst(selected))
+        moved << KirvAccountRows::keyOf(index);
+    for (const KirvAccountKey &key : qAsConst(moved)) {
+        KirvAccount *account = isOwn() ? accounts.find(key) : nullptr;
+        if (account && !accounts.place(account, next))
+            break;
+    }
+    numberRows();
+}
+
+void KirvAccountOrder::numberLater(const KirvAccountKey &key)
+{
+    unnumbered.insert(key);
+    if (!std::exchange(isNumberingDue, true))
+        QMetaObject::invokeMethod(this, &KirvAccountOrder::numberRows, Qt::QueuedConnection);
+}
+
+void KirvAccountOrder::numberRows()
+{
+    isNumberingDue = false;
+    const QSet<KirvAccountKey> keys = std::exchange(unnumbered, {});
+    if (keys.isEmpty())
+        return;
+    if (keys.size() > 1 || !numberOne(*keys.cbegin()))
+        numberAll();
+}
+
+void KirvAccountOrder::numberAll()
+{
+    double number = 0;
+    const QList<KirvAccount *> all = accounts.accounts();
+    for (const KirvAccount *account : all) {
+        ++number;
+        if (QTreeWidgetItem *row = rows.find(account->key()))
+            setNumber(row, number);
+    }
+}
+
+/// A number between those of the neighbours. False when there is none.
+bool KirvAccountOrder::numberOne(const KirvAccountKey &key)
+{
+    KirvAccount *account = accounts.find(key);
+    QTreeWidgetItem *row = rows.find(key);
+    if (!account || !row)
+        return true;
+    const QList<KirvAccount *> all = accounts.accounts();
+    const int index = int(all.indexOf(account));
+    const QTreeWidgetItem *before = index > 0 ? rows.find(all.at(index - 1)->key()) : nullptr;
+    const QTreeWidgetItem *after = index + 1 < all.size() ? rows.find(all.at(index + 1)->key()) : nullptr;
+    const bool isEdge = index == 0 || index + 1 == all.size();
+    if ((!hasNumber(before) && index > 0) || (!hasNumber(after) && index + 1 < all.size()))
+        return false;
+    const double low = before ? numberOf(before) : (after ? numberOf(after) - 2 : 0);
+    const double high = after ? numberOf(after) : low + 2;
+    const double number = (low + high) / 2;
+    if (!isEdge && (number <= low || number >= high))
+        return false;
+    setNumber(row, number);
+    return true;
+}
+
+void KirvAccountOrder::setNumber(QTreeWidgetItem *row, double number) const
+{
+    const QSignalBlocker noItemChanged(list);
+    if (!hasNumber(row) || numberOf(row) != number)
+        row->setData(numberColumn, Qt::DisplayRole, number);
+}

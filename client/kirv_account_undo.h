@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_UNDO_H
+#define KIRV_ACCOUNT_UNDO_H
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+
+class KirvAccountHistory;
+class KirvMessageBar;
+class QWidget;
+
+/// Offers to undo what was removed and disabled: in the message bar as long as the message is shown, and by Ctrl+Z in
+/// the window. A field in which text is typed keeps the key for itself.
+class KirvAccountUndo : public QObject {
+    Q_OBJECT
+
+public:
+    /// \a history and \a messages are not owned and outlive this, which belongs to \a window.
+    KirvAccountUndo(KirvAccountHistory &history, KirvMessageBar &messages, QWidget *window);
+
+    /// The command that undoes the latest step, with a mnemonic; empty when there is nothing to undo.
+    QString command() const;
+    void undoLatest();
+    void undo(int step);
+
+    KirvAccountHistory &steps() const { return history; }
+
+private:
+    void show(int step);
+    void withdraw(int step);
+    QString messageOf(int step) const;
+
+    KirvAccountHistory &history;
+    KirvMessageBar &messages;
+    QHash<int, QString> shown; ///< the message of each step
+};
+
+#endif

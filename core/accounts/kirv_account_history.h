@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_HISTORY_H
+#define KIRV_ACCOUNT_HISTORY_H
+
+#include "core/accounts/kirv_removed_account.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+class KirvAccount;
+class KirvAccountCollection;
+class KirvMainAccount;
+
+/// What was removed and disabled in this run, whoever did it, and how it is undone.
+///
+/// A step is one removal or disabling, or several of them between beginStep() and endStep(). An account that is enabled
+/// in another way leaves the step that disabled it. Everything is in memory
+/// only, until the history is destroyed or the step is dropped: there are at most mostSteps, and as long as they hold
+/// more than mostBytes of pictures, the oldest ones go, but never the latest.
+class KirvAccountHistory : public QObject {
+    Q_OBJECT
+
+public:
+    enum Kind { Removal, Disabling };
+    static constexpr int mostSteps = 100;
+    static constexpr qint64 mostBytes = 64 * 1024 * 1024;
+
+    /// Neither is owned, and both outlive this.
+    KirvAccountHistory(KirvAccountCollection &accounts, KirvMainAccount &mainAccount, QObject *parent = nullptr);
+
+    /// Makes the changes that follow, which are all of the kind \a kind, one step. Does not nest.
+    void beginStep(Kind kind);
+    void endStep();
+
+    /// Number of the latest step; 0 when there is none.
+    int latest() const;
+    bool has(int step) const { return indexOf(step) >= 0; }
+    Kind kindOf(int step) const;
+    /// The accounts of the step, in the order in which they were changed.
+    QList<KirvAccountKey> accountsOf(int step) const;
+    /// The names of the same.
+    QStringList namesOf(int step) const;
+
+    /// Undoes the step: removed accounts are there again with everything that belonged to them, disabled ones are
+    /// enabled with the presence that was wanted, and the main account is the one that it was. Gives the reasons, a
+    /// sentence each, why some of it was not undone. What the store refused stays in the step and can be undone later;
+    /// what cannot be undone, as there is such an account again or none any more, is dropped.
+    QStringList undo(int step);
+
+Q_SIGNALS:
+    /// The step \a step is complete.
+    void stepAdded(int step);
+    /// It was undone or dropped.
+    void stepGone(int step);
+
+private:
+    /// One account.
+    struct Change {
+        KirvRemovedAccount account; ///< of a disabled one only what undoing it needs
+        QString name;
+        bool wasMain = false;
+    };
+    struct Step {
+        int number = 0;
+        Kind kind = Removal;
+        QList<Change> changes;
+        qint64 bytes() const;
+    };
+    enum Result { Undone, Refused, Impossible };
+
+    int indexOf(int step) const;
+    void prepare(Kind kind, const KirvAccount *account);
+    void confirm(Kind kind, const KirvAccountKey &key);
+    void add(const Step &step);
+    void dropOldest();
+    void forget(int index);
+    void accountChanged(const KirvAccount *account);
+    Result undoChange(Kind kind, const Change &change, QString *reason);
+    Result restore(const Change &change, QString *reason);
+    Result enable(const Change &change, QString *reason);
+
+    KirvAccountCollection &accounts;
+    KirvMainAccount &mainAccount;
+    QList<Step> steps; ///< oldest first
+    QHash<KirvAccountKey, Change> prepared; ///< begun, and not confirmed yet
+    QHash<KirvAccountKey, int> disabledBy; ///< the number of the step
+    Step open; ///< its number is 0 while no step is open
+    int lastNumber = 0;
+};
+
+#endif

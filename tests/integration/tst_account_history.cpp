@@ -1,0 +1,387 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/accounts/kirv_account_history.h"
+#include "core/accounts/kirv_main_account.h"
+#include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/kirv_profile_files.h"
+#include "tests/support/store_refusal.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+
+const QString ann = QStringLiteral("ann");
+const QString bob = QStringLiteral("bob");
+const QString cleo = QStringLiteral("cleo");
+
+} // namespace
+
+/// What was removed or disabled comes back as it was.
+class tst_AccountHistory : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void removedAccountComesBackWithEverything();
+    void passwordThatIsNotStoredComesBackInMemory();
+    void removalClearsTheDiskAtOnce();
+    void restoredAccountLogsInAgain();
+    void restoredAccountWaitsForTheOldConnection();
+    void restoredAccountStandsWhereItStood_data();
+    void restoredAccountStandsWhereItStood();
+    void mainAccountComesBackAsMainAccount();
+    void disabledAccountComesBackWithItsPresence();
+    void disabledMainAccountIsMainAgain();
+    void severalChangesAreOneStep();
+    void enablingElsewhereEmptiesTheStep();
+    void loginThatWasAddedAnewIsNotTouched();
+    void accountOfAnUnloadedProtocolComesBack();
+    void refusedChangeMakesNoStep();
+    void refusedUndoLosesNothing_data();
+    void refusedUndoLosesNothing();
+    void oldestStepsAreDropped();
+    void picturesAreBounded();
+    void removingSeveralIsOneChangeOfTheStore();
+    void refusedRemovalOfSeveralRemovesNone();
+
+private:
+    QStringList order() const;
+    KirvMainAccount &mainAccount() const { return core->services->mainAccountRule; }
+    void remove(const QString &id) { QVERIFY(core->accounts->remove(core->account(id))); }
+
+    std::unique_ptr<KirvAccountsFixture> core;
+    std::unique_ptr<KirvAccountHistory> history;
+};
+
+void tst_AccountHistory::init()
+{
+    core = std::make_unique<KirvAccountsFixture>();
+    QVERIFY(core->isReady());
+    mainAccount().restore();
+    history = std::make_unique<KirvAccountHistory>(*core->accounts, mainAccount());
+    for (const QString &id : { ann, bob, cleo })
+        QVERIFY(core->create(id));
+    core->settle();
+}
+
+void tst_AccountHistory::cleanup()
+{
+    history.reset();
+    core.reset();
+}
+
+QStringList tst_AccountHistory::order() const
+{
+    QStringList ids;
+    for (const KirvAccount *account : core->accounts->accounts())
+        ids << account->key().id;
+    return ids;
+}
+
+void tst_AccountHistory::removedAccountComesBackWithEverything()
+{
+    core->changeEverything(core->account(bob));
+    core->settle();
+    KirvAccountRecord before = core->account(bob)->record();
+    QFile pictureBefore(core->account(bob)->avatarPath());
+    QVERIFY(pictureBefore.open(QIODevice::ReadOnly));
+    const QByteArray bytes = pictureBefore.readAll();
+    QVERIFY(!bytes.isEmpty());
+    const QString presence = core->account(bob)->presence().getId();
+    remove(bob);
+    core->settleAndDelete();
+    QVERIFY(!pictureBefore.exists());
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    core->settleAndDelete();
+
+    KirvAccountRecord after = core->account(bob)->record();
+    QFile pictureAfter(core->account(bob)->avatarPath());
+    QVERIFY(pictureAfter.open(QIODevice::ReadOnly));
+    QCOMPARE(pictureAfter.readAll(), bytes);
+    before.avatar = after.avatar;
+    for (KirvAccountRecord *record : { &before, &after }) // what the server holds is told by its reply
+        record->settings.remove(KirvOwnSetting::avatarOnServer);
+    QVERIFY(before == after);
+    QCOMPARE(core->account(bob)->presence().getId(), presence);
+
+    history.reset();
+    core->restart();
+    KirvAccountRecord stored = core->account(bob)->record();
+    stored.settings.remove(KirvOwnSetting::avatarOnServer);
+    QVERIFY(stored.isStoredLike(after));
+}
+
+void tst_AccountHistory::passwordThatIsNotStoredComesBackInMemory()
+{
+    core->account(bob)->setRememberPassword(false);
+    core->account(bob)->setPassword(QStringLiteral("only known here"));
+    remove(bob);
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    QCOMPARE(core->account(bob)->getPassword(), QStringLiteral("only known here"));
+    QVERIFY(!isTextInFiles("only known here", core->store.folder()));
+}
+
+void tst_AccountHistory::removalClearsTheDiskAtOnce()
+{
+    QVERIFY(isTextInFiles("word of bob", core->store.folder()));
+    remove(bob);
+    QVERIFY(!isTextInFiles("word of bob", core->store.folder()));
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    QVERIFY(isTextInFiles("word of bob", core->store.folder()));
+}
+
+void tst_AccountHistory::restoredAccountLogsInAgain()
+{
+    core->takeCalls();
+    remove(bob);
+    core->settleAndDelete();
+    QCOMPARE(core->takeCalls(), QStringList { "bob log out" });
+    history->undo(history->latest());
+    core->settleAndDelete();
+    QCOMPARE(core->takeCalls(), QStringList { "bob log in available word of bob" });
+    QVERIFY(core->account(bob)->isOnline());
+}
+
+/// One would end the other on a server that lets a login in once.
+void tst_AccountHistory::restoredAccountWaitsForTheOldConnection()
+{
+    core->takeCalls();
+    const QPointer<KirvFakeConnection> old = core->connection(bob);
+    core->server().logOut = KirvFakeServer::Holds;
+    remove(bob);
+    history->undo(history->latest());
+    core->settleAndDelete();
+    QCOMPARE(core->takeCalls(), QStringList { "bob log out" });
+    old->serverAccepts();
+    core->settleAndDelete();
+    QVERIFY(!old);
+    QCOMPARE(core->takeCalls(), QStringList { "bob log in available word of bob" });
+    QVERIFY(core->account(bob)->isOnline());
+}
+
+void tst_AccountHistory::restoredAccountStandsWhereItStood_data()
+{
+    QTest::addColumn<QStringList>("removed");
+    QTest::newRow("first") << QStringList { ann };
+    QTest::newRow("middle") << QStringList { bob };
+    QTest::newRow("last") << QStringList { cleo };
+    QTest::newRow("all") << QStringList { ann, bob, cleo };
+    QTest::newRow("all from the end") << QStringList { cleo, bob, ann };
+}
+
+void tst_AccountHistory::restoredAccountStandsWhereItStood()
+{
+    QFETCH(QStringList, removed);
+    for (const QString &id : removed)
+        remove(id);
+    QCOMPARE(order().size(), 3 - removed.size());
+    while (history->latest())
+        QCOMPARE(history->undo(history->latest()), QStringList());
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(KirvAccountsFixture::idsOf(core->fake), QStringList({ ann, bob, cleo }));
+    history.reset();
+    core->restart();
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+}
+
+void tst_AccountHistory::mainAccountComesBackAsMainAccount()
+{
+    QCOMPARE(mainAccount().account(), core->account(ann));
+    remove(ann);
+    QCOMPARE(mainAccount().account(), core->account(bob));
+    history->undo(history->latest());
+    QCOMPARE(mainAccount().account(), core->account(ann));
+    QCOMPARE(core->settings->value("main_account"), QStringLiteral("ann@@Fake"));
+    remove(bob);
+    history->undo(history->latest());
+    QCOMPARE(mainAccount().account(), core->account(ann));
+}
+
+void tst_AccountHistory::disabledAccountComesBackWithItsPresence()
+{
+    core->setPresence(QStringLiteral("away"), bob);
+    core->settle();
+    QVERIFY(core->account(bob)->setEnabled(false));
+    core->settle();
+    QVERIFY(!core->account(bob)->isOnline());
+    QCOMPARE(history->kindOf(history->latest()), KirvAccountHistory::Disabling);
+    core->takeCalls();
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    core->settle();
+    QVERIFY(core->account(bob)->isOnline());
+    QCOMPARE(core->account(bob)->presence().getId(), QStringLiteral("away"));
+    QCOMPARE(core->takeCalls(), QStringList { "bob log in away word of bob" });
+    QCOMPARE(history->latest(), 0);
+}
+
+void tst_AccountHistory::disabledMainAccountIsMainAgain()
+{
+    QVERIFY(core->account(ann)->setEnabled(false));
+    QCOMPARE(mainAccount().account(), core->account(bob));
+    history->undo(history->latest());
+    QCOMPARE(mainAccount().account(), core->account(ann));
+}
+
+void tst_AccountHistory::severalChangesAreOneStep()
+{
+    QVERIFY(core->account(cleo)->setEnabled(false));
+    const int first = history->latest();
+    history->beginStep(KirvAccountHistory::Disabling);
+    for (const QString &id : { bob, ann, cleo })
+        QVERIFY(core->account(id)->setEnabled(false));
+    QCOMPARE(history->latest(), first);
+    history->endStep();
+    QCOMPARE(history->accountsOf(history->latest()),
+             (QList<KirvAccountKey> { core->account(bob)->key(), core->account(ann)->key() }));
+    history->undo(history->latest());
+    QVERIFY(core->account(ann)->isEnabled());
+    QVERIFY(core->account(bob)->isEnabled());
+    QVERIFY(!core->account(cleo)->isEnabled());
+    QCOMPARE(history->latest(), first);
+}
+
+void tst_AccountHistory::enablingElsewhereEmptiesTheStep()
+{
+    history->beginStep(KirvAccountHistory::Disabling);
+    for (const QString &id : { ann, bob })
+        QVERIFY(core->account(id)->setEnabled(false));
+    history->endStep();
+    const int step = history->latest();
+    const QSignalSpy gone(history.get(), &KirvAccountHistory::stepGone);
+    QVERIFY(core->account(bob)->setEnabled(true));
+    QCOMPARE(history->accountsOf(step), QList<KirvAccountKey> { core->account(ann)->key() });
+    QVERIFY(core->account(ann)->setEnabled(true));
+    QVERIFY(!history->has(step));
+    QCOMPARE(gone.size(), 1);
+}
+
+void tst_AccountHistory::loginThatWasAddedAnewIsNotTouched()
+{
+    remove(bob);
+    QVERIFY(core->create(bob));
+    core->account(bob)->setAlias(QStringLiteral("the new one"));
+    QCOMPARE(history->undo(history->latest()), QStringList { "The account \"bob\" (Fake) exists already." });
+    QCOMPARE(core->account(bob)->getAlias(), QStringLiteral("the new one"));
+    QCOMPARE(history->latest(), 0);
+    QCOMPARE(order(), QStringList({ ann, cleo, bob }));
+}
+
+void tst_AccountHistory::accountOfAnUnloadedProtocolComesBack()
+{
+    core->accounts->protocolAboutToBeUnloaded(core->fake);
+    remove(bob);
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    QVERIFY(core->account(bob));
+    QVERIFY(!core->account(bob)->isLoaded());
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+}
+
+void tst_AccountHistory::refusedChangeMakesNoStep()
+{
+    {
+        const StoreRefusal refusal(core->store.folder(), QStringLiteral("1"), QStringLiteral("DELETE"));
+        QVERIFY(!core->accounts->remove(core->account(bob)));
+    }
+    {
+        const StoreRefusal refusal(core->store.folder());
+        QVERIFY(!core->account(bob)->setEnabled(false));
+    }
+    core->account(bob)->setAlias(QStringLiteral("Robert"));
+    QCOMPARE(history->latest(), 0);
+}
+
+void tst_AccountHistory::refusedUndoLosesNothing_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QString>("table");
+    QTest::newRow("account") << QStringLiteral("INSERT") << QStringLiteral("account");
+    QTest::newRow("order") << QStringLiteral("UPDATE") << QStringLiteral("account");
+    QTest::newRow("picture") << QStringLiteral("INSERT") << QStringLiteral("avatar_file");
+}
+
+void tst_AccountHistory::refusedUndoLosesNothing()
+{
+    QFETCH(QString, change);
+    QFETCH(QString, table);
+    QVERIFY(core->account(bob)->setAvatar(core->makePicture()));
+    remove(bob);
+    core->settleAndDelete();
+    const int step = history->latest();
+    {
+        const StoreRefusal refusal(core->store.folder(), QStringLiteral("1"), change, table);
+        const QStringList reasons = history->undo(step);
+        QCOMPARE(int(reasons.size()), 1);
+        QVERIFY(!reasons.first().isEmpty());
+    }
+    QVERIFY(!core->account(bob));
+    QCOMPARE(history->latest(), step);
+    QCOMPARE(history->undo(step), QStringList());
+    QVERIFY(core->account(bob));
+    QVERIFY(!core->account(bob)->avatarPath().isEmpty());
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+}
+
+void tst_AccountHistory::oldestStepsAreDropped()
+{
+    QVERIFY(core->account(cleo)->setEnabled(false));
+    const int first = history->latest();
+    for (int i = 0; i < KirvAccountHistory::mostSteps; ++i) {
+        QVERIFY(history->has(first));
+        remove(bob);
+        QVERIFY(core->create(bob));
+    }
+    QVERIFY(!history->has(first));
+    QVERIFY(history->has(first + 1));
+}
+
+void tst_AccountHistory::picturesAreBounded()
+{
+    const QString large = core->home.filePath(QStringLiteral("large.bmp"));
+    QImage image(1500, 2000, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(large));
+    const qint64 bytes = QFileInfo(large).size() * 4 / 3;
+    remove(cleo);
+    const int first = history->latest();
+    const int fitting = int(KirvAccountHistory::mostBytes / QFileInfo(large).size());
+    QVERIFY2(fitting > 1 && fitting < KirvAccountHistory::mostSteps, qPrintable(QString::number(bytes)));
+    for (int i = 0; i <= fitting; ++i) {
+        QVERIFY(core->account(bob)->setAvatar(large));
+        remove(bob);
+        QVERIFY(core->create(bob));
+    }
+    QVERIFY(!history->has(first));
+    QVERIFY(!history->has(first + 1));
+    QVERIFY(history->has(first + 2));
+}
+
+void tst_AccountHistory::removingSeveralIsOneChangeOfTheStore()
+{
+    const int commits = core->store.commitCount();
+    history->beginStep(KirvAccountHistory::Removal);
+    QVERIFY(core->accounts->remove({ core->account(bob), core->account(cleo) }));
+    history->endStep();
+    QCOMPARE(core->store.commitCount(), commits + 1);
+    QCOMPARE(order(), QStringList { ann });
+    QCOMPARE(history->namesOf(history->latest()), QStringList({ "Alias of bob", "Alias of cleo" }));
+    history->undo(history->latest());
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+}
+
+void tst_AccountHistory::refusedRemovalOfSeveralRemovesNone()
+{
+    const StoreRefusal refusal(core->store.folder(), QStringLiteral("OLD.id = 'cleo'"), QStringLiteral("DELETE"));
+    const QSignalSpy refused(core->accounts.get(), &KirvAccountCollection::removalRefused);
+    QVERIFY(!core->accounts->remove({ core->account(bob), core->account(cleo) }));
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(refused.size(), 2);
+    QVERIFY(!core->accounts->lastError().isEmpty());
+    QCOMPARE(int(core->store.readAccounts().size()), 3);
+    QVERIFY(!core->account(bob)->isRemoved());
+}
+
+QTEST_GUILESS_MAIN(tst_AccountHistory)
+#include "tst_account_history.moc"

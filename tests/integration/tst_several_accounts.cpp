@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "tests/integration/kirv_client_windows.h"
+#include "tests/support/gui/kirv_scripted_answers.h"
+#include "tests/support/kirv_patience.h"
+#include "tests/support/store_refusal.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+const QString ann = QStringLiteral("ann");
+const QString bob = QStringLiteral("bob");
+const QString cleo = QStringLiteral("cleo");
+const QString dora = QStringLiteral("dora");
+
+} // namespace
+
+/// Several accounts are changed at once: with one question, and as one step to undo.
+class tst_SeveralAccounts : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void shiftAndCtrlSelectSeveral();
+    void buttonsAndStripKnowThatThereAreSeveral();
+    void severalAreDisabledWithOneQuestion();
+    void severalOffLineAreDisabledWithoutAQuestion();
+    void severalAreEnabled();
+    void severalAreRemoved_data();
+    void severalAreRemoved();
+    void refusedQuestionRemovesNone();
+    void refusedRemovalKeepsAllRows();
+    void mainAccountIsPassedOnOnce();
+    void oneOfSeveralIsRemovedByThePageAlone();
+
+private:
+    QTreeWidget *list() const { return windows->list(); }
+    QMenu *menu() const { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); }
+    void click(const QString &id, Qt::KeyboardModifiers modifiers = {});
+    void choose(const char *command);
+    void activate();
+
+    std::unique_ptr<KirvClientWindows> windows;
+};
+
+void tst_SeveralAccounts::init()
+{
+    windows = std::make_unique<KirvClientWindows>();
+    QVERIFY(windows->isReady());
+    for (const QString &id : { ann, bob, cleo, dora })
+        windows->addAccount(id);
+    KIRV_TRY(windows->account(dora)->isOnline());
+    activate();
+}
+
+void tst_SeveralAccounts::cleanup()
+{
+    if (menu())
+        menu()->close();
+    windows.reset();
+}
+
+void tst_SeveralAccounts::activate()
+{
+    windows->client->window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    list()->setFocus();
+}
+
+void tst_SeveralAccounts::click(const QString &id, Qt::KeyboardModifiers modifiers)
+{
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, list()->visualItemRect(windows->row(id)).center());
+    KirvClientWindows::settle();
+}
+
+void tst_SeveralAccounts::choose(const char *command)
+{
+    activate();
+    QTest::keyClick(list(), Qt::Key_Menu);
+    QVERIFY(menu());
+    auto *action = menu()->findChild<QAction *>(QLatin1String(command));
+    QVERIFY(action);
+    action->trigger();
+    if (menu())
+        menu()->close();
+    KirvClientWindows::settle();
+}
+
+void tst_SeveralAccounts::shiftAndCtrlSelectSeveral()
+{
+    click(ann);
+    click(cleo, Qt::ShiftModifier);
+    QCOMPARE(int(list()->selectedItems().size()), 3);
+    click(bob, Qt::ControlModifier);
+    QCOMPARE(int(list()->selectedItems().size()), 2);
+    click(dora);
+    QCOMPARE(list()->selectedItems(), QList<QTreeWidgetItem *> { windows->row(dora) });
+    QTest::keyClick(list(), Qt::Key_Up, Qt::ShiftModifier);
+    QCOMPARE(int(list()->selectedItems().size()), 2);
+}
+
+void tst_SeveralAccounts::buttonsAndStripKnowThatThereAreSeveral()
+{
+    click(ann);
+    const auto *title = KirvClientWindows::child<QLabel>(windows->client->accountsPage(), "Accounts_StripTitle");
+    QVERIFY(windows->pageButton("Accounts_EditButton")->isEnabled());
+    click(bob, Qt::ControlModifier);
+    QVERIFY(!windows->pageButton("Accounts_EditButton")->isEnabled());
+    QVERIFY(windows->pageButton("Accounts_RemoveButton")->isEnabled());
+    KIRV_TRY_COMPARE(title->text(), QStringLiteral("2 accounts are selected."));
+    QVERIFY(!windows->pageButton("Accounts_ReconnectButton")->isEnabled());
+    click(bob);
+    QVERIFY(windows->pageButton("Accounts_EditButton")->isEnabled());
+    KIRV_TRY(title->text().startsWith(QLatin1String("Connected")));
+    KIRV_TRY(windows->pageButton("Accounts_ReconnectButton")->isEnabled());
+}
+
+void tst_SeveralAccounts::severalAreDisabledWithOneQuestion()
+{
+    click(bob);
+    click(dora, Qt::ShiftModifier);
+    {
+        KirvScriptedAnswers answers({ QMessageBox::Yes });
+        choose("Accounts_DisableSeveralAction");
+        KIRV_TRY(!windows->account(dora)->isEnabled());
+        KirvClientWindows::settle();
+        QCOMPARE(int(answers.texts.size()), 1);
+        QVERIFY2(answers.texts.first().contains(QLatin1String("3 accounts")), qPrintable(answers.texts.first()));
+    }
+    for (const QString &id : { bob, cleo, dora }) {
+        QVERIFY(!windows->account(id)->isEnabled());
+        QCOMPARE(windows->row(id)->checkState(0), Qt::Unchecked);
+    }
+    QVERIFY(windows->account(ann)->isEnabled());
+    activate();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KirvClientWindows::settle();
+    for (const QString &id : { bob, cleo, dora })
+        QCOMPARE(windows->row(id)->checkState(0), Qt::Checked);
+}
+
+void tst_SeveralAccounts::severalOffLineAreDisabledWithoutAQuestion()
+{
+    for (const QString &id : { bob, cleo })
+        windows->account(id)->setPresence(windows->protocol->presenceWithId(QStringLiteral("offline"), QString()));
+    KIRV_TRY(!windows->account(bob)->isOnline() && !windows->account(cleo)->isOnline());
+    click(bob);
+    click(cleo, Qt::ControlModifier);
+    const KirvScriptedAnswers answers;
+    choose("Accounts_DisableSeveralAction");
+    QCOMPARE(int(answers.texts.size()), 0);
+    QVERIFY(!windows->account(bob)->isEnabled() && !windows->account(cleo)->isEnabled());
+}
+
+void tst_SeveralAccounts::severalAreEnabled()
+{
+    for (const QString &id : { bob, cleo })
+        windows->toggleInPage(id);
+    int handled = 0;
+    connect(list(), &QTreeWidget::itemChanged, this, [&handled] { ++handled; });
+    click(ann);
+    click(cleo, Qt::ShiftModifier);
+    choose("Accounts_EnableSeveralAction");
+    list()->disconnect(this);
+    for (const QString &id : { ann, bob, cleo }) {
+        QVERIFY(windows->account(id)->isEnabled());
+        QCOMPARE(windows->row(id)->checkState(0), Qt::Checked);
+    }
+    QCOMPARE(handled, 0);
+    KIRV_TRY(windows->account(bob)->isOnline() && windows->account(cleo)->isOnline());
+    QCOMPARE(windows->selector()->count(), 4);
+}
+
+void tst_SeveralAccounts::severalAreRemoved_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("menu") << QStringLiteral("menu");
+    QTest::newRow("button") << QStringLiteral("button");
+    QTest::newRow("key") << QStringLiteral("key");
+}
+
+void tst_SeveralAccounts::severalAreRemoved()
+{
+    QFETCH(QString, way);
+    click(bob);
+    click(dora, Qt::ControlModifier);
+    {
+        KirvScriptedAnswers answers({ QMessageBox::Yes });
+        if (way == QLatin1String("menu"))
+            choose("Accounts_RemoveSeveralAction");
+        else if (way == QLatin1String("button"))
+            windows->pageButton("Accounts_RemoveButton")->click();
+        else
+            QTest::keyClick(list(), Qt::Key_Delete);
+        KIRV_TRY(!windows->account(bob) && !windows->account(dora));
+        KirvClientWindows::settle();
+        QCOMPARE(int(answers.texts.size()), 1);
+    }
+    QCOMPARE(windows->rowIds(), QStringList({ ann, cleo }));
+    QCOMPARE(windows->selector()->count(), 2);
+    QVERIFY(list()->selectedItems().isEmpty());
+    activate();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, dora }));
+}
+
+void tst_SeveralAccounts::refusedQuestionRemovesNone()
+{
+    click(bob);
+    click(dora, Qt::ShiftModifier);
+    const KirvScriptedAnswers answers({ QMessageBox::No });
+    QTest::keyClick(list(), Qt::Key_Delete);
+    KIRV_TRY_COMPARE(int(answers.texts.size()), 1);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, dora }));
+}
+
+void tst_SeveralAccounts::refusedRemovalKeepsAllRows()
+{
+    const StoreRefusal refusal(windows->profileFolder(), QStringLiteral("OLD.id = 'dora'"), QStringLiteral("DELETE"));
+    click(bob);
+    click(dora, Qt::ShiftModifier);
+    const KirvScriptedAnswers answers({ QMessageBox::Yes });
+    QTest::keyClick(list(), Qt::Key_Delete);
+    KIRV_TRY(!windows->messages().isEmpty());
+    KirvClientWindows::settle();
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, dora }));
+    QVERIFY(windows->account(bob) && windows->account(dora));
+    QCOMPARE(int(windows->messages().size()), 1);
+}
+
+void tst_SeveralAccounts::mainAccountIsPassedOnOnce()
+{
+    QCOMPARE(windows->shownMainAccount(), ann);
+    click(ann);
+    click(cleo, Qt::ShiftModifier);
+    const KirvScriptedAnswers answers({ QMessageBox::Yes });
+    QTest::keyClick(list(), Qt::Key_Delete);
+    KIRV_TRY(!windows->account(ann));
+    KirvClientWindows::settle();
+    QCOMPARE(windows->shownMainAccount(), dora);
+    QCOMPARE(windows->messages().filter(QStringLiteral("main account")),
+             QStringList { QStringLiteral("dora is the main account now, because ann was removed.") });
+}
+
+void tst_SeveralAccounts::oneOfSeveralIsRemovedByThePageAlone()
+{
+    click(bob);
+    KirvScriptedAnswers answers({ QMessageBox::Yes });
+    QTest::keyClick(list(), Qt::Key_Delete);
+    KIRV_TRY(!windows->account(bob));
+    KirvClientWindows::settle();
+    QCOMPARE(answers.texts, QStringList { "Do you want to remove account 'bob' (Fake) and all related data?" });
+}
+
+QTEST_MAIN(tst_SeveralAccounts)
+#include "tst_several_accounts.moc"

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "tests/integration/kirv_client_windows.h"
+#include "tests/support/kirv_patience.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QListWidget>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+const QSize small(480, 360);
+
+} // namespace
+
+/// The settings window is usable on a small screen: it can be made that small, and nothing in it is cut off.
+class tst_SmallWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void windowCanBeSmall_data();
+    void windowCanBeSmall();
+
+private:
+    QWidget *window() const { return windows->client->window(); }
+    /// What stands outside of its window or of the widget around it, or has less room than it needs.
+    QStringList misplaced() const;
+
+    std::unique_ptr<KirvClientWindows> windows;
+};
+
+void tst_SmallWindow::init()
+{
+    windows = std::make_unique<KirvClientWindows>();
+    QVERIFY(windows->isReady());
+}
+
+void tst_SmallWindow::cleanup()
+{
+    windows.reset();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+QStringList tst_SmallWindow::misplaced() const
+{
+    QStringList names;
+    const QList<QWidget *> widgets = window()->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const QWidget *around = widget->parentWidget();
+        // What is scrolled may be larger than the area around it.
+        const bool isScrolled = qobject_cast<const QAbstractScrollArea *>(around->parentWidget())
+            || qobject_cast<const QAbstractScrollArea *>(around);
+        if (!widget->isVisible() || isScrolled)
+            continue;
+        const QRect inWindow(widget->mapTo(window(), QPoint()), widget->size());
+        if (!window()->rect().contains(inWindow) || !around->rect().contains(widget->geometry()))
+            names << widget->objectName() + QLatin1String(" outside");
+        if (qobject_cast<const QAbstractButton *>(widget) && widget->width() < widget->minimumSizeHint().width())
+            names << widget->objectName() + QLatin1String(" too narrow");
+    }
+    return names;
+}
+
+void tst_SmallWindow::windowCanBeSmall_data()
+{
+    QTest::addColumn<int>("accounts");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("isRightToLeft");
+    for (const bool isRightToLeft : { false, true }) {
+        const QByteArray direction = isRightToLeft ? " from right to left" : "";
+        QTest::newRow("no account" + direction) << 0 << 0 << isRightToLeft;
+        QTest::newRow("one account" + direction) << 1 << 0 << isRightToLeft;
+        QTest::newRow("many accounts and the search" + direction) << 12 << 0 << isRightToLeft;
+        QTest::newRow("plug-ins" + direction) << 1 << 1 << isRightToLeft;
+    }
+}
+
+void tst_SmallWindow::windowCanBeSmall()
+{
+    QFETCH(int, accounts);
+    QFETCH(int, page);
+    QFETCH(bool, isRightToLeft);
+    QApplication::setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    for (int i = 0; i < accounts; ++i)
+        windows->addAccount(QStringLiteral("somebody%1@a.long.name.of.a.server.example.org").arg(i));
+    KirvClientWindows::child<QListWidget>(window(), "Settings_Pages")->setCurrentRow(page);
+    window()->resize(small);
+    KirvClientWindows::settle();
+    QVERIFY2(window()->minimumSizeHint().width() <= small.width(),
+             qPrintable(QString::number(window()->minimumSizeHint().width())));
+    QVERIFY2(window()->minimumSizeHint().height() <= small.height(),
+             qPrintable(QString::number(window()->minimumSizeHint().height())));
+    QCOMPARE(window()->size(), small);
+    QCOMPARE(misplaced(), QStringList());
+    if (accounts > 0 && page == 0)
+        QVERIFY(windows->list()->viewport()->height()
+                >= windows->list()->visualItemRect(windows->list()->topLevelItem(0)).height());
+}
+
+QTEST_MAIN(tst_SmallWindow)
+#include "tst_small_window.moc"
