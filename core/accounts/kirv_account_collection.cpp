@@ -20,6 +20,7 @@ QList<QPointer<KirvAccount>> guarded(const QList<KirvAccount *> &accounts)
 KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
     : QObject(parent)
     , store(store)
+    , keeper(store)
 {
     const QList<KirvAccountRecord> records = store.readAccounts();
     error = store.lastError();
@@ -176,7 +177,7 @@ void KirvAccountCollection::logOutAll(int milliseconds)
 
 KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
-    auto *account = new KirvAccount(store, queue, record, this);
+    auto *account = new KirvAccount(store, queue, keeper, record, this);
     all.append(account);
     byKey.insert(record.key, account);
     logins.insert(record.key);
@@ -245,11 +246,13 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
     complete.secretSettings += kirvSecretFields(known->accountSettings());
+    keeper.place(complete, KirvAccountRecord());
     if (!store.insertAccount(complete))
         return refuseCreation(record.key, store.lastError());
     error.clear();
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
+    keeper.settle();
     account->load(known, true);
     account->tryAgain(); // the user has just made it: it does not wait behind the others
     Q_EMIT accountAdded(account);
@@ -271,6 +274,7 @@ bool KirvAccountCollection::remove(KirvAccount *account)
     error.clear();
     const KirvAccountKey key = account->key();
     account->leave();
+    keeper.settle();
     const QPointer<KirvAccountCollection> alive(this);
     Q_EMIT accountAboutToBeRemoved(account);
     if (!alive)

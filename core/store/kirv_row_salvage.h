@@ -35,6 +35,9 @@ private:
     bool chooseVersion();
     void readAccounts();
     void readValues(const QString &table);
+    void readItems();
+    void readItem(const Row &row, bool isObsolete);
+    bool hasTable(const char *name);
     bool write();
 
     QStringList columnsOf(const QString &table);
@@ -47,6 +50,7 @@ private:
     int version = 0;
     QMap<qint64, KirvAccountRecord> accounts; ///< by their numbers
     QMap<qint64, qint64> positions;
+    QList<Row> unusedItems; ///< to be removed where they are
     KirvProfileRescue::Recovered counts;
 };
 
