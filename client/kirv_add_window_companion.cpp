@@ -2,10 +2,12 @@
 #include "client/kirv_add_window_companion.h"
 
 #include "add_account/kirv_add_account_dialog.h"
+#include "client/kirv_remember_box.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/ui/kirv_length_limit.h"
 #include "host/kirv_protocol.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -33,6 +35,9 @@ void KirvAddWindowCompanion::aboutToShow()
 {
     for (const char *name : { "AddAccount_UsernameEdit", "AddAccount_PasswordEdit" })
         kirvLimitLength(window()->findChild<QLineEdit *>(QLatin1String(name)));
+    if (auto *box = window()->findChild<QCheckBox *>(QStringLiteral("AddAccount_RememberPasswordCheckbox"));
+        box && !box->findChild<KirvRememberBox *>())
+        new KirvRememberBox(box, accounts.secrets(), KirvRememberBox::OffWhenUnsafe);
     // After the page's.
     connect(buttonsOf(window()), &QDialogButtonBox::accepted, this, [this] { isAdding = false; });
 }

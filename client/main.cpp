@@ -3,6 +3,7 @@
 #include "client/kirv_client.h"
 #include "client/kirv_client_options.h"
 #include "client/kirv_client_start.h"
+#include "client/kirv_memory_protection.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_quit_signals.h"
 #include "client/kirv_settings_window.h"
@@ -35,6 +36,7 @@ bool runWithoutWindow(int argc, char *argv[], int *status)
 
 int main(int argc, char *argv[])
 {
+    kirvProtectMemory(); // where it is refused, dumps are what the system allows
     int status = 0;
     if (runWithoutWindow(argc, argv, &status))
         return status;

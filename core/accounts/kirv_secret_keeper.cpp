@@ -417,8 +417,11 @@ bool KirvSecretKeeper::moveNext()
 {
     if (batch.isEmpty())
         beginBatch();
-    if (batch.isEmpty())
+    if (batch.isEmpty()) {
+        if (movedCount > 0)
+            Q_EMIT moved(std::exchange(movedCount, 0));
         return false;
+    }
     const KirvSecretItem item = batch.at(verified.size()).item;
     isBusy = true;
     writeAndReadBack(item, batchValues.value(item.key), [this, item](const KirvSecretStore::Reply &reply) {
@@ -463,6 +466,4 @@ void KirvSecretKeeper::endBatch()
     } else if (movable.isEmpty() && !unused.isEmpty()) {
         collectMovable();
     }
-    if (movable.isEmpty() && movedCount > 0)
-        Q_EMIT moved(std::exchange(movedCount, 0));
 }
