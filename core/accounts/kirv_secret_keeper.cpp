@@ -277,7 +277,7 @@ void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, 
     }
 }
 
-/// One that was never written is the value before, where there was one.
+/// One that was never written is the value before, where there was one; otherwise nothing is left to be written.
 void KirvSecretKeeper::onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account)
 {
     if (newKeys.contains(item.key)) {
@@ -288,6 +288,8 @@ void KirvSecretKeeper::onMissing(const Secret &secret, const KirvSecretItem &ite
             reads.prepend(secret);
             return;
         }
+        store.keepSecretItems({ item.key });
+        load();
     }
     account->secretMissing(secret.field);
 }
