@@ -217,6 +217,26 @@ void KirvRowSalvage::readItem(const Row &row, bool isObsolete)
     ++counts.secrets;
 }
 
+void KirvRowSalvage::releaseItemsOf(const KirvProfilePaths &paths)
+{
+    if (!open(paths) || !hasTable("secret_item"))
+        return;
+    version = kirvStoreVersion();
+    unusedItems = rowsOf(QStringLiteral("secret_item"), 1).values();
+    writeUnusedItems();
+}
+
+bool KirvRowSalvage::writeUnusedItems()
+{
+    return std::all_of(unusedItems.constBegin(), unusedItems.constEnd(), [this](const Row &row) {
+        return target.execute(
+            QStringLiteral("INSERT OR IGNORE INTO secret_item (key, label, account, field, stage) "
+                           "VALUES (?, ?, 0, '', %1)")
+                .arg(int(KirvStoredItem::Obsolete)),
+            { row.value(QStringLiteral("key")).toString(), row.value(QStringLiteral("label")).toString() });
+    });
+}
+
 bool KirvRowSalvage::write()
 {
     QList<qint64> numbers = accounts.keys();
@@ -232,14 +252,7 @@ bool KirvRowSalvage::write()
                 || target.execute(QStringLiteral("INSERT OR IGNORE INTO avatar_file (name) VALUES (?)"),
                                   { account.avatar }));
     }
-    for (const Row &row : qAsConst(unusedItems)) {
-        good = good
-            && target.execute(
-                QStringLiteral("INSERT OR IGNORE INTO secret_item (key, label, account, field, stage) "
-                               "VALUES (?, ?, 0, '', %1)")
-                    .arg(int(KirvStoredItem::Obsolete)),
-                { row.value(QStringLiteral("key")).toString(), row.value(QStringLiteral("label")).toString() });
-    }
+    good = good && writeUnusedItems();
     for (const Row &row : settings) {
         good = good
             && target.execute(QStringLiteral("INSERT OR IGNORE INTO setting (key, value) VALUES (?, ?)"),

@@ -24,6 +24,9 @@ public:
     /// False when the table of the accounts cannot be read at all, or the target cannot be written; its error says
     /// which.
     bool readFrom(const KirvProfilePaths &paths);
+    /// Adds the items of the table "secret_item" that the target lacks as obsolete ones, as far as they are readable:
+    /// the database that names them is about to be replaced.
+    void releaseItemsOf(const KirvProfilePaths &paths);
     KirvProfileRescue::Recovered found() const { return counts; }
 
 private:
@@ -37,6 +40,7 @@ private:
     void readValues(const QString &table);
     void readItems();
     void readItem(const Row &row, bool isObsolete);
+    bool writeUnusedItems();
     bool hasTable(const char *name);
     bool write();
 
