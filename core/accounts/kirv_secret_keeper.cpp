@@ -5,6 +5,7 @@
 #include "core/store/kirv_account_columns.h"
 #include "core/store/kirv_store.h"
 
+#include <QTimer>
 #include <QUuid>
 #include <utility>
 
@@ -12,6 +13,7 @@ namespace {
 
 const QString idSetting = QStringLiteral("profile/id");
 const int batchSize = 20; ///< secrets that one commit moves
+const int tellSize = 50; ///< accounts in one turn of the event loop
 
 QString randomId()
 {
@@ -49,6 +51,7 @@ void KirvSecretKeeper::setKeyring(KirvSecretStore *keyring)
     if (!secretStore)
         return;
     connect(secretStore, &KirvSecretStore::stateChanged, this, &KirvSecretKeeper::onStateChanged);
+    toldObstacle = Unavailable;
     profileId();
     load();
     onStateChanged();
@@ -195,15 +198,25 @@ void KirvSecretKeeper::keepInProfile()
 
 void KirvSecretKeeper::tellAccounts()
 {
+    if (obstacle() != toldObstacle) {
+        toldObstacle = obstacle();
+        toTell = accounts.keys();
+        QMetaObject::invokeMethod(this, &KirvSecretKeeper::tellNext, Qt::QueuedConnection);
+    }
+    Q_EMIT changed();
+}
+
+/// A few at a time: thousands may wait, and each changes a row of a list.
+void KirvSecretKeeper::tellNext()
+{
     const QPointer<KirvSecretKeeper> alive(this);
-    const QList<KirvAccount *> all = accounts.values();
-    const QList<QPointer<KirvAccount>> guarded(all.begin(), all.end());
-    for (const QPointer<KirvAccount> &account : guarded) {
+    for (int count = 0; alive && count < tellSize && !toTell.isEmpty(); ++count) {
+        KirvAccount *account = accounts.value(toTell.takeLast());
         if (account)
             account->secretStateChanged();
     }
-    if (alive)
-        Q_EMIT changed();
+    if (alive && !toTell.isEmpty())
+        QTimer::singleShot(0, this, &KirvSecretKeeper::tellNext);
 }
 
 void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)

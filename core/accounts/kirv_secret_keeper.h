@@ -79,6 +79,7 @@ private:
     void next();
     void pause(const KirvSecretStore::Reply &reply);
     void tellAccounts();
+    void tellNext();
 
     bool readNext();
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
@@ -111,6 +112,8 @@ private:
     bool isBusy = false;
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
+    Obstacle toldObstacle = None; ///< that the accounts know of
+    QList<KirvAccountKey> toTell;
     KirvSecretStore::Outcome lastOutcome = KirvSecretStore::Done;
 };
 
