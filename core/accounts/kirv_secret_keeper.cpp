@@ -7,6 +7,7 @@
 
 #include <QTimer>
 #include <QUuid>
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -148,6 +149,10 @@ void KirvSecretKeeper::settle()
     if (!secretStore)
         return;
     load();
+    // What the user has just stored is tried also after a refusal.
+    isPaused = isPaused && std::all_of(writes.cbegin(), writes.cend(), [this](const KirvStoredItem &row) {
+                   return reported.contains(row.item.key);
+               });
     next();
 }
 
@@ -240,10 +245,18 @@ void KirvSecretKeeper::next()
         moveNext();
 }
 
+/// While the keyring is locked, only what is needed to log in is worth a question.
 bool KirvSecretKeeper::readNext()
 {
-    while (!reads.isEmpty()) {
-        const Secret secret = reads.takeFirst();
+    const bool isLocked = secretStore->state() == KirvSecretStore::Locked;
+    int index = 0;
+    while (index < reads.size()) {
+        const KirvAccount *owner = accounts.value(reads.at(index).account);
+        if (isLocked && owner && !owner->record().enabled) {
+            ++index;
+            continue;
+        }
+        const Secret secret = reads.takeAt(index);
         const KirvAccount *account = accounts.value(secret.account);
         const KirvSecretItem item = account ? account->record().secretItems.value(secret.field) : KirvSecretItem();
         const bool isBeingWritten =

@@ -31,13 +31,15 @@ KirvSecretStore::Outcome outcomeOf(int error)
 }
 
 /// Makes libsecret, which QtKeychain loads, forget the session with a service that has ended: it would be used with the
-/// next one, too.
-void forgetSession()
+/// next one, too. False when there is no libsecret.
+bool forgetSession()
 {
     using Disconnect = void (*)();
     QLibrary library(QStringLiteral("secret-1"), 0);
-    if (const auto disconnect = reinterpret_cast<Disconnect>(library.resolve("secret_service_disconnect")))
+    const auto disconnect = reinterpret_cast<Disconnect>(library.resolve("secret_service_disconnect"));
+    if (disconnect)
         disconnect();
+    return disconnect;
 }
 
 } // namespace
@@ -60,7 +62,7 @@ KirvKeyring::KirvKeyring(const Limits &limits, QObject *parent)
         Q_EMIT stateChanged();
         startNext();
     });
-    connect(watcher.get(), &KirvKeyringWatcher::replaced, this, &forgetSession);
+    connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = forgetSession(); });
     connect(watcher.get(), &KirvKeyringWatcher::refreshed, this, &KirvKeyring::stateKnown);
     watcher->start();
 }
@@ -69,6 +71,8 @@ KirvKeyring::~KirvKeyring() = default;
 
 KirvSecretStore::State KirvKeyring::state() const
 {
+    if (!hasLibrary)
+        return Unavailable;
     const bool isStuck = hasJob && !running;
     return isStuck && watcher->state() == Ready ? Silent : watcher->state();
 }
@@ -107,7 +111,7 @@ void KirvKeyring::startNext()
         failWaiting({ TimedOut, QString(), QString() });
         return;
     }
-    switch (watcher->state()) {
+    switch (state()) {
     case Unknown:
         return; // changed() follows
     case Unavailable:

@@ -60,6 +60,7 @@ private:
     QList<Operation> waiting;
     std::unique_ptr<Operation> running; ///< null: none, or the job has run out of time
     std::unique_ptr<Reply> unproven; ///< the reply to the running one, which counts when the state is known
+    bool hasLibrary = true; ///< through which the service is reached; false once it was missed
     bool hasJob = false; ///< one of the library runs, which must not be destroyed
     QTimer timeLimit;
 };

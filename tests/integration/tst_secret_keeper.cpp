@@ -41,6 +41,7 @@ private Q_SLOTS:
     void aSaveThatTypesAPasswordReplacesAnUnknownOne();
     void whatCannotBeReadIsRequestedOnce_data();
     void whatCannotBeReadIsRequestedOnce();
+    void aLockedKeyringIsAskedForEnabledAccountsOnly();
     void aPasswordForNowChangesNothingThatIsStored();
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
@@ -379,6 +380,23 @@ void tst_SecretKeeper::whatCannotBeReadIsRequestedOnce()
     settle();
     QCOMPARE(core->takeCalls().size(), 3);
     QCOMPARE(core->accounts->secrets().obstacle(), KirvSecretKeeper::None);
+}
+
+void tst_SecretKeeper::aLockedKeyringIsAskedForEnabledAccountsOnly()
+{
+    QVERIFY(core->create());
+    settle();
+    account()->setEnabled(false);
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->calls.clear();
+    restart();
+    settle();
+    QVERIFY(keyring->calls.isEmpty());
+    account()->setEnabled(true);
+    settle();
+    QCOMPARE(keyring->calls.value(0), QStringLiteral("read"));
+    QVERIFY(account()->isOnline());
 }
 
 void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
