@@ -372,8 +372,10 @@ bool KirvSecretKeeper::writeNext()
 void KirvSecretKeeper::onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply)
 {
     if (reply.outcome == KirvSecretStore::Done) {
-        store.keepSecretItems({ row.item.key });
+        const bool isRefused = store.keepSecretItems({ row.item.key }).isEmpty() && !store.lastError().isEmpty();
         load();
+        if (isRefused) // by the profile: not before something has changed
+            pause({});
         return;
     }
     const QPointer<KirvSecretKeeper> alive(this);

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
 
+    void whatTheProfileRefusesIsNotTriedForEver();
+
     void theProfileIsMovedOnce();
     void aMoveThatFailsLosesNothing_data();
     void aMoveThatFailsLosesNothing();
@@ -468,6 +470,22 @@ void tst_SecretKeeper::aNewSecretThatWasWrittenIsUsed()
     QCOMPARE(account()->getPassword(), QStringLiteral("written"));
     QCOMPARE(keyring->secrets.values(), QStringList("written"));
     QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("another one"));
+    settle();
+    QVERIFY(QDir(core->store.folder()).removeRecursively());
+    keyring->isHeld = false;
+    keyring->calls.clear();
+    keyring->release();
+    settle();
+    QVERIFY2(keyring->calls.size() < 5, qPrintable(keyring->calls.join(QLatin1Char(' '))));
+    QCOMPARE(account()->getPassword(), QStringLiteral("another one"));
 }
 
 void tst_SecretKeeper::theProfileIsMovedOnce()
