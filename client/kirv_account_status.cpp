@@ -2,6 +2,7 @@
 #include "client/kirv_account_status.h"
 
 #include "client/kirv_plain_text.h"
+#include "client/kirv_secret_texts.h"
 #include "core/accounts/kirv_account.h"
 
 #include <QLocale>
@@ -51,6 +52,8 @@ KirvAccountStatus::Kind KirvAccountStatus::kindOf(const KirvAccount &account)
     }
     if (!account.record().enabled)
         return Disabled;
+    if (account.awaitsSecrets())
+        return Waiting;
     return account.lastFailure().isFailure() ? Failed : OffLine;
 }
 
@@ -75,8 +78,15 @@ QString KirvAccountStatus::text(const QDateTime &now) const
     return tr("Its plug-in is not loaded");
 }
 
+bool KirvAccountStatus::isWaitingForSecrets() const
+{
+    return account.connection()->state() == KirvConnection::Offline;
+}
+
 QString KirvAccountStatus::waitingText(const QDateTime &now) const
 {
+    if (isWaitingForSecrets())
+        return KirvSecretTexts(account.secrets()).shortObstacle();
     if (account.connection()->isWaitingForTurn())
         //: other accounts connect first
         return tr("Waiting to connect…");
@@ -95,7 +105,7 @@ QString KirvAccountStatus::line(const QDateTime &now) const
 
 QString KirvAccountStatus::spokenLine() const
 {
-    if (stateKind != Waiting || account.connection()->isWaitingForTurn())
+    if (stateKind != Waiting || account.connection()->isWaitingForTurn() || isWaitingForSecrets())
         return lineOf(text());
     //: %1 = time of day
     return lineOf(tr("Waiting, next try at %1").arg(timeText(account.connection()->nextRetry())));
@@ -122,7 +132,8 @@ QString KirvAccountStatus::reason() const
     case Connecting:
         return sentences({ failure.text(), since() });
     case Waiting:
-        return sentences({ failure.text(), waitingReason() });
+        return isWaitingForSecrets() ? kirvPlainName(KirvSecretTexts(account.secrets()).obstacle())
+                                     : sentences({ failure.text(), waitingReason() });
     case Failed:
         return sentences({ failure.text(), advice(failure), since() });
     case OffLine:

@@ -52,6 +52,7 @@ private:
     QString lineOf(const QString &state) const;
     QString waitingText(const QDateTime &now) const;
     QString waitingReason() const;
+    bool isWaitingForSecrets() const;
     QString connectedReason() const;
     /// Since when the connection has been in its state; a sentence.
     QString since() const;

@@ -4,6 +4,7 @@
 #include "add_account/kirv_add_account_dialog.h"
 #include "client/kirv_advanced_section.h"
 #include "client/kirv_login_line.h"
+#include "client/kirv_remember_box.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/ui/kirv_field_form.h"
@@ -14,6 +15,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -76,6 +78,8 @@ void KirvAddWindowCompanion::setUpLogin()
     loginLine = new KirvLoginLine(loginEdit, protocolName, base->loginExample(), accounts);
     if (KirvRevealButton *reveal = KirvRevealButton::addBeside(passwordEdit))
         reveal->setObjectName(QStringLiteral("AddAccount_PasswordReveal"));
+    if (auto *box = window()->findChild<QCheckBox *>(QStringLiteral("AddAccount_RememberPasswordCheckbox")))
+        new KirvRememberBox(box, accounts.secrets(), KirvRememberBox::OffWhenUnsafe);
     connect(loginLine, &KirvLoginLine::problemChanged, this, &KirvAddWindowCompanion::growToFit);
     connect(loginEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
     connect(passwordEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);

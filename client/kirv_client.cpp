@@ -22,6 +22,7 @@
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/plugins/kirv_plugin_queue.h"
 #include "core/store/kirv_client_settings.h"
+#include "core/store/kirv_keyring.h"
 #include "core/store/kirv_store.h"
 #include "core/ui/kirv_layout_catalog.h"
 #include "host/kirv_account_manager.h"
@@ -118,6 +119,10 @@ void KirvClient::createServices()
 {
     clientSettings = std::make_unique<KirvClientSettings>(*store);
     accountCollection = std::make_unique<KirvAccountCollection>(*store);
+    if (options.usesKeyring) {
+        keyring = std::make_unique<KirvKeyring>();
+        accountCollection->secrets().setKeyring(keyring.get());
+    }
     const QDir profile(options.profileFolder);
     pluginLoader = std::make_unique<KirvPluginLoader>();
     pluginsToLoad = std::make_unique<KirvPluginQueue>(*pluginLoader, profile.filePath(QStringLiteral("plugins.json")));
@@ -176,6 +181,9 @@ void KirvClient::connectServices()
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
     if (const auto *application = qobject_cast<KirvApplication *>(QCoreApplication::instance()))
         connect(application, &KirvApplication::exceptionCaught, this, &KirvClient::showProblem);
+    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, &accountCollection->secrets(),
+            &KirvSecretKeeper::startMoving);
+    connect(&accountCollection->secrets(), &KirvSecretKeeper::moved, this, &KirvClient::showMoved);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
             &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
@@ -221,6 +229,8 @@ void KirvClient::protocolLoaded(KirvProtocolBase *protocol)
 {
     accountCollection->protocolLoaded(protocol);
     companions->page()->protocolLoaded(protocol->getName());
+    if (arePluginsLoaded()) // a plug-in of the user's own
+        accountCollection->secrets().startMoving();
 }
 
 void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
@@ -281,6 +291,16 @@ void KirvClient::showNotice(const KirvAccount *account, const QString &text)
 void KirvClient::showProblem(const QString &text)
 {
     settingsWindow->messageBar()->showMessage(text);
+}
+
+void KirvClient::showMoved(int secrets)
+{
+    const KirvSecretStore *place = accountCollection->secrets().keyring();
+    const QString name = place ? place->providerName() : QString();
+    showProblem(name.isEmpty()
+                    ? tr("%n passwords were moved to your keyring.", nullptr, secrets)
+                    //: %1 = "GNOME Keyring"
+                    : tr("%n passwords were moved to your keyring, which is %1.", nullptr, secrets).arg(name));
 }
 
 void KirvClient::showRefusal(const QString &text)

@@ -14,6 +14,7 @@ class KirvAccountCollection;
 class KirvAccountHistory;
 class KirvAccountsTab;
 class KirvHostServices;
+class KirvKeyring;
 class KirvLayoutCatalog;
 class KirvPasswordQuestions;
 class KirvPluginLoader;
@@ -83,6 +84,7 @@ private:
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
     void showRefusal(const QString &text);
+    void showMoved(int secrets);
 
     const KirvClientOptions options;
     KirvAccountLink unopenedLink;
@@ -91,6 +93,7 @@ private:
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;
     std::unique_ptr<KirvClientSettings> clientSettings;
+    std::unique_ptr<KirvKeyring> keyring; ///< null: it is not used
     std::unique_ptr<KirvAccountCollection> accountCollection;
     std::unique_ptr<KirvPluginLoader> pluginLoader;
     std::unique_ptr<KirvPluginQueue> pluginsToLoad;

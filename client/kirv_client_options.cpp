@@ -137,6 +137,7 @@ KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &argument
     parser.process(arguments);
 
     KirvClientOptions options = defaults();
+    options.usesKeyring = true;
     commands.read(parser, &options);
     if (parser.isSet(profile))
         options.profileFolder = folderOf(parser, profile);

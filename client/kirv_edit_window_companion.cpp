@@ -5,12 +5,14 @@
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_directory_guard.h"
 #include "client/kirv_plain_text.h"
+#include "client/kirv_remember_box.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/values/kirv_text_limit.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_avatar_quick_set_widget.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -89,6 +91,15 @@ void KirvEditWindowCompanion::aboutToShow()
     knownPassword = account->getPassword();
     kirvLimitLength(passwordEdit);
     kirvLimitLength(window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias")));
+    new KirvRememberBox(window()->findChild<QCheckBox *>(QStringLiteral("EditAccount_RememberPassword")),
+                        accounts.secrets(), KirvRememberBox::AsItIs);
+    passwordReason = kirvAddLineBelow(passwordEdit, "Reason");
+    unshownSecrets = account->record().unreadSecrets;
+    showSecrets(*account);
+    connect(&accounts.secrets(), &KirvSecretKeeper::changed, this, [this] {
+        if (const KirvAccount *shown = accounts.find(accountKey))
+            showSecrets(*shown);
+    });
     showIdentifierAsPlainText();
     showDescriptionAsPlainText(*account);
     watchRefusals(*account);
@@ -251,4 +262,25 @@ void KirvEditWindowCompanion::onAccountChanged(KirvAccount *account)
     if (passwordEdit->text() == knownPassword && password != knownPassword)
         passwordEdit->setText(password);
     knownPassword = password;
+    showSecrets(*account);
+}
+
+/// Says why the password is not shown, and shows secret settings that have become known: Save would put the empty text
+/// that is shown for them in their place.
+void KirvEditWindowCompanion::showSecrets(const KirvAccount &account)
+{
+    const QSet<QString> &unread = account.record().unreadSecrets;
+    const KirvSecretTexts texts(accounts.secrets());
+    const bool isShown = !unread.contains(QString()) || !account.getPassword().isEmpty();
+    passwordReason->setText(isShown                       ? QString()
+                                : account.awaitsSecrets() ? texts.notShown()
+                                                          : tr("The password is not in the keyring any more."));
+    passwordReason->setVisible(!isShown);
+    const QSet<QString> known = unshownSecrets - unread;
+    unshownSecrets.intersect(unread);
+    for (const QString &field : known) {
+        auto *edit = window()->findChild<QLineEdit *>(QStringLiteral("KirvField_") + field);
+        if (!field.isEmpty() && edit && edit->text().isEmpty())
+            edit->setText(kirvEditablePart(account.record().settings.value(field)));
+    }
 }

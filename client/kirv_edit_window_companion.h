@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QPointer>
+#include <QSet>
 
 class KirvAccount;
 class KirvAccountCollection;
@@ -14,6 +15,7 @@ class KirvDirectoryGuard;
 class KirvEditAccountDialog;
 class KirvServerCommands;
 class QDialogButtonBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -53,6 +55,7 @@ private:
     void watchRefusals(const KirvAccount &account);
     void showRefusal(const QString &title, const QString &advice);
     void onAccountChanged(KirvAccount *account);
+    void showSecrets(const KirvAccount &account);
 
     QPointer<KirvEditAccountDialog> controller;
     KirvAccountCollection &accounts;
@@ -63,6 +66,8 @@ private:
     QLineEdit *passwordEdit;
     KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
     QPointer<KirvAccount> saving; ///< while the change of a Save is open
+    QLabel *passwordReason = nullptr; ///< why the password is not shown
+    QSet<QString> unshownSecrets; ///< fields of secret settings that the window shows as empty
     QString knownPassword; ///< of the account, as far as the window shows it
     bool wasRefused = false; ///< a change of the account, by what the event loop is running now
     bool keepsOpen = false; ///< whatever else the click on Save leads to

@@ -2,6 +2,7 @@
 #include "client/kirv_password_dialog.h"
 
 #include "client/kirv_plain_text.h"
+#include "client/kirv_remember_box.h"
 #include "core/accounts/kirv_account.h"
 #include "core/ui/kirv_length_limit.h"
 
@@ -17,6 +18,7 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     , accountKey(account.key())
     , passwordEdit(new QLineEdit(this))
     , rememberBox(new QCheckBox(tr("&Remember the password"), this))
+    , forNow(account.awaitsSecrets())
 {
     setObjectName(QStringLiteral("PasswordQuestion"));
     setWindowTitle(tr("Password Needed"));
@@ -37,7 +39,7 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
 
     rememberBox->setObjectName(QStringLiteral("PasswordQuestion_Remember"));
     rememberBox->setChecked(account.record().rememberPassword);
-    rememberBox->setToolTip(tr("Keeps the password in your profile, so that it is not asked for again."));
+    rememberBox->setToolTip(tr("Keeps the password, so that it is not asked for again."));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->setObjectName(QStringLiteral("PasswordQuestion_Buttons"));
@@ -53,6 +55,16 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     layout->addWidget(question);
     layout->addWidget(passwordEdit);
     layout->addWidget(rememberBox);
+    if (forNow) {
+        rememberBox->hide();
+        auto *reason = new QLabel(kirvPlainName(KirvSecretTexts(account.secrets()).obstacle()), this);
+        reason->setObjectName(QStringLiteral("PasswordQuestion_Reason"));
+        reason->setTextFormat(Qt::PlainText);
+        reason->setWordWrap(true);
+        layout->addWidget(reason);
+    } else {
+        new KirvRememberBox(rememberBox, account.secrets(), KirvRememberBox::AsItIs);
+    }
     layout->addStretch();
     layout->addWidget(buttons);
     passwordEdit->setFocus();

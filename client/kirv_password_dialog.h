@@ -20,11 +20,14 @@ public:
     KirvAccountKey key() const { return accountKey; }
     QString password() const;
     bool isToBeRemembered() const;
+    /// Whether the password is for this run only: the stored one is in a keyring that cannot be read.
+    bool isForNow() const { return forNow; }
 
 private:
     const KirvAccountKey accountKey;
     QLineEdit *passwordEdit;
     QCheckBox *rememberBox;
+    const bool forNow;
 };
 
 #endif

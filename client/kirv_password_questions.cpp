@@ -59,7 +59,9 @@ void KirvPasswordQuestions::answered(int result)
     dialog = nullptr;
     finished->deleteLater();
     KirvAccount *account = accounts.find(finished->key());
-    if (result == QDialog::Accepted && account)
+    if (result == QDialog::Accepted && account && finished->isForNow())
+        account->providePasswordForNow(finished->password());
+    else if (result == QDialog::Accepted && account)
         account->providePassword(finished->password(), finished->isToBeRemembered());
     askNext();
 }

@@ -2,6 +2,7 @@
 #include "client/kirv_application.h"
 #include "client/kirv_client_options.h"
 #include "client/kirv_client_start.h"
+#include "client/kirv_memory_protection.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_quit_signals.h"
 
@@ -33,6 +34,7 @@ bool runWithoutWindow(int argc, char *argv[], int *status)
 
 int main(int argc, char *argv[])
 {
+    kirvProtectMemory(); // where it is refused, dumps are what the system allows
     int status = 0;
     if (runWithoutWindow(argc, argv, &status))
         return status;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 
+#include "core/accounts/kirv_secret_keeper.h"
 #include "core/protocol/kirv_plugin_call.h"
 #include "core/store/kirv_store.h"
 #include "core/values/kirv_text_limit.h"
@@ -12,24 +13,6 @@
 
 namespace {
 
-/// The stored form of the value of \a field.
-QString storedValue(const KirvField &field)
-{
-    if (field.getKind() == KirvField::CheckBox)
-        return QLatin1String(field.isChecked() ? "true" : "false");
-    return field.getText();
-}
-
-/// \a field with the value of that form.
-KirvField withStoredValue(KirvField field, const QString &value)
-{
-    if (field.getKind() == KirvField::CheckBox)
-        field.setChecked(value == QLatin1String("true"));
-    else if (field.getKind() != KirvField::Label)
-        field.setText(value);
-    return field;
-}
-
 bool isSame(const std::optional<KirvPresence> &left, const std::optional<KirvPresence> &right)
 {
     if (!left || !right)
@@ -39,49 +22,17 @@ bool isSame(const std::optional<KirvPresence> &left, const std::optional<KirvPre
 
 } // namespace
 
-QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields)
-{
-    QMap<QString, QString> values;
-    for (const KirvField &field : fields) {
-        if (field.getKind() != KirvField::Label && !field.getId().isEmpty())
-            values.insert(field.getId(), storedValue(field));
-    }
-    return values;
-}
-
-QSet<QString> kirvSecretFields(const QList<KirvField> &fields)
-{
-    QSet<QString> secrets;
-    for (const KirvField &field : fields) {
-        if (field.getKind() == KirvField::Password && !field.getId().isEmpty())
-            secrets.insert(field.getId());
-    }
-    return secrets;
-}
-
-namespace {
-
-/// Notes in \a record which of the settings that \a fields describe are secret.
-void classify(KirvAccountRecord &record, const QList<KirvField> &fields)
-{
-    const QSet<QString> secrets = kirvSecretFields(fields);
-    for (const KirvField &field : fields) {
-        if (secrets.contains(field.getId()))
-            record.secretSettings.insert(field.getId());
-        else
-            record.secretSettings.remove(field.getId());
-    }
-}
-
-} // namespace
-
-KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAccountRecord &record, QObject *parent)
+KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvSecretKeeper &secrets,
+                         const KirvAccountRecord &record, QObject *parent)
     : QObject(parent)
     , profile(store)
+    , keeper(secrets)
     , current(record)
+    , awaited(record.unreadSecrets)
     , reconciler([this] { return wanted(); }, logins)
 {
     refreshDescription();
+    keeper.add(this);
     connect(&reconciler, &KirvReconciler::settled, &entry, &KirvAccountDirectory::connectionSettled);
     connect(
         &entry, &KirvAccountDirectory::answered, this,
@@ -90,6 +41,7 @@ KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAcc
 
 KirvAccount::~KirvAccount()
 {
+    keeper.remove(this);
     entry.disconnect(this);
     dropConnection();
 }
@@ -138,9 +90,15 @@ bool KirvAccount::endSave()
 /// Stores the changes of the save that ends, or undoes them.
 bool KirvAccount::store()
 {
-    const bool isSameAsStored = !unstoredPassword && current.isStoredLike(recordBefore);
-    if (!removed && (isSameAsStored || profile.updateAccount(current))) {
+    KirvAccountRecord placed = current;
+    keeper.place(placed, recordBefore, unstoredPassword ? QSet<QString> { QString() } : QSet<QString>());
+    const bool isSameAsStored = !unstoredPassword && placed.isStoredLike(recordBefore);
+    if (!removed && (isSameAsStored || profile.updateAccount(placed))) {
         unstoredPassword = false;
+        current = placed;
+        awaited.intersect(current.unreadSecrets);
+        if (current.secretItems != recordBefore.secretItems)
+            keeper.settle();
         return true;
     }
     current = recordBefore;
@@ -228,13 +186,8 @@ QString KirvAccount::avatarPath() const
 
 QList<KirvField> KirvAccount::settings() const
 {
-    QList<KirvField> fields = loadedProtocol ? loadedProtocol->accountSettings() : QList<KirvField>();
-    for (KirvField &field : fields) {
-        const auto value = current.settings.constFind(field.getId());
-        if (value != current.settings.constEnd())
-            field = withStoredValue(field, *value);
-    }
-    return fields;
+    return loadedProtocol ? kirvFieldsWithValues(loadedProtocol->accountSettings(), current.settings)
+                          : QList<KirvField>();
 }
 
 bool KirvAccount::setSettings(const QList<KirvField> &fields)
@@ -242,8 +195,8 @@ bool KirvAccount::setSettings(const QList<KirvField> &fields)
     const QMap<QString, QString> values = kirvStoredValues(fields);
     return change([&](KirvAccountRecord &record) {
         for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-            record.settings.insert(value.key(), value.value());
-        classify(record, fields);
+            kirvSetSecret(record, value.key(), value.value());
+        kirvClassify(record, fields);
     });
 }
 
@@ -262,8 +215,10 @@ bool KirvAccount::setEnabled(bool enabled)
         else
             askedPresence.reset();
     });
-    if (alive && isStored && enabled)
+    if (alive && isStored && enabled) {
+        readSecretsAgain();
         tryAgain();
+    }
     return isStored;
 }
 
@@ -320,6 +275,7 @@ void KirvAccount::reconnect()
 {
     mayLogIn = true;
     askedPresence = logInPresence();
+    readSecretsAgain();
     reconciler.insist(KirvReconciler::Reconnect);
 }
 
@@ -329,17 +285,30 @@ void KirvAccount::providePassword(const QString &password, bool remember)
     const bool isStored = change([&](KirvAccountRecord &record) {
         record.password = password;
         record.rememberPassword = remember;
+        record.unreadSecrets.remove(QString());
     });
     if (!alive || removed)
         return;
     if (!isStored) { // it still serves this run, and is stored with the next save
         const KirvAccountRecord stored = current;
         current.password = password;
+        current.unreadSecrets.remove(QString());
         current.rememberPassword = current.rememberPassword && remember;
         unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
     }
     askedPresence = logInPresence();
+    awaited.remove(QString());
     tryAgain();
+}
+
+void KirvAccount::providePasswordForNow(const QString &password)
+{
+    current.password = recordBefore.password = password;
+    hasPasswordForNow = true;
+    awaited.clear();
+    askedPresence = logInPresence();
+    tryAgain();
+    Q_EMIT changed();
 }
 
 bool KirvAccount::acceptServerPassword(const QString &password)
@@ -350,9 +319,19 @@ bool KirvAccount::acceptServerPassword(const QString &password)
         connection()->acceptPassword(password);
     // Stored by itself: it stays the password also when a save that is open is refused.
     KirvAccountRecord accepted = isSaving() ? recordBefore : current;
+    const KirvAccountRecord before = accepted;
     accepted.password = password;
+    accepted.unreadSecrets.remove(QString());
+    keeper.place(accepted, before);
     const bool isStored = !accepted.rememberPassword || profile.updateAccount(accepted);
     current.password = recordBefore.password = password;
+    current.unreadSecrets.remove(QString());
+    recordBefore.unreadSecrets.remove(QString());
+    awaited.remove(QString());
+    if (isStored && accepted.rememberPassword) {
+        current.secretItems = recordBefore.secretItems = accepted.secretItems;
+        keeper.settle();
+    }
     unstoredPassword = !isStored;
     const QPointer<KirvAccount> alive(this);
     const QString reason = profile.lastError();
@@ -373,6 +352,7 @@ KirvReconciler::Wanted KirvAccount::wanted() const
     result.presence = presence();
     result.login = { current.key.id, current.password, settings() };
     result.avatar = avatar();
+    result.awaitsSecrets = awaitsSecrets();
     result.online =
         mayLogIn && !removed && current.enabled && connection() && !connection()->isOfflinePresence(result.presence);
     return result;
@@ -388,7 +368,7 @@ void KirvAccount::load(KirvProtocolBase *protocol, bool logIn)
     mayLogIn = logIn;
     KirvConnection *created = nullptr;
     const auto readProtocol = [&] {
-        classify(current, protocol->accountSettings());
+        kirvClassify(current, protocol->accountSettings());
         entry.setBlankFields(protocol->directoryFields());
         created = protocol->createConnection();
     };
@@ -412,6 +392,7 @@ void KirvAccount::unload()
 void KirvAccount::leave()
 {
     removed = true;
+    keeper.remove(this);
     if (!connection() || connection()->state() == KirvConnection::Offline) {
         deleteLater();
         return;
@@ -474,6 +455,8 @@ void KirvAccount::onFailed(const KirvFailure &failed)
     if (removed)
         return;
     setFailure(failed);
+    if (failed.kind() == KirvFailure::WrongPassword && !hasPasswordForNow)
+        keeper.read(this); // another program may have changed it
     const bool needsPassword = failed.kind() == KirvFailure::PasswordMissing;
     const QPointer<KirvAccount> alive(this);
     Q_EMIT changed();

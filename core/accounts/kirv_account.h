@@ -3,6 +3,7 @@
 #define KIRV_ACCOUNT_H
 
 #include "core/accounts/kirv_account_directory.h"
+#include "core/accounts/kirv_account_fields.h"
 #include "core/accounts/kirv_reconciler.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/store/kirv_account_record.h"
@@ -16,6 +17,7 @@
 #include <functional>
 #include <optional>
 
+class KirvSecretKeeper;
 class KirvStore;
 
 /// One configured account: what is stored of it, what is wanted of its connection, and the connection while its
@@ -30,8 +32,9 @@ class KirvAccount : public QObject, public KirvAccountConnection {
     Q_OBJECT
 
 public:
-    /// \a store and \a logins are not owned and outlive the account; \a record is stored in the store.
-    KirvAccount(KirvStore &store, KirvLoginQueue &logins, const KirvAccountRecord &record, QObject *parent = nullptr);
+    /// \a store, \a logins and \a secrets are not owned and outlive the account; \a record is stored in the store.
+    KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvSecretKeeper &secrets, const KirvAccountRecord &record,
+                QObject *parent = nullptr);
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }
@@ -72,6 +75,12 @@ public:
     /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in. Where the store
     /// refuses, the next save stores it.
     void providePassword(const QString &password, bool remember);
+    /// Uses \a password until the program ends, changes nothing of what is stored, and logs in without waiting for
+    /// other secrets.
+    void providePasswordForNow(const QString &password);
+    /// Whether the account waits for secrets that are in the keyring before it logs in.
+    bool awaitsSecrets() const { return !awaited.isEmpty(); }
+    const KirvSecretKeeper &secrets() const { return keeper; }
     /// The server has changed the password to \a password. Where the store refuses, the account keeps it for this run,
     /// so that it can be stored later; the result is false then.
     bool acceptServerPassword(const QString &password);
@@ -90,6 +99,20 @@ public:
     /// The last failure of the connection or of a request, and when; None and invalid when there is none.
     KirvFailure lastFailure() const { return failure; }
     QDateTime lastFailureTime() const { return failureTime; }
+
+    // For the keeper of the secrets. Each secret has the id of its field, the password the empty one.
+
+    void secretRead(const QString &field, const QString &value);
+    /// It is not in the keyring: somebody has removed it there.
+    void secretMissing(const QString &field);
+    /// It cannot be read now.
+    void secretFailed(const QString &field);
+    /// The profile says where it is: in \a item.
+    void secretPlaced(const QString &field, const KirvSecretItem &item);
+    void keepSecretInProfile(const QString &field);
+    void secretStateChanged();
+    /// One that was changed could not be kept; \a reason is what the keyring says, and may be empty.
+    void reportUnkeptSecret(const QString &reason);
 
     // For the collection.
 
@@ -133,8 +156,11 @@ private:
     void onAvatarReceived(const QByteArray &image, const QByteArray &onServer);
     void onDirectoryAnswered(const KirvDirectoryAnswer &answer);
     void setFailure(const KirvFailure &newFailure);
+    void readSecretsAgain();
+    void noLongerAwait(const QString &field);
 
     KirvStore &profile;
+    KirvSecretKeeper &keeper;
     KirvAccountRecord current;
     KirvAccountInfo description;
 
@@ -145,6 +171,8 @@ private:
 
     std::optional<KirvPresence> askedPresence; ///< in this run; empty: the stored one
     bool unstoredPassword = false;
+    bool hasPasswordForNow = false;
+    QSet<QString> awaited; ///< fields of secrets that are in the keyring and not known yet, or not any more
     bool mayLogIn = true;
     bool removed = false;
     KirvFailure failure;
@@ -154,10 +182,5 @@ private:
     KirvReconciler reconciler;
     KirvAccountDirectory entry;
 };
-
-/// \a fields by id in the form in which they are stored, without those that are only there to be read.
-QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields);
-/// The ids of those of \a fields whose values are secret.
-QSet<QString> kirvSecretFields(const QList<KirvField> &fields);
 
 #endif

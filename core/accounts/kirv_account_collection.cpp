@@ -23,6 +23,7 @@ QList<QPointer<KirvAccount>> guarded(const QList<KirvAccount *> &accounts)
 KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
     : QObject(parent)
     , store(store)
+    , keeper(store)
 {
     const QList<KirvAccountRecord> records = store.readAccounts();
     error = store.lastError();
@@ -179,7 +180,7 @@ void KirvAccountCollection::logOutAll(int milliseconds)
 
 KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
-    auto *account = new KirvAccount(store, queue, record, this);
+    auto *account = new KirvAccount(store, queue, keeper, record, this);
     all.append(account);
     byKey.insert(record.key, account);
     logins.insert(record.key);
@@ -262,11 +263,13 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
     complete.secretSettings += kirvSecretFields(known->accountSettings());
+    keeper.place(complete, KirvAccountRecord());
     if (!store.insertAccount(complete))
         return refuseCreation(record.key, store.lastError());
     error.clear();
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
+    keeper.settle();
     account->load(known, true);
     account->tryAgain(); // the user has just made it: it does not wait behind the others
     Q_EMIT accountAdded(account);
@@ -323,6 +326,7 @@ void KirvAccountCollection::removeStored(KirvAccount *account)
 {
     const KirvAccountKey key = account->key();
     account->leave();
+    keeper.settle();
     const QPointer<KirvAccountCollection> alive(this);
     Q_EMIT accountAboutToBeRemoved(account);
     if (!alive)
@@ -354,6 +358,9 @@ KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
         return nullptr;
     KirvAccountRecord record = removed.record;
     record.avatar = importPicture(removed.picture);
+    record.secretItems.clear(); // they were removed with the account
+    record.unreadSecrets.clear();
+    keeper.place(record, KirvAccountRecord());
     const KirvAccount *next = accountAfter(removed);
     if ((record.avatar.isEmpty() && !removed.picture.isEmpty()) || !insertBefore(record, next)) {
         error = store.lastError();
@@ -362,6 +369,7 @@ KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
     }
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(record);
+    keeper.settle();
     arrange(account, next);
     loadRestored(account, removed.presence);
     if (alive && account)

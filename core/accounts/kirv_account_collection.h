@@ -5,6 +5,7 @@
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_login_index.h"
 #include "core/accounts/kirv_removed_account.h"
+#include "core/accounts/kirv_secret_keeper.h"
 
 #include <QHash>
 #include <QList>
@@ -60,6 +61,9 @@ public:
     void setMainAccount(std::function<KirvAccount *()> mainAccount);
     /// Where the accounts have their turns to log in.
     KirvLoginQueue &loginQueue() { return queue; }
+    /// Who looks after their passwords and other secrets.
+    KirvSecretKeeper &secrets() { return keeper; }
+    const KirvSecretKeeper &secrets() const { return keeper; }
 
     /// The protocol was loaded: its accounts get connections, and the enabled ones log in when \a logIn. Accounts that
     /// turn out to have the same login stay; problemOccurred() names them.
@@ -126,6 +130,7 @@ private:
 
     KirvStore &store;
     KirvLoginQueue queue;
+    KirvSecretKeeper keeper;
     std::function<KirvAccount *()> mainAccount;
     QList<KirvAccount *> all;
     QHash<KirvAccountKey, KirvAccount *> byKey;

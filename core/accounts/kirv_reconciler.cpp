@@ -110,6 +110,9 @@ void KirvReconciler::reconcile()
         return;
     const QPointer<KirvReconciler> alive(this);
     const Wanted now = wanted();
+    const bool wouldLogIn = target->state() == KirvConnection::Offline || urge != None;
+    if (now.online && now.awaitsSecrets && wouldLogIn)
+        return; // schedule() follows when they are there
     const Step step = nextStep(now, *target, urge);
     const bool leavesSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
     if (!leavesSession) { // an avatar is not published over a session that is not wanted any more

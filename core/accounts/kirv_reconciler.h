@@ -22,6 +22,7 @@ public:
     /// What is stored, and what the user wants.
     struct Wanted {
         bool online = false;
+        bool awaitsSecrets = false; ///< a log-in waits for what login lacks; what is on line stays so
         KirvLogin login;
         KirvPresence presence;
         KirvAvatar avatar;

@@ -91,7 +91,8 @@ QString KirvAccountConnection::getPassword() const
 
 void KirvAccountConnection::setPassword(const QString &password)
 {
-    self(this).change([&](KirvAccountRecord &record) { record.password = edited(record.password, password); });
+    self(this).change(
+        [&](KirvAccountRecord &record) { kirvSetSecret(record, QString(), edited(record.password, password)); });
 }
 
 void KirvAccountConnection::setRememberPassword(bool remember)

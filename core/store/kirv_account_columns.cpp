@@ -65,14 +65,23 @@ QString kirvColumnPlaceHolders()
 
 KirvAccountRecord kirvStoredForm(KirvAccountRecord record)
 {
-    if (!record.rememberPassword)
+    if (!record.rememberPassword) {
         record.password.clear();
+        record.secretItems.remove(QString());
+        record.unreadSecrets.remove(QString());
+    }
     QSet<QString> secrets;
     for (const QString &field : qAsConst(record.secretSettings)) {
         if (record.settings.contains(field))
             secrets.insert(field);
     }
     record.secretSettings = secrets;
+    const QStringList fields = record.secretItems.keys();
+    for (const QString &field : fields) {
+        const bool isSecret = field.isEmpty() || secrets.contains(field) || record.unreadSecrets.contains(field);
+        if (!isSecret) // any more
+            record.secretItems.remove(field);
+    }
     return record;
 }
 
@@ -88,5 +97,6 @@ bool KirvAccountRecord::isStoredLike(const KirvAccountRecord &other) const
 {
     const KirvAccountRecord left = kirvStoredForm(*this), right = kirvStoredForm(other);
     return key == other.key && left.password == right.password && kirvColumnValues(left) == kirvColumnValues(right)
-        && settings == other.settings && left.secretSettings == right.secretSettings;
+        && settings == other.settings && left.secretSettings == right.secretSettings
+        && left.secretItems == right.secretItems;
 }

@@ -2,6 +2,7 @@
 #ifndef KIRV_ACCOUNT_RECORD_H
 #define KIRV_ACCOUNT_RECORD_H
 
+#include "core/store/kirv_secret_item.h"
 #include "core/values/kirv_account_key.h"
 
 #include <QLatin1String>
@@ -34,6 +35,11 @@ struct KirvAccountRecord {
     /// The ids of those settings that are secret, as passwords are: no copy of the profile holds them. Ids that are
     /// not in settings mean nothing.
     QSet<QString> secretSettings;
+    /// Where the secrets are that stand in a store of secrets instead of the profile, by field id; that of the password
+    /// is empty.
+    QMap<QString, KirvSecretItem> secretItems;
+    /// Those of secretItems whose values are not known here: password and settings lack them.
+    QSet<QString> unreadSecrets;
 
     /// Whether both are the same, as far as they are stored.
     bool isStoredLike(const KirvAccountRecord &other) const;

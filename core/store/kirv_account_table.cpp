@@ -36,7 +36,7 @@ QList<KirvAccountRecord> KirvAccountTable::readAll()
         accounts.append(account);
     }
     const bool good = database.readToEnd(query) && readValues(settingTable, accounts, indices)
-        && readValues(secretTable, accounts, indices);
+        && readValues(secretTable, accounts, indices) && secretItems.readInto(accounts, indices);
     return good ? accounts : QList<KirvAccountRecord>();
 }
 
@@ -117,6 +117,7 @@ bool KirvAccountTable::remove(const KirvAccountKey &key)
 {
     Row row;
     if (!findRow(key, &row) || !writeValues(secretTable, row.number, Values(), &pending.hasOverwrittenSecrets)
+        || !secretItems.release(row.number)
         || !database.run(QStringLiteral("DELETE FROM account WHERE number = ?"), { row.number }))
         return false;
     pending.hasOverwritten = true;
@@ -179,17 +180,20 @@ bool KirvAccountTable::findOddRow(const KirvAccountKey &key, Row *row)
 }
 
 /// The secret settings of \a account, and its password under the empty field, go into one table, the others into
-/// another.
+/// another; those that have an item stand in neither.
 bool KirvAccountTable::writeValues(const QVariant &number, const KirvAccountRecord &account)
 {
     Values settings, secrets;
-    for (auto setting = account.settings.constBegin(); setting != account.settings.constEnd(); ++setting)
-        (account.secretSettings.contains(setting.key()) ? secrets : settings).insert(setting.key(), setting.value());
+    for (auto setting = account.settings.constBegin(); setting != account.settings.constEnd(); ++setting) {
+        if (!account.secretItems.contains(setting.key()))
+            (account.secretSettings.contains(setting.key()) ? secrets : settings)
+                .insert(setting.key(), setting.value());
+    }
     if (!noteNewSecrets(number, secrets))
         return false;
-    if (!account.password.isEmpty())
+    if (!account.password.isEmpty() && !account.secretItems.contains(QString()))
         secrets.insert(QString(), account.password);
-    return writeValues(settingTable, number, settings, &pending.hasOverwritten)
+    return secretItems.write(number, account) && writeValues(settingTable, number, settings, &pending.hasOverwritten)
         && writeValues(secretTable, number, secrets, &pending.hasOverwrittenSecrets);
 }
 

@@ -3,6 +3,7 @@
 #define KIRV_ACCOUNT_TABLE_H
 
 #include "core/store/kirv_account_record.h"
+#include "core/store/kirv_secret_item_table.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -30,6 +31,7 @@ public:
     /// \a database is not owned.
     explicit KirvAccountTable(KirvDatabase &database)
         : database(database)
+        , secretItems(database)
     {
     }
 
@@ -50,6 +52,7 @@ public:
     bool rewriteSettings();
 
     Effects &effects() { return pending; }
+    KirvSecretItemTable &items() { return secretItems; }
 
 private:
     /// The values of an account by field, in one of the two tables that have the same columns.
@@ -69,6 +72,7 @@ private:
     bool writeValues(const QString &table, const QVariant &number, const Values &values, bool *hasOverwritten);
 
     KirvDatabase &database;
+    KirvSecretItemTable secretItems;
     Effects pending;
 };
 

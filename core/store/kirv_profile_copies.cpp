@@ -149,6 +149,8 @@ bool KirvProfileCopies::fill(KirvDatabase &copy) const
     QStringList tables { QStringLiteral("account"), QStringLiteral("setting") };
     if (version >= kirvFirstMarkedVersion)
         tables << QStringLiteral("account_setting") << QStringLiteral("avatar_file");
+    if (version >= kirvFirstVersionWithItems)
+        tables << QStringLiteral("secret_item"); // names of secrets, which are elsewhere
     for (const QString &table : tables) {
         const QStringList columns = columnsOf(copy, QStringLiteral("main"), table);
         const QStringList known = columnsOf(copy, QStringLiteral("source"), table);

@@ -61,6 +61,8 @@ bool KirvProfileRescue::restore(const KirvProfileCopy &copy)
         && kirvMakePrivate(paths.unfinished()) && database.open(paths.unfinished(), KirvDatabase::Plain)
         && database.execute(QStringLiteral("PRAGMA application_id = %1").arg(kirvProfileId))
         && database.execute(QStringLiteral("DELETE FROM profile_copy"));
+    if (made)
+        KirvRowSalvage(database).releaseItemsOf(paths);
     database.close();
     return made ? replaceDatabase() : fail(KirvProfileCheck(paths).notWritable().text);
 }

@@ -38,7 +38,8 @@ public:
     /// The copies that are whole, the newest first.
     QList<KirvProfileCopy> copies() const;
 
-    /// Puts \a copy in the place of the database. Passwords and secret settings are in no copy.
+    /// Puts \a copy in the place of the database. Passwords and secret settings are in no copy; those that are in a
+    /// store of secrets are there still, as long as nothing has replaced them since.
     bool restore(const KirvProfileCopy &copy);
     /// Makes a database of everything that can still be read, row by row. False when not even a table can be read.
     bool recover(Recovered *found);

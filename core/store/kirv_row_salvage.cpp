@@ -27,6 +27,8 @@ bool KirvRowSalvage::readFrom(const KirvProfilePaths &paths)
     readValues(QStringLiteral("account_setting"));
     if (version >= kirvFirstMarkedVersion)
         readValues(QStringLiteral("secret"));
+    if (version >= kirvFirstVersionWithItems)
+        readItems();
     return write();
 }
 
@@ -42,13 +44,21 @@ bool KirvRowSalvage::open(const KirvProfilePaths &paths)
         && source.execute(QStringLiteral("PRAGMA writable_schema = ON"));
 }
 
-/// The number of its columns tells of which version the table of the accounts is.
+bool KirvRowSalvage::hasTable(const char *name)
+{
+    source.clearError();
+    return source.run(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(QLatin1String(name)));
+}
+
+/// The number of its columns tells of which version the table of the accounts is, and another table the versions in
+/// which it is the same.
 bool KirvRowSalvage::chooseVersion()
 {
     const QSqlQuery *query = source.run(QStringLiteral("SELECT * FROM account LIMIT 0"));
     const int columns = query ? query->record().count() : 0;
     for (version = kirvStoreVersion(); version > 0; --version) {
-        if (columns == columnsOf(accountTable).size())
+        if (columns == columnsOf(accountTable).size()
+            && (version != kirvFirstVersionWithItems || hasTable("secret_item")))
             return true;
     }
     return false;
@@ -180,6 +190,53 @@ void KirvRowSalvage::readValues(const QString &table)
     }
 }
 
+void KirvRowSalvage::readItems()
+{
+    const Rows rows = rowsOf(QStringLiteral("secret_item"), 1);
+    for (const int wanted : { int(KirvStoredItem::New), int(KirvStoredItem::Kept), int(KirvStoredItem::Obsolete) }) {
+        for (const Row &row : rows) {
+            if (row.value(QStringLiteral("stage")).toInt() == wanted)
+                readItem(row, wanted == KirvStoredItem::Obsolete);
+        }
+    }
+}
+
+void KirvRowSalvage::readItem(const Row &row, bool isObsolete)
+{
+    const auto account = accounts.find(row.value(QStringLiteral("account")).toLongLong());
+    const QString field = row.value(QStringLiteral("field")).toString();
+    const bool isUsed = !isObsolete && account != accounts.end() && !account->secretItems.contains(field)
+        && (field.isEmpty() ? account->password.isEmpty() : !account->secretSettings.contains(field));
+    if (!isUsed) {
+        unusedItems << row;
+        return;
+    }
+    account->secretItems.insert(
+        field, { row.value(QStringLiteral("key")).toString(), row.value(QStringLiteral("label")).toString() });
+    account->unreadSecrets.insert(field);
+    ++counts.secrets;
+}
+
+void KirvRowSalvage::releaseItemsOf(const KirvProfilePaths &paths)
+{
+    if (!open(paths) || !hasTable("secret_item"))
+        return;
+    version = kirvStoreVersion();
+    unusedItems = rowsOf(QStringLiteral("secret_item"), 1).values();
+    writeUnusedItems();
+}
+
+bool KirvRowSalvage::writeUnusedItems()
+{
+    return std::all_of(unusedItems.constBegin(), unusedItems.constEnd(), [this](const Row &row) {
+        return target.execute(
+            QStringLiteral("INSERT OR IGNORE INTO secret_item (key, label, account, field, stage) "
+                           "VALUES (?, ?, 0, '', %1)")
+                .arg(int(KirvStoredItem::Obsolete)),
+            { row.value(QStringLiteral("key")).toString(), row.value(QStringLiteral("label")).toString() });
+    });
+}
+
 bool KirvRowSalvage::write()
 {
     QList<qint64> numbers = accounts.keys();
@@ -195,6 +252,7 @@ bool KirvRowSalvage::write()
                 || target.execute(QStringLiteral("INSERT OR IGNORE INTO avatar_file (name) VALUES (?)"),
                                   { account.avatar }));
     }
+    good = good && writeUnusedItems();
     for (const Row &row : settings) {
         good = good
             && target.execute(QStringLiteral("INSERT OR IGNORE INTO setting (key, value) VALUES (?, ?)"),

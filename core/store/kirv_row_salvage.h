@@ -24,6 +24,9 @@ public:
     /// False when the table of the accounts cannot be read at all, or the target cannot be written; its error says
     /// which.
     bool readFrom(const KirvProfilePaths &paths);
+    /// Adds the items of the table "secret_item" that the target lacks as obsolete ones, as far as they are readable:
+    /// the database that names them is about to be replaced.
+    void releaseItemsOf(const KirvProfilePaths &paths);
     KirvProfileRescue::Recovered found() const { return counts; }
 
 private:
@@ -35,6 +38,10 @@ private:
     bool chooseVersion();
     void readAccounts();
     void readValues(const QString &table);
+    void readItems();
+    void readItem(const Row &row, bool isObsolete);
+    bool writeUnusedItems();
+    bool hasTable(const char *name);
     bool write();
 
     QStringList columnsOf(const QString &table);
@@ -47,6 +54,7 @@ private:
     int version = 0;
     QMap<qint64, KirvAccountRecord> accounts; ///< by their numbers
     QMap<qint64, qint64> positions;
+    QList<Row> unusedItems; ///< to be removed where they are
     KirvProfileRescue::Recovered counts;
 };
 

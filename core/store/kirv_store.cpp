@@ -341,6 +341,43 @@ bool KirvStore::classifySettings(const QString &protocol, const QSet<QString> &f
     });
 }
 
+QList<KirvStoredItem> KirvStore::unsettledItems()
+{
+    d->database.clearError();
+    return d->accounts.items().unsettled();
+}
+
+KirvSecretItem KirvStore::secretItem(const KirvAccountKey &account, const QString &field, KirvStoredItem::Stage stage)
+{
+    d->database.clearError();
+    return d->accounts.items().find(account, field, stage);
+}
+
+bool KirvStore::addSecretItems(const QList<KirvStoredItem> &items)
+{
+    return d->change([&] { return d->accounts.items().add(items); });
+}
+
+QStringList KirvStore::keepSecretItems(const QStringList &keys)
+{
+    QStringList kept;
+    const bool isStored = d->change([&] {
+        d->accounts.effects().hasOverwrittenSecrets = true;
+        return d->accounts.items().keep(keys, &kept);
+    });
+    return isStored ? kept : QStringList();
+}
+
+bool KirvStore::makeItemsObsolete(const QStringList &keys)
+{
+    return d->change([&] { return d->accounts.items().makeObsolete(keys); });
+}
+
+bool KirvStore::forgetSecretItems(const QStringList &keys)
+{
+    return d->change([&] { return d->accounts.items().forget(keys); });
+}
+
 QString KirvStore::readSetting(const QString &key, const QString &fallback)
 {
     d->database.clearError();

@@ -4,6 +4,7 @@
 
 #include "core/store/kirv_account_record.h"
 #include "core/store/kirv_profile_state.h"
+#include "core/store/kirv_secret_item_table.h"
 
 #include <QList>
 #include <QString>
@@ -17,11 +18,12 @@
 /// the store has not written, and no link is followed inside the folder. Every write is committed, in WAL mode with
 /// full synchronisation, before the operation returns; between begin() and commit() the outermost commit does.
 ///
-/// A secret, which is a password or a secret setting, stands in the database and its log only. After the change that
-/// overwrites or removes it, and after every open(), no byte of it is in the files. (A database that was damaged is
-/// kept aside as it was, see KirvProfileRescue.) Where a setting becomes secret the same holds for its former values,
-/// and the copies, which have it, are replaced by a new one. No operation throws; false or an empty result with
-/// lastError() says that something failed.
+/// A secret, which is a password or a secret setting, stands in the database and its log only, or not in the profile at
+/// all but in a store of secrets, and the database names it only. After the change that overwrites or removes it, and
+/// after every open(), no byte of it is in the files. (A database that was damaged is kept aside as it was, see
+/// KirvProfileRescue.) Where a setting becomes secret the same holds for its former values, and the copies, which have
+/// it, are replaced by a new one. No operation throws; false or an empty result with lastError() says that something
+/// failed.
 class KirvStore {
 public:
     KirvStore();
@@ -58,6 +60,17 @@ public:
     /// Which of the settings \a fields of \a protocol are secret, for the accounts that are stored: profiles of early
     /// versions do not say so, and all their settings count as secret. Writes nothing when that is known.
     bool classifySettings(const QString &protocol, const QSet<QString> &fields, const QSet<QString> &secretFields);
+
+    // What stands in a store of secrets, see KirvSecretItemTable.
+
+    QList<KirvStoredItem> unsettledItems();
+    KirvSecretItem secretItem(const KirvAccountKey &account, const QString &field, KirvStoredItem::Stage stage);
+    bool addSecretItems(const QList<KirvStoredItem> &items);
+    /// Gives the keys of those that were still New; what the profile held of them is gone from its files then. Empty
+    /// with lastError() when the change was refused.
+    QStringList keepSecretItems(const QStringList &keys);
+    bool makeItemsObsolete(const QStringList &keys);
+    bool forgetSecretItems(const QStringList &keys);
 
     /// Client-wide settings; \a fallback when the key is not set.
     QString readSetting(const QString &key, const QString &fallback = QString());

@@ -107,6 +107,15 @@ const QList<QStringList> &kirvStoreSchemaSteps()
             QStringLiteral("CREATE INDEX account_position ON account (position)"),
         },
         versionWithSecretsApart(),
+        {
+            QStringLiteral("CREATE TABLE secret_item ("
+                           " key TEXT NOT NULL PRIMARY KEY,"
+                           " label TEXT NOT NULL,"
+                           " account INTEGER NOT NULL,"
+                           " field TEXT NOT NULL,"
+                           " stage INTEGER NOT NULL) WITHOUT ROWID"),
+            QStringLiteral("CREATE INDEX secret_item_stage ON secret_item (stage)"),
+        },
     };
     return steps;
 }

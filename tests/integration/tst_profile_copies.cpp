@@ -59,6 +59,7 @@ private Q_SLOTS:
     void theDatabaseIsCheckedWithoutWriting_data();
     void theDatabaseIsCheckedWithoutWriting();
     void aCopyIsRestoredAndTheDamagedFileKept();
+    void whatARepairDoesNotUseIsRemovedFromTheKeyring();
     void aDamagedCopyIsNotOffered();
     void readableRowsAreRecovered_data();
     void readableRowsAreRecovered();
@@ -289,6 +290,49 @@ void tst_ProfileCopies::aCopyIsRestoredAndTheDamagedFileKept()
     for (int number = 0; number < 3; ++number)
         QVERIFY(accounts.at(number).isStoredLike(withoutSecrets(makeAccount(number))));
     QCOMPARE(store.readSetting(QStringLiteral("main_account")), QStringLiteral("a@@b"));
+}
+
+void tst_ProfileCopies::whatARepairDoesNotUseIsRemovedFromTheKeyring()
+{
+    KirvAccountRecord account;
+    account.key = { QStringLiteral("ann"), QStringLiteral("XMPP") };
+    account.rememberPassword = true;
+    account.password = QStringLiteral("is in the keyring");
+    KirvStore store;
+    for (const char *key : { "p/1", "p/2" }) {
+        account.secretItems.insert(QString(), { QLatin1String(key), QStringLiteral("Kirv: ann (XMPP)") });
+        QVERIFY(store.open(folder));
+        QVERIFY(store.readAccounts().isEmpty() ? store.insertAccount(account) : store.updateAccount(account));
+        QCOMPARE(store.keepSecretItems({ QLatin1String(key) }), QStringList(QLatin1String(key)));
+        store.forgetSecretItems({ QStringLiteral("p/1") }); // the second time
+        store.close();
+    }
+    QVERIFY(!isTextInFiles(account.password, folder));
+    const auto itemOf = [&store] { return store.readAccounts().value(0).secretItems.value(QString()).key; };
+    const auto releasedKey = [&store] {
+        QString key;
+        const QList<KirvStoredItem> items = store.unsettledItems();
+        for (const KirvStoredItem &row : items) {
+            if (row.stage == KirvStoredItem::Obsolete)
+                key += row.item.key;
+        }
+        return key;
+    };
+
+    KirvProfileRescue rescue(folder);
+    QVERIFY2(rescue.restore(rescue.copies().at(1)), qPrintable(rescue.lastError()));
+    QVERIFY(store.open(folder));
+    QCOMPARE(itemOf(), QStringLiteral("p/1"));
+    QCOMPARE(releasedKey(), QStringLiteral("p/2"));
+    store.close();
+
+    KirvProfileRescue::Recovered found;
+    QVERIFY2(rescue.recover(&found), qPrintable(rescue.lastError()));
+    QCOMPARE(found.secrets, 1);
+    QVERIFY(found.isComplete);
+    QVERIFY(store.open(folder));
+    QCOMPARE(itemOf(), QStringLiteral("p/1"));
+    QCOMPARE(releasedKey(), QStringLiteral("p/2"));
 }
 
 void tst_ProfileCopies::aDamagedCopyIsNotOffered()

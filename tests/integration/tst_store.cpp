@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(pragma("journal_mode"), QStringLiteral("wal"));
         QCOMPARE(pragma("synchronous"), QStringLiteral("2"));
         QCOMPARE(pragma("foreign_keys"), QStringLiteral("1"));
-        QCOMPARE(pragma("user_version"), QStringLiteral("3"));
+        QCOMPARE(pragma("user_version"), QStringLiteral("4"));
     }
 
     void whatIsStoredIsReadAgain()
@@ -436,7 +436,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("statement");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("a newer version") << "PRAGMA user_version = 4"
+        QTest::newRow("a newer version") << "PRAGMA user_version = 5"
                                          << "newer version";
         QTest::newRow("a much newer version") << "PRAGMA user_version = 2000000000"
                                               << "newer version";
@@ -490,6 +490,21 @@ private Q_SLOTS:
             QVERIFY(store.insertAccount(makeAccount(QString::number(round))));
             QCOMPARE(idsOf(store).last(), QString::number(round));
         }
+    }
+
+    void aProfileOfVersion3IsUpgraded()
+    {
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_3.sqlite"), QDir(folder).filePath(databaseName)));
+        KirvStore store;
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+        const QList<KirvAccountRecord> accounts = store.readAccounts();
+        QCOMPARE(idsOf(store), QStringList({ "ann@example.org", "bob", "carl@example.org" }));
+        QCOMPARE(accounts.at(0).password, QStringLiteral("first secret"));
+        QCOMPARE(accounts.at(1).settings.value(QStringLiteral("server-password")), QStringLiteral("third secret"));
+        QCOMPARE(accounts.at(1).secretSettings, QSet<QString> { QStringLiteral("server-password") });
+        QVERIFY(accounts.at(0).secretItems.isEmpty() && accounts.at(0).unreadSecrets.isEmpty());
+        QCOMPARE(QDir(folder + QStringLiteral("/copies")).entryList(QDir::Files).size(), 2); // before and after
     }
 
     void anUpgradeThatFailsLeavesTheOldProfile()

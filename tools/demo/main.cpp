@@ -20,6 +20,7 @@ int main(int argc, char *argv[])
         return 1;
     }
     options.profileFolder = demo.profileFolder();
+    options.usesKeyring = false; // nothing of the demo stays
 
     KirvClient client(options);
     if (!client.start()) {

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The part of KirvAccount that deals with secrets in the keyring.
+#include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_secret_keeper.h"
+#include "core/store/kirv_store.h"
+
+namespace {
+
+void setValue(KirvAccountRecord &record, const QString &field, const QString &value)
+{
+    record.unreadSecrets.remove(field);
+    if (field.isEmpty())
+        record.password = value;
+    else
+        record.settings.insert(field, value);
+}
+
+void forgetValue(KirvAccountRecord &record, const QString &field)
+{
+    record.unreadSecrets.insert(field);
+    if (field.isEmpty())
+        record.password.clear();
+    else
+        record.settings.remove(field);
+}
+
+} // namespace
+
+/// What the account knows may not be true any more: the log-in waits until it was read.
+void KirvAccount::readSecretsAgain()
+{
+    hasPasswordForNow = false;
+    const QList<QString> fields = current.secretItems.keys();
+    awaited = QSet<QString>(fields.begin(), fields.end());
+    if (awaited.isEmpty())
+        return;
+    if (!keeper.usesKeyring())
+        awaited.intersect(current.unreadSecrets);
+    keeper.read(this);
+}
+
+void KirvAccount::noLongerAwait(const QString &field)
+{
+    awaited.remove(field);
+    reconciler.schedule();
+    if (!removed)
+        Q_EMIT changed();
+}
+
+void KirvAccount::secretRead(const QString &field, const QString &value)
+{
+    const bool isForNow = field.isEmpty() && hasPasswordForNow;
+    if (!isForNow) {
+        setValue(current, field, value);
+        if (isSaving())
+            setValue(recordBefore, field, value);
+    }
+    noLongerAwait(field);
+}
+
+void KirvAccount::secretMissing(const QString &field)
+{
+    if (!(field.isEmpty() && hasPasswordForNow))
+        forgetValue(current, field);
+    noLongerAwait(field);
+}
+
+void KirvAccount::secretFailed(const QString &field)
+{
+    if (!current.unreadSecrets.contains(field))
+        noLongerAwait(field); // with what was known before
+}
+
+void KirvAccount::secretPlaced(const QString &field, const KirvSecretItem &item)
+{
+    current.secretItems.insert(field, item);
+    if (isSaving())
+        recordBefore.secretItems.insert(field, item);
+}
+
+void KirvAccount::keepSecretInProfile(const QString &field)
+{
+    KirvAccountRecord here = current;
+    here.secretItems.remove(field);
+    if (!isSaving() && profile.updateAccount(here))
+        current = here;
+}
+
+void KirvAccount::secretStateChanged()
+{
+    if (awaitsSecrets() && !removed)
+        Q_EMIT changed();
+}
+
+void KirvAccount::reportUnkeptSecret(const QString &reason)
+{
+    if (removed)
+        return;
+    const QString text =
+        tr("A password could not be kept in the keyring. It is used until the program ends, and is kept "
+           "when the keyring can be used.");
+    //: %1 = a sentence, %2 = what the keyring says
+    Q_EMIT noticeReceived(reason.isEmpty() ? text : tr("%1 (%2)").arg(text, reason));
+}

@@ -1,0 +1,499 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/accounts/kirv_secret_keeper.h"
+
+#include "core/accounts/kirv_account.h"
+#include "core/store/kirv_account_columns.h"
+#include "core/store/kirv_store.h"
+
+#include <QTimer>
+#include <QUuid>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const QString idSetting = QStringLiteral("profile/id");
+const int batchSize = 20; ///< secrets that one commit moves
+const int tellSize = 50; ///< accounts in one turn of the event loop
+
+QString randomId()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+QString valueOf(const KirvAccountRecord &record, const QString &field)
+{
+    return field.isEmpty() ? record.password : record.settings.value(field);
+}
+
+/// The fields of what is secret in \a record, the password's as the empty one.
+QSet<QString> secretFieldsOf(const KirvAccountRecord &record)
+{
+    QSet<QString> fields = record.secretSettings;
+    if (record.rememberPassword)
+        fields.insert(QString());
+    return fields;
+}
+
+} // namespace
+
+KirvSecretKeeper::KirvSecretKeeper(KirvStore &store, QObject *parent)
+    : QObject(parent)
+    , store(store)
+{
+}
+
+void KirvSecretKeeper::setKeyring(KirvSecretStore *keyring)
+{
+    if (secretStore)
+        secretStore->disconnect(this);
+    secretStore = keyring;
+    wasPresent = isPaused = isBusy = false;
+    if (!secretStore)
+        return;
+    connect(secretStore, &KirvSecretStore::stateChanged, this, &KirvSecretKeeper::onStateChanged);
+    toldObstacle = Unavailable;
+    profileId();
+    load();
+    onStateChanged();
+}
+
+bool KirvSecretKeeper::usesKeyring() const
+{
+    return secretStore && secretStore->state() != KirvSecretStore::Unavailable;
+}
+
+KirvSecretKeeper::Obstacle KirvSecretKeeper::obstacle() const
+{
+    if (!usesKeyring())
+        return Unavailable;
+    if (secretStore->state() == KirvSecretStore::Silent || (isPaused && lastOutcome == KirvSecretStore::TimedOut))
+        return Silent;
+    if (isPaused)
+        return lastOutcome == KirvSecretStore::Refused ? Refused : Failed;
+    return secretStore->state() == KirvSecretStore::Locked ? Locked : None;
+}
+
+void KirvSecretKeeper::startMoving()
+{
+    mayMove = true;
+    collectMovable();
+    next();
+}
+
+QString KirvSecretKeeper::profileId()
+{
+    if (id.isEmpty())
+        id = store.readSetting(idSetting);
+    return id;
+}
+
+/// The profile has its id before any secret bears it.
+KirvSecretItem KirvSecretKeeper::newItem(const KirvAccountKey &account)
+{
+    if (profileId().isEmpty()) {
+        const QString created = randomId();
+        if (store.writeSetting(idSetting, created))
+            id = created;
+    }
+    if (id.isEmpty())
+        return {};
+    return { id + QLatin1Char('/') + randomId(), QStringLiteral("Kirv: %1 (%2)").arg(account.id, account.protocol) };
+}
+
+void KirvSecretKeeper::add(KirvAccount *account)
+{
+    accounts.insert(account->key(), account);
+    for (const QString &field : account->record().unreadSecrets)
+        reads << Secret { account->key(), field };
+    QMetaObject::invokeMethod(this, &KirvSecretKeeper::next, Qt::QueuedConnection);
+}
+
+void KirvSecretKeeper::remove(KirvAccount *account)
+{
+    if (accounts.value(account->key()) == account)
+        accounts.remove(account->key());
+}
+
+void KirvSecretKeeper::place(KirvAccountRecord &record, const KirvAccountRecord &before, const QSet<QString> &changed)
+{
+    const KirvAccountRecord now = kirvStoredForm(record), old = kirvStoredForm(before);
+    for (const QString &field : secretFieldsOf(now)) {
+        const bool isUnchanged = valueOf(now, field) == valueOf(old, field) && !changed.contains(field)
+            && secretFieldsOf(old).contains(field);
+        if (isUnchanged || now.unreadSecrets.contains(field))
+            continue;
+        record.secretItems.remove(field);
+        if (valueOf(now, field).isEmpty() || !usesKeyring())
+            continue;
+        const KirvSecretItem item = newItem(record.key);
+        if (!item.key.isEmpty())
+            record.secretItems.insert(field, item);
+    }
+    record.secretItems = kirvStoredForm(record).secretItems;
+}
+
+void KirvSecretKeeper::read(KirvAccount *account)
+{
+    const KirvAccountRecord &record = account->record();
+    if (record.secretItems.isEmpty())
+        return;
+    for (auto item = record.secretItems.constBegin(); item != record.secretItems.constEnd(); ++item)
+        reads.prepend({ record.key, item.key() });
+    isPaused = false;
+    next();
+}
+
+void KirvSecretKeeper::settle()
+{
+    if (!secretStore)
+        return;
+    load();
+    // What the user has just stored is tried also after a refusal.
+    isPaused = isPaused && std::all_of(writes.cbegin(), writes.cend(), [this](const KirvStoredItem &row) {
+                   return reported.contains(row.item.key);
+               });
+    next();
+}
+
+void KirvSecretKeeper::load()
+{
+    writes.clear();
+    removals.clear();
+    newKeys.clear();
+    const QList<KirvStoredItem> rows = store.unsettledItems();
+    for (const KirvStoredItem &row : rows) {
+        if (row.stage == KirvStoredItem::New) {
+            newKeys.insert(row.item.key);
+            if (!batchValues.contains(row.item.key))
+                writes << row;
+        } else if (!id.isEmpty() && row.item.key.startsWith(id + QLatin1Char('/'))) {
+            removals << row; // those of other profiles are left alone
+        }
+    }
+}
+
+void KirvSecretKeeper::onStateChanged()
+{
+    const KirvSecretStore::State state = secretStore->state();
+    isPaused = false;
+    wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
+        || state == KirvSecretStore::Silent;
+    if (state == KirvSecretStore::Unavailable && !wasPresent)
+        keepInProfile();
+    if (state == KirvSecretStore::Ready) {
+        load();
+        if (movable.isEmpty())
+            collectMovable();
+    }
+    tellAccounts();
+    next();
+}
+
+/// What was stored before it was known that there is no keyring.
+void KirvSecretKeeper::keepInProfile()
+{
+    for (const KirvStoredItem &row : std::exchange(writes, {})) {
+        KirvAccount *account = accounts.value(row.account);
+        if (account && account->record().secretItems.value(row.field) == row.item
+            && !account->record().unreadSecrets.contains(row.field))
+            account->keepSecretInProfile(row.field);
+    }
+}
+
+void KirvSecretKeeper::tellAccounts()
+{
+    if (obstacle() != toldObstacle) {
+        toldObstacle = obstacle();
+        toTell = accounts.keys();
+        QMetaObject::invokeMethod(this, &KirvSecretKeeper::tellNext, Qt::QueuedConnection);
+    }
+    Q_EMIT changed();
+}
+
+/// A few at a time: thousands may wait, and each changes a row of a list.
+void KirvSecretKeeper::tellNext()
+{
+    const QPointer<KirvSecretKeeper> alive(this);
+    for (int count = 0; alive && count < tellSize && !toTell.isEmpty(); ++count) {
+        KirvAccount *account = accounts.value(toTell.takeLast());
+        if (account)
+            account->secretStateChanged();
+    }
+    if (alive && !toTell.isEmpty())
+        QTimer::singleShot(0, this, &KirvSecretKeeper::tellNext);
+}
+
+void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
+{
+    isPaused = true;
+    lastOutcome = reply.outcome;
+    tellAccounts();
+}
+
+/// Starts the next operation; each goes on here when it has ended.
+void KirvSecretKeeper::next()
+{
+    if (isBusy || isPaused || !secretStore)
+        return;
+    const KirvSecretStore::State state = secretStore->state();
+    if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
+        return;
+    if (readNext() || writeNext() || state == KirvSecretStore::Locked)
+        return;
+    if (!removeNext())
+        moveNext();
+}
+
+/// While the keyring is locked, only what is needed to log in is worth a question.
+bool KirvSecretKeeper::readNext()
+{
+    const bool isLocked = secretStore->state() == KirvSecretStore::Locked;
+    int index = 0;
+    while (index < reads.size()) {
+        const KirvAccount *owner = accounts.value(reads.at(index).account);
+        if (isLocked && owner && !owner->record().enabled) {
+            ++index;
+            continue;
+        }
+        const Secret secret = reads.takeAt(index);
+        const KirvAccount *account = accounts.value(secret.account);
+        const KirvSecretItem item = account ? account->record().secretItems.value(secret.field) : KirvSecretItem();
+        const bool isBeingWritten =
+            account && newKeys.contains(item.key) && !account->record().unreadSecrets.contains(secret.field);
+        if (item.key.isEmpty() || isBeingWritten)
+            continue;
+        isBusy = true;
+        secretStore->read(item, this, [this, secret, item](const KirvSecretStore::Reply &reply) {
+            isBusy = false;
+            const QPointer<KirvSecretKeeper> alive(this);
+            onRead(secret, item, reply);
+            if (alive)
+                next();
+        });
+        return true;
+    }
+    return false;
+}
+
+void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply)
+{
+    KirvAccount *account = accounts.value(secret.account);
+    if (!account || account->record().secretItems.value(secret.field) != item)
+        return;
+    switch (reply.outcome) {
+    case KirvSecretStore::Done:
+        if (newKeys.contains(item.key)) { // written before the program ended
+            store.keepSecretItems({ item.key });
+            load();
+        }
+        account->secretRead(secret.field, reply.secret);
+        break;
+    case KirvSecretStore::Missing:
+        onMissing(secret, item, account);
+        break;
+    case KirvSecretStore::Refused:
+    case KirvSecretStore::TimedOut:
+    case KirvSecretStore::Failed:
+        if (account->record().unreadSecrets.contains(secret.field))
+            reads.prepend(secret);
+        account->secretFailed(secret.field);
+        pause(reply);
+        break;
+    }
+}
+
+/// One that was never written is the value before, where there was one; otherwise nothing is left to be written.
+void KirvSecretKeeper::onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account)
+{
+    if (newKeys.contains(item.key)) {
+        const KirvSecretItem before = store.secretItem(secret.account, secret.field, KirvStoredItem::Kept);
+        if (!before.key.isEmpty() && store.makeItemsObsolete({ item.key })) {
+            load();
+            account->secretPlaced(secret.field, before);
+            reads.prepend(secret);
+            return;
+        }
+        store.keepSecretItems({ item.key });
+        load();
+    }
+    account->secretMissing(secret.field);
+}
+
+/// \a callback is called when the secret is known to stand in the store, or not to.
+void KirvSecretKeeper::writeAndReadBack(const KirvSecretItem &item, const QString &secret,
+                                        const KirvSecretStore::Callback &callback)
+{
+    secretStore->write(item, secret, this, [this, item, secret, callback](const KirvSecretStore::Reply &written) {
+        if (written.outcome != KirvSecretStore::Done || !secretStore) {
+            callback(written);
+            return;
+        }
+        secretStore->read(item, this, [secret, callback](const KirvSecretStore::Reply &read) {
+            KirvSecretStore::Reply reply = read;
+            if (read.outcome == KirvSecretStore::Missing
+                || (read.outcome == KirvSecretStore::Done && read.secret != secret))
+                reply.outcome = KirvSecretStore::Failed;
+            reply.secret.clear();
+            callback(reply);
+        });
+    });
+}
+
+bool KirvSecretKeeper::writeNext()
+{
+    while (!writes.isEmpty()) {
+        const KirvStoredItem row = writes.takeFirst();
+        const KirvAccount *account = accounts.value(row.account);
+        if (!account)
+            continue;
+        const KirvAccountRecord &record = account->record();
+        if (record.secretItems.value(row.field) != row.item) { // of a move that was interrupted
+            if (!account->isSaving())
+                store.makeItemsObsolete({ row.item.key });
+            removals << row;
+            continue;
+        }
+        if (record.unreadSecrets.contains(row.field))
+            continue;
+        isBusy = true;
+        writeAndReadBack(row.item, valueOf(record, row.field), [this, row](const KirvSecretStore::Reply &reply) {
+            isBusy = false;
+            const QPointer<KirvSecretKeeper> alive(this);
+            onWritten(row, reply);
+            if (alive)
+                next();
+        });
+        return true;
+    }
+    return false;
+}
+
+void KirvSecretKeeper::onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply)
+{
+    if (reply.outcome == KirvSecretStore::Done) {
+        const bool isRefused = store.keepSecretItems({ row.item.key }).isEmpty() && !store.lastError().isEmpty();
+        load();
+        if (isRefused) // by the profile: not before something has changed
+            pause({});
+        return;
+    }
+    const QPointer<KirvSecretKeeper> alive(this);
+    pause(reply);
+    KirvAccount *account = alive ? accounts.value(row.account) : nullptr;
+    if (account && !reported.contains(row.item.key)) {
+        reported.insert(row.item.key);
+        account->reportUnkeptSecret(reply.text);
+    }
+    if (alive)
+        load(); // it is tried again when the state changes
+}
+
+bool KirvSecretKeeper::removeNext()
+{
+    if (removals.isEmpty())
+        return false;
+    const KirvStoredItem row = removals.takeFirst();
+    isBusy = true;
+    secretStore->remove(row.item, this, [this, row](const KirvSecretStore::Reply &reply) {
+        isBusy = false;
+        if (reply.outcome == KirvSecretStore::Done || reply.outcome == KirvSecretStore::Missing)
+            store.forgetSecretItems({ row.item.key });
+        else
+            pause(reply);
+        next();
+    });
+    return true;
+}
+
+/// Which settings are secret is known when the protocol is loaded.
+void KirvSecretKeeper::collectMovable()
+{
+    movable.clear();
+    if (!mayMove || !usesKeyring())
+        return;
+    for (const KirvAccount *account : qAsConst(accounts)) {
+        const KirvAccountRecord record = kirvStoredForm(account->record());
+        for (const QString &field : secretFieldsOf(record)) {
+            const bool isHere = !record.secretItems.contains(field) && !valueOf(record, field).isEmpty();
+            if (isHere && (field.isEmpty() || account->protocol()))
+                movable << Secret { account->key(), field };
+        }
+    }
+}
+
+/// Notes the items of the next secrets to move; nothing is changed when the profile cannot be written.
+void KirvSecretKeeper::beginBatch()
+{
+    while (!movable.isEmpty() && batch.size() < batchSize) {
+        const Secret secret = movable.takeFirst();
+        const KirvAccount *account = accounts.value(secret.account);
+        const KirvAccountRecord record = account ? kirvStoredForm(account->record()) : KirvAccountRecord();
+        const QString value = valueOf(record, secret.field);
+        const KirvSecretItem item = newItem(secret.account);
+        if (value.isEmpty() || item.key.isEmpty() || record.secretItems.contains(secret.field))
+            continue;
+        batch << KirvStoredItem { item, secret.account, secret.field, KirvStoredItem::New };
+        batchValues.insert(item.key, value);
+    }
+    if (!batch.isEmpty() && !store.addSecretItems(batch)) {
+        batch.clear();
+        batchValues.clear();
+        movable.clear();
+    }
+}
+
+bool KirvSecretKeeper::moveNext()
+{
+    if (batch.isEmpty())
+        beginBatch();
+    if (batch.isEmpty()) {
+        if (movedCount > 0)
+            Q_EMIT moved(std::exchange(movedCount, 0));
+        return false;
+    }
+    const KirvSecretItem item = batch.at(verified.size()).item;
+    isBusy = true;
+    writeAndReadBack(item, batchValues.value(item.key), [this, item](const KirvSecretStore::Reply &reply) {
+        isBusy = false;
+        const QPointer<KirvSecretKeeper> alive(this);
+        const bool isDone = reply.outcome == KirvSecretStore::Done;
+        if (isDone)
+            verified << item.key;
+        if (!isDone || verified.size() == batch.size())
+            endBatch();
+        if (alive && !isDone)
+            pause(reply);
+        if (alive)
+            next();
+    });
+    return true;
+}
+
+/// What was read back leaves the profile; what was not stays there, and its items are removed.
+void KirvSecretKeeper::endBatch()
+{
+    const QStringList kept = verified.isEmpty() ? QStringList() : store.keepSecretItems(verified);
+    const bool isRefused = !verified.isEmpty() && kept.isEmpty() && !store.lastError().isEmpty();
+    const QList<KirvStoredItem> ended = std::exchange(batch, {});
+    batchValues.clear();
+    verified.clear();
+    movedCount += int(kept.size());
+    QStringList unused;
+    for (const KirvStoredItem &row : ended) {
+        KirvAccount *account = accounts.value(row.account);
+        if (!kept.contains(row.item.key))
+            unused << row.item.key;
+        else if (account)
+            account->secretPlaced(row.field, row.item);
+    }
+    if (!unused.isEmpty())
+        store.makeItemsObsolete(unused);
+    load();
+    if (isRefused) { // the profile cannot be written: at the next start
+        mayMove = false;
+        movable.clear();
+    } else if (movable.isEmpty() && !unused.isEmpty()) {
+        collectMovable();
+    }
+}

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_SECRET_KEEPER_H
+#define KIRV_SECRET_KEEPER_H
+
+#include "core/store/kirv_secret_item_table.h"
+#include "core/store/kirv_secret_store.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QStringList>
+
+class KirvAccount;
+class KirvStore;
+
+/// Brings the secrets of all accounts to where they belong and from there: the one place that knows whether that is the
+/// keyring or the profile.
+///
+/// A change commits the item of a secret first, under a key that was never used; then the secret is written to the
+/// keyring and read back, and what it replaces is removed. What was interrupted goes on at the next start. Secrets are
+/// read from the event loop, one at a time; when the person refuses, or the keyring does not respond, nothing more is
+/// requested of it until its state changes or somebody asks for it.
+class KirvSecretKeeper : public QObject {
+    Q_OBJECT
+
+public:
+    /// Why secrets that are awaited are not there.
+    enum Obstacle {
+        None, ///< they are being read
+        Locked, ///< the keyring asks the person to unlock it
+        Refused,
+        Silent,
+        Unavailable,
+        Failed
+    };
+    Q_ENUM(Obstacle)
+
+    /// \a store is not owned and outlives this. Without a keyring secrets are kept in the profile.
+    explicit KirvSecretKeeper(KirvStore &store, QObject *parent = nullptr);
+
+    /// Secrets go to \a keyring while it is there. Not owned; null: there is none.
+    void setKeyring(KirvSecretStore *keyring);
+    KirvSecretStore *keyring() const { return secretStore; }
+    /// Whether a secret that is stored now goes to the keyring.
+    bool usesKeyring() const;
+    Obstacle obstacle() const;
+    /// Moves what the profile holds to the keyring, when it is unlocked; also later, when that was not possible.
+    void startMoving();
+
+    // For the accounts.
+
+    void add(KirvAccount *account);
+    void remove(KirvAccount *account);
+    /// Gives each secret of \a record that differs from \a before, or whose field is among \a changed, its place.
+    void place(KirvAccountRecord &record, const KirvAccountRecord &before, const QSet<QString> &changed = {});
+    /// Reads the secrets of \a account once more.
+    void read(KirvAccount *account);
+    /// What is stored has changed.
+    void settle();
+
+Q_SIGNALS:
+    /// The state of the keyring or the obstacle may have changed.
+    void changed();
+    /// So many secrets were moved from the profile to the keyring, now or since it was interrupted.
+    void moved(int secrets);
+
+private:
+    struct Secret {
+        KirvAccountKey account;
+        QString field;
+    };
+
+    QString profileId();
+    KirvSecretItem newItem(const KirvAccountKey &account);
+    void onStateChanged();
+    void keepInProfile();
+    void next();
+    void pause(const KirvSecretStore::Reply &reply);
+    void tellAccounts();
+    void tellNext();
+
+    bool readNext();
+    void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
+    void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
+    bool writeNext();
+    void onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply);
+    void writeAndReadBack(const KirvSecretItem &item, const QString &secret, const KirvSecretStore::Callback &callback);
+    bool removeNext();
+    void collectMovable();
+    void beginBatch();
+    bool moveNext();
+    void endBatch();
+    void load();
+
+    KirvStore &store;
+    QPointer<KirvSecretStore> secretStore;
+    QHash<KirvAccountKey, KirvAccount *> accounts;
+    QString id; ///< of the profile
+
+    QList<Secret> reads;
+    QList<KirvStoredItem> writes, removals;
+    QSet<QString> newKeys; ///< of items that are not read back yet
+    QSet<QString> reported; ///< keys of those of which the person knows that they could not be written
+    QList<Secret> movable; ///< what the profile holds
+    QList<KirvStoredItem> batch; ///< of the move
+    QHash<QString, QString> batchValues; ///< by key
+    QStringList verified; ///< keys of the first ones of the batch, which are read back
+    int movedCount = 0;
+    bool mayMove = false;
+    bool isBusy = false;
+    bool isPaused = false;
+    bool wasPresent = false; ///< there was a keyring in this run
+    Obstacle toldObstacle = None; ///< that the accounts know of
+    QList<KirvAccountKey> toTell;
+    KirvSecretStore::Outcome lastOutcome = KirvSecretStore::Done;
+};
+
+#endif

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_keyring.h"
+
+#include "core/store/kirv_keyring_watcher.h"
+
+#include <QLibrary>
+
+#include <utility>
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <qt6keychain/keychain.h>
+#else
+#include <qt5keychain/keychain.h>
+#endif
+
+namespace {
+
+KirvSecretStore::Outcome outcomeOf(int error)
+{
+    switch (error) {
+    case QKeychain::NoError:
+        return KirvSecretStore::Done;
+    case QKeychain::EntryNotFound:
+        return KirvSecretStore::Missing;
+    case QKeychain::AccessDenied:
+    case QKeychain::AccessDeniedByUser:
+        return KirvSecretStore::Refused;
+    default:
+        return KirvSecretStore::Failed;
+    }
+}
+
+/// Makes libsecret, which QtKeychain loads, forget the session with a service that has ended: it would be used with the
+/// next one, too. False when there is no libsecret.
+bool forgetSession()
+{
+    using Disconnect = void (*)();
+    QLibrary library(QStringLiteral("secret-1"), 0);
+    const auto disconnect = reinterpret_cast<Disconnect>(library.resolve("secret_service_disconnect"));
+    if (disconnect)
+        disconnect();
+    return disconnect;
+}
+
+} // namespace
+
+KirvKeyring::KirvKeyring(QObject *parent)
+    : KirvKeyring(Limits(), parent)
+{
+}
+
+KirvKeyring::KirvKeyring(const Limits &limits, QObject *parent)
+    : KirvSecretStore(parent)
+    , limits(limits)
+    , watcher(std::make_unique<KirvKeyringWatcher>(limits.reply))
+{
+    timeLimit.setSingleShot(true);
+    connect(&timeLimit, &QTimer::timeout, this, &KirvKeyring::giveUp);
+    connect(watcher.get(), &KirvKeyringWatcher::changed, this, [this] {
+        if (watcher->state() == Unavailable || watcher->state() == Silent)
+            failWaiting({});
+        Q_EMIT stateChanged();
+        startNext();
+    });
+    connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = forgetSession(); });
+    connect(watcher.get(), &KirvKeyringWatcher::refreshed, this, &KirvKeyring::stateKnown);
+    watcher->start();
+}
+
+KirvKeyring::~KirvKeyring() = default;
+
+KirvSecretStore::State KirvKeyring::state() const
+{
+    if (!hasLibrary)
+        return Unavailable;
+    const bool isStuck = hasJob && !running;
+    return isStuck && watcher->state() == Ready ? Silent : watcher->state();
+}
+
+QString KirvKeyring::providerName() const
+{
+    return watcher->providerName();
+}
+
+void KirvKeyring::read(const KirvSecretItem &item, QObject *context, const Callback &callback)
+{
+    enqueue({ Read, item, QString(), context, callback });
+}
+
+void KirvKeyring::write(const KirvSecretItem &item, const QString &secret, QObject *context, const Callback &callback)
+{
+    enqueue({ Write, item, secret, context, callback });
+}
+
+void KirvKeyring::remove(const KirvSecretItem &item, QObject *context, const Callback &callback)
+{
+    enqueue({ Remove, item, QString(), context, callback });
+}
+
+void KirvKeyring::enqueue(const Operation &operation)
+{
+    waiting << operation;
+    QMetaObject::invokeMethod(this, &KirvKeyring::startNext, Qt::QueuedConnection);
+}
+
+void KirvKeyring::startNext()
+{
+    if (running)
+        return;
+    if (hasJob) {
+        failWaiting({ TimedOut, QString(), QString() });
+        return;
+    }
+    switch (state()) {
+    case Unknown:
+        return; // changed() follows
+    case Unavailable:
+        failWaiting({});
+        return;
+    case Silent:
+        failWaiting({ TimedOut, QString(), QString() });
+        return;
+    case Ready:
+    case Locked:
+        break;
+    }
+    while (!waiting.isEmpty() && !running) {
+        Operation next = waiting.takeFirst();
+        if (next.context)
+            running = std::make_unique<Operation>(std::move(next));
+    }
+    if (running)
+        startJob();
+}
+
+/// The library's job destroys itself when it has finished, and only then.
+void KirvKeyring::startJob()
+{
+    QKeychain::Job *job = nullptr;
+    if (running->kind == Read) {
+        job = new QKeychain::ReadPasswordJob(running->item.label);
+    } else if (running->kind == Write) {
+        auto *writing = new QKeychain::WritePasswordJob(running->item.label);
+        writing->setTextData(running->secret);
+        job = writing;
+    } else {
+        job = new QKeychain::DeletePasswordJob(running->item.label);
+    }
+    job->setKey(running->item.key);
+    connect(job, &QKeychain::Job::finished, this, [this](QKeychain::Job *finished) {
+        auto *reading = qobject_cast<QKeychain::ReadPasswordJob *>(finished);
+        jobFinished(finished->error(), reading ? reading->textData() : QString(), finished->errorString());
+    });
+    hasJob = true;
+    timeLimit.start(watcher->state() == Locked ? limits.unlocking : limits.operation);
+    job->start();
+}
+
+void KirvKeyring::jobFinished(int error, const QString &secret, const QString &text)
+{
+    hasJob = false;
+    if (!running) { // it had run out of time
+        watcher->refresh();
+        Q_EMIT stateChanged();
+        startNext();
+        return;
+    }
+    timeLimit.stop();
+    const Outcome outcome = outcomeOf(error);
+    if (outcome == Done) {
+        answer({ Done, secret, QString() });
+        return;
+    }
+    // What cannot be read in a keyring that stays locked is reported as missing, too.
+    unproven = std::make_unique<Reply>(Reply { outcome, QString(), text });
+    watcher->refresh();
+}
+
+/// Proves a reply: what is missing from a keyring that is not open is not missing.
+void KirvKeyring::stateKnown()
+{
+    if (!unproven)
+        return;
+    Reply reply = *std::exchange(unproven, nullptr);
+    if (watcher->state() == Locked)
+        reply.outcome = Refused;
+    else if (watcher->state() != Ready && reply.outcome == Missing)
+        reply.outcome = Failed;
+    answer(reply);
+}
+
+void KirvKeyring::giveUp()
+{
+    answer({ TimedOut, QString(), QString() });
+    Q_EMIT stateChanged();
+}
+
+/// Answers the running operation.
+void KirvKeyring::answer(const Reply &reply)
+{
+    const std::unique_ptr<Operation> answered = std::exchange(running, nullptr);
+    const QPointer<KirvKeyring> alive(this);
+    if (answered && answered->context)
+        answered->callback(reply);
+    if (alive)
+        startNext();
+}
+
+/// Answers those that wait; they have not been started.
+void KirvKeyring::failWaiting(const Reply &reply)
+{
+    const QPointer<KirvKeyring> alive(this);
+    const QList<Operation> failed = std::exchange(waiting, {});
+    for (const Operation &operation : failed) {
+        if (alive && operation.context)
+            operation.callback(reply);
+    }
+}

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_keyring_watcher.h"
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QUuid>
+
+#include <climits>
+
+namespace {
+
+const QString serviceName = QStringLiteral("org.freedesktop.secrets");
+const QString servicePath = QStringLiteral("/org/freedesktop/secrets");
+const char *const serviceInterface = "org.freedesktop.Secret.Service";
+const QString busName = QStringLiteral("org.freedesktop.DBus");
+const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+/// Whether there can be a session bus. Without an address and without the usual socket, connecting would start one.
+bool canHaveBus()
+{
+    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (address.isEmpty())
+        return !runtime.isEmpty() && QFileInfo::exists(runtime + QLatin1String("/bus"));
+    const QLatin1String local("unix:path=");
+    if (!address.startsWith(local) || address.contains(QLatin1Char(';')))
+        return true;
+    return QFileInfo::exists(address.mid(local.size()).section(QLatin1Char(','), 0, 0));
+}
+
+/// The name, as people know it, of the program of the process \a pid; empty when it is none of those.
+QString nameOfProgram(uint pid)
+{
+    static const QMap<QByteArray, QString> names {
+        { "gnome-keyring-d", QStringLiteral("GNOME Keyring") }, // the system cuts names off
+        { "kwalletd5", QStringLiteral("KWallet") },
+        { "kwalletd6", QStringLiteral("KWallet") },
+        { "ksecretd", QStringLiteral("KWallet") },
+        { "keepassxc", QStringLiteral("KeePassXC") },
+    };
+    QFile file(QStringLiteral("/proc/%1/comm").arg(pid));
+    return file.open(QIODevice::ReadOnly) ? names.value(file.readAll().trimmed()) : QString();
+}
+
+} // namespace
+
+KirvKeyringWatcher::KirvKeyringWatcher(int patienceMilliseconds, QObject *parent)
+    : QObject(parent)
+    , connectionName(QStringLiteral("kirv-keyring-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
+{
+    nextLook.setInterval(1000);
+    connect(&nextLook, &QTimer::timeout, this, &KirvKeyringWatcher::refresh);
+    patience.setSingleShot(true);
+    patience.setInterval(patienceMilliseconds);
+    connect(&patience, &QTimer::timeout, this, [this] {
+        set(KirvSecretStore::Silent);
+        Q_EMIT refreshed();
+    });
+}
+
+KirvKeyringWatcher::~KirvKeyringWatcher()
+{
+    // A call must not outlast its connection.
+    qDeleteAll(findChildren<QDBusPendingCallWatcher *>(QString(), Qt::FindDirectChildrenOnly));
+    QDBusConnection::disconnectFromBus(connectionName);
+}
+
+void KirvKeyringWatcher::start()
+{
+    if (!canHaveBus()) {
+        current = KirvSecretStore::Unavailable;
+        return;
+    }
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName);
+    if (!bus.isConnected()) {
+        current = KirvSecretStore::Unavailable;
+        return;
+    }
+    bus.connect(busName, busPath, busName, QStringLiteral("NameOwnerChanged"), this,
+                SLOT(onNameOwnerChanged(QString, QString, QString)));
+    askForOwner();
+}
+
+/// Sends \a message and calls \a handler with its reply, however late, unless it is not of interest any more.
+void KirvKeyringWatcher::call(const QDBusMessage &message, const Handler &handler)
+{
+    const QDBusPendingCall pending = QDBusConnection(connectionName).asyncCall(message, INT_MAX);
+    auto *watcher = new QDBusPendingCallWatcher(pending, this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, handler, asked = round](auto *finished) {
+        finished->deleteLater();
+        if (asked == round)
+            handler(finished->reply());
+    });
+}
+
+void KirvKeyringWatcher::askForOwner()
+{
+    ++round;
+    patience.start();
+    QDBusMessage message = QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetNameOwner"));
+    message.setArguments({ serviceName });
+    call(message, [this](const QDBusMessage &reply) {
+        setOwner(reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0).toString() : QString());
+    });
+}
+
+void KirvKeyringWatcher::onNameOwnerChanged(const QString &name, const QString &, const QString &newOwner)
+{
+    if (name == serviceName)
+        setOwner(newOwner);
+}
+
+void KirvKeyringWatcher::setOwner(const QString &newOwner)
+{
+    const bool isOther = newOwner != owner;
+    if (isOther) {
+        follow(false);
+        owner = newOwner;
+        provider.clear();
+        follow(true);
+        Q_EMIT replaced();
+    }
+    ++round;
+    if (owner.isEmpty()) {
+        finish(KirvSecretStore::Unavailable);
+        return;
+    }
+    patience.start();
+    askForProvider();
+    if (isOther)
+        set(KirvSecretStore::Unknown);
+}
+
+/// Connects or disconnects the signals of the service that may mean another state.
+void KirvKeyringWatcher::follow(bool on)
+{
+    if (owner.isEmpty())
+        return;
+    const QList<QPair<QString, QString>> signalsOfInterest {
+        { propertiesInterface, QStringLiteral("PropertiesChanged") },
+        { QLatin1String(serviceInterface), QStringLiteral("CollectionChanged") },
+        { QLatin1String(serviceInterface), QStringLiteral("CollectionCreated") },
+        { QLatin1String(serviceInterface), QStringLiteral("CollectionDeleted") },
+    };
+    QDBusConnection bus(connectionName);
+    for (const auto &signal : signalsOfInterest) {
+        // The unique name: for any other the connection would ask the bus who owns it, and wait.
+        if (on)
+            bus.connect(owner, QString(), signal.first, signal.second, this, SLOT(refresh()));
+        else
+            bus.disconnect(owner, QString(), signal.first, signal.second, this, SLOT(refresh()));
+    }
+}
+
+/// The service has shown its \a state, or is gone.
+void KirvKeyringWatcher::finish(KirvSecretStore::State state)
+{
+    patience.stop();
+    set(state);
+    Q_EMIT refreshed();
+}
+
+void KirvKeyringWatcher::askForProvider()
+{
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetConnectionUnixProcessID"));
+    message.setArguments({ owner });
+    call(message, [this](const QDBusMessage &reply) {
+        if (reply.type() == QDBusMessage::ReplyMessage)
+            provider = nameOfProgram(reply.arguments().value(0).toUInt());
+        askForDefault();
+    });
+}
+
+QDBusMessage KirvKeyringWatcher::toOwner(const QString &path, const char *interface, const char *method) const
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(owner, path, QLatin1String(interface), QLatin1String(method));
+    message.setAutoStartService(false);
+    return message;
+}
+
+void KirvKeyringWatcher::askForDefault()
+{
+    QDBusMessage message = toOwner(servicePath, serviceInterface, "ReadAlias");
+    message.setArguments({ QStringLiteral("default") });
+    call(message, [this](const QDBusMessage &reply) {
+        const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
+        if (reply.type() == QDBusMessage::ReplyMessage && path.size() > 1) {
+            askForLock(path);
+            return;
+        }
+        // Where there is no collection, writing would ask the person to make one.
+        finish(KirvSecretStore::Unavailable);
+    });
+}
+
+void KirvKeyringWatcher::askForLock(const QString &collection)
+{
+    QDBusMessage message = toOwner(collection, "org.freedesktop.DBus.Properties", "Get");
+    message.setArguments({ QStringLiteral("org.freedesktop.Secret.Collection"), QStringLiteral("Locked") });
+    call(message, [this](const QDBusMessage &reply) {
+        const QVariant locked = reply.arguments().value(0).value<QDBusVariant>().variant();
+        if (reply.type() != QDBusMessage::ReplyMessage || !locked.isValid())
+            finish(KirvSecretStore::Unavailable);
+        else
+            finish(locked.toBool() ? KirvSecretStore::Locked : KirvSecretStore::Ready);
+    });
+}
+
+void KirvKeyringWatcher::refresh()
+{
+    if (owner.isEmpty()) {
+        QMetaObject::invokeMethod(this, &KirvKeyringWatcher::refreshed, Qt::QueuedConnection);
+        return;
+    }
+    ++round;
+    if (current != KirvSecretStore::Silent)
+        patience.start();
+    askForDefault();
+    if (current == KirvSecretStore::Silent) // until it replies
+        QMetaObject::invokeMethod(this, &KirvKeyringWatcher::refreshed, Qt::QueuedConnection);
+}
+
+void KirvKeyringWatcher::set(KirvSecretStore::State state)
+{
+    if (state == current)
+        return;
+    current = state;
+    if (state == KirvSecretStore::Locked)
+        nextLook.start();
+    else
+        nextLook.stop();
+    Q_EMIT changed();
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_KEYRING_WATCHER_H
+#define KIRV_KEYRING_WATCHER_H
+
+#include "core/store/kirv_secret_store.h"
+
+#include <QDBusMessage>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <functional>
+
+/// Finds out over D-Bus who keeps the secrets of the session, and whether they are locked, and follows both. Private to
+/// the store.
+///
+/// Only calls without waiting are made, and only to a service that runs: none is started.
+class KirvKeyringWatcher : public QObject {
+    Q_OBJECT
+
+public:
+    /// Milliseconds until a service that does not reply is Silent.
+    static constexpr int usualPatience = 3000;
+
+    explicit KirvKeyringWatcher(int patience = usualPatience, QObject *parent = nullptr);
+    ~KirvKeyringWatcher() override;
+
+    /// Unavailable at once where there is no session bus; otherwise Unknown until changed().
+    void start();
+    KirvSecretStore::State state() const { return current; }
+    QString providerName() const { return provider; }
+
+public Q_SLOTS:
+    /// Requests the state of the service again; refreshed() follows in any case.
+    void refresh();
+
+Q_SIGNALS:
+    void changed();
+    /// Another process offers the service now, or none does.
+    void replaced();
+    /// What refresh() has requested is known: the service has replied, has gone, or does not reply in time.
+    void refreshed();
+
+private Q_SLOTS:
+    void onNameOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
+
+private:
+    using Handler = std::function<void(const QDBusMessage &reply)>;
+
+    void setOwner(const QString &newOwner);
+    void follow(bool on);
+    void finish(KirvSecretStore::State state);
+    void askForOwner();
+    void askForProvider();
+    void askForDefault();
+    void askForLock(const QString &collection);
+    void set(KirvSecretStore::State state);
+    void call(const QDBusMessage &message, const Handler &handler);
+    QDBusMessage toOwner(const QString &path, const char *interface, const char *method) const;
+
+    const QString connectionName;
+    QString owner; ///< the unique name of the service; empty: there is none
+    QString provider;
+    KirvSecretStore::State current = KirvSecretStore::Unknown;
+    quint64 round = 0; ///< replies of an earlier one do not count
+    QTimer patience;
+    QTimer nextLook; ///< while it is locked: not every unlocking is announced
+};
+
+#endif

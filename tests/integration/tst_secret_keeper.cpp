@@ -1,0 +1,607 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/kirv_profile_files.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+#include <memory>
+
+namespace {
+
+const QString password = QStringLiteral("word of id");
+
+} // namespace
+
+/// The secrets of accounts over a scripted keyring.
+class tst_SecretKeeper : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void aPasswordGoesToTheKeyringAndNotIntoTheProfile();
+    void everySecretSettingGoesThere();
+    void withoutAKeyringThePasswordStaysInTheProfile();
+    void whatIsStoredBeforeTheStateIsKnownFindsItsPlace_data();
+    void whatIsStoredBeforeTheStateIsKnownFindsItsPlace();
+    void aChangedPasswordReplacesTheOldOne();
+    void aChangeOfSomethingElseWritesNoSecret();
+    void aPasswordThatIsNotRememberedAnyMoreIsRemoved();
+    void aRemovedAccountLeavesNothingInTheKeyring();
+    void whatCouldNotBeRemovedIsRemovedAtTheNextStart();
+    void itemsOfOtherProfilesAreLeftAlone();
+
+    void theLoginWaitsForItsSecrets();
+    void aSecretThatIsGoneIsRequestedFromTheUser();
+    void aSecretThatWasChangedThereIsUsed_data();
+    void aSecretThatWasChangedThereIsUsed();
+    void aSaveThatDoesNotTouchAnUnknownPasswordLeavesItAlone();
+    void aSaveThatTypesAPasswordReplacesAnUnknownOne();
+    void whatCannotBeReadIsRequestedOnce_data();
+    void whatCannotBeReadIsRequestedOnce();
+    void aLockedKeyringIsAskedForEnabledAccountsOnly();
+    void aPasswordForNowChangesNothingThatIsStored();
+    void aWriteThatFailsIsReportedOnceAndTriedAgain();
+    void aNewSecretThatWasNeverWrittenIsTheOneBefore();
+    void aNewSecretThatWasWrittenIsUsed();
+
+    void whatTheProfileRefusesIsNotTriedForEver();
+
+    void theProfileIsMovedOnce();
+    void aMoveThatFailsLosesNothing_data();
+    void aMoveThatFailsLosesNothing();
+    void aSaveDuringTheMoveCounts();
+    void aProfileSavedElsewhereKeepsItsSecrets();
+
+private:
+    void settle();
+    void restart();
+    KirvAccount *account() const { return core->account(); }
+    bool isInProfile(const QString &text) const { return isTextInFiles(text, core->store.folder()); }
+
+    std::unique_ptr<KirvFakeSecretStore> keyring;
+    std::unique_ptr<KirvAccountsFixture> core;
+};
+
+void tst_SecretKeeper::init()
+{
+    keyring = std::make_unique<KirvFakeSecretStore>();
+    core = std::make_unique<KirvAccountsFixture>();
+    QVERIFY(core->isReady());
+    core->accounts->secrets().setKeyring(keyring.get());
+}
+
+void tst_SecretKeeper::cleanup()
+{
+    core.reset();
+    keyring.reset();
+}
+
+/// Each operation of the keyring follows from the event loop from the one before.
+void tst_SecretKeeper::settle()
+{
+    for (int round = 0; round < 100; ++round)
+        core->settle();
+}
+
+void tst_SecretKeeper::restart()
+{
+    core->restart(true, [this] { core->accounts->secrets().setKeyring(keyring.get()); });
+}
+
+void tst_SecretKeeper::aPasswordGoesToTheKeyringAndNotIntoTheProfile()
+{
+    QVERIFY(core->create());
+    QCOMPARE(core->takeCalls().value(0), QStringLiteral("id log in available word of id")); // it is known here
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QCOMPARE(keyring->labels.first(), QStringLiteral("Kirv: id (Fake)"));
+    QCOMPARE(keyring->calls, QStringList({ "write", "read" })); // read back
+    QVERIFY(!isInProfile(password));
+    restart();
+    QVERIFY(account()->getPassword().isEmpty());
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    QVERIFY(core->takeCalls().contains(QStringLiteral("id log in available word of id")));
+    QVERIFY(!isInProfile(password));
+    QCOMPARE(keyring->secrets.size(), 1);
+}
+
+void tst_SecretKeeper::everySecretSettingGoesThere()
+{
+    QVERIFY(core->create());
+    account()->setSettings({ KirvField::password(QString(), QStringLiteral("server-password"),
+                                                 QStringLiteral("of the server"), QString()) });
+    settle();
+    QStringList values = keyring->secrets.values();
+    values.sort();
+    QCOMPARE(values, QStringList({ "of the server", password }));
+    QVERIFY(!isInProfile(QStringLiteral("of the server")));
+    restart();
+    settle();
+    QCOMPARE(account()->record().settings.value(QStringLiteral("server-password")), QStringLiteral("of the server"));
+    QCOMPARE(core->connection()->login().settings.last().getText(), QStringLiteral("of the server"));
+}
+
+void tst_SecretKeeper::withoutAKeyringThePasswordStaysInTheProfile()
+{
+    keyring->setState(KirvSecretStore::Unavailable);
+    QVERIFY(core->create());
+    settle();
+    QVERIFY(keyring->calls.isEmpty());
+    QVERIFY(isInProfile(password));
+    restart();
+    QCOMPARE(account()->getPassword(), password); // at once
+}
+
+void tst_SecretKeeper::whatIsStoredBeforeTheStateIsKnownFindsItsPlace_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("there is a keyring") << true;
+    QTest::newRow("there is none") << false;
+}
+
+void tst_SecretKeeper::whatIsStoredBeforeTheStateIsKnownFindsItsPlace()
+{
+    QFETCH(bool, isThere);
+    KirvFakeSecretStore undecided(KirvSecretStore::Unknown);
+    core->accounts->secrets().setKeyring(&undecided);
+    QVERIFY(core->create());
+    settle();
+    QVERIFY(!isInProfile(password));
+    QVERIFY(undecided.calls.isEmpty());
+    undecided.setState(isThere ? KirvSecretStore::Ready : KirvSecretStore::Unavailable);
+    settle();
+    QCOMPARE(isInProfile(password), !isThere);
+    QCOMPARE(undecided.secrets.values(), isThere ? QStringList(password) : QStringList());
+    core->accounts->secrets().setKeyring(nullptr);
+}
+
+void tst_SecretKeeper::aChangedPasswordReplacesTheOldOne()
+{
+    QVERIFY(core->create());
+    settle();
+    const QString before = keyring->secrets.firstKey();
+    keyring->calls.clear();
+    account()->setPassword(QStringLiteral("another one"));
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("another one"));
+    QVERIFY(keyring->secrets.firstKey() != before);
+    QCOMPARE(keyring->secrets.firstKey().section('/', 0, 0), before.section('/', 0, 0)); // the profile's id
+    QCOMPARE(keyring->calls, QStringList({ "write", "read", "remove" }));
+    QVERIFY(!isInProfile(QStringLiteral("another one")));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aChangeOfSomethingElseWritesNoSecret()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->calls.clear();
+    account()->setAlias(QStringLiteral("Other"));
+    keyring->setState(KirvSecretStore::Unavailable);
+    account()->setAlias(QStringLiteral("Another"));
+    settle();
+    QVERIFY(keyring->calls.isEmpty());
+    QVERIFY(!isInProfile(password));
+    keyring->setState(KirvSecretStore::Ready);
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aPasswordThatIsNotRememberedAnyMoreIsRemoved()
+{
+    QVERIFY(core->create());
+    settle();
+    account()->setRememberPassword(false);
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    QCOMPARE(account()->getPassword(), password); // in this run
+    account()->setRememberPassword(true);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+}
+
+void tst_SecretKeeper::aRemovedAccountLeavesNothingInTheKeyring()
+{
+    QVERIFY(core->create());
+    QVERIFY(core->create(QStringLiteral("other")));
+    settle();
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("word of other"));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::whatCouldNotBeRemovedIsRemovedAtTheNextStart()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    QCOMPARE(keyring->secrets.size(), 1); // nobody is asked to unlock it for that
+    restart();
+    settle();
+    QCOMPARE(keyring->secrets.size(), 1);
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+}
+
+void tst_SecretKeeper::itemsOfOtherProfilesAreLeftAlone()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->secrets.insert(QStringLiteral("other/1"), QStringLiteral("foreign"));
+    KirvStoredItem foreign { { QStringLiteral("other/1"), QStringLiteral("Kirv") }, account()->key(), QString() };
+    foreign.field = QStringLiteral("some field");
+    QVERIFY(core->store.addSecretItems({ foreign }));
+    QVERIFY(core->store.makeItemsObsolete({ foreign.item.key }));
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    QCOMPARE(keyring->secrets.keys(), QStringList("other/1"));
+}
+
+void tst_SecretKeeper::theLoginWaitsForItsSecrets()
+{
+    QVERIFY(core->create());
+    account()->setSettings({ KirvField::password(QString(), QStringLiteral("server-password"),
+                                                 QStringLiteral("of the server"), QString()) });
+    settle();
+    keyring->isHeld = true;
+    restart();
+    settle();
+    QVERIFY(core->takeCalls().isEmpty());
+    QVERIFY(account()->awaitsSecrets());
+    QCOMPARE(keyring->heldCount(), 1); // one at a time
+    QSignalSpy changes(account(), &KirvAccount::changed);
+    keyring->release();
+    settle();
+    QVERIFY(core->takeCalls().isEmpty());
+    keyring->release();
+    settle();
+    QVERIFY(!account()->awaitsSecrets());
+    QVERIFY(!changes.isEmpty());
+    QCOMPARE(core->takeCalls(), QStringList("id log in available word of id"));
+}
+
+void tst_SecretKeeper::aSecretThatIsGoneIsRequestedFromTheUser()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->secrets.clear();
+    core->server().needsPassword = true;
+    core->restart(true, [this] { core->accounts->secrets().setKeyring(keyring.get()); });
+    QSignalSpy requests(core->accounts.get(), &KirvAccountCollection::passwordNeeded);
+    settle();
+    QCOMPARE(requests.size(), 1);
+    account()->providePassword(QStringLiteral("typed"), true);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("typed"));
+    QVERIFY(account()->isOnline());
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aSecretThatWasChangedThereIsUsed_data()
+{
+    QTest::addColumn<QString>("when");
+    QTest::newRow("at the start") << "start";
+    QTest::newRow("when it reconnects") << "reconnect";
+    QTest::newRow("when it is enabled") << "enable";
+}
+
+void tst_SecretKeeper::aSecretThatWasChangedThereIsUsed()
+{
+    QFETCH(QString, when);
+    QVERIFY(core->create());
+    settle();
+    if (when == QLatin1String("enable"))
+        account()->setEnabled(false);
+    settle();
+    core->takeCalls();
+    keyring->secrets[keyring->secrets.firstKey()] = QStringLiteral("changed there");
+    if (when == QLatin1String("start"))
+        restart();
+    else if (when == QLatin1String("reconnect"))
+        account()->reconnect();
+    else
+        account()->setEnabled(true);
+    settle();
+    QVERIFY(core->takeCalls().contains(QStringLiteral("id log in available changed there")));
+    QCOMPARE(keyring->secrets.values(), QStringList("changed there"));
+}
+
+void tst_SecretKeeper::aSaveThatDoesNotTouchAnUnknownPasswordLeavesItAlone()
+{
+    QVERIFY(core->create());
+    settle();
+    const QMap<QString, QString> before = keyring->secrets;
+    keyring->setState(KirvSecretStore::Unavailable);
+    restart();
+    settle();
+    QVERIFY(account()->getPassword().isEmpty());
+    account()->beginSave();
+    account()->setAlias(QStringLiteral("Other"));
+    account()->setRememberPassword(true);
+    account()->setPassword(account()->getPassword());
+    account()->setAccountSettings(account()->getAccountSettingsInOrder());
+    QVERIFY(account()->endSave());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets, before);
+    QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aSaveThatTypesAPasswordReplacesAnUnknownOne()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(KirvSecretStore::Silent);
+    restart();
+    settle();
+    account()->setPassword(QStringLiteral("typed"));
+    settle();
+    QVERIFY(!isInProfile(QStringLiteral("typed")));
+    QVERIFY(core->takeCalls().contains(QStringLiteral("id log in available typed")));
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("typed"));
+}
+
+void tst_SecretKeeper::whatCannotBeReadIsRequestedOnce_data()
+{
+    QTest::addColumn<KirvSecretStore::Outcome>("outcome");
+    QTest::addColumn<KirvSecretKeeper::Obstacle>("obstacle");
+    QTest::newRow("refused") << KirvSecretStore::Refused << KirvSecretKeeper::Refused;
+    QTest::newRow("timed out") << KirvSecretStore::TimedOut << KirvSecretKeeper::Silent;
+    QTest::newRow("failed") << KirvSecretStore::Failed << KirvSecretKeeper::Failed;
+}
+
+void tst_SecretKeeper::whatCannotBeReadIsRequestedOnce()
+{
+    QFETCH(KirvSecretStore::Outcome, outcome);
+    QFETCH(KirvSecretKeeper::Obstacle, obstacle);
+    for (const char *id : { "id", "b", "c" })
+        QVERIFY(core->create(QLatin1String(id)));
+    settle();
+    keyring->calls.clear();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = outcome;
+    restart();
+    QCOMPARE(core->accounts->secrets().obstacle(), KirvSecretKeeper::Locked);
+    settle();
+    QCOMPARE(keyring->calls, QStringList("read")); // the others would open the same question
+    QCOMPARE(core->accounts->secrets().obstacle(), obstacle);
+    QVERIFY(core->takeCalls().isEmpty());
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready); // unlocked by another program
+    settle();
+    QCOMPARE(core->takeCalls().size(), 3);
+    QCOMPARE(core->accounts->secrets().obstacle(), KirvSecretKeeper::None);
+}
+
+void tst_SecretKeeper::aLockedKeyringIsAskedForEnabledAccountsOnly()
+{
+    QVERIFY(core->create());
+    settle();
+    account()->setEnabled(false);
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->calls.clear();
+    restart();
+    settle();
+    QVERIFY(keyring->calls.isEmpty());
+    account()->setEnabled(true);
+    settle();
+    QCOMPARE(keyring->calls.value(0), QStringLiteral("read"));
+    QVERIFY(account()->isOnline());
+}
+
+void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(KirvSecretStore::Unavailable);
+    restart();
+    settle();
+    account()->providePasswordForNow(QStringLiteral("for now"));
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList("id log in available for now"));
+    account()->setAlias(QStringLiteral("Other")); // does not store it either
+    account()->setPassword(account()->getPassword());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(core->takeCalls().isEmpty()); // the session goes on
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(!isInProfile(QStringLiteral("for now")));
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aWriteThatFailsIsReportedOnceAndTriedAgain()
+{
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->outcome = KirvSecretStore::Refused;
+    QVERIFY(core->create());
+    settle();
+    QCOMPARE(notices.size(), 1);
+    keyring->setState(KirvSecretStore::Locked);
+    settle();
+    QCOMPARE(notices.size(), 1);
+    QVERIFY(!isInProfile(password));
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+}
+
+void tst_SecretKeeper::aNewSecretThatWasNeverWrittenIsTheOneBefore()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("never written"));
+    settle();
+    keyring->isHeld = false; // what is held is never carried out, as after a kill
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aNewSecretThatWasWrittenIsUsed()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("written"));
+    settle();
+    keyring->release(); // and killed before it is read back
+    QCOMPARE(keyring->secrets.size(), 2);
+    keyring->isHeld = false;
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), QStringLiteral("written"));
+    QCOMPARE(keyring->secrets.values(), QStringList("written"));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("another one"));
+    settle();
+    QVERIFY(QDir(core->store.folder()).removeRecursively());
+    keyring->isHeld = false;
+    keyring->calls.clear();
+    keyring->release();
+    settle();
+    QVERIFY2(keyring->calls.size() < 5, qPrintable(keyring->calls.join(QLatin1Char(' '))));
+    QCOMPARE(account()->getPassword(), QStringLiteral("another one"));
+}
+
+void tst_SecretKeeper::theProfileIsMovedOnce()
+{
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (int number = 0; number < 50; ++number) {
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+        core->account(QStringLiteral("id%1").arg(number))
+            ->setSettings({ KirvField::password(QString(), QStringLiteral("server-password"),
+                                                QStringLiteral("server word %1").arg(number), QString()) });
+    }
+    restart();
+    QVERIFY(isInProfile(QStringLiteral("word of id7")));
+    QSignalSpy moves(&core->accounts->secrets(), &KirvSecretKeeper::moved);
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Locked); // moving opens no question
+    settle();
+    QVERIFY(keyring->calls.isEmpty());
+    keyring->setState(KirvSecretStore::Ready);
+    QTRY_COMPARE(moves.size(), 1);
+    QCOMPARE(moves.first().first().toInt(), 100);
+    QCOMPARE(keyring->secrets.size(), 100);
+    QVERIFY(!isInProfile(QStringLiteral("word of id")));
+    QVERIFY(!isInProfile(QStringLiteral("server word")));
+    restart();
+    QSignalSpy again(&core->accounts->secrets(), &KirvSecretKeeper::moved);
+    core->accounts->secrets().startMoving();
+    for (int round = 0; round < 10; ++round)
+        settle();
+    QCOMPARE(again.size(), 0);
+    for (int number = 0; number < 50; ++number) {
+        const QString id = QStringLiteral("id%1").arg(number);
+        QCOMPARE(core->account(id)->getPassword(), QStringLiteral("word of ") + id);
+        QCOMPARE(core->account(id)->record().settings.value(QStringLiteral("server-password")),
+                 QStringLiteral("server word %1").arg(number));
+    }
+}
+
+void tst_SecretKeeper::aMoveThatFailsLosesNothing_data()
+{
+    QTest::addColumn<int>("operations"); // that are carried out before the program ends
+    for (int operations = 0; operations <= 8; ++operations)
+        QTest::addRow("after %d operations", operations) << operations;
+}
+
+void tst_SecretKeeper::aMoveThatFailsLosesNothing()
+{
+    QFETCH(int, operations);
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (const char *id : { "a", "b", "c" })
+        QVERIFY(core->create(QLatin1String(id)));
+    restart();
+    keyring->isHeld = true;
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Ready);
+    for (int operation = 0; operation < operations; ++operation) {
+        settle();
+        keyring->release();
+    }
+    keyring->isHeld = false;
+    restart();
+    for (const char *id : { "a", "b", "c" }) {
+        QTRY_COMPARE(core->account(QLatin1String(id))->getPassword(), QStringLiteral("word of ") + QLatin1String(id));
+    }
+    QSignalSpy moves(&core->accounts->secrets(), &KirvSecretKeeper::moved);
+    core->accounts->secrets().startMoving();
+    QTRY_COMPARE(keyring->secrets.size(), 3);
+    settle();
+    settle();
+    QCOMPARE(keyring->secrets.size(), 3); // and no orphan
+    QVERIFY(core->store.unsettledItems().isEmpty());
+    QVERIFY(!isInProfile(QStringLiteral("word of ")));
+    QVERIFY(moves.size() <= 1);
+}
+
+void tst_SecretKeeper::aSaveDuringTheMoveCounts()
+{
+    keyring->setState(KirvSecretStore::Unavailable);
+    QVERIFY(core->create());
+    restart();
+    keyring->isHeld = true;
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    keyring->release(); // the old password is written
+    account()->setPassword(QStringLiteral("newer"));
+    keyring->isHeld = false;
+    for (int count = 0; count < 10; ++count) {
+        keyring->release();
+        settle();
+    }
+    QCOMPARE(keyring->secrets.values(), QStringList("newer"));
+    QVERIFY(!isInProfile(password));
+    QVERIFY(!isInProfile(QStringLiteral("newer")));
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), QStringLiteral("newer"));
+}
+
+void tst_SecretKeeper::aProfileSavedElsewhereKeepsItsSecrets()
+{
+    QVERIFY(core->create());
+    settle();
+    QTemporaryDir other;
+    const QString folder = other.filePath(QStringLiteral("saved"));
+    QVERIFY2(core->store.saveTo(folder), qPrintable(core->store.lastError()));
+    core->endCore();
+    core->store.close();
+    QVERIFY(core->store.open(folder));
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    account()->setPassword(QStringLiteral("later"));
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("later")); // its items are still its own
+}
+
+QTEST_MAIN(tst_SecretKeeper)
+#include "tst_secret_keeper.moc"

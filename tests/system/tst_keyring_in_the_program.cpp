@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/store/kirv_keyring.h"
+#include "core/store/kirv_store.h"
+#include "tests/support/kirv_profile_files.h"
+#include "tests/support/servers/kirv_gnome_keyring.h"
+#include "tests/support/servers/kirv_private_bus.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const int accountCount = 12;
+
+QString passwordOf(int number)
+{
+    return QStringLiteral("remembered word %1").arg(number);
+}
+
+QString serverPasswordOf(int number)
+{
+    return QStringLiteral("word for the server %1").arg(number);
+}
+
+} // namespace
+
+/// The program itself with a real keyring: what any byte of its profile, its arguments and its environment says.
+class tst_KeyringInTheProgram : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QVERIFY(daemon.start()); }
+    void cleanup() { daemon.stop(); }
+
+    void theFirstStartMovesEverySecret();
+    void twoProfilesSideBySideKeepTheirOwn();
+    void withAServiceThatIsNotThereTheProfileStaysAsItIs();
+
+private:
+    static void makeProfile(const QString &folder);
+    static void start(QProcess &program, const QString &folder);
+    static bool hasSecrets(const QByteArray &bytes);
+    static bool hasSecretsIn(const QString &folder);
+
+    KirvGnomeKeyring daemon;
+};
+
+/// As an earlier version has left it: all secrets in the profile. Nothing connects anywhere.
+void tst_KeyringInTheProgram::makeProfile(const QString &folder)
+{
+    KirvStore store;
+    QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+    for (int number = 0; number < accountCount; ++number) {
+        KirvAccountRecord account;
+        account.key = { QStringLiteral("nick%1").arg(number), QStringLiteral("IRC") };
+        account.enabled = false;
+        account.rememberPassword = true;
+        account.password = passwordOf(number);
+        account.settings = { { QStringLiteral("server"), QStringLiteral("irc.invalid") },
+                             { QStringLiteral("server-password"), serverPasswordOf(number) } };
+        account.secretSettings = { QStringLiteral("server-password") };
+        QVERIFY(store.insertAccount(account));
+    }
+}
+
+void tst_KeyringInTheProgram::start(QProcess &program, const QString &folder)
+{
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    program.start(QStringLiteral(KIRV_PROGRAM), { QStringLiteral("--profile"), folder });
+    QVERIFY(program.waitForStarted());
+}
+
+bool tst_KeyringInTheProgram::hasSecrets(const QByteArray &bytes)
+{
+    for (int number = 0; number < accountCount; ++number) {
+        for (const QString &secret : { passwordOf(number), serverPasswordOf(number) }) {
+            if (bytes.contains(secret.toUtf8()))
+                return true;
+        }
+    }
+    return false;
+}
+
+bool tst_KeyringInTheProgram::hasSecretsIn(const QString &folder)
+{
+    const auto files = filesIn(folder);
+    return std::any_of(files.begin(), files.end(), &hasSecrets);
+}
+
+void tst_KeyringInTheProgram::theFirstStartMovesEverySecret()
+{
+    const int others = daemon.count();
+    QTemporaryDir home;
+    const QString folder = home.filePath(QStringLiteral("profile"));
+    makeProfile(folder);
+    QVERIFY(hasSecretsIn(folder));
+    QProcess program;
+    start(program, folder);
+    QTRY_VERIFY_WITH_TIMEOUT(!hasSecretsIn(folder), 60000);
+    QCOMPARE(daemon.count(), others + 2 * accountCount);
+    const QString process = QStringLiteral("/proc/%1/").arg(program.processId());
+    for (const char *name : { "cmdline", "environ" }) {
+        const QByteArray bytes = contentOf(process + QLatin1String(name));
+        QVERIFY(!bytes.isEmpty());
+        QVERIFY(!hasSecrets(bytes));
+    }
+    program.terminate();
+    QVERIFY(program.waitForFinished(20000));
+    QVERIFY(!hasSecretsIn(folder)); // with the copy that the end has made
+    QVERIFY(!hasSecrets(program.readAll()));
+    QCOMPARE(daemon.count(), others + 2 * accountCount);
+}
+
+void tst_KeyringInTheProgram::twoProfilesSideBySideKeepTheirOwn()
+{
+    const int others = daemon.count();
+    QTemporaryDir home;
+    const QString one = home.filePath(QStringLiteral("one")), two = home.filePath(QStringLiteral("two"));
+    for (const QString &folder : { one, two })
+        makeProfile(folder);
+    QProcess first, second;
+    start(first, one);
+    start(second, two);
+    QTRY_VERIFY_WITH_TIMEOUT(!hasSecretsIn(one) && !hasSecretsIn(two), 60000);
+    QCOMPARE(daemon.count(), others + 4 * accountCount);
+    for (QProcess *program : { &first, &second }) {
+        program->terminate();
+        QVERIFY(program->waitForFinished(20000));
+    }
+    {
+        KirvStore store;
+        QVERIFY(store.open(one));
+        const QList<KirvAccountRecord> accounts = store.readAccounts();
+        for (const KirvAccountRecord &account : accounts)
+            QVERIFY(store.removeAccount(account.key));
+    }
+    start(first, one); // removes what is left of them
+    QTRY_COMPARE_WITH_TIMEOUT(daemon.count(), others + 2 * accountCount, 60000);
+    first.terminate();
+    QVERIFY(first.waitForFinished(20000));
+    KirvStore store;
+    QVERIFY(store.open(two));
+    KirvKeyring keyring;
+    int read = 0;
+    const QList<KirvAccountRecord> accounts = store.readAccounts();
+    for (const KirvAccountRecord &account : accounts) {
+        QCOMPARE(account.secretItems.size(), 2);
+        keyring.read(account.secretItems.value(QString()), this, [&, account](const KirvSecretStore::Reply &reply) {
+            read += reply.outcome == KirvSecretStore::Done && reply.secret == passwordOf(account.key.id.mid(4).toInt());
+        });
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(read, accountCount, 60000);
+}
+
+void tst_KeyringInTheProgram::withAServiceThatIsNotThereTheProfileStaysAsItIs()
+{
+    daemon.stop();
+    QTemporaryDir home;
+    const QString folder = home.filePath(QStringLiteral("profile"));
+    makeProfile(folder);
+    QProcess program;
+    start(program, folder);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder + QStringLiteral("/plugins.json")), 60000); // it has loaded them
+    program.terminate();
+    QVERIFY(program.waitForFinished(20000));
+    KirvStore store;
+    QVERIFY(store.open(folder));
+    const QList<KirvAccountRecord> accounts = store.readAccounts();
+    QCOMPARE(accounts.size(), accountCount);
+    for (const KirvAccountRecord &account : accounts) {
+        QVERIFY(account.secretItems.isEmpty());
+        QCOMPARE(account.password, passwordOf(account.key.id.mid(4).toInt()));
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    kirvEnterPrivateBus(argv);
+    kirvForgetPrivateBusFile();
+    QCoreApplication application(argc, argv);
+    tst_KeyringInTheProgram test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_keyring_in_the_program.moc"
