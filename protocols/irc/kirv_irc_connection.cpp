@@ -97,7 +97,29 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     connect(link.data(), &IrcConnection::connected, this, [this, presence] { finishLogin(presence); });
     nicksLeft = settings.nicks();
     link->setNickName(nicksLeft.takeFirst());
-    link->open();
+    openThroughProxy(transport);
+}
+
+/// Without a proxy, at once. The proxy looks the name of the server up.
+void KirvIrcConnection::openThroughProxy(QAbstractSocket *transport)
+{
+    IrcConnection *const opened = link.data();
+    const auto timeOut = [this, opened, transport] {
+        if (link.data() == opened && transport->state() != QAbstractSocket::ConnectedState)
+            connectionLost(kirvProxyTimedOut(proxy));
+    };
+    const auto receive = [=](const QNetworkProxy &found, const KirvFailure &failure) {
+        if (link.data() != opened) // it is deleted later
+            return;
+        if (failure.isFailure())
+            return connectionLost(failure);
+        proxy = found;
+        transport->setProxy(proxy);
+        if (proxy.type() != QNetworkProxy::NoProxy)
+            clock().callLater(KirvProxy::patience, transport, timeOut);
+        link->open();
+    };
+    kirvFindProxy(settings.proxy.toNetworkProxy(), settings.server, settings.port, clock(), transport, receive);
 }
 
 /// A new one for each attempt, so that nothing of an earlier attempt is left.
@@ -314,6 +336,9 @@ void KirvIrcConnection::loseConnection(const QString &reason)
 
 void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
 {
+    const KirvFailure ofProxy = kirvProxyFailure(proxy, error, socket->errorString());
+    if (ofProxy.isFailure())
+        return connectionLost(ofProxy);
     switch (error) {
     case QAbstractSocket::HostNotFoundError:
         return connectionLost({ KirvFailure::HostNotFound, settings.server });

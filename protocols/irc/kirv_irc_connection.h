@@ -42,6 +42,7 @@ protected:
 private:
     void createLink();
     void createSocket(QAbstractSocket *transport);
+    void openThroughProxy(QAbstractSocket *transport);
     QAbstractSocket *createTransport(QString *problem);
     bool configure(QSslSocket *encrypted, QString *problem) const;
     void warnOfOpenKey();
@@ -65,6 +66,7 @@ private:
     QScopedPointer<IrcConnection, QScopedPointerDeleteLater> link;
     KirvIrcSettings settings;
     KirvIrcSocket *socket = nullptr; ///< of the link
+    QNetworkProxy proxy; ///< that it goes through
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
     QStringList nicksLeft;
     QString certificateError; ///< why the server's certificate is not trusted

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 
+#include "core/protocol/kirv_proxy.h"
 #include "protocols/xmpp/kirv_xmpp_features.h"
 #include "protocols/xmpp/kirv_xmpp_stream_reader.h"
 #include "protocols/xmpp/kirv_xmpp_system_certificates.h"
@@ -144,6 +145,7 @@ void KirvXmppServerLink::guardStream()
     auto *stream = client.findChild<QXmppOutgoingClient *>();
     reader = new KirvXmppStreamReader(
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
+    connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppLink::reached);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
     connect(reader, &KirvXmppStreamReader::stanzaDropped, this, &KirvXmppServerLink::receiveDropped);
 }
@@ -454,6 +456,10 @@ void KirvXmppServerLink::end()
 
 KirvFailure KirvXmppServerLink::socketFailure()
 {
+    const QNetworkProxy proxy = client.configuration().networkProxy();
+    const KirvFailure ofProxy = kirvProxyFailure(proxy, client.socketError(), client.socketErrorString());
+    if (ofProxy.isFailure())
+        return ofProxy;
     switch (client.socketError()) {
     case QAbstractSocket::HostNotFoundError:
         return KirvFailure(KirvFailure::HostNotFound, serverName());
