@@ -15,6 +15,7 @@ class KirvAccountsTab;
 class KirvConnectionView;
 class KirvHostServices;
 class KirvLayoutCatalog;
+class KirvNetworkWatch;
 class KirvPasswordQuestions;
 class KirvPluginLoader;
 class KirvPluginQueue;
@@ -88,6 +89,7 @@ private:
     std::unique_ptr<KirvStore> store;
     std::unique_ptr<KirvClientSettings> clientSettings;
     std::unique_ptr<KirvAccountCollection> accountCollection;
+    std::unique_ptr<KirvNetworkWatch> networkWatch;
     std::unique_ptr<KirvPluginLoader> pluginLoader;
     std::unique_ptr<KirvPluginQueue> pluginsToLoad;
     bool isLoadingStarted = false;

@@ -21,6 +21,8 @@ KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
     : QObject(parent)
     , store(store)
 {
+    nextTurn.setSingleShot(true);
+    connect(&nextTurn, &QTimer::timeout, this, &KirvAccountCollection::reactToNetwork);
     const QList<KirvAccountRecord> records = store.readAccounts();
     error = store.lastError();
     byKey.reserve(int(records.size()));
@@ -139,8 +141,28 @@ void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
     }
 }
 
+/// Another change starts over: it may have come after an account has reacted.
+void KirvAccountCollection::networkChanged()
+{
+    unaware = guarded(mainFirst(all));
+    nextTurn.start(0);
+}
+
+void KirvAccountCollection::reactToNetwork()
+{
+    const QPointer<KirvAccountCollection> alive(this);
+    for (int reacted = 0; alive && reacted < accountsPerTurn && !unaware.isEmpty(); ++reacted) {
+        const QPointer<KirvAccount> account = unaware.takeFirst();
+        if (account && !account->isRemoved() && account->connection())
+            account->connection()->networkChanged();
+    }
+    if (alive && !unaware.isEmpty())
+        nextTurn.start(0);
+}
+
 void KirvAccountCollection::logOutAll(int milliseconds)
 {
+    unaware.clear();
     QList<QPointer<KirvConnection>> open;
     for (KirvAccount *account : withLeaving()) {
         if (account->connection())

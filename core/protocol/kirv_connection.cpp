@@ -344,6 +344,27 @@ void KirvConnection::drop()
         d->enter(Offline);
 }
 
+void KirvConnection::networkChanged()
+{
+    d->backOff.reset();
+    switch (d->state) {
+    case Offline:
+    case Disconnecting:
+        break;
+    case Waiting:
+        if (!d->waitsForTurn)
+            d->logInNow();
+        break;
+    case Connecting:
+        if (d->abort())
+            d->logInNow();
+        break;
+    case Online:
+        checkSession(d->timing.requestTimeout / 3);
+        break;
+    }
+}
+
 void KirvConnection::acceptPassword(const QString &password)
 {
     d->login.password = password;
@@ -397,6 +418,8 @@ int KirvConnection::deleteDirectory()
 {
     return d->startRequest([this](int request) { startDirectoryDeletion(request); });
 }
+
+void KirvConnection::checkSession(int) { }
 
 void KirvConnection::publishAvatar() { }
 

@@ -147,6 +147,7 @@ void KirvIrcConnection::createSocket(QAbstractSocket *transport)
     link->setSocket(socket);
     connect(socket, &KirvIrcSocket::heard, this, [this] {
         lastHeard = clock().now();
+        ++heardTimes;
         wasPinged = false;
     });
     connect(socket, &KirvIrcSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
@@ -399,6 +400,16 @@ void KirvIrcConnection::applyPresence(const KirvPresence &presence)
             reason = tr("Away");
     }
     link->sendCommand(IrcCommand::createAway(reason));
+}
+
+/// Whatever the server sends shows that it is there.
+void KirvIrcConnection::checkSession(int milliseconds)
+{
+    link->sendCommand(IrcCommand::createPing(settings.server));
+    callLaterOnLink(milliseconds, [this, before = heardTimes] {
+        if (heardTimes == before)
+            connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
+    });
 }
 
 /// A connection can break without any sign of it: a server that has been silent for long gets a ping.

@@ -38,6 +38,7 @@ protected:
     void startLogout() override;
     void abortConnection() override;
     void applyPresence(const KirvPresence &presence) override;
+    void checkSession(int milliseconds) override;
 
 private:
     void createLink();
@@ -76,6 +77,7 @@ private:
     QString announcedNick;
     bool announcesLater = false; ///< a nick was announced not long ago
     QDateTime lastHeard;
+    quint64 heardTimes = 0; ///< counts what the server has sent
     bool wasPinged = false; ///< since the server was last heard
 };
 

@@ -39,6 +39,8 @@ public:
     /// The user and password of each log-in, as "user:password".
     QByteArrayList logIns() const { return shown; }
     int connections() const { return connectionCount; }
+    /// From now on nothing is led on any more, and all connections stay open.
+    void freeze() { isFrozen = true; }
     /// Breaks all connections.
     void hangUp()
     {
@@ -169,12 +171,12 @@ private:
         auto *server = new QTcpSocket(client);
         connect(server, &QTcpSocket::connected, client, [=] { client->write(reply); });
         connect(server, &QTcpSocket::readyRead, client, [=] {
-            if (client->isOpen())
+            if (client->isOpen() && !isFrozen)
                 client->write(server->readAll());
         });
         connect(server, &QTcpSocket::disconnected, client, [=] { client->disconnectFromHost(); });
         connect(client, &QTcpSocket::readyRead, server, [=] {
-            if (server->isOpen())
+            if (server->isOpen() && !isFrozen)
                 server->write(client->readAll());
         });
         connect(client, &QTcpSocket::disconnected, server, [=] { server->disconnectFromHost(); });
@@ -190,6 +192,7 @@ private:
     QStringList servers;
     QByteArrayList shown;
     int connectionCount = 0;
+    bool isFrozen = false;
 };
 
 #endif
