@@ -152,6 +152,7 @@ KirvFailure kirvProxyFailure(const QNetworkProxy &proxy, QAbstractSocket::Socket
     case QAbstractSocket::ProxyConnectionClosedError:
     case QAbstractSocket::ProxyProtocolError:
     case QAbstractSocket::UnsupportedSocketOperationError:
+    case QAbstractSocket::NetworkError: // on the way to the proxy, or beyond it
         return KirvFailure(KirvFailure::ProxyFailed, text);
     case QAbstractSocket::HostNotFoundError: // Qt takes the one reply of SOCKS5 for the other
         if (proxy.type() != QNetworkProxy::Socks5Proxy)

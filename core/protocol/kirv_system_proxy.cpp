@@ -4,7 +4,6 @@
 #include "core/values/kirv_clock.h"
 
 #include <QCoreApplication>
-#include <QMap>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QNetworkProxyFactory>
@@ -13,12 +12,29 @@
 
 /// The queries that wait for the thread. It outlives the object while a query runs.
 struct KirvSystemProxy::Line {
+    struct Waiting {
+        quint64 number;
+        QNetworkProxyQuery query;
+    };
+
+    void remove(quint64 number);
+
     Query query;
     QMutex mutex; ///< of what follows
-    QMap<quint64, QNetworkProxyQuery> waiting; ///< by their numbers
+    QList<Waiting> waiting; ///< the first one is the next
     KirvSystemProxy *owner = nullptr; ///< null when it is destroyed
     bool isRunning = false; ///< the thread
 };
+
+void KirvSystemProxy::Line::remove(quint64 number)
+{
+    for (int index = 0; index < waiting.size(); ++index) {
+        if (waiting.at(index).number == number) {
+            waiting.removeAt(index);
+            return;
+        }
+    }
+}
 
 /// Ends when no query waits. Nobody waits for it: a query that hangs would hold the end of the program.
 class KirvSystemProxy::Thread : public QThread {
@@ -46,14 +62,13 @@ void KirvSystemProxy::Thread::run()
 {
     QMutexLocker locker(&line->mutex);
     while (!line->waiting.isEmpty()) {
-        const quint64 number = line->waiting.firstKey();
-        const QNetworkProxyQuery query = line->waiting.take(number);
+        const auto [number, query] = line->waiting.takeFirst();
         locker.unlock();
         const QList<QNetworkProxy> said = line->query(query);
         locker.relock();
         if (KirvSystemProxy *owner = line->owner) {
             QMetaObject::invokeMethod(
-                owner, [owner, number, said] { owner->finish(number, said); }, Qt::QueuedConnection);
+                owner, [owner, number = number, said] { owner->finish(number, said); }, Qt::QueuedConnection);
         }
     }
     line->isRunning = false;
@@ -89,7 +104,7 @@ void KirvSystemProxy::request(const QString &host, int port, KirvClock &clock, Q
     requests.insert(number, { context, receiver });
     clock.callLater(patience, this, [this, number] { finish(number, {}); });
     const QMutexLocker locker(&line->mutex);
-    line->waiting.insert(number, QNetworkProxyQuery(host, port));
+    line->waiting.append({ number, QNetworkProxyQuery(host, port) });
     if (!std::exchange(line->isRunning, true))
         Thread::begin(line);
 }
@@ -100,7 +115,7 @@ void KirvSystemProxy::finish(quint64 number, const QList<QNetworkProxy> &said)
     const Request request = requests.take(number);
     {
         const QMutexLocker locker(&line->mutex);
-        line->waiting.remove(number);
+        line->remove(number);
     }
     if (request.context && request.receiver)
         request.receiver(usable(said));

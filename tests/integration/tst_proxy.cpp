@@ -175,6 +175,8 @@ void tst_Proxy::errorsOfTheProxyAreTold_data()
                             << "The proxy [::1]:1080 does not allow a connection to the server.";
     QTest::newRow("closed") << QAbstractSocket::ProxyConnectionClosedError << KirvFailure::ProxyFailed
                             << "The connection through the proxy failed: reason";
+    QTest::newRow("network") << QAbstractSocket::NetworkError << KirvFailure::ProxyFailed
+                             << "The connection through the proxy failed: reason";
     QTest::newRow("not allowed, or not found")
         << QAbstractSocket::HostNotFoundError << KirvFailure::ProxyFailed
         << "The connection through the proxy failed: it does not find the server, or";

@@ -105,7 +105,7 @@ void TestNetworkChange::aSessionThatHangsIsLeft()
     QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Waiting, kirvPatience);
     QCOMPARE(connection->lastFailure().kind(), KirvFailure::ConnectionLost);
     QVERIFY2(connection->lastFailure().text().contains("answer"), qPrintable(connection->lastFailure().text()));
-    QVERIFY2(time.elapsed() >= 4900 && time.elapsed() < 15000, qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() >= 4500 && time.elapsed() < 15000, qPrintable(QString::number(time.elapsed())));
 }
 
 void TestNetworkChange::aWaitIsCutShort()

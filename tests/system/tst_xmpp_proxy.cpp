@@ -396,19 +396,31 @@ void TestXmppProxy::aWrongLogInIsTold_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<QString>("user");
-    QTest::newRow("SOCKS5, none") << Proxy::Socks5 << "";
-    QTest::newRow("SOCKS5, wrong") << Proxy::Socks5 << "eve";
-    QTest::newRow("HTTP, none") << Proxy::Http << "";
-    QTest::newRow("HTTP, wrong") << Proxy::Http << "eve";
+    QTest::addColumn<QByteArray>("challenge");
+    QTest::addColumn<KirvFailure::Kind>("failing");
+    const QByteArray basic = "Basic realm=\"proxy\"";
+    const auto row = [](const char *name, Proxy::Kind kind, const QString &user, const QByteArray &challenge,
+                        KirvFailure::Kind failing = KirvFailure::ProxyLoginRefused) {
+        QTest::newRow(name) << kind << user << challenge << failing;
+    };
+    row("SOCKS5, none", Proxy::Socks5, "", basic);
+    row("SOCKS5, wrong", Proxy::Socks5, "eve", basic);
+    row("HTTP, none", Proxy::Http, "", basic);
+    row("HTTP, wrong", Proxy::Http, "eve", basic);
+    row("HTTP, Digest", Proxy::Http, "eve", "Digest realm=\"proxy\", nonce=\"1\"");
+    row("HTTP, Negotiate", Proxy::Http, "eve", "Negotiate", KirvFailure::ProxyFailed);
+    row("HTTP, unknown", Proxy::Http, "eve", "Unheard", KirvFailure::ProxyFailed);
 }
 
 void TestXmppProxy::aWrongLogInIsTold()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(QString, user);
+    QFETCH(QByteArray, challenge);
+    QFETCH(KirvFailure::Kind, failing);
     KirvScriptedXmppServer server;
     Proxy proxy(kind, server.serverPort());
-    proxy.requireLogIn("ann", "word");
+    proxy.requireLogIn("ann", "word", challenge);
     KirvXmppSettings settings;
     settings.server = "localhost";
     settings.port = server.serverPort();
@@ -417,11 +429,15 @@ void TestXmppProxy::aWrongLogInIsTold()
     settings.proxy.password = user.isEmpty() ? "" : "word";
     logIn(settings);
     QTRY_VERIFY_WITH_TIMEOUT(failure().isFailure(), kirvPatience);
-    QCOMPARE(failure().kind(), KirvFailure::ProxyLoginRefused);
-    QCOMPARE(connection->state(), KirvConnection::Offline); // it stays wrong
+    QVERIFY2(failure().kind() == failing, qPrintable(failure().text()));
+    if (failing == KirvFailure::ProxyLoginRefused)
+        QCOMPARE(connection->state(), KirvConnection::Offline); // it stays wrong
     QVERIFY(proxy.logIns().size() <= 2);
     QCOMPARE(server.connections(), 0);
-    QCOMPARE(kirvTakeLookUps(), QStringList());
+    // With Kerberos the library looks the proxy up once more, for the name of the service.
+    QStringList names = kirvTakeLookUps();
+    names.removeAll(settings.proxy.host);
+    QVERIFY2(names.isEmpty(), qPrintable(names.join(' ')));
 }
 
 void TestXmppProxy::aFailingProxyIsTriedAgain()

@@ -32,8 +32,13 @@ public:
         connect(this, &QTcpServer::newConnection, this, [this] { accept(nextPendingConnection()); });
     }
 
-    /// Only who logs in like that is served.
-    void requireLogIn(const QByteArray &user, const QByteArray &password) { credentials = user + ':' + password; }
+    /// Only who logs in like that is served. HTTP: \a challenge is how the proxy requests it.
+    void requireLogIn(const QByteArray &user, const QByteArray &password,
+                      const QByteArray &challenge = "Basic realm=\"proxy\"")
+    {
+        credentials = user + ':' + password;
+        httpChallenge = challenge;
+    }
     /// The servers that were requested, each as "name:port".
     QStringList requested() const { return servers; }
     /// The user and password of each log-in, as "user:password".
@@ -151,7 +156,8 @@ private:
             shown << given;
         if (given != credentials && !credentials.isEmpty()) {
             client->write("HTTP/1.1 407 Proxy Authentication Required\r\n"
-                          "Proxy-Authenticate: Basic realm=\"proxy\"\r\nContent-Length: 0\r\n\r\n");
+                          "Proxy-Authenticate: "
+                          + httpChallenge + "\r\nContent-Length: 0\r\n\r\n");
             return;
         }
         servers << QString::fromUtf8(lines.first().split(' ').value(1));
@@ -186,6 +192,7 @@ private:
     const Kind kind;
     const quint16 target; ///< the port of this computer
     const Behaviour behaviour;
+    QByteArray httpChallenge;
     QByteArray credentials; ///< empty: no log-in is required
     QHash<QTcpSocket *, State> states;
     QHash<QTcpSocket *, QByteArray> inputs;
