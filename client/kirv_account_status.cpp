@@ -210,6 +210,17 @@ QString KirvAccountStatus::shortText(const KirvFailure &failure)
         return tr("Name in use");
     case KirvFailure::NameNotAllowed:
         return tr("Name not allowed");
+    case KirvFailure::ProxyNotReached:
+        return tr("Proxy not reachable");
+    case KirvFailure::ProxyTimedOut:
+    case KirvFailure::ProxyUnknown:
+        return tr("No reply from the proxy");
+    case KirvFailure::ProxyLoginRefused:
+        return tr("Log-in refused by the proxy");
+    case KirvFailure::ProxyDenied:
+        return tr("Denied by the proxy");
+    case KirvFailure::ProxyFailed:
+        return tr("Proxy failed");
     case KirvFailure::AccessDenied:
         return tr("Access denied");
     case KirvFailure::BadSettings:
@@ -235,6 +246,7 @@ QString KirvAccountStatus::advice(const KirvFailure &failure)
     case KirvFailure::AuthenticationNotOffered:
     case KirvFailure::NameInUse:
     case KirvFailure::NameNotAllowed:
+    case KirvFailure::ProxyLoginRefused:
     case KirvFailure::BadSettings:
         return tr("Edit the account to change its settings.");
     case KirvFailure::LoggedInElsewhere:

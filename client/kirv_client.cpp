@@ -18,6 +18,7 @@
 #include "client/kirv_window_companions.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_history.h"
+#include "core/accounts/kirv_network_watch.h"
 #include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/plugins/kirv_plugin_queue.h"
@@ -61,6 +62,7 @@ KirvClient::~KirvClient()
     if (settingsWindow)
         settingsWindow->hide();
     pluginsToLoad.reset();
+    networkWatch.reset();
     accountCollection->logOutAll(logOutMilliseconds);
     // Nothing is emitted from now on: the window is destroyed first, the protocols and the store follow.
     accountCollection->disconnect(this);
@@ -123,6 +125,7 @@ void KirvClient::createServices()
         keyring = std::make_unique<KirvKeyring>();
         accountCollection->secrets().setKeyring(keyring.get());
     }
+    networkWatch = std::make_unique<KirvNetworkWatch>();
     const QDir profile(options.profileFolder);
     pluginLoader = std::make_unique<KirvPluginLoader>();
     pluginsToLoad = std::make_unique<KirvPluginQueue>(*pluginLoader, profile.filePath(QStringLiteral("plugins.json")));
@@ -174,6 +177,8 @@ void KirvClient::connectServices()
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
     connect(accountCollection.get(), &KirvAccountCollection::creationRefused, this, &KirvClient::creationRefused);
+    connect(networkWatch.get(), &KirvNetworkWatch::changed, accountCollection.get(),
+            &KirvAccountCollection::networkChanged);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, companions->page(),
             &KirvAccountsPageCompanion::pluginsLoaded);

@@ -16,6 +16,7 @@ class KirvAccountsTab;
 class KirvHostServices;
 class KirvKeyring;
 class KirvLayoutCatalog;
+class KirvNetworkWatch;
 class KirvPasswordQuestions;
 class KirvPluginLoader;
 class KirvPluginQueue;
@@ -95,6 +96,7 @@ private:
     std::unique_ptr<KirvClientSettings> clientSettings;
     std::unique_ptr<KirvKeyring> keyring; ///< null: it is not used
     std::unique_ptr<KirvAccountCollection> accountCollection;
+    std::unique_ptr<KirvNetworkWatch> networkWatch;
     std::unique_ptr<KirvPluginLoader> pluginLoader;
     std::unique_ptr<KirvPluginQueue> pluginsToLoad;
     bool isLoadingStarted = false;

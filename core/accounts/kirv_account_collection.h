@@ -10,6 +10,8 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QPointer>
+#include <QTimer>
 #include <functional>
 
 /// Every configured account, over a store.
@@ -71,6 +73,12 @@ public:
     /// The protocol is about to be unloaded: its connections are closed and destroyed. The accounts stay.
     void protocolAboutToBeUnloaded(const QString &protocol);
 
+    /// The computer has another network than before, or was suspended: every account reacts to it, a few in each turn
+    /// of the event loop and the main account first. Log-ins have their turns as always.
+    void networkChanged();
+    /// How many accounts react in one turn.
+    static const int accountsPerTurn = 20;
+
     /// Logs every account out in an orderly way; returns when all are off line or after \a milliseconds.
     void logOutAll(int milliseconds);
 
@@ -127,6 +135,7 @@ private:
     QString idWithSameLogin(const KirvAccountKey &key) const;
     void reportTwins(const QString &protocol);
     void refuse(const QString &reason);
+    void reactToNetwork();
 
     KirvStore &store;
     KirvLoginQueue queue;
@@ -138,6 +147,8 @@ private:
     KirvLoginIndex logins;
     QHash<QString, QPointer<KirvProtocolBase>> protocols;
     QString error;
+    QList<QPointer<KirvAccount>> unaware; ///< of the change of the network
+    QTimer nextTurn; ///< for them
 };
 
 #endif

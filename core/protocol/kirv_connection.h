@@ -79,6 +79,10 @@ public:
     void logOut();
     /// Breaks the connection at once; nothing is sent. The state is Offline afterwards.
     void drop();
+    /// The network is another one than before, or the computer was suspended: a wait for the next attempt ends, an
+    /// attempt starts afresh, and a session is checked within a third of timing().requestTimeout. Waits begin with the
+    /// shortest one again.
+    void networkChanged();
     /// The server has changed the password of the account to \a password: the session goes on with it.
     void acceptPassword(const QString &password);
 
@@ -137,6 +141,9 @@ protected:
     virtual void abortConnection() = 0;
     /// Sends \a presence; called in state Online only.
     virtual void applyPresence(const KirvPresence &presence) = 0;
+    /// Finds out whether the server still answers; called in state Online only. Report connectionLost() when it has not
+    /// within \a milliseconds. May be called again before. The default does nothing.
+    virtual void checkSession(int milliseconds);
     /// Publishes avatar(); called in state Online only, when one was chosen. Emit avatarPublished() then. At the log-in
     /// the protocol looks for itself whether it is to be published. The default does nothing.
     virtual void publishAvatar();

@@ -46,6 +46,11 @@ bool KirvFailure::isWorthRetrying() const
     case ConnectionLost:
     case ServerShutDown:
     case ServiceUnavailable:
+    case ProxyNotReached:
+    case ProxyTimedOut:
+    case ProxyDenied:
+    case ProxyFailed:
+    case ProxyUnknown:
     case Other:
         return true;
     case None:
@@ -57,6 +62,7 @@ bool KirvFailure::isWorthRetrying() const
     case LoggedInElsewhere:
     case NameInUse:
     case NameNotAllowed:
+    case ProxyLoginRefused:
     case AccessDenied:
     case BadSettings:
     case NotSupported:
@@ -105,6 +111,18 @@ QString KirvFailure::textWithoutDetail() const
         return tr("The name is already in use on the server.");
     case NameNotAllowed:
         return tr("The server does not allow this name.");
+    case ProxyNotReached:
+        return tr("The proxy cannot be reached. Check its name and port and your network connection.");
+    case ProxyTimedOut:
+        return tr("The proxy did not connect to the server in time.");
+    case ProxyLoginRefused:
+        return tr("The proxy did not accept the user or the password.");
+    case ProxyDenied:
+        return tr("The proxy does not allow a connection to the server.");
+    case ProxyFailed:
+        return tr("The connection through the proxy failed.");
+    case ProxyUnknown:
+        return tr("The system did not say in time which proxy to use, so no connection was made.");
     case AccessDenied:
         return tr("The server denied access.");
     case BadSettings:
@@ -167,6 +185,29 @@ QString KirvFailure::textWithDetail() const
     case Other:
         //: %1 is what the server or the network said
         return tr("An error occurred: %1");
+    default:
+        return isOfProxy() ? proxyTextWithDetail() : QString();
+    }
+}
+
+QString KirvFailure::proxyTextWithDetail() const
+{
+    switch (failureKind) {
+    case ProxyNotReached:
+        //: %1 is the name and port of a proxy
+        return tr("The proxy %1 cannot be reached. Check its name and port and your network connection.");
+    case ProxyTimedOut:
+        //: %1 is the name and port of a proxy
+        return tr("The proxy %1 did not connect to the server in time.");
+    case ProxyLoginRefused:
+        //: %1 is the name and port of a proxy
+        return tr("The proxy %1 did not accept the user or the password.");
+    case ProxyDenied:
+        //: %1 is the name and port of a proxy
+        return tr("The proxy %1 does not allow a connection to the server.");
+    case ProxyFailed:
+        //: %1 is the reason
+        return tr("The connection through the proxy failed: %1");
     default:
         return QString();
     }

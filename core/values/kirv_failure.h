@@ -29,6 +29,12 @@ public:
         LoggedInElsewhere, ///< another client took the session over
         NameInUse, ///< the name (the detail) is taken, and no alternative was left
         NameNotAllowed, ///< the server does not accept that name (the detail)
+        ProxyNotReached, ///< nothing accepts connections where the proxy (the detail) is to be
+        ProxyTimedOut, ///< the proxy (the detail) has not connected to the server in time
+        ProxyLoginRefused, ///< the proxy (the detail) requires a log-in, or does not accept this one
+        ProxyDenied, ///< the proxy (the detail) does not allow a connection to the server
+        ProxyFailed, ///< anything else with the proxy; the detail says what
+        ProxyUnknown, ///< the system has not said which proxy to use
         AccessDenied, ///< the server does not let us in (banned, wrong server password)
         BadSettings, ///< the account's settings cannot be used; the detail says which
         NotSupported, ///< the server does not offer what was requested
@@ -46,6 +52,8 @@ public:
     bool isFailure() const { return failureKind != None; }
     /// Whether trying again by itself may help. A wrong password, say, stays wrong.
     bool isWorthRetrying() const;
+    /// Whether it is about the proxy and nothing is known of the server.
+    bool isOfProxy() const { return failureKind >= ProxyNotReached && failureKind <= ProxyUnknown; }
     /// One or two sentences for the user, translated; empty for None. Plain text.
     QString text() const;
 
@@ -53,6 +61,7 @@ private:
     QString textWithoutDetail() const;
     /// With a place-holder for the detail; empty where the detail does not help.
     QString textWithDetail() const;
+    QString proxyTextWithDetail() const;
 
     Kind failureKind = None;
     QString failureDetail;

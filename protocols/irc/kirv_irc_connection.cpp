@@ -98,7 +98,29 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     connect(link.data(), &IrcConnection::connected, this, [this, presence] { finishLogin(presence); });
     nicksLeft = settings.nicks();
     link->setNickName(nicksLeft.takeFirst());
-    openLink(qobject_cast<QSslSocket *>(transport));
+    openThroughProxy(transport);
+}
+
+/// Without a proxy, at once. The proxy looks the name of the server up.
+void KirvIrcConnection::openThroughProxy(QAbstractSocket *transport)
+{
+    IrcConnection *const opened = link.data();
+    const auto timeOut = [this, opened, transport] {
+        if (link.data() == opened && transport->state() != QAbstractSocket::ConnectedState)
+            connectionLost(kirvProxyTimedOut(proxy));
+    };
+    const auto receive = [=](const QNetworkProxy &found, const KirvFailure &failure) {
+        if (link.data() != opened) // it is deleted later
+            return;
+        if (failure.isFailure())
+            return connectionLost(failure);
+        proxy = found;
+        transport->setProxy(proxy);
+        if (proxy.type() != QNetworkProxy::NoProxy)
+            clock().callLater(KirvProxy::patience, transport, timeOut);
+        openLink(qobject_cast<QSslSocket *>(transport));
+    };
+    kirvFindProxy(settings.proxy.toNetworkProxy(), settings.server, settings.port, clock(), transport, receive);
 }
 
 /// A list of one's own takes the place of the system's, which is then needed as a whole.
@@ -144,6 +166,7 @@ void KirvIrcConnection::createSocket(QAbstractSocket *transport)
     link->setSocket(socket);
     connect(socket, &KirvIrcSocket::heard, this, [this] {
         lastHeard = clock().now();
+        ++heardTimes;
         wasPinged = false;
     });
     connect(socket, &KirvIrcSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
@@ -333,6 +356,9 @@ void KirvIrcConnection::loseConnection(const QString &reason)
 
 void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
 {
+    const KirvFailure ofProxy = kirvProxyFailure(proxy, error, socket->errorString());
+    if (ofProxy.isFailure())
+        return connectionLost(ofProxy);
     switch (error) {
     case QAbstractSocket::HostNotFoundError:
         return connectionLost({ KirvFailure::HostNotFound, settings.server });
@@ -393,6 +419,16 @@ void KirvIrcConnection::applyPresence(const KirvPresence &presence)
             reason = tr("Away");
     }
     link->sendCommand(IrcCommand::createAway(reason));
+}
+
+/// Whatever the server sends shows that it is there.
+void KirvIrcConnection::checkSession(int milliseconds)
+{
+    link->sendCommand(IrcCommand::createPing(settings.server));
+    callLaterOnLink(milliseconds, [this, before = heardTimes] {
+        if (heardTimes == before)
+            connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
+    });
 }
 
 /// A connection can break without any sign of it: a server that has been silent for long gets a ping.

@@ -40,10 +40,12 @@ protected:
     void startLogout() override;
     void abortConnection() override;
     void applyPresence(const KirvPresence &presence) override;
+    void checkSession(int milliseconds) override;
 
 private:
     void createLink();
     void createSocket(QAbstractSocket *transport);
+    void openThroughProxy(QAbstractSocket *transport);
     QAbstractSocket *createTransport(QString *problem);
     bool configure(QSslSocket *encrypted, QString *problem) const;
     void openLink(QSslSocket *encrypted);
@@ -69,6 +71,7 @@ private:
     QScopedPointer<IrcConnection, QScopedPointerDeleteLater> link;
     KirvIrcSettings settings;
     KirvIrcSocket *socket = nullptr; ///< of the link
+    QNetworkProxy proxy; ///< that it goes through
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
     QStringList nicksLeft;
     QString certificateError; ///< why the server's certificate is not trusted
@@ -78,6 +81,7 @@ private:
     QString announcedNick;
     bool announcesLater = false; ///< a nick was announced not long ago
     QDateTime lastHeard;
+    quint64 heardTimes = 0; ///< counts what the server has sent
     bool wasPinged = false; ///< since the server was last heard
 };
 

@@ -101,6 +101,7 @@ int localPort()
 
 KirvIrcSettings::KirvIrcSettings(const QString &login, const QString &password, const QList<KirvField> &fields)
     : password(password)
+    , proxy(fields)
 {
     const QHash<QString, QString> texts = textsById(defaultFields() + fields);
     const auto text = [&texts](const char *id) { return texts.value(QLatin1String(id)).trimmed(); };
@@ -138,6 +139,8 @@ QString KirvIrcSettings::problem() const
         return tr("There is a key of a client certificate, but no client certificate.");
     if (usesClientCertificate() && !encrypted)
         return tr("A client certificate can be used with encryption only.");
+    if (!proxy.problem().isEmpty())
+        return proxy.problem();
     if (passwordUse == ForServer && password != kirvIrcLine(password, 400))
         return tr("The password cannot be sent: it is too long or has characters that do not belong to a line.");
     return QString();
@@ -167,7 +170,7 @@ QString KirvIrcSettings::userName() const
 
 QList<KirvField> KirvIrcSettings::defaultFields()
 {
-    return {
+    const QList<KirvField> own {
         KirvField::textEdit(tr("Server"), QLatin1String(serverId), QString(),
                             tr("The name or address of the server. When it is empty, the part of the login after "
                                "the @ is the server.")),
@@ -198,6 +201,7 @@ QList<KirvField> KirvIrcSettings::defaultFields()
                             tr("The path of the file with the certificate's private key (PEM, without a password). "
                                "Empty: it is in the certificate's file.")),
     };
+    return own + KirvProxy().toFields();
 }
 
 QStringList KirvIrcSettings::configurations()

@@ -2,6 +2,7 @@
 #ifndef KIRV_IRC_SETTINGS_H
 #define KIRV_IRC_SETTINGS_H
 
+#include "core/protocol/kirv_proxy.h"
 #include "host/kirv_field.h"
 
 #include <QCoreApplication>
@@ -43,6 +44,7 @@ public:
     QString password;
     QString saslUser;
     QString realName;
+    KirvProxy proxy;
     QStringList alternativeNicks; ///< to be tried in this order when the nick is in use
 
     /// The nicks to try, the wanted one first: the alternatives follow, then the nick with something appended.

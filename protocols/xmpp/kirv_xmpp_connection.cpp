@@ -5,11 +5,13 @@
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QXmppConfiguration.h>
+#include <memory>
 
 namespace {
 
 const int longestStatus = 1000;
 const auto registrationSpace = QStringLiteral("jabber:iq:register");
+const auto pingSpace = QStringLiteral("urn:xmpp:ping");
 
 } // namespace
 
@@ -157,6 +159,23 @@ void KirvXmppConnection::changeDirectory(int request, const std::function<bool(K
         else
             answerDirectoryRequest(request, card.toFields());
     });
+}
+
+/// Every reply shows that the server is there, also a refusal.
+void KirvXmppConnection::checkSession(int milliseconds)
+{
+    if (!link->isReady())
+        return;
+    const auto isAnswered = std::make_shared<bool>(false);
+    const KirvXmppLink *const checked = link.data();
+    clock().callLater(milliseconds, link.data(), [=] {
+        if (link.data() == checked && !*isAnswered)
+            connectionLost(KirvFailure(KirvFailure::ConnectionLost, tr("the server does not answer any more")));
+    });
+    const QDomDocument ping = kirvXmppNewDocument(pingSpace, QStringLiteral("ping"));
+    const QString server = login().id.section(QLatin1Char('@'), 1);
+    link->sendRequest(
+        QXmppIq::Get, ping, [isAnswered](const KirvXmppReply &) { *isAnswered = true; }, server);
 }
 
 void KirvXmppConnection::publishAvatar()

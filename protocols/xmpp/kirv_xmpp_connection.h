@@ -45,6 +45,7 @@ protected:
     void startLogout() override;
     void abortConnection() override;
     void applyPresence(const KirvPresence &presence) override;
+    void checkSession(int milliseconds) override;
     void publishAvatar() override;
     void startDirectoryFetch(int request) override;
     void startDirectoryPublication(int request, const QList<KirvField> &changes) override;

@@ -43,6 +43,7 @@ public:
     virtual void refuseLocalServers() { }
     /// Whether the server has such an address; false while that is not known.
     virtual bool isServerLocal() const { return false; }
+    /// The proxy of \a configuration is for kirvFindProxy() unless the link is one to a single server.
     virtual void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) = 0;
     /// Ends the stream in an orderly way; ended() follows.
     virtual void close() = 0;
@@ -64,6 +65,8 @@ public:
                              const QString &to) = 0;
 
 Q_SIGNALS:
+    /// There is a connection to the server, through the proxy where there is one.
+    void reached();
     /// The server has begun to speak: it has said what it offers. May be emitted several times.
     void greeted();
     /// The server refers to another one, in the place of ended(); \a port is 0 when it names none. \a wasEncrypted: it

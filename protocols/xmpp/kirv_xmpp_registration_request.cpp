@@ -61,7 +61,8 @@ void KirvXmppRegistrationRequest::showServerStep()
 
 QList<KirvField> KirvXmppRegistrationRequest::fieldsOf(const QString &name, const QList<KirvField> &filled) const
 {
-    const KirvXmppSettings settings(KirvXmppSettings::configurationFields(name));
+    KirvXmppSettings settings(KirvXmppSettings::configurationFields(name));
+    settings.proxy = KirvProxy(filled); // no configuration is about the way there
     QString known = domainOf(filled);
     if (known.isEmpty() && !settings.server.isEmpty())
         known = QStringLiteral("localhost");

@@ -25,13 +25,14 @@ bool isUnreachable(const KirvFailure &failure)
 } // namespace
 
 KirvXmppRoute::KirvXmppRoute(Purpose purpose, KirvClock &clock, int replyTimeout, KirvXmppLinkFactory createLink,
-                             KirvXmppServiceLookup lookUp, KirvXmppPortProbe probe)
+                             KirvXmppServiceLookup lookUp, KirvXmppPortProbe probe, KirvProxyFinder findProxy)
     : purpose(purpose)
     , clock(clock)
     , replyTimeout(replyTimeout)
     , createLink(std::move(createLink))
     , lookUp(std::move(lookUp))
     , probe(std::move(probe))
+    , findProxy(std::move(findProxy))
 {
 }
 
@@ -51,9 +52,25 @@ void KirvXmppRoute::open(const QXmppConfiguration &newConfiguration, const QXmpp
     presence = newPresence;
     const bool isDirect = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
     if (configuration.host().isEmpty())
-        lookUpServers();
+        findProxyOfDomain();
     else
         start({ configuration.host(), configuration.port(), isDirect });
+}
+
+/// A look-up would go round the proxy: the domain itself is tried then.
+void KirvXmppRoute::findProxyOfDomain()
+{
+    const auto receive = [this, started = attempt](const QNetworkProxy &found, const KirvFailure &failure) {
+        if (started != attempt || isOver)
+            return;
+        if (failure.isFailure())
+            end(failure);
+        else if (found.type() == QNetworkProxy::NoProxy)
+            lookUpServers();
+        else
+            tryNext();
+    };
+    findProxy(configuration.networkProxy(), configuration.domain(), configuration.port(), clock, this, receive);
 }
 
 /// A domain without encryption has no use for the one service, and one with nothing but direct TLS none for the other.
@@ -102,7 +119,21 @@ void KirvXmppRoute::start(const KirvXmppTarget &next)
 {
     dropLink();
     target = next;
-    isGreeted = false;
+    isReached = isGreeted = false;
+    const auto receive = [this, started = attempt](const QNetworkProxy &found, const KirvFailure &failure) {
+        if (started != attempt || isOver)
+            return;
+        if (failure.isFailure())
+            end(failure);
+        else
+            openLink(found);
+    };
+    findProxy(configuration.networkProxy(), target.host, target.port, clock, this, receive);
+}
+
+void KirvXmppRoute::openLink(const QNetworkProxy &found)
+{
+    proxy = found;
     link = createLink(purpose, clock, replyTimeout);
     link->setParent(this);
     if (!mayBeLocal)
@@ -111,17 +142,31 @@ void KirvXmppRoute::start(const KirvXmppTarget &next)
     QXmppConfiguration own = configuration;
     own.setHost(target.host);
     own.setPort(target.port);
+    own.setNetworkProxy(proxy);
     if (target.isDirect)
         own.setStreamSecurityMode(QXmppConfiguration::LegacySSL);
     clock.callLater(silence, this, [this, started = attempt] {
         if (started == attempt && !isGreeted && !isOver)
             receiveSilence();
     });
+    watchProxy();
     link->open(own, presence);
+}
+
+/// A proxy may accept the connection and say nothing.
+void KirvXmppRoute::watchProxy()
+{
+    if (proxy.type() == QNetworkProxy::NoProxy)
+        return;
+    clock.callLater(KirvProxy::patience, this, [this, started = attempt] {
+        if (started == attempt && !isReached && !isGreeted && !hasArrived && !isOver)
+            end(kirvProxyTimedOut(proxy));
+    });
 }
 
 void KirvXmppRoute::connectLink()
 {
+    connect(link, &KirvXmppLink::reached, this, [this] { isReached = true; });
     connect(link, &KirvXmppLink::greeted, this, [this] { isGreeted = true; });
     connect(link, &KirvXmppLink::redirected, this, &KirvXmppRoute::follow);
     connect(link, &KirvXmppLink::ended, this, &KirvXmppRoute::receiveEnd);
@@ -161,7 +206,7 @@ void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
 void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
 {
     const bool wasReached = isGreeted || hasArrived || !failure.isFailure();
-    if (wasReached || (isUnreachable(failure) && targets.isEmpty()))
+    if (wasReached || failure.isOfProxy() || (isUnreachable(failure) && targets.isEmpty()))
         end(failure);
     else if (isUnreachable(failure))
         tryNext();
@@ -178,11 +223,13 @@ void KirvXmppRoute::receiveSilence()
     }
     if (!mayBeLocal)
         return; // what looks at the port does not look where it leads
+    if (!isReached && proxy.type() != QNetworkProxy::NoProxy)
+        return; // the proxy is silent, not the server
     const auto receive = [this, started = attempt](bool isOther) {
         if (started == attempt && !isOver && !isGreeted && isOther)
             end(otherStart());
     };
-    probe(target, configuration.networkProxy(), clock, this, receive);
+    probe(target, proxy, clock, this, receive);
 }
 
 /// The server has hung up, or made no sense, before it began to speak.
@@ -201,7 +248,7 @@ void KirvXmppRoute::explainEnd(const KirvFailure &failure)
         else
             end(isOther ? otherStart() : failure);
     };
-    probe(target, configuration.networkProxy(), clock, this, receive);
+    probe(target, proxy, clock, this, receive);
 }
 
 KirvFailure KirvXmppRoute::otherStart() const

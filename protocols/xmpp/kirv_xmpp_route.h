@@ -2,6 +2,7 @@
 #ifndef KIRV_XMPP_ROUTE_H
 #define KIRV_XMPP_ROUTE_H
 
+#include "core/protocol/kirv_proxy.h"
 #include "protocols/xmpp/kirv_xmpp_link.h"
 #include "protocols/xmpp/kirv_xmpp_port_probe.h"
 #include "protocols/xmpp/kirv_xmpp_server_finder.h"
@@ -14,6 +15,9 @@
 /// one after the other, until one answers; then the domain itself. It goes where a server refers to (see-other-host), a
 /// few times, never to weaker security, and from outside into no private network. Where a port expects TLS from the
 /// first byte and the settings do not, or the other way round, the end says so.
+///
+/// Nothing goes round the proxy of the configuration: where there is one, it looks names up, and service records are
+/// not looked up. What the system says about proxies counts for each server that is tried.
 class KirvXmppRoute : public KirvXmppLink {
     Q_OBJECT
 
@@ -24,7 +28,8 @@ public:
 
     /// \a createLink makes the links to single servers.
     KirvXmppRoute(Purpose purpose, KirvClock &clock, int replyTimeout, KirvXmppLinkFactory createLink,
-                  KirvXmppServiceLookup lookUp = kirvXmppLookUpService, KirvXmppPortProbe probe = kirvXmppProbePort);
+                  KirvXmppServiceLookup lookUp = kirvXmppLookUpService, KirvXmppPortProbe probe = kirvXmppProbePort,
+                  KirvProxyFinder findProxy = kirvFindProxy);
     ~KirvXmppRoute() override;
     /// To real servers. A KirvXmppLinkFactory.
     static KirvXmppLink *create(Purpose purpose, KirvClock &clock, int replyTimeout);
@@ -39,10 +44,13 @@ public:
                      const QString &to) override;
 
 private:
+    void findProxyOfDomain();
     void lookUpServers();
     void receiveRecords(bool isDirect, const QList<KirvXmppServiceRecord> &records);
     void tryNext();
     void start(const KirvXmppTarget &target);
+    void openLink(const QNetworkProxy &found);
+    void watchProxy();
     void connectLink();
     void follow(const QString &host, int port, bool wasEncrypted);
     void receiveEnd(const KirvFailure &failure);
@@ -58,6 +66,7 @@ private:
     const KirvXmppLinkFactory createLink;
     const KirvXmppServiceLookup lookUp;
     const KirvXmppPortProbe probe;
+    const KirvProxyFinder findProxy;
 
     QXmppConfiguration configuration;
     QXmppPresence presence;
@@ -65,9 +74,11 @@ private:
     int lookUps = 0; ///< without a reply
     QList<KirvXmppTarget> targets; ///< not tried yet
     KirvXmppTarget target; ///< the present one
+    QNetworkProxy proxy; ///< the one to the present target
     int references = 0; ///< that were followed
     bool mayBeLocal = true; ///< nobody outside has led here
     int attempt = 0; ///< tells a timer or a probe whether it is still wanted
+    bool isReached = false; ///< there is a connection to the present server
     bool isGreeted = false; ///< the present server has begun to speak
     bool hasArrived = false;
     bool isOver = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 
+#include "core/protocol/kirv_proxy.h"
 #include "protocols/tls/kirv_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_address.h"
 #include "protocols/xmpp/kirv_xmpp_errors.h"
@@ -10,6 +11,7 @@
 
 #include <QByteArrayList>
 #include <QHostAddress>
+#include <QNetworkProxy>
 #include <QPointer>
 #include <QSslSocket>
 #include <QUrl>
@@ -92,6 +94,7 @@ void KirvXmppServerLink::guardStream()
     auto *stream = client.findChild<QXmppOutgoingClient *>();
     reader = new KirvXmppStreamReader(
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
+    connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppLink::reached);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::lookAtServer);
     connect(reader, &KirvXmppStreamReader::stanzaDropped, this, &KirvXmppServerLink::receiveDropped);
@@ -162,7 +165,8 @@ void KirvXmppServerLink::startWithEncryption()
 void KirvXmppServerLink::lookAtServer()
 {
     QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
-    isLocal = kirvXmppIsLocal(socket->peerAddress());
+    // Behind a proxy the address says nothing about the server.
+    isLocal = socket->proxy().type() == QNetworkProxy::NoProxy && kirvXmppIsLocal(socket->peerAddress());
     if (!isLocal || !refusesLocal)
         return;
     fail(KirvFailure(KirvFailure::ServerShutDown, tr("it refers to a server of a private network")));
@@ -431,6 +435,10 @@ void KirvXmppServerLink::end()
 
 KirvFailure KirvXmppServerLink::socketFailure()
 {
+    const QNetworkProxy proxy = client.configuration().networkProxy();
+    const KirvFailure ofProxy = kirvProxyFailure(proxy, client.socketError(), client.socketErrorString());
+    if (ofProxy.isFailure())
+        return ofProxy;
     switch (client.socketError()) {
     case QAbstractSocket::HostNotFoundError:
         return KirvFailure(KirvFailure::HostNotFound, serverName());

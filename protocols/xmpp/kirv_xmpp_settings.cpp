@@ -75,6 +75,7 @@ QString toLocalPath(const QString &text)
 } // namespace
 
 KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
+    : proxy(fields)
 {
     for (const KirvField &field : fields) {
         const QString id = field.getId();
@@ -126,9 +127,10 @@ QString KirvXmppSettings::resourceWith(const QString &random) const
 
 QList<KirvField> KirvXmppSettings::toServerFields() const
 {
-    return {
+    const QList<KirvField> own {
         KirvField::textEdit(tr("Server"), serverId, server,
-                            tr("Only needed when it cannot be found by the domain of the login.")),
+                            tr("Only needed when it cannot be found by the domain of the login. Service records are "
+                               "not looked up where there is a proxy.")),
         KirvField::number(tr("Port"), portId, port, 1, 65535,
                           tr("Ordinarily %1, and %2 with direct TLS.").arg(defaultPort).arg(directPort)),
         KirvField::choice(
@@ -138,6 +140,7 @@ QList<KirvField> KirvXmppSettings::toServerFields() const
         KirvField::textEdit(tr("Trusted certificate"), certificateId, certificatePath,
                             tr("A file with a certificate (PEM) that is trusted besides those of the system.")),
     };
+    return own + proxy.toFields();
 }
 
 QStringList KirvXmppSettings::configurations()
@@ -200,7 +203,8 @@ QString KirvXmppSettings::loginProblem(const QString &login)
 bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const
 {
     QList<QSslCertificate> certificates;
-    if (!certificatePath.isEmpty() && !readCertificates(&certificates, problem))
+    *problem = proxy.problem();
+    if (!problem->isEmpty() || (!certificatePath.isEmpty() && !readCertificates(&certificates, problem)))
         return false;
 
     configuration->setDomain(domain);
@@ -213,6 +217,7 @@ bool KirvXmppSettings::apply(const QString &domain, QXmppConfiguration *configur
     configuration->setUseNonSASLAuthentication(false);
     configuration->setIgnoreSslErrors(false);
     configuration->setCaCertificates(certificates);
+    configuration->setNetworkProxy(proxy.toNetworkProxy());
     return true;
 }
 

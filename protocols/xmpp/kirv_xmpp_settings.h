@@ -2,6 +2,7 @@
 #ifndef KIRV_XMPP_SETTINGS_H
 #define KIRV_XMPP_SETTINGS_H
 
+#include "core/protocol/kirv_proxy.h"
 #include "host/kirv_field.h"
 
 #include <QCoreApplication>
@@ -41,6 +42,7 @@ public:
     int priority = -1; ///< a server gives messages to no session with a negative one, and keeps them
     Encryption encryption = Required;
     QString certificatePath; ///< of a PEM file; empty: none
+    KirvProxy proxy;
 
     /// Characters by chance for resourceWith(): letters and digits.
     static QString randomPart();
@@ -50,7 +52,7 @@ public:
 
     /// The settings as fields, in display order.
     QList<KirvField> toFields() const;
-    /// Those of them that say where the server is and how to trust it.
+    /// Those of them that say where the server is, how to reach it and how to trust it.
     QList<KirvField> toServerFields() const;
 
     static QStringList configurations();
@@ -62,7 +64,8 @@ public:
     static QString loginProblem(const QString &login);
 
     /// Writes the settings for a server of \a domain into \a configuration, whose certificates are those that are
-    /// trusted besides the system's. False with a sentence in \a problem when they cannot be used.
+    /// trusted besides the system's, and whose proxy is for kirvFindProxy(). False with a sentence in \a problem when
+    /// they cannot be used.
     bool apply(const QString &domain, QXmppConfiguration *configuration, QString *problem) const;
 
 private:

@@ -53,6 +53,10 @@ private Q_SLOTS:
     void theServersNewPasswordKeepsTheSession();
     void itsProtocolSaysWhichPresenceIsOffline();
     void avatarsArePublishedWhileOnline();
+    void anotherNetworkIsReactedTo_data();
+    void anotherNetworkIsReactedTo();
+    void anotherNetworkShortensTheWaits();
+    void anotherNetworkKeepsTheTurns();
     void drops_data();
     void drops();
     void ignoresLateReports_data();
@@ -480,6 +484,65 @@ void tst_Connection::avatarsArePublishedWhileOnline()
     QCOMPARE(connection->avatar().onServer, QByteArray("hash"));
     connection->setAvatar({ "three.png", "hash", true });
     QCOMPARE(connection->takeCalls(), QStringList { "ann avatar" });
+}
+
+void tst_Connection::anotherNetworkIsReactedTo_data()
+{
+    QTest::addColumn<State>("before");
+    QTest::addColumn<State>("after");
+    QTest::addColumn<QStringList>("calls");
+    const QString logIn = "ann log in available secret";
+    QTest::newRow("Offline") << State::Offline << State::Offline << QStringList();
+    QTest::newRow("Connecting") << State::Connecting << State::Connecting << QStringList { "ann abort", logIn };
+    QTest::newRow("Online") << State::Online << State::Online << QStringList { "ann check 5000" };
+    QTest::newRow("Disconnecting") << State::Disconnecting << State::Disconnecting << QStringList();
+    QTest::newRow("Waiting") << State::Waiting << State::Connecting << QStringList { logIn };
+}
+
+void tst_Connection::anotherNetworkIsReactedTo()
+{
+    QFETCH(State, before);
+    bringTo(before);
+    connection->takeCalls();
+    connection->networkChanged();
+    QTEST(connection->state(), "after");
+    QTEST(connection->takeCalls(), "calls");
+    if (before != State::Connecting && before != State::Waiting)
+        return;
+    clock.advance(29999); // the wait that was cut short is over, and the time-out of the log-in began anew
+    QCOMPARE(connection->state(), State::Connecting);
+    QCOMPARE(connection->takeCalls(), QStringList());
+}
+
+void tst_Connection::anotherNetworkShortensTheWaits()
+{
+    connection->logIn(login, available);
+    for (int failure = 0; failure < 6; ++failure) {
+        connection->serverGoes();
+        clock.advance(int(clock.now().msecsTo(connection->nextRetry())));
+    }
+    connection->networkChanged();
+    connection->serverGoes();
+    QCOMPARE(clock.now().msecsTo(connection->nextRetry()), qint64(2000));
+}
+
+void tst_Connection::anotherNetworkKeepsTheTurns()
+{
+    bool isOpen = false;
+    connection->setLoginGate([&isOpen] { return isOpen; });
+    connection->logIn(login, available);
+    QVERIFY(connection->isWaitingForTurn());
+    connection->networkChanged();
+    QVERIFY(connection->isWaitingForTurn());
+    QCOMPARE(connection->takeCalls(), QStringList());
+    connection->beginLogin();
+    connection->serverGoes();
+    QVERIFY(!connection->isWaitingForTurn());
+    connection->takeCalls();
+    connection->networkChanged(); // a wait for the time becomes one for the turn
+    QVERIFY(connection->isWaitingForTurn());
+    clock.advance(100000);
+    QCOMPARE(connection->takeCalls(), QStringList());
 }
 
 void tst_Connection::drops_data()

@@ -31,6 +31,11 @@ private Q_SLOTS:
     void quittingEndsAllWaits();
     void aSaveThatIsOpenDelaysNoTurn();
 
+    // Another network.
+    void allReturnInTurnsWhenTheNetworkIsBack();
+    void sessionsAreCheckedAFewInATurn();
+    void aChangeOfTheNetworkLeavesOthersAlone();
+
     // What does not wait.
     void loggingOutIsNotDelayed();
     void reconnectingIsNotDelayed_data();
@@ -318,6 +323,76 @@ void tst_LoginTurns::aSaveThatIsOpenDelaysNoTurn()
     QVERIFY(connection(3)->login().password != QString("new"));
     started();
     QCOMPARE(connection(3)->login().password, QString("new"));
+}
+
+void tst_LoginTurns::allReturnInTurnsWhenTheNetworkIsBack()
+{
+    const int count = 100;
+    start(count);
+    KirvConnection::Timing timing;
+    timing.backOff.first = timing.backOff.last = 3600 * 1000;
+    for (int number = 0; number < count; ++number)
+        connection(number)->setTiming(timing);
+    for (int tries = 0; tries < count && !started().isEmpty(); ++tries) {
+        for (int number = 0; number < count; ++number)
+            connection(number)->serverGoes();
+    }
+    for (int number = 0; number < count; ++number) {
+        QCOMPARE(connection(number)->state(), State::Waiting);
+        QVERIFY(connection(number)->nextRetry().isValid());
+    }
+    core->accounts->networkChanged();
+    QCOMPARE(started().size(), 3); // the server holds them
+    QCOMPARE(core->accounts->loginQueue().waitingCount(), count - 3);
+
+    core->server().logIn = KirvFakeServer::Accepts;
+    for (int number = 0; number < count; ++number)
+        connection(number)->serverAccepts();
+    QTRY_COMPARE(core->accounts->loginQueue().waitingCount(), 0);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(account(number)->isOnline());
+    core->server().takeCalls();
+}
+
+void tst_LoginTurns::sessionsAreCheckedAFewInATurn()
+{
+    const int count = 3 * KirvAccountCollection::accountsPerTurn;
+    start(count);
+    core->server().logIn = KirvFakeServer::Accepts;
+    for (int number = 0; number < count; ++number)
+        connection(number)->serverAccepts();
+    settle();
+    core->server().takeCalls();
+    core->accounts->networkChanged();
+    core->accounts->networkChanged(); // is one
+    int checks = 0, most = 0;
+    QTimer turns;
+    connect(&turns, &QTimer::timeout, this, [&] {
+        const int begun = int(core->server().takeCalls().filter(QStringLiteral(" check ")).size());
+        checks += begun;
+        most = qMax(most, begun);
+    });
+    turns.start(0);
+    QTRY_COMPARE(checks, count);
+    QVERIFY2(most <= 2 * KirvAccountCollection::accountsPerTurn, qPrintable(QString::number(most)));
+}
+
+void tst_LoginTurns::aChangeOfTheNetworkLeavesOthersAlone()
+{
+    start(3);
+    QVERIFY(account(0)->setEnabled(false));
+    core->server().refusal = KirvFailure::WrongPassword;
+    settle();
+    connection(1)->serverRefuses();
+    const QPointer<KirvAccount> removed(account(2));
+    QVERIFY(core->accounts->remove(removed));
+    settle();
+    core->server().takeCalls();
+    core->accounts->networkChanged();
+    settle();
+    QCOMPARE(core->server().takeCalls(), QStringList());
+    QCOMPARE(connection(0)->state(), State::Offline);
+    QCOMPARE(connection(1)->state(), State::Offline); // a wrong password stays wrong
 }
 
 void tst_LoginTurns::loggingOutIsNotDelayed()

@@ -65,6 +65,16 @@ private Q_SLOTS:
     void anotherEndIsReportedAsItIs_data();
     void anotherEndIsReportedAsItIs();
 
+    void aProxyLooksTheServerUp_data();
+    void aProxyLooksTheServerUp();
+    void aProxyThatFailsEndsIt_data();
+    void aProxyThatFailsEndsIt();
+    void aProxyThatIsSilentIsNamed();
+    void theServerBehindAProxyMayTakeItsTime();
+    void theSystemIsQueriedForEachServer();
+    void noServerIsTriedWhileTheSystemIsSilent();
+    void theProbeGoesThroughTheProxy();
+
     void everythingIsPassedOn();
     void requestsWithoutAServerFail();
     void nothingComesAfterAnAbort_data();
@@ -72,7 +82,8 @@ private Q_SLOTS:
     void closingDuringTheLookUpEndsIt();
 
 private:
-    void open(Security security = QXmppConfiguration::TLSRequired, const QString &host = QString());
+    void open(Security security = QXmppConfiguration::TLSRequired, const QString &host = QString(),
+              const QNetworkProxy &proxy = QNetworkProxy::NoProxy);
     void answer(const QString &name, const Records &records) { lookUps.take(name)(records); }
     QString address() const
     {
@@ -86,6 +97,9 @@ private:
     FakeXmppServer server;
     QHash<QString, std::function<void(const Records &)>> lookUps; ///< without a reply
     QList<std::function<void(bool)>> probes; ///< without a reply
+    QNetworkProxy probedThrough;
+    QStringList queried; ///< servers that the proxy of the system was requested for
+    QList<KirvProxyReceiver> systemProxies;
     std::unique_ptr<KirvXmppRoute> route;
     std::unique_ptr<QSignalSpy> ended;
 };
@@ -96,13 +110,26 @@ void TestXmppRoute::init()
     server = FakeXmppServer();
     lookUps.clear();
     probes.clear();
+    queried.clear();
+    systemProxies.clear();
+    probedThrough = QNetworkProxy();
     route = std::make_unique<KirvXmppRoute>(
         KirvXmppLink::LogIn, clock, 1000, server.factory(),
         [this](const QString &name, QObject *, const std::function<void(const Records &)> &receiver) {
             lookUps.insert(name, receiver);
         },
-        [this](const KirvXmppTarget &, const QNetworkProxy &, KirvClock &, QObject *,
-               const std::function<void(bool)> &receiver) { probes << receiver; });
+        [this](const KirvXmppTarget &, const QNetworkProxy &proxy, KirvClock &, QObject *,
+               const std::function<void(bool)> &receiver) {
+            probes << receiver;
+            probedThrough = proxy;
+        },
+        [this](const QNetworkProxy &proxy, const QString &host, int, KirvClock &, QObject *,
+               const KirvProxyReceiver &receiver) {
+            if (proxy.type() != QNetworkProxy::DefaultProxy)
+                return receiver(proxy, KirvFailure());
+            queried << host;
+            systemProxies << receiver;
+        });
     ended = std::make_unique<QSignalSpy>(route.get(), &KirvXmppLink::ended);
 }
 
@@ -112,13 +139,14 @@ void TestXmppRoute::cleanup()
     route.reset();
 }
 
-void TestXmppRoute::open(Security security, const QString &host)
+void TestXmppRoute::open(Security security, const QString &host, const QNetworkProxy &proxy)
 {
     QXmppConfiguration configuration;
     configuration.setDomain("example.org");
     configuration.setHost(host);
     configuration.setPort(security == QXmppConfiguration::LegacySSL ? 5223 : 5222);
     configuration.setStreamSecurityMode(security);
+    configuration.setNetworkProxy(proxy);
     route->open(configuration, QXmppPresence());
 }
 
@@ -446,6 +474,119 @@ void TestXmppRoute::anotherEndIsReportedAsItIs()
         probes.takeFirst()(false);
     QCOMPARE(ending().kind(), kind);
     QCOMPARE(ended->size(), 1);
+}
+
+void TestXmppRoute::aProxyLooksTheServerUp_data()
+{
+    QTest::addColumn<QNetworkProxy>("proxy");
+    QTest::newRow("SOCKS5") << QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080);
+    QTest::newRow("HTTP") << QNetworkProxy(QNetworkProxy::HttpProxy, "proxy", 3128);
+}
+
+void TestXmppRoute::aProxyLooksTheServerUp()
+{
+    QFETCH(QNetworkProxy, proxy);
+    open(QXmppConfiguration::TLSRequired, QString(), proxy);
+    QVERIFY(lookUps.isEmpty()); // which would go round it
+    QCOMPARE(address(), QString("example.org:5222"));
+    QCOMPARE(server.link()->configuration.networkProxy(), proxy);
+    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->redirected("other", 5333, true);
+    QCOMPARE(address(), QString("other:5333"));
+    QCOMPARE(server.link()->configuration.networkProxy(), proxy);
+    server.link()->arrive();
+    clock.advance(100000);
+    QCOMPARE(ended->size(), 0);
+    QVERIFY(lookUps.isEmpty());
+}
+
+void TestXmppRoute::aProxyThatFailsEndsIt_data()
+{
+    QTest::addColumn<KirvFailure::Kind>("kind");
+    QTest::newRow("not reached") << KirvFailure::ProxyNotReached;
+    QTest::newRow("log-in") << KirvFailure::ProxyLoginRefused;
+    QTest::newRow("denied") << KirvFailure::ProxyDenied;
+    QTest::newRow("other") << KirvFailure::ProxyFailed;
+}
+
+void TestXmppRoute::aProxyThatFailsEndsIt()
+{
+    QFETCH(KirvFailure::Kind, kind);
+    open(QXmppConfiguration::TLSRequired, QString(), QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
+    server.link()->end(KirvFailure(kind, "proxy:1080"));
+    QCOMPARE(ended->size(), 1);
+    QCOMPARE(ending().kind(), kind);
+    QCOMPARE(server.links, 1);
+    QVERIFY(probes.isEmpty());
+    QVERIFY(lookUps.isEmpty());
+}
+
+void TestXmppRoute::aProxyThatIsSilentIsNamed()
+{
+    open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
+    clock.advance(KirvProxy::patience - 1);
+    QCOMPARE(ended->size(), 0);
+    QVERIFY(probes.isEmpty());
+    clock.advance(1);
+    QCOMPARE(ending().kind(), KirvFailure::ProxyTimedOut);
+    QCOMPARE(ending().detail(), QString("proxy:1080"));
+}
+
+void TestXmppRoute::theServerBehindAProxyMayTakeItsTime()
+{
+    open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
+    Q_EMIT server.link()->reached();
+    clock.advance(KirvProxy::patience);
+    QCOMPARE(ended->size(), 0);
+    QCOMPARE(probes.size(), 1); // the server is silent
+}
+
+void TestXmppRoute::theSystemIsQueriedForEachServer()
+{
+    const QNetworkProxy socks(QNetworkProxy::Socks5Proxy, "proxy", 1080);
+    open(QXmppConfiguration::TLSRequired, QString(), QNetworkProxy::DefaultProxy);
+    QCOMPARE(queried, QStringList { "example.org" });
+    QVERIFY(lookUps.isEmpty());
+    systemProxies.takeFirst()(QNetworkProxy::NoProxy, KirvFailure());
+    answer(directName, Records());
+    answer(ordinaryName, Records { record("one", 1), record("two", 2, 10) });
+    QCOMPARE(server.links, 0);
+    QCOMPARE(queried.last(), QString("one"));
+    systemProxies.takeFirst()(QNetworkProxy::NoProxy, KirvFailure());
+    QCOMPARE(address(), QString("one:1"));
+    QCOMPARE(server.link()->configuration.networkProxy().type(), QNetworkProxy::NoProxy);
+    server.link()->end(KirvFailure::ConnectionRefused);
+    QCOMPARE(server.links, 1);
+    QCOMPARE(queried.last(), QString("two"));
+    systemProxies.takeFirst()(socks, KirvFailure());
+    QCOMPARE(address(), QString("two:2"));
+    QCOMPARE(server.link()->configuration.networkProxy(), socks);
+}
+
+void TestXmppRoute::noServerIsTriedWhileTheSystemIsSilent()
+{
+    for (const QString &host : { QString(), QString("one") }) {
+        cleanup();
+        init();
+        open(QXmppConfiguration::TLSRequired, host, QNetworkProxy::DefaultProxy);
+        clock.advance(100000);
+        QCOMPARE(server.links, 0);
+        QVERIFY(lookUps.isEmpty());
+        systemProxies.takeFirst()(QNetworkProxy(), KirvFailure::ProxyUnknown);
+        QCOMPARE(ending().kind(), KirvFailure::ProxyUnknown);
+        QCOMPARE(server.links, 0);
+        QVERIFY(lookUps.isEmpty() && probes.isEmpty());
+    }
+}
+
+void TestXmppRoute::theProbeGoesThroughTheProxy()
+{
+    const QNetworkProxy socks(QNetworkProxy::Socks5Proxy, "proxy", 1080);
+    open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy::DefaultProxy);
+    systemProxies.takeFirst()(socks, KirvFailure());
+    server.link()->end(KirvFailure::ConnectionLost);
+    QCOMPARE(probes.size(), 1);
+    QCOMPARE(probedThrough, socks);
 }
 
 void TestXmppRoute::everythingIsPassedOn()

@@ -134,6 +134,8 @@ void TestXmppSettings::serverFieldsAreAmongTheFields()
     for (const KirvField &field : KirvXmppSettings().toServerFields())
         QVERIFY2(all.contains(field), qPrintable(field.getId()));
     QCOMPARE(all.size(), KirvXmppSettings().toServerFields().size() + 2);
+    for (const KirvField &field : KirvProxy().toFields())
+        QVERIFY2(KirvXmppSettings().toServerFields().contains(field), qPrintable(field.getId()));
 }
 
 void TestXmppSettings::configurationsGiveFields()

@@ -4,8 +4,9 @@
 #include <QtTest>
 
 namespace {
-const QStringList markedClasses = { "KirvBackOff", "KirvBoundedImage", "KirvClock",        "KirvConnection",
-                                    "KirvFailure", "KirvProtocolBase", "KirvServerRequest" };
+const QStringList markedClasses = { "KirvBackOff",    "KirvBoundedImage",  "KirvClock",
+                                    "KirvConnection", "KirvFailure",       "KirvProtocolBase",
+                                    "KirvProxy",      "KirvServerRequest", "KirvSystemProxy" };
 }
 
 /// Reads what the built library for protocol plug-ins exports.
@@ -34,7 +35,8 @@ void tst_protocol_symbols::onlyTheMarkedClassesAreExported()
     // The classes of the contract have no library of their own: each that uses one may hold its type and tables.
     const QRegularExpression typeOfTheContract(
         QStringLiteral("^(vtable|typeinfo|typeinfo name) for Kirv(Protocol|Presence|Field|Arg|AccountConnection)$"));
-    const QRegularExpression function(QStringLiteral("^kirv(CallPlugin|VisibleText)\\("));
+    const QRegularExpression function(
+        QStringLiteral("^kirv(CallPlugin|FindProxy|ProxyFailure|ProxyTimedOut|VisibleText)\\("));
     for (const QString &symbol : symbolsOfOthers(symbols, markedClasses)) {
         if (!typeOfTheContract.match(symbol).hasMatch() && !function.match(symbol).hasMatch())
             others << symbol;

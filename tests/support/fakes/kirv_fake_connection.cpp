@@ -97,6 +97,11 @@ void KirvFakeConnection::applyPresence(const KirvPresence &presence)
     log(QStringLiteral("presence ") + presence.getId());
 }
 
+void KirvFakeConnection::checkSession(int milliseconds)
+{
+    log(QStringLiteral("check %1").arg(milliseconds));
+}
+
 void KirvFakeConnection::publishAvatar()
 {
     log(QStringLiteral("avatar"));

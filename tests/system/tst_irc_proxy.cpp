@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_connection.h"
+#include "protocols/irc/kirv_irc_protocol.h"
+#include "tests/support/fakes/kirv_fake_clock.h"
+#include "tests/support/kirv_look_ups.h"
+#include "tests/support/kirv_patience.h"
+#include "tests/support/servers/kirv_scripted_irc_server.h"
+#include "tests/support/servers/kirv_scripted_proxy.h"
+#include "tools/servers/kirv_ngircd_server.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <memory>
+
+Q_DECLARE_METATYPE(KirvFailure::Kind)
+Q_DECLARE_METATYPE(KirvScriptedProxy::Kind)
+Q_DECLARE_METATYPE(KirvScriptedProxy::Behaviour)
+
+using Proxy = KirvScriptedProxy;
+using Values = QMap<QString, QString>;
+
+namespace {
+
+const KirvPresence available("available", "Available", QString(), QString());
+
+Values through(const Proxy &proxy, Proxy::Kind kind)
+{
+    return { { "encryption", "none" },
+             { "proxy", kind == Proxy::Http ? "http" : "socks5" },
+             { "proxy_host", "127.0.0.1" },
+             { "proxy_port", QString::number(proxy.serverPort()) } };
+}
+
+} // namespace
+
+/// IRC through proxies: a real server behind scripted ones, and proxies that fail.
+class TestIrcProxy : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void logsIn_data();
+    void logsIn();
+    void theServerProvesItsName();
+    void theProxyOfTheSystemIsUsed();
+    void thePasswordIsSecret();
+    void settingsOfAProxyAreChecked();
+
+    void aFailingProxyIsNotAvoided_data();
+    void aFailingProxyIsNotAvoided();
+    void aProxyThatIsNotThereIsNotAvoided_data();
+    void aProxyThatIsNotThereIsNotAvoided();
+    void aSilentProxyIsNotAvoided_data();
+    void aSilentProxyIsNotAvoided();
+    void aWrongLogInIsTold_data();
+    void aWrongLogInIsTold();
+
+private:
+    void logIn(const Values &values, KirvClock &clock = KirvClock::system());
+    KirvFailure failure() const { return connection->lastFailure(); }
+
+    std::unique_ptr<KirvIrcConnection> connection;
+};
+
+void TestIrcProxy::cleanup()
+{
+    connection.reset();
+}
+
+void TestIrcProxy::logIn(const Values &values, KirvClock &clock)
+{
+    QList<KirvField> fields = KirvIrcSettings::defaultFields();
+    for (KirvField &field : fields) {
+        if (values.contains(field.getId()))
+            field.setText(values.value(field.getId()));
+    }
+    kirvTakeLookUps();
+    connection = std::make_unique<KirvIrcConnection>(clock);
+    KirvConnection::Timing timing;
+    timing.backOff.first = timing.backOff.last = 50;
+    connection->setTiming(timing);
+    connection->logIn({ "alice", QString(), fields }, available);
+}
+
+void TestIrcProxy::logsIn_data()
+{
+    QTest::addColumn<Proxy::Kind>("kind");
+    QTest::addColumn<bool>("requiresLogIn");
+    QTest::addColumn<bool>("isEncrypted");
+    for (const auto kind : { Proxy::Socks5, Proxy::Http }) {
+        const char *name = kind == Proxy::Http ? "HTTP" : "SOCKS5";
+        QTest::addRow("%s", name) << kind << false << false;
+        QTest::addRow("%s, log-in", name) << kind << true << false;
+        QTest::addRow("%s, encrypted", name) << kind << false << true;
+    }
+}
+
+void TestIrcProxy::logsIn()
+{
+    QFETCH(Proxy::Kind, kind);
+    QFETCH(bool, requiresLogIn);
+    QFETCH(bool, isEncrypted);
+    KirvNgircdServer server;
+    server.setEncrypted(isEncrypted);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Proxy proxy(kind, server.port());
+    Values values = through(proxy, kind);
+    values.insert("server", "localhost");
+    values.insert("port", "6000");
+    if (isEncrypted) {
+        values.insert("encryption", "required");
+        values.insert("certificate", server.certificateFile());
+    }
+    if (requiresLogIn) {
+        proxy.requireLogIn("ann", "pass word");
+        values.insert("proxy_user", "ann");
+        values.insert("proxy_password", "pass word");
+    }
+    logIn(values);
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
+    QCOMPARE(connection->securityText().startsWith("TLS"), isEncrypted);
+    QCOMPARE(proxy.requested(), QStringList { "localhost:6000" });
+    QCOMPARE(kirvTakeLookUps(), QStringList());
+
+    QSignalSpy failures(connection.get(), &KirvConnection::failed);
+    proxy.hangUp();
+    QTRY_COMPARE_WITH_TIMEOUT(failures.size(), 1, kirvPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
+    QCOMPARE(proxy.requested(), QStringList({ "localhost:6000", "localhost:6000" }));
+    QCOMPARE(kirvTakeLookUps(), QStringList());
+}
+
+void TestIrcProxy::theServerProvesItsName()
+{
+    KirvNgircdServer server;
+    server.setEncrypted(true);
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Proxy proxy(Proxy::Socks5, server.port());
+    Values values = through(proxy, Proxy::Socks5);
+    values.insert("server", "other.example");
+    values.insert("encryption", "required");
+    values.insert("certificate", server.certificateFile());
+    logIn(values);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::UntrustedCertificate, kirvPatience);
+}
+
+void TestIrcProxy::theProxyOfTheSystemIsUsed()
+{
+    KirvNgircdServer server;
+    QVERIFY2(server.start(), qPrintable(server.errorString()));
+    Proxy proxy(Proxy::Http, server.port());
+    qputenv("all_proxy", "http://127.0.0.1:" + QByteArray::number(proxy.serverPort()));
+    logIn({ { "encryption", "none" }, { "server", "some.example" }, { "port", "6000" }, { "proxy", "system" } });
+    QCOMPARE(connection->state(), KirvConnection::Connecting);
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
+    QCOMPARE(proxy.requested(), QStringList { "some.example:6000" });
+
+    // What the system says comes too late for an attempt that was given up.
+    logIn({ { "encryption", "none" }, { "server", "some.example" }, { "port", "6000" }, { "proxy", "system" } });
+    connection->drop();
+    logIn({ { "encryption", "none" },
+            { "server", server.host() },
+            { "port", QString::number(server.port()) },
+            { "proxy", "none" } });
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
+    QCOMPARE(proxy.connections(), 1);
+    qunsetenv("all_proxy");
+}
+
+void TestIrcProxy::thePasswordIsSecret()
+{
+    KirvIrcProtocol protocol;
+    int secrets = 0;
+    for (const KirvField &field : protocol.accountSettings()) {
+        if (field.getKind() == KirvField::Password) {
+            QCOMPARE(field.getId(), QString("proxy_password"));
+            ++secrets;
+        }
+    }
+    QCOMPARE(secrets, 1);
+}
+
+void TestIrcProxy::settingsOfAProxyAreChecked()
+{
+    KirvScriptedIrcServer server({});
+    for (const char *kind : { "socks5", "socks4" }) {
+        logIn({ { "encryption", "none" },
+                { "server", "127.0.0.1" },
+                { "port", QString::number(server.serverPort()) },
+                { "proxy", kind } });
+        QCOMPARE(connection->state(), KirvConnection::Offline);
+        QCOMPARE(failure().kind(), KirvFailure::BadSettings);
+        QVERIFY2(failure().text().contains("proxy"), qPrintable(failure().text()));
+    }
+}
+
+void TestIrcProxy::aFailingProxyIsNotAvoided_data()
+{
+    QTest::addColumn<Proxy::Kind>("kind");
+    QTest::addColumn<Proxy::Behaviour>("behaviour");
+    QTest::addColumn<KirvFailure::Kind>("failing");
+    for (const auto kind : { Proxy::Socks5, Proxy::Http }) {
+        const char *name = kind == Proxy::Http ? "HTTP" : "SOCKS5";
+        QTest::addRow("%s hangs up", name) << kind << Proxy::HangsUp << KirvFailure::ProxyFailed;
+        QTest::addRow("%s talks nonsense", name) << kind << Proxy::TalksNonsense << KirvFailure::ProxyFailed;
+        QTest::addRow("%s finds the server closed", name)
+            << kind << Proxy::FindsServerClosed << KirvFailure::ConnectionRefused;
+    }
+    QTest::newRow("HTTP denies") << Proxy::Http << Proxy::Denies << KirvFailure::ProxyDenied;
+    QTest::newRow("HTTP finds no server") << Proxy::Http << Proxy::FindsNoServer << KirvFailure::HostNotFound;
+    // Both are the same to Qt.
+    QTest::newRow("SOCKS5 denies") << Proxy::Socks5 << Proxy::Denies << KirvFailure::ProxyFailed;
+    QTest::newRow("SOCKS5 finds no server") << Proxy::Socks5 << Proxy::FindsNoServer << KirvFailure::ProxyFailed;
+}
+
+void TestIrcProxy::aFailingProxyIsNotAvoided()
+{
+    QFETCH(Proxy::Kind, kind);
+    QFETCH(Proxy::Behaviour, behaviour);
+    QFETCH(KirvFailure::Kind, failing);
+    KirvScriptedIrcServer server({});
+    QSignalSpy reached(&server, &QTcpServer::newConnection);
+    Proxy proxy(kind, server.serverPort(), behaviour);
+    Values values = through(proxy, kind);
+    values.insert("server", "localhost");
+    values.insert("port", QString::number(server.serverPort()));
+    for (const char *encryption : { "none", "required" }) {
+        values.insert("encryption", encryption);
+        logIn(values);
+        QTRY_VERIFY_WITH_TIMEOUT(failure().isFailure(), kirvPatience);
+        QVERIFY2(failure().kind() == failing, qPrintable(failure().text()));
+        QCOMPARE(connection->state(), KirvConnection::Waiting);
+        const int before = proxy.connections();
+        QTRY_VERIFY_WITH_TIMEOUT(proxy.connections() > before, kirvPatience); // again through the proxy
+        QCOMPARE(reached.size(), 0);
+        QCOMPARE(kirvTakeLookUps(), QStringList());
+    }
+}
+
+void TestIrcProxy::aProxyThatIsNotThereIsNotAvoided_data()
+{
+    QTest::addColumn<Proxy::Kind>("kind");
+    QTest::addColumn<QString>("host");
+    QTest::newRow("SOCKS5, nobody listens") << Proxy::Socks5 << "127.0.0.1";
+    QTest::newRow("SOCKS5, no such host") << Proxy::Socks5 << "no-proxy-here.invalid";
+    QTest::newRow("HTTP, nobody listens") << Proxy::Http << "127.0.0.1";
+    QTest::newRow("HTTP, no such host") << Proxy::Http << "no-proxy-here.invalid";
+}
+
+void TestIrcProxy::aProxyThatIsNotThereIsNotAvoided()
+{
+    QFETCH(Proxy::Kind, kind);
+    QFETCH(QString, host);
+    KirvScriptedIrcServer server({});
+    QSignalSpy reached(&server, &QTcpServer::newConnection);
+    auto proxy = std::make_unique<Proxy>(kind, server.serverPort());
+    Values values = through(*proxy, kind);
+    values.insert("server", "localhost");
+    values.insert("port", QString::number(server.serverPort()));
+    values.insert("proxy_host", host);
+    proxy.reset();
+    logIn(values);
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        QSignalSpy failures(connection.get(), &KirvConnection::failed);
+        QTRY_VERIFY_WITH_TIMEOUT(!failures.isEmpty(), kirvPatience);
+        QCOMPARE(failure().kind(), KirvFailure::ProxyNotReached);
+        QVERIFY2(failure().text().contains(host + ':' + values.value("proxy_port")), qPrintable(failure().text()));
+    }
+    QCOMPARE(reached.size(), 0);
+    QStringList names = kirvTakeLookUps();
+    names.removeAll("no-proxy-here.invalid"); // its own name has to be looked up
+    QCOMPARE(names, QStringList());
+}
+
+void TestIrcProxy::aSilentProxyIsNotAvoided_data()
+{
+    QTest::addColumn<Proxy::Kind>("kind");
+    QTest::newRow("SOCKS5") << Proxy::Socks5;
+    QTest::newRow("HTTP") << Proxy::Http;
+}
+
+void TestIrcProxy::aSilentProxyIsNotAvoided()
+{
+    QFETCH(Proxy::Kind, kind);
+    KirvScriptedIrcServer server({});
+    QSignalSpy reached(&server, &QTcpServer::newConnection);
+    Proxy proxy(kind, server.serverPort(), Proxy::Hangs);
+    Values values = through(proxy, kind);
+    values.insert("server", "localhost");
+    KirvFakeClock clock;
+    logIn(values, clock);
+    QTRY_COMPARE_WITH_TIMEOUT(proxy.connections(), 1, kirvPatience);
+    clock.advance(KirvProxy::patience - 1);
+    QCOMPARE(connection->state(), KirvConnection::Connecting);
+    clock.advance(1);
+    QCOMPARE(failure().kind(), KirvFailure::ProxyTimedOut);
+    QCOMPARE(reached.size(), 0);
+    QCOMPARE(kirvTakeLookUps(), QStringList());
+    connection.reset();
+}
+
+void TestIrcProxy::aWrongLogInIsTold_data()
+{
+    QTest::addColumn<Proxy::Kind>("kind");
+    QTest::addColumn<QString>("user");
+    QTest::newRow("SOCKS5, none") << Proxy::Socks5 << "";
+    QTest::newRow("SOCKS5, wrong") << Proxy::Socks5 << "eve";
+    QTest::newRow("HTTP, none") << Proxy::Http << "";
+    QTest::newRow("HTTP, wrong") << Proxy::Http << "eve";
+}
+
+void TestIrcProxy::aWrongLogInIsTold()
+{
+    QFETCH(Proxy::Kind, kind);
+    QFETCH(QString, user);
+    KirvScriptedIrcServer server({});
+    QSignalSpy reached(&server, &QTcpServer::newConnection);
+    Proxy proxy(kind, server.serverPort());
+    proxy.requireLogIn("ann", "word");
+    Values values = through(proxy, kind);
+    values.insert("server", "localhost");
+    values.insert("proxy_user", user);
+    values.insert("proxy_password", user.isEmpty() ? "" : "word");
+    logIn(values);
+    QTRY_VERIFY_WITH_TIMEOUT(failure().isFailure(), kirvPatience);
+    QCOMPARE(failure().kind(), KirvFailure::ProxyLoginRefused);
+    QCOMPARE(connection->state(), KirvConnection::Offline); // it stays wrong
+    QVERIFY(proxy.logIns().size() <= 2);
+    QCOMPARE(reached.size(), 0);
+    QCOMPARE(kirvTakeLookUps(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestIrcProxy)
+#include "tst_irc_proxy.moc"

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/irc/kirv_irc_connection.h"
+#include "protocols/xmpp/kirv_xmpp_connection.h"
+#include "tests/support/kirv_patience.h"
+#include "tests/support/servers/kirv_scripted_proxy.h"
+#include "tests/support/servers/kirv_xmpp_profile.h"
+#include "tools/servers/kirv_ngircd_server.h"
+#include "tools/servers/kirv_prosody_server.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+#include <memory>
+
+/// Sessions with real servers when the network is another one: whether they still work is found out at once.
+class TestNetworkChange : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void aSessionThatWorksIsKept_data() { protocols(); }
+    void aSessionThatWorksIsKept();
+    void aSessionThatHangsIsLeft_data() { protocols(); }
+    void aSessionThatHangsIsLeft();
+    void aWaitIsCutShort_data() { protocols(); }
+    void aWaitIsCutShort();
+
+private:
+    static void protocols();
+    void logIn(bool isXmpp);
+
+    KirvProsodyServer prosody;
+    KirvNgircdServer ngircd;
+    std::unique_ptr<KirvScriptedProxy> proxy; ///< between the client and the server
+    std::unique_ptr<KirvConnection> connection;
+};
+
+void TestNetworkChange::protocols()
+{
+    QTest::addColumn<bool>("isXmpp");
+    QTest::newRow("XMPP") << true;
+    QTest::newRow("IRC") << false;
+}
+
+void TestNetworkChange::cleanup()
+{
+    connection.reset();
+    proxy.reset();
+}
+
+void TestNetworkChange::logIn(bool isXmpp)
+{
+    qRegisterMetaType<KirvConnection::State>("KirvConnection::State");
+    QVERIFY(prosody.isRunning() || KirvXmppProfile::start(prosody));
+    QVERIFY(ngircd.start());
+    proxy = std::make_unique<KirvScriptedProxy>(KirvScriptedProxy::Socks5, isXmpp ? prosody.port() : ngircd.port());
+    KirvProxy settings;
+    settings.kind = KirvProxy::Socks5;
+    settings.host = "127.0.0.1";
+    settings.port = proxy->serverPort();
+    KirvLogin login;
+    if (isXmpp) {
+        KirvXmppSettings xmpp;
+        xmpp.certificatePath = prosody.certificatePath();
+        xmpp.proxy = settings;
+        login = { "romeo@localhost", "secret", xmpp.toFields() };
+        connection = std::make_unique<KirvXmppConnection>();
+    } else {
+        login = { "alice@irc.example", QString(),
+                  KirvPluginProfile::withValues(KirvIrcSettings::defaultFields(), { { "encryption", "none" } })
+                      + settings.toFields() };
+        connection = std::make_unique<KirvIrcConnection>();
+    }
+    connection->logIn(login, { "available", "Available", QString(), QString() });
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
+    KirvConnection::Timing timing = connection->timing();
+    timing.backOff.first = timing.backOff.last = 3600 * 1000;
+    connection->setTiming(timing);
+}
+
+void TestNetworkChange::aSessionThatWorksIsKept()
+{
+    QFETCH(bool, isXmpp);
+    logIn(isXmpp);
+    KirvConnection::Timing timing = connection->timing();
+    timing.requestTimeout = 3000;
+    connection->setTiming(timing);
+    QSignalSpy states(connection.get(), &KirvConnection::stateChanged);
+    for (int change = 0; change < 10; ++change)
+        connection->networkChanged();
+    QTest::qWait(timing.requestTimeout / 3 + 500);
+    QCOMPARE(states.size(), 0);
+    QCOMPARE(connection->state(), KirvConnection::Online);
+}
+
+void TestNetworkChange::aSessionThatHangsIsLeft()
+{
+    QFETCH(bool, isXmpp);
+    logIn(isXmpp);
+    proxy->freeze();
+    QElapsedTimer time;
+    time.start();
+    connection->networkChanged();
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Waiting, kirvPatience);
+    QCOMPARE(connection->lastFailure().kind(), KirvFailure::ConnectionLost);
+    QVERIFY2(connection->lastFailure().text().contains("answer"), qPrintable(connection->lastFailure().text()));
+    QVERIFY2(time.elapsed() >= 4500 && time.elapsed() < 15000, qPrintable(QString::number(time.elapsed())));
+}
+
+void TestNetworkChange::aWaitIsCutShort()
+{
+    QFETCH(bool, isXmpp);
+    logIn(isXmpp);
+    proxy->hangUp();
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Waiting, kirvPatience);
+    connection->networkChanged();
+    QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
+}
+
+QTEST_GUILESS_MAIN(TestNetworkChange)
+#include "tst_network_change.moc"
