@@ -152,6 +152,7 @@ void tst_UndoInPage::ctrlZUndoesFromEverywhereInTheWindow()
     for (const char *name : { "Accounts_List", "Accounts_MainAccount", "Settings_Pages", "Accounts_StripReason" }) {
         windows->removeInPage(bob);
         QVERIFY(!windows->account(bob));
+        windows->select(ann);
         press(KirvClientWindows::child<QWidget>(windows->client->window(), name), Qt::Key_Z);
         QVERIFY2(windows->account(bob), name);
         QVERIFY(windows->row(bob));
