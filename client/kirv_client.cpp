@@ -302,10 +302,13 @@ void KirvClient::showMoved(int secrets)
 {
     const KirvSecretStore *place = accountCollection->secrets().keyring();
     const QString name = place ? place->providerName() : QString();
-    showProblem(name.isEmpty()
-                    ? tr("%n passwords were moved to your keyring.", nullptr, secrets)
-                    //: %1 = "GNOME Keyring"
-                    : tr("%n passwords were moved to your keyring, which is %1.", nullptr, secrets).arg(name));
+    if (secrets == 1)
+        showProblem(tr("One password was moved to your keyring."));
+    else if (name.isEmpty())
+        showProblem(tr("%n passwords were moved to your keyring.", nullptr, secrets));
+    else
+        //: %1 = "GNOME Keyring"
+        showProblem(tr("%n passwords were moved to your keyring, which is %1.", nullptr, secrets).arg(name));
 }
 
 void KirvClient::showRefusal(const QString &text)

@@ -223,6 +223,18 @@
     </message>
 </context>
 <context>
+    <name>KirvAccount</name>
+    <message>
+        <source>A password could not be kept in the keyring. It is used until the program ends, and is kept when the keyring can be used.</source>
+        <translation>Ein Passwort konnte nicht im Schlüsselbund abgelegt werden. Es wird bis zum Ende des Programms verwendet und abgelegt, sobald der Schlüsselbund verwendet werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountActionsMenu</name>
     <message>
         <source>&amp;Server Account</source>
@@ -299,12 +311,105 @@
         <source>Pre&amp;sence</source>
         <translation>An&amp;wesenheit</translation>
     </message>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>A&amp;lle deaktivieren…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>Diese &amp;wieder aktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>&amp;Eigene Reihenfolge</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountGroup</name>
+    <message>
+        <source>Disabling Accounts</source>
+        <translation>Konten deaktivieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to disable %n accounts? They are logged out.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing Accounts</source>
+        <translation>Konten entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to remove %n accounts and all related data?</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Disabling All Accounts</source>
+        <translation>Alle Konten deaktivieren</translation>
+    </message>
+    <message>
+        <source>Do you want to disable all accounts? They are logged out.</source>
+        <translation>Möchten Sie alle Konten deaktivieren? Sie werden abgemeldet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountHistory</name>
+    <message>
+        <source>The account &quot;%1&quot; cannot be enabled again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Das Konto „%1“ kann nicht wieder aktiviert werden: Es wurde entfernt.</translation>
     </message>
 </context>
 <context>
@@ -340,6 +445,31 @@
         <source>%1, %2</source>
         <extracomment>read aloud for a row: %1 = name of an account, %2 = its state</extracomment>
         <translation>%1: %2 {1,?}</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountSearch</name>
+    <message>
+        <source>Search accounts</source>
+        <translation>Konten suchen</translation>
+    </message>
+    <message>
+        <source>Search accounts, or “%1”…</source>
+        <extracomment>%1 = the word that finds accounts whose state needs attention</extracomment>
+        <translation>Konten suchen, oder „%1“…</translation>
+    </message>
+    <message>
+        <source>problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Shows the accounts with these words in their alias, login, protocol or state</source>
+        <translation>Zeigt die Konten mit diesen Wörtern in Alias, Anmeldename, Protokoll oder Zustand</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>how many accounts a search shows, as &quot;3 of 120&quot;</extracomment>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
@@ -420,10 +550,6 @@
     <message>
         <source>The presence is %1.</source>
         <translation>Die Anwesenheit ist %1.</translation>
-    </message>
-    <message>
-        <source>The connection is protected by %1.</source>
-        <translation>Die Verbindung ist durch %1 geschützt.</translation>
     </message>
     <message>
         <source>Since %1.</source>
@@ -522,6 +648,30 @@
         <source>It can be tried again with Reconnect.</source>
         <translation>Mit „Neu verbinden“ kann es erneut versucht werden.</translation>
     </message>
+    <message>
+        <source>Protection: %1.</source>
+        <translation>Schutz: %1.</translation>
+    </message>
+    <message>
+        <source>Proxy not reachable</source>
+        <translation>Proxy nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No reply from the proxy</source>
+        <translation>Keine Antwort vom Proxy</translation>
+    </message>
+    <message>
+        <source>Log-in refused by the proxy</source>
+        <translation>Anmeldung vom Proxy abgelehnt</translation>
+    </message>
+    <message>
+        <source>Denied by the proxy</source>
+        <translation>Vom Proxy verweigert</translation>
+    </message>
+    <message>
+        <source>Proxy failed</source>
+        <translation>Proxy fehlgeschlagen</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -562,12 +712,121 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Zustand von %1</translation>
     </message>
+    <message numerus="yes">
+        <source>%n accounts are selected.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>They can be enabled, disabled and removed with the context menu.</source>
+        <translation>Sie können mit dem Kontextmenü aktiviert, deaktiviert und entfernt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountUndo</name>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Accounts</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Disabling %n Accounts</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Undo Removing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Entfernen von %1 &amp;rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Disabling %1</source>
+        <translation>Deaktivieren von %1 &amp;rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were removed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were disabled.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was removed.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Das Konto %1 (%2) wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was disabled.</source>
+        <translation>Das Konto %1 (%2) wurde deaktiviert.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountsPageCompanion</name>
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>Das Modul des Protokolls %1 ist nicht geladen. Laden Sie es auf der Seite „Module“.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAddWindowCompanion</name>
+    <message>
+        <source>Add %1 Account</source>
+        <extracomment>%1 = the name of a protocol</extracomment>
+        <translation>%1-Konto hinzufügen</translation>
+    </message>
+    <message>
+        <source>Save Without a Password</source>
+        <translation>Ohne Passwort speichern</translation>
+    </message>
+    <message>
+        <source>The login is missing.</source>
+        <translation>Der Anmeldename fehlt.</translation>
+    </message>
+    <message>
+        <source>The login and the password are missing.</source>
+        <translation>Anmeldename und Passwort fehlen.</translation>
+    </message>
+    <message>
+        <source>The account can be used without a password.</source>
+        <translation>Das Konto kann ohne Passwort verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The password is missing.</source>
+        <translation>Das Passwort fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAdvancedSection</name>
+    <message>
+        <source>, </source>
+        <comment>between names of settings</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1…</source>
+        <extracomment>%1 = the names of the first settings</extracomment>
+        <translation>%1…</translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation>Erweitert</translation>
     </message>
 </context>
 <context>
@@ -672,10 +931,6 @@
         <translation>Konten</translation>
     </message>
     <message>
-        <source>Connections</source>
-        <translation>Verbindungen</translation>
-    </message>
-    <message>
         <source>Plug-ins</source>
         <translation>Module</translation>
     </message>
@@ -701,6 +956,25 @@
     <message>
         <source>%1 is the main account now, because %2 was disabled.</source>
         <translation>%1 ist jetzt das Hauptkonto, weil %2 deaktiviert wurde.</translation>
+    </message>
+    <message>
+        <source>One password was moved to your keyring.</source>
+        <translation>Ein Passwort wurde in Ihren Schlüsselbund verschoben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords were moved to your keyring.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords were moved to your keyring, which is %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;</extracomment>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -774,104 +1048,6 @@
     <message>
         <source>The account is not connected.</source>
         <translation>Das Konto ist nicht verbunden.</translation>
-    </message>
-</context>
-<context>
-    <name>KirvConnectionModel</name>
-    <message>
-        <source>Account</source>
-        <translation>Konto</translation>
-    </message>
-    <message>
-        <source>Protocol</source>
-        <translation>Protokoll</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>Zustand</translation>
-    </message>
-    <message>
-        <source>Since</source>
-        <extracomment>column title: the time since when a connection has been in its state</extracomment>
-        <translation>Seit</translation>
-    </message>
-    <message>
-        <source>Last Problem</source>
-        <translation>Letztes Problem</translation>
-    </message>
-    <message>
-        <source>Plug-in not loaded</source>
-        <translation>Modul nicht geladen</translation>
-    </message>
-    <message>
-        <source>Connecting…</source>
-        <translation>Verbindet …</translation>
-    </message>
-    <message>
-        <source>Connected</source>
-        <translation>Verbunden</translation>
-    </message>
-    <message>
-        <source>Logging out…</source>
-        <translation>Meldet sich ab …</translation>
-    </message>
-    <message>
-        <source>Waiting until %1</source>
-        <extracomment>%1 = time of day</extracomment>
-        <translation>Wartet bis %1</translation>
-    </message>
-    <message>
-        <source>Off line</source>
-        <translation>Nicht verbunden</translation>
-    </message>
-    <message>
-        <source>Disabled</source>
-        <translation>Ausgeschaltet</translation>
-    </message>
-    <message>
-        <source>%1 (main account)</source>
-        <extracomment>%1 = name of an account</extracomment>
-        <translation>%1 (Hauptkonto)</translation>
-    </message>
-    <message>
-        <source>Waiting to connect…</source>
-        <extracomment>other accounts connect first</extracomment>
-        <translation>Wartet auf die Verbindung…</translation>
-    </message>
-</context>
-<context>
-    <name>KirvConnectionView</name>
-    <message>
-        <source>&amp;Presence</source>
-        <translation>&amp;Status</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Account…</source>
-        <translation>Konto &amp;bearbeiten …</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>&amp;Neu verbinden</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>&amp;Passwort eingeben …</translation>
-    </message>
-    <message>
-        <source>Last problem of the account</source>
-        <translation>Letztes Problem des Kontos</translation>
-    </message>
-    <message>
-        <source>Connections</source>
-        <translation>Verbindungen</translation>
-    </message>
-    <message>
-        <source>Logs the account out and in again.</source>
-        <translation>Meldet das Konto ab und wieder an.</translation>
-    </message>
-    <message>
-        <source>Takes another password and logs the account in with it.</source>
-        <translation>Nimmt ein anderes Passwort und meldet das Konto damit an.</translation>
     </message>
 </context>
 <context>
@@ -1025,6 +1201,10 @@
     <message>
         <source>The picture was not changed.</source>
         <translation>Das Bild wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>Das Passwort ist nicht mehr im Schlüsselbund.</translation>
     </message>
 </context>
 <context>
@@ -1180,6 +1360,55 @@
         <extracomment>%1 is what the server said</extracomment>
         <translation>Ein anderer Client hat sich mit dem Konto angemeldet und seinen Platz eingenommen: %1</translation>
     </message>
+    <message>
+        <source>The proxy cannot be reached. Check its name and port and your network connection.</source>
+        <translation>Der Proxy ist nicht erreichbar. Prüfen Sie seinen Namen, den Port und Ihre Netzwerkverbindung.</translation>
+    </message>
+    <message>
+        <source>The proxy did not connect to the server in time.</source>
+        <translation>Der Proxy hat die Verbindung zum Server nicht rechtzeitig hergestellt.</translation>
+    </message>
+    <message>
+        <source>The proxy did not accept the user or the password.</source>
+        <translation>Der Proxy hat den Benutzer oder das Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The proxy does not allow a connection to the server.</source>
+        <translation>Der Proxy erlaubt keine Verbindung zum Server.</translation>
+    </message>
+    <message>
+        <source>The connection through the proxy failed.</source>
+        <translation>Die Verbindung über den Proxy ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>The system did not say in time which proxy to use, so no connection was made.</source>
+        <translation>Das System hat nicht rechtzeitig angegeben, welcher Proxy zu verwenden ist; deshalb wurde keine Verbindung hergestellt.</translation>
+    </message>
+    <message>
+        <source>The proxy %1 cannot be reached. Check its name and port and your network connection.</source>
+        <extracomment>%1 is the name and port of a proxy</extracomment>
+        <translation>Der Proxy %1 ist nicht erreichbar. Prüfen Sie seinen Namen, den Port und Ihre Netzwerkverbindung.</translation>
+    </message>
+    <message>
+        <source>The proxy %1 did not connect to the server in time.</source>
+        <extracomment>%1 is the name and port of a proxy</extracomment>
+        <translation>Der Proxy %1 hat die Verbindung zum Server nicht rechtzeitig hergestellt.</translation>
+    </message>
+    <message>
+        <source>The proxy %1 did not accept the user or the password.</source>
+        <extracomment>%1 is the name and port of a proxy</extracomment>
+        <translation>Der Proxy %1 hat den Benutzer oder das Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The proxy %1 does not allow a connection to the server.</source>
+        <extracomment>%1 is the name and port of a proxy</extracomment>
+        <translation>Der Proxy %1 erlaubt keine Verbindung zum Server.</translation>
+    </message>
+    <message>
+        <source>The connection through the proxy failed: %1</source>
+        <extracomment>%1 is the reason</extracomment>
+        <translation>Die Verbindung über den Proxy ist fehlgeschlagen: %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -1206,14 +1435,6 @@
     <message>
         <source>Not chosen</source>
         <translation>Nicht gewählt</translation>
-    </message>
-    <message>
-        <source>Hide the text</source>
-        <translation>Text verbergen</translation>
-    </message>
-    <message>
-        <source>Show the text</source>
-        <translation>Text zeigen</translation>
     </message>
     <message>
         <source>Invalid format.</source>
@@ -1304,12 +1525,24 @@
         <source>Offline</source>
         <translation>Abgemeldet</translation>
     </message>
+    <message>
+        <source>anna, or anna@irc.example.org</source>
+        <translation>anna oder anna@irc.example.org</translation>
+    </message>
 </context>
 <context>
     <name>KirvIrcSasl</name>
     <message>
         <source>The client certificate is not known there.</source>
         <translation>Das Client-Zertifikat ist dort nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The password is longer than the server accepts.</source>
+        <translation>Das Passwort ist länger, als der Server annimmt.</translation>
+    </message>
+    <message>
+        <source>It has ended SASL before it was done.</source>
+        <translation>Er hat SASL beendet, bevor es fertig war.</translation>
     </message>
 </context>
 <context>
@@ -1446,6 +1679,30 @@
         <source>The path of the file with the certificate&apos;s private key (PEM, without a password). Empty: it is in the certificate&apos;s file.</source>
         <translation>Der Pfad der Datei mit dem privaten Schlüssel des Zertifikats (PEM, ohne Passwort). Leer: Er steht in der Datei des Zertifikats.</translation>
     </message>
+    <message>
+        <source>A nickname contains no blanks.</source>
+        <translation>Ein Spitzname enthält keine Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>The nickname is missing.</source>
+        <translation>Der Spitzname fehlt.</translation>
+    </message>
+    <message>
+        <source>A nickname starts with a letter.</source>
+        <translation>Ein Spitzname beginnt mit einem Buchstaben.</translation>
+    </message>
+    <message>
+        <source>A nickname consists of unaccented letters, digits and the characters %1.</source>
+        <translation>Ein Spitzname besteht aus Buchstaben ohne Akzente, Ziffern und den Zeichen %1.</translation>
+    </message>
+    <message>
+        <source>The server after the &quot;@&quot; is missing.</source>
+        <translation>Der Server nach dem „@“ fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no address of a server.</source>
+        <translation>„%1“ ist keine Adresse eines Servers.</translation>
+    </message>
 </context>
 <context>
     <name>KirvLayoutCatalog</name>
@@ -1554,6 +1811,14 @@
         <source>It asks for a widget of the unknown class %1.</source>
         <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
     </message>
+    <message>
+        <source>It has an attribute &quot;%1&quot;, which a layout cannot have.</source>
+        <translation>Sie hat ein Attribut „%1“, das ein Layout nicht haben darf.</translation>
+    </message>
+    <message>
+        <source>It has a text that can be read in more than one way: &quot;%1&quot;.</source>
+        <translation>Sie hat einen Text, der auf mehr als eine Weise gelesen werden kann: „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
@@ -1590,6 +1855,13 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginLine</name>
+    <message>
+        <source>A login cannot contain this.</source>
+        <translation>Ein Anmeldename kann das nicht enthalten.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -1614,6 +1886,10 @@
     <message>
         <source>Close This Message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Hinweis</translation>
     </message>
 </context>
 <context>
@@ -1643,12 +1919,12 @@
         <translation>Passwort</translation>
     </message>
     <message>
-        <source>Keeps the password in your profile, so that it is not asked for again.</source>
-        <translation>Behält das Passwort in Ihrem Profil, damit nicht erneut danach gefragt wird.</translation>
-    </message>
-    <message>
         <source>&amp;Log In</source>
         <translation>&amp;Anmelden</translation>
+    </message>
+    <message>
+        <source>Keeps the password, so that it is not asked for again.</source>
+        <translation>Behält das Passwort, so dass nicht wieder danach gefragt wird.</translation>
     </message>
 </context>
 <context>
@@ -1695,6 +1971,10 @@
     <message>
         <source>The protocol &quot;%1&quot; offers no presence.</source>
         <translation>Das Protokoll „%1“ bietet keinen Status an.</translation>
+    </message>
+    <message>
+        <source>The name of the protocol has more than %1 characters.</source>
+        <translation>Der Name des Protokolls hat mehr als %1 Zeichen.</translation>
     </message>
 </context>
 <context>
@@ -1969,12 +2249,107 @@
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Everything that was stored is in &quot;%1&quot; again. Quit the program and start it again to go on with it.</source>
-        <translation>Alles Gespeicherte ist wieder in „%1“. Beenden Sie das Programm und starten Sie es neu, um damit weiterzuarbeiten.</translation>
+        <source>Everything that was stored is in &quot;%1&quot; again. Continue to go on with it; the accounts log in again then.</source>
+        <translation>Alles, was gespeichert war, ist wieder in „%1“. Mit „Weiter“ wird damit fortgefahren; die Konten melden sich dann erneut an.</translation>
     </message>
     <message>
-        <source>Everything that was stored is in &quot;%1&quot; now. Quit the program and start it with the option --profile &quot;%1&quot; to go on with it.</source>
-        <translation>Alles Gespeicherte ist jetzt in „%1“. Beenden Sie das Programm und starten Sie es mit der Option --profile &quot;%1&quot;, um damit weiterzuarbeiten.</translation>
+        <source>Everything that was stored is in &quot;%1&quot; now. Continue to go on with it; the accounts log in again then. From the next start on, start the program with the option --profile &quot;%1&quot;.</source>
+        <translation>Alles, was gespeichert war, ist jetzt in „%1“. Mit „Weiter“ wird damit fortgefahren; die Konten melden sich dann erneut an. Starten Sie das Programm ab dem nächsten Mal mit der Option --profile &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>KirvProxy</name>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>That of the system</source>
+        <translation>Der des Systems</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>What all connections of the account go through. With a proxy the account is never connected without it, and the proxy looks the name of the server up.</source>
+        <translation>Worüber alle Verbindungen des Kontos laufen. Mit einem Proxy wird das Konto nie ohne ihn verbunden, und der Proxy schlägt den Namen des Servers nach.</translation>
+    </message>
+    <message>
+        <source>Proxy host</source>
+        <translation>Proxy-Rechner</translation>
+    </message>
+    <message>
+        <source>The name or address of a SOCKS5 or HTTP proxy.</source>
+        <translation>Name oder Adresse eines SOCKS5- oder HTTP-Proxys.</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Proxy-Port</translation>
+    </message>
+    <message>
+        <source>Ordinarily 1080 with SOCKS5, and 3128 or 8080 with HTTP.</source>
+        <translation>Gewöhnlich 1080 bei SOCKS5 und 3128 oder 8080 bei HTTP.</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Proxy-Benutzer</translation>
+    </message>
+    <message>
+        <source>Empty: the proxy needs no log-in.</source>
+        <translation>Leer: Der Proxy braucht keine Anmeldung.</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Proxy-Passwort</translation>
+    </message>
+    <message>
+        <source>The proxy receives it without encryption. Do not use the password of the account.</source>
+        <translation>Der Proxy erhält es unverschlüsselt. Verwenden Sie nicht das Passwort des Kontos.</translation>
+    </message>
+    <message>
+        <source>The kind of the proxy is not known.</source>
+        <translation>Die Art des Proxys ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The proxy has no host.</source>
+        <translation>Der Proxy hat keinen Rechnernamen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not the name of a proxy.</source>
+        <translation>„%1“ ist nicht der Name eines Proxys.</translation>
+    </message>
+    <message>
+        <source>The port of the proxy must be a number from 1 to 65535.</source>
+        <translation>Der Port des Proxys muss eine Zahl von 1 bis 65535 sein.</translation>
+    </message>
+    <message>
+        <source>The user or the password of the proxy cannot be sent: it is too long or has characters that do not belong to a line.</source>
+        <translation>Benutzer oder Passwort des Proxys können nicht gesendet werden: zu lang, oder mit Zeichen, die nicht in eine Zeile gehören.</translation>
+    </message>
+    <message>
+        <source>The user of an HTTP proxy cannot have a colon.</source>
+        <translation>Der Benutzer eines HTTP-Proxys darf keinen Doppelpunkt enthalten.</translation>
+    </message>
+    <message>
+        <source>There is a password of the proxy, but no user.</source>
+        <translation>Für den Proxy gibt es ein Passwort, aber keinen Benutzer.</translation>
+    </message>
+    <message>
+        <source>it does not find the server, or does not allow a connection to it</source>
+        <translation>er findet den Server nicht oder erlaubt keine Verbindung zu ihm</translation>
     </message>
 </context>
 <context>
@@ -2069,6 +2444,99 @@
     <message>
         <source>The profile can be used again.</source>
         <translation>Das Profil kann wieder benutzt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvRevealButton</name>
+    <message>
+        <source>Hide the text</source>
+        <translation>Text verbergen</translation>
+    </message>
+    <message>
+        <source>Show the text</source>
+        <translation>Text anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSecretTexts</name>
+    <message>
+        <source>your keyring</source>
+        <translation>Ihrem Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>in a file only you can read</source>
+        <translation>in einer Datei, die nur Sie lesen können</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <translation>in %1</translation>
+    </message>
+    <message>
+        <source>in %1 (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <translation>in %1 (gesperrt: Sie werden gebeten, ihn zu entsperren)</translation>
+    </message>
+    <message>
+        <source>Your keyring does not respond: it would be kept there when it responds again</source>
+        <translation>Ihr Schlüsselbund antwortet nicht: Es würde dort abgelegt, sobald er wieder antwortet</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it would be kept in a file only you can read</source>
+        <translation>Hier gibt es keinen Schlüsselbund: Es würde in einer Datei abgelegt, die nur Sie lesen können</translation>
+    </message>
+    <message>
+        <source>Reading the password…</source>
+        <translation>Das Passwort wird gelesen…</translation>
+    </message>
+    <message>
+        <source>The keyring is locked</source>
+        <translation>Der Schlüsselbund ist gesperrt</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond</source>
+        <translation>Der Schlüsselbund antwortet nicht</translation>
+    </message>
+    <message>
+        <source>The keyring is not there</source>
+        <translation>Der Schlüsselbund ist nicht da</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read</source>
+        <translation>Der Schlüsselbund kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Or enter the password: it is used until the program ends.</source>
+        <translation>Oder geben Sie das Passwort ein: Es wird bis zum Ende des Programms verwendet.</translation>
+    </message>
+    <message>
+        <source>The password is being read from %1.</source>
+        <translation>Das Passwort wird aus %1 gelesen.</translation>
+    </message>
+    <message>
+        <source>The password is in %1, which is locked. Unlock it.</source>
+        <translation>Das Passwort ist in %1; er ist gesperrt. Entsperren Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The password is in %1, which was not unlocked. Reconnect asks again.</source>
+        <translation>Das Passwort ist in %1; er wurde nicht entsperrt. „Neu verbinden“ fragt erneut.</translation>
+    </message>
+    <message>
+        <source>The password is in %1, which does not respond. The account connects when it does.</source>
+        <translation>Das Passwort ist in %1; er antwortet nicht. Das Konto verbindet sich, sobald er antwortet.</translation>
+    </message>
+    <message>
+        <source>The password is in the keyring, which is not there. The account connects when it is started.</source>
+        <translation>Das Passwort ist im Schlüsselbund, der nicht da ist. Das Konto verbindet sich, sobald er gestartet ist.</translation>
+    </message>
+    <message>
+        <source>The password is in %1, which cannot be read. Reconnect tries again.</source>
+        <translation>Das Passwort ist in %1; er kann nicht gelesen werden. „Neu verbinden“ versucht es erneut.</translation>
+    </message>
+    <message>
+        <source>%1. The password stays as it is unless you enter another one.</source>
+        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
+        <translation>%1. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
     </message>
 </context>
 <context>
@@ -2240,6 +2708,10 @@
         <source>There is a profile in &quot;%1&quot; already. Choose an empty folder.</source>
         <translation>In „%1“ gibt es schon ein Profil. Wählen Sie einen leeren Ordner.</translation>
     </message>
+    <message>
+        <source>The copies of the profile in &quot;%1&quot; could not be removed. Check the permissions of the folder &quot;copies&quot; in it.</source>
+        <translation>Die Kopien des Profils in „%1“ konnten nicht entfernt werden. Prüfen Sie die Berechtigungen des Ordners „copies“ darin.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppAvatar</name>
@@ -2257,6 +2729,10 @@
     <message>
         <source>The account is not connected.</source>
         <translation>Das Konto ist nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>the server does not answer any more</source>
+        <translation>der Server antwortet nicht mehr</translation>
     </message>
 </context>
 <context>
@@ -2293,6 +2769,44 @@
     <message>
         <source>The directory entry is too long to be sent.</source>
         <translation>Der Verzeichniseintrag ist zu lang, um gesendet zu werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvXmppError</name>
+    <message>
+        <source>the name is already in use</source>
+        <translation>der Name ist schon vergeben</translation>
+    </message>
+    <message>
+        <source>the server does not accept what was sent</source>
+        <translation>der Server nimmt das Gesendete nicht an</translation>
+    </message>
+    <message>
+        <source>the server does not allow it</source>
+        <translation>der Server erlaubt es nicht</translation>
+    </message>
+    <message>
+        <source>the server does not allow it now</source>
+        <translation>der Server erlaubt es jetzt nicht</translation>
+    </message>
+    <message>
+        <source>the server requires encryption</source>
+        <translation>der Server verlangt Verschlüsselung</translation>
+    </message>
+</context>
+<context>
+    <name>KirvXmppLoginGuard</name>
+    <message>
+        <source>It asks for more than a log-in needs.</source>
+        <translation>Er verlangt mehr, als eine Anmeldung braucht.</translation>
+    </message>
+    <message>
+        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <translation>Er verlangt mehr Arbeit zur Prüfung des Passworts, als zulässig ist (%1 Runden, höchstens %2).</translation>
+    </message>
+    <message>
+        <source>It has not proved that it knows the password.</source>
+        <translation>Er hat nicht bewiesen, dass er das Passwort kennt.</translation>
     </message>
 </context>
 <context>
@@ -2532,25 +3046,13 @@
         <extracomment>%1 is a server and its port</extracomment>
         <translation>%1 beginnt nicht sofort mit Verschlüsselung. Wählen Sie kein direktes TLS oder einen anderen Port.</translation>
     </message>
+    <message>
+        <source>it refers to a server of a private network</source>
+        <translation>er verweist auf einen Server eines privaten Netzes</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppServerLink</name>
-    <message>
-        <source>the name is already in use</source>
-        <translation>der Name ist schon vergeben</translation>
-    </message>
-    <message>
-        <source>the server does not accept what was sent</source>
-        <translation>der Server nimmt das Gesendete nicht an</translation>
-    </message>
-    <message>
-        <source>the server does not allow it</source>
-        <translation>der Server erlaubt es nicht</translation>
-    </message>
-    <message>
-        <source>the server does not allow it now</source>
-        <translation>der Server erlaubt es jetzt nicht</translation>
-    </message>
     <message>
         <source>the server requires encryption</source>
         <translation>der Server verlangt Verschlüsselung</translation>
@@ -2587,6 +3089,32 @@
         <source>it refers to a server without a name</source>
         <translation>er verweist auf einen Server ohne Namen</translation>
     </message>
+    <message>
+        <source>it refers to a server of a private network</source>
+        <translation>er verweist auf einen Server eines privaten Netzes</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is the encryption, as &quot;TLSv1.3&quot;, %2 how the user has proved who he is, as &quot;SASL SCRAM-SHA-256&quot;</extracomment>
+        <translation>%1: %2 {1,?}</translation>
+    </message>
+    <message>
+        <source>not encrypted</source>
+        <translation>nicht verschlüsselt</translation>
+    </message>
+    <message>
+        <source>The server begins the log-in again and again.</source>
+        <translation>Der Server beginnt die Anmeldung immer wieder von vorn.</translation>
+    </message>
+    <message>
+        <source>It has logged in the account &quot;%1&quot;.</source>
+        <extracomment>%1 is the address of an account</extracomment>
+        <translation>Er hat das Konto „%1“ angemeldet.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>Sein Teil der Anmeldung ist falsch.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppSettings</name>
@@ -2601,10 +3129,6 @@
     <message>
         <source>Server</source>
         <translation>Server</translation>
-    </message>
-    <message>
-        <source>Only needed when it cannot be found by the domain of the login.</source>
-        <translation>Nur nötig, wenn er nicht über die Domäne des Anmeldenamens gefunden wird.</translation>
     </message>
     <message>
         <source>Port</source>
@@ -2674,6 +3198,42 @@
     <message>
         <source>Required at once (direct TLS)</source>
         <translation>Sofort verlangt (direktes TLS)</translation>
+    </message>
+    <message>
+        <source>Only needed when it cannot be found by the domain of the login. Service records are not looked up where there is a proxy.</source>
+        <translation>Nur nötig, wenn er nicht anhand der Domain des Anmeldenamens gefunden wird. Mit einem Proxy werden keine Diensteinträge abgefragt.</translation>
+    </message>
+    <message>
+        <source>An address contains no blanks.</source>
+        <translation>Eine Adresse enthält keine Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>The character &quot;%1&quot; is not allowed in an address.</source>
+        <translation>Das Zeichen „%1“ ist in einer Adresse nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>The domain is missing, as in anna@example.org.</source>
+        <translation>Die Domain fehlt, wie in anna@example.org.</translation>
+    </message>
+    <message>
+        <source>An address contains one &quot;@&quot; only.</source>
+        <translation>Eine Adresse enthält nur ein „@“.</translation>
+    </message>
+    <message>
+        <source>The name before the &quot;@&quot; is missing.</source>
+        <translation>Der Name vor dem „@“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The domain after the &quot;@&quot; is missing.</source>
+        <translation>Die Domain nach dem „@“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The domain after the &quot;@&quot; is not complete.</source>
+        <translation>Die Domain nach dem „@“ ist nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>The address is too long.</source>
+        <translation>Die Adresse ist zu lang.</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_status.h"
-#include "client/kirv_connection_view.h"
+#include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -241,7 +241,7 @@ void tst_PasswordsInWindows::aPasswordCanBeEnteredForNow()
     const QMap<QString, QString> before = keyring->secrets;
     restart(KirvSecretStore::Unavailable);
     QVERIFY(!account()->isOnline());
-    Q_EMIT windows->client->connectionView()->passwordRequested(account());
+    Q_EMIT windows->client->accountsPage()->findChild<KirvAccountsPageCompanion *>()->passwordRequested(account());
     settle();
     auto *dialog = windows->client->window()->findChild<KirvPasswordDialog *>();
     QVERIFY(dialog);

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void aChangeOfSomethingElseWritesNoSecret();
     void aPasswordThatIsNotRememberedAnyMoreIsRemoved();
     void aRemovedAccountLeavesNothingInTheKeyring();
+    void aRestoredAccountHasItsPasswordInTheKeyringAgain();
     void whatCouldNotBeRemovedIsRemovedAtTheNextStart();
     void itemsOfOtherProfilesAreLeftAlone();
 
@@ -214,6 +215,25 @@ void tst_SecretKeeper::aRemovedAccountLeavesNothingInTheKeyring()
     settle();
     QCOMPARE(keyring->secrets.values(), QStringList("word of other"));
     QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aRestoredAccountHasItsPasswordInTheKeyringAgain()
+{
+    QVERIFY(core->create());
+    settle();
+    const QString before = keyring->secrets.firstKey();
+    const KirvRemovedAccount removed = core->accounts->copyOf(account());
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    QVERIFY(core->accounts->restore(removed));
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(keyring->secrets.firstKey() != before); // a key is never used twice
+    QVERIFY(!isInProfile(password));
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
 }
 
 void tst_SecretKeeper::whatCouldNotBeRemovedIsRemovedAtTheNextStart()
