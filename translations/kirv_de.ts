@@ -313,23 +313,23 @@
     </message>
     <message numerus="yes">
         <source>&amp;Enable %n Accounts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Konto &amp;aktivieren</numerusform>
+            <numerusform>%n Konten &amp;aktivieren</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&amp;Disable %n Accounts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Konto &amp;deaktivieren</numerusform>
+            <numerusform>%n Konten &amp;deaktivieren</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Re&amp;move %n Accounts…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Konto &amp;entfernen…</numerusform>
+            <numerusform>%n Konten &amp;entfernen…</numerusform>
         </translation>
     </message>
     <message>
@@ -372,9 +372,9 @@
     </message>
     <message numerus="yes">
         <source>Do you want to disable %n accounts? They are logged out.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Möchten Sie ein Konto deaktivieren? Es wird abgemeldet.</numerusform>
+            <numerusform>Möchten Sie %n Konten deaktivieren? Sie werden abgemeldet.</numerusform>
         </translation>
     </message>
     <message>
@@ -383,9 +383,9 @@
     </message>
     <message numerus="yes">
         <source>Do you want to remove %n accounts and all related data?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Möchten Sie ein Konto mit allen zugehörigen Daten entfernen?</numerusform>
+            <numerusform>Möchten Sie %n Konten mit allen zugehörigen Daten entfernen?</numerusform>
         </translation>
     </message>
     <message>
@@ -398,9 +398,9 @@
     </message>
     <message numerus="yes">
         <source>and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>und eines mehr</numerusform>
+            <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -714,9 +714,9 @@
     </message>
     <message numerus="yes">
         <source>%n accounts are selected.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Konto ist ausgewählt.</numerusform>
+            <numerusform>%n Konten sind ausgewählt.</numerusform>
         </translation>
     </message>
     <message>
@@ -728,16 +728,16 @@
     <name>KirvAccountUndo</name>
     <message numerus="yes">
         <source>&amp;Undo Removing %n Accounts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Entfernen eines Kontos &amp;rückgängig machen</numerusform>
+            <numerusform>Entfernen von %n Konten &amp;rückgängig machen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>&amp;Undo Disabling %n Accounts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Deaktivieren eines Kontos &amp;rückgängig machen</numerusform>
+            <numerusform>Deaktivieren von %n Konten &amp;rückgängig machen</numerusform>
         </translation>
     </message>
     <message>
@@ -755,16 +755,16 @@
     </message>
     <message numerus="yes">
         <source>%n accounts were removed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Konto wurde entfernt.</numerusform>
+            <numerusform>%n Konten wurden entfernt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n accounts were disabled.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Konto wurde deaktiviert.</numerusform>
+            <numerusform>%n Konten wurden deaktiviert.</numerusform>
         </translation>
     </message>
     <message>
@@ -963,17 +963,17 @@
     </message>
     <message numerus="yes">
         <source>%n passwords were moved to your keyring.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Passwort wurde in Ihren Schlüsselbund verschoben.</numerusform>
+            <numerusform>%n Passwörter wurden in Ihren Schlüsselbund verschoben.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n passwords were moved to your keyring, which is %1.</source>
         <extracomment>%1 = &quot;GNOME Keyring&quot;</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Passwort wurde in Ihren Schlüsselbund verschoben (%1).</numerusform>
+            <numerusform>%n Passwörter wurden in Ihren Schlüsselbund verschoben (%1).</numerusform>
         </translation>
     </message>
 </context>

@@ -166,7 +166,9 @@ void KirvXmppServerLink::lookAtServer()
 {
     QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
     // Behind a proxy the address says nothing about the server.
-    isLocal = socket->proxy().type() == QNetworkProxy::NoProxy && kirvXmppIsLocal(socket->peerAddress());
+    const QNetworkProxy::ProxyType kind = socket->proxy().type();
+    const bool isDirect = kind == QNetworkProxy::NoProxy || kind == QNetworkProxy::DefaultProxy;
+    isLocal = isDirect && kirvXmppIsLocal(socket->peerAddress());
     if (!isLocal || !refusesLocal)
         return;
     fail(KirvFailure(KirvFailure::ServerShutDown, tr("it refers to a server of a private network")));

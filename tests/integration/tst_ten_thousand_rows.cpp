@@ -101,8 +101,13 @@ void tst_TenThousandRows::initTestCase()
     QVERIFY(QTest::qWaitForWindowExposed(windows->client->window()));
     KIRV_TRY_COMPARE(windows->list()->topLevelItemCount(), accountCount);
     windows->select(idOf(accountCount - 1));
-    KIRV_TRY(!windows->list()->topLevelItem(0)->data(0, Qt::AccessibleTextRole).toString().isEmpty());
-    KIRV_TRY(!windows->list()->topLevelItem(accountCount - 1)->data(0, Qt::AccessibleTextRole).toString().isEmpty());
+    // Assistive technology receives the texts of the rows in slices.
+    const QTreeWidget *list = windows->list();
+    const auto isTold = [list](int row) {
+        return !list->topLevelItem(row)->data(0, Qt::AccessibleTextRole).toString().isEmpty();
+    };
+    for (int row = 0; row < accountCount; ++row)
+        KIRV_TRY(isTold(row));
     windows->list()->setItemDelegate(new CountingDelegate(windows->list()->itemDelegate(), &work, this));
     connect(
         windows->list()->model(), &QAbstractItemModel::dataChanged, this,

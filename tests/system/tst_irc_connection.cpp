@@ -88,6 +88,8 @@ private Q_SLOTS:
     void thereIsNoDirectory();
     void unusableSettingsAreSaid_data();
     void unusableSettingsAreSaid();
+    void loginsThatCannotWorkMakeNoAccount_data();
+    void loginsThatCannotWorkMakeNoAccount();
 
     void logsInAndOut_data();
     void logsInAndOut();
@@ -238,7 +240,6 @@ void TestIrcConnection::thereIsNoDirectory()
 
 void TestIrcConnection::unusableSettingsAreSaid_data()
 {
-    QTest::addColumn<QString>("login");
     QTest::addColumn<Values>("values");
     const Values local { { "server", "127.0.0.1" } };
     const auto with = [&local](const QString &id, const QString &value) {
@@ -246,25 +247,35 @@ void TestIrcConnection::unusableSettingsAreSaid_data()
         values.insert(id, value);
         return values;
     };
-    QTest::newRow("no server") << "alice" << Values();
-    QTest::newRow("server of two lines") << "alice" << with("server", "a\r\nb");
-    QTest::newRow("port 0") << "alice" << with("port", "0");
-    QTest::newRow("port too large") << "alice" << with("port", "70000");
-    QTest::newRow("nick that is none") << "9 lives" << local;
-    QTest::newRow("nick of two lines") << "alice\r\nQUIT" << local;
-    QTest::newRow("certificate is not there") << "alice" << with("certificate", "/nonexistent.pem");
-    QTest::newRow("certificate is none") << "alice" << with("certificate", KIRV_IRC_PLUGIN);
+    QTest::newRow("no server") << Values();
+    QTest::newRow("server of two lines") << with("server", "a\r\nb");
+    QTest::newRow("port 0") << with("port", "0");
+    QTest::newRow("port too large") << with("port", "70000");
+    QTest::newRow("certificate is not there") << with("certificate", "/nonexistent.pem");
+    QTest::newRow("certificate is none") << with("certificate", KIRV_IRC_PLUGIN);
 }
 
 void TestIrcConnection::unusableSettingsAreSaid()
 {
-    QFETCH(QString, login);
     QFETCH(Values, values);
-    KirvAccount *account = profile->createAccount(login, values);
+    KirvAccount *account = profile->createAccount("alice", values);
     profile->goTo(account, "available");
     KIRV_TRY_FAILURE(account, BadSettings);
     KIRV_TRY_STATE(account, Offline);
     QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
+}
+
+void TestIrcConnection::loginsThatCannotWorkMakeNoAccount_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::newRow("nick that is none") << "9 lives";
+    QTest::newRow("nick of two lines") << "alice\r\nQUIT";
+}
+
+void TestIrcConnection::loginsThatCannotWorkMakeNoAccount()
+{
+    QFETCH(QString, login);
+    QVERIFY(!profile->createAccount(login, {}));
 }
 
 void TestIrcConnection::logsInAndOut_data()

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void iconIsThere();
     void unusableSettingsAreSaid_data();
     void unusableSettingsAreSaid();
+    void loginsThatCannotWorkMakeNoAccount_data();
+    void loginsThatCannotWorkMakeNoAccount();
 
     void logsInAndOut_data();
     void logsInAndOut();
@@ -160,24 +162,33 @@ void TestXmppConnection::iconIsThere()
 
 void TestXmppConnection::unusableSettingsAreSaid_data()
 {
-    QTest::addColumn<QString>("login");
     QTest::addColumn<Values>("values");
-    QTest::newRow("no domain") << "romeo" << Values();
-    QTest::newRow("no user") << "@localhost" << Values();
-    QTest::newRow("certificate is not there") << romeoAddress << Values { { "certificate", "/nonexistent.pem" } };
-    QTest::newRow("certificate is none") << romeoAddress << Values { { "certificate", "/etc/passwd" } };
-    QTest::newRow("certificate is a folder") << romeoAddress << Values { { "certificate", "/" } };
+    QTest::newRow("certificate is not there") << Values { { "certificate", "/nonexistent.pem" } };
+    QTest::newRow("certificate is none") << Values { { "certificate", "/etc/passwd" } };
+    QTest::newRow("certificate is a folder") << Values { { "certificate", "/" } };
 }
 
 void TestXmppConnection::unusableSettingsAreSaid()
 {
-    QFETCH(QString, login);
     QFETCH(Values, values);
-    KirvAccount *account = profile->createAccount(login, values);
+    KirvAccount *account = profile->createAccount(romeoAddress, values);
     profile->goTo(account, "available");
     KIRV_TRY_FAILURE(account, BadSettings);
     QCOMPARE(state(account), KirvConnection::Offline);
     QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
+}
+
+void TestXmppConnection::loginsThatCannotWorkMakeNoAccount_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::newRow("no domain") << "romeo";
+    QTest::newRow("no user") << "@localhost";
+}
+
+void TestXmppConnection::loginsThatCannotWorkMakeNoAccount()
+{
+    QFETCH(QString, login);
+    QVERIFY(!profile->createAccount(login, {}));
 }
 
 void TestXmppConnection::logsInAndOut_data()

@@ -42,6 +42,8 @@ KirvAccount *KirvPluginProfile::createAccount(const QString &login, const Values
     record.defaultPresence = record.lastPresence = "offline";
     record.settings = kirvStoredValues(withValues(loaded->accountSettings(), values));
     KirvAccount *account = collection->create(record, loaded);
+    if (!account)
+        return nullptr;
     KirvConnection::Timing timing;
     timing.loginTimeout = kirvPatience;
     timing.backOff.first = 50;

@@ -32,7 +32,8 @@ public:
     KirvPluginLoader &plugins() const { return *loader; }
     QString folder() const { return files.path(); }
 
-    /// An account that is off line yet, and waits only shortly between attempts. \a values are its settings.
+    /// An account that is off line yet, and waits only shortly between attempts. \a values are its settings. Null when
+    /// it is refused.
     KirvAccount *createAccount(const QString &login, const Values &values, const QString &password = "secret");
     void setValue(KirvAccount *account, const QString &id, const QString &value);
     /// What the presence menu does: wants \a presence, and tries again when the connection gave up.
