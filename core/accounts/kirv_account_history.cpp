@@ -29,7 +29,7 @@ KirvAccountHistory::KirvAccountHistory(KirvAccountCollection &accounts, KirvMain
 
 void KirvAccountHistory::accountChanged(const KirvAccount *account)
 {
-    const KirvAccountKey key = account->key();
+    const KirvAccountKey &key = account->key();
     if (!account->record().enabled) {
         confirm(Disabling, key);
         return;
