@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_advanced_section.h"
 
+#include "core/ui/kirv_form_place.h"
 #include "core/ui/kirv_keyboard.h"
 #include "host/kirv_field_widget.h"
 
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -30,15 +30,11 @@ QString summaryOf(const QList<KirvField> &fields)
 
 KirvAdvancedSection *KirvAdvancedSection::addAbove(KirvFieldWidget *fields)
 {
-    QWidget *parent = fields->parentWidget();
-    auto *form = parent ? qobject_cast<QFormLayout *>(parent->layout()) : nullptr;
-    if (!form || form->indexOf(fields) < 0)
+    const KirvFormPlace place(fields);
+    if (!place.isValid())
         return nullptr;
-    int row = 0;
-    QFormLayout::ItemRole role = QFormLayout::SpanningRole;
-    form->getWidgetPosition(fields, &row, &role);
-    auto *section = new KirvAdvancedSection(fields, parent);
-    form->insertRow(row, section);
+    auto *section = new KirvAdvancedSection(fields, fields->parentWidget());
+    place.form->insertRow(place.row, section);
     return section;
 }
 

@@ -3,10 +3,10 @@
 
 #include "client/kirv_account_link.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_form_place.h"
 #include "core/ui/kirv_hint_line.h"
 #include "core/values/kirv_visible_text.h"
 
-#include <QFormLayout>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -15,20 +15,15 @@ namespace {
 /// A hint in the row below \a edit; null where that does not stand in a form.
 KirvHintLine *addHintBelow(QLineEdit *edit)
 {
-    QWidget *parent = edit->parentWidget();
-    auto *form = parent ? qobject_cast<QFormLayout *>(parent->layout()) : nullptr;
-    if (!form || form->indexOf(edit) < 0)
+    KirvFormPlace place(edit);
+    if (!place.isValid())
         return nullptr;
-    int row = 0;
-    QFormLayout::ItemRole role = QFormLayout::FieldRole;
-    form->getWidgetPosition(edit, &row, &role);
-    form->removeWidget(edit);
-    auto *hint = new KirvHintLine(edit->objectName() + QStringLiteral("_Hint"), parent);
+    auto *hint = new KirvHintLine(edit->objectName() + QStringLiteral("_Hint"), edit->parentWidget());
     hint->keepPlace(); // what is below must not move while the user types
     auto *cell = new QVBoxLayout;
+    place.replaceBy(cell);
     cell->addWidget(edit);
     cell->addWidget(hint);
-    form->setLayout(row, role, cell);
     return hint;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_reveal_button.h"
 
-#include <QFormLayout>
+#include "core/ui/kirv_form_place.h"
+
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLineEdit>
@@ -18,20 +19,15 @@ KirvRevealButton::KirvRevealButton(QLineEdit *edit, QWidget *parent)
 
 KirvRevealButton *KirvRevealButton::addBeside(QLineEdit *edit)
 {
-    QWidget *parent = edit->parentWidget();
-    auto *form = parent ? qobject_cast<QFormLayout *>(parent->layout()) : nullptr;
-    if (!form || form->indexOf(edit) < 0)
+    KirvFormPlace place(edit);
+    if (!place.isValid())
         return nullptr;
-    int row = 0;
-    QFormLayout::ItemRole role = QFormLayout::FieldRole;
-    form->getWidgetPosition(edit, &row, &role);
-    form->removeWidget(edit);
-    auto *button = new KirvRevealButton(edit, parent);
+    auto *button = new KirvRevealButton(edit, edit->parentWidget());
     auto *line = new QHBoxLayout;
     line->setSpacing(0);
+    place.replaceBy(line);
     line->addWidget(edit);
     line->addWidget(button);
-    form->setLayout(row, role, line);
     QWidget::setTabOrder(edit, button);
     return button;
 }
