@@ -34,13 +34,19 @@ KirvAdvancedSection *KirvAdvancedSection::addAbove(KirvFieldWidget *fields)
     if (!place.isValid())
         return nullptr;
     auto *section = new KirvAdvancedSection(fields, fields->parentWidget());
-    place.form->insertRow(place.row, section);
+    // Rows are added at the end: a form of Qt 6 gives no height to a row that is inserted before the last one.
+    delete place.form->takeRow(place.row).fieldItem;
+    place.form->addRow(section);
+    place.form->addRow(fields);
+    section->showFields(false);
     return section;
 }
 
 KirvAdvancedSection::KirvAdvancedSection(KirvFieldWidget *fields, QWidget *parent)
     : QWidget(parent)
+    , fields(fields)
     , button(new QToolButton(this))
+    , summary(new QLabel(this))
 {
     QSet<QChar> taken = kirvMnemonicsAround(this);
     button->setObjectName(QStringLiteral("AddAccount_Advanced"));
@@ -48,7 +54,6 @@ KirvAdvancedSection::KirvAdvancedSection(KirvFieldWidget *fields, QWidget *paren
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
     button->setCheckable(true);
-    auto *summary = new QLabel(this);
     summary->setObjectName(QStringLiteral("AddAccount_AdvancedSummary"));
     summary->setTextFormat(Qt::PlainText);
     summary->setText(summaryOf(fields->getFields()));
@@ -58,16 +63,18 @@ KirvAdvancedSection::KirvAdvancedSection(KirvFieldWidget *fields, QWidget *paren
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(button);
     line->addWidget(summary, 1);
-    const auto show = [this, fields, summary](bool open) {
-        button->setArrowType(open                                       ? Qt::DownArrow
-                                 : layoutDirection() == Qt::LeftToRight ? Qt::RightArrow
-                                                                        : Qt::LeftArrow);
-        fields->setVisible(open);
-        summary->setVisible(!open);
-        Q_EMIT toggled(open);
-    };
-    connect(button, &QToolButton::toggled, fields, show);
-    show(false);
+    connect(button, &QToolButton::toggled, fields, [this](bool isOpen) {
+        showFields(isOpen);
+        Q_EMIT toggled(isOpen);
+    });
+}
+
+void KirvAdvancedSection::showFields(bool isOpen)
+{
+    const Qt::ArrowType closed = layoutDirection() == Qt::LeftToRight ? Qt::RightArrow : Qt::LeftArrow;
+    button->setArrowType(isOpen ? Qt::DownArrow : closed);
+    fields->setVisible(isOpen);
+    summary->setVisible(!isOpen);
 }
 
 void KirvAdvancedSection::setOpen(bool open)

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class KirvFieldWidget;
+class QLabel;
 class QToolButton;
 
 /// A row above the settings of a new account that shows and hides them. They are hidden at first.
@@ -12,7 +13,7 @@ class KirvAdvancedSection : public QWidget {
     Q_OBJECT
 
 public:
-    /// Puts a section above \a fields in the form that they stand in; null when they do not stand in one.
+    /// Puts a section with \a fields below it at the end of the form that they stand in; null when they stand in none.
     static KirvAdvancedSection *addAbove(KirvFieldWidget *fields);
 
     void setOpen(bool open);
@@ -23,7 +24,11 @@ Q_SIGNALS:
 private:
     KirvAdvancedSection(KirvFieldWidget *fields, QWidget *parent);
 
-    QToolButton *button;
+    void showFields(bool isOpen);
+
+    KirvFieldWidget *const fields;
+    QToolButton *const button;
+    QLabel *const summary;
 };
 
 #endif
