@@ -8,8 +8,6 @@
 
 namespace {
 
-const int longestPart = 1023; // in bytes of UTF-8, as the standard has it
-
 /// Whether \a address consists of what nodeprep and nameprep only make lower case: most do.
 bool isSimple(const QString &address)
 {
@@ -23,9 +21,9 @@ bool isSimple(const QString &address)
 QString normalizedUser(const QString &user)
 {
     const QByteArray typed = user.toUtf8();
-    if (typed.size() > longestPart || typed.contains('\0'))
+    if (typed.size() > kirvXmppLongestAddressPart || typed.contains('\0'))
         return user;
-    QByteArray prepared = typed.leftJustified(4 * longestPart, '\0');
+    QByteArray prepared = typed.leftJustified(4 * kirvXmppLongestAddressPart, '\0');
     const bool isPrepared =
         stringprep(prepared.data(), size_t(prepared.size()), Stringprep_profile_flags(0), stringprep_xmpp_nodeprep)
         == STRINGPREP_OK;
@@ -35,7 +33,7 @@ QString normalizedUser(const QString &user)
 QString normalizedDomain(const QString &domain)
 {
     const QByteArray typed = domain.toUtf8();
-    if (typed.size() > longestPart || typed.contains('\0'))
+    if (typed.size() > kirvXmppLongestAddressPart || typed.contains('\0'))
         return domain;
     char *converted = nullptr;
     if (idna_to_ascii_8z(typed.constData(), &converted, IDNA_ALLOW_UNASSIGNED) != IDNA_SUCCESS)

@@ -2,6 +2,7 @@
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
 #include "core/values/kirv_visible_text.h"
+#include "protocols/xmpp/kirv_xmpp_address.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -16,8 +17,6 @@ const auto resourceId = QStringLiteral("resource");
 const auto priorityId = QStringLiteral("priority");
 const auto encryptionId = QStringLiteral("encryption");
 const auto certificateId = QStringLiteral("certificate");
-
-const int longestPart = 1023; // of an address, in bytes of UTF-8, as the standard has it
 
 /// Besides the "@" between its parts.
 QString charactersNeverInLogins()
@@ -196,7 +195,7 @@ QString KirvXmppSettings::loginProblem(const QString &login)
         return tr("The domain after the \"@\" is missing.");
     if (domain.split(QLatin1Char('.')).contains(QString()))
         return tr("The domain after the \"@\" is not complete.");
-    const auto isTooLong = [](const QString &part) { return part.toUtf8().size() > longestPart; };
+    const auto isTooLong = [](const QString &part) { return part.toUtf8().size() > kirvXmppLongestAddressPart; };
     return isTooLong(name) || isTooLong(domain) ? tr("The address is too long.") : QString();
 }
 

@@ -4,7 +4,7 @@
 #include "tests/support/fakes/kirv_fake_clock.h"
 #include "tests/support/kirv_look_ups.h"
 #include "tests/support/kirv_patience.h"
-#include "tests/support/servers/kirv_scripted_proxy.h"
+#include "tests/support/servers/kirv_failing_proxies.h"
 #include "tests/support/servers/kirv_scripted_xmpp_server.h"
 #include "tests/support/servers/kirv_tls_irc_server.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
@@ -13,10 +13,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
-
-Q_DECLARE_METATYPE(KirvFailure::Kind)
-Q_DECLARE_METATYPE(KirvScriptedProxy::Kind)
-Q_DECLARE_METATYPE(KirvScriptedProxy::Behaviour)
 
 using Proxy = KirvScriptedProxy;
 
@@ -288,21 +284,7 @@ void TestXmppProxy::theConfigurationsOfARegistrationKeepTheProxy()
 
 void TestXmppProxy::aFailingProxyIsNotAvoided_data()
 {
-    QTest::addColumn<Proxy::Kind>("kind");
-    QTest::addColumn<Proxy::Behaviour>("behaviour");
-    QTest::addColumn<KirvFailure::Kind>("failing");
-    for (const auto kind : { Proxy::Socks5, Proxy::Http }) {
-        const char *name = kind == Proxy::Http ? "HTTP" : "SOCKS5";
-        QTest::addRow("%s hangs up", name) << kind << Proxy::HangsUp << KirvFailure::ProxyFailed;
-        QTest::addRow("%s talks nonsense", name) << kind << Proxy::TalksNonsense << KirvFailure::ProxyFailed;
-        QTest::addRow("%s finds the server closed", name)
-            << kind << Proxy::FindsServerClosed << KirvFailure::ConnectionRefused;
-    }
-    QTest::newRow("HTTP denies") << Proxy::Http << Proxy::Denies << KirvFailure::ProxyDenied;
-    QTest::newRow("HTTP finds no server") << Proxy::Http << Proxy::FindsNoServer << KirvFailure::HostNotFound;
-    // Both are the same to Qt.
-    QTest::newRow("SOCKS5 denies") << Proxy::Socks5 << Proxy::Denies << KirvFailure::ProxyFailed;
-    QTest::newRow("SOCKS5 finds no server") << Proxy::Socks5 << Proxy::FindsNoServer << KirvFailure::ProxyFailed;
+    kirvAddFailingProxies();
 }
 
 void TestXmppProxy::aFailingProxyIsNotAvoided()
