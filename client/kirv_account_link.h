@@ -2,6 +2,7 @@
 #ifndef KIRV_ACCOUNT_LINK_H
 #define KIRV_ACCOUNT_LINK_H
 
+#include <QMetaType>
 #include <QString>
 
 class KirvAccountsTab;
@@ -20,5 +21,6 @@ struct KirvAccountLink {
     /// Runs the window for a new account over \a page, filled with the login. False when the protocol is not loaded.
     bool open(KirvAccountsTab *page) const;
 };
+Q_DECLARE_METATYPE(KirvAccountLink)
 
 #endif

@@ -117,6 +117,11 @@ bool KirvClient::isProfileDamaged() const
     return store && store->state() == KirvProfileState::Damaged;
 }
 
+bool KirvClient::isProfileInUse() const
+{
+    return store && store->state() == KirvProfileState::InUse;
+}
+
 void KirvClient::createServices()
 {
     clientSettings = std::make_unique<KirvClientSettings>(*store);
@@ -220,6 +225,28 @@ void KirvClient::openLink()
     const KirvAccountLink link = std::exchange(unopenedLink, KirvAccountLink());
     if (!link.isNull())
         open(link);
+}
+
+void KirvClient::show(const KirvAccountLink &link)
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    for (QWidget *front : { static_cast<QWidget *>(settingsWindow.get()), modal }) {
+        if (!front)
+            continue;
+        front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
+        front->show();
+        front->raise();
+        front->activateWindow();
+    }
+    if (link.isNull())
+        return;
+    if (modal)
+        showProblem(tr("The link was not opened because another window waits for an answer. Close that, and open the "
+                       "link again."));
+    else if (arePluginsLoaded())
+        open(link);
+    else
+        unopenedLink = link;
 }
 
 void KirvClient::open(const KirvAccountLink &link)

@@ -47,6 +47,8 @@ public:
     QString errorString() const { return error; }
     /// Whether start() has given false because the profile is damaged. It can be called again when that was repaired.
     bool isProfileDamaged() const;
+    /// Whether start() has given false because another running program has the profile open.
+    bool isProfileInUse() const;
 
     // What follows exists once start() has given true.
     KirvStore &profile() const { return *store; }
@@ -59,6 +61,9 @@ public:
     KirvSettingsWindow *window() const { return settingsWindow.get(); }
     KirvAccountsTab *accountsPage() const;
     KirvPluginsPage *pluginsPage() const;
+
+    /// The program was started again: brings the window to the front and opens \a link when it is not null.
+    void show(const KirvAccountLink &link);
 
 Q_SIGNALS:
     /// The profile was saved to \a folder, and the user wants to go on with that: the program is to be started anew.

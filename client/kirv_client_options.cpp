@@ -98,7 +98,7 @@ public:
         if (read->command == KirvClientOptions::Start && !others.isEmpty()) {
             read->link = KirvAccountLink::fromText(others.first());
             if (!read->link.isNull())
-                others.removeFirst();
+                read->linkText = others.takeFirst();
         }
         if (!others.isEmpty()) {
             //: %1 = a word of the command line

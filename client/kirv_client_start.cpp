@@ -5,11 +5,16 @@
 #include "client/kirv_client.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_rescue_window.h"
+#include "client/kirv_running_instance.h"
 #include "client/kirv_settings_window.h"
 
 bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status)
 {
     while (!client.start()) {
+        if (client.isProfileInUse() && KirvRunningInstance::handOver(options.profileFolder, options.linkText)) {
+            *status = KirvProfileCommand::Success;
+            return false;
+        }
         if (!client.isProfileDamaged()) {
             KirvApplication::reportFatal(client.errorString());
             *status = KirvProfileCommand::Refused;
@@ -43,6 +48,10 @@ int kirvRunClient(const KirvClientOptions &options, bool hasDisplay)
         });
         if (!kirvStartClient(client, current, hasDisplay, &status))
             return status;
+        const KirvRunningInstance instance(current.profileFolder);
+        // Queued, as the window for a new account runs an event loop of its own.
+        QObject::connect(&instance, &KirvRunningInstance::startedAgain, &client, &KirvClient::show,
+                         Qt::QueuedConnection);
         client.window()->show();
         status = KirvApplication::exec();
     }

@@ -444,7 +444,7 @@
     <message>
         <source>%1, %2</source>
         <extracomment>read aloud for a row: %1 = name of an account, %2 = its state</extracomment>
-        <translation>%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1500,7 +1500,7 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1 is the encryption, as &quot;TLSv1.3&quot;, %2 how the user has proved who he is, as &quot;SASL PLAIN&quot;</extracomment>
-        <translation>%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>not encrypted</source>
@@ -3096,7 +3096,7 @@
     <message>
         <source>%1, %2</source>
         <extracomment>%1 is the encryption, as &quot;TLSv1.3&quot;, %2 how the user has proved who he is, as &quot;SASL SCRAM-SHA-256&quot;</extracomment>
-        <translation>%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>not encrypted</source>
