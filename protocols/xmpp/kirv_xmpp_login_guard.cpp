@@ -5,6 +5,7 @@
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
 #include <QDomDocument>
+#include <QHash>
 #include <QSslSocket>
 #include <QXmppOutgoingClient.h>
 
@@ -27,15 +28,19 @@ public:
     static void setState(QAbstractSocket &socket, SocketState state) { (socket.*(&Socket::setSocketState))(state); }
 };
 
-/// The value of the attribute \a name in a message of SCRAM ("r=…,s=…,i=…").
-QByteArray attributeOf(const QByteArray &message, char name)
+/// Reads the attributes of a message of SCRAM ("r=…,s=…,i=…") by their letters. False when a letter comes twice: the
+/// library would use another value than the one that was looked at.
+bool readAttributes(const QByteArray &message, QHash<char, QByteArray> *attributes)
 {
-    const QList<QByteArray> attributes = message.split(',');
-    for (const QByteArray &attribute : attributes) {
-        if (attribute.startsWith(QByteArray(1, name) + '='))
-            return attribute.mid(2);
+    const QList<QByteArray> parts = message.split(',');
+    for (const QByteArray &part : parts) {
+        if (part.size() < 2 || part.at(1) != '=')
+            continue;
+        if (attributes->contains(part.at(0)))
+            return false;
+        attributes->insert(part.at(0), part.mid(2));
     }
-    return QByteArray();
+    return true;
 }
 
 } // namespace
@@ -73,11 +78,15 @@ KirvFailure KirvXmppLoginGuard::receiveChallenge(const QString &text)
         return KirvFailure(KirvFailure::ServiceUnavailable, tr("It asks for more than a log-in needs."));
     if (!isMutual())
         return KirvFailure();
-    const QByteArray message = QByteArray::fromBase64(text.toLatin1());
-    isProven = isProven || !attributeOf(message, 'v').isEmpty(); // the library ends the stream when it is wrong
+    QHash<char, QByteArray> attributes;
+    const bool isClear = readAttributes(QByteArray::fromBase64(text.toLatin1()), &attributes);
+    const bool hasProof = attributes.contains('v');
+    if (!isClear || (hasProof && challengeCount == 1))
+        return KirvFailure(KirvFailure::ServiceUnavailable, tr("Its part of the log-in is wrong."));
+    isProven = isProven || hasProof; // the library ends the stream when the proof of the second challenge is wrong
     const int most = chosen == QLatin1String("SCRAM-SHA-512") ? mostRoundsOfSha512 : mostRounds;
     bool isNumber = false;
-    const QByteArray rounds = attributeOf(message, 'i');
+    const QByteArray rounds = attributes.value('i');
     if (rounds.isEmpty() || (rounds.toInt(&isNumber) <= most && isNumber))
         return KirvFailure();
     return KirvFailure(KirvFailure::ServiceUnavailable,

@@ -205,6 +205,16 @@ void TestXmppHostileLogins::othersAreLeftWithASentence_data()
     scram.provesInChallenge = true;
     row("wrong proof in a challenge", scram, "part of the log-in is wrong");
     scram = Scram();
+    scram.proves = false;
+    scram.padding = ",v=AAAA";
+    row("proof in the first challenge", scram, "part of the log-in is wrong");
+    scram = Scram();
+    scram.padding = ",i=2000000";
+    row("rounds twice", scram, "part of the log-in is wrong");
+    scram = Scram();
+    scram.padding = ",s=QSXCR+Q6sek8bf92";
+    row("salt twice", scram, "part of the log-in is wrong");
+    scram = Scram();
     scram.noncePrefix = "x";
     row("answer to somebody else", scram, "part of the log-in is wrong");
     scram = Scram();
