@@ -83,6 +83,8 @@ void KirvXmppRoute::lookUpServers()
     if (security != QXmppConfiguration::TLSDisabled)
         services << true;
     lookUps = int(services.size());
+    //: %1 = a domain
+    receiveStep({ KirvLoginStep::NameLookup, KirvLoginStep::Running, tr("servers of %1").arg(configuration.domain()) });
     const int started = attempt;
     clock.callLater(lookUpTimeout, this, [this, started] {
         if (started == attempt && !isOver && lookUps > 0)
@@ -166,6 +168,7 @@ void KirvXmppRoute::watchProxy()
 
 void KirvXmppRoute::connectLink()
 {
+    connect(link, &KirvXmppLink::step, this, &KirvXmppRoute::receiveStep);
     connect(link, &KirvXmppLink::reached, this, [this] { isReached = true; });
     connect(link, &KirvXmppLink::greeted, this, [this] { isGreeted = true; });
     connect(link, &KirvXmppLink::redirected, this, &KirvXmppRoute::follow);
@@ -178,6 +181,12 @@ void KirvXmppRoute::connectLink()
         hasArrived = true;
         Q_EMIT readyToRegister(isOffered);
     });
+}
+
+void KirvXmppRoute::receiveStep(const KirvLoginStep &reported)
+{
+    lastStep = reported.kind();
+    Q_EMIT step(reported);
 }
 
 void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
@@ -208,9 +217,10 @@ void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
     const bool wasReached = isGreeted || hasArrived || !failure.isFailure();
     if (wasReached || failure.isOfProxy() || (isUnreachable(failure) && targets.isEmpty()))
         end(failure);
-    else if (isUnreachable(failure))
+    else if (isUnreachable(failure)) {
+        Q_EMIT step({ lastStep, KirvLoginStep::Failed, failure.text() });
         tryNext();
-    else
+    } else
         explainEnd(failure);
 }
 
