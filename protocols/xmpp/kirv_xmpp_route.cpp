@@ -106,9 +106,11 @@ void KirvXmppRoute::receiveRecords(bool isDirect, const QList<KirvXmppServiceRec
         tryNext();
 }
 
-/// The first time with what the records say.
-void KirvXmppRoute::tryNext()
+/// The first time with what the records say; then after the \a failure of the present server.
+void KirvXmppRoute::tryNext(const KirvFailure &failure)
 {
+    if (failure.isFailure())
+        receiveStep({ lastStep, KirvLoginStep::Failed, failure.text() });
     if (attempt == 0) {
         targets = kirvXmppTargets(ordinaryRecords, directRecords, randomUpTo);
         const bool isDirect = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
@@ -207,6 +209,8 @@ void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
     }
     if (wasEncrypted && configuration.streamSecurityMode() == QXmppConfiguration::TLSEnabled)
         configuration.setStreamSecurityMode(QXmppConfiguration::TLSRequired);
+    //: %1 = a server
+    receiveStep({ lastStep, KirvLoginStep::Done, tr("the server refers to %1").arg(host) });
     targets.clear();
     const int ordinary = target.isDirect ? KirvXmppSettings::directPort : KirvXmppSettings::defaultPort;
     start({ host, port > 0 ? port : ordinary, target.isDirect });
@@ -217,10 +221,9 @@ void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
     const bool wasReached = isGreeted || hasArrived || !failure.isFailure();
     if (wasReached || failure.isOfProxy() || (isUnreachable(failure) && targets.isEmpty()))
         end(failure);
-    else if (isUnreachable(failure)) {
-        Q_EMIT step({ lastStep, KirvLoginStep::Failed, failure.text() });
-        tryNext();
-    } else
+    else if (isUnreachable(failure))
+        tryNext(failure);
+    else
         explainEnd(failure);
 }
 
@@ -228,7 +231,7 @@ void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
 void KirvXmppRoute::receiveSilence()
 {
     if (!targets.isEmpty()) {
-        tryNext();
+        tryNext(KirvFailure(KirvFailure::TimedOut, target.host));
         return;
     }
     if (!mayBeLocal)
@@ -254,7 +257,7 @@ void KirvXmppRoute::explainEnd(const KirvFailure &failure)
         if (started != attempt || isOver)
             return;
         if (!targets.isEmpty())
-            tryNext();
+            tryNext(failure);
         else
             end(isOther ? otherStart() : failure);
     };

@@ -48,7 +48,7 @@ private:
     void findProxyOfDomain();
     void lookUpServers();
     void receiveRecords(bool isDirect, const QList<KirvXmppServiceRecord> &records);
-    void tryNext();
+    void tryNext(const KirvFailure &failure = KirvFailure());
     void start(const KirvXmppTarget &target);
     void openLink(const QNetworkProxy &found);
     void watchProxy();
