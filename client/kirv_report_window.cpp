@@ -51,6 +51,7 @@ void KirvReportWindow::arrange()
 {
     auto *introduction = new QLabel(tr("Passwords are left out. Read the report before you give it to anybody."), this);
     introduction->setObjectName(QStringLiteral("Report_Introduction"));
+    introduction->setTextFormat(Qt::PlainText);
     introduction->setWordWrap(true);
     auto *copy = new QPushButton(tr("&Copy"), this);
     copy->setObjectName(QStringLiteral("Report_Copy"));
