@@ -4,6 +4,7 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_account_group.h"
+#include "client/kirv_account_help.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_order.h"
 #include "client/kirv_account_rows.h"
@@ -194,6 +195,7 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     addEditing(menu, account);
     menu->addSeparator();
     addConnecting(menu, account);
+    addHelp(menu, account);
     menu->addSeparator();
     addMoving(menu, account);
     addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
@@ -239,6 +241,15 @@ void KirvAccountCommands::addConnecting(QMenu *menu, KirvAccount *account)
         addPresences(menu, account);
     if (KirvAccountActionsMenu::isUseful(account->key(), environment.serverCommands))
         menu->addMenu(new KirvAccountActionsMenu(account->key(), environment.serverCommands, list->window(), menu));
+}
+
+void KirvAccountCommands::addHelp(QMenu *menu, KirvAccount *account)
+{
+    KirvAccountHelp *help = &environment.help;
+    addCommand(menu, "Accounts_TestAction", tr("&Test Log-In"), account, [help, account] {
+        help->testLogin(account);
+    })->setEnabled(KirvAccountStatus(*account, false).canTestLogin());
+    addCommand(menu, "Accounts_LogAction", tr("L&og"), account, [help, account] { help->showLog(account); });
 }
 
 void KirvAccountCommands::addPresences(QMenu *menu, KirvAccount *account)

@@ -9,6 +9,7 @@
 class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountGroup;
+class KirvAccountHelp;
 class KirvAccountOrder;
 class KirvAccountRows;
 class KirvAccountUndo;
@@ -37,6 +38,7 @@ public:
         KirvAccountUndo &undo;
         KirvAccountGroup &group;
         KirvAccountOrder &order;
+        KirvAccountHelp &help;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.
@@ -54,6 +56,7 @@ private:
     void openMenuOfCurrentRow();
     void openMenu(const KirvAccountKey &key, const QPoint &position);
     void addEditing(QMenu *menu, KirvAccount *account);
+    void addHelp(QMenu *menu, KirvAccount *account);
     void addConnecting(QMenu *menu, KirvAccount *account);
     void addPresences(QMenu *menu, KirvAccount *account);
     void openGeneralMenu(const QPoint &position);

@@ -270,3 +270,13 @@ bool KirvAccountStatus::canEnterPassword() const
 {
     return canReconnect();
 }
+
+bool KirvAccountStatus::canTestLogin() const
+{
+    return account.isLoaded();
+}
+
+bool KirvAccountStatus::canBeWrong() const
+{
+    return canTestLogin() && stateKind != Connected;
+}

@@ -42,6 +42,9 @@ public:
     bool canEdit() const;
     bool canReconnect() const;
     bool canEnterPassword() const;
+    bool canTestLogin() const;
+    /// Whether there may be something wrong with the log-in.
+    bool canBeWrong() const;
 
 private:
     static Kind kindOf(const KirvAccount &account);

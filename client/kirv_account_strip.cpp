@@ -2,6 +2,7 @@
 #include "client/kirv_account_strip.h"
 
 #include "client/kirv_account_status.h"
+#include "client/kirv_button_flow.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_state_shape.h"
 #include "core/accounts/kirv_account.h"
@@ -9,7 +10,6 @@
 
 #include <QEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -26,6 +26,10 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
     , icon(new QLabel(this))
     , title(new QLabel(this))
     , reason(new QTextEdit(this))
+    , logButton(createButton("Accounts_LogButton", tr("Log"), tr("Shows what happened to the account's connection.")))
+    , testButton(createButton("Accounts_TestButton", tr("What Is Wrong?"),
+                              tr("Tries each step of the log-in with what is stored, beside the account's own "
+                                 "connection.")))
     , passwordButton(createButton("Accounts_PasswordButton", tr("Enter Password…"),
                                   tr("Takes another password and logs the account in with it.")))
     , reconnectButton(
@@ -58,6 +62,8 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
     reason->document()->setDocumentMargin(0);
     reason->viewport()->setAutoFillBackground(false);
 
+    connect(logButton, &QPushButton::clicked, this, &KirvAccountStrip::logRequested);
+    connect(testButton, &QPushButton::clicked, this, &KirvAccountStrip::testRequested);
     connect(passwordButton, &QPushButton::clicked, this, &KirvAccountStrip::passwordRequested);
     connect(reconnectButton, &QPushButton::clicked, this, &KirvAccountStrip::reconnectionRequested);
     connect(editButton, &QPushButton::clicked, this, &KirvAccountStrip::editRequested);
@@ -76,17 +82,19 @@ QPushButton *KirvAccountStrip::createButton(const char *name, const QString &tex
 
 void KirvAccountStrip::arrange()
 {
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(passwordButton);
-    buttons->addWidget(reconnectButton);
-    buttons->addWidget(editButton);
+    auto *buttons = new KirvButtonFlow(this);
+    buttons->setObjectName(QStringLiteral("Accounts_StripButtons"));
+    // The context menu has these, too.
+    buttons->addSpareAtEnd(logButton);
+    buttons->addSpareAtEnd(testButton);
+    for (QPushButton *button : { passwordButton, reconnectButton, editButton })
+        buttons->addAtEnd(button);
     auto *layout = new QGridLayout(this);
     layout->setColumnStretch(1, 1);
     layout->addWidget(icon, 0, 0);
     layout->addWidget(title, 0, 1);
     layout->addWidget(reason, 1, 1);
-    layout->addLayout(buttons, 2, 0, 1, 2);
+    layout->addWidget(buttons, 2, 0, 1, 2);
 }
 
 void KirvAccountStrip::fixHeight()
@@ -111,10 +119,14 @@ void KirvAccountStrip::chooseMnemonics()
     passwordButton->setText(kirvWithMnemonic(tr("Enter Password…"), &taken));
     reconnectButton->setText(kirvWithMnemonic(tr("Reconnect"), &taken));
     editButton->setText(kirvWithMnemonic(tr("Edit…"), &taken));
+    testButton->setText(kirvWithMnemonic(tr("What Is Wrong?"), &taken));
+    logButton->setText(kirvWithMnemonic(tr("Log"), &taken));
 }
 
 void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
 {
+    logButton->setEnabled(account);
+    testButton->setEnabled(account && KirvAccountStatus(*account, isMain).canBeWrong());
     passwordButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEnterPassword());
     reconnectButton->setEnabled(account && KirvAccountStatus(*account, isMain).canReconnect());
     editButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEdit());
@@ -135,7 +147,7 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
 
 void KirvAccountStrip::showSeveral(int count)
 {
-    for (QPushButton *button : { passwordButton, reconnectButton, editButton })
+    for (QPushButton *button : { logButton, testButton, passwordButton, reconnectButton, editButton })
         button->setEnabled(false);
     showNone(tr("%n accounts are selected.", nullptr, count),
              tr("They can be enabled, disabled and removed with the context menu."));

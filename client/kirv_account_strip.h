@@ -10,7 +10,8 @@ class QPushButton;
 class QTextEdit;
 
 /// Says of one account why it is in its state and what can be done. Its height depends on the window only, and its
-/// buttons stay where they are: what cannot be done is disabled.
+/// buttons stay where they are, in one row or, where that is too narrow, in several or without those that the
+/// context menu has, too: what cannot be done is disabled.
 class KirvAccountStrip : public QFrame {
     Q_OBJECT
 
@@ -25,6 +26,8 @@ public:
     void chooseMnemonics();
 
 Q_SIGNALS:
+    void logRequested();
+    void testRequested();
     void passwordRequested();
     void reconnectionRequested();
     void editRequested();
@@ -42,6 +45,8 @@ private:
     QLabel *icon;
     QLabel *title;
     QTextEdit *reason;
+    QPushButton *logButton;
+    QPushButton *testButton;
     QPushButton *passwordButton;
     QPushButton *reconnectButton;
     QPushButton *editButton;

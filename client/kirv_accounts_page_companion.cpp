@@ -4,6 +4,7 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_commands.h"
 #include "client/kirv_account_group.h"
+#include "client/kirv_account_help.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
 #include "client/kirv_account_order.h"
@@ -58,7 +59,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environ
     , invitation(new KirvAccountInvitation)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
-    addWidgets(top);
+    addWidgets(top, environment.help);
     addCommands(top, environment);
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
@@ -88,7 +89,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environ
 
 KirvAccountsPageCompanion::~KirvAccountsPageCompanion() = default;
 
-void KirvAccountsPageCompanion::addWidgets(QWidget *top)
+void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
 {
     auto *frame = new KirvAccountListFrame(list);
     frame->addAbove(searchBar);
@@ -97,7 +98,7 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top)
     strip->chooseMnemonics();
     invitation->chooseMnemonics();
     invitation->hide();
-    connectStrip();
+    connectStrip(help);
     connect(invitation, &KirvAccountInvitation::registrationRequested, this, [] {
         KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("register_account"), QList<KirvArg>());
     });
@@ -121,9 +122,9 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
     aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
     auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
     auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
-    auto *commands = new KirvAccountCommands(
-        { accounts, *rows, environment.serverCommands, environment.mainAccount, environment.undo, *group, *order },
-        aliasEditor, top, list);
+    auto *commands = new KirvAccountCommands({ accounts, *rows, environment.serverCommands, environment.mainAccount,
+                                               environment.undo, *group, *order, environment.help },
+                                             aliasEditor, top, list);
     connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
 }
 
@@ -165,7 +166,7 @@ void KirvAccountsPageCompanion::invite()
         list->setFocus(Qt::OtherFocusReason);
 }
 
-void KirvAccountsPageCompanion::connectStrip()
+void KirvAccountsPageCompanion::connectStrip(KirvAccountHelp &help)
 {
     // The selection model's signals come also while those of the list are blocked.
     connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -176,6 +177,8 @@ void KirvAccountsPageCompanion::connectStrip()
         if (account == currentAccount())
             refreshStripLater();
     });
+    connect(strip, &KirvAccountStrip::logRequested, &help, [this, &help] { help.showLog(currentAccount()); });
+    connect(strip, &KirvAccountStrip::testRequested, &help, [this, &help] { help.testLogin(currentAccount()); });
     connect(strip, &KirvAccountStrip::passwordRequested, this, [this] {
         if (KirvAccount *account = currentAccount())
             emit passwordRequested(account);

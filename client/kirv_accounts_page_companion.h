@@ -11,6 +11,7 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountHelp;
 class KirvAccountInvitation;
 class KirvAccountRows;
 class KirvAccountRowStates;
@@ -42,6 +43,7 @@ public:
         KirvMainAccount &mainAccount;
         KirvAccountUndo &undo;
         KirvClientSettings &settings;
+        KirvAccountHelp &help;
     };
 
     /// \a top was just built for the page.
@@ -76,9 +78,9 @@ private:
         int scrollValue;
     };
 
-    void addWidgets(QWidget *top);
+    void addWidgets(QWidget *top, KirvAccountHelp &help);
     void addCommands(QWidget *top, const Environment &environment);
-    void connectStrip();
+    void connectStrip(KirvAccountHelp &help);
     void invite();
     void selectNewRow(const KirvAccountKey &key);
     void refreshStripLater();

@@ -3,7 +3,9 @@
 
 #include "add_account/kirv_add_account_dialog.h"
 #include "client/kirv_advanced_section.h"
+#include "client/kirv_button_flow.h"
 #include "client/kirv_login_line.h"
+#include "client/kirv_login_test_view.h"
 #include "client/kirv_remember_box.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/protocol/kirv_protocol_base.h"
@@ -60,6 +62,7 @@ void KirvAddWindowCompanion::aboutToShow()
     setUpLogin();
     setUpSettings();
     setUpSaving();
+    setUpTest();
     updateSaving();
     fitHeight();
     // What the style makes higher is known when the window is visible.
@@ -81,6 +84,7 @@ void KirvAddWindowCompanion::setUpLogin()
     if (auto *box = window()->findChild<QCheckBox *>(QStringLiteral("AddAccount_RememberPasswordCheckbox")))
         new KirvRememberBox(box, accounts.secrets(), KirvRememberBox::OffWhenUnsafe);
     connect(loginLine, &KirvLoginLine::problemChanged, this, &KirvAddWindowCompanion::growToFit);
+    connect(loginLine, &KirvLoginLine::problemChanged, this, &KirvAddWindowCompanion::updateTest);
     connect(loginEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
     connect(passwordEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
 }
@@ -116,6 +120,42 @@ void KirvAddWindowCompanion::setUpSaving()
     saveHint->setTextFormat(Qt::PlainText);
     saveHint->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     column->insertWidget(column->indexOf(buttons), saveHint);
+}
+
+/// The buttons of the test stand in the row of the others.
+void KirvAddWindowCompanion::setUpTest()
+{
+    QDialogButtonBox *buttons = buttonsOf(window());
+    auto *column = qobject_cast<QBoxLayout *>(window()->layout());
+    const int row = column ? column->indexOf(buttons) : -1;
+    if (row < 0)
+        return;
+    test = new KirvLoginTestView(
+        *base, [this] { return typedLogin(); }, QStringLiteral("AddAccount"), window());
+    auto *flow = new KirvButtonFlow(window());
+    flow->setObjectName(QStringLiteral("AddAccount_Buttons"));
+    column->insertWidget(row, flow);
+    flow->addAtBeginning(test->runButton());
+    flow->addAtBeginning(test->copyButton());
+    flow->addAtEnd(buttons);
+    column->insertWidget(saveHint ? column->indexOf(saveHint) : row, test);
+    test->chooseMnemonics();
+    connect(test, &KirvLoginTestView::stepsChanged, this, &KirvAddWindowCompanion::growToFit);
+    connect(window(), &QDialog::finished, test, &KirvLoginTestView::cancel);
+}
+
+KirvLogin KirvAddWindowCompanion::typedLogin() const
+{
+    return { loginEdit->text(), passwordEdit->text(), settings ? settings->getFields() : QList<KirvField>() };
+}
+
+/// An account that exists already can be tested, too.
+void KirvAddWindowCompanion::updateTest()
+{
+    if (!test)
+        return;
+    const QString login = loginEdit->text();
+    test->setProblem(login.isEmpty() ? tr("The login is missing.") : base->loginProblem(login));
 }
 
 /// The form of the settings is a new one. Settings that differ from those of any new account, or that must be filled
@@ -154,6 +194,7 @@ void KirvAddWindowCompanion::updateSaving()
 {
     if (!saveWithoutPassword) // not built yet
         return;
+    updateTest();
     const bool hasLogin = !loginEdit->text().isEmpty(), hasPassword = !passwordEdit->text().isEmpty();
     const bool canDoWithout = hasLogin && !hasPassword
         && !base->needsPassword(loginEdit->text(), settings ? settings->getFields() : QList<KirvField>());
@@ -173,6 +214,8 @@ void KirvAddWindowCompanion::updateSaving()
 
 void KirvAddWindowCompanion::close()
 {
+    if (test)
+        test->cancel();
     const auto boxes = window()->findChildren<QDialog *>();
     for (QDialog *box : boxes)
         box->close();

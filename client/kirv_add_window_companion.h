@@ -11,15 +11,17 @@ class KirvAccountCollection;
 class KirvAddAccountDialog;
 class KirvAdvancedSection;
 class KirvFieldWidget;
+struct KirvLogin;
 class KirvLoginLine;
+class KirvLoginTestView;
 class KirvProtocolBase;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// What the client adds to an add window: its settings are below "Advanced", it says what is wrong with the login and
-/// why it cannot be saved yet, it ends with its protocol, and its message about a refused account says the true reason.
-/// Owned by the window.
+/// What the client adds to an add window: its settings are below "Advanced", it tests the log-in, it says what is wrong
+/// with the login and why it cannot be saved yet, it ends with its protocol, and its message about a refused account
+/// says the true reason. Owned by the window.
 class KirvAddWindowCompanion : public KirvWindowCompanion {
     Q_OBJECT
 
@@ -41,10 +43,13 @@ private:
     void setUpLogin();
     void setUpSettings();
     void setUpSaving();
+    void setUpTest();
     void takeNewSettings();
     void fitHeight();
     void growToFit();
     void updateSaving();
+    void updateTest();
+    KirvLogin typedLogin() const;
     void correctMessage(const KirvAccountKey &key, const QString &reason);
 
     const KirvAccountCollection &accounts;
@@ -56,6 +61,7 @@ private:
     KirvFieldWidget *settings = nullptr; ///< null when the protocol has none
     KirvAdvancedSection *advanced = nullptr; ///< null where the layout has no place for it
     QLabel *saveHint = nullptr; ///< null where the layout has no place for it
+    KirvLoginTestView *test = nullptr; ///< null where the layout has no place for it
     QPushButton *saveWithoutPassword = nullptr;
     bool isAdding = false; ///< while the click on Save leads to what it leads to
 };

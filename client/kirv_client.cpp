@@ -2,6 +2,7 @@
 #include "client/kirv_client.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_help.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
@@ -151,8 +152,9 @@ void KirvClient::createWindow()
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
     auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
+    auto *help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
     companions = new KirvWindowCompanions(
-        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings },
+        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help },
         settingsWindow.get());
     connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
     page = KirvAccountsTab::getInstance();
@@ -168,6 +170,7 @@ void KirvClient::createWindow()
     showProblem(store->copyError());
 
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
+    connect(pluginList, &KirvPluginsPage::reportRequested, help, [help] { help->showReport(); });
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,

@@ -82,6 +82,11 @@ void KirvPluginsPage::arrange(QLabel *place)
     buttons->addWidget(loadButton);
     buttons->addWidget(unloadButton);
     buttons->addStretch();
+    auto *report = new QPushButton(tr("&Report…"), this);
+    report->setObjectName(QStringLiteral("Plugins_ReportButton"));
+    report->setToolTip(tr("Puts versions, plug-ins and the states of the accounts together for somebody who helps."));
+    connect(report, &QPushButton::clicked, this, &KirvPluginsPage::reportRequested);
+    buttons->addWidget(report);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(list, 1);

@@ -24,6 +24,10 @@ public:
     /// The state of a plug-in in words.
     static QString stateText(const KirvPluginInfo &plugin);
 
+Q_SIGNALS:
+    /// The user wants a report about the program and its accounts.
+    void reportRequested();
+
 private:
     void createList();
     void createDetails();

@@ -2,6 +2,7 @@
 #include "client/kirv_window_companions.h"
 
 #include "add_account/kirv_add_account_dialog.h"
+#include "client/kirv_account_help.h"
 #include "client/kirv_add_window_companion.h"
 #include "client/kirv_edit_window_companion.h"
 #include "client/kirv_link_target.h"
@@ -32,6 +33,7 @@ bool KirvWindowCompanions::takeRefusal(const KirvAccountKey &key, const QString 
 
 void KirvWindowCompanions::closeWindowsOf(const QString &protocol)
 {
+    environment.help.closeWindowsOf(protocol);
     const auto openEditWindows = editWindows;
     for (const auto &companion : openEditWindows) {
         if (companion && companion->key().protocol == protocol)

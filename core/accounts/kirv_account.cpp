@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account.h"
 
+#include "core/accounts/kirv_account_log.h"
 #include "core/accounts/kirv_secret_keeper.h"
 #include "core/protocol/kirv_plugin_call.h"
 #include "core/store/kirv_store.h"
@@ -33,6 +34,8 @@ KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvSecretKee
 {
     refreshDescription();
     keeper.add(this);
+    connect(&reconciler, &KirvReconciler::stepTaken, this,
+            [this](KirvReconciler::Step step) { log().addAction(step); });
     connect(&reconciler, &KirvReconciler::settled, &entry, &KirvAccountDirectory::connectionSettled);
     connect(
         &entry, &KirvAccountDirectory::answered, this,
@@ -408,6 +411,7 @@ void KirvAccount::leave()
 
 void KirvAccount::connectConnection(KirvConnection *created)
 {
+    connectLog(created);
     connect(created, &KirvConnection::stateChanged, this, &KirvAccount::onStateChanged);
     connect(created, &KirvConnection::failed, this, &KirvAccount::onFailed);
     connect(created, &KirvConnection::avatarPublished, this, &KirvAccount::onAvatarPublished);

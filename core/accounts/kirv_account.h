@@ -17,6 +17,8 @@
 #include <functional>
 #include <optional>
 
+class KirvAccountLog;
+class KirvSecretBlank;
 class KirvSecretKeeper;
 class KirvStore;
 
@@ -100,6 +102,11 @@ public:
     KirvFailure lastFailure() const { return failure; }
     QDateTime lastFailureTime() const { return failureTime; }
 
+    /// What happened to the connection in this run, without secrets. Owned by the account; made when it is needed.
+    KirvAccountLog &log();
+    /// Takes the secrets of the account, as far as they are known, out of texts.
+    KirvSecretBlank secretBlank() const;
+
     // For the keeper of the secrets. Each secret has the id of its field, the password the empty one.
 
     void secretRead(const QString &field, const QString &value);
@@ -149,6 +156,8 @@ private:
     KirvAvatar avatar() const;
     bool takeAvatar(const QString &imported, const std::function<void(KirvAccountRecord &)> &alsoChange);
     void connectConnection(KirvConnection *connection);
+    void connectLog(KirvConnection *connection);
+    void logState(KirvConnection::State state);
     bool dropConnection();
     void onStateChanged(KirvConnection::State state);
     void onFailed(const KirvFailure &failed);
@@ -175,6 +184,7 @@ private:
     QSet<QString> awaited; ///< fields of secrets that are in the keyring and not known yet, or not any more
     bool mayLogIn = true;
     bool removed = false;
+    KirvAccountLog *eventLog = nullptr; ///< owned; null: empty
     KirvFailure failure;
     QDateTime failureTime;
 

@@ -129,6 +129,8 @@ void KirvReconciler::reconcile()
 
 void KirvReconciler::take(Step step, const Wanted &now, Urge followed)
 {
+    if (step != Nothing)
+        Q_EMIT stepTaken(step);
     switch (step) {
     case LogIn:
         // A session that is interrupted comes back before accounts that were not there yet.

@@ -59,6 +59,8 @@ public:
     static Step nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge);
 
 Q_SIGNALS:
+    /// \a step is about to be taken; it is not Nothing. A slot changes nothing.
+    void stepTaken(KirvReconciler::Step step);
     /// The connection uses what is wanted; or it gave up, or waits.
     void settled();
 

@@ -83,6 +83,7 @@ void KirvConnection::Private::begin()
         return;
     inThisState(timing.loginTimeout, [this] { fail(KirvFailure::TimedOut); });
     applied = wanted;
+    lastStep.reset();
     callProtocol([this] { connection->startLogin(wanted); }, [this](const KirvFailure &failure) { fail(failure); });
 }
 
@@ -138,6 +139,7 @@ void KirvConnection::Private::fail(const KirvFailure &reported)
 {
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a slot may destroy what it belongs to
     const KirvFailure failure = reported;
+    failStep(failure);
     if (!abort())
         return;
     lastFailure = failure;
@@ -408,6 +410,7 @@ void KirvConnection::loginSucceeded()
 {
     if (!d->accepts(Connecting))
         return;
+    d->finishSteps();
     d->lastFailure = KirvFailure();
     if (d->enter(Online) && !isSame(d->applied, d->wanted))
         changePresence(d->wanted);

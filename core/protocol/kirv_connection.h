@@ -6,6 +6,7 @@
 #include "core/protocol/kirv_back_off.h"
 #include "core/protocol/kirv_directory_answer.h"
 #include "core/protocol/kirv_login.h"
+#include "core/protocol/kirv_login_step.h"
 #include "core/values/kirv_clock.h"
 #include "core/values/kirv_failure.h"
 #include "host/kirv_presence.h"
@@ -116,6 +117,10 @@ public:
 
 Q_SIGNALS:
     void stateChanged(KirvConnection::State state);
+    /// A step of the log-in has begun or ended; emitted in the state Connecting. The last one of an attempt is the
+    /// log-in when that is done, or the step that failed. A slot of this signal neither changes nor destroys the
+    /// connection, whose protocol is in the middle of what it reports.
+    void loginStep(const KirvLoginStep &step);
     /// The wait for the next attempt has become one for its turn; the state stays Waiting.
     void turnAwaited();
     /// A log-in, the connection or a request without an answer of its own failed.
@@ -159,6 +164,10 @@ protected:
     /// Ends a log-in, too; a connection lost while logging out is logged out.
     void connectionLost(const KirvFailure &failure);
     void logoutFinished();
+    /// Reports how far the log-in is, before loginSucceeded(). A step that begins is Running, with what is known of it;
+    /// then it is Done. Whatever runs when the log-in fails is reported as failed by loginFailed(), connectionLost()
+    /// and the time-out. Without any report the log-in is the only step.
+    void reportStep(const KirvLoginStep &step);
     /// Reports a failed request that has no answer of its own; the state stays.
     void requestFailed(const KirvFailure &failure);
 

@@ -5,6 +5,7 @@
 #include "core/protocol/kirv_connection.h"
 
 #include <functional>
+#include <optional>
 
 /// The state machine behind a connection.
 class KirvConnection::Private {
@@ -30,6 +31,10 @@ public:
     void waitAndRetry();
     bool accepts(State expected) const { return state == expected && !aborting; }
 
+    void emitStep(const KirvLoginStep &step);
+    void failStep(const KirvFailure &failure);
+    void finishSteps();
+
     bool callWith(bool &flag, const std::function<void()> &call);
     void callProtocol(const std::function<void()> &call, const std::function<void(const KirvFailure &)> &onException);
     int startRequest(const std::function<void(int)> &start);
@@ -53,6 +58,7 @@ public:
     std::function<bool()> mayBegin; ///< null: always
     bool waitsForTurn = false;
     bool aborting = false; ///< reports of the protocol are ignored meanwhile
+    std::optional<KirvLoginStep> lastStep; ///< of this attempt
     bool comesBack = false; ///< the log-out is followed by a log-in
 
     int lastRequest = 0;

@@ -48,6 +48,16 @@ QList<KirvField> KirvProtocolBase::directoryFields() const
     return {};
 }
 
+QList<KirvField> KirvProtocolBase::settingsForTest(const QList<KirvField> &settings) const
+{
+    return settings;
+}
+
+QStringList KirvProtocolBase::components() const
+{
+    return {};
+}
+
 void KirvProtocolBase::handleCoreSignal(const QString &, const QList<KirvArg> &) { }
 
 bool KirvProtocolBase::offersRegistration() const

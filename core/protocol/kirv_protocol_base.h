@@ -8,6 +8,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QStringList>
 
 class KirvConnection;
 class KirvServerRequest;
@@ -56,6 +57,13 @@ public:
     virtual QList<KirvField> directoryFields() const;
     /// A new, off-line connection; the caller owns it. Null when none can be made.
     virtual KirvConnection *createConnection() = 0;
+
+    /// The \a settings for a log-in that only finds out whether it works, beside a session of the same account that is
+    /// not to be disturbed. The default is \a settings.
+    virtual QList<KirvField> settingsForTest(const QList<KirvField> &settings) const;
+    /// What the plug-in consists of, each with its version, as "XMPP plug-in 1.0" and "QXmpp 1.4.0", for reports about
+    /// problems. The default is empty.
+    virtual QStringList components() const;
 
     /// A core signal was broadcast; protocols act on the names they know. The default does nothing.
     virtual void handleCoreSignal(const QString &name, const QList<KirvArg> &args);

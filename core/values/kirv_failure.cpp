@@ -1,39 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/values/kirv_failure.h"
 
-#include <algorithm>
+#include "core/values/kirv_single_line.h"
 
 namespace {
 
 constexpr int longestDetail = 300;
 
-/// Characters that would break the line or turn the direction of the sentence around the detail.
-bool isLayoutControl(QChar character)
-{
-    const ushort code = character.unicode();
-    const bool turnsDirection = (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
-    return turnsDirection || character.category() == QChar::Other_Control;
-}
-
-/// \a text in one line of bearable length.
-QString toLine(const QString &text)
-{
-    QString line = text.left(4 * longestDetail);
-    std::replace_if(line.begin(), line.end(), isLayoutControl, QLatin1Char(' '));
-    line = line.simplified();
-    if (line.size() <= longestDetail)
-        return line;
-    line.truncate(longestDetail - 1);
-    if (line.at(line.size() - 1).isHighSurrogate())
-        line.chop(1);
-    return line + QChar(0x2026);
-}
-
 } // namespace
 
 KirvFailure::KirvFailure(Kind kind, const QString &detail)
     : failureKind(kind)
-    , failureDetail(toLine(detail))
+    , failureDetail(kirvSingleLine(detail, longestDetail))
 {
 }
 

@@ -21,6 +21,7 @@ void KirvExampleConnection::startLogin(const KirvPresence &)
         return;
     }
     session = std::make_unique<QObject>();
+    reportStep({ KirvLoginStep::LogIn, KirvLoginStep::Running, tr("a server inside the program") });
     replyLater([this, password] {
         if (password == QLatin1String("wrong"))
             loginFailed(KirvFailure::WrongPassword);

@@ -5,6 +5,7 @@
 #include "protocols/irc/kirv_irc_sasl.h"
 #include "protocols/irc/kirv_irc_socket.h"
 #include "protocols/irc/kirv_irc_text.h"
+#include "protocols/tls/kirv_socket_steps.h"
 
 #include <Irc>
 #include <IrcCommand>
@@ -118,6 +119,10 @@ void KirvIrcConnection::openThroughProxy(QAbstractSocket *transport)
         transport->setProxy(proxy);
         if (proxy.type() != QNetworkProxy::NoProxy)
             clock().callLater(KirvProxy::patience, transport, timeOut);
+        auto *steps = new KirvSocketSteps(*transport, transport);
+        connect(steps, &KirvSocketSteps::step, this, &KirvIrcConnection::reportStep);
+        steps->begin(settings.server, settings.port, proxy,
+                     settings.encrypted ? KirvSocketSteps::Wanted : KirvSocketSteps::None);
         openLink(qobject_cast<QSslSocket *>(transport));
     };
     kirvFindProxy(settings.proxy.toNetworkProxy(), settings.server, settings.port, clock(), transport, receive);
@@ -234,6 +239,7 @@ void KirvIrcConnection::finishLogin(const KirvPresence &presence)
         return failAuthentication(KirvFailure::AuthenticationNotOffered);
     if (sasl)
         saslServer = settings.server;
+    reportStep({ KirvLoginStep::LogIn, KirvLoginStep::Done, proofText() });
     applyPresence(presence);
     connect(link.data(), &IrcConnection::nickNameChanged, this, &KirvIrcConnection::announceNick);
     watchServer();
@@ -379,17 +385,21 @@ void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
     }
 }
 
+/// How the user has proved who he is.
+QString KirvIrcConnection::proofText() const
+{
+    if (sasl)
+        return QLatin1String("SASL ") + sasl->mechanismName();
+    return settings.passwordUse == KirvIrcSettings::ForServer ? tr("password of the server") : tr("no password");
+}
+
 QString KirvIrcConnection::securityText() const
 {
     if (state() != Online)
         return QString();
     const QString encryption = socket->encryptionName();
-    QString proof =
-        settings.passwordUse == KirvIrcSettings::ForServer ? tr("password of the server") : tr("no password");
-    if (sasl)
-        proof = QLatin1String("SASL ") + sasl->mechanismName();
     //: %1 is the encryption, as "TLSv1.3", %2 how the user has proved who he is, as "SASL PLAIN"
-    return tr("%1, %2").arg(encryption.isEmpty() ? tr("not encrypted") : encryption, proof);
+    return tr("%1, %2").arg(encryption.isEmpty() ? tr("not encrypted") : encryption, proofText());
 }
 
 void KirvIrcConnection::startLogout()

@@ -53,6 +53,7 @@ private:
     void prepareAuthentication();
 
     void finishLogin(const KirvPresence &presence);
+    QString proofText() const;
     void failAuthentication(const KirvFailure &failure);
     void announceNick();
     void receiveNumeric(IrcNumericMessage *message);

@@ -5,6 +5,8 @@
 #include "protocols/irc/kirv_irc_settings.h"
 #include "protocols/tls/kirv_system_certificates.h"
 
+#include <Irc>
+
 static void initializeResources()
 {
     Q_INIT_RESOURCE(kirv_irc); // a static library's resources are left out unless they are referred to
@@ -79,6 +81,11 @@ QList<KirvPresence> KirvIrcProtocol::presences() const
 QList<KirvField> KirvIrcProtocol::accountSettings() const
 {
     return KirvIrcSettings::defaultFields();
+}
+
+QStringList KirvIrcProtocol::components() const
+{
+    return { QStringLiteral("IRC plug-in " KIRV_VERSION), QLatin1String("libcommuni ") + Irc::version() };
 }
 
 KirvConnection *KirvIrcProtocol::createConnection()

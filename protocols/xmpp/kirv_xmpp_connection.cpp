@@ -64,12 +64,15 @@ void KirvXmppConnection::connectLink()
     link.reset(createLink(KirvXmppLink::LogIn, clock(), timing().requestTimeout));
     directory.reset(new KirvXmppDirectory(*link));
     picture.reset(new KirvXmppAvatar(*link, *directory));
+    connect(link.data(), &KirvXmppLink::step, this, &KirvXmppConnection::reportStep);
     connect(link.data(), &KirvXmppLink::loggedIn, this, &KirvXmppConnection::finishLogin);
     connect(link.data(), &KirvXmppLink::ended, this, &KirvXmppConnection::receiveEnd);
 }
 
 void KirvXmppConnection::finishLogin()
 {
+    const QString proof = link->mechanism();
+    reportStep({ KirvLoginStep::LogIn, KirvLoginStep::Done, proof.isEmpty() ? proof : QLatin1String("SASL ") + proof });
     const KirvAvatar own = avatar();
     picture->synchronize(own, [=](const KirvXmppAvatar::Result &result) { finishAvatar(own, result); });
     loginSucceeded();

@@ -2,6 +2,7 @@
 #ifndef KIRV_XMPP_LINK_H
 #define KIRV_XMPP_LINK_H
 
+#include "core/protocol/kirv_login_step.h"
 #include "core/values/kirv_clock.h"
 #include "core/values/kirv_failure.h"
 
@@ -56,6 +57,9 @@ public:
     /// the log-in and when that is not known.
     virtual QString securityText() const { return QString(); }
 
+    /// How the account proves who it is, as "SCRAM-SHA-256"; empty before that is chosen.
+    virtual QString mechanism() const { return QString(); }
+
     /// Sends a presence; an unavailable one hides the session and keeps it.
     virtual void sendPresence(const QXmppPresence &presence) = 0;
     using Receiver = std::function<void(const KirvXmppReply &)>;
@@ -65,6 +69,8 @@ public:
                              const QString &to) = 0;
 
 Q_SIGNALS:
+    /// How far the log-in is, see KirvConnection::reportStep().
+    void step(const KirvLoginStep &step);
     /// There is a connection to the server, through the proxy where there is one.
     void reached();
     /// The server has begun to speak: it has said what it offers. May be emitted several times.

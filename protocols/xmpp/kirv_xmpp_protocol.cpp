@@ -10,6 +10,8 @@
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "protocols/xmpp/kirv_xmpp_vcard.h"
 
+#include <QXmppGlobal.h>
+
 static void initializeResources()
 {
     Q_INIT_RESOURCE(kirv_xmpp); // a static library's resources are left out unless they are referred to
@@ -95,6 +97,20 @@ QList<KirvField> KirvXmppProtocol::accountSettings() const
 QList<KirvField> KirvXmppProtocol::directoryFields() const
 {
     return KirvXmppVCard::blankFields();
+}
+
+/// A session with the same resource would take the place of the other one, and one with a higher priority its messages.
+QList<KirvField> KirvXmppProtocol::settingsForTest(const QList<KirvField> &settings) const
+{
+    KirvXmppSettings changed(settings);
+    changed.resource = QStringLiteral("Kirv-test.*");
+    changed.priority = -1;
+    return changed.toFields();
+}
+
+QStringList KirvXmppProtocol::components() const
+{
+    return { QStringLiteral("XMPP plug-in " KIRV_VERSION), QLatin1String("QXmpp ") + QXmppVersion() };
 }
 
 KirvConnection *KirvXmppProtocol::createConnection()

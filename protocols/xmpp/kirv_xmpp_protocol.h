@@ -24,6 +24,8 @@ public:
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QList<KirvField> directoryFields() const override;
+    QList<KirvField> settingsForTest(const QList<KirvField> &settings) const override;
+    QStringList components() const override;
     KirvConnection *createConnection() override;
 
     bool offersRegistration() const override;

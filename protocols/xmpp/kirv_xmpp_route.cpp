@@ -83,6 +83,8 @@ void KirvXmppRoute::lookUpServers()
     if (security != QXmppConfiguration::TLSDisabled)
         services << true;
     lookUps = int(services.size());
+    //: %1 = a domain
+    receiveStep({ KirvLoginStep::NameLookup, KirvLoginStep::Running, tr("servers of %1").arg(configuration.domain()) });
     const int started = attempt;
     clock.callLater(lookUpTimeout, this, [this, started] {
         if (started == attempt && !isOver && lookUps > 0)
@@ -104,9 +106,11 @@ void KirvXmppRoute::receiveRecords(bool isDirect, const QList<KirvXmppServiceRec
         tryNext();
 }
 
-/// The first time with what the records say.
-void KirvXmppRoute::tryNext()
+/// The first time with what the records say; then after the \a failure of the present server.
+void KirvXmppRoute::tryNext(const KirvFailure &failure)
 {
+    if (failure.isFailure())
+        receiveStep({ lastStep, KirvLoginStep::Failed, failure.text() });
     if (attempt == 0) {
         targets = kirvXmppTargets(ordinaryRecords, directRecords, randomUpTo);
         const bool isDirect = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
@@ -166,6 +170,7 @@ void KirvXmppRoute::watchProxy()
 
 void KirvXmppRoute::connectLink()
 {
+    connect(link, &KirvXmppLink::step, this, &KirvXmppRoute::receiveStep);
     connect(link, &KirvXmppLink::reached, this, [this] { isReached = true; });
     connect(link, &KirvXmppLink::greeted, this, [this] { isGreeted = true; });
     connect(link, &KirvXmppLink::redirected, this, &KirvXmppRoute::follow);
@@ -178,6 +183,12 @@ void KirvXmppRoute::connectLink()
         hasArrived = true;
         Q_EMIT readyToRegister(isOffered);
     });
+}
+
+void KirvXmppRoute::receiveStep(const KirvLoginStep &reported)
+{
+    lastStep = reported.kind();
+    Q_EMIT step(reported);
 }
 
 void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
@@ -198,6 +209,8 @@ void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
     }
     if (wasEncrypted && configuration.streamSecurityMode() == QXmppConfiguration::TLSEnabled)
         configuration.setStreamSecurityMode(QXmppConfiguration::TLSRequired);
+    //: %1 = a server
+    receiveStep({ lastStep, KirvLoginStep::Done, tr("the server refers to %1").arg(host) });
     targets.clear();
     const int ordinary = target.isDirect ? KirvXmppSettings::directPort : KirvXmppSettings::defaultPort;
     start({ host, port > 0 ? port : ordinary, target.isDirect });
@@ -209,7 +222,7 @@ void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
     if (wasReached || failure.isOfProxy() || (isUnreachable(failure) && targets.isEmpty()))
         end(failure);
     else if (isUnreachable(failure))
-        tryNext();
+        tryNext(failure);
     else
         explainEnd(failure);
 }
@@ -218,7 +231,7 @@ void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
 void KirvXmppRoute::receiveSilence()
 {
     if (!targets.isEmpty()) {
-        tryNext();
+        tryNext(KirvFailure(KirvFailure::TimedOut, target.host));
         return;
     }
     if (!mayBeLocal)
@@ -244,7 +257,7 @@ void KirvXmppRoute::explainEnd(const KirvFailure &failure)
         if (started != attempt || isOver)
             return;
         if (!targets.isEmpty())
-            tryNext();
+            tryNext(failure);
         else
             end(isOther ? otherStart() : failure);
     };

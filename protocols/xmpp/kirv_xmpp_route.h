@@ -39,6 +39,7 @@ public:
     void abort() override;
     bool isReady() const override { return link && link->isReady(); }
     QString securityText() const override { return link ? link->securityText() : QString(); }
+    QString mechanism() const override { return link ? link->mechanism() : QString(); }
     void sendPresence(const QXmppPresence &presence) override;
     void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
                      const QString &to) override;
@@ -47,11 +48,12 @@ private:
     void findProxyOfDomain();
     void lookUpServers();
     void receiveRecords(bool isDirect, const QList<KirvXmppServiceRecord> &records);
-    void tryNext();
+    void tryNext(const KirvFailure &failure = KirvFailure());
     void start(const KirvXmppTarget &target);
     void openLink(const QNetworkProxy &found);
     void watchProxy();
     void connectLink();
+    void receiveStep(const KirvLoginStep &reported);
     void follow(const QString &host, int port, bool wasEncrypted);
     void receiveEnd(const KirvFailure &failure);
     void receiveSilence();
@@ -75,6 +77,7 @@ private:
     QList<KirvXmppTarget> targets; ///< not tried yet
     KirvXmppTarget target; ///< the present one
     QNetworkProxy proxy; ///< the one to the present target
+    KirvLoginStep::Kind lastStep = KirvLoginStep::NameLookup; ///< to the present target
     int references = 0; ///< that were followed
     bool mayBeLocal = true; ///< nobody outside has led here
     int attempt = 0; ///< tells a timer or a probe whether it is still wanted

@@ -2,6 +2,7 @@
 #include "protocols/xmpp/kirv_xmpp_server_link.h"
 
 #include "core/protocol/kirv_proxy.h"
+#include "protocols/tls/kirv_socket_steps.h"
 #include "protocols/tls/kirv_system_certificates.h"
 #include "protocols/xmpp/kirv_xmpp_address.h"
 #include "protocols/xmpp/kirv_xmpp_errors.h"
@@ -80,6 +81,7 @@ KirvXmppServerLink::KirvXmppServerLink(Purpose purpose, KirvClock &clock, int re
 KirvXmppServerLink::~KirvXmppServerLink()
 {
     reader->stop();
+    delete steps; // the socket goes first otherwise
     client.disconnect(this);
 }
 
@@ -94,6 +96,8 @@ void KirvXmppServerLink::guardStream()
     auto *stream = client.findChild<QXmppOutgoingClient *>();
     reader = new KirvXmppStreamReader(
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
+    steps = new KirvSocketSteps(*stream->socket(), this);
+    connect(steps, &KirvSocketSteps::step, this, &KirvXmppLink::step);
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppLink::reached);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::lookAtServer);
@@ -143,6 +147,9 @@ void KirvXmppServerLink::open(const QXmppConfiguration &configuration, const QXm
     isEncrypted = configuration.streamSecurityMode() == QXmppConfiguration::LegacySSL;
     if (isEncrypted)
         startWithEncryption();
+    const bool wantsNone = configuration.streamSecurityMode() == QXmppConfiguration::TLSDisabled;
+    steps->begin(configuration.host(), configuration.port(), configuration.networkProxy(),
+                 wantsNone ? KirvSocketSteps::None : KirvSocketSteps::Wanted);
     if (configuration.caCertificates().isEmpty()) // the library looks up those of the system that it needs
         return client.connectToServer(configuration, presence);
     KirvSystemCertificates::instance().request(this, [=](const QList<QSslCertificate> &ofSystem) {
@@ -277,6 +284,8 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
         fail(KirvFailure(KirvFailure::BadSettings, tr("the server requires encryption")));
         return true;
     }
+    if (!isEncrypted)
+        steps->goOnUnencrypted();
     if (purpose == LogIn && !canLogIn) // without encryption the password is not to be read along
         fail(sendsPasswords ? KirvFailure::AuthenticationNotOffered : KirvFailure::EncryptionNotOffered);
     if (purpose == LogIn)

@@ -9,6 +9,7 @@
 
 #include <QXmppClient.h>
 
+class KirvSocketSteps;
 class KirvXmppStreamReader;
 
 /// The link to a real server, on QXmpp.
@@ -32,6 +33,7 @@ public:
     void abort() override;
     bool isReady() const override;
     QString securityText() const override;
+    QString mechanism() const override { return loginGuard.mechanism(); }
     void sendPresence(const QXmppPresence &presence) override;
     void sendRequest(QXmppIq::Type type, const QDomDocument &payload, const Receiver &receiver,
                      const QString &to) override;
@@ -68,6 +70,7 @@ private:
     const int replyTimeout;
     QXmppClient client;
     KirvXmppStreamReader *reader = nullptr; ///< owned by this
+    KirvSocketSteps *steps = nullptr; ///< owned by this
     KirvXmppLoginGuard loginGuard;
     KirvXmppPendingRequests requests;
     QString accountAddress; ///< without a resource

@@ -375,13 +375,14 @@ void tst_PageTellsStates::stripIsReachedByTheKeyboard()
     KIRV_TRY(button("Accounts_ReconnectButton")->isEnabled());
     windows->list()->setFocus();
     QStringList reached;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 5; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         reached << QApplication::focusWidget()->objectName();
     }
     QCOMPARE(reached,
-             (QStringList { QStringLiteral("Accounts_StripReason"), QStringLiteral("Accounts_PasswordButton"),
-                            QStringLiteral("Accounts_ReconnectButton"), QStringLiteral("Accounts_StripEditButton") }));
+             (QStringList { QStringLiteral("Accounts_StripReason"), QStringLiteral("Accounts_LogButton"),
+                            QStringLiteral("Accounts_PasswordButton"), QStringLiteral("Accounts_ReconnectButton"),
+                            QStringLiteral("Accounts_StripEditButton") }));
     QSet<QString> mnemonics;
     const auto buttons = windows->client->accountsPage()->findChildren<QAbstractButton *>();
     for (const QAbstractButton *shown : buttons) {

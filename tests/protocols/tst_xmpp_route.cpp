@@ -49,6 +49,8 @@ private Q_SLOTS:
     void aSilentLookUpDoesNotHoldTheLogIn();
     void aSilentServerIsLeftForTheNext();
     void theLastServerMayTakeItsTime();
+    void aServerThatIsLeftIsAFailedStep_data();
+    void aServerThatIsLeftIsAFailedStep();
 
     void aReferenceIsFollowed_data();
     void aReferenceIsFollowed();
@@ -299,6 +301,42 @@ void TestXmppRoute::aSilentServerIsLeftForTheNext()
     clock.advance(KirvXmppRoute::silence);
     QCOMPARE(address(), QString("two:2"));
     QCOMPARE(ended->size(), 0);
+}
+
+void TestXmppRoute::aServerThatIsLeftIsAFailedStep_data()
+{
+    QTest::addColumn<int>("why");
+    QTest::newRow("it cannot be reached") << 0;
+    QTest::newRow("it is silent") << 1;
+    QTest::newRow("it hangs up") << 2;
+}
+
+void TestXmppRoute::aServerThatIsLeftIsAFailedStep()
+{
+    QFETCH(int, why);
+    QList<KirvLoginStep> steps;
+    connect(route.get(), &KirvXmppLink::step, this, [&steps](const KirvLoginStep &step) { steps << step; });
+    open();
+    QCOMPARE(steps.size(), 1);
+    QCOMPARE(steps.first(), KirvLoginStep(KirvLoginStep::NameLookup, KirvLoginStep::Running, "servers of example.org"));
+    answer(ordinaryName, { record("one.example.org", 1), record("two.example.org", 2, 1) });
+    answer(directName, {});
+    server.link()->step({ KirvLoginStep::Connection, KirvLoginStep::Running, "192.0.2.7" });
+    KirvFailure expected(KirvFailure::ConnectionRefused, "one.example.org");
+    if (why == 1) {
+        expected = KirvFailure(KirvFailure::TimedOut, "one.example.org");
+        clock.advance(KirvXmppRoute::silence);
+    } else if (why == 2) {
+        expected = KirvFailure::ConnectionLost;
+        server.link()->end(expected);
+        probes.takeFirst()(false);
+    } else {
+        server.link()->end(expected);
+    }
+    QCOMPARE(address(), QString("two.example.org:2"));
+    QCOMPARE(steps.size(), 3);
+    QCOMPARE(steps.last(), KirvLoginStep(KirvLoginStep::Connection, KirvLoginStep::Failed, expected.text()));
+    QVERIFY(ended->isEmpty());
 }
 
 void TestXmppRoute::theLastServerMayTakeItsTime()

@@ -55,6 +55,12 @@ public:
         return peak;
     }
 
+    /// How long the program was busy at a stretch, in milliseconds; what else the processor did does not count.
+    double mostWorkMilliseconds() const
+    {
+        return double(mostWork) / 1000;
+    }
+
     void report(qint64 sentBytes) const
     {
         qInfo("%s: %.1f MB sent, longest gap %.1f ms, most work in a gap %.1f ms, peak memory +%.1f MB",

@@ -43,6 +43,7 @@ public:
     using KirvConnection::loginFailed;
     using KirvConnection::loginSucceeded;
     using KirvConnection::logoutFinished;
+    using KirvConnection::reportStep;
     using KirvConnection::requestFailed;
 
     QString securityText() const override { return security; }

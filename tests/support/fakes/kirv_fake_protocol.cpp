@@ -35,7 +35,12 @@ QList<KirvField> KirvFakeProtocol::getConfigurationFields(const QString &configu
 
 KirvConnection *KirvFakeProtocol::createConnection()
 {
-    return givesConnections ? new KirvFakeConnection(server, clock) : nullptr;
+    if (!givesConnections)
+        return nullptr;
+    auto connection = std::make_unique<KirvFakeConnection>(server, clock);
+    if (onConnection)
+        onConnection(connection.get());
+    return connection.release();
 }
 
 void KirvFakeProtocol::handleCoreSignal(const QString &signal, const QList<KirvArg> &args)

@@ -34,6 +34,11 @@ public:
     QList<KirvPresence> presences() const override { return offeredPresences; }
     QList<KirvField> accountSettings() const override { return settings; }
     QList<KirvField> directoryFields() const override { return directory; }
+    QList<KirvField> settingsForTest(const QList<KirvField> &given) const override
+    {
+        return changeForTest ? changeForTest(given) : given;
+    }
+    QStringList components() const override { return parts; }
     KirvConnection *createConnection() override;
     void handleCoreSignal(const QString &name, const QList<KirvArg> &args) override;
     bool offersRegistration() const override { return bool(makeRegistration); }
@@ -52,6 +57,9 @@ public:
     QList<KirvField> directory; ///< "name" and "town" at first
     QList<KirvAccountAction> actions;
     bool givesConnections = true;
+    std::function<void(KirvFakeConnection *)> onConnection; ///< of each that is made
+    std::function<QList<KirvField>(const QList<KirvField> &)> changeForTest; ///< null: nothing is changed
+    QStringList parts;
     QString example;
     std::function<QString(const QString &login)> normalize;
     std::function<QString(const QString &login)> findProblem; ///< null: nothing is wrong with any login

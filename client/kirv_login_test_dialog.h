@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_LOGIN_TEST_DIALOG_H
+#define KIRV_LOGIN_TEST_DIALOG_H
+
+#include "core/values/kirv_account_key.h"
+
+#include <QDialog>
+
+class KirvAccount;
+class KirvLoginTestView;
+
+/// Tests the log-in of an account with what is stored of it, and shows what is wrong. The account's own connection is
+/// left as it is.
+class KirvLoginTestDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// \a account, whose protocol is loaded, is only read now. The dialog is closed before the protocol goes.
+    KirvLoginTestDialog(const KirvAccount &account, QWidget *parent);
+
+    KirvAccountKey key() const { return accountKey; }
+
+    /// Ends the test, too.
+    void done(int result) override;
+
+private:
+    void growToFit();
+
+    const KirvAccountKey accountKey;
+    KirvLoginTestView *view;
+};
+
+#endif
