@@ -2460,21 +2460,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>Ihrem Schlüsselbund</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>in einer Datei, die nur Sie lesen können</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>in %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>in %1 (gesperrt: Sie werden gebeten, ihn zu entsperren)</translation>
     </message>
     <message>
@@ -2511,6 +2507,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>Das Passwort wird aus %1 gelesen.</translation>
     </message>
     <message>
@@ -2534,9 +2531,54 @@
         <translation>Das Passwort ist in %1; er kann nicht gelesen werden. „Neu verbinden“ versucht es erneut.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>in Ihrem Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>in Ihrem Schlüsselbund (gesperrt: Sie werden gebeten, ihn zu entsperren)</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>Das Passwort wird aus Ihrem Schlüsselbund gelesen.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er ist gesperrt. Entsperren Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er wurde nicht entsperrt. „Neu verbinden“ fragt erneut.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er antwortet nicht. Das Konto verbindet sich, sobald er antwortet.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er kann nicht gelesen werden. „Neu verbinden“ versucht es erneut.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>Das Passwort wird gelesen. Es bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund ist gesperrt. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund antwortet nicht. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund ist nicht da. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund kann nicht gelesen werden. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
     </message>
 </context>
 <context>
