@@ -34,6 +34,30 @@ QString KirvSecretTexts::place() const
     return QString();
 }
 
+QString KirvSecretTexts::state() const
+{
+    const QString inFile = tr("Passwords that are remembered are kept in a file only you can read.");
+    if (!keeper.keyring())
+        return inFile;
+    switch (keeper.keyring()->state()) {
+    case KirvSecretStore::Unknown:
+        return tr("The program is finding out whether there is a keyring.");
+    case KirvSecretStore::Ready:
+        //: %1 = "GNOME Keyring", here and below
+        return withProvider(tr("%1 keeps the passwords. It is unlocked."),
+                            tr("Your keyring keeps the passwords. It is unlocked."));
+    case KirvSecretStore::Locked:
+        return withProvider(tr("%1 keeps the passwords. It is locked."),
+                            tr("Your keyring keeps the passwords. It is locked."));
+    case KirvSecretStore::Silent:
+        return withProvider(tr("%1 keeps the passwords. It does not respond."),
+                            tr("Your keyring keeps the passwords. It does not respond."));
+    case KirvSecretStore::Unavailable:
+        break;
+    }
+    return tr("There is no keyring.") + QLatin1Char(' ') + inFile;
+}
+
 bool KirvSecretTexts::isRememberingUnsafe() const
 {
     return keeper.keyring() && keeper.keyring()->state() == KirvSecretStore::Unavailable;

@@ -20,6 +20,8 @@ public:
 
     /// Where a password that is remembered goes, for the line below the box; empty while that is not known.
     QString place() const;
+    /// Who keeps the passwords, and in what state that is, in sentences.
+    QString state() const;
     /// Whether passwords are better not remembered unless the person says so: there is no keyring.
     bool isRememberingUnsafe() const;
     /// A few words about why a secret that is awaited is not there.

@@ -102,6 +102,7 @@ bool KirvTranslations::isRead(const QString &language)
 
 void KirvTranslations::speak(const QString &language)
 {
+    wanted = language;
     const bool isChosen = languages().contains(language);
     current = isChosen ? language : languageOf(systemLocale);
     const QLocale locale(current);

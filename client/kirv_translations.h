@@ -40,6 +40,10 @@ public:
 
     /// Speaks \a language, which is one of languages(); otherwise, and when it is empty, that of the system.
     void speak(const QString &language);
+    /// What speak() was called with last.
+    QString chosen() const { return wanted; }
+    /// What is spoken when the system chooses, one of languages().
+    QString languageOfSystem() const { return languageOf(systemLocale); }
     /// What is spoken, one of languages().
     QString spoken() const { return current; }
 
@@ -52,6 +56,7 @@ private:
     const QLocale systemLocale; ///< what the program was started with
     const bool isMirrored; ///< the program was started with -reverse
     std::vector<std::unique_ptr<QTranslator>> translators; ///< the last one is looked into first
+    QString wanted;
     QString current;
 };
 
