@@ -22,6 +22,12 @@ QString prefix()
     return QStringLiteral("kirv_");
 }
 
+/// Of the texts that come with the library of the page.
+QString libraryPrefix()
+{
+    return QStringLiteral("kirv_gui_accounts_tab_");
+}
+
 QString qtTranslationFolder()
 {
 #if QT_VERSION >= 0x060000
@@ -71,6 +77,8 @@ QStringList KirvTranslations::languages() const
     const QStringList files = QDir(folder).entryList({ prefix() + QStringLiteral("*.qm") }, QDir::Files);
     for (const QString &file : files) {
         const QString language = file.mid(prefix().size()).chopped(3);
+        if (file.startsWith(libraryPrefix()))
+            continue;
         if (language != english() && QLocale(language).language() != QLocale::C)
             found << language;
     }
@@ -109,12 +117,9 @@ void KirvTranslations::speak(const QString &language)
     // Who chooses the language of the system keeps its formats.
     QLocale::setDefault(isChosen && locale.language() != systemLocale.language() ? locale : systemLocale);
     translators.clear();
-    load(QStringLiteral("qtbase_") + english(), qtTranslationFolder());
-    load(prefix() + english(), folder);
-    if (current != english()) {
-        load(QStringLiteral("qtbase_") + current, qtTranslationFolder());
-        load(prefix() + current, folder);
-    }
+    loadAll(english());
+    if (current != english())
+        loadAll(current);
     // After the translators: Qt chooses the direction by its own texts, which may not be installed.
     if (qobject_cast<QGuiApplication *>(&application)) {
         const bool isMirroredNow = (locale.textDirection() == Qt::RightToLeft) != isMirrored;
@@ -139,6 +144,13 @@ QString KirvTranslations::languageOf(const QLocale &locale) const
             return QLocale(family).name();
     }
     return english();
+}
+
+void KirvTranslations::loadAll(const QString &language)
+{
+    load(QStringLiteral("qtbase_") + language, qtTranslationFolder());
+    load(libraryPrefix() + language, folder);
+    load(prefix() + language, folder);
 }
 
 void KirvTranslations::load(const QString &file, const QString &inFolder)

@@ -49,6 +49,7 @@ public:
 
 private:
     QString languageOf(const QLocale &locale) const;
+    void loadAll(const QString &language);
     void load(const QString &file, const QString &inFolder);
 
     QCoreApplication &application;
