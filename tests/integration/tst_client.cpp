@@ -272,7 +272,7 @@ void tst_Client::startsWithAnEmptyProfile()
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings"));
     QVERIFY(client->accountsPage()->isVisible());
     auto *pages = child<QListWidget>(client->window(), "Settings_Pages");
-    QCOMPARE(pages->count(), 2);
+    QCOMPARE(pages->count(), 3);
     pages->setCurrentRow(1);
     QVERIFY(client->pluginsPage()->isVisible());
     QVERIFY(client->window()->messageBar()->messages().isEmpty());
