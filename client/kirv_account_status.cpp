@@ -19,6 +19,18 @@ QString timeText(const QDateTime &time)
                                                : locale.toString(time, QLocale::ShortFormat);
 }
 
+/// The presence of \a account as its protocol calls it now, in the language that is spoken now.
+QString presenceName(const KirvAccount &account)
+{
+    const KirvPresence presence = account.presence();
+    const QList<KirvPresence> offered = account.isLoaded() ? account.protocol()->presences() : QList<KirvPresence>();
+    for (const KirvPresence &candidate : offered) {
+        if (candidate.getId() == presence.getId())
+            return candidate.getDisplay();
+    }
+    return presence.getDisplay();
+}
+
 QString sentences(const QStringList &parts)
 {
     QStringList present = parts;
@@ -115,7 +127,7 @@ QString KirvAccountStatus::lineOf(const QString &state) const
 {
     QStringList parts { state };
     if (stateKind == Connected)
-        parts << account.presence().getDisplay();
+        parts << presenceName(account);
     if (isMain)
         parts << tr("main account");
     parts.removeAll(QString());
@@ -159,7 +171,7 @@ QString KirvAccountStatus::connectedReason() const
 {
     const KirvConnection *connection = account.connection();
     const QString security = connection->securityText();
-    const QString presence = account.presence().getDisplay();
+    const QString presence = presenceName(account);
     return sentences({ account.lastFailure().text(),
                        presence.isEmpty() ? QString()
                                           //: %1 = name of a presence, as "Away"

@@ -49,7 +49,8 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
     QFont bold = title->font();
     bold.setBold(true);
     title->setFont(bold);
-    title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // no text widens the page
+    title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum); // no text widens the page
+    title->setWordWrap(true); // in some languages it is longer than a line
 
     reason->setObjectName(QStringLiteral("Accounts_StripReason"));
     reason->setAccessibleName(tr("Reason of the state of the account"));

@@ -70,6 +70,7 @@ void KirvAddWindowCompanion::aboutToShow()
     loginEdit->setFocus();
     // After the page's.
     connect(buttonsOf(window()), &QDialogButtonBox::accepted, this, [this] { isAdding = false; });
+    input.note(window());
 }
 
 void KirvAddWindowCompanion::setUpLogin()

@@ -2,6 +2,7 @@
 #ifndef KIRV_ADD_WINDOW_COMPANION_H
 #define KIRV_ADD_WINDOW_COMPANION_H
 
+#include "client/kirv_typed_input.h"
 #include "core/ui/kirv_layout_dialog.h"
 #include "core/values/kirv_account_key.h"
 
@@ -34,6 +35,8 @@ public:
     QString protocol() const { return protocolName; }
     /// Closes the window, and the boxes over it, as Cancel does.
     void close();
+    /// Whether the user has entered anything.
+    bool hasInput() const { return input.isIn(window()); }
     /// The account \a key could not be created. Whether the window was just adding it: its message says why then.
     bool takeRefusal(const KirvAccountKey &key, const QString &reason);
 
@@ -62,6 +65,7 @@ private:
     KirvAdvancedSection *advanced = nullptr; ///< null where the layout has no place for it
     QLabel *saveHint = nullptr; ///< null where the layout has no place for it
     KirvLoginTestView *test = nullptr; ///< null where the layout has no place for it
+    KirvTypedInput input;
     QPushButton *saveWithoutPassword = nullptr;
     bool isAdding = false; ///< while the click on Save leads to what it leads to
 };

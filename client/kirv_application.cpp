@@ -28,7 +28,7 @@ void KirvApplication::prepare(QCoreApplication &application)
 {
     setApplicationName(QStringLiteral("kirv"));
     setApplicationVersion(QStringLiteral(KIRV_VERSION));
-    kirvInstallTranslations(application);
+    (new KirvTranslations(application))->speak(QString());
 }
 
 bool KirvApplication::hasDisplay()

@@ -7,6 +7,8 @@
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
 #include "client/kirv_first_paint.h"
+#include "client/kirv_general_page.h"
+#include "client/kirv_language_change.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plain_text.h"
@@ -14,6 +16,7 @@
 #include "client/kirv_profile_saver.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
+#include "client/kirv_translations.h"
 #include "client/kirv_visible_boxes.h"
 #include "client/kirv_wheel_guard.h"
 #include "client/kirv_window_companions.h"
@@ -140,6 +143,7 @@ void KirvClient::createServices()
     layouts = std::make_unique<KirvLayoutCatalog>();
     clientSettings->setThemeFolder(profile.filePath(QStringLiteral("themes")));
     layouts->setOverrideFolder(profile.filePath(QStringLiteral("layouts")));
+    KirvLanguageChange::speakChosen(*clientSettings);
 }
 
 void KirvClient::createWindow()
@@ -152,29 +156,75 @@ void KirvClient::createWindow()
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
     auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
-    auto *help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
+    help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
     companions = new KirvWindowCompanions(
         *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help },
         settingsWindow.get());
     connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
-    page = KirvAccountsTab::getInstance();
-    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
-    settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
-    if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
-        settingsWindow->messageBar()->floatOver(list);
-    settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
+    languageChange = new KirvLanguageChange(*clientSettings, *companions, settingsWindow.get());
+    createPages();
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
     profileSaver = new KirvProfileSaver(*store, *settingsWindow->messageBar());
     connect(profileSaver, &KirvProfileSaver::continuationRequested, this, &KirvClient::continuationRequested);
     showProblem(store->copyError());
 
-    connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
-    connect(pluginList, &KirvPluginsPage::reportRequested, help, [help] { help->showReport(); });
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
+    connectPage();
+    connect(languageChange, &KirvLanguageChange::changed, this, &KirvClient::createPagesAnew);
+}
+
+void KirvClient::createPages()
+{
+    page = KirvAccountsTab::getInstance();
+    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
+    generalPage = new KirvGeneralPage(*accountCollection, KirvTranslations::instance(), options.profileFolder);
+    settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
+    if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
+        settingsWindow->messageBar()->floatOver(list);
+    settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
+    settingsWindow->addPage(generalPage, tr("General"), themeIcon(QStringLiteral("preferences-system")));
+
+    const auto showLanguage = [this] {
+        generalPage->showLanguage(KirvLanguageChange::chosen(*clientSettings), languageChange->isPending());
+    };
+    showLanguage();
+    connect(generalPage, &KirvGeneralPage::languageChosen, this, [this, showLanguage](const QString &language) {
+        languageChange->choose(language);
+        showLanguage();
+    });
+    connect(languageChange, &KirvLanguageChange::pendingChanged, generalPage, showLanguage);
+    connect(pluginList, &KirvPluginsPage::reportRequested, help, [this] { help->showReport(); });
+}
+
+/// What the page of the library and its companion are connected with; each page anew.
+void KirvClient::connectPage()
+{
+    connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
             &KirvPasswordQuestions::ask);
+    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, companions->page(),
+            &KirvAccountsPageCompanion::pluginsLoaded);
+    connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
+            &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
+}
+
+/// Another language is spoken.
+void KirvClient::createPagesAnew()
+{
+    const bool hadFocus = settingsWindow->isActiveWindow();
+    settingsWindow->removePages();
+    createPages();
+    connectPage();
+    const QList<KirvProtocolBase *> protocols = pluginLoader->protocols();
+    for (KirvProtocolBase *protocol : protocols)
+        companions->page()->protocolLoaded(protocol->getName());
+    if (arePluginsLoaded())
+        companions->page()->pluginsLoaded();
+    mainAccountChanged();
+    if (hadFocus)
+        generalPage->focusLanguage();
 }
 
 void KirvClient::connectServices()
@@ -188,8 +238,6 @@ void KirvClient::connectServices()
     connect(networkWatch.get(), &KirvNetworkWatch::changed, accountCollection.get(),
             &KirvAccountCollection::networkChanged);
     connect(pluginsToLoad.get(), &KirvPluginQueue::problemOccurred, this, &KirvClient::showProblem);
-    connect(pluginsToLoad.get(), &KirvPluginQueue::finished, companions->page(),
-            &KirvAccountsPageCompanion::pluginsLoaded);
     // Queued, as the window runs an event loop of its own.
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, this, &KirvClient::openLink, Qt::QueuedConnection);
     if (const auto *application = qobject_cast<KirvApplication *>(QCoreApplication::instance()))
@@ -198,8 +246,6 @@ void KirvClient::connectServices()
             &KirvSecretKeeper::startMoving);
     connect(&accountCollection->secrets(), &KirvSecretKeeper::moved, this, &KirvClient::showMoved);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, this, &KirvClient::showRefusal);
-    connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
-            &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
     connect(pluginLoader.get(), &KirvPluginLoader::protocolLoaded, this, &KirvClient::protocolLoaded);
     connect(pluginLoader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, this,
             &KirvClient::protocolAboutToBeUnloaded);

@@ -11,10 +11,13 @@
 
 class KirvAccount;
 class KirvAccountCollection;
+class KirvAccountHelp;
 class KirvAccountHistory;
 class KirvAccountsTab;
+class KirvGeneralPage;
 class KirvHostServices;
 class KirvKeyring;
+class KirvLanguageChange;
 class KirvLayoutCatalog;
 class KirvNetworkWatch;
 class KirvPasswordQuestions;
@@ -76,6 +79,9 @@ private:
     bool openStore();
     void createServices();
     void createWindow();
+    void createPages();
+    void connectPage();
+    void createPagesAnew();
     void connectServices();
     void loadPlugins();
     void openLink();
@@ -111,6 +117,9 @@ private:
     std::unique_ptr<KirvSettingsWindow> settingsWindow;
     QPointer<KirvAccountsTab> page;
     QPointer<KirvPluginsPage> pluginList;
+    QPointer<KirvAccountHelp> help;
+    QPointer<KirvGeneralPage> generalPage;
+    QPointer<KirvLanguageChange> languageChange;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
     QPointer<KirvProfileSaver> profileSaver;

@@ -106,6 +106,7 @@ void KirvEditWindowCompanion::aboutToShow()
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
+    input.note(window());
 }
 
 void KirvEditWindowCompanion::bindWindow()

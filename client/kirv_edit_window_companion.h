@@ -2,6 +2,7 @@
 #ifndef KIRV_EDIT_WINDOW_COMPANION_H
 #define KIRV_EDIT_WINDOW_COMPANION_H
 
+#include "client/kirv_typed_input.h"
 #include "core/ui/kirv_layout_dialog.h"
 #include "core/values/kirv_account_key.h"
 
@@ -38,6 +39,8 @@ public:
     KirvAccountKey key() const { return accountKey; }
     /// Closes the window as Cancel does and ends its controller at once: nothing of it is followed any more.
     void close();
+    /// Whether the user has entered anything, or it is being published.
+    bool hasInput() const { return input.isIn(window()) || !disabled.isEmpty(); }
 
     void aboutToShow() override;
     bool mayFinish(int result) override;
@@ -65,6 +68,7 @@ private:
     QPushButton *saveButton;
     QLineEdit *passwordEdit;
     KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
+    KirvTypedInput input;
     QPointer<KirvAccount> saving; ///< while the change of a Save is open
     QLabel *passwordReason = nullptr; ///< why the password is not shown
     QSet<QString> unshownSecrets; ///< fields of secret settings that the window shows as empty

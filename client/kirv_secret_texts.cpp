@@ -3,10 +3,10 @@
 
 #include "core/accounts/kirv_secret_keeper.h"
 
-QString KirvSecretTexts::provider() const
+QString KirvSecretTexts::withProvider(const QString &named, const QString &nameless) const
 {
     const QString name = keeper.keyring() ? keeper.keyring()->providerName() : QString();
-    return name.isEmpty() ? tr("your keyring") : name;
+    return name.isEmpty() ? nameless : named.arg(name);
 }
 
 QString KirvSecretTexts::place() const
@@ -17,17 +17,45 @@ QString KirvSecretTexts::place() const
     case KirvSecretStore::Unknown:
         break;
     case KirvSecretStore::Ready:
-        //: where a password is kept; %1 = "GNOME Keyring", or "your keyring"
-        return tr("in %1").arg(provider());
+        //: where a password is kept; %1 = "GNOME Keyring"
+        return withProvider(tr("in %1"),
+                            //: where a password is kept
+                            tr("in your keyring"));
     case KirvSecretStore::Locked:
-        //: where a password is kept; %1 = "GNOME Keyring", or "your keyring"
-        return tr("in %1 (locked: you will be asked to unlock it)").arg(provider());
+        //: where a password is kept; %1 = "GNOME Keyring"
+        return withProvider(tr("in %1 (locked: you will be asked to unlock it)"),
+                            //: where a password is kept
+                            tr("in your keyring (locked: you will be asked to unlock it)"));
     case KirvSecretStore::Silent:
         return tr("Your keyring does not respond: it would be kept there when it responds again");
     case KirvSecretStore::Unavailable:
         return tr("There is no keyring here: it would be kept in a file only you can read");
     }
     return QString();
+}
+
+QString KirvSecretTexts::state() const
+{
+    const QString inFile = tr("Passwords that are remembered are kept in a file only you can read.");
+    if (!keeper.keyring())
+        return inFile;
+    switch (keeper.keyring()->state()) {
+    case KirvSecretStore::Unknown:
+        return tr("The program is finding out whether there is a keyring.");
+    case KirvSecretStore::Ready:
+        //: %1 = "GNOME Keyring", here and below
+        return withProvider(tr("%1 keeps the passwords. It is unlocked."),
+                            tr("Your keyring keeps the passwords. It is unlocked."));
+    case KirvSecretStore::Locked:
+        return withProvider(tr("%1 keeps the passwords. It is locked."),
+                            tr("Your keyring keeps the passwords. It is locked."));
+    case KirvSecretStore::Silent:
+        return withProvider(tr("%1 keeps the passwords. It does not respond."),
+                            tr("Your keyring keeps the passwords. It does not respond."));
+    case KirvSecretStore::Unavailable:
+        break;
+    }
+    return tr("There is no keyring.") + QLatin1Char(' ') + inFile;
 }
 
 bool KirvSecretTexts::isRememberingUnsafe() const
@@ -53,32 +81,53 @@ QString KirvSecretTexts::shortObstacle() const
     return tr("The keyring cannot be read");
 }
 
-QString KirvSecretTexts::obstacle() const
+QString KirvSecretTexts::obstacleItself() const
 {
-    const QString otherwise = tr("Or enter the password: it is used until the program ends.");
     switch (keeper.obstacle()) {
     case KirvSecretKeeper::None:
-        return tr("The password is being read from %1.").arg(provider());
+        //: %1 = "GNOME Keyring", here and below
+        return withProvider(tr("The password is being read from %1."),
+                            tr("The password is being read from your keyring."));
     case KirvSecretKeeper::Locked:
-        return tr("The password is in %1, which is locked. Unlock it.").arg(provider()) + QLatin1Char(' ') + otherwise;
+        return withProvider(tr("The password is in %1, which is locked. Unlock it."),
+                            tr("The password is in your keyring, which is locked. Unlock it."));
     case KirvSecretKeeper::Refused:
-        return tr("The password is in %1, which was not unlocked. Reconnect asks again.").arg(provider())
-            + QLatin1Char(' ') + otherwise;
+        return withProvider(tr("The password is in %1, which was not unlocked. Reconnect asks again."),
+                            tr("The password is in your keyring, which was not unlocked. Reconnect asks again."));
     case KirvSecretKeeper::Silent:
-        return tr("The password is in %1, which does not respond. The account connects when it does.").arg(provider())
-            + QLatin1Char(' ') + otherwise;
+        return withProvider(
+            tr("The password is in %1, which does not respond. The account connects when it does."),
+            tr("The password is in your keyring, which does not respond. The account connects when it does."));
     case KirvSecretKeeper::Unavailable:
-        return tr("The password is in the keyring, which is not there. The account connects when it is started.")
-            + QLatin1Char(' ') + otherwise;
+        return tr("The password is in the keyring, which is not there. The account connects when it is started.");
     case KirvSecretKeeper::Failed:
         break;
     }
-    return tr("The password is in %1, which cannot be read. Reconnect tries again.").arg(provider()) + QLatin1Char(' ')
-        + otherwise;
+    return withProvider(tr("The password is in %1, which cannot be read. Reconnect tries again."),
+                        tr("The password is in your keyring, which cannot be read. Reconnect tries again."));
+}
+
+QString KirvSecretTexts::obstacle() const
+{
+    if (keeper.obstacle() == KirvSecretKeeper::None)
+        return obstacleItself();
+    return obstacleItself() + QLatin1Char(' ') + tr("Or enter the password: it is used until the program ends.");
 }
 
 QString KirvSecretTexts::notShown() const
 {
-    //: %1 = a few words, as "The keyring is locked"
-    return tr("%1. The password stays as it is unless you enter another one.").arg(shortObstacle());
+    switch (keeper.obstacle()) {
+    case KirvSecretKeeper::None:
+        return tr("The password is being read. It stays as it is unless you enter another one.");
+    case KirvSecretKeeper::Locked:
+    case KirvSecretKeeper::Refused:
+        return tr("The keyring is locked. The password stays as it is unless you enter another one.");
+    case KirvSecretKeeper::Silent:
+        return tr("The keyring does not respond. The password stays as it is unless you enter another one.");
+    case KirvSecretKeeper::Unavailable:
+        return tr("The keyring is not there. The password stays as it is unless you enter another one.");
+    case KirvSecretKeeper::Failed:
+        break;
+    }
+    return tr("The keyring cannot be read. The password stays as it is unless you enter another one.");
 }

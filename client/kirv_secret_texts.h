@@ -18,10 +18,10 @@ public:
     {
     }
 
-    /// The name of the keyring's program, or "your keyring".
-    QString provider() const;
     /// Where a password that is remembered goes, for the line below the box; empty while that is not known.
     QString place() const;
+    /// Who keeps the passwords, and in what state that is, in sentences.
+    QString state() const;
     /// Whether passwords are better not remembered unless the person says so: there is no keyring.
     bool isRememberingUnsafe() const;
     /// A few words about why a secret that is awaited is not there.
@@ -32,6 +32,10 @@ public:
     QString notShown() const;
 
 private:
+    /// \a named with the name of the keyring's program as its %1, or \a nameless when that is not known.
+    QString withProvider(const QString &named, const QString &nameless) const;
+    QString obstacleItself() const;
+
     const KirvSecretKeeper &keeper;
 };
 

@@ -24,6 +24,8 @@ KirvSettingsWindow::KirvSettingsWindow(KirvClientSettings &settings, QWidget *pa
     , messages(new KirvMessageBar(this))
     , list(new QListWidget(this))
     , pages(new QStackedWidget(this))
+    , quit(new QAction(this))
+    , wantedRow(settings.value(pageKey).toInt())
 {
     setObjectName(QStringLiteral("Settings"));
     setMainAccount(QString());
@@ -40,7 +42,6 @@ KirvSettingsWindow::KirvSettingsWindow(KirvClientSettings &settings, QWidget *pa
     banner->hide();
 
     list->setObjectName(QStringLiteral("Settings_Pages"));
-    list->setAccessibleName(tr("Pages"));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int iconSize = style()->pixelMetric(QStyle::PM_LargeIconSize, nullptr, this) * 3 / 4;
     list->setIconSize(QSize(iconSize, iconSize));
@@ -48,14 +49,20 @@ KirvSettingsWindow::KirvSettingsWindow(KirvClientSettings &settings, QWidget *pa
 
     pages->setObjectName(QStringLiteral("Settings_Stack"));
 
-    auto *quit = new QAction(tr("Quit"), this);
     quit->setObjectName(QStringLiteral("Settings_Quit"));
     quit->setShortcuts({ QKeySequence::Quit, QKeySequence::Close });
     connect(quit, &QAction::triggered, this, &QWidget::close);
     addAction(quit);
 
+    setTexts();
     arrange();
     restoreSize();
+}
+
+void KirvSettingsWindow::setTexts()
+{
+    list->setAccessibleName(tr("Pages"));
+    quit->setText(tr("Quit"));
 }
 
 KirvSettingsWindow::~KirvSettingsWindow()
@@ -104,8 +111,17 @@ void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIco
     list->addItem(item);
     fitListToContents();
     const int row = list->count() - 1;
-    if (row == 0 || settings.value(pageKey) == QString::number(row))
+    if (row == 0 || row == wantedRow)
         list->setCurrentRow(row);
+}
+
+void KirvSettingsWindow::removePages()
+{
+    wantedRow = list->currentRow();
+    while (pages->count() > 0)
+        delete pages->widget(0);
+    list->clear();
+    setTexts();
 }
 
 void KirvSettingsWindow::showPage(QWidget *page)

@@ -6,6 +6,7 @@
 
 class KirvMessageBar;
 class KirvClientSettings;
+class QAction;
 class QLabel;
 class QListWidget;
 class QStackedWidget;
@@ -22,6 +23,9 @@ public:
     /// Adds \a page, which the window then owns; \a title is its name in the list.
     void addPage(QWidget *page, const QString &title, const QIcon &icon);
     void showPage(QWidget *page);
+    /// Deletes all pages and says everything else again, in the language that is spoken now. The page that takes the
+    /// place of the current one is shown when it is added.
+    void removePages();
 
     /// Shows the name of the main account in the title; empty: there is none.
     void setMainAccount(const QString &name);
@@ -32,6 +36,7 @@ public:
 
 private:
     void arrange();
+    void setTexts();
     void restoreSize();
     void fitListToContents();
 
@@ -40,6 +45,8 @@ private:
     KirvMessageBar *messages;
     QListWidget *list;
     QStackedWidget *pages;
+    QAction *quit;
+    int wantedRow; ///< the page that is shown when it is added
 };
 
 #endif

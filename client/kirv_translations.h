@@ -4,12 +4,61 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+class QTranslator;
 
 /// Where the texts that came with the program are.
 QString kirvTranslationFolder();
-/// Installs the texts of the program, from \a folder, and of Qt in the language of \a locale, as far as there
-/// are any; English otherwise. The application owns the translators.
-void kirvInstallTranslations(QCoreApplication &application, const QLocale &locale = QLocale(),
-                             const QString &folder = kirvTranslationFolder());
+
+/// The languages of the program and the one that it speaks. The texts of the program and of Qt, the formats of numbers
+/// and dates and the direction of the layout follow it. Made after the application, and one at a time.
+///
+/// Below every language lies English, which has texts of its own: plural forms, and what the sources misspell.
+class KirvTranslations : public QObject {
+    Q_OBJECT
+
+public:
+    /// Speaks no language yet; \a folder holds the texts. \a application outlives this.
+    explicit KirvTranslations(QCoreApplication &application, const QString &folder = kirvTranslationFolder());
+    /// Takes the texts away; the locale and the direction stay.
+    ~KirvTranslations() override;
+
+    /// The one that lives; null: there is none.
+    static KirvTranslations *instance();
+
+    /// The languages that there are, as "pt_BR", sorted by their own names; English is always one of them.
+    QStringList languages() const;
+    /// As "português (Brasil)".
+    static QString ownName(const QString &language);
+    /// Whether a native speaker has read the texts of \a language.
+    static bool isRead(const QString &language);
+
+    /// Speaks \a language, which is one of languages(); otherwise, and when it is empty, that of the system.
+    void speak(const QString &language);
+    /// What speak() was called with last.
+    QString chosen() const { return wanted; }
+    /// What is spoken when the system chooses, one of languages().
+    QString languageOfSystem() const { return languageOf(systemLocale); }
+    /// What is spoken, one of languages().
+    QString spoken() const { return current; }
+
+private:
+    QString languageOf(const QLocale &locale) const;
+    void loadAll(const QString &language);
+    void load(const QString &file, const QString &inFolder);
+
+    QCoreApplication &application;
+    const QString folder;
+    const QLocale systemLocale; ///< what the program was started with
+    const bool isMirrored; ///< the program was started with -reverse
+    std::vector<std::unique_ptr<QTranslator>> translators; ///< the last one is looked into first
+    QString wanted;
+    QString current;
+};
 
 #endif

@@ -46,6 +46,20 @@ void KirvWindowCompanions::closeWindowsOf(const QString &protocol)
     }
 }
 
+void KirvWindowCompanions::closeUnchanged()
+{
+    const auto openEditWindows = editWindows;
+    for (const auto &companion : openEditWindows) {
+        if (companion && !companion->hasInput())
+            companion->close();
+    }
+    const auto openAddWindows = addWindows;
+    for (const auto &companion : openAddWindows) {
+        if (companion && !companion->hasInput())
+            companion->close();
+    }
+}
+
 void KirvWindowCompanions::add(const QString &layout, QWidget *top)
 {
     auto *dialog = qobject_cast<KirvLayoutDialog *>(top);

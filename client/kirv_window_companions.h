@@ -30,6 +30,8 @@ public:
     bool takeRefusal(const KirvAccountKey &key, const QString &reason) const;
     /// Closes the windows that use the protocol: afterwards nothing follows a pointer to it.
     void closeWindowsOf(const QString &protocol);
+    /// Closes the windows in which the user has entered nothing.
+    void closeUnchanged();
 
 Q_SIGNALS:
     /// The user has put \a link onto the page.

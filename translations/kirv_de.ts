@@ -976,6 +976,10 @@
             <numerusform>%n Passwörter wurden in Ihren Schlüsselbund verschoben (%1).</numerusform>
         </translation>
     </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1448,6 +1452,79 @@
     <message>
         <source>This text is too long to be shown in full. It is kept as long as nothing is changed here.</source>
         <translation>Dieser Text ist zu lang, um ganz gezeigt zu werden. Er bleibt erhalten, solange hier nichts geändert wird.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvGeneralPage</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the program:</source>
+        <translation>&amp;Sprache des Programms:</translation>
+    </message>
+    <message>
+        <source>As the system (%1)</source>
+        <extracomment>entry of a list of languages; %1 = the language of the system in its own words, as &quot;Deutsch&quot;</extracomment>
+        <translation>Wie das System (%1)</translation>
+    </message>
+    <message>
+        <source>No native speaker has read these texts yet.</source>
+        <translation>Diese Texte hat noch niemand gelesen, dessen Muttersprache das ist.</translation>
+    </message>
+    <message>
+        <source>The language changes when the open windows are closed.</source>
+        <translation>Die Sprache wechselt, wenn die offenen Fenster geschlossen sind.</translation>
+    </message>
+    <message>
+        <source>Passwords</source>
+        <translation>Passwörter</translation>
+    </message>
+    <message>
+        <source>&amp;Unlock…</source>
+        <translation>&amp;Entsperren …</translation>
+    </message>
+    <message>
+        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
+        <translation>Liest die Passwörter, auf die Konten warten; der Schlüsselbund bittet Sie, ihn zu entsperren.</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Your accounts and settings are in the folder %1.</source>
+        <extracomment>%1 = path of a folder</extracomment>
+        <translation>Ihre Konten und Einstellungen sind im Ordner %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>Ordner ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Shows the folder in the file manager.</source>
+        <translation>Zeigt den Ordner in der Dateiverwaltung.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Kopien des Profils</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>There are no copies of the profile yet.</source>
+        <translation>Es gibt noch keine Kopien des Profils.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
+        <translation>Kopien des Profils, ohne Passwörter; eine davon kann wiederhergestellt werden, wenn das Profil beschädigt ist:</translation>
     </message>
 </context>
 <context>
@@ -2460,21 +2537,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>Ihrem Schlüsselbund</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>in einer Datei, die nur Sie lesen können</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>in %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>in %1 (gesperrt: Sie werden gebeten, ihn zu entsperren)</translation>
     </message>
     <message>
@@ -2511,6 +2584,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>Das Passwort wird aus %1 gelesen.</translation>
     </message>
     <message>
@@ -2534,9 +2608,91 @@
         <translation>Das Passwort ist in %1; er kann nicht gelesen werden. „Neu verbinden“ versucht es erneut.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>in Ihrem Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>in Ihrem Schlüsselbund (gesperrt: Sie werden gebeten, ihn zu entsperren)</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>Das Passwort wird aus Ihrem Schlüsselbund gelesen.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er ist gesperrt. Entsperren Sie ihn.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er wurde nicht entsperrt. „Neu verbinden“ fragt erneut.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er antwortet nicht. Das Konto verbindet sich, sobald er antwortet.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>Das Passwort ist in Ihrem Schlüsselbund; er kann nicht gelesen werden. „Neu verbinden“ versucht es erneut.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>Das Passwort wird gelesen. Es bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund ist gesperrt. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund antwortet nicht. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund ist nicht da. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>Der Schlüsselbund kann nicht gelesen werden. Das Passwort bleibt, wie es ist, wenn Sie kein anderes eingeben.</translation>
+    </message>
+    <message>
+        <source>Passwords that are remembered are kept in a file only you can read.</source>
+        <translation>Gemerkte Passwörter sind in einer Datei, die nur Sie lesen können.</translation>
+    </message>
+    <message>
+        <source>The program is finding out whether there is a keyring.</source>
+        <translation>Das Programm stellt fest, ob es einen Schlüsselbund gibt.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is unlocked.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
+        <translation>%1 bewahrt die Passwörter auf. Der Schlüsselbund ist entsperrt.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is unlocked.</source>
+        <translation>Ihr Schlüsselbund bewahrt die Passwörter auf. Er ist entsperrt.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is locked.</source>
+        <translation>%1 bewahrt die Passwörter auf. Der Schlüsselbund ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is locked.</source>
+        <translation>Ihr Schlüsselbund bewahrt die Passwörter auf. Er ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It does not respond.</source>
+        <translation>%1 bewahrt die Passwörter auf. Der Schlüsselbund antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It does not respond.</source>
+        <translation>Ihr Schlüsselbund bewahrt die Passwörter auf. Er antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>There is no keyring.</source>
+        <translation>Es gibt keinen Schlüsselbund.</translation>
     </message>
 </context>
 <context>

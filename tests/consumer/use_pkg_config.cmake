@@ -13,6 +13,7 @@ endfunction()
 
 ask(headers --variable=includedir)
 ask(layouts --variable=layoutsdir)
+ask(translations --variable=translationsdir)
 ask(libdir --variable=libdir)
 ask(compile --cflags)
 ask(link --libs)
@@ -26,6 +27,6 @@ foreach(name IN ITEMS kirv_avatar_quick_set_widget kirv_field_widget)
     list(APPEND sources "${WORK}/moc_${name}.cpp")
 endforeach()
 run("${RCC}" "${layouts}/layouts.qrc" -o "${WORK}/layouts.cpp")
-run("${COMPILER}" -std=c++17 -fPIC "-DLAYOUTS=\"${layouts}\"" ${sources} "${WORK}/layouts.cpp" ${flags}
+run("${COMPILER}" -std=c++17 -fPIC "-DLAYOUTS=\"${layouts}\"" "-DTRANSLATIONS=\"${translations}\"" ${sources} "${WORK}/layouts.cpp" ${flags}
     "-Wl,-rpath,${libdir}" -o "${WORK}/consumer")
 run("${WORK}/consumer")

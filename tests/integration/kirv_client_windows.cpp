@@ -49,6 +49,8 @@ bool KirvClientWindows::start()
     if (!client->start())
         return false;
     protocol = new KirvFakeProtocol(protocolName);
+    if (prepare)
+        prepare(protocol);
     if (!client->plugins().addProtocol(protocol))
         return false;
     client->window()->show();

@@ -85,6 +85,7 @@ public:
     KirvClientOptions options;
     std::unique_ptr<KirvClient> client;
     KirvFakeProtocol *protocol = nullptr; ///< of the running client
+    std::function<void(KirvFakeProtocol *)> prepare; ///< changes the protocol of the next start; may be null
 
 private:
     bool start();

@@ -8,7 +8,6 @@
 #include "client/kirv_registration_chooser.h"
 #include "client/kirv_server_assistant.h"
 #include "client/kirv_settings_window.h"
-#include "client/kirv_translations.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
@@ -115,7 +114,6 @@ private Q_SLOTS:
 
     void messagesAreShownOnceAndClosed();
     void namesTurnNoTextAround();
-    void germanTextsAreThere();
 
 private:
     void start();
@@ -274,7 +272,7 @@ void tst_Client::startsWithAnEmptyProfile()
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings"));
     QVERIFY(client->accountsPage()->isVisible());
     auto *pages = child<QListWidget>(client->window(), "Settings_Pages");
-    QCOMPARE(pages->count(), 2);
+    QCOMPARE(pages->count(), 3);
     pages->setCurrentRow(1);
     QVERIFY(client->pluginsPage()->isVisible());
     QVERIFY(client->window()->messageBar()->messages().isEmpty());
@@ -855,18 +853,6 @@ void tst_Client::namesTurnNoTextAround()
     QVERIFY(window);
     QVERIFY(child<QLabel>(window, "EditAccount_Identifier")->text().contains(shown));
     QCOMPARE(child<QLineEdit>(window, "EditAccount_Alias")->text(), turned);
-}
-
-void tst_Client::germanTextsAreThere()
-{
-    const int before = int(qApp->findChildren<QTranslator *>().size());
-    kirvInstallTranslations(*qApp, QLocale(QLocale::German), QStringLiteral(KIRV_TRANSLATIONS));
-    const auto installed = qApp->findChildren<QTranslator *>().mid(before);
-    QVERIFY(!installed.isEmpty());
-    restart();
-    QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Einstellungen"));
-    QCOMPARE(list()->headerItem()->text(ProtocolColumn), QStringLiteral("Protokoll"));
-    qDeleteAll(installed);
 }
 
 QTEST_MAIN(tst_Client)

@@ -80,6 +80,7 @@ void tst_SmallWindow::windowCanBeSmall_data()
         QTest::newRow("one account" + direction) << 1 << 0 << isRightToLeft;
         QTest::newRow("many accounts and the search" + direction) << 12 << 0 << isRightToLeft;
         QTest::newRow("plug-ins" + direction) << 1 << 1 << isRightToLeft;
+        QTest::newRow("general" + direction) << 1 << 2 << isRightToLeft;
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QToolButton>
+#include <QTranslator>
 #include <QTreeWidget>
 #include <cstdio>
 
@@ -26,6 +27,11 @@ int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
 
+    QTranslator german;
+    bool good = check(german.load(QStringLiteral("kirv_gui_accounts_tab_de"), QStringLiteral(TRANSLATIONS)),
+                      "the texts of the page are there in German");
+    QApplication::installTranslator(&german);
+
     MemoryHost host(QStringLiteral(LAYOUTS));
     host.addAccount(QStringLiteral("ann"), QStringLiteral("Ann at home"));
     host.addAccount(QStringLiteral("ben"), QStringLiteral("Ben at work"), false);
@@ -38,7 +44,10 @@ int main(int argc, char **argv)
 
     const auto *list = page->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));
     const auto *selector = page->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount"));
-    bool good = check(list->topLevelItemCount() == 2, "both accounts are listed");
+    good &= check(list->topLevelItemCount() == 2, "both accounts are listed");
+    good &= check(list->headerItem()->text(1) == QLatin1String("Protokoll"), "and it speaks German");
+    const auto *removeButton = page->findChild<QToolButton *>(QStringLiteral("Accounts_RemoveButton"));
+    good &= check(removeButton->text().contains(QLatin1String("ntfernen")), "also in its layout");
     good &= check(selector->count() == 1, "the enabled one is offered as main account");
 
     list->topLevelItem(1)->setCheckState(0, Qt::Checked);

@@ -19,7 +19,7 @@ public:
     }
 
     State state() const override { return current; }
-    QString providerName() const override { return QStringLiteral("Fake Keyring"); }
+    QString providerName() const override { return provider; }
 
     void setState(State state)
     {
@@ -27,6 +27,7 @@ public:
         Q_EMIT stateChanged();
     }
 
+    QString provider = QStringLiteral("Fake Keyring");
     QMap<QString, QString> secrets; ///< by key
     QMap<QString, QString> labels; ///< by key
     QStringList calls; ///< "read", "write" and "remove", in order

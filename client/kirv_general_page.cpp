@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_general_page.h"
+
+#include "client/kirv_damaged_profile.h"
+#include "client/kirv_secret_texts.h"
+#include "client/kirv_translations.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/store/kirv_profile_rescue.h"
+#include "core/ui/kirv_form_area.h"
+
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QTreeWidget>
+#include <QUrl>
+#include <QVBoxLayout>
+
+KirvGeneralPage::KirvGeneralPage(KirvAccountCollection &accounts, const KirvTranslations *translations,
+                                 const QString &profileFolder, QWidget *parent)
+    : QWidget(parent)
+    , accounts(accounts)
+    , profileFolder(profileFolder)
+{
+    setObjectName(QStringLiteral("General"));
+    auto *area = new KirvFormArea(this);
+    auto *content = new QWidget(area);
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(createLanguage(translations));
+    column->addWidget(createKeyring());
+    column->addWidget(createProfile());
+    column->addStretch();
+    area->setWidget(content);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(area);
+    connect(&accounts.secrets(), &KirvSecretKeeper::changed, this, &KirvGeneralPage::refreshKeyring);
+    refreshKeyring();
+}
+
+QLabel *KirvGeneralPage::createText(const char *name, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setWordWrap(true);
+    return label;
+}
+
+QGroupBox *KirvGeneralPage::createLanguage(const KirvTranslations *translations)
+{
+    auto *group = new QGroupBox(tr("Language"), this);
+    group->setObjectName(QStringLiteral("General_LanguageGroup"));
+    languageBox = new QComboBox(group);
+    languageBox->setObjectName(QStringLiteral("General_Language"));
+    languageBox->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    languageBox->setEnabled(translations);
+    auto *label = new QLabel(tr("&Language of the program:"), group);
+    label->setObjectName(QStringLiteral("General_LanguageLabel"));
+    label->setBuddy(languageBox);
+    languageHint = createText("General_LanguageHint", group);
+    languageHint->hide();
+    if (translations)
+        fillLanguages(*translations);
+    connect(languageBox, QOverload<int>::of(&QComboBox::activated), this,
+            [this](int index) { Q_EMIT languageChosen(languageBox->itemData(index).toString()); });
+
+    auto *form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    form->addRow(label, languageBox);
+    auto *column = new QVBoxLayout(group);
+    column->addLayout(form);
+    column->addWidget(languageHint);
+    return group;
+}
+
+void KirvGeneralPage::fillLanguages(const KirvTranslations &translations)
+{
+    //: entry of a list of languages; %1 = the language of the system in its own words, as "Deutsch"
+    languageBox->addItem(tr("As the system (%1)").arg(KirvTranslations::ownName(translations.languageOfSystem())),
+                         QString());
+    const QStringList languages = translations.languages();
+    for (const QString &language : languages) {
+        languageBox->addItem(KirvTranslations::ownName(language), language);
+        if (!KirvTranslations::isRead(language))
+            languageBox->setItemData(languageBox->count() - 1, tr("No native speaker has read these texts yet."),
+                                     Qt::ToolTipRole);
+    }
+}
+
+void KirvGeneralPage::showLanguage(const QString &language, bool isPending)
+{
+    languageBox->setCurrentIndex(qMax(0, languageBox->findData(language)));
+    languageBox->setToolTip(languageBox->currentData(Qt::ToolTipRole).toString());
+    languageHint->setText(isPending ? tr("The language changes when the open windows are closed.") : QString());
+    languageHint->setVisible(isPending);
+}
+
+void KirvGeneralPage::focusLanguage()
+{
+    languageBox->setFocus(Qt::OtherFocusReason);
+}
+
+QGroupBox *KirvGeneralPage::createKeyring()
+{
+    auto *group = new QGroupBox(tr("Passwords"), this);
+    group->setObjectName(QStringLiteral("General_KeyringGroup"));
+    keyringText = createText("General_Keyring", group);
+    unlockButton = new QPushButton(tr("&Unlock…"), group);
+    unlockButton->setObjectName(QStringLiteral("General_UnlockButton"));
+    unlockButton->setToolTip(tr("Reads the passwords that accounts wait for; the keyring asks you to unlock it."));
+    connect(unlockButton, &QPushButton::clicked, this, &KirvGeneralPage::unlock);
+    auto *row = new QHBoxLayout(group);
+    row->addWidget(keyringText, 1);
+    row->addWidget(unlockButton, 0, Qt::AlignTop);
+    return group;
+}
+
+void KirvGeneralPage::refreshKeyring()
+{
+    const KirvSecretStore *keyring = accounts.secrets().keyring();
+    keyringText->setText(KirvSecretTexts(accounts.secrets()).state());
+    // A keyring asks only for a password that is in it.
+    bool isAwaited = false;
+    const QList<KirvAccount *> all = accounts.accounts();
+    for (const KirvAccount *account : all)
+        isAwaited = isAwaited || account->awaitsSecrets();
+    unlockButton->setVisible(keyring && keyring->state() == KirvSecretStore::Locked && isAwaited);
+}
+
+void KirvGeneralPage::unlock()
+{
+    const QList<KirvAccount *> all = accounts.accounts();
+    for (KirvAccount *account : all) {
+        if (account->awaitsSecrets())
+            accounts.secrets().read(account);
+    }
+}
+
+QGroupBox *KirvGeneralPage::createProfile()
+{
+    auto *group = new QGroupBox(tr("Profile"), this);
+    group->setObjectName(QStringLiteral("General_ProfileGroup"));
+    QLabel *folder = createText("General_ProfileFolder", group);
+    //: %1 = path of a folder
+    folder->setText(
+        tr("Your accounts and settings are in the folder %1.").arg(QDir::toNativeSeparators(profileFolder)));
+    auto *openButton = new QPushButton(tr("&Open Folder"), group);
+    openButton->setObjectName(QStringLiteral("General_OpenFolderButton"));
+    openButton->setToolTip(tr("Shows the folder in the file manager."));
+    connect(openButton, &QPushButton::clicked, this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(profileFolder)); });
+
+    copiesLabel = createText("General_CopiesText", group);
+    copyList = new QTreeWidget(group);
+    copyList->setObjectName(QStringLiteral("General_Copies"));
+    copyList->setAccessibleName(tr("Copies of the profile"));
+    copyList->setHeaderLabels({ tr("Date"), tr("Accounts") });
+    copyList->setRootIsDecorated(false);
+    copyList->setTabKeyNavigation(false);
+    copyList->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    copyList->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+
+    auto *row = new QHBoxLayout;
+    row->addWidget(folder, 1);
+    row->addWidget(openButton, 0, Qt::AlignTop);
+    auto *column = new QVBoxLayout(group);
+    column->addLayout(row);
+    column->addWidget(copiesLabel);
+    column->addWidget(copyList);
+    return group;
+}
+
+/// Each copy is read for that, so only when somebody looks.
+void KirvGeneralPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        refreshCopies();
+}
+
+void KirvGeneralPage::refreshCopies()
+{
+    const QList<KirvProfileCopy> copies = KirvProfileRescue(profileFolder).copies();
+    copiesLabel->setText(copies.isEmpty() ? tr("There are no copies of the profile yet.")
+                                          : tr("Copies of the profile, without passwords; one can be restored when the "
+                                               "profile is damaged:"));
+    copyList->clear();
+    for (const KirvProfileCopy &copy : copies)
+        copyList->addTopLevelItem(
+            new QTreeWidgetItem({ KirvDamagedProfile::dateText(copy), QLocale().toString(copy.accounts) }));
+    copyList->resizeColumnToContents(0);
+    copyList->setVisible(!copies.isEmpty());
+}

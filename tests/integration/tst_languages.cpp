@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_settings_window.h"
+#include "client/kirv_translations.h"
+#include "tests/integration/kirv_client_windows.h"
+
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+const QString ann = QStringLiteral("ann");
+}
+
+/// The program speaks the language of the system or the one that was chosen, and English where there is no other.
+class tst_Languages : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void languageOfTheSystemIsSpoken_data();
+    void languageOfTheSystemIsSpoken();
+    void languagesAreNamedInTheirOwnWords();
+    void germanIsComplete();
+    void numberIsSaidInPlainEnglish_data();
+    void numberIsSaidInPlainEnglish();
+    void existingAccountIsSaidWithoutTheSlip_data();
+    void existingAccountIsSaidWithoutTheSlip();
+    void directionFollowsTheLanguage();
+
+private:
+    /// As a program does that is started with the locale \a system.
+    void start(const QString &system);
+    /// Copies what there is of English and adds empty texts of \a languages.
+    QString folderWith(const QStringList &languages);
+
+    QTemporaryDir folder;
+    std::unique_ptr<KirvTranslations> translations;
+};
+
+void tst_Languages::init()
+{
+    QVERIFY(folder.isValid());
+}
+
+void tst_Languages::cleanup()
+{
+    translations.reset();
+    QLocale::setDefault(QLocale::c());
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+void tst_Languages::start(const QString &system)
+{
+    translations.reset();
+    QLocale::setDefault(QLocale(system));
+    translations = std::make_unique<KirvTranslations>(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
+    translations->speak(QString());
+}
+
+QString tst_Languages::folderWith(const QStringList &languages)
+{
+    for (const QString &language : languages)
+        QFile::copy(QStringLiteral(KIRV_TRANSLATIONS "/kirv_en.qm"),
+                    folder.filePath(QStringLiteral("kirv_%1.qm").arg(language)));
+    return folder.path();
+}
+
+void tst_Languages::languageOfTheSystemIsSpoken_data()
+{
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("spoken");
+    QTest::newRow("de_DE") << "de_DE"
+                           << "de";
+    QTest::newRow("de_AT") << "de_AT"
+                           << "de";
+    QTest::newRow("pt_BR") << "pt_BR"
+                           << "pt_BR";
+    QTest::newRow("pt_PT") << "pt_PT"
+                           << "en";
+    QTest::newRow("en_GB") << "en_GB"
+                           << "en";
+    QTest::newRow("nl_NL") << "nl_NL"
+                           << "en";
+    QTest::newRow("ar_EG") << "ar_EG"
+                           << "ar";
+    QTest::newRow("C") << "C"
+                       << "en";
+}
+
+void tst_Languages::languageOfTheSystemIsSpoken()
+{
+    QFETCH(QString, system);
+    QFETCH(QString, spoken);
+    QLocale::setDefault(QLocale(system));
+    KirvTranslations found(*qApp, folderWith({ "de", "pt_BR", "ar" }));
+    found.speak(QString());
+    QCOMPARE(found.spoken(), spoken);
+    QCOMPARE(QLocale(), QLocale(system));
+    found.speak(QStringLiteral("xx"));
+    QCOMPARE(found.spoken(), spoken);
+    found.speak(QStringLiteral("ar"));
+    QCOMPARE(found.spoken(), QStringLiteral("ar"));
+    QCOMPARE(QLocale().language(), QLocale::Arabic);
+}
+
+void tst_Languages::languagesAreNamedInTheirOwnWords()
+{
+    const KirvTranslations found(*qApp, folderWith({ "de", "pt_BR", "ar", "es" }));
+    QStringList names;
+    for (const QString &language : found.languages())
+        names << KirvTranslations::ownName(language);
+    QCOMPARE(names,
+             (QStringList { "Deutsch", "English", "Español", "Português (Brasil)",
+                            QString::fromUtf8("\xd8\xa7\xd9\x84\xd8\xb9\xd8\xb1\xd8\xa8\xd9\x8a\xd8\xa9") }));
+    QVERIFY(KirvTranslations::isRead("en"));
+    QVERIFY(!KirvTranslations::isRead("ar"));
+    const KirvTranslations none(*qApp, folder.filePath("none"));
+    QCOMPARE(none.languages(), QStringList("en"));
+}
+
+void tst_Languages::germanIsComplete()
+{
+    start("de_DE");
+    const KirvClientWindows windows;
+    QVERIFY(windows.isReady());
+    QCOMPARE(windows.client->window()->windowTitle(), QStringLiteral("Kirv – Einstellungen"));
+    QCOMPARE(windows.list()->headerItem()->text(1), QStringLiteral("Protokoll"));
+    const QDialogButtonBox box(QDialogButtonBox::Cancel);
+    QVERIFY(box.button(QDialogButtonBox::Cancel)->text().contains("Abbrechen")); // Qt's own
+}
+
+void tst_Languages::numberIsSaidInPlainEnglish_data()
+{
+    QTest::addColumn<QString>("system");
+    QTest::newRow("English") << "en_US";
+    QTest::newRow("a language without texts") << "nl_NL";
+    QTest::newRow("no language") << "C";
+}
+
+void tst_Languages::numberIsSaidInPlainEnglish()
+{
+    QFETCH(QString, system);
+    start(system);
+    QCOMPARE(QCoreApplication::translate("KirvAccountUndo", "%n accounts were removed.", nullptr, 1),
+             QStringLiteral("1 account was removed."));
+    QCOMPARE(QCoreApplication::translate("KirvAccountUndo", "%n accounts were removed.", nullptr, 2),
+             QStringLiteral("2 accounts were removed."));
+}
+
+void tst_Languages::existingAccountIsSaidWithoutTheSlip_data()
+{
+    numberIsSaidInPlainEnglish_data();
+}
+
+void tst_Languages::existingAccountIsSaidWithoutTheSlip()
+{
+    QFETCH(QString, system);
+    start(system);
+    KirvClientWindows windows;
+    QVERIFY(windows.isReady());
+    windows.addAccount(ann);
+    QStringList texts;
+    QVERIFY(!windows.addInWindow(ann, [&](QMessageBox *box) {
+        KirvClientWindows::settle();
+        texts << box->text();
+    }));
+    QCOMPARE(texts, QStringList(QStringLiteral("Account 'ann' already exists!")));
+}
+
+void tst_Languages::directionFollowsTheLanguage()
+{
+    KirvTranslations found(*qApp, folderWith({ "de", "ar" }));
+    found.speak("ar");
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    found.speak("de");
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft); // as -reverse does
+    KirvTranslations mirrored(*qApp, folder.path());
+    mirrored.speak("de");
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    mirrored.speak("ar");
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+QTEST_MAIN(tst_Languages)
+#include "tst_languages.moc"

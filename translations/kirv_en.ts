@@ -1,0 +1,129 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>KirvAccountCollection</name>
+    <message numerus="yes">
+        <source>The same is true of %n further logins.</source>
+        <translation>
+            <numerusform>The same is true of %n further login.</numerusform>
+            <numerusform>The same is true of %n further logins.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Enable %n Account</numerusform>
+            <numerusform>&amp;Enable %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Disable %n Account</numerusform>
+            <numerusform>&amp;Disable %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>Re&amp;move %n Account…</numerusform>
+            <numerusform>Re&amp;move %n Accounts…</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountGroup</name>
+    <message numerus="yes">
+        <source>Do you want to disable %n accounts? They are logged out.</source>
+        <translation>
+            <numerusform>Do you want to disable %n account? It is logged out.</numerusform>
+            <numerusform>Do you want to disable %n accounts? They are logged out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to remove %n accounts and all related data?</source>
+        <translation>
+            <numerusform>Do you want to remove %n account and all related data?</numerusform>
+            <numerusform>Do you want to remove %n accounts and all related data?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountStrip</name>
+    <message numerus="yes">
+        <source>%n accounts are selected.</source>
+        <translation>
+            <numerusform>%n account is selected.</numerusform>
+            <numerusform>%n accounts are selected.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountUndo</name>
+    <message numerus="yes">
+        <source>&amp;Undo Removing %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Undo Removing %n Account</numerusform>
+            <numerusform>&amp;Undo Removing %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Disabling %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Undo Disabling %n Account</numerusform>
+            <numerusform>&amp;Undo Disabling %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were removed.</source>
+        <translation>
+            <numerusform>%n account was removed.</numerusform>
+            <numerusform>%n accounts were removed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were disabled.</source>
+        <translation>
+            <numerusform>%n account was disabled.</numerusform>
+            <numerusform>%n accounts were disabled.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvClient</name>
+    <message numerus="yes">
+        <source>%n passwords were moved to your keyring.</source>
+        <translation>
+            <numerusform>%n password was moved to your keyring.</numerusform>
+            <numerusform>%n passwords were moved to your keyring.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n passwords were moved to your keyring, which is %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;</extracomment>
+        <translation>
+            <numerusform>%n password was moved to your keyring, which is %1.</numerusform>
+            <numerusform>%n passwords were moved to your keyring, which is %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>translation</name>
+    <message>
+        <source>Account &apos;%1&apos; alerady exists!</source>
+        <comment>information about existing account while adding account</comment>
+        <translation>Account &apos;%1&apos; already exists!</translation>
+    </message>
+</context>
+</TS>
