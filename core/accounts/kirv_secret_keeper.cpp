@@ -12,7 +12,6 @@
 
 namespace {
 
-const QString idSetting = QStringLiteral("profile/id");
 const int batchSize = 20; ///< secrets that one commit moves
 const int tellSize = 50; ///< accounts in one turn of the event loop
 
@@ -84,7 +83,7 @@ void KirvSecretKeeper::startMoving()
 QString KirvSecretKeeper::profileId()
 {
     if (id.isEmpty())
-        id = store.readSetting(idSetting);
+        id = store.readSetting(kirvProfileIdSetting);
     return id;
 }
 
@@ -93,7 +92,7 @@ KirvSecretItem KirvSecretKeeper::newItem(const KirvAccountKey &account)
 {
     if (profileId().isEmpty()) {
         const QString created = randomId();
-        if (store.writeSetting(idSetting, created))
+        if (store.writeSetting(kirvProfileIdSetting, created))
             id = created;
     }
     if (id.isEmpty())
