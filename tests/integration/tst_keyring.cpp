@@ -3,6 +3,7 @@
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
 #include "tests/support/servers/kirv_scripted_secret_service.h"
+#include "tests/support/servers/kirv_scripted_wallet.h"
 #include "tests/support/servers/kirv_silent_bus.h"
 
 #include <QCoreApplication>
@@ -53,7 +54,7 @@ protected:
 };
 
 /// Starts this program again, with its last arguments and with variables of its own: the library for the bus reads the
-/// address once.
+/// address once, and QtKeychain chooses once.
 void startAgain(QProcess &process, const QString &argument, const QMap<QString, QByteArray> &variables)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -77,6 +78,7 @@ private Q_SLOTS:
     void aBusThatDoesNotAnswerHoldsNothingUp_data();
     void aBusThatDoesNotAnswerHoldsNothingUp();
     void aBusThatHangsUpIsNone();
+    void theServiceThatIsShownIsUsedInEverySession();
     void onlyTheBusSaysWhoOffersTheService();
     void withoutAServiceThereIsNoKeyring();
     void aSecretIsWrittenReadAndRemoved();
@@ -198,6 +200,38 @@ void tst_Keyring::aBusThatHangsUpIsNone()
     QCOMPARE(said, QByteArray("Unknown, Unavailable"));
     process.closeWriteChannel();
     QTRY_COMPARE(process.state(), QProcess::NotRunning);
+}
+
+/// In Plasma QtKeychain prefers another interface of KWallet to the Secret Service, whoever offers that.
+void tst_Keyring::theServiceThatIsShownIsUsedInEverySession()
+{
+    KirvGnomeKeyring daemon;
+    QVERIFY(daemon.start());
+    KirvScriptedWallet wallet;
+    QVERIFY(wallet.appear());
+    QProcess process;
+    startAgain(process, QStringLiteral("--keep"),
+               { { QStringLiteral("XDG_CURRENT_DESKTOP"), "KDE" },
+                 { QStringLiteral("KDE_SESSION_VERSION"), "5" },
+                 { QStringLiteral("KDE_FULL_SESSION"), "true" } });
+    QTRY_COMPARE(process.state(), QProcess::NotRunning);
+    QCOMPARE(process.readAllStandardOutput(), QByteArray("GNOME Keyring Done KDE"));
+    QCOMPARE(daemon.count(), 1);
+    QCOMPARE(wallet.calls(), 0);
+}
+
+/// What that process does.
+static int keepInPlasma()
+{
+    KirvKeyring keyring;
+    Answer answer;
+    keyring.write(item, QStringLiteral("secret"), &answer, answer.taker());
+    if (!QTest::qWaitFor([&] { return answer.has(); }))
+        return 1;
+    std::printf("%s %s %s", qPrintable(keyring.providerName()),
+                QMetaEnum::fromType<KirvSecretStore::Outcome>().valueToKey(answer.outcome()),
+                qgetenv("XDG_CURRENT_DESKTOP").constData());
+    return 0;
 }
 
 void tst_Keyring::onlyTheBusSaysWhoOffersTheService()
@@ -400,6 +434,8 @@ int main(int argc, char *argv[])
         return writeWithoutBus();
     if (application.arguments().contains(QStringLiteral("--follow")))
         return followStates();
+    if (application.arguments().contains(QStringLiteral("--keep")))
+        return keepInPlasma();
     tst_Keyring test;
     return QTest::qExec(&test, argc, argv);
 }
