@@ -5,6 +5,7 @@
 #include "core/accounts/kirv_secret_keeper.h"
 #include "core/store/kirv_account_columns.h"
 #include "core/store/kirv_store.h"
+#include "core/store/kirv_wiped_text.h"
 
 #include <utility>
 
@@ -106,6 +107,8 @@ void KirvSecretKeeper::endBatch()
     const QStringList kept = verified.isEmpty() ? QStringList() : store.keepSecretItems(verified);
     const bool isRefused = !verified.isEmpty() && kept.isEmpty() && !store.lastError().isEmpty();
     const QList<KirvStoredItem> ended = std::exchange(batch, {});
+    for (QString &value : batchValues)
+        kirvWipe(value);
     batchValues.clear();
     verified.clear();
     movedCount += int(kept.size());

@@ -2,6 +2,7 @@
 #include "core/store/kirv_keyring.h"
 
 #include "core/store/kirv_keyring_watcher.h"
+#include "core/store/kirv_wiped_text.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
@@ -236,12 +237,15 @@ void KirvKeyring::giveUp()
 }
 
 /// Answers the running operation.
-void KirvKeyring::answer(const Reply &reply)
+void KirvKeyring::answer(Reply reply)
 {
     const std::unique_ptr<Operation> answered = std::exchange(running, nullptr);
     const QPointer<KirvKeyring> alive(this);
     if (answered && answered->context)
         answered->callback(reply);
+    kirvWipe(reply.secret);
+    if (answered)
+        kirvWipe(answered->secret);
     if (alive)
         startNext();
 }
