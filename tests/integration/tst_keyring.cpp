@@ -185,7 +185,7 @@ static int followStates()
         std::fflush(stdout);
     });
     const QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
-    QObject::connect(&input, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
+    QObject::connect(&input, &QSocketNotifier::activated, &answer, &QCoreApplication::quit);
     return QCoreApplication::exec();
 }
 

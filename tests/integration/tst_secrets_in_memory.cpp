@@ -22,6 +22,19 @@
 namespace {
 
 const QString fake = QStringLiteral("Fake");
+const qint64 largestMapping = 1LL << 30; ///< those of sanitizers are larger
+
+/// Memory that was released is overwritten, so that what is found belongs to something.
+QProcessEnvironment environmentThatOverwrites()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("GLIBC_TUNABLES"),
+                       QStringLiteral("glibc.malloc.tcache_count=0:glibc.malloc.perturb=85"));
+    environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                       environment.value(QStringLiteral("ASAN_OPTIONS"))
+                           + QLatin1String(":max_free_fill_size=1048576:free_fill_byte=85"));
+    return environment;
+}
 
 struct Core {
     explicit Core(const QString &folder)
@@ -85,7 +98,7 @@ int countInMemory(qint64 process, const QByteArray &bytes)
             continue;
         const QList<QByteArray> range = columns.first().split('-');
         const qint64 from = range.first().toLongLong(nullptr, 16), to = range.value(1).toLongLong(nullptr, 16);
-        if (!memory.seek(from))
+        if (to - from > largestMapping || !memory.seek(from))
             continue;
         count += memory.read(to - from).count(bytes);
     }
@@ -100,21 +113,21 @@ class tst_SecretsInMemory : public QObject {
 
 private Q_SLOTS:
     void initTestCase() { QVERIFY(daemon.start()); }
-    void nothingOfASecretIsLeft_data();
-    void nothingOfASecretIsLeft();
+    void nothingKeepsASecret_data();
+    void nothingKeepsASecret();
 
 private:
     KirvGnomeKeyring daemon;
 };
 
-void tst_SecretsInMemory::nothingOfASecretIsLeft_data()
+void tst_SecretsInMemory::nothingKeepsASecret_data()
 {
     QTest::addColumn<QByteArray>("order");
     QTest::newRow("of a removed account") << QByteArray("remove");
     QTest::newRow("that was replaced") << QByteArray("change");
 }
 
-void tst_SecretsInMemory::nothingOfASecretIsLeft()
+void tst_SecretsInMemory::nothingKeepsASecret()
 {
     QFETCH(QByteArray, order);
     QString secret;
@@ -136,6 +149,7 @@ void tst_SecretsInMemory::nothingOfASecretIsLeft()
         QVERIFY(core.isSettled());
     }
     QProcess process;
+    process.setProcessEnvironment(environmentThatOverwrites());
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(), { QStringLiteral("--follow"), folder });
     const auto carryOut = [&process](const QByteArray &text) {
