@@ -378,13 +378,13 @@ void KirvClient::showMoved(int secrets)
 {
     const KirvSecretStore *place = accountCollection->secrets().keyring();
     const QString name = place ? place->providerName() : QString();
-    if (secrets == 1)
-        showProblem(tr("One password was moved to your keyring."));
-    else if (name.isEmpty())
-        showProblem(tr("%n passwords were moved to your keyring.", nullptr, secrets));
-    else
+    QString text = tr("One password was moved to your keyring.");
+    if (secrets > 1 && name.isEmpty())
+        text = tr("%n passwords were moved to your keyring.", nullptr, secrets);
+    else if (secrets > 1)
         //: %1 = "GNOME Keyring"
-        showProblem(tr("%n passwords were moved to your keyring, which is %1.", nullptr, secrets).arg(name));
+        text = tr("%n passwords were moved to your keyring, which is %1.", nullptr, secrets).arg(name);
+    settingsWindow->messageBar()->showMessage(text, QString(), {}, KirvMessageBar::Information);
 }
 
 void KirvClient::showRefusal(const QString &text)

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLayout>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -55,6 +56,9 @@ KirvRememberBox::KirvRememberBox(QCheckBox *box, const KirvSecretKeeper &keeper,
     , texts(keeper)
     , mayChange(behaviour == OffWhenUnsafe)
 {
+    const QStyle *style = box->style(); // below the text of the box
+    line->setIndent(style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, box)
+                    + style->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, box));
     connect(box, &QCheckBox::clicked, this, [this] { mayChange = false; });
     connect(&keeper, &KirvSecretKeeper::changed, this, &KirvRememberBox::refresh);
     refresh();

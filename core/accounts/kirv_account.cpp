@@ -77,6 +77,7 @@ bool KirvAccount::endSave()
         return true;
     const bool isChanged = current != recordBefore || !isSame(askedPresence, presenceBefore);
     const bool isStored = store();
+    recordBefore = KirvAccountRecord(); // it may have the last copy of a password
     discardUnusedAvatars();
     refreshDescription();
     entry.release(isStored);
@@ -306,7 +307,9 @@ void KirvAccount::providePassword(const QString &password, bool remember)
 
 void KirvAccount::providePasswordForNow(const QString &password)
 {
-    current.password = recordBefore.password = password;
+    current.password = password;
+    if (isSaving())
+        recordBefore.password = password;
     hasPasswordForNow = true;
     awaited.clear();
     askedPresence = logInPresence();
@@ -327,12 +330,17 @@ bool KirvAccount::acceptServerPassword(const QString &password)
     accepted.unreadSecrets.remove(QString());
     keeper.place(accepted, before);
     const bool isStored = !accepted.rememberPassword || profile.updateAccount(accepted);
-    current.password = recordBefore.password = password;
+    current.password = password;
     current.unreadSecrets.remove(QString());
-    recordBefore.unreadSecrets.remove(QString());
+    if (isSaving()) {
+        recordBefore.password = password;
+        recordBefore.unreadSecrets.remove(QString());
+    }
     awaited.remove(QString());
     if (isStored && accepted.rememberPassword) {
-        current.secretItems = recordBefore.secretItems = accepted.secretItems;
+        current.secretItems = accepted.secretItems;
+        if (isSaving())
+            recordBefore.secretItems = accepted.secretItems;
         keeper.settle();
     }
     unstoredPassword = !isStored;

@@ -64,9 +64,22 @@ QList<KirvField> kirvFieldsWithValues(QList<KirvField> fields, const QMap<QStrin
     return fields;
 }
 
+QString kirvSecretOf(const KirvAccountRecord &record, const QString &field)
+{
+    return field.isEmpty() ? record.password : record.settings.value(field);
+}
+
+QSet<QString> kirvSecretFieldsOf(const KirvAccountRecord &record)
+{
+    QSet<QString> fields = record.secretSettings;
+    if (record.rememberPassword)
+        fields.insert(QString());
+    return fields;
+}
+
 void kirvSetSecret(KirvAccountRecord &record, const QString &field, const QString &value)
 {
-    const QString shown = field.isEmpty() ? record.password : record.settings.value(field);
+    const QString shown = kirvSecretOf(record, field);
     if (record.unreadSecrets.contains(field)) {
         if (value == shown)
             return;

@@ -15,6 +15,10 @@ QMap<QString, QString> kirvStoredValues(const QList<KirvField> &fields);
 QSet<QString> kirvSecretFields(const QList<KirvField> &fields);
 /// Notes in \a record which of the settings that \a fields describe are secret.
 void kirvClassify(KirvAccountRecord &record, const QList<KirvField> &fields);
+/// The value of the secret \a field, the password's being empty.
+QString kirvSecretOf(const KirvAccountRecord &record, const QString &field);
+/// The fields of what is secret in \a record.
+QSet<QString> kirvSecretFieldsOf(const KirvAccountRecord &record);
 /// Sets the secret \a field, the password's being empty, to what a window holds. A secret that is not known is shown as
 /// empty: it stays what it is unless something was typed.
 void kirvSetSecret(KirvAccountRecord &record, const QString &field, const QString &value);

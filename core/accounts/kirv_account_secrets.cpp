@@ -3,25 +3,28 @@
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_secret_keeper.h"
 #include "core/store/kirv_store.h"
+#include "core/store/kirv_wiped_text.h"
 
 namespace {
 
 void setValue(KirvAccountRecord &record, const QString &field, const QString &value)
 {
     record.unreadSecrets.remove(field);
-    if (field.isEmpty())
-        record.password = value;
-    else
-        record.settings.insert(field, value);
+    QString &known = field.isEmpty() ? record.password : record.settings[field];
+    if (known != value)
+        kirvWipe(known);
+    known = value;
 }
 
 void forgetValue(KirvAccountRecord &record, const QString &field)
 {
     record.unreadSecrets.insert(field);
-    if (field.isEmpty())
-        record.password.clear();
-    else
-        record.settings.remove(field);
+    if (field.isEmpty()) {
+        kirvWipe(record.password);
+        return;
+    }
+    QString known = record.settings.take(field);
+    kirvWipe(known);
 }
 
 } // namespace

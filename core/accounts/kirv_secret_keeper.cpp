@@ -2,6 +2,7 @@
 #include "core/accounts/kirv_secret_keeper.h"
 
 #include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_fields.h"
 #include "core/store/kirv_account_columns.h"
 #include "core/store/kirv_store.h"
 
@@ -12,27 +13,11 @@
 
 namespace {
 
-const QString idSetting = QStringLiteral("profile/id");
-const int batchSize = 20; ///< secrets that one commit moves
-const int tellSize = 50; ///< accounts in one turn of the event loop
+const int tellSize = 10; ///< accounts in one turn of the event loop
 
 QString randomId()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces);
-}
-
-QString valueOf(const KirvAccountRecord &record, const QString &field)
-{
-    return field.isEmpty() ? record.password : record.settings.value(field);
-}
-
-/// The fields of what is secret in \a record, the password's as the empty one.
-QSet<QString> secretFieldsOf(const KirvAccountRecord &record)
-{
-    QSet<QString> fields = record.secretSettings;
-    if (record.rememberPassword)
-        fields.insert(QString());
-    return fields;
 }
 
 } // namespace
@@ -74,17 +59,10 @@ KirvSecretKeeper::Obstacle KirvSecretKeeper::obstacle() const
     return secretStore->state() == KirvSecretStore::Locked ? Locked : None;
 }
 
-void KirvSecretKeeper::startMoving()
-{
-    mayMove = true;
-    collectMovable();
-    next();
-}
-
 QString KirvSecretKeeper::profileId()
 {
     if (id.isEmpty())
-        id = store.readSetting(idSetting);
+        id = store.readSetting(kirvProfileIdSetting);
     return id;
 }
 
@@ -93,7 +71,7 @@ KirvSecretItem KirvSecretKeeper::newItem(const KirvAccountKey &account)
 {
     if (profileId().isEmpty()) {
         const QString created = randomId();
-        if (store.writeSetting(idSetting, created))
+        if (store.writeSetting(kirvProfileIdSetting, created))
             id = created;
     }
     if (id.isEmpty())
@@ -106,7 +84,7 @@ void KirvSecretKeeper::add(KirvAccount *account)
     accounts.insert(account->key(), account);
     for (const QString &field : account->record().unreadSecrets)
         reads << Secret { account->key(), field };
-    QMetaObject::invokeMethod(this, &KirvSecretKeeper::next, Qt::QueuedConnection);
+    scheduleNext();
 }
 
 void KirvSecretKeeper::remove(KirvAccount *account)
@@ -118,13 +96,13 @@ void KirvSecretKeeper::remove(KirvAccount *account)
 void KirvSecretKeeper::place(KirvAccountRecord &record, const KirvAccountRecord &before, const QSet<QString> &changed)
 {
     const KirvAccountRecord now = kirvStoredForm(record), old = kirvStoredForm(before);
-    for (const QString &field : secretFieldsOf(now)) {
-        const bool isUnchanged = valueOf(now, field) == valueOf(old, field) && !changed.contains(field)
-            && secretFieldsOf(old).contains(field);
+    for (const QString &field : kirvSecretFieldsOf(now)) {
+        const bool isUnchanged = kirvSecretOf(now, field) == kirvSecretOf(old, field) && !changed.contains(field)
+            && kirvSecretFieldsOf(old).contains(field);
         if (isUnchanged || now.unreadSecrets.contains(field))
             continue;
         record.secretItems.remove(field);
-        if (valueOf(now, field).isEmpty() || !usesKeyring())
+        if (kirvSecretOf(now, field).isEmpty() || !usesKeyring())
             continue;
         const KirvSecretItem item = newItem(record.key);
         if (!item.key.isEmpty())
@@ -183,7 +161,7 @@ void KirvSecretKeeper::onStateChanged()
         keepInProfile();
     if (state == KirvSecretStore::Ready) {
         load();
-        if (movable.isEmpty())
+        if (movable.isEmpty() && toExamine.isEmpty())
             collectMovable();
     }
     tellAccounts();
@@ -229,6 +207,20 @@ void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
     isPaused = true;
     lastOutcome = reply.outcome;
     tellAccounts();
+}
+
+/// From the event loop, and once however many accounts there are.
+void KirvSecretKeeper::scheduleNext()
+{
+    if (std::exchange(isScheduled, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            isScheduled = false;
+            next();
+        },
+        Qt::QueuedConnection);
 }
 
 /// Starts the next operation; each goes on here when it has ended.
@@ -357,7 +349,7 @@ bool KirvSecretKeeper::writeNext()
         if (record.unreadSecrets.contains(row.field))
             continue;
         isBusy = true;
-        writeAndReadBack(row.item, valueOf(record, row.field), [this, row](const KirvSecretStore::Reply &reply) {
+        writeAndReadBack(row.item, kirvSecretOf(record, row.field), [this, row](const KirvSecretStore::Reply &reply) {
             isBusy = false;
             const QPointer<KirvSecretKeeper> alive(this);
             onWritten(row, reply);
@@ -404,96 +396,4 @@ bool KirvSecretKeeper::removeNext()
         next();
     });
     return true;
-}
-
-/// Which settings are secret is known when the protocol is loaded.
-void KirvSecretKeeper::collectMovable()
-{
-    movable.clear();
-    if (!mayMove || !usesKeyring())
-        return;
-    for (const KirvAccount *account : qAsConst(accounts)) {
-        const KirvAccountRecord record = kirvStoredForm(account->record());
-        for (const QString &field : secretFieldsOf(record)) {
-            const bool isHere = !record.secretItems.contains(field) && !valueOf(record, field).isEmpty();
-            if (isHere && (field.isEmpty() || account->protocol()))
-                movable << Secret { account->key(), field };
-        }
-    }
-}
-
-/// Notes the items of the next secrets to move; nothing is changed when the profile cannot be written.
-void KirvSecretKeeper::beginBatch()
-{
-    while (!movable.isEmpty() && batch.size() < batchSize) {
-        const Secret secret = movable.takeFirst();
-        const KirvAccount *account = accounts.value(secret.account);
-        const KirvAccountRecord record = account ? kirvStoredForm(account->record()) : KirvAccountRecord();
-        const QString value = valueOf(record, secret.field);
-        const KirvSecretItem item = newItem(secret.account);
-        if (value.isEmpty() || item.key.isEmpty() || record.secretItems.contains(secret.field))
-            continue;
-        batch << KirvStoredItem { item, secret.account, secret.field, KirvStoredItem::New };
-        batchValues.insert(item.key, value);
-    }
-    if (!batch.isEmpty() && !store.addSecretItems(batch)) {
-        batch.clear();
-        batchValues.clear();
-        movable.clear();
-    }
-}
-
-bool KirvSecretKeeper::moveNext()
-{
-    if (batch.isEmpty())
-        beginBatch();
-    if (batch.isEmpty()) {
-        if (movedCount > 0)
-            Q_EMIT moved(std::exchange(movedCount, 0));
-        return false;
-    }
-    const KirvSecretItem item = batch.at(verified.size()).item;
-    isBusy = true;
-    writeAndReadBack(item, batchValues.value(item.key), [this, item](const KirvSecretStore::Reply &reply) {
-        isBusy = false;
-        const QPointer<KirvSecretKeeper> alive(this);
-        const bool isDone = reply.outcome == KirvSecretStore::Done;
-        if (isDone)
-            verified << item.key;
-        if (!isDone || verified.size() == batch.size())
-            endBatch();
-        if (alive && !isDone)
-            pause(reply);
-        if (alive)
-            next();
-    });
-    return true;
-}
-
-/// What was read back leaves the profile; what was not stays there, and its items are removed.
-void KirvSecretKeeper::endBatch()
-{
-    const QStringList kept = verified.isEmpty() ? QStringList() : store.keepSecretItems(verified);
-    const bool isRefused = !verified.isEmpty() && kept.isEmpty() && !store.lastError().isEmpty();
-    const QList<KirvStoredItem> ended = std::exchange(batch, {});
-    batchValues.clear();
-    verified.clear();
-    movedCount += int(kept.size());
-    QStringList unused;
-    for (const KirvStoredItem &row : ended) {
-        KirvAccount *account = accounts.value(row.account);
-        if (!kept.contains(row.item.key))
-            unused << row.item.key;
-        else if (account)
-            account->secretPlaced(row.field, row.item);
-    }
-    if (!unused.isEmpty())
-        store.makeItemsObsolete(unused);
-    load();
-    if (isRefused) { // the profile cannot be written: at the next start
-        mayMove = false;
-        movable.clear();
-    } else if (movable.isEmpty() && !unused.isEmpty()) {
-        collectMovable();
-    }
 }

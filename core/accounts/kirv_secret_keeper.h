@@ -76,6 +76,7 @@ private:
     KirvSecretItem newItem(const KirvAccountKey &account);
     void onStateChanged();
     void keepInProfile();
+    void scheduleNext();
     void next();
     void pause(const KirvSecretStore::Reply &reply);
     void tellAccounts();
@@ -89,6 +90,7 @@ private:
     void writeAndReadBack(const KirvSecretItem &item, const QString &secret, const KirvSecretStore::Callback &callback);
     bool removeNext();
     void collectMovable();
+    void examineNext();
     void beginBatch();
     bool moveNext();
     void endBatch();
@@ -103,13 +105,15 @@ private:
     QList<KirvStoredItem> writes, removals;
     QSet<QString> newKeys; ///< of items that are not read back yet
     QSet<QString> reported; ///< keys of those of which the person knows that they could not be written
-    QList<Secret> movable; ///< what the profile holds
+    QList<KirvAccountKey> toExamine; ///< whether the profile holds secrets of them
+    QList<Secret> movable; ///< what it holds
     QList<KirvStoredItem> batch; ///< of the move
     QHash<QString, QString> batchValues; ///< by key
     QStringList verified; ///< keys of the first ones of the batch, which are read back
     int movedCount = 0;
     bool mayMove = false;
     bool isBusy = false;
+    bool isScheduled = false;
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
     Obstacle toldObstacle = None; ///< that the accounts know of

@@ -2,8 +2,12 @@
 #include "core/store/kirv_keyring.h"
 
 #include "core/store/kirv_keyring_watcher.h"
+#include "core/store/kirv_wiped_text.h"
 
+#include <QCoreApplication>
 #include <QLibrary>
+#include <QList>
+#include <QPair>
 
 #include <utility>
 
@@ -40,6 +44,43 @@ bool forgetSession()
     if (disconnect)
         disconnect();
     return disconnect;
+}
+
+/// While one exists, the session does not look like Plasma. There QtKeychain would talk to KWallet in KWallet's own
+/// way, whichever program the watcher has found, and wait for it.
+///
+/// Only values of variables that are there are changed: other threads may read the environment meanwhile.
+class OtherDesktop {
+public:
+    OtherDesktop()
+    {
+        for (const char *name : { "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION" }) {
+            if (!qEnvironmentVariableIsSet(name))
+                continue;
+            before << qMakePair(name, qgetenv(name));
+            qputenv(name, QByteArray());
+        }
+    }
+    ~OtherDesktop()
+    {
+        for (const auto &variable : qAsConst(before))
+            qputenv(variable.first, variable.second);
+    }
+    Q_DISABLE_COPY(OtherDesktop)
+
+private:
+    QList<QPair<const char *, QByteArray>> before;
+};
+
+/// Starts a job. With the first one of the process QtKeychain chooses how it keeps secrets; that is libsecret.
+void startJobOfLibrary(QKeychain::Job *job)
+{
+    static bool isChosen = false;
+    job->start();
+    if (std::exchange(isChosen, true))
+        return;
+    const OtherDesktop desktop;
+    QCoreApplication::sendPostedEvents(job); // the start is one
 }
 
 } // namespace
@@ -153,7 +194,7 @@ void KirvKeyring::startJob()
     });
     hasJob = true;
     timeLimit.start(watcher->state() == Locked ? limits.unlocking : limits.operation);
-    job->start();
+    startJobOfLibrary(job);
 }
 
 void KirvKeyring::jobFinished(int error, const QString &secret, const QString &text)
@@ -196,12 +237,15 @@ void KirvKeyring::giveUp()
 }
 
 /// Answers the running operation.
-void KirvKeyring::answer(const Reply &reply)
+void KirvKeyring::answer(Reply reply)
 {
     const std::unique_ptr<Operation> answered = std::exchange(running, nullptr);
     const QPointer<KirvKeyring> alive(this);
     if (answered && answered->context)
         answered->callback(reply);
+    kirvWipe(reply.secret);
+    if (answered)
+        kirvWipe(answered->secret);
     if (alive)
         startNext();
 }

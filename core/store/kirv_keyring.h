@@ -51,7 +51,7 @@ private:
     void startJob();
     void jobFinished(int error, const QString &secret, const QString &text);
     void giveUp();
-    void answer(const Reply &reply);
+    void answer(Reply reply);
     void failWaiting(const Reply &reply);
     void stateKnown();
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_keyring_watcher.h"
 
+#include "core/store/kirv_bus_probe.h"
+
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QFile>
-#include <QFileInfo>
 #include <QMap>
 #include <QUuid>
 
@@ -20,19 +21,6 @@ const char *const serviceInterface = "org.freedesktop.Secret.Service";
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
-
-/// Whether there can be a session bus. Without an address and without the usual socket, connecting would start one.
-bool canHaveBus()
-{
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (address.isEmpty())
-        return !runtime.isEmpty() && QFileInfo::exists(runtime + QLatin1String("/bus"));
-    const QLatin1String local("unix:path=");
-    if (!address.startsWith(local) || address.contains(QLatin1Char(';')))
-        return true;
-    return QFileInfo::exists(address.mid(local.size()).section(QLatin1Char(','), 0, 0));
-}
 
 /// The name, as people know it, of the program of the process \a pid; empty when it is none of those.
 QString nameOfProgram(uint pid)
@@ -66,6 +54,9 @@ KirvKeyringWatcher::KirvKeyringWatcher(int patienceMilliseconds, QObject *parent
 
 KirvKeyringWatcher::~KirvKeyringWatcher()
 {
+    if (!connecting) // to a bus that has not answered Qt was never connected
+        return;
+    connecting->wait();
     // A call must not outlast its connection.
     qDeleteAll(findChildren<QDBusPendingCallWatcher *>(QString(), Qt::FindDirectChildrenOnly));
     QDBusConnection::disconnectFromBus(connectionName);
@@ -73,17 +64,42 @@ KirvKeyringWatcher::~KirvKeyringWatcher()
 
 void KirvKeyringWatcher::start()
 {
-    if (!canHaveBus()) {
+    probe = std::make_unique<KirvBusProbe>();
+    connect(probe.get(), &KirvBusProbe::answered, this, &KirvKeyringWatcher::connectToBus);
+    connect(probe.get(), &KirvBusProbe::refused, this, [this] { finish(KirvSecretStore::Unavailable); });
+    switch (probe->start(KirvBusProbe::sessionAddress())) {
+    case KirvBusProbe::NoBus:
         current = KirvSecretStore::Unavailable;
-        return;
+        break;
+    case KirvBusProbe::Awaited:
+        patience.start();
+        break;
+    case KirvBusProbe::NotProbed:
+        patience.start();
+        connectToBus();
+        break;
     }
-    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName);
+}
+
+/// Also a bus that answers makes Qt wait for it.
+void KirvKeyringWatcher::connectToBus()
+{
+    connecting.reset(
+        QThread::create([name = connectionName] { QDBusConnection::connectToBus(QDBusConnection::SessionBus, name); }));
+    connect(connecting.get(), &QThread::finished, this, &KirvKeyringWatcher::connected);
+    connecting->start();
+}
+
+void KirvKeyringWatcher::connected()
+{
+    QDBusConnection bus(connectionName);
     if (!bus.isConnected()) {
-        current = KirvSecretStore::Unavailable;
+        finish(KirvSecretStore::Unavailable);
         return;
     }
-    bus.connect(busName, busPath, busName, QStringLiteral("NameOwnerChanged"), this,
-                SLOT(onNameOwnerChanged(QString, QString, QString)));
+    // No service: for a name the connection would ask the bus who owns it, and wait.
+    bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), { serviceName }, QString(), this,
+                SLOT(onNameOwnerChanged(QString, QString, QString, QDBusMessage)));
     askForOwner();
 }
 
@@ -110,9 +126,11 @@ void KirvKeyringWatcher::askForOwner()
     });
 }
 
-void KirvKeyringWatcher::onNameOwnerChanged(const QString &name, const QString &, const QString &newOwner)
+/// Whatever is on the bus can emit a signal of this name.
+void KirvKeyringWatcher::onNameOwnerChanged(const QString &name, const QString &, const QString &newOwner,
+                                            const QDBusMessage &message)
 {
-    if (name == serviceName)
+    if (name == serviceName && message.service() == busName)
         setOwner(newOwner);
 }
 

@@ -7,13 +7,18 @@
 #include <QDBusMessage>
 #include <QObject>
 #include <QString>
+#include <QThread>
 #include <QTimer>
 #include <functional>
+#include <memory>
+
+class KirvBusProbe;
 
 /// Finds out over D-Bus who keeps the secrets of the session, and whether they are locked, and follows both. Private to
 /// the store.
 ///
-/// Only calls without waiting are made, and only to a service that runs: none is started.
+/// Only calls without waiting are made, and only to a service that runs: none is started. A bus that does not answer is
+/// Silent like a service that does not; it is connected in a thread, and only when it answers.
 class KirvKeyringWatcher : public QObject {
     Q_OBJECT
 
@@ -41,11 +46,14 @@ Q_SIGNALS:
     void refreshed();
 
 private Q_SLOTS:
-    void onNameOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
+    void onNameOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner,
+                            const QDBusMessage &message);
 
 private:
     using Handler = std::function<void(const QDBusMessage &reply)>;
 
+    void connectToBus();
+    void connected();
     void setOwner(const QString &newOwner);
     void follow(bool on);
     void finish(KirvSecretStore::State state);
@@ -58,6 +66,8 @@ private:
     QDBusMessage toOwner(const QString &path, const char *interface, const char *method) const;
 
     const QString connectionName;
+    std::unique_ptr<KirvBusProbe> probe; ///< until the bus has answered
+    std::unique_ptr<QThread> connecting; ///< what connects to it
     QString owner; ///< the unique name of the service; empty: there is none
     QString provider;
     KirvSecretStore::State current = KirvSecretStore::Unknown;

@@ -59,10 +59,9 @@ bool KirvProfileRescue::restore(const KirvProfileCopy &copy)
     KirvDatabase database;
     const bool made = prepareUnfinished() && QFile::copy(copy.path, paths.unfinished())
         && kirvMakePrivate(paths.unfinished()) && database.open(paths.unfinished(), KirvDatabase::Plain)
-        && database.execute(QStringLiteral("PRAGMA application_id = %1").arg(kirvProfileId))
-        && database.execute(QStringLiteral("DELETE FROM profile_copy"));
+        && upgrade(database) && database.execute(QStringLiteral("DELETE FROM profile_copy"));
     if (made)
-        KirvRowSalvage(database).releaseItemsOf(paths);
+        KirvRowSalvage(database).takeItemsOf(paths, KirvStoredItem::Obsolete);
     database.close();
     return made ? replaceDatabase() : fail(KirvProfileCheck(paths).notWritable().text);
 }
@@ -96,8 +95,17 @@ bool KirvProfileRescue::startFresh()
     KirvDatabase database;
     const bool made =
         prepareUnfinished() && KirvProfileOpening::makeDatabase(paths.unfinished(), kirvProfileId, database);
+    if (made) // they stay where they are, as what is kept aside may still be restored
+        KirvRowSalvage(database).takeItemsOf(paths, KirvStoredItem::Kept);
     database.close();
     return made ? replaceDatabase() : fail(KirvProfileCheck(paths).notWritable().text);
+}
+
+/// A copy of an earlier version has no place for what must be added to it.
+bool KirvProfileRescue::upgrade(KirvDatabase &database)
+{
+    const int version = database.valueOf(QStringLiteral("PRAGMA user_version")).toInt();
+    return version > 0 && database.begin() && kirvUpgradeSchema(database, version, kirvProfileId) && database.commit();
 }
 
 bool KirvProfileRescue::prepareUnfinished()

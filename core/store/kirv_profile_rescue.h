@@ -57,6 +57,7 @@ private:
     bool keepAside();
     bool fail(const QString &reason);
     bool prepareUnfinished();
+    static bool upgrade(KirvDatabase &database);
 
     const KirvProfilePaths paths;
     QString kept;

@@ -205,6 +205,7 @@ void KirvRowSalvage::readItem(const Row &row, bool isObsolete)
 {
     const auto account = accounts.find(row.value(QStringLiteral("account")).toLongLong());
     const QString field = row.value(QStringLiteral("field")).toString();
+    itemKey = row.value(QStringLiteral("key")).toString();
     const bool isUsed = !isObsolete && account != accounts.end() && !account->secretItems.contains(field)
         && (field.isEmpty() ? account->password.isEmpty() : !account->secretSettings.contains(field));
     if (!isUsed) {
@@ -217,22 +218,35 @@ void KirvRowSalvage::readItem(const Row &row, bool isObsolete)
     ++counts.secrets;
 }
 
-void KirvRowSalvage::releaseItemsOf(const KirvProfilePaths &paths)
+void KirvRowSalvage::takeItemsOf(const KirvProfilePaths &paths, KirvStoredItem::Stage stage)
 {
     if (!open(paths) || !hasTable("secret_item"))
         return;
     version = kirvStoreVersion();
     unusedItems = rowsOf(QStringLiteral("secret_item"), 1).values();
-    writeUnusedItems();
+    if (!unusedItems.isEmpty())
+        itemKey = unusedItems.first().value(QStringLiteral("key")).toString();
+    if (writeUnusedItems(stage))
+        writeProfileId();
 }
 
-bool KirvRowSalvage::writeUnusedItems()
+/// Only items that bear the id of the profile are ever removed. Whatever has become of the row with the id, items have
+/// it too.
+bool KirvRowSalvage::writeProfileId()
 {
-    return std::all_of(unusedItems.constBegin(), unusedItems.constEnd(), [this](const Row &row) {
+    const QString id = itemKey.section(QLatin1Char('/'), 0, 0);
+    return id.isEmpty()
+        || target.execute(QStringLiteral("INSERT OR IGNORE INTO setting (key, value) VALUES (?, ?)"),
+                          { kirvProfileIdSetting, id });
+}
+
+bool KirvRowSalvage::writeUnusedItems(KirvStoredItem::Stage stage)
+{
+    return std::all_of(unusedItems.constBegin(), unusedItems.constEnd(), [this, stage](const Row &row) {
         return target.execute(
             QStringLiteral("INSERT OR IGNORE INTO secret_item (key, label, account, field, stage) "
                            "VALUES (?, ?, 0, '', %1)")
-                .arg(int(KirvStoredItem::Obsolete)),
+                .arg(int(stage)),
             { row.value(QStringLiteral("key")).toString(), row.value(QStringLiteral("label")).toString() });
     });
 }
@@ -252,13 +266,14 @@ bool KirvRowSalvage::write()
                 || target.execute(QStringLiteral("INSERT OR IGNORE INTO avatar_file (name) VALUES (?)"),
                                   { account.avatar }));
     }
-    good = good && writeUnusedItems();
+    good = good && writeUnusedItems(KirvStoredItem::Obsolete);
     for (const Row &row : settings) {
         good = good
             && target.execute(QStringLiteral("INSERT OR IGNORE INTO setting (key, value) VALUES (?, ?)"),
                               { row.value(QStringLiteral("key")), row.value(QStringLiteral("value")).toString() });
         ++counts.clientSettings;
     }
+    good = good && writeProfileId();
     if (good)
         return target.commit();
     target.rollBack();

@@ -5,6 +5,7 @@
 #include "core/store/kirv_account_record.h"
 #include "core/store/kirv_database.h"
 #include "core/store/kirv_profile_rescue.h"
+#include "core/store/kirv_secret_item_table.h"
 
 #include <QMap>
 #include <QStringList>
@@ -24,9 +25,9 @@ public:
     /// False when the table of the accounts cannot be read at all, or the target cannot be written; its error says
     /// which.
     bool readFrom(const KirvProfilePaths &paths);
-    /// Adds the items of the table "secret_item" that the target lacks as obsolete ones, as far as they are readable:
-    /// the database that names them is about to be replaced.
-    void releaseItemsOf(const KirvProfilePaths &paths);
+    /// Adds the items of the table "secret_item" that the target lacks, as far as they are readable, in \a stage and of
+    /// no account: the database that names them is about to be replaced.
+    void takeItemsOf(const KirvProfilePaths &paths, KirvStoredItem::Stage stage);
     KirvProfileRescue::Recovered found() const { return counts; }
 
 private:
@@ -40,7 +41,8 @@ private:
     void readValues(const QString &table);
     void readItems();
     void readItem(const Row &row, bool isObsolete);
-    bool writeUnusedItems();
+    bool writeUnusedItems(KirvStoredItem::Stage stage);
+    bool writeProfileId();
     bool hasTable(const char *name);
     bool write();
 
@@ -54,7 +56,8 @@ private:
     int version = 0;
     QMap<qint64, KirvAccountRecord> accounts; ///< by their numbers
     QMap<qint64, qint64> positions;
-    QList<Row> unusedItems; ///< to be removed where they are
+    QList<Row> unusedItems; ///< of no account
+    QString itemKey; ///< of any item
     KirvProfileRescue::Recovered counts;
 };
 

@@ -5,11 +5,15 @@
 #include "core/store/kirv_account_record.h"
 
 #include <QHash>
+#include <QLatin1String>
 #include <QList>
 #include <QStringList>
 #include <QVariant>
 
 class KirvDatabase;
+
+/// The client-wide setting with the id that all items of the profile bear.
+const QLatin1String kirvProfileIdSetting("profile/id");
 
 /// One secret that stands, or may stand, in a store of secrets. A value type.
 struct KirvStoredItem {

@@ -265,6 +265,8 @@ void tst_PasswordsInWindows::theMoveIsSaidOnce()
     secrets().startMoving();
     QTRY_COMPARE(keyring->secrets.size(), 12);
     QTRY_COMPARE(windows->messages(), QStringList("12 passwords were moved to your keyring, which is Fake Keyring."));
+    const auto *icon = KirvClientWindows::child<QLabel>(windows->client->window(), "MessageBar_Icon");
+    QCOMPARE(icon->accessibleName(), QStringLiteral("Information")); // nothing is wrong
     restart(KirvSecretStore::Ready);
     secrets().startMoving();
     settle();

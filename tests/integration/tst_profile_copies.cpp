@@ -6,6 +6,7 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
+#include <algorithm>
 #include <memory>
 #include <unistd.h>
 
@@ -60,6 +61,8 @@ private Q_SLOTS:
     void theDatabaseIsCheckedWithoutWriting();
     void aCopyIsRestoredAndTheDamagedFileKept();
     void whatARepairDoesNotUseIsRemovedFromTheKeyring();
+    void aCopyFromBeforeTheKeyringKnowsWhatIsInIt_data();
+    void aCopyFromBeforeTheKeyringKnowsWhatIsInIt();
     void aDamagedCopyIsNotOffered();
     void readableRowsAreRecovered_data();
     void readableRowsAreRecovered();
@@ -333,6 +336,59 @@ void tst_ProfileCopies::whatARepairDoesNotUseIsRemovedFromTheKeyring()
     QVERIFY(store.open(folder));
     QCOMPARE(itemOf(), QStringLiteral("p/1"));
     QCOMPARE(releasedKey(), QStringLiteral("p/2"));
+}
+
+void tst_ProfileCopies::aCopyFromBeforeTheKeyringKnowsWhatIsInIt_data()
+{
+    QTest::addColumn<bool>("isOfVersion3");
+    QTest::addColumn<bool>("isAfterFreshStart");
+    QTest::newRow("of this version") << false << false;
+    QTest::newRow("of version 3") << true << false;
+    QTest::newRow("after a fresh start") << false << true;
+    QTest::newRow("of version 3 after a fresh start") << true << true;
+}
+
+/// Otherwise what the profile has in the keyring would stay there for ever.
+void tst_ProfileCopies::aCopyFromBeforeTheKeyringKnowsWhatIsInIt()
+{
+    QFETCH(bool, isOfVersion3);
+    QFETCH(bool, isAfterFreshStart);
+    makeProfile(2); // with a copy at the end
+    KirvProfileRescue rescue(folder);
+    const QString copy = rescue.copies().first().path;
+    if (isOfVersion3) {
+        QVERIFY(QFile::remove(copy));
+        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_3.sqlite"), copy));
+        const QVariant result =
+            runInDatabase(copy, { "DELETE FROM secret", QStringLiteral("PRAGMA application_id = %1").arg(0x4b697243) });
+        QVERIFY2(!result.isValid(), qPrintable(result.toString()));
+    }
+    KirvStore store;
+    QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+    const QString idSetting = QStringLiteral("profile/id"), key = QStringLiteral("ours/1");
+    QVERIFY(store.writeSetting(idSetting, QStringLiteral("ours")));
+    QVERIFY(store.addSecretItems({ { { key, QStringLiteral("Kirv") }, makeAccount(0).key, QString() } }));
+    QCOMPARE(store.keepSecretItems({ key }), QStringList(key));
+    store.close();
+    if (isAfterFreshStart) {
+        QVERIFY2(rescue.startFresh(), qPrintable(rescue.lastError()));
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+        QVERIFY(store.readAccounts().isEmpty());
+        QVERIFY(store.unsettledItems().isEmpty()); // what is in the keyring stays there
+        store.close();
+    }
+    const QList<KirvProfileCopy> copies = rescue.copies();
+    const auto chosen =
+        std::find_if(copies.begin(), copies.end(), [&](const KirvProfileCopy &one) { return one.path == copy; });
+    QVERIFY(chosen != copies.end());
+    QVERIFY2(rescue.restore(*chosen), qPrintable(rescue.lastError()));
+    QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+    QCOMPARE(store.readAccounts().size(), isOfVersion3 ? 3 : 2);
+    QCOMPARE(store.readSetting(idSetting), QStringLiteral("ours"));
+    const QList<KirvStoredItem> items = store.unsettledItems();
+    QCOMPARE(items.size(), 1);
+    QCOMPARE(items.first().item.key, key);
+    QCOMPARE(items.first().stage, KirvStoredItem::Obsolete);
 }
 
 void tst_ProfileCopies::aDamagedCopyIsNotOffered()

@@ -4,8 +4,10 @@
 #include "tests/support/kirv_profile_files.h"
 
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -49,6 +51,8 @@ private Q_SLOTS:
     void aNewSecretThatWasWrittenIsUsed();
 
     void whatTheProfileRefusesIsNotTriedForEver();
+
+    void aTurnOfTheEventLoopServesAFewAccounts();
 
     void theProfileIsMovedOnce();
     void aMoveThatFailsLosesNothing_data();
@@ -506,6 +510,29 @@ void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
     settle();
     QVERIFY2(keyring->calls.size() < 5, qPrintable(keyring->calls.join(QLatin1Char(' '))));
     QCOMPARE(account()->getPassword(), QStringLiteral("another one"));
+}
+
+/// However many wait for the keyring: each changes a row of a list.
+void tst_SecretKeeper::aTurnOfTheEventLoopServesAFewAccounts()
+{
+    for (int number = 0; number < 200; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    QTRY_COMPARE(keyring->secrets.size(), 200);
+    settle();
+    keyring->setState(KirvSecretStore::Unknown);
+    restart();
+    settle();
+    int changes = 0, changesInTurn = 0, most = 0;
+    connect(core->accounts.get(), &KirvAccountCollection::accountChanged, this, [&] {
+        ++changes;
+        ++changesInTurn;
+    });
+    QTimer turns; // times out once in each
+    connect(&turns, &QTimer::timeout, this, [&] { most = qMax(most, std::exchange(changesInTurn, 0)); });
+    turns.start(0);
+    keyring->setState(KirvSecretStore::Silent);
+    QTRY_COMPARE(changes, 200);
+    QVERIFY2(most > 0 && most <= 20, QByteArray::number(most).constData());
 }
 
 void tst_SecretKeeper::theProfileIsMovedOnce()

@@ -4,6 +4,7 @@
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
+#include "tests/support/servers/kirv_silent_bus.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void theFirstStartMovesEverySecret();
     void twoProfilesSideBySideKeepTheirOwn();
     void withAServiceThatIsNotThereTheProfileStaysAsItIs();
+    void aSessionBusThatDoesNotAnswerHoldsNothingUp();
 
 private:
     static void makeProfile(const QString &folder);
@@ -173,6 +175,28 @@ void tst_KeyringInTheProgram::withAServiceThatIsNotThereTheProfileStaysAsItIs()
         QVERIFY(account.secretItems.isEmpty());
         QCOMPARE(account.password, passwordOf(account.key.id.mid(4).toInt()));
     }
+}
+
+/// Whatever waits for it waits for 25 seconds.
+void tst_KeyringInTheProgram::aSessionBusThatDoesNotAnswerHoldsNothingUp()
+{
+    QTemporaryDir home;
+    const QString folder = home.filePath(QStringLiteral("profile"));
+    makeProfile(folder);
+    const KirvSilentBus bus(KirvSilentBus::NeverAnswers);
+    QVERIFY(bus.isReady());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromLatin1(bus.address()));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    start(program, folder);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder + QStringLiteral("/plugins.json")), 15000); // it has loaded them
+    program.terminate();
+    QVERIFY(program.waitForFinished(15000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    KirvStore store;
+    QVERIFY(store.open(folder));
+    QCOMPARE(store.readAccounts().value(0).password, passwordOf(0));
 }
 
 int main(int argc, char *argv[])

@@ -80,6 +80,8 @@ private:
                          { QVariant::fromValue(QDBusVariant(QString())),
                            QVariant::fromValue(QDBusObjectPath(QStringLiteral("/org/freedesktop/secrets/session/1"))) })
                              : message.createErrorReply(QDBusError::NotSupported, QStringLiteral("plain only")));
+        } else if (method == QLatin1String("GetAll")) {
+            bus.send(message.createReply(QVariantMap()));
         } else if (method == QLatin1String("SearchItems")) {
             bus.send(message.createReply({ QVariant::fromValue(none), QVariant::fromValue(one) }));
         } else if (method == QLatin1String("Unlock")) {
