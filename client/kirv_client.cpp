@@ -165,6 +165,9 @@ void KirvClient::createWindow()
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
+    connect(serverCommands, &KirvServerCommands::succeeded, this, [this](const QString &text) {
+        settingsWindow->messageBar()->showMessage(text, QString(), {}, KirvMessageBar::Information);
+    });
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
             &KirvPasswordQuestions::ask);
 }

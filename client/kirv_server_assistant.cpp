@@ -343,7 +343,7 @@ void KirvServerAssistant::goBack()
         request->goBack(fields->getFields());
 }
 
-void KirvServerAssistant::showOutcome(const QString &content, const QString &command)
+void KirvServerAssistant::showOutcome(const QString &content, const QString &command, bool isProblem)
 {
     isOver = true;
     step.command = command;
@@ -351,7 +351,7 @@ void KirvServerAssistant::showOutcome(const QString &content, const QString &com
     step.canGoBack = false;
     setWaiting(false);
     area->setEnabled(false);
-    showMessage(content, true);
+    showMessage(content, isProblem);
     (command.isEmpty() ? closeButton : nextButton)->setFocus();
 }
 

@@ -34,8 +34,8 @@ public:
     /// Whether the password of the new account is to be stored.
     bool isPasswordToBeRemembered() const;
     /// The request is over, and \a text says what is left to say. With a \a command, in title case, there is a button
-    /// besides Close that emits outcomeCommandTriggered().
-    void showOutcome(const QString &text, const QString &command);
+    /// besides Close that emits outcomeCommandTriggered(). \a isProblem: it is shown as a warning.
+    void showOutcome(const QString &text, const QString &command, bool isProblem = true);
 
 Q_SIGNALS:
     void outcomeCommandTriggered();

@@ -44,6 +44,8 @@ Q_SIGNALS:
     void unavailable(const QString &text);
     /// Something failed after its window was closed; \a text is for the user.
     void problemOccurred(const QString &text);
+    /// Something succeeded after its window was closed; \a text is for the user.
+    void succeeded(const QString &text);
 
 private:
     QList<KirvProtocolBase *> offeringProtocols() const;

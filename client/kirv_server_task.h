@@ -39,12 +39,15 @@ public:
 Q_SIGNALS:
     /// The request failed after its window was closed, \a text is for the user.
     void problemOccurred(const QString &text);
+    /// The request succeeded after its window was closed, \a text says so to the user.
+    void succeeded(const QString &text);
 
 private:
     /// What is left to say after the accounts were changed.
     struct Outcome {
         QString text; ///< empty: everything is done
         QString command; ///< tries again; empty: that would not help
+        bool isProblem = true;
     };
 
     void createAssistant(QWidget *window);
@@ -64,6 +67,7 @@ private:
     QPointer<QWidget> parentWindow;
     KirvServerRequest::Result result;
     bool isRemembered = true; ///< the password of the new account
+    bool isFinished = false; ///< there is a result
     bool isOver = false;
 };
 
