@@ -274,7 +274,7 @@ void KirvEditWindowCompanion::showSecrets(const KirvAccount &account)
     const bool isShown = !unread.contains(QString()) || !account.getPassword().isEmpty();
     passwordReason->setText(isShown                       ? QString()
                                 : account.awaitsSecrets() ? texts.notShown()
-                                                          : tr("The password is not in the keyring any more."));
+                                                          : KirvSecretTexts::passwordIsGone());
     passwordReason->setVisible(!isShown);
     const QSet<QString> known = unshownSecrets - unread;
     unshownSecrets.intersect(unread);

@@ -82,3 +82,8 @@ QString KirvSecretTexts::notShown() const
     //: %1 = a few words, as "The keyring is locked"
     return tr("%1. The password stays as it is unless you enter another one.").arg(shortObstacle());
 }
+
+QString KirvSecretTexts::passwordIsGone()
+{
+    return tr("The password is not in the keyring any more.");
+}
