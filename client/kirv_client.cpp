@@ -151,7 +151,7 @@ void KirvClient::createWindow()
         settingsWindow.get());
     connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
     page = KirvAccountsTab::getInstance();
-    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
+    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, *accountCollection, options.pluginFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
     if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
         settingsWindow->messageBar()->floatOver(list);
