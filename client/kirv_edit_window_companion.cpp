@@ -6,11 +6,13 @@
 #include "client/kirv_directory_guard.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_remember_box.h"
+#include "client/kirv_state_line.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/values/kirv_text_limit.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_avatar_quick_set_widget.h"
+#include "host/kirv_field_widget.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -101,6 +103,7 @@ void KirvEditWindowCompanion::aboutToShow()
             showSecrets(*shown);
     });
     showIdentifierAsPlainText();
+    describeParts();
     showDescriptionAsPlainText(*account);
     watchRefusals(*account);
     addServerAccountButton();
@@ -128,6 +131,26 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
         identifier->setText(
             kirvPlainName(kirvShortName(accountKey.id) + QLatin1String(" (") + accountKey.protocol + QLatin1Char(')')));
     }
+}
+
+/// What a layout need not have, and what an empty line means.
+void KirvEditWindowCompanion::describeParts()
+{
+    if (auto *state = window()->findChild<QLabel *>(QStringLiteral("EditAccount_State")))
+        new KirvStateLine(state, accountKey, accounts);
+    auto *alias = window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias"));
+    alias->setPlaceholderText(kirvPlainName(kirvShortName(accountKey.id)));
+    for (const char *name : { "EditAccount_ServerHeading", "EditAccount_PresenceHeading" }) {
+        if (auto *heading = window()->findChild<QLabel *>(QLatin1String(name))) {
+            QFont bold = heading->font();
+            bold.setBold(true);
+            heading->setFont(bold);
+        }
+    }
+    const auto *settings = window()->findChild<QWidget *>(QStringLiteral("EditAccount_AccSettings"));
+    auto *heading = window()->findChild<QLabel *>(QStringLiteral("EditAccount_ServerHeading"));
+    if (heading && settings && !settings->findChild<KirvFieldWidget *>())
+        heading->hide();
 }
 
 /// The page sets it as a text that may be markup.
@@ -173,6 +196,9 @@ bool KirvEditWindowCompanion::commitSave()
 {
     const QPointer<KirvEditWindowCompanion> alive(this);
     const QPointer<KirvAccount> account = std::exchange(saving, nullptr);
+    const bool isWrong = directory && directory->wouldPublishWrong();
+    if (isWrong)
+        account->cancelSave();
     const bool isSaved = account->endSave();
     if (!alive || !account || account->isRemoved())
         return true;
@@ -182,6 +208,10 @@ bool KirvEditWindowCompanion::commitSave()
     if (!isSaved) {
         KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
         KirvAccountsTab::getInstance()->updateAccounts(); // and the selector, in the order of the rows
+    }
+    if (isWrong) {
+        directory->showWrongEntry();
+    } else if (!isSaved) {
         showRefusal(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
     } else if (keepsOpen) {
         setPublishing(true);
@@ -276,6 +306,7 @@ void KirvEditWindowCompanion::showSecrets(const KirvAccount &account)
                                 : account.awaitsSecrets() ? texts.notShown()
                                                           : KirvSecretTexts::passwordIsGone());
     passwordReason->setVisible(!isShown);
+    passwordEdit->setPlaceholderText(isShown ? tr("None is stored") : QString());
     const QSet<QString> known = unshownSecrets - unread;
     unshownSecrets.intersect(unread);
     for (const QString &field : known) {

@@ -46,6 +46,7 @@ private:
     void bindWindow();
     void addServerAccountButton();
     void showIdentifierAsPlainText();
+    void describeParts();
     void showDescriptionAsPlainText(const KirvAccount &account);
     void beginSave();
     bool commitSave();
