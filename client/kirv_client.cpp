@@ -145,6 +145,9 @@ void KirvClient::createWindow()
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
+    KirvProviderList providers;
+    showProblem(providers.load(QDir(options.profileFolder)));
+    serverCommands->setProviders(providers);
     auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
     companions = new KirvWindowCompanions(
         *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings },

@@ -127,6 +127,7 @@ void KirvServerCommands::open(const QString &name, KirvServerRequest *request, K
     auto *task = new KirvServerTask(std::unique_ptr<KirvServerRequest>(request), protocol, account, accounts, this);
     connect(task, &KirvServerTask::problemOccurred, this, &KirvServerCommands::problemOccurred);
     connect(task, &KirvServerTask::succeeded, this, &KirvServerCommands::succeeded);
+    task->setProviders(providers.of(protocol->getName()));
     tasks.insert(name, task);
     task->show(over);
 }

@@ -43,6 +43,7 @@ void KirvServerTask::createAssistant(QWidget *window)
 {
     parentWindow = window;
     assistant = new KirvServerAssistant(request.get(), window);
+    assistant->setProviders(providers);
     // A dialogue about one account belongs to the window that it was opened from.
     if (requestAccount && window)
         assistant->setWindowModality(Qt::WindowModal);

@@ -2,6 +2,7 @@
 #ifndef KIRV_SERVER_TASK_H
 #define KIRV_SERVER_TASK_H
 
+#include "client/kirv_provider_list.h"
 #include "core/accounts/kirv_account.h"
 #include "core/protocol/kirv_server_request.h"
 
@@ -30,6 +31,8 @@ public:
     KirvProtocolBase *protocol() const { return requestProtocol; }
     KirvAccount *account() const { return requestAccount; }
 
+    /// What the assistant offers as servers; call it before show().
+    void setProviders(const QList<KirvProvider> &newProviders) { providers = newProviders; }
     /// Shows the assistant, over \a window when it is made here, and starts the request the first time.
     void show(QWidget *window);
     /// Ends the request and closes the window, at once.
@@ -65,6 +68,7 @@ private:
     KirvAccountCollection &accounts;
     QPointer<KirvServerAssistant> assistant;
     QPointer<QWidget> parentWindow;
+    QList<KirvProvider> providers;
     KirvServerRequest::Result result;
     bool isRemembered = true; ///< the password of the new account
     bool isFinished = false; ///< there is a result
