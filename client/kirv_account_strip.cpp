@@ -2,6 +2,7 @@
 #include "client/kirv_account_strip.h"
 
 #include "client/kirv_account_status.h"
+#include "client/kirv_button_flow.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_state_shape.h"
 #include "core/accounts/kirv_account.h"
@@ -9,7 +10,6 @@
 
 #include <QEvent>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -76,8 +76,7 @@ QPushButton *KirvAccountStrip::createButton(const char *name, const QString &tex
 
 void KirvAccountStrip::arrange()
 {
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
+    auto *buttons = new KirvButtonFlow;
     buttons->addWidget(passwordButton);
     buttons->addWidget(reconnectButton);
     buttons->addWidget(editButton);
@@ -95,7 +94,7 @@ void KirvAccountStrip::fixHeight()
     icon->setFixedSize(edge, edge);
     reason->setMinimumHeight(reason->fontMetrics().lineSpacing());
     reason->setMaximumHeight(linesOfReason * reason->fontMetrics().lineSpacing());
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
 void KirvAccountStrip::changeEvent(QEvent *event)

@@ -8,6 +8,7 @@
 #include "client/kirv_remember_box.h"
 #include "client/kirv_state_line.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/values/kirv_text_limit.h"
 #include "edit_account/kirv_edit_account_dialog.h"
@@ -15,11 +16,13 @@
 #include "host/kirv_field_widget.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextEdit>
 
 #include <utility>
@@ -109,6 +112,18 @@ void KirvEditWindowCompanion::aboutToShow()
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
+    fitToScreen();
+}
+
+/// As a rule a window opens with two thirds of the screen at most, and what does not fit is scrolled.
+void KirvEditWindowCompanion::fitToScreen()
+{
+    const auto areas = window()->findChildren<KirvFormArea *>();
+    for (const KirvFormArea *area : areas)
+        area->ensurePolished();
+    // Once the forms in the areas are laid out, they may be narrower.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    window()->resize(window()->sizeHint().boundedTo(window()->screen()->availableSize() * 9 / 10));
 }
 
 void KirvEditWindowCompanion::bindWindow()
@@ -128,6 +143,7 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
 {
     if (auto *identifier = window()->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))) {
         identifier->setTextFormat(Qt::PlainText);
+        identifier->setToolTip(kirvPlainToolTip(kirvPlainName(accountKey.id))); // the line may be too short for it
         identifier->setText(
             kirvPlainName(kirvShortName(accountKey.id) + QLatin1String(" (") + accountKey.protocol + QLatin1Char(')')));
     }

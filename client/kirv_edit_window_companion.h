@@ -47,6 +47,7 @@ private:
     void addServerAccountButton();
     void showIdentifierAsPlainText();
     void describeParts();
+    void fitToScreen();
     void showDescriptionAsPlainText(const KirvAccount &account);
     void beginSave();
     bool commitSave();

@@ -30,10 +30,14 @@ public:
 
     KirvMessageBar *messageBar() const { return messages; }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void arrange();
     void restoreSize();
     void fitListToContents();
+    void fitToScreen();
 
     KirvClientSettings &settings;
     QLabel *banner;
