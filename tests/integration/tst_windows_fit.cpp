@@ -62,8 +62,13 @@ bool isClipped(const QWidget *widget)
 QString nameOf(const QWidget *widget)
 {
     const QVariant text = widget->property("text");
-    return QStringLiteral("%1 %2 \"%3\"")
-        .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(), text.toString());
+    const QRect place(widget->mapTo(widget->window(), QPoint()), widget->size());
+    return QStringLiteral("%1 %2 \"%3\" at %4,%5, %6 x %7")
+        .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(), text.toString())
+        .arg(place.x())
+        .arg(place.y())
+        .arg(place.width())
+        .arg(place.height());
 }
 
 /// What stands outside of \a window or of the widget around it, or whose text is clipped.
