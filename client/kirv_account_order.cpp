@@ -222,7 +222,8 @@ bool KirvAccountOrder::dropped(QDropEvent *event)
         return true;
     }
     moveSelection(positionOf(event));
-    event->setDropAction(Qt::CopyAction);
+    // Only a move is possible here: another action would become one, after which the view removes what was dragged.
+    event->setDropAction(Qt::IgnoreAction);
     event->accept();
     return true;
 }

@@ -13,17 +13,49 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 const int millisecondsOfASecond = 1000;
 /// How much of the colour of the name the line below it has.
 const qreal strengthOfState = 0.75;
+const qreal readableContrast = 4.6; // 4.5 is enough for small text; colours are rounded
 
-QColor mixed(const QColor &ink, const QColor &paper)
+QColor mixed(const QColor &ink, const QColor &paper, qreal strength)
 {
-    const auto mix = [](qreal front, qreal back) { return front * strengthOfState + back * (1 - strengthOfState); };
+    const auto mix = [strength](qreal front, qreal back) { return front * strength + back * (1 - strength); };
     return QColor::fromRgbF(mix(ink.redF(), paper.redF()), mix(ink.greenF(), paper.greenF()),
                             mix(ink.blueF(), paper.blueF()));
+}
+
+/// How bright \a color is to the eye, from 0 to 1.
+qreal brightness(const QColor &color)
+{
+    const auto linear = [](qreal value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// Whether small text of the one colour can be read on the other, by the usual measure.
+bool canBeRead(const QColor &ink, const QColor &paper)
+{
+    const qreal front = brightness(ink) + 0.05;
+    const qreal back = brightness(paper) + 0.05;
+    return std::max(front, back) / std::min(front, back) >= readableContrast;
+}
+
+/// A paler \a ink, as far as it can be read.
+QColor paler(const QColor &ink, const QColor &paper)
+{
+    for (qreal strength = strengthOfState; strength < 1; strength += 0.05) {
+        const QColor pale = mixed(ink, paper, strength);
+        if (canBeRead(pale, paper))
+            return pale;
+    }
+    return ink;
 }
 
 /// The icon as it is, also on a selected row: styles mix it with the colour behind it.
@@ -101,7 +133,7 @@ void KirvAccountRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem
                                    : kirvStateColor(status.kind(), row.palette));
     if (status.kind() == KirvAccountStatus::Disabled || status.kind() == KirvAccountStatus::NotLoaded)
         row.palette.setColor(QPalette::Text,
-                             mixed(row.palette.color(QPalette::Text), row.palette.color(QPalette::Base)));
+                             paler(row.palette.color(QPalette::Text), row.palette.color(QPalette::Base)));
     paintLines(painter, row, textPlace, name, status.line());
     if (status.kind() == KirvAccountStatus::Waiting && !countdown->isActive())
         countdown->start(millisecondsOfASecond);
@@ -131,7 +163,7 @@ void KirvAccountRowDelegate::paintLines(QPainter *painter, const QStyleOptionVie
     line.moveTop(line.bottom() + 1);
     line.setHeight(smallMetrics.height());
     painter->setFont(small);
-    painter->setPen(isSelected ? ink : mixed(ink, option.palette.color(group, QPalette::Base)));
+    painter->setPen(isSelected ? ink : paler(ink, option.palette.color(group, QPalette::Base)));
     painter->drawText(line, int(alignment) | Qt::TextSingleLine,
                       smallMetrics.elidedText(state, Qt::ElideRight, line.width()));
     painter->restore();

@@ -104,7 +104,7 @@ void KirvAccountStrip::fixHeight()
     icon->setFixedSize(edge, edge);
     reason->setMinimumHeight(reason->fontMetrics().lineSpacing());
     reason->setMaximumHeight(linesOfReason * reason->fontMetrics().lineSpacing());
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
 void KirvAccountStrip::changeEvent(QEvent *event)

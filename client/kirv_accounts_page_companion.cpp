@@ -104,8 +104,11 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
     });
     if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
         new KirvMainAccountSelector(selector);
-    if (auto *button = top->findChild<QToolButton *>(QStringLiteral("Accounts_RegisterButton")))
-        new KirvNarrowButton(button, top);
+    // One after the other, as the page gets narrower; the strip and the keys offer what these do, too.
+    for (const char *name : { "Accounts_RegisterButton", "Accounts_RemoveButton", "Accounts_EditButton" }) {
+        if (auto *button = top->findChild<QToolButton *>(QLatin1String(name)))
+            new KirvNarrowButton(button, top);
+    }
     // Room for one row, also in a small window.
     list->setMinimumHeight(list->header()->sizeHint().height() + 3 * list->fontMetrics().lineSpacing());
     invite();

@@ -155,6 +155,9 @@ void KirvClient::createWindow()
     connect(layouts.get(), &KirvLayoutCatalog::overrideRejected, this,
             [this](const QString &, const QString &text) { showProblem(text); });
     auto *serverCommands = new KirvServerCommands(*pluginLoader, *accountCollection, settingsWindow.get());
+    KirvProviderList providers;
+    showProblem(providers.load(QDir(options.profileFolder)));
+    serverCommands->setProviders(providers);
     auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
     help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
     companions = new KirvWindowCompanions(
@@ -171,6 +174,9 @@ void KirvClient::createWindow()
 
     connect(serverCommands, &KirvServerCommands::unavailable, this, &KirvClient::showProblem);
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
+    connect(serverCommands, &KirvServerCommands::succeeded, this, [this](const QString &text) {
+        settingsWindow->messageBar()->showMessage(text, QString(), {}, KirvMessageBar::Information);
+    });
     connectPage();
     connect(languageChange, &KirvLanguageChange::changed, this, &KirvClient::createPagesAnew);
 }
@@ -178,7 +184,7 @@ void KirvClient::createWindow()
 void KirvClient::createPages()
 {
     page = KirvAccountsTab::getInstance();
-    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, options.pluginFolder);
+    pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, *accountCollection, options.pluginFolder);
     generalPage = new KirvGeneralPage(*accountCollection, KirvTranslations::instance(), options.profileFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
     if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))

@@ -2,15 +2,19 @@
 #include "client/kirv_directory_guard.h"
 
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_field_form.h"
+#include "core/ui/kirv_field_problem.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "edit_account/kirv_pubdir_account_received_event.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_ui_loader.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
@@ -21,6 +25,7 @@
 namespace {
 const auto statusName = QStringLiteral("EditAccount_PubDirStatus");
 const auto fetchName = QStringLiteral("EditAccount_PubDirFetch");
+const auto deleteName = QStringLiteral("EditAccount_PubDirDelete");
 
 /// Puts \a row above what \a place holds.
 void insertAbove(QWidget *place, QWidget *row)
@@ -73,6 +78,7 @@ void KirvDirectoryGuard::findFields()
         return;
     fields->installEventFilter(this);
     findControls(place);
+    findButtons();
     status->setTextFormat(Qt::PlainText);
 }
 
@@ -106,10 +112,37 @@ void KirvDirectoryGuard::findControls(QWidget *place)
         connect(button, SIGNAL(clicked()), controller, SLOT(requestPubdirInfo()));
 }
 
+/// Those that send a request; what they say of themselves comes back when they are enabled again.
+void KirvDirectoryGuard::findButtons()
+{
+    for (const QString &name : { fetchName, deleteName }) {
+        if (auto *button = window->findChild<QAbstractButton *>(name))
+            buttons << Button { button, button->toolTip(), button->accessibleDescription() };
+    }
+}
+
 void KirvDirectoryGuard::saveBegins()
 {
     wasLocked = isLocked();
     typed = fields ? fields->getFields() : QList<KirvField>();
+    wrong = wrongChanges();
+}
+
+/// What another program has published may look as it likes: only what is changed here is published.
+QStringList KirvDirectoryGuard::wrongChanges() const
+{
+    QStringList ids;
+    KirvAccount *edited = account();
+    if (!fields || wasLocked || !edited || !edited->isOnline())
+        return ids; // nothing is published
+    QHash<QString, KirvField> known;
+    for (const KirvField &field : edited->directory().base())
+        known.insert(field.getId(), field);
+    for (const KirvField &field : typed) {
+        if (field.getText() != known.value(field.getId()).getText() && !kirvFieldProblem(field).isEmpty())
+            ids << field.getId();
+    }
+    return ids;
 }
 
 void KirvDirectoryGuard::saveEnded(bool saved)
@@ -123,6 +156,16 @@ void KirvDirectoryGuard::saveEnded(bool saved)
     if (!saved)
         bringBackTyped();
     updateStatus();
+}
+
+void KirvDirectoryGuard::showWrongEntry()
+{
+    showFields();
+    auto *form = fields ? fields->findChild<KirvFieldForm *>() : nullptr;
+    if (QWidget *control = form ? form->showProblems(wrong) : nullptr)
+        control->setFocus();
+    QAccessibleEvent alert(status, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 bool KirvDirectoryGuard::eventFilter(QObject *watched, QEvent *event)
@@ -151,6 +194,7 @@ void KirvDirectoryGuard::receive(KirvAccountDirectory::Operation operation, cons
     if (!fields || !edited)
         return;
     failure = answer.failure;
+    wrong.clear();
     const bool wasPublishing = std::exchange(publishing, false);
     const bool isSuccess = answer.outcome != KirvDirectoryAnswer::Failed;
     const bool isPublished = isSuccess && operation == KirvAccountDirectory::Publish;
@@ -210,6 +254,25 @@ void KirvDirectoryGuard::updateStatus()
 {
     if (status)
         status->setText(statusText());
+    updateButtons();
+}
+
+void KirvDirectoryGuard::updateButtons()
+{
+    const KirvAccount *edited = account();
+    const bool canRequest = edited && edited->isOnline();
+    for (const Button &button : qAsConst(buttons)) {
+        if (!button.button)
+            continue;
+        button.button->setEnabled(canRequest);
+        button.button->setToolTip(canRequest ? button.toolTip : offlineText());
+        button.button->setAccessibleDescription(canRequest ? button.description : offlineText());
+    }
+}
+
+QString KirvDirectoryGuard::offlineText()
+{
+    return tr("The account must be connected before its directory entry can be read or changed.");
 }
 
 QString KirvDirectoryGuard::statusText() const
@@ -220,7 +283,9 @@ QString KirvDirectoryGuard::statusText() const
     if (edited && isLocked() && edited->directory().isBusy())
         return tr("Requesting the directory entry…");
     if (!edited || !edited->isOnline())
-        return tr("The account must be connected before its directory entry can be read or changed.");
+        return offlineText();
+    if (!wrong.isEmpty())
+        return tr("Nothing was saved, because the entry cannot be published like this. Correct what is marked.");
     if (failure.isFailure())
         return failure.text();
     return isLocked() ? tr("The directory entry is not known. Fetch it again to change it.") : QString();

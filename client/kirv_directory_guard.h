@@ -12,11 +12,13 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvEditAccountDialog;
 class KirvFieldWidget;
+class QAbstractButton;
 class QDialog;
 class QLabel;
 
 /// The directory tab of one edit window: delivers the answers that the window is to show, says why its fields are
-/// locked, and brings back what was typed when it could not be published. Owned by the window.
+/// locked, disables its requests while the account is off line, and brings back what was typed when it could not be
+/// published. Owned by the window.
 class KirvDirectoryGuard : public QObject {
     Q_OBJECT
 
@@ -30,6 +32,10 @@ public:
     void saveEnded(bool saved);
     /// Whether the last save published something that is without its answer. publicationEnded() follows.
     bool isPublishing() const { return publishing; }
+    /// Whether the save that began would publish values that are wrong: it must not be saved.
+    bool wouldPublishWrong() const { return !wrong.isEmpty(); }
+    /// Brings the wrong values to the front and says what is wrong with them, after saveEnded().
+    void showWrongEntry();
     /// Brings the tab with the fields to the front; what is typed there stays.
     void showFields();
 
@@ -40,16 +46,27 @@ Q_SIGNALS:
     void publicationEnded(bool succeeded);
 
 private:
+    /// A button that sends a request, with what it says of itself.
+    struct Button {
+        QPointer<QAbstractButton> button;
+        QString toolTip;
+        QString description; ///< for assistive technology
+    };
+
     KirvAccount *account() const;
     void findFields();
     void findControls(QWidget *place);
+    void findButtons();
     void fetchWhenSeen();
     void deliver(const QList<KirvField> &fields);
     void receive(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
     void bringBackTyped();
+    QStringList wrongChanges() const;
     void onAccountChanged(KirvAccount *changed);
     void updateStatus();
+    void updateButtons();
     QString statusText() const;
+    static QString offlineText();
     bool isLocked() const;
 
     QDialog *window;
@@ -57,9 +74,11 @@ private:
     KirvAccountCollection &accounts;
     const KirvAccountKey key;
     QLabel *status = nullptr;
+    QList<Button> buttons;
     QPointer<KirvFieldWidget> fields; ///< null when the protocol has no directory
     KirvFailure failure; ///< of the latest request
     QList<KirvField> typed; ///< when the save began
+    QStringList wrong; ///< ids of what the latest save would have published and is wrong
     bool wasLocked = false; ///< when the save began
     bool publishing = false;
     bool wasOnline = false;

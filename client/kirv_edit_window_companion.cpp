@@ -6,18 +6,23 @@
 #include "client/kirv_directory_guard.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_remember_box.h"
+#include "client/kirv_state_line.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/values/kirv_text_limit.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "host/kirv_avatar_quick_set_widget.h"
+#include "host/kirv_field_widget.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextEdit>
 
 #include <utility>
@@ -101,12 +106,25 @@ void KirvEditWindowCompanion::aboutToShow()
             showSecrets(*shown);
     });
     showIdentifierAsPlainText();
+    describeParts();
     showDescriptionAsPlainText(*account);
     watchRefusals(*account);
     addServerAccountButton();
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
     input.note(window());
+    fitToScreen();
+}
+
+/// As a rule a window opens with two thirds of the screen at most, and what does not fit is scrolled.
+void KirvEditWindowCompanion::fitToScreen()
+{
+    const auto areas = window()->findChildren<KirvFormArea *>();
+    for (const KirvFormArea *area : areas)
+        area->ensurePolished();
+    // Once the forms in the areas are laid out, they may be narrower.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    window()->resize(window()->sizeHint().boundedTo(window()->screen()->availableSize() * 9 / 10));
 }
 
 void KirvEditWindowCompanion::bindWindow()
@@ -126,9 +144,30 @@ void KirvEditWindowCompanion::showIdentifierAsPlainText()
 {
     if (auto *identifier = window()->findChild<QLabel *>(QStringLiteral("EditAccount_Identifier"))) {
         identifier->setTextFormat(Qt::PlainText);
+        identifier->setToolTip(kirvPlainToolTip(kirvPlainName(accountKey.id))); // the line may be too short for it
         identifier->setText(
             kirvPlainName(kirvShortName(accountKey.id) + QLatin1String(" (") + accountKey.protocol + QLatin1Char(')')));
     }
+}
+
+/// What a layout need not have, and what an empty line means.
+void KirvEditWindowCompanion::describeParts()
+{
+    if (auto *state = window()->findChild<QLabel *>(QStringLiteral("EditAccount_State")))
+        new KirvStateLine(state, accountKey, accounts);
+    auto *alias = window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias"));
+    alias->setPlaceholderText(kirvPlainName(kirvShortName(accountKey.id)));
+    for (const char *name : { "EditAccount_ServerHeading", "EditAccount_PresenceHeading" }) {
+        if (auto *heading = window()->findChild<QLabel *>(QLatin1String(name))) {
+            QFont bold = heading->font();
+            bold.setBold(true);
+            heading->setFont(bold);
+        }
+    }
+    const auto *settings = window()->findChild<QWidget *>(QStringLiteral("EditAccount_AccSettings"));
+    auto *heading = window()->findChild<QLabel *>(QStringLiteral("EditAccount_ServerHeading"));
+    if (heading && settings && !settings->findChild<KirvFieldWidget *>())
+        heading->hide();
 }
 
 /// The page sets it as a text that may be markup.
@@ -174,6 +213,9 @@ bool KirvEditWindowCompanion::commitSave()
 {
     const QPointer<KirvEditWindowCompanion> alive(this);
     const QPointer<KirvAccount> account = std::exchange(saving, nullptr);
+    const bool isWrong = directory && directory->wouldPublishWrong();
+    if (isWrong)
+        account->cancelSave();
     const bool isSaved = account->endSave();
     if (!alive || !account || account->isRemoved())
         return true;
@@ -183,6 +225,10 @@ bool KirvEditWindowCompanion::commitSave()
     if (!isSaved) {
         KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
         KirvAccountsTab::getInstance()->updateAccounts(); // and the selector, in the order of the rows
+    }
+    if (isWrong) {
+        directory->showWrongEntry();
+    } else if (!isSaved) {
         showRefusal(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
     } else if (keepsOpen) {
         setPublishing(true);
@@ -275,8 +321,9 @@ void KirvEditWindowCompanion::showSecrets(const KirvAccount &account)
     const bool isShown = !unread.contains(QString()) || !account.getPassword().isEmpty();
     passwordReason->setText(isShown                       ? QString()
                                 : account.awaitsSecrets() ? texts.notShown()
-                                                          : tr("The password is not in the keyring any more."));
+                                                          : KirvSecretTexts::passwordIsGone());
     passwordReason->setVisible(!isShown);
+    passwordEdit->setPlaceholderText(isShown ? tr("None is stored") : QString());
     const QSet<QString> known = unshownSecrets - unread;
     unshownSecrets.intersect(unread);
     for (const QString &field : known) {

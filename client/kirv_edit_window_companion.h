@@ -49,6 +49,8 @@ private:
     void bindWindow();
     void addServerAccountButton();
     void showIdentifierAsPlainText();
+    void describeParts();
+    void fitToScreen();
     void showDescriptionAsPlainText(const KirvAccount &account);
     void beginSave();
     bool commitSave();

@@ -13,6 +13,37 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace {
+
+/// Why the password is needed, a sentence or two.
+QString reasonOf(const KirvAccount &account)
+{
+    const KirvAccountRecord &record = account.record();
+    if (account.awaitsSecrets())
+        return kirvPlainName(KirvSecretTexts(account.secrets()).obstacle());
+    if (record.password.isEmpty() && record.unreadSecrets.contains(QString()))
+        return KirvSecretTexts::passwordIsGone();
+    if (account.lastFailure().kind() == KirvFailure::WrongPassword)
+        return KirvPasswordDialog::tr("The server did not accept the password that was used last.");
+    if (!record.password.isEmpty())
+        return KirvPasswordDialog::tr("The account has a password; the one that you enter takes its place.");
+    return record.rememberPassword
+        ? KirvPasswordDialog::tr("No password was entered for this account yet.")
+        : KirvPasswordDialog::tr("The password is not remembered, so it is needed when the account logs in.");
+}
+
+QLabel *createText(const QString &name, const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setText(text);
+    return label;
+}
+
+} // namespace
+
 KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *parent)
     : QDialog(parent)
     , accountKey(account.key())
@@ -24,16 +55,15 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     setWindowTitle(tr("Password Needed"));
     setWindowModality(Qt::WindowModal);
 
-    auto *question = new QLabel(this);
-    question->setObjectName(QStringLiteral("PasswordQuestion_Text"));
-    question->setTextFormat(Qt::PlainText);
-    question->setWordWrap(true);
     //: %1 = name of an account, %2 = its protocol
-    question->setText(kirvPlainName(
-        tr("Enter the password of the account %1 (%2).").arg(account.displayName(), account.key().protocol)));
+    const QString request = tr("Enter the password of the account %1 (%2).");
+    auto *question = createText(QStringLiteral("PasswordQuestion_Text"),
+                                kirvPlainName(request.arg(account.displayName(), account.key().protocol)), this);
+    auto *reason = createText(QStringLiteral("PasswordQuestion_Reason"), reasonOf(account), this);
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));
     passwordEdit->setAccessibleName(tr("Password"));
+    passwordEdit->setAccessibleDescription(reason->text());
     passwordEdit->setEchoMode(QLineEdit::Password);
     kirvLimitLength(passwordEdit);
 
@@ -52,19 +82,13 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(question);
-    layout->addWidget(passwordEdit);
-    layout->addWidget(rememberBox);
-    if (forNow) {
+    for (QWidget *part : { static_cast<QWidget *>(question), static_cast<QWidget *>(reason),
+                           static_cast<QWidget *>(passwordEdit), static_cast<QWidget *>(rememberBox) })
+        layout->addWidget(part);
+    if (forNow)
         rememberBox->hide();
-        auto *reason = new QLabel(kirvPlainName(KirvSecretTexts(account.secrets()).obstacle()), this);
-        reason->setObjectName(QStringLiteral("PasswordQuestion_Reason"));
-        reason->setTextFormat(Qt::PlainText);
-        reason->setWordWrap(true);
-        layout->addWidget(reason);
-    } else {
+    else
         new KirvRememberBox(rememberBox, account.secrets(), KirvRememberBox::AsItIs);
-    }
     layout->addStretch();
     layout->addWidget(buttons);
     passwordEdit->setFocus();

@@ -10,7 +10,7 @@ class KirvAccount;
 class QCheckBox;
 class QLineEdit;
 
-/// Asks for the password of one account.
+/// Asks for the password of one account, and says why.
 class KirvPasswordDialog : public QDialog {
     Q_OBJECT
 

@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_plugins_page.h"
 
+#include "client/kirv_plain_text.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "core/plugins/kirv_plugin_queue.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, KirvPluginQueue &queue, const QString &folder,
-                                 QWidget *parent)
+KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, KirvPluginQueue &queue,
+                                 const KirvAccountCollection &accounts, const QString &folder, QWidget *parent)
     : QWidget(parent)
     , plugins(plugins)
     , queue(queue)
+    , accounts(accounts)
     , list(new QTreeWidget(this))
     , details(new QLabel(this))
     , loadButton(new QPushButton(tr("&Load"), this))
@@ -30,6 +34,7 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, KirvPluginQueue &que
     connect(loadButton, &QPushButton::clicked, this, &KirvPluginsPage::loadCurrent);
     connect(unloadButton, &QPushButton::clicked, this, &KirvPluginsPage::unloadCurrent);
     connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::refresh);
+    connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::closeNeedlessQuestion);
     refresh();
 }
 
@@ -147,8 +152,49 @@ void KirvPluginsPage::loadCurrent()
 
 void KirvPluginsPage::unloadCurrent()
 {
-    if (const KirvPluginInfo *plugin = current())
-        plugins.unload(QString(plugin->fileName));
+    const KirvPluginInfo *plugin = current();
+    if (!plugin || question)
+        return;
+    QList<const KirvAccount *> connected;
+    for (const KirvAccount *account : accounts.accountsOf(plugin->name)) {
+        if (account->isOnline())
+            connected << account;
+    }
+    if (connected.isEmpty())
+        plugins.unload(QString(plugin->fileName)); // a copy, as above
+    else
+        confirmUnloading(plugin->name, plugin->fileName, connected);
+}
+
+void KirvPluginsPage::confirmUnloading(const QString &name, const QString &fileName,
+                                       const QList<const KirvAccount *> &connected)
+{
+    const QString text = connected.size() == 1
+        //: %1 = name of a plug-in, %2 = name of an account
+        ? tr("When the plug-in %1 is unloaded, its account %2 goes off line.")
+              .arg(kirvPlainName(name), kirvPlainName(connected.first()->displayName()))
+        //: %1 = name of a plug-in
+        : tr("When the plug-in %1 is unloaded, its %n connected accounts go off line.", nullptr, int(connected.size()))
+              .arg(kirvPlainName(name));
+    question = new QMessageBox(QMessageBox::Warning, tr("Unload Plug-in"), text, QMessageBox::Cancel, this);
+    question->setObjectName(QStringLiteral("Plugins_UnloadQuestion"));
+    question->setTextFormat(Qt::PlainText);
+    question->setInformativeText(
+        tr("The accounts stay in your profile and come back when the plug-in is loaded again."));
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setDefaultButton(QMessageBox::Cancel);
+    QPushButton *unload = question->addButton(tr("&Unload"), QMessageBox::DestructiveRole);
+    unload->setObjectName(QStringLiteral("Plugins_UnloadAnyway"));
+    questionedFile = fileName;
+    connect(unload, &QPushButton::clicked, this, [this, fileName] { plugins.unload(fileName); });
+    question->open();
+}
+
+/// The plug-in that it is about was unloaded meanwhile.
+void KirvPluginsPage::closeNeedlessQuestion()
+{
+    if (question && !plugins.plugin(questionedFile).loaded)
+        question->close();
 }
 
 const KirvPluginInfo *KirvPluginsPage::current() const

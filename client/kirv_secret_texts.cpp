@@ -131,3 +131,8 @@ QString KirvSecretTexts::notShown() const
     }
     return tr("The keyring cannot be read. The password stays as it is unless you enter another one.");
 }
+
+QString KirvSecretTexts::passwordIsGone()
+{
+    return tr("The password is not in the keyring any more.");
+}

@@ -30,6 +30,8 @@ public:
     QString obstacle() const;
     /// Why a password is not shown, and what happens to it; for the edit window.
     QString notShown() const;
+    /// A password that the profile says is in the keyring is not there.
+    static QString passwordIsGone();
 
 private:
     /// \a named with the name of the keyring's program as its %1, or \a nameless when that is not known.

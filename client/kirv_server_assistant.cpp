@@ -2,7 +2,9 @@
 #include "client/kirv_server_assistant.h"
 
 #include "client/kirv_picture_reader.h"
+#include "client/kirv_provider_completer.h"
 #include "client/kirv_wrapped_text.h"
+#include "core/ui/kirv_field_form.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_keyboard.h"
 #include "core/values/kirv_bounded_image.h"
@@ -14,6 +16,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -78,14 +81,9 @@ KirvServerAssistant::KirvServerAssistant(KirvServerRequest *request, QWidget *pa
         setWaiting(true);
         showMessage(reason, false);
     });
-    connect(request, &KirvServerRequest::failed, this, [this](const KirvFailure &failure) {
-        setWaiting(false);
-        showMessage(failure.text(), true);
-    });
-    connect(request, &KirvServerRequest::inputRejected, this, [this](const QString &reason) {
-        setWaiting(false);
-        showMessage(reason, true);
-    });
+    connect(request, &KirvServerRequest::failed, this,
+            [this](const KirvFailure &failure) { showProblem(failure.text()); });
+    connect(request, &KirvServerRequest::inputRejected, this, [this](const QString &reason) { showProblem(reason); });
 }
 
 void KirvServerAssistant::build()
@@ -209,7 +207,7 @@ void KirvServerAssistant::showStep(const KirvServerRequest::Step &newStep)
     showText(text, step.text);
     showConfigurations(step.configurations);
     showPictures();
-    fields->fillWithFields(step.fields);
+    fillFields(step.fields);
     fields->setVisible(!step.fields.isEmpty());
     rememberBox->setVisible(step.hasPassword);
     showMessage(step.notice, true);
@@ -326,7 +324,27 @@ void KirvServerAssistant::showMessage(const QString &content, bool isProblem)
 void KirvServerAssistant::useConfiguration(const QString &name)
 {
     if (request)
-        fields->fillWithFields(request->fieldsOf(name, fields->getFields()));
+        fillFields(request->fieldsOf(name, fields->getFields()));
+}
+
+void KirvServerAssistant::fillFields(const QList<KirvField> &shown)
+{
+    fields->fillWithFields(shown);
+    auto *domain = fields->findChild<QLineEdit *>(QStringLiteral("KirvField_") + step.providerField);
+    if (domain && !step.providerField.isEmpty() && !providers.isEmpty())
+        kirvOfferProviders(domain, providers);
+}
+
+/// The keyboard goes to the first field that is wrong. When none is, it stays in the form, or goes to what is said.
+void KirvServerAssistant::showProblem(const QString &content)
+{
+    setWaiting(false);
+    showMessage(content, true);
+    auto *form = fields->findChild<KirvFieldForm *>();
+    if (QWidget *wrong = form ? form->showProblems() : nullptr)
+        wrong->setFocus();
+    else if (!focusWidget() || !fields->isAncestorOf(focusWidget()))
+        message->setFocus();
 }
 
 void KirvServerAssistant::goOn()
@@ -343,7 +361,7 @@ void KirvServerAssistant::goBack()
         request->goBack(fields->getFields());
 }
 
-void KirvServerAssistant::showOutcome(const QString &content, const QString &command)
+void KirvServerAssistant::showOutcome(const QString &content, const QString &command, bool isProblem)
 {
     isOver = true;
     step.command = command;
@@ -351,7 +369,7 @@ void KirvServerAssistant::showOutcome(const QString &content, const QString &com
     step.canGoBack = false;
     setWaiting(false);
     area->setEnabled(false);
-    showMessage(content, true);
+    showMessage(content, isProblem);
     (command.isEmpty() ? closeButton : nextButton)->setFocus();
 }
 

@@ -2,6 +2,7 @@
 #ifndef KIRV_SERVER_ASSISTANT_H
 #define KIRV_SERVER_ASSISTANT_H
 
+#include "client/kirv_provider_list.h"
 #include "core/protocol/kirv_server_request.h"
 
 #include <QDialog>
@@ -31,11 +32,13 @@ public:
     /// \a request is not owned; it may be destroyed first. Start it afterwards.
     KirvServerAssistant(KirvServerRequest *request, QWidget *parent);
 
+    /// What is offered to choose from where a step has a field for the domain of a provider; from the next step on.
+    void setProviders(const QList<KirvProvider> &newProviders) { providers = newProviders; }
     /// Whether the password of the new account is to be stored.
     bool isPasswordToBeRemembered() const;
     /// The request is over, and \a text says what is left to say. With a \a command, in title case, there is a button
-    /// besides Close that emits outcomeCommandTriggered().
-    void showOutcome(const QString &text, const QString &command);
+    /// besides Close that emits outcomeCommandTriggered(). \a isProblem: it is shown as a warning.
+    void showOutcome(const QString &text, const QString &command, bool isProblem = true);
 
 Q_SIGNALS:
     void outcomeCommandTriggered();
@@ -50,6 +53,8 @@ private:
     void showStep(const KirvServerRequest::Step &newStep);
     void showConfigurations(const QStringList &configurations);
     void showPictures();
+    void fillFields(const QList<KirvField> &shown);
+    void showProblem(const QString &text);
     void showPicture(int index, const KirvBoundedImage &picture);
     void focusStep();
     void growLater();
@@ -65,6 +70,7 @@ private:
 
     const QPointer<KirvServerRequest> request;
     KirvServerRequest::Step step;
+    QList<KirvProvider> providers;
     bool isWaiting = false;
     bool isOver = false;
     QPointer<QWidget> focusBefore; ///< where the keyboard was when waiting began

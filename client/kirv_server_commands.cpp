@@ -126,6 +126,8 @@ void KirvServerCommands::open(const QString &name, KirvServerRequest *request, K
         return;
     auto *task = new KirvServerTask(std::unique_ptr<KirvServerRequest>(request), protocol, account, accounts, this);
     connect(task, &KirvServerTask::problemOccurred, this, &KirvServerCommands::problemOccurred);
+    connect(task, &KirvServerTask::succeeded, this, &KirvServerCommands::succeeded);
+    task->setProviders(providers.of(protocol->getName()));
     tasks.insert(name, task);
     task->show(over);
 }

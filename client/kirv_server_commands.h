@@ -2,6 +2,7 @@
 #ifndef KIRV_SERVER_COMMANDS_H
 #define KIRV_SERVER_COMMANDS_H
 
+#include "client/kirv_provider_list.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/values/kirv_account_key.h"
 
@@ -30,6 +31,8 @@ public:
     KirvServerCommands(KirvPluginLoader &plugins, KirvAccountCollection &accounts, QWidget *window);
     ~KirvServerCommands() override;
 
+    /// What registrations offer as servers.
+    void setProviders(const KirvProviderList &newProviders) { providers = newProviders; }
     /// Registers a new account. An empty \a protocol: the one that offers it, or the one that the user chooses.
     void registerAccount(const QString &protocol = QString());
     /// What the protocol of the account offers; empty while the protocol is not loaded.
@@ -44,6 +47,8 @@ Q_SIGNALS:
     void unavailable(const QString &text);
     /// Something failed after its window was closed; \a text is for the user.
     void problemOccurred(const QString &text);
+    /// Something succeeded after its window was closed; \a text is for the user.
+    void succeeded(const QString &text);
 
 private:
     QList<KirvProtocolBase *> offeringProtocols() const;
@@ -58,6 +63,7 @@ private:
     KirvPluginLoader &plugins;
     KirvAccountCollection &accounts;
     QWidget *const window;
+    KirvProviderList providers;
     QPointer<KirvRegistrationChooser> chooser;
     QHash<QString, QPointer<KirvServerTask>> tasks; ///< by a name that each has alone
 };

@@ -43,6 +43,7 @@ void KirvServerTask::createAssistant(QWidget *window)
 {
     parentWindow = window;
     assistant = new KirvServerAssistant(request.get(), window);
+    assistant->setProviders(providers);
     // A dialogue about one account belongs to the window that it was opened from.
     if (requestAccount && window)
         assistant->setWindowModality(Qt::WindowModal);
@@ -57,7 +58,7 @@ void KirvServerTask::createAssistant(QWidget *window)
 
 void KirvServerTask::windowClosed()
 {
-    const bool canEnd = !request || request->cancel();
+    const bool canEnd = isFinished || !request || request->cancel();
     if (canEnd)
         end();
 }
@@ -89,6 +90,7 @@ void KirvServerTask::failed(const KirvFailure &failure)
 void KirvServerTask::finish(const KirvServerRequest::Result &newResult)
 {
     result = newResult;
+    isFinished = true;
     isRemembered = !assistant || assistant->isPasswordToBeRemembered();
     applyResult();
 }
@@ -114,9 +116,14 @@ void KirvServerTask::applyResult()
         end();
         return;
     }
+    if (!outcome.isProblem && (!assistant || !assistant->isVisible())) {
+        Q_EMIT succeeded(outcome.text);
+        end();
+        return;
+    }
     if (!assistant)
         createAssistant(parentWindow);
-    assistant->showOutcome(outcome.text, outcome.command);
+    assistant->showOutcome(outcome.text, outcome.command, outcome.isProblem);
     assistant->show();
 }
 
@@ -144,12 +151,17 @@ KirvServerTask::Outcome KirvServerTask::addAccount(const KirvLogin &login)
 KirvServerTask::Outcome KirvServerTask::storePassword(const QString &password)
 {
     const bool isStored = !requestAccount || requestAccount->acceptServerPassword(password);
-    if (isStored || !requestAccount)
+    if (!requestAccount)
         return Outcome();
+    const QString name = kirvPlainName(requestAccount->displayName());
+    if (isStored) {
+        //: %1 = name of an account
+        return { tr("The password of the account %1 is changed on its server.").arg(name), QString(), false };
+    }
     //: %1 = name of an account, %2 = the reason, a sentence
     return { tr("The account %1 has the new password on its server. The password is used until the program ends, but "
                 "it is not stored. %2")
-                 .arg(kirvPlainName(requestAccount->displayName()), accounts.lastError()),
+                 .arg(name, accounts.lastError()),
              tr("Store Again") };
 }
 

@@ -2,6 +2,7 @@
 #ifndef KIRV_SERVER_TASK_H
 #define KIRV_SERVER_TASK_H
 
+#include "client/kirv_provider_list.h"
 #include "core/accounts/kirv_account.h"
 #include "core/protocol/kirv_server_request.h"
 
@@ -30,6 +31,8 @@ public:
     KirvProtocolBase *protocol() const { return requestProtocol; }
     KirvAccount *account() const { return requestAccount; }
 
+    /// What the assistant offers as servers; call it before show().
+    void setProviders(const QList<KirvProvider> &newProviders) { providers = newProviders; }
     /// Shows the assistant, over \a window when it is made here, and starts the request the first time.
     void show(QWidget *window);
     /// Ends the request and closes the window, at once.
@@ -39,12 +42,15 @@ public:
 Q_SIGNALS:
     /// The request failed after its window was closed, \a text is for the user.
     void problemOccurred(const QString &text);
+    /// The request succeeded after its window was closed, \a text says so to the user.
+    void succeeded(const QString &text);
 
 private:
     /// What is left to say after the accounts were changed.
     struct Outcome {
         QString text; ///< empty: everything is done
         QString command; ///< tries again; empty: that would not help
+        bool isProblem = true;
     };
 
     void createAssistant(QWidget *window);
@@ -62,8 +68,10 @@ private:
     KirvAccountCollection &accounts;
     QPointer<KirvServerAssistant> assistant;
     QPointer<QWidget> parentWindow;
+    QList<KirvProvider> providers;
     KirvServerRequest::Result result;
     bool isRemembered = true; ///< the password of the new account
+    bool isFinished = false; ///< there is a result
     bool isOver = false;
 };
 

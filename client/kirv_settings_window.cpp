@@ -8,6 +8,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QScreen>
+#include <QShowEvent>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -146,8 +148,24 @@ void KirvSettingsWindow::restoreSize()
     const QByteArray geometry = QByteArray::fromBase64(settings.value(geometryKey).toLatin1());
     if (geometry.isEmpty() || !restoreGeometry(geometry)) {
         const QFontMetrics metrics = fontMetrics();
-        resize(120 * metrics.averageCharWidth(), 32 * metrics.lineSpacing());
+        const QSize wanted(120 * metrics.averageCharWidth(), 32 * metrics.lineSpacing());
+        resize(wanted.boundedTo(screen()->availableSize() * 9 / 10)); // with room for the frame
     }
+}
+
+void KirvSettingsWindow::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    // While the pages are built the window may have grown beyond the screen.
+    if (!event->spontaneous())
+        QMetaObject::invokeMethod(this, &KirvSettingsWindow::fitToScreen, Qt::QueuedConnection);
+}
+
+void KirvSettingsWindow::fitToScreen()
+{
+    const QSize available = screen()->availableSize();
+    if (!isMaximized() && !isFullScreen() && size().boundedTo(available) != size())
+        resize(size().boundedTo(available * 9 / 10));
 }
 
 void KirvSettingsWindow::fitListToContents()

@@ -34,11 +34,15 @@ public:
 
     KirvMessageBar *messageBar() const { return messages; }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void arrange();
     void setTexts();
     void restoreSize();
     void fitListToContents();
+    void fitToScreen();
 
     KirvClientSettings &settings;
     QLabel *banner;

@@ -75,8 +75,11 @@ bool KirvAccount::endSave()
 {
     if (saveDepth == 0 || --saveDepth > 0)
         return true;
+    const bool isKept = !std::exchange(isCancelled, false);
+    if (!isKept)
+        takeBackChanges();
     const bool isChanged = current != recordBefore || !isSame(askedPresence, presenceBefore);
-    const bool isStored = store();
+    const bool isStored = isKept && store();
     recordBefore = KirvAccountRecord(); // it may have the last copy of a password
     discardUnusedAvatars();
     refreshDescription();
@@ -86,7 +89,7 @@ bool KirvAccount::endSave()
     const QPointer<KirvAccount> alive(this);
     if (isStored && isChanged && !removed)
         Q_EMIT changed();
-    if (!isStored && alive && !removed)
+    if (isKept && !isStored && alive && !removed)
         Q_EMIT refused(profile.lastError());
     return isStored;
 }
@@ -105,9 +108,14 @@ bool KirvAccount::store()
             keeper.settle();
         return true;
     }
+    takeBackChanges();
+    return false;
+}
+
+void KirvAccount::takeBackChanges()
+{
     current = recordBefore;
     askedPresence = presenceBefore;
-    return false;
 }
 
 void KirvAccount::discardUnusedAvatars()

@@ -52,6 +52,8 @@ public:
     /// Puts several changes into one, from beginSave() to endSave(). Nesting is allowed; the outermost end stores.
     void beginSave();
     bool endSave();
+    /// The outermost end stores nothing: everything is then as before. It gives false, and refused() is not emitted.
+    void cancelSave() { isCancelled = saveDepth > 0; }
     bool isSaving() const { return saveDepth > 0; }
     /// Copies the image at \a path into the profile as the avatar; an empty path removes the avatar. It is published.
     bool setAvatar(const QString &path);
@@ -148,6 +150,7 @@ Q_SIGNALS:
 private:
     void refreshDescription();
     bool store();
+    void takeBackChanges();
     void discardUnusedAvatars();
     KirvPresence createPresence(const QString &id, const QString &description) const;
     KirvPresence startPresence() const;
@@ -174,6 +177,7 @@ private:
     KirvAccountInfo description;
 
     int saveDepth = 0;
+    bool isCancelled = false; ///< the open save
     KirvAccountRecord recordBefore; ///< when the open save began
     std::optional<KirvPresence> presenceBefore;
     QStringList importedAvatars; ///< by the open save

@@ -37,6 +37,7 @@ public:
         QString notice; ///< what is to be noticed first, a sentence shown where failures are; empty: nothing
         QStringList configurations; ///< ready-made values for the fields, see fieldsOf(); empty: none
         QList<KirvField> fields;
+        QString providerField; ///< id of the field for the domain of a server of anybody's choice; empty: none
         QList<Picture> pictures;
         QString command; ///< text of the button that submits, in title case; empty: nothing can be submitted
         bool isDangerous = false; ///< the command cannot be undone, so it is not the default button

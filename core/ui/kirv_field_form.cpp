@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/ui/kirv_field_form.h"
 
+#include "core/ui/kirv_field_problem.h"
 #include "core/ui/kirv_hint_line.h"
 #include "core/ui/kirv_keyboard.h"
 #include "core/ui/kirv_length_limit.h"
@@ -35,16 +36,11 @@ const int LongestLine = 2000;
 const int LabelWidth = 40; // in average characters
 const int ShownLines = 4;
 
-QString shortened(const QString &text, int length)
-{
-    return text.size() <= length ? text : text.left(length - 1) + QChar(0x2026);
-}
-
 /// The field's name for people.
 QString captionOf(const KirvField &field)
 {
-    const QString label = shortened(field.getLabel(), LongestCaption + 1).simplified();
-    return shortened(label.isEmpty() ? field.getId() : label, LongestCaption);
+    const QString label = kirvShortened(field.getLabel(), LongestCaption + 1).simplified();
+    return kirvShortened(label.isEmpty() ? field.getId() : label, LongestCaption);
 }
 
 /// \a caption as it stands before a control.
@@ -56,7 +52,7 @@ QString labelTextOf(const QString &caption)
 /// A tool tip that shows \a text as it is; Qt takes what looks like markup for markup.
 QString toolTipOf(const QString &text)
 {
-    const QString plain = shortened(text, LongestToolTip);
+    const QString plain = kirvShortened(text, LongestToolTip);
     return Qt::mightBeRichText(plain) || plain.size() > LongestCaption ? Qt::convertFromPlainText(plain) : plain;
 }
 
@@ -71,64 +67,6 @@ bool fitsLabel(const QString &text)
 {
     static const QRegularExpression longWord(QStringLiteral("\\S{%1}").arg(LongestWord));
     return text.size() <= LongestLine && !text.contains(longWord);
-}
-
-bool isTooLongToEdit(const KirvField &field)
-{
-    const bool isText = field.getKind() == KirvField::Text || field.getKind() == KirvField::MultiLine;
-    return isText && field.getText().size() > kirvLongestEditableText;
-}
-
-/// A password can be replaced whether it is shown in full or not.
-bool isTooLongPassword(const KirvField &field)
-{
-    return field.getKind() == KirvField::Password && field.getText().size() > kirvLongestEditableText;
-}
-
-bool isWholeNumberIn(const KirvField &field)
-{
-    bool isNumber = false;
-    const int number = field.getText().toInt(&isNumber);
-    return isNumber && number >= field.getMinimum() && number <= field.getMaximum();
-}
-
-/// Says what is valid where the field explains it.
-QString invalidFormat(const KirvField &field)
-{
-    const QString explanation = shortened(field.getToolTip(), LongestCaption);
-    //: %1 = a sentence that says what is valid
-    return explanation.isEmpty() ? KirvFieldForm::tr("Invalid format.")
-                                 : KirvFieldForm::tr("Invalid format: %1").arg(explanation);
-}
-
-/// What is wrong with the value of \a field, as a sentence; empty when nothing is.
-QString problemOf(const KirvField &field)
-{
-    if (field.getKind() == KirvField::CheckBox || field.getKind() == KirvField::Label)
-        return QString();
-    if (field.getText().isEmpty())
-        return field.isRequired() ? KirvFieldForm::tr("This must be filled in.") : QString();
-    if (isTooLongToEdit(field))
-        return KirvFieldForm::tr("This text is too long to be shown in full and to be changed here.");
-    if (isTooLongPassword(field))
-        return KirvFieldForm::tr(
-            "This text is too long to be shown in full. It is kept as long as nothing is changed here.");
-    if (field.getKind() == KirvField::Number && !isWholeNumberIn(field))
-        return KirvFieldForm::tr("This must be a whole number from %1 to %2.")
-            .arg(field.getMinimum())
-            .arg(field.getMaximum());
-    if (field.getPattern().isEmpty())
-        return QString();
-    const QRegularExpression pattern(QRegularExpression::anchoredPattern(field.getPattern()));
-    if (pattern.isValid() && !pattern.match(field.getText()).hasMatch())
-        return invalidFormat(field);
-    return QString();
-}
-
-bool canHaveProblem(const KirvField &field)
-{
-    return field.isRequired() || !field.getPattern().isEmpty() || field.getKind() == KirvField::Number
-        || isTooLongToEdit(field) || isTooLongPassword(field);
 }
 
 QString objectNameOf(const KirvField &field)
@@ -226,7 +164,7 @@ void KirvFieldForm::addRow(const KirvField &field)
     QWidget *editor = row.editor.widget;
     editor->setObjectName(objectNameOf(field));
     editor->setAccessibleName(captionOf(field));
-    editor->setAccessibleDescription(shortened(field.getToolTip(), LongestToolTip));
+    editor->setAccessibleDescription(kirvShortened(field.getToolTip(), LongestToolTip));
     editor->setToolTip(toolTipOf(field.getToolTip()));
 
     addControl(&row);
@@ -243,7 +181,7 @@ void KirvFieldForm::addControl(Row *row)
     if (row->field.getKind() == KirvField::Password)
         line->addWidget(makeRevealButton(*row));
     cell->addLayout(line);
-    if (canHaveProblem(row->field)) {
+    if (kirvCanHaveProblem(row->field)) {
         row->hint = new KirvHintLine(objectNameOf(row->field) + QStringLiteral("_Hint"), this);
         row->editor.widget->installEventFilter(this);
         cell->addWidget(row->hint);
@@ -287,7 +225,7 @@ void KirvFieldForm::addNote(const KirvField &field)
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         note = label;
     } else {
-        auto *edit = new QPlainTextEdit(shortened(text, kirvLongestEditableText), this);
+        auto *edit = new QPlainTextEdit(kirvShortened(text, kirvLongestEditableText), this);
         edit->setReadOnly(true);
         edit->setTabChangesFocus(true);
         edit->setAccessibleName(caption);
@@ -338,9 +276,9 @@ KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_
 
 KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_t row)
 {
-    auto *edit = new QPlainTextEdit(shortened(field.getText(), kirvLongestEditableText), this);
+    auto *edit = new QPlainTextEdit(kirvShortened(field.getText(), kirvLongestEditableText), this);
     kirvLimitLength(edit);
-    edit->setReadOnly(isTooLongToEdit(field));
+    edit->setReadOnly(kirvIsTooLongToEdit(field));
     edit->setTabChangesFocus(true);
     edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     edit->setFixedHeight(heightOfLines(edit, ShownLines));
@@ -369,12 +307,12 @@ KirvFieldForm::Editor KirvFieldForm::makeChoice(const KirvField &field, std::siz
     const QStringList displays = field.getDisplays();
     for (int i = 0; i < values.size(); ++i) {
         const QString display = displays.value(i).isEmpty() ? values.at(i) : displays.at(i);
-        box->addItem(shortened(display, LongestCaption), values.at(i));
+        box->addItem(kirvShortened(display, LongestCaption), values.at(i));
     }
     int current = values.indexOf(field.getText());
     if (current < 0) {
         const QString text = field.getText();
-        box->insertItem(0, text.isEmpty() ? tr("Not chosen") : shortened(text, LongestCaption), text);
+        box->insertItem(0, text.isEmpty() ? tr("Not chosen") : kirvShortened(text, LongestCaption), text);
         current = 0;
     }
     box->setCurrentIndex(current);
@@ -387,14 +325,14 @@ KirvFieldForm::Editor KirvFieldForm::makeNumber(const KirvField &field, std::siz
     auto *box = new QSpinBox(this);
     takeWheelOnlyWithFocus(box, this);
     box->setRange(field.getMinimum(), field.getMaximum());
-    if (isWholeNumberIn(field)) {
+    if (kirvIsWholeNumberIn(field)) {
         box->setValue(field.getText().toInt());
     } else {
         // The value that stands there though it must not is shown as it is, one step below the smallest number.
         box->setMinimum(qMax(field.getMinimum(), std::numeric_limits<int>::min() + 1) - 1);
         box->setSpecialValueText(field.getText().isEmpty()
                                      ? QStringLiteral(" ")
-                                     : shortened(field.getText().left(LongestCaption).simplified(), LongestNumber));
+                                     : kirvShortened(field.getText().left(LongestCaption).simplified(), LongestNumber));
         box->setValue(box->minimum());
     }
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, row] { takeEdit(row); });
@@ -408,6 +346,19 @@ QWidget *KirvFieldForm::makeRevealButton(const Row &row)
     return button;
 }
 
+QWidget *KirvFieldForm::showProblems(const QStringList &ids)
+{
+    QWidget *first = nullptr;
+    for (const Row &row : rows) {
+        if (!row.hint || (!ids.isEmpty() && !ids.contains(row.field.getId())))
+            continue;
+        updateHint(row, true);
+        if (!first && !row.hint->text().isEmpty())
+            first = row.editor.widget;
+    }
+    return first;
+}
+
 void KirvFieldForm::takeEdit(std::size_t row)
 {
     updateHint(rows[row], true);
@@ -419,10 +370,10 @@ void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)
     if (!row.hint)
         return;
     const KirvField field = row.edited();
-    const QString problem = field.getText().isEmpty() && !remindOfEmpty ? QString() : problemOf(field);
+    const QString problem = field.getText().isEmpty() && !remindOfEmpty ? QString() : kirvFieldProblem(field);
     if (problem == row.hint->text())
         return;
-    row.editor.widget->setAccessibleDescription(problem.isEmpty() ? shortened(field.getToolTip(), LongestToolTip)
+    row.editor.widget->setAccessibleDescription(problem.isEmpty() ? kirvShortened(field.getToolTip(), LongestToolTip)
                                                                   : problem);
     row.hint->setText(problem);
 }

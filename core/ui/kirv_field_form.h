@@ -29,6 +29,10 @@ public:
     /// when its control could not show its value exactly.
     QList<KirvField> fields() const;
 
+    /// Says at each field of \a ids, or at each of all when it is empty, what is wrong with its value, also that it is
+    /// missing. The control of the first that is wrong; null when none is.
+    QWidget *showProblems(const QStringList &ids = QStringList());
+
     /// Gives the captions mnemonics that do not clash in the window that the form is in by now.
     void assignMnemonics();
 

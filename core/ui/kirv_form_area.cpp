@@ -121,8 +121,12 @@ void KirvFormArea::alignLabels()
 {
     QList<QWidget *> labels;
     const QList<QFormLayout *> forms = widget()->findChildren<QFormLayout *>();
-    for (const QFormLayout *form : forms)
+    for (QFormLayout *form : forms) {
+        // Where there is no room beside its label, a control goes below it.
+        if (form->rowWrapPolicy() == QFormLayout::DontWrapRows)
+            form->setRowWrapPolicy(QFormLayout::WrapLongRows);
         labels += labelsOf(form);
+    }
 
     int width = 0;
     for (const QWidget *label : qAsConst(labels))

@@ -55,6 +55,7 @@ void KirvXmppRegistrationRequest::showServerStep()
     step.text = tr("Choose the server of the new account. The server determines what is to be filled in next.");
     step.configurations = KirvXmppSettings::configurations();
     step.fields = serverFields;
+    step.providerField = domainId;
     step.command = tr("Continue");
     Q_EMIT stepReady(step);
 }

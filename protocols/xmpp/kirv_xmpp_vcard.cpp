@@ -22,6 +22,15 @@ struct Place {
     QStringList path;
 };
 
+/// The days of the calendar, as 1999-12-31, and no day.
+QString datePattern()
+{
+    const QString leapYear = QStringLiteral("[0-9]{2}(0[48]|[2468][048]|[13579][26])|([02468][048]|[13579][26])00");
+    return QStringLiteral("([0-9]{4}-((0[13578]|1[02])-(0[1-9]|[12][0-9]|3[01])|(0[469]|11)-(0[1-9]|[12][0-9]|30)"
+                          "|02-(0[1-9]|1[0-9]|2[0-8]))|(%1)-02-29)?")
+        .arg(leapYear);
+}
+
 QList<Place> places()
 {
     const auto line = [](const QString &label, const char *id) {
@@ -29,7 +38,10 @@ QList<Place> places()
     };
     KirvField birthday = KirvField::textEdit(KirvXmppVCard::tr("Birthday"), QStringLiteral("birthday"), QString(),
                                              KirvXmppVCard::tr("Year, month and day, such as 1999-12-31."));
-    birthday.setPattern(QStringLiteral("([0-9]{4}-[0-9]{2}-[0-9]{2})?"));
+    birthday.setPattern(datePattern());
+    KirvField web = KirvField::textEdit(KirvXmppVCard::tr("Web page"), QStringLiteral("web"), QString(),
+                                        KirvXmppVCard::tr("An address that begins with http:// or https://."));
+    web.setPattern(QStringLiteral("((?i:https?)://[^\\s/?#]+[^\\s]*)?"));
     return {
         { line(KirvXmppVCard::tr("Full name"), "fullname"), { "FN" } },
         { line(KirvXmppVCard::tr("Nickname"), "nickname"), { "NICKNAME" } },
@@ -38,7 +50,7 @@ QList<Place> places()
         { line(KirvXmppVCard::tr("Telephone"), "telephone"), { "TEL", "NUMBER" } },
         { line(KirvXmppVCard::tr("Town"), "town"), { "ADR", "LOCALITY" } },
         { line(KirvXmppVCard::tr("Country"), "country"), { "ADR", "CTRY" } },
-        { line(KirvXmppVCard::tr("Web page"), "web"), { "URL" } },
+        { web, { "URL" } },
         { line(KirvXmppVCard::tr("Organisation"), "organisation"), { "ORG", "ORGNAME" } },
         { KirvField::multiLine(KirvXmppVCard::tr("About"), QStringLiteral("about"), QString(), QString()), { "DESC" } },
     };

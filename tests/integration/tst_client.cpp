@@ -431,6 +431,9 @@ void tst_Client::reloadingFromThePluginsPage()
     QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
     QVERIFY(!loadButton->isEnabled());
     QTest::mouseClick(unloadButton, Qt::LeftButton);
+    auto *unloadAnyway = child<QPushButton>(client->pluginsPage(), "Plugins_UnloadAnyway");
+    QVERIFY(unloadAnyway);
+    QTest::mouseClick(unloadAnyway, Qt::LeftButton);
     QCOMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Not loaded"));
     QVERIFY(!unloadButton->isEnabled());
     QTest::mouseClick(loadButton, Qt::LeftButton);

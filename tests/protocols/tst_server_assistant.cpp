@@ -6,9 +6,12 @@
 #include "tests/support/kirv_field_texts.h"
 #include "tests/support/kirv_load_meter.h"
 
+#include <QAbstractItemView>
 #include <QBuffer>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
+#include <QDate>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -97,6 +100,13 @@ private Q_SLOTS:
     void theKeyboardStartsInTheFirstField();
     void theKeyboardReturnsAfterWaiting();
     void theKeyboardStaysInAFieldThatComesAgain();
+    void theKeyboardGoesToTheFirstWrongField_data();
+    void theKeyboardGoesToTheFirstWrongField();
+    void theKeyboardGoesToAnErrorWithoutAField();
+    void theKeyboardStaysInTheFormOnAnErrorWithoutAField();
+    void providersAreOffered();
+    void providersAreOfferedFromTheKeyboard();
+    void withoutProvidersNothingIsOffered();
     void nothingCanBeSentTwice();
     void enterSubmits();
     void dangerousCommandsAreNotTheDefault();
@@ -412,6 +422,106 @@ void TestServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
     Q_EMIT request->waiting("Sending…");
     Q_EMIT request->stepReady(step({ line("zero"), line("one"), line("two") }));
     QCOMPARE(window->focusWidget(), edit("two"));
+}
+
+void TestServerAssistant::theKeyboardGoesToTheFirstWrongField_data()
+{
+    QTest::addColumn<bool>("isRefusedByServer");
+    QTest::newRow("before it was sent") << false;
+    QTest::newRow("by the server") << true;
+}
+
+void TestServerAssistant::theKeyboardGoesToTheFirstWrongField()
+{
+    QFETCH(bool, isRefusedByServer);
+    KirvField year = line("year");
+    year.setPattern("[0-9]*");
+    KirvField needed = line("needed");
+    needed.setRequired(true);
+    show(step({ line("one"), year, needed }));
+    edit("year")->setText("late");
+    button("Next")->setFocus();
+    QTest::keyClick(button("Next"), Qt::Key_Space);
+    if (isRefusedByServer)
+        request->serverRefuses(KirvFailure::RequestFailed);
+    else
+        Q_EMIT request->inputRejected("Fill in what is missing.");
+    QCOMPARE(window->focusWidget(), edit("year"));
+    for (const char *hint : { "KirvField_year_Hint", "KirvField_needed_Hint" })
+        QVERIFY2(window->findChild<QLabel *>(hint)->isVisible(), hint);
+}
+
+void TestServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
+{
+    show(step());
+    button("Next")->setFocus();
+    QTest::keyClick(button("Next"), Qt::Key_Space);
+    request->serverRefuses(KirvFailure::TimedOut);
+    QCOMPARE(window->focusWidget(), child<QTextEdit>("Message"));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Return); // tries again
+    QCOMPARE(request->calls, QStringList({ "submit", "submit" }));
+}
+
+void TestServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
+{
+    show(step());
+    edit("two")->setFocus();
+    QTest::keyClick(edit("two"), Qt::Key_Return);
+    request->serverRefuses(KirvFailure::TimedOut);
+    QCOMPARE(window->focusWidget(), edit("two"));
+}
+
+void TestServerAssistant::providersAreOffered()
+{
+    window->setProviders({ { "chat.example", "Chat", "https://chat.example/", QDate(2026, 1, 2) },
+                           { "talk.example", QString(), "a leaflet", QDate(2025, 3, 4) } });
+    Step first = step();
+    first.providerField = "two";
+    show(first);
+    edit("two")->setFocus();
+    QTest::keyClicks(edit("two"), "TALK");
+    QCompleter *completer = edit("two")->completer();
+    QVERIFY(completer && !edit("one")->completer());
+    QCOMPARE(completer->completionCount(), 1);
+    const QString shown = completer->popup()->model()->index(0, 0).data().toString();
+    for (const char *part : { "talk.example", "not verified", "a leaflet", "2025" })
+        QVERIFY2(shown.contains(part), qPrintable(shown));
+    QTest::keyClick(completer->popup(), Qt::Key_Down);
+    QTest::keyClick(completer->popup(), Qt::Key_Return);
+    QCOMPARE(edit("two")->text(), QString("talk.example"));
+    QVERIFY(request->calls.isEmpty());
+
+    // A form that is made anew offers them, too.
+    first.configurations = QStringList { "First" };
+    Q_EMIT request->stepReady(first);
+    QVERIFY(edit("two")->completer());
+    Q_EMIT child<QComboBox>("Configuration")->activated(0);
+    QVERIFY(edit("two")->completer());
+}
+
+void TestServerAssistant::providersAreOfferedFromTheKeyboard()
+{
+    window->setProviders({ { "chat.example", QString(), "a leaflet", QDate(2026, 1, 2) },
+                           { "talk.example", QString(), "a leaflet", QDate(2026, 1, 2) } });
+    Step first = step();
+    first.providerField = "one";
+    show(first);
+    QTest::keyClick(edit("one"), Qt::Key_Down);
+    QTRY_VERIFY(edit("one")->completer()->popup()->isVisible());
+    QCOMPARE(edit("one")->completer()->completionCount(), 2);
+    QVERIFY(edit("one")->accessibleDescription().contains("Down"));
+}
+
+void TestServerAssistant::withoutProvidersNothingIsOffered()
+{
+    Step first = step();
+    first.providerField = "one";
+    show(first);
+    QVERIFY(!edit("one")->completer());
+    Step second = step();
+    window->setProviders({ { "chat.example", QString(), "a leaflet", QDate(2026, 1, 2) } });
+    Q_EMIT request->stepReady(second); // no field is one for a provider
+    QVERIFY(!edit("one")->completer() && !edit("two")->completer());
 }
 
 void TestServerAssistant::nothingCanBeSentTwice()

@@ -3,8 +3,10 @@
 #include "tests/protocols/xmpp_parsing.h"
 #include "tests/support/kirv_field_texts.h"
 
+#include <QDate>
 #include <QImage>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -59,6 +61,11 @@ class TestXmppVCard : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void birthdaysAreDates_data();
+    void birthdaysAreDates();
+    void webPagesAreAddresses_data();
+    void webPagesAreAddresses();
+
     void eachFieldHasItsPlace_data();
     void eachFieldHasItsPlace();
     void anEntryWithoutTextsHasNoFields_data();
@@ -301,6 +308,77 @@ void TestXmppVCard::theSizeIsThatOfTheXml()
     made.setFields({ text("nickname", "anna") });
     QCOMPARE(made.size(),
              int(qstrlen("<vCard xmlns=\"vcard-temp\"><NICKNAME xmlns=\"vcard-temp\">anna</NICKNAME></vCard>")));
+}
+
+namespace {
+
+/// Whether the form takes \a text for the field \a id; the field says what it takes.
+bool isTaken(const QString &id, const QString &text)
+{
+    const QList<KirvField> fields = KirvXmppVCard::blankFields();
+    for (const KirvField &field : fields) {
+        if (field.getId() != id)
+            continue;
+        const QRegularExpression pattern(QRegularExpression::anchoredPattern(field.getPattern()));
+        return !field.getToolTip().isEmpty() && !field.getPattern().isEmpty() && pattern.isValid()
+            && pattern.match(text).hasMatch();
+    }
+    return false;
+}
+
+} // namespace
+
+void TestXmppVCard::birthdaysAreDates_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isDate");
+    QTest::newRow("none") << "" << true;
+    QTest::newRow("a day") << "1999-12-31" << true;
+    QTest::newRow("leap day") << "2000-02-29" << true;
+    QTest::newRow("leap day of another leap year") << "1996-02-29" << true;
+    QTest::newRow("no leap year") << "1999-02-29" << false;
+    QTest::newRow("no leap year in spite of 4") << "1900-02-29" << false;
+    QTest::newRow("short month") << "1999-04-31" << false;
+    QTest::newRow("month 13") << "1999-13-01" << false;
+    QTest::newRow("month 0") << "1999-00-10" << false;
+    QTest::newRow("day 0") << "1999-01-00" << false;
+    QTest::newRow("other order") << "31.12.1999" << false;
+    QTest::newRow("with a time") << "1999-12-31T00:00:00Z" << false;
+    QTest::newRow("words") << "in spring" << false;
+}
+
+void TestXmppVCard::birthdaysAreDates()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isDate);
+    QCOMPARE(isTaken("birthday", text), isDate);
+    if (!text.isEmpty() && text.size() == 10)
+        QCOMPARE(QDate::fromString(text, Qt::ISODate).isValid(), isDate); // the pattern agrees with the calendar
+}
+
+void TestXmppVCard::webPagesAreAddresses_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isAddress");
+    QTest::newRow("none") << "" << true;
+    QTest::newRow("a host") << "https://example.org" << true;
+    QTest::newRow("a page") << "http://www.example.org:8080/~juliet/?a=b#c" << true;
+    QTest::newRow("capitals") << "HTTPS://Example.Org/" << true;
+    QTest::newRow("letters of other scripts") << QString::fromUtf8("https://b\u00fccher.example/") << true;
+    QTest::newRow("address in digits") << "http://[2001:db8::1]/" << true;
+    QTest::newRow("no scheme") << "example.org" << false;
+    QTest::newRow("no host") << "https://" << false;
+    QTest::newRow("no host but a path") << "https:///page" << false;
+    QTest::newRow("a blank") << "https://example.org/my page" << false;
+    QTest::newRow("a script") << "javascript:alert(1)" << false;
+    QTest::newRow("words") << "my page" << false;
+}
+
+void TestXmppVCard::webPagesAreAddresses()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isAddress);
+    QCOMPARE(isTaken("web", text), isAddress);
 }
 
 QTEST_MAIN(TestXmppVCard)

@@ -208,7 +208,7 @@ bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QStrin
         KirvWindowDriver::type(edit, password);
     const QPointer<QPushButton> next = KirvWindows::child<QPushButton>(assistant(), "ServerAssistant_NextButton");
     KirvWindowDriver::click(next);
-    // It stays when the store has refused the password, and says so.
+    // It says that the password is changed, or that the store has refused it.
     const auto *message = KirvWindows::child<QWidget>(assistant(), "ServerAssistant_Message");
     const auto isDone = [&] { return !assistant() || (next && next->isEnabled() && message->isVisible()); };
     if (!QTest::qWaitFor(isDone, kirvPatience))

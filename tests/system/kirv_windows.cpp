@@ -274,6 +274,8 @@ void KirvWindows::setLoaded(const QString &protocol, bool loaded)
     plugins->setCurrentItem(plugins->findItems(protocol, Qt::MatchExactly).value(0));
     KirvWindowDriver::click(
         child<QPushButton>(client->pluginsPage(), loaded ? "Plugins_LoadButton" : "Plugins_UnloadButton"));
+    if (auto *anyway = client->pluginsPage()->findChild<QPushButton *>(QStringLiteral("Plugins_UnloadAnyway")))
+        KirvWindowDriver::click(anyway); // accounts are connected
 }
 
 void KirvWindows::showPage(int index)
