@@ -350,7 +350,8 @@ KirvReconciler::Wanted KirvAccount::wanted() const
 {
     KirvReconciler::Wanted result;
     result.presence = presence();
-    result.login = { current.key.id, current.password, settings() };
+    result.login = { current.key.id, current.password, settings(),
+                     QByteArray::fromHex(current.trustedCertificate.toLatin1()) };
     result.avatar = avatar();
     result.awaitsSecrets = awaitsSecrets();
     result.online =
