@@ -83,6 +83,7 @@ void KirvConnection::Private::begin()
         return;
     inThisState(timing.loginTimeout, [this] { fail(KirvFailure::TimedOut); });
     applied = wanted;
+    shownCertificate = refusedCertificate = KirvServerCertificate();
     callProtocol([this] { connection->startLogin(wanted); }, [this](const KirvFailure &failure) { fail(failure); });
 }
 
