@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedLayout>
 #include <QStyle>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -28,6 +29,9 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
     , reason(new QTextEdit(this))
     , passwordButton(createButton("Accounts_PasswordButton", tr("Enter Password…"),
                                   tr("Takes another password and logs the account in with it.")))
+    , certificateButton(createButton("Accounts_CertificateButton", tr("Show Certificate…"),
+                                     tr("Shows the certificate of the server and asks whether it is trusted.")))
+    , firstPlace(new QStackedLayout)
     , reconnectButton(
           createButton("Accounts_ReconnectButton", tr("Reconnect"), tr("Logs the account out and in again.")))
     , editButton(createButton("Accounts_StripEditButton", tr("Edit…"), tr("Change the account")))
@@ -59,6 +63,7 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
     reason->viewport()->setAutoFillBackground(false);
 
     connect(passwordButton, &QPushButton::clicked, this, &KirvAccountStrip::passwordRequested);
+    connect(certificateButton, &QPushButton::clicked, this, &KirvAccountStrip::certificateRequested);
     connect(reconnectButton, &QPushButton::clicked, this, &KirvAccountStrip::reconnectionRequested);
     connect(editButton, &QPushButton::clicked, this, &KirvAccountStrip::editRequested);
     arrange();
@@ -77,8 +82,10 @@ QPushButton *KirvAccountStrip::createButton(const char *name, const QString &tex
 void KirvAccountStrip::arrange()
 {
     auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(passwordButton);
+    buttons->addStretch(1); // the place of two buttons would stretch, too
+    firstPlace->addWidget(passwordButton);
+    firstPlace->addWidget(certificateButton);
+    buttons->addLayout(firstPlace);
     buttons->addWidget(reconnectButton);
     buttons->addWidget(editButton);
     auto *layout = new QGridLayout(this);
@@ -109,20 +116,20 @@ void KirvAccountStrip::chooseMnemonics()
 {
     QSet<QChar> taken = kirvMnemonicsAround(this);
     passwordButton->setText(kirvWithMnemonic(tr("Enter Password…"), &taken));
+    certificateButton->setText(kirvWithMnemonic(tr("Show Certificate…"), &taken));
     reconnectButton->setText(kirvWithMnemonic(tr("Reconnect"), &taken));
     editButton->setText(kirvWithMnemonic(tr("Edit…"), &taken));
 }
 
 void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
 {
-    passwordButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEnterPassword());
-    reconnectButton->setEnabled(account && KirvAccountStatus(*account, isMain).canReconnect());
-    editButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEdit());
     if (!account) {
+        offer(nullptr);
         showNone(tr("No account is selected."), QString());
         return;
     }
     const KirvAccountStatus status(*account, isMain);
+    offer(&status);
     icon->setPixmap(kirvStatePixmap(status.kind(), this, icon->width()));
     icon->setAccessibleName(status.spokenLine());
     title->setText(status.spokenLine());
@@ -133,10 +140,22 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
         reason->setPlainText(text);
 }
 
+/// What can be done with an account; null: nothing.
+void KirvAccountStrip::offer(const KirvAccountStatus *status)
+{
+    passwordButton->setEnabled(status && status->canEnterPassword());
+    reconnectButton->setEnabled(status && status->canReconnect());
+    editButton->setEnabled(status && status->canEdit());
+    QPushButton *first = status && status->isAboutCertificate() ? certificateButton : passwordButton;
+    const bool hadFocus = firstPlace->currentWidget()->hasFocus();
+    firstPlace->setCurrentWidget(first);
+    if (hadFocus)
+        first->setFocus();
+}
+
 void KirvAccountStrip::showSeveral(int count)
 {
-    for (QPushButton *button : { passwordButton, reconnectButton, editButton })
-        button->setEnabled(false);
+    offer(nullptr);
     showNone(tr("%n accounts are selected.", nullptr, count),
              tr("They can be enabled, disabled and removed with the context menu."));
 }

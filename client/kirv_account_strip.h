@@ -5,12 +5,15 @@
 #include <QFrame>
 
 class KirvAccount;
+class KirvAccountStatus;
 class QLabel;
 class QPushButton;
+class QStackedLayout;
 class QTextEdit;
 
 /// Says of one account why it is in its state and what can be done. Its height depends on the window only, and its
-/// buttons stay where they are: what cannot be done is disabled.
+/// buttons stay where they are: what cannot be done is disabled. Where the account's state is about the certificate of
+/// its server, the button that shows it takes the place of the one for the password.
 class KirvAccountStrip : public QFrame {
     Q_OBJECT
 
@@ -26,6 +29,7 @@ public:
 
 Q_SIGNALS:
     void passwordRequested();
+    void certificateRequested();
     void reconnectionRequested();
     void editRequested();
 
@@ -34,6 +38,7 @@ protected:
 
 private:
     using QFrame::show;
+    void offer(const KirvAccountStatus *status);
     QPushButton *createButton(const char *name, const QString &text, const QString &toolTip);
     void arrange();
     void fixHeight();
@@ -43,6 +48,8 @@ private:
     QLabel *title;
     QTextEdit *reason;
     QPushButton *passwordButton;
+    QPushButton *certificateButton;
+    QStackedLayout *firstPlace; ///< of one of these two
     QPushButton *reconnectButton;
     QPushButton *editButton;
 };

@@ -5,6 +5,7 @@
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
+#include "client/kirv_certificate_questions.h"
 #include "client/kirv_first_paint.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
@@ -158,6 +159,7 @@ void KirvClient::createWindow()
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
+    certificateQuestions = new KirvCertificateQuestions(*accountCollection, settingsWindow.get());
     profileSaver = new KirvProfileSaver(*store, *settingsWindow->messageBar());
     connect(profileSaver, &KirvProfileSaver::continuationRequested, this, &KirvClient::continuationRequested);
     showProblem(store->copyError());
@@ -167,6 +169,8 @@ void KirvClient::createWindow()
     connect(serverCommands, &KirvServerCommands::problemOccurred, this, &KirvClient::showProblem);
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
             &KirvPasswordQuestions::ask);
+    connect(companions->page(), &KirvAccountsPageCompanion::certificateRequested, certificateQuestions,
+            &KirvCertificateQuestions::show);
 }
 
 void KirvClient::connectServices()
@@ -243,6 +247,7 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
     const QString name = protocol->getName();
     companions->closeWindowsOf(name);
     passwordQuestions->withdrawProtocol(name);
+    certificateQuestions->withdrawProtocol(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
 }

@@ -13,6 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHistory;
 class KirvAccountsTab;
+class KirvCertificateQuestions;
 class KirvHostServices;
 class KirvKeyring;
 class KirvLayoutCatalog;
@@ -108,6 +109,7 @@ private:
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
+    QPointer<KirvCertificateQuestions> certificateQuestions;
     QPointer<KirvProfileSaver> profileSaver;
 };
 
