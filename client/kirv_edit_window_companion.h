@@ -13,6 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvDirectoryGuard;
 class KirvEditAccountDialog;
+class KirvProtocolBase;
 class KirvServerCommands;
 class QDialogButtonBox;
 class QLabel;
@@ -45,6 +46,7 @@ public:
 private:
     void bindWindow();
     void addServerAccountButton();
+    void addFileButtons(const KirvProtocolBase &protocol);
     void showIdentifierAsPlainText();
     void showDescriptionAsPlainText(const KirvAccount &account);
     void beginSave();

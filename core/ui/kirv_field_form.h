@@ -13,7 +13,9 @@
 #include <vector>
 
 class KirvHintLine;
+class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 
 /// The rows of a field widget for one list of fields; a new list makes a new form.
 ///
@@ -28,6 +30,11 @@ public:
     /// What stands in the controls, valid or not. A field that was not edited comes back as it was given, also
     /// when its control could not show its value exactly.
     QList<KirvField> fields() const;
+
+    /// The line of text that edits the field \a id; null when there is none.
+    QLineEdit *lineOf(const QString &id) const;
+    /// Puts \a button, which the form then owns, behind that line, also in the order of Tab.
+    void addBeside(QLineEdit *line, QWidget *button);
 
     /// Gives the captions mnemonics that do not clash in the window that the form is in by now.
     void assignMnemonics();
@@ -49,6 +56,7 @@ private:
         KirvField field;
         Editor editor;
         QVariant shown;
+        QHBoxLayout *cell = nullptr; ///< that the control is in
         KirvHintLine *hint = nullptr;
 
         KirvField edited() const;

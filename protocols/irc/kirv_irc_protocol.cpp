@@ -81,6 +81,11 @@ QList<KirvField> KirvIrcProtocol::accountSettings() const
     return KirvIrcSettings::defaultFields();
 }
 
+QStringList KirvIrcProtocol::fileSettings() const
+{
+    return KirvIrcSettings::fileFields();
+}
+
 KirvConnection *KirvIrcProtocol::createConnection()
 {
     return new KirvIrcConnection;

@@ -143,6 +143,11 @@ QList<KirvField> KirvXmppSettings::toServerFields() const
     return own + proxy.toFields();
 }
 
+QStringList KirvXmppSettings::fileFields()
+{
+    return { certificateId };
+}
+
 QStringList KirvXmppSettings::configurations()
 {
     return { tr("Server of the domain"), tr("Server on this computer"), tr("Server on this computer, unencrypted") };
