@@ -237,6 +237,10 @@ void KirvAccountCommands::addConnecting(QMenu *menu, KirvAccount *account)
     addCommand(menu, "Accounts_PasswordAction", tr("Enter &Password…"), account, [this, account] {
         emit passwordRequested(account);
     })->setEnabled(status.canEnterPassword());
+    if (status.canShowCertificate()) {
+        addCommand(menu, "Accounts_CertificateAction", tr("Show &Certificate…"), account,
+                   [this, account] { emit certificateRequested(account); });
+    }
     if (status.canReconnect())
         addPresences(menu, account);
     if (KirvAccountActionsMenu::isUseful(account->key(), environment.serverCommands))

@@ -49,6 +49,8 @@ public:
 Q_SIGNALS:
     /// The user wants to type the password of \a account.
     void passwordRequested(KirvAccount *account);
+    /// The user wants to see the certificate of the server of \a account.
+    void certificateRequested(KirvAccount *account);
 
 private:
     void rename();

@@ -147,7 +147,7 @@ QString KirvAccountStatus::reason() const
         return isWaitingForSecrets() ? kirvPlainName(KirvSecretTexts(account.secrets()).obstacle())
                                      : sentences({ failure.text(), waitingReason() });
     case Failed:
-        return sentences({ failure.text(), advice(failure), since() });
+        return sentences({ failure.text(), otherCertificateText(), advice(failure), since() });
     case OffLine:
         return sentences({ tr("The account is logged out. It can be logged in with Reconnect."), since() });
     case Disabled:
@@ -254,6 +254,8 @@ QString KirvAccountStatus::advice(const KirvFailure &failure)
         return tr("Enter the password again, or edit the account if the login is wrong.");
     case KirvFailure::PasswordMissing:
         return tr("Enter the password.");
+    case KirvFailure::UntrustedCertificate:
+        return tr("Look at it with Show Certificate.");
     case KirvFailure::EncryptionNotOffered:
     case KirvFailure::AuthenticationNotOffered:
     case KirvFailure::NameInUse:
@@ -291,4 +293,24 @@ bool KirvAccountStatus::canTestLogin() const
 bool KirvAccountStatus::canBeWrong() const
 {
     return canTestLogin() && stateKind != Connected;
+}
+
+bool KirvAccountStatus::isAboutCertificate() const
+{
+    const KirvConnection *connection = account.connection();
+    if (!connection || !account.record().enabled)
+        return false;
+    return stateKind == Connected ? !connection->pinnedCertificate().isNull()
+                                  : stateKind == Failed && !connection->refusedCertificate().isNull();
+}
+
+bool KirvAccountStatus::canShowCertificate() const
+{
+    return isAboutCertificate() || (account.isLoaded() && !account.record().trustedCertificate.isEmpty());
+}
+
+QString KirvAccountStatus::otherCertificateText() const
+{
+    const bool isOther = isAboutCertificate() && !account.record().trustedCertificate.isEmpty();
+    return isOther ? tr("It is another one than the one that you have trusted.") : QString();
 }

@@ -45,6 +45,11 @@ public:
     bool canTestLogin() const;
     /// Whether there may be something wrong with the log-in.
     bool canBeWrong() const;
+    /// Whether the log-in was refused for the certificate of the server, or the session goes on only because the user
+    /// trusts that.
+    bool isAboutCertificate() const;
+    /// The same, or a certificate is trusted.
+    bool canShowCertificate() const;
 
 private:
     static Kind kindOf(const KirvAccount &account);
@@ -52,6 +57,8 @@ private:
     static QString shortText(const KirvFailure &failure);
     /// What can be done about a failure that no new attempt follows; a sentence.
     static QString advice(const KirvFailure &failure);
+    /// Of a log-in that was refused for a certificate although another one is trusted; a sentence.
+    QString otherCertificateText() const;
     QString lineOf(const QString &state) const;
     QString waitingText(const QDateTime &now) const;
     QString waitingReason() const;

@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QStackedLayout>
 #include <QStyle>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -32,6 +33,9 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
                                  "connection.")))
     , passwordButton(createButton("Accounts_PasswordButton", tr("Enter Password…"),
                                   tr("Takes another password and logs the account in with it.")))
+    , certificateButton(createButton("Accounts_CertificateButton", tr("Show Certificate…"),
+                                     tr("Shows the certificate of the server and asks whether it is trusted.")))
+    , firstPlace(new QStackedLayout)
     , reconnectButton(
           createButton("Accounts_ReconnectButton", tr("Reconnect"), tr("Logs the account out and in again.")))
     , editButton(createButton("Accounts_StripEditButton", tr("Edit…"), tr("Change the account")))
@@ -66,6 +70,7 @@ KirvAccountStrip::KirvAccountStrip(QWidget *parent)
     connect(logButton, &QPushButton::clicked, this, &KirvAccountStrip::logRequested);
     connect(testButton, &QPushButton::clicked, this, &KirvAccountStrip::testRequested);
     connect(passwordButton, &QPushButton::clicked, this, &KirvAccountStrip::passwordRequested);
+    connect(certificateButton, &QPushButton::clicked, this, &KirvAccountStrip::certificateRequested);
     connect(reconnectButton, &QPushButton::clicked, this, &KirvAccountStrip::reconnectionRequested);
     connect(editButton, &QPushButton::clicked, this, &KirvAccountStrip::editRequested);
     arrange();
@@ -83,12 +88,16 @@ QPushButton *KirvAccountStrip::createButton(const char *name, const QString &tex
 
 void KirvAccountStrip::arrange()
 {
+    auto *first = new QWidget(this);
+    first->setLayout(firstPlace);
+    firstPlace->addWidget(passwordButton);
+    firstPlace->addWidget(certificateButton);
     auto *buttons = new KirvButtonFlow(this);
     buttons->setObjectName(QStringLiteral("Accounts_StripButtons"));
     // The context menu has these, too.
     buttons->addSpareAtEnd(logButton);
     buttons->addSpareAtEnd(testButton);
-    for (QPushButton *button : { passwordButton, reconnectButton, editButton })
+    for (QWidget *button : { first, static_cast<QWidget *>(reconnectButton), static_cast<QWidget *>(editButton) })
         buttons->addAtEnd(button);
     auto *layout = new QGridLayout(this);
     layout->setColumnStretch(1, 1);
@@ -118,6 +127,7 @@ void KirvAccountStrip::chooseMnemonics()
 {
     QSet<QChar> taken = kirvMnemonicsAround(this);
     passwordButton->setText(kirvWithMnemonic(tr("Enter Password…"), &taken));
+    certificateButton->setText(kirvWithMnemonic(tr("Show Certificate…"), &taken));
     reconnectButton->setText(kirvWithMnemonic(tr("Reconnect"), &taken));
     editButton->setText(kirvWithMnemonic(tr("Edit…"), &taken));
     testButton->setText(kirvWithMnemonic(tr("What Is Wrong?"), &taken));
@@ -127,15 +137,13 @@ void KirvAccountStrip::chooseMnemonics()
 void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
 {
     logButton->setEnabled(account);
-    testButton->setEnabled(account && KirvAccountStatus(*account, isMain).canBeWrong());
-    passwordButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEnterPassword());
-    reconnectButton->setEnabled(account && KirvAccountStatus(*account, isMain).canReconnect());
-    editButton->setEnabled(account && KirvAccountStatus(*account, isMain).canEdit());
     if (!account) {
+        offer(nullptr);
         showNone(tr("No account is selected."), QString());
         return;
     }
     const KirvAccountStatus status(*account, isMain);
+    offer(&status);
     icon->setPixmap(kirvStatePixmap(status.kind(), this, icon->width()));
     icon->setAccessibleName(status.spokenLine());
     title->setText(status.spokenLine());
@@ -146,10 +154,24 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
         reason->setPlainText(text);
 }
 
+/// What can be done with an account; null: nothing.
+void KirvAccountStrip::offer(const KirvAccountStatus *status)
+{
+    testButton->setEnabled(status && status->canBeWrong());
+    passwordButton->setEnabled(status && status->canEnterPassword());
+    reconnectButton->setEnabled(status && status->canReconnect());
+    editButton->setEnabled(status && status->canEdit());
+    QPushButton *first = status && status->isAboutCertificate() ? certificateButton : passwordButton;
+    const bool hadFocus = firstPlace->currentWidget()->hasFocus();
+    firstPlace->setCurrentWidget(first);
+    if (hadFocus)
+        first->setFocus();
+}
+
 void KirvAccountStrip::showSeveral(int count)
 {
-    for (QPushButton *button : { logButton, testButton, passwordButton, reconnectButton, editButton })
-        button->setEnabled(false);
+    logButton->setEnabled(false);
+    offer(nullptr);
     showNone(tr("%n accounts are selected.", nullptr, count),
              tr("They can be enabled, disabled and removed with the context menu."));
 }

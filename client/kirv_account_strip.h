@@ -5,13 +5,16 @@
 #include <QFrame>
 
 class KirvAccount;
+class KirvAccountStatus;
 class QLabel;
 class QPushButton;
+class QStackedLayout;
 class QTextEdit;
 
 /// Says of one account why it is in its state and what can be done. Its height depends on the window only, and its
 /// buttons stay where they are, in one row or, where that is too narrow, in several or without those that the
-/// context menu has, too: what cannot be done is disabled.
+/// context menu has, too: what cannot be done is disabled. Where the account's state is about the certificate of its
+/// server, the button that shows it takes the place of the one for the password.
 class KirvAccountStrip : public QFrame {
     Q_OBJECT
 
@@ -29,6 +32,7 @@ Q_SIGNALS:
     void logRequested();
     void testRequested();
     void passwordRequested();
+    void certificateRequested();
     void reconnectionRequested();
     void editRequested();
 
@@ -37,6 +41,7 @@ protected:
 
 private:
     using QFrame::show;
+    void offer(const KirvAccountStatus *status);
     QPushButton *createButton(const char *name, const QString &text, const QString &toolTip);
     void arrange();
     void fixHeight();
@@ -48,6 +53,8 @@ private:
     QPushButton *logButton;
     QPushButton *testButton;
     QPushButton *passwordButton;
+    QPushButton *certificateButton;
+    QStackedLayout *firstPlace; ///< of one of these two
     QPushButton *reconnectButton;
     QPushButton *editButton;
 };

@@ -129,6 +129,8 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
                                                environment.undo, *group, *order, environment.help },
                                              aliasEditor, top, list);
     connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
+    connect(commands, &KirvAccountCommands::certificateRequested, this,
+            &KirvAccountsPageCompanion::certificateRequested);
 }
 
 /// What the user does in the list is not disturbed: an open question is answered for what is selected then.
@@ -185,6 +187,10 @@ void KirvAccountsPageCompanion::connectStrip(KirvAccountHelp &help)
     connect(strip, &KirvAccountStrip::passwordRequested, this, [this] {
         if (KirvAccount *account = currentAccount())
             emit passwordRequested(account);
+    });
+    connect(strip, &KirvAccountStrip::certificateRequested, this, [this] {
+        if (KirvAccount *account = currentAccount())
+            emit certificateRequested(account);
     });
     connect(strip, &KirvAccountStrip::reconnectionRequested, this, [this] {
         if (KirvAccount *account = currentAccount())

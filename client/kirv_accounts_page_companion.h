@@ -67,6 +67,8 @@ public:
 Q_SIGNALS:
     /// The user wants to type the password of \a account.
     void passwordRequested(KirvAccount *account);
+    /// The user wants to see the certificate of the server of \a account.
+    void certificateRequested(KirvAccount *account);
 
 private:
     /// A row that the page takes away too early, and how it stood in the list.

@@ -4,6 +4,7 @@
 #include "add_account/kirv_add_account_dialog.h"
 #include "client/kirv_advanced_section.h"
 #include "client/kirv_button_flow.h"
+#include "client/kirv_file_button.h"
 #include "client/kirv_login_line.h"
 #include "client/kirv_login_test_view.h"
 #include "client/kirv_remember_box.h"
@@ -165,6 +166,7 @@ void KirvAddWindowCompanion::takeNewSettings()
 {
     const auto forms = settings->findChildren<KirvFieldForm *>(); // the one before is about to be deleted
     connect(forms.last(), &KirvFieldForm::edited, this, &KirvAddWindowCompanion::updateSaving);
+    KirvFileButton::addTo(forms.last(), base->fileSettings());
     updateSaving();
     if (!advanced)
         return;

@@ -6,6 +6,7 @@
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
+#include "client/kirv_certificate_questions.h"
 #include "client/kirv_first_paint.h"
 #include "client/kirv_general_page.h"
 #include "client/kirv_language_change.h"
@@ -168,6 +169,7 @@ void KirvClient::createWindow()
     createPages();
 
     passwordQuestions = new KirvPasswordQuestions(*accountCollection, settingsWindow.get());
+    certificateQuestions = new KirvCertificateQuestions(*accountCollection, settingsWindow.get());
     profileSaver = new KirvProfileSaver(*store, *settingsWindow->messageBar());
     connect(profileSaver, &KirvProfileSaver::continuationRequested, this, &KirvClient::continuationRequested);
     showProblem(store->copyError());
@@ -210,6 +212,8 @@ void KirvClient::connectPage()
     connect(page, SIGNAL(mainAccountChanged()), this, SLOT(mainAccountChanged()));
     connect(companions->page(), &KirvAccountsPageCompanion::passwordRequested, passwordQuestions,
             &KirvPasswordQuestions::ask);
+    connect(companions->page(), &KirvAccountsPageCompanion::certificateRequested, certificateQuestions,
+            &KirvCertificateQuestions::show);
     connect(pluginsToLoad.get(), &KirvPluginQueue::finished, companions->page(),
             &KirvAccountsPageCompanion::pluginsLoaded);
     connect(clientSettings.get(), &KirvClientSettings::writeFailed, companions->page(),
@@ -325,6 +329,7 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
     const QString name = protocol->getName();
     companions->closeWindowsOf(name);
     passwordQuestions->withdrawProtocol(name);
+    certificateQuestions->withdrawProtocol(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
 }

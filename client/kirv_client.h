@@ -15,6 +15,7 @@ class KirvAccountHelp;
 class KirvAccountHistory;
 class KirvAccountsTab;
 class KirvGeneralPage;
+class KirvCertificateQuestions;
 class KirvHostServices;
 class KirvKeyring;
 class KirvLanguageChange;
@@ -122,6 +123,7 @@ private:
     QPointer<KirvLanguageChange> languageChange;
     QPointer<KirvWindowCompanions> companions;
     QPointer<KirvPasswordQuestions> passwordQuestions;
+    QPointer<KirvCertificateQuestions> certificateQuestions;
     QPointer<KirvProfileSaver> profileSaver;
 };
 

@@ -4,10 +4,12 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_directory_guard.h"
+#include "client/kirv_file_button.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_remember_box.h"
 #include "client/kirv_state_line.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/ui/kirv_field_form.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/values/kirv_text_limit.h"
@@ -110,6 +112,7 @@ void KirvEditWindowCompanion::aboutToShow()
     showDescriptionAsPlainText(*account);
     watchRefusals(*account);
     addServerAccountButton();
+    addFileButtons(*account->protocol());
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
     input.note(window());
@@ -187,6 +190,22 @@ void KirvEditWindowCompanion::addServerAccountButton()
     more->setAutoDefault(false);
     more->setToolTip(tr("What can be done with the account on its server."));
     more->setMenu(new KirvAccountActionsMenu(accountKey, serverCommands, window(), more));
+}
+
+/// In the form of the settings: the directory may have fields with the same ids.
+void KirvEditWindowCompanion::addFileButtons(const KirvProtocolBase &protocol)
+{
+    const auto idsOf = [](const QList<KirvField> &fields) {
+        QStringList ids;
+        for (const KirvField &field : fields)
+            ids << field.getId();
+        return ids;
+    };
+    const auto forms = window()->findChildren<KirvFieldForm *>();
+    for (KirvFieldForm *form : forms) {
+        if (idsOf(form->fields()) == idsOf(protocol.accountSettings()))
+            KirvFileButton::addTo(form, protocol.fileSettings());
+    }
 }
 
 void KirvEditWindowCompanion::beginSave()

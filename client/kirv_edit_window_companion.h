@@ -14,6 +14,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvDirectoryGuard;
 class KirvEditAccountDialog;
+class KirvProtocolBase;
 class KirvServerCommands;
 class QDialogButtonBox;
 class QLabel;
@@ -48,6 +49,7 @@ public:
 private:
     void bindWindow();
     void addServerAccountButton();
+    void addFileButtons(const KirvProtocolBase &protocol);
     void showIdentifierAsPlainText();
     void describeParts();
     void fitToScreen();

@@ -20,7 +20,8 @@ KirvLoginTestDialog::KirvLoginTestDialog(const KirvAccount &account, QWidget *pa
     setObjectName(QStringLiteral("LogInTest"));
     //: %1 = name of an account
     setWindowTitle(tr("Log-In of %1").arg(kirvPlainName(account.displayName())));
-    const KirvLogin login { accountKey.id, account.record().password, account.settings() };
+    const KirvLogin login { accountKey.id, account.record().password, account.settings(),
+                            account.trustedCertificate() };
     view = new KirvLoginTestView(
         *account.protocol(), [login] { return login; }, objectName(), this);
     auto *close = new QDialogButtonBox(QDialogButtonBox::Close, this);

@@ -139,6 +139,7 @@ KirvServerTask::Outcome KirvServerTask::addAccount(const KirvLogin &login)
     record.rememberPassword = isRemembered;
     record.defaultPresence = record.lastPresence = requestProtocol->presences().first().getId();
     record.settings = kirvStoredValues(login.settings);
+    record.trustedCertificate = QString::fromLatin1(login.trustedCertificate.toHex());
     if (accounts.create(record, requestProtocol))
         return Outcome();
     const bool exists = accounts.find(record.key);

@@ -44,6 +44,8 @@ public:
     QString displayName() const;
     /// What is stored, with the changes of the save that is open, and the password also when it is not stored.
     const KirvAccountRecord &record() const { return current; }
+    /// The digest of the certificate that the user trusts for this account; empty: none.
+    QByteArray trustedCertificate() const { return QByteArray::fromHex(current.trustedCertificate.toLatin1()); }
     KirvAccountInfo *info() { return &description; }
 
     // Changes. False when the store refused: everything is then as before, and refused() was emitted.

@@ -48,7 +48,8 @@ bool KirvLoginTest::createConnection()
         connect(connection.get(), &KirvConnection::loginStep, this, &KirvLoginTest::receiveStep);
         connect(connection.get(), &KirvConnection::stateChanged, this, &KirvLoginTest::receiveState);
         connect(connection.get(), &KirvConnection::failed, this, &KirvLoginTest::receiveFailure);
-        const KirvLogin used { login.id, login.password, protocol->settingsForTest(login.settings) };
+        KirvLogin used = login;
+        used.settings = protocol->settingsForTest(login.settings);
         const KirvPresence presence = protocol->presenceWithId(QStringLiteral("invisible"), QString());
         // From the event loop, so that whoever starts the test sees everything.
         clock.callLater(0, connection.get(), [this, used, presence] { connection->logIn(used, presence); });

@@ -84,6 +84,7 @@ void KirvConnection::Private::begin()
     inThisState(timing.loginTimeout, [this] { fail(KirvFailure::TimedOut); });
     applied = wanted;
     lastStep.reset();
+    shownCertificate = refusedCertificate = KirvServerCertificate();
     callProtocol([this] { connection->startLogin(wanted); }, [this](const KirvFailure &failure) { fail(failure); });
 }
 

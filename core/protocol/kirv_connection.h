@@ -7,6 +7,7 @@
 #include "core/protocol/kirv_directory_answer.h"
 #include "core/protocol/kirv_login.h"
 #include "core/protocol/kirv_login_step.h"
+#include "core/protocol/kirv_server_certificate.h"
 #include "core/values/kirv_clock.h"
 #include "core/values/kirv_failure.h"
 #include "host/kirv_presence.h"
@@ -103,6 +104,13 @@ public:
     /// "TLSv1.3, SASL EXTERNAL". Plain text; empty when off line, and where the protocol does not know it.
     virtual QString securityText() const;
 
+    /// The certificate for which the last log-in was refused; null when there is none, and from the beginning of the
+    /// next log-in on.
+    const KirvServerCertificate &refusedCertificate() const;
+    /// The certificate of the server's that this session trusts only because login() names it; null otherwise, and
+    /// when off line.
+    KirvServerCertificate pinnedCertificate() const;
+
     /// The account's avatar. One that was chosen is published at once when on line.
     KirvAvatar avatar() const;
     void setAvatar(const KirvAvatar &avatar);
@@ -123,6 +131,8 @@ Q_SIGNALS:
     void loginStep(const KirvLoginStep &step);
     /// The wait for the next attempt has become one for its turn; the state stays Waiting.
     void turnAwaited();
+    /// The server has shown a certificate that is not trusted; failed() follows.
+    void certificateRefused(const KirvServerCertificate &certificate);
     /// A log-in, the connection or a request without an answer of its own failed.
     void failed(const KirvFailure &failure);
     void directoryAnswered(const KirvDirectoryAnswer &answer);
@@ -161,6 +171,11 @@ protected:
 
     void loginSucceeded();
     void loginFailed(const KirvFailure &failure);
+    /// The server's certificate has problems. True when \a certificate is the one that login() trusts: the protocol
+    /// ignores its problems then and goes on. Otherwise call failForCertificate() when nothing is under way any more.
+    bool acceptsCertificate(const KirvServerCertificate &certificate);
+    /// Ends the log-in for the certificate that acceptsCertificate() has not accepted.
+    void failForCertificate();
     /// Ends a log-in, too; a connection lost while logging out is logged out.
     void connectionLost(const KirvFailure &failure);
     void logoutFinished();

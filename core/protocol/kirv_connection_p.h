@@ -49,6 +49,8 @@ public:
     QDateTime since;
     QDateTime nextRetry;
     KirvFailure lastFailure;
+    KirvServerCertificate shownCertificate; ///< that the server of this log-in has shown, when it has problems
+    KirvServerCertificate refusedCertificate;
     KirvLogin login;
     KirvPresence wanted;
     KirvPresence applied; ///< what the server received last

@@ -4,6 +4,7 @@
 
 #include "host/kirv_field.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 
@@ -13,10 +14,14 @@ struct KirvLogin {
     QString id; ///< the account id
     QString password; ///< empty: none is known
     QList<KirvField> settings; ///< the protocol's settings of the account, in display order
+    /// The SHA-256 digest of the one certificate of a server that the user trusts for this account, whatever is wrong
+    /// with it; empty: only what the system or the settings trust. See KirvServerCertificate::fingerprint.
+    QByteArray trustedCertificate = QByteArray();
 
     bool operator==(const KirvLogin &other) const
     {
-        return id == other.id && password == other.password && settings == other.settings;
+        return id == other.id && password == other.password && settings == other.settings
+            && trustedCertificate == other.trustedCertificate;
     }
     bool operator!=(const KirvLogin &other) const { return !(*this == other); }
 };

@@ -43,6 +43,11 @@ KirvPresence KirvProtocolBase::presenceWithId(const QString &id, const QString &
     return KirvPresence(found.getId(), found.getDisplay(), found.getIcon(), description);
 }
 
+QStringList KirvProtocolBase::fileSettings() const
+{
+    return {};
+}
+
 QList<KirvField> KirvProtocolBase::directoryFields() const
 {
     return {};

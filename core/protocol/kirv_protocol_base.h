@@ -53,6 +53,9 @@ public:
     KirvPresence presenceWithId(const QString &id, const QString &description) const;
     /// The settings of a new account with their defaults.
     virtual QList<KirvField> accountSettings() const = 0;
+    /// The ids of those of accountSettings() that are the path of a file on this computer: the client offers to choose
+    /// the file. The default is none.
+    virtual QStringList fileSettings() const;
     /// The blank fields of a directory entry; empty: the protocol has no directory.
     virtual QList<KirvField> directoryFields() const;
     /// A new, off-line connection; the caller owns it. Null when none can be made.

@@ -7,8 +7,8 @@
 class KirvProtocolBase;
 
 /// The version of what plug-ins and the core know of each other. A plug-in states the one it was built for in
-/// its JSON meta data, {"name": "XMPP", "api": 3}, and is not loaded when it is another one.
-#define KIRV_PROTOCOL_PLUGIN_API 3
+/// its JSON meta data, {"name": "XMPP", "api": 4}, and is not loaded when it is another one.
+#define KIRV_PROTOCOL_PLUGIN_API 4
 #define KIRV_PROTOCOL_PLUGIN_IID "org.kirv.ProtocolPlugin"
 
 /// The root object of a protocol plug-in: makes the protocol.

@@ -26,6 +26,7 @@ const QList<KirvAccountColumn> &kirvAccountColumns()
         { "last_presence", &KirvAccountRecord::lastPresence, nullptr },
         { "last_description", &KirvAccountRecord::lastDescription, nullptr },
         { "avatar", &KirvAccountRecord::avatar, nullptr },
+        { "trusted_certificate", &KirvAccountRecord::trustedCertificate, nullptr },
     };
     return columns;
 }

@@ -30,6 +30,9 @@ struct KirvAccountRecord {
     QString lastPresence; ///< id; empty: none yet
     QString lastDescription;
     QString avatar; ///< file name inside KirvStore::avatarFolder(); empty: none
+    /// The certificate of a server that the user trusts for this account: its SHA-256 digest in hexadecimal; empty:
+    /// none.
+    QString trustedCertificate;
     /// Protocol settings by field id; "true" and "false" for check boxes. And those of KirvOwnSetting.
     QMap<QString, QString> settings;
     /// The ids of those settings that are secret, as passwords are: no copy of the profile holds them. Ids that are

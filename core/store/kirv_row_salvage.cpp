@@ -50,18 +50,25 @@ bool KirvRowSalvage::hasTable(const char *name)
     return source.run(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(QLatin1String(name)));
 }
 
-/// The number of its columns tells of which version the table of the accounts is, and another table the versions in
-/// which it is the same.
+/// The number of its columns tells of which version the table of the accounts is, their names tell versions with the
+/// same number apart, also where some are damaged, and another table the versions in which it is the same.
 bool KirvRowSalvage::chooseVersion()
 {
     const QSqlQuery *query = source.run(QStringLiteral("SELECT * FROM account LIMIT 0"));
-    const int columns = query ? query->record().count() : 0;
+    const QSqlRecord record = query ? query->record() : QSqlRecord();
+    int best = 0, mostFound = -1;
     for (version = kirvStoreVersion(); version > 0; --version) {
-        if (columns == columnsOf(accountTable).size()
-            && (version != kirvFirstVersionWithItems || hasTable("secret_item")))
-            return true;
+        const QStringList columns = columnsOf(accountTable);
+        const int found = int(std::count_if(columns.begin(), columns.end(),
+                                            [&record](const QString &column) { return record.contains(column); }));
+        if (columns.size() == record.count() && found > mostFound
+            && (version != kirvFirstVersionWithItems || hasTable("secret_item"))) {
+            best = version;
+            mostFound = found;
+        }
     }
-    return false;
+    version = best;
+    return version > 0;
 }
 
 QStringList KirvRowSalvage::columnsOf(const QString &table)

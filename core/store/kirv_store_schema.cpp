@@ -116,6 +116,7 @@ const QList<QStringList> &kirvStoreSchemaSteps()
                            " stage INTEGER NOT NULL) WITHOUT ROWID"),
             QStringLiteral("CREATE INDEX secret_item_stage ON secret_item (stage)"),
         },
+        { QStringLiteral("ALTER TABLE account ADD COLUMN trusted_certificate TEXT NOT NULL DEFAULT ''") },
     };
     return steps;
 }

@@ -16,6 +16,8 @@ class KirvDatabase;
 /// "profile_copy" the copy that has the present content.
 ///
 /// Since version 4 "secret_item" names the secrets that stand in a store of secrets instead, see KirvSecretItemTable.
+///
+/// Since version 5 an account has the certificate of a server that it trusts.
 const QList<QStringList> &kirvStoreSchemaSteps();
 
 /// The version of the present schema.

@@ -124,6 +124,24 @@ QList<KirvField> KirvFieldForm::fields() const
     return result;
 }
 
+QLineEdit *KirvFieldForm::lineOf(const QString &id) const
+{
+    for (const Row &row : rows) {
+        if (row.field.getId() == id)
+            return qobject_cast<QLineEdit *>(row.editor.widget);
+    }
+    return nullptr;
+}
+
+void KirvFieldForm::addBeside(QLineEdit *line, QWidget *button)
+{
+    for (const Row &row : rows) {
+        if (row.editor.widget == line)
+            row.cell->addWidget(button);
+    }
+    setTabOrder(line, button);
+}
+
 void KirvFieldForm::assignMnemonics()
 {
     QSet<QChar> taken = kirvMnemonicsAround(this);
@@ -175,7 +193,7 @@ void KirvFieldForm::addControl(Row *row)
 {
     // A layout, not a widget: accessibility looks for the label of a control among its siblings.
     auto *cell = new QVBoxLayout;
-    auto *line = new QHBoxLayout;
+    auto *line = row->cell = new QHBoxLayout;
     line->setSpacing(0);
     line->addWidget(row->editor.widget);
     if (row->field.getKind() == KirvField::Password)

@@ -13,7 +13,9 @@
 #include <vector>
 
 class KirvHintLine;
+class QHBoxLayout;
 class QLabel;
+class QLineEdit;
 
 /// The rows of a field widget for one list of fields; a new list makes a new form.
 ///
@@ -32,6 +34,10 @@ public:
     /// Says at each field of \a ids, or at each of all when it is empty, what is wrong with its value, also that it is
     /// missing. The control of the first that is wrong; null when none is.
     QWidget *showProblems(const QStringList &ids = QStringList());
+    /// The line of text that edits the field \a id; null when there is none.
+    QLineEdit *lineOf(const QString &id) const;
+    /// Puts \a button, which the form then owns, behind that line, also in the order of Tab.
+    void addBeside(QLineEdit *line, QWidget *button);
 
     /// Gives the captions mnemonics that do not clash in the window that the form is in by now.
     void assignMnemonics();
@@ -53,6 +59,7 @@ private:
         KirvField field;
         Editor editor;
         QVariant shown;
+        QHBoxLayout *cell = nullptr; ///< that the control is in
         KirvHintLine *hint = nullptr;
 
         KirvField edited() const;

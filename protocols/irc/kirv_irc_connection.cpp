@@ -89,7 +89,7 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     if (settings.needsPassword() && settings.password.isEmpty())
         return loginFailed(KirvFailure::PasswordMissing);
 
-    certificateError.clear();
+    isCertificateRefused = false;
     QAbstractSocket *const transport = createTransport(&problem);
     if (!transport)
         return loginFailed({ KirvFailure::BadSettings, problem });
@@ -191,8 +191,16 @@ QAbstractSocket *KirvIrcConnection::createTransport(QString *problem)
         return nullptr;
     encrypted->setPeerVerifyMode(QSslSocket::VerifyPeer);
     connect(encrypted.get(), QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
-            [this](const QList<QSslError> &errors) { certificateError = errors.first().errorString(); });
+            [this, socket = encrypted.get()](const QList<QSslError> &errors) { judge(socket, errors); });
     return encrypted.release();
+}
+
+/// Goes on where the certificate is the one that the user trusts for this account.
+void KirvIrcConnection::judge(QSslSocket *encrypted, const QList<QSslError> &errors)
+{
+    isCertificateRefused = !acceptsCertificate({ encrypted->peerCertificate(), errors, settings.server });
+    if (!isCertificateRefused)
+        encrypted->ignoreSslErrors(errors);
 }
 
 /// Sets the certificates. False when one of the files cannot be used.
@@ -373,9 +381,7 @@ void KirvIrcConnection::receiveSocketError(QAbstractSocket::SocketError error)
     case QAbstractSocket::SocketTimeoutError:
         return connectionLost({ KirvFailure::TimedOut, settings.server });
     case QAbstractSocket::SslHandshakeFailedError:
-        if (certificateError.isEmpty())
-            return connectionLost(KirvFailure::EncryptionNotOffered);
-        return connectionLost({ KirvFailure::UntrustedCertificate, certificateError });
+        return isCertificateRefused ? failForCertificate() : connectionLost(KirvFailure::EncryptionNotOffered);
     case QAbstractSocket::SslInvalidUserDataError:
         return connectionLost({ KirvFailure::BadSettings, socket->errorString() });
     case QAbstractSocket::RemoteHostClosedError:

@@ -17,6 +17,7 @@ class IrcErrorMessage;
 class IrcNumericMessage;
 class KirvIrcSasl;
 class KirvIrcSocket;
+class QSslError;
 class QSslSocket;
 
 /// The connection of an IRC account to its server.
@@ -48,6 +49,7 @@ private:
     void openThroughProxy(QAbstractSocket *transport);
     QAbstractSocket *createTransport(QString *problem);
     bool configure(QSslSocket *encrypted, QString *problem) const;
+    void judge(QSslSocket *encrypted, const QList<QSslError> &errors);
     void openLink(QSslSocket *encrypted);
     void warnOfOpenKey();
     void prepareAuthentication();
@@ -75,7 +77,7 @@ private:
     QNetworkProxy proxy; ///< that it goes through
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
     QStringList nicksLeft;
-    QString certificateError; ///< why the server's certificate is not trusted
+    bool isCertificateRefused = false; ///< the server's is not trusted
     QString saslServer; ///< where SASL worked last, in this session of the program
     QString keyWarnedOf; ///< the key file that others can read, when that was told
     QString refusal; ///< why the server is about to close the connection; its goodbye follows

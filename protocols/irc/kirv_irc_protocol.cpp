@@ -88,6 +88,11 @@ QStringList KirvIrcProtocol::components() const
     return { QStringLiteral("IRC plug-in " KIRV_VERSION), QLatin1String("libcommuni ") + Irc::version() };
 }
 
+QStringList KirvIrcProtocol::fileSettings() const
+{
+    return KirvIrcSettings::fileFields();
+}
+
 KirvConnection *KirvIrcProtocol::createConnection()
 {
     return new KirvIrcConnection;

@@ -25,6 +25,7 @@ public:
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QStringList components() const override;
+    QStringList fileSettings() const override;
     KirvConnection *createConnection() override;
 };
 

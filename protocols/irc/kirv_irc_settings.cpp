@@ -204,6 +204,11 @@ QList<KirvField> KirvIrcSettings::defaultFields()
     return own + KirvProxy().toFields();
 }
 
+QStringList KirvIrcSettings::fileFields()
+{
+    return { QLatin1String(certificateId), QLatin1String(clientCertificateId), QLatin1String(clientKeyId) };
+}
+
 QStringList KirvIrcSettings::configurations()
 {
     QStringList names;

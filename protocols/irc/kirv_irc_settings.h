@@ -57,6 +57,8 @@ public:
 
     /// The fields of a new account.
     static QList<KirvField> defaultFields();
+    /// The ids of those that are the path of a file.
+    static QStringList fileFields();
     /// The names of the ready-made configurations and the fields of one; empty for an unknown name.
     static QStringList configurations();
     static QList<KirvField> configurationFields(const QString &name);

@@ -62,6 +62,8 @@ void KirvXmppConnection::connectLink()
 {
     abortConnection();
     link.reset(createLink(KirvXmppLink::LogIn, clock(), timing().requestTimeout));
+    link->setTrustedCertificate(login().trustedCertificate);
+    connect(link.data(), &KirvXmppLink::certificateShown, this, &KirvXmppConnection::acceptsCertificate);
     directory.reset(new KirvXmppDirectory(*link));
     picture.reset(new KirvXmppAvatar(*link, *directory));
     connect(link.data(), &KirvXmppLink::step, this, &KirvXmppConnection::reportStep);
@@ -82,6 +84,8 @@ void KirvXmppConnection::receiveEnd(const KirvFailure &failure)
 {
     if (state() == Disconnecting)
         logoutFinished();
+    else if (state() == Connecting && failure.kind() == KirvFailure::UntrustedCertificate)
+        failForCertificate();
     else if (state() == Connecting)
         loginFailed(failure);
     else

@@ -3,6 +3,7 @@
 #define KIRV_XMPP_LINK_H
 
 #include "core/protocol/kirv_login_step.h"
+#include "core/protocol/kirv_server_certificate.h"
 #include "core/values/kirv_clock.h"
 #include "core/values/kirv_failure.h"
 
@@ -44,6 +45,10 @@ public:
     virtual void refuseLocalServers() { }
     /// Whether the server has such an address; false while that is not known.
     virtual bool isServerLocal() const { return false; }
+    /// From now on a server that shows the certificate with that SHA-256 digest is trusted, whatever is wrong with it;
+    /// empty: none is.
+    void setTrustedCertificate(const QByteArray &digest) { trusted = digest; }
+    const QByteArray &trustedCertificate() const { return trusted; }
     /// The proxy of \a configuration is for kirvFindProxy() unless the link is one to a single server.
     virtual void open(const QXmppConfiguration &configuration, const QXmppPresence &presence) = 0;
     /// Ends the stream in an orderly way; ended() follows.
@@ -75,6 +80,8 @@ Q_SIGNALS:
     void reached();
     /// The server has begun to speak: it has said what it offers. May be emitted several times.
     void greeted();
+    /// The server has shown a certificate that has problems; the end follows, unless it is trustedCertificate().
+    void certificateShown(const KirvServerCertificate &certificate);
     /// The server refers to another one, in the place of ended(); \a port is 0 when it names none. \a wasEncrypted: it
     /// said so over an encrypted stream.
     void redirected(const QString &host, int port, bool wasEncrypted);
@@ -84,6 +91,9 @@ Q_SIGNALS:
     void readyToRegister(bool isOffered);
     /// The stream is over. Emitted once; None when close() has ended it.
     void ended(const KirvFailure &failure);
+
+private:
+    QByteArray trusted;
 };
 
 /// Creates a link; \a clock is not owned, and requests without a reply fail after \a replyTimeout milliseconds.

@@ -94,6 +94,11 @@ QList<KirvField> KirvXmppProtocol::accountSettings() const
     return KirvXmppSettings().toFields();
 }
 
+QStringList KirvXmppProtocol::fileSettings() const
+{
+    return KirvXmppSettings::fileFields();
+}
+
 QList<KirvField> KirvXmppProtocol::directoryFields() const
 {
     return KirvXmppVCard::blankFields();

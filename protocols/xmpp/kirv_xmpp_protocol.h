@@ -23,6 +23,7 @@ public:
     QString loginProblem(const QString &login) const override;
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
+    QStringList fileSettings() const override;
     QList<KirvField> directoryFields() const override;
     QList<KirvField> settingsForTest(const QList<KirvField> &settings) const override;
     QStringList components() const override;

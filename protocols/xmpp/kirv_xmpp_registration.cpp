@@ -63,6 +63,8 @@ void KirvXmppRegistration::open()
             fail(KirvFailure(KirvFailure::TimedOut, settings.server.isEmpty() ? domain : settings.server));
     });
     link.reset(createLink(KirvXmppLink::Register, clock, replyTimeout));
+    link->setTrustedCertificate(trustedCertificate);
+    connect(link.data(), &KirvXmppLink::certificateShown, this, &KirvXmppRegistration::certificateShown);
     connect(link.data(), &KirvXmppLink::readyToRegister, this, [this](bool offered) {
         isOffered = offered;
         requestForm();

@@ -27,6 +27,9 @@ public:
     int timeout() const { return replyTimeout; }
     void setTimeout(int milliseconds) { replyTimeout = milliseconds; }
 
+    /// The certificate that is trusted whatever is wrong with it: its SHA-256 digest; empty: none.
+    void setTrustedCertificate(const QByteArray &digest) { trustedCertificate = digest; }
+
     /// Requests the form of the server of \a domain; the reply is formReceived() or failed().
     void fetchForm(const QString &domain, const KirvXmppSettings &settings);
     /// Sends the form; the reply is succeeded() or failed(), or formReceived() when the server has another form by
@@ -39,6 +42,8 @@ Q_SIGNALS:
     /// \a refusal: why the form before was refused; None when it was not.
     void formReceived(const KirvXmppRegistrationForm &form, const KirvFailure &refusal);
     void succeeded();
+    /// The server has shown a certificate that has problems; failed() follows unless it is the trusted one.
+    void certificateShown(const KirvServerCertificate &certificate);
     /// The server refused, or could not be reached.
     void failed(const KirvFailure &failure);
 
@@ -55,6 +60,7 @@ private:
     const KirvXmppLinkFactory createLink;
     int replyTimeout = 30000;
     QString domain;
+    QByteArray trustedCertificate;
     KirvXmppSettings settings;
     KirvXmppRegistrationForm form;
     QList<KirvField> filled;

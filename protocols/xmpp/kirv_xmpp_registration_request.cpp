@@ -35,7 +35,9 @@ KirvXmppRegistrationRequest::KirvXmppRegistrationRequest(KirvClock &clock, QObje
 {
     connect(&registration, &KirvXmppRegistration::formReceived, this, &KirvXmppRegistrationRequest::showForm);
     connect(&registration, &KirvXmppRegistration::succeeded, this, &KirvXmppRegistrationRequest::finish);
-    connect(&registration, &KirvXmppRegistration::failed, this, &KirvServerRequest::failed);
+    connect(&registration, &KirvXmppRegistration::certificateShown, this,
+            [this](const KirvServerCertificate &shown) { certificate = shown; });
+    connect(&registration, &KirvXmppRegistration::failed, this, &KirvXmppRegistrationRequest::receiveFailure);
 }
 
 QString KirvXmppRegistrationRequest::title() const
@@ -50,7 +52,7 @@ void KirvXmppRegistrationRequest::start()
 
 void KirvXmppRegistrationRequest::showServerStep()
 {
-    isAtForm = false;
+    isAtForm = isAtCertificate = false;
     Step step;
     step.text = tr("Choose the server of the new account. The server determines what is to be filled in next.");
     step.configurations = KirvXmppSettings::configurations();
@@ -72,13 +74,45 @@ QList<KirvField> KirvXmppRegistrationRequest::fieldsOf(const QString &name, cons
 
 void KirvXmppRegistrationRequest::submit(const QList<KirvField> &filled)
 {
-    if (isAtForm) {
+    if (isAtCertificate) {
+        trustedCertificate = certificate.fingerprint;
+        requestForm();
+    } else if (isAtForm) {
         formFields = filled;
         sendForm();
     } else {
         serverFields = filled;
+        trustedCertificate.clear(); // it may be another server
         requestForm();
     }
+}
+
+void KirvXmppRegistrationRequest::receiveFailure(const KirvFailure &failure)
+{
+    if (failure.kind() == KirvFailure::UntrustedCertificate && !certificate.isNull())
+        showCertificate();
+    else
+        Q_EMIT failed(failure);
+}
+
+/// Asks whether the certificate is to be trusted all the same. What was typed into the form stays for it.
+void KirvXmppRegistrationRequest::showCertificate()
+{
+    isAtForm = false;
+    isAtCertificate = true;
+    Step step;
+    step.text = tr("The certificate of the server is not trusted. Somebody between you and the server could read your "
+                   "password.");
+    step.notice = certificate.problems.join(QLatin1Char(' '));
+    const QList<KirvServerCertificate::Detail> details = certificate.details();
+    for (const KirvServerCertificate::Detail &detail : details) {
+        const QString id = QStringLiteral("certificate_%1").arg(step.fields.size());
+        step.fields << KirvField::note(detail.label, id, detail.text, QString());
+    }
+    step.command = tr("Trust for This Account");
+    step.isDangerous = true;
+    step.canGoBack = true;
+    Q_EMIT stepReady(step);
 }
 
 void KirvXmppRegistrationRequest::requestForm()
@@ -96,13 +130,17 @@ void KirvXmppRegistrationRequest::requestForm()
     }
     const QPointer<KirvXmppRegistrationRequest> alive(this);
     Q_EMIT waiting(tr("Requesting the registration form…"));
-    if (alive)
-        registration.fetchForm(domain, KirvXmppSettings(serverFields));
+    if (!alive)
+        return;
+    certificate = KirvServerCertificate();
+    registration.setTrustedCertificate(trustedCertificate);
+    registration.fetchForm(domain, KirvXmppSettings(serverFields));
 }
 
 void KirvXmppRegistrationRequest::showForm(const KirvXmppRegistrationForm &received, const KirvFailure &refusal)
 {
     const bool isAnother = isAtForm;
+    isAtCertificate = false;
     formFields = received.fieldsWith(formFields, form.fields());
     form = received;
     isAtForm = true;
@@ -161,6 +199,7 @@ void KirvXmppRegistrationRequest::finish()
         result.account.id = name + QLatin1Char('@') + domain;
         result.account.password = KirvXmppRegistrationForm::password(formFields);
         result.account.settings = KirvXmppSettings(serverFields).toFields();
+        result.account.trustedCertificate = trustedCertificate;
     }
     Q_EMIT succeeded(result);
 }
@@ -168,9 +207,10 @@ void KirvXmppRegistrationRequest::finish()
 void KirvXmppRegistrationRequest::goBack(const QList<KirvField> &filled)
 {
     registration.cancel();
-    if (!isAtForm)
+    if (!isAtForm && !isAtCertificate)
         return;
-    formFields = filled;
+    if (isAtForm)
+        formFields = filled;
     showServerStep();
 }
 

@@ -8,6 +8,9 @@
 
 /// Registers a new account: the first step is about the server, the second is the form of this server. Values that
 /// were typed stay when a step comes again and when the server sends another form.
+///
+/// When the certificate of the server is not trusted, a step in between shows it. The one that is trusted there is
+/// trusted for the new account, too.
 class KirvXmppRegistrationRequest : public KirvServerRequest {
     Q_OBJECT
     /// How long the server may take for a reply, in milliseconds.
@@ -31,6 +34,8 @@ public:
 private:
     void showServerStep();
     void requestForm();
+    void receiveFailure(const KirvFailure &failure);
+    void showCertificate();
     void showForm(const KirvXmppRegistrationForm &received, const KirvFailure &refusal);
     static QString noticeOf(const KirvFailure &refusal);
     QString textOf(const KirvXmppRegistrationForm &form) const;
@@ -39,6 +44,9 @@ private:
 
     KirvXmppRegistration registration;
     bool isAtForm = false;
+    bool isAtCertificate = false;
+    KirvServerCertificate certificate; ///< that the server has shown last and that has problems
+    QByteArray trustedCertificate; ///< the digest of the one that is trusted
     QList<KirvField> serverFields; ///< of the first step, as filled in last
     QString domain;
     KirvXmppRegistrationForm form;

@@ -140,6 +140,7 @@ void KirvXmppRoute::openLink(const QNetworkProxy &found)
     proxy = found;
     link = createLink(purpose, clock, replyTimeout);
     link->setParent(this);
+    link->setTrustedCertificate(trustedCertificate());
     if (!mayBeLocal)
         link->refuseLocalServers();
     connectLink();
@@ -173,6 +174,7 @@ void KirvXmppRoute::connectLink()
     connect(link, &KirvXmppLink::step, this, &KirvXmppRoute::receiveStep);
     connect(link, &KirvXmppLink::reached, this, [this] { isReached = true; });
     connect(link, &KirvXmppLink::greeted, this, [this] { isGreeted = true; });
+    connect(link, &KirvXmppLink::certificateShown, this, &KirvXmppLink::certificateShown);
     connect(link, &KirvXmppLink::redirected, this, &KirvXmppRoute::follow);
     connect(link, &KirvXmppLink::ended, this, &KirvXmppRoute::receiveEnd);
     connect(link, &KirvXmppLink::loggedIn, this, [this] {

@@ -397,7 +397,13 @@ void KirvXmppServerLink::receiveError(QXmppClient::Error error)
 
 void KirvXmppServerLink::receiveSslErrors(const QList<QSslError> &errors)
 {
-    fail(KirvFailure(KirvFailure::UntrustedCertificate, errors.isEmpty() ? QString() : errors.first().errorString()));
+    QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
+    const KirvServerCertificate shown(socket->peerCertificate(), errors, client.configuration().domain());
+    Q_EMIT certificateShown(shown);
+    if (!shown.isNull() && shown.fingerprint == trustedCertificate())
+        socket->ignoreSslErrors(errors);
+    else
+        fail(KirvFailure(KirvFailure::UntrustedCertificate, shown.problems.join(QLatin1Char(' '))));
 }
 
 void KirvXmppServerLink::reply(const QString &id, const KirvXmppReply &reply)

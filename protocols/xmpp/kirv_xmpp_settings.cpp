@@ -5,6 +5,7 @@
 #include "protocols/xmpp/kirv_xmpp_address.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSslCertificate>
 #include <QXmppConfiguration.h>
@@ -142,6 +143,11 @@ QList<KirvField> KirvXmppSettings::toServerFields() const
     return own + proxy.toFields();
 }
 
+QStringList KirvXmppSettings::fileFields()
+{
+    return { certificateId };
+}
+
 QStringList KirvXmppSettings::configurations()
 {
     return { tr("Server of the domain"), tr("Server on this computer"), tr("Server on this computer, unencrypted") };
@@ -224,6 +230,12 @@ bool KirvXmppSettings::readCertificates(QList<QSslCertificate> *certificates, QS
 {
     const qint64 largest = 1024 * 1024;
     QFile file(certificatePath);
+    // Opening a pipe would wait for who writes to it.
+    if (QFileInfo::exists(certificatePath) && !QFileInfo(certificatePath).isFile()) {
+        //: %1 is a file name
+        *problem = tr("The trusted certificate %1 is not a file.").arg(certificatePath);
+        return false;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         //: %1 is a file name, %2 the reason
         *problem = tr("The trusted certificate %1 cannot be read (%2).").arg(certificatePath, file.errorString());

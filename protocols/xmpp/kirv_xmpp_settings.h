@@ -55,6 +55,8 @@ public:
     /// Those of them that say where the server is, how to reach it and how to trust it.
     QList<KirvField> toServerFields() const;
 
+    /// The ids of those that are the path of a file.
+    static QStringList fileFields();
     static QStringList configurations();
     /// The fields of a ready-made configuration; empty for an unknown name. None presets the login: it would
     /// replace what the user has typed by a name that is not theirs.

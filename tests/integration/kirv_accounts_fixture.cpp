@@ -117,6 +117,7 @@ void KirvAccountsFixture::changeEverything(KirvAccount *changing)
     changing->setDefaultPresence(protocol->createPresenceWithId(QStringLiteral("away"), QStringLiteral("new")));
     changing->setPresence(changing->getDefaultPresence());
     changing->setAvatar(makePicture());
+    changing->change([](KirvAccountRecord &record) { record.trustedCertificate = QString(64, QLatin1Char('a')); });
     changing->setAccountSettings(
         { KirvField::textEdit(QString(), QStringLiteral("server"), QStringLiteral("new"), QString()) });
 }

@@ -32,6 +32,20 @@ private Q_SLOTS:
         QCOMPARE(core->takeCalls(), QStringList({ "id log out", "id log in available new word" }));
     }
 
+    void aTrustedCertificateLogsInAgainWithIt()
+    {
+        QVERIFY(core->create("id"));
+        QVERIFY(core->account("id")->connection()->login().trustedCertificate.isEmpty());
+        core->takeCalls();
+        core->account("id")->change([](KirvAccountRecord &record) { record.trustedCertificate = "00ff1a"; });
+        core->settle();
+        QCOMPARE(core->account("id")->connection()->login().trustedCertificate, QByteArray("\x00\xff\x1a", 3));
+        QCOMPARE(core->takeCalls().first(), QStringLiteral("id log out"));
+        QVERIFY(core->account("id")->isLoggedIn());
+        core->restart();
+        QCOMPARE(core->account("id")->record().trustedCertificate, QStringLiteral("00ff1a"));
+    }
+
     void aPasswordIsKeptOnlyWhenItIsToBeRemembered_data()
     {
         QTest::addColumn<bool>("remember");

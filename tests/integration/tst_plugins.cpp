@@ -77,7 +77,7 @@ void tst_Plugins::saysWhyAFileCannotBeUsed_data()
         << "Fixture" << false << "The plug-in is not one for protocols: its interface is \"org.example.Calculator\".";
     QTest::newRow("wrong_version")
         << "Tomorrow" << false
-        << "The plug-in was built for version 99 of the plug-in interface; this program has version 3.";
+        << "The plug-in was built for version 99 of the plug-in interface; this program has version 4.";
     QTest::newRow("false_interface") << "Fixture" << true << "The plug-in does not have the interface that it states.";
     QTest::newRow("missing_symbol") << "Fixture" << true << "The library cannot be loaded: *kirvDefinedNowhere*";
     QTest::newRow("no_protocol") << "Fixture" << true << "The moon is not full.";

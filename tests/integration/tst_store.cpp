@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_avatar_folder.h"
+#include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
+#include "core/store/kirv_store_schema.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QLockFile>
@@ -41,6 +43,7 @@ KirvAccountRecord makeFullAccount()
     account.defaultDescription = QStringLiteral("line\nbreak");
     account.lastPresence = QStringLiteral("dnd");
     account.lastDescription = QStringLiteral("<b>busy</b>");
+    account.trustedCertificate = QString(64, QLatin1Char('c'));
     account.settings.insert(QStringLiteral("empty"), QString());
     return account;
 }
@@ -147,7 +150,7 @@ private Q_SLOTS:
         QCOMPARE(pragma("journal_mode"), QStringLiteral("wal"));
         QCOMPARE(pragma("synchronous"), QStringLiteral("2"));
         QCOMPARE(pragma("foreign_keys"), QStringLiteral("1"));
-        QCOMPARE(pragma("user_version"), QStringLiteral("4"));
+        QCOMPARE(pragma("user_version"), QStringLiteral("5"));
     }
 
     void whatIsStoredIsReadAgain()
@@ -436,7 +439,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("statement");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("a newer version") << "PRAGMA user_version = 5"
+        QTest::newRow("a newer version") << "PRAGMA user_version = 6"
                                          << "newer version";
         QTest::newRow("a much newer version") << "PRAGMA user_version = 2000000000"
                                               << "newer version";
@@ -505,6 +508,69 @@ private Q_SLOTS:
         QCOMPARE(accounts.at(1).secretSettings, QSet<QString> { QStringLiteral("server-password") });
         QVERIFY(accounts.at(0).secretItems.isEmpty() && accounts.at(0).unreadSecrets.isEmpty());
         QCOMPARE(QDir(folder + QStringLiteral("/copies")).entryList(QDir::Files).size(), 2); // before and after
+    }
+
+    void aProfileOfVersion4IsUpgraded()
+    {
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_4.sqlite"), QDir(folder).filePath(databaseName)));
+        for (int round = 0; round < 2; ++round) { // the second one finds it upgraded, with what was stored
+            KirvStore store;
+            QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+            QList<KirvAccountRecord> accounts = store.readAccounts();
+            QCOMPARE(idsOf(store), QStringList({ "ann@example.org", "bob", "carl@example.org" }));
+            QCOMPARE(accounts.at(0).password, QStringLiteral("first secret"));
+            QCOMPARE(accounts.at(0).trustedCertificate, QString());
+            QCOMPARE(accounts.at(1).trustedCertificate, round == 0 ? QString() : QStringLiteral("abcd"));
+            QCOMPARE(accounts.at(2).secretItems.value(QString()).key, QStringLiteral("0123/carl"));
+            accounts[1].trustedCertificate = QStringLiteral("abcd");
+            QVERIFY2(store.updateAccount(accounts.at(1)), qPrintable(store.lastError()));
+        }
+    }
+
+    void rowsOfEveryVersionAreRecovered_data()
+    {
+        QTest::addColumn<int>("version");
+        for (int version = 1; version <= kirvStoreVersion(); ++version)
+            QTest::addRow("version %d", version) << version;
+    }
+    void rowsOfEveryVersionAreRecovered()
+    {
+        QFETCH(int, version);
+        QVERIFY(QDir().mkpath(folder));
+        {
+            QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("tool"));
+            database.setDatabaseName(QDir(folder).filePath(databaseName));
+            QVERIFY(database.open());
+            const auto run = [&database](const QString &statement) { return QSqlQuery(database).exec(statement); };
+            for (const QStringList &step : kirvStoreSchemaSteps().mid(0, version)) {
+                for (const QString &statement : step)
+                    QVERIFY2(run(statement), qPrintable(statement));
+            }
+            QStringList values;
+            const QStringList columns = kirvColumnsOfVersion(version, QStringLiteral("account"));
+            for (const QString &column : columns)
+                values << (column == QLatin1String("number") ? QStringLiteral("7") : "'" + column.left(4) + "'");
+            QVERIFY(run(QStringLiteral("INSERT INTO account VALUES (%1)").arg(values.join(','))));
+            QVERIFY(run(QStringLiteral("INSERT INTO account_setting VALUES (7, 'server', 'talk')")));
+            QVERIFY(run(QStringLiteral("PRAGMA user_version = %1").arg(version)));
+            if (version >= kirvFirstMarkedVersion)
+                QVERIFY(run(QStringLiteral("PRAGMA application_id = %1").arg(kirvProfileId)));
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("tool"));
+        KirvProfileRescue rescue(folder);
+        KirvProfileRescue::Recovered found;
+        QVERIFY2(rescue.recover(&found), qPrintable(rescue.lastError()));
+        QVERIFY(found.isComplete);
+        KirvStore store;
+        QVERIFY2(store.open(folder), qPrintable(store.lastError()));
+        QCOMPARE(store.readAccounts().size(), 1);
+        const KirvAccountRecord account = store.readAccounts().first();
+        QCOMPARE(account.key, (KirvAccountKey { "id", "prot" }));
+        QCOMPARE(account.alias, QStringLiteral("alia"));
+        QCOMPARE(account.lastDescription, version == 1 ? QString() : QStringLiteral("last"));
+        QCOMPARE(account.settings.value("server"), QStringLiteral("talk"));
+        QCOMPARE(account.trustedCertificate, version < 5 ? QString() : QStringLiteral("trus"));
     }
 
     void anUpgradeThatFailsLeavesTheOldProfile()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void clientCertificateTakesThePlaceOfThePassword();
     void keyIsInTheCertificatesFileUnlessThereIsAnother();
     void clientCertificateNeedsEncryption();
+    void filesAreFields();
     void alternativesAreTriedInTheirOrder();
     void userNameIsLettersAndDigits_data();
     void userNameIsLettersAndDigits();
@@ -231,6 +232,18 @@ void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword()
         "alice", QString(), onServer + QList { text("password_use", use), text("client_certificate", certificate) });
     QTEST(settings.needsPassword(), "needsPassword");
     QCOMPARE(settings.usesClientCertificate(), !certificate.isEmpty());
+}
+
+void TestIrcSettings::filesAreFields()
+{
+    QStringList ids;
+    const QList<KirvField> fields = KirvIrcSettings::defaultFields();
+    for (const KirvField &field : fields)
+        ids << field.getId();
+    const QStringList files = KirvIrcSettings::fileFields();
+    QCOMPARE(files.size(), 3);
+    for (const QString &file : files)
+        QVERIFY2(ids.contains(file), qPrintable(file));
 }
 
 void TestIrcSettings::keyIsInTheCertificatesFileUnlessThereIsAnother()

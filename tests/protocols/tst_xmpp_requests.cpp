@@ -134,6 +134,8 @@ private Q_SLOTS:
     void aServerIsNeeded();
     void theFormFollowsTheServer();
     void theNewAccountIsTheResult();
+    void anUntrustedCertificateIsAskedAbout();
+    void theCertificateOfAnotherServerIsAskedAboutAgain();
     void aFormWithoutAUserNameHasNoAccount();
     void goingBackKeepsBothSteps();
     void aTakenNameIsReported();
@@ -163,6 +165,7 @@ private:
     void logIn();
     void createRegistration();
     void receiveForm(const QByteArray &fields);
+    void refuseCertificate(const QByteArray &fingerprint);
 
     const KirvLogin login { "romeo@example.org", "secret", KirvXmppSettings().toFields() };
     KirvFakeClock clock;
@@ -203,6 +206,17 @@ void TestXmppRequests::createRegistration()
     listener = std::make_unique<Listener>(*request);
     request->start();
     QCOMPARE(listener->take(), QStringList { "step" });
+}
+
+/// The server shows a certificate that is not trusted.
+void TestXmppRequests::refuseCertificate(const QByteArray &fingerprint)
+{
+    KirvServerCertificate certificate;
+    certificate.fingerprint = fingerprint;
+    certificate.names = QStringList { "example.org" };
+    certificate.problems = QStringList { "It is self-signed." };
+    Q_EMIT server.link()->certificateShown(certificate);
+    server.link()->end(KirvFailure::UntrustedCertificate);
 }
 
 /// Goes to the second step, with these \a fields in the form of the server.
@@ -558,6 +572,60 @@ void TestXmppRequests::theNewAccountIsTheResult()
     QCOMPARE(listener->result.account.password, QString("new"));
     QCOMPARE(listener->result.account.settings.size(), KirvXmppSettings().toFields().size());
     QCOMPARE(valueOf(listener->result.account.settings, "encryption"), QString("offered"));
+}
+
+void TestXmppRequests::anUntrustedCertificateIsAskedAbout()
+{
+    createRegistration();
+    request->submit(filled(listener->step.fields, "domain", "example.org"));
+    QVERIFY(server.link()->trustedCertificate().isEmpty());
+    refuseCertificate("first");
+    QCOMPARE(listener->take(), QStringList({ "waiting", "step" }));
+    const Step step = listener->step;
+    QVERIFY(step.text.contains("not trusted"));
+    QCOMPARE(step.notice, QString("It is self-signed."));
+    QVERIFY(step.isDangerous && step.canGoBack && !step.hasPassword);
+    QCOMPARE(step.command, QString("Trust for This Account"));
+    QStringList said;
+    for (const KirvField &field : step.fields) {
+        QCOMPARE(field.getKind(), KirvField::Label);
+        said << field.getText();
+    }
+    QVERIFY(said.contains("example.org") && said.contains(KirvServerCertificate::fingerprintText("first")));
+
+    request->submit(step.fields);
+    QCOMPARE(listener->take(), QStringList { "waiting" });
+    QCOMPARE(server.link()->trustedCertificate(), QByteArray("first"));
+    server.link()->arrive();
+    server.link()->reply(registrationForm("<username/><password/>"));
+    QCOMPARE(listener->take(), QStringList { "step" });
+    request->submit(filled(filled(listener->step.fields, "username", "juliet"), "password", "new"));
+    server.link()->reply();
+    QCOMPARE(listener->take(), QStringList({ "waiting", "succeeded" }));
+    QCOMPARE(listener->result.account.trustedCertificate, QByteArray("first"));
+}
+
+void TestXmppRequests::theCertificateOfAnotherServerIsAskedAboutAgain()
+{
+    createRegistration();
+    const QList<KirvField> fields = filled(listener->step.fields, "domain", "example.org");
+    request->submit(fields);
+    refuseCertificate("first");
+    request->goBack(listener->step.fields);
+    QCOMPARE(listener->take(), QStringList({ "waiting", "step", "step" }));
+    QCOMPARE(valueOf(listener->step.fields, "domain"), QString("example.org"));
+    request->submit(fields);
+    refuseCertificate("first");
+    request->submit(listener->step.fields);
+    QCOMPARE(server.link()->trustedCertificate(), QByteArray("first"));
+    refuseCertificate("second"); // it has changed meanwhile
+    listener->take();
+    QVERIFY(listener->step.fields.last().getText() == KirvServerCertificate::fingerprintText("second"));
+    request->goBack(listener->step.fields);
+    request->submit(fields);
+    QVERIFY(server.link()->trustedCertificate().isEmpty());
+    server.link()->end(KirvFailure(KirvFailure::UntrustedCertificate)); // none was shown
+    QCOMPARE(listener->take(), QStringList({ "step", "waiting", "failed" }));
 }
 
 void TestXmppRequests::aFormWithoutAUserNameHasNoAccount()

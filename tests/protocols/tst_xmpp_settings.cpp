@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QXmppConfiguration.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -45,6 +46,8 @@ private Q_SLOTS:
     void theLibraryNeitherReconnectsNorAccepts();
     void aTrustedCertificateIsAdded_data();
     void aTrustedCertificateIsAdded();
+    void filesAreFields();
+    void aCertificateThatWouldBlockIsReported();
     void aCertificateThatCannotBeUsedIsReported_data();
     void aCertificateThatCannotBeUsedIsReported();
     void loginsAreAddresses_data();
@@ -268,6 +271,29 @@ void TestXmppSettings::aTrustedCertificateIsAdded()
     QVERIFY(!configuration.caCertificates().isEmpty());
     QCOMPARE(configuration.caCertificates().last().subjectInfo(QSslCertificate::CommonName),
              QStringList { "localhost" });
+}
+
+void TestXmppSettings::filesAreFields()
+{
+    QCOMPARE(KirvXmppSettings::fileFields(), QStringList { "certificate" });
+    QStringList ids;
+    const QList<KirvField> fields = KirvXmppSettings().toFields();
+    for (const KirvField &field : fields)
+        ids << field.getId();
+    QVERIFY(ids.contains("certificate"));
+}
+
+void TestXmppSettings::aCertificateThatWouldBlockIsReported()
+{
+    QTemporaryDir folder;
+    const QString pipe = folder.filePath("pipe.pem");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe), 0600), 0);
+    for (const QString &path : { pipe, folder.path() }) {
+        QXmppConfiguration configuration;
+        QString problem;
+        QVERIFY(!KirvXmppSettings({ text("certificate", path) }).apply("a.b", &configuration, &problem));
+        QVERIFY2(problem.contains("is not a file"), qPrintable(problem));
+    }
 }
 
 void TestXmppSettings::aCertificateThatCannotBeUsedIsReported_data()

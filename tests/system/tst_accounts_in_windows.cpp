@@ -184,6 +184,9 @@ void tst_accounts_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
     qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
     QVERIFY(addAnn());
     KIRV_TRY_CONTAINS(windows->problem(ann), "certificate");
+    KIRV_TRY(KirvWindowDriver::window(QStringLiteral("CertificateQuestion")));
+    KirvWindowDriver::click(KirvWindows::child<QPushButton>(
+        KirvWindowDriver::window(QStringLiteral("CertificateQuestion")), "CertificateQuestion_LeaveButton"));
     QVERIFY(!isConnected(ann));
 
     QDialog *window = windows->edit(ann);

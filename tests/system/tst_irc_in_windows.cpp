@@ -380,6 +380,9 @@ void tst_irc_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
     QVERIFY(start(server));
     QVERIFY(addAlice([](QWidget *window) { KirvWindows::fill(window, QStringLiteral("encryption"), required); }));
     KIRV_TRY_CONTAINS(windows->problem(alice), "certificate");
+    KIRV_TRY(KirvWindowDriver::window(QStringLiteral("CertificateQuestion")));
+    KirvWindowDriver::click(KirvWindows::child<QPushButton>(
+        KirvWindowDriver::window(QStringLiteral("CertificateQuestion")), "CertificateQuestion_LeaveButton"));
     QVERIFY(windows->hasGivenUp(alice));
 
     QDialog *window = windows->edit(alice);

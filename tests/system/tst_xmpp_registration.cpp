@@ -41,7 +41,7 @@ private Q_SLOTS:
     void registrationIsNotOffered();
     void silentServerIsSaid();
     void serverIsNotThere();
-    void untrustedCertificateIsSaid();
+    void untrustedCertificateIsAskedAbout();
     void domainMustBeEntered();
     void requiredFieldsMustBeFilledIn();
     void formIsShownAsItComes();
@@ -279,16 +279,27 @@ void TestXmppRegistration::serverIsNotThere()
     KIRV_TRY_CONTAINS(Assistant::message(), "does not accept connections");
 }
 
-void TestXmppRegistration::untrustedCertificateIsSaid()
+void TestXmppRegistration::untrustedCertificateIsAskedAbout()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     QVERIFY(openRegistration());
     fillServer(server);
     fillServer(Values { { "certificate", "" } });
+    QVERIFY(openForm());
+    QVERIFY2(Assistant::text().contains("not trusted"), qPrintable(Assistant::text()));
+    QVERIFY2(Assistant::message().contains("self-signed"), qPrintable(Assistant::message()));
+    QCOMPARE(Assistant::next()->text().remove('&'), QString("Trust for This Account"));
+    QVERIFY(!Assistant::next()->isDefault());
     press(Assistant::next());
-    KIRV_TRY_CONTAINS(Assistant::message(), "not trusted");
-    QVERIFY(!Assistant::isAtLaterStep());
+    KIRV_TRY(Assistant::field("username"));
+    type("username", "romeo");
+    type("password", "secret");
+    press(Assistant::next());
+    KIRV_TRY(romeo());
+    KIRV_TRY(romeo()->isOnline());
+    QCOMPARE(romeo()->record().trustedCertificate.size(), 64);
+    QVERIFY(!romeo()->connection()->pinnedCertificate().isNull());
 }
 
 void TestXmppRegistration::domainMustBeEntered()

@@ -4,9 +4,9 @@
 #include <QtTest>
 
 namespace {
-const QStringList markedClasses = { "KirvBackOff",       "KirvBoundedImage", "KirvClock",        "KirvConnection",
-                                    "KirvFailure",       "KirvLoginStep",    "KirvProtocolBase", "KirvProxy",
-                                    "KirvServerRequest", "KirvSystemProxy" };
+const QStringList markedClasses = { "KirvBackOff",           "KirvBoundedImage",  "KirvClock",        "KirvConnection",
+                                    "KirvFailure",           "KirvLoginStep",     "KirvProtocolBase", "KirvProxy",
+                                    "KirvServerCertificate", "KirvServerRequest", "KirvSystemProxy" };
 }
 
 /// Reads what the built library for protocol plug-ins exports.
@@ -55,6 +55,7 @@ void tst_protocol_symbols::whatPlugInsNeedIsExported_data()
     for (const char *operation :
          { "KirvBoundedImage::fromData(QByteArray const&, QString const&, int)",
            "KirvBoundedImage::fromFile(QString const&, int)", "KirvClock::system()",
+           "KirvConnection::acceptsCertificate(KirvServerCertificate const&)", "KirvConnection::failForCertificate()",
            "KirvConnection::answerDirectoryRequest(int, QList<KirvField> const&)", "KirvConnection::clock() const",
            "KirvConnection::connectionLost(KirvFailure const&)", "KirvConnection::login() const",
            "KirvConnection::loginSucceeded()", "KirvConnection::loginFailed(KirvFailure const&)",

@@ -69,6 +69,8 @@ void KirvFakeConnection::startLogin(const KirvPresence &presence)
         onLogIn();
     else if (server->needsPassword && login().password.isEmpty())
         loginFailed(KirvFailure::PasswordMissing);
+    else if (!server->certificate.isNull() && !acceptsCertificate(server->certificate))
+        failForCertificate();
     else if (server->logIn == KirvFakeServer::Refuses)
         loginFailed(server->refusal);
     else if (server->logIn == KirvFakeServer::Accepts && !server->silentPresences.contains(presence.getId()))

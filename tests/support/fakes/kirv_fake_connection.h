@@ -37,9 +37,11 @@ public:
     /// What the server received over any connection since the last take.
     QStringList takeCalls() { return server->takeCalls(); }
 
+    using KirvConnection::acceptsCertificate;
     using KirvConnection::answerDirectoryRequest;
     using KirvConnection::connectionLost;
     using KirvConnection::failDirectoryRequest;
+    using KirvConnection::failForCertificate;
     using KirvConnection::loginFailed;
     using KirvConnection::loginSucceeded;
     using KirvConnection::logoutFinished;

@@ -33,6 +33,7 @@ public:
     }
     QList<KirvPresence> presences() const override { return offeredPresences; }
     QList<KirvField> accountSettings() const override { return settings; }
+    QStringList fileSettings() const override { return files; }
     QList<KirvField> directoryFields() const override { return directory; }
     QList<KirvField> settingsForTest(const QList<KirvField> &given) const override
     {
@@ -54,6 +55,7 @@ public:
     QList<KirvField> configurationFields; ///< of each configuration
     QList<KirvPresence> offeredPresences; ///< "available", "away" and "offline" at first
     QList<KirvField> settings; ///< one of most kinds at first
+    QStringList files; ///< the ids of those that are the path of a file; none at first
     QList<KirvField> directory; ///< "name" and "town" at first
     QList<KirvAccountAction> actions;
     bool givesConnections = true;

@@ -2,6 +2,7 @@
 #ifndef KIRV_FAKE_SERVER_H
 #define KIRV_FAKE_SERVER_H
 
+#include "core/protocol/kirv_server_certificate.h"
 #include "core/values/kirv_failure.h"
 #include "host/kirv_field.h"
 
@@ -25,6 +26,7 @@ struct KirvFakeServer {
     bool needsPassword = false; ///< a log-in without a password fails before the server is reached
     QStringList silentPresences; ///< ids; a log-in with one of them is held
     KirvFailure refusal = KirvFailure::WrongPassword; ///< of a log-in
+    KirvServerCertificate certificate; ///< logins that do not trust it are refused; null: it is trusted by all
     KirvFailure directoryRefusal { KirvFailure::RequestFailed, QStringLiteral("not today") };
 
     QHash<QString, QList<KirvField>> entries; ///< the directory, by account id

@@ -27,6 +27,8 @@ public:
     /// What the last client has shown; null when it has shown none.
     QSslCertificate clientCertificate() const { return shown; }
     QByteArrayList receivedLines() const { return received; }
+    /// Whether a client has sent anything over an encrypted connection.
+    bool wasSpokenTo() const { return spokenTo; }
 
 protected:
     void incomingConnection(qintptr handle) override
@@ -40,6 +42,7 @@ protected:
                 [socket] { socket->ignoreSslErrors(); });
         connect(socket, &QSslSocket::encrypted, this, [this, socket] { shown = socket->peerCertificate(); });
         connect(socket, &QSslSocket::readyRead, this, [this, socket] {
+            spokenTo = true;
             while (socket->canReadLine()) {
                 received += socket->readLine().trimmed();
                 socket->write(script(received.last()));
@@ -54,6 +57,7 @@ private:
     const Script script;
     QSslCertificate shown;
     QByteArrayList received;
+    bool spokenTo = false;
 };
 
 #endif
