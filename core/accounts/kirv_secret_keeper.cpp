@@ -145,8 +145,9 @@ void KirvSecretKeeper::load()
             newKeys.insert(row.item.key);
             if (!batchValues.contains(row.item.key))
                 writes << row;
-        } else if (!id.isEmpty() && row.item.key.startsWith(id + QLatin1Char('/'))) {
-            removals << row; // those of other profiles are left alone
+        } else if (!id.isEmpty() && row.item.key.startsWith(id + QLatin1Char('/'))) { // not of another profile
+            if (!batchValues.contains(row.item.key)) // it is still to be written
+                removals << row;
         }
     }
 }
@@ -341,9 +342,8 @@ bool KirvSecretKeeper::writeNext()
             continue;
         const KirvAccountRecord &record = account->record();
         if (record.secretItems.value(row.field) != row.item) { // of a move that was interrupted
-            if (!account->isSaving())
-                store.makeItemsObsolete({ row.item.key });
-            removals << row;
+            if (!account->isSaving() && store.makeItemsObsolete({ row.item.key }))
+                removals << row;
             continue;
         }
         if (record.unreadSecrets.contains(row.field))

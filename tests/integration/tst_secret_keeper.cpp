@@ -3,7 +3,11 @@
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/kirv_profile_files.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QTimer>
 #include <QtTest>
 #include <memory>
@@ -58,6 +62,10 @@ private Q_SLOTS:
     void aMoveThatFailsLosesNothing_data();
     void aMoveThatFailsLosesNothing();
     void aSaveDuringTheMoveCounts();
+    void whatChangesDuringTheMoveLeavesNothingBehind_data();
+    void whatChangesDuringTheMoveLeavesNothingBehind();
+    void aMoveComesBackToWhatFailed();
+    void whatAMoveHasLeftIsNotRemovedDuringASave();
     void aProfileSavedElsewhereKeepsItsSecrets();
 
 private:
@@ -630,6 +638,84 @@ void tst_SecretKeeper::aSaveDuringTheMoveCounts()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), QStringLiteral("newer"));
+}
+
+void tst_SecretKeeper::whatChangesDuringTheMoveLeavesNothingBehind_data()
+{
+    QTest::addColumn<bool>("isRemoved");
+    QTest::newRow("another password is saved") << false;
+    QTest::newRow("the account is removed") << true;
+}
+
+/// Also of those whose turn has not come yet.
+void tst_SecretKeeper::whatChangesDuringTheMoveLeavesNothingBehind()
+{
+    QFETCH(bool, isRemoved);
+    const QStringList ids { "a", "b", "c" };
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (const QString &id : ids)
+        QVERIFY(core->create(id));
+    restart();
+    keyring->isHeld = true;
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->heldCount(), 1);
+    for (const QString &id : ids) {
+        if (isRemoved)
+            QVERIFY(core->accounts->remove(core->account(id)));
+        else
+            core->account(id)->setPassword(QStringLiteral("newer ") + id);
+    }
+    while (keyring->heldCount() > 0) {
+        keyring->release();
+        settle();
+    }
+    QStringList values = keyring->secrets.values();
+    values.sort();
+    QCOMPARE(values, isRemoved ? QStringList() : QStringList({ "newer a", "newer b", "newer c" }));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+    QVERIFY(!isInProfile(QStringLiteral("word of ")));
+}
+
+void tst_SecretKeeper::aMoveComesBackToWhatFailed()
+{
+    const int count = 25; // more than are moved at once
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    restart();
+    keyring->outcome = KirvSecretStore::Failed;
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    QTRY_COMPARE(keyring->secrets.size(), count);
+    QTRY_VERIFY(core->store.unsettledItems().isEmpty());
+    QVERIFY(!isInProfile(QStringLiteral("word of ")));
+}
+
+/// It may be what the save ends with.
+void tst_SecretKeeper::whatAMoveHasLeftIsNotRemovedDuringASave()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->calls.clear();
+    KirvSecretItem left = account()->record().secretItems.value(QString());
+    left.key += QStringLiteral("-left");
+    QVERIFY(core->store.addSecretItems({ { left, account()->key(), QString() } }));
+    account()->beginSave();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(!keyring->calls.contains(QStringLiteral("remove")));
+    QVERIFY(account()->endSave());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->calls, QStringList("remove"));
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(core->store.unsettledItems().isEmpty());
 }
 
 void tst_SecretKeeper::aProfileSavedElsewhereKeepsItsSecrets()
