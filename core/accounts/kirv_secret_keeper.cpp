@@ -122,20 +122,29 @@ void KirvSecretKeeper::read(KirvAccount *account)
     next();
 }
 
+/// What is to be done is read from the event loop, once for all that has changed until then.
 void KirvSecretKeeper::settle()
 {
     if (!secretStore)
+        return;
+    hasChanged = true;
+    scheduleNext();
+}
+
+void KirvSecretKeeper::loadChanges()
+{
+    if (!std::exchange(hasChanged, false))
         return;
     load();
     // What the user has just stored is tried also after a refusal.
     isPaused = isPaused && std::all_of(writes.cbegin(), writes.cend(), [this](const KirvStoredItem &row) {
                    return reported.contains(row.item.key);
                });
-    next();
 }
 
 void KirvSecretKeeper::load()
 {
+    hasChanged = false;
     writes.clear();
     removals.clear();
     newKeys.clear();
@@ -158,6 +167,7 @@ void KirvSecretKeeper::onStateChanged()
     isPaused = false;
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
+    loadChanges();
     if (state == KirvSecretStore::Unavailable && !wasPresent)
         keepInProfile();
     if (state == KirvSecretStore::Ready) {
@@ -227,7 +237,10 @@ void KirvSecretKeeper::scheduleNext()
 /// Starts the next operation; each goes on here when it has ended.
 void KirvSecretKeeper::next()
 {
-    if (isBusy || isPaused || !secretStore)
+    if (isBusy || !secretStore)
+        return;
+    loadChanges();
+    if (isPaused)
         return;
     const KirvSecretStore::State state = secretStore->state();
     if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
@@ -274,6 +287,7 @@ void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, 
     KirvAccount *account = accounts.value(secret.account);
     if (!account || account->record().secretItems.value(secret.field) != item)
         return;
+    loadChanges();
     switch (reply.outcome) {
     case KirvSecretStore::Done:
         if (newKeys.contains(item.key)) { // written before the program ended

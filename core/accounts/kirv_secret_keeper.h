@@ -95,6 +95,7 @@ private:
     bool moveNext();
     void endBatch();
     void load();
+    void loadChanges();
 
     KirvStore &store;
     QPointer<KirvSecretStore> secretStore;
@@ -114,6 +115,7 @@ private:
     bool mayMove = false;
     bool isBusy = false;
     bool isScheduled = false;
+    bool hasChanged = false; ///< what is stored, since load()
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
     Obstacle toldObstacle = None; ///< that the accounts know of

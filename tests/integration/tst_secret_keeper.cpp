@@ -37,6 +37,8 @@ private Q_SLOTS:
     void aPasswordThatIsNotRememberedAnyMoreIsRemoved();
     void aRemovedAccountLeavesNothingInTheKeyring();
     void aRestoredAccountHasItsPasswordInTheKeyringAgain();
+    void removingManyAccountsTakesAsLongAsWithoutAKeyring();
+    void theItemsOfAnAccountAreFoundByAnIndex();
     void whatCouldNotBeRemovedIsRemovedAtTheNextStart();
     void itemsOfOtherProfilesAreLeftAlone();
 
@@ -246,6 +248,47 @@ void tst_SecretKeeper::aRestoredAccountHasItsPasswordInTheKeyringAgain()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::removingManyAccountsTakesAsLongAsWithoutAKeyring()
+{
+    QVector<qint64> times; // nanoseconds without a keyring, and with one
+    for (const bool usesKeyring : { false, true }) {
+        core->accounts->secrets().setKeyring(usesKeyring ? keyring.get() : nullptr);
+        QVERIFY(core->store.begin());
+        QList<KirvAccount *> many;
+        for (int number = 0; number < 1000; ++number) {
+            KirvAccountRecord record;
+            record.key = { QStringLiteral("id%1").arg(number), core->fake };
+            record.password = password;
+            record.rememberPassword = true;
+            record.enabled = false;
+            many << core->accounts->create(record, core->protocol.get());
+            QVERIFY(many.last());
+        }
+        QVERIFY(core->store.commit());
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(core->accounts->remove(many));
+        core->settle();
+        times << time.nsecsElapsed();
+    }
+    // Reading what is to be removed once for each of them took a hundred times as long.
+    QVERIFY2(times.at(1) < 10 * times.at(0),
+             QByteArray::number(times.at(1)) + " against " + QByteArray::number(times.at(0)));
+}
+
+/// Otherwise each change of an account would read the items of all of them.
+void tst_SecretKeeper::theItemsOfAnAccountAreFoundByAnIndex()
+{
+    for (const char *statement : { "SELECT key FROM secret_item WHERE account = 1 AND stage <> 2",
+                                   "UPDATE secret_item SET stage = 1 WHERE account = 1 AND field = ''" }) {
+        QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+        QVERIFY(query.exec(QStringLiteral("EXPLAIN QUERY PLAN ") + QLatin1String(statement)));
+        QVERIFY(query.next());
+        const QString plan = query.value(3).toString();
+        QVERIFY2(plan.contains(QStringLiteral("secret_item_account")), qPrintable(plan));
+    }
 }
 
 void tst_SecretKeeper::whatCouldNotBeRemovedIsRemovedAtTheNextStart()
