@@ -148,6 +148,7 @@ void KirvSecretKeeper::load()
     writes.clear();
     removals.clear();
     newKeys.clear();
+    const QSet<QString> used = keysInUse();
     const QList<KirvStoredItem> rows = store.unsettledItems();
     for (const KirvStoredItem &row : rows) {
         if (row.stage == KirvStoredItem::New) {
@@ -155,10 +156,37 @@ void KirvSecretKeeper::load()
             if (!batchValues.contains(row.item.key))
                 writes << row;
         } else if (!id.isEmpty() && row.item.key.startsWith(id + QLatin1Char('/'))) { // not of another profile
-            if (!batchValues.contains(row.item.key)) // it is still to be written
+            if (!used.contains(row.item.key))
                 removals << row;
         }
     }
+}
+
+/// Those of a batch that is still to be written, and those that are held.
+QSet<QString> KirvSecretKeeper::keysInUse()
+{
+    const QStringList moving = batchValues.keys();
+    QSet<QString> keys(moving.begin(), moving.end());
+    held.erase(std::remove_if(held.begin(), held.end(), [](const auto &gone) { return gone.expired(); }), held.end());
+    for (const auto &holder : held) {
+        const std::shared_ptr<const QStringList> owned = holder.lock();
+        keys += QSet<QString>(owned->begin(), owned->end());
+    }
+    return keys;
+}
+
+std::shared_ptr<const QStringList> KirvSecretKeeper::hold(const QStringList &keys)
+{
+    if (keys.isEmpty())
+        return nullptr;
+    const auto release = [alive = QPointer<KirvSecretKeeper>(this)](const QStringList *released) {
+        delete released;
+        if (alive)
+            alive->settle();
+    };
+    const std::shared_ptr<const QStringList> holder(new QStringList(keys), release);
+    held.push_back(holder);
+    return holder;
 }
 
 void KirvSecretKeeper::onStateChanged()

@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
+#include <memory>
+#include <vector>
 
 class KirvAccount;
 class KirvStore;
@@ -59,6 +61,9 @@ public:
     void read(KirvAccount *account);
     /// What is stored has changed.
     void settle();
+    /// Leaves what stands under \a keys in the keyring as long as the result, or a copy of it, exists: an account that
+    /// was removed may come back. Null when there are none.
+    std::shared_ptr<const QStringList> hold(const QStringList &keys);
 
 Q_SIGNALS:
     /// The state of the keyring or the obstacle may have changed.
@@ -96,6 +101,7 @@ private:
     void endBatch();
     void load();
     void loadChanges();
+    QSet<QString> keysInUse();
 
     KirvStore &store;
     QPointer<KirvSecretStore> secretStore;
@@ -105,6 +111,7 @@ private:
     QList<Secret> reads;
     QList<KirvStoredItem> writes, removals;
     QSet<QString> newKeys; ///< of items that are not read back yet
+    std::vector<std::weak_ptr<const QStringList>> held;
     QSet<QString> reported; ///< keys of those of which the person knows that they could not be written
     QList<KirvAccountKey> toExamine; ///< whether the profile holds secrets of them
     QList<Secret> movable; ///< what it holds

@@ -57,8 +57,11 @@ bool KirvSecretItemTable::write(const QVariant &number, const KirvAccountRecord 
     for (auto item = account.secretItems.constBegin(); item != account.secretItems.constEnd(); ++item) {
         if (!present.contains(item->key)
             && !database.run(QStringLiteral("INSERT INTO secret_item (key, label, account, field, stage) "
-                                            "VALUES (?, ?, ?, ?, %1)")
-                                 .arg(stageText(KirvStoredItem::New)),
+                                            "VALUES (?, ?, ?, ?, %1) ON CONFLICT (key) DO UPDATE SET "
+                                            "account = excluded.account, field = excluded.field, stage = %2 "
+                                            "WHERE stage = %3")
+                                 .arg(stageText(KirvStoredItem::New), stageText(KirvStoredItem::Kept),
+                                      stageText(KirvStoredItem::Obsolete)),
                              { item->key, item->label, number, item.key() }))
             return false;
     }

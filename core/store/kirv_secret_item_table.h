@@ -45,7 +45,8 @@ public:
 
     /// Gives \a accounts, which \a indices find by their numbers, their items.
     bool readInto(QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);
-    /// Makes what the table has of account \a number the items of \a account, which is in its stored form.
+    /// Makes what the table has of account \a number the items of \a account, which is in its stored form. One that is
+    /// obsolete is taken back.
     bool write(const QVariant &number, const KirvAccountRecord &account);
     /// The account \a number goes: its items become obsolete.
     bool release(const QVariant &number);

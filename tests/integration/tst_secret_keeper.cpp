@@ -17,6 +17,11 @@ namespace {
 
 const QString password = QStringLiteral("word of id");
 
+KirvField serverPassword(const QString &text)
+{
+    return KirvField::password(QString(), QStringLiteral("server-password"), text, QString());
+}
+
 } // namespace
 
 /// The secrets of accounts over a scripted keyring.
@@ -37,6 +42,9 @@ private Q_SLOTS:
     void aPasswordThatIsNotRememberedAnyMoreIsRemoved();
     void aRemovedAccountLeavesNothingInTheKeyring();
     void aRestoredAccountHasItsPasswordInTheKeyringAgain();
+    void aRestoredAccountKeepsAPasswordThatWasNotRead_data();
+    void aRestoredAccountKeepsAPasswordThatWasNotRead();
+    void aPasswordThatCannotBeRestoredAnyMoreIsRemoved();
     void removingManyAccountsTakesAsLongAsWithoutAKeyring();
     void theItemsOfAnAccountAreFoundByAnIndex();
     void whatCouldNotBeRemovedIsRemovedAtTheNextStart();
@@ -248,6 +256,66 @@ void tst_SecretKeeper::aRestoredAccountHasItsPasswordInTheKeyringAgain()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aRestoredAccountKeepsAPasswordThatWasNotRead_data()
+{
+    QTest::addColumn<bool>("isUnlockedFirst");
+    QTest::newRow("unlocked after the undo") << false;
+    QTest::newRow("unlocked before the undo") << true;
+}
+
+void tst_SecretKeeper::aRestoredAccountKeepsAPasswordThatWasNotRead()
+{
+    QFETCH(bool, isUnlockedFirst);
+    QVERIFY(core->create());
+    account()->setSettings({ serverPassword(QStringLiteral("of the server")) });
+    settle();
+    const QMap<QString, QString> before = keyring->secrets;
+    QCOMPARE(before.size(), 2);
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    const KirvRemovedAccount removed = core->accounts->copyOf(account());
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    keyring->outcome = KirvSecretStore::Done;
+    if (isUnlockedFirst)
+        keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(core->accounts->restore(removed));
+    if (!isUnlockedFirst)
+        keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets, before);
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(account()->record().settings.value(QStringLiteral("server-password")), QStringLiteral("of the server"));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aPasswordThatCannotBeRestoredAnyMoreIsRemoved()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    keyring->outcome = KirvSecretStore::Done;
+    {
+        const KirvRemovedAccount removed = core->accounts->copyOf(account());
+        QVERIFY(core->accounts->remove(account()));
+        keyring->setState(KirvSecretStore::Ready);
+        settle();
+        QCOMPARE(keyring->secrets.size(), 1);
+    }
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    QVERIFY(core->store.unsettledItems().isEmpty());
 }
 
 void tst_SecretKeeper::removingManyAccountsTakesAsLongAsWithoutAKeyring()
