@@ -330,12 +330,18 @@ void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, 
     case KirvSecretStore::Refused:
     case KirvSecretStore::TimedOut:
     case KirvSecretStore::Failed:
-        if (account->record().unreadSecrets.contains(secret.field))
-            reads.prepend(secret);
-        account->secretFailed(secret.field);
-        pause(reply);
+        readLater(secret, account, reply);
         break;
     }
+}
+
+/// Not before something has changed.
+void KirvSecretKeeper::readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply)
+{
+    if (account->record().unreadSecrets.contains(secret.field))
+        reads.prepend(secret);
+    account->secretFailed(secret.field);
+    pause(reply);
 }
 
 /// One that was never written is the value before, where there was one; otherwise nothing is left to be written.
@@ -343,7 +349,12 @@ void KirvSecretKeeper::onMissing(const Secret &secret, const KirvSecretItem &ite
 {
     if (newKeys.contains(item.key)) {
         const KirvSecretItem before = store.secretItem(secret.account, secret.field, KirvStoredItem::Kept);
-        if (!before.key.isEmpty() && store.makeItemsObsolete({ item.key })) {
+        const bool isKnown = store.lastError().isEmpty();
+        if (!isKnown || (!before.key.isEmpty() && !store.makeItemsObsolete({ item.key }))) {
+            readLater(secret, account, {}); // the value before would be lost
+            return;
+        }
+        if (!before.key.isEmpty()) {
             load();
             account->secretPlaced(secret.field, before);
             reads.prepend(secret);

@@ -89,6 +89,7 @@ private:
 
     bool readNext();
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
+    void readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply);
     void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
     bool writeNext();
     void onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply);

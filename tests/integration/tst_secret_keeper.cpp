@@ -17,6 +17,13 @@ namespace {
 
 const QString password = QStringLiteral("word of id");
 
+/// Runs \a statement in the profile that is open; gives what is wrong with it.
+QByteArray runInOpenProfile(const QString &statement)
+{
+    QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+    return query.exec(statement) ? QByteArray() : query.lastError().text().toUtf8();
+}
+
 KirvField serverPassword(const QString &text)
 {
     return KirvField::password(QString(), QStringLiteral("server-password"), text, QString());
@@ -63,6 +70,7 @@ private Q_SLOTS:
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
+    void aProfileThatRefusesAChangeCostsNoPassword();
 
     void whatTheProfileRefusesIsNotTriedForEver();
 
@@ -612,6 +620,35 @@ void tst_SecretKeeper::aNewSecretThatWasWrittenIsUsed()
     settle();
     QCOMPARE(account()->getPassword(), QStringLiteral("written"));
     QCOMPARE(keyring->secrets.values(), QStringList("written"));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aProfileThatRefusesAChangeCostsNoPassword()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("never written"));
+    settle();
+    keyring->isHeld = false;
+    keyring->setState(KirvSecretStore::Unknown);
+    restart();
+    // It refuses to give up the new one, and would accept that it replaces the other.
+    const QString refusal = QStringLiteral("CREATE TEMP TRIGGER refusal BEFORE UPDATE ON secret_item "
+                                           "WHEN OLD.stage = %1 AND NEW.stage = %2 "
+                                           "BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                                .arg(int(KirvStoredItem::New))
+                                .arg(int(KirvStoredItem::Obsolete));
+    QCOMPARE(runInOpenProfile(refusal), QByteArray());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(account()->awaitsSecrets());
+    QCOMPARE(runInOpenProfile(QStringLiteral("DROP TRIGGER refusal")), QByteArray());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
     QVERIFY(core->store.unsettledItems().isEmpty());
 }
 
