@@ -63,8 +63,11 @@ void KirvAccount::secretRead(const QString &field, const QString &value)
 
 void KirvAccount::secretMissing(const QString &field)
 {
-    if (!(field.isEmpty() && hasPasswordForNow))
+    if (!(field.isEmpty() && hasPasswordForNow)) {
         forgetValue(current, field);
+        if (isSaving())
+            forgetValue(recordBefore, field);
+    }
     noLongerAwait(field);
 }
 

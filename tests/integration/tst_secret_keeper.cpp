@@ -71,6 +71,7 @@ private Q_SLOTS:
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
     void aProfileThatRefusesAChangeCostsNoPassword();
+    void aRefusedSaveBringsNoMissingPasswordBack();
 
     void whatTheProfileRefusesIsNotTriedForEver();
 
@@ -650,6 +651,23 @@ void tst_SecretKeeper::aProfileThatRefusesAChangeCostsNoPassword()
     QCOMPARE(account()->getPassword(), password);
     QCOMPARE(keyring->secrets.values(), QStringList(password));
     QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aRefusedSaveBringsNoMissingPasswordBack()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->secrets.clear();
+    account()->beginSave();
+    account()->reconnect();
+    account()->setAlias(KirvAccountsFixture::storeFiller());
+    settle();
+    QVERIFY(account()->getPassword().isEmpty());
+    KirvAccountsFixture::setStoreFull(true);
+    QVERIFY(!account()->endSave());
+    KirvAccountsFixture::setStoreFull(false);
+    QVERIFY(account()->getPassword().isEmpty());
+    QVERIFY(account()->record().unreadSecrets.contains(QString()));
 }
 
 void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
