@@ -302,18 +302,6 @@ void KirvAccount::providePassword(const QString &password, bool remember)
     tryAgain();
 }
 
-void KirvAccount::providePasswordForNow(const QString &password)
-{
-    current.password = password;
-    if (isSaving())
-        recordBefore.password = password;
-    hasPasswordForNow = true;
-    awaited.clear();
-    askedPresence = logInPresence();
-    tryAgain();
-    Q_EMIT changed();
-}
-
 bool KirvAccount::acceptServerPassword(const QString &password)
 {
     if (removed)
@@ -463,7 +451,7 @@ void KirvAccount::onFailed(const KirvFailure &failed)
     if (removed)
         return;
     setFailure(failed);
-    if (failed.kind() == KirvFailure::WrongPassword && !hasPasswordForNow)
+    if (failed.kind() == KirvFailure::WrongPassword && !usesPasswordForNow())
         keeper.read(this); // another program may have changed it
     const bool needsPassword = failed.kind() == KirvFailure::PasswordMissing;
     const QPointer<KirvAccount> alive(this);

@@ -67,6 +67,9 @@ private Q_SLOTS:
     void whatCannotBeReadIsRequestedOnce();
     void aLockedKeyringIsAskedForEnabledAccountsOnly();
     void aPasswordForNowChangesNothingThatIsStored();
+    void aPasswordForNowLastsUntilTheProgramEnds_data();
+    void aPasswordForNowLastsUntilTheProgramEnds();
+    void aPasswordForNowIsNotUsedWithoutTheOtherSecrets();
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
@@ -573,6 +576,68 @@ void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aPasswordForNowLastsUntilTheProgramEnds_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state");
+    QTest::newRow("locked") << KirvSecretStore::Locked;
+    QTest::newRow("silent") << KirvSecretStore::Silent;
+    QTest::newRow("gone") << KirvSecretStore::Unavailable;
+    QTest::newRow("refusing") << KirvSecretStore::Ready;
+}
+
+void tst_SecretKeeper::aPasswordForNowLastsUntilTheProgramEnds()
+{
+    QFETCH(KirvSecretStore::State, state);
+    const QStringList logIn(QStringLiteral("id log in available for now"));
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(state);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    account()->providePasswordForNow(QStringLiteral("for now"));
+    settle();
+    QCOMPARE(core->takeCalls(), logIn);
+    account()->reconnect();
+    settle();
+    QVERIFY(account()->isOnline());
+    QVERIFY(core->takeCalls().contains(logIn.first()));
+    account()->setEnabled(false);
+    settle();
+    account()->setEnabled(true);
+    settle();
+    QVERIFY(account()->isOnline());
+    QVERIFY(core->takeCalls().contains(logIn.first()));
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    account()->reconnect(); // the one that is stored can be read now
+    settle();
+    QVERIFY(core->takeCalls().contains(QStringLiteral("id log in available word of id")));
+}
+
+/// A server would refuse the log-in with an empty one, and that is not tried again.
+void tst_SecretKeeper::aPasswordForNowIsNotUsedWithoutTheOtherSecrets()
+{
+    QVERIFY(core->create());
+    account()->setSettings({ serverPassword(QStringLiteral("of the server")) });
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    account()->providePasswordForNow(QStringLiteral("for now"));
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList());
+    QVERIFY(account()->awaitsSecrets());
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList("id log in available for now"));
+    QCOMPARE(core->connection()->login().settings.last().getText(), QStringLiteral("of the server"));
 }
 
 void tst_SecretKeeper::aWriteThatFailsIsReportedOnceAndTriedAgain()
