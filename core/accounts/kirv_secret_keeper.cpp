@@ -271,6 +271,8 @@ void KirvSecretKeeper::next()
     if (isPaused)
         return;
     const KirvSecretStore::State state = secretStore->state();
+    if (state == KirvSecretStore::Silent)
+        reportWrites();
     if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
         return;
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)
@@ -425,13 +427,32 @@ void KirvSecretKeeper::onWritten(const KirvStoredItem &row, const KirvSecretStor
     }
     const QPointer<KirvSecretKeeper> alive(this);
     pause(reply);
-    KirvAccount *account = alive ? accounts.value(row.account) : nullptr;
-    if (account && !reported.contains(row.item.key)) {
-        reported.insert(row.item.key);
-        account->reportUnkeptSecret(reply.text);
-    }
+    if (alive)
+        report(row, reply.text);
     if (alive)
         load(); // it is tried again when the state changes
+}
+
+/// Nobody knows how long the keyring stays silent, and the program may end meanwhile.
+void KirvSecretKeeper::reportWrites()
+{
+    const QPointer<KirvSecretKeeper> alive(this);
+    const QList<KirvStoredItem> rows = writes;
+    for (const KirvStoredItem &row : rows) {
+        if (alive)
+            report(row, QString());
+    }
+}
+
+/// Once, and what was stored in this run only.
+void KirvSecretKeeper::report(const KirvStoredItem &row, const QString &reason)
+{
+    KirvAccount *account = accounts.value(row.account);
+    if (!account || reported.contains(row.item.key) || account->record().unreadSecrets.contains(row.field)
+        || account->record().secretItems.value(row.field) != row.item)
+        return;
+    reported.insert(row.item.key);
+    account->reportUnkeptSecret(reason);
 }
 
 bool KirvSecretKeeper::removeNext()

@@ -93,6 +93,8 @@ private:
     void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
     bool writeNext();
     void onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply);
+    void reportWrites();
+    void report(const KirvStoredItem &row, const QString &reason);
     void writeAndReadBack(const KirvSecretItem &item, const QString &secret, const KirvSecretStore::Callback &callback);
     bool removeNext();
     void collectMovable();

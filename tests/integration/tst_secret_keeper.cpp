@@ -63,6 +63,7 @@ private Q_SLOTS:
     void aSecretThatWasChangedThereIsUsed();
     void aSaveThatDoesNotTouchAnUnknownPasswordLeavesItAlone();
     void aSaveThatTypesAPasswordReplacesAnUnknownOne();
+    void aSecretThatIsSavedWhileTheKeyringIsSilentIsReported();
     void whatCannotBeReadIsRequestedOnce_data();
     void whatCannotBeReadIsRequestedOnce();
     void aLockedKeyringIsAskedForEnabledAccountsOnly();
@@ -505,6 +506,23 @@ void tst_SecretKeeper::aSaveThatTypesAPasswordReplacesAnUnknownOne()
     keyring->setState(KirvSecretStore::Ready);
     settle();
     QCOMPARE(keyring->secrets.values(), QStringList("typed"));
+}
+
+void tst_SecretKeeper::aSecretThatIsSavedWhileTheKeyringIsSilentIsReported()
+{
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->setState(KirvSecretStore::Silent);
+    QVERIFY(core->create());
+    settle();
+    QCOMPARE(notices.size(), 1);
+    keyring->setState(KirvSecretStore::Silent);
+    account()->setAlias(QStringLiteral("Other"));
+    settle();
+    QCOMPARE(notices.size(), 1);
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QCOMPARE(notices.size(), 1);
 }
 
 void tst_SecretKeeper::whatCannotBeReadIsRequestedOnce_data()
