@@ -342,8 +342,10 @@ void KirvSecretKeeper::readLater(const Secret &secret, KirvAccount *account, con
 {
     if (account->record().unreadSecrets.contains(secret.field))
         reads.prepend(secret);
+    const QPointer<KirvSecretKeeper> alive(this);
     account->secretFailed(secret.field);
-    pause(reply);
+    if (alive)
+        pause(reply);
 }
 
 /// One that was never written is the value before, where there was one; otherwise nothing is left to be written.
@@ -463,11 +465,13 @@ bool KirvSecretKeeper::removeNext()
     isBusy = true;
     secretStore->remove(row.item, this, [this, row](const KirvSecretStore::Reply &reply) {
         isBusy = false;
+        const QPointer<KirvSecretKeeper> alive(this);
         if (reply.outcome == KirvSecretStore::Done || reply.outcome == KirvSecretStore::Missing)
             store.forgetSecretItems({ row.item.key });
         else
             pause(reply);
-        next();
+        if (alive)
+            next();
     });
     return true;
 }

@@ -78,6 +78,8 @@ private Q_SLOTS:
     void aRefusedSaveBringsNoMissingPasswordBack();
 
     void whatTheProfileRefusesIsNotTriedForEver();
+    void theCoreMayEndInASlot_data();
+    void theCoreMayEndInASlot();
 
     void aTurnOfTheEventLoopServesAFewAccounts();
 
@@ -767,6 +769,37 @@ void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
     settle();
     QVERIFY2(keyring->calls.size() < 5, qPrintable(keyring->calls.join(QLatin1Char(' '))));
     QCOMPARE(account()->getPassword(), QStringLiteral("another one"));
+}
+
+void tst_SecretKeeper::theCoreMayEndInASlot_data()
+{
+    QTest::addColumn<QString>("operation");
+    for (const char *operation : { "read", "write", "remove" })
+        QTest::newRow(operation) << operation;
+}
+
+void tst_SecretKeeper::theCoreMayEndInASlot()
+{
+    QFETCH(QString, operation);
+    const bool isWrite = operation == QLatin1String("write");
+    if (!isWrite)
+        QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    if (operation == QLatin1String("read"))
+        restart();
+    else if (isWrite)
+        QVERIFY(core->create());
+    else
+        QVERIFY(core->accounts->remove(account()));
+    settle();
+    QCOMPARE(keyring->heldCount(), 1);
+    QCOMPARE(keyring->calls.last(), operation);
+    connect(&core->accounts->secrets(), &KirvSecretKeeper::changed, this, [this] { core->endCore(); });
+    keyring->outcome = KirvSecretStore::Failed;
+    keyring->release();
+    settle();
+    QVERIFY(!core->accounts);
 }
 
 /// However many wait for the keyring: each changes a row of a list.
