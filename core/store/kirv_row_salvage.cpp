@@ -176,7 +176,9 @@ void KirvRowSalvage::readValues(const QString &table)
         const auto account = accounts.find(row.value(QStringLiteral("account")).toLongLong());
         const QString field = row.value(QStringLiteral("field")).toString();
         const QString value = row.value(QStringLiteral("value")).toString();
-        if (account == accounts.end()) {
+        // Where a file ends within a page, the rest of the page is read as zeros.
+        const bool isCutOff = field.contains(QChar::Null) || value.contains(QChar::Null);
+        if (account == accounts.end() || isCutOff) {
             counts.isComplete = false;
         } else if (field.isEmpty()) {
             account->password = value;
