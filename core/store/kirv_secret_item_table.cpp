@@ -118,7 +118,7 @@ bool KirvSecretItemTable::add(const QList<KirvStoredItem> &items)
     });
 }
 
-bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept)
+bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept, bool *hasRemovedSecrets)
 {
     for (const QString &key : keys) {
         QVariant account, field;
@@ -137,9 +137,12 @@ bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept)
         if (!database.run(QStringLiteral("UPDATE secret_item SET stage = CASE key WHEN ? THEN %1 ELSE %2 END "
                                          "WHERE account = ? AND field = ?")
                               .arg(stageText(KirvStoredItem::Kept), stageText(KirvStoredItem::Obsolete)),
-                          { key, account, field })
-            || !database.run(QStringLiteral("DELETE FROM secret WHERE account = ? AND field = ?"), { account, field }))
+                          { key, account, field }))
             return false;
+        query = database.run(QStringLiteral("DELETE FROM secret WHERE account = ? AND field = ?"), { account, field });
+        if (!query)
+            return false;
+        *hasRemovedSecrets = *hasRemovedSecrets || query->numRowsAffected() != 0;
         *kept << key;
     }
     return true;

@@ -58,8 +58,8 @@ public:
     /// Adds New items beside values that the profile holds.
     bool add(const QList<KirvStoredItem> &items);
     /// Makes the New items of these keys the Kept ones; what they replace becomes obsolete, and what the profile holds
-    /// of them is removed. \a kept gets the keys of those that were still New.
-    bool keep(const QStringList &keys, QStringList *kept);
+    /// of them is removed: \a hasRemovedSecrets is set then. \a kept gets the keys of those that were still New.
+    bool keep(const QStringList &keys, QStringList *kept, bool *hasRemovedSecrets);
     bool makeObsolete(const QStringList &keys);
     /// Forgets obsolete items, which are removed from their store.
     bool forget(const QStringList &keys);

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void whatIsStoredBeforeTheStateIsKnownFindsItsPlace();
     void aChangedPasswordReplacesTheOldOne();
     void aChangeOfSomethingElseWritesNoSecret();
+    void aChangeInTheKeyringRewritesNoSecretOfTheProfile();
     void aPasswordThatIsNotRememberedAnyMoreIsRemoved();
     void aRemovedAccountLeavesNothingInTheKeyring();
     void aRestoredAccountHasItsPasswordInTheKeyringAgain();
@@ -228,6 +229,26 @@ void tst_SecretKeeper::aChangeOfSomethingElseWritesNoSecret()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aChangeInTheKeyringRewritesNoSecretOfTheProfile()
+{
+    const auto writtenRows = [] {
+        QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+        return query.exec(QStringLiteral("SELECT total_changes()")) && query.next() ? query.value(0).toInt() : -1;
+    };
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (int number = 0; number < 50; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    keyring->setState(KirvSecretStore::Ready);
+    QVERIFY(core->create());
+    settle();
+    const int before = writtenRows();
+    account()->setPassword(QStringLiteral("another one"));
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("another one"));
+    QVERIFY(before > 0);
+    QVERIFY2(writtenRows() - before < 20, QByteArray::number(writtenRows() - before).constData());
 }
 
 void tst_SecretKeeper::aPasswordThatIsNotRememberedAnyMoreIsRemoved()
