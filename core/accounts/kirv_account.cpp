@@ -196,7 +196,7 @@ bool KirvAccount::setSettings(const QList<KirvField> &fields)
     const QMap<QString, QString> values = kirvStoredValues(fields);
     return change([&](KirvAccountRecord &record) {
         for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-            kirvSetSecret(record, value.key(), value.value());
+            kirvSetValue(record, value.key(), value.value());
         kirvClassify(record, fields);
     });
 }
