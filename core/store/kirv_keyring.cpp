@@ -204,9 +204,11 @@ void KirvKeyring::jobFinished(int error, const QString &secret, const QString &t
 {
     hasJob = false;
     if (!running) { // it had run out of time
+        const QPointer<KirvKeyring> alive(this);
         watcher->refresh();
         Q_EMIT stateChanged();
-        startNext();
+        if (alive)
+            startNext();
         return;
     }
     timeLimit.stop();
