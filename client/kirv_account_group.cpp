@@ -102,7 +102,7 @@ void KirvAccountGroup::disableAll()
 
 bool KirvAccountGroup::canEnableAgain() const
 {
-    return undo.steps().has(allDisabled);
+    return undo.history().has(allDisabled);
 }
 
 void KirvAccountGroup::enableAgain()
@@ -116,7 +116,7 @@ void KirvAccountGroup::disableNow(const QList<KirvAccountKey> &keys, bool isAll)
     QList<QPointer<KirvAccount>> disabled;
     const QList<KirvAccount *> found = mainLast(find(keys));
     std::copy(found.begin(), found.end(), std::back_inserter(disabled));
-    KirvAccountHistory &history = undo.steps();
+    KirvAccountHistory &history = undo.history();
     history.beginStep(KirvAccountHistory::Disabling);
     for (const QPointer<KirvAccount> &account : qAsConst(disabled)) {
         if (account && !account->setEnabled(false))
@@ -133,7 +133,7 @@ void KirvAccountGroup::disableNow(const QList<KirvAccountKey> &keys, bool isAll)
 void KirvAccountGroup::removeNow(const QList<KirvAccountKey> &keys)
 {
     const QPointer<KirvAccountGroup> alive(this);
-    KirvAccountHistory &history = undo.steps();
+    KirvAccountHistory &history = undo.history();
     history.beginStep(KirvAccountHistory::Removal);
     accounts.remove(mainLast(find(keys)));
     if (alive)

@@ -9,7 +9,7 @@
 
 KirvAccountUndo::KirvAccountUndo(KirvAccountHistory &history, KirvMessageBar &messages, QWidget *window)
     : QObject(window)
-    , history(history)
+    , past(history)
     , messages(messages)
 {
     connect(&history, &KirvAccountHistory::stepAdded, this, &KirvAccountUndo::show);
@@ -20,10 +20,10 @@ KirvAccountUndo::KirvAccountUndo(KirvAccountHistory &history, KirvMessageBar &me
 
 QString KirvAccountUndo::command() const
 {
-    const QStringList names = history.namesOf(history.latest());
+    const QStringList names = past.namesOf(past.latest());
     if (names.isEmpty())
         return QString();
-    const bool isRemoval = history.kindOf(history.latest()) == KirvAccountHistory::Removal;
+    const bool isRemoval = past.kindOf(past.latest()) == KirvAccountHistory::Removal;
     if (names.size() > 1)
         return isRemoval ? tr("&Undo Removing %n Accounts", nullptr, int(names.size()))
                          : tr("&Undo Disabling %n Accounts", nullptr, int(names.size()));
@@ -34,12 +34,12 @@ QString KirvAccountUndo::command() const
 
 void KirvAccountUndo::undoLatest()
 {
-    undo(history.latest());
+    undo(past.latest());
 }
 
 void KirvAccountUndo::undo(int step)
 {
-    const QStringList reasons = history.undo(step);
+    const QStringList reasons = past.undo(step);
     for (const QString &reason : reasons)
         messages.showMessage(reason);
 }
@@ -62,12 +62,12 @@ void KirvAccountUndo::withdraw(int step)
 
 QString KirvAccountUndo::messageOf(int step) const
 {
-    const QStringList names = history.namesOf(step);
-    const bool isRemoval = history.kindOf(step) == KirvAccountHistory::Removal;
+    const QStringList names = past.namesOf(step);
+    const bool isRemoval = past.kindOf(step) == KirvAccountHistory::Removal;
     if (names.size() > 1)
         return isRemoval ? tr("%n accounts were removed.", nullptr, int(names.size()))
                          : tr("%n accounts were disabled.", nullptr, int(names.size()));
     //: %1 = name of an account, %2 = name of its protocol
     const QString text = isRemoval ? tr("The account %1 (%2) was removed.") : tr("The account %1 (%2) was disabled.");
-    return text.arg(kirvPlainName(names.value(0)), history.accountsOf(step).value(0).protocol);
+    return text.arg(kirvPlainName(names.value(0)), past.accountsOf(step).value(0).protocol);
 }

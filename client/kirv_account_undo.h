@@ -24,14 +24,14 @@ public:
     void undoLatest();
     void undo(int step);
 
-    KirvAccountHistory &steps() const { return history; }
+    KirvAccountHistory &history() const { return past; }
 
 private:
     void show(int step);
     void withdraw(int step);
     QString messageOf(int step) const;
 
-    KirvAccountHistory &history;
+    KirvAccountHistory &past;
     KirvMessageBar &messages;
     QHash<int, QString> shown; ///< the message of each step
 };

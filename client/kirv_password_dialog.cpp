@@ -49,7 +49,7 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     , accountKey(account.key())
     , passwordEdit(new QLineEdit(this))
     , rememberBox(new QCheckBox(tr("&Remember the password"), this))
-    , forNow(account.awaitsSecrets())
+    , forNow(account.awaitsPassword())
 {
     setObjectName(QStringLiteral("PasswordQuestion"));
     setWindowTitle(tr("Password Needed"));

@@ -126,7 +126,7 @@ bool KirvAccount::setSettings(const QList<KirvField> &fields)
     const QMap<QString, QString> values = kirvStoredValues(fields);
     return change([&](KirvAccountRecord &record) {
         for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-            kirvSetSecret(record, value.key(), value.value());
+            kirvSetValue(record, value.key(), value.value());
         kirvClassify(record, fields);
     });
 }
@@ -230,18 +230,6 @@ void KirvAccount::providePassword(const QString &password, bool remember)
     askedPresence = logInPresence();
     awaited.remove(QString());
     tryAgain();
-}
-
-void KirvAccount::providePasswordForNow(const QString &password)
-{
-    current.password = password;
-    if (isSaving())
-        recordBefore.password = password;
-    hasPasswordForNow = true;
-    awaited.clear();
-    askedPresence = logInPresence();
-    tryAgain();
-    Q_EMIT changed();
 }
 
 bool KirvAccount::acceptServerPassword(const QString &password)
@@ -394,7 +382,7 @@ void KirvAccount::onFailed(const KirvFailure &failed)
     if (removed)
         return;
     setFailure(failed);
-    if (failed.kind() == KirvFailure::WrongPassword && !hasPasswordForNow)
+    if (failed.kind() == KirvFailure::WrongPassword && !usesPasswordForNow())
         keeper.read(this); // another program may have changed it
     const bool needsPassword = failed.kind() == KirvFailure::PasswordMissing;
     const QPointer<KirvAccount> alive(this);

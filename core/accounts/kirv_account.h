@@ -81,11 +81,13 @@ public:
     /// Uses the password that the user typed in this run, keeps it when \a remember, and logs in. Where the store
     /// refuses, the next save stores it.
     void providePassword(const QString &password, bool remember);
-    /// Uses \a password until the program ends, changes nothing of what is stored, and logs in without waiting for
-    /// other secrets.
+    /// Uses \a password until the program ends, or the stored one can be read when the account connects again. Changes
+    /// nothing of what is stored, and logs in when no other secret is awaited.
     void providePasswordForNow(const QString &password);
     /// Whether the account waits for secrets that are in the keyring before it logs in.
     bool awaitsSecrets() const { return !awaited.isEmpty(); }
+    /// Whether the password is among them.
+    bool awaitsPassword() const { return awaited.contains(QString()); }
     const KirvSecretKeeper &secrets() const { return keeper; }
     /// The server has changed the password to \a password. Where the store refuses, the account keeps it for this run,
     /// so that it can be stored later; the result is false then.
@@ -171,6 +173,7 @@ private:
     void onDirectoryAnswered(const KirvDirectoryAnswer &answer);
     void setFailure(const KirvFailure &newFailure);
     void readSecretsAgain();
+    bool usesPasswordForNow() const;
     void noLongerAwait(const QString &field);
 
     KirvStore &profile;

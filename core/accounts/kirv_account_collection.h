@@ -49,7 +49,7 @@ public:
     /// The same for several: all of them, or none when the store refuses.
     bool remove(const QList<KirvAccount *> &accounts);
     /// What restore() needs of \a account, which is not removed yet.
-    KirvRemovedAccount copyOf(const KirvAccount *account) const;
+    KirvRemovedAccount copyOf(const KirvAccount *account);
     /// Makes a removed account again as it was, at its place in the order; its protocol need not be loaded. Null when
     /// there is such an account, also with another spelling of the login, or the store refuses; nothing has changed
     /// then, and lastError() says why.

@@ -77,7 +77,7 @@ QSet<QString> kirvSecretFieldsOf(const KirvAccountRecord &record)
     return fields;
 }
 
-void kirvSetSecret(KirvAccountRecord &record, const QString &field, const QString &value)
+void kirvSetValue(KirvAccountRecord &record, const QString &field, const QString &value)
 {
     const QString shown = kirvSecretOf(record, field);
     if (record.unreadSecrets.contains(field)) {

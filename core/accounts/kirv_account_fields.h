@@ -19,9 +19,9 @@ void kirvClassify(KirvAccountRecord &record, const QList<KirvField> &fields);
 QString kirvSecretOf(const KirvAccountRecord &record, const QString &field);
 /// The fields of what is secret in \a record.
 QSet<QString> kirvSecretFieldsOf(const KirvAccountRecord &record);
-/// Sets the secret \a field, the password's being empty, to what a window holds. A secret that is not known is shown as
+/// Sets \a field, the password's being empty, to what a window holds. One that is secret and not known is shown as
 /// empty: it stays what it is unless something was typed.
-void kirvSetSecret(KirvAccountRecord &record, const QString &field, const QString &value);
+void kirvSetValue(KirvAccountRecord &record, const QString &field, const QString &value);
 /// \a fields with those \a values, in the stored form, that there are.
 QList<KirvField> kirvFieldsWithValues(QList<KirvField> fields, const QMap<QString, QString> &values);
 

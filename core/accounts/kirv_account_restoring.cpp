@@ -9,11 +9,17 @@
 #include <QTemporaryFile>
 #include <algorithm>
 
-KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account) const
+KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account)
 {
     KirvRemovedAccount copy;
     copy.record = account->record();
     copy.presence = account->presence();
+    QStringList unread;
+    for (const QString &field : qAsConst(copy.record.unreadSecrets)) {
+        if (copy.record.secretItems.contains(field))
+            unread << copy.record.secretItems.value(field).key;
+    }
+    copy.heldItems = keeper.hold(unread);
     QFile picture(account->avatarPath());
     if (!copy.record.avatar.isEmpty() && picture.open(QIODevice::ReadOnly))
         copy.picture = picture.read(KirvBoundedImage::maximumBytes);
@@ -32,8 +38,11 @@ KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
         return nullptr;
     KirvAccountRecord record = removed.record;
     record.avatar = importPicture(removed.picture);
-    record.secretItems.clear(); // they were removed with the account
-    record.unreadSecrets.clear();
+    const QStringList fields = record.secretItems.keys();
+    for (const QString &field : fields) {
+        if (!record.unreadSecrets.contains(field)) // it was removed with the account
+            record.secretItems.remove(field);
+    }
     keeper.place(record, KirvAccountRecord());
     const KirvAccount *next = accountAfter(removed);
     if ((record.avatar.isEmpty() && !removed.picture.isEmpty()) || !insertBefore(record, next)) {

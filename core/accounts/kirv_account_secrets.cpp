@@ -32,14 +32,33 @@ void forgetValue(KirvAccountRecord &record, const QString &field)
 /// What the account knows may not be true any more: the log-in waits until it was read.
 void KirvAccount::readSecretsAgain()
 {
-    hasPasswordForNow = false;
     const QList<QString> fields = current.secretItems.keys();
     awaited = QSet<QString>(fields.begin(), fields.end());
+    if (usesPasswordForNow() && keeper.obstacle() != KirvSecretKeeper::None)
+        awaited.remove(QString());
     if (awaited.isEmpty())
         return;
     if (!keeper.usesKeyring())
         awaited.intersect(current.unreadSecrets);
     keeper.read(this);
+}
+
+void KirvAccount::providePasswordForNow(const QString &password)
+{
+    current.password = password;
+    if (isSaving())
+        recordBefore.password = password;
+    hasPasswordForNow = true;
+    awaited.remove(QString());
+    askedPresence = logInPresence();
+    tryAgain();
+    Q_EMIT changed();
+}
+
+/// As long as none is stored over the one that could not be read.
+bool KirvAccount::usesPasswordForNow() const
+{
+    return hasPasswordForNow && current.unreadSecrets.contains(QString());
 }
 
 void KirvAccount::noLongerAwait(const QString &field)
@@ -52,7 +71,7 @@ void KirvAccount::noLongerAwait(const QString &field)
 
 void KirvAccount::secretRead(const QString &field, const QString &value)
 {
-    const bool isForNow = field.isEmpty() && hasPasswordForNow;
+    const bool isForNow = field.isEmpty() && usesPasswordForNow() && !awaited.contains(field);
     if (!isForNow) {
         setValue(current, field, value);
         if (isSaving())
@@ -63,14 +82,17 @@ void KirvAccount::secretRead(const QString &field, const QString &value)
 
 void KirvAccount::secretMissing(const QString &field)
 {
-    if (!(field.isEmpty() && hasPasswordForNow))
+    if (!(field.isEmpty() && usesPasswordForNow())) {
         forgetValue(current, field);
+        if (isSaving())
+            forgetValue(recordBefore, field);
+    }
     noLongerAwait(field);
 }
 
 void KirvAccount::secretFailed(const QString &field)
 {
-    if (!current.unreadSecrets.contains(field))
+    if (!current.unreadSecrets.contains(field) || (field.isEmpty() && usesPasswordForNow()))
         noLongerAwait(field); // with what was known before
 }
 

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QHostAddress>
+#include <algorithm>
 #include <ctime>
 
 #ifdef Q_OS_LINUX
@@ -41,6 +42,29 @@ bool hasFlag(const QByteArray &flags, uint flag)
     return (flags.toUInt(nullptr, 16) & flag) != 0;
 }
 
+/// Where a table of routes has what.
+struct RouteColumns {
+    int count;
+    int device, gateway, flags;
+    QList<int> destination; ///< all zero of a default route
+};
+
+/// Those that are in use, except the one of the loopback interface that refuses what no other takes.
+QStringList defaultRoutes(const QByteArray &table, const RouteColumns &columns)
+{
+    const uint isUp = 0x0001, isRejected = 0x0200;
+    QStringList routes;
+    const QList<QByteArrayList> entries = rows(table, columns.count);
+    for (const QByteArrayList &entry : entries) {
+        const QByteArray flags = entry.at(columns.flags), device = entry.at(columns.device);
+        const bool isDefault = std::all_of(columns.destination.begin(), columns.destination.end(),
+                                           [&entry](int column) { return isZero(entry.at(column)); });
+        if (isDefault && hasFlag(flags, isUp) && !hasFlag(flags, isRejected) && device != "lo")
+            routes << QString::fromLatin1(device + ' ' + entry.at(columns.gateway));
+    }
+    return routes;
+}
+
 } // namespace
 
 QStringList kirvLastingAddresses(const QByteArray &table)
@@ -57,28 +81,12 @@ QStringList kirvLastingAddresses(const QByteArray &table)
 
 QStringList kirvDefaultRoutes(const QByteArray &table)
 {
-    const uint isUp = 0x0001, isRejected = 0x0200;
-    QStringList routes;
-    const QList<QByteArrayList> entries = rows(table, 8);
-    for (const QByteArrayList &entry : entries) {
-        const bool isUsed = hasFlag(entry.at(3), isUp) && !hasFlag(entry.at(3), isRejected);
-        if (isZero(entry.at(1)) && isZero(entry.at(7)) && isUsed)
-            routes << QString::fromLatin1(entry.at(0) + ' ' + entry.at(2));
-    }
-    return routes;
+    return defaultRoutes(table, { 8, 0, 2, 3, { 1, 7 } });
 }
 
 QStringList kirvDefaultRoutesOfIPv6(const QByteArray &table)
 {
-    const uint isUp = 0x0001, isRejected = 0x0200;
-    QStringList routes;
-    const QList<QByteArrayList> entries = rows(table, 10);
-    for (const QByteArrayList &entry : entries) {
-        const bool isUsed = hasFlag(entry.at(8), isUp) && !hasFlag(entry.at(8), isRejected);
-        if (isZero(entry.at(0)) && isZero(entry.at(1)) && isUsed && entry.at(9) != "lo")
-            routes << QString::fromLatin1(entry.at(9) + ' ' + entry.at(4));
-    }
-    return routes;
+    return defaultRoutes(table, { 10, 9, 4, 8, { 0, 1 } });
 }
 
 #ifdef Q_OS_LINUX

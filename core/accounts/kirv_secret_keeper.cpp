@@ -122,33 +122,71 @@ void KirvSecretKeeper::read(KirvAccount *account)
     next();
 }
 
+/// What is to be done is read from the event loop, once for all that has changed until then.
 void KirvSecretKeeper::settle()
 {
     if (!secretStore)
+        return;
+    hasChanged = true;
+    scheduleNext();
+}
+
+void KirvSecretKeeper::loadChanges()
+{
+    if (!std::exchange(hasChanged, false))
         return;
     load();
     // What the user has just stored is tried also after a refusal.
     isPaused = isPaused && std::all_of(writes.cbegin(), writes.cend(), [this](const KirvStoredItem &row) {
                    return reported.contains(row.item.key);
                });
-    next();
 }
 
 void KirvSecretKeeper::load()
 {
+    hasChanged = false;
     writes.clear();
     removals.clear();
     newKeys.clear();
+    const QSet<QString> used = keysInUse();
     const QList<KirvStoredItem> rows = store.unsettledItems();
     for (const KirvStoredItem &row : rows) {
         if (row.stage == KirvStoredItem::New) {
             newKeys.insert(row.item.key);
             if (!batchValues.contains(row.item.key))
                 writes << row;
-        } else if (!id.isEmpty() && row.item.key.startsWith(id + QLatin1Char('/'))) {
-            removals << row; // those of other profiles are left alone
+        } else if (!id.isEmpty() && row.item.key.startsWith(id + QLatin1Char('/'))) { // not of another profile
+            if (!used.contains(row.item.key))
+                removals << row;
         }
     }
+}
+
+/// Those of a batch that is still to be written, and those that are held.
+QSet<QString> KirvSecretKeeper::keysInUse()
+{
+    const QStringList moving = batchValues.keys();
+    QSet<QString> keys(moving.begin(), moving.end());
+    held.erase(std::remove_if(held.begin(), held.end(), [](const auto &gone) { return gone.expired(); }), held.end());
+    for (const auto &holder : held) {
+        const std::shared_ptr<const QStringList> owned = holder.lock();
+        keys += QSet<QString>(owned->begin(), owned->end());
+    }
+    return keys;
+}
+
+std::shared_ptr<const QStringList> KirvSecretKeeper::hold(const QStringList &keys)
+{
+    if (keys.isEmpty())
+        return nullptr;
+    const auto release = [alive = QPointer<KirvSecretKeeper>(this)](const QStringList *released) {
+        delete released;
+        if (alive)
+            alive->settle();
+    };
+    const std::shared_ptr<const QStringList> holder(new QStringList(keys), release);
+    held.push_back(holder);
+    return holder;
 }
 
 void KirvSecretKeeper::onStateChanged()
@@ -157,6 +195,7 @@ void KirvSecretKeeper::onStateChanged()
     isPaused = false;
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
+    loadChanges();
     if (state == KirvSecretStore::Unavailable && !wasPresent)
         keepInProfile();
     if (state == KirvSecretStore::Ready) {
@@ -226,9 +265,14 @@ void KirvSecretKeeper::scheduleNext()
 /// Starts the next operation; each goes on here when it has ended.
 void KirvSecretKeeper::next()
 {
-    if (isBusy || isPaused || !secretStore)
+    if (isBusy || !secretStore)
+        return;
+    loadChanges();
+    if (isPaused)
         return;
     const KirvSecretStore::State state = secretStore->state();
+    if (state == KirvSecretStore::Silent)
+        reportWrites();
     if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
         return;
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)
@@ -273,6 +317,7 @@ void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, 
     KirvAccount *account = accounts.value(secret.account);
     if (!account || account->record().secretItems.value(secret.field) != item)
         return;
+    loadChanges();
     switch (reply.outcome) {
     case KirvSecretStore::Done:
         if (newKeys.contains(item.key)) { // written before the program ended
@@ -287,12 +332,20 @@ void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, 
     case KirvSecretStore::Refused:
     case KirvSecretStore::TimedOut:
     case KirvSecretStore::Failed:
-        if (account->record().unreadSecrets.contains(secret.field))
-            reads.prepend(secret);
-        account->secretFailed(secret.field);
-        pause(reply);
+        readLater(secret, account, reply);
         break;
     }
+}
+
+/// Not before something has changed.
+void KirvSecretKeeper::readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply)
+{
+    if (account->record().unreadSecrets.contains(secret.field))
+        reads.prepend(secret);
+    const QPointer<KirvSecretKeeper> alive(this);
+    account->secretFailed(secret.field);
+    if (alive)
+        pause(reply);
 }
 
 /// One that was never written is the value before, where there was one; otherwise nothing is left to be written.
@@ -300,7 +353,12 @@ void KirvSecretKeeper::onMissing(const Secret &secret, const KirvSecretItem &ite
 {
     if (newKeys.contains(item.key)) {
         const KirvSecretItem before = store.secretItem(secret.account, secret.field, KirvStoredItem::Kept);
-        if (!before.key.isEmpty() && store.makeItemsObsolete({ item.key })) {
+        const bool isKnown = store.lastError().isEmpty();
+        if (!isKnown || (!before.key.isEmpty() && !store.makeItemsObsolete({ item.key }))) {
+            readLater(secret, account, {}); // the value before would be lost
+            return;
+        }
+        if (!before.key.isEmpty()) {
             load();
             account->secretPlaced(secret.field, before);
             reads.prepend(secret);
@@ -341,9 +399,8 @@ bool KirvSecretKeeper::writeNext()
             continue;
         const KirvAccountRecord &record = account->record();
         if (record.secretItems.value(row.field) != row.item) { // of a move that was interrupted
-            if (!account->isSaving())
-                store.makeItemsObsolete({ row.item.key });
-            removals << row;
+            if (!account->isSaving() && store.makeItemsObsolete({ row.item.key }))
+                removals << row;
             continue;
         }
         if (record.unreadSecrets.contains(row.field))
@@ -372,13 +429,32 @@ void KirvSecretKeeper::onWritten(const KirvStoredItem &row, const KirvSecretStor
     }
     const QPointer<KirvSecretKeeper> alive(this);
     pause(reply);
-    KirvAccount *account = alive ? accounts.value(row.account) : nullptr;
-    if (account && !reported.contains(row.item.key)) {
-        reported.insert(row.item.key);
-        account->reportUnkeptSecret(reply.text);
-    }
+    if (alive)
+        report(row, reply.text);
     if (alive)
         load(); // it is tried again when the state changes
+}
+
+/// Nobody knows how long the keyring stays silent, and the program may end meanwhile.
+void KirvSecretKeeper::reportWrites()
+{
+    const QPointer<KirvSecretKeeper> alive(this);
+    const QList<KirvStoredItem> rows = writes;
+    for (const KirvStoredItem &row : rows) {
+        if (alive)
+            report(row, QString());
+    }
+}
+
+/// Once, and what was stored in this run only.
+void KirvSecretKeeper::report(const KirvStoredItem &row, const QString &reason)
+{
+    KirvAccount *account = accounts.value(row.account);
+    if (!account || reported.contains(row.item.key) || account->record().unreadSecrets.contains(row.field)
+        || account->record().secretItems.value(row.field) != row.item)
+        return;
+    reported.insert(row.item.key);
+    account->reportUnkeptSecret(reason);
 }
 
 bool KirvSecretKeeper::removeNext()
@@ -389,11 +465,13 @@ bool KirvSecretKeeper::removeNext()
     isBusy = true;
     secretStore->remove(row.item, this, [this, row](const KirvSecretStore::Reply &reply) {
         isBusy = false;
+        const QPointer<KirvSecretKeeper> alive(this);
         if (reply.outcome == KirvSecretStore::Done || reply.outcome == KirvSecretStore::Missing)
             store.forgetSecretItems({ row.item.key });
         else
             pause(reply);
-        next();
+        if (alive)
+            next();
     });
     return true;
 }

@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
+#include <memory>
+#include <vector>
 
 class KirvAccount;
 class KirvStore;
@@ -59,6 +61,9 @@ public:
     void read(KirvAccount *account);
     /// What is stored has changed.
     void settle();
+    /// Leaves what stands under \a keys in the keyring as long as the result, or a copy of it, exists: an account that
+    /// was removed may come back. Null when there are none.
+    std::shared_ptr<const QStringList> hold(const QStringList &keys);
 
 Q_SIGNALS:
     /// The state of the keyring or the obstacle may have changed.
@@ -84,9 +89,12 @@ private:
 
     bool readNext();
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
+    void readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply);
     void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
     bool writeNext();
     void onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply);
+    void reportWrites();
+    void report(const KirvStoredItem &row, const QString &reason);
     void writeAndReadBack(const KirvSecretItem &item, const QString &secret, const KirvSecretStore::Callback &callback);
     bool removeNext();
     void collectMovable();
@@ -95,6 +103,8 @@ private:
     bool moveNext();
     void endBatch();
     void load();
+    void loadChanges();
+    QSet<QString> keysInUse();
 
     KirvStore &store;
     QPointer<KirvSecretStore> secretStore;
@@ -104,6 +114,7 @@ private:
     QList<Secret> reads;
     QList<KirvStoredItem> writes, removals;
     QSet<QString> newKeys; ///< of items that are not read back yet
+    std::vector<std::weak_ptr<const QStringList>> held;
     QSet<QString> reported; ///< keys of those of which the person knows that they could not be written
     QList<KirvAccountKey> toExamine; ///< whether the profile holds secrets of them
     QList<Secret> movable; ///< what it holds
@@ -114,6 +125,7 @@ private:
     bool mayMove = false;
     bool isBusy = false;
     bool isScheduled = false;
+    bool hasChanged = false; ///< what is stored, since load()
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
     Obstacle toldObstacle = None; ///< that the accounts know of

@@ -127,7 +127,7 @@ void KirvSecretKeeper::endBatch()
         mayMove = false;
         movable.clear();
         toExamine.clear();
-    } else if (movable.isEmpty() && toExamine.isEmpty() && !unused.isEmpty()) {
+    } else if (!unused.isEmpty()) {
         collectMovable();
     }
 }

@@ -92,7 +92,7 @@ QString KirvAccountConnection::getPassword() const
 void KirvAccountConnection::setPassword(const QString &password)
 {
     self(this).change(
-        [&](KirvAccountRecord &record) { kirvSetSecret(record, QString(), edited(record.password, password)); });
+        [&](KirvAccountRecord &record) { kirvSetValue(record, QString(), edited(record.password, password)); });
 }
 
 void KirvAccountConnection::setRememberPassword(bool remember)

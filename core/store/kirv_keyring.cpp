@@ -98,10 +98,13 @@ KirvKeyring::KirvKeyring(const Limits &limits, QObject *parent)
     timeLimit.setSingleShot(true);
     connect(&timeLimit, &QTimer::timeout, this, &KirvKeyring::giveUp);
     connect(watcher.get(), &KirvKeyringWatcher::changed, this, [this] {
+        const QPointer<KirvKeyring> alive(this);
         if (watcher->state() == Unavailable || watcher->state() == Silent)
             failWaiting({});
-        Q_EMIT stateChanged();
-        startNext();
+        if (alive)
+            Q_EMIT stateChanged();
+        if (alive)
+            startNext();
     });
     connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = forgetSession(); });
     connect(watcher.get(), &KirvKeyringWatcher::refreshed, this, &KirvKeyring::stateKnown);
@@ -201,9 +204,11 @@ void KirvKeyring::jobFinished(int error, const QString &secret, const QString &t
 {
     hasJob = false;
     if (!running) { // it had run out of time
+        const QPointer<KirvKeyring> alive(this);
         watcher->refresh();
         Q_EMIT stateChanged();
-        startNext();
+        if (alive)
+            startNext();
         return;
     }
     timeLimit.stop();
@@ -232,8 +237,10 @@ void KirvKeyring::stateKnown()
 
 void KirvKeyring::giveUp()
 {
+    const QPointer<KirvKeyring> alive(this);
     answer({ TimedOut, QString(), QString() });
-    Q_EMIT stateChanged();
+    if (alive)
+        Q_EMIT stateChanged();
 }
 
 /// Answers the running operation.

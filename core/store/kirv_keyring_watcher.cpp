@@ -9,6 +9,7 @@
 #include <QDBusVariant>
 #include <QFile>
 #include <QMap>
+#include <QPointer>
 #include <QUuid>
 
 #include <climits>
@@ -46,10 +47,7 @@ KirvKeyringWatcher::KirvKeyringWatcher(int patienceMilliseconds, QObject *parent
     connect(&nextLook, &QTimer::timeout, this, &KirvKeyringWatcher::refresh);
     patience.setSingleShot(true);
     patience.setInterval(patienceMilliseconds);
-    connect(&patience, &QTimer::timeout, this, [this] {
-        set(KirvSecretStore::Silent);
-        Q_EMIT refreshed();
-    });
+    connect(&patience, &QTimer::timeout, this, [this] { finish(KirvSecretStore::Silent); });
 }
 
 KirvKeyringWatcher::~KirvKeyringWatcher()
@@ -176,12 +174,14 @@ void KirvKeyringWatcher::follow(bool on)
     }
 }
 
-/// The service has shown its \a state, or is gone.
+/// The service has shown its \a state, says nothing, or is gone.
 void KirvKeyringWatcher::finish(KirvSecretStore::State state)
 {
+    const QPointer<KirvKeyringWatcher> alive(this);
     patience.stop();
     set(state);
-    Q_EMIT refreshed();
+    if (alive)
+        Q_EMIT refreshed();
 }
 
 void KirvKeyringWatcher::askForProvider()

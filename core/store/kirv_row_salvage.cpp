@@ -183,7 +183,9 @@ void KirvRowSalvage::readValues(const QString &table)
         const auto account = accounts.find(row.value(QStringLiteral("account")).toLongLong());
         const QString field = row.value(QStringLiteral("field")).toString();
         const QString value = row.value(QStringLiteral("value")).toString();
-        if (account == accounts.end()) {
+        // Where a file ends within a page, the rest of the page is read as zeros.
+        const bool isCutOff = field.contains(QChar::Null) || value.contains(QChar::Null);
+        if (account == accounts.end() || isCutOff) {
             counts.isComplete = false;
         } else if (field.isEmpty()) {
             account->password = value;
@@ -216,13 +218,28 @@ void KirvRowSalvage::readItem(const Row &row, bool isObsolete)
     const bool isUsed = !isObsolete && account != accounts.end() && !account->secretItems.contains(field)
         && (field.isEmpty() ? account->password.isEmpty() : !account->secretSettings.contains(field));
     if (!isUsed) {
-        unusedItems << row;
+        if (isValueBefore(row))
+            valuesBefore.insert({ account.key(), field }, row);
+        else
+            unusedItems << row;
         return;
     }
     account->secretItems.insert(
         field, { row.value(QStringLiteral("key")).toString(), row.value(QStringLiteral("label")).toString() });
     account->unreadSecrets.insert(field);
+    if (row.value(QStringLiteral("stage")).toInt() == KirvStoredItem::New)
+        newItems.insert(itemKey);
     ++counts.secrets;
+}
+
+/// Of a secret that has a New item: it counts until that one is read back.
+bool KirvRowSalvage::isValueBefore(const Row &row) const
+{
+    const qint64 number = row.value(QStringLiteral("account")).toLongLong();
+    const QString field = row.value(QStringLiteral("field")).toString();
+    return row.value(QStringLiteral("stage")).toInt() == KirvStoredItem::Kept
+        && newItems.contains(accounts.value(number).secretItems.value(field).key)
+        && !valuesBefore.contains({ number, field });
 }
 
 void KirvRowSalvage::takeItemsOf(const KirvProfilePaths &paths, KirvStoredItem::Stage stage)
@@ -258,6 +275,20 @@ bool KirvRowSalvage::writeUnusedItems(KirvStoredItem::Stage stage)
     });
 }
 
+bool KirvRowSalvage::writeValuesBefore()
+{
+    for (auto row = valuesBefore.constBegin(); row != valuesBefore.constEnd(); ++row) {
+        const KirvAccountKey key = accounts.value(row.key().first).key;
+        if (!target.execute(QStringLiteral("INSERT OR IGNORE INTO secret_item (key, label, account, field, stage) "
+                                           "SELECT ?, ?, number, ?, %1 FROM account WHERE id = ? AND protocol = ?")
+                                .arg(int(KirvStoredItem::Kept)),
+                            { row->value(QStringLiteral("key")).toString(),
+                              row->value(QStringLiteral("label")).toString(), row.key().second, key.id, key.protocol }))
+            return false;
+    }
+    return true;
+}
+
 bool KirvRowSalvage::write()
 {
     QList<qint64> numbers = accounts.keys();
@@ -273,7 +304,7 @@ bool KirvRowSalvage::write()
                 || target.execute(QStringLiteral("INSERT OR IGNORE INTO avatar_file (name) VALUES (?)"),
                                   { account.avatar }));
     }
-    good = good && writeUnusedItems(KirvStoredItem::Obsolete);
+    good = good && writeValuesBefore() && writeUnusedItems(KirvStoredItem::Obsolete);
     for (const Row &row : settings) {
         good = good
             && target.execute(QStringLiteral("INSERT OR IGNORE INTO setting (key, value) VALUES (?, ?)"),

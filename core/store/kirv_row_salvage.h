@@ -8,6 +8,8 @@
 #include "core/store/kirv_secret_item_table.h"
 
 #include <QMap>
+#include <QPair>
+#include <QSet>
 #include <QStringList>
 #include <QVariant>
 
@@ -41,6 +43,8 @@ private:
     void readValues(const QString &table);
     void readItems();
     void readItem(const Row &row, bool isObsolete);
+    bool isValueBefore(const Row &row) const;
+    bool writeValuesBefore();
     bool writeUnusedItems(KirvStoredItem::Stage stage);
     bool writeProfileId();
     bool hasTable(const char *name);
@@ -57,6 +61,8 @@ private:
     QMap<qint64, KirvAccountRecord> accounts; ///< by their numbers
     QMap<qint64, qint64> positions;
     QList<Row> unusedItems; ///< of no account
+    QMap<QPair<qint64, QString>, Row> valuesBefore; ///< by account and field: Kept items of secrets with a New one
+    QSet<QString> newItems; ///< their keys
     QString itemKey; ///< of any item
     KirvProfileRescue::Recovered counts;
 };

@@ -5,23 +5,14 @@
 
 #include <algorithm>
 
-namespace {
-
-QString stageText(KirvStoredItem::Stage stage)
-{
-    return QString::number(int(stage));
-}
-
-} // namespace
-
 bool KirvSecretItemTable::readInto(QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices)
 {
     // Of two items of a secret the New one comes last.
     QSqlQuery *query = database.run(QStringLiteral("SELECT i.account, i.field, i.key, i.label FROM secret_item AS i "
-                                                   "WHERE i.stage <> %1 AND NOT EXISTS (SELECT 1 FROM secret AS s "
+                                                   "WHERE i.stage <> ? AND NOT EXISTS (SELECT 1 FROM secret AS s "
                                                    "WHERE s.account = i.account AND s.field = i.field) "
-                                                   "ORDER BY i.stage DESC")
-                                        .arg(stageText(KirvStoredItem::Obsolete)));
+                                                   "ORDER BY i.stage DESC"),
+                                    { int(KirvStoredItem::Obsolete) });
     while (query && query->next()) {
         const auto index = indices.constFind(query->value(0).toLongLong());
         if (index == indices.constEnd())
@@ -40,9 +31,8 @@ bool KirvSecretItemTable::write(const QVariant &number, const KirvAccountRecord 
 {
     QStringList present, replaced;
     QSqlQuery *query =
-        database.run(QStringLiteral("SELECT key, field, stage FROM secret_item WHERE account = ? AND stage <> %1")
-                         .arg(stageText(KirvStoredItem::Obsolete)),
-                     { number });
+        database.run(QStringLiteral("SELECT key, field, stage FROM secret_item WHERE account = ? AND stage <> ?"),
+                     { number, int(KirvStoredItem::Obsolete) });
     while (query && query->next()) {
         const QString key = query->value(0).toString();
         const QString wanted = account.secretItems.value(query->value(1).toString()).key;
@@ -57,9 +47,10 @@ bool KirvSecretItemTable::write(const QVariant &number, const KirvAccountRecord 
     for (auto item = account.secretItems.constBegin(); item != account.secretItems.constEnd(); ++item) {
         if (!present.contains(item->key)
             && !database.run(QStringLiteral("INSERT INTO secret_item (key, label, account, field, stage) "
-                                            "VALUES (?, ?, ?, ?, %1)")
-                                 .arg(stageText(KirvStoredItem::New)),
-                             { item->key, item->label, number, item.key() }))
+                                            "VALUES (?, ?, ?, ?, ?) ON CONFLICT (key) DO UPDATE SET account = "
+                                            "excluded.account, field = excluded.field, stage = ? WHERE stage = ?"),
+                             { item->key, item->label, number, item.key(), int(KirvStoredItem::New),
+                               int(KirvStoredItem::Kept), int(KirvStoredItem::Obsolete) }))
             return false;
     }
     return true;
@@ -67,9 +58,8 @@ bool KirvSecretItemTable::write(const QVariant &number, const KirvAccountRecord 
 
 bool KirvSecretItemTable::release(const QVariant &number)
 {
-    return database.run(QStringLiteral("UPDATE secret_item SET account = 0, stage = %1 WHERE account = ?")
-                            .arg(stageText(KirvStoredItem::Obsolete)),
-                        { number })
+    return database.run(QStringLiteral("UPDATE secret_item SET account = 0, stage = ? WHERE account = ?"),
+                        { int(KirvStoredItem::Obsolete), number })
         != nullptr;
 }
 
@@ -79,8 +69,8 @@ QList<KirvStoredItem> KirvSecretItemTable::unsettled()
     QSqlQuery *query =
         database.run(QStringLiteral("SELECT i.key, i.label, a.id, a.protocol, i.field, i.stage "
                                     "FROM secret_item AS i LEFT JOIN account AS a ON a.number = i.account "
-                                    "WHERE i.stage IN (%1, %2)")
-                         .arg(stageText(KirvStoredItem::New), stageText(KirvStoredItem::Obsolete)));
+                                    "WHERE i.stage IN (?, ?)"),
+                     { int(KirvStoredItem::New), int(KirvStoredItem::Obsolete) });
     while (query && query->next()) {
         items << KirvStoredItem { { query->value(0).toString(), query->value(1).toString() },
                                   { query->value(2).toString(), query->value(3).toString() },
@@ -96,9 +86,8 @@ KirvSecretItem KirvSecretItemTable::find(const KirvAccountKey &account, const QS
     KirvSecretItem found;
     QSqlQuery *query = database.run(
         QStringLiteral("SELECT i.key, i.label FROM secret_item AS i JOIN account AS a ON a.number = i.account "
-                       "WHERE a.id = ? AND a.protocol = ? AND i.field = ? AND i.stage = %1")
-            .arg(stageText(stage)),
-        { account.id, account.protocol, field });
+                       "WHERE a.id = ? AND a.protocol = ? AND i.field = ? AND i.stage = ?"),
+        { account.id, account.protocol, field, int(stage) });
     while (query && query->next())
         found = { query->value(0).toString(), query->value(1).toString() };
     return database.readToEnd(query) ? found : KirvSecretItem();
@@ -108,21 +97,20 @@ bool KirvSecretItemTable::add(const QList<KirvStoredItem> &items)
 {
     return std::all_of(items.begin(), items.end(), [this](const KirvStoredItem &item) {
         return database.run(QStringLiteral("INSERT INTO secret_item (key, label, account, field, stage) "
-                                           "SELECT ?, ?, number, ?, %1 FROM account WHERE id = ? AND protocol = ?")
-                                .arg(stageText(KirvStoredItem::New)),
-                            { item.item.key, item.item.label, item.field, item.account.id, item.account.protocol })
+                                           "SELECT ?, ?, number, ?, ? FROM account WHERE id = ? AND protocol = ?"),
+                            { item.item.key, item.item.label, item.field, int(KirvStoredItem::New), item.account.id,
+                              item.account.protocol })
             != nullptr;
     });
 }
 
-bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept)
+bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept, bool *hasRemovedSecrets)
 {
     for (const QString &key : keys) {
         QVariant account, field;
         QSqlQuery *query = database.run(QStringLiteral("SELECT account, field FROM secret_item WHERE key = ? "
-                                                       "AND stage = %1")
-                                            .arg(stageText(KirvStoredItem::New)),
-                                        { key });
+                                                       "AND stage = ?"),
+                                        { key, int(KirvStoredItem::New) });
         while (query && query->next()) {
             account = query->value(0);
             field = query->value(1);
@@ -131,12 +119,14 @@ bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept)
             return false;
         if (!account.isValid())
             continue;
-        if (!database.run(QStringLiteral("UPDATE secret_item SET stage = CASE key WHEN ? THEN %1 ELSE %2 END "
-                                         "WHERE account = ? AND field = ?")
-                              .arg(stageText(KirvStoredItem::Kept), stageText(KirvStoredItem::Obsolete)),
-                          { key, account, field })
-            || !database.run(QStringLiteral("DELETE FROM secret WHERE account = ? AND field = ?"), { account, field }))
+        if (!database.run(QStringLiteral("UPDATE secret_item SET stage = CASE key WHEN ? THEN ? ELSE ? END "
+                                         "WHERE account = ? AND field = ?"),
+                          { key, int(KirvStoredItem::Kept), int(KirvStoredItem::Obsolete), account, field }))
             return false;
+        query = database.run(QStringLiteral("DELETE FROM secret WHERE account = ? AND field = ?"), { account, field });
+        if (!query)
+            return false;
+        *hasRemovedSecrets = *hasRemovedSecrets || query->numRowsAffected() != 0;
         *kept << key;
     }
     return true;
@@ -145,9 +135,8 @@ bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept)
 bool KirvSecretItemTable::makeObsolete(const QStringList &keys)
 {
     return std::all_of(keys.begin(), keys.end(), [this](const QString &key) {
-        return database.run(QStringLiteral("UPDATE secret_item SET stage = %1 WHERE key = ?")
-                                .arg(stageText(KirvStoredItem::Obsolete)),
-                            { key })
+        return database.run(QStringLiteral("UPDATE secret_item SET stage = ? WHERE key = ?"),
+                            { int(KirvStoredItem::Obsolete), key })
             != nullptr;
     });
 }
@@ -155,9 +144,8 @@ bool KirvSecretItemTable::makeObsolete(const QStringList &keys)
 bool KirvSecretItemTable::forget(const QStringList &keys)
 {
     return std::all_of(keys.begin(), keys.end(), [this](const QString &key) {
-        return database.run(QStringLiteral("DELETE FROM secret_item WHERE key = ? AND stage = %1")
-                                .arg(stageText(KirvStoredItem::Obsolete)),
-                            { key })
+        return database.run(QStringLiteral("DELETE FROM secret_item WHERE key = ? AND stage = ?"),
+                            { key, int(KirvStoredItem::Obsolete) })
             != nullptr;
     });
 }

@@ -45,7 +45,8 @@ public:
 
     /// Gives \a accounts, which \a indices find by their numbers, their items.
     bool readInto(QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);
-    /// Makes what the table has of account \a number the items of \a account, which is in its stored form.
+    /// Makes what the table has of account \a number the items of \a account, which is in its stored form. One that is
+    /// obsolete is taken back.
     bool write(const QVariant &number, const KirvAccountRecord &account);
     /// The account \a number goes: its items become obsolete.
     bool release(const QVariant &number);
@@ -57,8 +58,8 @@ public:
     /// Adds New items beside values that the profile holds.
     bool add(const QList<KirvStoredItem> &items);
     /// Makes the New items of these keys the Kept ones; what they replace becomes obsolete, and what the profile holds
-    /// of them is removed. \a kept gets the keys of those that were still New.
-    bool keep(const QStringList &keys, QStringList *kept);
+    /// of them is removed: \a hasRemovedSecrets is set then. \a kept gets the keys of those that were still New.
+    bool keep(const QStringList &keys, QStringList *kept, bool *hasRemovedSecrets);
     bool makeObsolete(const QStringList &keys);
     /// Forgets obsolete items, which are removed from their store.
     bool forget(const QStringList &keys);

@@ -222,7 +222,7 @@ bool KirvStore::Private::prepareCommit()
 }
 
 /// Copies have what was no secret when they were made. They go before the commit, so that none is left with a secret in
-/// it; one is made after it.
+/// it; one is made after it. Where the commit fails, there is none until the store is closed or opened again.
 bool KirvStore::Private::forgetNewSecrets()
 {
     isCopied = false;
@@ -361,10 +361,8 @@ bool KirvStore::addSecretItems(const QList<KirvStoredItem> &items)
 QStringList KirvStore::keepSecretItems(const QStringList &keys)
 {
     QStringList kept;
-    const bool isStored = d->change([&] {
-        d->accounts.effects().hasOverwrittenSecrets = true;
-        return d->accounts.items().keep(keys, &kept);
-    });
+    const bool isStored =
+        d->change([&] { return d->accounts.items().keep(keys, &kept, &d->accounts.effects().hasOverwrittenSecrets); });
     return isStored ? kept : QStringList();
 }
 

@@ -90,6 +90,8 @@ private Q_SLOTS:
     void anOperationThatHangsHoldsNothingUp();
     void aRefusalToUnlockIsNoMissingSecret();
     void aReplyForADestroyedObjectIsDropped();
+    void aReplyMayDestroyTheKeyring_data();
+    void aReplyMayDestroyTheKeyring();
 };
 
 void tst_Keyring::withoutABusThereIsNoKeyringAtOnce_data()
@@ -400,6 +402,28 @@ void tst_Keyring::aRefusalToUnlockIsNoMissingSecret()
     QTRY_VERIFY_WITH_TIMEOUT(read.has(), 20000);
     QVERIFY(service.calls().contains(QStringLiteral("Prompt")));
     QCOMPARE(read.outcome(), KirvSecretStore::Refused);
+}
+
+void tst_Keyring::aReplyMayDestroyTheKeyring_data()
+{
+    QTest::addColumn<bool>("saysItsState");
+    QTest::newRow("of an operation that hangs") << true;
+    QTest::newRow("of one that was not started") << false;
+}
+
+void tst_Keyring::aReplyMayDestroyTheKeyring()
+{
+    QFETCH(bool, saysItsState);
+    KirvScriptedSecretService service(saysItsState ? KirvScriptedSecretService::SaysItsState
+                                                   : KirvScriptedSecretService::NeverReplies);
+    QVERIFY(service.appear());
+    auto keyring = std::make_unique<KirvKeyring>(KirvKeyring::Limits { 300, 300, saysItsState ? 3000 : 500 });
+    if (saysItsState)
+        QTRY_COMPARE(keyring->state(), KirvSecretStore::Ready);
+    QObject context;
+    keyring->read(item, &context, [&keyring](const KirvSecretStore::Reply &) { keyring.reset(); });
+    QTRY_VERIFY(!keyring);
+    service.leave();
 }
 
 void tst_Keyring::aReplyForADestroyedObjectIsDropped()

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void theAccountSaysWhatItWaitsFor_data();
     void theAccountSaysWhatItWaitsFor();
     void aPasswordCanBeEnteredForNow();
+    void aPasswordThatIsNotInTheKeyringIsNotForNow();
     void theMoveIsSaidOnce();
 
 private:
@@ -253,6 +254,33 @@ void tst_PasswordsInWindows::aPasswordCanBeEnteredForNow()
     QVERIFY(account()->isOnline());
     QCOMPARE(keyring->secrets, before);
     QVERIFY(!isTextInFiles(QStringLiteral("for now"), windows->profileFolder()));
+}
+
+/// What the account waits for may be another secret.
+void tst_PasswordsInWindows::aPasswordThatIsNotInTheKeyringIsNotForNow()
+{
+    QVERIFY(windows->addAccount(id));
+    account()->setSettings({ KirvField::password(QString(), QStringLiteral("server-password"),
+                                                 QStringLiteral("of the server"), QString()) });
+    account()->setRememberPassword(false);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("of the server"));
+    restart(KirvSecretStore::Unavailable);
+    QVERIFY(account()->awaitsSecrets());
+    Q_EMIT windows->client->accountsPage()->findChild<KirvAccountsPageCompanion *>()->passwordRequested(account());
+    settle();
+    auto *dialog = windows->client->window()->findChild<KirvPasswordDialog *>();
+    QVERIFY(dialog);
+    QVERIFY(KirvClientWindows::child<QCheckBox>(dialog, "PasswordQuestion_Remember")->isVisible());
+    QVERIFY(!dialog->findChild<QLabel *>(QStringLiteral("PasswordQuestion_Reason")));
+    KirvClientWindows::child<QLineEdit>(dialog, "PasswordQuestion_Password")->setText(QStringLiteral("typed"));
+    dialog->accept();
+    settle();
+    QVERIFY(!account()->isOnline());
+    QVERIFY(account()->awaitsSecrets());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(account()->isOnline());
 }
 
 void tst_PasswordsInWindows::theMoveIsSaidOnce()

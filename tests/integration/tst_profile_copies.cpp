@@ -61,6 +61,7 @@ private Q_SLOTS:
     void theDatabaseIsCheckedWithoutWriting();
     void aCopyIsRestoredAndTheDamagedFileKept();
     void whatARepairDoesNotUseIsRemovedFromTheKeyring();
+    void aRepairKeepsTheValueThatCounts();
     void aCopyFromBeforeTheKeyringKnowsWhatIsInIt_data();
     void aCopyFromBeforeTheKeyringKnowsWhatIsInIt();
     void aDamagedCopyIsNotOffered();
@@ -336,6 +337,33 @@ void tst_ProfileCopies::whatARepairDoesNotUseIsRemovedFromTheKeyring()
     QVERIFY(store.open(folder));
     QCOMPARE(itemOf(), QStringLiteral("p/1"));
     QCOMPARE(releasedKey(), QStringLiteral("p/2"));
+}
+
+/// A new password may never have been written to the keyring.
+void tst_ProfileCopies::aRepairKeepsTheValueThatCounts()
+{
+    KirvAccountRecord account;
+    account.key = { QStringLiteral("ann"), QStringLiteral("XMPP") };
+    account.rememberPassword = true;
+    const QString label = QStringLiteral("Kirv: ann (XMPP)");
+    account.secretItems.insert(QString(), { QStringLiteral("p/1"), label });
+    KirvStore store;
+    QVERIFY(store.open(folder));
+    QVERIFY(store.insertAccount(account));
+    QCOMPARE(store.keepSecretItems({ QStringLiteral("p/1") }), QStringList("p/1"));
+    account.secretItems.insert(QString(), { QStringLiteral("p/2"), label });
+    QVERIFY(store.updateAccount(account));
+    store.close();
+
+    KirvProfileRescue rescue(folder);
+    KirvProfileRescue::Recovered found;
+    QVERIFY2(rescue.recover(&found), qPrintable(rescue.lastError()));
+    QCOMPARE(found.secrets, 1);
+    QVERIFY(store.open(folder));
+    QCOMPARE(store.readAccounts().value(0).secretItems.value(QString()).key, QStringLiteral("p/2"));
+    QCOMPARE(store.secretItem(account.key, QString(), KirvStoredItem::New).key, QStringLiteral("p/2"));
+    QCOMPARE(store.secretItem(account.key, QString(), KirvStoredItem::Kept).key, QStringLiteral("p/1"));
+    QCOMPARE(store.unsettledItems().size(), 1);
 }
 
 void tst_ProfileCopies::aCopyFromBeforeTheKeyringKnowsWhatIsInIt_data()

@@ -3,7 +3,11 @@
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/kirv_profile_files.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QTimer>
 #include <QtTest>
 #include <memory>
@@ -12,6 +16,18 @@
 namespace {
 
 const QString password = QStringLiteral("word of id");
+
+/// Runs \a statement in the profile that is open; gives what is wrong with it.
+QByteArray runInOpenProfile(const QString &statement)
+{
+    QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+    return query.exec(statement) ? QByteArray() : query.lastError().text().toUtf8();
+}
+
+KirvField serverPassword(const QString &text)
+{
+    return KirvField::password(QString(), QStringLiteral("server-password"), text, QString());
+}
 
 } // namespace
 
@@ -30,9 +46,15 @@ private Q_SLOTS:
     void whatIsStoredBeforeTheStateIsKnownFindsItsPlace();
     void aChangedPasswordReplacesTheOldOne();
     void aChangeOfSomethingElseWritesNoSecret();
+    void aChangeInTheKeyringRewritesNoSecretOfTheProfile();
     void aPasswordThatIsNotRememberedAnyMoreIsRemoved();
     void aRemovedAccountLeavesNothingInTheKeyring();
     void aRestoredAccountHasItsPasswordInTheKeyringAgain();
+    void aRestoredAccountKeepsAPasswordThatWasNotRead_data();
+    void aRestoredAccountKeepsAPasswordThatWasNotRead();
+    void aPasswordThatCannotBeRestoredAnyMoreIsRemoved();
+    void removingManyAccountsTakesAsLongAsWithoutAKeyring();
+    void theItemsOfAnAccountAreFoundByAnIndex();
     void whatCouldNotBeRemovedIsRemovedAtTheNextStart();
     void itemsOfOtherProfilesAreLeftAlone();
 
@@ -42,15 +64,23 @@ private Q_SLOTS:
     void aSecretThatWasChangedThereIsUsed();
     void aSaveThatDoesNotTouchAnUnknownPasswordLeavesItAlone();
     void aSaveThatTypesAPasswordReplacesAnUnknownOne();
+    void aSecretThatIsSavedWhileTheKeyringIsSilentIsReported();
     void whatCannotBeReadIsRequestedOnce_data();
     void whatCannotBeReadIsRequestedOnce();
     void aLockedKeyringIsAskedForEnabledAccountsOnly();
     void aPasswordForNowChangesNothingThatIsStored();
+    void aPasswordForNowLastsUntilTheProgramEnds_data();
+    void aPasswordForNowLastsUntilTheProgramEnds();
+    void aPasswordForNowIsNotUsedWithoutTheOtherSecrets();
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
+    void aProfileThatRefusesAChangeCostsNoPassword();
+    void aRefusedSaveBringsNoMissingPasswordBack();
 
     void whatTheProfileRefusesIsNotTriedForEver();
+    void theCoreMayEndInASlot_data();
+    void theCoreMayEndInASlot();
 
     void aTurnOfTheEventLoopServesAFewAccounts();
 
@@ -58,6 +88,10 @@ private Q_SLOTS:
     void aMoveThatFailsLosesNothing_data();
     void aMoveThatFailsLosesNothing();
     void aSaveDuringTheMoveCounts();
+    void whatChangesDuringTheMoveLeavesNothingBehind_data();
+    void whatChangesDuringTheMoveLeavesNothingBehind();
+    void aMoveComesBackToWhatFailed();
+    void whatAMoveHasLeftIsNotRemovedDuringASave();
     void aProfileSavedElsewhereKeepsItsSecrets();
 
 private:
@@ -197,6 +231,26 @@ void tst_SecretKeeper::aChangeOfSomethingElseWritesNoSecret()
     QCOMPARE(account()->getPassword(), password);
 }
 
+void tst_SecretKeeper::aChangeInTheKeyringRewritesNoSecretOfTheProfile()
+{
+    const auto writtenRows = [] {
+        QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+        return query.exec(QStringLiteral("SELECT total_changes()")) && query.next() ? query.value(0).toInt() : -1;
+    };
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (int number = 0; number < 50; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    keyring->setState(KirvSecretStore::Ready);
+    QVERIFY(core->create());
+    settle();
+    const int before = writtenRows();
+    account()->setPassword(QStringLiteral("another one"));
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("another one"));
+    QVERIFY(before > 0);
+    QVERIFY2(writtenRows() - before < 20, QByteArray::number(writtenRows() - before).constData());
+}
+
 void tst_SecretKeeper::aPasswordThatIsNotRememberedAnyMoreIsRemoved()
 {
     QVERIFY(core->create());
@@ -238,6 +292,107 @@ void tst_SecretKeeper::aRestoredAccountHasItsPasswordInTheKeyringAgain()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aRestoredAccountKeepsAPasswordThatWasNotRead_data()
+{
+    QTest::addColumn<bool>("isUnlockedFirst");
+    QTest::newRow("unlocked after the undo") << false;
+    QTest::newRow("unlocked before the undo") << true;
+}
+
+void tst_SecretKeeper::aRestoredAccountKeepsAPasswordThatWasNotRead()
+{
+    QFETCH(bool, isUnlockedFirst);
+    QVERIFY(core->create());
+    account()->setSettings({ serverPassword(QStringLiteral("of the server")) });
+    settle();
+    const QMap<QString, QString> before = keyring->secrets;
+    QCOMPARE(before.size(), 2);
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    const KirvRemovedAccount removed = core->accounts->copyOf(account());
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    keyring->outcome = KirvSecretStore::Done;
+    if (isUnlockedFirst)
+        keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(core->accounts->restore(removed));
+    if (!isUnlockedFirst)
+        keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets, before);
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(account()->record().settings.value(QStringLiteral("server-password")), QStringLiteral("of the server"));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+    restart();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+}
+
+void tst_SecretKeeper::aPasswordThatCannotBeRestoredAnyMoreIsRemoved()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    keyring->outcome = KirvSecretStore::Done;
+    {
+        const KirvRemovedAccount removed = core->accounts->copyOf(account());
+        QVERIFY(core->accounts->remove(account()));
+        keyring->setState(KirvSecretStore::Ready);
+        settle();
+        QCOMPARE(keyring->secrets.size(), 1);
+    }
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::removingManyAccountsTakesAsLongAsWithoutAKeyring()
+{
+    QVector<qint64> times; // nanoseconds without a keyring, and with one
+    for (const bool usesKeyring : { false, true }) {
+        core->accounts->secrets().setKeyring(usesKeyring ? keyring.get() : nullptr);
+        QVERIFY(core->store.begin());
+        QList<KirvAccount *> many;
+        for (int number = 0; number < 1000; ++number) {
+            KirvAccountRecord record;
+            record.key = { QStringLiteral("id%1").arg(number), core->fake };
+            record.password = password;
+            record.rememberPassword = true;
+            record.enabled = false;
+            many << core->accounts->create(record, core->protocol.get());
+            QVERIFY(many.last());
+        }
+        QVERIFY(core->store.commit());
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(core->accounts->remove(many));
+        core->settle();
+        times << time.nsecsElapsed();
+    }
+    // Reading what is to be removed once for each of them took a hundred times as long.
+    QVERIFY2(times.at(1) < 10 * times.at(0),
+             QByteArray::number(times.at(1)) + " against " + QByteArray::number(times.at(0)));
+}
+
+/// Otherwise each change of an account would read the items of all of them.
+void tst_SecretKeeper::theItemsOfAnAccountAreFoundByAnIndex()
+{
+    for (const char *statement : { "SELECT key FROM secret_item WHERE account = 1 AND stage <> 2",
+                                   "UPDATE secret_item SET stage = 1 WHERE account = 1 AND field = ''" }) {
+        QSqlQuery query(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+        QVERIFY(query.exec(QStringLiteral("EXPLAIN QUERY PLAN ") + QLatin1String(statement)));
+        QVERIFY(query.next());
+        const QString plan = query.value(3).toString();
+        QVERIFY2(plan.contains(QStringLiteral("secret_item_account")), qPrintable(plan));
+    }
 }
 
 void tst_SecretKeeper::whatCouldNotBeRemovedIsRemovedAtTheNextStart()
@@ -376,6 +531,23 @@ void tst_SecretKeeper::aSaveThatTypesAPasswordReplacesAnUnknownOne()
     QCOMPARE(keyring->secrets.values(), QStringList("typed"));
 }
 
+void tst_SecretKeeper::aSecretThatIsSavedWhileTheKeyringIsSilentIsReported()
+{
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->setState(KirvSecretStore::Silent);
+    QVERIFY(core->create());
+    settle();
+    QCOMPARE(notices.size(), 1);
+    keyring->setState(KirvSecretStore::Silent);
+    account()->setAlias(QStringLiteral("Other"));
+    settle();
+    QCOMPARE(notices.size(), 1);
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QCOMPARE(notices.size(), 1);
+}
+
 void tst_SecretKeeper::whatCannotBeReadIsRequestedOnce_data()
 {
     QTest::addColumn<KirvSecretStore::Outcome>("outcome");
@@ -447,6 +619,68 @@ void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
     QCOMPARE(account()->getPassword(), password);
 }
 
+void tst_SecretKeeper::aPasswordForNowLastsUntilTheProgramEnds_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state");
+    QTest::newRow("locked") << KirvSecretStore::Locked;
+    QTest::newRow("silent") << KirvSecretStore::Silent;
+    QTest::newRow("gone") << KirvSecretStore::Unavailable;
+    QTest::newRow("refusing") << KirvSecretStore::Ready;
+}
+
+void tst_SecretKeeper::aPasswordForNowLastsUntilTheProgramEnds()
+{
+    QFETCH(KirvSecretStore::State, state);
+    const QStringList logIn(QStringLiteral("id log in available for now"));
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(state);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    account()->providePasswordForNow(QStringLiteral("for now"));
+    settle();
+    QCOMPARE(core->takeCalls(), logIn);
+    account()->reconnect();
+    settle();
+    QVERIFY(account()->isOnline());
+    QVERIFY(core->takeCalls().contains(logIn.first()));
+    account()->setEnabled(false);
+    settle();
+    account()->setEnabled(true);
+    settle();
+    QVERIFY(account()->isOnline());
+    QVERIFY(core->takeCalls().contains(logIn.first()));
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    account()->reconnect(); // the one that is stored can be read now
+    settle();
+    QVERIFY(core->takeCalls().contains(QStringLiteral("id log in available word of id")));
+}
+
+/// A server would refuse the log-in with an empty one, and that is not tried again.
+void tst_SecretKeeper::aPasswordForNowIsNotUsedWithoutTheOtherSecrets()
+{
+    QVERIFY(core->create());
+    account()->setSettings({ serverPassword(QStringLiteral("of the server")) });
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    account()->providePasswordForNow(QStringLiteral("for now"));
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList());
+    QVERIFY(account()->awaitsSecrets());
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList("id log in available for now"));
+    QCOMPARE(core->connection()->login().settings.last().getText(), QStringLiteral("of the server"));
+}
+
 void tst_SecretKeeper::aWriteThatFailsIsReportedOnceAndTriedAgain()
 {
     QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
@@ -496,6 +730,52 @@ void tst_SecretKeeper::aNewSecretThatWasWrittenIsUsed()
     QVERIFY(core->store.unsettledItems().isEmpty());
 }
 
+void tst_SecretKeeper::aProfileThatRefusesAChangeCostsNoPassword()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("never written"));
+    settle();
+    keyring->isHeld = false;
+    keyring->setState(KirvSecretStore::Unknown);
+    restart();
+    // It refuses to give up the new one, and would accept that it replaces the other.
+    const QString refusal = QStringLiteral("CREATE TEMP TRIGGER refusal BEFORE UPDATE ON secret_item "
+                                           "WHEN OLD.stage = %1 AND NEW.stage = %2 "
+                                           "BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                                .arg(int(KirvStoredItem::New))
+                                .arg(int(KirvStoredItem::Obsolete));
+    QCOMPARE(runInOpenProfile(refusal), QByteArray());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(account()->awaitsSecrets());
+    QCOMPARE(runInOpenProfile(QStringLiteral("DROP TRIGGER refusal")), QByteArray());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aRefusedSaveBringsNoMissingPasswordBack()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->secrets.clear();
+    account()->beginSave();
+    account()->reconnect();
+    account()->setAlias(KirvAccountsFixture::storeFiller());
+    settle();
+    QVERIFY(account()->getPassword().isEmpty());
+    KirvAccountsFixture::setStoreFull(true);
+    QVERIFY(!account()->endSave());
+    KirvAccountsFixture::setStoreFull(false);
+    QVERIFY(account()->getPassword().isEmpty());
+    QVERIFY(account()->record().unreadSecrets.contains(QString()));
+}
+
 void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
 {
     QVERIFY(core->create());
@@ -510,6 +790,39 @@ void tst_SecretKeeper::whatTheProfileRefusesIsNotTriedForEver()
     settle();
     QVERIFY2(keyring->calls.size() < 5, qPrintable(keyring->calls.join(QLatin1Char(' '))));
     QCOMPARE(account()->getPassword(), QStringLiteral("another one"));
+}
+
+void tst_SecretKeeper::theCoreMayEndInASlot_data()
+{
+    QTest::addColumn<QString>("operation");
+    for (const char *operation : { "read", "write", "remove" })
+        QTest::newRow(operation) << operation;
+}
+
+void tst_SecretKeeper::theCoreMayEndInASlot()
+{
+    QFETCH(QString, operation);
+    const bool isRead = operation == QLatin1String("read"), isWrite = operation == QLatin1String("write");
+    if (!isWrite)
+        QVERIFY(core->create());
+    settle();
+    keyring->isHeld = true;
+    if (isRead)
+        account()->reconnect();
+    else if (isWrite)
+        QVERIFY(core->create());
+    else
+        QVERIFY(core->accounts->remove(account()));
+    settle();
+    QCOMPARE(keyring->heldCount(), 1);
+    QCOMPARE(keyring->calls.last(), operation);
+    if (isRead)
+        connect(core->accounts.get(), &KirvAccountCollection::accountChanged, this, [this] { core->endCore(); });
+    else
+        connect(&core->accounts->secrets(), &KirvSecretKeeper::changed, this, [this] { core->endCore(); });
+    keyring->outcome = KirvSecretStore::Failed;
+    keyring->release();
+    QVERIFY(!core->accounts);
 }
 
 /// However many wait for the keyring: each changes a row of a list.
@@ -630,6 +943,84 @@ void tst_SecretKeeper::aSaveDuringTheMoveCounts()
     restart();
     settle();
     QCOMPARE(account()->getPassword(), QStringLiteral("newer"));
+}
+
+void tst_SecretKeeper::whatChangesDuringTheMoveLeavesNothingBehind_data()
+{
+    QTest::addColumn<bool>("isRemoved");
+    QTest::newRow("another password is saved") << false;
+    QTest::newRow("the account is removed") << true;
+}
+
+/// Also of those whose turn has not come yet.
+void tst_SecretKeeper::whatChangesDuringTheMoveLeavesNothingBehind()
+{
+    QFETCH(bool, isRemoved);
+    const QStringList ids { "a", "b", "c" };
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (const QString &id : ids)
+        QVERIFY(core->create(id));
+    restart();
+    keyring->isHeld = true;
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->heldCount(), 1);
+    for (const QString &id : ids) {
+        if (isRemoved)
+            QVERIFY(core->accounts->remove(core->account(id)));
+        else
+            core->account(id)->setPassword(QStringLiteral("newer ") + id);
+    }
+    while (keyring->heldCount() > 0) {
+        keyring->release();
+        settle();
+    }
+    QStringList values = keyring->secrets.values();
+    values.sort();
+    QCOMPARE(values, isRemoved ? QStringList() : QStringList({ "newer a", "newer b", "newer c" }));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+    QVERIFY(!isInProfile(QStringLiteral("word of ")));
+}
+
+void tst_SecretKeeper::aMoveComesBackToWhatFailed()
+{
+    const int count = 25; // more than are moved at once
+    keyring->setState(KirvSecretStore::Unavailable);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    restart();
+    keyring->outcome = KirvSecretStore::Failed;
+    core->accounts->secrets().startMoving();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    QTRY_COMPARE(keyring->secrets.size(), count);
+    QTRY_VERIFY(core->store.unsettledItems().isEmpty());
+    QVERIFY(!isInProfile(QStringLiteral("word of ")));
+}
+
+/// It may be what the save ends with.
+void tst_SecretKeeper::whatAMoveHasLeftIsNotRemovedDuringASave()
+{
+    QVERIFY(core->create());
+    settle();
+    keyring->calls.clear();
+    KirvSecretItem left = account()->record().secretItems.value(QString());
+    left.key += QStringLiteral("-left");
+    QVERIFY(core->store.addSecretItems({ { left, account()->key(), QString() } }));
+    account()->beginSave();
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(!keyring->calls.contains(QStringLiteral("remove")));
+    QVERIFY(account()->endSave());
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->calls, QStringList("remove"));
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(core->store.unsettledItems().isEmpty());
 }
 
 void tst_SecretKeeper::aProfileSavedElsewhereKeepsItsSecrets()
