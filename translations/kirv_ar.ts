@@ -221,6 +221,18 @@
         <source>&amp;Delete Entry…</source>
         <translation>احذ&amp;ف المدخلة…</translation>
     </message>
+    <message>
+        <source>State:</source>
+        <translation>الحالة:</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>الخادم</translation>
+    </message>
+    <message>
+        <source>Presence</source>
+        <translation>الحضور</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -232,6 +244,15 @@
         <source>%1 (%2)</source>
         <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>other accounts connect first</source>
+        <translation>تتصل حسابات أخرى أولًا</translation>
+    </message>
+    <message>
+        <source>the next try is at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>المحاولة التالية في الساعة %1</translation>
     </message>
 </context>
 <context>
@@ -372,6 +393,18 @@
         <source>&amp;Undo</source>
         <translation>ترا&amp;جع</translation>
     </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>اعرض ال&amp;شهادة…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>اخت&amp;بر تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>ال&amp;سجل</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
@@ -465,6 +498,87 @@
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>لم يُحمَّل أي بروتوكول. حمّل واحدًا من صفحة «الملحقات».</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLog</name>
+    <message>
+        <source>Off line</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>يتصل</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Logging out</source>
+        <translation>يسجّل الخروج</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>في الانتظار</translation>
+    </message>
+    <message>
+        <source>The program requests a log-in</source>
+        <translation>يطلب البرنامج تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>The program changes the presence</source>
+        <translation>يغيّر البرنامج الحضور</translation>
+    </message>
+    <message>
+        <source>The program requests a log-out</source>
+        <translation>يطلب البرنامج تسجيل الخروج</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>فشل %1</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>تم %1</translation>
+    </message>
+    <message>
+        <source>%1 begins</source>
+        <translation>بدأ %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = an event, as &quot;Connected&quot;, %2 = more about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLogWindow</name>
+    <message>
+        <source>Log of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>سجل الحساب %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>ان&amp;سخ</translation>
+    </message>
+    <message>
+        <source>Copies the selected entries, or all when none is selected. They hold no passwords.</source>
+        <translation>ينسخ المدخلات المحددة، أو كلها إذا لم تُحدَّد أي منها. لا تحوي المدخلات كلمات سر.</translation>
+    </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>ال&amp;تقرير…</translation>
+    </message>
+    <message>
+        <source>Puts the log and the versions of the program together for somebody who helps.</source>
+        <translation>يجمع السجل وإصدارات البرنامج لمن يساعدك.</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <extracomment>%1 = time of day, %2 = an event</extracomment>
+        <translation>%1  %2</translation>
     </message>
 </context>
 <context>
@@ -700,6 +814,14 @@
         <source>It can be tried again with Reconnect.</source>
         <translation>يمكن تكرار المحاولة بالأمر «أعد الاتصال».</translation>
     </message>
+    <message>
+        <source>Look at it with Show Certificate.</source>
+        <translation>افحصها بالأمر «اعرض الشهادة».</translation>
+    </message>
+    <message>
+        <source>It is another one than the one that you have trusted.</source>
+        <translation>هي غير الشهادة التي وثقت بها.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -754,6 +876,30 @@
     <message>
         <source>They can be enabled, disabled and removed with the context menu.</source>
         <translation>يمكن تفعيلها وتعطيلها وإزالتها من قائمة السياق.</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Shows what happened to the account&apos;s connection.</source>
+        <translation>يُظهر ما حدث لاتصال الحساب.</translation>
+    </message>
+    <message>
+        <source>What Is Wrong?</source>
+        <translation>ما المشكلة؟</translation>
+    </message>
+    <message>
+        <source>Tries each step of the log-in with what is stored, beside the account&apos;s own connection.</source>
+        <translation>يجرّب كل خطوة من تسجيل الدخول بالبيانات المحفوظة، إلى جانب اتصال الحساب نفسه.</translation>
+    </message>
+    <message>
+        <source>Show Certificate…</source>
+        <translation>اعرض الشهادة…</translation>
+    </message>
+    <message>
+        <source>Shows the certificate of the server and asks whether it is trusted.</source>
+        <translation>يُظهر شهادة الخادم ويسأل عن الوثوق بها.</translation>
     </message>
 </context>
 <context>
@@ -973,6 +1119,67 @@
     </message>
 </context>
 <context>
+    <name>KirvCertificateQuestion</name>
+    <message>
+        <source>Trusted Certificate</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>شهادة موثوق بها</translation>
+    </message>
+    <message>
+        <source>Certificate of %1</source>
+        <translation>شهادة الخادم %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the certificate</source>
+        <translation>ما المشكلة في الشهادة</translation>
+    </message>
+    <message>
+        <source>Somebody between you and the server could read your password.</source>
+        <translation>يمكن لشخص بينك وبين الخادم أن يقرأ كلمة السر.</translation>
+    </message>
+    <message>
+        <source>You have chosen to trust this certificate for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>اخترت الوثوق بهذه الشهادة للحساب %1.</translation>
+    </message>
+    <message>
+        <source>The server shows another certificate than the one that you have trusted for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>يقدّم الخادم شهادة غير الشهادة التي وثقت بها للحساب %1.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server of the account %1 is not trusted.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>شهادة خادم الحساب %1 غير موثوق بها.</translation>
+    </message>
+    <message>
+        <source>Trusted so far</source>
+        <extracomment>the fingerprint of the certificate that was trusted so far</extracomment>
+        <translation>الموثوق بها حتى الآن</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>the caption of a line: %1 = what it is about</extracomment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>&amp;Trust for This Account</source>
+        <translation>&amp;ثق بها لهذا الحساب</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Trusting</source>
+        <translation>أو&amp;قف الوثوق بها</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Connect</source>
+        <translation>لا &amp;تتصل</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>أ&amp;غلق</translation>
+    </message>
+</context>
+<context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
@@ -1031,6 +1238,14 @@
             <numerusform>نُقلت %n كلمة سر إلى حلقة المفاتيح %1.</numerusform>
             <numerusform>نُقلت %n كلمة سر إلى حلقة المفاتيح %1.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
+        <translation>لم يُفتح الرابط لأن نافذة أخرى تنتظر ردًا. أغلق تلك النافذة وافتح الرابط من جديد.</translation>
     </message>
 </context>
 <context>
@@ -1231,6 +1446,10 @@
         <source>The directory entry is not known. Fetch it again to change it.</source>
         <translation>مدخلة الدليل غير معروفة. اجلبها من جديد لتغييرها.</translation>
     </message>
+    <message>
+        <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
+        <translation>لم يُحفظ شيء، لأن المدخلة لا يمكن نشرها هكذا. صحّح ما هو معلَّم.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1259,8 +1478,8 @@
         <translation>لم تُغيَّر الصورة.</translation>
     </message>
     <message>
-        <source>The password is not in the keyring any more.</source>
-        <translation>لم تعد كلمة السر في حلقة المفاتيح.</translation>
+        <source>None is stored</source>
+        <translation>لا توجد كلمة سر محفوظة</translation>
     </message>
 </context>
 <context>
@@ -1504,6 +1723,103 @@
     <message>
         <source>Not chosen</source>
         <translation>لم يُختر شيء</translation>
+    </message>
+</context>
+<context>
+    <name>KirvFileButton</name>
+    <message>
+        <source>Choose…</source>
+        <translation>اختر…</translation>
+    </message>
+    <message>
+        <source>Choose the file.</source>
+        <translation>اختر الملف.</translation>
+    </message>
+    <message>
+        <source>Choose the file for %1</source>
+        <extracomment>%1 = what the file is, as &quot;Trusted certificate&quot;</extracomment>
+        <translation>اختر الملف للحقل «%1»</translation>
+    </message>
+    <message>
+        <source>Certificates and keys (*.pem *.crt *.cer *.key)</source>
+        <translation>الشهادات والمفاتيح (*.pem *.crt *.cer *.key)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvGeneralPage</name>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the program:</source>
+        <translation>&amp;لغة البرنامج:</translation>
+    </message>
+    <message>
+        <source>As the system (%1)</source>
+        <extracomment>entry of a list of languages; %1 = the language of the system in its own words, as &quot;Deutsch&quot;</extracomment>
+        <translation>لغة النظام (%1)</translation>
+    </message>
+    <message>
+        <source>No native speaker has read these texts yet.</source>
+        <translation>لم يقرأ هذه النصوص بعدُ أي متحدث أصلي باللغة.</translation>
+    </message>
+    <message>
+        <source>The language changes when the open windows are closed.</source>
+        <translation>تتغير اللغة عند إغلاق النوافذ المفتوحة.</translation>
+    </message>
+    <message>
+        <source>Passwords</source>
+        <translation>كلمات السر</translation>
+    </message>
+    <message>
+        <source>&amp;Unlock…</source>
+        <translation>افتح ال&amp;قفل…</translation>
+    </message>
+    <message>
+        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
+        <translation>يقرأ كلمات السر التي تنتظرها الحسابات؛ تطلب منك حلقة المفاتيح فتح قفلها.</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>الملف الشخصي</translation>
+    </message>
+    <message>
+        <source>Your accounts and settings are in the folder %1.</source>
+        <extracomment>%1 = path of a folder</extracomment>
+        <translation>حساباتك وإعداداتك في المجلد ‎%1.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>افتح ال&amp;مجلد</translation>
+    </message>
+    <message>
+        <source>Shows the folder in the file manager.</source>
+        <translation>يُظهر المجلد في مدير الملفات.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>نسخ الملف الشخصي</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>التاريخ</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>الحسابات</translation>
+    </message>
+    <message>
+        <source>There are no copies of the profile yet.</source>
+        <translation>لا توجد نسخ من الملف الشخصي بعد.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
+        <translation>نسخ الملف الشخصي، بلا كلمات سر؛ يمكن استعادة إحداها عندما يكون الملف الشخصي تالفًا:</translation>
     </message>
 </context>
 <context>
@@ -1918,6 +2234,126 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginStep</name>
+    <message>
+        <source>Name look-up</source>
+        <translation>البحث عن الاسم</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>التشفير</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>تسجيل الدخول</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTest</name>
+    <message>
+        <source>The plug-in gives no connection.</source>
+        <translation>لا توفّر الملحقة اتصالًا.</translation>
+    </message>
+    <message>
+        <source>The log-in works.</source>
+        <translation>تسجيل الدخول يعمل.</translation>
+    </message>
+    <message>
+        <source>The test was cancelled.</source>
+        <translation>أُلغي الاختبار.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection&quot;; %2 = with whom or how, as &quot;192.0.2.7&quot;, or what went wrong</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection: 192.0.2.7&quot;, %2 = a sentence about what went wrong</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>قيد التنفيذ</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>تم</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>فشل</translation>
+    </message>
+    <message>
+        <source>Test of a log-in, %1</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>اختبار تسجيل الدخول، ‎%1</translation>
+    </message>
+    <message>
+        <source>[%1] %2 (%3 ms)</source>
+        <extracomment>%1 = &quot;done&quot; or &quot;failed&quot;, %2 = a step of a log-in, %3 = number of milliseconds</extracomment>
+        <translation>[%1] %2 (%3 م.ث)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestDialog</name>
+    <message>
+        <source>Log-In of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>تسجيل دخول الحساب %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestView</name>
+    <message>
+        <source>Copy Report</source>
+        <translation>انسخ التقرير</translation>
+    </message>
+    <message>
+        <source>Steps of the log-in</source>
+        <translation>خطوات تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Copies the steps and the versions of the program, without the password.</source>
+        <translation>ينسخ الخطوات وإصدارات البرنامج، بلا كلمة السر.</translation>
+    </message>
+    <message>
+        <source>Test Log-In</source>
+        <translation>اختبر تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <extracomment>%1 = number of milliseconds</extracomment>
+        <translation>%1 م.ث</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = what became of a step (&quot;done&quot;, &quot;failed&quot;), %2 = the step</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = a step and what became of it, %2 = how long it took</extracomment>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Cancel Test</source>
+        <translation>ألغِ الاختبار</translation>
+    </message>
+    <message>
+        <source>Test Again</source>
+        <translation>اختبر من جديد</translation>
+    </message>
+    <message>
+        <source>Logs in once with what is here, and shows each step. Nothing is stored.</source>
+        <translation>يسجّل الدخول مرة واحدة بالبيانات الموجودة هنا، ويُظهر كل خطوة. لا يُحفظ شيء.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -1981,6 +2417,22 @@
     <message>
         <source>&amp;Log In</source>
         <translation>سجّل ال&amp;دخول</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password that was used last.</source>
+        <translation>لم يقبل الخادم كلمة السر التي استُعملت آخر مرة.</translation>
+    </message>
+    <message>
+        <source>The account has a password; the one that you enter takes its place.</source>
+        <translation>للحساب كلمة سر؛ ستحل محلها كلمة السر التي تُدخلها.</translation>
+    </message>
+    <message>
+        <source>No password was entered for this account yet.</source>
+        <translation>لم تُدخَل كلمة سر لهذا الحساب بعد.</translation>
+    </message>
+    <message>
+        <source>The password is not remembered, so it is needed when the account logs in.</source>
+        <translation>لم يُطلب تذكّر كلمة السر، ولذلك تلزم عندما يسجّل الحساب الدخول.</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2608,39 @@
         <source>There are no plug-ins.</source>
         <translation>لا توجد ملحقات.</translation>
     </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>ال&amp;تقرير…</translation>
+    </message>
+    <message>
+        <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
+        <translation>يجمع الإصدارات والملحقات وحالات الحسابات لمن يساعدك.</translation>
+    </message>
+    <message>
+        <source>When the plug-in %1 is unloaded, its account %2 goes off line.</source>
+        <extracomment>%1 = name of a plug-in, %2 = name of an account</extracomment>
+        <translation>عند إلغاء تحميل الملحقة %1 يصبح حسابها %2 غير متصل.</translation>
+    </message>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>عند إلغاء تحميل الملحقة %1 لا ينقطع اتصال أي حساب.</numerusform>
+            <numerusform>عند إلغاء تحميل الملحقة %1 يصبح حسابها المتصل غير متصل.</numerusform>
+            <numerusform>عند إلغاء تحميل الملحقة %1 يصبح حساباها المتصلان غير متصلين.</numerusform>
+            <numerusform>عند إلغاء تحميل الملحقة %1 تصبح حساباتها المتصلة، وعددها %n، غير متصلة.</numerusform>
+            <numerusform>عند إلغاء تحميل الملحقة %1 تصبح حساباتها المتصلة، وعددها %n، غير متصلة.</numerusform>
+            <numerusform>عند إلغاء تحميل الملحقة %1 تصبح حساباتها المتصلة، وعددها %n، غير متصلة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unload Plug-in</source>
+        <translation>إلغاء تحميل الملحقة</translation>
+    </message>
+    <message>
+        <source>The accounts stay in your profile and come back when the plug-in is loaded again.</source>
+        <translation>تبقى الحسابات في ملفك الشخصي وتعود عندما تُحمَّل الملحقة من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>KirvProfileCheck</name>
@@ -2318,6 +2803,60 @@
     </message>
 </context>
 <context>
+    <name>KirvProviderList</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>%1 (not verified; %2, %3)</source>
+        <extracomment>%1 = a server, %2 = who says that it can be used, as a web address, %3 = date</extracomment>
+        <translation>%1 (غير متحقَّق منه؛ ‎%2‎، ‎%3)</translation>
+    </message>
+    <message>
+        <source>Providers</source>
+        <translation>مقدّمو الخدمة</translation>
+    </message>
+    <message>
+        <source>The Down key shows known providers.</source>
+        <translation>يُظهر مفتاح السهم لأسفل مقدّمي الخدمة المعروفين.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 cannot be read.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>لا يمكن قراءة قائمة مقدّمي الخدمة ‎%1.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 is not used: it is too large.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>لا تُستعمل قائمة مقدّمي الخدمة ‎%1: هي كبيرة جدًا.</translation>
+    </message>
+    <message>
+        <source>About the list of providers %1: %2</source>
+        <extracomment>%1 = path of a file, %2 = a sentence</extracomment>
+        <translation>قائمة مقدّمي الخدمة ‎%1: %2</translation>
+    </message>
+    <message>
+        <source>It is not used, because it has not the format of such a list.</source>
+        <translation>لا تُستعمل، لأن نسقها ليس نسق قائمة كهذه.</translation>
+    </message>
+    <message>
+        <source>One entry is left out, because it is not complete.</source>
+        <translation>استُبعدت مدخلة واحدة، لأنها غير مكتملة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>لم تُستبعد أي مدخلة.</numerusform>
+            <numerusform>استُبعدت مدخلة واحدة، لأنها غير مكتملة.</numerusform>
+            <numerusform>استُبعدت مدخلتان، لأنهما غير مكتملتين.</numerusform>
+            <numerusform>استُبعدت %n مدخلات، لأنها غير مكتملة.</numerusform>
+            <numerusform>استُبعدت %n مدخلة، لأنها غير مكتملة.</numerusform>
+            <numerusform>استُبعدت %n مدخلة، لأنها غير مكتملة.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvProxy</name>
     <message>
         <source>Proxy</source>
@@ -2428,6 +2967,120 @@
     </message>
 </context>
 <context>
+    <name>KirvReport</name>
+    <message>
+        <source>Qt %1 (%2)</source>
+        <extracomment>%1 = a version, %2 = a processor</extracomment>
+        <translation>مكتبة Qt %1 (معمارية %2)</translation>
+    </message>
+    <message>
+        <source>No library for encryption</source>
+        <translation>لا توجد مكتبة للتشفير</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>%1 = &quot;Debian GNU/Linux 12&quot;, %2 = &quot;linux 6.1&quot;, %3 = a processor</extracomment>
+        <translation>%1، %2، %3</translation>
+    </message>
+    <message>
+        <source>%1: no versions stated</source>
+        <extracomment>%1 = name of a protocol, %2 = &quot;QXmpp 1.4.0&quot;, or several such</extracomment>
+        <translation>%1: لم تُذكر إصدارات</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>(name)</source>
+        <translation>(الاسم)</translation>
+    </message>
+    <message>
+        <source>%1: %2, file %3</source>
+        <extracomment>%1 = name of a plug-in, %2 = its state, %3 = name of a file</extracomment>
+        <translation>%1: %2، الملف %3</translation>
+    </message>
+    <message>
+        <source>Account %1, %2</source>
+        <extracomment>%1 = a number, %2 = name of a protocol</extracomment>
+        <translation>الحساب %1، %2</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <extracomment>%1 = a login</extracomment>
+        <translation>اسم الدخول: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <extracomment>%1 = &quot;Connected&quot; or another state</extracomment>
+        <translation>الحالة: %1</translation>
+    </message>
+    <message>
+        <source>Report of %1 (times in UTC)</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>تقرير ‎%1 (الأوقات بتوقيت UTC)</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>الملحقات</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>لم يُستبعد أي حساب آخر.</numerusform>
+            <numerusform>استُبعد حساب واحد آخر.</numerusform>
+            <numerusform>استُبعد حسابان آخران.</numerusform>
+            <numerusform>استُبعدت %n حسابات أخرى.</numerusform>
+            <numerusform>استُبعد %n حسابًا آخر.</numerusform>
+            <numerusform>استُبعد %n حساب آخر.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReportWindow</name>
+    <message>
+        <source>&amp;Include logins and other names</source>
+        <translation>أ&amp;درج أسماء الدخول والأسماء الأخرى</translation>
+    </message>
+    <message>
+        <source>Report for Somebody Who Helps</source>
+        <translation>تقرير لمن يساعدك</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>التقرير</translation>
+    </message>
+    <message>
+        <source>Passwords are left out. Read the report before you give it to anybody.</source>
+        <translation>استُبعدت كلمات السر. اقرأ التقرير قبل أن تعطيه لأي أحد.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>ان&amp;سخ</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>ا&amp;حفظ…</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>حفظ التقرير</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>تقرير</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>حُفظ التقرير في ‎%1.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2.</source>
+        <translation>تعذّر حفظ التقرير في ‎%1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRescueWindow</name>
     <message>
         <source>Damaged Profile</source>
@@ -2516,21 +3169,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>حلقة المفاتيح</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>في ملف لا يمكن لغيرك قراءته</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>في %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>في %1 (مقفلة: سيُطلب منك فتح قفلها)</translation>
     </message>
     <message>
@@ -2567,6 +3216,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>تُقرأ كلمة السر من %1.</translation>
     </message>
     <message>
@@ -2590,9 +3240,95 @@
         <translation>كلمة السر في %1، لكن الحلقة لا يمكن قراءتها. الأمر «أعد الاتصال» يحاول من جديد.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. تبقى كلمة السر كما هي ما لم تُدخل غيرها.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>في حلقة المفاتيح</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>في حلقة المفاتيح (مقفلة: سيُطلب منك فتح قفلها)</translation>
+    </message>
+    <message>
+        <source>Passwords that are remembered are kept in a file only you can read.</source>
+        <translation>تُحفظ كلمات السر التي طُلب تذكّرها في ملف لا يمكن لغيرك قراءته.</translation>
+    </message>
+    <message>
+        <source>The program is finding out whether there is a keyring.</source>
+        <translation>يتحقق البرنامج من وجود حلقة مفاتيح.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is unlocked.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
+        <translation>تحفظ حلقة المفاتيح %1 كلمات السر. قفلها مفتوح.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is unlocked.</source>
+        <translation>تحفظ حلقة المفاتيح كلمات السر. قفلها مفتوح.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is locked.</source>
+        <translation>تحفظ حلقة المفاتيح %1 كلمات السر. الحلقة مقفلة.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is locked.</source>
+        <translation>تحفظ حلقة المفاتيح كلمات السر. الحلقة مقفلة.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It does not respond.</source>
+        <translation>تحفظ حلقة المفاتيح %1 كلمات السر. الحلقة لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It does not respond.</source>
+        <translation>تحفظ حلقة المفاتيح كلمات السر. الحلقة لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>There is no keyring.</source>
+        <translation>لا توجد حلقة مفاتيح.</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>تُقرأ كلمة السر من حلقة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>كلمة السر في حلقة المفاتيح، لكنها مقفلة. افتح قفلها.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>كلمة السر في حلقة المفاتيح، لكن قفلها لم يُفتح. الأمر «أعد الاتصال» يسأل من جديد.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>كلمة السر في حلقة المفاتيح، لكن الحلقة لا تستجيب. سيتصل الحساب عندما تستجيب.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>كلمة السر في حلقة المفاتيح، لكن الحلقة لا يمكن قراءتها. الأمر «أعد الاتصال» يحاول من جديد.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>تُقرأ كلمة السر. تبقى كما هي ما لم تُدخل غيرها.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>حلقة المفاتيح مقفلة. تبقى كلمة السر كما هي ما لم تُدخل غيرها.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>حلقة المفاتيح لا تستجيب. تبقى كلمة السر كما هي ما لم تُدخل غيرها.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>حلقة المفاتيح غير موجودة. تبقى كلمة السر كما هي ما لم تُدخل غيرها.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>لا يمكن قراءة حلقة المفاتيح. تبقى كلمة السر كما هي ما لم تُدخل غيرها.</translation>
+    </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>لم تعد كلمة السر في حلقة المفاتيح.</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +3389,85 @@
     </message>
 </context>
 <context>
+    <name>KirvServerCertificate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>whom a certificate is for or from: %1 = name, %2 = organization</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>It is not for %1.</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>ليست صادرة من أجل %1.</translation>
+    </message>
+    <message>
+        <source>It is for %1, and not for %2.</source>
+        <extracomment>%1 and %2 = names of servers</extracomment>
+        <translation>صادرة من أجل %1، وليس من أجل %2.</translation>
+    </message>
+    <message>
+        <source>It is self-signed: no authority has issued it.</source>
+        <translation>موقّعة ذاتيًا: لم تُصدرها أي سلطة شهادات.</translation>
+    </message>
+    <message>
+        <source>It is not from an authority that this computer trusts.</source>
+        <translation>ليست من سلطة شهادات يثق بها هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>It has expired: it was valid until %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>انتهت صلاحيتها: كانت صالحة حتى ‎%1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer has expired.</source>
+        <translation>انتهت صلاحية إحدى شهادات الجهة التي أصدرتها.</translation>
+    </message>
+    <message>
+        <source>It is not valid before %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>ليست صالحة قبل ‎%1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer is not valid yet.</source>
+        <translation>إحدى شهادات الجهة التي أصدرتها ليست صالحة بعد.</translation>
+    </message>
+    <message>
+        <source>It was withdrawn.</source>
+        <translation>أُلغيت.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <extracomment>the servers that a certificate is for</extracomment>
+        <translation>صادرة من أجل</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>whom a certificate is for</extracomment>
+        <translation>المالك</translation>
+    </message>
+    <message>
+        <source>Issued by</source>
+        <extracomment>as in &quot;Issued by: itself&quot;</extracomment>
+        <translation>صادرة عن</translation>
+    </message>
+    <message>
+        <source>itself</source>
+        <translation>نفسها</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>صالحة من</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>صالحة حتى</translation>
+    </message>
+    <message>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>البصمة (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvServerCommands</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
@@ -2701,6 +3516,11 @@
     <message>
         <source>Remove Again</source>
         <translation>أزل من جديد</translation>
+    </message>
+    <message>
+        <source>The password of the account %1 is changed on its server.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>غُيّرت كلمة سر الحساب %1 على خادمه.</translation>
     </message>
 </context>
 <context>
@@ -2863,6 +3683,10 @@
     <message>
         <source>It has not proved that it knows the password.</source>
         <translation>لم يثبت الخادم أنه يعرف كلمة السر.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>جزء الخادم من تسجيل الدخول خاطئ.</translation>
     </message>
 </context>
 <context>
@@ -3085,6 +3909,14 @@
         <source>Sending the form…</source>
         <translation>تُرسل الاستمارة…</translation>
     </message>
+    <message>
+        <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>
+        <translation>شهادة الخادم غير موثوق بها. يمكن لشخص بينك وبين الخادم أن يقرأ كلمة السر.</translation>
+    </message>
+    <message>
+        <source>Trust for This Account</source>
+        <translation>ثق بها لهذا الحساب</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppRoute</name>
@@ -3105,6 +3937,16 @@
         <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
         <extracomment>%1 is a server and its port</extracomment>
         <translation>لا يبدأ الخادم %1 بالتشفير فورًا. لا تختر TLS المباشر، أو اختر منفذًا آخر.</translation>
+    </message>
+    <message>
+        <source>servers of %1</source>
+        <extracomment>%1 = a domain</extracomment>
+        <translation>خوادم النطاق %1</translation>
+    </message>
+    <message>
+        <source>the server refers to %1</source>
+        <extracomment>%1 = a server</extracomment>
+        <translation>يحيل الخادم إلى %1</translation>
     </message>
 </context>
 <context>
@@ -3291,6 +4133,11 @@
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>لا يحوي الملف ‎%1 شهادة بنسق PEM.</translation>
     </message>
+    <message>
+        <source>The trusted certificate %1 is not a file.</source>
+        <extracomment>%1 is a file name</extracomment>
+        <translation>الشهادة الموثوق بها ‎%1 ليست ملفًا.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppVCard</name>
@@ -3337,6 +4184,10 @@
     <message>
         <source>About</source>
         <translation>نبذة عني</translation>
+    </message>
+    <message>
+        <source>An address that begins with http:// or https://.</source>
+        <translation>عنوان يبدأ بالصيغة ‎http://‎ أو ‎https://‎.</translation>
     </message>
 </context>
 <context>

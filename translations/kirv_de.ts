@@ -221,6 +221,18 @@
         <source>&amp;Delete Entry…</source>
         <translation>Eintrag &amp;löschen …</translation>
     </message>
+    <message>
+        <source>State:</source>
+        <translation>Zustand:</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Presence</source>
+        <translation>Status</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -233,12 +245,21 @@
         <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>other accounts connect first</source>
+        <translation>andere Konten verbinden sich zuerst</translation>
+    </message>
+    <message>
+        <source>the next try is at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>der nächste Versuch ist um %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
     <message>
         <source>&amp;Server Account</source>
-        <translation>&amp;Serverkonto</translation>
+        <translation>Server&amp;konto</translation>
     </message>
 </context>
 <context>
@@ -277,7 +298,7 @@
     <name>KirvAccountCommands</name>
     <message>
         <source>Re&amp;move…</source>
-        <translation>E&amp;ntfernen…</translation>
+        <translation>Ent&amp;fernen…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
@@ -309,7 +330,7 @@
     </message>
     <message>
         <source>Pre&amp;sence</source>
-        <translation>An&amp;wesenheit</translation>
+        <translation>&amp;Status</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Enable %n Accounts</source>
@@ -328,8 +349,8 @@
     <message numerus="yes">
         <source>Re&amp;move %n Accounts…</source>
         <translation>
-            <numerusform>Ein Konto &amp;entfernen…</numerusform>
-            <numerusform>%n Konten &amp;entfernen…</numerusform>
+            <numerusform>Ein Konto ent&amp;fernen…</numerusform>
+            <numerusform>%n Konten ent&amp;fernen…</numerusform>
         </translation>
     </message>
     <message>
@@ -355,6 +376,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>&amp;Zertifikat anzeigen…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Anmeldung &amp;testen</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>Ereignispr&amp;otokoll</translation>
     </message>
 </context>
 <context>
@@ -437,6 +470,87 @@
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Kein Protokoll ist geladen. Laden Sie eines auf der Seite „Module“.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLog</name>
+    <message>
+        <source>Off line</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbindet</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Logging out</source>
+        <translation>Meldet sich ab</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>The program requests a log-in</source>
+        <translation>Das Programm fordert eine Anmeldung an</translation>
+    </message>
+    <message>
+        <source>The program changes the presence</source>
+        <translation>Das Programm ändert den Status</translation>
+    </message>
+    <message>
+        <source>The program requests a log-out</source>
+        <translation>Das Programm fordert eine Abmeldung an</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 erfolgt</translation>
+    </message>
+    <message>
+        <source>%1 begins</source>
+        <translation>%1 beginnt</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = an event, as &quot;Connected&quot;, %2 = more about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLogWindow</name>
+    <message>
+        <source>Log of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Ereignisprotokoll von %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the selected entries, or all when none is selected. They hold no passwords.</source>
+        <translation>Kopiert die ausgewählten Einträge oder alle, wenn keiner ausgewählt ist. Sie enthalten keine Passwörter.</translation>
+    </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Bericht…</translation>
+    </message>
+    <message>
+        <source>Puts the log and the versions of the program together for somebody who helps.</source>
+        <translation>Stellt das Ereignisprotokoll und die Versionen des Programms für jemanden zusammen, der hilft.</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <extracomment>%1 = time of day, %2 = an event</extracomment>
+        <translation>%1  %2</translation>
     </message>
 </context>
 <context>
@@ -549,7 +663,7 @@
     </message>
     <message>
         <source>The presence is %1.</source>
-        <translation>Die Anwesenheit ist %1.</translation>
+        <translation>Der Status ist %1.</translation>
     </message>
     <message>
         <source>Since %1.</source>
@@ -672,6 +786,14 @@
         <source>Proxy failed</source>
         <translation>Proxy fehlgeschlagen</translation>
     </message>
+    <message>
+        <source>Look at it with Show Certificate.</source>
+        <translation>Sehen Sie es sich mit „Zertifikat anzeigen“ an.</translation>
+    </message>
+    <message>
+        <source>It is another one than the one that you have trusted.</source>
+        <translation>Es ist ein anderes als das, dem Sie vertraut haben.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -722,6 +844,30 @@
     <message>
         <source>They can be enabled, disabled and removed with the context menu.</source>
         <translation>Sie können mit dem Kontextmenü aktiviert, deaktiviert und entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Ereignisprotokoll</translation>
+    </message>
+    <message>
+        <source>Shows what happened to the account&apos;s connection.</source>
+        <translation>Zeigt, was mit der Verbindung des Kontos geschehen ist.</translation>
+    </message>
+    <message>
+        <source>What Is Wrong?</source>
+        <translation>Was stimmt nicht?</translation>
+    </message>
+    <message>
+        <source>Tries each step of the log-in with what is stored, beside the account&apos;s own connection.</source>
+        <translation>Versucht jeden Schritt der Anmeldung mit dem, was gespeichert ist, neben der eigenen Verbindung des Kontos.</translation>
+    </message>
+    <message>
+        <source>Show Certificate…</source>
+        <translation>Zertifikat anzeigen…</translation>
+    </message>
+    <message>
+        <source>Shows the certificate of the server and asks whether it is trusted.</source>
+        <translation>Zeigt das Zertifikat des Servers und fragt, ob ihm vertraut wird.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +1071,67 @@
     </message>
 </context>
 <context>
+    <name>KirvCertificateQuestion</name>
+    <message>
+        <source>Trusted Certificate</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Vertrautes Zertifikat</translation>
+    </message>
+    <message>
+        <source>Certificate of %1</source>
+        <translation>Zertifikat von %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the certificate</source>
+        <translation>Was an dem Zertifikat nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Somebody between you and the server could read your password.</source>
+        <translation>Jemand zwischen Ihnen und dem Server könnte Ihr Passwort lesen.</translation>
+    </message>
+    <message>
+        <source>You have chosen to trust this certificate for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Sie haben sich entschieden, diesem Zertifikat für das Konto %1 zu vertrauen.</translation>
+    </message>
+    <message>
+        <source>The server shows another certificate than the one that you have trusted for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Der Server zeigt ein anderes Zertifikat als das, dem Sie für das Konto %1 vertraut haben.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server of the account %1 is not trusted.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Dem Zertifikat des Servers, auf dem das Konto %1 liegt, wird nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>Trusted so far</source>
+        <extracomment>the fingerprint of the certificate that was trusted so far</extracomment>
+        <translation>Bisher vertraut</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>the caption of a line: %1 = what it is about</extracomment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>&amp;Trust for This Account</source>
+        <translation>Für dieses Konto &amp;vertrauen</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Trusting</source>
+        <translation>Nicht mehr &amp;vertrauen</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Connect</source>
+        <translation>&amp;Nicht verbinden</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
@@ -979,6 +1186,10 @@
     <message>
         <source>General</source>
         <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
+        <translation>Die Verknüpfung wurde nicht geöffnet, weil ein anderes Fenster auf eine Antwort wartet. Schließen Sie dieses, und öffnen Sie die Verknüpfung erneut.</translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1390,10 @@
         <source>The directory entry is not known. Fetch it again to change it.</source>
         <translation>Der Verzeichniseintrag ist nicht bekannt. Rufen Sie ihn erneut ab, um ihn zu ändern.</translation>
     </message>
+    <message>
+        <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
+        <translation>Nichts wurde gespeichert, weil der Eintrag so nicht veröffentlicht werden kann. Berichtigen Sie, was markiert ist.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1207,8 +1422,8 @@
         <translation>Das Bild wurde nicht geändert.</translation>
     </message>
     <message>
-        <source>The password is not in the keyring any more.</source>
-        <translation>Das Passwort ist nicht mehr im Schlüsselbund.</translation>
+        <source>None is stored</source>
+        <translation>Keines gespeichert</translation>
     </message>
 </context>
 <context>
@@ -1452,6 +1667,30 @@
     <message>
         <source>This text is too long to be shown in full. It is kept as long as nothing is changed here.</source>
         <translation>Dieser Text ist zu lang, um ganz gezeigt zu werden. Er bleibt erhalten, solange hier nichts geändert wird.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvFileButton</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose the file.</source>
+        <translation>Die Datei wählen.</translation>
+    </message>
+    <message>
+        <source>Choose the file for %1</source>
+        <extracomment>%1 = what the file is, as &quot;Trusted certificate&quot;</extracomment>
+        <translation>Datei für „%1“ wählen</translation>
+    </message>
+    <message>
+        <source>Certificates and keys (*.pem *.crt *.cer *.key)</source>
+        <translation>Zertifikate und Schlüssel (*.pem *.crt *.cer *.key)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -1939,6 +2178,126 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginStep</name>
+    <message>
+        <source>Name look-up</source>
+        <translation>Namensauflösung</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>Anmeldung</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTest</name>
+    <message>
+        <source>The plug-in gives no connection.</source>
+        <translation>Das Modul stellt keine Verbindung bereit.</translation>
+    </message>
+    <message>
+        <source>The log-in works.</source>
+        <translation>Die Anmeldung funktioniert.</translation>
+    </message>
+    <message>
+        <source>The test was cancelled.</source>
+        <translation>Der Test wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection&quot;; %2 = with whom or how, as &quot;192.0.2.7&quot;, or what went wrong</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection: 192.0.2.7&quot;, %2 = a sentence about what went wrong</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erfolgt</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Test of a log-in, %1</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Test einer Anmeldung, %1</translation>
+    </message>
+    <message>
+        <source>[%1] %2 (%3 ms)</source>
+        <extracomment>%1 = &quot;done&quot; or &quot;failed&quot;, %2 = a step of a log-in, %3 = number of milliseconds</extracomment>
+        <translation>[%1] %2 (%3 ms)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestDialog</name>
+    <message>
+        <source>Log-In of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Anmeldung von %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestView</name>
+    <message>
+        <source>Copy Report</source>
+        <translation>Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>Steps of the log-in</source>
+        <translation>Schritte der Anmeldung</translation>
+    </message>
+    <message>
+        <source>Copies the steps and the versions of the program, without the password.</source>
+        <translation>Kopiert die Schritte und die Versionen des Programms, ohne das Passwort.</translation>
+    </message>
+    <message>
+        <source>Test Log-In</source>
+        <translation>Anmeldung testen</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <extracomment>%1 = number of milliseconds</extracomment>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = what became of a step (&quot;done&quot;, &quot;failed&quot;), %2 = the step</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = a step and what became of it, %2 = how long it took</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Cancel Test</source>
+        <translation>Test abbrechen</translation>
+    </message>
+    <message>
+        <source>Test Again</source>
+        <translation>Erneut testen</translation>
+    </message>
+    <message>
+        <source>Logs in once with what is here, and shows each step. Nothing is stored.</source>
+        <translation>Meldet sich einmal mit dem an, was hier steht, und zeigt jeden Schritt. Nichts wird gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -2002,6 +2361,22 @@
     <message>
         <source>Keeps the password, so that it is not asked for again.</source>
         <translation>Behält das Passwort, so dass nicht wieder danach gefragt wird.</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password that was used last.</source>
+        <translation>Der Server hat das zuletzt verwendete Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The account has a password; the one that you enter takes its place.</source>
+        <translation>Das Konto hat ein Passwort; das, das Sie eingeben, tritt an seine Stelle.</translation>
+    </message>
+    <message>
+        <source>No password was entered for this account yet.</source>
+        <translation>Für dieses Konto wurde noch kein Passwort eingegeben.</translation>
+    </message>
+    <message>
+        <source>The password is not remembered, so it is needed when the account logs in.</source>
+        <translation>Das Passwort wird nicht gemerkt, daher wird es gebraucht, wenn sich das Konto anmeldet.</translation>
     </message>
 </context>
 <context>
@@ -2177,6 +2552,35 @@
         <source>Loading</source>
         <translation>Wird geladen</translation>
     </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Bericht…</translation>
+    </message>
+    <message>
+        <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
+        <translation>Stellt Versionen, Module und die Zustände der Konten für jemanden zusammen, der hilft.</translation>
+    </message>
+    <message>
+        <source>When the plug-in %1 is unloaded, its account %2 goes off line.</source>
+        <extracomment>%1 = name of a plug-in, %2 = name of an account</extracomment>
+        <translation>Wenn das Modul %1 entladen wird, wird sein Konto %2 abgemeldet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>Wenn das Modul %1 entladen wird, wird sein verbundenes Konto abgemeldet.</numerusform>
+            <numerusform>Wenn das Modul %1 entladen wird, werden seine %n verbundenen Konten abgemeldet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unload Plug-in</source>
+        <translation>Modul entladen</translation>
+    </message>
+    <message>
+        <source>The accounts stay in your profile and come back when the plug-in is loaded again.</source>
+        <translation>Die Konten bleiben in Ihrem Profil und kommen wieder, wenn das Modul erneut geladen wird.</translation>
+    </message>
 </context>
 <context>
     <name>KirvProfileCheck</name>
@@ -2339,6 +2743,56 @@
     </message>
 </context>
 <context>
+    <name>KirvProviderList</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (not verified; %2, %3)</source>
+        <extracomment>%1 = a server, %2 = who says that it can be used, as a web address, %3 = date</extracomment>
+        <translation>%1 (nicht geprüft; %2, %3)</translation>
+    </message>
+    <message>
+        <source>Providers</source>
+        <translation>Anbieter</translation>
+    </message>
+    <message>
+        <source>The Down key shows known providers.</source>
+        <translation>Die Pfeiltaste nach unten zeigt bekannte Anbieter.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 cannot be read.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die Anbieterliste %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 is not used: it is too large.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die Anbieterliste %1 wird nicht verwendet: Sie ist zu groß.</translation>
+    </message>
+    <message>
+        <source>About the list of providers %1: %2</source>
+        <extracomment>%1 = path of a file, %2 = a sentence</extracomment>
+        <translation>Zur Anbieterliste %1: %2</translation>
+    </message>
+    <message>
+        <source>It is not used, because it has not the format of such a list.</source>
+        <translation>Sie wird nicht verwendet, weil sie nicht das Format einer solchen Liste hat.</translation>
+    </message>
+    <message>
+        <source>One entry is left out, because it is not complete.</source>
+        <translation>Ein Eintrag wird ausgelassen, weil er nicht vollständig ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>Ein Eintrag wird ausgelassen, weil er nicht vollständig ist.</numerusform>
+            <numerusform>%n Einträge werden ausgelassen, weil sie nicht vollständig sind.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvProxy</name>
     <message>
         <source>Proxy</source>
@@ -2346,7 +2800,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation>Keine</translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>That of the system</source>
@@ -2446,6 +2900,116 @@
     <message>
         <source>&amp;Continue</source>
         <translation>&amp;Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>KirvReport</name>
+    <message>
+        <source>Qt %1 (%2)</source>
+        <extracomment>%1 = a version, %2 = a processor</extracomment>
+        <translation>Qt %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No library for encryption</source>
+        <translation>Keine Bibliothek für Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>%1 = &quot;Debian GNU/Linux 12&quot;, %2 = &quot;linux 6.1&quot;, %3 = a processor</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: no versions stated</source>
+        <extracomment>%1 = name of a protocol, %2 = &quot;QXmpp 1.4.0&quot;, or several such</extracomment>
+        <translation>%1: keine Versionen angegeben</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>(name)</source>
+        <translation>(Name)</translation>
+    </message>
+    <message>
+        <source>%1: %2, file %3</source>
+        <extracomment>%1 = name of a plug-in, %2 = its state, %3 = name of a file</extracomment>
+        <translation>%1: %2, Datei %3</translation>
+    </message>
+    <message>
+        <source>Account %1, %2</source>
+        <extracomment>%1 = a number, %2 = name of a protocol</extracomment>
+        <translation>Konto %1, %2</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <extracomment>%1 = a login</extracomment>
+        <translation>Anmeldename: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <extracomment>%1 = &quot;Connected&quot; or another state</extracomment>
+        <translation>Zustand: %1</translation>
+    </message>
+    <message>
+        <source>Report of %1 (times in UTC)</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Bericht vom %1 (Zeiten in UTC)</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Module</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>Ein weiteres Konto ist ausgelassen.</numerusform>
+            <numerusform>%n weitere Konten sind ausgelassen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReportWindow</name>
+    <message>
+        <source>&amp;Include logins and other names</source>
+        <translation>&amp;Anmeldenamen und andere Namen aufnehmen</translation>
+    </message>
+    <message>
+        <source>Report for Somebody Who Helps</source>
+        <translation>Bericht für jemanden, der hilft</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Passwords are left out. Read the report before you give it to anybody.</source>
+        <translation>Passwörter sind ausgelassen. Lesen Sie den Bericht, bevor Sie ihn jemandem geben.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Speichern…</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>bericht</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Der Bericht wurde in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2.</source>
+        <translation>Der Bericht konnte nicht in %1 gespeichert werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -2694,6 +3258,10 @@
         <source>There is no keyring.</source>
         <translation>Es gibt keinen Schlüsselbund.</translation>
     </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>Das Passwort ist nicht mehr im Schlüsselbund.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -2753,6 +3321,85 @@
     </message>
 </context>
 <context>
+    <name>KirvServerCertificate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>whom a certificate is for or from: %1 = name, %2 = organization</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>It is not for %1.</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Es gilt nicht für %1.</translation>
+    </message>
+    <message>
+        <source>It is for %1, and not for %2.</source>
+        <extracomment>%1 and %2 = names of servers</extracomment>
+        <translation>Es gilt für %1 und nicht für %2.</translation>
+    </message>
+    <message>
+        <source>It is self-signed: no authority has issued it.</source>
+        <translation>Es ist selbst signiert: Keine Zertifizierungsstelle hat es ausgestellt.</translation>
+    </message>
+    <message>
+        <source>It is not from an authority that this computer trusts.</source>
+        <translation>Es stammt nicht von einer Zertifizierungsstelle, der dieser Rechner vertraut.</translation>
+    </message>
+    <message>
+        <source>It has expired: it was valid until %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Es ist abgelaufen: Es war bis %1 gültig.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer has expired.</source>
+        <translation>Ein Zertifikat seines Ausstellers ist abgelaufen.</translation>
+    </message>
+    <message>
+        <source>It is not valid before %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Es ist erst ab %1 gültig.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer is not valid yet.</source>
+        <translation>Ein Zertifikat seines Ausstellers ist noch nicht gültig.</translation>
+    </message>
+    <message>
+        <source>It was withdrawn.</source>
+        <translation>Es wurde widerrufen.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <extracomment>the servers that a certificate is for</extracomment>
+        <translation>Für</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>whom a certificate is for</extracomment>
+        <translation>Inhaber</translation>
+    </message>
+    <message>
+        <source>Issued by</source>
+        <extracomment>as in &quot;Issued by: itself&quot;</extracomment>
+        <translation>Ausgestellt von</translation>
+    </message>
+    <message>
+        <source>itself</source>
+        <translation>sich selbst</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>Gültig ab</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Gültig bis</translation>
+    </message>
+    <message>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>Fingerabdruck (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvServerCommands</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
@@ -2801,6 +3448,11 @@
     <message>
         <source>Remove Again</source>
         <translation>Erneut entfernen</translation>
+    </message>
+    <message>
+        <source>The password of the account %1 is changed on its server.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Das Passwort des Kontos %1 ist auf seinem Server geändert.</translation>
     </message>
 </context>
 <context>
@@ -2963,6 +3615,10 @@
     <message>
         <source>It has not proved that it knows the password.</source>
         <translation>Er hat nicht bewiesen, dass er das Passwort kennt.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>Sein Teil der Anmeldung ist falsch.</translation>
     </message>
 </context>
 <context>
@@ -3185,6 +3841,14 @@
         <source>Sending the form…</source>
         <translation>Das Formular wird gesendet…</translation>
     </message>
+    <message>
+        <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut. Jemand zwischen Ihnen und dem Server könnte Ihr Passwort lesen.</translation>
+    </message>
+    <message>
+        <source>Trust for This Account</source>
+        <translation>Für dieses Konto vertrauen</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppRoute</name>
@@ -3205,6 +3869,16 @@
     <message>
         <source>it refers to a server of a private network</source>
         <translation>er verweist auf einen Server eines privaten Netzes</translation>
+    </message>
+    <message>
+        <source>servers of %1</source>
+        <extracomment>%1 = a domain</extracomment>
+        <translation>Server von %1</translation>
+    </message>
+    <message>
+        <source>the server refers to %1</source>
+        <extracomment>%1 = a server</extracomment>
+        <translation>der Server verweist auf %1</translation>
     </message>
 </context>
 <context>
@@ -3391,6 +4065,11 @@
         <source>The address is too long.</source>
         <translation>Die Adresse ist zu lang.</translation>
     </message>
+    <message>
+        <source>The trusted certificate %1 is not a file.</source>
+        <extracomment>%1 is a file name</extracomment>
+        <translation>Das vertraute Zertifikat %1 ist keine Datei.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppVCard</name>
@@ -3437,6 +4116,10 @@
     <message>
         <source>About</source>
         <translation>Über mich</translation>
+    </message>
+    <message>
+        <source>An address that begins with http:// or https://.</source>
+        <translation>Eine Adresse, die mit http:// oder https:// beginnt.</translation>
     </message>
 </context>
 <context>

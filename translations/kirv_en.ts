@@ -119,6 +119,37 @@
     </message>
 </context>
 <context>
+    <name>KirvPluginsPage</name>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>When the plug-in %1 is unloaded, its %n connected account goes off line.</numerusform>
+            <numerusform>When the plug-in %1 is unloaded, its %n connected accounts go off line.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvProviderList</name>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>%n entry is left out, because it is not complete.</numerusform>
+            <numerusform>%n entries are left out, because they are not complete.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReport</name>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>%n more account is left out.</numerusform>
+            <numerusform>%n more accounts are left out.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>translation</name>
     <message>
         <source>Account &apos;%1&apos; alerady exists!</source>

@@ -221,6 +221,18 @@
         <source>&amp;Delete Entry…</source>
         <translation>&amp;Eliminar la entrada…</translation>
     </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Presence</source>
+        <translation>Presencia</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -232,6 +244,15 @@
         <source>%1 (%2)</source>
         <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>other accounts connect first</source>
+        <translation>antes se conectan otras cuentas</translation>
+    </message>
+    <message>
+        <source>the next try is at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>próximo intento a las %1</translation>
     </message>
 </context>
 <context>
@@ -356,6 +377,18 @@
         <source>&amp;Undo</source>
         <translation>Des&amp;hacer</translation>
     </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>Mostrar el cert&amp;ificado…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Pro&amp;bar el inicio de sesión</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>Re&amp;gistro de eventos</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
@@ -437,6 +470,87 @@
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>No hay ningún protocolo cargado. Cargue uno en la página «Complementos».</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLog</name>
+    <message>
+        <source>Off line</source>
+        <translation>Desconectada</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>Logging out</source>
+        <translation>Cerrando la sesión</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>The program requests a log-in</source>
+        <translation>El programa solicita un inicio de sesión</translation>
+    </message>
+    <message>
+        <source>The program changes the presence</source>
+        <translation>El programa cambia la presencia</translation>
+    </message>
+    <message>
+        <source>The program requests a log-out</source>
+        <translation>El programa solicita un cierre de sesión</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 (error)</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 (éxito)</translation>
+    </message>
+    <message>
+        <source>%1 begins</source>
+        <translation>%1 (comienzo)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = an event, as &quot;Connected&quot;, %2 = more about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLogWindow</name>
+    <message>
+        <source>Log of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Registro de eventos de %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copies the selected entries, or all when none is selected. They hold no passwords.</source>
+        <translation>Copia las entradas seleccionadas, o todas si no hay ninguna seleccionada. No contienen contraseñas.</translation>
+    </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Informe…</translation>
+    </message>
+    <message>
+        <source>Puts the log and the versions of the program together for somebody who helps.</source>
+        <translation>Reúne el registro de eventos y las versiones del programa para quien le ayude.</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <extracomment>%1 = time of day, %2 = an event</extracomment>
+        <translation>%1  %2</translation>
     </message>
 </context>
 <context>
@@ -672,6 +786,14 @@
         <source>It can be tried again with Reconnect.</source>
         <translation>Puede volver a intentarlo con «Reconectar».</translation>
     </message>
+    <message>
+        <source>Look at it with Show Certificate.</source>
+        <translation>Véalo con «Mostrar el certificado».</translation>
+    </message>
+    <message>
+        <source>It is another one than the one that you have trusted.</source>
+        <translation>No es el mismo en el que usted confió.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -722,6 +844,30 @@
     <message>
         <source>They can be enabled, disabled and removed with the context menu.</source>
         <translation>Pueden activarse, desactivarse y eliminarse con el menú contextual.</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Registro de eventos</translation>
+    </message>
+    <message>
+        <source>Shows what happened to the account&apos;s connection.</source>
+        <translation>Muestra lo que ocurrió con la conexión de la cuenta.</translation>
+    </message>
+    <message>
+        <source>What Is Wrong?</source>
+        <translation>¿Qué falla?</translation>
+    </message>
+    <message>
+        <source>Tries each step of the log-in with what is stored, beside the account&apos;s own connection.</source>
+        <translation>Prueba cada paso del inicio de sesión con lo que está guardado, aparte de la conexión de la propia cuenta.</translation>
+    </message>
+    <message>
+        <source>Show Certificate…</source>
+        <translation>Mostrar el certificado…</translation>
+    </message>
+    <message>
+        <source>Shows the certificate of the server and asks whether it is trusted.</source>
+        <translation>Muestra el certificado del servidor y pregunta si confía en él.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +1071,67 @@
     </message>
 </context>
 <context>
+    <name>KirvCertificateQuestion</name>
+    <message>
+        <source>Trusted Certificate</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Certificado de confianza</translation>
+    </message>
+    <message>
+        <source>Certificate of %1</source>
+        <translation>Certificado de %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the certificate</source>
+        <translation>Lo que está mal en el certificado</translation>
+    </message>
+    <message>
+        <source>Somebody between you and the server could read your password.</source>
+        <translation>Alguien entre usted y el servidor podría leer su contraseña.</translation>
+    </message>
+    <message>
+        <source>You have chosen to trust this certificate for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Usted decidió confiar en este certificado para la cuenta %1.</translation>
+    </message>
+    <message>
+        <source>The server shows another certificate than the one that you have trusted for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>El servidor presenta un certificado distinto de aquel en el que usted confió para la cuenta %1.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server of the account %1 is not trusted.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>El certificado del servidor de la cuenta %1 no es de confianza.</translation>
+    </message>
+    <message>
+        <source>Trusted so far</source>
+        <extracomment>the fingerprint of the certificate that was trusted so far</extracomment>
+        <translation>De confianza hasta ahora</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>the caption of a line: %1 = what it is about</extracomment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>&amp;Trust for This Account</source>
+        <translation>Con&amp;fiar para esta cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Trusting</source>
+        <translation>&amp;Dejar de confiar</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Connect</source>
+        <translation>&amp;No conectar</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
@@ -975,6 +1182,14 @@
             <numerusform>Se movió %n contraseña a su depósito de claves (%1).</numerusform>
             <numerusform>Se movieron %n contraseñas a su depósito de claves (%1).</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
+        <translation>No se abrió el enlace porque otra ventana espera una respuesta. Ciérrela y abra de nuevo el enlace.</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +1390,10 @@
         <source>The directory entry is not known. Fetch it again to change it.</source>
         <translation>No se conoce la entrada del directorio. Obténgala de nuevo para cambiarla.</translation>
     </message>
+    <message>
+        <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
+        <translation>No se guardó nada, porque la entrada no se puede publicar así. Corrija lo que está marcado.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1203,8 +1422,8 @@
         <translation>No se cambió la imagen.</translation>
     </message>
     <message>
-        <source>The password is not in the keyring any more.</source>
-        <translation>La contraseña ya no está en el depósito de claves.</translation>
+        <source>None is stored</source>
+        <translation>No hay ninguna guardada</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1667,103 @@
     <message>
         <source>Not chosen</source>
         <translation>Sin elegir</translation>
+    </message>
+</context>
+<context>
+    <name>KirvFileButton</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Choose the file.</source>
+        <translation>Elegir el archivo.</translation>
+    </message>
+    <message>
+        <source>Choose the file for %1</source>
+        <extracomment>%1 = what the file is, as &quot;Trusted certificate&quot;</extracomment>
+        <translation>Elegir el archivo para «%1»</translation>
+    </message>
+    <message>
+        <source>Certificates and keys (*.pem *.crt *.cer *.key)</source>
+        <translation>Certificados y claves (*.pem *.crt *.cer *.key)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvGeneralPage</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the program:</source>
+        <translation>&amp;Idioma del programa:</translation>
+    </message>
+    <message>
+        <source>As the system (%1)</source>
+        <extracomment>entry of a list of languages; %1 = the language of the system in its own words, as &quot;Deutsch&quot;</extracomment>
+        <translation>Como el sistema (%1)</translation>
+    </message>
+    <message>
+        <source>No native speaker has read these texts yet.</source>
+        <translation>Ningún hablante nativo ha leído todavía estos textos.</translation>
+    </message>
+    <message>
+        <source>The language changes when the open windows are closed.</source>
+        <translation>El idioma cambia cuando se cierran las ventanas abiertas.</translation>
+    </message>
+    <message>
+        <source>Passwords</source>
+        <translation>Contraseñas</translation>
+    </message>
+    <message>
+        <source>&amp;Unlock…</source>
+        <translation>&amp;Desbloquear…</translation>
+    </message>
+    <message>
+        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
+        <translation>Lee las contraseñas que esperan las cuentas; el depósito de claves le pide que lo desbloquee.</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Your accounts and settings are in the folder %1.</source>
+        <extracomment>%1 = path of a folder</extracomment>
+        <translation>Sus cuentas y ajustes están en la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>&amp;Abrir la carpeta</translation>
+    </message>
+    <message>
+        <source>Shows the folder in the file manager.</source>
+        <translation>Muestra la carpeta en el gestor de archivos.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Copias del perfil</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Cuentas</translation>
+    </message>
+    <message>
+        <source>There are no copies of the profile yet.</source>
+        <translation>Todavía no hay copias del perfil.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
+        <translation>Copias del perfil, sin contraseñas; se puede restaurar una si el perfil está dañado:</translation>
     </message>
 </context>
 <context>
@@ -1862,6 +2178,126 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginStep</name>
+    <message>
+        <source>Name look-up</source>
+        <translation>Resolución del nombre</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Cifrado</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>Inicio de sesión</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTest</name>
+    <message>
+        <source>The plug-in gives no connection.</source>
+        <translation>El complemento no proporciona ninguna conexión.</translation>
+    </message>
+    <message>
+        <source>The log-in works.</source>
+        <translation>El inicio de sesión funciona.</translation>
+    </message>
+    <message>
+        <source>The test was cancelled.</source>
+        <translation>Se canceló la prueba.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection&quot;; %2 = with whom or how, as &quot;192.0.2.7&quot;, or what went wrong</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection: 192.0.2.7&quot;, %2 = a sentence about what went wrong</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en curso</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>éxito</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>Test of a log-in, %1</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Prueba de un inicio de sesión, %1</translation>
+    </message>
+    <message>
+        <source>[%1] %2 (%3 ms)</source>
+        <extracomment>%1 = &quot;done&quot; or &quot;failed&quot;, %2 = a step of a log-in, %3 = number of milliseconds</extracomment>
+        <translation>[%1] %2 (%3 ms)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestDialog</name>
+    <message>
+        <source>Log-In of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Inicio de sesión de %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestView</name>
+    <message>
+        <source>Copy Report</source>
+        <translation>Copiar el informe</translation>
+    </message>
+    <message>
+        <source>Steps of the log-in</source>
+        <translation>Pasos del inicio de sesión</translation>
+    </message>
+    <message>
+        <source>Copies the steps and the versions of the program, without the password.</source>
+        <translation>Copia los pasos y las versiones del programa, sin la contraseña.</translation>
+    </message>
+    <message>
+        <source>Test Log-In</source>
+        <translation>Probar el inicio de sesión</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <extracomment>%1 = number of milliseconds</extracomment>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = what became of a step (&quot;done&quot;, &quot;failed&quot;), %2 = the step</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = a step and what became of it, %2 = how long it took</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Cancel Test</source>
+        <translation>Cancelar la prueba</translation>
+    </message>
+    <message>
+        <source>Test Again</source>
+        <translation>Probar de nuevo</translation>
+    </message>
+    <message>
+        <source>Logs in once with what is here, and shows each step. Nothing is stored.</source>
+        <translation>Inicia sesión una vez con lo que hay aquí y muestra cada paso. No se guarda nada.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -1925,6 +2361,22 @@
     <message>
         <source>&amp;Log In</source>
         <translation>Iniciar &amp;sesión</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password that was used last.</source>
+        <translation>El servidor no aceptó la última contraseña utilizada.</translation>
+    </message>
+    <message>
+        <source>The account has a password; the one that you enter takes its place.</source>
+        <translation>La cuenta tiene una contraseña; la que introduzca la sustituirá.</translation>
+    </message>
+    <message>
+        <source>No password was entered for this account yet.</source>
+        <translation>Todavía no se ha introducido ninguna contraseña para esta cuenta.</translation>
+    </message>
+    <message>
+        <source>The password is not remembered, so it is needed when the account logs in.</source>
+        <translation>La contraseña no se recuerda, por lo que se necesita cuando la cuenta inicia sesión.</translation>
     </message>
 </context>
 <context>
@@ -2100,6 +2552,35 @@
         <source>There are no plug-ins.</source>
         <translation>No hay complementos.</translation>
     </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Informe…</translation>
+    </message>
+    <message>
+        <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
+        <translation>Reúne las versiones, los complementos y el estado de las cuentas para quien le ayude.</translation>
+    </message>
+    <message>
+        <source>When the plug-in %1 is unloaded, its account %2 goes off line.</source>
+        <extracomment>%1 = name of a plug-in, %2 = name of an account</extracomment>
+        <translation>Al quitar de memoria el complemento %1, su cuenta %2 queda desconectada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>Al quitar de memoria el complemento %1, su %n cuenta conectada queda desconectada.</numerusform>
+            <numerusform>Al quitar de memoria el complemento %1, sus %n cuentas conectadas quedan desconectadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unload Plug-in</source>
+        <translation>Quitar de memoria el complemento</translation>
+    </message>
+    <message>
+        <source>The accounts stay in your profile and come back when the plug-in is loaded again.</source>
+        <translation>Las cuentas permanecen en su perfil y vuelven cuando el complemento se carga de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>KirvProfileCheck</name>
@@ -2246,7 +2727,7 @@
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation>Gua&amp;rdar</translation>
+        <translation>G&amp;uardar</translation>
     </message>
     <message>
         <source>Everything that was stored is in &quot;%1&quot; again. Continue to go on with it; the accounts log in again then.</source>
@@ -2259,6 +2740,56 @@
     <message>
         <source>&amp;Continue</source>
         <translation>&amp;Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>KirvProviderList</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (not verified; %2, %3)</source>
+        <extracomment>%1 = a server, %2 = who says that it can be used, as a web address, %3 = date</extracomment>
+        <translation>%1 (sin verificar; %2, %3)</translation>
+    </message>
+    <message>
+        <source>Providers</source>
+        <translation>Proveedores</translation>
+    </message>
+    <message>
+        <source>The Down key shows known providers.</source>
+        <translation>La tecla Flecha abajo muestra los proveedores conocidos.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 cannot be read.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>No se puede leer la lista de proveedores %1.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 is not used: it is too large.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>La lista de proveedores %1 no se usa: es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>About the list of providers %1: %2</source>
+        <extracomment>%1 = path of a file, %2 = a sentence</extracomment>
+        <translation>Sobre la lista de proveedores %1: %2</translation>
+    </message>
+    <message>
+        <source>It is not used, because it has not the format of such a list.</source>
+        <translation>No se usa, porque no tiene el formato de una lista de este tipo.</translation>
+    </message>
+    <message>
+        <source>One entry is left out, because it is not complete.</source>
+        <translation>Se omite una entrada porque está incompleta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>Se omite %n entrada porque está incompleta.</numerusform>
+            <numerusform>Se omiten %n entradas porque están incompletas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2372,6 +2903,116 @@
     </message>
 </context>
 <context>
+    <name>KirvReport</name>
+    <message>
+        <source>Qt %1 (%2)</source>
+        <extracomment>%1 = a version, %2 = a processor</extracomment>
+        <translation>Qt %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No library for encryption</source>
+        <translation>Ninguna biblioteca de cifrado</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>%1 = &quot;Debian GNU/Linux 12&quot;, %2 = &quot;linux 6.1&quot;, %3 = a processor</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: no versions stated</source>
+        <extracomment>%1 = name of a protocol, %2 = &quot;QXmpp 1.4.0&quot;, or several such</extracomment>
+        <translation>%1: no se indican versiones</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>(name)</source>
+        <translation>(nombre)</translation>
+    </message>
+    <message>
+        <source>%1: %2, file %3</source>
+        <extracomment>%1 = name of a plug-in, %2 = its state, %3 = name of a file</extracomment>
+        <translation>%1: %2, archivo %3</translation>
+    </message>
+    <message>
+        <source>Account %1, %2</source>
+        <extracomment>%1 = a number, %2 = name of a protocol</extracomment>
+        <translation>Cuenta %1, %2</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <extracomment>%1 = a login</extracomment>
+        <translation>Nombre de usuario: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <extracomment>%1 = &quot;Connected&quot; or another state</extracomment>
+        <translation>Estado: %1</translation>
+    </message>
+    <message>
+        <source>Report of %1 (times in UTC)</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Informe del %1 (horas en UTC)</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Complementos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>Se omite %n cuenta más.</numerusform>
+            <numerusform>Se omiten %n cuentas más.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReportWindow</name>
+    <message>
+        <source>&amp;Include logins and other names</source>
+        <translation>&amp;Incluir los nombres de usuario y otros nombres</translation>
+    </message>
+    <message>
+        <source>Report for Somebody Who Helps</source>
+        <translation>Informe para quien le ayude</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Passwords are left out. Read the report before you give it to anybody.</source>
+        <translation>Se omiten las contraseñas. Lea el informe antes de dárselo a alguien.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Guardar el informe</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>informe</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>El informe se guardó en %1.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2.</source>
+        <translation>No se pudo guardar el informe en %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRescueWindow</name>
     <message>
         <source>Damaged Profile</source>
@@ -2460,21 +3101,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>su depósito de claves</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>en un archivo que solo usted puede leer</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>en %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>en %1 (bloqueado: se le pedirá que lo desbloquee)</translation>
     </message>
     <message>
@@ -2511,6 +3148,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>Se está leyendo la contraseña de %1.</translation>
     </message>
     <message>
@@ -2534,9 +3172,95 @@
         <translation>La contraseña está en %1, que no se puede leer. «Reconectar» lo intenta de nuevo.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. La contraseña se queda como está a menos que introduzca otra.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>en su depósito de claves</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>en su depósito de claves (bloqueado: se le pedirá que lo desbloquee)</translation>
+    </message>
+    <message>
+        <source>Passwords that are remembered are kept in a file only you can read.</source>
+        <translation>Las contraseñas recordadas se guardan en un archivo que solo usted puede leer.</translation>
+    </message>
+    <message>
+        <source>The program is finding out whether there is a keyring.</source>
+        <translation>El programa está comprobando si hay un depósito de claves.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is unlocked.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
+        <translation>%1 guarda las contraseñas. Este depósito de claves está desbloqueado.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is unlocked.</source>
+        <translation>Su depósito de claves guarda las contraseñas. Está desbloqueado.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is locked.</source>
+        <translation>%1 guarda las contraseñas. Este depósito de claves está bloqueado.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is locked.</source>
+        <translation>Su depósito de claves guarda las contraseñas. Está bloqueado.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It does not respond.</source>
+        <translation>%1 guarda las contraseñas. Este depósito de claves no responde.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It does not respond.</source>
+        <translation>Su depósito de claves guarda las contraseñas. No responde.</translation>
+    </message>
+    <message>
+        <source>There is no keyring.</source>
+        <translation>No hay ningún depósito de claves.</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>Se está leyendo la contraseña de su depósito de claves.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>La contraseña está en su depósito de claves, que está bloqueado. Desbloquéelo.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>La contraseña está en su depósito de claves, que no se desbloqueó. «Reconectar» vuelve a pedir que lo desbloquee.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>La contraseña está en su depósito de claves, que no responde. La cuenta se conectará cuando responda.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>La contraseña está en su depósito de claves, que no se puede leer. «Reconectar» lo intenta de nuevo.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>Se está leyendo la contraseña. Se queda como está a menos que introduzca otra.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>El depósito de claves está bloqueado. La contraseña se queda como está a menos que introduzca otra.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>El depósito de claves no responde. La contraseña se queda como está a menos que introduzca otra.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>El depósito de claves no está disponible. La contraseña se queda como está a menos que introduzca otra.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>No se puede leer el depósito de claves. La contraseña se queda como está a menos que introduzca otra.</translation>
+    </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>La contraseña ya no está en el depósito de claves.</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +3321,85 @@
     </message>
 </context>
 <context>
+    <name>KirvServerCertificate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>whom a certificate is for or from: %1 = name, %2 = organization</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>It is not for %1.</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>No es para %1.</translation>
+    </message>
+    <message>
+        <source>It is for %1, and not for %2.</source>
+        <extracomment>%1 and %2 = names of servers</extracomment>
+        <translation>Es para %1, y no para %2.</translation>
+    </message>
+    <message>
+        <source>It is self-signed: no authority has issued it.</source>
+        <translation>Está autofirmado: ninguna autoridad lo ha emitido.</translation>
+    </message>
+    <message>
+        <source>It is not from an authority that this computer trusts.</source>
+        <translation>No es de una autoridad en la que confíe este equipo.</translation>
+    </message>
+    <message>
+        <source>It has expired: it was valid until %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Ha caducado: era válido hasta el %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer has expired.</source>
+        <translation>Un certificado de su emisor ha caducado.</translation>
+    </message>
+    <message>
+        <source>It is not valid before %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>No es válido antes del %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer is not valid yet.</source>
+        <translation>Un certificado de su emisor todavía no es válido.</translation>
+    </message>
+    <message>
+        <source>It was withdrawn.</source>
+        <translation>Fue revocado.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <extracomment>the servers that a certificate is for</extracomment>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>whom a certificate is for</extracomment>
+        <translation>Titular</translation>
+    </message>
+    <message>
+        <source>Issued by</source>
+        <extracomment>as in &quot;Issued by: itself&quot;</extracomment>
+        <translation>Emitido por</translation>
+    </message>
+    <message>
+        <source>itself</source>
+        <translation>él mismo</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>Válido desde</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Válido hasta</translation>
+    </message>
+    <message>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>Huella digital (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvServerCommands</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
@@ -2645,6 +3448,11 @@
     <message>
         <source>Remove Again</source>
         <translation>Volver a eliminar</translation>
+    </message>
+    <message>
+        <source>The password of the account %1 is changed on its server.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Se cambió la contraseña de la cuenta %1 en su servidor.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3615,10 @@
     <message>
         <source>It has not proved that it knows the password.</source>
         <translation>No ha demostrado que conoce la contraseña.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>Su parte del inicio de sesión es incorrecta.</translation>
     </message>
 </context>
 <context>
@@ -3029,6 +3841,14 @@
         <source>Sending the form…</source>
         <translation>Enviando el formulario…</translation>
     </message>
+    <message>
+        <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>
+        <translation>El certificado del servidor no es de confianza. Alguien entre usted y el servidor podría leer su contraseña.</translation>
+    </message>
+    <message>
+        <source>Trust for This Account</source>
+        <translation>Confiar para esta cuenta</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppRoute</name>
@@ -3049,6 +3869,16 @@
         <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
         <extracomment>%1 is a server and its port</extracomment>
         <translation>%1 no comienza inmediatamente con cifrado. No elija TLS directo, o elija otro puerto.</translation>
+    </message>
+    <message>
+        <source>servers of %1</source>
+        <extracomment>%1 = a domain</extracomment>
+        <translation>servidores de %1</translation>
+    </message>
+    <message>
+        <source>the server refers to %1</source>
+        <extracomment>%1 = a server</extracomment>
+        <translation>el servidor remite a %1</translation>
     </message>
 </context>
 <context>
@@ -3235,6 +4065,11 @@
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>El archivo %1 no contiene ningún certificado en formato PEM.</translation>
     </message>
+    <message>
+        <source>The trusted certificate %1 is not a file.</source>
+        <extracomment>%1 is a file name</extracomment>
+        <translation>El certificado de confianza %1 no es un archivo.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppVCard</name>
@@ -3281,6 +4116,10 @@
     <message>
         <source>About</source>
         <translation>Acerca de mí</translation>
+    </message>
+    <message>
+        <source>An address that begins with http:// or https://.</source>
+        <translation>Una dirección que empiece por http:// o https://.</translation>
     </message>
 </context>
 <context>

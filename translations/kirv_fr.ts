@@ -221,6 +221,18 @@
         <source>&amp;Delete Entry…</source>
         <translation>Supprimer la &amp;fiche…</translation>
     </message>
+    <message>
+        <source>State:</source>
+        <translation>État&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Serveur</translation>
+    </message>
+    <message>
+        <source>Presence</source>
+        <translation>Statut</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -232,6 +244,15 @@
         <source>%1 (%2)</source>
         <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>other accounts connect first</source>
+        <translation>d’autres comptes se connectent d’abord</translation>
+    </message>
+    <message>
+        <source>the next try is at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>prochain essai à %1</translation>
     </message>
 </context>
 <context>
@@ -356,6 +377,18 @@
         <source>&amp;Undo</source>
         <translation>A&amp;nnuler</translation>
     </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>A&amp;fficher le certificat…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Tester la conne&amp;xion</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>&amp;Journal</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
@@ -437,6 +470,87 @@
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Aucun protocole n’est chargé. Chargez-en un sur la page «&#xa0;Greffons&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLog</name>
+    <message>
+        <source>Off line</source>
+        <translation>Hors ligne</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connexion en cours</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Logging out</source>
+        <translation>Déconnexion en cours</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>The program requests a log-in</source>
+        <translation>Le programme demande une connexion</translation>
+    </message>
+    <message>
+        <source>The program changes the presence</source>
+        <translation>Le programme modifie le statut</translation>
+    </message>
+    <message>
+        <source>The program requests a log-out</source>
+        <translation>Le programme demande une déconnexion</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 (échec)</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 (succès)</translation>
+    </message>
+    <message>
+        <source>%1 begins</source>
+        <translation>%1 (début)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = an event, as &quot;Connected&quot;, %2 = more about it</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLogWindow</name>
+    <message>
+        <source>Log of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Journal de %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copies the selected entries, or all when none is selected. They hold no passwords.</source>
+        <translation>Copie les entrées sélectionnées, ou toutes si aucune n’est sélectionnée. Elles ne contiennent aucun mot de passe.</translation>
+    </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Rapport…</translation>
+    </message>
+    <message>
+        <source>Puts the log and the versions of the program together for somebody who helps.</source>
+        <translation>Rassemble le journal et les versions du programme pour une personne qui vous aide.</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <extracomment>%1 = time of day, %2 = an event</extracomment>
+        <translation>%1  %2</translation>
     </message>
 </context>
 <context>
@@ -672,6 +786,14 @@
         <source>It can be tried again with Reconnect.</source>
         <translation>Une nouvelle tentative est possible avec «&#xa0;Reconnecter&#xa0;».</translation>
     </message>
+    <message>
+        <source>Look at it with Show Certificate.</source>
+        <translation>Examinez-le avec «&#xa0;Afficher le certificat&#xa0;».</translation>
+    </message>
+    <message>
+        <source>It is another one than the one that you have trusted.</source>
+        <translation>Ce n’est pas celui que vous avez approuvé.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -722,6 +844,30 @@
     <message>
         <source>They can be enabled, disabled and removed with the context menu.</source>
         <translation>Ils peuvent être activés, désactivés et supprimés à l’aide du menu contextuel.</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Shows what happened to the account&apos;s connection.</source>
+        <translation>Affiche ce qui est arrivé à la connexion du compte.</translation>
+    </message>
+    <message>
+        <source>What Is Wrong?</source>
+        <translation>Qu’est-ce qui ne va pas&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Tries each step of the log-in with what is stored, beside the account&apos;s own connection.</source>
+        <translation>Essaie chaque étape de la connexion avec ce qui est enregistré, en parallèle de la connexion du compte lui-même.</translation>
+    </message>
+    <message>
+        <source>Show Certificate…</source>
+        <translation>Afficher le certificat…</translation>
+    </message>
+    <message>
+        <source>Shows the certificate of the server and asks whether it is trusted.</source>
+        <translation>Affiche le certificat du serveur et demande si vous l’approuvez.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +1071,67 @@
     </message>
 </context>
 <context>
+    <name>KirvCertificateQuestion</name>
+    <message>
+        <source>Trusted Certificate</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Certificat approuvé</translation>
+    </message>
+    <message>
+        <source>Certificate of %1</source>
+        <translation>Certificat de %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the certificate</source>
+        <translation>Ce qui ne va pas avec le certificat</translation>
+    </message>
+    <message>
+        <source>Somebody between you and the server could read your password.</source>
+        <translation>Quelqu’un entre vous et le serveur pourrait lire votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>You have chosen to trust this certificate for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Vous avez choisi d’approuver ce certificat pour le compte %1.</translation>
+    </message>
+    <message>
+        <source>The server shows another certificate than the one that you have trusted for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Le serveur présente un autre certificat que celui que vous avez approuvé pour le compte %1.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server of the account %1 is not trusted.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Le certificat du serveur du compte %1 n’est pas approuvé.</translation>
+    </message>
+    <message>
+        <source>Trusted so far</source>
+        <extracomment>the fingerprint of the certificate that was trusted so far</extracomment>
+        <translation>Approuvé jusqu’ici</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>the caption of a line: %1 = what it is about</extracomment>
+        <translation>%1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Trust for This Account</source>
+        <translation>&amp;Approuver pour ce compte</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Trusting</source>
+        <translation>Ne &amp;plus approuver</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Connect</source>
+        <translation>&amp;Ne pas se connecter</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+</context>
+<context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
@@ -975,6 +1182,14 @@
             <numerusform>%n mot de passe a été déplacé vers votre trousseau de clés (%1).</numerusform>
             <numerusform>%n mots de passe ont été déplacés vers votre trousseau de clés (%1).</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
+        <translation>Le lien n’a pas été ouvert, car une autre fenêtre attend une réponse. Fermez-la et ouvrez à nouveau le lien.</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +1390,10 @@
         <source>The directory entry is not known. Fetch it again to change it.</source>
         <translation>La fiche de l’annuaire n’est pas connue. Récupérez-la à nouveau pour la modifier.</translation>
     </message>
+    <message>
+        <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
+        <translation>Rien n’a été enregistré, car la fiche ne peut pas être publiée ainsi. Corrigez ce qui est marqué.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1203,8 +1422,8 @@
         <translation>L’image n’a pas été modifiée.</translation>
     </message>
     <message>
-        <source>The password is not in the keyring any more.</source>
-        <translation>Le mot de passe n’est plus dans le trousseau de clés.</translation>
+        <source>None is stored</source>
+        <translation>Aucun n’est enregistré</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1667,103 @@
     <message>
         <source>Not chosen</source>
         <translation>Non choisi</translation>
+    </message>
+</context>
+<context>
+    <name>KirvFileButton</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose the file.</source>
+        <translation>Choisir le fichier.</translation>
+    </message>
+    <message>
+        <source>Choose the file for %1</source>
+        <extracomment>%1 = what the file is, as &quot;Trusted certificate&quot;</extracomment>
+        <translation>Choisir le fichier pour «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Certificates and keys (*.pem *.crt *.cer *.key)</source>
+        <translation>Certificats et clés (*.pem *.crt *.cer *.key)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvGeneralPage</name>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the program:</source>
+        <translation>&amp;Langue du programme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>As the system (%1)</source>
+        <extracomment>entry of a list of languages; %1 = the language of the system in its own words, as &quot;Deutsch&quot;</extracomment>
+        <translation>Comme le système (%1)</translation>
+    </message>
+    <message>
+        <source>No native speaker has read these texts yet.</source>
+        <translation>Aucune personne de langue maternelle n’a encore relu ces textes.</translation>
+    </message>
+    <message>
+        <source>The language changes when the open windows are closed.</source>
+        <translation>La langue change lorsque les fenêtres ouvertes sont fermées.</translation>
+    </message>
+    <message>
+        <source>Passwords</source>
+        <translation>Mots de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Unlock…</source>
+        <translation>&amp;Déverrouiller…</translation>
+    </message>
+    <message>
+        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
+        <translation>Lit les mots de passe que des comptes attendent&#xa0;; le trousseau de clés vous demande de le déverrouiller.</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Your accounts and settings are in the folder %1.</source>
+        <extracomment>%1 = path of a folder</extracomment>
+        <translation>Vos comptes et paramètres sont dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>&amp;Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Shows the folder in the file manager.</source>
+        <translation>Affiche le dossier dans le gestionnaire de fichiers.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Copies du profil</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Comptes</translation>
+    </message>
+    <message>
+        <source>There are no copies of the profile yet.</source>
+        <translation>Il n’y a pas encore de copies du profil.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
+        <translation>Copies du profil, sans mots de passe&#xa0;; l’une d’elles peut être restaurée si le profil est endommagé&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1862,6 +2178,126 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginStep</name>
+    <message>
+        <source>Name look-up</source>
+        <translation>Résolution du nom</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Chiffrement</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>Authentification</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTest</name>
+    <message>
+        <source>The plug-in gives no connection.</source>
+        <translation>Le greffon ne fournit aucune connexion.</translation>
+    </message>
+    <message>
+        <source>The log-in works.</source>
+        <translation>La connexion fonctionne.</translation>
+    </message>
+    <message>
+        <source>The test was cancelled.</source>
+        <translation>Le test a été annulé.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection&quot;; %2 = with whom or how, as &quot;192.0.2.7&quot;, or what went wrong</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection: 192.0.2.7&quot;, %2 = a sentence about what went wrong</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>succès</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>Test of a log-in, %1</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Test d’une connexion, %1</translation>
+    </message>
+    <message>
+        <source>[%1] %2 (%3 ms)</source>
+        <extracomment>%1 = &quot;done&quot; or &quot;failed&quot;, %2 = a step of a log-in, %3 = number of milliseconds</extracomment>
+        <translation>[%1] %2 (%3 ms)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestDialog</name>
+    <message>
+        <source>Log-In of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Connexion de %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestView</name>
+    <message>
+        <source>Copy Report</source>
+        <translation>Copier le rapport</translation>
+    </message>
+    <message>
+        <source>Steps of the log-in</source>
+        <translation>Étapes de la connexion</translation>
+    </message>
+    <message>
+        <source>Copies the steps and the versions of the program, without the password.</source>
+        <translation>Copie les étapes et les versions du programme, sans le mot de passe.</translation>
+    </message>
+    <message>
+        <source>Test Log-In</source>
+        <translation>Tester la connexion</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <extracomment>%1 = number of milliseconds</extracomment>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = what became of a step (&quot;done&quot;, &quot;failed&quot;), %2 = the step</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = a step and what became of it, %2 = how long it took</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Cancel Test</source>
+        <translation>Annuler le test</translation>
+    </message>
+    <message>
+        <source>Test Again</source>
+        <translation>Tester à nouveau</translation>
+    </message>
+    <message>
+        <source>Logs in once with what is here, and shows each step. Nothing is stored.</source>
+        <translation>Se connecte une fois avec ce qui est indiqué ici et affiche chaque étape. Rien n’est enregistré.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -1925,6 +2361,22 @@
     <message>
         <source>&amp;Log In</source>
         <translation>Se &amp;connecter</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password that was used last.</source>
+        <translation>Le serveur n’a pas accepté le dernier mot de passe utilisé.</translation>
+    </message>
+    <message>
+        <source>The account has a password; the one that you enter takes its place.</source>
+        <translation>Le compte a un mot de passe&#xa0;; celui que vous saisissez le remplace.</translation>
+    </message>
+    <message>
+        <source>No password was entered for this account yet.</source>
+        <translation>Aucun mot de passe n’a encore été saisi pour ce compte.</translation>
+    </message>
+    <message>
+        <source>The password is not remembered, so it is needed when the account logs in.</source>
+        <translation>Le mot de passe n’est pas retenu, il est donc nécessaire lorsque le compte se connecte.</translation>
     </message>
 </context>
 <context>
@@ -2100,6 +2552,35 @@
         <source>There are no plug-ins.</source>
         <translation>Il n’y a aucun greffon.</translation>
     </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Rapport…</translation>
+    </message>
+    <message>
+        <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
+        <translation>Rassemble les versions, les greffons et l’état des comptes pour une personne qui vous aide.</translation>
+    </message>
+    <message>
+        <source>When the plug-in %1 is unloaded, its account %2 goes off line.</source>
+        <extracomment>%1 = name of a plug-in, %2 = name of an account</extracomment>
+        <translation>Lorsque le greffon %1 est déchargé, son compte %2 passe hors ligne.</translation>
+    </message>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>Lorsque le greffon %1 est déchargé, son %n compte connecté passe hors ligne.</numerusform>
+            <numerusform>Lorsque le greffon %1 est déchargé, ses %n comptes connectés passent hors ligne.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unload Plug-in</source>
+        <translation>Décharger le greffon</translation>
+    </message>
+    <message>
+        <source>The accounts stay in your profile and come back when the plug-in is loaded again.</source>
+        <translation>Les comptes restent dans votre profil et reviennent lorsque le greffon est à nouveau chargé.</translation>
+    </message>
 </context>
 <context>
     <name>KirvProfileCheck</name>
@@ -2262,6 +2743,56 @@
     </message>
 </context>
 <context>
+    <name>KirvProviderList</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (not verified; %2, %3)</source>
+        <extracomment>%1 = a server, %2 = who says that it can be used, as a web address, %3 = date</extracomment>
+        <translation>%1 (non vérifié&#xa0;; %2, %3)</translation>
+    </message>
+    <message>
+        <source>Providers</source>
+        <translation>Fournisseurs</translation>
+    </message>
+    <message>
+        <source>The Down key shows known providers.</source>
+        <translation>La touche Flèche bas affiche les fournisseurs connus.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 cannot be read.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>La liste de fournisseurs %1 ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 is not used: it is too large.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>La liste de fournisseurs %1 n’est pas utilisée&#xa0;: elle est trop volumineuse.</translation>
+    </message>
+    <message>
+        <source>About the list of providers %1: %2</source>
+        <extracomment>%1 = path of a file, %2 = a sentence</extracomment>
+        <translation>À propos de la liste de fournisseurs %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>It is not used, because it has not the format of such a list.</source>
+        <translation>Elle n’est pas utilisée, car elle n’a pas le format d’une telle liste.</translation>
+    </message>
+    <message>
+        <source>One entry is left out, because it is not complete.</source>
+        <translation>Une entrée est ignorée, car elle est incomplète.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>%n entrée est ignorée, car elle est incomplète.</numerusform>
+            <numerusform>%n entrées sont ignorées, car elles sont incomplètes.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvProxy</name>
     <message>
         <source>Proxy</source>
@@ -2372,6 +2903,116 @@
     </message>
 </context>
 <context>
+    <name>KirvReport</name>
+    <message>
+        <source>Qt %1 (%2)</source>
+        <extracomment>%1 = a version, %2 = a processor</extracomment>
+        <translation>Qt %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No library for encryption</source>
+        <translation>Aucune bibliothèque de chiffrement</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>%1 = &quot;Debian GNU/Linux 12&quot;, %2 = &quot;linux 6.1&quot;, %3 = a processor</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: no versions stated</source>
+        <extracomment>%1 = name of a protocol, %2 = &quot;QXmpp 1.4.0&quot;, or several such</extracomment>
+        <translation>%1&#xa0;: aucune version indiquée</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>(name)</source>
+        <translation>(nom)</translation>
+    </message>
+    <message>
+        <source>%1: %2, file %3</source>
+        <extracomment>%1 = name of a plug-in, %2 = its state, %3 = name of a file</extracomment>
+        <translation>%1&#xa0;: %2, fichier %3</translation>
+    </message>
+    <message>
+        <source>Account %1, %2</source>
+        <extracomment>%1 = a number, %2 = name of a protocol</extracomment>
+        <translation>Compte %1, %2</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <extracomment>%1 = a login</extracomment>
+        <translation>Identifiant&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <extracomment>%1 = &quot;Connected&quot; or another state</extracomment>
+        <translation>État&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Report of %1 (times in UTC)</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Rapport du %1 (heures en UTC)</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Greffons</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>%n autre compte est omis.</numerusform>
+            <numerusform>%n autres comptes sont omis.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReportWindow</name>
+    <message>
+        <source>&amp;Include logins and other names</source>
+        <translation>&amp;Inclure les identifiants et autres noms</translation>
+    </message>
+    <message>
+        <source>Report for Somebody Who Helps</source>
+        <translation>Rapport pour une personne qui vous aide</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Passwords are left out. Read the report before you give it to anybody.</source>
+        <translation>Les mots de passe sont omis. Lisez le rapport avant de le donner à quelqu’un.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>rapport</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Le rapport a été enregistré dans %1.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2.</source>
+        <translation>Le rapport n’a pas pu être enregistré dans %1&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRescueWindow</name>
     <message>
         <source>Damaged Profile</source>
@@ -2460,21 +3101,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>votre trousseau de clés</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>dans un fichier que personne d’autre que vous ne peut lire</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>dans %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>dans %1 (verrouillé&#xa0;: il vous sera demandé de le déverrouiller)</translation>
     </message>
     <message>
@@ -2511,6 +3148,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>Le mot de passe est en cours de lecture dans %1.</translation>
     </message>
     <message>
@@ -2534,9 +3172,95 @@
         <translation>Le mot de passe est dans %1, qui ne peut pas être lu. «&#xa0;Reconnecter&#xa0;» essaie à nouveau.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. Le mot de passe reste tel quel, sauf si vous en saisissez un autre.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>dans votre trousseau de clés</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>dans votre trousseau de clés (verrouillé&#xa0;: il vous sera demandé de le déverrouiller)</translation>
+    </message>
+    <message>
+        <source>Passwords that are remembered are kept in a file only you can read.</source>
+        <translation>Les mots de passe retenus sont conservés dans un fichier que personne d’autre que vous ne peut lire.</translation>
+    </message>
+    <message>
+        <source>The program is finding out whether there is a keyring.</source>
+        <translation>Le programme vérifie s’il existe un trousseau de clés.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is unlocked.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
+        <translation>%1 conserve les mots de passe. Ce trousseau de clés est déverrouillé.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is unlocked.</source>
+        <translation>Votre trousseau de clés conserve les mots de passe. Il est déverrouillé.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is locked.</source>
+        <translation>%1 conserve les mots de passe. Ce trousseau de clés est verrouillé.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is locked.</source>
+        <translation>Votre trousseau de clés conserve les mots de passe. Il est verrouillé.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It does not respond.</source>
+        <translation>%1 conserve les mots de passe. Ce trousseau de clés ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It does not respond.</source>
+        <translation>Votre trousseau de clés conserve les mots de passe. Il ne répond pas.</translation>
+    </message>
+    <message>
+        <source>There is no keyring.</source>
+        <translation>Il n’y a pas de trousseau de clés.</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>Le mot de passe est en cours de lecture dans votre trousseau de clés.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>Le mot de passe est dans votre trousseau de clés, qui est verrouillé. Déverrouillez-le.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>Le mot de passe est dans votre trousseau de clés, qui n’a pas été déverrouillé. «&#xa0;Reconnecter&#xa0;» demande à nouveau de le déverrouiller.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>Le mot de passe est dans votre trousseau de clés, qui ne répond pas. Le compte se connectera dès que celui-ci répondra.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>Le mot de passe est dans votre trousseau de clés, qui ne peut pas être lu. «&#xa0;Reconnecter&#xa0;» essaie à nouveau.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>Le mot de passe est en cours de lecture. Il reste tel quel, sauf si vous en saisissez un autre.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>Le trousseau de clés est verrouillé. Le mot de passe reste tel quel, sauf si vous en saisissez un autre.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>Le trousseau de clés ne répond pas. Le mot de passe reste tel quel, sauf si vous en saisissez un autre.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>Le trousseau de clés n’est pas disponible. Le mot de passe reste tel quel, sauf si vous en saisissez un autre.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>Le trousseau de clés ne peut pas être lu. Le mot de passe reste tel quel, sauf si vous en saisissez un autre.</translation>
+    </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>Le mot de passe n’est plus dans le trousseau de clés.</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +3321,85 @@
     </message>
 </context>
 <context>
+    <name>KirvServerCertificate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>whom a certificate is for or from: %1 = name, %2 = organization</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>It is not for %1.</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Il n’est pas établi pour %1.</translation>
+    </message>
+    <message>
+        <source>It is for %1, and not for %2.</source>
+        <extracomment>%1 and %2 = names of servers</extracomment>
+        <translation>Il est établi pour %1, et non pour %2.</translation>
+    </message>
+    <message>
+        <source>It is self-signed: no authority has issued it.</source>
+        <translation>Il est auto-signé&#xa0;: aucune autorité ne l’a délivré.</translation>
+    </message>
+    <message>
+        <source>It is not from an authority that this computer trusts.</source>
+        <translation>Il ne provient pas d’une autorité que cet ordinateur approuve.</translation>
+    </message>
+    <message>
+        <source>It has expired: it was valid until %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Il a expiré&#xa0;: il était valable jusqu’au %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer has expired.</source>
+        <translation>Un certificat de son émetteur a expiré.</translation>
+    </message>
+    <message>
+        <source>It is not valid before %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Il n’est pas valable avant le %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer is not valid yet.</source>
+        <translation>Un certificat de son émetteur n’est pas encore valable.</translation>
+    </message>
+    <message>
+        <source>It was withdrawn.</source>
+        <translation>Il a été révoqué.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <extracomment>the servers that a certificate is for</extracomment>
+        <translation>Pour</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>whom a certificate is for</extracomment>
+        <translation>Titulaire</translation>
+    </message>
+    <message>
+        <source>Issued by</source>
+        <extracomment>as in &quot;Issued by: itself&quot;</extracomment>
+        <translation>Délivré par</translation>
+    </message>
+    <message>
+        <source>itself</source>
+        <translation>lui-même</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>Début de validité</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Fin de validité</translation>
+    </message>
+    <message>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>Empreinte (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvServerCommands</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
@@ -2645,6 +3448,11 @@
     <message>
         <source>Remove Again</source>
         <translation>Réessayer la suppression</translation>
+    </message>
+    <message>
+        <source>The password of the account %1 is changed on its server.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Le mot de passe du compte %1 a été modifié sur son serveur.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3615,10 @@
     <message>
         <source>It has not proved that it knows the password.</source>
         <translation>Il n’a pas prouvé qu’il connaît le mot de passe.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>Sa part de l’authentification est incorrecte.</translation>
     </message>
 </context>
 <context>
@@ -3029,6 +3841,14 @@
         <source>Sending the form…</source>
         <translation>Envoi du formulaire…</translation>
     </message>
+    <message>
+        <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>
+        <translation>Le certificat du serveur n’est pas approuvé. Quelqu’un entre vous et le serveur pourrait lire votre mot de passe.</translation>
+    </message>
+    <message>
+        <source>Trust for This Account</source>
+        <translation>Approuver pour ce compte</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppRoute</name>
@@ -3049,6 +3869,16 @@
         <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
         <extracomment>%1 is a server and its port</extracomment>
         <translation>%1 ne commence pas immédiatement par le chiffrement. Ne choisissez pas le TLS direct, ou choisissez un autre port.</translation>
+    </message>
+    <message>
+        <source>servers of %1</source>
+        <extracomment>%1 = a domain</extracomment>
+        <translation>serveurs du domaine %1</translation>
+    </message>
+    <message>
+        <source>the server refers to %1</source>
+        <extracomment>%1 = a server</extracomment>
+        <translation>le serveur renvoie à %1</translation>
     </message>
 </context>
 <context>
@@ -3235,6 +4065,11 @@
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>Le fichier %1 ne contient pas de certificat au format PEM.</translation>
     </message>
+    <message>
+        <source>The trusted certificate %1 is not a file.</source>
+        <extracomment>%1 is a file name</extracomment>
+        <translation>Le certificat approuvé %1 n’est pas un fichier.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppVCard</name>
@@ -3281,6 +4116,10 @@
     <message>
         <source>About</source>
         <translation>À propos de moi</translation>
+    </message>
+    <message>
+        <source>An address that begins with http:// or https://.</source>
+        <translation>Une adresse qui commence par http:// ou https://.</translation>
     </message>
 </context>
 <context>

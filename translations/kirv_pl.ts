@@ -221,6 +221,18 @@
         <source>&amp;Delete Entry…</source>
         <translation>&amp;Usuń wpis…</translation>
     </message>
+    <message>
+        <source>State:</source>
+        <translation>Stan:</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Serwer</translation>
+    </message>
+    <message>
+        <source>Presence</source>
+        <translation>Status</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -233,12 +245,21 @@
         <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>other accounts connect first</source>
+        <translation>najpierw łączą się inne konta</translation>
+    </message>
+    <message>
+        <source>the next try is at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>następna próba o %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
     <message>
         <source>&amp;Server Account</source>
-        <translation>Konto na s&amp;erwerze</translation>
+        <translation>Konto na se&amp;rwerze</translation>
     </message>
 </context>
 <context>
@@ -360,6 +381,18 @@
         <source>&amp;Undo</source>
         <translation>&amp;Cofnij</translation>
     </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>Pokaż certy&amp;fikat…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Testuj &amp;logowanie</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>&amp;Dziennik</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
@@ -444,6 +477,87 @@
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Żaden protokół nie jest załadowany. Załaduj go na stronie „Wtyczki”.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLog</name>
+    <message>
+        <source>Off line</source>
+        <translation>Bez połączenia</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Łączenie</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Logging out</source>
+        <translation>Wylogowywanie</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Oczekiwanie</translation>
+    </message>
+    <message>
+        <source>The program requests a log-in</source>
+        <translation>Program żąda zalogowania</translation>
+    </message>
+    <message>
+        <source>The program changes the presence</source>
+        <translation>Program zmienia status</translation>
+    </message>
+    <message>
+        <source>The program requests a log-out</source>
+        <translation>Program żąda wylogowania</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 nie powiodło się</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 powiodło się</translation>
+    </message>
+    <message>
+        <source>%1 begins</source>
+        <translation>%1 rozpoczyna się</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = an event, as &quot;Connected&quot;, %2 = more about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLogWindow</name>
+    <message>
+        <source>Log of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Dziennik konta %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copies the selected entries, or all when none is selected. They hold no passwords.</source>
+        <translation>Kopiuje wybrane wpisy, a gdy żaden nie jest wybrany – wszystkie. Wpisy nie zawierają haseł.</translation>
+    </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Raport…</translation>
+    </message>
+    <message>
+        <source>Puts the log and the versions of the program together for somebody who helps.</source>
+        <translation>Zestawia dziennik i wersje programu dla osoby, która pomaga.</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <extracomment>%1 = time of day, %2 = an event</extracomment>
+        <translation>%1  %2</translation>
     </message>
 </context>
 <context>
@@ -679,6 +793,14 @@
         <source>It can be tried again with Reconnect.</source>
         <translation>Można spróbować jeszcze raz poleceniem „Połącz ponownie”.</translation>
     </message>
+    <message>
+        <source>Look at it with Show Certificate.</source>
+        <translation>Obejrzyj go poleceniem „Pokaż certyfikat”.</translation>
+    </message>
+    <message>
+        <source>It is another one than the one that you have trusted.</source>
+        <translation>To inny certyfikat niż ten, który był dotąd zaufany.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -730,6 +852,30 @@
     <message>
         <source>They can be enabled, disabled and removed with the context menu.</source>
         <translation>Można je włączyć, wyłączyć i usunąć za pomocą menu kontekstowego.</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Dziennik</translation>
+    </message>
+    <message>
+        <source>Shows what happened to the account&apos;s connection.</source>
+        <translation>Pokazuje, co działo się z połączeniem konta.</translation>
+    </message>
+    <message>
+        <source>What Is Wrong?</source>
+        <translation>Co jest nie tak?</translation>
+    </message>
+    <message>
+        <source>Tries each step of the log-in with what is stored, beside the account&apos;s own connection.</source>
+        <translation>Wypróbowuje każdy krok logowania na zapisanych danych, niezależnie od połączenia samego konta.</translation>
+    </message>
+    <message>
+        <source>Show Certificate…</source>
+        <translation>Pokaż certyfikat…</translation>
+    </message>
+    <message>
+        <source>Shows the certificate of the server and asks whether it is trusted.</source>
+        <translation>Pokazuje certyfikat serwera i pyta, czy mu zaufać.</translation>
     </message>
 </context>
 <context>
@@ -937,6 +1083,67 @@
     </message>
 </context>
 <context>
+    <name>KirvCertificateQuestion</name>
+    <message>
+        <source>Trusted Certificate</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Zaufany certyfikat</translation>
+    </message>
+    <message>
+        <source>Certificate of %1</source>
+        <translation>Certyfikat serwera %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the certificate</source>
+        <translation>Co jest nie tak z certyfikatem</translation>
+    </message>
+    <message>
+        <source>Somebody between you and the server could read your password.</source>
+        <translation>Ktoś między Tobą a serwerem mógłby odczytać Twoje hasło.</translation>
+    </message>
+    <message>
+        <source>You have chosen to trust this certificate for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Zgodnie z Twoim wyborem ten certyfikat jest zaufany dla konta %1.</translation>
+    </message>
+    <message>
+        <source>The server shows another certificate than the one that you have trusted for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Serwer przedstawia inny certyfikat niż ten, który był dotąd zaufany dla konta %1.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server of the account %1 is not trusted.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Certyfikat serwera konta %1 nie jest zaufany.</translation>
+    </message>
+    <message>
+        <source>Trusted so far</source>
+        <extracomment>the fingerprint of the certificate that was trusted so far</extracomment>
+        <translation>Dotąd zaufany</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>the caption of a line: %1 = what it is about</extracomment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>&amp;Trust for This Account</source>
+        <translation>Za&amp;ufaj dla tego konta</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Trusting</source>
+        <translation>&amp;Przestań ufać</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Connect</source>
+        <translation>&amp;Nie łącz</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>Za&amp;mknij</translation>
+    </message>
+</context>
+<context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
@@ -989,6 +1196,14 @@
             <numerusform>%n hasła przeniesiono do bazy kluczy (%1).</numerusform>
             <numerusform>%n haseł przeniesiono do bazy kluczy (%1).</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
+        <translation>Odnośnik nie został otwarty, ponieważ inne okno czeka na odpowiedź. Zamknij to okno i otwórz odnośnik ponownie.</translation>
     </message>
 </context>
 <context>
@@ -1189,6 +1404,10 @@
         <source>The directory entry is not known. Fetch it again to change it.</source>
         <translation>Wpis w katalogu nie jest znany. Pobierz go ponownie, aby go zmienić.</translation>
     </message>
+    <message>
+        <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
+        <translation>Nic nie zapisano, ponieważ wpisu nie można opublikować w tej postaci. Popraw to, co zaznaczono.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1217,8 +1436,8 @@
         <translation>Obraz nie został zmieniony.</translation>
     </message>
     <message>
-        <source>The password is not in the keyring any more.</source>
-        <translation>Hasła nie ma już w bazie kluczy.</translation>
+        <source>None is stored</source>
+        <translation>Nie zapisano hasła</translation>
     </message>
 </context>
 <context>
@@ -1462,6 +1681,103 @@
     <message>
         <source>Not chosen</source>
         <translation>Nie wybrano</translation>
+    </message>
+</context>
+<context>
+    <name>KirvFileButton</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Wybierz…</translation>
+    </message>
+    <message>
+        <source>Choose the file.</source>
+        <translation>Wybierz plik.</translation>
+    </message>
+    <message>
+        <source>Choose the file for %1</source>
+        <extracomment>%1 = what the file is, as &quot;Trusted certificate&quot;</extracomment>
+        <translation>Wybierz plik dla pola „%1”</translation>
+    </message>
+    <message>
+        <source>Certificates and keys (*.pem *.crt *.cer *.key)</source>
+        <translation>Certyfikaty i klucze (*.pem *.crt *.cer *.key)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Wszystkie pliki (*)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvGeneralPage</name>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the program:</source>
+        <translation>&amp;Język programu:</translation>
+    </message>
+    <message>
+        <source>As the system (%1)</source>
+        <extracomment>entry of a list of languages; %1 = the language of the system in its own words, as &quot;Deutsch&quot;</extracomment>
+        <translation>Jak w systemie (%1)</translation>
+    </message>
+    <message>
+        <source>No native speaker has read these texts yet.</source>
+        <translation>Nikt, kto mówi tym językiem od dziecka, nie przeczytał jeszcze tych tekstów.</translation>
+    </message>
+    <message>
+        <source>The language changes when the open windows are closed.</source>
+        <translation>Język zmieni się po zamknięciu otwartych okien.</translation>
+    </message>
+    <message>
+        <source>Passwords</source>
+        <translation>Hasła</translation>
+    </message>
+    <message>
+        <source>&amp;Unlock…</source>
+        <translation>&amp;Odblokuj…</translation>
+    </message>
+    <message>
+        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
+        <translation>Odczytuje hasła, na które czekają konta; baza kluczy prosi o jej odblokowanie.</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Your accounts and settings are in the folder %1.</source>
+        <extracomment>%1 = path of a folder</extracomment>
+        <translation>Twoje konta i ustawienia są w folderze %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>Otwórz &amp;folder</translation>
+    </message>
+    <message>
+        <source>Shows the folder in the file manager.</source>
+        <translation>Pokazuje folder w menedżerze plików.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Kopie profilu</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konta</translation>
+    </message>
+    <message>
+        <source>There are no copies of the profile yet.</source>
+        <translation>Nie ma jeszcze żadnych kopii profilu.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
+        <translation>Kopie profilu, bez haseł; gdy profil jest uszkodzony, można przywrócić jedną z nich:</translation>
     </message>
 </context>
 <context>
@@ -1876,6 +2192,126 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginStep</name>
+    <message>
+        <source>Name look-up</source>
+        <translation>Wyszukiwanie nazwy</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Połączenie</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Szyfrowanie</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>Logowanie</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTest</name>
+    <message>
+        <source>The plug-in gives no connection.</source>
+        <translation>Wtyczka nie udostępnia połączenia.</translation>
+    </message>
+    <message>
+        <source>The log-in works.</source>
+        <translation>Logowanie działa.</translation>
+    </message>
+    <message>
+        <source>The test was cancelled.</source>
+        <translation>Test został anulowany.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection&quot;; %2 = with whom or how, as &quot;192.0.2.7&quot;, or what went wrong</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection: 192.0.2.7&quot;, %2 = a sentence about what went wrong</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>w toku</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>gotowe</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>błąd</translation>
+    </message>
+    <message>
+        <source>Test of a log-in, %1</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Test logowania, %1</translation>
+    </message>
+    <message>
+        <source>[%1] %2 (%3 ms)</source>
+        <extracomment>%1 = &quot;done&quot; or &quot;failed&quot;, %2 = a step of a log-in, %3 = number of milliseconds</extracomment>
+        <translation>[%1] %2 (%3 ms)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestDialog</name>
+    <message>
+        <source>Log-In of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Logowanie konta %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestView</name>
+    <message>
+        <source>Copy Report</source>
+        <translation>Kopiuj raport</translation>
+    </message>
+    <message>
+        <source>Steps of the log-in</source>
+        <translation>Kroki logowania</translation>
+    </message>
+    <message>
+        <source>Copies the steps and the versions of the program, without the password.</source>
+        <translation>Kopiuje kroki i wersje programu, bez hasła.</translation>
+    </message>
+    <message>
+        <source>Test Log-In</source>
+        <translation>Testuj logowanie</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <extracomment>%1 = number of milliseconds</extracomment>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = what became of a step (&quot;done&quot;, &quot;failed&quot;), %2 = the step</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = a step and what became of it, %2 = how long it took</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Cancel Test</source>
+        <translation>Anuluj test</translation>
+    </message>
+    <message>
+        <source>Test Again</source>
+        <translation>Testuj ponownie</translation>
+    </message>
+    <message>
+        <source>Logs in once with what is here, and shows each step. Nothing is stored.</source>
+        <translation>Loguje się jeden raz z podanymi tu danymi i pokazuje każdy krok. Nic nie jest zapisywane.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -1939,6 +2375,22 @@
     <message>
         <source>&amp;Log In</source>
         <translation>Za&amp;loguj</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password that was used last.</source>
+        <translation>Serwer nie przyjął ostatnio użytego hasła.</translation>
+    </message>
+    <message>
+        <source>The account has a password; the one that you enter takes its place.</source>
+        <translation>Konto ma już hasło; zastąpi je hasło, które wprowadzisz.</translation>
+    </message>
+    <message>
+        <source>No password was entered for this account yet.</source>
+        <translation>Dla tego konta nie wprowadzono jeszcze hasła.</translation>
+    </message>
+    <message>
+        <source>The password is not remembered, so it is needed when the account logs in.</source>
+        <translation>Hasło nie jest zapamiętywane, dlatego jest potrzebne podczas logowania konta.</translation>
     </message>
 </context>
 <context>
@@ -2114,6 +2566,36 @@
         <source>There are no plug-ins.</source>
         <translation>Nie ma wtyczek.</translation>
     </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Raport…</translation>
+    </message>
+    <message>
+        <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
+        <translation>Zestawia wersje, wtyczki i stany kont dla osoby, która pomaga.</translation>
+    </message>
+    <message>
+        <source>When the plug-in %1 is unloaded, its account %2 goes off line.</source>
+        <extracomment>%1 = name of a plug-in, %2 = name of an account</extracomment>
+        <translation>Po wyładowaniu wtyczki %1 jej konto %2 zostanie rozłączone.</translation>
+    </message>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>Po wyładowaniu wtyczki %1 jej %n połączone konto zostanie rozłączone.</numerusform>
+            <numerusform>Po wyładowaniu wtyczki %1 jej %n połączone konta zostaną rozłączone.</numerusform>
+            <numerusform>Po wyładowaniu wtyczki %1 jej %n połączonych kont zostanie rozłączonych.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unload Plug-in</source>
+        <translation>Wyładuj wtyczkę</translation>
+    </message>
+    <message>
+        <source>The accounts stay in your profile and come back when the plug-in is loaded again.</source>
+        <translation>Konta pozostaną w profilu i wrócą, gdy wtyczka zostanie ponownie załadowana.</translation>
+    </message>
 </context>
 <context>
     <name>KirvProfileCheck</name>
@@ -2276,6 +2758,57 @@
     </message>
 </context>
 <context>
+    <name>KirvProviderList</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (not verified; %2, %3)</source>
+        <extracomment>%1 = a server, %2 = who says that it can be used, as a web address, %3 = date</extracomment>
+        <translation>%1 (niesprawdzony; %2, %3)</translation>
+    </message>
+    <message>
+        <source>Providers</source>
+        <translation>Dostawcy</translation>
+    </message>
+    <message>
+        <source>The Down key shows known providers.</source>
+        <translation>Klawisz strzałki w dół pokazuje znanych dostawców.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 cannot be read.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Nie można odczytać listy dostawców %1.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 is not used: it is too large.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Lista dostawców %1 nie jest używana: jest za duża.</translation>
+    </message>
+    <message>
+        <source>About the list of providers %1: %2</source>
+        <extracomment>%1 = path of a file, %2 = a sentence</extracomment>
+        <translation>Lista dostawców %1: %2</translation>
+    </message>
+    <message>
+        <source>It is not used, because it has not the format of such a list.</source>
+        <translation>Nie jest używana, ponieważ nie ma formatu takiej listy.</translation>
+    </message>
+    <message>
+        <source>One entry is left out, because it is not complete.</source>
+        <translation>Pominięto jeden wpis, ponieważ jest niepełny.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>Pominięto %n wpis, ponieważ jest niepełny.</numerusform>
+            <numerusform>Pominięto %n wpisy, ponieważ są niepełne.</numerusform>
+            <numerusform>Pominięto %n wpisów, ponieważ są niepełne.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvProxy</name>
     <message>
         <source>Proxy</source>
@@ -2386,6 +2919,117 @@
     </message>
 </context>
 <context>
+    <name>KirvReport</name>
+    <message>
+        <source>Qt %1 (%2)</source>
+        <extracomment>%1 = a version, %2 = a processor</extracomment>
+        <translation>Qt %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No library for encryption</source>
+        <translation>Brak biblioteki szyfrującej</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>%1 = &quot;Debian GNU/Linux 12&quot;, %2 = &quot;linux 6.1&quot;, %3 = a processor</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: no versions stated</source>
+        <extracomment>%1 = name of a protocol, %2 = &quot;QXmpp 1.4.0&quot;, or several such</extracomment>
+        <translation>%1: nie podano wersji</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>(name)</source>
+        <translation>(nazwa)</translation>
+    </message>
+    <message>
+        <source>%1: %2, file %3</source>
+        <extracomment>%1 = name of a plug-in, %2 = its state, %3 = name of a file</extracomment>
+        <translation>%1: %2, plik %3</translation>
+    </message>
+    <message>
+        <source>Account %1, %2</source>
+        <extracomment>%1 = a number, %2 = name of a protocol</extracomment>
+        <translation>Konto %1, %2</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <extracomment>%1 = a login</extracomment>
+        <translation>Login: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <extracomment>%1 = &quot;Connected&quot; or another state</extracomment>
+        <translation>Stan: %1</translation>
+    </message>
+    <message>
+        <source>Report of %1 (times in UTC)</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Raport z %1 (czas UTC)</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Wtyczki</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>Pominięto jeszcze %n konto.</numerusform>
+            <numerusform>Pominięto jeszcze %n konta.</numerusform>
+            <numerusform>Pominięto jeszcze %n kont.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReportWindow</name>
+    <message>
+        <source>&amp;Include logins and other names</source>
+        <translation>&amp;Uwzględnij loginy i inne nazwy</translation>
+    </message>
+    <message>
+        <source>Report for Somebody Who Helps</source>
+        <translation>Raport dla osoby, która pomaga</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Raport</translation>
+    </message>
+    <message>
+        <source>Passwords are left out. Read the report before you give it to anybody.</source>
+        <translation>Hasła zostały pominięte. Przeczytaj raport, zanim go komuś przekażesz.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Zapisz…</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Zapisz raport</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>raport</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Raport zapisano w pliku %1.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2.</source>
+        <translation>Nie udało się zapisać raportu w pliku %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRescueWindow</name>
     <message>
         <source>Damaged Profile</source>
@@ -2474,21 +3118,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>bazie kluczy</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>w pliku, który możesz odczytać tylko Ty</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>w %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>w %1 (zablokowane: zobaczysz prośbę o odblokowanie)</translation>
     </message>
     <message>
@@ -2525,6 +3165,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>Trwa odczytywanie hasła zapisanego w %1.</translation>
     </message>
     <message>
@@ -2548,9 +3189,95 @@
         <translation>Hasło jest w %1, ale nie można go odczytać. Polecenie „Połącz ponownie” próbuje jeszcze raz.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. Hasło pozostanie bez zmian, chyba że wprowadzisz inne.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>w bazie kluczy</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>w bazie kluczy (zablokowana: zobaczysz prośbę o odblokowanie)</translation>
+    </message>
+    <message>
+        <source>Passwords that are remembered are kept in a file only you can read.</source>
+        <translation>Zapamiętane hasła są przechowywane w pliku, który możesz odczytać tylko Ty.</translation>
+    </message>
+    <message>
+        <source>The program is finding out whether there is a keyring.</source>
+        <translation>Program sprawdza, czy jest tu baza kluczy.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is unlocked.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
+        <translation>Hasła przechowuje %1. Dostęp jest odblokowany.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is unlocked.</source>
+        <translation>Hasła przechowuje baza kluczy. Jest odblokowana.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is locked.</source>
+        <translation>Hasła przechowuje %1. Dostęp jest zablokowany.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is locked.</source>
+        <translation>Hasła przechowuje baza kluczy. Jest zablokowana.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It does not respond.</source>
+        <translation>Hasła przechowuje %1. Nie ma stamtąd odpowiedzi.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It does not respond.</source>
+        <translation>Hasła przechowuje baza kluczy. Nie odpowiada ona.</translation>
+    </message>
+    <message>
+        <source>There is no keyring.</source>
+        <translation>Nie ma bazy kluczy.</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>Trwa odczytywanie hasła z bazy kluczy.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>Hasło jest w bazie kluczy, która jest zablokowana. Odblokuj ją.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>Hasło jest w bazie kluczy, która nie została odblokowana. Polecenie „Połącz ponownie” pyta jeszcze raz.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>Hasło jest w bazie kluczy, która nie odpowiada. Konto połączy się, gdy odpowiedź nadejdzie.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>Hasło jest w bazie kluczy, której nie można odczytać. Polecenie „Połącz ponownie” próbuje jeszcze raz.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>Trwa odczytywanie hasła. Pozostanie ono bez zmian, chyba że wprowadzisz inne.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>Baza kluczy jest zablokowana. Hasło pozostanie bez zmian, chyba że wprowadzisz inne.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>Baza kluczy nie odpowiada. Hasło pozostanie bez zmian, chyba że wprowadzisz inne.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>Brak bazy kluczy. Hasło pozostanie bez zmian, chyba że wprowadzisz inne.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>Nie można odczytać bazy kluczy. Hasło pozostanie bez zmian, chyba że wprowadzisz inne.</translation>
+    </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>Hasła nie ma już w bazie kluczy.</translation>
     </message>
 </context>
 <context>
@@ -2611,6 +3338,85 @@
     </message>
 </context>
 <context>
+    <name>KirvServerCertificate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>whom a certificate is for or from: %1 = name, %2 = organization</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>It is not for %1.</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Nie jest wystawiony dla %1.</translation>
+    </message>
+    <message>
+        <source>It is for %1, and not for %2.</source>
+        <extracomment>%1 and %2 = names of servers</extracomment>
+        <translation>Jest wystawiony dla %1, a nie dla %2.</translation>
+    </message>
+    <message>
+        <source>It is self-signed: no authority has issued it.</source>
+        <translation>Ma podpis własny: nie wystawił go żaden urząd certyfikacji.</translation>
+    </message>
+    <message>
+        <source>It is not from an authority that this computer trusts.</source>
+        <translation>Nie pochodzi od urzędu certyfikacji, któremu ufa ten komputer.</translation>
+    </message>
+    <message>
+        <source>It has expired: it was valid until %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Stracił ważność: był ważny do %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer has expired.</source>
+        <translation>Certyfikat jego wystawcy stracił ważność.</translation>
+    </message>
+    <message>
+        <source>It is not valid before %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Jest ważny dopiero od %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer is not valid yet.</source>
+        <translation>Certyfikat jego wystawcy nie jest jeszcze ważny.</translation>
+    </message>
+    <message>
+        <source>It was withdrawn.</source>
+        <translation>Został unieważniony.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <extracomment>the servers that a certificate is for</extracomment>
+        <translation>Dla</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>whom a certificate is for</extracomment>
+        <translation>Właściciel</translation>
+    </message>
+    <message>
+        <source>Issued by</source>
+        <extracomment>as in &quot;Issued by: itself&quot;</extracomment>
+        <translation>Wystawiony przez</translation>
+    </message>
+    <message>
+        <source>itself</source>
+        <translation>samego siebie</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>Ważny od</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Ważny do</translation>
+    </message>
+    <message>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>Odcisk palca (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvServerCommands</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
@@ -2659,6 +3465,11 @@
     <message>
         <source>Remove Again</source>
         <translation>Usuń jeszcze raz</translation>
+    </message>
+    <message>
+        <source>The password of the account %1 is changed on its server.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Hasło konta %1 zostało zmienione na jego serwerze.</translation>
     </message>
 </context>
 <context>
@@ -2821,6 +3632,10 @@
     <message>
         <source>It has not proved that it knows the password.</source>
         <translation>Serwer nie dowiódł, że zna hasło.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>Część logowania po stronie serwera jest błędna.</translation>
     </message>
 </context>
 <context>
@@ -3043,6 +3858,14 @@
         <source>Sending the form…</source>
         <translation>Wysyłanie formularza…</translation>
     </message>
+    <message>
+        <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>
+        <translation>Certyfikat serwera nie jest zaufany. Ktoś między Tobą a serwerem mógłby odczytać Twoje hasło.</translation>
+    </message>
+    <message>
+        <source>Trust for This Account</source>
+        <translation>Zaufaj dla tego konta</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppRoute</name>
@@ -3063,6 +3886,16 @@
         <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
         <extracomment>%1 is a server and its port</extracomment>
         <translation>%1 nie zaczyna od razu od szyfrowania. Nie wybieraj bezpośredniego TLS lub wybierz inny port.</translation>
+    </message>
+    <message>
+        <source>servers of %1</source>
+        <extracomment>%1 = a domain</extracomment>
+        <translation>serwery domeny %1</translation>
+    </message>
+    <message>
+        <source>the server refers to %1</source>
+        <extracomment>%1 = a server</extracomment>
+        <translation>serwer odsyła do %1</translation>
     </message>
 </context>
 <context>
@@ -3249,6 +4082,11 @@
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>Plik %1 nie zawiera certyfikatu w formacie PEM.</translation>
     </message>
+    <message>
+        <source>The trusted certificate %1 is not a file.</source>
+        <extracomment>%1 is a file name</extracomment>
+        <translation>Zaufany certyfikat %1 nie jest plikiem.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppVCard</name>
@@ -3295,6 +4133,10 @@
     <message>
         <source>About</source>
         <translation>O mnie</translation>
+    </message>
+    <message>
+        <source>An address that begins with http:// or https://.</source>
+        <translation>Adres, który zaczyna się od http:// lub https://.</translation>
     </message>
 </context>
 <context>

@@ -221,6 +221,18 @@
         <source>&amp;Delete Entry…</source>
         <translation>E&amp;xcluir entrada…</translation>
     </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Presence</source>
+        <translation>Status</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -232,6 +244,15 @@
         <source>%1 (%2)</source>
         <extracomment>%1 = a sentence, %2 = what the keyring says</extracomment>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>other accounts connect first</source>
+        <translation>outras contas se conectam primeiro</translation>
+    </message>
+    <message>
+        <source>the next try is at %1</source>
+        <extracomment>%1 = time of day</extracomment>
+        <translation>próxima tentativa às %1</translation>
     </message>
 </context>
 <context>
@@ -330,7 +351,7 @@
     </message>
     <message>
         <source>Pre&amp;sence</source>
-        <translation>Sta&amp;tus</translation>
+        <translation>Stat&amp;us</translation>
     </message>
     <message>
         <source>Move Up</source>
@@ -355,6 +376,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>Des&amp;fazer</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>E&amp;xibir certificado…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>&amp;Testar o início de sessão</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>&amp;Log</translation>
     </message>
 </context>
 <context>
@@ -437,6 +470,87 @@
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Nenhum protocolo está carregado. Carregue um na página “Plug-ins”.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLog</name>
+    <message>
+        <source>Off line</source>
+        <translation>Desconectada</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>Logging out</source>
+        <translation>Encerrando a sessão</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Aguardando</translation>
+    </message>
+    <message>
+        <source>The program requests a log-in</source>
+        <translation>O programa solicita um início de sessão</translation>
+    </message>
+    <message>
+        <source>The program changes the presence</source>
+        <translation>O programa altera o status</translation>
+    </message>
+    <message>
+        <source>The program requests a log-out</source>
+        <translation>O programa solicita o encerramento da sessão</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 (falha)</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 (sucesso)</translation>
+    </message>
+    <message>
+        <source>%1 begins</source>
+        <translation>%1 (começo)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = an event, as &quot;Connected&quot;, %2 = more about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountLogWindow</name>
+    <message>
+        <source>Log of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Log de %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copies the selected entries, or all when none is selected. They hold no passwords.</source>
+        <translation>Copia as entradas selecionadas, ou todas se nenhuma estiver selecionada. Elas não contêm senhas.</translation>
+    </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Relatório…</translation>
+    </message>
+    <message>
+        <source>Puts the log and the versions of the program together for somebody who helps.</source>
+        <translation>Reúne o log e as versões do programa para quem ajudar você.</translation>
+    </message>
+    <message>
+        <source>%1  %2</source>
+        <extracomment>%1 = time of day, %2 = an event</extracomment>
+        <translation>%1  %2</translation>
     </message>
 </context>
 <context>
@@ -672,6 +786,14 @@
         <source>It can be tried again with Reconnect.</source>
         <translation>Você pode tentar novamente com “Reconectar”.</translation>
     </message>
+    <message>
+        <source>Look at it with Show Certificate.</source>
+        <translation>Veja-o com “Exibir certificado”.</translation>
+    </message>
+    <message>
+        <source>It is another one than the one that you have trusted.</source>
+        <translation>Não é o mesmo em que você confiou.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountStrip</name>
@@ -722,6 +844,30 @@
     <message>
         <source>They can be enabled, disabled and removed with the context menu.</source>
         <translation>Elas podem ser ativadas, desativadas e removidas pelo menu de contexto.</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>Shows what happened to the account&apos;s connection.</source>
+        <translation>Mostra o que aconteceu com a conexão da conta.</translation>
+    </message>
+    <message>
+        <source>What Is Wrong?</source>
+        <translation>O que há de errado?</translation>
+    </message>
+    <message>
+        <source>Tries each step of the log-in with what is stored, beside the account&apos;s own connection.</source>
+        <translation>Testa cada etapa do início de sessão com o que está armazenado, em paralelo à conexão da própria conta.</translation>
+    </message>
+    <message>
+        <source>Show Certificate…</source>
+        <translation>Exibir certificado…</translation>
+    </message>
+    <message>
+        <source>Shows the certificate of the server and asks whether it is trusted.</source>
+        <translation>Mostra o certificado do servidor e pergunta se você confia nele.</translation>
     </message>
 </context>
 <context>
@@ -925,6 +1071,67 @@
     </message>
 </context>
 <context>
+    <name>KirvCertificateQuestion</name>
+    <message>
+        <source>Trusted Certificate</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Certificado confiável</translation>
+    </message>
+    <message>
+        <source>Certificate of %1</source>
+        <translation>Certificado de %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the certificate</source>
+        <translation>O que há de errado com o certificado</translation>
+    </message>
+    <message>
+        <source>Somebody between you and the server could read your password.</source>
+        <translation>Alguém entre você e o servidor poderia ler a sua senha.</translation>
+    </message>
+    <message>
+        <source>You have chosen to trust this certificate for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Você decidiu confiar neste certificado para a conta %1.</translation>
+    </message>
+    <message>
+        <source>The server shows another certificate than the one that you have trusted for the account %1.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>O servidor apresenta um certificado diferente daquele em que você confiou para a conta %1.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server of the account %1 is not trusted.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>O certificado do servidor da conta %1 não é confiável.</translation>
+    </message>
+    <message>
+        <source>Trusted so far</source>
+        <extracomment>the fingerprint of the certificate that was trusted so far</extracomment>
+        <translation>Confiável até agora</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <extracomment>the caption of a line: %1 = what it is about</extracomment>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>&amp;Trust for This Account</source>
+        <translation>&amp;Confiar para esta conta</translation>
+    </message>
+    <message>
+        <source>&amp;Stop Trusting</source>
+        <translation>&amp;Deixar de confiar</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Connect</source>
+        <translation>&amp;Não conectar</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ose</source>
+        <translation>&amp;Fechar</translation>
+    </message>
+</context>
+<context>
     <name>KirvClient</name>
     <message>
         <source>Accounts</source>
@@ -975,6 +1182,14 @@
             <numerusform>%n senha foi movida para o seu chaveiro (%1).</numerusform>
             <numerusform>%n senhas foram movidas para o seu chaveiro (%1).</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
+        <translation>O link não foi aberto porque outra janela aguarda uma resposta. Feche-a e abra o link novamente.</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +1390,10 @@
         <source>The directory entry is not known. Fetch it again to change it.</source>
         <translation>A entrada do diretório não é conhecida. Obtenha-a novamente para alterá-la.</translation>
     </message>
+    <message>
+        <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
+        <translation>Nada foi salvo, porque a entrada não pode ser publicada assim. Corrija o que está marcado.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1203,8 +1422,8 @@
         <translation>A imagem não foi alterada.</translation>
     </message>
     <message>
-        <source>The password is not in the keyring any more.</source>
-        <translation>A senha não está mais no chaveiro.</translation>
+        <source>None is stored</source>
+        <translation>Nenhuma está armazenada</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1667,103 @@
     <message>
         <source>Not chosen</source>
         <translation>Não escolhido</translation>
+    </message>
+</context>
+<context>
+    <name>KirvFileButton</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Escolher…</translation>
+    </message>
+    <message>
+        <source>Choose the file.</source>
+        <translation>Escolher o arquivo.</translation>
+    </message>
+    <message>
+        <source>Choose the file for %1</source>
+        <extracomment>%1 = what the file is, as &quot;Trusted certificate&quot;</extracomment>
+        <translation>Escolher o arquivo para “%1”</translation>
+    </message>
+    <message>
+        <source>Certificates and keys (*.pem *.crt *.cer *.key)</source>
+        <translation>Certificados e chaves (*.pem *.crt *.cer *.key)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvGeneralPage</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the program:</source>
+        <translation>&amp;Idioma do programa:</translation>
+    </message>
+    <message>
+        <source>As the system (%1)</source>
+        <extracomment>entry of a list of languages; %1 = the language of the system in its own words, as &quot;Deutsch&quot;</extracomment>
+        <translation>Como o sistema (%1)</translation>
+    </message>
+    <message>
+        <source>No native speaker has read these texts yet.</source>
+        <translation>Nenhum falante nativo leu estes textos ainda.</translation>
+    </message>
+    <message>
+        <source>The language changes when the open windows are closed.</source>
+        <translation>O idioma muda quando as janelas abertas são fechadas.</translation>
+    </message>
+    <message>
+        <source>Passwords</source>
+        <translation>Senhas</translation>
+    </message>
+    <message>
+        <source>&amp;Unlock…</source>
+        <translation>&amp;Desbloquear…</translation>
+    </message>
+    <message>
+        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
+        <translation>Lê as senhas que as contas aguardam; o chaveiro pede que você o desbloqueie.</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>Your accounts and settings are in the folder %1.</source>
+        <extracomment>%1 = path of a folder</extracomment>
+        <translation>Suas contas e configurações estão na pasta %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>&amp;Abrir pasta</translation>
+    </message>
+    <message>
+        <source>Shows the folder in the file manager.</source>
+        <translation>Mostra a pasta no gerenciador de arquivos.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile</source>
+        <translation>Cópias do perfil</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Contas</translation>
+    </message>
+    <message>
+        <source>There are no copies of the profile yet.</source>
+        <translation>Ainda não há cópias do perfil.</translation>
+    </message>
+    <message>
+        <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
+        <translation>Cópias do perfil, sem senhas; uma delas pode ser restaurada se o perfil estiver danificado:</translation>
     </message>
 </context>
 <context>
@@ -1862,6 +2178,126 @@
     </message>
 </context>
 <context>
+    <name>KirvLoginStep</name>
+    <message>
+        <source>Name look-up</source>
+        <translation>Resolução do nome</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Conexão</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Criptografia</translation>
+    </message>
+    <message>
+        <source>Log-in</source>
+        <translation>Autenticação</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTest</name>
+    <message>
+        <source>The plug-in gives no connection.</source>
+        <translation>O plug-in não fornece nenhuma conexão.</translation>
+    </message>
+    <message>
+        <source>The log-in works.</source>
+        <translation>O início de sessão funciona.</translation>
+    </message>
+    <message>
+        <source>The test was cancelled.</source>
+        <translation>O teste foi cancelado.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection&quot;; %2 = with whom or how, as &quot;192.0.2.7&quot;, or what went wrong</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>%1 = a step of a log-in, as &quot;Connection: 192.0.2.7&quot;, %2 = a sentence about what went wrong</extracomment>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>em andamento</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>sucesso</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falha</translation>
+    </message>
+    <message>
+        <source>Test of a log-in, %1</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Teste de um início de sessão, %1</translation>
+    </message>
+    <message>
+        <source>[%1] %2 (%3 ms)</source>
+        <extracomment>%1 = &quot;done&quot; or &quot;failed&quot;, %2 = a step of a log-in, %3 = number of milliseconds</extracomment>
+        <translation>[%1] %2 (%3 ms)</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestDialog</name>
+    <message>
+        <source>Log-In of %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Início de sessão de %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvLoginTestView</name>
+    <message>
+        <source>Copy Report</source>
+        <translation>Copiar relatório</translation>
+    </message>
+    <message>
+        <source>Steps of the log-in</source>
+        <translation>Etapas do início de sessão</translation>
+    </message>
+    <message>
+        <source>Copies the steps and the versions of the program, without the password.</source>
+        <translation>Copia as etapas e as versões do programa, sem a senha.</translation>
+    </message>
+    <message>
+        <source>Test Log-In</source>
+        <translation>Testar o início de sessão</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <extracomment>%1 = number of milliseconds</extracomment>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = what became of a step (&quot;done&quot;, &quot;failed&quot;), %2 = the step</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = a step and what became of it, %2 = how long it took</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Cancel Test</source>
+        <translation>Cancelar teste</translation>
+    </message>
+    <message>
+        <source>Test Again</source>
+        <translation>Testar novamente</translation>
+    </message>
+    <message>
+        <source>Logs in once with what is here, and shows each step. Nothing is stored.</source>
+        <translation>Inicia a sessão uma vez com o que está aqui e mostra cada etapa. Nada é armazenado.</translation>
+    </message>
+</context>
+<context>
     <name>KirvMainAccountSelector</name>
     <message>
         <source>%1 (its plug-in is not loaded)</source>
@@ -1925,6 +2361,22 @@
     <message>
         <source>&amp;Log In</source>
         <translation>&amp;Entrar</translation>
+    </message>
+    <message>
+        <source>The server did not accept the password that was used last.</source>
+        <translation>O servidor não aceitou a última senha usada.</translation>
+    </message>
+    <message>
+        <source>The account has a password; the one that you enter takes its place.</source>
+        <translation>A conta tem uma senha; a que você digitar a substituirá.</translation>
+    </message>
+    <message>
+        <source>No password was entered for this account yet.</source>
+        <translation>Nenhuma senha foi digitada para esta conta ainda.</translation>
+    </message>
+    <message>
+        <source>The password is not remembered, so it is needed when the account logs in.</source>
+        <translation>A senha não é lembrada, portanto é necessária quando a conta inicia a sessão.</translation>
     </message>
 </context>
 <context>
@@ -2100,6 +2552,35 @@
         <source>There are no plug-ins.</source>
         <translation>Não há plug-ins.</translation>
     </message>
+    <message>
+        <source>&amp;Report…</source>
+        <translation>&amp;Relatório…</translation>
+    </message>
+    <message>
+        <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
+        <translation>Reúne as versões, os plug-ins e o estado das contas para quem ajudar você.</translation>
+    </message>
+    <message>
+        <source>When the plug-in %1 is unloaded, its account %2 goes off line.</source>
+        <extracomment>%1 = name of a plug-in, %2 = name of an account</extracomment>
+        <translation>Quando o plug-in %1 é descarregado, a conta %2 dele fica desconectada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>When the plug-in %1 is unloaded, its %n connected accounts go off line.</source>
+        <extracomment>%1 = name of a plug-in</extracomment>
+        <translation>
+            <numerusform>Quando o plug-in %1 é descarregado, a %n conta conectada dele fica desconectada.</numerusform>
+            <numerusform>Quando o plug-in %1 é descarregado, as %n contas conectadas dele ficam desconectadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unload Plug-in</source>
+        <translation>Descarregar plug-in</translation>
+    </message>
+    <message>
+        <source>The accounts stay in your profile and come back when the plug-in is loaded again.</source>
+        <translation>As contas permanecem no seu perfil e voltam quando o plug-in é carregado novamente.</translation>
+    </message>
 </context>
 <context>
     <name>KirvProfileCheck</name>
@@ -2262,6 +2743,56 @@
     </message>
 </context>
 <context>
+    <name>KirvProviderList</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 (not verified; %2, %3)</source>
+        <extracomment>%1 = a server, %2 = who says that it can be used, as a web address, %3 = date</extracomment>
+        <translation>%1 (não verificado; %2, %3)</translation>
+    </message>
+    <message>
+        <source>Providers</source>
+        <translation>Provedores</translation>
+    </message>
+    <message>
+        <source>The Down key shows known providers.</source>
+        <translation>A tecla Seta para baixo mostra os provedores conhecidos.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 cannot be read.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>A lista de provedores %1 não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>The list of providers %1 is not used: it is too large.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>A lista de provedores %1 não é usada: ela é grande demais.</translation>
+    </message>
+    <message>
+        <source>About the list of providers %1: %2</source>
+        <extracomment>%1 = path of a file, %2 = a sentence</extracomment>
+        <translation>Sobre a lista de provedores %1: %2</translation>
+    </message>
+    <message>
+        <source>It is not used, because it has not the format of such a list.</source>
+        <translation>Ela não é usada, porque não tem o formato de uma lista desse tipo.</translation>
+    </message>
+    <message>
+        <source>One entry is left out, because it is not complete.</source>
+        <translation>Uma entrada foi omitida, porque está incompleta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are left out, because they are not complete.</source>
+        <translation>
+            <numerusform>%n entrada foi omitida, porque está incompleta.</numerusform>
+            <numerusform>%n entradas foram omitidas, porque estão incompletas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvProxy</name>
     <message>
         <source>Proxy</source>
@@ -2372,6 +2903,116 @@
     </message>
 </context>
 <context>
+    <name>KirvReport</name>
+    <message>
+        <source>Qt %1 (%2)</source>
+        <extracomment>%1 = a version, %2 = a processor</extracomment>
+        <translation>Qt %1 (%2)</translation>
+    </message>
+    <message>
+        <source>No library for encryption</source>
+        <translation>Nenhuma biblioteca de criptografia</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <extracomment>%1 = &quot;Debian GNU/Linux 12&quot;, %2 = &quot;linux 6.1&quot;, %3 = a processor</extracomment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: no versions stated</source>
+        <extracomment>%1 = name of a protocol, %2 = &quot;QXmpp 1.4.0&quot;, or several such</extracomment>
+        <translation>%1: nenhuma versão informada</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>(name)</source>
+        <translation>(nome)</translation>
+    </message>
+    <message>
+        <source>%1: %2, file %3</source>
+        <extracomment>%1 = name of a plug-in, %2 = its state, %3 = name of a file</extracomment>
+        <translation>%1: %2, arquivo %3</translation>
+    </message>
+    <message>
+        <source>Account %1, %2</source>
+        <extracomment>%1 = a number, %2 = name of a protocol</extracomment>
+        <translation>Conta %1, %2</translation>
+    </message>
+    <message>
+        <source>Login: %1</source>
+        <extracomment>%1 = a login</extracomment>
+        <translation>Nome de usuário: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <extracomment>%1 = &quot;Connected&quot; or another state</extracomment>
+        <translation>Estado: %1</translation>
+    </message>
+    <message>
+        <source>Report of %1 (times in UTC)</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Relatório de %1 (horários em UTC)</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more accounts are left out.</source>
+        <translation>
+            <numerusform>Mais %n conta foi omitida.</numerusform>
+            <numerusform>Mais %n contas foram omitidas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvReportWindow</name>
+    <message>
+        <source>&amp;Include logins and other names</source>
+        <translation>&amp;Incluir nomes de usuário e outros nomes</translation>
+    </message>
+    <message>
+        <source>Report for Somebody Who Helps</source>
+        <translation>Relatório para quem ajudar você</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Relatório</translation>
+    </message>
+    <message>
+        <source>Passwords are left out. Read the report before you give it to anybody.</source>
+        <translation>As senhas são omitidas. Leia o relatório antes de entregá-lo a alguém.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Salvar…</translation>
+    </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Salvar relatório</translation>
+    </message>
+    <message>
+        <source>report</source>
+        <translation>relatório</translation>
+    </message>
+    <message>
+        <source>The report was saved to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>O relatório foi salvo em %1.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved to %1: %2.</source>
+        <translation>Não foi possível salvar o relatório em %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvRescueWindow</name>
     <message>
         <source>Damaged Profile</source>
@@ -2460,21 +3101,17 @@
 <context>
     <name>KirvSecretTexts</name>
     <message>
-        <source>your keyring</source>
-        <translation>seu chaveiro</translation>
-    </message>
-    <message>
         <source>in a file only you can read</source>
         <translation>em um arquivo que só você pode ler</translation>
     </message>
     <message>
         <source>in %1</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>em %1</translation>
     </message>
     <message>
         <source>in %1 (locked: you will be asked to unlock it)</source>
-        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;, or &quot;your keyring&quot;</extracomment>
+        <extracomment>where a password is kept; %1 = &quot;GNOME Keyring&quot;</extracomment>
         <translation>em %1 (bloqueado: será solicitado que você o desbloqueie)</translation>
     </message>
     <message>
@@ -2511,6 +3148,7 @@
     </message>
     <message>
         <source>The password is being read from %1.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
         <translation>A senha está sendo lida de %1.</translation>
     </message>
     <message>
@@ -2534,9 +3172,95 @@
         <translation>A senha está em %1, que não pode ser lido. “Reconectar” tenta novamente.</translation>
     </message>
     <message>
-        <source>%1. The password stays as it is unless you enter another one.</source>
-        <extracomment>%1 = a few words, as &quot;The keyring is locked&quot;</extracomment>
-        <translation>%1. A senha permanece como está, a menos que você digite outra.</translation>
+        <source>in your keyring</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>no seu chaveiro</translation>
+    </message>
+    <message>
+        <source>in your keyring (locked: you will be asked to unlock it)</source>
+        <extracomment>where a password is kept</extracomment>
+        <translation>no seu chaveiro (bloqueado: será solicitado que você o desbloqueie)</translation>
+    </message>
+    <message>
+        <source>Passwords that are remembered are kept in a file only you can read.</source>
+        <translation>As senhas lembradas são guardadas em um arquivo que só você pode ler.</translation>
+    </message>
+    <message>
+        <source>The program is finding out whether there is a keyring.</source>
+        <translation>O programa está verificando se há um chaveiro.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is unlocked.</source>
+        <extracomment>%1 = &quot;GNOME Keyring&quot;, here and below</extracomment>
+        <translation>%1 guarda as senhas. Este chaveiro está desbloqueado.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is unlocked.</source>
+        <translation>O seu chaveiro guarda as senhas. Ele está desbloqueado.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It is locked.</source>
+        <translation>%1 guarda as senhas. Este chaveiro está bloqueado.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It is locked.</source>
+        <translation>O seu chaveiro guarda as senhas. Ele está bloqueado.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the passwords. It does not respond.</source>
+        <translation>%1 guarda as senhas. Este chaveiro não responde.</translation>
+    </message>
+    <message>
+        <source>Your keyring keeps the passwords. It does not respond.</source>
+        <translation>O seu chaveiro guarda as senhas. Ele não responde.</translation>
+    </message>
+    <message>
+        <source>There is no keyring.</source>
+        <translation>Não há chaveiro.</translation>
+    </message>
+    <message>
+        <source>The password is being read from your keyring.</source>
+        <translation>A senha está sendo lida do seu chaveiro.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which is locked. Unlock it.</source>
+        <translation>A senha está no seu chaveiro, que está bloqueado. Desbloqueie-o.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which was not unlocked. Reconnect asks again.</source>
+        <translation>A senha está no seu chaveiro, que não foi desbloqueado. “Reconectar” solicita o desbloqueio novamente.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which does not respond. The account connects when it does.</source>
+        <translation>A senha está no seu chaveiro, que não responde. A conta se conectará quando ele responder.</translation>
+    </message>
+    <message>
+        <source>The password is in your keyring, which cannot be read. Reconnect tries again.</source>
+        <translation>A senha está no seu chaveiro, que não pode ser lido. “Reconectar” tenta novamente.</translation>
+    </message>
+    <message>
+        <source>The password is being read. It stays as it is unless you enter another one.</source>
+        <translation>A senha está sendo lida. Ela permanece como está, a menos que você digite outra.</translation>
+    </message>
+    <message>
+        <source>The keyring is locked. The password stays as it is unless you enter another one.</source>
+        <translation>O chaveiro está bloqueado. A senha permanece como está, a menos que você digite outra.</translation>
+    </message>
+    <message>
+        <source>The keyring does not respond. The password stays as it is unless you enter another one.</source>
+        <translation>O chaveiro não responde. A senha permanece como está, a menos que você digite outra.</translation>
+    </message>
+    <message>
+        <source>The keyring is not there. The password stays as it is unless you enter another one.</source>
+        <translation>O chaveiro não está disponível. A senha permanece como está, a menos que você digite outra.</translation>
+    </message>
+    <message>
+        <source>The keyring cannot be read. The password stays as it is unless you enter another one.</source>
+        <translation>O chaveiro não pode ser lido. A senha permanece como está, a menos que você digite outra.</translation>
+    </message>
+    <message>
+        <source>The password is not in the keyring any more.</source>
+        <translation>A senha não está mais no chaveiro.</translation>
     </message>
 </context>
 <context>
@@ -2597,6 +3321,85 @@
     </message>
 </context>
 <context>
+    <name>KirvServerCertificate</name>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>whom a certificate is for or from: %1 = name, %2 = organization</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>It is not for %1.</source>
+        <extracomment>%1 = name of a server</extracomment>
+        <translation>Ele não é para %1.</translation>
+    </message>
+    <message>
+        <source>It is for %1, and not for %2.</source>
+        <extracomment>%1 and %2 = names of servers</extracomment>
+        <translation>Ele é para %1, e não para %2.</translation>
+    </message>
+    <message>
+        <source>It is self-signed: no authority has issued it.</source>
+        <translation>Ele é autoassinado: nenhuma autoridade o emitiu.</translation>
+    </message>
+    <message>
+        <source>It is not from an authority that this computer trusts.</source>
+        <translation>Ele não é de uma autoridade na qual este computador confia.</translation>
+    </message>
+    <message>
+        <source>It has expired: it was valid until %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Ele expirou: era válido até %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer has expired.</source>
+        <translation>Um certificado do emissor dele expirou.</translation>
+    </message>
+    <message>
+        <source>It is not valid before %1.</source>
+        <extracomment>%1 = date and time</extracomment>
+        <translation>Ele não é válido antes de %1.</translation>
+    </message>
+    <message>
+        <source>A certificate of its issuer is not valid yet.</source>
+        <translation>Um certificado do emissor dele ainda não é válido.</translation>
+    </message>
+    <message>
+        <source>It was withdrawn.</source>
+        <translation>Ele foi revogado.</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <extracomment>the servers that a certificate is for</extracomment>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <extracomment>whom a certificate is for</extracomment>
+        <translation>Titular</translation>
+    </message>
+    <message>
+        <source>Issued by</source>
+        <extracomment>as in &quot;Issued by: itself&quot;</extracomment>
+        <translation>Emitido por</translation>
+    </message>
+    <message>
+        <source>itself</source>
+        <translation>ele mesmo</translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation>Válido desde</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Válido até</translation>
+    </message>
+    <message>
+        <source>Fingerprint (SHA-256)</source>
+        <translation>Impressão digital (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvServerCommands</name>
     <message>
         <source>None of the loaded plug-ins can register a new account.</source>
@@ -2645,6 +3448,11 @@
     <message>
         <source>Remove Again</source>
         <translation>Remover novamente</translation>
+    </message>
+    <message>
+        <source>The password of the account %1 is changed on its server.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>A senha da conta %1 foi alterada no servidor dela.</translation>
     </message>
 </context>
 <context>
@@ -2807,6 +3615,10 @@
     <message>
         <source>It has not proved that it knows the password.</source>
         <translation>Ele não provou que conhece a senha.</translation>
+    </message>
+    <message>
+        <source>Its part of the log-in is wrong.</source>
+        <translation>A parte dele na autenticação está incorreta.</translation>
     </message>
 </context>
 <context>
@@ -3029,6 +3841,14 @@
         <source>Sending the form…</source>
         <translation>Enviando o formulário…</translation>
     </message>
+    <message>
+        <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>
+        <translation>O certificado do servidor não é confiável. Alguém entre você e o servidor poderia ler a sua senha.</translation>
+    </message>
+    <message>
+        <source>Trust for This Account</source>
+        <translation>Confiar para esta conta</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppRoute</name>
@@ -3049,6 +3869,16 @@
         <source>%1 does not start with encryption at once. Do not choose direct TLS, or choose another port.</source>
         <extracomment>%1 is a server and its port</extracomment>
         <translation>%1 não começa imediatamente com criptografia. Não escolha TLS direto ou escolha outra porta.</translation>
+    </message>
+    <message>
+        <source>servers of %1</source>
+        <extracomment>%1 = a domain</extracomment>
+        <translation>servidores de %1</translation>
+    </message>
+    <message>
+        <source>the server refers to %1</source>
+        <extracomment>%1 = a server</extracomment>
+        <translation>o servidor encaminha para %1</translation>
     </message>
 </context>
 <context>
@@ -3235,6 +4065,11 @@
         <source>The file %1 does not hold a certificate in PEM format.</source>
         <translation>O arquivo %1 não contém um certificado no formato PEM.</translation>
     </message>
+    <message>
+        <source>The trusted certificate %1 is not a file.</source>
+        <extracomment>%1 is a file name</extracomment>
+        <translation>O certificado confiável %1 não é um arquivo.</translation>
+    </message>
 </context>
 <context>
     <name>KirvXmppVCard</name>
@@ -3281,6 +4116,10 @@
     <message>
         <source>About</source>
         <translation>Sobre mim</translation>
+    </message>
+    <message>
+        <source>An address that begins with http:// or https://.</source>
+        <translation>Um endereço que começa com http:// ou https://.</translation>
     </message>
 </context>
 <context>

@@ -115,9 +115,11 @@ const QList<QStringList> &kirvStoreSchemaSteps()
                            " field TEXT NOT NULL,"
                            " stage INTEGER NOT NULL) WITHOUT ROWID"),
             QStringLiteral("CREATE INDEX secret_item_stage ON secret_item (stage)"),
+        },
+        {
+            QStringLiteral("ALTER TABLE account ADD COLUMN trusted_certificate TEXT NOT NULL DEFAULT ''"),
             QStringLiteral("CREATE INDEX secret_item_account ON secret_item (account, field)"),
         },
-        { QStringLiteral("ALTER TABLE account ADD COLUMN trusted_certificate TEXT NOT NULL DEFAULT ''") },
     };
     return steps;
 }
