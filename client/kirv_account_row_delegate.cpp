@@ -20,7 +20,7 @@ namespace {
 
 const int millisecondsOfASecond = 1000;
 /// How much of the colour of the name the line below it has.
-const qreal strengthOfState = 0.75;
+const int percentOfState = 75;
 const qreal readableContrast = 4.6; // 4.5 is enough for small text; colours are rounded
 
 QColor mixed(const QColor &ink, const QColor &paper, qreal strength)
@@ -50,8 +50,8 @@ bool canBeRead(const QColor &ink, const QColor &paper)
 /// A paler \a ink, as far as it can be read.
 QColor paler(const QColor &ink, const QColor &paper)
 {
-    for (qreal strength = strengthOfState; strength < 1; strength += 0.05) {
-        const QColor pale = mixed(ink, paper, strength);
+    for (int percent = percentOfState; percent < 100; percent += 5) {
+        const QColor pale = mixed(ink, paper, percent / 100.0);
         if (canBeRead(pale, paper))
             return pale;
     }

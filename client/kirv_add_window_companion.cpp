@@ -154,7 +154,7 @@ KirvLogin KirvAddWindowCompanion::typedLogin() const
 /// An account that exists already can be tested, too.
 void KirvAddWindowCompanion::updateTest()
 {
-    if (!test)
+    if (!test || !base)
         return;
     const QString login = loginEdit->text();
     test->setProblem(login.isEmpty() ? tr("The login is missing.") : base->loginProblem(login));
@@ -195,7 +195,7 @@ void KirvAddWindowCompanion::growToFit()
 
 void KirvAddWindowCompanion::updateSaving()
 {
-    if (!saveWithoutPassword) // not built yet
+    if (!saveWithoutPassword || !base) // not built yet, or about to close
         return;
     updateTest();
     const bool hasLogin = !loginEdit->text().isEmpty(), hasPassword = !passwordEdit->text().isEmpty();

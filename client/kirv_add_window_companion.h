@@ -6,6 +6,7 @@
 #include "core/ui/kirv_layout_dialog.h"
 #include "core/values/kirv_account_key.h"
 
+#include <QPointer>
 #include <QString>
 
 class KirvAccountCollection;
@@ -56,7 +57,7 @@ private:
     void correctMessage(const KirvAccountKey &key, const QString &reason);
 
     const KirvAccountCollection &accounts;
-    KirvProtocolBase *const base; ///< the window is closed before the protocol goes
+    const QPointer<KirvProtocolBase> base; ///< null: the protocol has gone, and the window is about to
     const QString protocolName;
     QLineEdit *loginEdit = nullptr;
     QLineEdit *passwordEdit = nullptr;

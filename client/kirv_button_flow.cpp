@@ -8,7 +8,7 @@
 
 namespace {
 /// Of text: how high a window is where several rows take no room from what is more important.
-const int linesOfRoom = 28;
+const int linesOfRoom = 26;
 }
 
 KirvButtonFlow::KirvButtonFlow(QWidget *parent)

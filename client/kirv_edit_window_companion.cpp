@@ -25,6 +25,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 #include <QTextEdit>
 
 #include <utility>
@@ -127,7 +128,9 @@ void KirvEditWindowCompanion::fitToScreen()
         area->ensurePolished();
     // Once the forms in the areas are laid out, they may be narrower.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    window()->resize(window()->sizeHint().boundedTo(window()->screen()->availableSize() * 9 / 10));
+    const int scrollBar = window()->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, window());
+    window()->resize(
+        (window()->sizeHint() + QSize(3 * scrollBar, 0)).boundedTo(window()->screen()->availableSize() * 9 / 10));
 }
 
 void KirvEditWindowCompanion::bindWindow()

@@ -4,6 +4,7 @@
 #include "client/kirv_damaged_profile.h"
 #include "client/kirv_secret_texts.h"
 #include "client/kirv_translations.h"
+#include "client/kirv_wrapped_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/store/kirv_profile_rescue.h"
 #include "core/ui/kirv_form_area.h"
@@ -73,6 +74,7 @@ QGroupBox *KirvGeneralPage::createLanguage(const KirvTranslations *translations)
 
     auto *form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->addRow(label, languageBox);
     auto *column = new QVBoxLayout(group);
     column->addLayout(form);
@@ -147,9 +149,10 @@ QGroupBox *KirvGeneralPage::createProfile()
 {
     auto *group = new QGroupBox(tr("Profile"), this);
     group->setObjectName(QStringLiteral("General_ProfileGroup"));
-    QLabel *folder = createText("General_ProfileFolder", group);
+    auto *folder = new KirvWrappedText(group);
+    folder->setObjectName(QStringLiteral("General_ProfileFolder"));
     //: %1 = path of a folder
-    folder->setText(
+    folder->showText(
         tr("Your accounts and settings are in the folder %1.").arg(QDir::toNativeSeparators(profileFolder)));
     auto *openButton = new QPushButton(tr("&Open Folder"), group);
     openButton->setObjectName(QStringLiteral("General_OpenFolderButton"));

@@ -19,7 +19,7 @@ namespace {
 QString reasonOf(const KirvAccount &account)
 {
     const KirvAccountRecord &record = account.record();
-    if (account.awaitsSecrets())
+    if (account.awaitsPassword())
         return kirvPlainName(KirvSecretTexts(account.secrets()).obstacle());
     if (record.password.isEmpty() && record.unreadSecrets.contains(QString()))
         return KirvSecretTexts::passwordIsGone();

@@ -70,7 +70,7 @@ QString KirvProviderList::readFile(const QString &path)
 QString KirvProviderList::read(const QByteArray &content)
 {
     entries.clear();
-    QJsonParseError error;
+    QJsonParseError error {};
     const QJsonObject list = QJsonDocument::fromJson(content, &error).object();
     if (error.error != QJsonParseError::NoError || list.value(QLatin1String("format")).toInt() != knownFormat)
         return tr("It is not used, because it has not the format of such a list.");

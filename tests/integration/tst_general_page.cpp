@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QUrl>
@@ -344,7 +345,7 @@ void tst_GeneralPage::lockedKeyringIsUnlocked()
 
 void tst_GeneralPage::folderIsOpened()
 {
-    QVERIFY(part<QLabel>("ProfileFolder")->text().contains(windows->profileFolder()));
+    QVERIFY(part<QTextEdit>("ProfileFolder")->toPlainText().contains(windows->profileFolder()));
     QDesktopServices::setUrlHandler("file", this, "takeUrl");
     part<QPushButton>("OpenFolderButton")->click();
     QDesktopServices::unsetUrlHandler("file");

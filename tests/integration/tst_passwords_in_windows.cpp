@@ -272,7 +272,8 @@ void tst_PasswordsInWindows::aPasswordThatIsNotInTheKeyringIsNotForNow()
     auto *dialog = windows->client->window()->findChild<KirvPasswordDialog *>();
     QVERIFY(dialog);
     QVERIFY(KirvClientWindows::child<QCheckBox>(dialog, "PasswordQuestion_Remember")->isVisible());
-    QVERIFY(!dialog->findChild<QLabel *>(QStringLiteral("PasswordQuestion_Reason")));
+    QCOMPARE(KirvClientWindows::child<QLabel>(dialog, "PasswordQuestion_Reason")->text(),
+             QStringLiteral("The password is not remembered, so it is needed when the account logs in."));
     KirvClientWindows::child<QLineEdit>(dialog, "PasswordQuestion_Password")->setText(QStringLiteral("typed"));
     dialog->accept();
     settle();

@@ -75,6 +75,9 @@ QList<KirvTextSurvey::Allowed> permissions()
           "a list, not a sentence: state, presence, role" },
         { at("^Accounts_List item$"), "the same list, or the sentences of the strip as a description" },
         { at("^Accounts_StripReason plainText$"), "the presence is named in its sentence as the protocol calls it" },
+        { at("^EditAccount_State text$"), "the line of the list" },
+        { at("^EditAccount_State (toolTip|accessibleDescription)$"), "the presence is named as the protocol calls it" },
+        { at("^KirvField_.*_Choose accessibleName$"), "the name of the setting stands in its sentence as it is shown" },
         { at("^AddAccount_Advanced(Summary text| accessibleDescription)$"), "a list of the names of settings" },
     };
 }

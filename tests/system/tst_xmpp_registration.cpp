@@ -483,6 +483,8 @@ void TestXmppRegistration::passwordIsChangedOnTheServer()
     QVERIFY(Assistant::message().contains("different"));
     QTest::keyClicks(Assistant::field("repetition"), "w");
     press(Assistant::next());
+    KIRV_TRY(Assistant::message().contains("changed"));
+    press(Assistant::close());
     KIRV_TRY(!Assistant::window());
 
     QCOMPARE(account->record().password, QString("new"));
