@@ -179,17 +179,24 @@ void KirvAddWindowCompanion::takeNewSettings()
 void KirvAddWindowCompanion::fitHeight()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of what was just shown or hidden
-    const QSize wanted = window()->sizeHint();
     const QSize available = window()->screen()->availableSize();
-    window()->resize(std::min(std::max(window()->width(), wanted.width()), available.width()),
-                     std::min(wanted.height(), available.height()));
+    const int width = std::min(std::max(window()->width(), window()->sizeHint().width()), available.width());
+    window()->resize(width, std::min(wantedHeight(width), available.height()));
+}
+
+/// Texts and rows that are wrapped need more height than the window wants by itself.
+int KirvAddWindowCompanion::wantedHeight(int width) const
+{
+    const int height = window()->sizeHint().height();
+    const QLayout *layout = window()->layout();
+    return layout && layout->hasHeightForWidth() ? std::max(height, layout->totalHeightForWidth(width)) : height;
 }
 
 /// A sentence of several lines must not hide what is below it.
 void KirvAddWindowCompanion::growToFit()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    if (window()->isVisible() && window()->sizeHint().height() > window()->height())
+    if (window()->isVisible() && wantedHeight(window()->width()) > window()->height())
         fitHeight();
 }
 

@@ -50,6 +50,7 @@ private:
     void setUpTest();
     void takeNewSettings();
     void fitHeight();
+    int wantedHeight(int width) const;
     void growToFit();
     void updateSaving();
     void updateTest();

@@ -30,9 +30,10 @@ inline QStringList symbolsOfOthers(const QStringList &symbols, const QStringList
     const QRegularExpression ofThem(
         QStringLiteral("^((vtable|typeinfo|typeinfo name) for |non-virtual thunk to )?(%1)(::|$)")
             .arg(classes.join(QLatin1Char('|'))));
-    // The ends of sections, and what the sanitizers add: marks of exported data, types that they look into.
+    // The ends of sections, what the sanitizers add (marks of exported data, types that they look into), and functions
+    // of the standard library's templates that were not inlined.
     const QRegularExpression ofTheTools(
-        QStringLiteral("^(__bss_start|_edata|_end|__odr_asan.*|typeinfo( name)? for Q\\w+)$"));
+        QStringLiteral("^(__bss_start|_edata|_end|__odr_asan.*|typeinfo( name)? for Q\\w+|(\\w+ )?std::.*)$"));
     QStringList others;
     for (const QString &symbol : symbols) {
         if (!ofThem.match(symbol).hasMatch() && !ofTheTools.match(symbol).hasMatch())
