@@ -2,6 +2,7 @@
 #include "client/kirv_plugins_page.h"
 
 #include "client/kirv_plain_text.h"
+#include "client/kirv_wrapped_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/plugins/kirv_plugin_queue.h"
 
@@ -69,19 +70,16 @@ void KirvPluginsPage::createButtons()
     unloadButton->setToolTip(tr("Logs the accounts of the plug-in out. They stay in your profile."));
 }
 
-QLabel *KirvPluginsPage::createPlace(const QString &folder)
+QWidget *KirvPluginsPage::createPlace(const QString &folder)
 {
-    auto *place = new QLabel(this);
+    auto *place = new KirvWrappedText(this);
     place->setObjectName(QStringLiteral("Plugins_Folder"));
-    place->setTextFormat(Qt::PlainText);
-    place->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    place->setWordWrap(true);
     //: %1 = path of a folder
-    place->setText(tr("Plug-ins are looked for in the folder %1.").arg(QDir::toNativeSeparators(folder)));
+    place->showText(tr("Plug-ins are looked for in the folder %1.").arg(QDir::toNativeSeparators(folder)));
     return place;
 }
 
-void KirvPluginsPage::arrange(QLabel *place)
+void KirvPluginsPage::arrange(QWidget *place)
 {
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(loadButton);

@@ -37,8 +37,8 @@ private:
     void createList();
     void createDetails();
     void createButtons();
-    QLabel *createPlace(const QString &folder);
-    void arrange(QLabel *place);
+    QWidget *createPlace(const QString &folder);
+    void arrange(QWidget *place);
     void refresh();
     void updateDetails();
     void loadCurrent();
