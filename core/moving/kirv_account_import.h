@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_ACCOUNT_IMPORT_H
+#define KIRV_ACCOUNT_IMPORT_H
+
+#include "core/moving/kirv_moved_accounts.h"
+
+#include <QList>
+#include <QString>
+
+class KirvAccount;
+class KirvAccountCollection;
+class KirvAccountHistory;
+class KirvMainAccount;
+
+/// Takes the accounts of a file over into the profile, as one change that can be undone.
+///
+/// An account that exists, also with another spelling of its login, is kept or replaced; there can be only one account
+/// with a login. Nothing changes before apply().
+class KirvAccountImport {
+public:
+    struct Row {
+        KirvAccountKey key; ///< as in the file
+        QString name; ///< the alias, or the id when there is none
+        KirvAccountKey existing; ///< the account with the same login; the id is empty: it is new
+        QString problem; ///< why it cannot be taken over, a sentence; empty: it can
+        bool isTaken = false; ///< whether apply() takes it over; it replaces the existing one then
+        bool isNew() const { return existing.id.isEmpty(); }
+    };
+
+    /// None of the three is owned; they outlive this. New accounts without a problem are taken, existing ones kept.
+    KirvAccountImport(KirvAccountCollection &accounts, KirvMainAccount &mainAccount, KirvAccountHistory &history,
+                      const KirvMovedAccounts &moved);
+
+    /// One for each account of the file, in its order.
+    QList<Row> rows() const { return all; }
+    /// What was left out of the file, a sentence each.
+    QStringList leftOut() const { return moved.leftOut; }
+    /// Does nothing for a row with a problem.
+    void setTaken(int row, bool isTaken);
+    int takenCount() const;
+
+    /// Does what the rows say, all of it or, when the store refuses or an account cannot be taken over any more,
+    /// nothing: then false, and \a problem says why. The main account of the file becomes the main account only where
+    /// there was none. It is one step of the history.
+    bool apply(QString *problem);
+
+private:
+    KirvAccountCollection &accounts;
+    KirvMainAccount &mainAccount;
+    KirvAccountHistory &history;
+    KirvMovedAccounts moved;
+    QList<Row> all;
+};
+
+#endif
