@@ -5,6 +5,9 @@
 #include "client/kirv_memory_protection.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_quit_signals.h"
+#include "client/kirv_session_bus_guard.h"
+
+#include <memory>
 
 namespace {
 
@@ -38,7 +41,9 @@ int main(int argc, char *argv[])
     int status = 0;
     if (runWithoutWindow(argc, argv, &status))
         return status;
+    auto busGuard = std::make_unique<KirvSessionBusGuard>(argc, argv);
     KirvApplication application(argc, argv);
+    busGuard.reset();
     const KirvClientOptions options = KirvClientOptions::fromCommandLine(KirvApplication::arguments());
     KirvQuitSignals quitSignals;
     // Also before the main event loop runs, while the window about a damaged profile is open.

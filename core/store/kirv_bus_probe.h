@@ -9,7 +9,7 @@
 
 class QSocketNotifier;
 
-/// Finds out, without waiting, whether a message bus answers. Private to the store.
+/// Finds out, without waiting, whether a message bus answers.
 ///
 /// Whatever connects to a bus by Qt waits until the bus has answered, for up to 25 seconds, and so does everything else
 /// in the process that uses D-Bus, the end of the program included. The probe logs in to the bus over a socket that
