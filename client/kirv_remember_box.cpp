@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLayout>
+#include <QResizeEvent>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -25,12 +26,33 @@ QLayout *layoutOf(QLayout *layout, QWidget *widget)
     return nullptr;
 }
 
+/// Claims the height of its text at the width that it has. The form layout of Qt 6 forgets height for width where rows
+/// may be wrapped.
+class WrappedLine : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override
+    {
+        const QSize least = QLabel::minimumSizeHint();
+        return QSize(least.width(), qMax(least.height(), heightForWidth(width())));
+    }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QLabel::resizeEvent(event);
+        if (event->size().width() != event->oldSize().width())
+            updateGeometry();
+    }
+};
+
 } // namespace
 
 QLabel *kirvAddLineBelow(QWidget *widget, const char *suffix)
 {
     QWidget *parent = widget->parentWidget();
-    auto *line = new QLabel(parent);
+    QLabel *line = new WrappedLine(parent);
     line->setObjectName(widget->objectName() + QLatin1String(suffix));
     line->setTextFormat(Qt::PlainText);
     line->setWordWrap(true);

@@ -107,15 +107,16 @@ require_space() {
         die "the disk of $1 has $free MB free; $3 take up to $2 MB."
 }
 
-# build_preset NAME [TARGET...]: configures and builds a preset of CMakePresets.json into build/NAME.
-# The output goes to build/logs; of a failure its end is shown.
+# build_preset NAME [TARGET...]: configures and builds a preset of CMakePresets.json into build/NAME, or build/sanitize for
+# those that build a part of it. The output goes to build/logs; of a failure its end is shown.
 build_preset() {
-    local preset=$1 log started=$SECONDS
+    local preset=$1 configuration=$1 log started=$SECONDS
     shift
+    [[ $preset != @(protocols|walk) ]] || configuration=sanitize
     mkdir -p build/logs
     log=build/logs/$preset.log
     say "Building build/$preset ..."
-    if { { [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset"; } &&
+    if { { [ "build/$configuration/build.ninja" -nt CMakePresets.json ] || cmake --preset "$configuration"; } &&
         cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
         say "Built build/$preset in $((SECONDS - started)) s."
     else
