@@ -173,6 +173,8 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         }
         const KirvRemovedAccount before = accounts.copyOf(accounts.find(row.existing));
         account.record.key = row.existing;
+        if (before.record.enabled) // otherwise it logs in with what the file says
+            account.presence = before.presence;
         keepSecrets(&account.record, before.record);
         if (account.picture.isEmpty())
             keepPicture(&account, before);
