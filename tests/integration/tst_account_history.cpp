@@ -368,6 +368,10 @@ void tst_AccountHistory::removingSeveralIsOneChangeOfTheStore()
     QCOMPARE(order(), QStringList { ann });
     QCOMPARE(history->namesOf(history->latest()), QStringList({ "Alias of bob", "Alias of cleo" }));
     history->undo(history->latest());
+    QCOMPARE(core->store.commitCount(), commits + 2);
+    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    history.reset();
+    core->restart();
     QCOMPARE(order(), QStringList({ ann, bob, cleo }));
 }
 

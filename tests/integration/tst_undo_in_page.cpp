@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "tests/integration/kirv_client_windows.h"
@@ -31,7 +33,7 @@ const QString disabled = QStringLiteral("The account bob (Fake) was disabled.");
 
 } // namespace
 
-/// What was removed or disabled in the page comes back, in each of the ways that the page offers.
+/// What was removed, disabled or imported in the page comes back, in each of the ways that the page offers.
 class tst_UndoInPage : public QObject {
     Q_OBJECT
 
@@ -47,6 +49,8 @@ private Q_SLOTS:
     void menuUndoes();
     void menuOfTheEmptyPageUndoes();
     void messageUndoesDisabling();
+    void messageAndMenuUndoAnImport_data();
+    void messageAndMenuUndoAnImport();
     void undoAsksNothing();
     void undoneMainAccountIsShown();
     void greyedRowComesBackGreyed();
@@ -236,6 +240,43 @@ void tst_UndoInPage::messageUndoesDisabling()
 }
 
 /// The page handles each check box that changes, and asks for an account that still logs out.
+void tst_UndoInPage::messageAndMenuUndoAnImport_data()
+{
+    QTest::addColumn<QStringList>("ids");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("command");
+    QTest::newRow("one") << QStringList { "dora" } << "The account dora (Fake) was imported."
+                         << "&Undo Importing dora";
+    QTest::newRow("several") << QStringList { "dora", "eve" } << "2 accounts were imported."
+                             << "&Undo Importing 2 Accounts";
+}
+
+void tst_UndoInPage::messageAndMenuUndoAnImport()
+{
+    QFETCH(QStringList, ids);
+    QFETCH(QString, message);
+    KirvAccountHistory::Imported imported;
+    for (const QString &id : ids)
+        imported.added << windows->addAccount(id)->key();
+    KirvAccountHistory &history = windows->client->window()->findChild<KirvAccountUndo *>()->history();
+    for (const bool byMenu : { true, false }) {
+        history.addImport(imported);
+        QCOMPARE(windows->messages(), QStringList { message });
+        press(list(), Qt::Key_Menu, Qt::NoModifier);
+        QVERIFY(action("Accounts_UndoAction"));
+        QTEST(action("Accounts_UndoAction")->text(), "command");
+        menu()->close();
+        if (byMenu)
+            trigger("Accounts_UndoAction");
+        else
+            clickUndo();
+        QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
+        QCOMPARE(windows->messages(), QStringList());
+        for (const QString &id : ids)
+            windows->addAccount(id);
+    }
+}
+
 void tst_UndoInPage::undoAsksNothing()
 {
     windows->toggleInPage(bob);
