@@ -207,7 +207,8 @@ QString Reader::readAccount(const QJsonValue &json)
             .arg(nameOf(key), protocolOf(key));
     }
     if (!account.picture.isEmpty() && KirvBoundedImage::measuredSize(account.picture).isEmpty()) {
-        moved.leftOut << KirvAccountFile::tr("The picture of the account \"%1\" (%2) is of a kind that cannot be used.")
+        moved.leftOut << KirvAccountFile::tr(
+                             "The picture of the account \"%1\" (%2) is left out: it is of a kind that cannot be used.")
                              .arg(nameOf(key), protocolOf(key));
         account.picture.clear();
     }
