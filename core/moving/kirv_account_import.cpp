@@ -22,6 +22,17 @@ QString shown(const QString &name)
     return kirvVisibleText(kirvSingleLine(name, kirvLongestShownName));
 }
 
+/// The settings that say where and how an account connects, without the secret ones and those of the core.
+QMap<QString, QString> openSettings(const KirvAccountRecord &record)
+{
+    QMap<QString, QString> open = record.settings;
+    for (const QString &secret : record.secretSettings)
+        open.remove(secret);
+    for (const QLatin1String &own : { KirvOwnSetting::avatarOnServer, KirvOwnSetting::avatarIsChosen })
+        open.remove(own);
+    return open;
+}
+
 /// What \a record lacks of the secrets of \a before stays as it is there.
 void keepSecrets(KirvAccountRecord *record, const KirvAccountRecord &before)
 {
@@ -80,6 +91,7 @@ KirvAccountImport::KirvAccountImport(KirvAccountCollection &accounts, KirvMainAc
         account.record.avatar.clear();
         account.record.secretItems.clear();
         account.record.unreadSecrets.clear();
+        account.record.trustedCertificate.clear(); // who trusts it is the user, and only after the question
     }
     makeRows();
 }
@@ -175,7 +187,11 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         account.record.key = row.existing;
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
-        keepSecrets(&account.record, before.record);
+        // A file, which anybody may have written, sends no password of this profile to another server.
+        if (openSettings(account.record) == openSettings(before.record)) {
+            keepSecrets(&account.record, before.record);
+            account.record.trustedCertificate = before.record.trustedCertificate;
+        }
         if (account.picture.isEmpty())
             keepPicture(&account, before);
         plan->batch.replaced << account;

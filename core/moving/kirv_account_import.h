@@ -45,9 +45,10 @@ public:
 
     /// Does what the rows say, all of it or, when the store refuses or an account cannot be taken over any more,
     /// nothing: then false, and \a problem says why. New accounts follow the others in the order of the file. An
-    /// account that is replaced keeps its key and its place, and those of its passwords and secret settings, and its
-    /// picture, that did not come along. The main account of the file becomes the main account only where there was
-    /// none. It is one step of the history.
+    /// account that is replaced keeps its key and its place, its picture when none came along, and, while its other
+    /// settings are the same, those of its passwords and secret settings that did not come along, and the certificate
+    /// that is trusted. No other trusted certificate is taken over. The main account of the file becomes the main
+    /// account only where there was none. It is one step of the history.
     bool apply(QString *problem);
 
 private:

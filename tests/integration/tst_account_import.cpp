@@ -31,7 +31,6 @@ KirvMovedAccount moved(const QString &id, const QString &protocol = QStringLiter
     record.defaultPresence = record.lastPresence = QStringLiteral("away");
     record.defaultDescription = QStringLiteral("moved");
     record.restorePresence = true;
-    record.trustedCertificate = QString(64, QLatin1Char('b'));
     record.settings = { { QStringLiteral("server"), QStringLiteral("moved.example") },
                         { QStringLiteral("server-password"), QStringLiteral("moved secret of ") + id } };
     record.secretSettings = { QStringLiteral("server-password") };
@@ -66,6 +65,8 @@ private Q_SLOTS:
     void importFollowsTheOrderOfTheFile();
     void replacedAccountHasWhatTheFileSays();
     void replacedAccountKeepsWhatTheFileLacks();
+    void replacedAccountWithAnotherServerKeepsNoSecret();
+    void trustedCertificatesAreNotTakenOver();
     void replacedAccountKeepsItsPlaceAndSpelling();
     void replacedAccountLogsInWithWhatIsNew();
     void everythingIsOneChangeOfTheStore();
@@ -352,14 +353,42 @@ void tst_AccountImport::replacedAccountKeepsWhatTheFileLacks()
     KirvAccountRecord &record = accounts.accounts.first().record;
     record.password.clear();
     record.rememberPassword = false;
-    record.settings.remove("server-password");
+    record.settings.clear();
     importAll(accounts);
     const KirvAccountRecord after = core->account(bob)->record();
     QCOMPARE(after.password, QStringLiteral("word of bob"));
     QVERIFY(after.rememberPassword);
     QCOMPARE(after.settings.value("server-password"), QStringLiteral("kept"));
-    QCOMPARE(after.settings.value("server"), QStringLiteral("moved.example"));
     QVERIFY(QFile::exists(core->account(bob)->avatarPath()));
+}
+
+/// A file, which anybody may have written, sends no password of the profile to another server.
+void tst_AccountImport::replacedAccountWithAnotherServerKeepsNoSecret()
+{
+    core->account(bob)->setAccountSettings(
+        { KirvField::password(QString(), QStringLiteral("server-password"), QStringLiteral("kept"), QString()) });
+    QVERIFY(core->account(bob)->change(
+        [](KirvAccountRecord &record) { record.trustedCertificate = QString(64, QLatin1Char('a')); }));
+    KirvMovedAccounts accounts = movedAccounts({ bob });
+    KirvAccountRecord &record = accounts.accounts.first().record;
+    record.password.clear();
+    record.settings = { { QStringLiteral("server"), QStringLiteral("elsewhere.example") } };
+    importAll(accounts);
+    const KirvAccountRecord after = core->account(bob)->record();
+    QCOMPARE(after.settings.value("server"), QStringLiteral("elsewhere.example"));
+    QCOMPARE(after.password, QString());
+    QCOMPARE(after.settings.value("server-password"), QString());
+    QCOMPARE(after.trustedCertificate, QString());
+}
+
+void tst_AccountImport::trustedCertificatesAreNotTakenOver()
+{
+    KirvMovedAccounts accounts = movedAccounts({ bob, dora });
+    for (KirvMovedAccount &account : accounts.accounts)
+        account.record.trustedCertificate = QString(64, QLatin1Char('b'));
+    importAll(accounts);
+    QCOMPARE(core->account(bob)->record().trustedCertificate, QString());
+    QCOMPARE(core->account(dora)->record().trustedCertificate, QString());
 }
 
 void tst_AccountImport::replacedAccountKeepsItsPlaceAndSpelling()
@@ -744,6 +773,7 @@ void tst_AccountImport::lockedSecretsStayAndComeBack()
 
     KirvMovedAccounts accounts = movedAccounts({ ann, bob });
     accounts.accounts[0].record.password.clear(); // stays
+    accounts.accounts[0].record.settings.clear();
     importAll(accounts);
     QVERIFY(core->account(ann)->awaitsPassword());
     QVERIFY(!core->account(bob)->awaitsPassword());
