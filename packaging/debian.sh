@@ -6,7 +6,7 @@
 KIRV_BUILD_PACKAGES=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqt5sql5-sqlite
-    libqxmpp-dev libidn-dev libcommuni-dev qtkeychain-qt5-dev libsecret-1-0 qttranslations5-l10n
+    libqxmpp-dev libidn-dev libcommuni-dev qtkeychain-qt5-dev libsecret-1-0 libsodium-dev qttranslations5-l10n
     fonts-dejavu-core)
 # The private servers of the demo, the walk-through and the system tests.
 KIRV_SERVER_PACKAGES=(prosody ngircd openssl)
@@ -14,7 +14,7 @@ KIRV_SERVER_PACKAGES=(prosody ngircd openssl)
 KIRV_TEST_PACKAGES=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev libqt6opengl6-dev libqt6sql6-sqlite
     qt6-translations-l10n qtkeychain-qt6-dev gnome-keyring dbus dnsmasq-base iproute2 util-linux
-    binutils sqlite3 clang libclang-rt-14-dev clang-format clang-tidy git python3 reuse
+    binutils sqlite3 clang libclang-rt-14-dev clang-format clang-tidy git python3 python3-jsonschema reuse
     appstream desktop-file-utils man-db xvfb xauth qt6-qpa-plugins)
 # To build Debian packages, to look them over and to try them in a minimal system.
 KIRV_DEB_PACKAGES=(dpkg-dev debhelper lintian xz-utils debootstrap util-linux)

@@ -4,16 +4,22 @@
 
 #include "core/moving/kirv_moved_accounts.h"
 
+#include <QCoreApplication>
+
 class KirvAccount;
 class KirvAccountCollection;
 class KirvMainAccount;
 
 /// What of the accounts is put into a file.
-namespace KirvAccountExport {
-/// \a chosen in their order, with the main account when it is among them. \a withSecrets takes passwords and secret
-/// settings along, as far as they are stored and known: what a locked keyring holds is named in leftOut.
-KirvMovedAccounts collect(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
-                          const QList<KirvAccount *> &chosen, bool withSecrets);
-}
+class KirvAccountExport {
+    Q_DECLARE_TR_FUNCTIONS(KirvAccountExport)
+
+public:
+    /// \a chosen in the user's own order, with the main account when it is among them. \a withSecrets takes passwords
+    /// and secret settings along, as far as they are stored and known: what a locked keyring holds is named in leftOut,
+    /// and so are accounts and pictures that no file can hold. Reads the files of the pictures.
+    static KirvMovedAccounts collect(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
+                                     const QList<KirvAccount *> &chosen, bool withSecrets);
+};
 
 #endif

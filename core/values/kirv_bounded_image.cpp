@@ -54,15 +54,19 @@ QSize withScreenOfGif(const QSize &size, const QByteArray &data)
     return data.size() < 10 ? size : size.expandedTo(QSize(number(6), number(8)));
 }
 
-/// The size of the image in \a data that \a reader is about to decode; empty with the reason in \a problem when it is
-/// refused.
-QSize measure(QImageReader &reader, const QByteArray &data, const QString &name, QString *problem)
+/// The size of the image in \a data that \a reader is about to decode; empty when there is none.
+QSize measure(QImageReader &reader, const QByteArray &data)
 {
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    QSize size = reader.canRead() && isAccepted(reader.format()) ? reader.size() : QSize();
-    if (!size.isEmpty() && reader.format() == "gif")
-        size = withScreenOfGif(size, data);
+    const QSize size = reader.canRead() && isAccepted(reader.format()) ? reader.size() : QSize();
+    return !size.isEmpty() && reader.format() == "gif" ? withScreenOfGif(size, data) : size;
+}
+
+/// The same; empty with the reason in \a problem when it is refused, too.
+QSize measure(QImageReader &reader, const QByteArray &data, const QString &name, QString *problem)
+{
+    const QSize size = measure(reader, data);
     if (size.isEmpty()) {
         *problem =
             KirvBoundedImage::tr("The file \"%1\" is not a picture that can be used. Pictures in the formats PNG, "
@@ -142,6 +146,14 @@ QByteArray KirvBoundedImage::measuredFile(const QString &path, QByteArray *forma
     const QSize size = measure(reader, data, QFileInfo(path).fileName(), problem);
     *format = reader.format();
     return size.isEmpty() ? QByteArray() : data;
+}
+
+QSize KirvBoundedImage::measuredSize(const QByteArray &data)
+{
+    QBuffer buffer;
+    buffer.setData(data);
+    QImageReader reader(&buffer);
+    return measure(reader, data);
 }
 
 QStringList KirvBoundedImage::namePatterns()

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QImage>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -36,6 +37,10 @@ public:
     /// The bytes of the image file at \a path, measured but not decoded, and its format as Qt names it. Empty with the
     /// reason in \a problem when fromFile() would refuse it, too, unless it is damaged.
     static QByteArray measuredFile(const QString &path, QByteArray *format, QString *problem);
+
+    /// The size in pixels of the image that \a data, the bytes of a file, are, measured but not decoded; empty when
+    /// fromData() would refuse them for anything but their number or that of the pixels.
+    static QSize measuredSize(const QByteArray &data);
 
     /// File name patterns of the accepted formats, as "*.png".
     static QStringList namePatterns();

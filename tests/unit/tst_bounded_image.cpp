@@ -89,6 +89,7 @@ private Q_SLOTS:
     void onlyOrdinaryFilesAreRead_data();
     void onlyOrdinaryFilesAreRead();
     void measuredFileIsHandedOutAsItIs();
+    void sizeIsMeasuredWithoutALimit();
     void imageInMemoryIsBoundedToo();
     void namePatternsAreThoseOfTheAcceptedFormats();
     void nothingIsNullWithoutAReason();
@@ -300,6 +301,16 @@ void tst_bounded_image::measuredFileIsHandedOutAsItIs()
     const QString huge = write(QStringLiteral("huge.png"), pngStating(QSize(100000, 1000)));
     QCOMPARE(KirvBoundedImage::measuredFile(huge, &format, &problem), QByteArray());
     QVERIFY(problem.contains(QStringLiteral("100000 × 1000")));
+}
+
+/// So that somebody else can say what is too large.
+void tst_bounded_image::sizeIsMeasuredWithoutALimit()
+{
+    QCOMPARE(KirvBoundedImage::measuredSize(encoded(picture(QSize(600, 500)), "jpeg")), QSize(600, 500));
+    QCOMPARE(KirvBoundedImage::measuredSize(pngStating(QSize(100000, 1000))), QSize(100000, 1000));
+    QCOMPARE(KirvBoundedImage::measuredSize(gifWithScreen(QSize(6000, 5000))), QSize(6000, 5000));
+    QVERIFY(KirvBoundedImage::measuredSize("<svg width='10' height='10'/>").isEmpty());
+    QVERIFY(KirvBoundedImage::measuredSize(QByteArray()).isEmpty());
 }
 
 void tst_bounded_image::imageInMemoryIsBoundedToo()
