@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -84,7 +85,7 @@ KirvMovingFile::Content KirvMovingFile::read(const QString &path)
     QFile file;
     if (!open(&file, path, &content.problem))
         return content;
-    content.bytes = file.read(KirvAccountFile::largestFile + 1);
+    content.bytes = file.read(std::min(file.size(), KirvAccountFile::largestFile) + 1);
     const qint64 largest =
         KirvPidginFile::isOne(content.bytes) ? KirvPidginFile::largestFile : KirvAccountFile::largestFile;
     if (file.error() != QFileDevice::NoError) {
