@@ -6,6 +6,7 @@
 #include "client/kirv_account_group.h"
 #include "client/kirv_account_help.h"
 #include "client/kirv_account_invitation.h"
+#include "client/kirv_account_moving.h"
 #include "client/kirv_account_order.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_status.h"
@@ -138,6 +139,9 @@ void KirvAccountCommands::openGroupMenu(const QPoint &position)
                [group, keys] { group->disable(keys); });
     addCommand(menu, "Accounts_RemoveSeveralAction", tr("Re&move %n Accounts…", nullptr, count), group,
                [group, keys] { group->remove(keys); });
+    KirvAccountMoving *moving = &environment.moving;
+    addCommand(menu, "Accounts_ExportSeveralAction", tr("E&xport %n Accounts…", nullptr, count), moving,
+               [moving, keys] { moving->exportAccounts(keys); });
     menu->addSeparator();
     addGeneral(menu);
     menu->popup(position);
@@ -199,6 +203,9 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     menu->addSeparator();
     addMoving(menu, account);
     addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
+    KirvAccountMoving *moving = &environment.moving;
+    addCommand(menu, "Accounts_ExportAction", tr("E&xport…"), moving,
+               [moving, key] { moving->exportAccounts({ key }); });
     menu->addSeparator();
     addGeneral(menu);
     connect(account, &QObject::destroyed, menu, &QWidget::close);

@@ -10,6 +10,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountGroup;
 class KirvAccountHelp;
+class KirvAccountMoving;
 class KirvAccountOrder;
 class KirvAccountRows;
 class KirvAccountUndo;
@@ -39,6 +40,7 @@ public:
         KirvAccountGroup &group;
         KirvAccountOrder &order;
         KirvAccountHelp &help;
+        KirvAccountMoving &moving;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.

@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -14,28 +15,54 @@
 namespace {
 /// In average characters: a narrower text would make the window higher than small screens are.
 const int shortestLine = 32;
+
+/// A picture that gives way to what is more important where there is little room.
+class Picture : public QWidget {
+public:
+    Picture(const QIcon &icon, QWidget *parent)
+        : QWidget(parent)
+        , icon(icon)
+    {
+    }
+
+    QSize sizeHint() const override { return edge() * QSize(2, 2); }
+    QSize minimumSizeHint() const override { return QSize(1, 1); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        if (2 * height() >= edge())
+            icon.paint(&painter, rect());
+    }
+
+private:
+    int edge() const { return style()->pixelMetric(QStyle::PM_LargeIconSize, nullptr, this); }
+
+    const QIcon icon;
+};
+
 } // namespace
 
 KirvAccountInvitation::KirvAccountInvitation(QWidget *parent)
     : QWidget(parent)
-    , addButton(new QPushButton(tr("Add an Account"), this))
-    , registerButton(new QPushButton(tr("Register a New One…"), this))
+    , text(new QLabel(this))
+    , addButton(createButton("Add", QString()))
+    , registerButton(createButton("Register", tr("Create a new account on a server")))
+    , importButton(createButton("Import", tr("Take accounts over from a file")))
+    , pidginButton(createButton("Pidgin", tr("Take the accounts of Pidgin over; its own file is only read")))
 {
     setObjectName(QStringLiteral("Accounts_Invitation"));
-    addButton->setObjectName(QStringLiteral("Accounts_InvitationAddButton"));
-    registerButton->setObjectName(QStringLiteral("Accounts_InvitationRegisterButton"));
-    registerButton->setToolTip(tr("Create a new account on a server"));
     connect(registerButton, &QPushButton::clicked, this, &KirvAccountInvitation::registrationRequested);
+    connect(importButton, &QPushButton::clicked, this, &KirvAccountInvitation::importRequested);
+    connect(pidginButton, &QPushButton::clicked, this, [this] { Q_EMIT pidginRequested(pidginFile); });
+    pidginButton->hide();
 
-    auto *icon = new QLabel(this);
+    auto *icon = new Picture(
+        QIcon::fromTheme(QStringLiteral("system-users"), QIcon(QStringLiteral(":/kirv/client/icons/system-users.svg"))),
+        this);
     icon->setObjectName(QStringLiteral("Accounts_InvitationIcon"));
-    const int edge = 2 * style()->pixelMetric(QStyle::PM_LargeIconSize, nullptr, this);
-    const QIcon people =
-        QIcon::fromTheme(QStringLiteral("system-users"), QIcon(QStringLiteral(":/kirv/client/icons/system-users.svg")));
-    icon->setPixmap(people.pixmap(edge, edge));
-    icon->setAlignment(Qt::AlignCenter);
 
-    auto *text = new QLabel(tr("There is no account yet. Add one that you already have, or register a new one."), this);
     text->setObjectName(QStringLiteral("Accounts_InvitationText"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
@@ -43,8 +70,8 @@ KirvAccountInvitation::KirvAccountInvitation(QWidget *parent)
     text->setAlignment(Qt::AlignCenter);
 
     auto *buttons = new QVBoxLayout;
-    buttons->addWidget(addButton);
-    buttons->addWidget(registerButton);
+    for (QPushButton *button : { addButton, registerButton, importButton, pidginButton })
+        buttons->addWidget(button);
     auto *middle = new QHBoxLayout;
     middle->addStretch();
     middle->addLayout(buttons);
@@ -55,7 +82,34 @@ KirvAccountInvitation::KirvAccountInvitation(QWidget *parent)
     layout->addWidget(text);
     layout->addLayout(middle);
     layout->addStretch();
+    updateText();
     updateAddButton();
+    chooseMnemonics();
+}
+
+/// Its text comes with its mnemonic.
+QPushButton *KirvAccountInvitation::createButton(const char *name, const QString &toolTip)
+{
+    auto *button = new QPushButton(this);
+    button->setObjectName(QStringLiteral("Accounts_Invitation%1Button").arg(QLatin1String(name)));
+    button->setToolTip(toolTip);
+    return button;
+}
+
+void KirvAccountInvitation::updateText()
+{
+    text->setText(pidginFile.isEmpty()
+                      ? tr("There is no account yet. Add one that you already have, register a new one, or import "
+                           "accounts from a file.")
+                      : tr("There is no account yet. Add one that you already have, register a new one, or import "
+                           "accounts. Pidgin has accounts on this computer."));
+}
+
+void KirvAccountInvitation::offerPidgin(const QString &path)
+{
+    pidginFile = path;
+    pidginButton->setHidden(path.isEmpty());
+    updateText();
 }
 
 void KirvAccountInvitation::setAddMenu(QMenu *menu)
@@ -74,6 +128,8 @@ void KirvAccountInvitation::chooseMnemonics()
     QSet<QChar> taken = kirvMnemonicsAround(this);
     addButton->setText(kirvWithMnemonic(tr("Add an Account"), &taken));
     registerButton->setText(kirvWithMnemonic(tr("Register a New One…"), &taken));
+    importButton->setText(kirvWithMnemonic(tr("Import…"), &taken));
+    pidginButton->setText(kirvWithMnemonic(tr("Import from Pidgin…"), &taken));
 }
 
 void KirvAccountInvitation::takeFocus()

@@ -7,6 +7,7 @@
 #include "client/kirv_account_help.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
+#include "client/kirv_account_moving.h"
 #include "client/kirv_account_order.h"
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
@@ -30,6 +31,7 @@
 #include <QMessageBox>
 #include <QPalette>
 #include <QScrollBar>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -57,10 +59,12 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environ
     , strip(new KirvAccountStrip)
     , searchBar(new KirvAccountSearch(accounts, *rows, list))
     , invitation(new KirvAccountInvitation)
+    , moving(environment.moving)
     , addButton(top->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton")))
 {
     addWidgets(top, environment.help);
     addCommands(top, environment);
+    connectMoving();
     // The add dialog makes the row of its account itself, after this; accounts that come another way have none. The
     // page takes the row away itself, after this, when it removed the account.
     connect(&accounts, &KirvAccountCollection::accountAdded, this, [this](const KirvAccount *account) {
@@ -117,6 +121,17 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
         this, [this] { invitation->setAddMenu(addButton->menu()); }, Qt::QueuedConnection);
 }
 
+void KirvAccountsPageCompanion::connectMoving()
+{
+    connect(invitation, &KirvAccountInvitation::importRequested, &moving, &KirvAccountMoving::importAccounts);
+    connect(invitation, &KirvAccountInvitation::pidginRequested, &moving, &KirvAccountMoving::importFrom);
+    connect(&moving, &KirvAccountMoving::pidginFound, invitation, &KirvAccountInvitation::offerPidgin);
+    connect(&moving, &KirvAccountMoving::imported, this, [this](const QList<KirvAccountKey> &keys) {
+        imported = keys;
+        refreshLater();
+    });
+}
+
 void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &environment)
 {
     auto *delegate = new KirvAccountRowDelegate(accounts, list);
@@ -126,7 +141,7 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
     auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
     auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
     auto *commands = new KirvAccountCommands({ accounts, *rows, environment.serverCommands, environment.mainAccount,
-                                               environment.undo, *group, *order, environment.help },
+                                               environment.undo, *group, *order, environment.help, environment.moving },
                                              aliasEditor, top, list);
     connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
     connect(commands, &KirvAccountCommands::certificateRequested, this,
@@ -134,17 +149,44 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
 }
 
 /// What the user does in the list is not disturbed: an open question is answered for what is selected then.
-void KirvAccountsPageCompanion::selectNewRow(const KirvAccountKey &key)
+bool KirvAccountsPageCompanion::maySelect() const
 {
-    QTreeWidgetItem *row = rows->find(key);
     const auto questions = KirvAccountsTab::getInstance()->findChildren<QMessageBox *>();
     const bool isAsked =
         std::any_of(questions.begin(), questions.end(), [](const QMessageBox *box) { return box->isVisible(); });
-    if (!row || isAsked || aliasEditor->isOpen())
+    return !isAsked && !aliasEditor->isOpen();
+}
+
+void KirvAccountsPageCompanion::selectNewRow(const KirvAccountKey &key)
+{
+    QTreeWidgetItem *row = rows->find(key);
+    if (!row || !maySelect())
         return;
     searchBar->reveal(key);
     rows->select(row);
     list->scrollToItem(row);
+}
+
+void KirvAccountsPageCompanion::selectImported(const QList<KirvAccountKey> &keys)
+{
+    if (keys.isEmpty() || !maySelect())
+        return;
+    const QSet<KirvAccountKey> wanted(keys.begin(), keys.end());
+    QItemSelection selection;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) {
+        const KirvAccountKey key = KirvAccountRows::keyOf(list->topLevelItem(i));
+        if (!wanted.contains(key))
+            continue;
+        searchBar->reveal(key);
+        const QModelIndex index = list->model()->index(i, KirvAliasColumn);
+        selection.select(index, index);
+    }
+    if (selection.isEmpty())
+        return;
+    const QModelIndex first = selection.constFirst().topLeft();
+    list->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    list->scrollTo(first);
 }
 
 /// Shows the invitation while there is no account, and otherwise the list.
@@ -169,6 +211,8 @@ void KirvAccountsPageCompanion::invite()
         invitation->takeFocus();
     else if (hadFocus)
         list->setFocus(Qt::OtherFocusReason);
+    if (isEmpty)
+        moving.lookForPidgin();
 }
 
 void KirvAccountsPageCompanion::connectStrip(KirvAccountHelp &help)
@@ -333,6 +377,7 @@ void KirvAccountsPageCompanion::syncRows()
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
     selectNewRow(std::exchange(added, KirvAccountKey()));
+    selectImported(std::exchange(imported, {}));
 }
 
 bool KirvAccountsPageCompanion::isUpToDate(const QTreeWidgetItem *row, const KirvAccount &account)

@@ -13,6 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHelp;
 class KirvAccountInvitation;
+class KirvAccountMoving;
 class KirvAccountRows;
 class KirvAccountRowStates;
 class KirvAccountSearch;
@@ -44,6 +45,7 @@ public:
         KirvAccountUndo &undo;
         KirvClientSettings &settings;
         KirvAccountHelp &help;
+        KirvAccountMoving &moving;
     };
 
     /// \a top was just built for the page.
@@ -81,10 +83,13 @@ private:
     };
 
     void addWidgets(QWidget *top, KirvAccountHelp &help);
+    void connectMoving();
     void addCommands(QWidget *top, const Environment &environment);
     void connectStrip(KirvAccountHelp &help);
     void invite();
+    bool maySelect() const;
     void selectNewRow(const KirvAccountKey &key);
+    void selectImported(const QList<KirvAccountKey> &keys);
     void refreshStripLater();
     void refreshStrip();
 
@@ -111,10 +116,12 @@ private:
     KirvAccountStrip *strip;
     KirvAccountSearch *searchBar;
     KirvAccountInvitation *invitation;
+    KirvAccountMoving &moving;
     QToolButton *addButton;
     KirvAliasEditor *aliasEditor = nullptr;
     std::vector<KeptRow> keptRows;
     KirvAccountKey added; ///< the latest account, until its row is selected
+    QList<KirvAccountKey> imported; ///< the latest import, until its rows are selected
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
     bool mayListUnloaded = false;
     bool isSyncDue = false;

@@ -3,6 +3,7 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_help.h"
+#include "client/kirv_account_moving.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
@@ -161,8 +162,12 @@ void KirvClient::createWindow()
     serverCommands->setProviders(providers);
     auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
     help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
+    moving = new KirvAccountMoving({ *accountCollection, services->mainAccountRule, *history }, settingsWindow.get());
+    connect(moving, &KirvAccountMoving::imported, this, [this] { settingsWindow->showPage(page); });
+    connect(moving, &KirvAccountMoving::problemOccurred, this, &KirvClient::showProblem);
     companions = new KirvWindowCompanions(
-        *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help },
+        *layouts,
+        { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help, *moving },
         settingsWindow.get());
     connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
     languageChange = new KirvLanguageChange(*clientSettings, *companions, settingsWindow.get());
@@ -203,6 +208,8 @@ void KirvClient::createPages()
         showLanguage();
     });
     connect(languageChange, &KirvLanguageChange::pendingChanged, generalPage, showLanguage);
+    connect(generalPage, &KirvGeneralPage::exportRequested, moving, [this] { moving->exportAccounts(); });
+    connect(generalPage, &KirvGeneralPage::importRequested, moving, &KirvAccountMoving::importAccounts);
     connect(pluginList, &KirvPluginsPage::reportRequested, help, [this] { help->showReport(); });
 }
 
@@ -320,6 +327,7 @@ void KirvClient::protocolLoaded(KirvProtocolBase *protocol)
 {
     accountCollection->protocolLoaded(protocol);
     companions->page()->protocolLoaded(protocol->getName());
+    moving->protocolsChanged();
     if (arePluginsLoaded()) // a plug-in of the user's own
         accountCollection->secrets().startMoving();
 }
@@ -332,6 +340,7 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
     certificateQuestions->withdrawProtocol(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
+    moving->protocolsChanged();
 }
 
 void KirvClient::creationRefused(const KirvAccountKey &key, const QString &reason)

@@ -13,6 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHelp;
 class KirvAccountHistory;
+class KirvAccountMoving;
 class KirvAccountsTab;
 class KirvGeneralPage;
 class KirvCertificateQuestions;
@@ -119,6 +120,7 @@ private:
     QPointer<KirvAccountsTab> page;
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvAccountHelp> help;
+    QPointer<KirvAccountMoving> moving;
     QPointer<KirvGeneralPage> generalPage;
     QPointer<KirvLanguageChange> languageChange;
     QPointer<KirvWindowCompanions> companions;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_general_page.h"
 
+#include "client/kirv_button_flow.h"
 #include "client/kirv_damaged_profile.h"
 #include "client/kirv_secret_texts.h"
 #include "client/kirv_translations.h"
@@ -42,6 +43,9 @@ KirvGeneralPage::KirvGeneralPage(KirvAccountCollection &accounts, const KirvTran
     layout->addWidget(area);
     connect(&accounts.secrets(), &KirvSecretKeeper::changed, this, &KirvGeneralPage::refreshKeyring);
     refreshKeyring();
+    connect(&accounts, &KirvAccountCollection::accountAdded, this, &KirvGeneralPage::refreshMoving);
+    connect(&accounts, &KirvAccountCollection::accountRemoved, this, &KirvGeneralPage::refreshMoving);
+    refreshMoving();
 }
 
 QLabel *KirvGeneralPage::createText(const char *name, QWidget *parent)
@@ -175,9 +179,31 @@ QGroupBox *KirvGeneralPage::createProfile()
     row->addWidget(openButton, 0, Qt::AlignTop);
     auto *column = new QVBoxLayout(group);
     column->addLayout(row);
+    column->addWidget(createMoving(group));
     column->addWidget(copiesLabel);
     column->addWidget(copyList);
     return group;
+}
+
+QWidget *KirvGeneralPage::createMoving(QWidget *parent)
+{
+    exportButton = new QPushButton(tr("&Export Accounts…"), parent);
+    exportButton->setObjectName(QStringLiteral("General_ExportButton"));
+    exportButton->setToolTip(tr("Writes accounts to a file that can be imported on another computer."));
+    connect(exportButton, &QPushButton::clicked, this, &KirvGeneralPage::exportRequested);
+    auto *importButton = new QPushButton(tr("&Import Accounts…"), parent);
+    importButton->setObjectName(QStringLiteral("General_ImportButton"));
+    importButton->setToolTip(tr("Takes accounts over from such a file, or from Pidgin."));
+    connect(importButton, &QPushButton::clicked, this, &KirvGeneralPage::importRequested);
+    auto *buttons = new KirvButtonFlow(parent);
+    buttons->addAtBeginning(exportButton);
+    buttons->addAtBeginning(importButton);
+    return buttons;
+}
+
+void KirvGeneralPage::refreshMoving()
+{
+    exportButton->setEnabled(!accounts.accounts().isEmpty());
 }
 
 /// Each copy is read for that, so only when somebody looks.

@@ -30,6 +30,8 @@ public:
 Q_SIGNALS:
     /// The user has chosen \a language; empty: as the system.
     void languageChosen(const QString &language);
+    void exportRequested();
+    void importRequested();
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -39,6 +41,8 @@ private:
     void fillLanguages(const KirvTranslations &translations);
     QGroupBox *createKeyring();
     QGroupBox *createProfile();
+    QWidget *createMoving(QWidget *parent);
+    void refreshMoving();
     void refreshKeyring();
     void refreshCopies();
     void unlock();
@@ -51,6 +55,7 @@ private:
     QLabel *keyringText = nullptr;
     QPushButton *unlockButton = nullptr;
     QLabel *copiesLabel = nullptr;
+    QPushButton *exportButton = nullptr;
     QTreeWidget *copyList = nullptr;
 };
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_moving.h"
+#include "client/kirv_export_window.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_registration_chooser.h"
 #include "client/kirv_rescue_window.h"
@@ -118,6 +120,8 @@ private Q_SLOTS:
     void requestsToServers();
     void rescueWindow_data() { addDirections(); }
     void rescueWindow();
+    void movingAccounts_data() { addDirections(); }
+    void movingAccounts();
 
 private:
     static void addDirections();
@@ -462,6 +466,43 @@ void tst_TextsOfWindows::rescueWindow()
     KirvRescueWindow rescue(windows->profileFolder(), KirvPseudoTranslator::pseudo("Something is wrong."));
     rescue.show();
     look("damaged profile", &rescue);
+    QVERIFY2(survey->problems().isEmpty(), qPrintable(survey->problems().join('\n')));
+}
+
+void tst_TextsOfWindows::movingAccounts()
+{
+    start({ ann, bob });
+    const QString path = windows->folder.filePath(QStringLiteral("ann"));
+    auto *moving = window()->findChild<KirvAccountMoving *>();
+    moving->exportAccounts();
+    auto *exported = window()->findChild<KirvExportWindow *>();
+    look("export", exported);
+    KirvClientWindows::child<QAbstractButton>(exported, "ExportAccounts_Passwords")->setChecked(true);
+    look("export without a pass phrase", exported);
+    for (const char *line : { "ExportAccounts_PassPhrase", "ExportAccounts_Repetition" }) {
+        KirvClientWindows::child<QLineEdit>(exported, line)->setText(QStringLiteral("ann ann ann ann"));
+        look("export with a pass phrase", exported);
+    }
+    exported->exportTo(path);
+    look("export while it runs", exported);
+    KIRV_TRY(!exported->isWriting());
+    look("export that is done", exported);
+    QVERIFY(windows->client->accounts().remove(windows->account(bob)));
+    moving->importFrom(path);
+    auto *imported = window()->findChild<KirvImportWindow *>();
+    look("import while it reads", imported);
+    auto *action = KirvClientWindows::child<QAbstractButton>(imported, "ImportAccounts_Action");
+    KIRV_TRY(action->isVisible());
+    look("import that needs a pass phrase", imported);
+    KirvClientWindows::child<QLineEdit>(imported, "ImportAccounts_PassPhrase")->setText(bob);
+    action->click();
+    KIRV_TRY(action->isVisible());
+    look("import with a wrong pass phrase", imported);
+    KirvClientWindows::child<QAbstractButton>(imported, "ImportAccounts_WithoutPasswords")->click();
+    KIRV_TRY(KirvClientWindows::child<QWidget>(imported, "ImportAccounts_List")->isVisible());
+    look("import", imported);
+    action->click();
+    look("page after an import", window());
     QVERIFY2(survey->problems().isEmpty(), qPrintable(survey->problems().join('\n')));
 }
 

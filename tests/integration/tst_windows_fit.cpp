@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_moving.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_client.h"
+#include "client/kirv_export_window.h"
+#include "client/kirv_import_window.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/moving/kirv_account_file.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "edit_account/kirv_edit_account_dialog.h"
@@ -19,7 +23,10 @@
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QCheckBox>
+#include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
 #include <QTabWidget>
@@ -135,6 +142,8 @@ private:
     void openAddWindow(const QString &protocol, const Look &look);
     void openEditWindow(const QString &protocol, int tab, const Look &look);
     void openAssistant(const QString &protocol, const Look &look);
+    void openExportWindow(const Look &look);
+    void openImportWindow(const Look &look);
     static void check(QWidget *window, const QString &name);
     KirvAccount *account(const QString &protocol) const;
 
@@ -204,6 +213,56 @@ void tst_WindowsFit::openAssistant(const QString &protocol, const Look &look)
     KirvAssistantWindow::window()->close();
 }
 
+/// As it opens, with the pass phrase, and with what came of it.
+void tst_WindowsFit::openExportWindow(const Look &look)
+{
+    Windows::child<QAbstractButton>(client->window(), "General_ExportButton")->click();
+    auto *window = client->window()->findChild<KirvExportWindow *>();
+    QVERIFY(window);
+    look(window);
+    Windows::child<QCheckBox>(window, "ExportAccounts_Passwords")->setChecked(true);
+    look(window);
+    Windows::child<QCheckBox>(window, "ExportAccounts_Passwords")->setChecked(false);
+    window->exportTo(folder->filePath(QStringLiteral("missing/accounts.json")));
+    auto *outcome = Windows::child<QWidget>(window, "ExportAccounts_Outcome");
+    KIRV_TRY(outcome->isVisible());
+    look(window);
+    window->reject();
+}
+
+/// With a file that cannot be read, and asking for a pass phrase; with accounts of all kinds.
+void tst_WindowsFit::openImportWindow(const Look &look)
+{
+    KirvMovedAccounts moved;
+    for (const char *protocol : { "XMPP", "IRC", "Example", "Unknown" }) {
+        for (const char *id : { "juliet@example.org", "juliet", "romeo@a.long.name.of.a.server.example.org" }) {
+            KirvMovedAccount account;
+            account.record.key = { QString::fromLatin1(id), QString::fromLatin1(protocol) };
+            account.record.password = QStringLiteral("secret");
+            account.record.rememberPassword = true;
+            moved.accounts << account;
+        }
+    }
+    QString problem;
+    QFile file(folder->filePath(QStringLiteral("accounts.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write(KirvAccountFile::write(moved, QStringLiteral("a pass phrase of some length"), &problem)) > 0);
+    file.close();
+    KirvImportWindow *window = nullptr;
+    const auto read = [&](const QString &path) {
+        client->window()->findChild<KirvAccountMoving *>()->importFrom(path);
+        window = client->window()->findChild<KirvImportWindow *>();
+        KIRV_TRY(!Windows::child<QWidget>(window, "ImportAccounts_Progress")->isVisible());
+        look(window);
+    };
+    read(folder->filePath(QStringLiteral("missing.json")));
+    read(file.fileName());
+    Windows::child<QAbstractButton>(window, "ImportAccounts_WithoutPasswords")->click();
+    KIRV_TRY(Windows::child<QWidget>(window, "ImportAccounts_List")->isVisible());
+    look(window);
+    window->reject();
+}
+
 void tst_WindowsFit::open(const QString &name, const Look &look)
 {
     if (name == QLatin1String("page")) {
@@ -211,6 +270,10 @@ void tst_WindowsFit::open(const QString &name, const Look &look)
     } else if (name == QLatin1String("plug-ins")) {
         client->window()->showPage(client->pluginsPage());
         look(client->window());
+    } else if (name == QLatin1String("export")) {
+        openExportWindow(look);
+    } else if (name == QLatin1String("import")) {
+        openImportWindow(look);
     }
     const QString first = client->plugins().protocols().first()->getName();
     if (name == QLatin1String("password")) {
@@ -256,7 +319,8 @@ void tst_WindowsFit::windowFits_data()
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("language");
     const KirvTranslations known(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
-    for (const char *window : { "page", "plug-ins", "add", "edit", "directory", "password", "register" }) {
+    for (const char *window :
+         { "page", "plug-ins", "add", "edit", "directory", "password", "register", "export", "import" }) {
         for (const QString &language : known.languages())
             QTest::addRow("%s, %s", window, qPrintable(language)) << QString::fromLatin1(window) << language;
     }

@@ -1,0 +1,344 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_export_window.h"
+
+#include "client/kirv_account_check_list.h"
+#include "client/kirv_button_flow.h"
+#include "client/kirv_left_out.h"
+#include "client/kirv_plain_text.h"
+#include "client/kirv_wrapped_text.h"
+#include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_main_account.h"
+#include "core/moving/kirv_account_export.h"
+#include "core/moving/kirv_moving_file.h"
+#include "core/ui/kirv_form_area.h"
+#include "core/ui/kirv_length_limit.h"
+#include "core/ui/kirv_reveal_button.h"
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QSet>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const int comfortableWidth = 65; // in average characters
+
+QLabel *createText(const char *name, const QString &text, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QLabel *createLabel(const QString &text, QLineEdit *line, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setObjectName(line->objectName() + QStringLiteral("_Label"));
+    label->setBuddy(line);
+    return label;
+}
+
+} // namespace
+
+KirvExportWindow::KirvExportWindow(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
+                                   const QList<KirvAccountKey> &chosen, QWidget *parent)
+    : QDialog(parent)
+    , accounts(accounts)
+    , mainAccount(mainAccount)
+    , area(new KirvFormArea(this))
+    , progress(new QProgressBar(this))
+{
+    setObjectName(QStringLiteral("ExportAccounts"));
+    setWindowTitle(tr("Export Accounts"));
+    area->setWidget(createContent());
+    progress->setObjectName(QStringLiteral("ExportAccounts_Progress"));
+    progress->setAccessibleName(tr("Progress"));
+    progress->setRange(0, 0);
+    progress->setTextVisible(false);
+    progress->hide();
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(area, 1);
+    layout->addWidget(progress);
+    layout->addWidget(createButtons());
+    check(chosen);
+    connect(&accounts, &KirvAccountCollection::accountAdded, this, &KirvExportWindow::refreshList);
+    connect(&accounts, &KirvAccountCollection::accountRemoved, this, &KirvExportWindow::refreshList);
+    resize(std::min(comfortableWidth * fontMetrics().averageCharWidth(), parent->screen()->availableSize().width()),
+           height());
+    grow();
+    list->setFocus();
+}
+
+KirvExportWindow::~KirvExportWindow()
+{
+    if (isWanted)
+        *isWanted = false;
+}
+
+QWidget *KirvExportWindow::createContent()
+{
+    auto *content = new QWidget(area);
+    list = new KirvAccountCheckList(QStringLiteral("ExportAccounts"), {}, content);
+    passwordsBox = new QCheckBox(tr("Include &passwords (encrypted)"), content);
+    passwordsBox->setObjectName(QStringLiteral("ExportAccounts_Passwords"));
+    passPhrase = createPassPhrase();
+    passPhrase->hide();
+    outcomeText = new KirvWrappedText(content);
+    outcomeText->setObjectName(QStringLiteral("ExportAccounts_Outcome"));
+    outcomeText->setAccessibleName(tr("Result"));
+    outcomeText->hide();
+    connect(list, &KirvAccountCheckList::changed, this, &KirvExportWindow::updateControls);
+    connect(passwordsBox, &QCheckBox::toggled, this, [this](bool isChecked) {
+        passPhrase->setVisible(isChecked);
+        updateControls();
+        QMetaObject::invokeMethod(this, &KirvExportWindow::grow, Qt::QueuedConnection);
+    });
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(list, 1);
+    column->addWidget(passwordsBox);
+    column->addWidget(passPhrase);
+    column->addWidget(outcomeText);
+    return content;
+}
+
+QWidget *KirvExportWindow::createPassPhrase()
+{
+    auto *place = new QWidget(area);
+    place->setObjectName(QStringLiteral("ExportAccounts_PassPhrasePlace"));
+    passPhraseLine = createPassPhraseLine("ExportAccounts_PassPhrase");
+    repetitionLine = createPassPhraseLine("ExportAccounts_Repetition");
+    auto *advice =
+        createText("ExportAccounts_Advice",
+                   tr("Several words that do not belong together are easy to remember and hard to guess. Whoever has "
+                      "the file and guesses the pass phrase has your passwords; without it nobody can read them, not "
+                      "even you."),
+                   place);
+    passPhraseLine->setAccessibleDescription(advice->text());
+    problem = createText("ExportAccounts_Problem", QString(), place);
+    auto *form = new QFormLayout(place);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->addRow(createLabel(tr("Pass p&hrase:"), passPhraseLine, place), passPhraseLine);
+    form->addRow(createLabel(tr("&Repeat it:"), repetitionLine, place), repetitionLine);
+    form->addRow(problem);
+    form->addRow(advice);
+    for (QLineEdit *line : { passPhraseLine, repetitionLine }) {
+        KirvRevealButton *reveal = KirvRevealButton::addBeside(line);
+        reveal->setObjectName(line->objectName() + QStringLiteral("_Reveal"));
+        kirvLimitLength(line);
+        connect(line, &QLineEdit::textChanged, this, &KirvExportWindow::updateControls);
+    }
+    return place;
+}
+
+QLineEdit *KirvExportWindow::createPassPhraseLine(const char *name)
+{
+    auto *line = new QLineEdit;
+    line->setObjectName(QLatin1String(name));
+    return line;
+}
+
+QWidget *KirvExportWindow::createButtons()
+{
+    exportButton = new QPushButton(tr("&Export…"), this);
+    exportButton->setObjectName(QStringLiteral("ExportAccounts_Export"));
+    exportButton->setToolTip(tr("Choose the file to which the accounts are written."));
+    connect(exportButton, &QPushButton::clicked, this, &KirvExportWindow::chooseFile);
+    box = new QDialogButtonBox(QDialogButtonBox::Close | QDialogButtonBox::Cancel, this);
+    box->setObjectName(QStringLiteral("ExportAccounts_Buttons"));
+    box->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("ExportAccounts_Close"));
+    box->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("ExportAccounts_Cancel"));
+    box->button(QDialogButtonBox::Cancel)->hide();
+    connect(box->button(QDialogButtonBox::Close), &QPushButton::clicked, this, &KirvExportWindow::reject);
+    connect(box->button(QDialogButtonBox::Cancel), &QPushButton::clicked, this, &KirvExportWindow::cancel);
+    auto *buttons = new KirvButtonFlow(this);
+    buttons->addAtEnd(exportButton);
+    buttons->addAtEnd(box);
+    return buttons;
+}
+
+void KirvExportWindow::check(const QList<KirvAccountKey> &chosen)
+{
+    if (isWriting())
+        return;
+    listed.clear();
+    setRows(chosen, chosen.isEmpty());
+}
+
+/// From the event loop: many may come or go at once.
+void KirvExportWindow::refreshList()
+{
+    if (std::exchange(isRefreshDue, true))
+        return;
+    const auto refresh = [this] {
+        isRefreshDue = false;
+        const bool areAllChecked = list->checkedCount() == list->count();
+        setRows(list->checkedAccounts(), areAllChecked);
+    };
+    QMetaObject::invokeMethod(this, refresh, Qt::QueuedConnection);
+}
+
+/// \a areNewOnesChecked is about those that were not listed before.
+void KirvExportWindow::setRows(const QList<KirvAccountKey> &checked, bool areNewOnesChecked)
+{
+    const QSet<KirvAccountKey> wanted(checked.begin(), checked.end());
+    const QSet<KirvAccountKey> before(listed.begin(), listed.end());
+    listed.clear();
+    QList<KirvAccountCheckList::Row> rows;
+    const QList<KirvAccount *> all = accounts.accounts();
+    for (const KirvAccount *account : all) {
+        KirvAccountCheckList::Row row;
+        row.account = account->key();
+        row.alias = account->record().alias;
+        row.isChecked = wanted.contains(row.account) || (areNewOnesChecked && !before.contains(row.account));
+        rows << row;
+        listed << row.account;
+    }
+    list->setRows(rows);
+    updateControls();
+}
+
+QString KirvExportWindow::passPhraseProblem() const
+{
+    if (!passwordsBox->isChecked())
+        return QString();
+    if (passPhraseLine->text().toUcs4().size() < shortestPassPhrase)
+        return tr("The pass phrase needs at least %n characters.", nullptr, shortestPassPhrase);
+    if (passPhraseLine->text() != repetitionLine->text())
+        return tr("The pass phrase and its repetition must be the same.");
+    return QString();
+}
+
+void KirvExportWindow::updateControls()
+{
+    const QString wrong = passPhraseProblem();
+    problem->setText(wrong);
+    problem->setVisible(!wrong.isEmpty());
+    repetitionLine->setAccessibleDescription(wrong);
+    area->widget()->setEnabled(!isWriting());
+    progress->setVisible(isWriting());
+    exportButton->setEnabled(!isWriting() && list->checkedCount() > 0 && wrong.isEmpty());
+    box->button(QDialogButtonBox::Close)->setVisible(!isWriting());
+    box->button(QDialogButtonBox::Cancel)->setVisible(isWriting());
+    exportButton->setDefault(exportButton->isEnabled());
+}
+
+void KirvExportWindow::chooseFile()
+{
+    auto *dialog = new QFileDialog(this, tr("Export Accounts"), QDir::homePath());
+    dialog->setObjectName(QStringLiteral("ExportAccounts_File"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({ tr("Exported accounts (*.json)"), tr("All files (*)") });
+    dialog->setDefaultSuffix(QStringLiteral("json"));
+    dialog->selectFile(QStringLiteral("kirv-accounts.json"));
+    connect(dialog, &QFileDialog::fileSelected, this, &KirvExportWindow::exportTo);
+    dialog->open();
+}
+
+void KirvExportWindow::exportTo(const QString &path)
+{
+    if (!exportButton->isEnabled())
+        return;
+    QList<KirvAccount *> chosen;
+    const QList<KirvAccountKey> checked = list->checkedAccounts();
+    for (const KirvAccountKey &key : checked) {
+        if (KirvAccount *account = accounts.find(key)) // it may have been removed just now
+            chosen << account;
+    }
+    const QString phrase = passwordsBox->isChecked() ? passPhraseLine->text() : QString();
+    const KirvMovedAccounts moved =
+        KirvAccountExport::collect(accounts, mainAccount, chosen, passwordsBox->isChecked());
+    isWanted = std::make_shared<std::atomic<bool>>(true);
+    const auto write = [moved, phrase, path, isWanted = isWanted](const KirvBackgroundJob::Flag &) {
+        Outcome outcome;
+        const QByteArray bytes = KirvAccountFile::write(moved, phrase, &outcome.problem);
+        if (outcome.problem.isEmpty()) {
+            outcome.problem = KirvMovingFile::write(path, bytes, [&outcome, isWanted] {
+                outcome.isCancelled = !*isWanted;
+                return !outcome.isCancelled;
+            });
+        }
+        return outcome;
+    };
+    job.run<Outcome>(write, [this, moved, path](const Outcome &outcome) { finish(outcome, moved, path); });
+    outcomeText->hide();
+    updateControls();
+    box->button(QDialogButtonBox::Cancel)->setFocus();
+}
+
+void KirvExportWindow::cancel()
+{
+    if (isWanted)
+        *isWanted = false;
+    box->button(QDialogButtonBox::Cancel)->setEnabled(false);
+}
+
+void KirvExportWindow::reject()
+{
+    cancel();
+    QDialog::reject();
+}
+
+void KirvExportWindow::finish(const Outcome &outcome, const KirvMovedAccounts &written, const QString &path)
+{
+    box->button(QDialogButtonBox::Cancel)->setEnabled(true);
+    updateControls();
+    if (outcome.isCancelled || !outcome.problem.isEmpty()) {
+        exportButton->setFocus();
+        showOutcome(outcome.isCancelled ? tr("The export was cancelled; nothing was written.") : outcome.problem);
+        return;
+    }
+    QStringList texts;
+    //: %1 = path of a file
+    texts << tr("%n accounts were exported to %1.", nullptr, int(written.accounts.size()))
+                 .arg(kirvPlainName(QDir::toNativeSeparators(path)));
+    if (!passwordsBox->isChecked())
+        texts << tr("No passwords are in the file.");
+    const QString leftOut = kirvLeftOutText(tr("These are not in the file:"), written.leftOut);
+    if (!leftOut.isEmpty())
+        texts << leftOut;
+    passPhraseLine->clear();
+    repetitionLine->clear();
+    passwordsBox->setChecked(false);
+    box->button(QDialogButtonBox::Close)->setDefault(true);
+    box->button(QDialogButtonBox::Close)->setFocus();
+    showOutcome(texts.join(QLatin1Char('\n')));
+}
+
+void KirvExportWindow::showOutcome(const QString &text)
+{
+    outcomeText->showText(text);
+    outcomeText->show();
+    const auto reveal = [this] {
+        grow();
+        area->ensureWidgetVisible(outcomeText);
+    };
+    QMetaObject::invokeMethod(this, reveal, Qt::QueuedConnection);
+    QAccessibleEvent news(outcomeText, QAccessible::Alert);
+    QAccessible::updateAccessibility(&news);
+}
+
+/// As high as its contents need, where the screen is.
+void KirvExportWindow::grow()
+{
+    layout()->activate();
+    const int wanted = layout()->totalHeightForWidth(width());
+    const int possible = std::min(std::max(wanted, sizeHint().height()), screen()->availableSize().height() * 9 / 10);
+    if (height() < possible && !isMaximized() && !isFullScreen())
+        resize(width(), possible);
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#ifndef KIRV_EXPORT_WINDOW_H
+#define KIRV_EXPORT_WINDOW_H
+
+#include "client/kirv_background_job.h"
+#include "core/values/kirv_account_key.h"
+
+#include <QDialog>
+#include <QList>
+
+class KirvAccountCheckList;
+class KirvAccountCollection;
+class KirvFormArea;
+class KirvMainAccount;
+class KirvWrappedText;
+class QCheckBox;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+class QPushButton;
+struct KirvMovedAccounts;
+
+/// Writes accounts to a file that can be imported elsewhere: the user chooses which, and whether with passwords. It
+/// stays open to say what was written and what was left out.
+class KirvExportWindow : public QDialog {
+    Q_OBJECT
+
+public:
+    /// In characters.
+    static constexpr int shortestPassPhrase = 12;
+
+    /// \a accounts and \a mainAccount are not owned and outlive the window. \a chosen are checked, or all when it is
+    /// empty.
+    KirvExportWindow(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
+                     const QList<KirvAccountKey> &chosen, QWidget *parent);
+    ~KirvExportWindow() override;
+
+    /// Checks exactly \a chosen, or all when it is empty.
+    void check(const QList<KirvAccountKey> &chosen);
+    /// Writes what is checked to \a path, in a thread. Does nothing while that is not possible.
+    void exportTo(const QString &path);
+    bool isWriting() const { return job.isRunning(); }
+
+    /// What is being written is not written then, unless that is done already.
+    void reject() override;
+
+private:
+    struct Outcome {
+        QString problem;
+        bool isCancelled = false;
+    };
+
+    QWidget *createContent();
+    QWidget *createPassPhrase();
+    QLineEdit *createPassPhraseLine(const char *name);
+    QWidget *createButtons();
+    void refreshList();
+    void setRows(const QList<KirvAccountKey> &checked, bool areNewOnesChecked);
+    QString passPhraseProblem() const;
+    void updateControls();
+    void chooseFile();
+    void cancel();
+    void finish(const Outcome &outcome, const KirvMovedAccounts &written, const QString &path);
+    void showOutcome(const QString &text);
+    void grow();
+
+    const KirvAccountCollection &accounts;
+    const KirvMainAccount &mainAccount;
+    KirvBackgroundJob job;
+    KirvBackgroundJob::Flag isWanted; ///< whether what is being written is still to be written
+    QList<KirvAccountKey> listed;
+    bool isRefreshDue = false;
+
+    KirvFormArea *area = nullptr;
+    KirvAccountCheckList *list = nullptr;
+    QCheckBox *passwordsBox = nullptr;
+    QWidget *passPhrase = nullptr;
+    QLineEdit *passPhraseLine = nullptr;
+    QLineEdit *repetitionLine = nullptr;
+    QLabel *problem = nullptr;
+    KirvWrappedText *outcomeText = nullptr;
+    QProgressBar *progress = nullptr;
+    QPushButton *exportButton = nullptr;
+    QDialogButtonBox *box = nullptr;
+};
+
+#endif
