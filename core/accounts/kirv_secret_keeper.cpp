@@ -196,6 +196,8 @@ void KirvSecretKeeper::onStateChanged()
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
     loadChanges();
+    if (state != KirvSecretStore::Ready)
+        store.wipeTraces(); // of a move that may not go on for long
     if (state == KirvSecretStore::Unavailable && !wasPresent)
         keepInProfile();
     if (state == KirvSecretStore::Ready) {
@@ -245,6 +247,7 @@ void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
 {
     isPaused = true;
     lastOutcome = reply.outcome;
+    store.wipeTraces();
     tellAccounts();
 }
 
