@@ -91,10 +91,12 @@ private:
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
     void readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply);
     void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
+    void noLongerNew(const QString &key);
+    void giveUpInterrupted();
     bool writeNext();
     void onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply);
     void reportWrites();
-    void report(const KirvStoredItem &row, const QString &reason);
+    bool report(const KirvStoredItem &row, const QString &reason);
     void writeAndReadBack(const KirvSecretItem &item, const QString &secret, const KirvSecretStore::Callback &callback);
     bool removeNext();
     void collectMovable();
@@ -127,6 +129,7 @@ private:
     bool isBusy = false;
     bool isScheduled = false;
     bool hasChanged = false; ///< what is stored, since load()
+    bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
     Obstacle toldObstacle = None; ///< that the accounts know of

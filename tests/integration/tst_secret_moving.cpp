@@ -26,7 +26,7 @@ QString wordOf(int number)
 
 } // namespace
 
-/// Many passwords that move from the profile to a scripted keyring.
+/// Many passwords at once over a scripted keyring: those of the profile move there, or many are stored.
 class tst_SecretMoving : public QObject {
     Q_OBJECT
 
@@ -40,6 +40,11 @@ private Q_SLOTS:
     void aMoveThatDoesNotGoOnLeavesNoTrace();
     void aCompleteMoveLeavesNoTrace();
     void aMoveThatCannotBeEndedEndsAtTheNextStart();
+    void itemsOfAnInterruptedMoveAreGivenUpTogether();
+
+    void withoutAKeyringAFewAreKeptInATurn();
+    void aTurnReportsAFew();
+    void manyThatAreStoredAtOnceFindTheirPlace();
 
 private:
     static const int perCommit = 20; ///< passwords that leave the profile together
@@ -244,6 +249,85 @@ void tst_SecretMoving::aMoveThatCannotBeEndedEndsAtTheNextStart()
     core->accounts->secrets().startMoving();
     KIRV_TRY_COMPARE(later.size(), 1);
     QCOMPARE(later.first().first().toInt(), count);
+}
+
+/// They are noted before any of them is written.
+void tst_SecretMoving::itemsOfAnInterruptedMoveAreGivenUpTogether()
+{
+    const int count = 2 * perCommit;
+    fill(count);
+    moveUntil(1);
+    QVERIFY(core->store.unsettledItems().size() > perCommit);
+    restart(); // what is held is never carried out
+    for (int round = 0; round < 10; ++round)
+        KirvAccountsFixture::settle();
+    QVERIFY2(core->store.commitCount() <= 2, QByteArray::number(core->store.commitCount()).constData());
+    while (keyring->heldCount() > 0) {
+        keyring->isHeld = false;
+        keyring->release();
+        KirvAccountsFixture::settle();
+    }
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
+    QVERIFY(keyring->secrets.isEmpty());
+    core->accounts->secrets().startMoving();
+    KIRV_TRY_COMPARE(movedCount(), count);
+}
+
+/// What was stored before it was known that there is none: each is a commit.
+void tst_SecretMoving::withoutAKeyringAFewAreKeptInATurn()
+{
+    const int count = 2 * perCommit;
+    keyring->setState(KirvSecretStore::Unknown);
+    restart(); // with a keyring whose state was never another
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(idOf(number)));
+    for (int round = 0; round < count; ++round)
+        KirvAccountsFixture::settle();
+    QCOMPARE(movedCount(), count);
+    const int commits = core->store.commitCount();
+    keyring->setState(KirvSecretStore::Unavailable);
+    const int atOnce = core->store.commitCount() - commits;
+    QVERIFY2(atOnce > 0 && atOnce <= 5, QByteArray::number(atOnce).constData());
+    KIRV_TRY_COMPARE(movedCount(), 0);
+    restart();
+    for (int number = 0; number < count; ++number)
+        QCOMPARE(core->account(idOf(number))->getPassword(), wordOf(number));
+}
+
+void tst_SecretMoving::aTurnReportsAFew()
+{
+    const int count = 2 * perCommit;
+    keyring->isHeld = true;
+    keyring->setState(KirvSecretStore::Ready);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(idOf(number)));
+    for (int round = 0; round < count; ++round)
+        KirvAccountsFixture::settle();
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->setState(KirvSecretStore::Silent);
+    keyring->release(); // the first one is written
+    keyring->release(); // and read back
+    QVERIFY2(!notices.isEmpty() && notices.size() <= 10, QByteArray::number(notices.size()).constData());
+    KIRV_TRY_COMPARE(notices.size(), count - 1);
+}
+
+/// Of an import, say.
+void tst_SecretMoving::manyThatAreStoredAtOnceFindTheirPlace()
+{
+    const int count = 5 * perCommit;
+    keyring->setState(KirvSecretStore::Ready);
+    QVERIFY(core->store.begin());
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(idOf(number)));
+    QVERIFY(core->store.commit());
+    KIRV_TRY_COMPARE(keyring->secrets.size(), count);
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
+    for (int number = 0; number < count; ++number)
+        core->account(idOf(number))->setPassword(QStringLiteral("another ") + wordOf(number));
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
+    QCOMPARE(keyring->secrets.size(), count); // those before are removed
+    const QStringList values = keyring->secrets.values();
+    QCOMPARE(values.filter(QStringLiteral("another ")).size(), count);
 }
 
 QTEST_MAIN(tst_SecretMoving)
