@@ -20,14 +20,14 @@ bool isSame(const std::optional<KirvPresence> &left, const std::optional<KirvPre
 
 } // namespace
 
-KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvSecretKeeper &secrets,
-                         const KirvAccountRecord &record, QObject *parent)
+KirvAccount::KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvReconcilerQueue &turns,
+                         KirvSecretKeeper &secrets, const KirvAccountRecord &record, QObject *parent)
     : QObject(parent)
     , profile(store)
     , keeper(secrets)
     , current(record)
     , awaited(record.unreadSecrets)
-    , reconciler([this] { return wanted(); }, logins)
+    , reconciler([this] { return wanted(); }, logins, turns)
 {
     refreshDescription();
     keeper.add(this);

@@ -34,9 +34,10 @@ class KirvAccount : public QObject, public KirvAccountConnection {
     Q_OBJECT
 
 public:
-    /// \a store, \a logins and \a secrets are not owned and outlive the account; \a record is stored in the store.
-    KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvSecretKeeper &secrets, const KirvAccountRecord &record,
-                QObject *parent = nullptr);
+    /// \a store, \a logins, \a turns and \a secrets are not owned and outlive the account; \a record is stored in the
+    /// store.
+    KirvAccount(KirvStore &store, KirvLoginQueue &logins, KirvReconcilerQueue &turns, KirvSecretKeeper &secrets,
+                const KirvAccountRecord &record, QObject *parent = nullptr);
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }

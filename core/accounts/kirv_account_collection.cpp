@@ -199,7 +199,7 @@ void KirvAccountCollection::logOutAll(int milliseconds)
 
 KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
-    auto *account = new KirvAccount(store, queue, keeper, record, this);
+    auto *account = new KirvAccount(store, queue, reconcilers, keeper, record, this);
     all.append(account);
     byKey.insert(record.key, account);
     logins.insert(record.key);

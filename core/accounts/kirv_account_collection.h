@@ -158,6 +158,7 @@ private:
 
     KirvStore &store;
     KirvLoginQueue queue;
+    KirvReconcilerQueue reconcilers;
     KirvSecretKeeper keeper;
     std::function<KirvAccount *()> mainAccount;
     QList<KirvAccount *> all;

@@ -12,10 +12,12 @@ bool isSame(const KirvPresence &left, const KirvPresence &right)
 
 } // namespace
 
-KirvReconciler::KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, QObject *parent)
+KirvReconciler::KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, KirvReconcilerQueue &turns,
+                               QObject *parent)
     : QObject(parent)
     , wanted(std::move(wanted))
     , logins(logins)
+    , turns(turns)
 {
 }
 
@@ -50,7 +52,7 @@ void KirvReconciler::schedule()
     if (scheduled || !target)
         return;
     scheduled = true;
-    QMetaObject::invokeMethod(this, &KirvReconciler::reconcile, Qt::QueuedConnection);
+    turns.append(this);
 }
 
 void KirvReconciler::insist(Urge newUrge)

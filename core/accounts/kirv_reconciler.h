@@ -3,6 +3,7 @@
 #define KIRV_RECONCILER_H
 
 #include "core/accounts/kirv_login_queue.h"
+#include "core/accounts/kirv_reconciler_queue.h"
 #include "core/protocol/kirv_connection.h"
 
 #include <QObject>
@@ -40,8 +41,9 @@ public:
         Reconnect ///< also, a connection that is logged in logs out and in again, and an attempt starts afresh
     };
 
-    /// \a wanted is called for what is wanted now. \a logins is not owned and outlives the reconciler.
-    KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, QObject *parent = nullptr);
+    /// \a wanted is called for what is wanted now. \a logins and \a turns are not owned and outlive the reconciler.
+    KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, KirvReconcilerQueue &turns,
+                   QObject *parent = nullptr);
 
     /// The connection to look after; not owned. Null: there is none.
     void setConnection(KirvConnection *connection);
@@ -55,6 +57,9 @@ public:
     void hold();
     void release(bool kept);
 
+    /// Takes the step that is needed. For the queue.
+    void reconcile();
+
     /// The one step from the present state of \a connection towards \a wanted.
     static Step nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge);
 
@@ -65,11 +70,11 @@ Q_SIGNALS:
     void settled();
 
 private:
-    void reconcile();
     void take(Step step, const Wanted &wanted, Urge urge);
 
     const std::function<Wanted()> wanted;
     KirvLoginQueue &logins;
+    KirvReconcilerQueue &turns;
     QPointer<KirvConnection> target;
     Urge urge = None;
     Urge urgeBefore = None; ///< when hold() was called

@@ -14,6 +14,7 @@
 namespace {
 
 const int tellSize = 10; ///< accounts in one turn of the event loop
+const int keepSize = 5; ///< secrets that are stored in the profile in one
 
 QString randomId()
 {
@@ -144,7 +145,7 @@ void KirvSecretKeeper::loadChanges()
 
 void KirvSecretKeeper::load()
 {
-    hasChanged = false;
+    hasChanged = hasReplaced = false;
     writes.clear();
     removals.clear();
     newKeys.clear();
@@ -196,8 +197,9 @@ void KirvSecretKeeper::onStateChanged()
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
     loadChanges();
-    if (state == KirvSecretStore::Unavailable && !wasPresent)
-        keepInProfile();
+    if (state != KirvSecretStore::Ready)
+        store.wipeTraces(); // of a move that may not go on for long
+    keepInProfile();
     if (state == KirvSecretStore::Ready) {
         load();
         if (movable.isEmpty() && toExamine.isEmpty())
@@ -207,15 +209,20 @@ void KirvSecretKeeper::onStateChanged()
     next();
 }
 
-/// What was stored before it was known that there is no keyring.
+/// What was stored before it was known that there is no keyring. A few at a time: each is a commit.
 void KirvSecretKeeper::keepInProfile()
 {
-    for (const KirvStoredItem &row : std::exchange(writes, {})) {
+    if (!secretStore || secretStore->state() != KirvSecretStore::Unavailable || wasPresent)
+        return;
+    for (int count = 0; count < keepSize && !writes.isEmpty(); ++count) {
+        const KirvStoredItem row = writes.takeFirst();
         KirvAccount *account = accounts.value(row.account);
         if (account && account->record().secretItems.value(row.field) == row.item
             && !account->record().unreadSecrets.contains(row.field))
             account->keepSecretInProfile(row.field);
     }
+    if (!writes.isEmpty())
+        QTimer::singleShot(0, this, &KirvSecretKeeper::keepInProfile);
 }
 
 void KirvSecretKeeper::tellAccounts()
@@ -245,6 +252,7 @@ void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
 {
     isPaused = true;
     lastOutcome = reply.outcome;
+    store.wipeTraces();
     tellAccounts();
 }
 
@@ -273,10 +281,17 @@ void KirvSecretKeeper::next()
     const KirvSecretStore::State state = secretStore->state();
     if (state == KirvSecretStore::Silent)
         reportWrites();
+    if (state != KirvSecretStore::Ready)
+        store.wipeTraces();
     if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
         return;
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)
         return;
+    if (std::exchange(hasReplaced, false)) {
+        load();
+        if (writeNext())
+            return;
+    }
     if (!removeNext())
         moveNext();
 }
@@ -322,7 +337,7 @@ void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, 
     case KirvSecretStore::Done:
         if (newKeys.contains(item.key)) { // written before the program ended
             store.keepSecretItems({ item.key });
-            load();
+            noLongerNew(item.key);
         }
         account->secretRead(secret.field, reply.secret);
         break;
@@ -365,113 +380,17 @@ void KirvSecretKeeper::onMissing(const Secret &secret, const KirvSecretItem &ite
             return;
         }
         store.keepSecretItems({ item.key });
-        load();
+        noLongerNew(item.key);
     }
     account->secretMissing(secret.field);
 }
 
-/// \a callback is called when the secret is known to stand in the store, or not to.
-void KirvSecretKeeper::writeAndReadBack(const KirvSecretItem &item, const QString &secret,
-                                        const KirvSecretStore::Callback &callback)
+/// What it replaces is to be removed. That is loaded when nothing is left to be written: there may be many.
+void KirvSecretKeeper::noLongerNew(const QString &key)
 {
-    secretStore->write(item, secret, this, [this, item, secret, callback](const KirvSecretStore::Reply &written) {
-        if (written.outcome != KirvSecretStore::Done || !secretStore) {
-            callback(written);
-            return;
-        }
-        secretStore->read(item, this, [secret, callback](const KirvSecretStore::Reply &read) {
-            KirvSecretStore::Reply reply = read;
-            if (read.outcome == KirvSecretStore::Missing
-                || (read.outcome == KirvSecretStore::Done && read.secret != secret))
-                reply.outcome = KirvSecretStore::Failed;
-            reply.secret.clear();
-            callback(reply);
-        });
-    });
-}
-
-bool KirvSecretKeeper::writeNext()
-{
-    while (!writes.isEmpty()) {
-        const KirvStoredItem row = writes.takeFirst();
-        const KirvAccount *account = accounts.value(row.account);
-        if (!account)
-            continue;
-        const KirvAccountRecord &record = account->record();
-        if (record.secretItems.value(row.field) != row.item) { // of a move that was interrupted
-            if (!account->isSaving() && store.makeItemsObsolete({ row.item.key }))
-                removals << row;
-            continue;
-        }
-        if (record.unreadSecrets.contains(row.field))
-            continue;
-        isBusy = true;
-        writeAndReadBack(row.item, kirvSecretOf(record, row.field), [this, row](const KirvSecretStore::Reply &reply) {
-            isBusy = false;
-            const QPointer<KirvSecretKeeper> alive(this);
-            onWritten(row, reply);
-            if (alive)
-                next();
-        });
-        return true;
-    }
-    return false;
-}
-
-void KirvSecretKeeper::onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply)
-{
-    if (reply.outcome == KirvSecretStore::Done) {
-        const bool isRefused = store.keepSecretItems({ row.item.key }).isEmpty() && !store.lastError().isEmpty();
-        load();
-        if (isRefused) // by the profile: not before something has changed
-            pause({});
-        return;
-    }
-    const QPointer<KirvSecretKeeper> alive(this);
-    pause(reply);
-    if (alive)
-        report(row, reply.text);
-    if (alive)
-        load(); // it is tried again when the state changes
-}
-
-/// Nobody knows how long the keyring stays silent, and the program may end meanwhile.
-void KirvSecretKeeper::reportWrites()
-{
-    const QPointer<KirvSecretKeeper> alive(this);
-    const QList<KirvStoredItem> rows = writes;
-    for (const KirvStoredItem &row : rows) {
-        if (alive)
-            report(row, QString());
-    }
-}
-
-/// Once, and what was stored in this run only.
-void KirvSecretKeeper::report(const KirvStoredItem &row, const QString &reason)
-{
-    KirvAccount *account = accounts.value(row.account);
-    if (!account || reported.contains(row.item.key) || account->record().unreadSecrets.contains(row.field)
-        || account->record().secretItems.value(row.field) != row.item)
-        return;
-    reported.insert(row.item.key);
-    account->reportUnkeptSecret(reason);
-}
-
-bool KirvSecretKeeper::removeNext()
-{
-    if (removals.isEmpty())
-        return false;
-    const KirvStoredItem row = removals.takeFirst();
-    isBusy = true;
-    secretStore->remove(row.item, this, [this, row](const KirvSecretStore::Reply &reply) {
-        isBusy = false;
-        const QPointer<KirvSecretKeeper> alive(this);
-        if (reply.outcome == KirvSecretStore::Done || reply.outcome == KirvSecretStore::Missing)
-            store.forgetSecretItems({ row.item.key });
-        else
-            pause(reply);
-        if (alive)
-            next();
-    });
-    return true;
+    newKeys.remove(key);
+    writes.erase(
+        std::remove_if(writes.begin(), writes.end(), [&key](const KirvStoredItem &row) { return row.item.key == key; }),
+        writes.end());
+    hasReplaced = true;
 }

@@ -23,7 +23,7 @@ class KirvStore;
 /// A change commits the item of a secret first, under a key that was never used; then the secret is written to the
 /// keyring and read back, and what it replaces is removed. What was interrupted goes on at the next start. Secrets are
 /// read from the event loop, one at a time; when the person refuses, or the keyring does not respond, nothing more is
-/// requested of it until its state changes or somebody asks for it.
+/// requested of it until its state changes, the user requests it or stores another secret.
 class KirvSecretKeeper : public QObject {
     Q_OBJECT
 
@@ -68,7 +68,7 @@ public:
 Q_SIGNALS:
     /// The state of the keyring or the obstacle may have changed.
     void changed();
-    /// So many secrets were moved from the profile to the keyring, now or since it was interrupted.
+    /// So many secrets were moved from the profile to the keyring, with those of earlier runs when it was interrupted.
     void moved(int secrets);
 
 private:
@@ -91,17 +91,20 @@ private:
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
     void readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply);
     void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
+    void noLongerNew(const QString &key);
+    void giveUpInterrupted();
     bool writeNext();
     void onWritten(const KirvStoredItem &row, const KirvSecretStore::Reply &reply);
     void reportWrites();
-    void report(const KirvStoredItem &row, const QString &reason);
+    bool report(const KirvStoredItem &row, const QString &reason);
     void writeAndReadBack(const KirvSecretItem &item, const QString &secret, const KirvSecretStore::Callback &callback);
     bool removeNext();
     void collectMovable();
     void examineNext();
     void beginBatch();
     bool moveNext();
-    void endBatch();
+    void keepVerified(bool isOver);
+    void endMove();
     void load();
     void loadChanges();
     QSet<QString> keysInUse();
@@ -118,14 +121,15 @@ private:
     QSet<QString> reported; ///< keys of those of which the person knows that they could not be written
     QList<KirvAccountKey> toExamine; ///< whether the profile holds secrets of them
     QList<Secret> movable; ///< what it holds
-    QList<KirvStoredItem> batch; ///< of the move
+    QList<KirvStoredItem> batch; ///< of the move: what is still in the profile
     QHash<QString, QString> batchValues; ///< by key
     QStringList verified; ///< keys of the first ones of the batch, which are read back
-    int movedCount = 0;
+    int movedCount = 0; ///< in all runs of the move that is not complete
     bool mayMove = false;
     bool isBusy = false;
     bool isScheduled = false;
     bool hasChanged = false; ///< what is stored, since load()
+    bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
     Obstacle toldObstacle = None; ///< that the accounts know of

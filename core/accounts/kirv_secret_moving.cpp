@@ -11,7 +11,8 @@
 
 namespace {
 
-const int batchSize = 20; ///< secrets that one commit moves
+const int batchSize = 100; ///< secrets whose items one commit notes
+const int keepSize = 20; ///< secrets that one commit takes out of the profile
 const int examineSize = 50; ///< accounts in one turn of the event loop
 
 } // namespace
@@ -19,6 +20,7 @@ const int examineSize = 50; ///< accounts in one turn of the event loop
 void KirvSecretKeeper::startMoving()
 {
     mayMove = true;
+    movedCount = store.movedCount();
     collectMovable();
     next();
 }
@@ -79,8 +81,7 @@ bool KirvSecretKeeper::moveNext()
         return false;
     }
     if (batch.isEmpty()) {
-        if (movedCount > 0)
-            Q_EMIT moved(std::exchange(movedCount, 0));
+        endMove();
         return false;
     }
     const KirvSecretItem item = batch.at(verified.size()).item;
@@ -91,8 +92,8 @@ bool KirvSecretKeeper::moveNext()
         const bool isDone = reply.outcome == KirvSecretStore::Done;
         if (isDone)
             verified << item.key;
-        if (!isDone || verified.size() == batch.size())
-            endBatch();
+        if (!isDone || verified.size() == qMin(int(batch.size()), keepSize))
+            keepVerified(!isDone);
         if (alive && !isDone)
             pause(reply);
         if (alive)
@@ -101,19 +102,19 @@ bool KirvSecretKeeper::moveNext()
     return true;
 }
 
-/// What was read back leaves the profile; what was not stays there, and its items are removed.
-void KirvSecretKeeper::endBatch()
+/// What was read back leaves the profile. With \a isOver the rest of the batch stays there, and its items are removed.
+void KirvSecretKeeper::keepVerified(bool isOver)
 {
-    const QStringList kept = verified.isEmpty() ? QStringList() : store.keepSecretItems(verified);
+    const QStringList kept = verified.isEmpty() ? QStringList() : store.keepMovedItems(verified);
     const bool isRefused = !verified.isEmpty() && kept.isEmpty() && !store.lastError().isEmpty();
-    const QList<KirvStoredItem> ended = std::exchange(batch, {});
-    for (QString &value : batchValues)
-        kirvWipe(value);
-    batchValues.clear();
+    const int count = int(isOver || isRefused ? batch.size() : verified.size());
     verified.clear();
     movedCount += int(kept.size());
     QStringList unused;
-    for (const KirvStoredItem &row : ended) {
+    for (int ended = 0; ended < count; ++ended) {
+        const KirvStoredItem row = batch.takeFirst();
+        QString value = batchValues.take(row.item.key);
+        kirvWipe(value);
         KirvAccount *account = accounts.value(row.account);
         if (!kept.contains(row.item.key))
             unused << row.item.key;
@@ -130,4 +131,13 @@ void KirvSecretKeeper::endBatch()
     } else if (!unused.isEmpty()) {
         collectMovable();
     }
+}
+
+/// The profile's files are wiped once for all, and the count starts again. Where that is refused, the next start does
+/// it.
+void KirvSecretKeeper::endMove()
+{
+    const int count = std::exchange(movedCount, 0);
+    if (count > 0 && store.endMove())
+        Q_EMIT moved(count);
 }

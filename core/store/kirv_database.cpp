@@ -182,6 +182,13 @@ bool KirvDatabase::commit()
     return true;
 }
 
+void KirvDatabase::setDurable(bool isDurable)
+{
+    if (depth == 0)
+        execute(isDurable ? QStringLiteral("PRAGMA synchronous = FULL")
+                          : QStringLiteral("PRAGMA synchronous = NORMAL"));
+}
+
 void KirvDatabase::rollBack()
 {
     if (depth == 0)

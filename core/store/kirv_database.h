@@ -44,6 +44,9 @@ public:
     bool begin();
     bool commit();
     void rollBack();
+    /// Whether a commit is on the disk when it returns, which is so at first. Otherwise a power failure may undo it,
+    /// and all that follow it up to the next one that is. Changes nothing inside a transaction.
+    void setDurable(bool isDurable);
     bool isInTransaction() const { return depth > 0; }
     /// Whether the next commit() ends the transaction.
     bool isOutermost() const { return depth == 1; }

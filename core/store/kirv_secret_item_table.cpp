@@ -132,6 +132,55 @@ bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept, bool 
     return true;
 }
 
+namespace {
+
+bool writeSetting(KirvDatabase &database, const QString &key, const QString &value)
+{
+    return database.run(QStringLiteral("INSERT INTO setting (key, value) VALUES (?, ?) "
+                                       "ON CONFLICT (key) DO UPDATE SET value = excluded.value"),
+                        { key, value })
+        != nullptr;
+}
+
+QVariant readSetting(KirvDatabase &database, const QString &key)
+{
+    return database.valueOf(QStringLiteral("SELECT value FROM setting WHERE key = ?"), { key });
+}
+
+bool forgetSetting(KirvDatabase &database, const QString &key)
+{
+    return database.run(QStringLiteral("DELETE FROM setting WHERE key = ?"), { key }) != nullptr;
+}
+
+} // namespace
+
+bool KirvSecretItemTable::noteMoved(int secrets)
+{
+    return secrets == 0
+        || (writeSetting(database, kirvMovedSetting, QString::number(movedCount() + secrets))
+            && writeSetting(database, kirvTracesSetting, QStringLiteral("1")));
+}
+
+int KirvSecretItemTable::movedCount()
+{
+    return readSetting(database, kirvMovedSetting).toInt();
+}
+
+bool KirvSecretItemTable::forgetMoved()
+{
+    return forgetSetting(database, kirvMovedSetting);
+}
+
+bool KirvSecretItemTable::hasTraces()
+{
+    return readSetting(database, kirvTracesSetting).isValid();
+}
+
+bool KirvSecretItemTable::forgetTraces()
+{
+    return forgetSetting(database, kirvTracesSetting);
+}
+
 bool KirvSecretItemTable::makeObsolete(const QStringList &keys)
 {
     return std::all_of(keys.begin(), keys.end(), [this](const QString &key) {

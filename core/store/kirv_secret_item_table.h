@@ -14,6 +14,9 @@ class KirvDatabase;
 
 /// The client-wide setting with the id that all items of the profile bear.
 const QLatin1String kirvProfileIdSetting("profile/id");
+/// Client-wide settings of a move that is not complete: how many secrets were moved, and whether their traces are left.
+const QLatin1String kirvMovedSetting("secrets/moved");
+const QLatin1String kirvTracesSetting("secrets/traces");
 
 /// One secret that stands, or may stand, in a store of secrets. A value type.
 struct KirvStoredItem {
@@ -60,6 +63,14 @@ public:
     /// Makes the New items of these keys the Kept ones; what they replace becomes obsolete, and what the profile holds
     /// of them is removed: \a hasRemovedSecrets is set then. \a kept gets the keys of those that were still New.
     bool keep(const QStringList &keys, QStringList *kept, bool *hasRemovedSecrets);
+    /// Counts so many that keep() has moved from the profile, and marks that traces of them are left in its files.
+    bool noteMoved(int secrets);
+    /// The count.
+    int movedCount();
+    bool forgetMoved();
+    /// The mark.
+    bool hasTraces();
+    bool forgetTraces();
     bool makeObsolete(const QStringList &keys);
     /// Forgets obsolete items, which are removed from their store.
     bool forget(const QStringList &keys);

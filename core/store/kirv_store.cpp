@@ -4,6 +4,7 @@
 #include "core/store/kirv_account_table.h"
 #include "core/store/kirv_avatar_folder.h"
 #include "core/store/kirv_database.h"
+#include "core/store/kirv_file_identity.h"
 #include "core/store/kirv_profile_copies.h"
 #include "core/store/kirv_profile_lock.h"
 #include "core/store/kirv_profile_opening.h"
@@ -12,26 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <algorithm>
-#include <sys/stat.h>
-
-namespace {
-
-/// What tells a file from every other one, whatever its name.
-struct FileIdentity {
-    dev_t device = 0;
-    ino_t number = 0;
-
-    static FileIdentity of(const QString &path)
-    {
-        struct stat status { };
-        if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
-            return {};
-        return { status.st_dev, status.st_ino };
-    }
-    bool operator==(const FileIdentity &other) const { return device == other.device && number == other.number; }
-};
-
-}
 
 class KirvStore::Private {
     Q_DECLARE_TR_FUNCTIONS(KirvStore)
@@ -47,9 +28,11 @@ public:
     bool forgetNewSecrets();
     void transactionEnded(bool committed);
     void emptyLog();
+    bool forgetTraces();
+    bool wipeTraces();
     bool hasCopy();
     void keepCopy();
-    bool isInPlace() const { return FileIdentity::of(paths.database()) == openFile; }
+    bool isInPlace() const { return KirvFileIdentity::of(paths.database()) == openFile; }
     bool failUnlessInPlace();
     bool copyAllTo(KirvStore &other);
 
@@ -59,8 +42,9 @@ public:
     KirvDatabase database;
     KirvAvatarFolder avatars { database };
     KirvAccountTable accounts { database };
-    FileIdentity openFile;
+    KirvFileIdentity openFile;
     int commitsOfOpening = 0;
+    bool hasTraces = false; ///< of secrets that were moved
     bool isCopied = false; ///< the newest copy has what is stored
     QString copyError;
 };
@@ -97,8 +81,11 @@ KirvProfileState KirvStore::Private::open()
         found = opening.open(database);
     if (!found.canBeOpened())
         return found;
-    openFile = FileIdentity::of(paths.database());
-    emptyLog(); // what a process that was killed has overwritten is still there
+    openFile = KirvFileIdentity::of(paths.database());
+    // What a process that was killed has overwritten is still there.
+    hasTraces = accounts.items().hasTraces();
+    if (!hasTraces || !wipeTraces())
+        emptyLog();
     avatars.removeUnused();
     isCopied = hasCopy();
     if (!isCopied)
@@ -110,8 +97,12 @@ KirvProfileState KirvStore::Private::open()
 
 void KirvStore::close()
 {
-    if (isOpen() && !d->isCopied && d->isInPlace())
+    const bool isInFolder = isInPlace();
+    if (isInFolder)
+        d->wipeTraces();
+    if (isInFolder && !d->isCopied)
         d->keepCopy();
+    d->hasTraces = false;
     d->database.close();
     d->database.clearError();
     d->accounts.effects() = {};
@@ -280,6 +271,19 @@ void KirvStore::Private::emptyLog()
         query->finish();
 }
 
+/// As a part of a change: its commit writes the table of the secrets anew and empties the log.
+bool KirvStore::Private::forgetTraces()
+{
+    accounts.effects().hasOverwrittenSecrets = true;
+    return accounts.items().forgetTraces();
+}
+
+bool KirvStore::Private::wipeTraces()
+{
+    hasTraces = hasTraces && !change([this] { return forgetTraces(); });
+    return !hasTraces;
+}
+
 QString KirvStore::importAvatar(const QString &path)
 {
     d->database.clearError();
@@ -369,6 +373,38 @@ QStringList KirvStore::keepSecretItems(const QStringList &keys)
     const bool isStored =
         d->change([&] { return d->accounts.items().keep(keys, &kept, &d->accounts.effects().hasOverwrittenSecrets); });
     return isStored ? kept : QStringList();
+}
+
+QStringList KirvStore::keepMovedItems(const QStringList &keys)
+{
+    QStringList kept;
+    bool hasRemovedSecrets = false;
+    d->database.setDurable(false);
+    const bool isStored = d->change([&] {
+        return d->accounts.items().keep(keys, &kept, &hasRemovedSecrets)
+            && d->accounts.items().noteMoved(int(kept.size()));
+    });
+    d->database.setDurable(true);
+    d->hasTraces = d->hasTraces || (isStored && hasRemovedSecrets);
+    return isStored ? kept : QStringList();
+}
+
+int KirvStore::movedCount()
+{
+    d->database.clearError();
+    return d->accounts.items().movedCount();
+}
+
+bool KirvStore::wipeTraces()
+{
+    return d->wipeTraces();
+}
+
+bool KirvStore::endMove()
+{
+    const bool isEnded = d->change([this] { return d->forgetTraces() && d->accounts.items().forgetMoved(); });
+    d->hasTraces = d->hasTraces && !isEnded;
+    return isEnded;
 }
 
 bool KirvStore::makeItemsObsolete(const QStringList &keys)

@@ -20,10 +20,10 @@
 ///
 /// A secret, which is a password or a secret setting, stands in the database and its log only, or not in the profile at
 /// all but in a store of secrets, and the database names it only. After the change that overwrites or removes it, and
-/// after every open(), no byte of it is in the files. (A database that was damaged is kept aside as it was, see
-/// KirvProfileRescue.) Where a setting becomes secret the same holds for its former values, and the copies, which have
-/// it, are replaced by a new one. No operation throws; false or an empty result with lastError() says that something
-/// failed.
+/// after every open(), no byte of it is in the files; a move of many, see keepMovedItems(), wipes once. (A database
+/// that was damaged is kept aside as it was, see KirvProfileRescue.) Where a setting becomes secret the same holds for
+/// its former values, and the copies, which have it, are replaced by a new one. No operation throws; false or an empty
+/// result with lastError() says that something failed.
 class KirvStore {
 public:
     KirvStore();
@@ -71,6 +71,16 @@ public:
     /// Gives the keys of those that were still New; what the profile held of them is gone from its files then. Empty
     /// with lastError() when the change was refused.
     QStringList keepSecretItems(const QStringList &keys);
+    /// The same for a part of a move of many, in one cheap commit. What the profile held is out of its tables then, and
+    /// out of its files after wipeTraces(), endMove(), close() or the next open(). A power failure may undo it: the
+    /// items are New again then, and what the profile holds counts.
+    QStringList keepMovedItems(const QStringList &keys);
+    /// How many secrets keepMovedItems() has moved since the last endMove(), in whatever run.
+    int movedCount();
+    /// Wipes what keepMovedItems() has left in the files. Does nothing when that was done.
+    bool wipeTraces();
+    /// The move is complete: wipes what it has left, and movedCount() begins anew.
+    bool endMove();
     bool makeItemsObsolete(const QStringList &keys);
     bool forgetSecretItems(const QStringList &keys);
 

@@ -3,7 +3,9 @@
 #include "tests/integration/kirv_accounts_fixture.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QtTest>
+#include <utility>
 
 using State = KirvConnection::State;
 
@@ -15,6 +17,7 @@ private Q_SLOTS:
     void cleanup();
 
     void aHundredAccountsStartOneByOne();
+    void aTurnOfTheEventLoopBringsAFewAccountsOnTheirWay();
     void onlyAFewAttemptsAreInProgress();
     void theMainAccountIsFirst();
     void theMainAccountIsFirstWhenAllReturn();
@@ -142,6 +145,26 @@ void tst_LoginTurns::aHundredAccountsStartOneByOne()
     QVERIFY(turn >= count / 2);
     for (int number = 0; number < count; ++number)
         QVERIFY(account(number)->isOnline());
+}
+
+/// However many are enabled at the start.
+void tst_LoginTurns::aTurnOfTheEventLoopBringsAFewAccountsOnTheirWay()
+{
+    const int count = 200;
+    start(count);
+    int begun = 0, begunInTurn = 0, most = 0;
+    QObject context; // of the slots
+    for (int number = 0; number < count; ++number)
+        connect(connection(number), &KirvConnection::stateChanged, &context, [&](State state) {
+            begun += state == State::Waiting ? 1 : 0;
+            begunInTurn += state == State::Waiting ? 1 : 0;
+        });
+    QTimer turns; // times out once in each
+    connect(&turns, &QTimer::timeout, this, [&] { most = qMax(most, std::exchange(begunInTurn, 0)); });
+    turns.start(0);
+    QTRY_VERIFY(begun >= count - 1); // the first one starts without a wait
+    most = qMax(most, begunInTurn);
+    QVERIFY2(most > 0 && most <= 2 * KirvReconcilerQueue::perTurn, QByteArray::number(most).constData());
 }
 
 void tst_LoginTurns::onlyAFewAttemptsAreInProgress()
