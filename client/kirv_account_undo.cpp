@@ -23,13 +23,20 @@ QString KirvAccountUndo::command() const
     const QStringList names = past.namesOf(past.latest());
     if (names.isEmpty())
         return QString();
-    const bool isRemoval = past.kindOf(past.latest()) == KirvAccountHistory::Removal;
-    if (names.size() > 1)
-        return isRemoval ? tr("&Undo Removing %n Accounts", nullptr, int(names.size()))
-                         : tr("&Undo Disabling %n Accounts", nullptr, int(names.size()));
+    const QString name = kirvPlainCommand(kirvPlainName(names.first()));
+    const int count = int(names.size());
+    switch (past.kindOf(past.latest())) {
+    case KirvAccountHistory::Removal:
+        //: %1 = name of an account
+        return count == 1 ? tr("&Undo Removing %1").arg(name) : tr("&Undo Removing %n Accounts", nullptr, count);
+    case KirvAccountHistory::Disabling:
+        //: %1 = name of an account
+        return count == 1 ? tr("&Undo Disabling %1").arg(name) : tr("&Undo Disabling %n Accounts", nullptr, count);
+    case KirvAccountHistory::Import:
+        break;
+    }
     //: %1 = name of an account
-    const QString text = isRemoval ? tr("&Undo Removing %1") : tr("&Undo Disabling %1");
-    return text.arg(kirvPlainCommand(kirvPlainName(names.first())));
+    return count == 1 ? tr("&Undo Importing %1").arg(name) : tr("&Undo Importing %n Accounts", nullptr, count);
 }
 
 void KirvAccountUndo::undoLatest()
@@ -63,11 +70,21 @@ void KirvAccountUndo::withdraw(int step)
 QString KirvAccountUndo::messageOf(int step) const
 {
     const QStringList names = past.namesOf(step);
-    const bool isRemoval = past.kindOf(step) == KirvAccountHistory::Removal;
-    if (names.size() > 1)
-        return isRemoval ? tr("%n accounts were removed.", nullptr, int(names.size()))
-                         : tr("%n accounts were disabled.", nullptr, int(names.size()));
+    const QString name = kirvPlainName(names.value(0)), protocol = past.accountsOf(step).value(0).protocol;
+    const int count = int(names.size());
+    switch (past.kindOf(step)) {
+    case KirvAccountHistory::Removal:
+        //: %1 = name of an account, %2 = name of its protocol
+        return count == 1 ? tr("The account %1 (%2) was removed.").arg(name, protocol)
+                          : tr("%n accounts were removed.", nullptr, count);
+    case KirvAccountHistory::Disabling:
+        //: %1 = name of an account, %2 = name of its protocol
+        return count == 1 ? tr("The account %1 (%2) was disabled.").arg(name, protocol)
+                          : tr("%n accounts were disabled.", nullptr, count);
+    case KirvAccountHistory::Import:
+        break;
+    }
     //: %1 = name of an account, %2 = name of its protocol
-    const QString text = isRemoval ? tr("The account %1 (%2) was removed.") : tr("The account %1 (%2) was disabled.");
-    return text.arg(kirvPlainName(names.value(0)), past.accountsOf(step).value(0).protocol);
+    return count == 1 ? tr("The account %1 (%2) was imported.").arg(name, protocol)
+                      : tr("%n accounts were imported.", nullptr, count);
 }

@@ -196,6 +196,36 @@ bool KirvAccount::setPresence(const KirvPresence &presence)
     });
 }
 
+void KirvAccount::resume(const KirvPresence &presence)
+{
+    askedPresence = presence;
+    reconciler.schedule();
+}
+
+void KirvAccount::adopt(const KirvAccountRecord &stored, const KirvPresence &wanted)
+{
+    const bool becomesEnabled = stored.enabled && !current.enabled;
+    current = stored;
+    if (isSaving())
+        recordBefore = stored;
+    unstoredPassword = false;
+    if (!current.enabled)
+        askedPresence.reset();
+    else if (!wanted.getId().isEmpty())
+        askedPresence = wanted;
+    else if (becomesEnabled)
+        askedPresence = logInPresence();
+    awaited = current.unreadSecrets;
+    if (usesPasswordForNow())
+        awaited.remove(QString());
+    if (!awaited.isEmpty())
+        keeper.read(this);
+    refreshDescription();
+    if (becomesEnabled)
+        tryAgain();
+    reconciler.schedule();
+}
+
 void KirvAccount::tryAgain()
 {
     mayLogIn = true;

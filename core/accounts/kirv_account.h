@@ -133,6 +133,12 @@ public:
     void load(KirvProtocolBase *protocol, bool logIn);
     /// Breaks and destroys the connection.
     void unload();
+    /// The store has got \a stored for the account, in a larger change: it is what the account is now. \a wanted is the
+    /// presence that is wanted; with an empty id it stays what it is. An account that becomes enabled logs in. Emits
+    /// nothing.
+    void adopt(const KirvAccountRecord &stored, const KirvPresence &wanted);
+    /// Wants \a presence in this run; what is stored stays as it is.
+    void resume(const KirvPresence &presence);
     /// The account is not configured any more: logs out, emits nothing from now on and destroys itself then.
     void leave();
     bool isRemoved() const { return removed; }

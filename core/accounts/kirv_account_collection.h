@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <functional>
 
+struct KirvAccountBatch;
+
 /// Every configured account, over a store.
 ///
 /// The store is written before an operation that changes something returns.
@@ -35,6 +37,11 @@ public:
 
     /// Whether there is an account with the login of \a key, also with another spelling of it.
     bool hasLogin(const KirvAccountKey &key) const { return !idWithSameLogin(key).isEmpty(); }
+    /// The id of that account; empty: there is none. Of an account whose protocol is not loaded only the same spelling
+    /// is found.
+    QString idWithSameLogin(const KirvAccountKey &key) const;
+    /// The loaded protocol of that name; null while it is not loaded.
+    KirvProtocolBase *protocol(const QString &name) const { return protocols.value(name); }
 
     /// Stores \a record as a new account of \a protocol, which must be loaded; settings that it lacks have their
     /// defaults. Null when the account exists, also with another spelling of the login, the protocol is not the loaded
@@ -54,6 +61,10 @@ public:
     /// there is such an account, also with another spelling of the login, or the store refuses; nothing has changed
     /// then, and lastError() says why.
     KirvAccount *restore(const KirvRemovedAccount &removed);
+    /// Makes all changes of \a batch as one change of the store. False when an account to be added exists, also with
+    /// another spelling of the login, one to be replaced does not, or the store refuses; nothing has changed then, and
+    /// lastError() says why. removalBegins() and removalRefused() are not emitted.
+    bool apply(const KirvAccountBatch &batch);
     /// Puts \a account before \a next in the order, or at its end when \a next is null. False when the store refuses.
     bool place(KirvAccount *account, const KirvAccount *next);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
@@ -115,15 +126,24 @@ private:
         QList<KirvAccount *> accounts;
         QList<KirvAccountInfo *> infos;
     };
+    struct PlacedBatch;
 
     KirvAccount *append(const KirvAccountRecord &record);
     void removeStored(KirvAccount *account);
     void refuseRemoval(const QList<QPointer<KirvAccount>> &accounts);
-    QString importPicture(const QByteArray &picture);
-    bool insertBefore(const KirvAccountRecord &record, const KirvAccount *next);
+    QString problemOf(const KirvAccountBatch &batch) const;
+    QList<KirvAccountKey> orderWith(const QList<KirvRemovedAccount> &added) const;
+    bool prepare(const KirvAccountBatch &batch, PlacedBatch *placed);
+    bool placeReplacement(const KirvAccount &account, const QByteArray &picture, KirvAccountRecord *record,
+                          PlacedBatch *placed);
+    bool importPicture(const QByteArray &picture, KirvAccountRecord *record, PlacedBatch *placed);
+    bool storeBatch(const KirvAccountBatch &batch, const PlacedBatch &placed);
+    bool storeOrder(const PlacedBatch &placed);
+    void finishBatch(const KirvAccountBatch &batch, const PlacedBatch &placed);
+    void arrangeAll(const QList<KirvAccountKey> &order);
+    QHash<KirvAccountKey, QPointer<KirvAccount>> leavingAccounts() const;
+    void loadRestored(KirvAccount *account, const KirvPresence &presence, KirvAccount *twin);
     void arrange(KirvAccount *account, const KirvAccount *next);
-    const KirvAccount *accountAfter(const KirvRemovedAccount &removed) const;
-    void loadRestored(KirvAccount *account, const KirvPresence &presence);
     QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
@@ -132,7 +152,6 @@ private:
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
     static QString protocolIsNotLoaded(const KirvAccountKey &key);
-    QString idWithSameLogin(const KirvAccountKey &key) const;
     void reportTwins(const QString &protocol);
     void refuse(const QString &reason);
     void reactToNetwork();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account_history.h"
 
+#include "core/accounts/kirv_account_batch.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_main_account.h"
 
@@ -62,6 +63,25 @@ void KirvAccountHistory::endStep()
     const Step ended = std::exchange(open, Step());
     if (!ended.changes.isEmpty())
         add(ended);
+}
+
+void KirvAccountHistory::addImport(const Imported &imported)
+{
+    Step step { ++lastNumber, Import, {} };
+    const auto addChange = [&](const KirvRemovedAccount &before, bool isNew) {
+        const KirvAccount *account = accounts.find(before.record.key);
+        if (account)
+            step.changes << Change { before, account->displayName(), imported.mainAccount == account->key(), isNew };
+    };
+    for (const KirvRemovedAccount &replaced : imported.replaced)
+        addChange(replaced, false);
+    for (const KirvAccountKey &key : imported.added) {
+        KirvRemovedAccount added;
+        added.record.key = key;
+        addChange(added, true);
+    }
+    if (!step.changes.isEmpty())
+        add(step);
 }
 
 int KirvAccountHistory::latest() const
@@ -152,52 +172,92 @@ void KirvAccountHistory::forget(int index)
     Q_EMIT stepGone(steps.takeAt(index).number);
 }
 
+void KirvAccountHistory::Rest::add(const QString &reason)
+{
+    if (!reasons.contains(reason))
+        reasons << reason;
+}
+
 QStringList KirvAccountHistory::undo(int step)
 {
     const int index = indexOf(step);
     if (index < 0)
         return {};
     Step undone = steps.takeAt(index);
-    QList<Change> left;
-    QStringList reasons;
     const QPointer<KirvAccountHistory> alive(this);
-    // The latest first, so that each finds the neighbours that it had.
-    for (auto change = undone.changes.crbegin(); change != undone.changes.crend(); ++change) {
-        QString reason;
-        const Result result = undoChange(undone.kind, *change, &reason);
-        if (!alive)
-            return reasons;
-        if (result == Refused)
-            left.prepend(*change);
-        if (result != Undone && !reasons.contains(reason))
-            reasons << reason;
-    }
-    if (left.isEmpty()) {
+    const Rest rest = undone.kind == Disabling ? enableAll(undone) : bringBack(undone);
+    if (!alive)
+        return rest.reasons;
+    if (rest.changes.isEmpty()) {
         Q_EMIT stepGone(step);
-        return reasons;
+        return rest.reasons;
     }
-    undone.changes = left;
+    undone.changes = rest.changes;
     const auto isLater = [step](const Step &other) { return other.number > step; };
     steps.insert(std::find_if(steps.begin(), steps.end(), isLater), undone);
-    return reasons;
+    return rest.reasons;
 }
 
-KirvAccountHistory::Result KirvAccountHistory::undoChange(Kind kind, const Change &change, QString *reason)
+/// As one change of the store.
+KirvAccountHistory::Rest KirvAccountHistory::bringBack(const Step &step)
 {
+    KirvAccountBatch batch;
+    Rest rest;
+    // The latest first, so that each finds the neighbours that it had.
+    for (auto change = step.changes.crbegin(); change != step.changes.crend(); ++change) {
+        const QString reason = addTo(&batch, step.kind, *change);
+        if (reason.isEmpty())
+            rest.changes.prepend(*change);
+        else
+            rest.add(reason);
+    }
+    if (!batch.mainAccount.id.isEmpty())
+        batch.onStored = [this] { mainAccount.restore(); };
+    if (accounts.apply(batch))
+        rest.changes.clear();
+    else
+        rest.add(accounts.lastError());
+    return rest;
+}
+
+/// Adds to \a batch what undoes \a change. Gives the reason why that is impossible.
+QString KirvAccountHistory::addTo(KirvAccountBatch *batch, Kind kind, const Change &change) const
+{
+    const KirvAccountKey &key = change.account.record.key;
+    KirvAccount *account = accounts.find(key);
+    if (change.isNew) {
+        if (account)
+            batch->removed << account;
+        return QString();
+    }
+    if (kind == Removal && accounts.hasLogin(key))
+        return accounts.problemWithNew(key);
+    if (kind == Import && !account) {
+        //: %1 = name of an account
+        return tr("The account \"%1\" cannot become what it was before the import: it was removed.").arg(change.name);
+    }
+    (kind == Removal ? batch->added : batch->replaced) << change.account;
+    if (change.wasMain && change.account.record.enabled)
+        batch->mainAccount = key;
+    return QString();
+}
+
+KirvAccountHistory::Rest KirvAccountHistory::enableAll(const Step &step)
+{
+    Rest rest;
     const QPointer<KirvAccountHistory> alive(this);
-    const Result result = kind == Removal ? restore(change, reason) : enable(change, reason);
-    KirvAccount *account = alive && result == Undone ? accounts.find(change.account.record.key) : nullptr;
-    if (account && change.wasMain && account->record().enabled)
-        mainAccount.choose(account);
-    return result;
-}
-
-KirvAccountHistory::Result KirvAccountHistory::restore(const Change &change, QString *reason)
-{
-    if (accounts.restore(change.account))
-        return Undone;
-    *reason = accounts.lastError();
-    return accounts.hasLogin(change.account.record.key) ? Impossible : Refused;
+    for (auto change = step.changes.crbegin(); alive && change != step.changes.crend(); ++change) {
+        QString reason;
+        const Result result = enable(*change, &reason);
+        if (result == Refused)
+            rest.changes.prepend(*change);
+        if (result != Undone)
+            rest.add(reason);
+        KirvAccount *account = alive && result == Undone ? accounts.find(change->account.record.key) : nullptr;
+        if (account && change->wasMain && account->record().enabled)
+            mainAccount.choose(account);
+    }
+    return rest;
 }
 
 KirvAccountHistory::Result KirvAccountHistory::enable(const Change &change, QString *reason)

@@ -9,21 +9,22 @@
 #include <QObject>
 #include <QStringList>
 
+struct KirvAccountBatch;
 class KirvAccount;
 class KirvAccountCollection;
 class KirvMainAccount;
 
-/// What was removed and disabled in this run, whoever did it, and how it is undone.
+/// What was removed, disabled and imported in this run, whoever did it, and how it is undone.
 ///
-/// A step is one removal or disabling, or several of them between beginStep() and endStep(). An account that is enabled
-/// in another way leaves the step that disabled it. Everything is in memory
-/// only, until the history is destroyed or the step is dropped: there are at most mostSteps, and as long as they hold
-/// more than mostBytes of pictures, the oldest ones go, but never the latest.
+/// A step is one removal or disabling, or several of them between beginStep() and endStep(), or one import. An account
+/// that is enabled in another way leaves the step that disabled it. Everything is in memory only, until the history is
+/// destroyed or the step is dropped: there are at most mostSteps, and as long as they hold more than mostBytes of
+/// pictures, the oldest ones go, but never the latest.
 class KirvAccountHistory : public QObject {
     Q_OBJECT
 
 public:
-    enum Kind { Removal, Disabling };
+    enum Kind { Removal, Disabling, Import };
     static constexpr int mostSteps = 100;
     static constexpr qint64 mostBytes = 64 * 1024 * 1024;
 
@@ -33,6 +34,15 @@ public:
     /// Makes the changes that follow, which are all of the kind \a kind, one step. Does not nest.
     void beginStep(Kind kind);
     void endStep();
+
+    /// What an import has changed. A value type.
+    struct Imported {
+        QList<KirvAccountKey> added;
+        QList<KirvRemovedAccount> replaced; ///< as they were before
+        KirvAccountKey mainAccount; ///< the one before; the id is empty: none
+    };
+    /// Makes an import that is done a step of its own.
+    void addImport(const Imported &imported);
 
     /// Number of the latest step; 0 when there is none.
     int latest() const;
@@ -44,9 +54,10 @@ public:
     QStringList namesOf(int step) const;
 
     /// Undoes the step: removed accounts are there again with everything that belonged to them, disabled ones are
-    /// enabled with the presence that was wanted, and the main account is the one that it was. Gives the reasons, a
-    /// sentence each, why some of it was not undone. What the store refused stays in the step and can be undone later;
-    /// what cannot be undone, as there is such an account again or none any more, is dropped.
+    /// enabled with the presence that was wanted, imported ones are removed or as they were before, and the main
+    /// account is the one that it was. Gives the reasons, a sentence each, why some of it was not undone. What the
+    /// store refused stays in the step and can be undone later, of removals and imports all of it; what cannot be
+    /// undone, as there is such an account again or none any more, is dropped.
     QStringList undo(int step);
 
 Q_SIGNALS:
@@ -58,9 +69,10 @@ Q_SIGNALS:
 private:
     /// One account.
     struct Change {
-        KirvRemovedAccount account; ///< of a disabled one only what undoing it needs
+        KirvRemovedAccount account; ///< of one that is there only what undoing it needs
         QString name;
         bool wasMain = false;
+        bool isNew = false; ///< by an import
     };
     struct Step {
         int number = 0;
@@ -69,6 +81,12 @@ private:
         qint64 bytes() const;
     };
     enum Result { Undone, Refused, Impossible };
+    /// What was not undone.
+    struct Rest {
+        QList<Change> changes; ///< can be undone later
+        QStringList reasons;
+        void add(const QString &reason);
+    };
 
     int indexOf(int step) const;
     void prepare(Kind kind, const KirvAccount *account);
@@ -77,8 +95,9 @@ private:
     void dropOldest();
     void forget(int index);
     void accountChanged(const KirvAccount *account);
-    Result undoChange(Kind kind, const Change &change, QString *reason);
-    Result restore(const Change &change, QString *reason);
+    Rest bringBack(const Step &step);
+    QString addTo(KirvAccountBatch *batch, Kind kind, const Change &change) const;
+    Rest enableAll(const Step &step);
     Result enable(const Change &change, QString *reason);
 
     KirvAccountCollection &accounts;

@@ -20,6 +20,7 @@ public:
     /// \a protocol is not owned; unload() it before it is destroyed. \a ids are those of its accounts, in their order.
     void load(const KirvProtocolBase *protocol, const QString &name, const QStringList &ids);
     void unload(const QString &name);
+    bool isLoaded(const QString &name) const { return loaded.contains(name); }
 
     /// An account was added or removed. Nothing happens while its protocol is not loaded.
     void insert(const KirvAccountKey &key);

@@ -4,10 +4,10 @@
 
 #include "core/moving/kirv_moved_accounts.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
-class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHistory;
 class KirvMainAccount;
@@ -17,6 +17,8 @@ class KirvMainAccount;
 /// An account that exists, also with another spelling of its login, is kept or replaced; there can be only one account
 /// with a login. Nothing changes before apply().
 class KirvAccountImport {
+    Q_DECLARE_TR_FUNCTIONS(KirvAccountImport)
+
 public:
     struct Row {
         KirvAccountKey key; ///< as in the file
@@ -27,24 +29,37 @@ public:
         bool isNew() const { return existing.id.isEmpty(); }
     };
 
-    /// None of the three is owned; they outlive this. New accounts without a problem are taken, existing ones kept.
+    /// None of the three is owned; they outlive this. \a mainAccount was restored before. New accounts without a
+    /// problem are taken, existing ones kept. An account of a protocol that is not loaded has a problem: nobody could
+    /// say what its login is to the server.
     KirvAccountImport(KirvAccountCollection &accounts, KirvMainAccount &mainAccount, KirvAccountHistory &history,
                       const KirvMovedAccounts &moved);
 
     /// One for each account of the file, in its order.
     QList<Row> rows() const { return all; }
-    /// What was left out of the file, a sentence each.
+    /// What was left out of the file, a sentence each; after apply() with the pictures that could not be used.
     QStringList leftOut() const { return moved.leftOut; }
     /// Does nothing for a row with a problem.
     void setTaken(int row, bool isTaken);
     int takenCount() const;
 
     /// Does what the rows say, all of it or, when the store refuses or an account cannot be taken over any more,
-    /// nothing: then false, and \a problem says why. The main account of the file becomes the main account only where
-    /// there was none. It is one step of the history.
+    /// nothing: then false, and \a problem says why. New accounts follow the others in the order of the file. An
+    /// account that is replaced keeps its key and its place, and those of its passwords and secret settings, and its
+    /// picture, that did not come along. The main account of the file becomes the main account only where there was
+    /// none. It is one step of the history.
     bool apply(QString *problem);
 
 private:
+    struct Plan;
+
+    void makeRows();
+    QString problemOf(const Row &row) const;
+    bool makePlan(Plan *plan, QString *problem);
+    KirvAccountRecord complete(KirvAccountRecord record) const;
+    bool leaveOutBadPictures();
+    KirvAccountKey newMainAccount(const Plan &plan) const;
+
     KirvAccountCollection &accounts;
     KirvMainAccount &mainAccount;
     KirvAccountHistory &history;

@@ -4,8 +4,12 @@
 
 #include "core/moving/kirv_moved_accounts.h"
 
+#include <QCoreApplication>
+
 /// The accounts.xml of Pidgin, version 1.0, as that program (2.14) writes it. Only read, never written.
 class KirvPidginFile {
+    Q_DECLARE_TR_FUNCTIONS(KirvPidginFile)
+
 public:
     static constexpr qint64 largestFile = 16 * 1024 * 1024;
 

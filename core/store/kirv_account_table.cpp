@@ -149,6 +149,19 @@ bool KirvAccountTable::place(const KirvAccountKey &key, const KirvAccountKey &ne
                             { position, row.number });
 }
 
+bool KirvAccountTable::arrange(const QList<KirvAccountKey> &keys)
+{
+    const QString update = QStringLiteral("UPDATE account SET position = ? WHERE number = ? AND position <> ?");
+    int position = 0;
+    for (const KirvAccountKey &key : keys) {
+        Row row;
+        ++position;
+        if (!findRow(key, &row) || !database.run(update, { position, row.number, position }))
+            return false;
+    }
+    return true;
+}
+
 bool KirvAccountTable::findRow(const KirvAccountKey &key, Row *row)
 {
     QSqlQuery *query = database.run(QStringLiteral("SELECT number, avatar FROM account WHERE id = ? AND protocol = ?"),

@@ -42,6 +42,8 @@ public:
     bool remove(const KirvAccountKey &key);
     /// Puts the account before \a next in the order, or at the end when the id of \a next is empty.
     bool place(const KirvAccountKey &key, const KirvAccountKey &next);
+    /// Gives the accounts \a keys, which are all, the order in which they stand there.
+    bool arrange(const QList<KirvAccountKey> &keys);
     /// Those of \a fields that accounts of \a protocol have in the table where \a secretFields says they do not belong.
     QStringList misplaced(const QString &protocol, const QSet<QString> &fields, const QSet<QString> &secretFields);
     /// Moves a setting of all accounts of \a protocol into the other table.

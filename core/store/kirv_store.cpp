@@ -327,6 +327,11 @@ bool KirvStore::placeAccount(const KirvAccountKey &key, const KirvAccountKey &ne
     return d->change([&] { return d->accounts.place(key, next); });
 }
 
+bool KirvStore::arrangeAccounts(const QList<KirvAccountKey> &keys)
+{
+    return d->change([&] { return d->accounts.arrange(keys); });
+}
+
 bool KirvStore::classifySettings(const QString &protocol, const QSet<QString> &fields,
                                  const QSet<QString> &secretFields)
 {

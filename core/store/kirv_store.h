@@ -57,6 +57,8 @@ public:
     bool removeAccount(const KirvAccountKey &key); ///< with its settings; the avatar file goes too
     /// Puts the account before \a next in the order, or at the end when \a next is empty.
     bool placeAccount(const KirvAccountKey &key, const KirvAccountKey &next);
+    /// Puts all accounts into the order of \a keys, which name each of them.
+    bool arrangeAccounts(const QList<KirvAccountKey> &keys);
     /// Which of the settings \a fields of \a protocol are secret, for the accounts that are stored: profiles of early
     /// versions do not say so, and all their settings count as secret. Writes nothing when that is known.
     bool classifySettings(const QString &protocol, const QSet<QString> &fields, const QSet<QString> &secretFields);
