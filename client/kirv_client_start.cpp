@@ -8,15 +8,31 @@
 #include "client/kirv_running_instance.h"
 #include "client/kirv_settings_window.h"
 
+#include <QDeadlineTimer>
+
+namespace {
+const int millisecondsForTheOther = 10000;
+}
+
 bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status)
 {
+    const QDeadlineTimer patience(millisecondsForTheOther);
     while (!client.start()) {
-        if (client.isProfileInUse() && KirvRunningInstance::handOver(options.profileFolder, options.linkText)) {
-            *status = KirvProfileCommand::Success;
-            return false;
+        QString problem = client.errorString();
+        if (client.isProfileInUse()) {
+            QString refusal;
+            if (KirvRunningInstance::handOver(options.profileFolder, options.linkText, millisecondsForTheOther,
+                                              &refusal)) {
+                *status = KirvProfileCommand::Success;
+                return false;
+            }
+            if (!refusal.isEmpty())
+                problem = refusal;
+            else if (KirvRunningInstance::canMeet(options.profileFolder) && !patience.hasExpired())
+                continue; // a command that was started without windows has the profile open for some moments
         }
         if (!client.isProfileDamaged()) {
-            KirvApplication::reportFatal(client.errorString());
+            KirvApplication::reportFatal(problem);
             *status = KirvProfileCommand::Refused;
             return false;
         }
