@@ -3,6 +3,7 @@
 
 #include "client/kirv_application.h"
 #include "client/kirv_client.h"
+#include "client/kirv_instance_commands.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_rescue_window.h"
 #include "client/kirv_running_instance.h"
@@ -64,10 +65,8 @@ int kirvRunClient(const KirvClientOptions &options, bool hasDisplay)
         });
         if (!kirvStartClient(client, current, hasDisplay, &status))
             return status;
-        const KirvRunningInstance instance(current.profileFolder);
-        // Queued, as the window for a new account runs an event loop of its own.
-        QObject::connect(&instance, &KirvRunningInstance::startedAgain, &client, &KirvClient::show,
-                         Qt::QueuedConnection);
+        KirvRunningInstance instance(current.profileFolder);
+        const KirvInstanceCommands commands(client, instance);
         client.window()->show();
         status = KirvApplication::exec();
     }
