@@ -100,6 +100,11 @@ KirvAccountsTab *KirvClient::accountsPage() const
     return page;
 }
 
+KirvMainAccount &KirvClient::mainAccount() const
+{
+    return services->mainAccountRule;
+}
+
 KirvPluginsPage *KirvClient::pluginsPage() const
 {
     return pluginList;

@@ -58,6 +58,8 @@ public:
     // What follows exists once start() has given true.
     KirvStore &profile() const { return *store; }
     KirvAccountCollection &accounts() const { return *accountCollection; }
+    KirvAccountHistory &accountHistory() const { return *history; }
+    KirvMainAccount &mainAccount() const;
     KirvPluginLoader &plugins() const { return *pluginLoader; }
     KirvPluginQueue &pluginQueue() const { return *pluginsToLoad; }
     /// Whether every plug-in that there was at the start is loaded or left out.

@@ -31,13 +31,15 @@ QString ownPluginFolder()
     std::exit(1);
 }
 
+const QString profileOption = QStringLiteral("profile"), pluginsOption = QStringLiteral("plugins");
+
 /// Ends the program when the option names no folder: the present one would be a surprise.
-QString folderOf(const QCommandLineParser &parser, const QCommandLineOption &option)
+QString folderOf(const QCommandLineParser &parser, const QString &option)
 {
     const QString folder = parser.value(option);
     if (folder.isEmpty()) {
         //: %1 = name of an option
-        refuse(KirvClientOptions::tr("The option --%1 needs a folder.").arg(option.names().first()));
+        refuse(KirvClientOptions::tr("The option --%1 needs a folder.").arg(option));
     }
     return QDir::current().absoluteFilePath(folder);
 }
@@ -119,30 +121,39 @@ KirvClientOptions KirvClientOptions::defaults()
     return options;
 }
 
+QList<QCommandLineOption> KirvClientOptions::placeOptions()
+{
+    return { { profileOption, tr("Keep accounts and settings in <folder> instead of the person's own profile."),
+               tr("folder") },
+             { pluginsOption, tr("Load the protocol plug-ins of <folder>."), tr("folder") } };
+}
+
+KirvClientOptions KirvClientOptions::ofPlaces(const QCommandLineParser &parser)
+{
+    KirvClientOptions options = defaults();
+    options.usesKeyring = true;
+    if (parser.isSet(profileOption))
+        options.profileFolder = folderOf(parser, profileOption);
+    if (parser.isSet(pluginsOption))
+        options.pluginFolder = folderOf(parser, pluginsOption);
+    return options;
+}
+
 KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &arguments)
 {
-    const QCommandLineOption profile(QStringLiteral("profile"),
-                                     tr("Keep accounts and settings in <folder> instead of the person's own profile."),
-                                     tr("folder"));
-    const QCommandLineOption plugins(QStringLiteral("plugins"), tr("Load the protocol plug-ins of <folder>."),
-                                     tr("folder"));
-
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr("Accounts of several instant-messaging protocols in one place."));
+    parser.setApplicationDescription(tr("Accounts of several instant-messaging protocols in one place.\n"
+                                        "\"kirv accounts --help\" says how accounts are listed, enabled, disabled, "
+                                        "exported and imported without windows."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({ profile, plugins });
+    parser.addOptions(placeOptions());
     const Commands commands;
     commands.addTo(parser);
     parser.process(arguments);
 
-    KirvClientOptions options = defaults();
-    options.usesKeyring = true;
+    KirvClientOptions options = ofPlaces(parser);
     commands.read(parser, &options);
-    if (parser.isSet(profile))
-        options.profileFolder = folderOf(parser, profile);
-    if (parser.isSet(plugins))
-        options.pluginFolder = folderOf(parser, plugins);
     return options;
 }
 

@@ -4,9 +4,13 @@
 
 #include "client/kirv_account_link.h"
 
+#include <QCommandLineOption>
 #include <QCoreApplication>
+#include <QList>
 #include <QString>
 #include <QStringList>
+
+class QCommandLineParser;
 
 /// What the command line says.
 struct KirvClientOptions {
@@ -32,6 +36,10 @@ public:
 
     /// The user's own profile and the plug-ins that came with the program.
     static KirvClientOptions defaults();
+    /// The options that say where the profile and the plug-ins are; every command has them.
+    static QList<QCommandLineOption> placeOptions();
+    /// What \a parser has read of them. Ends the program when one names no folder.
+    static KirvClientOptions ofPlaces(const QCommandLineParser &parser);
     /// The options in \a arguments, the program's name first. Prints and ends the program for --help, --version and
     /// what it does not understand.
     static KirvClientOptions fromCommandLine(const QStringList &arguments);

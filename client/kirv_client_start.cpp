@@ -3,20 +3,37 @@
 
 #include "client/kirv_application.h"
 #include "client/kirv_client.h"
+#include "client/kirv_instance_commands.h"
 #include "client/kirv_profile_command.h"
 #include "client/kirv_rescue_window.h"
 #include "client/kirv_running_instance.h"
 #include "client/kirv_settings_window.h"
 
+#include <QDeadlineTimer>
+
+namespace {
+const int millisecondsForTheOther = 10000;
+}
+
 bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status)
 {
+    const QDeadlineTimer patience(millisecondsForTheOther);
     while (!client.start()) {
-        if (client.isProfileInUse() && KirvRunningInstance::handOver(options.profileFolder, options.linkText)) {
-            *status = KirvProfileCommand::Success;
-            return false;
+        QString problem = client.errorString();
+        if (client.isProfileInUse()) {
+            QString refusal;
+            if (KirvRunningInstance::handOver(options.profileFolder, options.linkText, millisecondsForTheOther,
+                                              &refusal)) {
+                *status = KirvProfileCommand::Success;
+                return false;
+            }
+            if (!refusal.isEmpty())
+                problem = refusal;
+            else if (KirvRunningInstance::canMeet(options.profileFolder) && !patience.hasExpired())
+                continue; // a command that was started without windows has the profile open for some moments
         }
         if (!client.isProfileDamaged()) {
-            KirvApplication::reportFatal(client.errorString());
+            KirvApplication::reportFatal(problem);
             *status = KirvProfileCommand::Refused;
             return false;
         }
@@ -48,10 +65,8 @@ int kirvRunClient(const KirvClientOptions &options, bool hasDisplay)
         });
         if (!kirvStartClient(client, current, hasDisplay, &status))
             return status;
-        const KirvRunningInstance instance(current.profileFolder);
-        // Queued, as the window for a new account runs an event loop of its own.
-        QObject::connect(&instance, &KirvRunningInstance::startedAgain, &client, &KirvClient::show,
-                         Qt::QueuedConnection);
+        KirvRunningInstance instance(current.profileFolder);
+        const KirvInstanceCommands commands(client, instance);
         client.window()->show();
         status = KirvApplication::exec();
     }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_running_instance.h"
 
+#include "client/kirv_instance_connection.h"
+#include "client/kirv_instance_message.h"
+
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -8,7 +11,6 @@
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QThread>
-#include <QTimer>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,9 +18,10 @@
 namespace {
 
 const int millisecondsBetweenAttempts = 50;
-const int millisecondsForALink = 5000;
-const int mostLinksAtOnce = 8;
-const QByteArray reply = QByteArrayLiteral("shown\n");
+const int millisecondsUntilItListens = 500;
+const QLatin1String commandKey("command");
+const QLatin1String linkKey("link");
+const QLatin1String shown("show");
 
 /// The desktop's folder for the user's running programs; empty when there is none that nobody else can use.
 QString runtimeFolder()
@@ -48,11 +51,14 @@ KirvRunningInstance::KirvRunningInstance(const QString &profileFolder, QObject *
     if (path.isEmpty() || !makeRoomAt(path))
         return;
     server.setSocketOptions(QLocalServer::UserAccessOption);
-    server.setMaxPendingConnections(mostLinksAtOnce);
-    connect(&server, &QLocalServer::newConnection, this, [this] {
+    server.setMaxPendingConnections(mostAtOnce);
+    threads.setMaxThreadCount(1);
+    // Queued, so that connections that have ended by then do not count.
+    const auto acceptAll = [this] {
         while (QLocalSocket *socket = server.nextPendingConnection())
             accept(socket);
-    });
+    };
+    connect(&server, &QLocalServer::newConnection, this, acceptAll, Qt::QueuedConnection);
     server.listen(path);
 }
 
@@ -70,38 +76,77 @@ QString KirvRunningInstance::socketPath(const QString &profileFolder)
     return QDir(folder).filePath(QLatin1String("kirv-") + QString::fromLatin1(hash));
 }
 
+bool KirvRunningInstance::canMeet(const QString &profileFolder)
+{
+    return !socketPath(profileFolder).isEmpty();
+}
+
 void KirvRunningInstance::accept(QLocalSocket *socket)
 {
-    connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-    if (server.findChildren<QLocalSocket *>().size() > mostLinksAtOnce)
-        return socket->abort();
-    socket->setReadBufferSize(longestLink + 1);
-    connect(socket, &QLocalSocket::readyRead, this, [this, socket] { read(socket); });
-    QTimer::singleShot(millisecondsForALink, socket, [socket] { socket->abort(); });
-    read(socket);
-}
-
-void KirvRunningInstance::read(QLocalSocket *socket)
-{
-    if (!socket->canReadLine()) {
-        if (socket->bytesAvailable() > longestLink)
-            socket->abort();
+    if (connections >= mostAtOnce || !KirvInstanceConnection::isOfOwnUser(*socket)) {
+        socket->abort();
+        socket->deleteLater();
         return;
     }
-    const QString link = QString::fromUtf8(socket->readLine(longestLink + 1).trimmed());
-    socket->disconnect(this);
-    socket->write(reply);
-    socket->disconnectFromServer();
-    Q_EMIT startedAgain(KirvAccountLink::fromText(link));
+    auto *connection = new KirvInstanceConnection(socket, threads, this);
+    ++connections;
+    connect(connection, &KirvInstanceConnection::ended, this, [this] { --connections; });
+    connect(connection, &KirvInstanceConnection::received, this,
+            [this, connection](const QJsonObject &message) { handle(connection, message); });
+    connect(connection, &KirvInstanceConnection::isLarge, this, [this, connection] {
+        large << connection;
+        nextLarge();
+    });
+    connect(connection, &QObject::destroyed, this, &KirvRunningInstance::nextLarge, Qt::QueuedConnection);
+    connection->start();
 }
 
-bool KirvRunningInstance::handOver(const QString &profileFolder, const QString &link, int milliseconds)
+void KirvRunningInstance::nextLarge()
 {
-    const QString path = socketPath(profileFolder);
-    const QByteArray message = link.toUtf8();
-    if (path.isEmpty() || message.size() >= longestLink || message.contains('\n'))
+    while (!currentLarge && !large.isEmpty()) {
+        currentLarge = large.takeFirst();
+        if (currentLarge)
+            currentLarge->allowLarge();
+    }
+}
+
+void KirvRunningInstance::handle(KirvInstanceConnection *connection, const QJsonObject &message)
+{
+    const auto reply = [answered = QPointer<KirvInstanceConnection>(connection)](const QJsonObject &answer) {
+        if (answered)
+            answered->reply(answer);
+    };
+    const QString link = message.value(linkKey).toString();
+    if (message.value(commandKey).toString() == shown && link.toUtf8().size() < longestLink) {
+        reply({ { commandKey, shown } });
+        Q_EMIT startedAgain(KirvAccountLink::fromText(link));
+    } else if (handler) {
+        handler(message, reply);
+    } else {
+        reply(KirvInstanceMessage::refusal(tr("The program that runs with this profile does not know that command.")));
+    }
+}
+
+bool KirvRunningInstance::handOver(const QString &profileFolder, const QString &link, int milliseconds,
+                                   QString *problem)
+{
+    if (link.toUtf8().size() >= longestLink || link.contains(QLatin1Char('\n')))
         return false;
-    const QDeadlineTimer deadline(milliseconds);
+    const Answer answer = request(profileFolder, { { commandKey, shown }, { linkKey, link } },
+                                  qMin(milliseconds, millisecondsUntilItListens), milliseconds);
+    if (problem)
+        *problem = answer.problem;
+    return answer.message.value(commandKey).toString() == shown;
+}
+
+KirvRunningInstance::Answer KirvRunningInstance::request(const QString &profileFolder, const QJsonObject &message,
+                                                         int connectMilliseconds, int milliseconds)
+{
+    Answer answer;
+    const QString path = socketPath(profileFolder);
+    if (path.isEmpty())
+        return answer;
+    QDeadlineTimer deadline(connectMilliseconds);
     QLocalSocket socket;
     // A program that has just been started has the profile open before it listens.
     for (;;) {
@@ -109,12 +154,21 @@ bool KirvRunningInstance::handOver(const QString &profileFolder, const QString &
         if (socket.waitForConnected(int(deadline.remainingTime())))
             break;
         if (deadline.remainingTime() <= millisecondsBetweenAttempts)
-            return false;
+            return answer;
         QThread::msleep(millisecondsBetweenAttempts);
     }
-    socket.write(message + '\n');
+    if (!KirvInstanceConnection::isOfOwnUser(socket))
+        return answer;
+    answer.isThere = true;
+    socket.write(KirvInstanceMessage::toLine(message));
     QByteArray received;
-    while (!received.contains('\n') && socket.waitForReadyRead(int(deadline.remainingTime())))
-        received += socket.read(reply.size());
-    return received == reply;
+    deadline = QDeadlineTimer(milliseconds);
+    while (!received.endsWith('\n') && received.size() <= KirvInstanceMessage::longest
+           && socket.waitForReadyRead(int(deadline.remainingTime())))
+        received += socket.readAll();
+    if (received.endsWith('\n'))
+        answer.message = KirvInstanceMessage::fromLine(received, &answer.problem);
+    if (answer.problem.isEmpty())
+        answer.problem = answer.message.value(QLatin1String("problem")).toString();
+    return answer;
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_accounts_command.h"
 #include "client/kirv_application.h"
 #include "client/kirv_client_options.h"
 #include "client/kirv_client_start.h"
@@ -9,7 +10,36 @@
 
 #include <memory>
 
+#include <QGuiApplication>
+
+#include <cstdio>
+
 namespace {
+
+int runAccountsCommand(int argc, char *argv[], const QStringList &arguments)
+{
+    const auto run = [&arguments](QCoreApplication &application) {
+        KirvApplication::prepare(application);
+        return KirvAccountsCommand(KirvAccountsOptions::fromCommandLine(arguments)).run();
+    };
+    if (!KirvAccountsOptions::areForImport(arguments)) {
+        QCoreApplication application(argc, argv);
+        return run(application);
+    }
+    // An import may load plug-ins, and these may use what needs an application with a GUI; they are tested with the
+    // same platform before they are loaded for the first time. No display is needed for it.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int count = 1;
+    // Qt warns that there is no folder for what runs, which is nothing to worry about.
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+            if (type != QtWarningMsg)
+                std::fprintf(stderr, "kirv: %s\n", qPrintable(text));
+        });
+    QGuiApplication application(count, argv);
+    qInstallMessageHandler(before);
+    return run(application);
+}
 
 /// Does what needs no window. True when that was all, with the exit status in \a status.
 bool runWithoutWindow(int argc, char *argv[], int *status)
@@ -17,6 +47,10 @@ bool runWithoutWindow(int argc, char *argv[], int *status)
     QStringList arguments;
     for (int index = 0; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
+    if (KirvAccountsOptions::areMeant(arguments)) {
+        *status = runAccountsCommand(argc, argv, arguments);
+        return true;
+    }
     const bool isForDisplay = KirvApplication::expectsDisplay(arguments);
     if (isForDisplay && !KirvClientOptions::maySayNoWindow(arguments))
         return false;

@@ -2,9 +2,23 @@
 # Completion of the arguments of kirv for bash.
 _kirv()
 {
-    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} profile index
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} profile index command=
     COMPREPLY=()
+    for ((index = 1; index < COMP_CWORD; ++index)); do
+        [ "${COMP_WORDS[index]}" = accounts ] || continue
+        command=accounts
+        ((index + 1 < COMP_CWORD)) && command=${COMP_WORDS[index + 1]}
+        break
+    done
     case $before in
+    --pass-phrase-file)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+        return
+        ;;
+    --pass-phrase-fd)
+        return
+        ;;
     --profile | --plugins)
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -d -- "$word")
@@ -20,6 +34,21 @@ _kirv()
         return
         ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W '--profile --plugins --check --restore --recover
-        --help --help-all --version' -- "$word")
+    case $command/$word in
+    /*)
+        mapfile -t COMPREPLY < <(compgen -W 'accounts --profile --plugins --check --restore --recover
+            --help --help-all --version' -- "$word")
+        ;;
+    accounts/[!-]* | accounts/)
+        mapfile -t COMPREPLY < <(compgen -W 'list enable disable export import' -- "$word")
+        ;;
+    */-*)
+        mapfile -t COMPREPLY < <(compgen -W '--profile --plugins --json --with-passwords --force --without-passwords
+            --replace --dry-run --pass-phrase-file --pass-phrase-fd --help --help-all' -- "$word")
+        ;;
+    export/* | import/*)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+        ;;
+    esac
 } && complete -F _kirv kirv

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_pass_phrase_input.h"
+
+#include "client/kirv_accounts_options.h"
+#include "client/kirv_terminal_line.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+KirvPassPhraseInput::KirvPassPhraseInput(const KirvAccountsOptions &options)
+    : options(options)
+{
+}
+
+bool KirvPassPhraseInput::isNamed(const KirvAccountsOptions &options)
+{
+    return options.passPhraseDescriptor >= 0 || !options.passPhraseFile.isEmpty();
+}
+
+QString KirvPassPhraseInput::read(bool isNew)
+{
+    if (options.passPhraseDescriptor >= 0)
+        return firstLine(options.passPhraseDescriptor,
+                         //: %1 = number
+                         tr("file descriptor %1").arg(options.passPhraseDescriptor));
+    return options.passPhraseFile.isEmpty() ? fromTerminal(isNew) : fromFile(options.passPhraseFile);
+}
+
+QString KirvPassPhraseInput::fail(const QString &problem)
+{
+    text = problem;
+    return QString();
+}
+
+/// Byte by byte, as what follows the line may be meant for somebody else.
+QString KirvPassPhraseInput::firstLine(int descriptor, const QString &name)
+{
+    QByteArray line;
+    line.reserve(longest + 1);
+    char byte = 0;
+    ssize_t count = 1;
+    while (line.size() <= longest) {
+        count = ::read(descriptor, &byte, 1);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count != 1 || byte == '\n')
+            break;
+        line += byte;
+    }
+    if (count < 0)
+        return fail(tr("The pass phrase cannot be read from %1.").arg(name));
+    if (line.endsWith('\r'))
+        line.chop(1);
+    const QString read = line.size() > longest ? QString() : QString::fromUtf8(line);
+    const bool isTooLong = line.size() > longest;
+    line.fill('\0');
+    if (isTooLong)
+        return fail(tr("The pass phrase in %1 is too long.").arg(name));
+    return read.isEmpty() ? fail(tr("There is no pass phrase in %1.").arg(name)) : read;
+}
+
+QString KirvPassPhraseInput::fromFile(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const QString line = firstLine(descriptor, QLatin1Char('"') + path + QLatin1Char('"'));
+    if (descriptor >= 0)
+        ::close(descriptor);
+    return line;
+}
+
+QString KirvPassPhraseInput::fromTerminal(bool isNew)
+{
+    KirvTerminalLine terminal;
+    if (!terminal.isOpen())
+        return fail(tr("A pass phrase is needed, and there is no terminal to type it on. Give it with "
+                       "--pass-phrase-file or --pass-phrase-fd."));
+    QByteArray typed, repeated;
+    if (!terminal.read(tr("Pass phrase of the file: "), longest, &typed) || typed.isEmpty())
+        return fail(tr("No pass phrase was typed."));
+    if (isNew && (!terminal.read(tr("The same again: "), longest, &repeated) || typed != repeated))
+        return fail(tr("The pass phrase was not typed twice in the same way."));
+    const QString read = QString::fromLocal8Bit(typed);
+    typed.fill('\0');
+    repeated.fill('\0');
+    return read;
+}
