@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// What a collection of accounts does to their order, and to bring a removed one back to its place.
+// What a collection of accounts does to bring a removed one back to its place.
 #include "core/accounts/kirv_account_collection.h"
 
 #include "core/store/kirv_store.h"
@@ -53,7 +53,7 @@ KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(record);
     keeper.settle();
-    arrange(account, next);
+    arrange({ account }, next);
     loadRestored(account, removed.presence);
     if (alive && account)
         Q_EMIT accountAdded(account);
@@ -102,38 +102,4 @@ void KirvAccountCollection::loadRestored(KirvAccount *account, const KirvPresenc
     account->setPresence(presence);
     if (twin != children.end())
         connect(*twin, &QObject::destroyed, account, &KirvAccount::tryAgain);
-}
-
-bool KirvAccountCollection::place(KirvAccount *account, const KirvAccount *next)
-{
-    const int index = int(all.indexOf(account));
-    if (account == next || all.value(index + 1) == next)
-        return true;
-    if (!store.placeAccount(account->key(), next ? next->key() : KirvAccountKey())) {
-        refuse(store.lastError());
-        return false;
-    }
-    error.clear();
-    arrange(account, next);
-    Q_EMIT orderChanged(account);
-    return true;
-}
-
-/// In memory only.
-void KirvAccountCollection::arrange(KirvAccount *account, const KirvAccount *next)
-{
-    all.removeOne(account);
-    const int place = next ? int(all.indexOf(const_cast<KirvAccount *>(next))) : int(all.size());
-    all.insert(place, account);
-    ProtocolAccounts &siblings = byProtocol[account->key().protocol];
-    siblings.accounts.removeOne(account);
-    siblings.infos.removeOne(account->info());
-    const auto isSibling = [account](const KirvAccount *candidate) {
-        return candidate->key().protocol == account->key().protocol;
-    };
-    const auto following = std::find_if(all.begin() + place + 1, all.end(), isSibling);
-    const int among =
-        following == all.end() ? int(siblings.accounts.size()) : int(siblings.accounts.indexOf(*following));
-    siblings.accounts.insert(among, account);
-    siblings.infos.insert(among, account->info());
 }
