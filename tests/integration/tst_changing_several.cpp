@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Several accounts are changed in one change of the store, and what follows takes turns.
+#include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
 #include "tests/integration/kirv_accounts_fixture.h"
 #include "tests/support/kirv_patience.h"
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void anAccountChangedMeanwhileIsAsItWasChangedLast();
     void aSlotMayInterfere_data();
     void aSlotMayInterfere();
+    void disablingSeveralIsOneStepToUndo();
     void enabledAgainWithTheirPresences();
 
     void severalArePlaced_data();
@@ -271,6 +273,26 @@ void tst_ChangingSeveral::aSlotMayInterfere()
         core->settleAndDelete();
     QVERIFY(isDone);
     QCOMPARE(int(core->store.readAccounts().size()), how == QLatin1String("remove") ? 0 : 3);
+}
+
+void tst_ChangingSeveral::disablingSeveralIsOneStepToUndo()
+{
+    create(3);
+    KirvAccountHistory history(*core->accounts, core->services->mainAccountRule);
+    history.beginStep(KirvAccountHistory::Disabling);
+    QVERIFY(core->accounts->setEnabled(accounts({ id(0), id(2) }), false));
+    history.endStep();
+    const int step = history.latest();
+    QCOMPARE(history.namesOf(step), QStringList({ "Alias of 000", "Alias of 002" }));
+    QCOMPARE(core->services->mainAccountRule.account(), core->account(id(1)));
+    core->settle();
+    QCOMPARE(history.latest(), step);
+    QCOMPARE(history.undo(step), QStringList());
+    core->settle();
+    QCOMPARE(history.latest(), 0);
+    QCOMPARE(stored(false), QStringList());
+    QCOMPARE(core->services->mainAccountRule.account(), core->account(id(0)));
+    KIRV_TRY(areAll(true));
 }
 
 void tst_ChangingSeveral::enabledAgainWithTheirPresences()
