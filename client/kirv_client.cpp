@@ -159,7 +159,7 @@ void KirvClient::createWindow()
     KirvProviderList providers;
     showProblem(providers.load(QDir(options.profileFolder)));
     serverCommands->setProviders(providers);
-    auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
+    auto *undo = new KirvAccountUndo(*accountCollection, *history, *settingsWindow->messageBar(), settingsWindow.get());
     help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
     companions = new KirvWindowCompanions(
         *layouts, { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help },
