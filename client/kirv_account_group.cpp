@@ -59,11 +59,7 @@ QList<KirvAccountKey> KirvAccountGroup::enabledOnes() const
 
 void KirvAccountGroup::enable(const QList<KirvAccountKey> &keys)
 {
-    for (const KirvAccountKey &key : keys) {
-        KirvAccount *account = accounts.find(key);
-        if (account && !account->setEnabled(true))
-            return; // the others would be refused, too
-    }
+    accounts.setEnabled(find(keys), true);
 }
 
 void KirvAccountGroup::disable(const QList<KirvAccountKey> &keys)
@@ -113,17 +109,11 @@ void KirvAccountGroup::enableAgain()
 void KirvAccountGroup::disableNow(const QList<KirvAccountKey> &keys, bool isAll)
 {
     const QPointer<KirvAccountGroup> alive(this);
-    QList<QPointer<KirvAccount>> disabled;
-    const QList<KirvAccount *> found = mainLast(find(keys));
-    std::copy(found.begin(), found.end(), std::back_inserter(disabled));
     KirvAccountHistory &history = undo.history();
     history.beginStep(KirvAccountHistory::Disabling);
-    for (const QPointer<KirvAccount> &account : qAsConst(disabled)) {
-        if (account && !account->setEnabled(false))
-            break; // the others would be refused, too
-        if (!alive)
-            return;
-    }
+    accounts.setEnabled(find(keys), false);
+    if (!alive)
+        return;
     const int before = history.latest();
     history.endStep();
     if (isAll && history.latest() != before)

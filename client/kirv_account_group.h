@@ -15,8 +15,8 @@ class KirvAccountUndo;
 class KirvMainAccount;
 class QWidget;
 
-/// The commands that change several accounts at once. What takes something away asks once for all of them, and is one
-/// step to undo.
+/// The commands that change several accounts at once, each in one change of the store: all of them, or none. Before
+/// something is taken away there is one question for all of them, and it is one step to undo.
 class KirvAccountGroup : public QObject {
     Q_OBJECT
 

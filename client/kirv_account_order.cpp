@@ -21,6 +21,9 @@ const int numberColumn = 3;
 const QLatin1String sortingKey("accounts_page/sorting");
 const QLatin1String widthKey("accounts_page/protocol_width");
 const int widestColumn = 2000;
+/// Between two numbers: a row does not take one that QVariant holds for the same as that which it has, which is true of
+/// numbers of 100,000 rows up to 1e-7.
+const double smallestStep = 1e-6;
 
 QPoint positionOf(const QDropEvent *event)
 {
@@ -54,8 +57,10 @@ KirvAccountOrder::KirvAccountOrder(KirvAccountCollection &accounts, const KirvAc
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
     connect(&rows, &KirvAccountRows::inserted, this, &KirvAccountOrder::numberLater);
-    connect(&accounts, &KirvAccountCollection::orderChanged, this,
-            [this](const KirvAccount *moved) { numberLater(moved->key()); });
+    connect(&accounts, &KirvAccountCollection::orderChanged, this, [this](const QList<KirvAccountKey> &moved) {
+        for (const KirvAccountKey &key : moved)
+            numberLater(key);
+    });
     // The page sorts its list after this.
     QMetaObject::invokeMethod(this, &KirvAccountOrder::joinPage, Qt::QueuedConnection);
 }
@@ -241,14 +246,13 @@ void KirvAccountOrder::moveSelection(const QPoint &position)
     const KirvAccount *next = accountAt(before);
     QModelIndexList selected = list->selectionModel()->selectedRows();
     std::sort(selected.begin(), selected.end());
-    QList<KirvAccountKey> moved;
-    for (const QModelIndex &index : qAsConst(selected))
-        moved << KirvAccountRows::keyOf(index);
-    for (const KirvAccountKey &key : qAsConst(moved)) {
-        KirvAccount *account = isOwn() ? accounts.find(key) : nullptr;
-        if (account && !accounts.place(account, next))
-            break;
+    QList<KirvAccount *> moved;
+    for (const QModelIndex &index : qAsConst(selected)) {
+        if (KirvAccount *account = accounts.find(KirvAccountRows::keyOf(index)))
+            moved << account;
     }
+    if (isOwn())
+        accounts.place(moved, next);
     numberRows();
 }
 
@@ -265,8 +269,14 @@ void KirvAccountOrder::numberRows()
     const QSet<KirvAccountKey> keys = std::exchange(unnumbered, {});
     if (keys.isEmpty())
         return;
-    if (keys.size() > 1 || !numberOne(*keys.cbegin()))
+    // Each number sorts the list; several do it once.
+    const bool isSortedAfter = keys.size() > 1 && isOwn() && list->isSortingEnabled();
+    if (isSortedAfter)
+        list->setSortingEnabled(false);
+    if (!numberBetween(keys))
         numberAll();
+    if (isSortedAfter)
+        list->setSortingEnabled(true);
 }
 
 void KirvAccountOrder::numberAll()
@@ -280,26 +290,39 @@ void KirvAccountOrder::numberAll()
     }
 }
 
-/// A number between those of the neighbours. False when there is none.
-bool KirvAccountOrder::numberOne(const KirvAccountKey &key)
+/// Numbers only the rows of \a keys, between those of their neighbours. False when there are no such numbers.
+bool KirvAccountOrder::numberBetween(const QSet<KirvAccountKey> &keys)
 {
-    KirvAccount *account = accounts.find(key);
-    QTreeWidgetItem *row = rows.find(key);
-    if (!account || !row)
-        return true;
+    QList<QTreeWidgetItem *> run;
+    const QTreeWidgetItem *before = nullptr;
     const QList<KirvAccount *> all = accounts.accounts();
-    const int index = int(all.indexOf(account));
-    const QTreeWidgetItem *before = index > 0 ? rows.find(all.at(index - 1)->key()) : nullptr;
-    const QTreeWidgetItem *after = index + 1 < all.size() ? rows.find(all.at(index + 1)->key()) : nullptr;
-    const bool isEdge = index == 0 || index + 1 == all.size();
-    if ((!hasNumber(before) && index > 0) || (!hasNumber(after) && index + 1 < all.size()))
+    for (const KirvAccount *account : all) {
+        QTreeWidgetItem *row = rows.find(account->key());
+        if (!row)
+            continue;
+        if (keys.contains(account->key())) {
+            run << row;
+            continue;
+        }
+        if (!hasNumber(row) || !numberRun(run, before, row))
+            return false;
+        run.clear();
+        before = row;
+    }
+    return numberRun(run, before, nullptr);
+}
+
+bool KirvAccountOrder::numberRun(const QList<QTreeWidgetItem *> &run, const QTreeWidgetItem *before,
+                                 const QTreeWidgetItem *after)
+{
+    const int count = int(run.size());
+    const double low = before ? numberOf(before) : (after ? numberOf(after) - count - 1 : 0);
+    const double high = after ? numberOf(after) : low + count + 1;
+    const double step = (high - low) / (count + 1);
+    if (count > 0 && step < smallestStep)
         return false;
-    const double low = before ? numberOf(before) : (after ? numberOf(after) - 2 : 0);
-    const double high = after ? numberOf(after) : low + 2;
-    const double number = (low + high) / 2;
-    if (!isEdge && (number <= low || number >= high))
-        return false;
-    setNumber(row, number);
+    for (int i = 0; i < count; ++i)
+        setNumber(run.at(i), low + step * (i + 1));
     return true;
 }
 

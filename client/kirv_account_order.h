@@ -57,7 +57,8 @@ private:
     void numberLater(const KirvAccountKey &key);
     void numberRows();
     void numberAll();
-    bool numberOne(const KirvAccountKey &key);
+    bool numberBetween(const QSet<KirvAccountKey> &keys);
+    bool numberRun(const QList<QTreeWidgetItem *> &run, const QTreeWidgetItem *before, const QTreeWidgetItem *after);
     void setNumber(QTreeWidgetItem *row, double number) const;
 
     KirvAccountCollection &accounts;

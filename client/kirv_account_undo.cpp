@@ -3,12 +3,15 @@
 
 #include "client/kirv_message_bar.h"
 #include "client/kirv_plain_text.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_history.h"
 
 #include <QShortcut>
 
-KirvAccountUndo::KirvAccountUndo(KirvAccountHistory &history, KirvMessageBar &messages, QWidget *window)
+KirvAccountUndo::KirvAccountUndo(KirvAccountCollection &accounts, KirvAccountHistory &history, KirvMessageBar &messages,
+                                 QWidget *window)
     : QObject(window)
+    , accounts(accounts)
     , past(history)
     , messages(messages)
 {
@@ -46,9 +49,24 @@ void KirvAccountUndo::undoLatest()
 
 void KirvAccountUndo::undo(int step)
 {
+    if (past.has(step) && past.kindOf(step) == KirvAccountHistory::Disabling && !enableAgain(step))
+        return;
     const QStringList reasons = past.undo(step);
     for (const QString &reason : reasons)
         messages.showMessage(reason);
+}
+
+/// All accounts of the step in one change; the history finds them enabled then. False when the store refuses, which the
+/// accounts report.
+bool KirvAccountUndo::enableAgain(int step)
+{
+    QList<KirvAccount *> disabled;
+    const QList<KirvAccountKey> keys = past.accountsOf(step);
+    for (const KirvAccountKey &key : keys) {
+        if (KirvAccount *account = accounts.find(key))
+            disabled << account;
+    }
+    return accounts.enableAgain(disabled);
 }
 
 void KirvAccountUndo::show(int step)

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 
+class KirvAccountCollection;
 class KirvAccountHistory;
 class KirvMessageBar;
 class QWidget;
@@ -16,8 +17,9 @@ class KirvAccountUndo : public QObject {
     Q_OBJECT
 
 public:
-    /// \a history and \a messages are not owned and outlive this, which belongs to \a window.
-    KirvAccountUndo(KirvAccountHistory &history, KirvMessageBar &messages, QWidget *window);
+    /// \a accounts, \a history and \a messages are not owned and outlive this, which belongs to \a window.
+    KirvAccountUndo(KirvAccountCollection &accounts, KirvAccountHistory &history, KirvMessageBar &messages,
+                    QWidget *window);
 
     /// The command that undoes the latest step, with a mnemonic; empty when there is nothing to undo.
     QString command() const;
@@ -30,7 +32,9 @@ private:
     void show(int step);
     void withdraw(int step);
     QString messageOf(int step) const;
+    bool enableAgain(int step);
 
+    KirvAccountCollection &accounts;
     KirvAccountHistory &past;
     KirvMessageBar &messages;
     QHash<int, QString> shown; ///< the message of each step

@@ -78,6 +78,7 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environ
             refreshLater();
         }
     });
+    connect(&accounts, &KirvAccountCollection::enabledChanged, this, &KirvAccountsPageCompanion::updateCheckBoxes);
     // After a save the page rewrites the row itself, with an alias that may be empty.
     connect(list->model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &index) {
         const KirvAccount *account = accounts.find(KirvAccountRows::keyOf(index));
@@ -394,6 +395,35 @@ void KirvAccountsPageCompanion::updateRow(const KirvAccount *account)
     QTreeWidgetItem *row = rows->find(account->key());
     row->setText(KirvAliasColumn, shownName(*account));
     row->setCheckState(KirvAliasColumn, account->record().enabled ? Qt::Checked : Qt::Unchecked);
+}
+
+/// Of several, before anything can refresh the page. What the model reports costs time in proportion to the number of
+/// rows, so it reports only those that are visible.
+void KirvAccountsPageCompanion::updateCheckBoxes(const QList<KirvAccountKey> &keys)
+{
+    const QSet<const QTreeWidgetItem *> visible = visibleRows();
+    const QSignalBlocker noItemChanged(list);
+    for (const KirvAccountKey &key : keys) {
+        const KirvAccount *account = accounts.find(key);
+        QTreeWidgetItem *row = account ? rows->find(key) : nullptr;
+        if (!row)
+            continue;
+        const QSignalBlocker noDataChanged(visible.contains(row) ? nullptr : list->model());
+        row->setCheckState(KirvAliasColumn, account->record().enabled ? Qt::Checked : Qt::Unchecked);
+    }
+    refreshLater();
+}
+
+QSet<const QTreeWidgetItem *> KirvAccountsPageCompanion::visibleRows() const
+{
+    QSet<const QTreeWidgetItem *> visible;
+    const QRect viewport = list->viewport()->rect();
+    const QTreeWidgetItem *row = list->itemAt(viewport.width() / 2, 0);
+    while (row && list->visualItemRect(row).top() <= viewport.bottom()) {
+        visible << row;
+        row = list->itemBelow(row);
+    }
+    return visible;
 }
 
 /// The page lists the accounts of loaded protocols only.

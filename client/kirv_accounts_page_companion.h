@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <memory>
 #include <vector>
 
@@ -100,6 +101,8 @@ private:
 
     static bool isUpToDate(const QTreeWidgetItem *row, const KirvAccount &account);
     void updateRow(const KirvAccount *account);
+    void updateCheckBoxes(const QList<KirvAccountKey> &keys);
+    QSet<const QTreeWidgetItem *> visibleRows() const;
     void listUnloaded();
     void remove(const KirvAccountKey &key);
     void removeAll(const QString &protocol);

@@ -165,7 +165,7 @@ void KirvClient::createWindow()
     KirvProviderList providers;
     showProblem(providers.load(QDir(options.profileFolder)));
     serverCommands->setProviders(providers);
-    auto *undo = new KirvAccountUndo(*history, *settingsWindow->messageBar(), settingsWindow.get());
+    auto *undo = new KirvAccountUndo(*accountCollection, *history, *settingsWindow->messageBar(), settingsWindow.get());
     help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
     moving = new KirvAccountMoving({ *accountCollection, services->mainAccountRule, *history }, settingsWindow.get());
     connect(moving, &KirvAccountMoving::imported, this, [this] { settingsWindow->showPage(page); });

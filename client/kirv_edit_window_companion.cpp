@@ -120,7 +120,8 @@ void KirvEditWindowCompanion::aboutToShow()
     fitToScreen();
 }
 
-/// As a rule a window opens with two thirds of the screen at most, and what does not fit is scrolled.
+/// As a rule Qt opens a window with two thirds of the screen at most; here it may have nine tenths, and what does not
+/// fit is scrolled.
 void KirvEditWindowCompanion::fitToScreen()
 {
     const auto areas = window()->findChildren<KirvFormArea *>();

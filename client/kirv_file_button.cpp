@@ -2,23 +2,12 @@
 #include "client/kirv_file_button.h"
 
 #include "core/ui/kirv_field_form.h"
+#include "core/values/kirv_local_path.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QUrl>
-
-namespace {
-
-/// As people write it: with blanks around it, or as the address of a local file.
-QString toLocalPath(const QString &text)
-{
-    const QUrl address(text.trimmed());
-    return address.isLocalFile() ? address.toLocalFile() : text.trimmed();
-}
-
-} // namespace
 
 void KirvFileButton::addTo(KirvFieldForm *form, const QStringList &ids)
 {
@@ -48,7 +37,7 @@ void KirvFileButton::choose()
         dialog->activateWindow();
         return;
     }
-    const QFileInfo present(toLocalPath(line->text()));
+    const QFileInfo present(kirvLocalPath(line->text()));
     const bool isThere = !line->text().isEmpty() && present.isAbsolute() && present.absoluteDir().exists();
     dialog = new QFileDialog(this, line->accessibleName(), isThere ? present.absolutePath() : QDir::homePath());
     dialog->setObjectName(QStringLiteral("ChooseFile"));

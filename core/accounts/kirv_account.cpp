@@ -137,8 +137,10 @@ bool KirvAccount::setEnabled(bool enabled)
         return true;
     const KirvPresence presence = logInPresence();
     const QPointer<KirvAccount> alive(this);
-    if (!enabled)
+    if (!enabled) {
+        presenceWhenDisabled = this->presence();
         Q_EMIT disablingBegins();
+    }
     const bool isStored = change([&](KirvAccountRecord &record) {
         record.enabled = enabled;
         if (enabled)
@@ -151,6 +153,37 @@ bool KirvAccount::setEnabled(bool enabled)
         tryAgain();
     }
     return isStored;
+}
+
+/// Also in a save that is open, which would undo it when it is refused.
+void KirvAccount::setStoredEnabled(bool enabled, bool isAgain)
+{
+    if (enabled) {
+        askedPresence = isAgain && presenceWhenDisabled ? *presenceWhenDisabled : logInPresence();
+    } else {
+        presenceWhenDisabled = presence();
+        askedPresence.reset();
+    }
+    current.enabled = enabled;
+    if (isSaving()) {
+        recordBefore.enabled = enabled;
+        presenceBefore = askedPresence;
+    }
+    refreshDescription();
+}
+
+void KirvAccount::followEnabled()
+{
+    const QPointer<KirvAccount> alive(this);
+    Q_EMIT changed();
+    if (!alive || removed)
+        return;
+    if (current.enabled) {
+        readSecretsAgain();
+        tryAgain();
+    } else {
+        reconciler.schedule();
+    }
 }
 
 /// While the protocol is not loaded only the id is known of a presence.

@@ -143,6 +143,11 @@ public:
     /// The account is not configured any more: logs out, emits nothing from now on and destroys itself then.
     void leave();
     bool isRemoved() const { return removed; }
+    /// The profile says that the account is enabled, or disabled. When \a isAgain, an account that was disabled in this
+    /// run has the presence that it had then. Emits nothing; followEnabled() belongs to it.
+    void setStoredEnabled(bool enabled, bool isAgain);
+    /// Emits changed(), and makes the connection follow.
+    void followEnabled();
     /// The connection is left as it is from now on: the program ends.
     void stopReconciling() { reconciler.hold(); }
 
@@ -195,6 +200,7 @@ private:
     QStringList importedAvatars; ///< by the open save
 
     std::optional<KirvPresence> askedPresence; ///< in this run; empty: the stored one
+    std::optional<KirvPresence> presenceWhenDisabled; ///< the last time in this run
     bool unstoredPassword = false;
     bool hasPasswordForNow = false;
     QSet<QString> awaited; ///< fields of secrets that are in the keyring and not known yet, or not any more

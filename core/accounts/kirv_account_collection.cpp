@@ -24,6 +24,13 @@ KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
 {
     nextTurn.setSingleShot(true);
     connect(&nextTurn, &QTimer::timeout, this, &KirvAccountCollection::reactToNetwork);
+    nextFollowing.setSingleShot(true);
+    connect(&nextFollowing, &QTimer::timeout, this, &KirvAccountCollection::followNext);
+    // When several accounts were disabled, their connections follow a few at a time; none logs in before.
+    queue.setCondition([](const KirvConnection &connection) {
+        const auto *account = qobject_cast<const KirvAccount *>(connection.parent());
+        return !account || account->record().enabled;
+    });
     const QList<KirvAccountRecord> records = store.readAccounts();
     error = store.lastError();
     byKey.reserve(int(records.size()));
@@ -164,6 +171,7 @@ void KirvAccountCollection::reactToNetwork()
 void KirvAccountCollection::logOutAll(int milliseconds)
 {
     unaware.clear();
+    following.clear();
     QList<QPointer<KirvConnection>> open;
     for (KirvAccount *account : withLeaving()) {
         if (account->connection())

@@ -67,6 +67,15 @@ public:
     bool apply(const KirvAccountBatch &batch);
     /// Puts \a account before \a next in the order, or at its end when \a next is null. False when the store refuses.
     bool place(KirvAccount *account, const KirvAccount *next);
+    /// The same for several, which then follow each other as in \a accounts: all of them, or none when the store
+    /// refuses. Nothing changes when \a next is among them.
+    bool place(const QList<KirvAccount *> &accounts, const KirvAccount *next);
+    /// Enables or disables several accounts: all of them, or none when the store refuses. enabledChanged() is emitted
+    /// before this returns; what follows for each account, accountChanged() and the step of its connection, comes from
+    /// the event loop, for a few accounts in each turn.
+    bool setEnabled(const QList<KirvAccount *> &accounts, bool enabled);
+    /// The same to enable accounts that were disabled in this run, with the presences that they had.
+    bool enableAgain(const QList<KirvAccount *> &accounts);
     /// The account when it can be used: its protocol is loaded and has given it a connection. Null otherwise.
     KirvAccount *load(KirvAccount *account);
 
@@ -87,13 +96,14 @@ public:
     /// The computer has another network than before, or was suspended: every account reacts to it, a few in each turn
     /// of the event loop and the main account first. Log-ins have their turns as always.
     void networkChanged();
-    /// How many accounts react in one turn.
+    /// How many accounts react in one turn, to this and to setEnabled() of several.
     static const int accountsPerTurn = 20;
 
     /// Logs every account out in an orderly way; returns when all are off line or after \a milliseconds.
     void logOutAll(int milliseconds);
 
-    /// Why the last create() or remove() failed or the last change was refused, for the user; empty otherwise.
+    /// Why the last create(), remove(), restore(), place() or setEnabled() failed or the last change of an account was
+    /// refused, for the user; empty otherwise.
     QString lastError() const { return error; }
 
 Q_SIGNALS:
@@ -106,8 +116,11 @@ Q_SIGNALS:
     void accountRemoved(const QString &id, const QString &protocol);
     /// The store did not remove \a account, which stays as it is; problemOccurred() says why.
     void removalRefused(KirvAccount *account);
-    /// \a account has another place in the order.
-    void orderChanged(KirvAccount *account);
+    /// These accounts have other places in the order.
+    void orderChanged(const QList<KirvAccountKey> &moved);
+    /// These accounts were enabled, or disabled, in one change of the store; accountChanged() follows for each of them.
+    /// A slot changes none of them.
+    void enabledChanged(const QList<KirvAccountKey> &changed);
     /// \a account is going to be disabled, or the store refuses that: nothing has happened yet, and a slot changes
     /// nothing.
     void disablingBegins(KirvAccount *account);
@@ -143,7 +156,10 @@ private:
     void arrangeAll(const QList<KirvAccountKey> &order);
     QHash<KirvAccountKey, QPointer<KirvAccount>> leavingAccounts() const;
     void loadRestored(KirvAccount *account, const KirvPresence &presence, KirvAccount *twin);
-    void arrange(KirvAccount *account, const KirvAccount *next);
+    void arrange(const QList<KirvAccount *> &accounts, const KirvAccount *next);
+    bool isArranged(const QList<KirvAccount *> &accounts, const KirvAccount *next) const;
+    bool changeEnabled(const QList<KirvAccount *> &accounts, bool enabled, bool isAgain);
+    void followNext();
     QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
     QList<KirvAccount *> withLeaving() const;
@@ -169,6 +185,8 @@ private:
     QString error;
     QList<QPointer<KirvAccount>> unaware; ///< of the change of the network
     QTimer nextTurn; ///< for them
+    QList<QPointer<KirvAccount>> following; ///< a change of several of them
+    QTimer nextFollowing;
 };
 
 #endif

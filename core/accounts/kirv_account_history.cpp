@@ -26,6 +26,9 @@ KirvAccountHistory::KirvAccountHistory(KirvAccountCollection &accounts, KirvMain
     connect(&accounts, &KirvAccountCollection::removalRefused, this,
             [this](const KirvAccount *account) { prepared.remove(account->key()); });
     connect(&accounts, &KirvAccountCollection::accountChanged, this, &KirvAccountHistory::accountChanged);
+    connect(&accounts, &KirvAccountCollection::enabledChanged, this, [this](const QList<KirvAccountKey> &changed) {
+        std::for_each(changed.begin(), changed.end(), [this](const auto &key) { confirm(Disabling, key); });
+    });
 }
 
 void KirvAccountHistory::accountChanged(const KirvAccount *account)

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// What a collection of accounts does to their order, and what it copies of one that may come back.
+// What a collection of accounts copies of one that may come back.
 #include "core/accounts/kirv_account_collection.h"
 
 #include "core/store/kirv_store.h"
 #include "core/values/kirv_bounded_image.h"
 
 #include <QFile>
-#include <algorithm>
 
 KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account)
 {
@@ -28,38 +27,4 @@ KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account)
     if (index + 1 < all.size())
         copy.next = all.at(index + 1)->key();
     return copy;
-}
-
-bool KirvAccountCollection::place(KirvAccount *account, const KirvAccount *next)
-{
-    const int index = int(all.indexOf(account));
-    if (account == next || all.value(index + 1) == next)
-        return true;
-    if (!store.placeAccount(account->key(), next ? next->key() : KirvAccountKey())) {
-        refuse(store.lastError());
-        return false;
-    }
-    error.clear();
-    arrange(account, next);
-    Q_EMIT orderChanged(account);
-    return true;
-}
-
-/// In memory only.
-void KirvAccountCollection::arrange(KirvAccount *account, const KirvAccount *next)
-{
-    all.removeOne(account);
-    const int place = next ? int(all.indexOf(const_cast<KirvAccount *>(next))) : int(all.size());
-    all.insert(place, account);
-    ProtocolAccounts &siblings = byProtocol[account->key().protocol];
-    siblings.accounts.removeOne(account);
-    siblings.infos.removeOne(account->info());
-    const auto isSibling = [account](const KirvAccount *candidate) {
-        return candidate->key().protocol == account->key().protocol;
-    };
-    const auto following = std::find_if(all.begin() + place + 1, all.end(), isSibling);
-    const int among =
-        following == all.end() ? int(siblings.accounts.size()) : int(siblings.accounts.indexOf(*following));
-    siblings.accounts.insert(among, account);
-    siblings.infos.insert(among, account->info());
 }

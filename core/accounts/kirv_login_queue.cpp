@@ -18,8 +18,17 @@ void KirvLoginQueue::setMainConnection(std::function<const KirvConnection *()> n
     mainConnection = std::move(newMainConnection);
 }
 
+void KirvLoginQueue::setCondition(std::function<bool(const KirvConnection &)> newCondition)
+{
+    mayStart = std::move(newCondition);
+}
+
 bool KirvLoginQueue::request(KirvConnection &connection, Priority priority)
 {
+    if (mayStart && !mayStart(connection)) {
+        forget(&connection);
+        return false;
+    }
     connect(&connection, &KirvConnection::stateChanged, this, &KirvLoginQueue::onStateChanged, Qt::UniqueConnection);
     connect(&connection, &QObject::destroyed, this, &KirvLoginQueue::forget, Qt::UniqueConnection);
     attempts.remove(&connection); // a new one replaces it
@@ -133,6 +142,8 @@ void KirvLoginQueue::takeTurn()
     hasStarted = false;
     Priority priority = Ordinary;
     KirvConnection *connection = takeNext(&priority);
+    while (connection && mayStart && !mayStart(*connection))
+        connection = takeNext(&priority);
     if (!connection)
         return;
     start(connection, priority);

@@ -37,6 +37,9 @@ public:
     void setLimits(const Limits &limits) { bounds = limits; }
     /// \a mainConnection is called for the connection of the main account; its result may be null.
     void setMainConnection(std::function<const KirvConnection *()> mainConnection);
+    /// \a mayStart is called before a connection has its turn; one that may not start has none, and waits until it is
+    /// requested again or logged out.
+    void setCondition(std::function<bool(const KirvConnection &)> mayStart);
 
     /// What a login gate replies: whether \a connection may start to log in now. Otherwise its beginLogin() is called
     /// in its turn, unless it is not Waiting any more then. A connection that waits already keeps its place, or gets a
@@ -69,6 +72,7 @@ private:
     KirvClock &clock;
     Limits bounds;
     std::function<const KirvConnection *()> mainConnection;
+    std::function<bool(const KirvConnection &)> mayStart; ///< null: all may
     QList<KirvConnection *> waiting[2]; ///< by priority; the first one is the next
     QHash<KirvConnection *, Attempt> attempts;
     quint64 lastNumber = 0;

@@ -36,6 +36,14 @@ KirvMainAccount::KirvMainAccount(const KirvAccountCollection &accounts, KirvClie
         else if (!account() && canBeMain(changed))
             assign(firstEnabled());
     });
+    // Once for several, when each of them is already what it becomes.
+    connect(&accounts, &KirvAccountCollection::enabledChanged, this, [this] {
+        const KirvAccount *present = account();
+        if (isRestored && present && !canBeMain(present))
+            passOn(present, Disabled);
+        else if (isRestored && !present)
+            assign(firstEnabled());
+    });
     connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this, [this](const KirvAccount *removed) {
         if (removed == account())
             passOn(removed, Removed);

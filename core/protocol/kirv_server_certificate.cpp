@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/protocol/kirv_server_certificate.h"
 
+#include "core/values/kirv_single_line.h"
+
 #include <QCryptographicHash>
 #include <QLocale>
 #include <QSslCertificate>
@@ -28,18 +30,12 @@ bool isHidden(QChar character)
     }
 }
 
-/// \a text in one line of bearable length, without what cannot be seen.
+/// \a text in one line of limited length, without what cannot be seen.
 QString toLine(const QString &text)
 {
     QString line = text.left(4 * longestText);
     std::replace_if(line.begin(), line.end(), isHidden, QChar(QChar::ReplacementCharacter));
-    line = line.simplified();
-    if (line.size() <= longestText)
-        return line;
-    line.truncate(longestText - 1);
-    if (line.at(line.size() - 1).isHighSurrogate())
-        line.chop(1);
-    return line + QChar(0x2026);
+    return kirvSingleLine(line, longestText);
 }
 
 QString joined(const QStringList &parts)

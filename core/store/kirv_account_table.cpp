@@ -5,6 +5,7 @@
 #include "core/store/kirv_database.h"
 
 #include <QHash>
+#include <algorithm>
 
 namespace {
 
@@ -113,6 +114,14 @@ bool KirvAccountTable::writeColumns(const QVariant &number, const QVariantList &
             changed + QVariantList { number });
 }
 
+bool KirvAccountTable::setEnabled(const KirvAccountKey &key, bool enabled)
+{
+    Row row;
+    return findRow(key, &row)
+        && database.run(QStringLiteral("UPDATE account SET enabled = ? WHERE number = ?"),
+                        { int(enabled), row.number });
+}
+
 bool KirvAccountTable::remove(const KirvAccountKey &key)
 {
     Row row;
@@ -126,27 +135,39 @@ bool KirvAccountTable::remove(const KirvAccountKey &key)
     return true;
 }
 
-bool KirvAccountTable::place(const KirvAccountKey &key, const KirvAccountKey &next)
+bool KirvAccountTable::place(const QList<KirvAccountKey> &keys, const KirvAccountKey &next)
 {
-    Row row;
-    if (!findRow(key, &row))
+    qint64 position = 0;
+    if (!makeRoom(int(keys.size()), next, &position))
         return false;
-    if (next.id.isEmpty())
-        return database.execute(
-            QStringLiteral("UPDATE account SET position = (SELECT max(position) + 1 FROM account) WHERE number = ?"),
-            { row.number });
+    return std::all_of(keys.begin(), keys.end(), [&](const KirvAccountKey &key) {
+        Row row;
+        return findRow(key, &row)
+            && database.run(QStringLiteral("UPDATE account SET position = ? WHERE number = ?"),
+                            { ++position, row.number });
+    });
+}
+
+/// Makes the \a count positions after \a position free, which are before \a next or at the end. However many accounts
+/// there are, those that follow are touched once.
+bool KirvAccountTable::makeRoom(int count, const KirvAccountKey &next, qint64 *position)
+{
+    if (next.id.isEmpty()) {
+        const QVariant last = database.valueOf(QStringLiteral("SELECT coalesce(max(position), 0) FROM account"));
+        *position = last.toLongLong();
+        return last.isValid();
+    }
     Row following;
     if (!findRow(next, &following))
         return false;
     // Of equal positions, which profiles that were repaired may have, the number decides.
-    const QVariant position =
+    const QVariant found =
         database.valueOf(QStringLiteral("SELECT position FROM account WHERE number = ?"), { following.number });
-    return position.isValid()
-        && database.execute(QStringLiteral("UPDATE account SET position = position + 2 "
+    *position = found.toLongLong();
+    return found.isValid()
+        && database.execute(QStringLiteral("UPDATE account SET position = position + ? "
                                            "WHERE (position, number) >= (?, ?)"),
-                            { position, following.number })
-        && database.execute(QStringLiteral("UPDATE account SET position = ? + 1 WHERE number = ?"),
-                            { position, row.number });
+                            { count + 1, found, following.number });
 }
 
 bool KirvAccountTable::arrange(const QList<KirvAccountKey> &keys)

@@ -39,9 +39,12 @@ public:
     QList<KirvAccountRecord> readAll();
     bool insert(const KirvAccountRecord &account);
     bool update(const KirvAccountRecord &account);
+    /// Touches nothing else of the account.
+    bool setEnabled(const KirvAccountKey &key, bool enabled);
     bool remove(const KirvAccountKey &key);
-    /// Puts the account before \a next in the order, or at the end when the id of \a next is empty.
-    bool place(const KirvAccountKey &key, const KirvAccountKey &next);
+    /// Puts the accounts, in the order of \a keys, before \a next in the order, or at the end when the id of \a next is
+    /// empty. \a next is none of them.
+    bool place(const QList<KirvAccountKey> &keys, const KirvAccountKey &next);
     /// Gives the accounts \a keys, which are all, the order in which they stand there.
     bool arrange(const QList<KirvAccountKey> &keys);
     /// Those of \a fields that accounts of \a protocol have in the table where \a secretFields says they do not belong.
@@ -64,6 +67,7 @@ private:
         QString avatar;
     };
 
+    bool makeRoom(int count, const KirvAccountKey &next, qint64 *position);
     bool findRow(const KirvAccountKey &key, Row *row);
     bool findOddRow(const KirvAccountKey &key, Row *row);
     bool readValues(const QString &table, QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);

@@ -326,9 +326,22 @@ bool KirvStore::removeAccount(const KirvAccountKey &key)
     return d->change([&] { return d->accounts.remove(key); });
 }
 
+bool KirvStore::enableAccounts(const QList<KirvAccountKey> &keys, bool enabled)
+{
+    return d->change([&] {
+        return std::all_of(keys.begin(), keys.end(),
+                           [&](const KirvAccountKey &key) { return d->accounts.setEnabled(key, enabled); });
+    });
+}
+
 bool KirvStore::placeAccount(const KirvAccountKey &key, const KirvAccountKey &next)
 {
-    return d->change([&] { return d->accounts.place(key, next); });
+    return placeAccounts({ key }, next);
+}
+
+bool KirvStore::placeAccounts(const QList<KirvAccountKey> &keys, const KirvAccountKey &next)
+{
+    return d->change([&] { return d->accounts.place(keys, next); });
 }
 
 bool KirvStore::arrangeAccounts(const QList<KirvAccountKey> &keys)

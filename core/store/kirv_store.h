@@ -55,8 +55,13 @@ public:
     bool insertAccount(const KirvAccountRecord &account); ///< appended to the order
     bool updateAccount(const KirvAccountRecord &account);
     bool removeAccount(const KirvAccountKey &key); ///< with its settings; the avatar file goes too
+    /// Enables or disables all of them, or none when one is refused.
+    bool enableAccounts(const QList<KirvAccountKey> &keys, bool enabled);
     /// Puts the account before \a next in the order, or at the end when \a next is empty.
     bool placeAccount(const KirvAccountKey &key, const KirvAccountKey &next);
+    /// The same for several, which then follow each other in the order of \a keys; \a next is none of them. All of them
+    /// are placed, or none when one is refused.
+    bool placeAccounts(const QList<KirvAccountKey> &keys, const KirvAccountKey &next);
     /// Puts all accounts into the order of \a keys, which name each of them.
     bool arrangeAccounts(const QList<KirvAccountKey> &keys);
     /// Which of the settings \a fields of \a protocol are secret, for the accounts that are stored: profiles of early

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 
+#include "core/values/kirv_local_path.h"
 #include "core/values/kirv_visible_text.h"
 #include "protocols/xmpp/kirv_xmpp_address.h"
 
@@ -64,14 +65,6 @@ QString localCertificatePath()
     return QFile::decodeName(qgetenv("KIRV_XMPP_LOCAL_CERTIFICATE"));
 }
 
-/// A file name as a person writes it: with blanks around it, or as the address of a local file.
-QString toLocalPath(const QString &text)
-{
-    const QString path = text.trimmed();
-    const QLatin1String scheme("file://");
-    return path.startsWith(scheme) ? path.mid(scheme.size()) : path;
-}
-
 } // namespace
 
 KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
@@ -91,7 +84,7 @@ KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
         else if (id == encryptionId) // what is not known is the safest
             encryption = Encryption(qMax(0, int(encryptionValues.indexOf(text))));
         else if (id == certificateId)
-            certificatePath = toLocalPath(text);
+            certificatePath = kirvLocalPath(text);
     }
 }
 

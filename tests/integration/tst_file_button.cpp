@@ -153,6 +153,8 @@ void tst_FileButton::itStartsWhereThePathLeads_data()
     QTest::newRow("file") << "%1/my server.pem" << true << true;
     QTest::newRow("blanks around it") << "  %1/my server.pem " << true << true;
     QTest::newRow("address") << "file://%1/my%20server.pem" << true << true;
+    QTest::newRow("address without a file") << "file://%1/none%20there.pem" << true << false;
+    QTest::newRow("path that looks encoded") << "%1/my%20server.pem" << true << false;
     QTest::newRow("file that is not there") << "%1/none.pem" << true << false;
     QTest::newRow("folder that is not there") << "%1/none/none.pem" << false << false;
     QTest::newRow("relative") << "my server.pem" << false << false;

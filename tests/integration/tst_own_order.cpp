@@ -51,6 +51,9 @@ private Q_SLOTS:
     void dragMoves_data();
     void dragMoves();
     void severalAreDragged();
+    void draggingSeveralIsOneChangeOfTheStore();
+    void refusedDragOfSeveralMovesNone();
+    void manyDragsOfSeveralKeepTheOrder();
     void dropFromElsewhereIsRefused();
     void sortingAndPageAreRemembered();
     void widthIsRemembered();
@@ -315,6 +318,54 @@ void tst_OwnOrder::severalAreDragged()
     clickHeader(0);
     list()->findChild<KirvAccountOrder *>()->moveSelection(QPoint(60, 3)); // sorted: a view moves nothing
     QCOMPARE(storedIds(), QStringList({ ann, bob, cleo, dora }));
+}
+
+void tst_OwnOrder::draggingSeveralIsOneChangeOfTheStore()
+{
+    useOwnOrder();
+    windows->select(dora);
+    windows->row(bob)->setSelected(true);
+    int handled = 0;
+    connect(list(), &QTreeWidget::itemChanged, this, [&handled] { ++handled; });
+    const int before = windows->client->profile().commitCount();
+    list()->findChild<KirvAccountOrder *>()->moveSelection(QPoint(60, 3));
+    QCOMPARE(windows->rowIds(), QStringList({ dora, bob, cleo, ann }));
+    KirvClientWindows::settle();
+    list()->disconnect(this);
+    QCOMPARE(windows->client->profile().commitCount(), before + 1);
+    QCOMPARE(storedIds(), QStringList({ dora, bob, cleo, ann }));
+    QCOMPARE(handled, 0);
+    QVERIFY(list()->isSortingEnabled());
+}
+
+void tst_OwnOrder::refusedDragOfSeveralMovesNone()
+{
+    useOwnOrder();
+    const StoreRefusal refusal(windows->profileFolder(),
+                               QStringLiteral("OLD.id = 'bob' AND NEW.position < OLD.position"));
+    windows->select(dora);
+    windows->row(bob)->setSelected(true);
+    list()->findChild<KirvAccountOrder *>()->moveSelection(QPoint(60, 3));
+    KirvClientWindows::settle();
+    QCOMPARE(windows->rowIds(), QStringList({ cleo, ann, dora, bob }));
+    QCOMPARE(storedIds(), QStringList({ cleo, ann, dora, bob }));
+    QCOMPARE(int(windows->messages().size()), 1);
+}
+
+/// More often than numbers between two others can be found.
+void tst_OwnOrder::manyDragsOfSeveralKeepTheOrder()
+{
+    useOwnOrder();
+    for (int i = 0; i < 80; ++i) {
+        list()->clearSelection();
+        const QStringList ids = windows->rowIds();
+        for (const int row : { 1, 3 })
+            windows->row(ids.at(row))->setSelected(true);
+        const QRect second = list()->visualItemRect(windows->row(ids.at(1)));
+        list()->findChild<KirvAccountOrder *>()->moveSelection(second.center() - QPoint(0, second.height() / 4));
+        QCOMPARE(windows->rowIds(), QStringList({ ids.at(0), ids.at(1), ids.at(3), ids.at(2) }));
+        QCOMPARE(windows->rowIds(), storedIds());
+    }
 }
 
 void tst_OwnOrder::dropFromElsewhereIsRefused()

@@ -2,6 +2,7 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/store/kirv_store.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/gui/kirv_scripted_answers.h"
 #include "tests/support/kirv_patience.h"
@@ -39,6 +40,14 @@ private Q_SLOTS:
     void severalAreDisabledWithOneQuestion();
     void severalOffLineAreDisabledWithoutAQuestion();
     void severalAreEnabled();
+    void changingSeveralIsOneChangeOfTheStore();
+    void disablingAllAndBackIsOneChangeEach();
+    void refusedChangeOfSeveralChangesNone_data();
+    void refusedChangeOfSeveralChangesNone();
+    void refusedUndoOfSeveralEnablesNone();
+    void undoneDisablingBringsThePresencesBack();
+    void refreshOfThePageIsNoClickMeanwhile();
+    void mainAccountThatIsDisabledIsPassedOnOnce();
     void severalAreRemoved_data();
     void severalAreRemoved();
     void refusedQuestionRemovesNone();
@@ -52,6 +61,10 @@ private:
     void click(const QString &id, Qt::KeyboardModifiers modifiers = {});
     void choose(const char *command);
     void activate();
+    void disableFrom(const QString &first, const QString &last);
+    QStringList storedAsEnabled() const;
+    QStringList shownAsEnabled() const;
+    int commits() const { return windows->client->profile().commitCount(); }
 
     std::unique_ptr<KirvClientWindows> windows;
 };
@@ -97,6 +110,38 @@ void tst_SeveralAccounts::choose(const char *command)
     if (menu())
         menu()->close();
     KirvClientWindows::settle();
+}
+
+void tst_SeveralAccounts::disableFrom(const QString &first, const QString &last)
+{
+    click(first);
+    click(last, Qt::ShiftModifier);
+    KirvScriptedAnswers answers({ QMessageBox::Yes });
+    choose("Accounts_DisableSeveralAction");
+    KIRV_TRY_COMPARE(int(answers.texts.size()), 1);
+    KirvClientWindows::settle();
+}
+
+QStringList tst_SeveralAccounts::storedAsEnabled() const
+{
+    QStringList ids;
+    const QList<KirvAccountRecord> records = windows->client->profile().readAccounts();
+    for (const KirvAccountRecord &record : records) {
+        if (record.enabled)
+            ids << record.key.id;
+    }
+    return ids;
+}
+
+QStringList tst_SeveralAccounts::shownAsEnabled() const
+{
+    QStringList ids;
+    const QStringList all = windows->rowIds();
+    for (const QString &id : all) {
+        if (windows->row(id)->checkState(0) == Qt::Checked)
+            ids << id;
+    }
+    return ids;
 }
 
 void tst_SeveralAccounts::shiftAndCtrlSelectSeveral()
@@ -182,6 +227,152 @@ void tst_SeveralAccounts::severalAreEnabled()
     QCOMPARE(handled, 0);
     KIRV_TRY(windows->account(bob)->isOnline() && windows->account(cleo)->isOnline());
     QCOMPARE(windows->selector()->count(), 4);
+}
+
+void tst_SeveralAccounts::changingSeveralIsOneChangeOfTheStore()
+{
+    int before = commits();
+    disableFrom(bob, dora);
+    QCOMPARE(commits(), before + 1);
+    QCOMPARE(storedAsEnabled(), QStringList { ann });
+    QCOMPARE(shownAsEnabled(), QStringList { ann });
+    before = commits();
+    choose("Accounts_EnableSeveralAction");
+    QCOMPARE(commits(), before + 1);
+    QCOMPARE(storedAsEnabled(), QStringList({ ann, bob, cleo, dora }));
+    KIRV_TRY(windows->account(bob)->isOnline() && windows->account(cleo)->isOnline());
+    KIRV_TRY(windows->account(dora)->isOnline());
+}
+
+/// Besides the accounts, the main account is stored: none, then the first, and the one that it was.
+void tst_SeveralAccounts::disablingAllAndBackIsOneChangeEach()
+{
+    windows->chooseMainAccount(cleo);
+    KirvClientWindows::settle();
+    int before = commits();
+    {
+        KirvScriptedAnswers answers({ QMessageBox::Yes });
+        choose("Accounts_DisableAllAction");
+        KIRV_TRY(storedAsEnabled().isEmpty());
+        KirvClientWindows::settle();
+    }
+    QCOMPARE(commits(), before + 2);
+    QCOMPARE(shownAsEnabled(), QStringList());
+    QCOMPARE(windows->shownMainAccount(), QString());
+    before = commits();
+    choose("Accounts_EnableAgainAction");
+    QCOMPARE(commits(), before + 3);
+    QCOMPARE(storedAsEnabled(), QStringList({ ann, bob, cleo, dora }));
+    QCOMPARE(shownAsEnabled(), QStringList({ ann, bob, cleo, dora }));
+    QCOMPARE(windows->shownMainAccount(), cleo);
+    KIRV_TRY(windows->account(ann)->isOnline() && windows->account(dora)->isOnline());
+}
+
+void tst_SeveralAccounts::refusedChangeOfSeveralChangesNone_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("enable") << true;
+    QTest::newRow("disable") << false;
+}
+
+void tst_SeveralAccounts::refusedChangeOfSeveralChangesNone()
+{
+    QFETCH(bool, enabled);
+    if (enabled)
+        disableFrom(bob, dora);
+    const QStringList before = enabled ? QStringList { ann } : QStringList { ann, bob, cleo, dora };
+    const int shown = int(windows->messages().size());
+    const StoreRefusal refusal(windows->profileFolder(), QStringLiteral("OLD.id = 'cleo'"));
+    if (enabled)
+        choose("Accounts_EnableSeveralAction");
+    else
+        disableFrom(bob, dora);
+    KirvClientWindows::settle();
+    QCOMPARE(storedAsEnabled(), before);
+    QCOMPARE(shownAsEnabled(), before);
+    QCOMPARE(int(windows->messages().size()), shown + 1);
+    for (const QString &id : { bob, cleo, dora }) {
+        QCOMPARE(windows->account(id)->isEnabled(), !enabled);
+        QCOMPARE(windows->account(id)->isOnline(), !enabled);
+    }
+}
+
+void tst_SeveralAccounts::refusedUndoOfSeveralEnablesNone()
+{
+    disableFrom(bob, dora);
+    StoreRefusal refusal(windows->profileFolder(), QStringLiteral("OLD.id = 'cleo'"));
+    const int shown = int(windows->messages().size());
+    activate();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KirvClientWindows::settle();
+    QCOMPARE(storedAsEnabled(), QStringList { ann });
+    QCOMPARE(shownAsEnabled(), QStringList { ann });
+    QCOMPARE(int(windows->messages().size()), shown + 1);
+    refusal.end();
+    const int before = commits();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KirvClientWindows::settle();
+    QCOMPARE(commits(), before + 1);
+    QCOMPARE(storedAsEnabled(), QStringList({ ann, bob, cleo, dora }));
+    QCOMPARE(shownAsEnabled(), QStringList({ ann, bob, cleo, dora }));
+}
+
+void tst_SeveralAccounts::undoneDisablingBringsThePresencesBack()
+{
+    windows->account(bob)->setPresence(windows->protocol->presenceWithId(QStringLiteral("away"), QString()));
+    windows->account(cleo)->setPresence(windows->protocol->presenceWithId(QStringLiteral("offline"), QString()));
+    KIRV_TRY(!windows->account(cleo)->isOnline());
+    disableFrom(bob, dora);
+    activate();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KIRV_TRY(windows->account(bob)->isOnline() && windows->account(dora)->isOnline());
+    KirvClientWindows::settle();
+    QCOMPARE(windows->account(bob)->presence().getId(), QStringLiteral("away"));
+    QCOMPARE(windows->account(cleo)->presence().getId(), QStringLiteral("offline"));
+    QVERIFY(!windows->account(cleo)->isOnline());
+    QCOMPARE(windows->shownMainAccount(), ann);
+}
+
+/// It handles a check box that differs from the account as a click.
+void tst_SeveralAccounts::refreshOfThePageIsNoClickMeanwhile()
+{
+    QStringList ids { ann, bob, cleo, dora };
+    for (int number = 0; number < 60; ++number) {
+        ids << QStringLiteral("more%1").arg(number, 2, 10, QLatin1Char('0'));
+        windows->addAccount(ids.last());
+    }
+    KIRV_TRY(windows->account(ids.last())->isOnline());
+    QCOMPARE(shownAsEnabled(), ids);
+    int handled = 0;
+    connect(list(), &QTreeWidget::itemChanged, this, [&handled] { ++handled; });
+    const KirvScriptedAnswers answers;
+    for (const bool enabled : { false, true }) {
+        const int before = commits();
+        QVERIFY(windows->client->accounts().setEnabled(windows->client->accounts().accounts().mid(1), enabled));
+        KirvAccountsTab::getInstance()->updateAccounts();
+        QCOMPARE(commits(), before + 1);
+        QCOMPARE(shownAsEnabled(), enabled ? ids : QStringList { ann });
+        KirvClientWindows::settle();
+    }
+    list()->disconnect(this);
+    QCOMPARE(handled, 0);
+    QCOMPARE(int(answers.texts.size()), 0);
+    KIRV_TRY(windows->account(ids.last())->isOnline());
+}
+
+void tst_SeveralAccounts::mainAccountThatIsDisabledIsPassedOnOnce()
+{
+    QCOMPARE(windows->shownMainAccount(), ann);
+    const int before = commits();
+    disableFrom(ann, cleo);
+    QCOMPARE(commits(), before + 2);
+    QCOMPARE(windows->shownMainAccount(), dora);
+    QCOMPARE(windows->messages().filter(QStringLiteral("main account")),
+             QStringList { QStringLiteral("dora is the main account now, because ann was disabled.") });
+    activate();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->shownMainAccount(), ann);
 }
 
 void tst_SeveralAccounts::severalAreRemoved_data()

@@ -209,6 +209,18 @@ private Q_SLOTS:
         QTest::newRow("where it is") << "b"
                                      << "c"
                                      << "a b c d";
+        QTest::newRow("several to the start") << "d b"
+                                              << "a"
+                                              << "d b a c";
+        QTest::newRow("several from both sides") << "a d"
+                                                 << "c"
+                                                 << "b a d c";
+        QTest::newRow("several to the end") << "c a"
+                                            << ""
+                                            << "b d c a";
+        QTest::newRow("all") << "d c b a"
+                             << ""
+                             << "d c b a";
     }
 
     void anAccountIsPlacedBeforeAnother()
@@ -223,7 +235,12 @@ private Q_SLOTS:
                 QVERIFY(store.insertAccount(makeAccount(QLatin1String(id))));
             if (hasEqualPositions)
                 QVERIFY(QSqlQuery(ownConnection()).exec(QStringLiteral("UPDATE account SET position = 7")));
-            QVERIFY(store.placeAccount({ placed, "XMPP" }, { next, "XMPP" }));
+            QList<KirvAccountKey> keys;
+            for (const QString &id : placed.split(QLatin1Char(' ')))
+                keys << KirvAccountKey { id, "XMPP" };
+            const int commits = store.commitCount();
+            QVERIFY(store.placeAccounts(keys, { next, "XMPP" }));
+            QCOMPARE(store.commitCount(), commits + 1);
             QCOMPARE(idsOf(store).join(QLatin1Char(' ')), order);
         }
     }
@@ -236,6 +253,29 @@ private Q_SLOTS:
         QVERIFY(!store.placeAccount({ "b", "XMPP" }, { "a", "XMPP" }));
         QVERIFY(!store.placeAccount({ "a", "XMPP" }, { "b", "XMPP" }));
         QVERIFY(!store.lastError().isEmpty());
+        QVERIFY(store.insertAccount(makeAccount(QStringLiteral("c"))));
+        QVERIFY(!store.placeAccounts({ { "c", "XMPP" }, { "b", "XMPP" } }, { "a", "XMPP" }));
+        QCOMPARE(idsOf(store), QStringList({ "a", "c" }));
+    }
+
+    void severalAreEnabledOrNone()
+    {
+        KirvStore store;
+        QVERIFY(store.open(folder));
+        for (const char *id : { "a", "b", "c" })
+            QVERIFY(store.insertAccount(makeFullAccountAs(QLatin1String(id))));
+        const QList<KirvAccountRecord> before = store.readAccounts();
+        const int commits = store.commitCount();
+        QVERIFY(!store.enableAccounts({ { "a", "XMPP" }, { "d", "XMPP" } }, false));
+        QVERIFY(!store.lastError().isEmpty());
+        QCOMPARE(store.commitCount(), commits);
+        QVERIFY(store.readAccounts() == before);
+        QVERIFY(store.enableAccounts({ { "a", "XMPP" }, { "c", "XMPP" } }, !before.first().enabled));
+        QCOMPARE(store.commitCount(), commits + 1);
+        QList<KirvAccountRecord> expected = before;
+        for (const int index : { 0, 2 })
+            expected[index].enabled = !expected[index].enabled;
+        QVERIFY(store.readAccounts() == expected);
     }
 
     void theOrderOfAccountsIsKept()

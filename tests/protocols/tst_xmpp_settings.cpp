@@ -120,6 +120,12 @@ void TestXmppSettings::badValuesFallBackToSafeOnes_data()
     QTest::newRow("certificate as an address") << "certificate"
                                                << " file:///folder/file.pem "
                                                << "/folder/file.pem";
+    QTest::newRow("certificate as an address with a blank") << "certificate"
+                                                            << "file:///a%20folder/a%20b.pem"
+                                                            << "/a folder/a b.pem";
+    QTest::newRow("certificate with a percent sign") << "certificate"
+                                                     << "/folder/a%20b.pem"
+                                                     << "/folder/a%20b.pem";
 }
 
 void TestXmppSettings::badValuesFallBackToSafeOnes()
