@@ -193,7 +193,7 @@ protected:
     KirvClock &clock() const;
 
 private:
-    class Private;
+    class Q_DECL_HIDDEN Private;
     const std::unique_ptr<Private> d;
 };
 

@@ -45,8 +45,8 @@ public:
     static std::optional<QNetworkProxy> usable(const QList<QNetworkProxy> &said);
 
 private:
-    struct Line;
-    class Thread;
+    struct Q_DECL_HIDDEN Line;
+    class Q_DECL_HIDDEN Thread;
     struct Request {
         QPointer<QObject> context;
         Receiver receiver;
