@@ -67,18 +67,32 @@ public Q_SLOTS:
     void removeProtocolAccounts(const QString &proto);
 
 protected Q_SLOTS:
+    /// The question whether to disable the account of the row that was changed last was closed with \a result;
+    /// QMessageBox::Yes disables it.
     void disableAccountAccepted(int result);
+    /// The question whether to remove an account was closed with \a result; QMessageBox::Yes removes the account of the
+    /// row that is selected now.
     void removeAccountAccepted(int result);
+    /// Opens the window for a new account of the protocol whose entry of the add menu emitted the signal.
     void addAccount();
+    /// Opens the edit window of the account that is selected.
     void editAccount();
+    /// Enables the buttons Edit and Remove while there is a current row.
     void itemSelectionChanged();
+    /// The check box of \a item was changed: enables its account or disables it, with a question when it is logged in.
+    /// A change in any \a column counts.
     void setAccountEnabled(QTreeWidgetItem *item, int column);
+    /// Opens the question whether to remove the account that is selected.
     void removeAccount();
+    /// Emits the core signal "register_account", which the client answers with its window for registrations.
     void registerAccount();
+    /// Opens the edit window of the account in the row \a item, whatever the \a column.
     void itemActivated(QTreeWidgetItem *item, int column);
+    /// The user chose the entry \a index of the selector: its account becomes the main account.
     void mainAccountChanged(int index);
 
 protected:
+    /// Brings the list up to date before the page is shown.
     void showEvent(QShowEvent *event) override;
 
 private:

@@ -52,10 +52,15 @@ public:
     static KirvAddAccountDialog *of(const QWidget *window);
 
 protected Q_SLOTS:
+    /// The login or the password was edited: Save is enabled while neither is empty.
     void textChanged(const QString &text);
+    /// Creates the account and closes the window, or says that there is one with that login already.
     void addAccount();
+    /// The window has finished; the controller deletes itself.
     void finished(int result);
+    /// The user chose the ready-made configuration \a name: the form gets its settings and its login.
     void configurationChanged(const QString &name);
+    /// Closes the window without creating an account.
     void reject();
 
 private:

@@ -60,13 +60,21 @@ public:
     static KirvEditAccountDialog *of(const QWidget *window);
 
 protected Q_SLOTS:
+    /// Writes to the account what the window shows, and publishes the directory entry when it was changed.
     void saveSettings();
+    /// Saves and closes the window with QDialog::Accepted.
     void saveAndClose();
+    /// Requests the directory entry; its fields are disabled until the answer arrives.
     void requestPubdirInfo();
+    /// Requests that the directory entry is removed; its fields are disabled until the answer arrives.
     void removePubdirInfo();
+    /// The tab \a index became the current one: every other than the first requests the directory entry.
     void togglePubdirControl(int index);
+    /// Takes the image at \a path as the account's avatar, at once; an empty path takes the avatar away.
     void changeAvatar(const QString &path);
+    /// The window has finished; the controller deletes itself. The client connects this slot.
     void finished(int result);
+    /// Closes the window with QDialog::Rejected; nothing is saved.
     void reject();
 
 protected:

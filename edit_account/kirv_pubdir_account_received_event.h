@@ -22,7 +22,9 @@ public:
     KirvPubdirAccountReceivedEvent(KirvAccountConnection *account, const QList<KirvField> &data);
     ~KirvPubdirAccountReceivedEvent() override;
 
+    /// The account that the answer belongs to; not owned.
     KirvAccountConnection *getAccount() const;
+    /// The fields of the entry; empty when the answer carries no data.
     QList<KirvField> getData() const;
 
 private:

@@ -26,20 +26,24 @@ public:
 
     /// The name shown for the account; may be empty.
     QString getAlias() const;
+    /// Changes the name shown for the account.
     void setAlias(const QString &alias);
 
     /// The password as it is known now; empty when it is not known.
     QString getPassword() const;
+    /// Changes the password that the next log-in uses; an empty one means that none is known.
     void setPassword(const QString &password);
     /// Whether the password is kept between runs.
     void setRememberPassword(bool remember);
 
-    /// Whether the last presence, or the last description, is restored when the client starts.
+    /// Whether the last presence is restored when the client starts.
     void setRestoreLastPresence(bool restore);
+    /// Whether the last description is restored when the client starts.
     void setRestoreLastDescription(bool restore);
 
     /// The presence, with its description, taken at log-in.
     KirvPresence getDefaultPresence() const;
+    /// Changes the presence taken at log-in; the current one stays.
     void setDefaultPresence(const KirvPresence &presence);
     /// Changes the current presence now.
     void setPresence(const KirvPresence &presence);
@@ -51,8 +55,10 @@ public:
 
     /// The protocol-specific settings of this account, in display order.
     QList<KirvField> getAccountSettingsInOrder() const;
+    /// Changes the protocol-specific settings to \a settings.
     void setAccountSettings(const QList<KirvField> &settings);
 
+    /// Whether the account is enabled. One that is disabled stays configured and does not log in.
     bool isEnabled() const;
     /// Whether the account is connected now.
     bool isLoggedIn() const;

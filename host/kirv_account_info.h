@@ -8,10 +8,12 @@
 /// The account manager owns what it hands out; callers never delete one.
 class KirvAccountInfo {
 public:
+    /// The description of no account: its texts are empty.
     KirvAccountInfo()
         : enabled(false)
     {
     }
+    /// The description of the account \a id, which is shown as \a alias.
     KirvAccountInfo(const QString &id, const QString &alias, bool enabled)
         : id(id)
         , alias(alias)
@@ -23,6 +25,7 @@ public:
     QString getId() const { return id; }
     /// The name shown for the account.
     QString getAlias() const { return alias; }
+    /// Whether the account is enabled, as KirvAccountManager::accountEnabled() says.
     bool isEnabled() const { return enabled; }
 
 private:

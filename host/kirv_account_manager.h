@@ -17,6 +17,7 @@ class KirvProtocol;
 /// An account is named by its account id first and the name of its protocol second, everywhere.
 class KirvAccountManager {
 public:
+    /// The account manager of this process; not owned by the caller.
     static KirvAccountManager *getInstance();
 
     /// All configured accounts of \a protocol, in the manager's order. The manager owns them; they
@@ -35,7 +36,9 @@ public:
     KirvAccountConnection *createAccount(const QString &id, const QString &alias, const QString &password,
                                          bool rememberPassword, KirvProtocol *protocol, const KirvPresence &presence,
                                          const QList<KirvField> &settings);
+    /// Enables the account: it can log in from now on. Also called for one that is enabled already.
     void enableAccount(const QString &id, const QString &protocol);
+    /// Disables the account, which stays configured, and logs it out: from here on it counts as not logged in.
     void disableAccount(const QString &id, const QString &protocol);
     /// Deletes the account, its connection object and all data that belongs to it.
     void removeAccount(const QString &id, const QString &protocol);

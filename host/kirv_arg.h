@@ -7,12 +7,15 @@
 /// One argument of a core signal. A value type; the signal's name says what the value means.
 class KirvArg {
 public:
+    /// Carries an invalid value.
     KirvArg() { }
+    /// Carries \a value.
     explicit KirvArg(const QVariant &value)
         : value(value)
     {
     }
 
+    /// The value that the argument carries; invalid when it carries none.
     QVariant getValue() const { return value; }
 
 private:

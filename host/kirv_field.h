@@ -14,6 +14,7 @@ public:
     /// How a field is rendered. Text is the kind of a default-constructed field.
     enum Kind { Text, Password, CheckBox, Choice, Number, Label, MultiLine };
 
+    /// A line of text in which everything is empty.
     KirvField()
         : kind(Text)
         , checked(false)
@@ -77,24 +78,38 @@ public:
         return KirvField(MultiLine, label, id, text, toolTip);
     }
 
+    /// How the field is rendered.
     Kind getKind() const { return kind; }
+    /// Names the field among those of the same list.
     QString getId() const { return id; }
+    /// The value of every kind but the check box. Of a label it is the text to read.
     QString getText() const { return text; }
+    /// The value of a check box; false for every other kind.
     bool isChecked() const { return checked; }
+    /// The text beside or above the control; empty: the id is shown in its place.
     QString getLabel() const { return label; }
+    /// The tool tip of the control; empty: it has none.
     QString getToolTip() const { return toolTip; }
+    /// The values among which a choice is made; empty for every other kind.
     QStringList getValues() const { return values; }
+    /// The texts shown for getValues(), in the same order; missing ones are the value itself.
     QStringList getDisplays() const { return displays; }
+    /// The smallest number that a number field takes.
     int getMinimum() const { return minimum; }
+    /// The largest number that a number field takes.
     int getMaximum() const { return maximum; }
     /// A regular expression that the whole text must match; empty accepts any text.
     QString getPattern() const { return pattern; }
     /// Whether an empty text is an error.
     bool isRequired() const { return required; }
 
+    /// Changes getText(). A number field takes the decimal text, a choice one of its values.
     void setText(const QString &value) { text = value; }
+    /// Changes isChecked().
     void setChecked(bool value) { checked = value; }
+    /// Changes getPattern(); an empty one accepts any text.
     void setPattern(const QString &value) { pattern = value; }
+    /// Changes isRequired().
     void setRequired(bool value) { required = value; }
 
     /// Compares everything: id, value and appearance.
@@ -105,6 +120,7 @@ public:
             && pattern == other.pattern && required == other.required && minimum == other.minimum
             && maximum == other.maximum;
     }
+    /// Whether anything differs.
     bool operator!=(const KirvField &other) const { return !(*this == other); }
 
 private:

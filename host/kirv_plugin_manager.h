@@ -12,6 +12,7 @@ class KirvProtocol;
 /// The process-wide plug-in manager. Call it from the GUI thread only.
 class KirvPluginManager {
 public:
+    /// The plug-in manager of this process; not owned by the caller.
     static KirvPluginManager *getInstance();
 
     /// The loaded protocol of that \a name, null when there is none. The manager owns it.

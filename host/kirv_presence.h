@@ -21,9 +21,13 @@ public:
     {
     }
 
+    /// Names the state within its protocol.
     QString getId() const { return id; }
+    /// The text shown for the state.
     QString getDisplay() const { return display; }
+    /// The name of a file in the folder "icons" of the roster theme.
     QString getIcon() const { return icon; }
+    /// The user's status text; empty when there is none.
     QString getDescription() const { return description; }
 
 private:

@@ -10,6 +10,7 @@
 /// The process-wide settings manager. Call it from the GUI thread only.
 class KirvSettingsManager {
 public:
+    /// The settings manager of this process; not owned by the caller.
     static KirvSettingsManager *getInstance();
 
     /// The directory of the current contact-list theme, with a slash at its end. Its subdirectory

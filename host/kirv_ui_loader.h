@@ -12,6 +12,7 @@ class QWidget;
 /// dialogs look up.
 class KirvUILoader {
 public:
+    /// The UI generator of this process; not owned by the caller.
     static KirvUILoader *getInstance();
 
     /// Builds the layout \a name as a child of \a parent, which then owns it, and returns its top

@@ -8,9 +8,10 @@
 /// shorter by chance, so that clients do not all come back at once. Times are in milliseconds.
 class KIRV_PROTOCOL_EXPORT KirvBackOff {
 public:
+    /// Between what the waits grow; milliseconds.
     struct Limits {
-        int first = 2000;
-        int last = 300000;
+        int first = 2000; ///< the first wait
+        int last = 300000; ///< no wait is longer, but for the jitter
         double jitter = 0.2; ///< each wait is up to this fraction shorter or longer
     };
 

@@ -38,15 +38,22 @@ class KIRV_PROTOCOL_EXPORT KirvConnection : public QObject {
     Q_OBJECT
 
 public:
-    enum State { Offline, Connecting, Online, Disconnecting, Waiting };
+    /// Where the connection is in the picture above.
+    enum State {
+        Offline, ///< not connected, and not about to be
+        Connecting, ///< logging in
+        Online, ///< logged in
+        Disconnecting, ///< logging out
+        Waiting ///< for the next attempt to log in, or for its turn: see isWaitingForTurn()
+    };
     Q_ENUM(State)
 
     /// How long the server may take, and how long to wait between attempts; milliseconds.
     struct Timing {
-        int loginTimeout = 30000;
-        int logoutTimeout = 3000;
-        int requestTimeout = 15000;
-        KirvBackOff::Limits backOff;
+        int loginTimeout = 30000; ///< until a log-in has failed
+        int logoutTimeout = 3000; ///< until the connection is broken instead
+        int requestTimeout = 15000; ///< until a directory request has failed
+        KirvBackOff::Limits backOff; ///< between attempts to log in
         int stableAfter = 30000; ///< how long on line until the next wait is the first one again
     };
 
@@ -54,7 +61,7 @@ public:
     explicit KirvConnection(KirvClock &clock = KirvClock::system(), QObject *parent = nullptr);
     ~KirvConnection() override;
 
-    State state() const;
+    State state() const; ///< Offline at first
     bool isLoggedIn() const; ///< state() is Online
     QDateTime since() const; ///< when the state was entered
     KirvFailure lastFailure() const; ///< of the last attempt; None after a success
@@ -62,7 +69,9 @@ public:
     /// Whether the state is Waiting and what it waits for is beginLogin().
     bool isWaitingForTurn() const;
 
+    /// The times that the connection keeps to.
     Timing timing() const;
+    /// Changes the times, from the next log-in, log-out, request and wait on.
     void setTiming(const Timing &timing);
 
     /// What the last attempt logged in with, or the next one will when a log-out is followed by a log-in.
@@ -111,19 +120,22 @@ public:
     /// when off line.
     KirvServerCertificate pinnedCertificate() const;
 
-    /// The account's avatar. One that was chosen is published at once when on line.
+    /// The account's avatar.
     KirvAvatar avatar() const;
+    /// Changes the avatar. One that was chosen is published at once when on line.
     void setAvatar(const KirvAvatar &avatar);
 
-    /// Requests to the public directory. Each returns the number of the request, never 0, and is answered by exactly
-    /// one directoryAnswered() of that number, from the event loop or later: also on an error, on a time-out and when
-    /// the connection ends. Several can be outstanding.
+    /// Requests the entry of the public directory. This and the two requests that follow return the number of the
+    /// request, never 0, and are answered by exactly one directoryAnswered() of that number, from the event loop or
+    /// later: also on an error, on a time-out and when the connection ends. Several can be outstanding.
     int fetchDirectory();
     /// Changes the fields in \a changes, and no others, over the entry that the server holds then.
     int publishDirectory(const QList<KirvField> &changes);
+    /// Removes the entry from the server.
     int deleteDirectory();
 
 Q_SIGNALS:
+    /// The connection has entered \a state.
     void stateChanged(KirvConnection::State state);
     /// A step of the log-in has begun or ended; emitted in the state Connecting. The last one of an attempt is the
     /// log-in when that is done, or the step that failed. A slot of this signal neither changes nor destroys the
@@ -135,6 +147,7 @@ Q_SIGNALS:
     void certificateRefused(const KirvServerCertificate &certificate);
     /// A log-in, the connection or a request without an answer of its own failed.
     void failed(const KirvFailure &failure);
+    /// A request to the public directory was answered, see fetchDirectory().
     void directoryAnswered(const KirvDirectoryAnswer &answer);
     /// The server says something that the user should read although nothing failed.
     void noticeReceived(const QString &text);
@@ -163,13 +176,18 @@ protected:
     /// the protocol looks for itself whether it is to be published. The default does nothing.
     virtual void publishAvatar();
 
-    /// Start a directory request; called in state Online only. Reply with answerDirectoryRequest() or
-    /// failDirectoryRequest(). The defaults reply that the protocol has no directory.
+    /// Starts to fetch the directory entry. This and the two operations that follow are called in state Online only.
+    /// Reply with answerDirectoryRequest() or failDirectoryRequest(). The defaults reply that the protocol has no
+    /// directory.
     virtual void startDirectoryFetch(int request);
+    /// Starts to change the fields in \a changes, and no others, over the entry that the server holds then.
     virtual void startDirectoryPublication(int request, const QList<KirvField> &changes);
+    /// Starts to remove the directory entry.
     virtual void startDirectoryDeletion(int request);
 
+    /// The log-in that startLogin() has started succeeded.
     void loginSucceeded();
+    /// The log-in failed. The next attempt is made by itself when \a failure is worth retrying.
     void loginFailed(const KirvFailure &failure);
     /// The server's certificate has problems. True when \a certificate is the one that login() trusts: the protocol
     /// ignores its problems then and goes on. Otherwise call failForCertificate() when nothing is under way any more.
@@ -178,6 +196,7 @@ protected:
     void failForCertificate();
     /// Ends a log-in, too; a connection lost while logging out is logged out.
     void connectionLost(const KirvFailure &failure);
+    /// The log-out that startLogout() has started is complete.
     void logoutFinished();
     /// Reports how far the log-in is, before loginSucceeded(). A step that begins is Running, with what is known of it;
     /// then it is Done. Whatever runs when the log-in fails is reported as failed by loginFailed(), connectionLost()
@@ -188,12 +207,14 @@ protected:
 
     /// \a entry is what the server holds now; empty: no entry. Nothing happens when the request was answered before.
     void answerDirectoryRequest(int request, const QList<KirvField> &entry);
+    /// The directory request has failed. Nothing happens when it was answered before.
     void failDirectoryRequest(int request, const KirvFailure &failure);
 
+    /// The clock by which the connection waits, for what the protocol itself waits for.
     KirvClock &clock() const;
 
 private:
-    class Private;
+    class Q_DECL_HIDDEN Private;
     const std::unique_ptr<Private> d;
 };
 

@@ -10,6 +10,7 @@
 
 /// The answer to one request to the public directory. A value type.
 struct KirvDirectoryAnswer {
+    /// What has become of the request.
     enum Outcome {
         Data, ///< the entry as it is on the server now is in fields
         None, ///< the server holds no entry (any more)
@@ -17,9 +18,9 @@ struct KirvDirectoryAnswer {
     };
 
     int request = 0; ///< the number that the request got when it was made
-    Outcome outcome = Failed;
-    QList<KirvField> fields;
-    KirvFailure failure;
+    Outcome outcome = Failed; ///< what has become of it
+    QList<KirvField> fields; ///< Data: the entry; otherwise empty
+    KirvFailure failure; ///< Failed: why
 };
 
 Q_DECLARE_METATYPE(KirvDirectoryAnswer)

@@ -18,11 +18,13 @@ struct KirvLogin {
     /// with it; empty: only what the system or the settings trust. See KirvServerCertificate::fingerprint.
     QByteArray trustedCertificate = QByteArray();
 
+    /// Whether a log-in with both is the same.
     bool operator==(const KirvLogin &other) const
     {
         return id == other.id && password == other.password && settings == other.settings
             && trustedCertificate == other.trustedCertificate;
     }
+    /// Whether anything differs.
     bool operator!=(const KirvLogin &other) const { return !(*this == other); }
 };
 

@@ -29,8 +29,10 @@ class KIRV_PROTOCOL_EXPORT KirvProtocolBase : public QObject, public KirvProtoco
     Q_OBJECT
 
 public:
+    /// What is to be done with the directory entry of an account.
     enum DirectoryOperation { FetchDirectory, PublishDirectory, DeleteDirectory };
 
+    /// \a parent may be null: the core owns the protocol that a plug-in has made.
     explicit KirvProtocolBase(QObject *parent = nullptr);
     ~KirvProtocolBase() override;
 

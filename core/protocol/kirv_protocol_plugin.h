@@ -9,6 +9,7 @@ class KirvProtocolBase;
 /// The version of what plug-ins and the core know of each other. A plug-in states the one it was built for in
 /// its JSON meta data, {"name": "XMPP", "api": 4}, and is not loaded when it is another one.
 #define KIRV_PROTOCOL_PLUGIN_API 4
+/// The name of the interface, for Q_PLUGIN_METADATA.
 #define KIRV_PROTOCOL_PLUGIN_IID "org.kirv.ProtocolPlugin"
 
 /// The root object of a protocol plug-in: makes the protocol.

@@ -24,14 +24,16 @@ class KIRV_PROTOCOL_EXPORT KirvProxy {
     Q_DECLARE_TR_FUNCTIONS(KirvProxy)
 
 public:
+    /// What connections go through.
     enum Kind {
         None, ///< directly to the server, whatever the system says
         System, ///< what the system says for the server, which may be that there is none
-        Socks5,
+        Socks5, ///< version 5 of SOCKS, with names that the proxy looks up
         Http, ///< the method CONNECT
         Unknown ///< what was stored is none of these; cannot be used
     };
 
+    /// The port of a proxy that names none.
     static const int defaultPort = 1080;
     /// How long a proxy may take until it has connected to the server, in milliseconds.
     static const int patience = 20000;
@@ -40,11 +42,11 @@ public:
     /// Reads \a fields; what is missing keeps its default.
     explicit KirvProxy(const QList<KirvField> &fields);
 
-    Kind kind = None;
+    Kind kind = None; ///< what connections go through
     QString host; ///< only of Socks5 and Http, as what follows
     int port = defaultPort; ///< 0: what was stored is no port
     QString user; ///< empty: no log-in
-    QString password;
+    QString password; ///< of the user; empty: none
 
     /// The settings as fields, in display order. That of the password is secret. Their ids begin with "proxy".
     QList<KirvField> toFields() const;

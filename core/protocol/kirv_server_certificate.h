@@ -28,6 +28,7 @@ public:
     /// that it was to be for.
     KirvServerCertificate(const QSslCertificate &certificate, const QList<QSslError> &errors, const QString &host);
 
+    /// Whether it is of nobody.
     bool isNull() const { return fingerprint.isEmpty(); }
 
     QString host; ///< that the connection was to
@@ -35,14 +36,15 @@ public:
     QString issuer; ///< who has issued it, as it says itself; empty when it says nothing
     bool isSelfIssued = false; ///< both are the same
     QStringList names; ///< the servers that it is for, without those beyond the first ten
-    QDateTime validFrom, validUntil; ///< invalid when it does not say so
+    QDateTime validFrom; ///< from when on it is valid; invalid when it does not say so
+    QDateTime validUntil; ///< until when it is valid; invalid when it does not say so
     QByteArray fingerprint; ///< the SHA-256 digest of the certificate, 32 bytes
     QStringList problems; ///< all that is wrong with it, one or two sentences each
 
     /// A line about it.
     struct Detail {
         QString label; ///< translated, without a colon
-        QString text;
+        QString text; ///< in one line, not translated where it is the server's
     };
     /// Whom it is for, who has issued it, its dates and its fingerprint, in display order, without what it does not
     /// say.
@@ -50,9 +52,12 @@ public:
 
     /// \a fingerprint as people compare it, as "9F:3A:…".
     static QString fingerprintText(const QByteArray &fingerprint);
+    /// The fingerprint of this one as people compare it; empty when it is null.
     QString fingerprintText() const { return fingerprintText(fingerprint); }
 
+    /// Whether both servers have shown the same, for the same name and with the same problems.
     bool operator==(const KirvServerCertificate &other) const;
+    /// Whether anything differs.
     bool operator!=(const KirvServerCertificate &other) const { return !(*this == other); }
 };
 

@@ -36,9 +36,9 @@ public:
         QString text; ///< one or more paragraphs above the fields; may be empty
         QString notice; ///< what is to be noticed first, a sentence shown where failures are; empty: nothing
         QStringList configurations; ///< ready-made values for the fields, see fieldsOf(); empty: none
-        QList<KirvField> fields;
+        QList<KirvField> fields; ///< what is to be filled in; empty: the step is only confirmed
         QString providerField; ///< id of the field for the domain of a server of anybody's choice; empty: none
-        QList<Picture> pictures;
+        QList<Picture> pictures; ///< those that belong to fields of the step
         QString command; ///< text of the button that submits, in title case; empty: nothing can be submitted
         bool isDangerous = false; ///< the command cannot be undone, so it is not the default button
         bool canGoBack = false; ///< goBack() leads to the step before
@@ -47,8 +47,9 @@ public:
 
     /// What the request achieved. Whoever owns the request brings the accounts in line with it.
     struct Result {
+        /// What was done on the server.
         enum Kind { AccountRegistered, PasswordChanged, AccountDeleted };
-        Kind kind = AccountRegistered;
+        Kind kind = AccountRegistered; ///< what was done
         KirvLogin account; ///< AccountRegistered: the account to add; an empty id when only the server knows it
         QString password; ///< PasswordChanged: the new one
     };
@@ -72,6 +73,7 @@ public:
     virtual bool cancel() = 0;
 
 Q_SIGNALS:
+    /// \a step is the present one now.
     void stepReady(const KirvServerRequest::Step &step);
     /// A reply of the server is awaited; \a text says what for.
     void waiting(const QString &text);
@@ -79,6 +81,7 @@ Q_SIGNALS:
     void failed(const KirvFailure &failure);
     /// The step holds what cannot be sent; \a text says which, a sentence.
     void inputRejected(const QString &text);
+    /// The last step was carried out; the request is over.
     void succeeded(const KirvServerRequest::Result &result);
 };
 

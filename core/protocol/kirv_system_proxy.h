@@ -23,6 +23,7 @@ class KIRV_PROTOCOL_EXPORT KirvSystemProxy : public QObject {
     Q_OBJECT
 
 public:
+    /// Finds what the system says; may block.
     using Query = std::function<QList<QNetworkProxy>(const QNetworkProxyQuery &query)>;
     /// With the proxy, or one of the type NoProxy where the system says that there is none; with nothing when it is not
     /// known.
@@ -45,8 +46,8 @@ public:
     static std::optional<QNetworkProxy> usable(const QList<QNetworkProxy> &said);
 
 private:
-    struct Line;
-    class Thread;
+    struct Q_DECL_HIDDEN Line;
+    class Q_DECL_HIDDEN Thread;
     struct Request {
         QPointer<QObject> context;
         Receiver receiver;

@@ -7,10 +7,12 @@
 
 /// What names an account: its id and the name of its protocol. A value type.
 struct KirvAccountKey {
-    QString id;
-    QString protocol;
+    QString id; ///< the account id: the name under which the account logs in
+    QString protocol; ///< the name of its protocol
 
+    /// Whether both name the same account.
     bool operator==(const KirvAccountKey &other) const { return id == other.id && protocol == other.protocol; }
+    /// Whether they name different accounts.
     bool operator!=(const KirvAccountKey &other) const { return !(*this == other); }
 
     /// The form in which the main account is stored: the id, "@@" and the protocol name.

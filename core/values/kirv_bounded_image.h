@@ -19,8 +19,8 @@ class KIRV_VALUES_EXPORT KirvBoundedImage {
     Q_DECLARE_TR_FUNCTIONS(KirvBoundedImage)
 
 public:
-    static constexpr qint64 maximumBytes = 10 * 1024 * 1024;
-    static constexpr qint64 maximumPixels = 25 * 1000 * 1000;
+    static constexpr qint64 maximumBytes = 10 * 1024 * 1024; ///< of the image file
+    static constexpr qint64 maximumPixels = 25 * 1000 * 1000; ///< width times height
     /// In pixels; no avatar is shown larger.
     static constexpr int largestAvatarSide = 512;
 
@@ -32,6 +32,7 @@ public:
     static KirvBoundedImage fromFile(const QString &path, int largestSide = largestAvatarSide);
     /// The same for the bytes of an image file; \a name stands for it in texts.
     static KirvBoundedImage fromData(const QByteArray &data, const QString &name, int largestSide = largestAvatarSide);
+    /// The same for an image that is decoded already: it is scaled down only.
     static KirvBoundedImage fromImage(const QImage &image, int largestSide = largestAvatarSide);
 
     /// The bytes of the image file at \a path, measured but not decoded, and its format as Qt names it. Empty with the
@@ -45,7 +46,9 @@ public:
     /// File name patterns of the accepted formats, as "*.png".
     static QStringList namePatterns();
 
+    /// Whether there is no image.
     bool isNull() const { return picture.isNull(); }
+    /// The image; null when there is none.
     QImage image() const { return picture; }
     /// Why there is no image: a sentence for the user; empty when there is one.
     QString problem() const { return failure; }

@@ -15,6 +15,7 @@ class KIRV_VALUES_EXPORT KirvClock {
 public:
     virtual ~KirvClock() = default;
 
+    /// What time it is.
     virtual QDateTime now() const = 0;
     /// Calls \a callback once, \a milliseconds from now, unless \a context is destroyed before.
     virtual void callLater(int milliseconds, QObject *context, std::function<void()> callback) = 0;

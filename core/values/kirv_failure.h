@@ -13,6 +13,7 @@ class KIRV_VALUES_EXPORT KirvFailure {
     Q_DECLARE_TR_FUNCTIONS(KirvFailure)
 
 public:
+    /// What failed.
     enum Kind {
         None, ///< nothing failed
         WrongPassword, ///< the server knows the login but refuses the password, or refuses both
@@ -47,8 +48,11 @@ public:
     /// one line of at most 300 characters, whatever a server sends.
     KirvFailure(Kind kind, const QString &detail = QString());
 
+    /// What failed; None when nothing did.
     Kind kind() const { return failureKind; }
+    /// What helps to understand the failure, as the constructor keeps it; may be empty.
     QString detail() const { return failureDetail; }
+    /// Whether anything failed.
     bool isFailure() const { return failureKind != None; }
     /// Whether trying again by itself may help. A wrong password, say, stays wrong.
     bool isWorthRetrying() const;
