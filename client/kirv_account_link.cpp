@@ -15,10 +15,11 @@ namespace {
 // The longest address that XMPP allows, and longer than any of IRC.
 const int longestLogin = 2047;
 
+/// Without the part before the "@" where the link has none.
 QString loginOfAuthority(const QUrl &url)
 {
     const QString user = url.userName(QUrl::FullyDecoded);
-    if (user.isEmpty() || url.host().isEmpty())
+    if (url.host().isEmpty())
         return QString();
     const QString login = user + QLatin1Char('@') + url.host(QUrl::FullyDecoded);
     return url.port() == -1 ? login : QStringLiteral("%1:%2").arg(login).arg(url.port());
@@ -38,6 +39,13 @@ bool isShowable(const QString &login)
     return login.size() <= longestLogin
         && std::all_of(login.begin(), login.end(), [](QChar character) { return character.isPrint(); });
 }
+
+void showLogin(QLineEdit *line, const QString &login)
+{
+    line->setText(login);
+    if (login.startsWith(QLatin1Char('@')))
+        line->setCursorPosition(0); // the nick is still to be typed
+}
 } // namespace
 
 KirvAccountLink KirvAccountLink::fromText(const QString &text)
@@ -49,6 +57,8 @@ KirvAccountLink KirvAccountLink::fromText(const QString &text)
     if (url.scheme() == QLatin1String("xmpp")) {
         link.protocol = QStringLiteral("XMPP");
         link.login = url.authority().isEmpty() ? loginOfAddress(url) : loginOfAuthority(url);
+        if (link.login.startsWith(QLatin1Char('@')))
+            link.login.clear();
     } else if (url.scheme() == QLatin1String("irc") || url.scheme() == QLatin1String("ircs")) {
         link.protocol = QStringLiteral("IRC");
         link.login = loginOfAuthority(url);
@@ -67,7 +77,7 @@ bool KirvAccountLink::open(KirvAccountsTab *page) const
     auto *dialog = new KirvAddAccountDialog(loaded, QString(), page, Qt::Sheet);
     if (dialog->getWindow()) {
         if (auto *line = dialog->getWindow()->findChild<QLineEdit *>(QStringLiteral("AddAccount_UsernameEdit")))
-            line->setText(login);
+            showLogin(line, login);
     }
     dialog->exec();
     return true;

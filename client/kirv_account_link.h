@@ -11,7 +11,9 @@ class KirvAccountsTab;
 /// irc://nick\@server:port/… and the same with ircs.
 struct KirvAccountLink {
     QString protocol; ///< its name; empty: this is no link
-    QString login; ///< empty when the link does not say whose account it is
+    /// Empty when the link does not say whose account it is. A link of IRC without a nick names a server:
+    /// "\@server:port".
+    QString login;
 
     bool isNull() const { return protocol.isEmpty(); }
     /// The link in \a text; null when it is none of those above. An address that an xmpp link names to write to, or to

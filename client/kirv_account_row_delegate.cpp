@@ -58,6 +58,14 @@ QColor paler(const QColor &ink, const QColor &paper)
     return ink;
 }
 
+void makePaler(QStyleOptionViewItem *option)
+{
+    for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive }) {
+        const QColor ink = option->palette.color(group, QPalette::Text);
+        option->palette.setColor(group, QPalette::Text, paler(ink, option->palette.color(group, QPalette::Base)));
+    }
+}
+
 /// The icon as it is, also on a selected row: styles mix it with the colour behind it.
 QIcon untintedIcon(const QStyleOptionViewItem &option)
 {
@@ -96,10 +104,13 @@ void KirvAccountRowDelegate::initStyleOption(QStyleOptionViewItem *option, const
     KirvNameDelegate::initStyleOption(option, index);
     if (index.column() == KirvProtocolColumn && option->state & QStyle::State_Selected)
         option->icon = untintedIcon(*option);
+    const KirvAccount *account = accountOf(index);
+    if (account && !account->isLoaded())
+        makePaler(option);
     if (index.column() != KirvAliasColumn)
         return;
     if (option->text.isEmpty()) {
-        if (const KirvAccount *account = accountOf(index))
+        if (account)
             option->text = kirvPlainName(account->displayName());
     }
     // Room for the icon, which has no file. The style keeps check box, icon and text apart, in either direction.
@@ -131,9 +142,8 @@ void KirvAccountRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem
     kirvPaintStateShape(painter, iconPlace, status.kind(),
                         isSelected ? row.palette.color(colorGroup(row), QPalette::HighlightedText)
                                    : kirvStateColor(status.kind(), row.palette));
-    if (status.kind() == KirvAccountStatus::Disabled || status.kind() == KirvAccountStatus::NotLoaded)
-        row.palette.setColor(QPalette::Text,
-                             paler(row.palette.color(QPalette::Text), row.palette.color(QPalette::Base)));
+    if (status.kind() == KirvAccountStatus::Disabled)
+        makePaler(&row);
     paintLines(painter, row, textPlace, name, status.line());
     if (status.kind() == KirvAccountStatus::Waiting && !countdown->isActive())
         countdown->start(millisecondsOfASecond);

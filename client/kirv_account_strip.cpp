@@ -16,6 +16,7 @@
 #include <QStyle>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QtMath>
 
 namespace {
 /// Longer reasons are scrolled.
@@ -112,7 +113,8 @@ void KirvAccountStrip::fixHeight()
     const int edge = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     icon->setFixedSize(edge, edge);
     reason->setMinimumHeight(reason->fontMetrics().lineSpacing());
-    reason->setMaximumHeight(linesOfReason * reason->fontMetrics().lineSpacing());
+    // The lines of a document are as high as their font in fractions.
+    reason->setMaximumHeight(linesOfReason * qCeil(QFontMetricsF(reason->font()).lineSpacing()) + 2);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 

@@ -468,13 +468,10 @@ void KirvAccountsPageCompanion::removeAll(const QString &protocol)
 
 void KirvAccountsPageCompanion::markUnloaded(QTreeWidgetItem *row) const
 {
-    const QBrush grey = list->palette().brush(QPalette::Disabled, QPalette::Text);
     const QString reason = QCoreApplication::translate(
         "KirvAccountsPageCompanion", "The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.");
-    for (int column : { KirvAliasColumn, KirvProtocolColumn }) {
-        row->setForeground(column, grey);
+    for (int column : { KirvAliasColumn, KirvProtocolColumn })
         row->setToolTip(column, kirvPlainToolTip(reason.arg(row->text(KirvProtocolColumn))));
-    }
 }
 
 KirvAccountKey KirvAccountsPageCompanion::current() const

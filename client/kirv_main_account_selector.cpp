@@ -2,6 +2,7 @@
 #include "client/kirv_main_account_selector.h"
 
 #include "client/kirv_plain_text.h"
+#include "client/kirv_selector_style.h"
 #include "core/accounts/kirv_account.h"
 #include "host/kirv_account_manager.h"
 
@@ -24,6 +25,7 @@ KirvMainAccountSelector::KirvMainAccountSelector(QComboBox *box)
     : QObject(box)
     , box(box)
 {
+    box->setStyle(new KirvSelectorStyle(box));
     // A refresh empties and fills the selector, which must not lose the focus meanwhile: this comes after it.
     connect(box->model(), &QAbstractItemModel::rowsInserted, this, &KirvMainAccountSelector::correctLater);
     connect(box->model(), &QAbstractItemModel::rowsRemoved, this, &KirvMainAccountSelector::correctLater);

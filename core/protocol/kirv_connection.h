@@ -189,8 +189,9 @@ protected:
     void loginSucceeded();
     /// The log-in failed. The next attempt is made by itself when \a failure is worth retrying.
     void loginFailed(const KirvFailure &failure);
-    /// The server's certificate has problems. True when \a certificate is the one that login() trusts: the protocol
-    /// ignores its problems then and goes on. Otherwise call failForCertificate() when nothing is under way any more.
+    /// The server's certificate has problems, or login() trusts one, so that no other is accepted silently. True when
+    /// \a certificate is the one that login() trusts: the protocol ignores its problems then and goes on. Otherwise
+    /// call failForCertificate() when nothing is under way any more; no password is sent.
     bool acceptsCertificate(const KirvServerCertificate &certificate);
     /// Ends the log-in for the certificate that acceptsCertificate() has not accepted.
     void failForCertificate();

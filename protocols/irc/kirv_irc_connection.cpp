@@ -191,16 +191,23 @@ QAbstractSocket *KirvIrcConnection::createTransport(QString *problem)
         return nullptr;
     encrypted->setPeerVerifyMode(QSslSocket::VerifyPeer);
     connect(encrypted.get(), QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
-            [this, socket = encrypted.get()](const QList<QSslError> &errors) { judge(socket, errors); });
+            [this, socket = encrypted.get()](const QList<QSslError> &errors) { checkCertificate(socket, errors); });
+    connect(encrypted.get(), &QSslSocket::encrypted, this, [this, socket = encrypted.get()] {
+        if (!login().trustedCertificate.isEmpty())
+            checkCertificate(socket, {});
+    });
     return encrypted.release();
 }
 
-/// Goes on where the certificate is the one that the user trusts for this account.
-void KirvIrcConnection::judge(QSslSocket *encrypted, const QList<QSslError> &errors)
+/// Goes on where the certificate is the one that the user trusts for this account. Where the user trusts one, another
+/// is refused, also when nothing is wrong with it.
+void KirvIrcConnection::checkCertificate(QSslSocket *encrypted, const QList<QSslError> &errors)
 {
     isCertificateRefused = !acceptsCertificate({ encrypted->peerCertificate(), errors, settings.server });
     if (!isCertificateRefused)
         encrypted->ignoreSslErrors(errors);
+    else if (encrypted->isEncrypted())
+        encrypted->abort(); // nothing has been sent
 }
 
 /// Sets the certificates. False when one of the files cannot be used.
@@ -365,6 +372,8 @@ KirvFailure KirvIrcConnection::meaningOf(const QString &goodbye) const
 /// The connection has ended without a goodbye.
 void KirvIrcConnection::loseConnection(const QString &reason)
 {
+    if (isCertificateRefused)
+        return failForCertificate();
     connectionLost(refusal.isEmpty() ? KirvFailure(KirvFailure::ConnectionLost, reason) : meaningOf(QString()));
 }
 

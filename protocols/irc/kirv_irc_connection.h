@@ -49,7 +49,7 @@ private:
     void openThroughProxy(QAbstractSocket *transport);
     QAbstractSocket *createTransport(QString *problem);
     bool configure(QSslSocket *encrypted, QString *problem) const;
-    void judge(QSslSocket *encrypted, const QList<QSslError> &errors);
+    void checkCertificate(QSslSocket *encrypted, const QList<QSslError> &errors);
     void openLink(QSslSocket *encrypted);
     void warnOfOpenKey();
     void prepareAuthentication();

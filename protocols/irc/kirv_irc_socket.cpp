@@ -98,6 +98,8 @@ void KirvIrcSocket::enter(SocketState state)
 
 void KirvIrcSocket::begin()
 {
+    if (ended) // by another slot of the same signal
+        return;
     enter(ConnectedState);
     Q_EMIT connected();
     goOn();

@@ -80,7 +80,8 @@ Q_SIGNALS:
     void reached();
     /// The server has begun to speak: it has said what it offers. May be emitted several times.
     void greeted();
-    /// The server has shown a certificate that has problems; the end follows, unless it is trustedCertificate().
+    /// The server has shown a certificate that has problems, or any while trustedCertificate() is set; the end follows,
+    /// unless it is trustedCertificate().
     void certificateShown(const KirvServerCertificate &certificate);
     /// The server refers to another one, in the place of ended(); \a port is 0 when it names none. \a wasEncrypted: it
     /// said so over an encrypted stream.

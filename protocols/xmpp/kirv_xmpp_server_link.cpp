@@ -75,7 +75,7 @@ KirvXmppServerLink::KirvXmppServerLink(Purpose purpose, KirvClock &clock, int re
     connect(&client, &QXmppClient::connected, this, &KirvXmppServerLink::receiveConnected);
     connect(&client, &QXmppClient::disconnected, this, &KirvXmppServerLink::endSoon);
     connect(&client, &QXmppClient::error, this, &KirvXmppServerLink::receiveError);
-    connect(&client, &QXmppClient::sslErrors, this, &KirvXmppServerLink::receiveSslErrors);
+    connect(&client, &QXmppClient::sslErrors, this, &KirvXmppServerLink::checkCertificate);
 }
 
 KirvXmppServerLink::~KirvXmppServerLink()
@@ -98,6 +98,10 @@ void KirvXmppServerLink::guardStream()
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
     steps = new KirvSocketSteps(*stream->socket(), this);
     connect(steps, &KirvSocketSteps::step, this, &KirvXmppLink::step);
+    connect(stream->socket(), &QSslSocket::encrypted, this, [this] {
+        if (!trustedCertificate().isEmpty())
+            checkCertificate({});
+    });
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppLink::reached);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::lookAtServer);
@@ -395,7 +399,9 @@ void KirvXmppServerLink::receiveError(QXmppClient::Error error)
         fail(hasArrived ? KirvFailure::ServerShutDown : KirvFailure::AuthenticationNotOffered);
 }
 
-void KirvXmppServerLink::receiveSslErrors(const QList<QSslError> &errors)
+/// Where the user trusts a certificate, another one is refused, also when nothing is wrong with it: then \a errors is
+/// empty.
+void KirvXmppServerLink::checkCertificate(const QList<QSslError> &errors)
 {
     QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
     const KirvServerCertificate shown(socket->peerCertificate(), errors, client.configuration().domain());

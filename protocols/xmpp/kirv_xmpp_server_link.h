@@ -55,7 +55,7 @@ private:
     bool receiveReply(const QDomElement &iq);
     void receiveConnected();
     void receiveError(QXmppClient::Error error);
-    void receiveSslErrors(const QList<QSslError> &errors);
+    void checkCertificate(const QList<QSslError> &errors);
 
     void reply(const QString &id, const KirvXmppReply &reply);
     void fail(const KirvFailure &failure);

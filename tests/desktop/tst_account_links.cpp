@@ -106,7 +106,10 @@ void tst_AccountLinks::linkIsRead_data()
                           << "ann@irc.example.org:6697";
     QTest::newRow("server of IRC") << "irc://irc.example.org/kirv"
                                    << "IRC"
-                                   << "";
+                                   << "@irc.example.org";
+    QTest::newRow("server and port of IRC") << "ircs://irc.example.org:6697/kirv"
+                                            << "IRC"
+                                            << "@irc.example.org:6697";
     QTest::newRow("line break") << "xmpp:ann%0A@example.org"
                                 << "XMPP"
                                 << "";
@@ -162,8 +165,11 @@ void tst_AccountLinks::linkOpensTheAddWindow_data()
     QTest::newRow("IRC") << "ircs://ann@irc.example.org"
                          << "IRC"
                          << "ann@irc.example.org";
-    QTest::newRow("no login") << "irc://irc.example.org"
-                              << "IRC"
+    QTest::newRow("no nick") << "irc://irc.example.org"
+                             << "IRC"
+                             << "@irc.example.org";
+    QTest::newRow("no login") << "xmpp://example.org"
+                              << "XMPP"
                               << "";
 }
 

@@ -12,7 +12,9 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QImage>
 #include <QSignalSpy>
 #include <QTreeWidget>
 #include <QtTest>
@@ -47,6 +49,9 @@ private Q_SLOTS:
     void aliasOfItIsShownAtOnce();
     void accountWithoutAliasIsOfferedUnderItsLogin();
     void correctingTheSelectorIsNoChoice();
+    void unloadedOneCanBeRead_data();
+    void unloadedOneCanBeRead();
+    void listOfManyIsNoHigherThanTenRows();
 
 private:
     QString stored() const { return windows->client->settings().value(QStringLiteral("main_account")); }
@@ -279,6 +284,62 @@ void tst_MainAccountRule::correctingTheSelectorIsNoChoice()
     windows->removeInPage(ann);
     KirvClientWindows::settle();
     QCOMPARE(int(choices.size()), 0);
+}
+
+void tst_MainAccountRule::unloadedOneCanBeRead_data()
+{
+    QTest::addColumn<QColor>("paper");
+    QTest::addColumn<QColor>("ink");
+    QTest::newRow("black on white") << QColor(Qt::white) << QColor(Qt::black);
+    QTest::newRow("white on black") << QColor(Qt::black) << QColor(Qt::white);
+}
+
+void tst_MainAccountRule::unloadedOneCanBeRead()
+{
+    QFETCH(QColor, paper);
+    QFETCH(QColor, ink);
+    windows->addAccount(ann);
+    QComboBox *selector = windows->selector();
+    QPalette palette = selector->palette();
+    for (const QPalette::ColorRole role : { QPalette::Button, QPalette::Base, QPalette::Window })
+        palette.setColor(role, paper);
+    for (const QPalette::ColorRole role : { QPalette::ButtonText, QPalette::Text, QPalette::WindowText })
+        palette.setColor(role, ink);
+    selector->setPalette(palette);
+    KirvClientWindows::settle();
+    const QRect text(8, 4, selector->width() / 2, selector->height() - 8);
+    const auto inked = [&] {
+        const QImage image = selector->grab(text).toImage();
+        int pixels = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                pixels += qAbs(qGray(image.pixel(x, y)) - qGray(paper.rgb())) > 128 ? 1 : 0;
+        }
+        return pixels;
+    };
+    QVERIFY(inked() > 10);
+    windows->client->accounts().protocolAboutToBeUnloaded(QStringLiteral("Fake"));
+    windows->client->accountsPage()->updateAccounts();
+    KirvClientWindows::settle();
+    QCOMPARE(selector->currentIndex(), -1);
+    QVERIFY(!selector->placeholderText().isEmpty());
+    selector->setEnabled(true); // pale texts of what is disabled are the style's own
+    QVERIFY2(inked() > 10, qPrintable(QString::number(inked())));
+}
+
+void tst_MainAccountRule::listOfManyIsNoHigherThanTenRows()
+{
+    for (int i = 0; i < 60; ++i)
+        windows->addAccount(QStringLiteral("account%1").arg(i));
+    KirvClientWindows::settle();
+    QComboBox *selector = windows->selector();
+    QCOMPARE(selector->count(), 60);
+    selector->showPopup();
+    KIRV_TRY(selector->view()->isVisible());
+    const int row = selector->view()->sizeHintForRow(0);
+    QVERIFY(row > 0);
+    QVERIFY2(selector->view()->height() <= 11 * row, qPrintable(QString::number(selector->view()->height())));
+    selector->hidePopup();
 }
 
 QTEST_MAIN(tst_MainAccountRule)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/plugins/kirv_plugin_loader.h"
+#include "host/kirv_account_manager.h"
 #include "tests/integration/kirv_client_windows.h"
 
 #include <QHeaderView>
@@ -78,6 +81,13 @@ void tst_ReadableRows::rowCanBeRead()
     windows.account(QStringLiteral("bob"))->setEnabled(false);
     windows.protocol->server->logIn = KirvFakeServer::Refuses;
     windows.account(QStringLiteral("cleo"))->reconnect();
+    auto *other = new KirvFakeProtocol(QStringLiteral("Other"));
+    QVERIFY(windows.client->plugins().addProtocol(other));
+    const QString dan = QStringLiteral("dan");
+    KirvAccountManager::getInstance()->createAccount(dan, dan, QString(), true, other, other->presences().first(),
+                                                     other->accountSettings());
+    windows.client->accounts().protocolAboutToBeUnloaded(QStringLiteral("Other"));
+    windows.client->accountsPage()->updateAccounts();
 
     QTreeWidget *list = windows.list();
     QPalette palette = list->palette();
@@ -96,7 +106,7 @@ void tst_ReadableRows::rowCanBeRead()
     windows.client->window()->resize(700, 700);
     Windows::settle();
 
-    for (const char *id : { "ann", "bob", "cleo" }) {
+    for (const char *id : { "ann", "bob", "cleo", "dan" }) {
         QTreeWidgetItem *row = windows.row(QLatin1String(id));
         windows.select(isSelected ? QLatin1String(id) : QLatin1String(qstrcmp(id, "ann") == 0 ? "bob" : "ann"));
         Windows::settle();
@@ -111,6 +121,11 @@ void tst_ReadableRows::rowCanBeRead()
         QVERIFY2(strongest(image, upper.translated(0, image.height() / 2 + 2), paper) >= 4.5,
                  qPrintable(QString::number(strongest(image, upper.translated(0, image.height() / 2 + 2), paper))));
         QVERIFY2(strongest(image, icon, paper) >= 3, id);
+        QRect protocol = cell;
+        protocol.setLeft(list->columnViewportPosition(1) + 24);
+        protocol.setWidth(list->columnWidth(1) - 30);
+        const QImage second = list->viewport()->grab(protocol).toImage();
+        QVERIFY2(strongest(second, second.rect(), second.pixelColor(second.width() - 3, 3)) >= 4.5, id);
     }
 }
 

@@ -39,14 +39,19 @@ private Q_SLOTS:
     void theOneThatWasTrustedVouchesForNoOther();
     void anotherOneIsRefused_data() { protocols(); }
     void anotherOneIsRefused();
-    void anotherOneThatTheSystemTrustsIsUsed_data() { protocols(); }
-    void anotherOneThatTheSystemTrustsIsUsed();
+    void anotherOneThatTheSystemTrustsIsRefused_data() { protocols(); }
+    void anotherOneThatTheSystemTrustsIsRefused();
+    void oneThatTheSystemTrustsIsUsed_data() { protocols(); }
+    void oneThatTheSystemTrustsIsUsed();
+    void theTrustedOneIsUsedWhenTheSystemTrustsItToo_data() { protocols(); }
+    void theTrustedOneIsUsedWhenTheSystemTrustsItToo();
     void theRefusedOneIsForgottenWithTheNextLogin();
     void aSessionGoesOnWithTheTrustedOne_data();
     void aSessionGoesOnWithTheTrustedOne();
 
 private:
     static void protocols();
+    void trustAuthority();
     void serve(const QString &certificate);
     void logIn(bool isXmpp, const QByteArray &trusted = QByteArray());
     bool isRefused() const { return connection->lastFailure().kind() == KirvFailure::UntrustedCertificate; }
@@ -237,18 +242,50 @@ void TestServerCertificates::anotherOneIsRefused()
     QCOMPARE(connection->refusedCertificate().fingerprint, certificates.digest("self-signed-too"));
 }
 
-void TestServerCertificates::anotherOneThatTheSystemTrustsIsUsed()
+void TestServerCertificates::trustAuthority()
 {
-    QFETCH(bool, isXmpp);
     QSslConfiguration system = untouched;
     system.addCaCertificate(certificates.read("authority"));
     QSslConfiguration::setDefaultConfiguration(system);
+}
+
+void TestServerCertificates::anotherOneThatTheSystemTrustsIsRefused()
+{
+    QFETCH(bool, isXmpp);
+    trustAuthority();
     serve("issued");
     logIn(isXmpp, certificates.digest("self-signed"));
+    QSignalSpy refused(connection.get(), &KirvConnection::certificateRefused);
+    KIRV_TRY(isRefused());
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(connection->refusedCertificate().fingerprint, certificates.digest("issued"));
+    QCOMPARE(connection->refusedCertificate().problems, QStringList());
+    QVERIFY(connection->pinnedCertificate().isNull());
+    // XMPP has begun its stream by then, as the library does so first.
+    QVERIFY(isXmpp || !server->wasSpokenTo());
+}
+
+void TestServerCertificates::oneThatTheSystemTrustsIsUsed()
+{
+    QFETCH(bool, isXmpp);
+    trustAuthority();
+    serve("issued");
+    logIn(isXmpp);
     QSignalSpy refused(connection.get(), &KirvConnection::certificateRefused);
     KIRV_TRY(server->wasSpokenTo());
     QCOMPARE(refused.size(), 0);
     QVERIFY(isXmpp || connection->pinnedCertificate().isNull());
+}
+
+void TestServerCertificates::theTrustedOneIsUsedWhenTheSystemTrustsItToo()
+{
+    QFETCH(bool, isXmpp);
+    trustAuthority();
+    serve("issued");
+    logIn(isXmpp, certificates.digest("issued"));
+    QSignalSpy refused(connection.get(), &KirvConnection::certificateRefused);
+    KIRV_TRY(server->wasSpokenTo());
+    QCOMPARE(refused.size(), 0);
 }
 
 void TestServerCertificates::theRefusedOneIsForgottenWithTheNextLogin()

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_selector_style.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QStyleOptionComboBox>
+
+KirvSelectorStyle::KirvSelectorStyle(QObject *parent)
+    : QProxyStyle(QApplication::style()->objectName()) // one of its own: a proxy owns its base
+{
+    setParent(parent);
+}
+
+int KirvSelectorStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                                 QStyleHintReturn *returnData) const
+{
+    if (hint == SH_ComboBox_Popup)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+void KirvSelectorStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                                    const QWidget *widget) const
+{
+    const auto *box = qobject_cast<const QComboBox *>(widget);
+    const auto *whole = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (element != CE_ComboBoxLabel || !box || !whole || box->currentIndex() >= 0) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionComboBox label = *whole;
+    label.currentText = box->placeholderText();
+    // As the texts of the entries; the text itself says that it is none.
+    label.palette.setBrush(QPalette::ButtonText, box->palette().brush(QPalette::ButtonText));
+    label.palette.setBrush(QPalette::Text, box->palette().brush(QPalette::Text));
+    QProxyStyle::drawControl(element, &label, painter, widget);
+}
