@@ -398,6 +398,9 @@ void tst_ImportWindow::unusableFileIsSaid()
     }
     open(path); // a file dialog takes some of them only
     KIRV_TRY(!shown("Problem").isEmpty());
+    const bool isFile = kind != QLatin1String("folder") && kind != QLatin1String("pipe")
+        && kind != QLatin1String("device") && kind != QLatin1String("socket");
+    QCOMPARE(!shown("Problem").contains(QLatin1String("not an ordinary file")), isFile);
     QVERIFY(!isListing() && !action()->isVisible());
     QVERIFY(windows->client->accounts().accounts().isEmpty());
     // It can be left for a good one.
