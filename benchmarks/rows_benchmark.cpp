@@ -1,24 +1,30 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What is done often on the page of the client with many accounts: painting, scrolling, a keystroke, a change of state.
-// Each takes at most 50 ms with 10,000 accounts.
+// Each takes at most 50 ms with 10,000 accounts. And what changes many accounts at once.
 #include "benchmarks/measurement.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_settings_window.h"
-#include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_client_windows.h"
+#include "tests/support/kirv_load_meter.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
 #include <QTreeWidget>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
 
 const int rounds = 21;
+/// More accounts are changed as a whole only: one by one takes minutes.
+const int mostOneByOne = 1000;
 
 QString idOf(int index)
 {
@@ -96,6 +102,70 @@ bool measureWith(int count, Table *table)
     return true;
 }
 
+/// A change of all accounts: \a change until it returns, and what follows from the event loop until \a isOver.
+void addChange(Table *table, int count, const char *name, const std::function<void()> &change,
+               const std::function<bool()> &isOver)
+{
+    KirvLoadMeter meter;
+    QElapsedTimer time;
+    time.start();
+    const QString call = formatMilliseconds(millisecondsOf(change));
+    const bool hasEnded = meter.runUntil(isOver);
+    table->addRow({ QString::number(count), QLatin1String(name), call,
+                    hasEnded ? formatMilliseconds(double(time.nsecsElapsed()) / 1e6) : QStringLiteral("not in time"),
+                    formatMilliseconds(meter.mostWorkMilliseconds()) });
+}
+
+bool areAllOnline(const KirvAccountCollection &accounts, bool online)
+{
+    const QList<KirvAccount *> all = accounts.accounts();
+    return std::all_of(all.begin(), all.end(), [online](const KirvAccount *account) {
+        return online ? account->isOnline() : account->connection()->state() == KirvConnection::Offline;
+    });
+}
+
+/// As one change of the store, and one by one.
+bool measureSeveral(int count, Table *table)
+{
+    KirvClientWindows windows;
+    windows.end();
+    if (!storeAccounts(windows.profileFolder(), count))
+        return false;
+    windows.restart();
+    QTreeWidget *list = windows.list();
+    if (!windows.isReady() || !QTest::qWaitForWindowExposed(windows.client->window())
+        || !QTest::qWaitFor([&] { return list->topLevelItemCount() == count; }, 60000))
+        return false;
+    KirvAccountCollection &accounts = windows.client->accounts();
+    const auto areOn = [&] { return areAllOnline(accounts, true); };
+    const auto areOff = [&] { return areAllOnline(accounts, false); };
+    const auto changeEach = [&](bool enabled) {
+        const QList<KirvAccount *> all = accounts.accounts();
+        for (KirvAccount *account : all)
+            account->setEnabled(enabled);
+    };
+    addChange(
+        table, count, "enable", [&] { accounts.setEnabled(accounts.accounts(), true); }, areOn);
+    addChange(
+        table, count, "disable", [&] { accounts.setEnabled(accounts.accounts(), false); }, areOff);
+    if (count <= mostOneByOne) {
+        addChange(
+            table, count, "enable, one by one", [&] { changeEach(true); }, areOn);
+        addChange(
+            table, count, "disable, one by one", [&] { changeEach(false); }, areOff);
+    }
+    auto *order = list->findChild<KirvAccountOrder *>();
+    order->setOwn(true);
+    list->setCurrentItem(list->topLevelItem(count / 2));
+    for (int row = count / 2; row < count; ++row)
+        list->topLevelItem(row)->setSelected(true);
+    list->scrollToTop();
+    const auto isMoved = [&] { return windows.rowIds().first() == idOf(count / 2); };
+    addChange(
+        table, count, "move the lower half to the top", [&] { order->moveSelection(QPoint(60, 3)); }, isMoved);
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -111,5 +181,14 @@ int main(int argc, char *argv[])
         }
     }
     table.print(QStringLiteral("The page of the client, in milliseconds"));
+    for (const int count : { 1000, 10000 }) {
+        Table several({ QStringLiteral("rows"), QStringLiteral("change"), QStringLiteral("call"), QStringLiteral("all"),
+                        QStringLiteral("most work in a turn") });
+        if (!measureSeveral(count, &several)) {
+            std::fprintf(stderr, "The client with %d accounts could not be started.\n", count);
+            return 1;
+        }
+        several.print(QStringLiteral("Many accounts changed at once, in milliseconds"));
+    }
     return 0;
 }
