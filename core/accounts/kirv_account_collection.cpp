@@ -201,6 +201,7 @@ KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
     auto *account = new KirvAccount(store, queue, keeper, record, this);
     all.append(account);
+    places.append(account);
     byKey.insert(record.key, account);
     logins.insert(record.key);
     ProtocolAccounts &siblings = byProtocol[record.key.protocol];
@@ -220,6 +221,7 @@ KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 void KirvAccountCollection::takeOut(KirvAccount *account, const KirvAccountKey &key)
 {
     all.removeOne(account);
+    places.leave(account);
     byKey.remove(key);
     logins.remove(key);
     ProtocolAccounts &siblings = byProtocol[key.protocol];

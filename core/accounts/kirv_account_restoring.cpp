@@ -23,11 +23,7 @@ KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account)
     QFile picture(account->avatarPath());
     if (!copy.record.avatar.isEmpty() && picture.open(QIODevice::ReadOnly))
         copy.picture = picture.read(KirvBoundedImage::maximumBytes);
-    const int index = int(all.indexOf(const_cast<KirvAccount *>(account)));
-    if (index > 0)
-        copy.previous = all.at(index - 1)->key();
-    if (index + 1 < all.size())
-        copy.next = all.at(index + 1)->key();
+    copy.place = places.placeOf(account);
     return copy;
 }
 
@@ -44,7 +40,7 @@ KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
             record.secretItems.remove(field);
     }
     keeper.place(record, KirvAccountRecord());
-    const KirvAccount *next = accountAfter(removed);
+    const KirvAccount *next = places.following(removed.place);
     if ((record.avatar.isEmpty() && !removed.picture.isEmpty()) || !insertBefore(record, next)) {
         error = store.lastError();
         store.discardAvatar(record.avatar);
@@ -53,6 +49,7 @@ KirvAccount *KirvAccountCollection::restore(const KirvRemovedAccount &removed)
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(record);
     keeper.settle();
+    places.fill(removed.place, account);
     arrange(account, next);
     loadRestored(account, removed.presence);
     if (alive && account)
@@ -77,15 +74,6 @@ bool KirvAccountCollection::insertBefore(const KirvAccountRecord &record, const 
         return store.commit();
     store.rollBack();
     return false;
-}
-
-/// The account that a removed one comes before: the neighbours tell it, as far as they are there. Null: the end.
-const KirvAccount *KirvAccountCollection::accountAfter(const KirvRemovedAccount &removed) const
-{
-    if (const KirvAccount *next = find(removed.next))
-        return next;
-    const int previous = int(all.indexOf(find(removed.previous)));
-    return previous >= 0 ? all.value(previous + 1) : nullptr;
 }
 
 /// The connection of the removed account may still log out: its server would refuse a second one, or end the first.
@@ -114,6 +102,7 @@ bool KirvAccountCollection::place(KirvAccount *account, const KirvAccount *next)
         return false;
     }
     error.clear();
+    places.move(account, next);
     arrange(account, next);
     Q_EMIT orderChanged(account);
     return true;
