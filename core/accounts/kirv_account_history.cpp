@@ -76,6 +76,22 @@ int KirvAccountHistory::indexOf(int step) const
     return found == steps.end() ? -1 : int(found - steps.begin());
 }
 
+/// Whether \a key was removed and that can be undone.
+bool KirvAccountHistory::isRemovalHeld(const KirvAccountKey &key) const
+{
+    return !accounts.find(key) && has(removedBy.value(key));
+}
+
+bool KirvAccountHistory::canUndo(int step) const
+{
+    const int index = indexOf(step);
+    if (index < 0 || steps.at(index).kind != Disabling)
+        return index >= 0;
+    const QList<Change> &changes = steps.at(index).changes;
+    return !std::all_of(changes.begin(), changes.end(),
+                        [this](const Change &change) { return isRemovalHeld(change.account.record.key); });
+}
+
 KirvAccountHistory::Kind KirvAccountHistory::kindOf(int step) const
 {
     return steps.value(indexOf(step)).kind;
@@ -131,6 +147,8 @@ void KirvAccountHistory::add(const Step &step)
     for (const Change &change : step.changes) {
         if (step.kind == Disabling)
             disabledBy.insert(change.account.record.key, step.number);
+        else if (step.kind == Removal)
+            removedBy.insert(change.account.record.key, step.number);
     }
     dropOldest();
     Q_EMIT stepAdded(step.number);
@@ -161,7 +179,7 @@ QStringList KirvAccountHistory::undo(int step)
     QList<Change> left;
     QStringList reasons;
     const QPointer<KirvAccountHistory> alive(this);
-    // The latest first, so that each finds the neighbours that it had.
+    // The latest first.
     for (auto change = undone.changes.crbegin(); change != undone.changes.crend(); ++change) {
         QString reason;
         const Result result = undoChange(undone.kind, *change, &reason);
@@ -169,6 +187,8 @@ QStringList KirvAccountHistory::undo(int step)
             return reasons;
         if (result == Refused)
             left.prepend(*change);
+        else if (undone.kind == Removal)
+            removedBy.remove(change->account.record.key);
         if (result != Undone && !reasons.contains(reason))
             reasons << reason;
     }
@@ -206,7 +226,7 @@ KirvAccountHistory::Result KirvAccountHistory::enable(const Change &change, QStr
     if (!account) {
         //: %1 = name of an account
         *reason = tr("The account \"%1\" cannot be enabled again: it was removed.").arg(change.name);
-        return Impossible;
+        return isRemovalHeld(change.account.record.key) ? Refused : Impossible;
     }
     const KirvPresence wanted = change.account.presence;
     if (account->record().enabled)

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void disabledMainAccountIsMainAgain();
     void severalChangesAreOneStep();
     void enablingElsewhereEmptiesTheStep();
+    void disablingWaitsForTheRemovalToBeUndone();
     void loginThatWasAddedAnewIsNotTouched();
     void accountOfAnUnloadedProtocolComesBack();
     void refusedChangeMakesNoStep();
@@ -319,6 +320,26 @@ void tst_AccountHistory::enablingElsewhereEmptiesTheStep()
     QVERIFY(core->account(ann)->setEnabled(true));
     QVERIFY(!history->has(step));
     QCOMPARE(gone.size(), 1);
+}
+
+void tst_AccountHistory::disablingWaitsForTheRemovalToBeUndone()
+{
+    QVERIFY(core->account(bob)->setEnabled(false));
+    const int disabling = history->latest();
+    QVERIFY(history->canUndo(disabling));
+    remove(bob);
+    const int removal = history->latest();
+    QVERIFY(!history->canUndo(disabling));
+    QVERIFY(history->canUndo(removal));
+    QCOMPARE(int(history->undo(disabling).size()), 1);
+    QVERIFY(history->has(disabling));
+    QVERIFY(!core->account(bob));
+    QCOMPARE(history->undo(removal), QStringList());
+    QVERIFY(!core->account(bob)->isEnabled());
+    QVERIFY(history->canUndo(disabling));
+    QCOMPARE(history->undo(disabling), QStringList());
+    QVERIFY(core->account(bob)->isEnabled());
+    QCOMPARE(history->latest(), 0);
 }
 
 void tst_AccountHistory::loginThatWasAddedAnewIsNotTouched()
