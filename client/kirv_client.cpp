@@ -10,6 +10,7 @@
 #include "client/kirv_first_paint.h"
 #include "client/kirv_general_page.h"
 #include "client/kirv_language_change.h"
+#include "client/kirv_list_end_room.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plain_text.h"
@@ -35,6 +36,7 @@
 
 #include <QDir>
 #include <QIcon>
+#include <QTreeView>
 
 #include <utility>
 
@@ -50,6 +52,13 @@ QIcon themeIcon(const QString &name)
 {
     return QIcon::fromTheme(name, QIcon(QStringLiteral(":/kirv/client/icons/%1.svg").arg(name)));
 }
+
+void floatOver(QTreeView *list, KirvMessageBar &messages)
+{
+    messages.floatOver(list);
+    new KirvListEndRoom(list, &messages);
+}
+
 } // namespace
 
 KirvClient::KirvClient(const KirvClientOptions &options, QObject *parent)
@@ -189,8 +198,8 @@ void KirvClient::createPages()
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, *accountCollection, options.pluginFolder);
     generalPage = new KirvGeneralPage(*accountCollection, KirvTranslations::instance(), options.profileFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
-    if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
-        settingsWindow->messageBar()->floatOver(list);
+    if (auto *list = page->findChild<QTreeView *>(QStringLiteral("Accounts_List")))
+        floatOver(list, *settingsWindow->messageBar());
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
     settingsWindow->addPage(generalPage, tr("General"), themeIcon(QStringLiteral("preferences-system")));
 
