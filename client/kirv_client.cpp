@@ -3,6 +3,7 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_help.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
@@ -18,6 +19,7 @@
 #include "client/kirv_profile_saver.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
+#include "client/kirv_sorting_hint.h"
 #include "client/kirv_translations.h"
 #include "client/kirv_visible_boxes.h"
 #include "client/kirv_wheel_guard.h"
@@ -57,6 +59,8 @@ void floatOver(QTreeView *list, KirvMessageBar &messages)
 {
     messages.floatOver(list);
     new KirvListEndRoom(list, &messages);
+    if (auto *order = list->findChild<KirvAccountOrder *>())
+        new KirvSortingHint(*order, messages);
 }
 
 } // namespace
