@@ -98,7 +98,7 @@ void KirvAccountGroup::disableAll()
 
 bool KirvAccountGroup::canEnableAgain() const
 {
-    return undo.history().has(allDisabled);
+    return undo.history().canUndo(allDisabled);
 }
 
 void KirvAccountGroup::enableAgain()

@@ -9,6 +9,7 @@
 #include <QDragMoveEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
@@ -25,7 +26,8 @@ const int widestColumn = 2000;
 /// numbers of 100,000 rows up to 1e-7.
 const double smallestStep = 1e-6;
 
-QPoint positionOf(const QDropEvent *event)
+template <typename Event>
+QPoint positionOf(const Event *event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     return event->position().toPoint();
@@ -105,6 +107,7 @@ void KirvAccountOrder::sortingChanged()
                                 .arg(int(list->header()->sortIndicatorOrder()));
     if (settings.value(sortingKey) != sorting)
         settings.setValue(sortingKey, sorting);
+    Q_EMIT sorted();
 }
 
 void KirvAccountOrder::restore()
@@ -143,6 +146,14 @@ bool KirvAccountOrder::eventFilter(QObject *watched, QEvent *event)
         const auto *key = static_cast<QKeyEvent *>(event);
         return watched == list && key->modifiers().testFlag(Qt::AltModifier) && keyPressed(key->key());
     }
+    case QEvent::MouseButtonPress:
+        if (watched == list->viewport())
+            mousePressed(static_cast<QMouseEvent *>(event));
+        return false;
+    case QEvent::MouseMove:
+        if (watched == list->viewport())
+            mouseMoved(static_cast<QMouseEvent *>(event));
+        return false;
     case QEvent::DragMove:
         return watched == list->viewport() && dragMoved(static_cast<QDragMoveEvent *>(event));
     case QEvent::Drop:
@@ -156,9 +167,30 @@ bool KirvAccountOrder::keyPressed(int key)
 {
     if (key != Qt::Key_Up && key != Qt::Key_Down)
         return false;
-    if (const QTreeWidgetItem *row = list->currentItem())
+    const QTreeWidgetItem *row = list->currentItem();
+    if (row && isOwn())
         move(KirvAccountRows::keyOf(row), key == Qt::Key_Up);
+    else if (row)
+        Q_EMIT moveRefused();
     return true;
+}
+
+/// With Shift or Ctrl the mouse selects.
+void KirvAccountOrder::mousePressed(const QMouseEvent *event)
+{
+    pressedAt = positionOf(event);
+    isPressed = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && list->itemAt(pressedAt);
+}
+
+/// A sorted list does not start a drag itself.
+void KirvAccountOrder::mouseMoved(const QMouseEvent *event)
+{
+    const int distance = (positionOf(event) - pressedAt).manhattanLength();
+    if (!isPressed || !event->buttons().testFlag(Qt::LeftButton) || distance < QApplication::startDragDistance())
+        return;
+    isPressed = false;
+    if (!isOwn())
+        Q_EMIT moveRefused();
 }
 
 /// The next row in that direction that is not hidden; -1 when there is none.

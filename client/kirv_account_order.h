@@ -5,6 +5,7 @@
 #include "core/values/kirv_account_key.h"
 
 #include <QObject>
+#include <QPoint>
 #include <QSet>
 
 class KirvAccount;
@@ -13,6 +14,7 @@ class KirvAccountRows;
 class KirvClientSettings;
 class QDragMoveEvent;
 class QDropEvent;
+class QMouseEvent;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -42,6 +44,12 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+Q_SIGNALS:
+    /// The user wanted to move a row, but the list is sorted by a header.
+    void moveRefused();
+    /// The list is sorted in another way, or again in the same.
+    void sorted();
+
 private:
     void joinPage();
     void headerClicked();
@@ -49,6 +57,8 @@ private:
     void restore();
     void saveWidth();
     bool keyPressed(int key);
+    void mousePressed(const QMouseEvent *event);
+    void mouseMoved(const QMouseEvent *event);
     bool dragMoved(QDragMoveEvent *event);
     bool dropped(QDropEvent *event);
     int neighbour(int row, bool isUp) const;
@@ -70,6 +80,8 @@ private:
     Qt::SortOrder lastOrder = Qt::AscendingOrder;
     bool isNumberingDue = false;
     bool isSnapping = false; ///< a drag to the edge of a row
+    bool isPressed = false; ///< on a row that may be dragged from there
+    QPoint pressedAt;
 };
 
 #endif

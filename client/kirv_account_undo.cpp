@@ -15,7 +15,7 @@ KirvAccountUndo::KirvAccountUndo(KirvAccountCollection &accounts, KirvAccountHis
     , past(history)
     , messages(messages)
 {
-    connect(&history, &KirvAccountHistory::stepAdded, this, &KirvAccountUndo::show);
+    connect(&history, &KirvAccountHistory::stepAdded, this, &KirvAccountUndo::stepAdded);
     connect(&history, &KirvAccountHistory::stepGone, this, &KirvAccountUndo::withdraw);
     auto *shortcut = new QShortcut(QKeySequence::Undo, window);
     connect(shortcut, &QShortcut::activated, this, &KirvAccountUndo::undoLatest);
@@ -69,6 +69,34 @@ bool KirvAccountUndo::enableAgain(int step)
     return accounts.enableAgain(disabled);
 }
 
+void KirvAccountUndo::stepAdded(int step)
+{
+    holdBack();
+    show(step);
+}
+
+/// Takes the messages away whose button could not undo anything now.
+void KirvAccountUndo::holdBack()
+{
+    for (auto message = shown.constBegin(); message != shown.constEnd(); ++message) {
+        if (past.canUndo(message.key()) || !messages.messages().contains(message.value()))
+            continue;
+        heldBack.insert(message.key());
+        messages.removeMessage(message.value());
+    }
+}
+
+void KirvAccountUndo::showHeldBack()
+{
+    const QSet<int> steps = heldBack;
+    for (int step : steps) {
+        if (!past.canUndo(step))
+            continue;
+        heldBack.remove(step);
+        show(step);
+    }
+}
+
 void KirvAccountUndo::show(int step)
 {
     const QString text = messageOf(step);
@@ -81,8 +109,10 @@ void KirvAccountUndo::show(int step)
 void KirvAccountUndo::withdraw(int step)
 {
     const QString text = shown.take(step);
+    heldBack.remove(step);
     if (!shown.values().contains(text))
         messages.removeMessage(text);
+    showHeldBack();
 }
 
 QString KirvAccountUndo::messageOf(int step) const

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 class KirvAccountCollection;
@@ -11,8 +12,9 @@ class KirvAccountHistory;
 class KirvMessageBar;
 class QWidget;
 
-/// Offers to undo what was removed, disabled and imported: in the message bar as long as the message is shown, and by
-/// Ctrl+Z in the window. A field in which text is typed keeps the key for itself.
+/// Offers to undo what was removed, disabled and imported: in the message bar as long as the message is shown, and by Ctrl+Z in
+/// the window. The message of a step that cannot be undone before a later one is not shown until then. A field in which
+/// text is typed keeps the key for itself.
 class KirvAccountUndo : public QObject {
     Q_OBJECT
 
@@ -29,7 +31,10 @@ public:
     KirvAccountHistory &history() const { return past; }
 
 private:
+    void stepAdded(int step);
     void show(int step);
+    void holdBack();
+    void showHeldBack();
     void withdraw(int step);
     QString messageOf(int step) const;
     bool enableAgain(int step);
@@ -38,6 +43,7 @@ private:
     KirvAccountHistory &past;
     KirvMessageBar &messages;
     QHash<int, QString> shown; ///< the message of each step
+    QSet<int> heldBack; ///< steps whose message is not shown until a later removal was undone
 };
 
 #endif

@@ -45,7 +45,7 @@ namespace {
 QString shownName(const KirvAccount &account)
 {
     const QString alias = account.getAlias();
-    return alias.isEmpty() ? account.displayName() : alias;
+    return alias.trimmed().isEmpty() ? account.displayName() : alias;
 }
 
 } // namespace

@@ -86,11 +86,11 @@ void KirvAliasEditor::focusOutEvent(QFocusEvent *event)
 
 void KirvAliasEditor::keep()
 {
-    const QString alias = text();
+    const QString typed = text();
     KirvAccount *account = accounts.find(key);
     close();
-    if (account && alias != account->getAlias())
-        account->setAlias(alias);
+    if (account && typed != account->getAlias())
+        account->setAlias(typed.trimmed());
 }
 
 void KirvAliasEditor::close()

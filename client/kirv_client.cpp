@@ -4,6 +4,7 @@
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_help.h"
 #include "client/kirv_account_moving.h"
+#include "client/kirv_account_order.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_application.h"
@@ -11,6 +12,7 @@
 #include "client/kirv_first_paint.h"
 #include "client/kirv_general_page.h"
 #include "client/kirv_language_change.h"
+#include "client/kirv_list_end_room.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plain_text.h"
@@ -18,6 +20,7 @@
 #include "client/kirv_profile_saver.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
+#include "client/kirv_sorting_hint.h"
 #include "client/kirv_translations.h"
 #include "client/kirv_visible_boxes.h"
 #include "client/kirv_wheel_guard.h"
@@ -36,6 +39,7 @@
 
 #include <QDir>
 #include <QIcon>
+#include <QTreeView>
 
 #include <utility>
 
@@ -51,6 +55,15 @@ QIcon themeIcon(const QString &name)
 {
     return QIcon::fromTheme(name, QIcon(QStringLiteral(":/kirv/client/icons/%1.svg").arg(name)));
 }
+
+void floatOver(QTreeView *list, KirvMessageBar &messages)
+{
+    messages.floatOver(list);
+    new KirvListEndRoom(list, &messages);
+    if (auto *order = list->findChild<KirvAccountOrder *>())
+        new KirvSortingHint(*order, messages);
+}
+
 } // namespace
 
 KirvClient::KirvClient(const KirvClientOptions &options, QObject *parent)
@@ -199,8 +212,8 @@ void KirvClient::createPages()
     pluginList = new KirvPluginsPage(*pluginLoader, *pluginsToLoad, *accountCollection, options.pluginFolder);
     generalPage = new KirvGeneralPage(*accountCollection, KirvTranslations::instance(), options.profileFolder);
     settingsWindow->addPage(page, tr("Accounts"), themeIcon(QStringLiteral("system-users")));
-    if (auto *list = page->findChild<QWidget *>(QStringLiteral("Accounts_List")))
-        settingsWindow->messageBar()->floatOver(list);
+    if (auto *list = page->findChild<QTreeView *>(QStringLiteral("Accounts_List")))
+        floatOver(list, *settingsWindow->messageBar());
     settingsWindow->addPage(pluginList, tr("Plug-ins"), themeIcon(QStringLiteral("application-x-addon")));
     settingsWindow->addPage(generalPage, tr("General"), themeIcon(QStringLiteral("preferences-system")));
 

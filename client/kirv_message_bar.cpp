@@ -3,12 +3,16 @@
 
 #include "client/kirv_plain_text.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QApplication>
 #include <QCursor>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -23,7 +27,9 @@ const int longestLine = 90;
 
 KirvMessageBar::KirvMessageBar(QWidget *parent)
     : QFrame(parent)
-    , layout(new QVBoxLayout(this))
+    , area(new QScrollArea(this))
+    , content(new QWidget)
+    , layout(new QVBoxLayout(content))
 {
     setObjectName(QStringLiteral("MessageBar"));
     setAccessibleName(tr("Messages"));
@@ -32,6 +38,24 @@ KirvMessageBar::KirvMessageBar(QWidget *parent)
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
     layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->setContentsMargins(layout->contentsMargins() / 2);
+    layout->setSpacing(qMax(0, style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, this)) / 2);
+    content->setObjectName(QStringLiteral("MessageBar_Content"));
+    content->installEventFilter(this);
+    area->setObjectName(QStringLiteral("MessageBar_Area"));
+    area->setAccessibleName(accessibleName());
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(content);
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    secondClick.setSingleShot(true);
+    connect(&secondClick, &QTimer::timeout, this, [this] {
+        if (texts.isEmpty())
+            closeGaps();
+        settle();
+    });
     hide();
 }
 
@@ -46,6 +70,7 @@ void KirvMessageBar::showMessage(const QString &message, const QString &command,
     const QString text = kirvPlainName(message);
     if (text.isEmpty() || texts.contains(text))
         return;
+    settle(); // the pointer may have left unseen
     if (texts.size() == mostMessages)
         removeRow(0);
     texts << text;
@@ -56,12 +81,14 @@ void KirvMessageBar::showMessage(const QString &message, const QString &command,
         connect(button, &QPushButton::clicked, this, action);
     }
     rows << createRow(text, button, kind);
-    layout->insertWidget(isAtTop ? -1 : 0, rows.last());
-    if (isHidden())
+    insertRow(rows.last());
+    isNewestDue = true;
+    if (!isPointerOver())
         chooseEdge();
     arrange();
     show();
     raise();
+    showNewest();
     QAccessibleEvent news(rows.last(), QAccessible::Alert);
     QAccessible::updateAccessibility(&news);
 }
@@ -76,7 +103,7 @@ void KirvMessageBar::removeMessage(const QString &message)
 /// \a button may be null; the row owns it.
 QWidget *KirvMessageBar::createRow(const QString &text, QWidget *button, Kind kind)
 {
-    auto *row = new QWidget(this);
+    auto *row = new QWidget(content);
     row->setObjectName(QStringLiteral("MessageBar_Row"));
 
     auto *icon = new QLabel(row);
@@ -114,15 +141,54 @@ QWidget *KirvMessageBar::createRow(const QString &text, QWidget *button, Kind ki
     return row;
 }
 
+/// The newest stands where the bar grows.
+void KirvMessageBar::insertRow(QWidget *row)
+{
+    layout->insertWidget(isAtTop ? -1 : 0, row);
+    row->show();
+}
+
 void KirvMessageBar::removeRow(int index)
 {
     texts.removeAt(index);
-    QWidget *row = rows.takeAt(index);
-    layout->removeWidget(row);
+    vacate(rows.takeAt(index));
+    settle();
+}
+
+/// Its place stays as it is. The row's own button may have caused this.
+void KirvMessageBar::vacate(QWidget *row)
+{
+    QSizePolicy policy = row->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    row->setSizePolicy(policy);
     row->hide();
-    row->deleteLater(); // its own button may have caused this
-    setVisible(!texts.isEmpty());
+    gaps << row;
+    if (texts.isEmpty())
+        secondClick.start(QApplication::doubleClickInterval());
+}
+
+void KirvMessageBar::closeGaps()
+{
+    for (QWidget *row : qAsConst(gaps)) {
+        layout->removeWidget(row);
+        row->deleteLater();
+    }
+    gaps.clear();
+}
+
+/// Shows what there is, as far as no click that is on its way could hit something else then.
+void KirvMessageBar::settle()
+{
+    if (!isPointerOver())
+        closeGaps();
+    if (texts.isEmpty() && gaps.isEmpty())
+        hide();
     arrange();
+}
+
+bool KirvMessageBar::isPointerOver() const
+{
+    return isVisible() && rect().contains(mapFromGlobal(QCursor::pos()));
 }
 
 void KirvMessageBar::floatOver(QWidget *place)
@@ -134,6 +200,11 @@ void KirvMessageBar::floatOver(QWidget *place)
 
 bool KirvMessageBar::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == content) {
+        if (event->type() == QEvent::LayoutRequest)
+            arrange();
+        return QFrame::eventFilter(watched, event);
+    }
     switch (event->type()) {
     case QEvent::Resize:
     case QEvent::Move:
@@ -151,8 +222,10 @@ bool KirvMessageBar::eventFilter(QObject *watched, QEvent *event)
 bool KirvMessageBar::event(QEvent *event)
 {
     const bool isHandled = QFrame::event(event);
-    if (event->type() == QEvent::LayoutRequest)
-        arrange();
+    if (event->type() == QEvent::Leave) {
+        settle();
+        showNewest();
+    }
     return isHandled;
 }
 
@@ -163,29 +236,86 @@ const QWidget *KirvMessageBar::place() const
     return visible == places.end() ? parentWidget() : visible->data();
 }
 
-/// As high as the messages need, also when that is more than the place has.
-QRect KirvMessageBar::areaAt(bool isTop) const
+/// Where the bar may stand, in its window: a header and the check boxes of rows stay free.
+QRect KirvMessageBar::room() const
 {
     const QWidget *under = place();
     const int margin = style()->pixelMetric(QStyle::PM_LayoutBottomMargin, nullptr, this);
-    const QRect room = QRect(under->mapTo(parentWidget(), QPoint()), under->size()).adjusted(margin, 0, -margin, 0);
-    const int width = qMin(room.width(), longestLine * fontMetrics().averageCharWidth());
-    QRect area(0, 0, width, heightForWidth(width));
-    area.moveCenter(room.center());
-    if (isTop)
-        area.moveTop(room.top() + margin);
-    else
-        area.moveBottom(qMax(room.bottom() - margin, area.height()));
-    return area;
+    int side = margin;
+    if (const auto *view = qobject_cast<const QAbstractItemView *>(under)) {
+        under = view->viewport();
+        side += style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this);
+    }
+    return QRect(under->mapTo(parentWidget(), QPoint()), under->size()).adjusted(side, margin, -side, -margin);
 }
 
+QRect KirvMessageBar::areaAt(bool isTop) const
+{
+    const QRect bounds = room();
+    const int margin = style()->pixelMetric(QStyle::PM_LayoutBottomMargin, nullptr, this);
+    const int frame = 2 * frameWidth();
+    const int width = qMin(bounds.width(), longestLine * fontMetrics().averageCharWidth());
+    const int least =
+        frame + layout->contentsMargins().top() + layout->contentsMargins().bottom() + 2 * fontMetrics().lineSpacing();
+    const int most = qMax((bounds.height() + 2 * margin) / 3, least);
+    QRect wanted(0, 0, width, qMin(contentHeight(width - frame) + frame, most));
+    wanted.moveCenter(bounds.center());
+    if (isTop)
+        wanted.moveTop(bounds.top());
+    else
+        wanted.moveBottom(qMax(bounds.bottom(), wanted.height()));
+    return wanted;
+}
+
+int KirvMessageBar::contentHeight(int width) const
+{
+    return layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : layout->totalSizeHint().height();
+}
+
+bool KirvMessageBar::wouldCoverPointer(bool isTop) const
+{
+    return areaAt(isTop).contains(parentWidget()->mapFromGlobal(QCursor::pos()));
+}
+
+/// Called when the last row is new.
 void KirvMessageBar::chooseEdge()
 {
-    isAtTop = parentWidget() && areaAt(false).contains(parentWidget()->mapFromGlobal(QCursor::pos()));
+    if (!parentWidget())
+        return;
+    const bool wasAtTop = isAtTop;
+    if (isHidden())
+        isAtTop = false;
+    if (wouldCoverPointer(isAtTop) && !wouldCoverPointer(!isAtTop))
+        isAtTop = !isAtTop;
+    if (isAtTop == wasAtTop)
+        return;
+    layout->removeWidget(rows.last());
+    insertRow(rows.last());
 }
 
+/// The rows keep their distance from the edge at which the bar stands.
 void KirvMessageBar::arrange()
 {
-    if (parentWidget() && !texts.isEmpty())
-        setGeometry(areaAt(isAtTop));
+    if (!parentWidget() || (rows.isEmpty() && gaps.isEmpty()))
+        return;
+    QScrollBar *bar = area->verticalScrollBar();
+    const int below = content->height() - area->viewport()->height() - bar->value();
+    setGeometry(areaAt(isAtTop));
+    area->setGeometry(contentsRect());
+    int width = area->width();
+    if (contentHeight(width) > area->height())
+        width -= bar->sizeHint().width();
+    content->resize(width, qMax(contentHeight(width), area->height()));
+    layout->activate();
+    if (!isAtTop)
+        bar->setValue(content->height() - area->viewport()->height() - below);
+}
+
+/// Once, as soon as the pointer is elsewhere.
+void KirvMessageBar::showNewest()
+{
+    if (isNewestDue && !rows.isEmpty() && !isPointerOver()) {
+        isNewestDue = false;
+        area->verticalScrollBar()->setValue(rows.last()->y() - layout->contentsMargins().top());
+    }
 }

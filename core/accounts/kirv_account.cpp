@@ -11,6 +11,11 @@
 
 namespace {
 
+bool isBlank(const QString &alias)
+{
+    return alias.trimmed().isEmpty();
+}
+
 bool isSame(const std::optional<KirvPresence> &left, const std::optional<KirvPresence> &right)
 {
     if (!left || !right)
@@ -48,7 +53,7 @@ KirvAccount::~KirvAccount()
 
 QString KirvAccount::displayName() const
 {
-    return kirvShortName(current.alias.isEmpty() ? current.key.id : current.alias);
+    return kirvShortName(isBlank(current.alias) ? current.key.id : current.alias);
 }
 
 bool KirvAccount::change(const std::function<void(KirvAccountRecord &)> &makeChange)
@@ -471,6 +476,6 @@ void KirvAccount::setFailure(const KirvFailure &newFailure)
 
 void KirvAccount::refreshDescription()
 {
-    const QString name = current.alias.isEmpty() ? displayName() : kirvEditablePart(current.alias);
+    const QString name = isBlank(current.alias) ? displayName() : kirvEditablePart(current.alias);
     description = KirvAccountInfo(current.key.id, name, current.enabled);
 }

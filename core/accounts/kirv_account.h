@@ -41,7 +41,7 @@ public:
     ~KirvAccount() override;
 
     const KirvAccountKey &key() const { return current.key; }
-    /// The alias, or the account id when the alias is empty; of a long one the beginning.
+    /// The alias, or the account id when the alias is blank; of a long one the beginning.
     QString displayName() const;
     /// What is stored, with the changes of the save that is open, and the password also when it is not stored.
     const KirvAccountRecord &record() const { return current; }

@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QTemporaryFile>
 #include <algorithm>
-#include <list>
 
 /// A batch with its secrets and pictures in their places.
 struct KirvAccountCollection::PlacedBatch {
@@ -56,26 +55,27 @@ QString KirvAccountCollection::problemOf(const KirvAccountBatch &batch) const
     return QString();
 }
 
-/// The neighbours tell the place of an account, as far as they are there; otherwise it is the end.
+/// Those that come back stand at the places that they left; the others at the end.
 QList<KirvAccountKey> KirvAccountCollection::orderWith(const QList<KirvRemovedAccount> &added) const
 {
-    std::list<KirvAccountKey> order;
-    QHash<KirvAccountKey, std::list<KirvAccountKey>::iterator> places;
-    places.reserve(int(all.size() + added.size()));
-    for (const KirvAccount *account : all)
-        places.insert(account->key(), order.insert(order.end(), account->key()));
-    bool isInside = false;
+    QHash<int, KirvAccountKey> returning;
+    QList<KirvAccountKey> atTheEnd;
     for (const KirvRemovedAccount &account : added) {
-        const auto next = places.constFind(account.next), previous = places.constFind(account.previous);
-        auto place = order.end();
-        if (next != places.constEnd())
-            place = *next;
-        else if (previous != places.constEnd())
-            place = std::next(*previous);
-        isInside = isInside || place != order.end();
-        places.insert(account.record.key, order.insert(place, account.record.key));
+        if (account.place > 0 && !places.at(account.place) && !returning.contains(account.place))
+            returning.insert(account.place, account.record.key);
+        else
+            atTheEnd << account.record.key;
     }
-    return isInside ? QList<KirvAccountKey>(order.begin(), order.end()) : QList<KirvAccountKey>();
+    if (returning.isEmpty())
+        return {};
+    QList<KirvAccountKey> order;
+    for (const int place : places.inOrder()) {
+        if (const KirvAccount *account = places.at(place))
+            order << account->key();
+        else if (returning.contains(place))
+            order << returning.take(place);
+    }
+    return order + returning.values() + atTheEnd;
 }
 
 /// Before the transaction: pictures are files, and the profile has its id before any secret bears it.
@@ -174,8 +174,11 @@ bool KirvAccountCollection::storeOrder(const PlacedBatch &placed)
 void KirvAccountCollection::finishBatch(const KirvAccountBatch &batch, const PlacedBatch &placed)
 {
     QList<QPointer<KirvAccount>> added, replaced;
-    for (const KirvAccountRecord &record : placed.added)
-        added << append(record);
+    for (int index = 0; index < placed.added.size(); ++index) {
+        KirvAccount *account = append(placed.added.at(index));
+        places.fill(batch.added.at(index).place, account);
+        added << account;
+    }
     if (!placed.order.isEmpty())
         arrangeAll(placed.order);
     for (int index = 0; index < placed.replaced.size(); ++index) {

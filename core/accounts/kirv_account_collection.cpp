@@ -209,6 +209,7 @@ KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 {
     auto *account = new KirvAccount(store, queue, reconcilers, keeper, record, this);
     all.append(account);
+    places.append(account);
     byKey.insert(record.key, account);
     logins.insert(record.key);
     ProtocolAccounts &siblings = byProtocol[record.key.protocol];
@@ -228,6 +229,7 @@ KirvAccount *KirvAccountCollection::append(const KirvAccountRecord &record)
 void KirvAccountCollection::takeOut(KirvAccount *account, const KirvAccountKey &key)
 {
     all.removeOne(account);
+    places.leave(account);
     byKey.remove(key);
     logins.remove(key);
     ProtocolAccounts &siblings = byProtocol[key.protocol];

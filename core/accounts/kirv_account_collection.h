@@ -3,6 +3,7 @@
 #define KIRV_ACCOUNT_COLLECTION_H
 
 #include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_places.h"
 #include "core/accounts/kirv_login_index.h"
 #include "core/accounts/kirv_removed_account.h"
 #include "core/accounts/kirv_secret_keeper.h"
@@ -57,7 +58,8 @@ public:
     bool remove(const QList<KirvAccount *> &accounts);
     /// What restore() needs of \a account, which is not removed yet.
     KirvRemovedAccount copyOf(const KirvAccount *account);
-    /// Makes a removed account again as it was, at its place in the order; its protocol need not be loaded. Null when
+    /// Makes a removed account again as it was, at its place in the order: between the accounts between which it stood,
+    /// also when these were removed and restored meanwhile. Its protocol need not be loaded. Null when
     /// there is such an account, also with another spelling of the login, or the store refuses; nothing has changed
     /// then, and lastError() says why.
     KirvAccount *restore(const KirvRemovedAccount &removed);
@@ -178,6 +180,7 @@ private:
     KirvSecretKeeper keeper;
     std::function<KirvAccount *()> mainAccount;
     QList<KirvAccount *> all;
+    KirvAccountPlaces places; ///< in the order of all
     QHash<KirvAccountKey, KirvAccount *> byKey;
     QHash<QString, ProtocolAccounts> byProtocol;
     KirvLoginIndex logins;

@@ -99,6 +99,22 @@ int KirvAccountHistory::indexOf(int step) const
     return found == steps.end() ? -1 : int(found - steps.begin());
 }
 
+/// Whether \a key was removed and that can be undone.
+bool KirvAccountHistory::isRemovalHeld(const KirvAccountKey &key) const
+{
+    return !accounts.find(key) && has(removedBy.value(key));
+}
+
+bool KirvAccountHistory::canUndo(int step) const
+{
+    const int index = indexOf(step);
+    if (index < 0 || steps.at(index).kind != Disabling)
+        return index >= 0;
+    const QList<Change> &changes = steps.at(index).changes;
+    return !std::all_of(changes.begin(), changes.end(),
+                        [this](const Change &change) { return isRemovalHeld(change.account.record.key); });
+}
+
 KirvAccountHistory::Kind KirvAccountHistory::kindOf(int step) const
 {
     return steps.value(indexOf(step)).kind;
@@ -154,6 +170,8 @@ void KirvAccountHistory::add(const Step &step)
     for (const Change &change : step.changes) {
         if (step.kind == Disabling)
             disabledBy.insert(change.account.record.key, step.number);
+        else if (step.kind == Removal)
+            removedBy.insert(change.account.record.key, step.number);
     }
     dropOldest();
     Q_EMIT stepAdded(step.number);
@@ -191,6 +209,10 @@ QStringList KirvAccountHistory::undo(int step)
     const Rest rest = undone.kind == Disabling ? enableAll(undone) : bringBack(undone);
     if (!alive)
         return rest.reasons;
+    for (const Change &change : qAsConst(undone.changes)) {
+        if (undone.kind == Removal && accounts.find(change.account.record.key))
+            removedBy.remove(change.account.record.key);
+    }
     if (rest.changes.isEmpty()) {
         Q_EMIT stepGone(step);
         return rest.reasons;
@@ -269,7 +291,7 @@ KirvAccountHistory::Result KirvAccountHistory::enable(const Change &change, QStr
     if (!account) {
         //: %1 = name of an account
         *reason = tr("The account \"%1\" cannot be enabled again: it was removed.").arg(change.name);
-        return Impossible;
+        return isRemovalHeld(change.account.record.key) ? Refused : Impossible;
     }
     const KirvPresence wanted = change.account.presence;
     if (account->record().enabled)

@@ -47,6 +47,9 @@ public:
     /// Number of the latest step; 0 when there is none.
     int latest() const;
     bool has(int step) const { return indexOf(step) >= 0; }
+    /// False while each of its accounts was removed by a later step that can still be undone; undo() keeps the step
+    /// then. Also false when there is no such step.
+    bool canUndo(int step) const;
     Kind kindOf(int step) const;
     /// The accounts of the step, in the order in which they were changed.
     QList<KirvAccountKey> accountsOf(int step) const;
@@ -56,8 +59,9 @@ public:
     /// Undoes the step: removed accounts are there again with everything that belonged to them, disabled ones are
     /// enabled with the presence that was wanted, imported ones are removed or as they were before, and the main
     /// account is the one that it was. Gives the reasons, a sentence each, why some of it was not undone. What the
-    /// store refused stays in the step and can be undone later, of removals and imports all of it; what cannot be
-    /// undone, as there is such an account again or none any more, is dropped.
+    /// store refused stays in the step and can be undone later, of removals and imports all of it, and so do accounts
+    /// to enable that a later step removed; what cannot be undone, as there is such an account again or none any more,
+    /// is dropped.
     QStringList undo(int step);
 
 Q_SIGNALS:
@@ -89,6 +93,7 @@ private:
     };
 
     int indexOf(int step) const;
+    bool isRemovalHeld(const KirvAccountKey &key) const;
     void prepare(Kind kind, const KirvAccount *account);
     void confirm(Kind kind, const KirvAccountKey &key);
     void add(const Step &step);
@@ -105,6 +110,7 @@ private:
     QList<Step> steps; ///< oldest first
     QHash<KirvAccountKey, Change> prepared; ///< begun, and not confirmed yet
     QHash<KirvAccountKey, int> disabledBy; ///< the number of the step
+    QHash<KirvAccountKey, int> removedBy; ///< the number of the latest step; it may be gone
     Step open; ///< its number is 0 while no step is open
     int lastNumber = 0;
 };

@@ -21,10 +21,6 @@ KirvRemovedAccount KirvAccountCollection::copyOf(const KirvAccount *account)
     QFile picture(account->avatarPath());
     if (!copy.record.avatar.isEmpty() && picture.open(QIODevice::ReadOnly))
         copy.picture = picture.read(KirvBoundedImage::maximumBytes);
-    const int index = int(all.indexOf(const_cast<KirvAccount *>(account)));
-    if (index > 0)
-        copy.previous = all.at(index - 1)->key();
-    if (index + 1 < all.size())
-        copy.next = all.at(index + 1)->key();
+    copy.place = places.placeOf(account);
     return copy;
 }

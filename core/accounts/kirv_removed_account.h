@@ -15,8 +15,7 @@ struct KirvRemovedAccount {
     QByteArray picture; ///< the bytes of the picture's file; empty: none
     KirvPresence presence; ///< the one that was wanted
     std::shared_ptr<const QStringList> heldItems; ///< secrets that were not read, see KirvSecretKeeper::hold()
-    KirvAccountKey previous; ///< the neighbours in the order; the id is empty at its ends
-    KirvAccountKey next;
+    int place = 0; ///< in the order, see KirvAccountPlaces; 0: behind all others
 };
 
 #endif

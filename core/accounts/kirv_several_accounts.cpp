@@ -76,6 +76,8 @@ bool KirvAccountCollection::place(const QList<KirvAccount *> &accounts, const Ki
         return false;
     }
     error.clear();
+    for (const KirvAccount *account : accounts)
+        places.move(account, next);
     arrange(accounts, next);
     Q_EMIT orderChanged(keys);
     return true;

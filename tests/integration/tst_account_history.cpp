@@ -32,11 +32,16 @@ private Q_SLOTS:
     void restoredAccountWaitsForTheOldConnection();
     void restoredAccountStandsWhereItStood_data();
     void restoredAccountStandsWhereItStood();
+    void severalComeBackInTheFormerOrder_data();
+    void severalComeBackInTheFormerOrder();
+    void stepsUndoneInAnyOrderGiveTheFormerOrder();
+    void restoredAccountFollowsWhatWasMoved();
     void mainAccountComesBackAsMainAccount();
     void disabledAccountComesBackWithItsPresence();
     void disabledMainAccountIsMainAgain();
     void severalChangesAreOneStep();
     void enablingElsewhereEmptiesTheStep();
+    void disablingWaitsForTheRemovalToBeUndone();
     void loginThatWasAddedAnewIsNotTouched();
     void accountOfAnUnloadedProtocolComesBack();
     void refusedChangeMakesNoStep();
@@ -187,6 +192,65 @@ void tst_AccountHistory::restoredAccountStandsWhereItStood()
     QCOMPARE(order(), QStringList({ ann, bob, cleo }));
 }
 
+void tst_AccountHistory::severalComeBackInTheFormerOrder_data()
+{
+    QTest::addColumn<QStringList>("removed");
+    QTest::newRow("own order") << QStringList { ann, bob, cleo };
+    QTest::newRow("main account last") << QStringList { bob, cleo, ann };
+    QTest::newRow("from the end") << QStringList { cleo, bob, ann };
+    QTest::newRow("mixed") << QStringList { cleo, ann, bob };
+}
+
+void tst_AccountHistory::severalComeBackInTheFormerOrder()
+{
+    QFETCH(QStringList, removed);
+    for (const QString &id : { QStringLiteral("dora"), QStringLiteral("eve") })
+        QVERIFY(core->create(id));
+    const QStringList before = order();
+    QList<KirvAccount *> accounts;
+    for (const QString &id : removed)
+        accounts << core->account(id);
+    history->beginStep(KirvAccountHistory::Removal);
+    QVERIFY(core->accounts->remove(accounts));
+    history->endStep();
+    QCOMPARE(int(order().size()), 2);
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    QCOMPARE(order(), before);
+    QCOMPARE(KirvAccountsFixture::idsOf(core->fake), before);
+    QCOMPARE(mainAccount().account(), core->account(ann));
+    history.reset();
+    core->restart();
+    QCOMPARE(order(), before);
+}
+
+void tst_AccountHistory::stepsUndoneInAnyOrderGiveTheFormerOrder()
+{
+    QVERIFY(core->create(QStringLiteral("dora")));
+    const QStringList before = order();
+    QList<int> steps;
+    for (const QString &id : { cleo, bob, ann }) {
+        remove(id);
+        steps << history->latest();
+    }
+    for (int step : { steps.at(0), steps.at(2), steps.at(1) })
+        QCOMPARE(history->undo(step), QStringList());
+    QCOMPARE(order(), before);
+}
+
+/// Its place is beside the accounts that stayed, wherever they are now.
+void tst_AccountHistory::restoredAccountFollowsWhatWasMoved()
+{
+    QVERIFY(core->create(QStringLiteral("dora")));
+    remove(bob);
+    QVERIFY(core->accounts->place(core->account(QStringLiteral("dora")), core->account(ann)));
+    remove(cleo);
+    QCOMPARE(order(), QStringList({ QStringLiteral("dora"), ann }));
+    const int last = history->latest();
+    QCOMPARE(history->undo(last - 1), QStringList());
+    QCOMPARE(history->undo(last), QStringList());
+    QCOMPARE(order(), QStringList({ QStringLiteral("dora"), ann, bob, cleo }));
+}
+
 void tst_AccountHistory::mainAccountComesBackAsMainAccount()
 {
     QCOMPARE(mainAccount().account(), core->account(ann));
@@ -256,6 +320,26 @@ void tst_AccountHistory::enablingElsewhereEmptiesTheStep()
     QVERIFY(core->account(ann)->setEnabled(true));
     QVERIFY(!history->has(step));
     QCOMPARE(gone.size(), 1);
+}
+
+void tst_AccountHistory::disablingWaitsForTheRemovalToBeUndone()
+{
+    QVERIFY(core->account(bob)->setEnabled(false));
+    const int disabling = history->latest();
+    QVERIFY(history->canUndo(disabling));
+    remove(bob);
+    const int removal = history->latest();
+    QVERIFY(!history->canUndo(disabling));
+    QVERIFY(history->canUndo(removal));
+    QCOMPARE(int(history->undo(disabling).size()), 1);
+    QVERIFY(history->has(disabling));
+    QVERIFY(!core->account(bob));
+    QCOMPARE(history->undo(removal), QStringList());
+    QVERIFY(!core->account(bob)->isEnabled());
+    QVERIFY(history->canUndo(disabling));
+    QCOMPARE(history->undo(disabling), QStringList());
+    QVERIFY(core->account(bob)->isEnabled());
+    QCOMPARE(history->latest(), 0);
 }
 
 void tst_AccountHistory::loginThatWasAddedAnewIsNotTouched()

@@ -3,11 +3,14 @@
 #include "client/kirv_message_bar.h"
 #include "client/kirv_settings_window.h"
 #include "tests/integration/kirv_client_windows.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAbstractButton>
 #include <QCursor>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollBar>
+#include <QStyleOptionViewItem>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -26,8 +29,40 @@ private Q_SLOTS:
     void barStaysInItsWindow_data();
     void barStaysInItsWindow();
     void barFollowsItsPlace();
+    void secondClickHitsNoOtherButton_data();
+    void secondClickHitsNoOtherButton();
+    void secondClickOnTheLastMessageHitsNoRow();
+    void newMessagesMoveNothingUnderThePointer();
+    void barGrowsAwayFromThePointer();
+    void barIsBounded_data();
+    void barIsBounded();
+    void headerAndCheckBoxesStayFree();
+    void lastRowCanBeScrolledAboveTheBar_data();
+    void lastRowCanBeScrolledAboveTheBar();
+    void rowStaysWhereItIsWhenTheBarGoes();
+    void currentRowIsShownAboveTheBar();
 
 private:
+    void show(const QString &text)
+    {
+        bar()->showMessage(text, QStringLiteral("&Undo"), [this, text] {
+            pressed << text;
+            bar()->removeMessage(text);
+        });
+        KirvClientWindows::settle();
+    }
+    /// Of the message \a text.
+    QAbstractButton *command(const QString &text) const;
+    void point(const QPoint &place);
+    /// A click on whatever is there.
+    void click(const QPoint &place);
+    QTreeWidget *list() const { return windows->list(); }
+    QRect viewport() const { return areaOf(list()->viewport()); }
+    /// Where the row is in the window.
+    QRect rowArea(int row) const
+    {
+        return list()->visualItemRect(list()->topLevelItem(row)).translated(viewport().topLeft());
+    }
     QWidget *window() const { return windows->client->window(); }
     KirvMessageBar *bar() const { return windows->client->window()->messageBar(); }
     QRect areaOf(const QWidget *widget) const { return QRect(widget->mapTo(window(), QPoint()), widget->size()); }
@@ -35,10 +70,12 @@ private:
     QList<QRect> areas() const;
 
     std::unique_ptr<KirvClientWindows> windows;
+    QStringList pressed;
 };
 
 void tst_MessageBar::init()
 {
+    pressed.clear();
     windows = std::make_unique<KirvClientWindows>();
     QVERIFY(windows->isReady());
     windows->addAccount(QStringLiteral("ann"));
@@ -96,6 +133,8 @@ void tst_MessageBar::olderMessagesStayWhereTheyAre_data()
 void tst_MessageBar::olderMessagesStayWhereTheyAre()
 {
     QFETCH(bool, isUnderPointer);
+    window()->resize(800, 900); // three messages are a third of the list at most
+    KirvClientWindows::settle();
     bar()->showMessage(QStringLiteral("one"));
     const QRect usual = areaOf(bar());
     const QRect list = areaOf(windows->list());
@@ -139,7 +178,8 @@ void tst_MessageBar::barStaysInItsWindow()
     QVERIFY2(window()->rect().contains(area), qPrintable(QStringLiteral("%1 + %2").arg(area.y()).arg(area.height())));
     for (const char *name : { "MessageBar_Command", "MessageBar_Close", "MessageBar_Text" }) {
         const auto *part = KirvClientWindows::child<QWidget>(bar(), name);
-        QVERIFY2(areaOf(bar()).contains(areaOf(part)), name);
+        const QRect place = areaOf(part); // a long text is scrolled
+        QVERIFY2(place.top() >= area.top() && place.left() >= area.left() && place.right() <= area.right(), name);
         QVERIFY2(part->height() >= part->minimumSizeHint().height(), name);
     }
     const auto *label = KirvClientWindows::child<QLabel>(bar(), "MessageBar_Text");
@@ -158,6 +198,238 @@ void tst_MessageBar::barFollowsItsPlace()
     QVERIFY(!windows->list()->isVisible());
     QVERIFY(bar()->isVisible());
     QVERIFY(areaOf(KirvClientWindows::child<QWidget>(window(), "Settings_Stack")).contains(areaOf(bar())));
+}
+
+QAbstractButton *tst_MessageBar::command(const QString &text) const
+{
+    const QList<QWidget *> rows = bar()->findChildren<QWidget *>(QStringLiteral("MessageBar_Row"));
+    for (const QWidget *row : rows) {
+        if (row->isVisible() && row->accessibleName() == text)
+            return KirvClientWindows::child<QAbstractButton>(row, "MessageBar_Command");
+    }
+    return nullptr;
+}
+
+void tst_MessageBar::point(const QPoint &place)
+{
+    QCursor::setPos(window()->mapToGlobal(place));
+    QTest::mouseMove(window()->windowHandle(), place); // by which widgets are entered and left
+    KirvClientWindows::settle();
+}
+
+void tst_MessageBar::click(const QPoint &place)
+{
+    point(place);
+    QWidget *hit = window()->childAt(place);
+    QVERIFY(hit);
+    QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(window(), place));
+    KirvClientWindows::settle();
+}
+
+void tst_MessageBar::secondClickHitsNoOtherButton_data()
+{
+    QTest::addColumn<QString>("first");
+    for (const char *text : { "one", "two", "three" })
+        QTest::newRow(text) << QString::fromLatin1(text);
+}
+
+void tst_MessageBar::secondClickHitsNoOtherButton()
+{
+    QFETCH(QString, first);
+    window()->resize(800, 900); // three messages are a third of the list at most
+    KirvClientWindows::settle();
+    for (const char *text : { "one", "two", "three" })
+        show(QLatin1String(text));
+    QVERIFY(command(first));
+    const QPoint place = areaOf(command(first)).center();
+    const QRect area = areaOf(bar());
+    click(place);
+    QCOMPARE(pressed, QStringList { first });
+    QCOMPARE(areaOf(bar()), area);
+    click(place);
+    QCOMPARE(pressed, QStringList { first });
+    QCOMPARE(int(bar()->messages().size()), 2);
+    point(QPoint(5, 5));
+    QVERIFY(areaOf(bar()).height() < area.height());
+    for (const QString &text : bar()->messages()) {
+        QVERIFY(command(text));
+        QVERIFY(areaOf(bar()).contains(areaOf(command(text))));
+    }
+}
+
+/// It would open the account.
+void tst_MessageBar::secondClickOnTheLastMessageHitsNoRow()
+{
+    show(QStringLiteral("one"));
+    const QPoint place = areaOf(command(QStringLiteral("one"))).center();
+    click(place);
+    QCOMPARE(bar()->messages(), QStringList());
+    QVERIFY(bar()->isVisible());
+    QVERIFY(!list()->isAncestorOf(window()->childAt(place)));
+    KIRV_TRY(!bar()->isVisible()); // also when the pointer stays
+    show(QStringLiteral("two"));
+    click(areaOf(command(QStringLiteral("two"))).center());
+    QVERIFY(bar()->isVisible());
+    point(QPoint(5, 5));
+    QVERIFY(!bar()->isVisible());
+}
+
+void tst_MessageBar::newMessagesMoveNothingUnderThePointer()
+{
+    window()->resize(800, 900); // three messages are a third of the list at most
+    KirvClientWindows::settle();
+    for (const char *text : { "one", "two", "three" })
+        show(QLatin1String(text));
+    const QAbstractButton *button = command(QStringLiteral("two"));
+    QVERIFY(button);
+    const QRect place = areaOf(button);
+    point(place.center());
+    for (const char *text : { "four", "five" }) { // "one" goes, then "two" itself
+        show(QLatin1String(text));
+        if (command(QStringLiteral("two")))
+            QCOMPARE(areaOf(button), place);
+        const QWidget *under = window()->childAt(place.center());
+        QVERIFY(under == button || !qobject_cast<const QAbstractButton *>(under));
+    }
+    QCOMPARE(bar()->messages(), QStringList({ "three", "four", "five" }));
+    point(QPoint(5, 5));
+    const QRect newest = areaOf(command(QStringLiteral("five")));
+    QVERIFY(areaOf(bar()).contains(newest));
+}
+
+void tst_MessageBar::barGrowsAwayFromThePointer()
+{
+    show(QStringLiteral("one"));
+    const QPoint above(areaOf(bar()).center().x(), areaOf(bar()).top() - 5);
+    QVERIFY(viewport().contains(above));
+    point(above);
+    show(QStringLiteral("two"));
+    QVERIFY(!areaOf(bar()).contains(above));
+    QVERIFY(command(QStringLiteral("one")) && command(QStringLiteral("two")));
+}
+
+void tst_MessageBar::barIsBounded_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("short") << QSize(800, 600) << QStringLiteral("short");
+    QTest::newRow("long") << QSize(800, 600) << QStringLiteral("many words ").repeated(60);
+    QTest::newRow("small window") << QSize(480, 360) << QStringLiteral("many words ").repeated(20);
+}
+
+void tst_MessageBar::barIsBounded()
+{
+    QFETCH(QSize, size);
+    QFETCH(QString, text);
+    window()->resize(size);
+    KirvClientWindows::settle();
+    for (int i = 0; i < 5; ++i) {
+        const QString shown = QStringLiteral("%1 %2").arg(i).arg(text).trimmed();
+        show(shown);
+        const int height = areaOf(bar()).height();
+        const int least = bar()->fontMetrics().lineSpacing() * 4;
+        QVERIFY2(height <= qMax(viewport().height() / 3, least), qPrintable(QString::number(height)));
+        QVERIFY(int(bar()->messages().size()) <= 3);
+        // The newest can be used at once.
+        QVERIFY(command(bar()->messages().last()));
+        QVERIFY(areaOf(bar()).contains(areaOf(command(bar()->messages().last()))));
+    }
+}
+
+void tst_MessageBar::headerAndCheckBoxesStayFree()
+{
+    for (const bool isAtTop : { false, true }) {
+        if (isAtTop)
+            point(viewport().center() + QPoint(0, viewport().height() / 2 - 15));
+        show(QStringLiteral("one"));
+        QVERIFY((areaOf(bar()).center().y() < viewport().center().y()) == isAtTop);
+        QVERIFY(viewport().contains(areaOf(bar())));
+        QStyleOptionViewItem option;
+        option.initFrom(list());
+        option.rect = rowArea(0);
+        option.features = QStyleOptionViewItem::HasCheckIndicator;
+        const QRect box = list()->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, list());
+        QVERIFY(box.isValid());
+        QVERIFY(areaOf(bar()).left() > box.right());
+        bar()->removeMessage(QStringLiteral("one"));
+        QVERIFY(!bar()->isVisible());
+    }
+}
+
+void tst_MessageBar::lastRowCanBeScrolledAboveTheBar_data()
+{
+    QTest::addColumn<int>("accounts");
+    QTest::addColumn<bool>("isPerPixel");
+    QTest::newRow("few") << 2 << false;
+    QTest::newRow("as many as fit") << 0 << false;
+    QTest::newRow("as many as fit, by pixels") << 0 << true;
+    QTest::newRow("many") << 40 << false;
+    QTest::newRow("many, by pixels") << 40 << true;
+}
+
+void tst_MessageBar::lastRowCanBeScrolledAboveTheBar()
+{
+    QFETCH(int, accounts);
+    QFETCH(bool, isPerPixel);
+    if (isPerPixel)
+        list()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    if (!accounts)
+        accounts = viewport().height() / rowArea(0).height();
+    for (int i = 1; i < accounts; ++i)
+        windows->addAccount(QStringLiteral("u%1").arg(i));
+    QScrollBar *scrollBar = list()->verticalScrollBar();
+    scrollBar->setValue(0);
+    KirvClientWindows::settle();
+    const int last = list()->topLevelItemCount() - 1;
+    const int ownMaximum = scrollBar->maximum();
+    const bool hasScrollBar = scrollBar->isVisible();
+    const QRect first = rowArea(0);
+    show(QStringLiteral("one"));
+    QCOMPARE(rowArea(0), first);
+    QCOMPARE(scrollBar->isVisible(), hasScrollBar);
+    scrollBar->setValue(scrollBar->maximum());
+    QVERIFY2(rowArea(last).bottom() < areaOf(bar()).top(), qPrintable(QString::number(scrollBar->maximum())));
+    QVERIFY(rowArea(last).top() >= viewport().top());
+    if (accounts == 2)
+        QCOMPARE(scrollBar->maximum(), ownMaximum);
+    scrollBar->setValue(0);
+    bar()->removeMessage(QStringLiteral("one"));
+    KirvClientWindows::settle();
+    QCOMPARE(scrollBar->maximum(), ownMaximum);
+    QCOMPARE(list()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+}
+
+void tst_MessageBar::rowStaysWhereItIsWhenTheBarGoes()
+{
+    for (int i = 1; i < 40; ++i)
+        windows->addAccount(QStringLiteral("u%1").arg(i));
+    const int last = list()->topLevelItemCount() - 1;
+    QScrollBar *scrollBar = list()->verticalScrollBar();
+    const int ownMaximum = scrollBar->maximum();
+    show(QStringLiteral("one"));
+    scrollBar->setValue(scrollBar->maximum());
+    const QRect place = rowArea(last);
+    bar()->removeMessage(QStringLiteral("one"));
+    KirvClientWindows::settle();
+    QCOMPARE(rowArea(last), place);
+    scrollBar->setValue(0);
+    QCOMPARE(scrollBar->maximum(), ownMaximum);
+}
+
+void tst_MessageBar::currentRowIsShownAboveTheBar()
+{
+    for (int i = 1; i < 40; ++i)
+        windows->addAccount(QStringLiteral("u%1").arg(i));
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+    show(QStringLiteral("one"));
+    list()->setFocus();
+    QTest::keyClick(list(), Qt::Key_End);
+    KirvClientWindows::settle();
+    const int last = list()->topLevelItemCount() - 1;
+    QCOMPARE(list()->currentItem(), list()->topLevelItem(last));
+    QVERIFY(rowArea(last).bottom() < areaOf(bar()).top());
+    QVERIFY(rowArea(last).top() >= viewport().top());
 }
 
 QTEST_MAIN(tst_MessageBar)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_order.h"
+#include "client/kirv_message_bar.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/store/kirv_store.h"
@@ -9,6 +10,7 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
@@ -17,6 +19,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -26,6 +29,7 @@ const QString ann = QStringLiteral("ann");
 const QString bob = QStringLiteral("bob");
 const QString cleo = QStringLiteral("cleo");
 const QString dora = QStringLiteral("dora");
+const QString sorted = QStringLiteral("The list is sorted by a column. Accounts can be moved only in your own order.");
 
 } // namespace
 
@@ -41,6 +45,9 @@ private Q_SLOTS:
     void thirdClickReturnsToTheOwnOrder();
     void keysMoveTheCurrentAccount();
     void keysMoveNothingWhileItIsSorted();
+    void sortedListSaysWhyNothingMoves_data();
+    void sortedListSaysWhyNothingMoves();
+    void selectingInASortedListSaysNothing();
     void movesSkipRowsThatTheSearchHides();
     void menuMoves();
     void movingReachesNoSlotOfThePage();
@@ -63,6 +70,7 @@ private:
     QMenu *menu() const { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); }
     void clickHeader(int column);
     void press(const QString &id, Qt::Key key);
+    void drag(const QString &id, const QString &onto, Qt::KeyboardModifiers modifiers);
     QStringList storedIds() const;
     void useOwnOrder();
 
@@ -99,6 +107,18 @@ void tst_OwnOrder::press(const QString &id, Qt::Key key)
     windows->select(id);
     list()->setFocus();
     QTest::keyClick(list(), key, Qt::AltModifier);
+    KirvClientWindows::settle();
+}
+
+void tst_OwnOrder::drag(const QString &id, const QString &onto, Qt::KeyboardModifiers modifiers)
+{
+    QWidget *viewport = list()->viewport();
+    const QPoint from = list()->visualItemRect(windows->row(id)).center();
+    const QPoint to = list()->visualItemRect(windows->row(onto)).center() + QPoint(2, 2);
+    QTest::mousePress(viewport, Qt::LeftButton, modifiers, from);
+    QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, modifiers);
+    QApplication::sendEvent(viewport, &move);
+    QTest::mouseRelease(viewport, Qt::LeftButton, modifiers, to);
     KirvClientWindows::settle();
 }
 
@@ -173,6 +193,51 @@ void tst_OwnOrder::keysMoveNothingWhileItIsSorted()
     press(bob, Qt::Key_Up);
     QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, dora }));
     QCOMPARE(storedIds(), QStringList({ cleo, ann, dora, bob }));
+}
+
+void tst_OwnOrder::sortedListSaysWhyNothingMoves_data()
+{
+    QTest::addColumn<bool>("isDrag");
+    QTest::newRow("keys") << false;
+    QTest::newRow("drag") << true;
+}
+
+void tst_OwnOrder::sortedListSaysWhyNothingMoves()
+{
+    QFETCH(bool, isDrag);
+    const auto moveIt = [this, isDrag] {
+        if (isDrag)
+            drag(ann, bob, Qt::NoModifier);
+        else
+            press(bob, Qt::Key_Up);
+    };
+    moveIt();
+    QCOMPARE(windows->messages(), QStringList { sorted });
+    auto *button =
+        KirvClientWindows::child<QAbstractButton>(windows->client->window()->messageBar(), "MessageBar_Command");
+    QVERIFY(button);
+    QCOMPARE(button->text(), QStringLiteral("&Own Order"));
+    button->click();
+    KirvClientWindows::settle();
+    QCOMPARE(windows->rowIds(), QStringList({ cleo, ann, dora, bob }));
+    QCOMPARE(windows->messages(), QStringList());
+    press(bob, Qt::Key_Up);
+    QCOMPARE(windows->rowIds(), QStringList({ cleo, ann, bob, dora }));
+    QCOMPARE(windows->messages(), QStringList());
+    clickHeader(0);
+    moveIt();
+    QCOMPARE(windows->messages(), QStringList { sorted });
+    clickHeader(0);
+    clickHeader(0); // to the own order
+    QCOMPARE(windows->messages(), QStringList());
+}
+
+void tst_OwnOrder::selectingInASortedListSaysNothing()
+{
+    drag(ann, cleo, Qt::ShiftModifier);
+    drag(ann, ann, Qt::NoModifier);
+    press(bob, Qt::Key_Left);
+    QCOMPARE(windows->messages(), QStringList());
 }
 
 void tst_OwnOrder::movesSkipRowsThatTheSearchHides()

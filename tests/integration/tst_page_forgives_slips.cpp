@@ -89,6 +89,9 @@ private Q_SLOTS:
     void menuGoesWithItsAccount();
     void f2RenamesInPlace();
     void renamingIsOneChangeOfTheStore();
+    void blankAliasIsNone();
+    void rowOfABlankAliasShowsTheLogin();
+    void blanksAroundATypedAliasAreDropped();
     void refusedAliasIsNotShown();
     void escapeKeepsTheAlias();
     void clickElsewhereKeepsWhatWasTyped();
@@ -438,6 +441,43 @@ void tst_PageForgivesSlips::renamingIsOneChangeOfTheStore()
     QCOMPARE(windows->row(bob)->text(0), QStringLiteral("Robert"));
     QCOMPARE(windows->client->profile().commitCount(), commits + 1);
     QCOMPARE(changes, 0);
+}
+
+void tst_PageForgivesSlips::blankAliasIsNone()
+{
+    windows->select(bob);
+    QTest::keyClick(list(), Qt::Key_F2);
+    QTest::keyClicks(editor(), QStringLiteral("   "));
+    QTest::keyClick(editor(), Qt::Key_Return);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->account(bob)->getAlias(), QString());
+    QCOMPARE(windows->row(bob)->text(0), bob);
+}
+
+/// As another window stores what was typed.
+void tst_PageForgivesSlips::rowOfABlankAliasShowsTheLogin()
+{
+    const QString blank = QStringLiteral(" \u00a0 ");
+    windows->account(bob)->setAlias(blank);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->account(bob)->getAlias(), blank);
+    QCOMPARE(windows->account(bob)->displayName(), bob);
+    QCOMPARE(windows->account(bob)->info()->getAlias(), bob);
+    QCOMPARE(windows->row(bob)->text(0), bob);
+    QVERIFY(windows->selector()->findText(bob) >= 0);
+    windows->restart();
+    KirvClientWindows::settle();
+    QCOMPARE(windows->row(bob)->text(0), bob);
+}
+
+void tst_PageForgivesSlips::blanksAroundATypedAliasAreDropped()
+{
+    windows->select(bob);
+    QTest::keyClick(list(), Qt::Key_F2);
+    QTest::keyClicks(editor(), QStringLiteral(" Robert the Second "));
+    QTest::keyClick(editor(), Qt::Key_Return);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->account(bob)->getAlias(), QStringLiteral("Robert the Second"));
 }
 
 void tst_PageForgivesSlips::refusedAliasIsNotShown()

@@ -50,6 +50,8 @@ private Q_SLOTS:
     void mainAccountThatIsDisabledIsPassedOnOnce();
     void severalAreRemoved_data();
     void severalAreRemoved();
+    void severalComeBackInTheOwnOrder_data();
+    void severalComeBackInTheOwnOrder();
     void refusedQuestionRemovesNone();
     void refusedRemovalKeepsAllRows();
     void mainAccountIsPassedOnOnce();
@@ -407,6 +409,51 @@ void tst_SeveralAccounts::severalAreRemoved()
     QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
     KirvClientWindows::settle();
     QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, dora }));
+}
+
+void tst_SeveralAccounts::severalComeBackInTheOwnOrder_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("with the main account") << ann << cleo;
+    QTest::newRow("without it") << bob << dora;
+}
+
+/// The rows are sorted by alias, which is another order than the user's own.
+void tst_SeveralAccounts::severalComeBackInTheOwnOrder()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, last);
+    KirvAccountCollection &accounts = windows->client->accounts();
+    const auto order = [&accounts] {
+        QStringList ids;
+        const QList<KirvAccount *> all = accounts.accounts();
+        for (const KirvAccount *account : all)
+            ids << account->key().id;
+        return ids;
+    };
+    QVERIFY(accounts.place(windows->account(cleo), windows->account(ann)));
+    QVERIFY(accounts.place(windows->account(bob), windows->account(ann)));
+    const QStringList before { cleo, bob, ann, dora };
+    QCOMPARE(order(), before);
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, dora }));
+    QCOMPARE(windows->shownMainAccount(), ann);
+    click(first);
+    click(last, Qt::ShiftModifier);
+    const KirvScriptedAnswers answers({ QMessageBox::Yes });
+    QTest::keyClick(list(), Qt::Key_Delete);
+    KIRV_TRY_COMPARE(int(order().size()), 1);
+    KirvClientWindows::settle();
+    activate();
+    QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
+    KirvClientWindows::settle();
+    QCOMPARE(order(), before);
+    QCOMPARE(windows->shownMainAccount(), ann);
+    QStringList stored;
+    const QList<KirvAccountRecord> records = windows->client->profile().readAccounts();
+    for (const KirvAccountRecord &record : records)
+        stored << record.key.id;
+    QCOMPARE(stored, before);
 }
 
 void tst_SeveralAccounts::refusedQuestionRemovesNone()

@@ -51,6 +51,8 @@ private Q_SLOTS:
     void messageUndoesDisabling();
     void messageAndMenuUndoAnImport_data();
     void messageAndMenuUndoAnImport();
+    void disablingIsNotOfferedWhileTheRemovalCanBeUndone();
+    void closedMessageStaysClosed();
     void undoAsksNothing();
     void undoneMainAccountIsShown();
     void greyedRowComesBackGreyed();
@@ -237,6 +239,31 @@ void tst_UndoInPage::messageUndoesDisabling()
     windows->toggleInPage(bob);
     windows->toggleInPage(bob); // enabled by hand: nothing is left to undo
     QCOMPARE(windows->messages(), QStringList());
+}
+
+void tst_UndoInPage::disablingIsNotOfferedWhileTheRemovalCanBeUndone()
+{
+    windows->toggleInPage(bob);
+    QCOMPARE(windows->messages(), QStringList { disabled });
+    windows->removeInPage(bob);
+    QCOMPARE(windows->messages(), QStringList { removed });
+    clickUndo();
+    QCOMPARE(windows->messages(), QStringList { disabled });
+    QVERIFY(!windows->account(bob)->isEnabled());
+    clickUndo();
+    QVERIFY(windows->account(bob)->isEnabled());
+    QCOMPARE(windows->messages(), QStringList());
+}
+
+void tst_UndoInPage::closedMessageStaysClosed()
+{
+    windows->toggleInPage(bob);
+    KirvClientWindows::child<QAbstractButton>(bar(), "MessageBar_Close")->click();
+    windows->removeInPage(bob);
+    clickUndo();
+    QCOMPARE(windows->messages(), QStringList());
+    press(list(), Qt::Key_Z);
+    QVERIFY(windows->account(bob)->isEnabled());
 }
 
 /// The page handles each check box that changes, and asks for an account that still logs out.
