@@ -258,13 +258,19 @@ QRect KirvMessageBar::areaAt(bool isTop) const
     const int least =
         frame + layout->contentsMargins().top() + layout->contentsMargins().bottom() + 2 * fontMetrics().lineSpacing();
     const int most = qMax((bounds.height() + 2 * margin) / 3, least);
-    QRect wanted(0, 0, width, qMin(contentHeight(width - frame) + frame, most));
+    QRect wanted(0, 0, width, qMin(contentHeight(width - frame - scrollBarWidth()) + frame, most));
     wanted.moveCenter(bounds.center());
     if (isTop)
         wanted.moveTop(bounds.top());
     else
         wanted.moveBottom(qMax(bounds.bottom(), wanted.height()));
     return wanted;
+}
+
+/// Always kept free: buttons would move when it appears.
+int KirvMessageBar::scrollBarWidth() const
+{
+    return area->verticalScrollBar()->sizeHint().width();
 }
 
 int KirvMessageBar::contentHeight(int width) const
@@ -302,9 +308,7 @@ void KirvMessageBar::arrange()
     const int below = content->height() - area->viewport()->height() - bar->value();
     setGeometry(areaAt(isAtTop));
     area->setGeometry(contentsRect());
-    int width = area->width();
-    if (contentHeight(width) > area->height())
-        width -= bar->sizeHint().width();
+    const int width = area->width() - scrollBarWidth();
     content->resize(width, qMax(contentHeight(width), area->height()));
     layout->activate();
     if (!isAtTop)

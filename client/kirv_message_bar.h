@@ -59,6 +59,7 @@ private:
     const QWidget *place() const;
     QRect room() const;
     QRect areaAt(bool isTop) const;
+    int scrollBarWidth() const;
     int contentHeight(int width) const;
     bool wouldCoverPointer(bool isTop) const;
     void chooseEdge();

@@ -9,6 +9,7 @@
 #include <QCursor>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionViewItem>
 #include <QTreeWidget>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void secondClickHitsNoOtherButton();
     void secondClickOnTheLastMessageHitsNoRow();
     void newMessagesMoveNothingUnderThePointer();
+    void scrollBarMovesNothingUnderThePointer();
     void barGrowsAwayFromThePointer();
     void barIsBounded_data();
     void barIsBounded();
@@ -295,6 +297,21 @@ void tst_MessageBar::newMessagesMoveNothingUnderThePointer()
     point(QPoint(5, 5));
     const QRect newest = areaOf(command(QStringLiteral("five")));
     QVERIFY(areaOf(bar()).contains(newest));
+}
+
+void tst_MessageBar::scrollBarMovesNothingUnderThePointer()
+{
+    show(QStringLiteral("one"));
+    show(QStringLiteral("two"));
+    const auto *area = bar()->findChild<QScrollArea *>();
+    QVERIFY(!area->verticalScrollBar()->isVisible());
+    const QAbstractButton *button = command(QStringLiteral("two"));
+    QVERIFY(button);
+    const QRect place = areaOf(button);
+    point(place.center());
+    show(QStringLiteral("three"));
+    QVERIFY(area->verticalScrollBar()->isVisible());
+    QCOMPARE(areaOf(button), place);
 }
 
 void tst_MessageBar::barGrowsAwayFromThePointer()
