@@ -12,9 +12,9 @@ class KirvAccountHistory;
 class KirvMessageBar;
 class QWidget;
 
-/// Offers to undo what was removed, disabled and imported: in the message bar as long as the message is shown, and by Ctrl+Z in
-/// the window. The message of a step that cannot be undone before a later one is not shown until then. A field in which
-/// text is typed keeps the key for itself.
+/// Offers to undo what was removed, disabled and imported: in the message bar as long as the message is shown, and by
+/// Ctrl+Z in the window. The message of a step that cannot be undone before a later one is not shown until then. A
+/// field in which text is typed keeps the key for itself.
 class KirvAccountUndo : public QObject {
     Q_OBJECT
 
