@@ -29,7 +29,6 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QMessageBox>
-#include <QPalette>
 #include <QScrollBar>
 #include <QSet>
 #include <QSignalBlocker>

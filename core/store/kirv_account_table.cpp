@@ -114,12 +114,13 @@ bool KirvAccountTable::writeColumns(const QVariant &number, const QVariantList &
             changed + QVariantList { number });
 }
 
-bool KirvAccountTable::setEnabled(const KirvAccountKey &key, bool enabled)
+bool KirvAccountTable::setEnabled(const QList<KirvAccountKey> &keys, bool enabled)
 {
-    Row row;
-    return findRow(key, &row)
-        && database.run(QStringLiteral("UPDATE account SET enabled = ? WHERE number = ?"),
-                        { int(enabled), row.number });
+    const QString update = QStringLiteral("UPDATE account SET enabled = ? WHERE number = ?");
+    return std::all_of(keys.begin(), keys.end(), [&](const KirvAccountKey &key) {
+        Row row;
+        return findRow(key, &row) && database.run(update, { int(enabled), row.number });
+    });
 }
 
 bool KirvAccountTable::remove(const KirvAccountKey &key)

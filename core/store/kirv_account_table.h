@@ -39,8 +39,8 @@ public:
     QList<KirvAccountRecord> readAll();
     bool insert(const KirvAccountRecord &account);
     bool update(const KirvAccountRecord &account);
-    /// Touches nothing else of the account.
-    bool setEnabled(const KirvAccountKey &key, bool enabled);
+    /// Touches nothing else of the accounts.
+    bool setEnabled(const QList<KirvAccountKey> &keys, bool enabled);
     bool remove(const KirvAccountKey &key);
     /// Puts the accounts, in the order of \a keys, before \a next in the order, or at the end when the id of \a next is
     /// empty. \a next is none of them.

@@ -328,15 +328,7 @@ bool KirvStore::removeAccount(const KirvAccountKey &key)
 
 bool KirvStore::enableAccounts(const QList<KirvAccountKey> &keys, bool enabled)
 {
-    return d->change([&] {
-        return std::all_of(keys.begin(), keys.end(),
-                           [&](const KirvAccountKey &key) { return d->accounts.setEnabled(key, enabled); });
-    });
-}
-
-bool KirvStore::placeAccount(const KirvAccountKey &key, const KirvAccountKey &next)
-{
-    return placeAccounts({ key }, next);
+    return d->change([&] { return d->accounts.setEnabled(keys, enabled); });
 }
 
 bool KirvStore::placeAccounts(const QList<KirvAccountKey> &keys, const KirvAccountKey &next)
@@ -440,10 +432,9 @@ QString KirvStore::readSetting(const QString &key, const QString &fallback)
 bool KirvStore::writeSetting(const QString &key, const QString &value)
 {
     return d->change([&] {
-        return d->database.run(QStringLiteral("INSERT INTO setting (key, value) VALUES (?, ?) "
-                                              "ON CONFLICT (key) DO UPDATE SET value = excluded.value"),
-                               { key, value })
-            != nullptr;
+        return d->database.execute(QStringLiteral("INSERT INTO setting (key, value) VALUES (?, ?) "
+                                                  "ON CONFLICT (key) DO UPDATE SET value = excluded.value"),
+                                   { key, value });
     });
 }
 

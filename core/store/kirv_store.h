@@ -58,7 +58,7 @@ public:
     /// Enables or disables all of them, or none when one is refused.
     bool enableAccounts(const QList<KirvAccountKey> &keys, bool enabled);
     /// Puts the account before \a next in the order, or at the end when \a next is empty.
-    bool placeAccount(const KirvAccountKey &key, const KirvAccountKey &next);
+    bool placeAccount(const KirvAccountKey &key, const KirvAccountKey &next) { return placeAccounts({ key }, next); }
     /// The same for several, which then follow each other in the order of \a keys; \a next is none of them. All of them
     /// are placed, or none when one is refused.
     bool placeAccounts(const QList<KirvAccountKey> &keys, const KirvAccountKey &next);
