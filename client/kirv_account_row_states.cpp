@@ -85,6 +85,7 @@ void KirvAccountRowStates::describe(const KirvAccountKey &key)
         return;
     const KirvAccountStatus status(*account, account == presentMainAccount());
     //: read aloud for a row: %1 = name of an account, %2 = its state
-    setText(row, Qt::AccessibleTextRole, tr("%1, %2").arg(kirvPlainName(account->displayName()), status.spokenLine()));
+    setText(row, Qt::AccessibleTextRole,
+            tr("%1, %2").arg(kirvPlainName(account->displayName()), status.accessibleLine()));
     setText(row, Qt::AccessibleDescriptionRole, status.reason());
 }

@@ -74,7 +74,7 @@ void KirvAccountSearch::accountsChanged()
 void KirvAccountSearch::updateVisibility()
 {
     const int all = int(accounts.accounts().size());
-    setVisible(all > 0 && (all >= enoughAccounts || isOpened || !words.isEmpty()));
+    setVisible(all > 0 && (all >= shownFromCount || isOpened || !words.isEmpty()));
 }
 
 void KirvAccountSearch::open()

@@ -19,14 +19,14 @@ class QTimer;
 class QTreeWidget;
 
 /// Hides the rows of the page's list that do not have every typed word in their alias, id, protocol or state;
-/// "problem" stands for every state that needs attention. Shown from enoughAccounts on, and by Ctrl+F.
+/// "problem" stands for every state that needs attention. Shown from shownFromCount on, and by Ctrl+F.
 ///
 /// A row is deselected before it is hidden: the page's commands work on what is selected, seen or not.
 class KirvAccountSearch : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int enoughAccounts = 10;
+    static constexpr int shownFromCount = 10;
 
     /// None is owned, and all outlive this. \a list stands in the window of the page.
     KirvAccountSearch(const KirvAccountCollection &accounts, const KirvAccountRows &rows, QTreeWidget *list);

@@ -115,7 +115,7 @@ QString KirvAccountStatus::line(const QDateTime &now) const
     return lineOf(text(now));
 }
 
-QString KirvAccountStatus::spokenLine() const
+QString KirvAccountStatus::accessibleLine() const
 {
     if (stateKind != Waiting || account.connection()->isWaitingForTurn() || isWaitingForSecrets())
         return lineOf(text());

@@ -34,7 +34,7 @@ public:
     /// main account.
     QString line(const QDateTime &now = QDateTime::currentDateTime()) const;
     /// The same for assistive technology: it stays right as long as the state does.
-    QString spokenLine() const;
+    QString accessibleLine() const;
     /// The whole reason of the state and what can be done, in sentences.
     QString reason() const;
 

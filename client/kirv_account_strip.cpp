@@ -147,8 +147,8 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
     const KirvAccountStatus status(*account, isMain);
     offer(&status);
     icon->setPixmap(kirvStatePixmap(status.kind(), this, icon->width()));
-    icon->setAccessibleName(status.spokenLine());
-    title->setText(status.spokenLine());
+    icon->setAccessibleName(status.accessibleLine());
+    title->setText(status.accessibleLine());
     //: %1 = name of an account
     setAccessibleName(tr("State of %1").arg(kirvPlainName(account->displayName())));
     const QString text = status.reason();

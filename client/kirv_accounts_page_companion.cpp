@@ -115,7 +115,7 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
     }
     // Room for one row, also in a small window.
     list->setMinimumHeight(list->header()->sizeHint().height() + 3 * list->fontMetrics().lineSpacing());
-    invite();
+    updateInvitation();
     // The page gives the button its menu after this.
     QMetaObject::invokeMethod(
         this, [this] { invitation->setAddMenu(addButton->menu()); }, Qt::QueuedConnection);
@@ -190,7 +190,7 @@ void KirvAccountsPageCompanion::selectImported(const QList<KirvAccountKey> &keys
 }
 
 /// Shows the invitation while there is no account, and otherwise the list.
-void KirvAccountsPageCompanion::invite()
+void KirvAccountsPageCompanion::updateInvitation()
 {
     const bool isEmpty = accounts.accounts().isEmpty();
     if (list->isHidden() == isEmpty)
@@ -317,7 +317,7 @@ void KirvAccountsPageCompanion::keepRow(const KirvAccount *account)
 }
 
 /// To the place, state and selection that it had, in all of which the view has put a neighbour meanwhile.
-void KirvAccountsPageCompanion::putBack(KeptRow kept)
+void KirvAccountsPageCompanion::restoreRow(KeptRow kept)
 {
     QTreeWidgetItem *row = kept.copy.release();
     {
@@ -359,7 +359,7 @@ void KirvAccountsPageCompanion::syncRows()
     for (KeptRow &row : std::exchange(keptRows, {})) {
         const KirvAccountKey key = KirvAccountRows::keyOf(row.copy.get());
         if (accounts.find(key) && !rows->find(key))
-            putBack(std::move(row));
+            restoreRow(std::move(row));
     }
     const QList<KirvAccountKey> keys = std::exchange(unsynced, {});
     for (const KirvAccountKey &key : keys) {
@@ -372,7 +372,7 @@ void KirvAccountsPageCompanion::syncRows()
             updateRow(account);
     }
     listUnloaded();
-    invite();
+    updateInvitation();
     searchBar->accountsChanged();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
@@ -455,14 +455,14 @@ void KirvAccountsPageCompanion::pluginsLoaded()
 void KirvAccountsPageCompanion::remove(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = rows->find(key))
-        takeAway(row);
+        deleteRow(row);
 }
 
 void KirvAccountsPageCompanion::removeAll(const QString &protocol)
 {
     const QList<QTreeWidgetItem *> removed = rows->rowsOf(protocol);
     for (QTreeWidgetItem *row : removed)
-        takeAway(row);
+        deleteRow(row);
 }
 
 void KirvAccountsPageCompanion::markUnloaded(QTreeWidgetItem *row) const
@@ -485,7 +485,7 @@ void KirvAccountsPageCompanion::setCurrent(const KirvAccountKey &key)
         rows->select(row);
 }
 
-void KirvAccountsPageCompanion::takeAway(QTreeWidgetItem *row)
+void KirvAccountsPageCompanion::deleteRow(QTreeWidgetItem *row)
 {
     // Left alone, the view would make and select a neighbour as the current row.
     const bool wasChosen = row->isSelected() || row == list->currentItem();

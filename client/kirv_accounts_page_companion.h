@@ -87,7 +87,7 @@ private:
     void connectMoving();
     void addCommands(QWidget *top, const Environment &environment);
     void connectStrip(KirvAccountHelp &help);
-    void invite();
+    void updateInvitation();
     bool maySelect() const;
     void selectNewRow(const KirvAccountKey &key);
     void selectImported(const QList<KirvAccountKey> &keys);
@@ -95,7 +95,7 @@ private:
     void refreshStrip();
 
     void keepRow(const KirvAccount *account);
-    void putBack(KeptRow row);
+    void restoreRow(KeptRow row);
     void syncRowLater(const KirvAccountKey &key);
     void syncRows();
 
@@ -110,7 +110,7 @@ private:
     KirvAccountKey current() const;
     void setCurrent(const KirvAccountKey &key);
 
-    void takeAway(QTreeWidgetItem *row);
+    void deleteRow(QTreeWidgetItem *row);
 
     KirvAccountCollection &accounts;
     QTreeWidget *list;

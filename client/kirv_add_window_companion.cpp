@@ -206,14 +206,14 @@ void KirvAddWindowCompanion::updateSaving()
         return;
     updateTest();
     const bool hasLogin = !loginEdit->text().isEmpty(), hasPassword = !passwordEdit->text().isEmpty();
-    const bool canDoWithout = hasLogin && !hasPassword
+    const bool needsNoPassword = hasLogin && !hasPassword
         && !base->needsPassword(loginEdit->text(), settings ? settings->getFields() : QList<KirvField>());
-    saveWithoutPassword->setVisible(canDoWithout);
+    saveWithoutPassword->setVisible(needsNoPassword);
     QString why;
     if (!hasLogin)
         why = hasPassword ? tr("The login is missing.") : tr("The login and the password are missing.");
     else if (!hasPassword)
-        why = canDoWithout ? tr("The account can be used without a password.") : tr("The password is missing.");
+        why = needsNoPassword ? tr("The account can be used without a password.") : tr("The password is missing.");
     if (QPushButton *save = buttonsOf(window())->button(QDialogButtonBox::Save)) {
         save->setToolTip(why);
         save->setAccessibleDescription(why);

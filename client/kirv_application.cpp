@@ -28,7 +28,7 @@ void KirvApplication::prepare(QCoreApplication &application)
 {
     setApplicationName(QStringLiteral("kirv"));
     setApplicationVersion(QStringLiteral(KIRV_VERSION));
-    (new KirvTranslations(application))->speak(QString());
+    (new KirvTranslations(application))->use(QString());
 }
 
 bool KirvApplication::hasDisplay()

@@ -55,7 +55,7 @@ void KirvCertificateQuestions::show(const KirvAccount *account)
     question->open();
 }
 
-void KirvCertificateQuestions::withdrawProtocol(const QString &protocol)
+void KirvCertificateQuestions::closeQuestionsOf(const QString &protocol)
 {
     if (question && question->key().protocol == protocol)
         question->reject();

@@ -29,7 +29,7 @@ public:
     /// nothing when there is none.
     void show(const KirvAccount *account);
     /// Closes the question about an account of \a protocol.
-    void withdrawProtocol(const QString &protocol);
+    void closeQuestionsOf(const QString &protocol);
 
 private:
     void accountChanged(const KirvAccount *account);

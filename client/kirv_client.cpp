@@ -163,7 +163,7 @@ void KirvClient::createServices()
     layouts = std::make_unique<KirvLayoutCatalog>();
     clientSettings->setThemeFolder(profile.filePath(QStringLiteral("themes")));
     layouts->setOverrideFolder(profile.filePath(QStringLiteral("layouts")));
-    KirvLanguageChange::speakChosen(*clientSettings);
+    KirvLanguageChange::applyStored(*clientSettings);
 }
 
 void KirvClient::createWindow()
@@ -265,7 +265,8 @@ void KirvClient::createPagesAnew()
 void KirvClient::connectServices()
 {
     connect(&services->mainAccountRule, &KirvMainAccount::changed, this, &KirvClient::mainAccountChanged);
-    connect(&services->mainAccountRule, &KirvMainAccount::passedOn, this, &KirvClient::mainAccountPassedOn);
+    connect(&services->mainAccountRule, &KirvMainAccount::successorChosen, this,
+            &KirvClient::mainAccountSuccessorChosen);
     connect(accountCollection.get(), &KirvAccountCollection::accountChanged, this, &KirvClient::accountChanged);
     connect(accountCollection.get(), &KirvAccountCollection::noticeReceived, this, &KirvClient::showNotice);
     connect(accountCollection.get(), &KirvAccountCollection::problemOccurred, this, &KirvClient::showRefusal);
@@ -354,8 +355,8 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
 {
     const QString name = protocol->getName();
     companions->closeWindowsOf(name);
-    passwordQuestions->withdrawProtocol(name);
-    certificateQuestions->withdrawProtocol(name);
+    passwordQuestions->closeQuestionsOf(name);
+    certificateQuestions->closeQuestionsOf(name);
     accountCollection->protocolAboutToBeUnloaded(name);
     companions->page()->protocolUnloaded(name);
     moving->protocolsChanged();
@@ -363,10 +364,10 @@ void KirvClient::protocolAboutToBeUnloaded(KirvProtocolBase *protocol)
 
 void KirvClient::creationRefused(const KirvAccountKey &key, const QString &reason)
 {
-    const bool isSaid = companions && companions->takeRefusal(key, reason);
+    const bool isReported = companions && companions->takeRefusal(key, reason);
     if (accountCollection->find(key)) // whoever creates one that exists finds it
         return;
-    if (!isSaid || !store->isInPlace()) // the bar has the button for another folder
+    if (!isReported || !store->isInPlace()) // the bar has the button for another folder
         showRefusal(reason);
 }
 
@@ -379,20 +380,21 @@ void KirvClient::accountChanged(KirvAccount *account)
 void KirvClient::mainAccountChanged()
 {
     updateTitle();
-    settingsWindow->messageBar()->removeMessage(std::exchange(passingOn, QString())); // it names another one
+    settingsWindow->messageBar()->removeMessage(std::exchange(successorMessage, QString())); // it names another one
     if (companions->page())
         companions->page()->mainAccountChanged();
 }
 
-void KirvClient::mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next)
+void KirvClient::mainAccountSuccessorChosen(const QString &previous, KirvMainAccount::Reason reason,
+                                            const KirvAccount *next)
 {
     const QString text = reason == KirvMainAccount::Removed
         //: %1 and %2 = names of accounts
         ? tr("%1 is the main account now, because %2 was removed.")
         //: %1 and %2 = names of accounts
         : tr("%1 is the main account now, because %2 was disabled.");
-    passingOn = text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous));
-    settingsWindow->messageBar()->showMessage(passingOn, QString(), {}, KirvMessageBar::Information);
+    successorMessage = text.arg(kirvPlainName(next->displayName()), kirvPlainName(previous));
+    settingsWindow->messageBar()->showMessage(successorMessage, QString(), {}, KirvMessageBar::Information);
 }
 
 void KirvClient::updateTitle()

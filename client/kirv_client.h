@@ -96,7 +96,7 @@ private:
     void creationRefused(const KirvAccountKey &key, const QString &reason);
     void accountChanged(KirvAccount *account);
     void updateTitle();
-    void mainAccountPassedOn(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next);
+    void mainAccountSuccessorChosen(const QString &previous, KirvMainAccount::Reason reason, const KirvAccount *next);
     void showNotice(const KirvAccount *account, const QString &text);
     void showProblem(const QString &text);
     void showRefusal(const QString &text);
@@ -104,7 +104,7 @@ private:
 
     const KirvClientOptions options;
     KirvAccountLink unopenedLink;
-    QString passingOn; ///< the message about the main account
+    QString successorMessage; ///< the message about the main account
     QString error;
     // In the order in which they are made; they are destroyed the other way round.
     std::unique_ptr<KirvStore> store;

@@ -157,7 +157,7 @@ KirvClientOptions KirvClientOptions::fromCommandLine(const QStringList &argument
     return options;
 }
 
-bool KirvClientOptions::maySayNoWindow(const QStringList &arguments)
+bool KirvClientOptions::isWithoutWindow(const QStringList &arguments)
 {
     static const QStringList words { QStringLiteral("--check"),   QStringLiteral("--restore"),
                                      QStringLiteral("--recover"), QStringLiteral("--help"),

@@ -44,7 +44,7 @@ public:
     /// what it does not understand.
     static KirvClientOptions fromCommandLine(const QStringList &arguments);
     /// Whether one of \a arguments says that no window is to be shown, so that no display is needed.
-    static bool maySayNoWindow(const QStringList &arguments);
+    static bool isWithoutWindow(const QStringList &arguments);
 };
 
 #endif

@@ -154,7 +154,7 @@ void KirvDirectoryGuard::saveEnded(bool saved)
     failure = KirvFailure();
     publishing = saved && edited->directory().isBusy();
     if (!saved)
-        bringBackTyped();
+        restoreTyped();
     updateStatus();
 }
 
@@ -174,7 +174,7 @@ bool KirvDirectoryGuard::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::EnabledChange)
         updateStatus();
     else if (event->type() == QEvent::Show) // from the event loop: the page is first
-        QMetaObject::invokeMethod(this, &KirvDirectoryGuard::fetchWhenSeen, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &KirvDirectoryGuard::fetchWhenVisible, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
 
@@ -199,7 +199,7 @@ void KirvDirectoryGuard::receive(KirvAccountDirectory::Operation operation, cons
     const bool isSuccess = answer.outcome != KirvDirectoryAnswer::Failed;
     const bool isPublished = isSuccess && operation == KirvAccountDirectory::Publish;
     if (wasPublishing && !isPublished) // a later request may have taken the place of the publication
-        bringBackTyped();
+        restoreTyped();
     else if (isSuccess)
         deliver(edited->directory().base());
     // Else the fields stay locked: what they would publish is not based on anything.
@@ -210,7 +210,7 @@ void KirvDirectoryGuard::receive(KirvAccountDirectory::Operation operation, cons
 
 /// The page takes what it published for the known entry. The entry before is known again, and the fields differ from
 /// it as typed, so that the next save publishes them again.
-void KirvDirectoryGuard::bringBackTyped()
+void KirvDirectoryGuard::restoreTyped()
 {
     const QList<KirvField> base = account()->directory().base();
     if (base.isEmpty())
@@ -226,12 +226,12 @@ void KirvDirectoryGuard::onAccountChanged(KirvAccount *changed)
     const bool cameOnline = changed->isOnline() && !wasOnline;
     wasOnline = changed->isOnline();
     if (cameOnline && isLocked())
-        fetchWhenSeen();
+        fetchWhenVisible();
     updateStatus();
 }
 
 /// The page fetches the entry when the tab changes; the fields of a layout of the user's own may be seen without that.
-void KirvDirectoryGuard::fetchWhenSeen()
+void KirvDirectoryGuard::fetchWhenVisible()
 {
     KirvAccount *edited = account();
     if (!controller || !edited || !fields || !fields->isVisible() || publishing || edited->directory().isBusy())

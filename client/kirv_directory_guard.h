@@ -57,10 +57,10 @@ private:
     void findFields();
     void findControls(QWidget *place);
     void findButtons();
-    void fetchWhenSeen();
+    void fetchWhenVisible();
     void deliver(const QList<KirvField> &fields);
     void receive(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
-    void bringBackTyped();
+    void restoreTyped();
     QStringList wrongChanges() const;
     void onAccountChanged(KirvAccount *changed);
     void updateStatus();

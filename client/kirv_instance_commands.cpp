@@ -19,7 +19,7 @@ KirvInstanceCommands::KirvInstanceCommands(KirvClient &client, KirvRunningInstan
           this))
 {
     // Queued, as the window for a new account runs an event loop of its own.
-    connect(&instance, &KirvRunningInstance::startedAgain, &client, &KirvClient::show, Qt::QueuedConnection);
+    connect(&instance, &KirvRunningInstance::laterStart, &client, &KirvClient::show, Qt::QueuedConnection);
     instance.setHandler(
         [this](const QJsonObject &message, const KirvRunningInstance::Reply &reply) { handle(message, reply); });
 }

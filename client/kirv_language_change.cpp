@@ -30,11 +30,11 @@ QString KirvLanguageChange::chosen(const KirvClientSettings &settings)
     return settings.value(languageKey);
 }
 
-void KirvLanguageChange::speakChosen(const KirvClientSettings &settings)
+void KirvLanguageChange::applyStored(const KirvClientSettings &settings)
 {
     KirvTranslations *translations = KirvTranslations::instance();
     if (translations && translations->chosen() != chosen(settings))
-        translations->speak(chosen(settings));
+        translations->use(chosen(settings));
 }
 
 bool KirvLanguageChange::choose(const QString &language)
@@ -50,7 +50,7 @@ bool KirvLanguageChange::choose(const QString &language)
 }
 
 /// Windows show texts of the language that was, and a loop inside of one of the page's functions needs the page.
-bool KirvLanguageChange::isHindered() const
+bool KirvLanguageChange::isBlocked() const
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return QThread::currentThread()->loopLevel() > level
@@ -61,7 +61,7 @@ bool KirvLanguageChange::isHindered() const
 
 void KirvLanguageChange::apply()
 {
-    if (isHindered()) {
+    if (isBlocked()) {
         if (retry.interval() == 0) {
             retry.start(retryMilliseconds);
             Q_EMIT pendingChanged();
@@ -69,6 +69,6 @@ void KirvLanguageChange::apply()
         return;
     }
     retry.stop();
-    speakChosen(settings);
+    applyStored(settings);
     Q_EMIT changed();
 }

@@ -21,7 +21,7 @@ public:
     /// What is stored; empty: as the system.
     static QString chosen(const KirvClientSettings &settings);
     /// Has the program speak what is stored. For the start, before there are windows.
-    static void speakChosen(const KirvClientSettings &settings);
+    static void applyStored(const KirvClientSettings &settings);
 
     /// Stores \a language; empty: as the system. False when that was refused.
     bool choose(const QString &language);
@@ -35,7 +35,7 @@ Q_SIGNALS:
 
 private:
     void apply();
-    bool isHindered() const;
+    bool isBlocked() const;
 
     KirvClientSettings &settings;
     KirvWindowCompanions &companions;

@@ -140,9 +140,9 @@ void KirvLoginTestView::showResult()
 {
     const QString result = kirvVisibleText(current->result());
     const QList<KirvLoginTest::Step> steps = current->steps();
-    const bool isSaid = std::any_of(steps.begin(), steps.end(),
-                                    [](const KirvLoginTest::Step &step) { return !step.problem.isEmpty(); });
-    if (!isSaid) {
+    const bool isReported = std::any_of(steps.begin(), steps.end(),
+                                        [](const KirvLoginTest::Step &step) { return !step.problem.isEmpty(); });
+    if (!isReported) {
         auto *item = new QListWidgetItem(result, list);
         const bool works = current->state() == KirvLoginTest::Succeeded;
         item->setData(KirvEventDelegate::OutcomeRole, int(works ? KirvLoginStep::Done : KirvLoginStep::Failed));

@@ -73,7 +73,7 @@ bool KirvMovedFile::write(const QByteArray &bytes, bool overwrites)
     const QString part = path + QLatin1String(".part-") + QUuid::createUuid().toString(QUuid::WithoutBraces).left(8);
     bool isDone = kirvMakePrivateFile(part);
     if (isDone) {
-        isDone = writeAndSync(part, bytes) && (overwrites ? kirvReplaceFile(part, path) : kirvNameFileToo(part, path));
+        isDone = writeAndSync(part, bytes) && (overwrites ? kirvReplaceFile(part, path) : kirvLinkFile(part, path));
         QFile::remove(part);
     }
     if (!isDone)

@@ -19,14 +19,14 @@ KirvPasswordQuestions::KirvPasswordQuestions(KirvAccountCollection &accounts, QW
 
 void KirvPasswordQuestions::ask(const KirvAccount *account)
 {
-    const bool isAskedNow = dialog && dialog->key() == account->key();
-    if (isAskedNow || waiting.contains(account->key()))
+    const bool isOpenNow = dialog && dialog->key() == account->key();
+    if (isOpenNow || waiting.contains(account->key()))
         return;
     waiting << account->key();
-    askNext();
+    openNext();
 }
 
-void KirvPasswordQuestions::withdrawProtocol(const QString &protocol)
+void KirvPasswordQuestions::closeQuestionsOf(const QString &protocol)
 {
     const auto isOfProtocol = [&protocol](const KirvAccountKey &key) { return key.protocol == protocol; };
     waiting.erase(std::remove_if(waiting.begin(), waiting.end(), isOfProtocol), waiting.end());
@@ -41,7 +41,7 @@ void KirvPasswordQuestions::withdraw(const KirvAccountKey &key)
         dialog->reject();
 }
 
-void KirvPasswordQuestions::askNext()
+void KirvPasswordQuestions::openNext()
 {
     while (!dialog && !waiting.isEmpty()) {
         const KirvAccount *account = accounts.find(waiting.takeFirst());
@@ -63,5 +63,5 @@ void KirvPasswordQuestions::answered(int result)
         account->providePasswordForNow(finished->password());
     else if (result == QDialog::Accepted && account)
         account->providePassword(finished->password(), finished->isToBeRemembered());
-    askNext();
+    openNext();
 }

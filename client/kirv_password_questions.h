@@ -26,11 +26,11 @@ public:
     /// Asks for the password of \a account, after the questions asked before; once at a time.
     void ask(const KirvAccount *account);
     /// Takes back the questions about the accounts of \a protocol.
-    void withdrawProtocol(const QString &protocol);
+    void closeQuestionsOf(const QString &protocol);
 
 private:
     void withdraw(const KirvAccountKey &key);
-    void askNext();
+    void openNext();
     void answered(int result);
 
     KirvAccountCollection &accounts;

@@ -35,7 +35,7 @@ KirvPluginsPage::KirvPluginsPage(KirvPluginLoader &plugins, KirvPluginQueue &que
     connect(loadButton, &QPushButton::clicked, this, &KirvPluginsPage::loadCurrent);
     connect(unloadButton, &QPushButton::clicked, this, &KirvPluginsPage::unloadCurrent);
     connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::refresh);
-    connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::closeNeedlessQuestion);
+    connect(&plugins, &KirvPluginLoader::pluginsChanged, this, &KirvPluginsPage::closeOutdatedQuestion);
     refresh();
 }
 
@@ -189,7 +189,7 @@ void KirvPluginsPage::confirmUnloading(const QString &name, const QString &fileN
 }
 
 /// The plug-in that it is about was unloaded meanwhile.
-void KirvPluginsPage::closeNeedlessQuestion()
+void KirvPluginsPage::closeOutdatedQuestion()
 {
     if (question && !plugins.plugin(questionedFile).loaded)
         question->close();

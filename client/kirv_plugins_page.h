@@ -45,7 +45,7 @@ private:
     void unloadCurrent();
     /// Asks before the plug-in of \a fileName, which has \a connected accounts, is unloaded.
     void confirmUnloading(const QString &name, const QString &fileName, const QList<const KirvAccount *> &connected);
-    void closeNeedlessQuestion();
+    void closeOutdatedQuestion();
     /// Null when no row is current.
     const KirvPluginInfo *current() const;
 

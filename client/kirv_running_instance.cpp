@@ -119,7 +119,7 @@ void KirvRunningInstance::handle(KirvInstanceConnection *connection, const QJson
     const QString link = message.value(linkKey).toString();
     if (message.value(commandKey).toString() == shown && link.toUtf8().size() < longestLink) {
         reply({ { commandKey, shown } });
-        Q_EMIT startedAgain(KirvAccountLink::fromText(link));
+        Q_EMIT laterStart(KirvAccountLink::fromText(link));
     } else if (handler) {
         handler(message, reply);
     } else {

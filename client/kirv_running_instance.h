@@ -65,7 +65,7 @@ public:
 
 Q_SIGNALS:
     /// The program was started again, with \a link, or without one when that is null.
-    void startedAgain(const KirvAccountLink &link);
+    void laterStart(const KirvAccountLink &link);
 
 private:
     static QString socketPath(const QString &profileFolder);

@@ -93,14 +93,14 @@ void KirvSettingsWindow::arrange()
     pagesLayout->addLayout(listLayout);
     pagesLayout->addWidget(pages, 1);
 
-    auto *newsLayout = new QVBoxLayout;
-    newsLayout->setContentsMargins(left, top, left, 0);
-    newsLayout->setSpacing(top);
-    newsLayout->addWidget(banner);
+    auto *messageLayout = new QVBoxLayout;
+    messageLayout->setContentsMargins(left, top, left, 0);
+    messageLayout->setSpacing(top);
+    messageLayout->addWidget(banner);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addLayout(newsLayout);
+    layout->addLayout(messageLayout);
     layout->addLayout(pagesLayout, 1);
     messages->floatOver(pages);
 }

@@ -28,7 +28,7 @@ void KirvStateLine::refresh()
     if (!account)
         return;
     const KirvAccountStatus status(*account, false);
-    label->setText(status.spokenLine());
+    label->setText(status.accessibleLine());
     const QString reason = status.reason();
     label->setToolTip(kirvPlainToolTip(reason)); // servers have their words in it
     label->setAccessibleDescription(reason);

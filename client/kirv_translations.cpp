@@ -108,7 +108,7 @@ bool KirvTranslations::isRead(const QString &language)
     return language == english(); // the texts were written in it; translations/README.md says the same of each
 }
 
-void KirvTranslations::speak(const QString &language)
+void KirvTranslations::use(const QString &language)
 {
     wanted = language;
     const bool isChosen = languages().contains(language);

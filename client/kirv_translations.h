@@ -39,8 +39,8 @@ public:
     static bool isRead(const QString &language);
 
     /// Speaks \a language, which is one of languages(); otherwise, and when it is empty, that of the system.
-    void speak(const QString &language);
-    /// What speak() was called with last.
+    void use(const QString &language);
+    /// What use() was called with last.
     QString chosen() const { return wanted; }
     /// What is spoken when the system chooses, one of languages().
     QString languageOfSystem() const { return languageOf(systemLocale); }

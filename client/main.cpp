@@ -52,7 +52,7 @@ bool runWithoutWindow(int argc, char *argv[], int *status)
         return true;
     }
     const bool isForDisplay = KirvApplication::expectsDisplay(arguments);
-    if (isForDisplay && !KirvClientOptions::maySayNoWindow(arguments))
+    if (isForDisplay && !KirvClientOptions::isWithoutWindow(arguments))
         return false;
     QCoreApplication application(argc, argv);
     KirvApplication::prepare(application);

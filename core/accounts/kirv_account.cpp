@@ -68,7 +68,7 @@ void KirvAccount::beginSave()
     if (saveDepth++ > 0)
         return;
     recordBefore = current;
-    presenceBefore = askedPresence;
+    presenceBefore = requestedPresence;
     reconciler.hold();
     entry.hold();
 }
@@ -80,7 +80,7 @@ bool KirvAccount::endSave()
     const bool isKept = !std::exchange(isCancelled, false);
     if (!isKept)
         takeBackChanges();
-    const bool isChanged = current != recordBefore || !isSame(askedPresence, presenceBefore);
+    const bool isChanged = current != recordBefore || !isSame(requestedPresence, presenceBefore);
     const bool isStored = isKept && store();
     recordBefore = KirvAccountRecord(); // it may have the last copy of a password
     discardUnusedAvatars();
@@ -107,7 +107,7 @@ bool KirvAccount::store()
         current = placed;
         awaited.intersect(current.unreadSecrets);
         if (current.secretItems != recordBefore.secretItems)
-            keeper.settle();
+            keeper.scheduleLoad();
         return true;
     }
     takeBackChanges();
@@ -117,7 +117,7 @@ bool KirvAccount::store()
 void KirvAccount::takeBackChanges()
 {
     current = recordBefore;
-    askedPresence = presenceBefore;
+    requestedPresence = presenceBefore;
 }
 
 QList<KirvField> KirvAccount::settings() const
@@ -149,9 +149,9 @@ bool KirvAccount::setEnabled(bool enabled)
     const bool isStored = change([&](KirvAccountRecord &record) {
         record.enabled = enabled;
         if (enabled)
-            askedPresence = presence;
+            requestedPresence = presence;
         else
-            askedPresence.reset();
+            requestedPresence.reset();
     });
     if (alive && isStored && enabled) {
         readSecretsAgain();
@@ -164,15 +164,15 @@ bool KirvAccount::setEnabled(bool enabled)
 void KirvAccount::setStoredEnabled(bool enabled, bool isAgain)
 {
     if (enabled) {
-        askedPresence = isAgain && presenceWhenDisabled ? *presenceWhenDisabled : logInPresence();
+        requestedPresence = isAgain && presenceWhenDisabled ? *presenceWhenDisabled : logInPresence();
     } else {
         presenceWhenDisabled = presence();
-        askedPresence.reset();
+        requestedPresence.reset();
     }
     current.enabled = enabled;
     if (isSaving()) {
         recordBefore.enabled = enabled;
-        presenceBefore = askedPresence;
+        presenceBefore = requestedPresence;
     }
     refreshDescription();
 }
@@ -212,7 +212,7 @@ KirvPresence KirvAccount::startPresence() const
 
 KirvPresence KirvAccount::presence() const
 {
-    return askedPresence ? *askedPresence : startPresence();
+    return requestedPresence ? *requestedPresence : startPresence();
 }
 
 /// The presence for a log-in that is wanted explicitly: never an off-line one when there is a better one.
@@ -228,7 +228,7 @@ KirvPresence KirvAccount::logInPresence() const
 bool KirvAccount::setPresence(const KirvPresence &presence)
 {
     return change([&](KirvAccountRecord &record) {
-        askedPresence = presence;
+        requestedPresence = presence;
         record.lastPresence = presence.getId();
         record.lastDescription = presence.getDescription();
     });
@@ -236,7 +236,7 @@ bool KirvAccount::setPresence(const KirvPresence &presence)
 
 void KirvAccount::resume(const KirvPresence &presence)
 {
-    askedPresence = presence;
+    requestedPresence = presence;
     reconciler.schedule();
 }
 
@@ -248,11 +248,11 @@ void KirvAccount::adopt(const KirvAccountRecord &stored, const KirvPresence &wan
         recordBefore = stored;
     unstoredPassword = false;
     if (!current.enabled)
-        askedPresence.reset();
+        requestedPresence.reset();
     else if (!wanted.getId().isEmpty())
-        askedPresence = wanted;
+        requestedPresence = wanted;
     else if (becomesEnabled)
-        askedPresence = logInPresence();
+        requestedPresence = logInPresence();
     awaited = current.unreadSecrets;
     if (usesPasswordForNow())
         awaited.remove(QString());
@@ -267,15 +267,15 @@ void KirvAccount::adopt(const KirvAccountRecord &stored, const KirvPresence &wan
 void KirvAccount::tryAgain()
 {
     mayLogIn = true;
-    reconciler.insist(KirvReconciler::Retry);
+    reconciler.requestStep(KirvReconciler::Retry);
 }
 
 void KirvAccount::reconnect()
 {
     mayLogIn = true;
-    askedPresence = logInPresence();
+    requestedPresence = logInPresence();
     readSecretsAgain();
-    reconciler.insist(KirvReconciler::Reconnect);
+    reconciler.requestStep(KirvReconciler::Reconnect);
 }
 
 void KirvAccount::providePassword(const QString &password, bool remember)
@@ -295,7 +295,7 @@ void KirvAccount::providePassword(const QString &password, bool remember)
         current.rememberPassword = current.rememberPassword && remember;
         unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
     }
-    askedPresence = logInPresence();
+    requestedPresence = logInPresence();
     awaited.remove(QString());
     tryAgain();
 }
@@ -324,7 +324,7 @@ bool KirvAccount::acceptServerPassword(const QString &password)
         current.secretItems = accepted.secretItems;
         if (isSaving())
             recordBefore.secretItems = accepted.secretItems;
-        keeper.settle();
+        keeper.scheduleLoad();
     }
     unstoredPassword = !isStored;
     const QPointer<KirvAccount> alive(this);
@@ -383,7 +383,7 @@ void KirvAccount::unload()
         loadedProtocol.clear();
 }
 
-void KirvAccount::leave()
+void KirvAccount::logOutAndDelete()
 {
     removed = true;
     keeper.remove(this);

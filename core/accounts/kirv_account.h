@@ -141,7 +141,7 @@ public:
     /// Wants \a presence in this run; what is stored stays as it is.
     void resume(const KirvPresence &presence);
     /// The account is not configured any more: logs out, emits nothing from now on and destroys itself then.
-    void leave();
+    void logOutAndDelete();
     bool isRemoved() const { return removed; }
     /// The profile says that the account is enabled, or disabled. When \a isAgain, an account that was disabled in this
     /// run has the presence that it had then. Emits nothing; followEnabled() belongs to it.
@@ -199,7 +199,7 @@ private:
     std::optional<KirvPresence> presenceBefore;
     QStringList importedAvatars; ///< by the open save
 
-    std::optional<KirvPresence> askedPresence; ///< in this run; empty: the stored one
+    std::optional<KirvPresence> requestedPresence; ///< in this run; empty: the stored one
     std::optional<KirvPresence> presenceWhenDisabled; ///< the last time in this run
     bool unstoredPassword = false;
     bool hasPasswordForNow = false;

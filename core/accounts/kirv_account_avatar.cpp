@@ -28,9 +28,9 @@ bool KirvAccount::setAvatar(const QString &path)
             return false;
         }
     }
-    const bool hadNone = avatar.isEmpty() && current.avatar.isEmpty();
-    return takeAvatar(avatar, [hadNone](KirvAccountRecord &record) {
-        if (!hadNone)
+    const bool hadNoAvatar = avatar.isEmpty() && current.avatar.isEmpty();
+    return takeAvatar(avatar, [hadNoAvatar](KirvAccountRecord &record) {
+        if (!hadNoAvatar)
             record.settings.insert(KirvOwnSetting::avatarIsChosen, QStringLiteral("true"));
     });
 }

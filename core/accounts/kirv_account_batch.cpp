@@ -43,7 +43,7 @@ bool KirvAccountCollection::apply(const KirvAccountBatch &batch)
 QString KirvAccountCollection::problemOf(const KirvAccountBatch &batch) const
 {
     for (const KirvRemovedAccount &added : batch.added) {
-        const QString twin = whyExists(added.record.key);
+        const QString twin = existenceProblem(added.record.key);
         if (!twin.isEmpty())
             return twin;
     }
@@ -187,7 +187,7 @@ void KirvAccountCollection::finishBatch(const KirvAccountBatch &batch, const Pla
         replaced << account;
     }
     const QList<QPointer<KirvAccount>> removed(batch.removed.begin(), batch.removed.end());
-    keeper.settle();
+    keeper.scheduleLoad();
     if (batch.onStored)
         batch.onStored();
 
@@ -228,7 +228,7 @@ void KirvAccountCollection::arrangeAll(const QList<KirvAccountKey> &order)
 QHash<KirvAccountKey, QPointer<KirvAccount>> KirvAccountCollection::leavingAccounts() const
 {
     QHash<KirvAccountKey, QPointer<KirvAccount>> leaving;
-    const auto children = withLeaving();
+    const auto children = allWithRemoved();
     for (KirvAccount *account : children) {
         if (account->isRemoved())
             leaving.insert(account->key(), account);

@@ -23,7 +23,7 @@ KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
     , keeper(store)
 {
     nextTurn.setSingleShot(true);
-    connect(&nextTurn, &QTimer::timeout, this, &KirvAccountCollection::reactToNetwork);
+    connect(&nextTurn, &QTimer::timeout, this, &KirvAccountCollection::notifyOfNetwork);
     nextFollowing.setSingleShot(true);
     connect(&nextFollowing, &QTimer::timeout, this, &KirvAccountCollection::followNext);
     // When several accounts were disabled, their connections follow a few at a time; none logs in before.
@@ -40,7 +40,7 @@ KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
 
 KirvAccountCollection::~KirvAccountCollection()
 {
-    for (const QPointer<KirvAccount> &account : guarded(withLeaving())) {
+    for (const QPointer<KirvAccount> &account : guarded(allWithRemoved())) {
         if (account)
             account->disconnect(this);
         delete account;
@@ -110,13 +110,13 @@ void KirvAccountCollection::protocolLoaded(KirvProtocolBase *protocol, bool logI
             Q_EMIT account->changed();
     }
     if (alive && loaded && protocols.value(name) == loaded)
-        reportTwins(name);
+        reportDuplicateLogins(name);
 }
 
 /// One text for all of them: there may be many.
-void KirvAccountCollection::reportTwins(const QString &protocol)
+void KirvAccountCollection::reportDuplicateLogins(const QString &protocol)
 {
-    const QList<QStringList> groups = logins.twins(protocol);
+    const QList<QStringList> groups = logins.duplicateLogins(protocol);
     if (groups.isEmpty())
         return;
     const QString first = groups.first().at(0), second = groups.first().at(1);
@@ -138,7 +138,7 @@ void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
     if (KirvProtocolBase *unloaded = protocols.take(protocol))
         unloaded->disconnect(this);
     // Those that were removed and are still logging out have connections of the protocol, too.
-    for (const QPointer<KirvAccount> &account : guarded(withLeaving())) {
+    for (const QPointer<KirvAccount> &account : guarded(allWithRemoved())) {
         if (!account || account->key().protocol != protocol)
             continue;
         if (account->protocol() && account->protocol() == protocols.value(protocol)) // by a slot, again
@@ -152,28 +152,28 @@ void KirvAccountCollection::protocolAboutToBeUnloaded(const QString &protocol)
 /// Another change starts over: it may have come after an account has reacted.
 void KirvAccountCollection::networkChanged()
 {
-    unaware = guarded(mainFirst(all));
+    networkChangePending = guarded(mainFirst(all));
     nextTurn.start(0);
 }
 
-void KirvAccountCollection::reactToNetwork()
+void KirvAccountCollection::notifyOfNetwork()
 {
     const QPointer<KirvAccountCollection> alive(this);
-    for (int reacted = 0; alive && reacted < accountsPerTurn && !unaware.isEmpty(); ++reacted) {
-        const QPointer<KirvAccount> account = unaware.takeFirst();
+    for (int reacted = 0; alive && reacted < accountsPerTurn && !networkChangePending.isEmpty(); ++reacted) {
+        const QPointer<KirvAccount> account = networkChangePending.takeFirst();
         if (account && !account->isRemoved() && account->connection())
             account->connection()->networkChanged();
     }
-    if (alive && !unaware.isEmpty())
+    if (alive && !networkChangePending.isEmpty())
         nextTurn.start(0);
 }
 
 void KirvAccountCollection::logOutAll(int milliseconds)
 {
-    unaware.clear();
+    networkChangePending.clear();
     following.clear();
     QList<QPointer<KirvConnection>> open;
-    for (KirvAccount *account : withLeaving()) {
+    for (KirvAccount *account : allWithRemoved()) {
         if (account->connection())
             open << account->connection();
         account->stopReconciling();
@@ -239,7 +239,7 @@ void KirvAccountCollection::takeOut(KirvAccount *account, const KirvAccountKey &
 }
 
 /// With the removed ones that are not logged out yet.
-QList<KirvAccount *> KirvAccountCollection::withLeaving() const
+QList<KirvAccount *> KirvAccountCollection::allWithRemoved() const
 {
     return findChildren<KirvAccount *>(QString(), Qt::FindDirectChildrenOnly);
 }
@@ -251,7 +251,7 @@ QString KirvAccountCollection::idWithSameLogin(const KirvAccountKey &key) const
 }
 
 /// Empty when there is no such account.
-QString KirvAccountCollection::whyExists(const KirvAccountKey &key) const
+QString KirvAccountCollection::existenceProblem(const KirvAccountKey &key) const
 {
     const QString same = idWithSameLogin(key);
     if (same.isEmpty())
@@ -265,7 +265,7 @@ QString KirvAccountCollection::whyExists(const KirvAccountKey &key) const
 
 QString KirvAccountCollection::problemWithNew(const KirvAccountKey &key) const
 {
-    const QString twin = whyExists(key);
+    const QString twin = existenceProblem(key);
     if (!twin.isEmpty())
         return twin;
     const KirvProtocolBase *protocol = protocols.value(key.protocol);
@@ -298,7 +298,7 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     error.clear();
     const QPointer<KirvAccountCollection> alive(this);
     const QPointer<KirvAccount> account = append(complete);
-    keeper.settle();
+    keeper.scheduleLoad();
     account->load(known, true);
     account->tryAgain(); // the user has just made it: it does not wait behind the others
     Q_EMIT accountAdded(account);
@@ -354,8 +354,8 @@ void KirvAccountCollection::refuseRemoval(const QList<QPointer<KirvAccount>> &ac
 void KirvAccountCollection::removeStored(KirvAccount *account)
 {
     const KirvAccountKey key = account->key();
-    account->leave();
-    keeper.settle();
+    account->logOutAndDelete();
+    keeper.scheduleLoad();
     const QPointer<KirvAccountCollection> alive(this);
     Q_EMIT accountAboutToBeRemoved(account);
     if (!alive)

@@ -164,15 +164,15 @@ private:
     void followNext();
     QList<KirvAccount *> mainFirst(QList<KirvAccount *> accounts) const;
     void takeOut(KirvAccount *account, const KirvAccountKey &key);
-    QList<KirvAccount *> withLeaving() const;
-    QString whyExists(const KirvAccountKey &key) const;
+    QList<KirvAccount *> allWithRemoved() const;
+    QString existenceProblem(const KirvAccountKey &key) const;
     KirvAccount *refuseCreation(const KirvAccountKey &key, const QString &reason);
     void requestDirectory(KirvAccountConnection *account, KirvProtocolBase::DirectoryOperation operation,
                           const QList<KirvField> &fields);
     static QString protocolIsNotLoaded(const KirvAccountKey &key);
-    void reportTwins(const QString &protocol);
+    void reportDuplicateLogins(const QString &protocol);
     void refuse(const QString &reason);
-    void reactToNetwork();
+    void notifyOfNetwork();
 
     KirvStore &store;
     KirvLoginQueue queue;
@@ -186,7 +186,7 @@ private:
     KirvLoginIndex logins;
     QHash<QString, QPointer<KirvProtocolBase>> protocols;
     QString error;
-    QList<QPointer<KirvAccount>> unaware; ///< of the change of the network
+    QList<QPointer<KirvAccount>> networkChangePending; ///< of the change of the network
     QTimer nextTurn; ///< for them
     QList<QPointer<KirvAccount>> following; ///< a change of several of them
     QTimer nextFollowing;

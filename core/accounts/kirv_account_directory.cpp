@@ -80,9 +80,9 @@ void KirvAccountDirectory::connectionSettled()
 {
     if (!held || saving || !connection)
         return;
-    const bool isAway = connection->state() == KirvConnection::Offline
+    const bool isGone = connection->state() == KirvConnection::Offline
         || (connection->state() == KirvConnection::Waiting && !connection->isWaitingForTurn());
-    if (!connection->isLoggedIn() && !isAway)
+    if (!connection->isLoggedIn() && !isGone)
         return; // it is on its way
     const QList<KirvField> changes = *held;
     held.reset();

@@ -50,7 +50,7 @@ void KirvAccount::providePasswordForNow(const QString &password)
         recordBefore.password = password;
     hasPasswordForNow = true;
     awaited.remove(QString());
-    askedPresence = logInPresence();
+    requestedPresence = logInPresence();
     tryAgain();
     Q_EMIT changed();
 }

@@ -65,7 +65,7 @@ QString KirvLoginIndex::find(const KirvAccountKey &key) const
     return logins->ids.value(normalized(logins->protocol, key.id)).value(0);
 }
 
-QList<QStringList> KirvLoginIndex::twins(const QString &name) const
+QList<QStringList> KirvLoginIndex::duplicateLogins(const QString &name) const
 {
     QList<QStringList> groups;
     const Logins logins = loaded.value(name);

@@ -30,7 +30,7 @@ public:
     /// and while the protocol is not loaded.
     QString find(const KirvAccountKey &key) const;
     /// The accounts of the protocol \a name that have the same login as another one, each group in the accounts' order.
-    QList<QStringList> twins(const QString &name) const;
+    QList<QStringList> duplicateLogins(const QString &name) const;
 
 private:
     struct Logins {

@@ -116,11 +116,11 @@ void KirvLoginQueue::start(KirvConnection *connection, Priority priority)
     const quint64 number = ++lastNumber;
     hasStarted = true;
     attempts.insert(connection, { priority, number });
-    clock.callLater(bounds.patience, this, [this, connection, number] { endPatience(connection, number); });
+    clock.callLater(bounds.countedFor, this, [this, connection, number] { endCounting(connection, number); });
 }
 
 /// \a connection may be destroyed, and another one may have its address.
-void KirvLoginQueue::endPatience(KirvConnection *connection, quint64 number)
+void KirvLoginQueue::endCounting(KirvConnection *connection, quint64 number)
 {
     if (attempts.value(connection).number != number)
         return;

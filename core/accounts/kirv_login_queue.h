@@ -23,7 +23,7 @@ public:
     struct Limits {
         int attempts = 6; ///< in progress at once, of those that are not urgent
         int urgentAttempts = 6; ///< in progress at once, of those that are
-        int patience = 3000; ///< milliseconds after which an attempt does not count any more
+        int countedFor = 3000; ///< milliseconds after which an attempt does not count any more
     };
     enum Priority {
         Ordinary,
@@ -65,7 +65,7 @@ private:
     void enqueue(KirvConnection *connection, Priority priority);
     KirvConnection *takeNext(Priority *priority);
     void start(KirvConnection *connection, Priority priority);
-    void endPatience(KirvConnection *connection, quint64 number);
+    void endCounting(KirvConnection *connection, quint64 number);
     void goOn();
     void takeTurn();
 

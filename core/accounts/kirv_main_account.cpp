@@ -32,7 +32,7 @@ KirvMainAccount::KirvMainAccount(const KirvAccountCollection &accounts, KirvClie
         if (!isRestored)
             return;
         if (changed == account() && !canBeMain(changed))
-            passOn(changed, Disabled);
+            chooseSuccessor(changed, Disabled);
         else if (!account() && canBeMain(changed))
             assign(firstEnabled());
     });
@@ -40,13 +40,13 @@ KirvMainAccount::KirvMainAccount(const KirvAccountCollection &accounts, KirvClie
     connect(&accounts, &KirvAccountCollection::enabledChanged, this, [this] {
         const KirvAccount *present = account();
         if (isRestored && present && !canBeMain(present))
-            passOn(present, Disabled);
+            chooseSuccessor(present, Disabled);
         else if (isRestored && !present)
             assign(firstEnabled());
     });
     connect(&accounts, &KirvAccountCollection::accountAboutToBeRemoved, this, [this](const KirvAccount *removed) {
         if (removed == account())
-            passOn(removed, Removed);
+            chooseSuccessor(removed, Removed);
     });
 }
 
@@ -79,13 +79,13 @@ KirvAccount *KirvMainAccount::firstEnabled() const
     return nullptr;
 }
 
-void KirvMainAccount::passOn(const KirvAccount *previous, Reason reason)
+void KirvMainAccount::chooseSuccessor(const KirvAccount *previous, Reason reason)
 {
     const QString name = previous->displayName();
     const QPointer<KirvMainAccount> alive(this);
     assign(isRestored ? firstEnabled() : nullptr);
     if (alive && account())
-        emit passedOn(name, reason, account());
+        emit successorChosen(name, reason, account());
 }
 
 /// What the store refuses is chosen all the same: the next start comes to the same by the rule.

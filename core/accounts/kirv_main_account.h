@@ -37,11 +37,11 @@ Q_SIGNALS:
     void changed();
     /// The rule made \a next the main account, as that of the name \a previous cannot be it any more. Comes after
     /// changed().
-    void passedOn(const QString &previous, KirvMainAccount::Reason reason, KirvAccount *next);
+    void successorChosen(const QString &previous, KirvMainAccount::Reason reason, KirvAccount *next);
 
 private:
     KirvAccount *firstEnabled() const;
-    void passOn(const KirvAccount *previous, Reason reason);
+    void chooseSuccessor(const KirvAccount *previous, Reason reason);
     void assign(KirvAccount *account);
 
     const KirvAccountCollection &accounts;

@@ -35,7 +35,7 @@ KirvNetworkWatch::KirvNetworkWatch(const Source &source, const Timing &timing, Q
     const QByteArray network = source.network();
     known = QCryptographicHash::hash(network, QCryptographicHash::Sha256);
     isDue = network.isEmpty();
-    knownSuspended = source.suspended();
+    lastSuspended = source.suspended();
     suspension.start(timing.suspensionCheck);
 }
 
@@ -66,9 +66,9 @@ void KirvNetworkWatch::takeMessages()
 void KirvNetworkWatch::checkSuspension()
 {
     const qint64 suspended = source.suspended();
-    if (suspended - knownSuspended < shortestSuspension)
+    if (suspended - lastSuspended < shortestSuspension)
         return;
-    knownSuspended = suspended;
+    lastSuspended = suspended;
     isDue = true;
     if (!settling.isActive())
         settling.start(timing.settling);

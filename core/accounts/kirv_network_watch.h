@@ -61,7 +61,7 @@ private:
     QTimer suspension;
     QElapsedTimer sinceChange; ///< invalid: there was none
     QByteArray known; ///< a hash of the network that is in use
-    qint64 knownSuspended = 0;
+    qint64 lastSuspended = 0;
     bool isDue = false; ///< a change is to be emitted as soon as there is a network
     int comparisonCount = 0;
 };

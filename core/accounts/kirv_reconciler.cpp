@@ -28,7 +28,7 @@ void KirvReconciler::setConnection(KirvConnection *connection)
         target->setLoginGate(nullptr);
     }
     target = connection;
-    urge = None;
+    requestedStep = None;
     isLoginUrgent = false;
     if (!target)
         return;
@@ -55,26 +55,27 @@ void KirvReconciler::schedule()
     turns.append(this);
 }
 
-void KirvReconciler::insist(Urge newUrge)
+void KirvReconciler::requestStep(RequestedStep newUrge)
 {
-    urge = qMax(urge, newUrge);
+    requestedStep = qMax(requestedStep, newUrge);
     schedule();
 }
 
 void KirvReconciler::hold()
 {
     if (holds++ == 0)
-        urgeBefore = urge;
+        requestedStepBefore = requestedStep;
 }
 
 void KirvReconciler::release(bool kept)
 {
     if (--holds == 0 && !kept)
-        urge = urgeBefore;
+        requestedStep = requestedStepBefore;
     schedule();
 }
 
-KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge)
+KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvConnection &connection,
+                                              RequestedStep requestedStep)
 {
     const KirvConnection::State state = connection.state();
     if (!wanted.online) {
@@ -86,15 +87,15 @@ KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvCo
     switch (state) {
     case KirvConnection::Offline: {
         const bool gaveUp = connection.lastFailure().isFailure();
-        return gaveUp && !isOtherLogin && urge == None ? Nothing : LogIn;
+        return gaveUp && !isOtherLogin && requestedStep == None ? Nothing : LogIn;
     }
     case KirvConnection::Waiting:
-        if (isOtherLogin || urge != None)
+        if (isOtherLogin || requestedStep != None)
             return LogIn;
         break;
     case KirvConnection::Connecting:
     case KirvConnection::Online:
-        if (isOtherLogin || urge == Reconnect)
+        if (isOtherLogin || requestedStep == Reconnect)
             return LogIn;
         break;
     case KirvConnection::Disconnecting:
@@ -112,24 +113,24 @@ void KirvReconciler::reconcile()
         return;
     const QPointer<KirvReconciler> alive(this);
     const Wanted now = wanted();
-    const bool wouldLogIn = target->state() == KirvConnection::Offline || urge != None;
+    const bool wouldLogIn = target->state() == KirvConnection::Offline || requestedStep != None;
     if (now.online && now.awaitsSecrets && wouldLogIn)
         return; // schedule() follows when they are there
-    const Step step = nextStep(now, *target, urge);
-    const bool leavesSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
-    if (!leavesSession) { // an avatar is not published over a session that is not wanted any more
+    const Step step = nextStep(now, *target, requestedStep);
+    const bool endsSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
+    if (!endsSession) { // an avatar is not published over a session that is not wanted any more
         target->setAvatar(now.avatar);
         if (!alive || !target || scheduled) // a slot has changed something
             return;
     }
-    take(step, now, std::exchange(urge, None));
-    if (leavesSession && alive && target)
+    take(step, now, std::exchange(requestedStep, None));
+    if (endsSession && alive && target)
         target->setAvatar(now.avatar);
     if (alive && target && (step == Nothing || step == ChangePresence))
         Q_EMIT settled();
 }
 
-void KirvReconciler::take(Step step, const Wanted &now, Urge followed)
+void KirvReconciler::take(Step step, const Wanted &now, RequestedStep followed)
 {
     if (step != Nothing)
         Q_EMIT stepTaken(step);

@@ -35,7 +35,7 @@ public:
         LogOut
     };
     /// What is requested explicitly, besides what is wanted.
-    enum Urge {
+    enum RequestedStep {
         None,
         Retry, ///< a connection that gave up or waits tries again at once
         Reconnect ///< also, a connection that is logged in logs out and in again, and an attempt starts afresh
@@ -51,9 +51,9 @@ public:
 
     /// Something that is wanted may have changed.
     void schedule();
-    void insist(Urge urge);
-    /// Nothing is done between hold() and the release() that belongs to it. What insist() requested meanwhile counts
-    /// only when it is \a kept.
+    void requestStep(RequestedStep requestedStep);
+    /// Nothing is done between hold() and the release() that belongs to it. What requestStep() requested meanwhile
+    /// counts only when it is \a kept.
     void hold();
     void release(bool kept);
 
@@ -61,7 +61,7 @@ public:
     void reconcile();
 
     /// The one step from the present state of \a connection towards \a wanted.
-    static Step nextStep(const Wanted &wanted, const KirvConnection &connection, Urge urge);
+    static Step nextStep(const Wanted &wanted, const KirvConnection &connection, RequestedStep requestedStep);
 
 Q_SIGNALS:
     /// \a step is about to be taken; it is not Nothing. A slot changes nothing.
@@ -70,14 +70,14 @@ Q_SIGNALS:
     void settled();
 
 private:
-    void take(Step step, const Wanted &wanted, Urge urge);
+    void take(Step step, const Wanted &wanted, RequestedStep requestedStep);
 
     const std::function<Wanted()> wanted;
     KirvLoginQueue &logins;
     KirvReconcilerQueue &turns;
     QPointer<KirvConnection> target;
-    Urge urge = None;
-    Urge urgeBefore = None; ///< when hold() was called
+    RequestedStep requestedStep = None;
+    RequestedStep requestedStepBefore = None; ///< when hold() was called
     int holds = 0;
     bool scheduled = false;
     bool isLoginUrgent = false; ///< the one that is to start

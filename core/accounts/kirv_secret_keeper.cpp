@@ -13,7 +13,7 @@
 
 namespace {
 
-const int tellSize = 10; ///< accounts in one turn of the event loop
+const int notifySize = 10; ///< accounts in one turn of the event loop
 const int keepSize = 5; ///< secrets that are stored in the profile in one
 
 QString randomId()
@@ -38,7 +38,7 @@ void KirvSecretKeeper::setKeyring(KirvSecretStore *keyring)
     if (!secretStore)
         return;
     connect(secretStore, &KirvSecretStore::stateChanged, this, &KirvSecretKeeper::onStateChanged);
-    toldObstacle = Unavailable;
+    notifiedObstacle = Unavailable;
     profileId();
     load();
     onStateChanged();
@@ -124,7 +124,7 @@ void KirvSecretKeeper::read(KirvAccount *account)
 }
 
 /// What is to be done is read from the event loop, once for all that has changed until then.
-void KirvSecretKeeper::settle()
+void KirvSecretKeeper::scheduleLoad()
 {
     if (!secretStore)
         return;
@@ -183,7 +183,7 @@ std::shared_ptr<const QStringList> KirvSecretKeeper::hold(const QStringList &key
     const auto release = [alive = QPointer<KirvSecretKeeper>(this)](const QStringList *released) {
         delete released;
         if (alive)
-            alive->settle();
+            alive->scheduleLoad();
     };
     const std::shared_ptr<const QStringList> holder(new QStringList(keys), release);
     held.push_back(holder);
@@ -205,7 +205,7 @@ void KirvSecretKeeper::onStateChanged()
         if (movable.isEmpty() && toExamine.isEmpty())
             collectMovable();
     }
-    tellAccounts();
+    notifyAccounts();
     next();
 }
 
@@ -225,27 +225,27 @@ void KirvSecretKeeper::keepInProfile()
         QTimer::singleShot(0, this, &KirvSecretKeeper::keepInProfile);
 }
 
-void KirvSecretKeeper::tellAccounts()
+void KirvSecretKeeper::notifyAccounts()
 {
-    if (obstacle() != toldObstacle) {
-        toldObstacle = obstacle();
-        toTell = accounts.keys();
-        QMetaObject::invokeMethod(this, &KirvSecretKeeper::tellNext, Qt::QueuedConnection);
+    if (obstacle() != notifiedObstacle) {
+        notifiedObstacle = obstacle();
+        toNotify = accounts.keys();
+        QMetaObject::invokeMethod(this, &KirvSecretKeeper::notifyNext, Qt::QueuedConnection);
     }
     Q_EMIT changed();
 }
 
 /// A few at a time: thousands may wait, and each changes a row of a list.
-void KirvSecretKeeper::tellNext()
+void KirvSecretKeeper::notifyNext()
 {
     const QPointer<KirvSecretKeeper> alive(this);
-    for (int count = 0; alive && count < tellSize && !toTell.isEmpty(); ++count) {
-        KirvAccount *account = accounts.value(toTell.takeLast());
+    for (int count = 0; alive && count < notifySize && !toNotify.isEmpty(); ++count) {
+        KirvAccount *account = accounts.value(toNotify.takeLast());
         if (account)
             account->secretStateChanged();
     }
-    if (alive && !toTell.isEmpty())
-        QTimer::singleShot(0, this, &KirvSecretKeeper::tellNext);
+    if (alive && !toNotify.isEmpty())
+        QTimer::singleShot(0, this, &KirvSecretKeeper::notifyNext);
 }
 
 void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
@@ -253,7 +253,7 @@ void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
     isPaused = true;
     lastOutcome = reply.outcome;
     store.wipeTraces();
-    tellAccounts();
+    notifyAccounts();
 }
 
 /// From the event loop, and once however many accounts there are.

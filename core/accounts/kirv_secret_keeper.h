@@ -60,7 +60,7 @@ public:
     /// Reads the secrets of \a account once more.
     void read(KirvAccount *account);
     /// What is stored has changed.
-    void settle();
+    void scheduleLoad();
     /// Leaves what stands under \a keys in the keyring as long as the result, or a copy of it, exists: an account that
     /// was removed may come back. Null when there are none.
     std::shared_ptr<const QStringList> hold(const QStringList &keys);
@@ -84,8 +84,8 @@ private:
     void scheduleNext();
     void next();
     void pause(const KirvSecretStore::Reply &reply);
-    void tellAccounts();
-    void tellNext();
+    void notifyAccounts();
+    void notifyNext();
 
     bool readNext();
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
@@ -132,8 +132,8 @@ private:
     bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;
     bool wasPresent = false; ///< there was a keyring in this run
-    Obstacle toldObstacle = None; ///< that the accounts know of
-    QList<KirvAccountKey> toTell;
+    Obstacle notifiedObstacle = None; ///< that the accounts know of
+    QList<KirvAccountKey> toNotify;
     KirvSecretStore::Outcome lastOutcome = KirvSecretStore::Done;
 };
 

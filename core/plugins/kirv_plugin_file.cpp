@@ -48,7 +48,7 @@ KirvPluginInfo KirvPluginFile::inspect() const
                          .arg(KIRV_PROTOCOL_PLUGIN_API);
     info.loadable = info.error.isEmpty();
     if (info.loadable) // it stays loadable: permissions can be put right while the program runs
-        info.error = KirvPluginTrust().whyNot(path);
+        info.error = KirvPluginTrust().refusalReason(path);
     return info;
 }
 

@@ -140,11 +140,11 @@ void KirvPluginQueue::read(const QString &fileName)
     reader.start(new ReadingTask([this, fileName] {
         const KirvPluginFingerprint plugin = fingerprint(fileName, isLeaving);
         QMetaObject::invokeMethod(
-            this, [this, plugin] { judge(plugin); }, Qt::QueuedConnection);
+            this, [this, plugin] { applyRecord(plugin); }, Qt::QueuedConnection);
     }));
 }
 
-void KirvPluginQueue::judge(const KirvPluginFingerprint &plugin)
+void KirvPluginQueue::applyRecord(const KirvPluginFingerprint &plugin)
 {
     if (plugin.isNull()) {
         leaveOut(plugin, KirvPluginRecord::Unknown);

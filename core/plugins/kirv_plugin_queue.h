@@ -51,7 +51,7 @@ private:
     void schedule(Stage next);
     void step();
     void read(const QString &fileName);
-    void judge(const KirvPluginFingerprint &plugin);
+    void applyRecord(const KirvPluginFingerprint &plugin);
     void test(const KirvPluginFingerprint &plugin);
     void take(KirvPluginRecord::Verdict verdict);
     void prepareLoading(const KirvPluginFingerprint &plugin);

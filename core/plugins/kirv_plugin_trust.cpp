@@ -42,7 +42,7 @@ KirvPluginTrust::KirvPluginTrust(unsigned user)
 {
 }
 
-QString KirvPluginTrust::whyNot(const QString &path) const
+QString KirvPluginTrust::refusalReason(const QString &path) const
 {
     const QString file = QFileInfo(path).canonicalFilePath();
     if (file.isEmpty())
@@ -51,14 +51,14 @@ QString KirvPluginTrust::whyNot(const QString &path) const
     QStringList entries { file, QFileInfo(file).path(), QFileInfo(QFileInfo(path).path()).canonicalFilePath() };
     entries.removeDuplicates();
     for (const QString &entry : qAsConst(entries)) {
-        const QString reason = whyNotEntry(entry);
+        const QString reason = entryRefusalReason(entry);
         if (!reason.isEmpty())
             return reason;
     }
     return QString();
 }
 
-QString KirvPluginTrust::whyNotEntry(const QString &path) const
+QString KirvPluginTrust::entryRefusalReason(const QString &path) const
 {
     const QByteArray encoded = QFile::encodeName(path);
     const QString shown = QDir::toNativeSeparators(path);
@@ -103,7 +103,7 @@ KirvPluginTrust::KirvPluginTrust(unsigned user)
 {
 }
 
-QString KirvPluginTrust::whyNot(const QString &) const
+QString KirvPluginTrust::refusalReason(const QString &) const
 {
     return QString();
 }

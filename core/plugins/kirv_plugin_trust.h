@@ -18,10 +18,10 @@ public:
     explicit KirvPluginTrust(unsigned user);
 
     /// Why the plug-in \a path must not be loaded, a sentence for the user; empty when it may be.
-    QString whyNot(const QString &path) const;
+    QString refusalReason(const QString &path) const;
 
 private:
-    QString whyNotEntry(const QString &path) const;
+    QString entryRefusalReason(const QString &path) const;
     bool isPrivateGroup(unsigned group) const;
 
     unsigned user;

@@ -36,7 +36,7 @@ public:
     /// The port of a proxy that names none.
     static const int defaultPort = 1080;
     /// How long a proxy may take until it has connected to the server, in milliseconds.
-    static const int patience = 20000;
+    static const int timeout = 20000;
 
     KirvProxy() = default;
     /// Reads \a fields; what is missing keeps its default.
@@ -72,7 +72,7 @@ KIRV_PROTOCOL_EXPORT void kirvFindProxy(const QNetworkProxy &proxy, const QStrin
 /// is the socket's for it.
 KIRV_PROTOCOL_EXPORT KirvFailure kirvProxyFailure(const QNetworkProxy &proxy, QAbstractSocket::SocketError error,
                                                   const QString &text);
-/// The proxy has not connected to the server within KirvProxy::patience.
+/// The proxy has not connected to the server within KirvProxy::timeout.
 KIRV_PROTOCOL_EXPORT KirvFailure kirvProxyTimedOut(const QNetworkProxy &proxy);
 
 #endif

@@ -64,11 +64,11 @@ void KirvSystemProxy::Thread::run()
     while (!line->waiting.isEmpty()) {
         const auto [number, query] = line->waiting.takeFirst();
         locker.unlock();
-        const QList<QNetworkProxy> said = line->query(query);
+        const QList<QNetworkProxy> proxies = line->query(query);
         locker.relock();
         if (KirvSystemProxy *owner = line->owner) {
             QMetaObject::invokeMethod(
-                owner, [owner, number = number, said] { owner->finish(number, said); }, Qt::QueuedConnection);
+                owner, [owner, number = number, proxies] { owner->finish(number, proxies); }, Qt::QueuedConnection);
         }
     }
     line->isRunning = false;
@@ -102,7 +102,7 @@ void KirvSystemProxy::request(const QString &host, int port, KirvClock &clock, Q
 {
     const quint64 number = ++lastNumber;
     requests.insert(number, { context, receiver });
-    clock.callLater(patience, this, [this, number] { finish(number, {}); });
+    clock.callLater(replyTimeout, this, [this, number] { finish(number, {}); });
     const QMutexLocker locker(&line->mutex);
     line->waiting.append({ number, QNetworkProxyQuery(host, port) });
     if (!std::exchange(line->isRunning, true))
@@ -110,7 +110,7 @@ void KirvSystemProxy::request(const QString &host, int port, KirvClock &clock, Q
 }
 
 /// Does nothing for a request that was replied to.
-void KirvSystemProxy::finish(quint64 number, const QList<QNetworkProxy> &said)
+void KirvSystemProxy::finish(quint64 number, const QList<QNetworkProxy> &proxies)
 {
     const Request request = requests.take(number);
     {
@@ -118,12 +118,12 @@ void KirvSystemProxy::finish(quint64 number, const QList<QNetworkProxy> &said)
         line->remove(number);
     }
     if (request.context && request.receiver)
-        request.receiver(usable(said));
+        request.receiver(usable(proxies));
 }
 
-std::optional<QNetworkProxy> KirvSystemProxy::usable(const QList<QNetworkProxy> &said)
+std::optional<QNetworkProxy> KirvSystemProxy::usable(const QList<QNetworkProxy> &proxies)
 {
-    for (QNetworkProxy proxy : said) {
+    for (QNetworkProxy proxy : proxies) {
         if (proxy.type() == QNetworkProxy::NoProxy)
             return proxy;
         const bool isKnown = proxy.type() == QNetworkProxy::Socks5Proxy || proxy.type() == QNetworkProxy::HttpProxy;

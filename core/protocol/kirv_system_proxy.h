@@ -29,7 +29,7 @@ public:
     /// known.
     using Receiver = std::function<void(const std::optional<QNetworkProxy> &found)>;
 
-    static constexpr int patience = 5000; ///< milliseconds
+    static constexpr int replyTimeout = 5000; ///< milliseconds
 
     /// \a query is called in another thread, at most once at a time; it may still run when this object is destroyed.
     explicit KirvSystemProxy(Query query, QObject *parent = nullptr);
@@ -38,12 +38,12 @@ public:
     static KirvSystemProxy &instance();
 
     /// Requests the proxy for a connection to \a host. \a receiver is called once, from the event loop, within the
-    /// patience that \a clock measures, unless \a context is destroyed before.
+    /// replyTimeout that \a clock measures, unless \a context is destroyed before.
     void request(const QString &host, int port, KirvClock &clock, QObject *context, const Receiver &receiver);
 
-    /// The first of \a said that a connection can be made through, changed so that it looks names up itself; or
+    /// The first of \a proxies that a connection can be made through, changed so that it looks names up itself; or
     /// NoProxy.
-    static std::optional<QNetworkProxy> usable(const QList<QNetworkProxy> &said);
+    static std::optional<QNetworkProxy> usable(const QList<QNetworkProxy> &proxies);
 
 private:
     struct Q_DECL_HIDDEN Line;
@@ -53,7 +53,7 @@ private:
         Receiver receiver;
     };
 
-    void finish(quint64 number, const QList<QNetworkProxy> &said);
+    void finish(quint64 number, const QList<QNetworkProxy> &proxies);
 
     const QSharedPointer<Line> line; ///< shared with the thread
     QHash<quint64, Request> requests;

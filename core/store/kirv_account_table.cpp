@@ -195,14 +195,14 @@ bool KirvAccountTable::findRow(const KirvAccountKey &key, Row *row)
         *row = { query->value(0), query->value(1).toString() };
     if (!database.readToEnd(query))
         return false;
-    if (found || findOddRow(key, row))
+    if (found || findRowAsRead(key, row))
         return true;
     database.fail(tr("The account \"%1\" (%2) is not in the profile.").arg(key.id, key.protocol));
     return false;
 }
 
 /// Finds an account whose id is not stored as it is read: bytes that are no text were replaced.
-bool KirvAccountTable::findOddRow(const KirvAccountKey &key, Row *row)
+bool KirvAccountTable::findRowAsRead(const KirvAccountKey &key, Row *row)
 {
     bool found = false;
     QSqlQuery *query = database.run(QStringLiteral("SELECT id, protocol, number, avatar FROM account"));

@@ -69,7 +69,7 @@ private:
 
     bool makeRoom(int count, const KirvAccountKey &next, qint64 *position);
     bool findRow(const KirvAccountKey &key, Row *row);
-    bool findOddRow(const KirvAccountKey &key, Row *row);
+    bool findRowAsRead(const KirvAccountKey &key, Row *row);
     bool readValues(const QString &table, QList<KirvAccountRecord> &accounts, const QHash<qint64, int> &indices);
     bool rewrite(const QString &table);
     bool noteNewSecrets(const QVariant &number, const Values &secrets);

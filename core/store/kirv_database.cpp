@@ -90,7 +90,7 @@ void KirvDatabase::close()
 {
     statements.clear();
     depth = 0;
-    doomed = false;
+    mustRollBack = false;
     commits = 0;
     if (!connection.isValid())
         return;
@@ -101,7 +101,7 @@ void KirvDatabase::close()
 
 bool KirvDatabase::execute(const QString &sql, const QVariantList &values)
 {
-    if (doomed)
+    if (mustRollBack)
         return false;
     QSqlQuery query(connection);
     bool good = query.prepare(sql);
@@ -112,7 +112,7 @@ bool KirvDatabase::execute(const QString &sql, const QVariantList &values)
 
 QSqlQuery *KirvDatabase::run(const QString &sql, const QVariantList &values)
 {
-    if (doomed)
+    if (mustRollBack)
         return nullptr;
     if (!isOpen()) {
         fail(tr("The profile is not open."));
@@ -171,9 +171,9 @@ bool KirvDatabase::commit()
         return false;
     if (depth > 1) {
         --depth;
-        return !doomed;
+        return !mustRollBack;
     }
-    if (doomed || !run(QStringLiteral("COMMIT"))) {
+    if (mustRollBack || !run(QStringLiteral("COMMIT"))) {
         rollBack();
         return false;
     }
@@ -193,8 +193,8 @@ void KirvDatabase::rollBack()
 {
     if (depth == 0)
         return;
-    doomed = --depth > 0;
-    if (doomed)
+    mustRollBack = --depth > 0;
+    if (mustRollBack)
         return;
     // After some failures SQLite has undone the transaction itself, and refuses this statement.
     QSqlQuery query(connection);
@@ -212,14 +212,14 @@ bool KirvDatabase::failBy(const QSqlError &failure)
 
 void KirvDatabase::fail(const QString &text)
 {
-    if (!doomed)
+    if (!mustRollBack)
         error = text;
-    doomed = depth > 0;
+    mustRollBack = depth > 0;
 }
 
 void KirvDatabase::clearError()
 {
-    if (doomed)
+    if (mustRollBack)
         return;
     error.clear();
     damaged = false;

@@ -72,7 +72,7 @@ private:
     QString error;
     bool damaged = false;
     int depth = 0;
-    bool doomed = false;
+    bool mustRollBack = false;
     int commits = 0;
 };
 

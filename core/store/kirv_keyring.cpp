@@ -36,7 +36,7 @@ KirvSecretStore::Outcome outcomeOf(int error)
 
 /// Makes libsecret, which QtKeychain loads, forget the session with a service that has ended: it would be used with the
 /// next one, too. False when there is no libsecret.
-bool forgetSession()
+bool closeLibrarySession()
 {
     using Disconnect = void (*)();
     QLibrary library(QStringLiteral("secret-1"), 0);
@@ -106,7 +106,7 @@ KirvKeyring::KirvKeyring(const Limits &limits, QObject *parent)
         if (alive)
             startNext();
     });
-    connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = forgetSession(); });
+    connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = closeLibrarySession(); });
     connect(watcher.get(), &KirvKeyringWatcher::refreshed, this, &KirvKeyring::stateKnown);
     watcher->start();
 }

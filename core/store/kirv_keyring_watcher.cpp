@@ -39,15 +39,15 @@ QString nameOfProgram(uint pid)
 
 } // namespace
 
-KirvKeyringWatcher::KirvKeyringWatcher(int patienceMilliseconds, QObject *parent)
+KirvKeyringWatcher::KirvKeyringWatcher(int replyTimeoutMilliseconds, QObject *parent)
     : QObject(parent)
     , connectionName(QStringLiteral("kirv-keyring-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
-    nextLook.setInterval(1000);
-    connect(&nextLook, &QTimer::timeout, this, &KirvKeyringWatcher::refresh);
-    patience.setSingleShot(true);
-    patience.setInterval(patienceMilliseconds);
-    connect(&patience, &QTimer::timeout, this, [this] { finish(KirvSecretStore::Silent); });
+    lockedRefresh.setInterval(1000);
+    connect(&lockedRefresh, &QTimer::timeout, this, &KirvKeyringWatcher::refresh);
+    replyTimeout.setSingleShot(true);
+    replyTimeout.setInterval(replyTimeoutMilliseconds);
+    connect(&replyTimeout, &QTimer::timeout, this, [this] { finish(KirvSecretStore::Silent); });
 }
 
 KirvKeyringWatcher::~KirvKeyringWatcher()
@@ -70,10 +70,10 @@ void KirvKeyringWatcher::start()
         current = KirvSecretStore::Unavailable;
         break;
     case KirvBusProbe::Awaited:
-        patience.start();
+        replyTimeout.start();
         break;
     case KirvBusProbe::NotProbed:
-        patience.start();
+        replyTimeout.start();
         connectToBus();
         break;
     }
@@ -98,7 +98,7 @@ void KirvKeyringWatcher::connected()
     // No service: for a name the connection would ask the bus who owns it, and wait.
     bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), { serviceName }, QString(), this,
                 SLOT(onNameOwnerChanged(QString, QString, QString, QDBusMessage)));
-    askForOwner();
+    requestOwner();
 }
 
 /// Sends \a message and calls \a handler with its reply, however late, unless it is not of interest any more.
@@ -106,17 +106,17 @@ void KirvKeyringWatcher::call(const QDBusMessage &message, const Handler &handle
 {
     const QDBusPendingCall pending = QDBusConnection(connectionName).asyncCall(message, INT_MAX);
     auto *watcher = new QDBusPendingCallWatcher(pending, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, handler, asked = round](auto *finished) {
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, handler, sentIn = round](auto *finished) {
         finished->deleteLater();
-        if (asked == round)
+        if (sentIn == round)
             handler(finished->reply());
     });
 }
 
-void KirvKeyringWatcher::askForOwner()
+void KirvKeyringWatcher::requestOwner()
 {
     ++round;
-    patience.start();
+    replyTimeout.start();
     QDBusMessage message = QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetNameOwner"));
     message.setArguments({ serviceName });
     call(message, [this](const QDBusMessage &reply) {
@@ -147,8 +147,8 @@ void KirvKeyringWatcher::setOwner(const QString &newOwner)
         finish(KirvSecretStore::Unavailable);
         return;
     }
-    patience.start();
-    askForProvider();
+    replyTimeout.start();
+    requestProvider();
     if (isOther)
         set(KirvSecretStore::Unknown);
 }
@@ -178,13 +178,13 @@ void KirvKeyringWatcher::follow(bool on)
 void KirvKeyringWatcher::finish(KirvSecretStore::State state)
 {
     const QPointer<KirvKeyringWatcher> alive(this);
-    patience.stop();
+    replyTimeout.stop();
     set(state);
     if (alive)
         Q_EMIT refreshed();
 }
 
-void KirvKeyringWatcher::askForProvider()
+void KirvKeyringWatcher::requestProvider()
 {
     QDBusMessage message =
         QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetConnectionUnixProcessID"));
@@ -192,25 +192,25 @@ void KirvKeyringWatcher::askForProvider()
     call(message, [this](const QDBusMessage &reply) {
         if (reply.type() == QDBusMessage::ReplyMessage)
             provider = nameOfProgram(reply.arguments().value(0).toUInt());
-        askForDefault();
+        requestDefaultCollection();
     });
 }
 
-QDBusMessage KirvKeyringWatcher::toOwner(const QString &path, const char *interface, const char *method) const
+QDBusMessage KirvKeyringWatcher::callToOwner(const QString &path, const char *interface, const char *method) const
 {
     QDBusMessage message = QDBusMessage::createMethodCall(owner, path, QLatin1String(interface), QLatin1String(method));
     message.setAutoStartService(false);
     return message;
 }
 
-void KirvKeyringWatcher::askForDefault()
+void KirvKeyringWatcher::requestDefaultCollection()
 {
-    QDBusMessage message = toOwner(servicePath, serviceInterface, "ReadAlias");
+    QDBusMessage message = callToOwner(servicePath, serviceInterface, "ReadAlias");
     message.setArguments({ QStringLiteral("default") });
     call(message, [this](const QDBusMessage &reply) {
         const QString path = reply.arguments().value(0).value<QDBusObjectPath>().path();
         if (reply.type() == QDBusMessage::ReplyMessage && path.size() > 1) {
-            askForLock(path);
+            requestLockState(path);
             return;
         }
         // Where there is no collection, writing would ask the person to make one.
@@ -218,9 +218,9 @@ void KirvKeyringWatcher::askForDefault()
     });
 }
 
-void KirvKeyringWatcher::askForLock(const QString &collection)
+void KirvKeyringWatcher::requestLockState(const QString &collection)
 {
-    QDBusMessage message = toOwner(collection, "org.freedesktop.DBus.Properties", "Get");
+    QDBusMessage message = callToOwner(collection, "org.freedesktop.DBus.Properties", "Get");
     message.setArguments({ QStringLiteral("org.freedesktop.Secret.Collection"), QStringLiteral("Locked") });
     call(message, [this](const QDBusMessage &reply) {
         const QVariant locked = reply.arguments().value(0).value<QDBusVariant>().variant();
@@ -239,8 +239,8 @@ void KirvKeyringWatcher::refresh()
     }
     ++round;
     if (current != KirvSecretStore::Silent)
-        patience.start();
-    askForDefault();
+        replyTimeout.start();
+    requestDefaultCollection();
     if (current == KirvSecretStore::Silent) // until it replies
         QMetaObject::invokeMethod(this, &KirvKeyringWatcher::refreshed, Qt::QueuedConnection);
 }
@@ -251,8 +251,8 @@ void KirvKeyringWatcher::set(KirvSecretStore::State state)
         return;
     current = state;
     if (state == KirvSecretStore::Locked)
-        nextLook.start();
+        lockedRefresh.start();
     else
-        nextLook.stop();
+        lockedRefresh.stop();
     Q_EMIT changed();
 }

@@ -24,9 +24,9 @@ class KirvKeyringWatcher : public QObject {
 
 public:
     /// Milliseconds until a service that does not reply is Silent.
-    static constexpr int usualPatience = 3000;
+    static constexpr int defaultReplyTimeout = 3000;
 
-    explicit KirvKeyringWatcher(int patience = usualPatience, QObject *parent = nullptr);
+    explicit KirvKeyringWatcher(int replyTimeout = defaultReplyTimeout, QObject *parent = nullptr);
     ~KirvKeyringWatcher() override;
 
     /// Unavailable at once where there is no session bus; otherwise Unknown until changed().
@@ -57,13 +57,13 @@ private:
     void setOwner(const QString &newOwner);
     void follow(bool on);
     void finish(KirvSecretStore::State state);
-    void askForOwner();
-    void askForProvider();
-    void askForDefault();
-    void askForLock(const QString &collection);
+    void requestOwner();
+    void requestProvider();
+    void requestDefaultCollection();
+    void requestLockState(const QString &collection);
     void set(KirvSecretStore::State state);
     void call(const QDBusMessage &message, const Handler &handler);
-    QDBusMessage toOwner(const QString &path, const char *interface, const char *method) const;
+    QDBusMessage callToOwner(const QString &path, const char *interface, const char *method) const;
 
     const QString connectionName;
     std::unique_ptr<KirvBusProbe> probe; ///< until the bus has answered
@@ -72,8 +72,8 @@ private:
     QString provider;
     KirvSecretStore::State current = KirvSecretStore::Unknown;
     quint64 round = 0; ///< replies of an earlier one do not count
-    QTimer patience;
-    QTimer nextLook; ///< while it is locked: not every unlocking is announced
+    QTimer replyTimeout;
+    QTimer lockedRefresh; ///< while it is locked: not every unlocking is announced
 };
 
 #endif

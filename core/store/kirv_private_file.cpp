@@ -49,7 +49,7 @@ bool kirvReplaceFile(const QString &from, const QString &to)
     return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
-bool kirvNameFileToo(const QString &name, const QString &second)
+bool kirvLinkFile(const QString &name, const QString &second)
 {
     return ::link(QFile::encodeName(name).constData(), QFile::encodeName(second).constData()) == 0
         || (QFile::copy(name, second) && kirvMakePrivate(second) && kirvSyncFile(second));

@@ -18,7 +18,7 @@ bool kirvMakePrivateFile(const QString &path);
 bool kirvReplaceFile(const QString &from, const QString &to);
 
 /// Gives the file \a name the name \a second, too, which must be free; where the file system has no such names, a copy.
-bool kirvNameFileToo(const QString &name, const QString &second);
+bool kirvLinkFile(const QString &name, const QString &second);
 
 /// Puts the content of the file \a path on the disk.
 bool kirvSyncFile(const QString &path);

@@ -90,7 +90,7 @@ bool hasWrongRows(KirvDatabase &database)
 
 }
 
-KirvProfileState KirvProfileCheck::look() const
+KirvProfileState KirvProfileCheck::inspect() const
 {
     const QFileInfo folder(paths.folder);
     if (!folder.exists() && !folder.isSymLink())
@@ -112,8 +112,8 @@ KirvProfileState KirvProfileCheck::look() const
                      .arg(QDir::toNativeSeparators(special)) };
     const mode_t avatars = kindOf(paths.avatars());
     if (kindOf(paths.database()) == 0)
-        return lookAtFolderWithoutDatabase();
-    return avatars == 0 || avatars == S_IFDIR ? lookAtDatabase() : notWritable();
+        return checkFolderWithoutDatabase();
+    return avatars == 0 || avatars == S_IFDIR ? checkDatabaseFile() : notWritable();
 }
 
 QString KirvProfileCheck::linkInside() const
@@ -137,7 +137,7 @@ QString KirvProfileCheck::specialFileInside() const
     return special == names.end() ? QString() : *special;
 }
 
-KirvProfileState KirvProfileCheck::lookAtFolderWithoutDatabase() const
+KirvProfileState KirvProfileCheck::checkFolderWithoutDatabase() const
 {
     QStringList content = QDir(paths.folder).entryList(allEntries);
     for (const QString &own : { paths.lock(), paths.unfinished() })
@@ -174,7 +174,7 @@ bool KirvProfileCheck::isFolderOfOurs(const QString &folder, bool (*isOurs)(cons
     return names.isEmpty() || kindOf(paths.lock()) != 0 || std::any_of(names.begin(), names.end(), isOurs);
 }
 
-KirvProfileState KirvProfileCheck::lookAtDatabase() const
+KirvProfileState KirvProfileCheck::checkDatabaseFile() const
 {
     if (kindOf(paths.database()) != S_IFREG)
         return noDatabase();

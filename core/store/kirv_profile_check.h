@@ -21,8 +21,8 @@ public:
     }
 
     /// What names and the first bytes of files say. Needs no lock.
-    KirvProfileState look() const;
-    /// Reads the whole database, of which look() has said Good: schema, structure and every row. Needs the lock, or
+    KirvProfileState inspect() const;
+    /// Reads the whole database, of which inspect() has said Good: schema, structure and every row. Needs the lock, or
     /// that no instance can hold it. When \a mayRecover, an interrupted change is undone or completed first, as SQLite
     /// does whenever it opens a file; otherwise such a database is taken as Good.
     KirvProfileState examine(bool mayRecover) const;
@@ -39,8 +39,8 @@ public:
 private:
     /// \a fault is a sentence about what is wrong.
     KirvProfileState damaged(const QString &fault) const;
-    KirvProfileState lookAtDatabase() const;
-    KirvProfileState lookAtFolderWithoutDatabase() const;
+    KirvProfileState checkDatabaseFile() const;
+    KirvProfileState checkFolderWithoutDatabase() const;
     bool hasTracesOfDatabase(const QStringList &content) const;
     bool isFolderOfOurs(const QString &folder, bool (*isOurs)(const QString &)) const;
     KirvProfileState examineOpen(KirvDatabase &database) const;

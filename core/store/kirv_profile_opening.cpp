@@ -11,14 +11,14 @@
 #include <QFile>
 #include <QFileInfo>
 
-KirvProfileState KirvProfileOpening::look(KirvProfileLock &lock) const
+KirvProfileState KirvProfileOpening::inspect(KirvProfileLock &lock) const
 {
     const KirvProfileCheck check(paths);
-    const KirvProfileState state = check.look();
+    const KirvProfileState state = check.inspect();
     if (state.kind != KirvProfileState::Damaged)
         return state;
     const KirvProfileState locked = lockOnly(lock, false);
-    return locked.canBeOpened() && lock.isHeld() ? check.look()
+    return locked.canBeOpened() && lock.isHeld() ? check.inspect()
         : locked.kind == KirvProfileState::InUse ? locked
                                                  : state;
 }
@@ -26,7 +26,7 @@ KirvProfileState KirvProfileOpening::look(KirvProfileLock &lock) const
 KirvProfileState KirvProfileOpening::prepare(KirvProfileLock &lock)
 {
     const KirvProfileCheck check(paths);
-    KirvProfileState state = look(lock);
+    KirvProfileState state = inspect(lock);
     if (!state.canBeOpened())
         return state;
     if (state.kind == KirvProfileState::New && !makeFolder())
@@ -46,7 +46,7 @@ KirvProfileState KirvProfileOpening::prepare(KirvProfileLock &lock)
     if (!locked.canBeOpened())
         return locked;
 
-    state = check.look(); // another instance may have been at it before the lock was ours
+    state = check.inspect(); // another instance may have been at it before the lock was ours
     if (!state.canBeOpened())
         return state;
     return state.kind == KirvProfileState::New ? makeNew() : check.examine(true);

@@ -23,7 +23,7 @@ public:
 
     /// What the folder is. Without the lock, files that another instance is just making or emptying look damaged: such
     /// a profile is looked at again with the lock, if it has one.
-    KirvProfileState look(KirvProfileLock &lock) const;
+    KirvProfileState inspect(KirvProfileLock &lock) const;
     /// Locks the profile and, when it can be opened, makes sure that its database is there, complete and readable.
     KirvProfileState prepare(KirvProfileLock &lock);
     /// Opens the database and brings it to the present version.

@@ -22,7 +22,7 @@ KirvProfileState KirvProfileRescue::check()
 {
     const KirvProfileOpening opening(paths);
     KirvProfileLock lock;
-    KirvProfileState state = opening.look(lock);
+    KirvProfileState state = opening.inspect(lock);
     if (state.kind != KirvProfileState::Good)
         return state;
     state = opening.lockOnly(lock, false);
@@ -39,8 +39,8 @@ bool KirvProfileRescue::begin(KirvProfileLock &lock)
 {
     error.clear();
     kept.clear();
-    const KirvProfileCheck look(paths);
-    KirvProfileState state = look.look();
+    const KirvProfileCheck inspect(paths);
+    KirvProfileState state = check.inspect();
     if (state.kind == KirvProfileState::New)
         return fail(tr("There is no profile in \"%1\".").arg(paths.nativeFolder()));
     if (state.kind != KirvProfileState::Good && state.kind != KirvProfileState::Damaged)
@@ -134,7 +134,7 @@ bool KirvProfileRescue::keepAside()
         const QString from = paths.database() + suffix;
         if (!QFileInfo::exists(from))
             continue;
-        if (!kirvNameFileToo(from, aside + suffix))
+        if (!kirvLinkFile(from, aside + suffix))
             return false;
         if (suffix.isEmpty())
             kept = aside;

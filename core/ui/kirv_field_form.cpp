@@ -27,20 +27,20 @@ namespace {
 
 // Longer texts come from servers at most; they are cut where only a caption is expected, and get a control that
 // scrolls where they are the value.
-const int LongestCaption = 200;
-const int LongestBoxCaption = 60;
-const int LongestNumber = 20;
-const int LongestWord = 60;
-const int LongestToolTip = 1000;
-const int LongestLine = 2000;
-const int LabelWidth = 40; // in average characters
-const int ShownLines = 4;
+const int longestCaption = 200;
+const int longestBoxCaption = 60;
+const int longestNumber = 20;
+const int longestWord = 60;
+const int longestToolTip = 1000;
+const int longestLine = 2000;
+const int labelWidth = 40; // in average characters
+const int shownLines = 4;
 
 /// The field's name for people.
 QString captionOf(const KirvField &field)
 {
-    const QString label = kirvShortened(field.getLabel(), LongestCaption + 1).simplified();
-    return kirvShortened(label.isEmpty() ? field.getId() : label, LongestCaption);
+    const QString label = kirvShortened(field.getLabel(), longestCaption + 1).simplified();
+    return kirvShortened(label.isEmpty() ? field.getId() : label, longestCaption);
 }
 
 /// \a caption as it stands before a control.
@@ -52,21 +52,21 @@ QString labelTextOf(const QString &caption)
 /// A tool tip that shows \a text as it is; Qt takes what looks like markup for markup.
 QString toolTipOf(const QString &text)
 {
-    const QString plain = kirvShortened(text, LongestToolTip);
-    return Qt::mightBeRichText(plain) || plain.size() > LongestCaption ? Qt::convertFromPlainText(plain) : plain;
+    const QString plain = kirvShortened(text, longestToolTip);
+    return Qt::mightBeRichText(plain) || plain.size() > longestCaption ? Qt::convertFromPlainText(plain) : plain;
 }
 
 bool fitsOneLine(const QString &text)
 {
     static const QRegularExpression lineBreak(QStringLiteral("[\\n\\r\\x{0085}\\x{2028}\\x{2029}]"));
-    return text.size() <= LongestLine && !text.contains(lineBreak);
+    return text.size() <= longestLine && !text.contains(lineBreak);
 }
 
 /// Whether a label can show \a text in a reasonable size; it breaks lines only between words.
 bool fitsLabel(const QString &text)
 {
-    static const QRegularExpression longWord(QStringLiteral("\\S{%1}").arg(LongestWord));
-    return text.size() <= LongestLine && !text.contains(longWord);
+    static const QRegularExpression longWord(QStringLiteral("\\S{%1}").arg(longestWord));
+    return text.size() <= longestLine && !text.contains(longWord);
 }
 
 QString objectNameOf(const KirvField &field)
@@ -182,7 +182,7 @@ void KirvFieldForm::addRow(const KirvField &field)
     QWidget *editor = row.editor.widget;
     editor->setObjectName(objectNameOf(field));
     editor->setAccessibleName(captionOf(field));
-    editor->setAccessibleDescription(kirvShortened(field.getToolTip(), LongestToolTip));
+    editor->setAccessibleDescription(kirvShortened(field.getToolTip(), longestToolTip));
     editor->setToolTip(toolTipOf(field.getToolTip()));
 
     addControl(&row);
@@ -207,7 +207,7 @@ void KirvFieldForm::addControl(Row *row)
 
     const QString caption = captionOf(row->field);
     const bool isCheckBox = row->field.getKind() == KirvField::CheckBox;
-    if (isCheckBox && caption.size() <= LongestBoxCaption) {
+    if (isCheckBox && caption.size() <= longestBoxCaption) {
         layout->addRow(QString(), cell);
         captions.append({ row->editor.widget, caption });
         return;
@@ -225,8 +225,8 @@ QLabel *KirvFieldForm::makeLabel(const KirvField &field)
     label->setObjectName(objectNameOf(field) + QStringLiteral("_Label"));
     label->setTextFormat(Qt::PlainText);
     label->setToolTip(toolTipOf(field.getToolTip()));
-    label->setWordWrap(captionOf(field).size() > LabelWidth);
-    label->setMaximumWidth(fontMetrics().averageCharWidth() * LabelWidth);
+    label->setWordWrap(captionOf(field).size() > labelWidth);
+    label->setMaximumWidth(fontMetrics().averageCharWidth() * labelWidth);
     return label;
 }
 
@@ -299,7 +299,7 @@ KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_
     edit->setReadOnly(kirvIsTooLongToEdit(field));
     edit->setTabChangesFocus(true);
     edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    edit->setFixedHeight(heightOfLines(edit, ShownLines));
+    edit->setFixedHeight(heightOfLines(edit, shownLines));
     if (field.isRequired())
         edit->setPlaceholderText(tr("Required"));
     connect(edit, &QPlainTextEdit::textChanged, this, [this, row] { takeEdit(row); });
@@ -325,12 +325,12 @@ KirvFieldForm::Editor KirvFieldForm::makeChoice(const KirvField &field, std::siz
     const QStringList displays = field.getDisplays();
     for (int i = 0; i < values.size(); ++i) {
         const QString display = displays.value(i).isEmpty() ? values.at(i) : displays.at(i);
-        box->addItem(kirvShortened(display, LongestCaption), values.at(i));
+        box->addItem(kirvShortened(display, longestCaption), values.at(i));
     }
     int current = values.indexOf(field.getText());
     if (current < 0) {
         const QString text = field.getText();
-        box->insertItem(0, text.isEmpty() ? tr("Not chosen") : kirvShortened(text, LongestCaption), text);
+        box->insertItem(0, text.isEmpty() ? tr("Not chosen") : kirvShortened(text, longestCaption), text);
         current = 0;
     }
     box->setCurrentIndex(current);
@@ -350,7 +350,7 @@ KirvFieldForm::Editor KirvFieldForm::makeNumber(const KirvField &field, std::siz
         box->setMinimum(qMax(field.getMinimum(), std::numeric_limits<int>::min() + 1) - 1);
         box->setSpecialValueText(field.getText().isEmpty()
                                      ? QStringLiteral(" ")
-                                     : kirvShortened(field.getText().left(LongestCaption).simplified(), LongestNumber));
+                                     : kirvShortened(field.getText().left(longestCaption).simplified(), longestNumber));
         box->setValue(box->minimum());
     }
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this, row] { takeEdit(row); });
@@ -391,7 +391,7 @@ void KirvFieldForm::updateHint(const Row &row, bool remindOfEmpty)
     const QString problem = field.getText().isEmpty() && !remindOfEmpty ? QString() : kirvFieldProblem(field);
     if (problem == row.hint->text())
         return;
-    row.editor.widget->setAccessibleDescription(problem.isEmpty() ? kirvShortened(field.getToolTip(), LongestToolTip)
+    row.editor.widget->setAccessibleDescription(problem.isEmpty() ? kirvShortened(field.getToolTip(), longestToolTip)
                                                                   : problem);
     row.hint->setText(problem);
 }

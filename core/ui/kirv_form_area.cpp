@@ -10,8 +10,8 @@
 namespace {
 
 // In average characters and in lines.
-const int ComfortableWidth = 60;
-const int SmallestHeight = 6;
+const int comfortableWidth = 60;
+const int smallestHeight = 6;
 
 QList<QWidget *> labelsOf(const QFormLayout *form)
 {
@@ -48,13 +48,13 @@ QSize KirvFormArea::sizeHint() const
     if (!widget())
         return QScrollArea::sizeHint();
     const QSize wanted = widget()->sizeHint();
-    const int width = qMax(qMax(wanted.width(), narrowestWidth()), fontMetrics().averageCharWidth() * ComfortableWidth);
+    const int width = qMax(qMax(wanted.width(), narrowestWidth()), fontMetrics().averageCharWidth() * comfortableWidth);
     return QSize(width, widget()->hasHeightForWidth() ? widget()->heightForWidth(width) : wanted.height());
 }
 
 QSize KirvFormArea::minimumSizeHint() const
 {
-    return QSize(narrowestWidth(), fontMetrics().lineSpacing() * SmallestHeight);
+    return QSize(narrowestWidth(), fontMetrics().lineSpacing() * smallestHeight);
 }
 
 bool KirvFormArea::event(QEvent *event)
@@ -73,7 +73,7 @@ bool KirvFormArea::eventFilter(QObject *watched, QEvent *event)
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         alignLabels();
         updateGeometry();
-        QMetaObject::invokeMethod(this, &KirvFormArea::dropNeedlessScrollBar, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &KirvFormArea::hideUnneededScrollBar, Qt::QueuedConnection);
     }
     if (watched == verticalScrollBar() && (event->type() == QEvent::Show || event->type() == QEvent::Hide))
         keepClearOfScrollBar(event->type() == QEvent::Show);
@@ -93,12 +93,12 @@ void KirvFormArea::keepClearOfScrollBar(bool shown)
 void KirvFormArea::resizeEvent(QResizeEvent *event)
 {
     QScrollArea::resizeEvent(event);
-    QMetaObject::invokeMethod(this, &KirvFormArea::dropNeedlessScrollBar, Qt::QueuedConnection); // when it is laid out
+    QMetaObject::invokeMethod(this, &KirvFormArea::hideUnneededScrollBar, Qt::QueuedConnection); // when it is laid out
 }
 
 /// The scroll bar makes the form narrower and that can make it higher: what only fits without it would keep it for
 /// ever.
-void KirvFormArea::dropNeedlessScrollBar()
+void KirvFormArea::hideUnneededScrollBar()
 {
     if (!verticalScrollBar()->isVisible() || !widget())
         return;

@@ -24,7 +24,7 @@ private:
     int gap() const;
     int narrowestWidth() const;
     void alignLabels();
-    void dropNeedlessScrollBar();
+    void hideUnneededScrollBar();
     void keepClearOfScrollBar(bool shown);
 };
 

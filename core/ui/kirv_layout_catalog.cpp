@@ -138,19 +138,19 @@ QWidget *finished(const QString &name, std::unique_ptr<QWidget> top, QWidget *pa
     return top.release();
 }
 
-QPointer<KirvLayoutCatalog> livingCatalog;
+QPointer<KirvLayoutCatalog> currentCatalog;
 
 } // namespace
 
 KirvLayoutCatalog::KirvLayoutCatalog(QObject *parent)
     : QObject(parent)
 {
-    livingCatalog = this;
+    currentCatalog = this;
 }
 
 KirvLayoutCatalog *KirvLayoutCatalog::instance()
 {
-    return livingCatalog;
+    return currentCatalog;
 }
 
 QStringList KirvLayoutCatalog::names()

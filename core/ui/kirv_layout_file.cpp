@@ -25,8 +25,8 @@
 namespace {
 
 // The built-in layouts take some 20 kB.
-const qint64 MaximumSize = 1024 * 1024;
-const int MaximumLength = 32767; ///< of a line edit, as Qt has it
+const qint64 maximumSize = 1024 * 1024;
+const int maximumLength = 32767; ///< of a line edit, as Qt has it
 
 /// A text view that loads nothing of what a rich text refers to. Where nothing is returned Qt tries to read a file, so
 /// this returns an empty picture, which serves for other kinds of resources, too.
@@ -108,7 +108,7 @@ void protectInput(QWidget *top)
     const QList<QLineEdit *> edits = top->findChildren<QLineEdit *>();
     for (QLineEdit *edit : edits) {
         edit->setInputMask(QString());
-        edit->setMaxLength(MaximumLength);
+        edit->setMaxLength(maximumLength);
         if (edit->objectName().endsWith(QLatin1String("_Password"))
             || edit->objectName().endsWith(QLatin1String("_PasswordEdit"))) {
             edit->setEchoMode(QLineEdit::Normal); // only a change sets the hints for input methods
@@ -173,10 +173,10 @@ QByteArray KirvLayoutFile::read()
         failure = tr("It cannot be read: %1").arg(file.errorString());
         return QByteArray();
     }
-    const QByteArray xml = file.read(MaximumSize + 1);
+    const QByteArray xml = file.read(maximumSize + 1);
     if (xml.isEmpty())
         failure = tr("It is empty.");
-    else if (xml.size() > MaximumSize)
-        failure = tr("It is larger than %1 kB.").arg(MaximumSize / 1024);
+    else if (xml.size() > maximumSize)
+        failure = tr("It is larger than %1 kB.").arg(maximumSize / 1024);
     return xml;
 }

@@ -34,7 +34,7 @@ QSslKey kirvReadPrivateKey(const QString &path)
     return {};
 }
 
-bool kirvIsOpenToOthers(const QString &path)
+bool kirvIsReadableByOthers(const QString &path)
 {
     const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
     return QFile::permissions(path) & others;

@@ -13,6 +13,6 @@ QList<QSslCertificate> kirvReadCertificates(const QString &path);
 QSslKey kirvReadPrivateKey(const QString &path);
 
 /// Whether others than the owner of the file at \a path may read or change it.
-bool kirvIsOpenToOthers(const QString &path);
+bool kirvIsReadableByOthers(const QString &path);
 
 #endif

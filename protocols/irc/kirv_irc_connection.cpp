@@ -29,7 +29,7 @@ const int longestAwayText = 300;
 const int silencePerRequestTime = 2;
 
 /// How long to wait for the goodbye that follows a refusal and says more, in milliseconds.
-const int goodbyeTime = 2000;
+const int errorMessageTimeout = 2000;
 
 /// How often a change of the nick is told at most, in milliseconds.
 const int nickPause = 10000;
@@ -97,8 +97,8 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
     createSocket(transport);
     prepareAuthentication();
     connect(link.data(), &IrcConnection::connected, this, [this, presence] { finishLogin(presence); });
-    nicksLeft = settings.nicks();
-    link->setNickName(nicksLeft.takeFirst());
+    remainingNicks = settings.nicks();
+    link->setNickName(remainingNicks.takeFirst());
     openThroughProxy(transport);
 }
 
@@ -118,7 +118,7 @@ void KirvIrcConnection::openThroughProxy(QAbstractSocket *transport)
         proxy = found;
         transport->setProxy(proxy);
         if (proxy.type() != QNetworkProxy::NoProxy)
-            clock().callLater(KirvProxy::patience, transport, timeOut);
+            clock().callLater(KirvProxy::timeout, transport, timeOut);
         auto *steps = new KirvSocketSteps(*transport, transport);
         connect(steps, &KirvSocketSteps::step, this, &KirvIrcConnection::reportStep);
         steps->begin(settings.server, settings.port, proxy,
@@ -160,7 +160,7 @@ void KirvIrcConnection::createLink()
     link->setUserName(settings.userName());
     link->setRealName(settings.realName);
     connect(link.data(), &IrcConnection::numericMessageReceived, this, &KirvIrcConnection::receiveNumeric);
-    connect(link.data(), &IrcConnection::errorMessageReceived, this, &KirvIrcConnection::receiveGoodbye);
+    connect(link.data(), &IrcConnection::errorMessageReceived, this, &KirvIrcConnection::receiveErrorMessage);
     connect(link.data(), &IrcConnection::disconnected, this, [this] { loseConnection(); });
 }
 
@@ -170,8 +170,8 @@ void KirvIrcConnection::createSocket(QAbstractSocket *transport)
     socket = new KirvIrcSocket(transport, clock(), link.data());
     link->setSocket(socket);
     connect(socket, &KirvIrcSocket::heard, this, [this] {
-        lastHeard = clock().now();
-        ++heardTimes;
+        lastReceived = clock().now();
+        ++receivedCount;
         wasPinged = false;
     });
     connect(socket, &KirvIrcSocket::errorOccurred, this, &KirvIrcConnection::receiveSocketError);
@@ -263,16 +263,16 @@ void KirvIrcConnection::finishLogin(const KirvPresence &presence)
     if (alive && state() == Online)
         announceNick();
     if (alive && state() == Online)
-        warnOfOpenKey();
+        reportReadableKey();
 }
 
 /// Whoever can read the key can log in as this user. Told once.
-void KirvIrcConnection::warnOfOpenKey()
+void KirvIrcConnection::reportReadableKey()
 {
     const QString file = settings.clientKeyFile;
-    if (file == keyWarnedOf || !settings.usesClientCertificate() || !kirvIsOpenToOthers(file))
+    if (file == reportedKeyFile || !settings.usesClientCertificate() || !kirvIsReadableByOthers(file))
         return;
-    keyWarnedOf = file;
+    reportedKeyFile = file;
     Q_EMIT noticeReceived(
         tr("Other users of this computer can read or change the key file \"%1\". Only its owner should.").arg(file));
 }
@@ -306,7 +306,7 @@ void KirvIrcConnection::announceNick()
 void KirvIrcConnection::receiveNumeric(IrcNumericMessage *message)
 {
     if (message->code() == Irc::ERR_YOUREBANNEDCREEP && (state() == Connecting || state() == Online))
-        return awaitGoodbye(message);
+        return awaitErrorMessage(message);
     if (state() != Connecting)
         return;
     switch (message->code()) {
@@ -319,7 +319,7 @@ void KirvIrcConnection::receiveNumeric(IrcNumericMessage *message)
         tryNextNick(false);
         break;
     case Irc::ERR_PASSWDMISMATCH:
-        awaitGoodbye(message);
+        awaitErrorMessage(message);
         break;
     default:
         break;
@@ -329,28 +329,28 @@ void KirvIrcConnection::receiveNumeric(IrcNumericMessage *message)
 void KirvIrcConnection::tryNextNick(bool wasRefused)
 {
     // An alternative that is refused is only one less; the nick itself is what the user has to correct.
-    const bool isFirst = nicksLeft.size() == settings.nicks().size() - 1;
+    const bool isFirst = remainingNicks.size() == settings.nicks().size() - 1;
     if (wasRefused && isFirst)
         return loginFailed({ KirvFailure::NameNotAllowed, settings.nick });
-    if (nicksLeft.isEmpty())
+    if (remainingNicks.isEmpty())
         return loginFailed({ KirvFailure::NameInUse, settings.nick });
-    link->setNickName(nicksLeft.takeFirst());
+    link->setNickName(remainingNicks.takeFirst());
 }
 
 /// The server closes the connection now, and often gives its reason only then.
-void KirvIrcConnection::awaitGoodbye(IrcNumericMessage *message)
+void KirvIrcConnection::awaitErrorMessage(IrcNumericMessage *message)
 {
     const bool isFirst = refusal.isEmpty();
     refusal = message->parameters().value(message->parameters().size() - 1);
     if (!isFirst || refusal.isEmpty())
         return;
-    clock().callLater(goodbyeTime, link.data(), [this, refused = link.data()] {
+    clock().callLater(errorMessageTimeout, link.data(), [this, refused = link.data()] {
         if (link.data() == refused)
             loseConnection();
     });
 }
 
-void KirvIrcConnection::receiveGoodbye(IrcErrorMessage *message)
+void KirvIrcConnection::receiveErrorMessage(IrcErrorMessage *message)
 {
     if (state() != Disconnecting)
         connectionLost(meaningOf(message->error()));
@@ -450,8 +450,8 @@ void KirvIrcConnection::applyPresence(const KirvPresence &presence)
 void KirvIrcConnection::checkSession(int milliseconds)
 {
     link->sendCommand(IrcCommand::createPing(settings.server));
-    callLaterOnLink(milliseconds, [this, before = heardTimes] {
-        if (heardTimes == before)
+    callLaterOnLink(milliseconds, [this, before = receivedCount] {
+        if (receivedCount == before)
             connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
     });
 }
@@ -461,7 +461,7 @@ void KirvIrcConnection::watchServer()
 {
     const int time = timing().requestTimeout;
     const int silence = silencePerRequestTime * time;
-    const qint64 silent = lastHeard.msecsTo(clock().now());
+    const qint64 silent = lastReceived.msecsTo(clock().now());
     if (wasPinged)
         return connectionLost({ KirvFailure::ConnectionLost, tr("The server does not answer any more.") });
     if (silent >= 0 && silent < silence)

@@ -51,7 +51,7 @@ private:
     bool configure(QSslSocket *encrypted, QString *problem) const;
     void checkCertificate(QSslSocket *encrypted, const QList<QSslError> &errors);
     void openLink(QSslSocket *encrypted);
-    void warnOfOpenKey();
+    void reportReadableKey();
     void prepareAuthentication();
 
     void finishLogin(const KirvPresence &presence);
@@ -60,8 +60,8 @@ private:
     void announceNick();
     void receiveNumeric(IrcNumericMessage *message);
     void tryNextNick(bool wasRefused);
-    void awaitGoodbye(IrcNumericMessage *message);
-    void receiveGoodbye(IrcErrorMessage *message);
+    void awaitErrorMessage(IrcNumericMessage *message);
+    void receiveErrorMessage(IrcErrorMessage *message);
     KirvFailure meaningOf(const QString &goodbye) const;
     void loseConnection(const QString &reason = QString());
     void receiveSocketError(QAbstractSocket::SocketError error);
@@ -76,15 +76,15 @@ private:
     KirvIrcSocket *socket = nullptr; ///< of the link
     QNetworkProxy proxy; ///< that it goes through
     KirvIrcSasl *sasl = nullptr; ///< of the link; null when the log-in does without
-    QStringList nicksLeft;
+    QStringList remainingNicks;
     bool isCertificateRefused = false; ///< the server's is not trusted
     QString saslServer; ///< where SASL worked last, in this session of the program
-    QString keyWarnedOf; ///< the key file that others can read, when that was told
+    QString reportedKeyFile; ///< the key file that others can read, when that was told
     QString refusal; ///< why the server is about to close the connection; its goodbye follows
     QString announcedNick;
     bool announcesLater = false; ///< a nick was announced not long ago
-    QDateTime lastHeard;
-    quint64 heardTimes = 0; ///< counts what the server has sent
+    QDateTime lastReceived;
+    quint64 receivedCount = 0; ///< counts what the server has sent
     bool wasPinged = false; ///< since the server was last heard
 };
 

@@ -11,7 +11,7 @@ namespace {
 const int longestNegotiation = 100;
 
 /// How many requests for the name of the program are answered in a minute.
-const int namesPerMinute = 3;
+const int versionRepliesPerMinute = 3;
 const int minute = 60000;
 
 /// The numeric replies that decide about a log-in.
@@ -99,7 +99,7 @@ bool KirvIrcInput::isUsed(const QByteArray &command, const QByteArray &parameter
     if (command == "PING" || command == "ERROR" || command == "NICK")
         return !parameters.isEmpty();
     if (command == "PRIVMSG")
-        return isRequestForName(parameters);
+        return isVersionRequest(parameters);
     if (command == "CAP" || command == "AUTHENTICATE")
         return ++negotiation[command] <= longestNegotiation;
     const bool isNumeric = command.size() == 3 && std::all_of(command.begin(), command.end(), isDigit);
@@ -108,15 +108,15 @@ bool KirvIrcInput::isUsed(const QByteArray &command, const QByteArray &parameter
 }
 
 /// Whether this is a request for the name of the program, and not one of too many.
-bool KirvIrcInput::isRequestForName(const QByteArray &parameters)
+bool KirvIrcInput::isVersionRequest(const QByteArray &parameters)
 {
     const int text = parameters.indexOf(':');
     if (text < 0 || parameters.mid(text + 1).trimmed() != "\1VERSION\1")
         return false;
     const QDateTime now = clock.now();
-    if (!nameMinute.isValid() || std::abs(nameMinute.msecsTo(now)) >= minute) {
-        nameMinute = now;
-        namesTold = 0;
+    if (!versionMinute.isValid() || std::abs(versionMinute.msecsTo(now)) >= minute) {
+        versionMinute = now;
+        versionReplies = 0;
     }
-    return ++namesTold <= namesPerMinute;
+    return ++versionReplies <= versionRepliesPerMinute;
 }

@@ -32,15 +32,15 @@ public:
 private:
     QByteArray usedPart(const QByteArray &line);
     bool isUsed(const QByteArray &command, const QByteArray &parameters);
-    bool isRequestForName(const QByteArray &parameters);
+    bool isVersionRequest(const QByteArray &parameters);
 
     KirvClock &clock;
     QByteArray unread;
     int searched = 0; ///< how much of unread has no line end
     bool tooLong = false;
     QHash<QByteArray, int> negotiation; ///< how many lines of the log-in have been taken, by command
-    QDateTime nameMinute; ///< the minute in which namesTold requests for the name were let through
-    int namesTold = 0;
+    QDateTime versionMinute; ///< the minute in which versionReplies requests for the name were let through
+    int versionReplies = 0;
 };
 
 #endif

@@ -55,11 +55,11 @@ void KirvIrcSasl::receive(IrcMessage *message)
         if (requested && !answered && !accepted)
             sendCredentials();
     } else if (message->type() == IrcMessage::Numeric) {
-        judge(static_cast<IrcNumericMessage *>(message));
+        evaluateNumeric(static_cast<IrcNumericMessage *>(message));
     }
 }
 
-void KirvIrcSasl::judge(IrcNumericMessage *message)
+void KirvIrcSasl::evaluateNumeric(IrcNumericMessage *message)
 {
     const QString words = message->parameter(message->parameters().size() - 1);
     switch (message->code()) {

@@ -37,7 +37,7 @@ Q_SIGNALS:
 private:
     void receive(IrcMessage *message);
     void negotiate(IrcMessage *message);
-    void judge(IrcNumericMessage *message);
+    void evaluateNumeric(IrcNumericMessage *message);
     KirvFailure refusal() const;
     void sendCredentials();
     void accept();

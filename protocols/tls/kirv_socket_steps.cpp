@@ -34,7 +34,7 @@ KirvSocketSteps::KirvSocketSteps(QAbstractSocket &socket, QObject *parent)
         return;
     connect(encrypted, &QSslSocket::encrypted, this, &KirvSocketSteps::receiveEncryption);
     connect(encrypted, QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
-            &KirvSocketSteps::receiveDoubt);
+            &KirvSocketSteps::receiveWarning);
 }
 
 void KirvSocketSteps::begin(const QString &host, int port, const QNetworkProxy &newProxy, Encryption newEncryption)
@@ -81,7 +81,7 @@ void KirvSocketSteps::receiveEncryption()
 }
 
 /// Whether that ends the log-in is for others to say.
-void KirvSocketSteps::receiveDoubt()
+void KirvSocketSteps::receiveWarning()
 {
     emitStep(KirvLoginStep::Encryption, KirvLoginStep::Running, certificateText(encrypted->peerCertificate()));
 }

@@ -40,7 +40,7 @@ private:
     void receiveAddress();
     void receiveConnection();
     void receiveEncryption();
-    void receiveDoubt();
+    void receiveWarning();
     void emitStep(KirvLoginStep::Kind kind, KirvLoginStep::Outcome outcome, const QString &text = QString());
     QString encryptionText() const;
 

@@ -152,7 +152,7 @@ void KirvXmppRoute::openLink(const QNetworkProxy &found)
         own.setStreamSecurityMode(QXmppConfiguration::LegacySSL);
     clock.callLater(silence, this, [this, started = attempt] {
         if (started == attempt && !isGreeted && !isOver)
-            receiveSilence();
+            receiveNothing();
     });
     watchProxy();
     link->open(own, presence);
@@ -163,7 +163,7 @@ void KirvXmppRoute::watchProxy()
 {
     if (proxy.type() == QNetworkProxy::NoProxy)
         return;
-    clock.callLater(KirvProxy::patience, this, [this, started = attempt] {
+    clock.callLater(KirvProxy::timeout, this, [this, started = attempt] {
         if (started == attempt && !isReached && !isGreeted && !hasArrived && !isOver)
             end(kirvProxyTimedOut(proxy));
     });
@@ -230,7 +230,7 @@ void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
 }
 
 /// The server goes on being waited for where there is no other one.
-void KirvXmppRoute::receiveSilence()
+void KirvXmppRoute::receiveNothing()
 {
     if (!targets.isEmpty()) {
         tryNext(KirvFailure(KirvFailure::TimedOut, target.host));

@@ -56,7 +56,7 @@ private:
     void receiveStep(const KirvLoginStep &reported);
     void follow(const QString &host, int port, bool wasEncrypted);
     void receiveEnd(const KirvFailure &failure);
-    void receiveSilence();
+    void receiveNothing();
     void explainEnd(const KirvFailure &failure);
     KirvFailure otherStart() const;
     void dropLink();

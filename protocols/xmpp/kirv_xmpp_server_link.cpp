@@ -104,7 +104,7 @@ void KirvXmppServerLink::guardStream()
     });
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppLink::reached);
     connect(reader, &KirvXmppStreamReader::streamBroken, this, &KirvXmppServerLink::receiveViolation);
-    connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::lookAtServer);
+    connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppServerLink::checkServerAddress);
     connect(reader, &KirvXmppStreamReader::stanzaDropped, this, &KirvXmppServerLink::receiveDropped);
 }
 
@@ -173,7 +173,7 @@ void KirvXmppServerLink::startWithEncryption()
 }
 
 /// What the library has written by now is not on its way yet.
-void KirvXmppServerLink::lookAtServer()
+void KirvXmppServerLink::checkServerAddress()
 {
     QSslSocket *const socket = client.findChild<QXmppOutgoingClient *>()->socket();
     // Behind a proxy the address says nothing about the server.
@@ -422,8 +422,8 @@ void KirvXmppServerLink::reply(const QString &id, const KirvXmppReply &reply)
 /// connection has ended can be known before what the server has said last.
 void KirvXmppServerLink::fail(const KirvFailure &failure)
 {
-    const bool saysLittle = reason.kind() == KirvFailure::ConnectionLost && reason.detail().isEmpty();
-    if (!reason.isFailure() || saysLittle)
+    const bool isUnspecific = reason.kind() == KirvFailure::ConnectionLost && reason.detail().isEmpty();
+    if (!reason.isFailure() || isUnspecific)
         reason = failure;
     endSoon();
 }
@@ -440,7 +440,7 @@ void KirvXmppServerLink::end()
         return;
     hasEnded = true;
     if (!isClosing && !reason.isFailure())
-        reason = silentEnd();
+        reason = endWithoutReason();
     const QPointer<KirvXmppServerLink> alive(this);
     const QStringList unanswered = requests.ids();
     KirvXmppReply none;
@@ -479,7 +479,7 @@ KirvFailure KirvXmppServerLink::socketFailure()
 }
 
 /// The stream has ended without an error: the library does that when it finds no way to go on.
-KirvFailure KirvXmppServerLink::silentEnd() const
+KirvFailure KirvXmppServerLink::endWithoutReason() const
 {
     if (purpose == LogIn && loginGuard.isUnderWay())
         return KirvFailure(KirvFailure::ServiceUnavailable, tr("Its part of the log-in is wrong."));

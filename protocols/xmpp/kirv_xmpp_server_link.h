@@ -46,7 +46,7 @@ private:
     void receiveViolation(KirvXmppStreamGuard::Violation violation);
     void receiveDropped(const KirvXmppStanzaStart &start);
     void startWithEncryption();
-    void lookAtServer();
+    void checkServerAddress();
     bool receive(const QDomElement &stanza);
     bool receiveFeatures(const QDomElement &features);
     bool receiveStreamError(const QDomElement &error);
@@ -62,7 +62,7 @@ private:
     void endSoon();
     void end();
     KirvFailure socketFailure();
-    KirvFailure silentEnd() const;
+    KirvFailure endWithoutReason() const;
     QString serverName();
 
     const Purpose purpose;

@@ -71,7 +71,7 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::take()
         if (phase == AwaitsEncryption) {
             // What comes in clear now would count as encrypted later.
             if (!isSpace(unread.at(position++)))
-                return breakWith(Forbidden);
+                return endWith(Forbidden);
             continue;
         }
         const int begin = position;
@@ -95,9 +95,9 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::handle(KirvXmppTokenizer::Token 
 {
     switch (token) {
     case KirvXmppTokenizer::Malformed:
-        return breakWith(depth == 0 ? NoStream : Malformed);
+        return endWith(depth == 0 ? NoStream : Malformed);
     case KirvXmppTokenizer::Forbidden:
-        return breakWith(depth == 0 ? NoStream : Forbidden);
+        return endWith(depth == 0 ? NoStream : Forbidden);
     case KirvXmppTokenizer::Attribute:
         noteAttribute();
         return checkBounds();
@@ -118,7 +118,7 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::handle(KirvXmppTokenizer::Token 
     if (isOutsideOfStanzas() && !tokenizer.isInTag()) {
         beginStanza(); // what came was the space between two
         if (!tokenizer.isBlank())
-            return breakWith(depth == 0 ? NoStream : Malformed);
+            return endWith(depth == 0 ? NoStream : Malformed);
     }
     return checkBounds();
 }
@@ -156,7 +156,7 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::handleOpened()
 KirvXmppStreamGuard::Piece KirvXmppStreamGuard::handleClosed()
 {
     if (depth == 0 || (depth <= names.size() && names.at(depth - 1) != tokenizer.nameHash()))
-        return breakWith(depth == 0 ? NoStream : Malformed);
+        return endWith(depth == 0 ? NoStream : Malformed);
     if (depth <= names.size())
         names.removeLast();
     const Piece violation = checkBounds();
@@ -174,7 +174,7 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::handleClosed()
 KirvXmppStreamGuard::Piece KirvXmppStreamGuard::finishHeader()
 {
     if (withoutPrefix(tokenizer.name()) != "stream" || kept.endsWith("/>") || kept.size() > longestTag)
-        return breakWith(NoStream);
+        return endWith(NoStream);
     phase = InStream;
     Piece piece;
     piece.kind = Piece::Header;
@@ -205,11 +205,11 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::finishStanza()
 KirvXmppStreamGuard::Piece KirvXmppStreamGuard::checkBounds()
 {
     if (length > longestStanza)
-        return breakWith(TooLarge);
+        return endWith(TooLarge);
     if (depth == 0 && kept.size() > longestTag)
-        return breakWith(NoStream);
+        return endWith(NoStream);
     if (depth > 1 && !start.isStanza() && isTooComplex())
-        return breakWith(TooLarge); // nobody but the server sends it
+        return endWith(TooLarge); // nobody but the server sends it
     if (!isDropped && isTooComplex()) {
         isOversized = depth > 1; // in the start tag it is not known yet whether the stanza is used
         drop();
@@ -228,7 +228,7 @@ void KirvXmppStreamGuard::drop()
     kept.clear();
 }
 
-KirvXmppStreamGuard::Piece KirvXmppStreamGuard::breakWith(Violation violation)
+KirvXmppStreamGuard::Piece KirvXmppStreamGuard::endWith(Violation violation)
 {
     phase = Over;
     violated = violation;

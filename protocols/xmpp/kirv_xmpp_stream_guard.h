@@ -83,7 +83,7 @@ private:
     void drop();
     bool isTooComplex() const;
     void startOver();
-    Piece breakWith(Violation violation);
+    Piece endWith(Violation violation);
     bool isOutsideOfStanzas() const { return depth < 2; }
 
     const Filter isUsed;

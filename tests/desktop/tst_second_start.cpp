@@ -101,7 +101,7 @@ void tst_SecondStart::startFirst()
     QVERIFY2(client->start(), qPrintable(client->errorString()));
     instance = std::make_unique<KirvRunningInstance>(profile());
     QVERIFY(instance->isListening());
-    connect(instance.get(), &KirvRunningInstance::startedAgain, client.get(), &KirvClient::show, Qt::QueuedConnection);
+    connect(instance.get(), &KirvRunningInstance::laterStart, client.get(), &KirvClient::show, Qt::QueuedConnection);
     client->window()->show();
 }
 
@@ -188,7 +188,7 @@ void tst_SecondStart::wordsThatAreNoLinkRaiseOnly()
     startFirst();
     QTRY_VERIFY(client->arePluginsLoaded());
     KirvWindowWatcher<QDialog> watcher([](QDialog *window) { window->reject(); });
-    QSignalSpy started(instance.get(), &KirvRunningInstance::startedAgain);
+    QSignalSpy started(instance.get(), &KirvRunningInstance::laterStart);
     for (const char *text : { "", "https://example.org", "\x01\x02", "file:///etc/passwd" })
         QVERIFY(handOver(profile(), QString::fromLatin1(text)));
     QTRY_COMPARE(started.size(), 4);
@@ -202,8 +202,8 @@ void tst_SecondStart::profilesAreApart()
     KirvRunningInstance first(profile());
     KirvRunningInstance other(profile("other"));
     QVERIFY(first.isListening() && other.isListening());
-    QSignalSpy firstStarted(&first, &KirvRunningInstance::startedAgain);
-    QSignalSpy otherStarted(&other, &KirvRunningInstance::startedAgain);
+    QSignalSpy firstStarted(&first, &KirvRunningInstance::laterStart);
+    QSignalSpy otherStarted(&other, &KirvRunningInstance::laterStart);
     QVERIFY(handOver(profile("other"), ircLink));
     QTRY_COMPARE(otherStarted.size(), 1);
     QCOMPARE(firstStarted.size(), 0);
@@ -297,7 +297,7 @@ void tst_SecondStart::folderThatOthersCanUseIsNotUsed()
 void tst_SecondStart::tooMuchIsNotRead()
 {
     KirvRunningInstance first(profile());
-    QSignalSpy started(&first, &KirvRunningInstance::startedAgain);
+    QSignalSpy started(&first, &KirvRunningInstance::laterStart);
     QLocalSocket other;
     other.connectToServer(QDir(runtime()).filePath(sockets().value(0)));
     QVERIFY(other.waitForConnected());

@@ -97,7 +97,7 @@ void tst_GeneralPage::initTestCase()
 void tst_GeneralPage::init()
 {
     translations = std::make_unique<KirvTranslations>(*qApp, texts.path());
-    translations->speak(QString());
+    translations->use(QString());
     windows = std::make_unique<KirvClientWindows>();
     QVERIFY(windows->isReady());
     windows->addAccount(ann);
@@ -182,7 +182,7 @@ void tst_GeneralPage::chosenLanguageIsSpokenAtTheNextStart()
     choose(german);
     windows->end();
     translations = std::make_unique<KirvTranslations>(*qApp, texts.path());
-    translations->speak(QString());
+    translations->use(QString());
     windows->restart();
     QVERIFY(isGerman());
     QCOMPARE(box()->currentData().toString(), german);

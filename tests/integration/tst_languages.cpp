@@ -59,7 +59,7 @@ void tst_Languages::start(const QString &system)
     translations.reset();
     QLocale::setDefault(QLocale(system));
     translations = std::make_unique<KirvTranslations>(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
-    translations->speak(QString());
+    translations->use(QString());
 }
 
 QString tst_Languages::folderWith(const QStringList &languages)
@@ -98,12 +98,12 @@ void tst_Languages::languageOfTheSystemIsSpoken()
     QFETCH(QString, spoken);
     QLocale::setDefault(QLocale(system));
     KirvTranslations found(*qApp, folderWith({ "de", "pt_BR", "ar" }));
-    found.speak(QString());
+    found.use(QString());
     QCOMPARE(found.spoken(), spoken);
     QCOMPARE(QLocale(), QLocale(system));
-    found.speak(QStringLiteral("xx"));
+    found.use(QStringLiteral("xx"));
     QCOMPARE(found.spoken(), spoken);
-    found.speak(QStringLiteral("ar"));
+    found.use(QStringLiteral("ar"));
     QCOMPARE(found.spoken(), QStringLiteral("ar"));
     QCOMPARE(QLocale().language(), QLocale::Arabic);
 }
@@ -175,15 +175,15 @@ void tst_Languages::existingAccountIsSaidWithoutTheSlip()
 void tst_Languages::directionFollowsTheLanguage()
 {
     KirvTranslations found(*qApp, folderWith({ "de", "ar" }));
-    found.speak("ar");
+    found.use("ar");
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
-    found.speak("de");
+    found.use("de");
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     QGuiApplication::setLayoutDirection(Qt::RightToLeft); // as -reverse does
     KirvTranslations mirrored(*qApp, folder.path());
-    mirrored.speak("de");
+    mirrored.use("de");
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
-    mirrored.speak("ar");
+    mirrored.use("ar");
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
 }
 

@@ -60,7 +60,7 @@ void tst_LoginQueue::init()
     KirvLoginQueue::Limits limits;
     limits.attempts = 3;
     limits.urgentAttempts = 2;
-    limits.patience = 3000;
+    limits.countedFor = 3000;
     queue->setLimits(limits);
 }
 

@@ -77,7 +77,7 @@ void tst_LoginTurns::setLimits(int attempts, int patience)
 {
     KirvLoginQueue::Limits limits;
     limits.attempts = limits.urgentAttempts = attempts;
-    limits.patience = patience;
+    limits.countedFor = patience;
     core->accounts->loginQueue().setLimits(limits);
 }
 

@@ -230,7 +230,7 @@ void tst_PasswordsInWindows::theAccountSaysWhatItWaitsFor()
     const KirvAccountStatus status(*account(), false);
     QCOMPARE(status.kind(), KirvAccountStatus::Waiting);
     QCOMPARE(status.text(), text);
-    QVERIFY(status.spokenLine().contains(text));
+    QVERIFY(status.accessibleLine().contains(text));
     QVERIFY(status.reason().contains(QStringLiteral("password")));
     QVERIFY(status.canEnterPassword());
 }

@@ -43,8 +43,8 @@ void tst_PluginTrust::init()
 
 void tst_PluginTrust::ownFileInAnOwnFolderIsTrusted()
 {
-    QCOMPARE(KirvPluginTrust().whyNot(file), QString());
-    QVERIFY(!KirvPluginTrust().whyNot(file + QStringLiteral(".not")).isEmpty());
+    QCOMPARE(KirvPluginTrust().refusalReason(file), QString());
+    QVERIFY(!KirvPluginTrust().refusalReason(file + QStringLiteral(".not")).isEmpty());
 }
 
 void tst_PluginTrust::whatOthersMayWriteIsRefused_data()
@@ -62,7 +62,7 @@ void tst_PluginTrust::whatOthersMayWriteIsRefused()
     QFETCH(int, mode);
     const QString changed = isFolder ? folder->path() : file;
     QCOMPARE(::chmod(qPrintable(changed), mode_t(mode)), 0);
-    const QString reason = KirvPluginTrust().whyNot(file);
+    const QString reason = KirvPluginTrust().refusalReason(file);
     QCOMPARE(::chmod(qPrintable(folder->path()), 0700), 0);
     QCOMPARE(reason, QStringLiteral("The plug-in is not trusted: others than you may write to %1.").arg(changed));
 }
@@ -74,10 +74,10 @@ void tst_PluginTrust::theGroupMayWriteWhenItIsPrivate()
     const bool isPrivate = group && QByteArray(group->gr_name) == user->pw_name && !*group->gr_mem;
     QCOMPARE(::chown(qPrintable(file), uid_t(-1), user ? user->pw_gid : ::getegid()), 0);
     QCOMPARE(::chmod(qPrintable(file), 0664), 0);
-    QCOMPARE(KirvPluginTrust().whyNot(file).isEmpty(), isPrivate);
+    QCOMPARE(KirvPluginTrust().refusalReason(file).isEmpty(), isPrivate);
 
     // As anybody else it would be a group of others.
-    QVERIFY(!KirvPluginTrust(::geteuid() + 1).whyNot(file).isEmpty());
+    QVERIFY(!KirvPluginTrust(::geteuid() + 1).refusalReason(file).isEmpty());
 }
 
 void tst_PluginTrust::whatBelongsToAnotherUserIsRefused()
@@ -87,22 +87,22 @@ void tst_PluginTrust::whatBelongsToAnotherUserIsRefused()
         QCOMPARE(::chown(qPrintable(file), 54321, gid_t(-1)), 0);
     else
         ++self;
-    const QString reason = KirvPluginTrust(self).whyNot(file);
+    const QString reason = KirvPluginTrust(self).refusalReason(file);
     QVERIFY2(reason.endsWith(QLatin1String("belongs to another user.")), qPrintable(reason));
 }
 
 void tst_PluginTrust::whatBelongsToRootIsTrusted()
 {
-    QCOMPARE(KirvPluginTrust(54321).whyNot(QStringLiteral("/bin/sh")), QString());
+    QCOMPARE(KirvPluginTrust(54321).refusalReason(QStringLiteral("/bin/sh")), QString());
 }
 
 void tst_PluginTrust::linksAreFollowed()
 {
     const QString link = folder->filePath(QStringLiteral("link.so"));
     QVERIFY(QFile::link(file, link));
-    QCOMPARE(KirvPluginTrust().whyNot(link), QString());
+    QCOMPARE(KirvPluginTrust().refusalReason(link), QString());
     QCOMPARE(::chmod(qPrintable(file), 0666), 0);
-    QVERIFY(KirvPluginTrust().whyNot(link).contains(QLatin1String("may write to ") + file));
+    QVERIFY(KirvPluginTrust().refusalReason(link).contains(QLatin1String("may write to ") + file));
 }
 
 void tst_PluginTrust::theFolderOfALinkCounts()
@@ -111,7 +111,7 @@ void tst_PluginTrust::theFolderOfALinkCounts()
     QCOMPARE(::chmod(qPrintable(open.path()), 0777), 0);
     const QString link = open.filePath(QStringLiteral("link.so"));
     QVERIFY(QFile::link(file, link));
-    QVERIFY(KirvPluginTrust().whyNot(link).contains(QLatin1String("may write to ") + open.path()));
+    QVERIFY(KirvPluginTrust().refusalReason(link).contains(QLatin1String("may write to ") + open.path()));
 }
 
 void tst_PluginTrust::theLoaderRefusesAndTriesAgain()

@@ -246,7 +246,7 @@ void tst_Proxy::aSystemThatIsSilentGivesNoConnection()
         ++replies;
         last = proxy;
     });
-    clock.advance(KirvSystemProxy::patience - 1);
+    clock.advance(KirvSystemProxy::replyTimeout - 1);
     QCOMPARE(replies, 0);
     clock.advance(1);
     QCOMPARE(replies, 1);
@@ -275,7 +275,7 @@ void tst_Proxy::aSystemThatIsSilentIsNotQueriedMore()
     for (int round = 0; round < 100; ++round) {
         system.request("server", 1, clock, this, [&](const std::optional<QNetworkProxy> &) { ++replies; });
         QTRY_COMPARE(queries.load(), 1); // the others are given up before their turn
-        clock.advance(KirvSystemProxy::patience);
+        clock.advance(KirvSystemProxy::replyTimeout);
     }
     QCOMPARE(replies, 100);
     go.release();
@@ -295,7 +295,7 @@ void tst_Proxy::nothingComesForWhoIsGone()
     context.reset();
     system.request("server", 1, clock, this, [&](const std::optional<QNetworkProxy> &) { ++replies; });
     QTRY_COMPARE(replies, 1);
-    clock.advance(KirvSystemProxy::patience);
+    clock.advance(KirvSystemProxy::replyTimeout);
     QCOMPARE(replies, 1);
 }
 
@@ -314,7 +314,7 @@ void tst_Proxy::theObjectMayGoWhileAQueryRuns()
     system.reset();
     go->release();
     QTRY_VERIFY(isDone->load() || go->available() == 1); // or the thread had not begun
-    clock.advance(KirvSystemProxy::patience);
+    clock.advance(KirvSystemProxy::replyTimeout);
     QCoreApplication::processEvents();
     QCOMPARE(replies, 0);
 }

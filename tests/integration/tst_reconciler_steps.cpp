@@ -9,7 +9,7 @@
 namespace {
 
 using Step = KirvReconciler::Step;
-using Urge = KirvReconciler::Urge;
+using RequestedStep = KirvReconciler::RequestedStep;
 
 const KirvPresence available(QStringLiteral("available"), QStringLiteral("Available"), QString());
 const KirvPresence away(QStringLiteral("away"), QStringLiteral("Away"), QString());
@@ -42,7 +42,7 @@ void tst_ReconcilerSteps::oneStepLeadsToWhatIsWanted_data()
     QTest::addColumn<bool>("online");
     QTest::addColumn<bool>("otherLogin");
     QTest::addColumn<bool>("otherPresence");
-    QTest::addColumn<int>("urge");
+    QTest::addColumn<int>("requestedStep");
     QTest::addColumn<Step>("step");
 
     // Not wanted on line: only what is not on its way out is logged out, whatever else differs.
@@ -51,10 +51,10 @@ void tst_ReconcilerSteps::oneStepLeadsToWhatIsWanted_data()
                                                { "Waiting", Step::LogOut },    { "Disconnecting", Step::Nothing },
                                                { "comes back", Step::LogOut } };
     struct Row {
-        Step same; ///< the same login and presence, no urge
+        Step same; ///< the same login and presence, no requestedStep
         Step otherPresence;
         Step otherLogin; ///< with either presence
-        Step retry; ///< with the urge to retry: the same login and presence
+        Step retry; ///< with the requestedStep to retry: the same login and presence
         Step retryOtherPresence;
         Step reconnect;
         Step reconnectOtherPresence;
@@ -72,20 +72,21 @@ void tst_ReconcilerSteps::oneStepLeadsToWhatIsWanted_data()
     for (const char *is : { "Offline", "gave up", "Connecting", "Online", "Waiting", "Disconnecting", "comes back" }) {
         for (int bits = 0; bits < 8; ++bits) {
             const bool online = bits & 4, otherLogin = bits & 2, otherPresence = bits & 1;
-            for (const Urge urge : { Urge::None, Urge::Retry, Urge::Reconnect }) {
+            for (const RequestedStep requestedStep :
+                 { RequestedStep::None, RequestedStep::Retry, RequestedStep::Reconnect }) {
                 const Row &row = *whenWanted.constFind(QLatin1String(is));
                 Step step = otherPresence ? row.otherPresence : row.same;
-                if (urge == Urge::Retry)
+                if (requestedStep == RequestedStep::Retry)
                     step = otherPresence ? row.retryOtherPresence : row.retry;
-                else if (urge == Urge::Reconnect)
+                else if (requestedStep == RequestedStep::Reconnect)
                     step = otherPresence ? row.reconnectOtherPresence : row.reconnect;
                 if (otherLogin)
                     step = row.otherLogin;
                 if (!online)
                     step = whenNotWanted.value(QLatin1String(is));
-                QTest::addRow("%s, %s, %s login, %s presence, urge %d", is, online ? "wanted" : "not wanted",
-                              otherLogin ? "other" : "same", otherPresence ? "other" : "same", int(urge))
-                    << is << online << otherLogin << otherPresence << int(urge) << step;
+                QTest::addRow("%s, %s, %s login, %s presence, requestedStep %d", is, online ? "wanted" : "not wanted",
+                              otherLogin ? "other" : "same", otherPresence ? "other" : "same", int(requestedStep))
+                    << is << online << otherLogin << otherPresence << int(requestedStep) << step;
             }
         }
     }
@@ -97,7 +98,7 @@ void tst_ReconcilerSteps::oneStepLeadsToWhatIsWanted()
     QFETCH(bool, online);
     QFETCH(bool, otherLogin);
     QFETCH(bool, otherPresence);
-    QFETCH(int, urge);
+    QFETCH(int, requestedStep);
     KirvFakeClock clock;
     KirvFakeConnection connection(std::make_shared<KirvFakeServer>(), clock);
     connection.server->logIn = connection.server->logOut = KirvFakeServer::Holds;
@@ -120,7 +121,7 @@ void tst_ReconcilerSteps::oneStepLeadsToWhatIsWanted()
     wanted.online = online;
     wanted.login = otherLogin ? loginWith(QStringLiteral("changed")) : login;
     wanted.presence = otherPresence ? away : available;
-    QTEST(KirvReconciler::nextStep(wanted, connection, Urge(urge)), "step");
+    QTEST(KirvReconciler::nextStep(wanted, connection, RequestedStep(requestedStep)), "step");
 }
 
 void tst_ReconcilerSteps::aLoginDiffersInEveryPart_data()
@@ -153,9 +154,9 @@ void tst_ReconcilerSteps::aLoginDiffersInEveryPart()
     wanted.online = true;
     wanted.presence = available;
     wanted.login = make("ann", "secret", "here");
-    QCOMPARE(KirvReconciler::nextStep(wanted, connection, Urge::None), Step::Nothing);
+    QCOMPARE(KirvReconciler::nextStep(wanted, connection, RequestedStep::None), Step::Nothing);
     wanted.login = make(id, password, server);
-    QCOMPARE(KirvReconciler::nextStep(wanted, connection, Urge::None), Step::LogIn);
+    QCOMPARE(KirvReconciler::nextStep(wanted, connection, RequestedStep::None), Step::LogIn);
 }
 
 void tst_ReconcilerSteps::aPresenceDiffersInItsDescription()
@@ -166,9 +167,9 @@ void tst_ReconcilerSteps::aPresenceDiffersInItsDescription()
     wanted.online = true;
     wanted.login = loginWith("secret");
     wanted.presence = KirvPresence(available.getId(), "Other Words", "other.svg");
-    QCOMPARE(KirvReconciler::nextStep(wanted, connection, Urge::None), Step::Nothing);
+    QCOMPARE(KirvReconciler::nextStep(wanted, connection, RequestedStep::None), Step::Nothing);
     wanted.presence = KirvPresence(available.getId(), available.getDisplay(), QString(), "at lunch");
-    QCOMPARE(KirvReconciler::nextStep(wanted, connection, Urge::None), Step::ChangePresence);
+    QCOMPARE(KirvReconciler::nextStep(wanted, connection, RequestedStep::None), Step::ChangePresence);
 }
 
 QTEST_GUILESS_MAIN(tst_ReconcilerSteps)

@@ -562,7 +562,7 @@ void TestXmppRoute::aProxyThatFailsEndsIt()
 void TestXmppRoute::aProxyThatIsSilentIsNamed()
 {
     open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
-    clock.advance(KirvProxy::patience - 1);
+    clock.advance(KirvProxy::timeout - 1);
     QCOMPARE(ended->size(), 0);
     QVERIFY(probes.isEmpty());
     clock.advance(1);
@@ -574,7 +574,7 @@ void TestXmppRoute::theServerBehindAProxyMayTakeItsTime()
 {
     open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
     Q_EMIT server.link()->reached();
-    clock.advance(KirvProxy::patience);
+    clock.advance(KirvProxy::timeout);
     QCOMPARE(ended->size(), 0);
     QCOMPARE(probes.size(), 1); // the server is silent
 }

@@ -273,7 +273,7 @@ void TestIrcProxy::aSilentProxyIsNotAvoided()
     KirvFakeClock clock;
     logIn(values, clock);
     QTRY_COMPARE_WITH_TIMEOUT(proxy.connections(), 1, kirvPatience);
-    clock.advance(KirvProxy::patience - 1);
+    clock.advance(KirvProxy::timeout - 1);
     QCOMPARE(connection->state(), KirvConnection::Connecting);
     clock.advance(1);
     QCOMPARE(failure().kind(), KirvFailure::ProxyTimedOut);

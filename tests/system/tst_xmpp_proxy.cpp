@@ -365,7 +365,7 @@ void TestXmppProxy::aSilentProxyIsNotAvoided()
     KirvFakeClock clock;
     logIn(settings, "romeo@localhost", clock);
     QTRY_COMPARE_WITH_TIMEOUT(proxy.connections(), 1, kirvPatience);
-    clock.advance(KirvProxy::patience - 1);
+    clock.advance(KirvProxy::timeout - 1);
     QCOMPARE(connection->state(), KirvConnection::Connecting);
     clock.advance(1);
     QCOMPARE(failure().kind(), KirvFailure::ProxyTimedOut);

@@ -22,7 +22,7 @@ bool isRoot()
     return geteuid() == 0;
 }
 
-bool giveToNobody(const QString &folder)
+bool giveToServerUser(const QString &folder)
 {
     const passwd *nobody = getpwnam("nobody");
     const auto give = [nobody](const QString &path) {
@@ -41,7 +41,7 @@ bool isRoot()
     return false;
 }
 
-bool giveToNobody(const QString &)
+bool giveToServerUser(const QString &)
 {
     return true;
 }
@@ -56,7 +56,7 @@ bool KirvNgircdServer::writeConfiguration()
         return false;
     if (!writeFile(QStringLiteral("ngircd.conf"), configuration()))
         return false;
-    return !isRoot() || giveToNobody(folder())
+    return !isRoot() || giveToServerUser(folder())
         || fail(QCoreApplication::translate("KirvNgircdServer", "The files of the server could not be given to it."));
 }
 

@@ -24,7 +24,7 @@ QString quotedList(const QStringList &texts)
     return list.join(QStringLiteral(", "));
 }
 
-QString truth(bool value)
+QString luaBoolean(bool value)
 {
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
@@ -78,10 +78,10 @@ bool KirvProsodyServer::writeConfiguration()
         QStringLiteral("modules_enabled = { %1 }").arg(quotedList(modules)),
         QStringLiteral("modules_disabled = { %1 }").arg(quotedList(options.disabledModules + QStringList("s2s"))),
         QStringLiteral("authentication = \"internal_plain\""),
-        QStringLiteral("allow_registration = %1").arg(truth(options.allowsRegistration)),
+        QStringLiteral("allow_registration = %1").arg(luaBoolean(options.allowsRegistration)),
         QStringLiteral("c2s_require_encryption = %1")
-            .arg(truth(options.offersEncryption && options.requiresEncryption)),
-        QStringLiteral("allow_unencrypted_plain_auth = %1").arg(truth(!options.offersEncryption)),
+            .arg(luaBoolean(options.offersEncryption && options.requiresEncryption)),
+        QStringLiteral("allow_unencrypted_plain_auth = %1").arg(luaBoolean(!options.offersEncryption)),
         QStringLiteral("log = { info = \"*console\" }"),
         QStringLiteral("VirtualHost %1").arg(quoted(domain())),
     };
