@@ -263,6 +263,30 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCheckList</name>
+    <message>
+        <source>&amp;All accounts</source>
+        <translation>&amp;كل الحسابات</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>الحسابات</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>الحساب</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>البروتوكول</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>an account; %1 = its alias, %2 = its login</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountCollection</name>
     <message>
         <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
@@ -296,6 +320,14 @@
     <message>
         <source>The account &quot;%1&quot; could not be created: the protocol %2 is not loaded.</source>
         <translation>تعذّر إنشاء الحساب «%1»: البروتوكول %2 غير محمّل.</translation>
+    </message>
+    <message>
+        <source>The pictures of the accounts could not be written into a temporary file.</source>
+        <translation>تعذّرت كتابة صور الحسابات في ملف مؤقت.</translation>
+    </message>
+    <message>
+        <source>There is no account &quot;%1&quot; (%2) any more.</source>
+        <translation>لم يعد الحساب «%1» (بروتوكول %2) موجودًا.</translation>
     </message>
 </context>
 <context>
@@ -405,12 +437,131 @@
         <source>L&amp;og</source>
         <translation>ال&amp;سجل</translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>صدّر %n حساب إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر حسابًا واحدًا إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر حسابين إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر %n حسابات إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر %n حسابًا إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر %n حساب إلى &amp;ملف…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>صدّر إلى &amp;ملف…</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>انتهى الاتصال قبل أن يردّ الخادم.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountExport</name>
+    <message>
+        <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>استُبعدت كلمة سر الحساب «%1» (بروتوكول %2): هي في حلقة المفاتيح وتعذّرت قراءتها.</translation>
+    </message>
+    <message>
+        <source>Secret settings of the account &quot;%1&quot; (%2) are left out: they are in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>استُبعدت إعدادات سرية للحساب «%1» (بروتوكول %2): هي في حلقة المفاتيح وتعذّرت قراءتها.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>استُبعد الحساب «%1» (بروتوكول %2): فيه نصوص أو صورة لا يمكن تصديرها.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>استُبعدت صورة الحساب «%1» (بروتوكول %2): تعذّرت قراءتها.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountFile</name>
+    <message>
+        <source>The file is damaged, or it is not a file of exported accounts.</source>
+        <translation>الملف تالف، أو ليس ملف حسابات مصدّرة.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <translation>كلمات السر في الملف تالفة، ولذلك لا يُستورد منه شيء.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Up to %1 MB are possible.</source>
+        <translation>الملف كبير جدًا. الحد الأقصى %1 ميغابايت.</translation>
+    </message>
+    <message>
+        <source>The file was made by a newer version of the program. This one cannot read it.</source>
+        <translation>أنشأ الملفَ إصدارٌ أحدث من البرنامج. لا يمكن لهذا الإصدار قراءته.</translation>
+    </message>
+    <message>
+        <source>The file has too many accounts. Up to %1 are possible.</source>
+        <translation>في الملف حسابات كثيرة جدًا. الحد الأقصى لعدد الحسابات %1.</translation>
+    </message>
+    <message>
+        <source>Account %1 in the file is damaged: &quot;%2&quot; cannot be used.</source>
+        <extracomment>%1 = number of an account in a file, %2 = name of a value that is stored there</extracomment>
+        <translation>الحساب رقم %1 في الملف تالف: لا يمكن استعمال القيمة «%2».</translation>
+    </message>
+    <message>
+        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>الحساب «%1» (بروتوكول %2) وارد في الملف مرتين.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) in the file is too large.</source>
+        <translation>صورة الحساب «%1» (بروتوكول %2) في الملف كبيرة جدًا.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it is of a kind that cannot be used.</source>
+        <translation>استُبعدت صورة الحساب «%1» (بروتوكول %2): هي من نوع لا يمكن استعماله.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its main account is not in it.</source>
+        <translation>الملف تالف: حسابه الرئيسي ليس فيه.</translation>
+    </message>
+    <message>
+        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <translation>ليس في الملف كلمات سر، ولذلك لا يوجد ما تفتحه عبارة السر. إذا كان يجب أن تكون فيه كلمات سر فقد غيّره شخص ما.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are left out, as they need its pass phrase.</source>
+        <translation>استُبعدت كلمات السر التي في الملف، لأنها تحتاج إلى عبارة سره.</translation>
+    </message>
+    <message>
+        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <translation>يتطلب فتح كلمات السر في الملف ذاكرة أو وقتًا أكثر من المسموح به، ولذلك لا يُستورد منه شيء.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the passwords in the file.</source>
+        <translation>لا توجد ذاكرة كافية لفتح كلمات السر في الملف.</translation>
+    </message>
+    <message>
+        <source>The pass phrase does not open the passwords in the file.</source>
+        <translation>لا تفتح عبارة السر هذه كلمات السر في الملف.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <translation>غُيّرت الحسابات في الملف بعد كتابته. لم تعد تطابق كلمات السر التي فيه، ولذلك لا يُستورد منه شيء.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
+        <translation>في الحساب «%1» (بروتوكول %2) نصوص أو صورة لا يمكن تصديرها.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encrypt the passwords.</source>
+        <translation>لا توجد ذاكرة كافية لتشفير كلمات السر.</translation>
+    </message>
+    <message>
+        <source>The file would have more than %1 MB or %2 accounts. Export fewer accounts at once.</source>
+        <translation>سيتجاوز الملف الحد الأقصى للحجم (%1 ميغابايت) أو لعدد الحسابات (%2). صدّر حسابات أقل في المرة الواحدة.</translation>
     </message>
 </context>
 <context>
@@ -472,6 +623,42 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>لا يمكن تفعيل الحساب «%1» من جديد: لقد أُزيل.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>لا يمكن أن يعود الحساب «%1» إلى ما كان عليه قبل الاستيراد: لقد أُزيل.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountImport</name>
+    <message>
+        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
+        <translation>اسم الدخول هذا وارد في الملف مرتين: «%1» هو لدى الخادم نفس «%2».</translation>
+    </message>
+    <message>
+        <source>The account has no login.</source>
+        <translation>ليس للحساب اسم دخول.</translation>
+    </message>
+    <message>
+        <source>The protocol %1 is not loaded.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>البروتوكول %1 غير محمّل.</translation>
+    </message>
+    <message>
+        <source>Another account with this login was added or removed since.</source>
+        <translation>أُضيف أو أُزيل منذ ذلك الحين حساب آخر باسم الدخول هذا.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>لا يمكن نقل الحساب «%1». %2</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out. %2</source>
+        <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
+        <translation>استُبعدت صورة الحساب «%1». %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountInvitation</name>
@@ -488,16 +675,36 @@
         <translation>أنشئ حسابًا جديدًا على خادم</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, or register a new one.</source>
-        <translation>لا يوجد حساب بعد. أضف حسابًا لديك بالفعل، أو سجّل حسابًا جديدًا.</translation>
-    </message>
-    <message>
         <source>Add an account that you already have</source>
         <translation>أضف حسابًا لديك بالفعل</translation>
     </message>
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>لم يُحمَّل أي بروتوكول. حمّل واحدًا من صفحة «الملحقات».</translation>
+    </message>
+    <message>
+        <source>Take accounts over from a file</source>
+        <translation>انقل الحسابات من ملف</translation>
+    </message>
+    <message>
+        <source>Take the accounts of Pidgin over; its own file is only read</source>
+        <translation>انقل حسابات Pidgin؛ يُقرأ ملفه فقط ولا يُغيَّر</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts from a file.</source>
+        <translation>لا يوجد حساب بعد. أضف حسابًا لديك بالفعل، أو سجّل حسابًا جديدًا، أو استورد حسابات من ملف.</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <translation>لا يوجد حساب بعد. أضف حسابًا لديك بالفعل، أو سجّل حسابًا جديدًا، أو استورد حسابات. لبرنامج Pidgin حسابات على هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>استورد…</translation>
+    </message>
+    <message>
+        <source>Import from Pidgin…</source>
+        <translation>استورد من Pidgin…</translation>
     </message>
 </context>
 <context>
@@ -579,6 +786,18 @@
         <source>%1  %2</source>
         <extracomment>%1 = time of day, %2 = an event</extracomment>
         <translation>%1  %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountNames</name>
+    <message>
+        <source>There is no account &quot;%1&quot;.</source>
+        <translation>لا يوجد حساب باسم «%1».</translation>
+    </message>
+    <message>
+        <source>Several accounts are called &quot;%1&quot;. Name one of them with its protocol: %2</source>
+        <extracomment>%1 = what was typed, %2 = names that could be meant</extracomment>
+        <translation>عدة حسابات تحمل الاسم «%1». اذكر واحدًا منها مع بروتوكوله: %2</translation>
     </message>
 </context>
 <context>
@@ -933,6 +1152,7 @@
     </message>
     <message>
         <source>&amp;Undo Disabling %1</source>
+        <extracomment>%1 = name of an account</extracomment>
         <translation>ترا&amp;جع عن تعطيل الحساب %1</translation>
     </message>
     <message>
@@ -968,7 +1188,187 @@
     </message>
     <message>
         <source>The account %1 (%2) was disabled.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
         <translation>عُطّل الحساب %1 (بروتوكول %2).</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Importing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>ترا&amp;جع عن استيراد الحساب %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>ترا&amp;جع عن استيراد %n حساب</numerusform>
+            <numerusform>ترا&amp;جع عن استيراد حساب واحد</numerusform>
+            <numerusform>ترا&amp;جع عن استيراد حسابين</numerusform>
+            <numerusform>ترا&amp;جع عن استيراد %n حسابات</numerusform>
+            <numerusform>ترا&amp;جع عن استيراد %n حسابًا</numerusform>
+            <numerusform>ترا&amp;جع عن استيراد %n حساب</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was imported.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>استُورد الحساب %1 (بروتوكول %2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>لم يُستورد أي حساب.</numerusform>
+            <numerusform>استُورد حساب واحد.</numerusform>
+            <numerusform>استُورد حسابان.</numerusform>
+            <numerusform>استُوردت %n حسابات.</numerusform>
+            <numerusform>استُورد %n حسابًا.</numerusform>
+            <numerusform>استُورد %n حساب.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsCommand</name>
+    <message>
+        <source>The profile in &quot;%1&quot; is open in another program, which does not take commands.</source>
+        <translation>الملف الشخصي في «‎%1» مفتوح في برنامج آخر لا يقبل الأوامر.</translation>
+    </message>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>لا يوجد ملف شخصي في «‎%1» بعد.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not respond.</source>
+        <translation>البرنامج الذي يعمل بهذا الملف الشخصي لا يستجيب.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsMoving</name>
+    <message>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>استُبعدت كلمات سر الحساب «%1»: حلقة المفاتيح مقفلة.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed.</source>
+        <translation>تلزم عبارة سر.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsOptions</name>
+    <message>
+        <source>Print one line of JSON.</source>
+        <translation>يطبع سطرًا واحدًا بصيغة JSON.</translation>
+    </message>
+    <message>
+        <source>Export: put passwords into the file, encrypted with a pass phrase.</source>
+        <translation>التصدير: يضع كلمات السر في الملف مشفّرة بعبارة سر.</translation>
+    </message>
+    <message>
+        <source>Export: overwrite a file that is there.</source>
+        <translation>التصدير: يكتب فوق ملف موجود.</translation>
+    </message>
+    <message>
+        <source>Import: leave the passwords out that are in the file.</source>
+        <translation>الاستيراد: يستبعد كلمات السر التي في الملف.</translation>
+    </message>
+    <message>
+        <source>Import: replace accounts that exist by those of the file.</source>
+        <translation>الاستيراد: يستبدل بالحسابات الموجودة حسابات الملف.</translation>
+    </message>
+    <message>
+        <source>Import: say what would be done, and change nothing.</source>
+        <translation>الاستيراد: يبيّن ما كان سيُفعل، ولا يغيّر شيئًا.</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line of &lt;file&gt;.</source>
+        <translation>التصدير والاستيراد: عبارة السر هي السطر الأول من &lt;ملف&gt;.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line that can be read from the file descriptor &lt;number&gt;.</source>
+        <translation>التصدير والاستيراد: عبارة السر هي أول سطر يمكن قراءته من واصف الملف &lt;رقم&gt;.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>رقم</translation>
+    </message>
+    <message>
+        <source>Lists, enables, disables, exports and imports accounts.
+An account is named PROTOCOL:ID, or by its id when no other account has the same.
+
+  accounts list [account…]
+  accounts enable account…
+  accounts disable account…
+  accounts export file [account…]
+  accounts import file
+
+A file is called - where the standard output or input is meant.</source>
+        <translation>يسرد الحسابات ويفعّلها ويعطّلها ويصدّرها ويستوردها.
+يُذكر الحساب بالصيغة ‎PROTOCOL:ID، أو بمعرّفه وحده إذا لم يكن لحساب آخر المعرّف نفسه.
+
+  ‎accounts list [حساب…]
+  ‎accounts enable حساب…
+  ‎accounts disable حساب…
+  ‎accounts export ملف [حساب…]
+  ‎accounts import ملف
+
+العلامة «-» مكان اسم الملف تعني الخرج القياسي أو الدخل القياسي.</translation>
+    </message>
+    <message>
+        <source>list, enable, disable, export or import.</source>
+        <translation>أحد الأوامر list أو enable أو disable أو export أو import.</translation>
+    </message>
+    <message>
+        <source>A file or an account.</source>
+        <translation>ملف أو حساب.</translation>
+    </message>
+    <message>
+        <source>[argument…]</source>
+        <translation>[معامل…]</translation>
+    </message>
+    <message>
+        <source>The command is missing: list, enable, disable, export or import.</source>
+        <translation>لم يُذكر الأمر: list أو enable أو disable أو export أو import.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is not known: it can be list, enable, disable, export or import.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>الأمر «‎%1» غير معروف: يمكن أن يكون list أو enable أو disable أو export أو import.</translation>
+    </message>
+    <message>
+        <source>The option --%1 does not belong to the command &quot;%2&quot;.</source>
+        <extracomment>%1 = name of an option, %2 = name of a command</extracomment>
+        <translation>الخيار ‎--%1 لا يخص الأمر «%2».</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>لم يُذكر الملف.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>المعامل «‎%1» غير معروف.</translation>
+    </message>
+    <message>
+        <source>The account is missing.</source>
+        <translation>لم يُذكر الحساب.</translation>
+    </message>
+    <message>
+        <source>The option --json cannot be used when the file goes to the standard output.</source>
+        <translation>لا يمكن استعمال الخيار ‎--json عندما يُكتب الملف إلى الخرج القياسي.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <translation>لا فائدة من عبارة سر إذا لم تُنقل كلمات السر.</translation>
+    </message>
+    <message>
+        <source>The file with the pass phrase is missing.</source>
+        <translation>لم يُذكر الملف الذي فيه عبارة السر.</translation>
+    </message>
+    <message>
+        <source>The option --pass-phrase-fd needs the number of a file descriptor.</source>
+        <translation>الخيار ‎--pass-phrase-fd يحتاج إلى رقم واصف ملف.</translation>
     </message>
 </context>
 <context>
@@ -976,6 +1376,101 @@
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>ملحقة البروتوكول %1 غير محمّلة. حمّلها من صفحة «الملحقات».</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsService</name>
+    <message>
+        <source>The account is missing.</source>
+        <translation>لم يُذكر الحساب.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsText</name>
+    <message>
+        <source>There are no accounts.</source>
+        <translation>لا توجد حسابات.</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>البروتوكول</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>المعرّف</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>الاسم المستعار</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>مفعّل</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>رئيسي</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>%1 is enabled now.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>الحساب %1 مفعّل الآن.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled now.</source>
+        <translation>الحساب %1 معطّل الآن.</translation>
+    </message>
+    <message>
+        <source>%1 was enabled already.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>كان الحساب %1 مفعّلًا بالفعل.</translation>
+    </message>
+    <message>
+        <source>%1 was disabled already.</source>
+        <translation>كان الحساب %1 معطّلًا بالفعل.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, with the passwords that are stored.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>الحسابات المصدّرة: %1، مع كلمات السر المحفوظة.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, without passwords.</source>
+        <translation>الحسابات المصدّرة: %1، بلا كلمات سر.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>جديد</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>يحل محل %1</translation>
+    </message>
+    <message>
+        <source>%1 is kept</source>
+        <translation>يبقى %1 كما هو</translation>
+    </message>
+    <message>
+        <source>Accounts that would be imported: %1. Nothing was changed.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>الحسابات التي كانت ستُستورد: %1. لم يُغيَّر شيء.</translation>
+    </message>
+    <message>
+        <source>Accounts imported: %1.</source>
+        <translation>الحسابات المستوردة: %1.</translation>
     </message>
 </context>
 <context>
@@ -1306,8 +1801,10 @@
         <translation>يحمّل ملحقات البروتوكولات من &lt;مجلد&gt;.</translation>
     </message>
     <message>
-        <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation>حسابات عدة بروتوكولات للتراسل الفوري في مكان واحد.</translation>
+        <source>Accounts of several instant-messaging protocols in one place.
+&quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
+        <translation>حسابات عدة بروتوكولات للتراسل الفوري في مكان واحد.
+يبيّن الأمر «‎kirv accounts --help» كيف تُسرد الحسابات وتُفعَّل وتُعطَّل وتُصدَّر وتُستورد بلا نوافذ.</translation>
     </message>
 </context>
 <context>
@@ -1480,6 +1977,92 @@
     <message>
         <source>None is stored</source>
         <translation>لا توجد كلمة سر محفوظة</translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message>
+        <source>Export Accounts</source>
+        <translation>تصدير الحسابات</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدّم</translation>
+    </message>
+    <message>
+        <source>Include &amp;passwords (encrypted)</source>
+        <translation>أدرج كلمات ال&amp;سر (مشفّرة)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>النتيجة</translation>
+    </message>
+    <message>
+        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <translation>عدة كلمات لا رابط بينها يسهل تذكّرها ويصعب تخمينها. من لديه الملف وخمّن عبارة السر حصل على كلمات السر التي فيه؛ ومن دونها لا يستطيع أحد قراءتها، ولا حتى أنت.</translation>
+    </message>
+    <message>
+        <source>Pass p&amp;hrase:</source>
+        <translation>&amp;عبارة السر:</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat it:</source>
+        <translation>&amp;تأكيد العبارة:</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;صدّر…</translation>
+    </message>
+    <message>
+        <source>Choose the file to which the accounts are written.</source>
+        <translation>اختر الملف الذي تُكتب فيه الحسابات.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>لا حد أدنى لعدد محارف عبارة السر.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن محرف واحد.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن محرفين.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن %n محارف.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن %n محرفًا.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن %n محرف.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase and its repetition must be the same.</source>
+        <translation>يجب أن تتطابق عبارة السر وتأكيدها.</translation>
+    </message>
+    <message>
+        <source>Exported accounts (*.json)</source>
+        <translation>حسابات مصدّرة (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>The export was cancelled; nothing was written.</source>
+        <translation>أُلغي التصدير؛ لم يُكتب شيء.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>لم يُصدَّر أي حساب إلى ‎%1.</numerusform>
+            <numerusform>صُدّر حساب واحد إلى ‎%1.</numerusform>
+            <numerusform>صُدّر حسابان إلى ‎%1.</numerusform>
+            <numerusform>صُدّرت %n حسابات إلى ‎%1.</numerusform>
+            <numerusform>صُدّر %n حسابًا إلى ‎%1.</numerusform>
+            <numerusform>صُدّر %n حساب إلى ‎%1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No passwords are in the file.</source>
+        <translation>ليس في الملف كلمات سر.</translation>
+    </message>
+    <message>
+        <source>These are not in the file:</source>
+        <translation>ما ليس في الملف:</translation>
     </message>
 </context>
 <context>
@@ -1820,6 +2403,165 @@
     <message>
         <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
         <translation>نسخ الملف الشخصي، بلا كلمات سر؛ يمكن استعادة إحداها عندما يكون الملف الشخصي تالفًا:</translation>
+    </message>
+    <message>
+        <source>&amp;Export Accounts…</source>
+        <translation>&amp;صدّر الحسابات…</translation>
+    </message>
+    <message>
+        <source>Writes accounts to a file that can be imported on another computer.</source>
+        <translation>يكتب الحسابات في ملف يمكن استيراده على حاسوب آخر.</translation>
+    </message>
+    <message>
+        <source>&amp;Import Accounts…</source>
+        <translation>ا&amp;ستورد الحسابات…</translation>
+    </message>
+    <message>
+        <source>Takes accounts over from such a file, or from Pidgin.</source>
+        <translation>ينقل الحسابات من ملف كهذا أو من Pidgin.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message>
+        <source>Import Accounts</source>
+        <translation>استيراد الحسابات</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدّم</translation>
+    </message>
+    <message>
+        <source>About the file</source>
+        <translation>عن الملف</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>ما سيحدث</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>مشكلة</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>المستبعَد</translation>
+    </message>
+    <message>
+        <source>&amp;Pass phrase:</source>
+        <translation>&amp;عبارة السر:</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;File…</source>
+        <translation>اختر &amp;ملفًا آخر…</translation>
+    </message>
+    <message>
+        <source>&amp;Without Passwords</source>
+        <translation>&amp;بلا كلمات السر</translation>
+    </message>
+    <message>
+        <source>Lists the accounts; their passwords have to be entered here.</source>
+        <translation>يسرد الحسابات؛ يجب إدخال كلمات سرها هنا.</translation>
+    </message>
+    <message>
+        <source>Exported accounts, accounts of Pidgin (*.json *.xml)</source>
+        <translation>حسابات مصدّرة، حسابات Pidgin (*.json *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read…</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>يُقرأ الملف ‎%1…</translation>
+    </message>
+    <message>
+        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>في الملف ‎%1 كلمات سر. أدخل عبارة السر التي شُفّرت بها.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file %1 cannot be imported.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>لا يمكن استيراد الحسابات التي في الملف ‎%1.</translation>
+    </message>
+    <message>
+        <source>There are no accounts that can be imported in the file %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>لا توجد حسابات يمكن استيرادها في الملف ‎%1.</translation>
+    </message>
+    <message>
+        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <translation>هذه هي الحسابات التي في الملف ‎%1. لا يُغيَّر شيء قبل أن تستوردها، ويمكن التراجع عن الاستيراد.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;تابع</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>ا&amp;ستورد %n حساب</numerusform>
+            <numerusform>ا&amp;ستورد حسابًا واحدًا</numerusform>
+            <numerusform>ا&amp;ستورد حسابين</numerusform>
+            <numerusform>ا&amp;ستورد %n حسابات</numerusform>
+            <numerusform>ا&amp;ستورد %n حسابًا</numerusform>
+            <numerusform>ا&amp;ستورد %n حساب</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>جديد</translation>
+    </message>
+    <message>
+        <source>New, is left out</source>
+        <translation>جديد، سيُستبعد</translation>
+    </message>
+    <message>
+        <source>Exists here, is replaced</source>
+        <translation>موجود هنا، سيُستبدل</translation>
+    </message>
+    <message>
+        <source>Exists here, is kept</source>
+        <translation>موجود هنا، سيبقى كما هو</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is replaced</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>موجود هنا باسم %1، سيُستبدل</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is kept</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>موجود هنا باسم %1، سيبقى كما هو</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = the login of an account, %2 = a sentence about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These are not imported:</source>
+        <translation>ما لن يُستورد:</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceCommands</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>البرنامج الذي يعمل بهذا الملف الشخصي لا يعرف هذا الأمر.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceMessage</name>
+    <message>
+        <source>The other program said something that is not understood.</source>
+        <translation>أرسل البرنامج الآخر شيئًا غير مفهوم.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile has another version. Quit it, and try again.</source>
+        <translation>البرنامج الذي يعمل بهذا الملف الشخصي من إصدار آخر. أنهِه وحاول من جديد.</translation>
     </message>
 </context>
 <context>
@@ -2220,6 +2962,20 @@
     </message>
 </context>
 <context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ولا حسابات أخرى</numerusform>
+            <numerusform>وحساب واحد آخر</numerusform>
+            <numerusform>وحسابان آخران</numerusform>
+            <numerusform>و%n حسابات أخرى</numerusform>
+            <numerusform>و%n حسابًا آخر</numerusform>
+            <numerusform>و%n حساب آخر</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvLengthLimit</name>
     <message>
         <source>The text is too long here. At most %1 characters are kept.</source>
@@ -2385,10 +3141,106 @@
     </message>
 </context>
 <context>
+    <name>KirvMovedFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>لا يمكن قراءة الملف «‎%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <translation>الملف «‎%1» أكبر من أن يكون ملف حسابات.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <translation>المسار «‎%1» ليس ملفًا يمكن الكتابة فوقه.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <translation>الملف «‎%1» موجود بالفعل. للكتابة فوقه استعمل الخيار ‎--force.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>لا يمكن كتابة الملف «‎%1».</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>لا يمكن الكتابة إلى الخرج القياسي.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMovingFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>المسار ‎%1 ليس ملفًا عاديًا.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>لا يمكن قراءة الملف ‎%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a link to another file. Choose another name.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>المسار ‎%1 وصلة إلى ملف آخر. اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than %L2 MB, so it is not read.</source>
+        <extracomment>%1 = path of a file, %L2 = a number</extracomment>
+        <translation>الملف ‎%1 أكبر من %L2 ميغابايت، ولذلك لا يُقرأ.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>لا يمكن كتابة الملف ‎%1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvNgircdServer</name>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>تعذّر نقل ملكية ملفات الخادم إليه.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhraseInput</name>
+    <message>
+        <source>file descriptor %1</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>واصف الملف %1</translation>
+    </message>
+    <message>
+        <source>The pass phrase cannot be read from %1.</source>
+        <translation>لا يمكن قراءة عبارة السر من ‎%1.</translation>
+    </message>
+    <message>
+        <source>The pass phrase in %1 is too long.</source>
+        <translation>عبارة السر في ‎%1 طويلة جدًا.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in %1.</source>
+        <translation>لا توجد عبارة سر في ‎%1.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <translation>تلزم عبارة سر، ولا توجد طرفية لكتابتها. اذكرها بالخيار ‎--pass-phrase-file أو ‎--pass-phrase-fd.</translation>
+    </message>
+    <message>
+        <source>Pass phrase of the file: </source>
+        <translation>عبارة سر الملف: </translation>
+    </message>
+    <message>
+        <source>No pass phrase was typed.</source>
+        <translation>لم تُكتب عبارة سر.</translation>
+    </message>
+    <message>
+        <source>The same again: </source>
+        <translation>تأكيد عبارة السر: </translation>
+    </message>
+    <message>
+        <source>The pass phrase was not typed twice in the same way.</source>
+        <translation>لم تُكتب عبارة السر نفسها في المرتين.</translation>
     </message>
 </context>
 <context>
@@ -2433,6 +3285,135 @@
     <message>
         <source>The password is not remembered, so it is needed when the account logs in.</source>
         <translation>لم يُطلب تذكّر كلمة السر، ولذلك تلزم عندما يسجّل الحساب الدخول.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message>
+        <source>The account &quot;%1&quot; was left out: the protocol %2 is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>استُبعد الحساب «%1»: البروتوكول %2 غير مدعوم.</translation>
+    </message>
+    <message>
+        <source>An account was left out: it has no login.</source>
+        <translation>استُبعد حساب: ليس له اسم دخول.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out: it is not in the file.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>استُبعدت صورة الحساب «%1»: ليست في الملف.</translation>
+    </message>
+    <message>
+        <source>The resource of the account &quot;%1&quot; was left out: it has the name of the computer in it, or characters that mean something else here.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>استُبعد مورد الحساب «%1»: فيه اسم الحاسوب أو محارف لها هنا معنى آخر.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: what the file says of it is not known.</source>
+        <translation>صار الحساب «%1» يتطلب التشفير: ما يذكره الملف عن التشفير غير معروف.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; does not send its password without encryption any more.</source>
+        <translation>لم يعد الحساب «%1» يرسل كلمة سره بلا تشفير.</translation>
+    </message>
+    <message>
+        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <translation>استُبعد خادم الحساب «%1»: ليس اسم خادم ولا عنوانه.</translation>
+    </message>
+    <message>
+        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <translation>استُبعد منفذ الحساب «%1»: ليس عددًا من 1 إلى 65535.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; has no server. Enter one before it is used.</source>
+        <translation>ليس للحساب «%1» خادم. أدخل خادمًا قبل استعماله.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; uses UTF-8 instead of the encoding %2, which is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a character encoding</extracomment>
+        <translation>يستعمل الحساب «%1» الترميز UTF-8 بدلًا من الترميز %2 غير المدعوم.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: otherwise its password would be sent without it.</source>
+        <translation>صار الحساب «%1» يتطلب التشفير: وإلا لأُرسلت كلمة سره بلا تشفير.</translation>
+    </message>
+    <message>
+        <source>Its kind is not supported.</source>
+        <translation>نوعه غير مدعوم.</translation>
+    </message>
+    <message>
+        <source>The proxy of the account &quot;%1&quot; was left out. %2 The account is disabled, so that it does not connect without the proxy.</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>استُبعد وسيط الحساب «%1». %2 الحساب معطّل كي لا يتصل بلا الوسيط.</translation>
+    </message>
+    <message>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
+        <translation>استُبعدت إعدادات من الحساب «%1»، لأنه لا مثيل لها هنا: %2.</translation>
+    </message>
+    <message>
+        <source>The file is no text.</source>
+        <translation>الملف ليس نصًا.</translation>
+    </message>
+    <message>
+        <source>A text in the file is too long.</source>
+        <translation>في الملف نص طويل جدًا.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or no XML (line %1: %2).</source>
+        <extracomment>%1 = number of a line, %2 = what is wrong there</extracomment>
+        <translation>الملف تالف أو ليس XML (السطر %1: %2).</translation>
+    </message>
+    <message>
+        <source>The file is not encoded as UTF-8.</source>
+        <translation>ترميز الملف ليس UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file declares a document type or uses entities, which no file of Pidgin does.</source>
+        <translation>يعلن الملف نوع مستند أو يستعمل كيانات، ولا يفعل ذلك أي ملف من Pidgin.</translation>
+    </message>
+    <message>
+        <source>The elements of the file are nested too deeply, or have too many attributes.</source>
+        <translation>عناصر الملف متداخلة بعمق كبير جدًا، أو لها سمات كثيرة جدًا.</translation>
+    </message>
+    <message>
+        <source>There are elements in the file where a text is expected (line %1).</source>
+        <translation>في الملف عناصر حيث يُتوقع نص (السطر %1).</translation>
+    </message>
+    <message>
+        <source>Something follows the accounts in the file.</source>
+        <translation>في الملف شيء آخر بعد الحسابات.</translation>
+    </message>
+    <message>
+        <source>An account in the file has too many settings.</source>
+        <translation>لأحد الحسابات في الملف إعدادات كثيرة جدًا.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>الملف كبير جدًا.</translation>
+    </message>
+    <message>
+        <source>The file does not hold accounts of Pidgin.</source>
+        <translation>ليس في الملف حسابات Pidgin.</translation>
+    </message>
+    <message>
+        <source>The file is of another version of Pidgin, which is not known.</source>
+        <translation>الملف من إصدار آخر غير معروف من Pidgin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>في الملف حسابات.</numerusform>
+            <numerusform>في الملف أكثر من حساب واحد.</numerusform>
+            <numerusform>في الملف أكثر من حسابين.</numerusform>
+            <numerusform>في الملف أكثر من %n حسابات.</numerusform>
+            <numerusform>في الملف أكثر من %n حسابًا.</numerusform>
+            <numerusform>في الملف أكثر من %n حساب.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>If Pidgin uses a proxy for all accounts, it is not in this file. Set it for the accounts before they log in.</source>
+        <translation>إذا كان Pidgin يستعمل وسيطًا لكل الحسابات فهو ليس في هذا الملف. حدّده للحسابات قبل أن تسجّل الدخول.</translation>
     </message>
 </context>
 <context>
@@ -3167,6 +4148,13 @@
     </message>
 </context>
 <context>
+    <name>KirvRunningInstance</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>البرنامج الذي يعمل بهذا الملف الشخصي لا يعرف هذا الأمر.</translation>
+    </message>
+</context>
+<context>
     <name>KirvSecretTexts</name>
     <message>
         <source>in a file only you can read</source>
@@ -3564,6 +4552,17 @@
     <message>
         <source>Kirv – Settings – %1</source>
         <translation>إعدادات Kirv – الحساب %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSortingHint</name>
+    <message>
+        <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>
+        <translation>القائمة مرتّبة حسب أحد الأعمدة. لا يمكن نقل الحسابات إلا في الترتيب الخاص بك.</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>الترتيب ال&amp;خاص</translation>
     </message>
 </context>
 <context>

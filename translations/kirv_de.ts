@@ -263,6 +263,30 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCheckList</name>
+    <message>
+        <source>&amp;All accounts</source>
+        <translation>&amp;Alle Konten</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>an account; %1 = its alias, %2 = its login</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountCollection</name>
     <message>
         <source>The account &quot;%1&quot; (%2) exists already.</source>
@@ -292,6 +316,14 @@
         <source>The account &quot;%1&quot; (%2) exists already: it is the same as &quot;%3&quot; to the server.</source>
         <extracomment>%1 and %3 are two spellings of a login, %2 is the name of a protocol</extracomment>
         <translation>Das Konto „%1“ (%2) gibt es schon: Für den Server ist es dasselbe wie „%3“.</translation>
+    </message>
+    <message>
+        <source>The pictures of the accounts could not be written into a temporary file.</source>
+        <translation>Die Bilder der Konten konnten nicht in eine temporäre Datei geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>There is no account &quot;%1&quot; (%2) any more.</source>
+        <translation>Das Konto „%1“ (%2) gibt es nicht mehr.</translation>
     </message>
 </context>
 <context>
@@ -389,12 +421,127 @@
         <source>L&amp;og</source>
         <translation>Ereignispr&amp;otokoll</translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>Ein Konto e&amp;xportieren…</numerusform>
+            <numerusform>%n Konten e&amp;xportieren…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportieren…</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountExport</name>
+    <message>
+        <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Das Passwort des Kontos „%1“ (%2) wird ausgelassen: Es ist im Schlüsselbund und konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Secret settings of the account &quot;%1&quot; (%2) are left out: they are in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Geheime Einstellungen des Kontos „%1“ (%2) werden ausgelassen: Sie sind im Schlüsselbund und konnten nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Das Konto „%1“ (%2) wird ausgelassen: Texte oder das Bild darin können nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Das Bild des Kontos „%1“ (%2) wird ausgelassen: Es konnte nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountFile</name>
+    <message>
+        <source>The file is damaged, or it is not a file of exported accounts.</source>
+        <translation>Die Datei ist beschädigt oder keine Datei mit exportierten Konten.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <translation>Die Passwörter in der Datei sind beschädigt; daher wird nichts daraus importiert.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Up to %1 MB are possible.</source>
+        <translation>Die Datei ist zu groß. Bis zu %1 MB sind möglich.</translation>
+    </message>
+    <message>
+        <source>The file was made by a newer version of the program. This one cannot read it.</source>
+        <translation>Die Datei wurde von einer neueren Version des Programms erstellt. Diese hier kann sie nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The file has too many accounts. Up to %1 are possible.</source>
+        <translation>Die Datei enthält zu viele Konten. Bis zu %1 sind möglich.</translation>
+    </message>
+    <message>
+        <source>Account %1 in the file is damaged: &quot;%2&quot; cannot be used.</source>
+        <extracomment>%1 = number of an account in a file, %2 = name of a value that is stored there</extracomment>
+        <translation>Konto %1 in der Datei ist beschädigt: „%2“ ist nicht brauchbar.</translation>
+    </message>
+    <message>
+        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Die Datei enthält das Konto „%1“ (%2) zweimal.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) in the file is too large.</source>
+        <translation>Das Bild des Kontos „%1“ (%2) in der Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it is of a kind that cannot be used.</source>
+        <translation>Das Bild des Kontos „%1“ (%2) wird ausgelassen: Bilder dieser Art können nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its main account is not in it.</source>
+        <translation>Die Datei ist beschädigt: Ihr Hauptkonto ist nicht darin.</translation>
+    </message>
+    <message>
+        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <translation>Die Datei enthält keine Passwörter; die Passphrase hat also nichts zu öffnen. Wenn sie welche enthalten müsste, hat jemand sie verändert.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are left out, as they need its pass phrase.</source>
+        <translation>Die Passwörter in der Datei werden ausgelassen, weil dafür ihre Passphrase nötig ist.</translation>
+    </message>
+    <message>
+        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <translation>Um die Passwörter in der Datei zu öffnen, ist mehr Speicher oder Zeit nötig als erlaubt; daher wird nichts daraus importiert.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the passwords in the file.</source>
+        <translation>Der Speicher reicht nicht aus, um die Passwörter in der Datei zu öffnen.</translation>
+    </message>
+    <message>
+        <source>The pass phrase does not open the passwords in the file.</source>
+        <translation>Die Passphrase öffnet die Passwörter in der Datei nicht.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <translation>Die Konten in der Datei wurden verändert, nachdem sie geschrieben wurde. Sie gehören nicht mehr zu den Passwörtern darin; daher wird nichts aus der Datei importiert.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
+        <translation>Texte oder das Bild des Kontos „%1“ (%2) können nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encrypt the passwords.</source>
+        <translation>Der Speicher reicht nicht aus, um die Passwörter zu verschlüsseln.</translation>
+    </message>
+    <message>
+        <source>The file would have more than %1 MB or %2 accounts. Export fewer accounts at once.</source>
+        <translation>Die Datei hätte mehr als %1 MB oder %2 Konten. Exportieren Sie weniger Konten auf einmal.</translation>
     </message>
 </context>
 <context>
@@ -444,6 +591,42 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Das Konto „%1“ kann nicht wieder aktiviert werden: Es wurde entfernt.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Das Konto „%1“ kann nicht wieder werden, was es vor dem Import war: Es wurde entfernt.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountImport</name>
+    <message>
+        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
+        <translation>Die Datei enthält diesen Anmeldenamen zweimal: „%1“ ist für den Server dasselbe wie „%2“.</translation>
+    </message>
+    <message>
+        <source>The account has no login.</source>
+        <translation>Das Konto hat keinen Anmeldenamen.</translation>
+    </message>
+    <message>
+        <source>The protocol %1 is not loaded.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>Das Protokoll %1 ist nicht geladen.</translation>
+    </message>
+    <message>
+        <source>Another account with this login was added or removed since.</source>
+        <translation>Inzwischen wurde ein anderes Konto mit diesem Anmeldenamen hinzugefügt oder entfernt.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Das Konto „%1“ kann nicht übernommen werden. %2</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out. %2</source>
+        <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
+        <translation>Das Bild des Kontos „%1“ wurde ausgelassen. %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountInvitation</name>
@@ -460,16 +643,36 @@
         <translation>Ein neues Konto auf einem Server anlegen</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, or register a new one.</source>
-        <translation>Es gibt noch kein Konto. Fügen Sie eines hinzu, das Sie schon haben, oder registrieren Sie ein neues.</translation>
-    </message>
-    <message>
         <source>Add an account that you already have</source>
         <translation>Ein Konto hinzufügen, das Sie schon haben</translation>
     </message>
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Kein Protokoll ist geladen. Laden Sie eines auf der Seite „Module“.</translation>
+    </message>
+    <message>
+        <source>Take accounts over from a file</source>
+        <translation>Konten aus einer Datei übernehmen</translation>
+    </message>
+    <message>
+        <source>Take the accounts of Pidgin over; its own file is only read</source>
+        <translation>Die Konten von Pidgin übernehmen; dessen eigene Datei wird nur gelesen</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts from a file.</source>
+        <translation>Es gibt noch kein Konto. Fügen Sie eines hinzu, das Sie schon haben, registrieren Sie ein neues, oder importieren Sie Konten aus einer Datei.</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <translation>Es gibt noch kein Konto. Fügen Sie eines hinzu, das Sie schon haben, registrieren Sie ein neues, oder importieren Sie Konten. Auf diesem Rechner gibt es Konten von Pidgin.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>Import from Pidgin…</source>
+        <translation>Aus Pidgin importieren…</translation>
     </message>
 </context>
 <context>
@@ -551,6 +754,18 @@
         <source>%1  %2</source>
         <extracomment>%1 = time of day, %2 = an event</extracomment>
         <translation>%1  %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountNames</name>
+    <message>
+        <source>There is no account &quot;%1&quot;.</source>
+        <translation>Es gibt kein Konto „%1“.</translation>
+    </message>
+    <message>
+        <source>Several accounts are called &quot;%1&quot;. Name one of them with its protocol: %2</source>
+        <extracomment>%1 = what was typed, %2 = names that could be meant</extracomment>
+        <translation>Mehrere Konten heißen „%1“. Nennen Sie eines davon mit seinem Protokoll: %2</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1108,7 @@
     </message>
     <message>
         <source>&amp;Undo Disabling %1</source>
+        <extracomment>%1 = name of an account</extracomment>
         <translation>Deaktivieren von %1 &amp;rückgängig machen</translation>
     </message>
     <message>
@@ -920,7 +1136,179 @@
     </message>
     <message>
         <source>The account %1 (%2) was disabled.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
         <translation>Das Konto %1 (%2) wurde deaktiviert.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Importing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Importieren von %1 &amp;rückgängig machen</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>Importieren eines Kontos &amp;rückgängig machen</numerusform>
+            <numerusform>Importieren von %n Konten &amp;rückgängig machen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was imported.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Das Konto %1 (%2) wurde importiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>Ein Konto wurde importiert.</numerusform>
+            <numerusform>%n Konten wurden importiert.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsCommand</name>
+    <message>
+        <source>The profile in &quot;%1&quot; is open in another program, which does not take commands.</source>
+        <translation>Das Profil in „%1“ ist in einem anderen Programm geöffnet, das keine Befehle annimmt.</translation>
+    </message>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>In „%1“ gibt es noch kein Profil.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not respond.</source>
+        <translation>Das Programm, das mit diesem Profil läuft, antwortet nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsMoving</name>
+    <message>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Passwörter des Kontos „%1“ werden ausgelassen: Der Schlüsselbund ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed.</source>
+        <translation>Eine Passphrase ist nötig.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsOptions</name>
+    <message>
+        <source>Print one line of JSON.</source>
+        <translation>Eine Zeile JSON ausgeben.</translation>
+    </message>
+    <message>
+        <source>Export: put passwords into the file, encrypted with a pass phrase.</source>
+        <translation>Export: Passwörter mit in die Datei schreiben, verschlüsselt mit einer Passphrase.</translation>
+    </message>
+    <message>
+        <source>Export: overwrite a file that is there.</source>
+        <translation>Export: eine vorhandene Datei überschreiben.</translation>
+    </message>
+    <message>
+        <source>Import: leave the passwords out that are in the file.</source>
+        <translation>Import: die Passwörter auslassen, die in der Datei sind.</translation>
+    </message>
+    <message>
+        <source>Import: replace accounts that exist by those of the file.</source>
+        <translation>Import: vorhandene Konten durch die aus der Datei ersetzen.</translation>
+    </message>
+    <message>
+        <source>Import: say what would be done, and change nothing.</source>
+        <translation>Import: ausgeben, was getan würde, und nichts ändern.</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line of &lt;file&gt;.</source>
+        <translation>Export und Import: Die Passphrase ist die erste Zeile von &lt;Datei&gt;.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line that can be read from the file descriptor &lt;number&gt;.</source>
+        <translation>Export und Import: Die Passphrase ist die erste Zeile, die vom Dateideskriptor &lt;Nummer&gt; gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Lists, enables, disables, exports and imports accounts.
+An account is named PROTOCOL:ID, or by its id when no other account has the same.
+
+  accounts list [account…]
+  accounts enable account…
+  accounts disable account…
+  accounts export file [account…]
+  accounts import file
+
+A file is called - where the standard output or input is meant.</source>
+        <translation>Listet, aktiviert, deaktiviert, exportiert und importiert Konten.
+Ein Konto wird als PROTOKOLL:ID angegeben oder nur mit seiner ID, wenn kein anderes Konto dieselbe hat.
+
+  accounts list [Konto…]
+  accounts enable Konto…
+  accounts disable Konto…
+  accounts export Datei [Konto…]
+  accounts import Datei
+
+Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translation>
+    </message>
+    <message>
+        <source>list, enable, disable, export or import.</source>
+        <translation>list, enable, disable, export oder import.</translation>
+    </message>
+    <message>
+        <source>A file or an account.</source>
+        <translation>Eine Datei oder ein Konto.</translation>
+    </message>
+    <message>
+        <source>[argument…]</source>
+        <translation>[Argument…]</translation>
+    </message>
+    <message>
+        <source>The command is missing: list, enable, disable, export or import.</source>
+        <translation>Der Befehl fehlt: list, enable, disable, export oder import.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is not known: it can be list, enable, disable, export or import.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>Der Befehl „%1“ ist nicht bekannt: Möglich sind list, enable, disable, export und import.</translation>
+    </message>
+    <message>
+        <source>The option --%1 does not belong to the command &quot;%2&quot;.</source>
+        <extracomment>%1 = name of an option, %2 = name of a command</extracomment>
+        <translation>Die Option --%1 gehört nicht zum Befehl „%2“.</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Die Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>Das Argument „%1“ ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Das Konto fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --json cannot be used when the file goes to the standard output.</source>
+        <translation>Die Option --json kann nicht benutzt werden, wenn die Datei auf die Standardausgabe geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <translation>Eine Passphrase nützt nichts, wenn keine Passwörter mitgenommen werden.</translation>
+    </message>
+    <message>
+        <source>The file with the pass phrase is missing.</source>
+        <translation>Die Datei mit der Passphrase fehlt.</translation>
+    </message>
+    <message>
+        <source>The option --pass-phrase-fd needs the number of a file descriptor.</source>
+        <translation>Die Option --pass-phrase-fd braucht die Nummer eines Dateideskriptors.</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1316,101 @@
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>Das Modul des Protokolls %1 ist nicht geladen. Laden Sie es auf der Seite „Module“.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsService</name>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Das Konto fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsText</name>
+    <message>
+        <source>There are no accounts.</source>
+        <translation>Es gibt keine Konten.</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Hauptkonto</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>%1 is enabled now.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>%1 ist jetzt aktiviert.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled now.</source>
+        <translation>%1 ist jetzt deaktiviert.</translation>
+    </message>
+    <message>
+        <source>%1 was enabled already.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>%1 war schon aktiviert.</translation>
+    </message>
+    <message>
+        <source>%1 was disabled already.</source>
+        <translation>%1 war schon deaktiviert.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, with the passwords that are stored.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Exportierte Konten: %1, mit den gespeicherten Passwörtern.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, without passwords.</source>
+        <translation>Exportierte Konten: %1, ohne Passwörter.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>ersetzt %1</translation>
+    </message>
+    <message>
+        <source>%1 is kept</source>
+        <translation>%1 bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Accounts that would be imported: %1. Nothing was changed.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Konten, die importiert würden: %1. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Accounts imported: %1.</source>
+        <translation>Importierte Konten: %1.</translation>
     </message>
 </context>
 <context>
@@ -1212,10 +1695,6 @@
         <translation>Die Protokollmodule aus &lt;Ordner&gt; laden.</translation>
     </message>
     <message>
-        <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation>Konten mehrerer Nachrichtendienste an einem Ort.</translation>
-    </message>
-    <message>
         <source>Say whether the profile is damaged, list its copies and end: with 0 when it can be used, 2 when it is damaged, and 1 when it cannot be used for another reason.</source>
         <translation>Ausgeben, ob das Profil beschädigt ist, seine Kopien auflisten und enden: mit 0, wenn es benutzt werden kann, mit 2, wenn es beschädigt ist, und mit 1, wenn es aus einem anderen Grund nicht benutzt werden kann.</translation>
     </message>
@@ -1252,6 +1731,12 @@
     <message>
         <source>[link]</source>
         <translation>[Verknüpfung]</translation>
+    </message>
+    <message>
+        <source>Accounts of several instant-messaging protocols in one place.
+&quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
+        <translation>Konten mehrerer Sofortnachrichten-Protokolle an einem Ort.
+„kirv accounts --help“ zeigt, wie Konten ohne Fenster aufgelistet, aktiviert, deaktiviert, exportiert und importiert werden.</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1909,84 @@
     <message>
         <source>None is stored</source>
         <translation>Keines gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message>
+        <source>Export Accounts</source>
+        <translation>Konten exportieren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Include &amp;passwords (encrypted)</source>
+        <translation>&amp;Passwörter aufnehmen (verschlüsselt)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <translation>Mehrere Wörter, die nicht zusammengehören, sind leicht zu merken und schwer zu erraten. Wer die Datei hat und die Passphrase errät, hat Ihre Passwörter; ohne sie kann niemand die Passwörter lesen, auch Sie nicht.</translation>
+    </message>
+    <message>
+        <source>Pass p&amp;hrase:</source>
+        <translation>Passp&amp;hrase:</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat it:</source>
+        <translation>&amp;Wiederholen:</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
+    <message>
+        <source>Choose the file to which the accounts are written.</source>
+        <translation>Die Datei wählen, in die die Konten geschrieben werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>Die Passphrase braucht mindestens ein Zeichen.</numerusform>
+            <numerusform>Die Passphrase braucht mindestens %n Zeichen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase and its repetition must be the same.</source>
+        <translation>Die Passphrase und ihre Wiederholung müssen gleich sein.</translation>
+    </message>
+    <message>
+        <source>Exported accounts (*.json)</source>
+        <translation>Exportierte Konten (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The export was cancelled; nothing was written.</source>
+        <translation>Der Export wurde abgebrochen; nichts wurde geschrieben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>Ein Konto wurde in %1 exportiert.</numerusform>
+            <numerusform>%n Konten wurden in %1 exportiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No passwords are in the file.</source>
+        <translation>In der Datei sind keine Passwörter.</translation>
+    </message>
+    <message>
+        <source>These are not in the file:</source>
+        <translation>Nicht in der Datei enthalten:</translation>
     </message>
 </context>
 <context>
@@ -1764,6 +2327,161 @@
     <message>
         <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
         <translation>Kopien des Profils, ohne Passwörter; eine davon kann wiederhergestellt werden, wenn das Profil beschädigt ist:</translation>
+    </message>
+    <message>
+        <source>&amp;Export Accounts…</source>
+        <translation>Konten e&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>Writes accounts to a file that can be imported on another computer.</source>
+        <translation>Schreibt Konten in eine Datei, die auf einem anderen Rechner importiert werden kann.</translation>
+    </message>
+    <message>
+        <source>&amp;Import Accounts…</source>
+        <translation>Konten &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>Takes accounts over from such a file, or from Pidgin.</source>
+        <translation>Übernimmt Konten aus einer solchen Datei oder von Pidgin.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message>
+        <source>Import Accounts</source>
+        <translation>Konten importieren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>About the file</source>
+        <translation>Über die Datei</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Was geschieht</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>&amp;Pass phrase:</source>
+        <translation>&amp;Passphrase:</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;File…</source>
+        <translation>Andere &amp;Datei wählen…</translation>
+    </message>
+    <message>
+        <source>&amp;Without Passwords</source>
+        <translation>&amp;Ohne Passwörter</translation>
+    </message>
+    <message>
+        <source>Lists the accounts; their passwords have to be entered here.</source>
+        <translation>Listet die Konten auf; ihre Passwörter müssen hier eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Exported accounts, accounts of Pidgin (*.json *.xml)</source>
+        <translation>Exportierte Konten, Konten von Pidgin (*.json *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read…</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die Datei %1 wird gelesen…</translation>
+    </message>
+    <message>
+        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die Datei %1 enthält Passwörter. Geben Sie die Passphrase ein, mit der sie verschlüsselt sind.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file %1 cannot be imported.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Die Konten in der Datei %1 können nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>There are no accounts that can be imported in the file %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>In der Datei %1 gibt es keine Konten, die importiert werden können.</translation>
+    </message>
+    <message>
+        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <translation>Diese Konten sind in der Datei %1. Nichts wird geändert, bevor Sie sie importieren, und der Import kann rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>Ein Konto &amp;importieren</numerusform>
+            <numerusform>%n Konten &amp;importieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>New, is left out</source>
+        <translation>Neu, wird ausgelassen</translation>
+    </message>
+    <message>
+        <source>Exists here, is replaced</source>
+        <translation>Hier vorhanden, wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Exists here, is kept</source>
+        <translation>Hier vorhanden, bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is replaced</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Hier als %1 vorhanden, wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is kept</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Hier als %1 vorhanden, bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = the login of an account, %2 = a sentence about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These are not imported:</source>
+        <translation>Nicht importiert wird:</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceCommands</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>Das Programm, das mit diesem Profil läuft, kennt diesen Befehl nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceMessage</name>
+    <message>
+        <source>The other program said something that is not understood.</source>
+        <translation>Das andere Programm hat etwas gesagt, das nicht verstanden wird.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile has another version. Quit it, and try again.</source>
+        <translation>Das Programm, das mit diesem Profil läuft, hat eine andere Version. Beenden Sie es, und versuchen Sie es erneut.</translation>
     </message>
 </context>
 <context>
@@ -2164,6 +2882,16 @@
     </message>
 </context>
 <context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und eines mehr</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvLengthLimit</name>
     <message>
         <source>The text is too long here. At most %1 characters are kept.</source>
@@ -2329,10 +3057,106 @@
     </message>
 </context>
 <context>
+    <name>KirvMovedFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <translation>Die Datei „%1“ ist zu groß, um eine mit Konten zu sein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <translation>„%1“ ist keine Datei, die überschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <translation>Die Datei „%1“ gibt es schon. Mit --force wird sie überschrieben.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMovingFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a link to another file. Choose another name.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 ist eine Verknüpfung mit einer anderen Datei. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than %L2 MB, so it is not read.</source>
+        <extracomment>%1 = path of a file, %L2 = a number</extracomment>
+        <translation>Die Datei %1 ist größer als %L2 MB; daher wird sie nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Die Datei %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvNgircdServer</name>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>Die Dateien des Servers konnten ihm nicht übergeben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhraseInput</name>
+    <message>
+        <source>file descriptor %1</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Dateideskriptor %1</translation>
+    </message>
+    <message>
+        <source>The pass phrase cannot be read from %1.</source>
+        <translation>Die Passphrase kann nicht von %1 gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The pass phrase in %1 is too long.</source>
+        <translation>Die Passphrase in %1 ist zu lang.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in %1.</source>
+        <translation>In %1 ist keine Passphrase.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <translation>Eine Passphrase ist nötig, aber es gibt kein Terminal, um sie einzugeben. Geben Sie sie mit --pass-phrase-file oder --pass-phrase-fd an.</translation>
+    </message>
+    <message>
+        <source>Pass phrase of the file: </source>
+        <translation>Passphrase der Datei: </translation>
+    </message>
+    <message>
+        <source>No pass phrase was typed.</source>
+        <translation>Es wurde keine Passphrase eingegeben.</translation>
+    </message>
+    <message>
+        <source>The same again: </source>
+        <translation>Noch einmal dieselbe: </translation>
+    </message>
+    <message>
+        <source>The pass phrase was not typed twice in the same way.</source>
+        <translation>Die Passphrase wurde nicht zweimal gleich eingegeben.</translation>
     </message>
 </context>
 <context>
@@ -2377,6 +3201,131 @@
     <message>
         <source>The password is not remembered, so it is needed when the account logs in.</source>
         <translation>Das Passwort wird nicht gemerkt, daher wird es gebraucht, wenn sich das Konto anmeldet.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message>
+        <source>The account &quot;%1&quot; was left out: the protocol %2 is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Das Konto „%1“ wurde ausgelassen: Das Protokoll %2 wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>An account was left out: it has no login.</source>
+        <translation>Ein Konto wurde ausgelassen: Es hat keinen Anmeldenamen.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out: it is not in the file.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>Das Bild des Kontos „%1“ wurde ausgelassen: Es ist nicht in der Datei.</translation>
+    </message>
+    <message>
+        <source>The resource of the account &quot;%1&quot; was left out: it has the name of the computer in it, or characters that mean something else here.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>Die Ressource des Kontos „%1“ wurde ausgelassen: Sie enthält den Namen des Rechners oder Zeichen, die hier etwas anderes bedeuten.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: what the file says of it is not known.</source>
+        <translation>Das Konto „%1“ verlangt jetzt Verschlüsselung: Was die Datei darüber sagt, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; does not send its password without encryption any more.</source>
+        <translation>Das Konto „%1“ sendet sein Passwort nicht mehr unverschlüsselt.</translation>
+    </message>
+    <message>
+        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <translation>Der Server des Kontos „%1“ wurde ausgelassen: Die Angabe ist weder Name noch Adresse eines Servers.</translation>
+    </message>
+    <message>
+        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <translation>Der Port des Kontos „%1“ wurde ausgelassen: Er ist keine Zahl von 1 bis 65535.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; has no server. Enter one before it is used.</source>
+        <translation>Das Konto „%1“ hat keinen Server. Geben Sie einen ein, bevor es verwendet wird.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; uses UTF-8 instead of the encoding %2, which is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a character encoding</extracomment>
+        <translation>Das Konto „%1“ verwendet UTF-8 statt der Kodierung %2, die nicht unterstützt wird.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: otherwise its password would be sent without it.</source>
+        <translation>Das Konto „%1“ verlangt jetzt Verschlüsselung: Sonst würde sein Passwort unverschlüsselt gesendet.</translation>
+    </message>
+    <message>
+        <source>Its kind is not supported.</source>
+        <translation>Seine Art wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>The proxy of the account &quot;%1&quot; was left out. %2 The account is disabled, so that it does not connect without the proxy.</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Der Proxy des Kontos „%1“ wurde ausgelassen. %2 Das Konto ist deaktiviert, damit es sich nicht ohne den Proxy verbindet.</translation>
+    </message>
+    <message>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
+        <translation>Einstellungen des Kontos „%1“ wurden ausgelassen, weil es hier keine entsprechenden gibt: %2.</translation>
+    </message>
+    <message>
+        <source>The file is no text.</source>
+        <translation>Die Datei ist kein Text.</translation>
+    </message>
+    <message>
+        <source>A text in the file is too long.</source>
+        <translation>Ein Text in der Datei ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or no XML (line %1: %2).</source>
+        <extracomment>%1 = number of a line, %2 = what is wrong there</extracomment>
+        <translation>Die Datei ist beschädigt oder kein XML (Zeile %1: %2).</translation>
+    </message>
+    <message>
+        <source>The file is not encoded as UTF-8.</source>
+        <translation>Die Datei ist nicht als UTF-8 kodiert.</translation>
+    </message>
+    <message>
+        <source>The file declares a document type or uses entities, which no file of Pidgin does.</source>
+        <translation>Die Datei deklariert einen Dokumenttyp oder verwendet Entitäten, was keine Datei von Pidgin tut.</translation>
+    </message>
+    <message>
+        <source>The elements of the file are nested too deeply, or have too many attributes.</source>
+        <translation>Die Elemente der Datei sind zu tief verschachtelt oder haben zu viele Attribute.</translation>
+    </message>
+    <message>
+        <source>There are elements in the file where a text is expected (line %1).</source>
+        <translation>In der Datei stehen Elemente, wo ein Text erwartet wird (Zeile %1).</translation>
+    </message>
+    <message>
+        <source>Something follows the accounts in the file.</source>
+        <translation>In der Datei folgt noch etwas auf die Konten.</translation>
+    </message>
+    <message>
+        <source>An account in the file has too many settings.</source>
+        <translation>Ein Konto in der Datei hat zu viele Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The file does not hold accounts of Pidgin.</source>
+        <translation>Die Datei enthält keine Konten von Pidgin.</translation>
+    </message>
+    <message>
+        <source>The file is of another version of Pidgin, which is not known.</source>
+        <translation>Die Datei stammt von einer anderen Version von Pidgin, die nicht bekannt ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>Die Datei enthält mehr als ein Konto.</numerusform>
+            <numerusform>Die Datei enthält mehr als %n Konten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>If Pidgin uses a proxy for all accounts, it is not in this file. Set it for the accounts before they log in.</source>
+        <translation>Wenn Pidgin einen Proxy für alle Konten verwendet, ist er nicht in dieser Datei. Stellen Sie ihn für die Konten ein, bevor sie sich anmelden.</translation>
     </message>
 </context>
 <context>
@@ -3099,6 +4048,13 @@
     </message>
 </context>
 <context>
+    <name>KirvRunningInstance</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>Das Programm, das mit diesem Profil läuft, kennt diesen Befehl nicht.</translation>
+    </message>
+</context>
+<context>
     <name>KirvSecretTexts</name>
     <message>
         <source>in a file only you can read</source>
@@ -3496,6 +4452,17 @@
     <message>
         <source>Kirv – Settings – %1</source>
         <translation>Kirv – Einstellungen – %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSortingHint</name>
+    <message>
+        <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>
+        <translation>Die Liste ist nach einer Spalte sortiert. Konten können nur in Ihrer eigenen Reihenfolge verschoben werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Ei&amp;gene Reihenfolge</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,13 @@
             <numerusform>Re&amp;move %n Accounts…</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>E&amp;xport %n Account…</numerusform>
+            <numerusform>E&amp;xport %n Accounts…</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountGroup</name>
@@ -99,6 +106,20 @@
             <numerusform>%n accounts were disabled.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Undo Importing %n Account</numerusform>
+            <numerusform>&amp;Undo Importing %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>%n account was imported.</numerusform>
+            <numerusform>%n accounts were imported.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KirvClient</name>
@@ -115,6 +136,54 @@
         <translation>
             <numerusform>%n password was moved to your keyring, which is %1.</numerusform>
             <numerusform>%n passwords were moved to your keyring, which is %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>The pass phrase needs at least %n character.</numerusform>
+            <numerusform>The pass phrase needs at least %n characters.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>%n account was exported to %1.</numerusform>
+            <numerusform>%n accounts were exported to %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Import %n Account</numerusform>
+            <numerusform>&amp;Import %n Accounts</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>The file has more than %n account.</numerusform>
+            <numerusform>The file has more than %n accounts.</numerusform>
         </translation>
     </message>
 </context>

@@ -263,6 +263,30 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCheckList</name>
+    <message>
+        <source>&amp;All accounts</source>
+        <translation>&amp;Todas las cuentas</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Cuentas</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocolo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>an account; %1 = its alias, %2 = its login</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountCollection</name>
     <message>
         <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
@@ -292,6 +316,14 @@
     <message>
         <source>The account &quot;%1&quot; could not be created: the protocol %2 is not loaded.</source>
         <translation>No se pudo crear la cuenta «%1»: el protocolo %2 no está cargado.</translation>
+    </message>
+    <message>
+        <source>The pictures of the accounts could not be written into a temporary file.</source>
+        <translation>No se pudieron escribir las imágenes de las cuentas en un archivo temporal.</translation>
+    </message>
+    <message>
+        <source>There is no account &quot;%1&quot; (%2) any more.</source>
+        <translation>La cuenta «%1» (%2) ya no existe.</translation>
     </message>
 </context>
 <context>
@@ -389,12 +421,127 @@
         <source>L&amp;og</source>
         <translation>Re&amp;gistro de eventos</translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>E&amp;xportar %n cuenta…</numerusform>
+            <numerusform>E&amp;xportar %n cuentas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>La conexión terminó antes de que respondiera el servidor.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountExport</name>
+    <message>
+        <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Se omite la contraseña de la cuenta «%1» (%2): está en el depósito de claves y no se pudo leer.</translation>
+    </message>
+    <message>
+        <source>Secret settings of the account &quot;%1&quot; (%2) are left out: they are in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Se omiten ajustes secretos de la cuenta «%1» (%2): están en el depósito de claves y no se pudieron leer.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Se omite la cuenta «%1» (%2): tiene textos o una imagen que no se pueden exportar.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Se omite la imagen de la cuenta «%1» (%2): no se pudo leer.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountFile</name>
+    <message>
+        <source>The file is damaged, or it is not a file of exported accounts.</source>
+        <translation>El archivo está dañado o no es un archivo de cuentas exportadas.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <translation>Las contraseñas del archivo están dañadas, por lo que no se importa nada de él.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Up to %1 MB are possible.</source>
+        <translation>El archivo es demasiado grande. Se admiten hasta %1 MB.</translation>
+    </message>
+    <message>
+        <source>The file was made by a newer version of the program. This one cannot read it.</source>
+        <translation>El archivo se creó con una versión más reciente del programa. Esta versión no puede leerlo.</translation>
+    </message>
+    <message>
+        <source>The file has too many accounts. Up to %1 are possible.</source>
+        <translation>El archivo tiene demasiadas cuentas. Se admiten hasta %1.</translation>
+    </message>
+    <message>
+        <source>Account %1 in the file is damaged: &quot;%2&quot; cannot be used.</source>
+        <extracomment>%1 = number of an account in a file, %2 = name of a value that is stored there</extracomment>
+        <translation>La cuenta %1 del archivo está dañada: «%2» no se puede usar.</translation>
+    </message>
+    <message>
+        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>La cuenta «%1» (%2) está dos veces en el archivo.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) in the file is too large.</source>
+        <translation>La imagen de la cuenta «%1» (%2) que contiene el archivo es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it is of a kind that cannot be used.</source>
+        <translation>Se omite la imagen de la cuenta «%1» (%2): es de un tipo que no se puede usar.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its main account is not in it.</source>
+        <translation>El archivo está dañado: no contiene su cuenta principal.</translation>
+    </message>
+    <message>
+        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <translation>El archivo no tiene contraseñas, por lo que la frase de contraseña no tiene nada que abrir. Si debería tenerlas, alguien lo ha cambiado.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are left out, as they need its pass phrase.</source>
+        <translation>Se omiten las contraseñas del archivo, ya que necesitan su frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <translation>Abrir las contraseñas del archivo necesita más memoria o tiempo de lo permitido, por lo que no se importa nada de él.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the passwords in the file.</source>
+        <translation>No hay memoria suficiente para abrir las contraseñas del archivo.</translation>
+    </message>
+    <message>
+        <source>The pass phrase does not open the passwords in the file.</source>
+        <translation>La frase de contraseña no abre las contraseñas del archivo.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <translation>Las cuentas del archivo se cambiaron después de que se escribiera. Ya no corresponden a sus contraseñas, por lo que no se importa nada de él.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
+        <translation>La cuenta «%1» (%2) tiene textos o una imagen que no se pueden exportar.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encrypt the passwords.</source>
+        <translation>No hay memoria suficiente para cifrar las contraseñas.</translation>
+    </message>
+    <message>
+        <source>The file would have more than %1 MB or %2 accounts. Export fewer accounts at once.</source>
+        <translation>El archivo tendría más de %1 MB o de %2 cuentas. Exporte menos cuentas a la vez.</translation>
     </message>
 </context>
 <context>
@@ -444,6 +591,42 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>La cuenta «%1» no se puede volver a activar: se eliminó.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>La cuenta «%1» no puede volver a ser como era antes de la importación: se eliminó.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountImport</name>
+    <message>
+        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
+        <translation>El archivo tiene este nombre de usuario dos veces: para el servidor, «%1» es el mismo que «%2».</translation>
+    </message>
+    <message>
+        <source>The account has no login.</source>
+        <translation>La cuenta no tiene nombre de usuario.</translation>
+    </message>
+    <message>
+        <source>The protocol %1 is not loaded.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>El protocolo %1 no está cargado.</translation>
+    </message>
+    <message>
+        <source>Another account with this login was added or removed since.</source>
+        <translation>Entretanto se añadió o se eliminó otra cuenta con este nombre de usuario.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>No se puede importar la cuenta «%1». %2</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out. %2</source>
+        <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
+        <translation>Se omitió la imagen de la cuenta «%1». %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountInvitation</name>
@@ -460,16 +643,36 @@
         <translation>Crear una cuenta nueva en un servidor</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, or register a new one.</source>
-        <translation>Todavía no hay ninguna cuenta. Añada una que ya tenga o registre una nueva.</translation>
-    </message>
-    <message>
         <source>Add an account that you already have</source>
         <translation>Añadir una cuenta que ya tiene</translation>
     </message>
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>No hay ningún protocolo cargado. Cargue uno en la página «Complementos».</translation>
+    </message>
+    <message>
+        <source>Take accounts over from a file</source>
+        <translation>Importar cuentas de un archivo</translation>
+    </message>
+    <message>
+        <source>Take the accounts of Pidgin over; its own file is only read</source>
+        <translation>Importar las cuentas de Pidgin; su propio archivo solo se lee</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts from a file.</source>
+        <translation>Todavía no hay ninguna cuenta. Añada una que ya tenga, registre una nueva o importe cuentas de un archivo.</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <translation>Todavía no hay ninguna cuenta. Añada una que ya tenga, registre una nueva o importe cuentas. Pidgin tiene cuentas en este equipo.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Import from Pidgin…</source>
+        <translation>Importar de Pidgin…</translation>
     </message>
 </context>
 <context>
@@ -551,6 +754,18 @@
         <source>%1  %2</source>
         <extracomment>%1 = time of day, %2 = an event</extracomment>
         <translation>%1  %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountNames</name>
+    <message>
+        <source>There is no account &quot;%1&quot;.</source>
+        <translation>No hay ninguna cuenta «%1».</translation>
+    </message>
+    <message>
+        <source>Several accounts are called &quot;%1&quot;. Name one of them with its protocol: %2</source>
+        <extracomment>%1 = what was typed, %2 = names that could be meant</extracomment>
+        <translation>Varias cuentas se llaman «%1». Indique una de ellas con su protocolo: %2</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1108,7 @@
     </message>
     <message>
         <source>&amp;Undo Disabling %1</source>
+        <extracomment>%1 = name of an account</extracomment>
         <translation>Des&amp;hacer la desactivación de %1</translation>
     </message>
     <message>
@@ -920,7 +1136,179 @@
     </message>
     <message>
         <source>The account %1 (%2) was disabled.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
         <translation>Se desactivó la cuenta %1 (%2).</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Importing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Des&amp;hacer la importación de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>Des&amp;hacer la importación de %n cuenta</numerusform>
+            <numerusform>Des&amp;hacer la importación de %n cuentas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was imported.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Se importó la cuenta %1 (%2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>Se importó %n cuenta.</numerusform>
+            <numerusform>Se importaron %n cuentas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsCommand</name>
+    <message>
+        <source>The profile in &quot;%1&quot; is open in another program, which does not take commands.</source>
+        <translation>El perfil de «%1» está abierto en otro programa, que no acepta órdenes.</translation>
+    </message>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>Todavía no hay ningún perfil en «%1».</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not respond.</source>
+        <translation>El programa que se ejecuta con este perfil no responde.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsMoving</name>
+    <message>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Se omiten contraseñas de la cuenta «%1»: el depósito de claves está bloqueado.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed.</source>
+        <translation>Se necesita una frase de contraseña.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsOptions</name>
+    <message>
+        <source>Print one line of JSON.</source>
+        <translation>Mostrar una línea de JSON.</translation>
+    </message>
+    <message>
+        <source>Export: put passwords into the file, encrypted with a pass phrase.</source>
+        <translation>Exportar: incluir en el archivo las contraseñas, cifradas con una frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>Export: overwrite a file that is there.</source>
+        <translation>Exportar: sobrescribir el archivo si ya existe.</translation>
+    </message>
+    <message>
+        <source>Import: leave the passwords out that are in the file.</source>
+        <translation>Importar: omitir las contraseñas que haya en el archivo.</translation>
+    </message>
+    <message>
+        <source>Import: replace accounts that exist by those of the file.</source>
+        <translation>Importar: sustituir las cuentas existentes por las del archivo.</translation>
+    </message>
+    <message>
+        <source>Import: say what would be done, and change nothing.</source>
+        <translation>Importar: indicar qué se haría, sin cambiar nada.</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line of &lt;file&gt;.</source>
+        <translation>Exportar e importar: la frase de contraseña es la primera línea de &lt;archivo&gt;.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>archivo</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line that can be read from the file descriptor &lt;number&gt;.</source>
+        <translation>Exportar e importar: la frase de contraseña es la primera línea que se pueda leer del descriptor de archivo &lt;número&gt;.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>Lists, enables, disables, exports and imports accounts.
+An account is named PROTOCOL:ID, or by its id when no other account has the same.
+
+  accounts list [account…]
+  accounts enable account…
+  accounts disable account…
+  accounts export file [account…]
+  accounts import file
+
+A file is called - where the standard output or input is meant.</source>
+        <translation>Enumera, activa, desactiva, exporta e importa cuentas.
+Una cuenta se indica como PROTOCOLO:ID, o por su ID cuando ninguna otra cuenta tiene el mismo.
+
+  accounts list [cuenta…]
+  accounts enable cuenta…
+  accounts disable cuenta…
+  accounts export archivo [cuenta…]
+  accounts import archivo
+
+Como archivo, - significa la salida o la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>list, enable, disable, export or import.</source>
+        <translation>list, enable, disable, export o import.</translation>
+    </message>
+    <message>
+        <source>A file or an account.</source>
+        <translation>Un archivo o una cuenta.</translation>
+    </message>
+    <message>
+        <source>[argument…]</source>
+        <translation>[argumento…]</translation>
+    </message>
+    <message>
+        <source>The command is missing: list, enable, disable, export or import.</source>
+        <translation>Falta la orden: list, enable, disable, export o import.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is not known: it can be list, enable, disable, export or import.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>La orden «%1» no se conoce: puede ser list, enable, disable, export o import.</translation>
+    </message>
+    <message>
+        <source>The option --%1 does not belong to the command &quot;%2&quot;.</source>
+        <extracomment>%1 = name of an option, %2 = name of a command</extracomment>
+        <translation>La opción --%1 no corresponde a la orden «%2».</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Falta el archivo.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>No se reconoce el argumento «%1».</translation>
+    </message>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Falta la cuenta.</translation>
+    </message>
+    <message>
+        <source>The option --json cannot be used when the file goes to the standard output.</source>
+        <translation>La opción --json no se puede usar cuando el archivo va a la salida estándar.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <translation>Una frase de contraseña no sirve de nada si no se incluyen contraseñas.</translation>
+    </message>
+    <message>
+        <source>The file with the pass phrase is missing.</source>
+        <translation>Falta el archivo con la frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>The option --pass-phrase-fd needs the number of a file descriptor.</source>
+        <translation>La opción --pass-phrase-fd necesita el número de un descriptor de archivo.</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1316,101 @@
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>El complemento del protocolo %1 no está cargado. Cárguelo en la página «Complementos».</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsService</name>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Falta la cuenta.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsText</name>
+    <message>
+        <source>There are no accounts.</source>
+        <translation>No hay cuentas.</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocolo</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Activada</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Principal</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>%1 is enabled now.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>La cuenta %1 está ahora activada.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled now.</source>
+        <translation>La cuenta %1 está ahora desactivada.</translation>
+    </message>
+    <message>
+        <source>%1 was enabled already.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>La cuenta %1 ya estaba activada.</translation>
+    </message>
+    <message>
+        <source>%1 was disabled already.</source>
+        <translation>La cuenta %1 ya estaba desactivada.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, with the passwords that are stored.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Cuentas exportadas: %1, con las contraseñas guardadas.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, without passwords.</source>
+        <translation>Cuentas exportadas: %1, sin contraseñas.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nueva</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>sustituye a %1</translation>
+    </message>
+    <message>
+        <source>%1 is kept</source>
+        <translation>se conserva %1</translation>
+    </message>
+    <message>
+        <source>Accounts that would be imported: %1. Nothing was changed.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Cuentas que se importarían: %1. No se cambió nada.</translation>
+    </message>
+    <message>
+        <source>Accounts imported: %1.</source>
+        <translation>Cuentas importadas: %1.</translation>
     </message>
 </context>
 <context>
@@ -1250,8 +1733,10 @@
         <translation>Cargar los complementos de protocolo de &lt;carpeta&gt;.</translation>
     </message>
     <message>
-        <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation>Cuentas de varios protocolos de mensajería instantánea en un solo lugar.</translation>
+        <source>Accounts of several instant-messaging protocols in one place.
+&quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
+        <translation>Cuentas de varios protocolos de mensajería instantánea en un solo lugar.
+«kirv accounts --help» explica cómo enumerar, activar, desactivar, exportar e importar cuentas sin ventanas.</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1909,84 @@
     <message>
         <source>None is stored</source>
         <translation>No hay ninguna guardada</translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message>
+        <source>Export Accounts</source>
+        <translation>Exportar cuentas</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Include &amp;passwords (encrypted)</source>
+        <translation>&amp;Incluir las contraseñas (cifradas)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <translation>Varias palabras que no guardan relación entre sí son fáciles de recordar y difíciles de adivinar. Quien tenga el archivo y adivine la frase de contraseña tendrá sus contraseñas; sin ella nadie puede leerlas, ni siquiera usted.</translation>
+    </message>
+    <message>
+        <source>Pass p&amp;hrase:</source>
+        <translation>&amp;Frase de contraseña:</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat it:</source>
+        <translation>&amp;Repetir la frase:</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
+    </message>
+    <message>
+        <source>Choose the file to which the accounts are written.</source>
+        <translation>Elegir el archivo en el que se escriben las cuentas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>La frase de contraseña necesita al menos %n carácter.</numerusform>
+            <numerusform>La frase de contraseña necesita al menos %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase and its repetition must be the same.</source>
+        <translation>La frase de contraseña y su repetición deben coincidir.</translation>
+    </message>
+    <message>
+        <source>Exported accounts (*.json)</source>
+        <translation>Cuentas exportadas (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The export was cancelled; nothing was written.</source>
+        <translation>Se canceló la exportación; no se escribió nada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>Se exportó %n cuenta a %1.</numerusform>
+            <numerusform>Se exportaron %n cuentas a %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No passwords are in the file.</source>
+        <translation>El archivo no contiene contraseñas.</translation>
+    </message>
+    <message>
+        <source>These are not in the file:</source>
+        <translation>Lo siguiente no está en el archivo:</translation>
     </message>
 </context>
 <context>
@@ -1764,6 +2327,161 @@
     <message>
         <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
         <translation>Copias del perfil, sin contraseñas; se puede restaurar una si el perfil está dañado:</translation>
+    </message>
+    <message>
+        <source>&amp;Export Accounts…</source>
+        <translation>&amp;Exportar cuentas…</translation>
+    </message>
+    <message>
+        <source>Writes accounts to a file that can be imported on another computer.</source>
+        <translation>Escribe cuentas en un archivo que se puede importar en otro equipo.</translation>
+    </message>
+    <message>
+        <source>&amp;Import Accounts…</source>
+        <translation>I&amp;mportar cuentas…</translation>
+    </message>
+    <message>
+        <source>Takes accounts over from such a file, or from Pidgin.</source>
+        <translation>Importa cuentas de un archivo de este tipo o de Pidgin.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message>
+        <source>Import Accounts</source>
+        <translation>Importar cuentas</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>About the file</source>
+        <translation>Acerca del archivo</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Qué ocurre</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>&amp;Pass phrase:</source>
+        <translation>&amp;Frase de contraseña:</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;File…</source>
+        <translation>Elegir &amp;otro archivo…</translation>
+    </message>
+    <message>
+        <source>&amp;Without Passwords</source>
+        <translation>&amp;Sin contraseñas</translation>
+    </message>
+    <message>
+        <source>Lists the accounts; their passwords have to be entered here.</source>
+        <translation>Muestra las cuentas; sus contraseñas habrá que introducirlas aquí.</translation>
+    </message>
+    <message>
+        <source>Exported accounts, accounts of Pidgin (*.json *.xml)</source>
+        <translation>Cuentas exportadas, cuentas de Pidgin (*.json *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read…</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Leyendo el archivo %1…</translation>
+    </message>
+    <message>
+        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>El archivo %1 contiene contraseñas. Introduzca la frase de contraseña con la que están cifradas.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file %1 cannot be imported.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>No se pueden importar las cuentas del archivo %1.</translation>
+    </message>
+    <message>
+        <source>There are no accounts that can be imported in the file %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>No hay cuentas que se puedan importar en el archivo %1.</translation>
+    </message>
+    <message>
+        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <translation>Estas cuentas están en el archivo %1. No se cambia nada hasta que las importe, y la importación se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuar</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Importar %n cuenta</numerusform>
+            <numerusform>&amp;Importar %n cuentas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nueva</translation>
+    </message>
+    <message>
+        <source>New, is left out</source>
+        <translation>Nueva, se omite</translation>
+    </message>
+    <message>
+        <source>Exists here, is replaced</source>
+        <translation>Existe aquí, se sustituye</translation>
+    </message>
+    <message>
+        <source>Exists here, is kept</source>
+        <translation>Existe aquí, se conserva</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is replaced</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe aquí como %1, se sustituye</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is kept</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe aquí como %1, se conserva</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = the login of an account, %2 = a sentence about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These are not imported:</source>
+        <translation>Lo siguiente no se importa:</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceCommands</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>El programa que se ejecuta con este perfil no conoce esa orden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceMessage</name>
+    <message>
+        <source>The other program said something that is not understood.</source>
+        <translation>El otro programa respondió algo que no se entiende.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile has another version. Quit it, and try again.</source>
+        <translation>El programa que se ejecuta con este perfil tiene otra versión. Salga de él e inténtelo de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -2164,6 +2882,16 @@
     </message>
 </context>
 <context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvLengthLimit</name>
     <message>
         <source>The text is too long here. At most %1 characters are kept.</source>
@@ -2329,10 +3057,106 @@
     </message>
 </context>
 <context>
+    <name>KirvMovedFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>No se puede leer el archivo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <translation>El archivo «%1» es demasiado grande para ser un archivo de cuentas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <translation>«%1» no es un archivo que se pueda sobrescribir.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <translation>El archivo «%1» ya existe. Con --force se sobrescribe.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>No se puede escribir el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>No se puede escribir en la salida estándar.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMovingFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 no es un archivo ordinario.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>No se puede leer el archivo %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a link to another file. Choose another name.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 es un enlace a otro archivo. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than %L2 MB, so it is not read.</source>
+        <extracomment>%1 = path of a file, %L2 = a number</extracomment>
+        <translation>El archivo %1 tiene más de %L2 MB, por lo que no se lee.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>No se puede escribir el archivo %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvNgircdServer</name>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>No se pudo transferir al servidor la propiedad de sus archivos.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhraseInput</name>
+    <message>
+        <source>file descriptor %1</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>el descriptor de archivo %1</translation>
+    </message>
+    <message>
+        <source>The pass phrase cannot be read from %1.</source>
+        <translation>No se puede leer la frase de contraseña desde %1.</translation>
+    </message>
+    <message>
+        <source>The pass phrase in %1 is too long.</source>
+        <translation>La frase de contraseña en %1 es demasiado larga.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in %1.</source>
+        <translation>No hay ninguna frase de contraseña en %1.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <translation>Se necesita una frase de contraseña y no hay ningún terminal en el que introducirla. Indíquela con --pass-phrase-file o --pass-phrase-fd.</translation>
+    </message>
+    <message>
+        <source>Pass phrase of the file: </source>
+        <translation>Frase de contraseña del archivo: </translation>
+    </message>
+    <message>
+        <source>No pass phrase was typed.</source>
+        <translation>No se introdujo ninguna frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>The same again: </source>
+        <translation>La misma otra vez: </translation>
+    </message>
+    <message>
+        <source>The pass phrase was not typed twice in the same way.</source>
+        <translation>La frase de contraseña no se introdujo las dos veces igual.</translation>
     </message>
 </context>
 <context>
@@ -2377,6 +3201,131 @@
     <message>
         <source>The password is not remembered, so it is needed when the account logs in.</source>
         <translation>La contraseña no se recuerda, por lo que se necesita cuando la cuenta inicia sesión.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message>
+        <source>The account &quot;%1&quot; was left out: the protocol %2 is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Se omitió la cuenta «%1»: el protocolo %2 no se admite.</translation>
+    </message>
+    <message>
+        <source>An account was left out: it has no login.</source>
+        <translation>Se omitió una cuenta: no tiene nombre de usuario.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out: it is not in the file.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>Se omitió la imagen de la cuenta «%1»: no está en el archivo.</translation>
+    </message>
+    <message>
+        <source>The resource of the account &quot;%1&quot; was left out: it has the name of the computer in it, or characters that mean something else here.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>Se omitió el recurso de la cuenta «%1»: contiene el nombre del equipo o caracteres que aquí significan otra cosa.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: what the file says of it is not known.</source>
+        <translation>La cuenta «%1» ahora exige cifrado: no se conoce lo que el archivo indica al respecto.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; does not send its password without encryption any more.</source>
+        <translation>La cuenta «%1» ya no envía su contraseña sin cifrado.</translation>
+    </message>
+    <message>
+        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <translation>Se omitió el servidor de la cuenta «%1»: no es un nombre ni una dirección de servidor.</translation>
+    </message>
+    <message>
+        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <translation>Se omitió el puerto de la cuenta «%1»: no es un número del 1 al 65535.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; has no server. Enter one before it is used.</source>
+        <translation>La cuenta «%1» no tiene servidor. Introduzca uno antes de usarla.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; uses UTF-8 instead of the encoding %2, which is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a character encoding</extracomment>
+        <translation>La cuenta «%1» usa UTF-8 en lugar de la codificación %2, que no se admite.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: otherwise its password would be sent without it.</source>
+        <translation>La cuenta «%1» ahora exige cifrado: de lo contrario, su contraseña se enviaría sin cifrar.</translation>
+    </message>
+    <message>
+        <source>Its kind is not supported.</source>
+        <translation>Su tipo no se admite.</translation>
+    </message>
+    <message>
+        <source>The proxy of the account &quot;%1&quot; was left out. %2 The account is disabled, so that it does not connect without the proxy.</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Se omitió el proxy de la cuenta «%1». %2 La cuenta está desactivada para que no se conecte sin el proxy.</translation>
+    </message>
+    <message>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
+        <translation>Se omitieron ajustes de la cuenta «%1», ya que aquí no existen ajustes equivalentes: %2.</translation>
+    </message>
+    <message>
+        <source>The file is no text.</source>
+        <translation>El archivo no es de texto.</translation>
+    </message>
+    <message>
+        <source>A text in the file is too long.</source>
+        <translation>Un texto del archivo es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or no XML (line %1: %2).</source>
+        <extracomment>%1 = number of a line, %2 = what is wrong there</extracomment>
+        <translation>El archivo está dañado o no es XML (línea %1: %2).</translation>
+    </message>
+    <message>
+        <source>The file is not encoded as UTF-8.</source>
+        <translation>El archivo no está codificado en UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file declares a document type or uses entities, which no file of Pidgin does.</source>
+        <translation>El archivo declara un tipo de documento o usa entidades, algo que ningún archivo de Pidgin hace.</translation>
+    </message>
+    <message>
+        <source>The elements of the file are nested too deeply, or have too many attributes.</source>
+        <translation>Los elementos del archivo están anidados a demasiada profundidad o tienen demasiados atributos.</translation>
+    </message>
+    <message>
+        <source>There are elements in the file where a text is expected (line %1).</source>
+        <translation>En el archivo hay elementos donde se espera un texto (línea %1).</translation>
+    </message>
+    <message>
+        <source>Something follows the accounts in the file.</source>
+        <translation>En el archivo hay algo más después de las cuentas.</translation>
+    </message>
+    <message>
+        <source>An account in the file has too many settings.</source>
+        <translation>Una cuenta del archivo tiene demasiados ajustes.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>El archivo es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The file does not hold accounts of Pidgin.</source>
+        <translation>El archivo no contiene cuentas de Pidgin.</translation>
+    </message>
+    <message>
+        <source>The file is of another version of Pidgin, which is not known.</source>
+        <translation>El archivo es de otra versión de Pidgin, que no se conoce.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>El archivo tiene más de %n cuenta.</numerusform>
+            <numerusform>El archivo tiene más de %n cuentas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>If Pidgin uses a proxy for all accounts, it is not in this file. Set it for the accounts before they log in.</source>
+        <translation>Si Pidgin usa un proxy para todas las cuentas, no está en este archivo. Establézcalo en las cuentas antes de que inicien sesión.</translation>
     </message>
 </context>
 <context>
@@ -3099,6 +4048,13 @@
     </message>
 </context>
 <context>
+    <name>KirvRunningInstance</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>El programa que se ejecuta con este perfil no conoce esa orden.</translation>
+    </message>
+</context>
+<context>
     <name>KirvSecretTexts</name>
     <message>
         <source>in a file only you can read</source>
@@ -3496,6 +4452,17 @@
     <message>
         <source>Kirv – Settings – %1</source>
         <translation>Kirv – Ajustes – %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSortingHint</name>
+    <message>
+        <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>
+        <translation>La lista está ordenada por una columna. Las cuentas solo se pueden mover en el orden propio.</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>&amp;Orden propio</translation>
     </message>
 </context>
 <context>

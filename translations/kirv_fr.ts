@@ -263,6 +263,30 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCheckList</name>
+    <message>
+        <source>&amp;All accounts</source>
+        <translation>&amp;Tous les comptes</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Comptes</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocole</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>an account; %1 = its alias, %2 = its login</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountCollection</name>
     <message>
         <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
@@ -292,6 +316,14 @@
     <message>
         <source>The account &quot;%1&quot; could not be created: the protocol %2 is not loaded.</source>
         <translation>Le compte «&#xa0;%1&#xa0;» n’a pas pu être créé&#xa0;: le protocole %2 n’est pas chargé.</translation>
+    </message>
+    <message>
+        <source>The pictures of the accounts could not be written into a temporary file.</source>
+        <translation>Les images des comptes n’ont pas pu être écrites dans un fichier temporaire.</translation>
+    </message>
+    <message>
+        <source>There is no account &quot;%1&quot; (%2) any more.</source>
+        <translation>Le compte «&#xa0;%1&#xa0;» (%2) n’existe plus.</translation>
     </message>
 </context>
 <context>
@@ -389,12 +421,127 @@
         <source>L&amp;og</source>
         <translation>&amp;Journal</translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>Exporter %n compte dans un f&amp;ichier…</numerusform>
+            <numerusform>Exporter %n comptes dans un f&amp;ichier…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>Exporter dans un f&amp;ichier…</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>La connexion s’est terminée avant que le serveur ne réponde.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountExport</name>
+    <message>
+        <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Le mot de passe du compte «&#xa0;%1&#xa0;» (%2) est omis&#xa0;: il se trouve dans le trousseau de clés et n’a pas pu être lu.</translation>
+    </message>
+    <message>
+        <source>Secret settings of the account &quot;%1&quot; (%2) are left out: they are in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Des paramètres secrets du compte «&#xa0;%1&#xa0;» (%2) sont omis&#xa0;: ils se trouvent dans le trousseau de clés et n’ont pas pu être lus.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Le compte «&#xa0;%1&#xa0;» (%2) est omis&#xa0;: il contient des textes ou une image qui ne peuvent pas être exportés.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>L’image du compte «&#xa0;%1&#xa0;» (%2) est omise&#xa0;: elle n’a pas pu être lue.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountFile</name>
+    <message>
+        <source>The file is damaged, or it is not a file of exported accounts.</source>
+        <translation>Le fichier est endommagé, ou ce n’est pas un fichier de comptes exportés.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <translation>Les mots de passe du fichier sont endommagés, rien n’en est donc importé.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Up to %1 MB are possible.</source>
+        <translation>Le fichier est trop volumineux. La taille maximale est de %1 Mo.</translation>
+    </message>
+    <message>
+        <source>The file was made by a newer version of the program. This one cannot read it.</source>
+        <translation>Le fichier a été créé par une version plus récente du programme. Celle-ci ne peut pas le lire.</translation>
+    </message>
+    <message>
+        <source>The file has too many accounts. Up to %1 are possible.</source>
+        <translation>Le fichier contient trop de comptes. Le maximum est de %1.</translation>
+    </message>
+    <message>
+        <source>Account %1 in the file is damaged: &quot;%2&quot; cannot be used.</source>
+        <extracomment>%1 = number of an account in a file, %2 = name of a value that is stored there</extracomment>
+        <translation>Le compte %1 du fichier est endommagé&#xa0;: «&#xa0;%2&#xa0;» n’est pas utilisable.</translation>
+    </message>
+    <message>
+        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Le fichier contient deux fois le compte «&#xa0;%1&#xa0;» (%2).</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) in the file is too large.</source>
+        <translation>L’image du compte «&#xa0;%1&#xa0;» (%2) dans le fichier est trop grande.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it is of a kind that cannot be used.</source>
+        <translation>L’image du compte «&#xa0;%1&#xa0;» (%2) est omise&#xa0;: elle est d’un type qui ne peut pas être utilisé.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its main account is not in it.</source>
+        <translation>Le fichier est endommagé&#xa0;: son compte principal n’y figure pas.</translation>
+    </message>
+    <message>
+        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <translation>Le fichier ne contient aucun mot de passe, la phrase secrète n’a donc rien à ouvrir. S’il devait en contenir, quelqu’un l’a modifié.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are left out, as they need its pass phrase.</source>
+        <translation>Les mots de passe du fichier sont omis, car sa phrase secrète est nécessaire pour les lire.</translation>
+    </message>
+    <message>
+        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <translation>L’ouverture des mots de passe du fichier demande plus de mémoire ou de temps que ce qui est permis, rien n’en est donc importé.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the passwords in the file.</source>
+        <translation>Il n’y a pas assez de mémoire pour ouvrir les mots de passe du fichier.</translation>
+    </message>
+    <message>
+        <source>The pass phrase does not open the passwords in the file.</source>
+        <translation>La phrase secrète n’ouvre pas les mots de passe du fichier.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <translation>Les comptes du fichier ont été modifiés après son écriture. Ils ne correspondent plus à ses mots de passe, rien n’en est donc importé.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
+        <translation>Le compte «&#xa0;%1&#xa0;» (%2) contient des textes ou une image qui ne peuvent pas être exportés.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encrypt the passwords.</source>
+        <translation>Il n’y a pas assez de mémoire pour chiffrer les mots de passe.</translation>
+    </message>
+    <message>
+        <source>The file would have more than %1 MB or %2 accounts. Export fewer accounts at once.</source>
+        <translation>Le fichier dépasserait %1 Mo ou %2 comptes. Exportez moins de comptes à la fois.</translation>
     </message>
 </context>
 <context>
@@ -444,6 +591,42 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas être réactivé&#xa0;: il a été supprimé.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas redevenir ce qu’il était avant l’importation&#xa0;: il a été supprimé.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountImport</name>
+    <message>
+        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
+        <translation>Le fichier contient deux fois cet identifiant&#xa0;: pour le serveur, «&#xa0;%1&#xa0;» est identique à «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The account has no login.</source>
+        <translation>Le compte n’a pas d’identifiant.</translation>
+    </message>
+    <message>
+        <source>The protocol %1 is not loaded.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>Le protocole %1 n’est pas chargé.</translation>
+    </message>
+    <message>
+        <source>Another account with this login was added or removed since.</source>
+        <translation>Un autre compte avec cet identifiant a été ajouté ou supprimé entre-temps.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas être repris. %2</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out. %2</source>
+        <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
+        <translation>L’image du compte «&#xa0;%1&#xa0;» a été omise. %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountInvitation</name>
@@ -460,16 +643,36 @@
         <translation>Créer un nouveau compte sur un serveur</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, or register a new one.</source>
-        <translation>Il n’y a pas encore de compte. Ajoutez-en un que vous avez déjà ou créez-en un nouveau.</translation>
-    </message>
-    <message>
         <source>Add an account that you already have</source>
         <translation>Ajouter un compte que vous avez déjà</translation>
     </message>
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Aucun protocole n’est chargé. Chargez-en un sur la page «&#xa0;Greffons&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Take accounts over from a file</source>
+        <translation>Reprendre des comptes depuis un fichier</translation>
+    </message>
+    <message>
+        <source>Take the accounts of Pidgin over; its own file is only read</source>
+        <translation>Reprendre les comptes de Pidgin&#xa0;; son propre fichier est seulement lu</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts from a file.</source>
+        <translation>Il n’y a pas encore de compte. Ajoutez-en un que vous avez déjà, créez-en un nouveau ou importez des comptes depuis un fichier.</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <translation>Il n’y a pas encore de compte. Ajoutez-en un que vous avez déjà, créez-en un nouveau ou importez des comptes. Pidgin a des comptes sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Import from Pidgin…</source>
+        <translation>Importer depuis Pidgin…</translation>
     </message>
 </context>
 <context>
@@ -551,6 +754,18 @@
         <source>%1  %2</source>
         <extracomment>%1 = time of day, %2 = an event</extracomment>
         <translation>%1  %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountNames</name>
+    <message>
+        <source>There is no account &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de compte «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Several accounts are called &quot;%1&quot;. Name one of them with its protocol: %2</source>
+        <extracomment>%1 = what was typed, %2 = names that could be meant</extracomment>
+        <translation>Plusieurs comptes s’appellent «&#xa0;%1&#xa0;». Indiquez l’un d’eux avec son protocole&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1108,7 @@
     </message>
     <message>
         <source>&amp;Undo Disabling %1</source>
+        <extracomment>%1 = name of an account</extracomment>
         <translation>A&amp;nnuler la désactivation de %1</translation>
     </message>
     <message>
@@ -920,7 +1136,179 @@
     </message>
     <message>
         <source>The account %1 (%2) was disabled.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
         <translation>Le compte %1 (%2) a été désactivé.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Importing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>A&amp;nnuler l’importation de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>A&amp;nnuler l’importation de %n compte</numerusform>
+            <numerusform>A&amp;nnuler l’importation de %n comptes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was imported.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Le compte %1 (%2) a été importé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>%n compte a été importé.</numerusform>
+            <numerusform>%n comptes ont été importés.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsCommand</name>
+    <message>
+        <source>The profile in &quot;%1&quot; is open in another program, which does not take commands.</source>
+        <translation>Le profil dans «&#xa0;%1&#xa0;» est ouvert dans un autre programme, qui n’accepte pas de commandes.</translation>
+    </message>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>Il n’y a pas encore de profil dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not respond.</source>
+        <translation>Le programme qui utilise ce profil ne répond pas.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsMoving</name>
+    <message>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Des mots de passe du compte «&#xa0;%1&#xa0;» sont omis&#xa0;: le trousseau de clés est verrouillé.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed.</source>
+        <translation>Une phrase secrète est nécessaire.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsOptions</name>
+    <message>
+        <source>Print one line of JSON.</source>
+        <translation>Afficher une ligne de JSON.</translation>
+    </message>
+    <message>
+        <source>Export: put passwords into the file, encrypted with a pass phrase.</source>
+        <translation>Exportation&#xa0;: mettre les mots de passe dans le fichier, chiffrés avec une phrase secrète.</translation>
+    </message>
+    <message>
+        <source>Export: overwrite a file that is there.</source>
+        <translation>Exportation&#xa0;: écraser un fichier existant.</translation>
+    </message>
+    <message>
+        <source>Import: leave the passwords out that are in the file.</source>
+        <translation>Importation&#xa0;: omettre les mots de passe contenus dans le fichier.</translation>
+    </message>
+    <message>
+        <source>Import: replace accounts that exist by those of the file.</source>
+        <translation>Importation&#xa0;: remplacer les comptes existants par ceux du fichier.</translation>
+    </message>
+    <message>
+        <source>Import: say what would be done, and change nothing.</source>
+        <translation>Importation&#xa0;: indiquer ce qui serait fait, sans rien modifier.</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line of &lt;file&gt;.</source>
+        <translation>Exportation et importation&#xa0;: la phrase secrète est la première ligne de &lt;fichier&gt;.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>fichier</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line that can be read from the file descriptor &lt;number&gt;.</source>
+        <translation>Exportation et importation&#xa0;: la phrase secrète est la première ligne qui peut être lue depuis le descripteur de fichier &lt;numéro&gt;.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>numéro</translation>
+    </message>
+    <message>
+        <source>Lists, enables, disables, exports and imports accounts.
+An account is named PROTOCOL:ID, or by its id when no other account has the same.
+
+  accounts list [account…]
+  accounts enable account…
+  accounts disable account…
+  accounts export file [account…]
+  accounts import file
+
+A file is called - where the standard output or input is meant.</source>
+        <translation>Liste, active, désactive, exporte et importe des comptes.
+Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre compte n’a le même.
+
+  accounts list [compte…]
+  accounts enable compte…
+  accounts disable compte…
+  accounts export fichier [compte…]
+  accounts import fichier
+
+À la place d’un fichier, - désigne la sortie ou l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>list, enable, disable, export or import.</source>
+        <translation>list, enable, disable, export ou import.</translation>
+    </message>
+    <message>
+        <source>A file or an account.</source>
+        <translation>Un fichier ou un compte.</translation>
+    </message>
+    <message>
+        <source>[argument…]</source>
+        <translation>[argument…]</translation>
+    </message>
+    <message>
+        <source>The command is missing: list, enable, disable, export or import.</source>
+        <translation>La commande est absente&#xa0;: list, enable, disable, export ou import.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is not known: it can be list, enable, disable, export or import.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>La commande «&#xa0;%1&#xa0;» est inconnue&#xa0;: les commandes possibles sont list, enable, disable, export et import.</translation>
+    </message>
+    <message>
+        <source>The option --%1 does not belong to the command &quot;%2&quot;.</source>
+        <extracomment>%1 = name of an option, %2 = name of a command</extracomment>
+        <translation>L’option --%1 ne fait pas partie de la commande «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Il manque le fichier.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>L’argument «&#xa0;%1&#xa0;» est inconnu.</translation>
+    </message>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Il manque le compte.</translation>
+    </message>
+    <message>
+        <source>The option --json cannot be used when the file goes to the standard output.</source>
+        <translation>L’option --json ne peut pas être utilisée lorsque le fichier est écrit sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <translation>Une phrase secrète ne sert à rien si aucun mot de passe n’est transféré.</translation>
+    </message>
+    <message>
+        <source>The file with the pass phrase is missing.</source>
+        <translation>Il manque le fichier contenant la phrase secrète.</translation>
+    </message>
+    <message>
+        <source>The option --pass-phrase-fd needs the number of a file descriptor.</source>
+        <translation>L’option --pass-phrase-fd nécessite le numéro d’un descripteur de fichier.</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1316,101 @@
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>Le greffon du protocole %1 n’est pas chargé. Chargez-le sur la page «&#xa0;Greffons&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsService</name>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Il manque le compte.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsText</name>
+    <message>
+        <source>There are no accounts.</source>
+        <translation>Il n’y a aucun compte.</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocole</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Principal</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>%1 is enabled now.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>%1 est maintenant activé.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled now.</source>
+        <translation>%1 est maintenant désactivé.</translation>
+    </message>
+    <message>
+        <source>%1 was enabled already.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>%1 était déjà activé.</translation>
+    </message>
+    <message>
+        <source>%1 was disabled already.</source>
+        <translation>%1 était déjà désactivé.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, with the passwords that are stored.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Comptes exportés&#xa0;: %1, avec les mots de passe enregistrés.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, without passwords.</source>
+        <translation>Comptes exportés&#xa0;: %1, sans mots de passe.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nouveau</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>remplace %1</translation>
+    </message>
+    <message>
+        <source>%1 is kept</source>
+        <translation>%1 est conservé</translation>
+    </message>
+    <message>
+        <source>Accounts that would be imported: %1. Nothing was changed.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Comptes qui seraient importés&#xa0;: %1. Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <source>Accounts imported: %1.</source>
+        <translation>Comptes importés&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -1250,8 +1733,10 @@
         <translation>Charger les greffons de protocole de &lt;dossier&gt;.</translation>
     </message>
     <message>
-        <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation>Comptes de plusieurs protocoles de messagerie instantanée en un seul endroit.</translation>
+        <source>Accounts of several instant-messaging protocols in one place.
+&quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
+        <translation>Des comptes de plusieurs protocoles de messagerie instantanée en un seul endroit.
+«&#xa0;kirv accounts --help&#xa0;» indique comment lister, activer, désactiver, exporter et importer des comptes sans fenêtres.</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1909,84 @@
     <message>
         <source>None is stored</source>
         <translation>Aucun n’est enregistré</translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message>
+        <source>Export Accounts</source>
+        <translation>Exporter des comptes</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Include &amp;passwords (encrypted)</source>
+        <translation>Inclure les &amp;mots de passe (chiffrés)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <translation>Plusieurs mots sans rapport entre eux sont faciles à retenir et difficiles à deviner. Quiconque possède le fichier et devine la phrase secrète a vos mots de passe&#xa0;; sans elle, personne ne peut les lire, pas même vous.</translation>
+    </message>
+    <message>
+        <source>Pass p&amp;hrase:</source>
+        <translation>P&amp;hrase secrète&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat it:</source>
+        <translation>&amp;Répétez-la&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exporter…</translation>
+    </message>
+    <message>
+        <source>Choose the file to which the accounts are written.</source>
+        <translation>Choisir le fichier dans lequel les comptes seront écrits.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>La phrase secrète doit comporter au moins %n caractère.</numerusform>
+            <numerusform>La phrase secrète doit comporter au moins %n caractères.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase and its repetition must be the same.</source>
+        <translation>La phrase secrète et sa répétition doivent être identiques.</translation>
+    </message>
+    <message>
+        <source>Exported accounts (*.json)</source>
+        <translation>Comptes exportés (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The export was cancelled; nothing was written.</source>
+        <translation>L’exportation a été annulée&#xa0;; rien n’a été écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>%n compte a été exporté dans %1.</numerusform>
+            <numerusform>%n comptes ont été exportés dans %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No passwords are in the file.</source>
+        <translation>Le fichier ne contient aucun mot de passe.</translation>
+    </message>
+    <message>
+        <source>These are not in the file:</source>
+        <translation>Ne figurent pas dans le fichier&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1764,6 +2327,161 @@
     <message>
         <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
         <translation>Copies du profil, sans mots de passe&#xa0;; l’une d’elles peut être restaurée si le profil est endommagé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Export Accounts…</source>
+        <translation>&amp;Exporter des comptes…</translation>
+    </message>
+    <message>
+        <source>Writes accounts to a file that can be imported on another computer.</source>
+        <translation>Écrit des comptes dans un fichier qui peut être importé sur un autre ordinateur.</translation>
+    </message>
+    <message>
+        <source>&amp;Import Accounts…</source>
+        <translation>&amp;Importer des comptes…</translation>
+    </message>
+    <message>
+        <source>Takes accounts over from such a file, or from Pidgin.</source>
+        <translation>Reprend des comptes depuis un tel fichier ou depuis Pidgin.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message>
+        <source>Import Accounts</source>
+        <translation>Importer des comptes</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>About the file</source>
+        <translation>À propos du fichier</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Ce qui se passe</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Éléments omis</translation>
+    </message>
+    <message>
+        <source>&amp;Pass phrase:</source>
+        <translation>&amp;Phrase secrète&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;File…</source>
+        <translation>Choisir un autre &amp;fichier…</translation>
+    </message>
+    <message>
+        <source>&amp;Without Passwords</source>
+        <translation>&amp;Sans mots de passe</translation>
+    </message>
+    <message>
+        <source>Lists the accounts; their passwords have to be entered here.</source>
+        <translation>Liste les comptes&#xa0;; leurs mots de passe devront être saisis ici.</translation>
+    </message>
+    <message>
+        <source>Exported accounts, accounts of Pidgin (*.json *.xml)</source>
+        <translation>Comptes exportés, comptes de Pidgin (*.json *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read…</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Lecture du fichier %1…</translation>
+    </message>
+    <message>
+        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Le fichier %1 contient des mots de passe. Saisissez la phrase secrète avec laquelle ils sont chiffrés.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file %1 cannot be imported.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Les comptes du fichier %1 ne peuvent pas être importés.</translation>
+    </message>
+    <message>
+        <source>There are no accounts that can be imported in the file %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Le fichier %1 ne contient aucun compte qui puisse être importé.</translation>
+    </message>
+    <message>
+        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <translation>Ces comptes sont dans le fichier %1. Rien n’est modifié avant que vous ne les importiez, et l’importation peut être annulée.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>C&amp;ontinuer</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Importer %n compte</numerusform>
+            <numerusform>&amp;Importer %n comptes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>New, is left out</source>
+        <translation>Nouveau, est omis</translation>
+    </message>
+    <message>
+        <source>Exists here, is replaced</source>
+        <translation>Existe ici, est remplacé</translation>
+    </message>
+    <message>
+        <source>Exists here, is kept</source>
+        <translation>Existe ici, est conservé</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is replaced</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe ici sous le nom %1, est remplacé</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is kept</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe ici sous le nom %1, est conservé</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = the login of an account, %2 = a sentence about it</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>These are not imported:</source>
+        <translation>Ne sont pas importés&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceCommands</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>Le programme qui utilise ce profil ne connaît pas cette commande.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceMessage</name>
+    <message>
+        <source>The other program said something that is not understood.</source>
+        <translation>L’autre programme a envoyé quelque chose d’incompréhensible.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile has another version. Quit it, and try again.</source>
+        <translation>Le programme qui utilise ce profil est d’une autre version. Quittez-le, puis réessayez.</translation>
     </message>
 </context>
 <context>
@@ -2164,6 +2882,16 @@
     </message>
 </context>
 <context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvLengthLimit</name>
     <message>
         <source>The text is too long here. At most %1 characters are kept.</source>
@@ -2329,10 +3057,106 @@
     </message>
 </context>
 <context>
+    <name>KirvMovedFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est trop volumineux pour être un fichier de comptes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier qui peut être écrasé.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» existe déjà. Avec --force, il est écrasé.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMovingFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Le fichier %1 ne peut pas être lu&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a link to another file. Choose another name.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 est un lien vers un autre fichier. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than %L2 MB, so it is not read.</source>
+        <extracomment>%1 = path of a file, %L2 = a number</extracomment>
+        <translation>Le fichier %1 dépasse %L2 Mo, il n’est donc pas lu.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Le fichier %1 ne peut pas être écrit&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvNgircdServer</name>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>La propriété des fichiers du serveur n’a pas pu lui être transférée.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhraseInput</name>
+    <message>
+        <source>file descriptor %1</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>le descripteur de fichier %1</translation>
+    </message>
+    <message>
+        <source>The pass phrase cannot be read from %1.</source>
+        <translation>La phrase secrète ne peut pas être lue depuis %1.</translation>
+    </message>
+    <message>
+        <source>The pass phrase in %1 is too long.</source>
+        <translation>La phrase secrète dans %1 est trop longue.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in %1.</source>
+        <translation>Il n’y a pas de phrase secrète dans %1.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <translation>Une phrase secrète est nécessaire, mais il n’y a pas de terminal où la saisir. Indiquez-la avec --pass-phrase-file ou --pass-phrase-fd.</translation>
+    </message>
+    <message>
+        <source>Pass phrase of the file: </source>
+        <translation>Phrase secrète du fichier&#xa0;: </translation>
+    </message>
+    <message>
+        <source>No pass phrase was typed.</source>
+        <translation>Aucune phrase secrète n’a été saisie.</translation>
+    </message>
+    <message>
+        <source>The same again: </source>
+        <translation>La même encore une fois&#xa0;: </translation>
+    </message>
+    <message>
+        <source>The pass phrase was not typed twice in the same way.</source>
+        <translation>La phrase secrète n’a pas été saisie deux fois de la même façon.</translation>
     </message>
 </context>
 <context>
@@ -2377,6 +3201,131 @@
     <message>
         <source>The password is not remembered, so it is needed when the account logs in.</source>
         <translation>Le mot de passe n’est pas retenu, il est donc nécessaire lorsque le compte se connecte.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message>
+        <source>The account &quot;%1&quot; was left out: the protocol %2 is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Le compte «&#xa0;%1&#xa0;» a été omis&#xa0;: le protocole %2 n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>An account was left out: it has no login.</source>
+        <translation>Un compte a été omis&#xa0;: il n’a pas d’identifiant.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out: it is not in the file.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>L’image du compte «&#xa0;%1&#xa0;» a été omise&#xa0;: elle n’est pas dans le fichier.</translation>
+    </message>
+    <message>
+        <source>The resource of the account &quot;%1&quot; was left out: it has the name of the computer in it, or characters that mean something else here.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>La ressource du compte «&#xa0;%1&#xa0;» a été omise&#xa0;: elle contient le nom de l’ordinateur, ou des caractères qui ont ici un autre sens.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: what the file says of it is not known.</source>
+        <translation>Le compte «&#xa0;%1&#xa0;» exige désormais le chiffrement&#xa0;: ce que le fichier indique à ce sujet est inconnu.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; does not send its password without encryption any more.</source>
+        <translation>Le compte «&#xa0;%1&#xa0;» n’envoie plus son mot de passe sans chiffrement.</translation>
+    </message>
+    <message>
+        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <translation>Le serveur du compte «&#xa0;%1&#xa0;» a été omis&#xa0;: ce n’est ni le nom ni l’adresse d’un serveur.</translation>
+    </message>
+    <message>
+        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <translation>Le port du compte «&#xa0;%1&#xa0;» a été omis&#xa0;: ce n’est pas un nombre compris entre 1 et 65535.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; has no server. Enter one before it is used.</source>
+        <translation>Le compte «&#xa0;%1&#xa0;» n’a pas de serveur. Saisissez-en un avant de l’utiliser.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; uses UTF-8 instead of the encoding %2, which is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a character encoding</extracomment>
+        <translation>Le compte «&#xa0;%1&#xa0;» utilise UTF-8 au lieu de l’encodage %2, qui n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: otherwise its password would be sent without it.</source>
+        <translation>Le compte «&#xa0;%1&#xa0;» exige désormais le chiffrement&#xa0;: sinon, son mot de passe serait envoyé sans chiffrement.</translation>
+    </message>
+    <message>
+        <source>Its kind is not supported.</source>
+        <translation>Son type n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>The proxy of the account &quot;%1&quot; was left out. %2 The account is disabled, so that it does not connect without the proxy.</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Le proxy du compte «&#xa0;%1&#xa0;» a été omis. %2 Le compte est désactivé, afin qu’il ne se connecte pas sans le proxy.</translation>
+    </message>
+    <message>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
+        <translation>Des paramètres du compte «&#xa0;%1&#xa0;» ont été omis, car il n’y en a pas d’équivalents ici&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The file is no text.</source>
+        <translation>Le fichier n’est pas du texte.</translation>
+    </message>
+    <message>
+        <source>A text in the file is too long.</source>
+        <translation>Un texte du fichier est trop long.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or no XML (line %1: %2).</source>
+        <extracomment>%1 = number of a line, %2 = what is wrong there</extracomment>
+        <translation>Le fichier est endommagé ou n’est pas du XML (ligne %1&#xa0;: %2).</translation>
+    </message>
+    <message>
+        <source>The file is not encoded as UTF-8.</source>
+        <translation>Le fichier n’est pas encodé en UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file declares a document type or uses entities, which no file of Pidgin does.</source>
+        <translation>Le fichier déclare un type de document ou utilise des entités, ce que ne fait aucun fichier de Pidgin.</translation>
+    </message>
+    <message>
+        <source>The elements of the file are nested too deeply, or have too many attributes.</source>
+        <translation>Les éléments du fichier sont trop profondément imbriqués ou ont trop d’attributs.</translation>
+    </message>
+    <message>
+        <source>There are elements in the file where a text is expected (line %1).</source>
+        <translation>Le fichier contient des éléments là où un texte est attendu (ligne %1).</translation>
+    </message>
+    <message>
+        <source>Something follows the accounts in the file.</source>
+        <translation>Il y a quelque chose après les comptes dans le fichier.</translation>
+    </message>
+    <message>
+        <source>An account in the file has too many settings.</source>
+        <translation>Un compte du fichier a trop de paramètres.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>Le fichier est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>The file does not hold accounts of Pidgin.</source>
+        <translation>Le fichier ne contient pas de comptes de Pidgin.</translation>
+    </message>
+    <message>
+        <source>The file is of another version of Pidgin, which is not known.</source>
+        <translation>Le fichier provient d’une autre version de Pidgin, qui est inconnue.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>Le fichier contient plus de %n compte.</numerusform>
+            <numerusform>Le fichier contient plus de %n comptes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>If Pidgin uses a proxy for all accounts, it is not in this file. Set it for the accounts before they log in.</source>
+        <translation>Si Pidgin utilise un proxy pour tous les comptes, il n’est pas dans ce fichier. Définissez-le pour les comptes avant qu’ils ne se connectent.</translation>
     </message>
 </context>
 <context>
@@ -3099,6 +4048,13 @@
     </message>
 </context>
 <context>
+    <name>KirvRunningInstance</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>Le programme qui utilise ce profil ne connaît pas cette commande.</translation>
+    </message>
+</context>
+<context>
     <name>KirvSecretTexts</name>
     <message>
         <source>in a file only you can read</source>
@@ -3496,6 +4452,17 @@
     <message>
         <source>Kirv – Settings – %1</source>
         <translation>Kirv – Paramètres – %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSortingHint</name>
+    <message>
+        <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>
+        <translation>La liste est triée selon une colonne. Les comptes ne peuvent être déplacés que dans votre ordre personnalisé.</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Or&amp;dre personnalisé</translation>
     </message>
 </context>
 <context>

@@ -263,6 +263,30 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCheckList</name>
+    <message>
+        <source>&amp;All accounts</source>
+        <translation>Wsz&amp;ystkie konta</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konta</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protokół</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>an account; %1 = its alias, %2 = its login</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountCollection</name>
     <message>
         <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
@@ -293,6 +317,14 @@
     <message>
         <source>The account &quot;%1&quot; could not be created: the protocol %2 is not loaded.</source>
         <translation>Nie udało się utworzyć konta „%1”: protokół %2 nie jest załadowany.</translation>
+    </message>
+    <message>
+        <source>The pictures of the accounts could not be written into a temporary file.</source>
+        <translation>Nie udało się zapisać obrazów kont w pliku tymczasowym.</translation>
+    </message>
+    <message>
+        <source>There is no account &quot;%1&quot; (%2) any more.</source>
+        <translation>Nie ma już konta „%1” (%2).</translation>
     </message>
 </context>
 <context>
@@ -393,12 +425,128 @@
         <source>L&amp;og</source>
         <translation>&amp;Dziennik</translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>Eksportu&amp;j %n konto…</numerusform>
+            <numerusform>Eksportu&amp;j %n konta…</numerusform>
+            <numerusform>Eksportu&amp;j %n kont…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>Eksportu&amp;j…</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>Połączenie zostało zakończone, zanim serwer odpowiedział.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountExport</name>
+    <message>
+        <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Pominięto hasło konta „%1” (%2): jest w bazie kluczy i nie udało się go odczytać.</translation>
+    </message>
+    <message>
+        <source>Secret settings of the account &quot;%1&quot; (%2) are left out: they are in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Pominięto tajne ustawienia konta „%1” (%2): są w bazie kluczy i nie udało się ich odczytać.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Pominięto konto „%1” (%2): zawiera teksty lub obraz, których nie można wyeksportować.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Pominięto obraz konta „%1” (%2): nie udało się go odczytać.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountFile</name>
+    <message>
+        <source>The file is damaged, or it is not a file of exported accounts.</source>
+        <translation>Plik jest uszkodzony lub nie jest plikiem z wyeksportowanymi kontami.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <translation>Hasła w pliku są uszkodzone, dlatego nic z niego nie zostanie zaimportowane.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Up to %1 MB are possible.</source>
+        <translation>Plik jest za duży. Dozwolone jest najwyżej %1 MB.</translation>
+    </message>
+    <message>
+        <source>The file was made by a newer version of the program. This one cannot read it.</source>
+        <translation>Plik utworzyła nowsza wersja programu. Ta wersja nie może go odczytać.</translation>
+    </message>
+    <message>
+        <source>The file has too many accounts. Up to %1 are possible.</source>
+        <translation>Plik zawiera za dużo kont. Dozwolona liczba kont to najwyżej %1.</translation>
+    </message>
+    <message>
+        <source>Account %1 in the file is damaged: &quot;%2&quot; cannot be used.</source>
+        <extracomment>%1 = number of an account in a file, %2 = name of a value that is stored there</extracomment>
+        <translation>Konto nr %1 w pliku jest uszkodzone: nie można użyć wartości „%2”.</translation>
+    </message>
+    <message>
+        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Plik zawiera konto „%1” (%2) dwa razy.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) in the file is too large.</source>
+        <translation>Obraz konta „%1” (%2) w pliku jest za duży.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it is of a kind that cannot be used.</source>
+        <translation>Pominięto obraz konta „%1” (%2): nie można użyć obrazu tego rodzaju.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its main account is not in it.</source>
+        <translation>Plik jest uszkodzony: nie ma w nim jego konta głównego.</translation>
+    </message>
+    <message>
+        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <translation>Plik nie zawiera haseł, więc fraza szyfrująca nie ma czego odszyfrować. Jeśli powinny w nim być hasła, ktoś zmienił plik.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are left out, as they need its pass phrase.</source>
+        <translation>Pominięto hasła z pliku, ponieważ do ich odczytania potrzebna jest jego fraza szyfrująca.</translation>
+    </message>
+    <message>
+        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <translation>Odszyfrowanie haseł w pliku wymaga więcej pamięci lub czasu, niż jest dozwolone, dlatego nic z niego nie zostanie zaimportowane.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the passwords in the file.</source>
+        <translation>Za mało pamięci, aby odszyfrować hasła w pliku.</translation>
+    </message>
+    <message>
+        <source>The pass phrase does not open the passwords in the file.</source>
+        <translation>Tą frazą szyfrującą nie można odszyfrować haseł w pliku.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <translation>Konta w pliku zostały zmienione po jego zapisaniu. Nie pasują już do haseł w pliku, dlatego nic z niego nie zostanie zaimportowane.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
+        <translation>Konto „%1” (%2) zawiera teksty lub obraz, których nie można wyeksportować.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encrypt the passwords.</source>
+        <translation>Za mało pamięci, aby zaszyfrować hasła.</translation>
+    </message>
+    <message>
+        <source>The file would have more than %1 MB or %2 accounts. Export fewer accounts at once.</source>
+        <translation>Plik przekroczyłby dozwolony rozmiar (%1 MB) lub liczbę kont (%2). Eksportuj mniej kont naraz.</translation>
     </message>
 </context>
 <context>
@@ -451,6 +599,42 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Nie można ponownie włączyć konta „%1”: zostało usunięte.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Nie można przywrócić konta „%1” do stanu sprzed importu: zostało usunięte.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountImport</name>
+    <message>
+        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
+        <translation>Plik zawiera ten login dwa razy: „%1” jest dla serwera tym samym co „%2”.</translation>
+    </message>
+    <message>
+        <source>The account has no login.</source>
+        <translation>Konto nie ma loginu.</translation>
+    </message>
+    <message>
+        <source>The protocol %1 is not loaded.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>Protokół %1 nie jest załadowany.</translation>
+    </message>
+    <message>
+        <source>Another account with this login was added or removed since.</source>
+        <translation>W międzyczasie dodano lub usunięto inne konto z tym loginem.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Nie można przejąć konta „%1”. %2</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out. %2</source>
+        <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
+        <translation>Pominięto obraz konta „%1”. %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountInvitation</name>
@@ -467,16 +651,36 @@
         <translation>Utwórz nowe konto na serwerze</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, or register a new one.</source>
-        <translation>Nie ma jeszcze żadnego konta. Dodaj konto, które już masz, lub zarejestruj nowe.</translation>
-    </message>
-    <message>
         <source>Add an account that you already have</source>
         <translation>Dodaj konto, które już masz</translation>
     </message>
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Żaden protokół nie jest załadowany. Załaduj go na stronie „Wtyczki”.</translation>
+    </message>
+    <message>
+        <source>Take accounts over from a file</source>
+        <translation>Przejmij konta z pliku</translation>
+    </message>
+    <message>
+        <source>Take the accounts of Pidgin over; its own file is only read</source>
+        <translation>Przejmij konta programu Pidgin; jego plik zostanie tylko odczytany</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts from a file.</source>
+        <translation>Nie ma jeszcze żadnego konta. Dodaj konto, które już masz, zarejestruj nowe lub zaimportuj konta z pliku.</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <translation>Nie ma jeszcze żadnego konta. Dodaj konto, które już masz, zarejestruj nowe lub zaimportuj konta. Na tym komputerze są konta programu Pidgin.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importuj…</translation>
+    </message>
+    <message>
+        <source>Import from Pidgin…</source>
+        <translation>Importuj z programu Pidgin…</translation>
     </message>
 </context>
 <context>
@@ -558,6 +762,18 @@
         <source>%1  %2</source>
         <extracomment>%1 = time of day, %2 = an event</extracomment>
         <translation>%1  %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountNames</name>
+    <message>
+        <source>There is no account &quot;%1&quot;.</source>
+        <translation>Nie ma konta „%1”.</translation>
+    </message>
+    <message>
+        <source>Several accounts are called &quot;%1&quot;. Name one of them with its protocol: %2</source>
+        <extracomment>%1 = what was typed, %2 = names that could be meant</extracomment>
+        <translation>Nazwę „%1” ma kilka kont. Podaj jedno z nich razem z protokołem: %2</translation>
     </message>
 </context>
 <context>
@@ -903,6 +1119,7 @@
     </message>
     <message>
         <source>&amp;Undo Disabling %1</source>
+        <extracomment>%1 = name of an account</extracomment>
         <translation>&amp;Cofnij wyłączenie konta %1</translation>
     </message>
     <message>
@@ -932,7 +1149,181 @@
     </message>
     <message>
         <source>The account %1 (%2) was disabled.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
         <translation>Wyłączono konto %1 (%2).</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Importing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>&amp;Cofnij import konta %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Cofnij import %n konta</numerusform>
+            <numerusform>&amp;Cofnij import %n kont</numerusform>
+            <numerusform>&amp;Cofnij import %n kont</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was imported.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Zaimportowano konto %1 (%2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>Zaimportowano %n konto.</numerusform>
+            <numerusform>Zaimportowano %n konta.</numerusform>
+            <numerusform>Zaimportowano %n kont.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsCommand</name>
+    <message>
+        <source>The profile in &quot;%1&quot; is open in another program, which does not take commands.</source>
+        <translation>Profil w „%1” jest otwarty w innym programie, który nie przyjmuje poleceń.</translation>
+    </message>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>W „%1” nie ma jeszcze profilu.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not respond.</source>
+        <translation>Program, który działa z tym profilem, nie odpowiada.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsMoving</name>
+    <message>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Pominięto hasła konta „%1”: baza kluczy jest zablokowana.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed.</source>
+        <translation>Potrzebna jest fraza szyfrująca.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsOptions</name>
+    <message>
+        <source>Print one line of JSON.</source>
+        <translation>Wypisuje jeden wiersz w formacie JSON.</translation>
+    </message>
+    <message>
+        <source>Export: put passwords into the file, encrypted with a pass phrase.</source>
+        <translation>Eksport: umieszcza w pliku hasła zaszyfrowane frazą szyfrującą.</translation>
+    </message>
+    <message>
+        <source>Export: overwrite a file that is there.</source>
+        <translation>Eksport: zastępuje istniejący plik.</translation>
+    </message>
+    <message>
+        <source>Import: leave the passwords out that are in the file.</source>
+        <translation>Import: pomija hasła, które są w pliku.</translation>
+    </message>
+    <message>
+        <source>Import: replace accounts that exist by those of the file.</source>
+        <translation>Import: zastępuje istniejące konta kontami z pliku.</translation>
+    </message>
+    <message>
+        <source>Import: say what would be done, and change nothing.</source>
+        <translation>Import: wypisuje, co zostałoby zrobione, i niczego nie zmienia.</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line of &lt;file&gt;.</source>
+        <translation>Eksport i import: frazą szyfrującą jest pierwszy wiersz pliku &lt;plik&gt;.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>plik</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line that can be read from the file descriptor &lt;number&gt;.</source>
+        <translation>Eksport i import: frazą szyfrującą jest pierwszy wiersz odczytany z deskryptora pliku &lt;numer&gt;.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>numer</translation>
+    </message>
+    <message>
+        <source>Lists, enables, disables, exports and imports accounts.
+An account is named PROTOCOL:ID, or by its id when no other account has the same.
+
+  accounts list [account…]
+  accounts enable account…
+  accounts disable account…
+  accounts export file [account…]
+  accounts import file
+
+A file is called - where the standard output or input is meant.</source>
+        <translation>Wypisuje, włącza, wyłącza, eksportuje i importuje konta.
+Konto podaje się jako PROTOKÓŁ:ID albo samym identyfikatorem, gdy żadne inne konto nie ma takiego samego.
+
+  accounts list [konto…]
+  accounts enable konto…
+  accounts disable konto…
+  accounts export plik [konto…]
+  accounts import plik
+
+Znak - zamiast nazwy pliku oznacza standardowe wyjście lub wejście.</translation>
+    </message>
+    <message>
+        <source>list, enable, disable, export or import.</source>
+        <translation>list, enable, disable, export lub import.</translation>
+    </message>
+    <message>
+        <source>A file or an account.</source>
+        <translation>Plik lub konto.</translation>
+    </message>
+    <message>
+        <source>[argument…]</source>
+        <translation>[argument…]</translation>
+    </message>
+    <message>
+        <source>The command is missing: list, enable, disable, export or import.</source>
+        <translation>Brakuje polecenia: list, enable, disable, export lub import.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is not known: it can be list, enable, disable, export or import.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>Nieznane polecenie „%1”: może to być list, enable, disable, export lub import.</translation>
+    </message>
+    <message>
+        <source>The option --%1 does not belong to the command &quot;%2&quot;.</source>
+        <extracomment>%1 = name of an option, %2 = name of a command</extracomment>
+        <translation>Opcja --%1 nie należy do polecenia „%2”.</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Nie podano pliku.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>Nieznany argument „%1”.</translation>
+    </message>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Nie podano konta.</translation>
+    </message>
+    <message>
+        <source>The option --json cannot be used when the file goes to the standard output.</source>
+        <translation>Nie można użyć opcji --json, gdy plik trafia na standardowe wyjście.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <translation>Fraza szyfrująca jest niepotrzebna, gdy hasła nie są przenoszone.</translation>
+    </message>
+    <message>
+        <source>The file with the pass phrase is missing.</source>
+        <translation>Nie podano pliku z frazą szyfrującą.</translation>
+    </message>
+    <message>
+        <source>The option --pass-phrase-fd needs the number of a file descriptor.</source>
+        <translation>Opcja --pass-phrase-fd wymaga podania numeru deskryptora pliku.</translation>
     </message>
 </context>
 <context>
@@ -940,6 +1331,101 @@
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>Wtyczka protokołu %1 nie jest załadowana. Załaduj ją na stronie „Wtyczki”.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsService</name>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Nie podano konta.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsText</name>
+    <message>
+        <source>There are no accounts.</source>
+        <translation>Nie ma żadnych kont.</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protokół</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>Identyfikator</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Włączone</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Główne</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>tak</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>%1 is enabled now.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Konto %1 jest teraz włączone.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled now.</source>
+        <translation>Konto %1 jest teraz wyłączone.</translation>
+    </message>
+    <message>
+        <source>%1 was enabled already.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Konto %1 było już włączone.</translation>
+    </message>
+    <message>
+        <source>%1 was disabled already.</source>
+        <translation>Konto %1 było już wyłączone.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, with the passwords that are stored.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Wyeksportowane konta: %1, razem z zapisanymi hasłami.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, without passwords.</source>
+        <translation>Wyeksportowane konta: %1, bez haseł.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nowe</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>zastępuje %1</translation>
+    </message>
+    <message>
+        <source>%1 is kept</source>
+        <translation>%1 pozostaje bez zmian</translation>
+    </message>
+    <message>
+        <source>Accounts that would be imported: %1. Nothing was changed.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Konta, które zostałyby zaimportowane: %1. Nic nie zmieniono.</translation>
+    </message>
+    <message>
+        <source>Accounts imported: %1.</source>
+        <translation>Zaimportowane konta: %1.</translation>
     </message>
 </context>
 <context>
@@ -1264,8 +1750,10 @@
         <translation>Ładuje wtyczki protokołów z folderu &lt;folder&gt;.</translation>
     </message>
     <message>
-        <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation>Konta kilku protokołów komunikatorów internetowych w jednym miejscu.</translation>
+        <source>Accounts of several instant-messaging protocols in one place.
+&quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
+        <translation>Konta kilku protokołów komunikatorów internetowych w jednym miejscu.
+Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wyłączać, eksportować i importować konta bez otwierania okien.</translation>
     </message>
 </context>
 <context>
@@ -1438,6 +1926,86 @@
     <message>
         <source>None is stored</source>
         <translation>Nie zapisano hasła</translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message>
+        <source>Export Accounts</source>
+        <translation>Eksport kont</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>Include &amp;passwords (encrypted)</source>
+        <translation>Dołącz &amp;hasła (zaszyfrowane)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Wynik</translation>
+    </message>
+    <message>
+        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <translation>Kilka niezwiązanych ze sobą słów łatwo zapamiętać, a trudno odgadnąć. Kto ma plik i odgadnie frazę szyfrującą, pozna Twoje hasła; bez niej nikt ich nie odczyta, nawet Ty.</translation>
+    </message>
+    <message>
+        <source>Pass p&amp;hrase:</source>
+        <translation>&amp;Fraza szyfrująca:</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat it:</source>
+        <translation>&amp;Powtórz frazę:</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Eksportuj…</translation>
+    </message>
+    <message>
+        <source>Choose the file to which the accounts are written.</source>
+        <translation>Wybierz plik, w którym zostaną zapisane konta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znak.</numerusform>
+            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znaki.</numerusform>
+            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znaków.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase and its repetition must be the same.</source>
+        <translation>Fraza szyfrująca i jej powtórzenie muszą być takie same.</translation>
+    </message>
+    <message>
+        <source>Exported accounts (*.json)</source>
+        <translation>Wyeksportowane konta (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>The export was cancelled; nothing was written.</source>
+        <translation>Eksport został anulowany; niczego nie zapisano.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>Wyeksportowano %n konto do pliku %1.</numerusform>
+            <numerusform>Wyeksportowano %n konta do pliku %1.</numerusform>
+            <numerusform>Wyeksportowano %n kont do pliku %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No passwords are in the file.</source>
+        <translation>W pliku nie ma haseł.</translation>
+    </message>
+    <message>
+        <source>These are not in the file:</source>
+        <translation>W pliku nie ma:</translation>
     </message>
 </context>
 <context>
@@ -1778,6 +2346,162 @@
     <message>
         <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
         <translation>Kopie profilu, bez haseł; gdy profil jest uszkodzony, można przywrócić jedną z nich:</translation>
+    </message>
+    <message>
+        <source>&amp;Export Accounts…</source>
+        <translation>&amp;Eksportuj konta…</translation>
+    </message>
+    <message>
+        <source>Writes accounts to a file that can be imported on another computer.</source>
+        <translation>Zapisuje konta w pliku, który można zaimportować na innym komputerze.</translation>
+    </message>
+    <message>
+        <source>&amp;Import Accounts…</source>
+        <translation>&amp;Importuj konta…</translation>
+    </message>
+    <message>
+        <source>Takes accounts over from such a file, or from Pidgin.</source>
+        <translation>Przejmuje konta z takiego pliku lub z programu Pidgin.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message>
+        <source>Import Accounts</source>
+        <translation>Import kont</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>About the file</source>
+        <translation>Informacje o pliku</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Co się stanie</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Pominięte</translation>
+    </message>
+    <message>
+        <source>&amp;Pass phrase:</source>
+        <translation>&amp;Fraza szyfrująca:</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;File…</source>
+        <translation>&amp;Wybierz inny plik…</translation>
+    </message>
+    <message>
+        <source>&amp;Without Passwords</source>
+        <translation>&amp;Bez haseł</translation>
+    </message>
+    <message>
+        <source>Lists the accounts; their passwords have to be entered here.</source>
+        <translation>Wyświetla listę kont; ich hasła trzeba będzie wprowadzić tutaj.</translation>
+    </message>
+    <message>
+        <source>Exported accounts, accounts of Pidgin (*.json *.xml)</source>
+        <translation>Wyeksportowane konta, konta programu Pidgin (*.json *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read…</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Odczytywanie pliku %1…</translation>
+    </message>
+    <message>
+        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Plik %1 zawiera hasła. Wprowadź frazę szyfrującą, którą są zaszyfrowane.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file %1 cannot be imported.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Nie można zaimportować kont z pliku %1.</translation>
+    </message>
+    <message>
+        <source>There are no accounts that can be imported in the file %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>W pliku %1 nie ma kont, które można zaimportować.</translation>
+    </message>
+    <message>
+        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <translation>W pliku %1 są następujące konta. Dopóki ich nie zaimportujesz, nic się nie zmieni, a import można cofnąć.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>Kon&amp;tynuuj</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Importuj %n konto</numerusform>
+            <numerusform>&amp;Importuj %n konta</numerusform>
+            <numerusform>&amp;Importuj %n kont</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nowe</translation>
+    </message>
+    <message>
+        <source>New, is left out</source>
+        <translation>Nowe, zostanie pominięte</translation>
+    </message>
+    <message>
+        <source>Exists here, is replaced</source>
+        <translation>Już istnieje, zostanie zastąpione</translation>
+    </message>
+    <message>
+        <source>Exists here, is kept</source>
+        <translation>Już istnieje, pozostanie bez zmian</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is replaced</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Już istnieje jako %1, zostanie zastąpione</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is kept</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Już istnieje jako %1, pozostanie bez zmian</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = the login of an account, %2 = a sentence about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These are not imported:</source>
+        <translation>Nie zostaną zaimportowane:</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceCommands</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>Program, który działa z tym profilem, nie zna tego polecenia.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceMessage</name>
+    <message>
+        <source>The other program said something that is not understood.</source>
+        <translation>Drugi program przysłał niezrozumiałą odpowiedź.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile has another version. Quit it, and try again.</source>
+        <translation>Program, który działa z tym profilem, ma inną wersję. Zakończ go i spróbuj ponownie.</translation>
     </message>
 </context>
 <context>
@@ -2178,6 +2902,17 @@
     </message>
 </context>
 <context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvLengthLimit</name>
     <message>
         <source>The text is too long here. At most %1 characters are kept.</source>
@@ -2343,10 +3078,106 @@
     </message>
 </context>
 <context>
+    <name>KirvMovedFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>Nie można odczytać pliku „%1”: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <translation>Plik „%1” jest za duży jak na plik z kontami.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <translation>„%1” nie jest plikiem, który można zastąpić.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <translation>Plik „%1” już istnieje. Aby go zastąpić, użyj opcji --force.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Nie można zapisać pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Nie można zapisać na standardowym wyjściu.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMovingFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 nie jest zwykłym plikiem.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Nie można odczytać pliku %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a link to another file. Choose another name.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 to dowiązanie do innego pliku. Wybierz inną nazwę.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than %L2 MB, so it is not read.</source>
+        <extracomment>%1 = path of a file, %L2 = a number</extracomment>
+        <translation>Plik %1 jest większy niż %L2 MB, dlatego nie zostanie odczytany.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Nie można zapisać pliku %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvNgircdServer</name>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>Nie udało się przekazać serwerowi jego plików.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhraseInput</name>
+    <message>
+        <source>file descriptor %1</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>deskryptor pliku %1</translation>
+    </message>
+    <message>
+        <source>The pass phrase cannot be read from %1.</source>
+        <translation>Nie można odczytać frazy szyfrującej (%1).</translation>
+    </message>
+    <message>
+        <source>The pass phrase in %1 is too long.</source>
+        <translation>Fraza szyfrująca jest za długa (%1).</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in %1.</source>
+        <translation>Brak frazy szyfrującej (%1).</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <translation>Potrzebna jest fraza szyfrująca, a nie ma terminala, na którym można ją wpisać. Podaj ją za pomocą opcji --pass-phrase-file lub --pass-phrase-fd.</translation>
+    </message>
+    <message>
+        <source>Pass phrase of the file: </source>
+        <translation>Fraza szyfrująca pliku: </translation>
+    </message>
+    <message>
+        <source>No pass phrase was typed.</source>
+        <translation>Nie wpisano frazy szyfrującej.</translation>
+    </message>
+    <message>
+        <source>The same again: </source>
+        <translation>Powtórz frazę: </translation>
+    </message>
+    <message>
+        <source>The pass phrase was not typed twice in the same way.</source>
+        <translation>Wpisane frazy szyfrujące różnią się od siebie.</translation>
     </message>
 </context>
 <context>
@@ -2391,6 +3222,132 @@
     <message>
         <source>The password is not remembered, so it is needed when the account logs in.</source>
         <translation>Hasło nie jest zapamiętywane, dlatego jest potrzebne podczas logowania konta.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message>
+        <source>The account &quot;%1&quot; was left out: the protocol %2 is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>Pominięto konto „%1”: protokół %2 nie jest obsługiwany.</translation>
+    </message>
+    <message>
+        <source>An account was left out: it has no login.</source>
+        <translation>Pominięto jedno konto: nie ma loginu.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out: it is not in the file.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>Pominięto obraz konta „%1”: nie ma go w pliku.</translation>
+    </message>
+    <message>
+        <source>The resource of the account &quot;%1&quot; was left out: it has the name of the computer in it, or characters that mean something else here.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>Pominięto zasób konta „%1”: zawiera nazwę komputera lub znaki, które tutaj znaczą coś innego.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: what the file says of it is not known.</source>
+        <translation>Konto „%1” wymaga teraz szyfrowania: ustawienie szyfrowania podane w pliku nie jest znane.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; does not send its password without encryption any more.</source>
+        <translation>Konto „%1” nie wysyła już hasła bez szyfrowania.</translation>
+    </message>
+    <message>
+        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <translation>Pominięto serwer konta „%1”: nie jest to nazwa ani adres serwera.</translation>
+    </message>
+    <message>
+        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <translation>Pominięto port konta „%1”: nie jest to liczba od 1 do 65535.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; has no server. Enter one before it is used.</source>
+        <translation>Konto „%1” nie ma serwera. Wprowadź serwer, zanim zaczniesz używać tego konta.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; uses UTF-8 instead of the encoding %2, which is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a character encoding</extracomment>
+        <translation>Konto „%1” używa UTF-8 zamiast kodowania %2, które nie jest obsługiwane.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: otherwise its password would be sent without it.</source>
+        <translation>Konto „%1” wymaga teraz szyfrowania: w przeciwnym razie jego hasło byłoby wysyłane bez szyfrowania.</translation>
+    </message>
+    <message>
+        <source>Its kind is not supported.</source>
+        <translation>Jego rodzaj nie jest obsługiwany.</translation>
+    </message>
+    <message>
+        <source>The proxy of the account &quot;%1&quot; was left out. %2 The account is disabled, so that it does not connect without the proxy.</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>Pominięto serwer proxy konta „%1”. %2 Konto jest wyłączone, aby nie łączyło się bez serwera proxy.</translation>
+    </message>
+    <message>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
+        <translation>Pominięto ustawienia konta „%1”, ponieważ nie mają tu odpowiedników: %2.</translation>
+    </message>
+    <message>
+        <source>The file is no text.</source>
+        <translation>Plik nie jest plikiem tekstowym.</translation>
+    </message>
+    <message>
+        <source>A text in the file is too long.</source>
+        <translation>Jeden z tekstów w pliku jest za długi.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or no XML (line %1: %2).</source>
+        <extracomment>%1 = number of a line, %2 = what is wrong there</extracomment>
+        <translation>Plik jest uszkodzony lub nie jest plikiem XML (wiersz %1: %2).</translation>
+    </message>
+    <message>
+        <source>The file is not encoded as UTF-8.</source>
+        <translation>Plik nie jest zakodowany w UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file declares a document type or uses entities, which no file of Pidgin does.</source>
+        <translation>Plik deklaruje typ dokumentu lub używa encji, czego nie robi żaden plik programu Pidgin.</translation>
+    </message>
+    <message>
+        <source>The elements of the file are nested too deeply, or have too many attributes.</source>
+        <translation>Elementy pliku są zagnieżdżone zbyt głęboko lub mają za dużo atrybutów.</translation>
+    </message>
+    <message>
+        <source>There are elements in the file where a text is expected (line %1).</source>
+        <translation>W miejscu, w którym powinien być tekst, plik zawiera elementy (wiersz %1).</translation>
+    </message>
+    <message>
+        <source>Something follows the accounts in the file.</source>
+        <translation>Po kontach w pliku jest coś jeszcze.</translation>
+    </message>
+    <message>
+        <source>An account in the file has too many settings.</source>
+        <translation>Jedno z kont w pliku ma za dużo ustawień.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>Plik jest za duży.</translation>
+    </message>
+    <message>
+        <source>The file does not hold accounts of Pidgin.</source>
+        <translation>Plik nie zawiera kont programu Pidgin.</translation>
+    </message>
+    <message>
+        <source>The file is of another version of Pidgin, which is not known.</source>
+        <translation>Plik pochodzi z innej, nieznanej wersji programu Pidgin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>Plik zawiera więcej niż %n konto.</numerusform>
+            <numerusform>Plik zawiera więcej niż %n konta.</numerusform>
+            <numerusform>Plik zawiera więcej niż %n kont.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>If Pidgin uses a proxy for all accounts, it is not in this file. Set it for the accounts before they log in.</source>
+        <translation>Jeśli Pidgin używa serwera proxy dla wszystkich kont, nie ma go w tym pliku. Ustaw go dla kont, zanim się zalogują.</translation>
     </message>
 </context>
 <context>
@@ -3116,6 +4073,13 @@
     </message>
 </context>
 <context>
+    <name>KirvRunningInstance</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>Program, który działa z tym profilem, nie zna tego polecenia.</translation>
+    </message>
+</context>
+<context>
     <name>KirvSecretTexts</name>
     <message>
         <source>in a file only you can read</source>
@@ -3513,6 +4477,17 @@
     <message>
         <source>Kirv – Settings – %1</source>
         <translation>Kirv – Ustawienia – %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSortingHint</name>
+    <message>
+        <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>
+        <translation>Lista jest posortowana według kolumny. Konta można przesuwać tylko we własnej kolejności.</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Własna &amp;kolejność</translation>
     </message>
 </context>
 <context>

@@ -263,6 +263,30 @@
     </message>
 </context>
 <context>
+    <name>KirvAccountCheckList</name>
+    <message>
+        <source>&amp;All accounts</source>
+        <translation>&amp;Todas as contas</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Contas</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Conta</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocolo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>an account; %1 = its alias, %2 = its login</extracomment>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>KirvAccountCollection</name>
     <message>
         <source>The accounts &quot;%1&quot; and &quot;%2&quot; (%3) are the same to the server. Both are kept; remove the one that is not needed.</source>
@@ -292,6 +316,14 @@
     <message>
         <source>The account &quot;%1&quot; could not be created: the protocol %2 is not loaded.</source>
         <translation>Não foi possível criar a conta “%1”: o protocolo %2 não está carregado.</translation>
+    </message>
+    <message>
+        <source>The pictures of the accounts could not be written into a temporary file.</source>
+        <translation>Não foi possível gravar as imagens das contas em um arquivo temporário.</translation>
+    </message>
+    <message>
+        <source>There is no account &quot;%1&quot; (%2) any more.</source>
+        <translation>A conta “%1” (%2) não existe mais.</translation>
     </message>
 </context>
 <context>
@@ -379,7 +411,7 @@
     </message>
     <message>
         <source>Show &amp;Certificate…</source>
-        <translation>E&amp;xibir certificado…</translation>
+        <translation>Exi&amp;bir certificado…</translation>
     </message>
     <message>
         <source>&amp;Test Log-In</source>
@@ -389,12 +421,127 @@
         <source>L&amp;og</source>
         <translation>&amp;Log</translation>
     </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>E&amp;xportar %n conta…</numerusform>
+            <numerusform>E&amp;xportar %n contas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
         <translation>A conexão terminou antes que o servidor respondesse.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountExport</name>
+    <message>
+        <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>A senha da conta “%1” (%2) foi omitida: ela está no chaveiro e não pôde ser lida.</translation>
+    </message>
+    <message>
+        <source>Secret settings of the account &quot;%1&quot; (%2) are left out: they are in the keyring and could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>Configurações secretas da conta “%1” (%2) foram omitidas: elas estão no chaveiro e não puderam ser lidas.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>A conta “%1” (%2) foi omitida: ela tem textos ou uma imagem que não podem ser exportados.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
+        <translation>A imagem da conta “%1” (%2) foi omitida: ela não pôde ser lida.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountFile</name>
+    <message>
+        <source>The file is damaged, or it is not a file of exported accounts.</source>
+        <translation>O arquivo está danificado ou não é um arquivo de contas exportadas.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <translation>As senhas do arquivo estão danificadas, portanto nada dele é importado.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Up to %1 MB are possible.</source>
+        <translation>O arquivo é grande demais. São possíveis até %1 MB.</translation>
+    </message>
+    <message>
+        <source>The file was made by a newer version of the program. This one cannot read it.</source>
+        <translation>O arquivo foi criado por uma versão mais recente do programa. Esta versão não pode lê-lo.</translation>
+    </message>
+    <message>
+        <source>The file has too many accounts. Up to %1 are possible.</source>
+        <translation>O arquivo tem contas demais. São possíveis até %1.</translation>
+    </message>
+    <message>
+        <source>Account %1 in the file is damaged: &quot;%2&quot; cannot be used.</source>
+        <extracomment>%1 = number of an account in a file, %2 = name of a value that is stored there</extracomment>
+        <translation>A conta %1 do arquivo está danificada: “%2” não pode ser usado.</translation>
+    </message>
+    <message>
+        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>A conta “%1” (%2) está duas vezes no arquivo.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) in the file is too large.</source>
+        <translation>A imagem da conta “%1” (%2) contida no arquivo é grande demais.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it is of a kind that cannot be used.</source>
+        <translation>A imagem da conta “%1” (%2) foi omitida: ela é de um tipo que não pode ser usado.</translation>
+    </message>
+    <message>
+        <source>The file is damaged: its main account is not in it.</source>
+        <translation>O arquivo está danificado: ele não contém a sua conta principal.</translation>
+    </message>
+    <message>
+        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <translation>O arquivo não tem senhas, portanto não há nada que a frase secreta abra. Se ele deveria ter senhas, alguém o alterou.</translation>
+    </message>
+    <message>
+        <source>The passwords in the file are left out, as they need its pass phrase.</source>
+        <translation>As senhas do arquivo foram omitidas, pois precisam da frase secreta dele.</translation>
+    </message>
+    <message>
+        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <translation>Abrir as senhas do arquivo exige mais memória ou tempo do que o permitido, portanto nada dele é importado.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the passwords in the file.</source>
+        <translation>Não há memória suficiente para abrir as senhas do arquivo.</translation>
+    </message>
+    <message>
+        <source>The pass phrase does not open the passwords in the file.</source>
+        <translation>A frase secreta não abre as senhas do arquivo.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <translation>As contas do arquivo foram alteradas depois que ele foi gravado. Elas não correspondem mais às senhas dele, portanto nada dele é importado.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
+        <translation>A conta “%1” (%2) tem textos ou uma imagem que não podem ser exportados.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to encrypt the passwords.</source>
+        <translation>Não há memória suficiente para criptografar as senhas.</translation>
+    </message>
+    <message>
+        <source>The file would have more than %1 MB or %2 accounts. Export fewer accounts at once.</source>
+        <translation>O arquivo teria mais de %1 MB ou de %2 contas. Exporte menos contas de uma vez.</translation>
     </message>
 </context>
 <context>
@@ -444,6 +591,42 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>A conta “%1” não pode ser reativada: ela foi removida.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>A conta “%1” não pode voltar a ser como era antes da importação: ela foi removida.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountImport</name>
+    <message>
+        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
+        <translation>O arquivo tem este nome de usuário duas vezes: para o servidor, “%1” é o mesmo que “%2”.</translation>
+    </message>
+    <message>
+        <source>The account has no login.</source>
+        <translation>A conta não tem nome de usuário.</translation>
+    </message>
+    <message>
+        <source>The protocol %1 is not loaded.</source>
+        <extracomment>%1 = name of a protocol</extracomment>
+        <translation>O protocolo %1 não está carregado.</translation>
+    </message>
+    <message>
+        <source>Another account with this login was added or removed since.</source>
+        <translation>Nesse meio-tempo, outra conta com este nome de usuário foi adicionada ou removida.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>A conta “%1” não pode ser importada. %2</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out. %2</source>
+        <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
+        <translation>A imagem da conta “%1” foi omitida. %2</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountInvitation</name>
@@ -460,16 +643,36 @@
         <translation>Criar uma nova conta em um servidor</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, or register a new one.</source>
-        <translation>Ainda não há nenhuma conta. Adicione uma que você já tem ou registre uma nova.</translation>
-    </message>
-    <message>
         <source>Add an account that you already have</source>
         <translation>Adicionar uma conta que você já tem</translation>
     </message>
     <message>
         <source>No protocol is loaded. Load one on the Plug-ins page.</source>
         <translation>Nenhum protocolo está carregado. Carregue um na página “Plug-ins”.</translation>
+    </message>
+    <message>
+        <source>Take accounts over from a file</source>
+        <translation>Importar contas de um arquivo</translation>
+    </message>
+    <message>
+        <source>Take the accounts of Pidgin over; its own file is only read</source>
+        <translation>Importar as contas do Pidgin; o arquivo dele é apenas lido</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts from a file.</source>
+        <translation>Ainda não há nenhuma conta. Adicione uma que você já tem, registre uma nova ou importe contas de um arquivo.</translation>
+    </message>
+    <message>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <translation>Ainda não há nenhuma conta. Adicione uma que você já tem, registre uma nova ou importe contas. O Pidgin tem contas neste computador.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Import from Pidgin…</source>
+        <translation>Importar do Pidgin…</translation>
     </message>
 </context>
 <context>
@@ -551,6 +754,18 @@
         <source>%1  %2</source>
         <extracomment>%1 = time of day, %2 = an event</extracomment>
         <translation>%1  %2</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountNames</name>
+    <message>
+        <source>There is no account &quot;%1&quot;.</source>
+        <translation>Não há nenhuma conta “%1”.</translation>
+    </message>
+    <message>
+        <source>Several accounts are called &quot;%1&quot;. Name one of them with its protocol: %2</source>
+        <extracomment>%1 = what was typed, %2 = names that could be meant</extracomment>
+        <translation>Várias contas se chamam “%1”. Indique uma delas com o protocolo: %2</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1108,7 @@
     </message>
     <message>
         <source>&amp;Undo Disabling %1</source>
+        <extracomment>%1 = name of an account</extracomment>
         <translation>Des&amp;fazer a desativação de %1</translation>
     </message>
     <message>
@@ -920,7 +1136,179 @@
     </message>
     <message>
         <source>The account %1 (%2) was disabled.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
         <translation>A conta %1 (%2) foi desativada.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Importing %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Des&amp;fazer a importação de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo Importing %n Accounts</source>
+        <translation>
+            <numerusform>Des&amp;fazer a importação de %n conta</numerusform>
+            <numerusform>Des&amp;fazer a importação de %n contas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account %1 (%2) was imported.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>A conta %1 (%2) foi importada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were imported.</source>
+        <translation>
+            <numerusform>%n conta foi importada.</numerusform>
+            <numerusform>%n contas foram importadas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsCommand</name>
+    <message>
+        <source>The profile in &quot;%1&quot; is open in another program, which does not take commands.</source>
+        <translation>O perfil em “%1” está aberto em outro programa, que não aceita comandos.</translation>
+    </message>
+    <message>
+        <source>There is no profile in &quot;%1&quot; yet.</source>
+        <translation>Ainda não há nenhum perfil em “%1”.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not respond.</source>
+        <translation>O programa que está em execução com este perfil não responde.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsMoving</name>
+    <message>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Senhas da conta “%1” foram omitidas: o chaveiro está bloqueado.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed.</source>
+        <translation>É necessária uma frase secreta.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsOptions</name>
+    <message>
+        <source>Print one line of JSON.</source>
+        <translation>Mostrar uma linha de JSON.</translation>
+    </message>
+    <message>
+        <source>Export: put passwords into the file, encrypted with a pass phrase.</source>
+        <translation>Exportar: incluir no arquivo as senhas, criptografadas com uma frase secreta.</translation>
+    </message>
+    <message>
+        <source>Export: overwrite a file that is there.</source>
+        <translation>Exportar: sobrescrever o arquivo se ele já existir.</translation>
+    </message>
+    <message>
+        <source>Import: leave the passwords out that are in the file.</source>
+        <translation>Importar: omitir as senhas que estiverem no arquivo.</translation>
+    </message>
+    <message>
+        <source>Import: replace accounts that exist by those of the file.</source>
+        <translation>Importar: substituir as contas existentes pelas do arquivo.</translation>
+    </message>
+    <message>
+        <source>Import: say what would be done, and change nothing.</source>
+        <translation>Importar: dizer o que seria feito, sem alterar nada.</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line of &lt;file&gt;.</source>
+        <translation>Exportar e importar: a frase secreta é a primeira linha de &lt;arquivo&gt;.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>arquivo</translation>
+    </message>
+    <message>
+        <source>Export and import: the pass phrase is the first line that can be read from the file descriptor &lt;number&gt;.</source>
+        <translation>Exportar e importar: a frase secreta é a primeira linha que puder ser lida do descritor de arquivo &lt;número&gt;.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>Lists, enables, disables, exports and imports accounts.
+An account is named PROTOCOL:ID, or by its id when no other account has the same.
+
+  accounts list [account…]
+  accounts enable account…
+  accounts disable account…
+  accounts export file [account…]
+  accounts import file
+
+A file is called - where the standard output or input is meant.</source>
+        <translation>Lista, ativa, desativa, exporta e importa contas.
+Uma conta é indicada como PROTOCOLO:ID, ou pelo seu ID quando nenhuma outra conta tem o mesmo.
+
+  accounts list [conta…]
+  accounts enable conta…
+  accounts disable conta…
+  accounts export arquivo [conta…]
+  accounts import arquivo
+
+Como arquivo, - significa a saída ou a entrada padrão.</translation>
+    </message>
+    <message>
+        <source>list, enable, disable, export or import.</source>
+        <translation>list, enable, disable, export ou import.</translation>
+    </message>
+    <message>
+        <source>A file or an account.</source>
+        <translation>Um arquivo ou uma conta.</translation>
+    </message>
+    <message>
+        <source>[argument…]</source>
+        <translation>[argumento…]</translation>
+    </message>
+    <message>
+        <source>The command is missing: list, enable, disable, export or import.</source>
+        <translation>Falta o comando: list, enable, disable, export ou import.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is not known: it can be list, enable, disable, export or import.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>O comando “%1” não é conhecido: ele pode ser list, enable, disable, export ou import.</translation>
+    </message>
+    <message>
+        <source>The option --%1 does not belong to the command &quot;%2&quot;.</source>
+        <extracomment>%1 = name of an option, %2 = name of a command</extracomment>
+        <translation>A opção --%1 não pertence ao comando “%2”.</translation>
+    </message>
+    <message>
+        <source>The file is missing.</source>
+        <translation>Falta o arquivo.</translation>
+    </message>
+    <message>
+        <source>The argument &quot;%1&quot; is not known.</source>
+        <extracomment>%1 = a word of the command line</extracomment>
+        <translation>O argumento “%1” não é conhecido.</translation>
+    </message>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Falta a conta.</translation>
+    </message>
+    <message>
+        <source>The option --json cannot be used when the file goes to the standard output.</source>
+        <translation>A opção --json não pode ser usada quando o arquivo vai para a saída padrão.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <translation>Uma frase secreta não tem utilidade quando nenhuma senha é incluída.</translation>
+    </message>
+    <message>
+        <source>The file with the pass phrase is missing.</source>
+        <translation>Falta o arquivo com a frase secreta.</translation>
+    </message>
+    <message>
+        <source>The option --pass-phrase-fd needs the number of a file descriptor.</source>
+        <translation>A opção --pass-phrase-fd precisa do número de um descritor de arquivo.</translation>
     </message>
 </context>
 <context>
@@ -928,6 +1316,101 @@
     <message>
         <source>The plug-in of the protocol %1 is not loaded. Load it on the Plug-ins page.</source>
         <translation>O plug-in do protocolo %1 não está carregado. Carregue-o na página “Plug-ins”.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsService</name>
+    <message>
+        <source>The account is missing.</source>
+        <translation>Falta a conta.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvAccountsText</name>
+    <message>
+        <source>There are no accounts.</source>
+        <translation>Não há contas.</translation>
+    </message>
+    <message>
+        <source>Protocol</source>
+        <translation>Protocolo</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Apelido</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Ativada</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Principal</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sim</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>não</translation>
+    </message>
+    <message>
+        <source>%1 is enabled now.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>A conta %1 está ativada agora.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled now.</source>
+        <translation>A conta %1 está desativada agora.</translation>
+    </message>
+    <message>
+        <source>%1 was enabled already.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>A conta %1 já estava ativada.</translation>
+    </message>
+    <message>
+        <source>%1 was disabled already.</source>
+        <translation>A conta %1 já estava desativada.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, with the passwords that are stored.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Contas exportadas: %1, com as senhas armazenadas.</translation>
+    </message>
+    <message>
+        <source>Accounts exported: %1, without passwords.</source>
+        <translation>Contas exportadas: %1, sem senhas.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nova</translation>
+    </message>
+    <message>
+        <source>replaces %1</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>substitui %1</translation>
+    </message>
+    <message>
+        <source>%1 is kept</source>
+        <translation>%1 é mantida</translation>
+    </message>
+    <message>
+        <source>Accounts that would be imported: %1. Nothing was changed.</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>Contas que seriam importadas: %1. Nada foi alterado.</translation>
+    </message>
+    <message>
+        <source>Accounts imported: %1.</source>
+        <translation>Contas importadas: %1.</translation>
     </message>
 </context>
 <context>
@@ -1250,8 +1733,10 @@
         <translation>Carregar os plug-ins de protocolo de &lt;pasta&gt;.</translation>
     </message>
     <message>
-        <source>Accounts of several instant-messaging protocols in one place.</source>
-        <translation>Contas de vários protocolos de mensagens instantâneas em um só lugar.</translation>
+        <source>Accounts of several instant-messaging protocols in one place.
+&quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
+        <translation>Contas de vários protocolos de mensagens instantâneas em um só lugar.
+“kirv accounts --help” explica como listar, ativar, desativar, exportar e importar contas sem janelas.</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1909,84 @@
     <message>
         <source>None is stored</source>
         <translation>Nenhuma está armazenada</translation>
+    </message>
+</context>
+<context>
+    <name>KirvExportWindow</name>
+    <message>
+        <source>Export Accounts</source>
+        <translation>Exportar contas</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>Include &amp;passwords (encrypted)</source>
+        <translation>&amp;Incluir senhas (criptografadas)</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <translation>Várias palavras sem relação entre si são fáceis de lembrar e difíceis de adivinhar. Quem tiver o arquivo e adivinhar a frase secreta terá as suas senhas; sem ela ninguém pode lê-las, nem mesmo você.</translation>
+    </message>
+    <message>
+        <source>Pass p&amp;hrase:</source>
+        <translation>Fra&amp;se secreta:</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat it:</source>
+        <translation>&amp;Repetir a frase:</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
+    </message>
+    <message>
+        <source>Choose the file to which the accounts are written.</source>
+        <translation>Escolher o arquivo em que as contas são gravadas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>A frase secreta precisa de pelo menos %n caractere.</numerusform>
+            <numerusform>A frase secreta precisa de pelo menos %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase and its repetition must be the same.</source>
+        <translation>A frase secreta e a sua repetição devem ser iguais.</translation>
+    </message>
+    <message>
+        <source>Exported accounts (*.json)</source>
+        <translation>Contas exportadas (*.json)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>The export was cancelled; nothing was written.</source>
+        <translation>A exportação foi cancelada; nada foi gravado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n accounts were exported to %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>
+            <numerusform>%n conta foi exportada para %1.</numerusform>
+            <numerusform>%n contas foram exportadas para %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No passwords are in the file.</source>
+        <translation>O arquivo não contém senhas.</translation>
+    </message>
+    <message>
+        <source>These are not in the file:</source>
+        <translation>O seguinte não está no arquivo:</translation>
     </message>
 </context>
 <context>
@@ -1764,6 +2327,161 @@
     <message>
         <source>Copies of the profile, without passwords; one can be restored when the profile is damaged:</source>
         <translation>Cópias do perfil, sem senhas; uma delas pode ser restaurada se o perfil estiver danificado:</translation>
+    </message>
+    <message>
+        <source>&amp;Export Accounts…</source>
+        <translation>&amp;Exportar contas…</translation>
+    </message>
+    <message>
+        <source>Writes accounts to a file that can be imported on another computer.</source>
+        <translation>Grava contas em um arquivo que pode ser importado em outro computador.</translation>
+    </message>
+    <message>
+        <source>&amp;Import Accounts…</source>
+        <translation>I&amp;mportar contas…</translation>
+    </message>
+    <message>
+        <source>Takes accounts over from such a file, or from Pidgin.</source>
+        <translation>Importa contas de um arquivo desse tipo ou do Pidgin.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvImportWindow</name>
+    <message>
+        <source>Import Accounts</source>
+        <translation>Importar contas</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>About the file</source>
+        <translation>Sobre o arquivo</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>O que acontece</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>&amp;Pass phrase:</source>
+        <translation>Fra&amp;se secreta:</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;File…</source>
+        <translation>Escolher &amp;outro arquivo…</translation>
+    </message>
+    <message>
+        <source>&amp;Without Passwords</source>
+        <translation>S&amp;em senhas</translation>
+    </message>
+    <message>
+        <source>Lists the accounts; their passwords have to be entered here.</source>
+        <translation>Lista as contas; as senhas delas precisam ser digitadas aqui.</translation>
+    </message>
+    <message>
+        <source>Exported accounts, accounts of Pidgin (*.json *.xml)</source>
+        <translation>Contas exportadas, contas do Pidgin (*.json *.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read…</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Lendo o arquivo %1…</translation>
+    </message>
+    <message>
+        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>O arquivo %1 contém senhas. Digite a frase secreta com a qual elas estão criptografadas.</translation>
+    </message>
+    <message>
+        <source>The accounts in the file %1 cannot be imported.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>As contas do arquivo %1 não podem ser importadas.</translation>
+    </message>
+    <message>
+        <source>There are no accounts that can be imported in the file %1.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>Não há contas que possam ser importadas no arquivo %1.</translation>
+    </message>
+    <message>
+        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <translation>Estas contas estão no arquivo %1. Nada é alterado antes que você as importe, e a importação pode ser desfeita.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuar</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Import %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Importar %n conta</numerusform>
+            <numerusform>&amp;Importar %n contas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nova</translation>
+    </message>
+    <message>
+        <source>New, is left out</source>
+        <translation>Nova, será omitida</translation>
+    </message>
+    <message>
+        <source>Exists here, is replaced</source>
+        <translation>Existe aqui, será substituída</translation>
+    </message>
+    <message>
+        <source>Exists here, is kept</source>
+        <translation>Existe aqui, será mantida</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is replaced</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe aqui como %1, será substituída</translation>
+    </message>
+    <message>
+        <source>Exists here as %1, is kept</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe aqui como %1, será mantida</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 = the login of an account, %2 = a sentence about it</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>These are not imported:</source>
+        <translation>O seguinte não é importado:</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceCommands</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>O programa que está em execução com este perfil não conhece esse comando.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvInstanceMessage</name>
+    <message>
+        <source>The other program said something that is not understood.</source>
+        <translation>O outro programa respondeu algo que não foi compreendido.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile has another version. Quit it, and try again.</source>
+        <translation>O programa que está em execução com este perfil tem outra versão. Saia dele e tente novamente.</translation>
     </message>
 </context>
 <context>
@@ -2164,6 +2882,16 @@
     </message>
 </context>
 <context>
+    <name>KirvLeftOut</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>KirvLengthLimit</name>
     <message>
         <source>The text is too long here. At most %1 characters are kept.</source>
@@ -2329,10 +3057,106 @@
     </message>
 </context>
 <context>
+    <name>KirvMovedFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>O arquivo “%1” não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <translation>O arquivo “%1” é grande demais para ser um arquivo de contas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <translation>“%1” não é um arquivo que possa ser sobrescrito.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <translation>O arquivo “%1” já existe. Com --force, ele é sobrescrito.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Não é possível gravar o arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Não é possível gravar na saída padrão.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMovingFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 não é um arquivo comum.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be read: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>O arquivo %1 não pode ser lido: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is a link to another file. Choose another name.</source>
+        <extracomment>%1 = path of a file</extracomment>
+        <translation>%1 é um link para outro arquivo. Escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than %L2 MB, so it is not read.</source>
+        <extracomment>%1 = path of a file, %L2 = a number</extracomment>
+        <translation>O arquivo %1 tem mais de %L2 MB, portanto não é lido.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: %2.</source>
+        <extracomment>%1 = path of a file, %2 = the system&apos;s reason</extracomment>
+        <translation>Não é possível gravar o arquivo %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>KirvNgircdServer</name>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>Não foi possível transferir ao servidor a propriedade dos arquivos dele.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhraseInput</name>
+    <message>
+        <source>file descriptor %1</source>
+        <extracomment>%1 = number</extracomment>
+        <translation>descritor de arquivo %1</translation>
+    </message>
+    <message>
+        <source>The pass phrase cannot be read from %1.</source>
+        <translation>A frase secreta não pode ser lida de %1.</translation>
+    </message>
+    <message>
+        <source>The pass phrase in %1 is too long.</source>
+        <translation>A frase secreta em %1 é longa demais.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in %1.</source>
+        <translation>Não há nenhuma frase secreta em %1.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <translation>É necessária uma frase secreta, e não há nenhum terminal em que digitá-la. Informe-a com --pass-phrase-file ou --pass-phrase-fd.</translation>
+    </message>
+    <message>
+        <source>Pass phrase of the file: </source>
+        <translation>Frase secreta do arquivo: </translation>
+    </message>
+    <message>
+        <source>No pass phrase was typed.</source>
+        <translation>Nenhuma frase secreta foi digitada.</translation>
+    </message>
+    <message>
+        <source>The same again: </source>
+        <translation>A mesma novamente: </translation>
+    </message>
+    <message>
+        <source>The pass phrase was not typed twice in the same way.</source>
+        <translation>A frase secreta não foi digitada igual nas duas vezes.</translation>
     </message>
 </context>
 <context>
@@ -2377,6 +3201,131 @@
     <message>
         <source>The password is not remembered, so it is needed when the account logs in.</source>
         <translation>A senha não é lembrada, portanto é necessária quando a conta inicia a sessão.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPidginFile</name>
+    <message>
+        <source>The account &quot;%1&quot; was left out: the protocol %2 is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a protocol</extracomment>
+        <translation>A conta “%1” foi omitida: não há suporte para o protocolo %2.</translation>
+    </message>
+    <message>
+        <source>An account was left out: it has no login.</source>
+        <translation>Uma conta foi omitida: ela não tem nome de usuário.</translation>
+    </message>
+    <message>
+        <source>The picture of the account &quot;%1&quot; was left out: it is not in the file.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>A imagem da conta “%1” foi omitida: ela não está no arquivo.</translation>
+    </message>
+    <message>
+        <source>The resource of the account &quot;%1&quot; was left out: it has the name of the computer in it, or characters that mean something else here.</source>
+        <extracomment>%1 = login</extracomment>
+        <translation>O recurso da conta “%1” foi omitido: ele contém o nome do computador ou caracteres que têm outro significado aqui.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: what the file says of it is not known.</source>
+        <translation>A conta “%1” agora exige criptografia: o que o arquivo indica a respeito não é conhecido.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; does not send its password without encryption any more.</source>
+        <translation>A conta “%1” não envia mais a senha sem criptografia.</translation>
+    </message>
+    <message>
+        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <translation>O servidor da conta “%1” foi omitido: ele não é um nome nem um endereço de servidor.</translation>
+    </message>
+    <message>
+        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <translation>A porta da conta “%1” foi omitida: ela não é um número de 1 a 65535.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; has no server. Enter one before it is used.</source>
+        <translation>A conta “%1” não tem servidor. Digite um antes de usá-la.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; uses UTF-8 instead of the encoding %2, which is not supported.</source>
+        <extracomment>%1 = login, %2 = name of a character encoding</extracomment>
+        <translation>A conta “%1” usa UTF-8 em vez da codificação %2, para a qual não há suporte.</translation>
+    </message>
+    <message>
+        <source>The account &quot;%1&quot; now requires encryption: otherwise its password would be sent without it.</source>
+        <translation>A conta “%1” agora exige criptografia: caso contrário, a senha dela seria enviada sem criptografia.</translation>
+    </message>
+    <message>
+        <source>Its kind is not supported.</source>
+        <translation>Não há suporte para o tipo dele.</translation>
+    </message>
+    <message>
+        <source>The proxy of the account &quot;%1&quot; was left out. %2 The account is disabled, so that it does not connect without the proxy.</source>
+        <extracomment>%1 = login, %2 = a sentence</extracomment>
+        <translation>O proxy da conta “%1” foi omitido. %2 A conta está desativada, para que não se conecte sem o proxy.</translation>
+    </message>
+    <message>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
+        <translation>Configurações da conta “%1” foram omitidas, pois não há configurações equivalentes aqui: %2.</translation>
+    </message>
+    <message>
+        <source>The file is no text.</source>
+        <translation>O arquivo não é de texto.</translation>
+    </message>
+    <message>
+        <source>A text in the file is too long.</source>
+        <translation>Um texto do arquivo é longo demais.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or no XML (line %1: %2).</source>
+        <extracomment>%1 = number of a line, %2 = what is wrong there</extracomment>
+        <translation>O arquivo está danificado ou não é XML (linha %1: %2).</translation>
+    </message>
+    <message>
+        <source>The file is not encoded as UTF-8.</source>
+        <translation>O arquivo não está codificado em UTF-8.</translation>
+    </message>
+    <message>
+        <source>The file declares a document type or uses entities, which no file of Pidgin does.</source>
+        <translation>O arquivo declara um tipo de documento ou usa entidades, o que nenhum arquivo do Pidgin faz.</translation>
+    </message>
+    <message>
+        <source>The elements of the file are nested too deeply, or have too many attributes.</source>
+        <translation>Os elementos do arquivo estão aninhados em níveis demais ou têm atributos demais.</translation>
+    </message>
+    <message>
+        <source>There are elements in the file where a text is expected (line %1).</source>
+        <translation>Há elementos no arquivo onde se espera um texto (linha %1).</translation>
+    </message>
+    <message>
+        <source>Something follows the accounts in the file.</source>
+        <translation>Há algo mais depois das contas no arquivo.</translation>
+    </message>
+    <message>
+        <source>An account in the file has too many settings.</source>
+        <translation>Uma conta do arquivo tem configurações demais.</translation>
+    </message>
+    <message>
+        <source>The file is too large.</source>
+        <translation>O arquivo é grande demais.</translation>
+    </message>
+    <message>
+        <source>The file does not hold accounts of Pidgin.</source>
+        <translation>O arquivo não contém contas do Pidgin.</translation>
+    </message>
+    <message>
+        <source>The file is of another version of Pidgin, which is not known.</source>
+        <translation>O arquivo é de outra versão do Pidgin, que não é conhecida.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file has more than %n accounts.</source>
+        <translation>
+            <numerusform>O arquivo tem mais de %n conta.</numerusform>
+            <numerusform>O arquivo tem mais de %n contas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>If Pidgin uses a proxy for all accounts, it is not in this file. Set it for the accounts before they log in.</source>
+        <translation>Se o Pidgin usa um proxy para todas as contas, ele não está neste arquivo. Defina-o nas contas antes que elas iniciem a sessão.</translation>
     </message>
 </context>
 <context>
@@ -3099,6 +4048,13 @@
     </message>
 </context>
 <context>
+    <name>KirvRunningInstance</name>
+    <message>
+        <source>The program that runs with this profile does not know that command.</source>
+        <translation>O programa que está em execução com este perfil não conhece esse comando.</translation>
+    </message>
+</context>
+<context>
     <name>KirvSecretTexts</name>
     <message>
         <source>in a file only you can read</source>
@@ -3496,6 +4452,17 @@
     <message>
         <source>Kirv – Settings – %1</source>
         <translation>Kirv – Configurações – %1</translation>
+    </message>
+</context>
+<context>
+    <name>KirvSortingHint</name>
+    <message>
+        <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>
+        <translation>A lista está ordenada por uma coluna. As contas só podem ser movidas na ordem própria.</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Orde&amp;m própria</translation>
     </message>
 </context>
 <context>

@@ -39,8 +39,8 @@ bool KirvProfileRescue::begin(KirvProfileLock &lock)
 {
     error.clear();
     kept.clear();
-    const KirvProfileCheck inspect(paths);
-    KirvProfileState state = check.inspect();
+    const KirvProfileCheck inspection(paths);
+    KirvProfileState state = inspection.inspect();
     if (state.kind == KirvProfileState::New)
         return fail(tr("There is no profile in \"%1\".").arg(paths.nativeFolder()));
     if (state.kind != KirvProfileState::Good && state.kind != KirvProfileState::Damaged)

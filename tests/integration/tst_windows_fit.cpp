@@ -331,7 +331,7 @@ void tst_WindowsFit::windowFits()
     QFETCH(QString, window);
     QFETCH(QString, language);
     translations = std::make_unique<KirvTranslations>(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
-    translations->speak(language);
+    translations->use(language);
     KirvClientOptions options;
     options.profileFolder = folder->filePath(QStringLiteral("profile"));
     options.pluginFolder = QStringLiteral(KIRV_FITTED_PROTOCOLS);
