@@ -108,7 +108,8 @@ void KirvAccountCheckList::fitColumns()
     const int widest = widestColumn * list->fontMetrics().averageCharWidth();
     for (int column = protocolColumn; column < list->columnCount(); ++column) {
         list->resizeColumnToContents(column);
-        list->setColumnWidth(column, std::min(list->columnWidth(column), widest));
+        list->setColumnWidth(
+            column, std::max(std::min(list->columnWidth(column), widest), list->header()->sectionSizeHint(column)));
     }
 }
 

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLayout>
-#include <QResizeEvent>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -26,24 +25,21 @@ QLayout *layoutOf(QLayout *layout, QWidget *widget)
     return nullptr;
 }
 
-/// Claims the height of its text at the width that it has. The form layout of Qt 6 forgets height for width where rows
-/// may be wrapped.
+/// Takes the height that its text needs at the width that it has, where it was given less. The form layout of Qt 6
+/// forgets height for width where rows may be wrapped.
 class WrappedLine : public QLabel {
 public:
     using QLabel::QLabel;
-
-    QSize minimumSizeHint() const override
-    {
-        const QSize least = QLabel::minimumSizeHint();
-        return QSize(least.width(), qMax(least.height(), heightForWidth(width())));
-    }
 
 protected:
     void resizeEvent(QResizeEvent *event) override
     {
         QLabel::resizeEvent(event);
-        if (event->size().width() != event->oldSize().width())
-            updateGeometry();
+        const int needed = heightForWidth(width());
+        if (height() < needed)
+            setMinimumHeight(needed);
+        else if (minimumHeight() > needed) // in fewer lines
+            setMinimumHeight(0);
     }
 };
 

@@ -188,7 +188,7 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
         // A file, which anybody may have written, sends no password of this profile to another server.
-        if (openSettings(account.record) == openSettings(before.record)) {
+        if (openSettings(account.record) == openSettings(complete(before.record))) {
             keepSecrets(&account.record, before.record);
             account.record.trustedCertificate = before.record.trustedCertificate;
         }

@@ -193,7 +193,8 @@ QAbstractSocket *KirvIrcConnection::createTransport(QString *problem)
     connect(encrypted.get(), QOverload<const QList<QSslError> &>::of(&QSslSocket::sslErrors), this,
             [this, socket = encrypted.get()](const QList<QSslError> &errors) { checkCertificate(socket, errors); });
     connect(encrypted.get(), &QSslSocket::encrypted, this, [this, socket = encrypted.get()] {
-        if (!login().trustedCertificate.isEmpty())
+        const QByteArray trusted = login().trustedCertificate;
+        if (!trusted.isEmpty() && socket->peerCertificate().digest(QCryptographicHash::Sha256) != trusted)
             checkCertificate(socket, {});
     });
     return encrypted.release();

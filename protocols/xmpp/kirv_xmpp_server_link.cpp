@@ -98,8 +98,9 @@ void KirvXmppServerLink::guardStream()
         *stream, [this](const KirvXmppStanzaStart &start) { return isUsed(start); }, this);
     steps = new KirvSocketSteps(*stream->socket(), this);
     connect(steps, &KirvSocketSteps::step, this, &KirvXmppLink::step);
-    connect(stream->socket(), &QSslSocket::encrypted, this, [this] {
-        if (!trustedCertificate().isEmpty())
+    connect(stream->socket(), &QSslSocket::encrypted, this, [this, socket = stream->socket()] {
+        const QByteArray &trusted = trustedCertificate();
+        if (!trusted.isEmpty() && socket->peerCertificate().digest(QCryptographicHash::Sha256) != trusted)
             checkCertificate({});
     });
     connect(stream->socket(), &QAbstractSocket::connected, this, &KirvXmppLink::reached);

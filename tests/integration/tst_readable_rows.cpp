@@ -109,6 +109,7 @@ void tst_ReadableRows::rowCanBeRead()
     for (const char *id : { "ann", "bob", "cleo", "dan" }) {
         QTreeWidgetItem *row = windows.row(QLatin1String(id));
         windows.select(isSelected ? QLatin1String(id) : QLatin1String(qstrcmp(id, "ann") == 0 ? "bob" : "ann"));
+        list->scrollToItem(row);
         Windows::settle();
         QRect cell = list->visualItemRect(row);
         cell.setRight(list->columnViewportPosition(0) + list->columnWidth(0) - 1);

@@ -80,6 +80,7 @@ QList<KirvTextSurvey::Allowed> permissions()
         { at("^EditAccount_State text$"), "the line of the list" },
         { at("^EditAccount_State (toolTip|accessibleDescription)$"), "the presence is named as the protocol calls it" },
         { at("^KirvField_.*_Choose accessibleName$"), "the name of the setting stands in its sentence as it is shown" },
+        { at("^(Import|Export)Accounts_(LeftOut|Outcome) plainText$"), "a heading with a list of sentences" },
         { at("^AddAccount_Advanced(Summary text| accessibleDescription)$"), "a list of the names of settings" },
     };
 }

@@ -36,7 +36,7 @@ void tst_protocol_symbols::onlyTheMarkedClassesAreExported()
     const QRegularExpression typeOfTheContract(
         QStringLiteral("^(vtable|typeinfo|typeinfo name) for Kirv(Protocol|Presence|Field|Arg|AccountConnection)$"));
     const QRegularExpression function(
-        QStringLiteral("^kirv(CallPlugin|FindProxy|ProxyFailure|ProxyTimedOut|SingleLine|VisibleText)\\("));
+        QStringLiteral("^kirv(CallPlugin|FindProxy|LocalPath|ProxyFailure|ProxyTimedOut|SingleLine|VisibleText)\\("));
     for (const QString &symbol : symbolsOfOthers(symbols, markedClasses)) {
         if (!typeOfTheContract.match(symbol).hasMatch() && !function.match(symbol).hasMatch())
             others << symbol;
