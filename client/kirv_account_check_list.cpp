@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -106,11 +107,15 @@ void KirvAccountCheckList::makeCurrent(const KirvAccountKey &account)
 void KirvAccountCheckList::fitColumns()
 {
     const int widest = widestColumn * list->fontMetrics().averageCharWidth();
+    int needed = list->header()->sectionSizeHint(nameColumn) + 2 * list->frameWidth()
+        + list->verticalScrollBar()->sizeHint().width();
     for (int column = protocolColumn; column < list->columnCount(); ++column) {
         list->resizeColumnToContents(column);
         list->setColumnWidth(
             column, std::max(std::min(list->columnWidth(column), widest), list->header()->sectionSizeHint(column)));
+        needed += list->columnWidth(column);
     }
+    list->setMinimumWidth(needed);
 }
 
 void KirvAccountCheckList::setText(int row, int column, const QString &text)

@@ -72,8 +72,9 @@ KirvProfileState KirvProfileOpening::lockOnly(KirvProfileLock &lock, bool create
 /// A folder that is there already keeps its permissions.
 bool KirvProfileOpening::makeFolder() const
 {
-    return QFileInfo(paths.folder).isDir()
-        || (QDir().mkpath(QFileInfo(paths.folder).path()) && kirvMakePrivateFolder(paths.folder));
+    const auto isThere = [this] { return QFileInfo(paths.folder).isDir(); };
+    return isThere() || (QDir().mkpath(QFileInfo(paths.folder).path()) && kirvMakePrivateFolder(paths.folder))
+        || isThere(); // made by another start meanwhile
 }
 
 bool KirvProfileOpening::makeDatabase(const QString &file, quint32 applicationId, KirvDatabase &database)

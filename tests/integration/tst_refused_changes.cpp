@@ -171,7 +171,7 @@ void tst_RefusedChanges::scrolledListStaysWhereItIs()
     windows->select(QStringLiteral("m30"));
     QScrollBar *bar = windows->list()->verticalScrollBar();
     QVERIFY(bar->maximum() > 0);
-    bar->setValue(windows->list()->indexOfTopLevelItem(windows->row(QStringLiteral("m25"))));
+    bar->setValue(windows->list()->indexOfTopLevelItem(windows->row(QStringLiteral("m29"))));
     const int value = bar->value();
     const StoreRefusal refusal(windows->profileFolder(), QStringLiteral("1"), QStringLiteral("DELETE"));
     windows->removeInPage(QStringLiteral("m30"));
