@@ -39,7 +39,7 @@ public:
 
 private:
     Q_DISABLE_COPY(HeldSignals)
-    struct sigaction before[std::size(endSignals)];
+    struct sigaction before[std::size(endSignals)] {};
 };
 
 /// While it lives, what is typed is not shown, and read() gives it character by character.

@@ -23,13 +23,13 @@ enum Form { Line, Lines, Digest };
 
 struct TextMember {
     QLatin1String name;
-    QString KirvAccountRecord::*text;
-    Form form;
+    QString KirvAccountRecord::*text = nullptr;
+    Form form = Line;
 };
 
 struct FlagMember {
     QLatin1String name;
-    bool KirvAccountRecord::*flag;
+    bool KirvAccountRecord::*flag = nullptr;
 };
 
 // The names of the file stay what they are, whatever the record and the columns of the store are called.

@@ -26,7 +26,7 @@ private:
                                   static_cast<unsigned long long>(bytes.size()));
     }
 
-    crypto_generichash_state state;
+    crypto_generichash_state state {};
 };
 
 QByteArray escaped(char character)

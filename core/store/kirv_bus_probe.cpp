@@ -133,7 +133,7 @@ KirvBusProbe::Finding KirvBusProbe::connectTo(const QByteArray &path, bool isAbs
     sockaddr_un address {};
     address.sun_family = AF_UNIX;
     const int start = isAbstract ? 1 : 0;
-    if (path.isEmpty() || size_t(path.size() + start) >= sizeof address.sun_path)
+    if (path.isEmpty() || size_t(path.size()) + size_t(start) >= sizeof address.sun_path)
         return NoBus;
     std::memcpy(address.sun_path + start, path.constData(), size_t(path.size()));
     const size_t length = offsetof(sockaddr_un, sun_path) + size_t(start + path.size() + (isAbstract ? 0 : 1));

@@ -97,15 +97,7 @@ KirvKeyring::KirvKeyring(const Limits &limits, QObject *parent)
 {
     timeLimit.setSingleShot(true);
     connect(&timeLimit, &QTimer::timeout, this, &KirvKeyring::giveUp);
-    connect(watcher.get(), &KirvKeyringWatcher::changed, this, [this] {
-        const QPointer<KirvKeyring> alive(this);
-        if (watcher->state() == Unavailable || watcher->state() == Silent)
-            failWaiting({});
-        if (alive)
-            Q_EMIT stateChanged();
-        if (alive)
-            startNext();
-    });
+    connect(watcher.get(), &KirvKeyringWatcher::changed, this, &KirvKeyring::receiveState);
     connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = closeLibrarySession(); });
     connect(watcher.get(), &KirvKeyringWatcher::refreshed, this, &KirvKeyring::stateKnown);
     watcher->start();
@@ -145,6 +137,17 @@ void KirvKeyring::enqueue(const Operation &operation)
 {
     waiting << operation;
     QMetaObject::invokeMethod(this, &KirvKeyring::startNext, Qt::QueuedConnection);
+}
+
+void KirvKeyring::receiveState()
+{
+    const QPointer<KirvKeyring> alive(this);
+    if (watcher->state() == Unavailable || watcher->state() == Silent)
+        failWaiting({});
+    if (alive)
+        Q_EMIT stateChanged();
+    if (alive)
+        startNext();
 }
 
 void KirvKeyring::startNext()

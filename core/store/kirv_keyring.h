@@ -47,6 +47,7 @@ private:
     };
 
     void enqueue(const Operation &operation);
+    void receiveState();
     void startNext();
     void startJob();
     void jobFinished(int error, const QString &secret, const QString &text);
