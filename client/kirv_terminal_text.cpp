@@ -23,19 +23,6 @@ int columnsOf(const QString &text)
     return columns;
 }
 
-bool isInvisible(QChar character)
-{
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 QString kirvTerminalText(const QString &text, int longest)
@@ -75,7 +62,7 @@ QByteArray kirvTerminalJson(const QJsonObject &object)
     QString line;
     line.reserve(json.size() + 1);
     for (const QChar character : json) {
-        if (isInvisible(character))
+        if (kirvIsInvisible(character))
             line += QStringLiteral("\\u%1").arg(int(character.unicode()), 4, 16, QLatin1Char('0'));
         else
             line += character;

@@ -2,6 +2,7 @@
 #include "core/protocol/kirv_server_certificate.h"
 
 #include "core/values/kirv_single_line.h"
+#include "core/values/kirv_visible_text.h"
 
 #include <QCryptographicHash>
 #include <QLocale>
@@ -16,25 +17,11 @@ constexpr int mostNames = 10;
 /// Of one kind, of those that a certificate gives several of.
 constexpr int mostParts = 3;
 
-/// Characters that would break the line, turn its direction, or cannot be seen.
-bool isHidden(QChar character)
-{
-    switch (character.category()) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
-}
-
 /// \a text in one line of limited length, without what cannot be seen.
 QString toLine(const QString &text)
 {
     QString line = text.left(4 * longestText);
-    std::replace_if(line.begin(), line.end(), isHidden, QChar(QChar::ReplacementCharacter));
+    std::replace_if(line.begin(), line.end(), kirvIsInvisible, QChar(QChar::ReplacementCharacter));
     return kirvSingleLine(line, longestText);
 }
 
