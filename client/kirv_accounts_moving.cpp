@@ -6,7 +6,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/moving/kirv_account_export.h"
 #include "core/moving/kirv_account_import.h"
-#include "core/moving/kirv_pidgin_file.h"
+#include "core/moving/kirv_moving_file.h"
 
 #include <QJsonArray>
 
@@ -117,26 +117,18 @@ void KirvAccountsMoving::exportThem(const QList<KirvAccount *> &chosen, const Ki
 
 void KirvAccountsMoving::importThem(const KirvAccountsRequest &request, const Callback &callback)
 {
-    const auto file = std::make_shared<ReadFile>();
+    const auto file = std::make_shared<KirvAccountFile::Result>();
     KirvThreadWork::start(
-        threads, this, [file, request] { *file = read(request); },
+        threads, this,
+        [file, request] {
+            *file = KirvMovingFile::accounts(QByteArray::fromBase64(request.file.toLatin1()), request.passPhrase);
+        },
         [this, file, request, callback] { callback(take(*file, request)); });
 }
 
-KirvAccountsMoving::ReadFile KirvAccountsMoving::read(const KirvAccountsRequest &request)
+KirvAccountsReply KirvAccountsMoving::take(const KirvAccountFile::Result &file, const KirvAccountsRequest &request)
 {
-    const QByteArray bytes = QByteArray::fromBase64(request.file.toLatin1());
-    if (KirvPidginFile::isOne(bytes)) {
-        const KirvPidginFile::Result result = KirvPidginFile::read(bytes);
-        return { result.accounts, result.problem, false };
-    }
-    const KirvAccountFile::Result result = KirvAccountFile::read(bytes, request.passPhrase);
-    return { result.accounts, result.problem, result.wrongPassPhrase };
-}
-
-KirvAccountsReply KirvAccountsMoving::take(const ReadFile &file, const KirvAccountsRequest &request)
-{
-    if (file.hasWrongPassPhrase)
+    if (file.wrongPassPhrase)
         return KirvAccountsReply::refusal(file.problem, KirvAccountsReply::WrongPassPhrase);
     if (!file.problem.isEmpty())
         return KirvAccountsReply::refusal(file.problem);

@@ -22,14 +22,7 @@ public:
     void importThem(const KirvAccountsRequest &request, const Callback &callback);
 
 private:
-    /// What is known of a file.
-    struct ReadFile {
-        KirvMovedAccounts accounts;
-        QString problem;
-        bool hasWrongPassPhrase = false;
-    };
-    static ReadFile read(const KirvAccountsRequest &request);
-    KirvAccountsReply take(const ReadFile &file, const KirvAccountsRequest &request);
+    KirvAccountsReply take(const KirvAccountFile::Result &file, const KirvAccountsRequest &request);
 
     const KirvAccountsService::Environment environment;
     QThreadPool threads;

@@ -95,34 +95,20 @@ QJsonObject KirvAccountsService::describe(const KirvAccount &account) const
     return row;
 }
 
-/// As the commands of the page do it: what is disabled is one step to undo, and the main account is passed on once.
-KirvAccountsReply KirvAccountsService::setEnabled(QList<KirvAccount *> chosen, bool isEnabled)
+/// As the commands of the page do it: one change of the profile, and what is disabled is one step to undo.
+KirvAccountsReply KirvAccountsService::setEnabled(const QList<KirvAccount *> &chosen, bool isEnabled)
 {
-    if (chosen.removeOne(environment.mainAccount.account()))
-        chosen << environment.mainAccount.account();
-    const QList<QPointer<KirvAccount>> guarded(chosen.begin(), chosen.end());
-    if (!isEnabled)
-        environment.history.beginStep(KirvAccountHistory::Disabling);
     QJsonArray rows;
-    QString problem;
-    for (const QPointer<KirvAccount> &account : guarded) {
-        if (!account)
-            continue;
-        const bool isChanged = account->record().enabled != isEnabled;
-        if (isChanged && !account->setEnabled(isEnabled)) {
-            problem = environment.accounts.lastError(); // the others would be refused, too
-            break;
-        }
+    for (const KirvAccount *account : chosen) {
         QJsonObject row = keyOf(*account);
         row.insert(QStringLiteral("enabled"), isEnabled);
-        row.insert(QStringLiteral("changed"), isChanged);
+        row.insert(QStringLiteral("changed"), account->record().enabled != isEnabled);
         rows << row;
     }
     if (!isEnabled)
+        environment.history.beginStep(KirvAccountHistory::Disabling);
+    const bool isDone = environment.accounts.setEnabled(chosen, isEnabled);
+    if (!isEnabled)
         environment.history.endStep();
-    KirvAccountsReply reply = withAccounts(rows);
-    reply.problem = problem;
-    if (!problem.isEmpty())
-        reply.status = KirvAccountsReply::Refused;
-    return reply;
+    return isDone ? withAccounts(rows) : KirvAccountsReply::refusal(environment.accounts.lastError());
 }

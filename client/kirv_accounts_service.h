@@ -41,7 +41,7 @@ public:
 private:
     void runPrepared(const KirvAccountsRequest &request, const Callback &callback);
     KirvAccountsReply list(const QList<KirvAccount *> &chosen) const;
-    KirvAccountsReply setEnabled(QList<KirvAccount *> chosen, bool isEnabled);
+    KirvAccountsReply setEnabled(const QList<KirvAccount *> &chosen, bool isEnabled);
     QJsonObject describe(const KirvAccount &account) const;
 
     const Environment environment;

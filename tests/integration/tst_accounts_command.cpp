@@ -233,7 +233,7 @@ void tst_AccountsCommand::enabledAndDisabledAccountsAreStored()
     add(QStringLiteral("bob"), protocol, QString(), false);
     const KirvProgramRun result = run({ "disable", "ann", "bob" });
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.text(), QStringLiteral("XMPP:bob was disabled already.\nXMPP:ann is disabled now.\n"));
+    QCOMPARE(result.text(), QStringLiteral("XMPP:ann is disabled now.\nXMPP:bob was disabled already.\n"));
     QVERIFY(!storedOne(QStringLiteral("ann")).enabled);
     const QJsonObject json = run({ "enable", "--json", "XMPP:ann" }).json();
     QCOMPARE(json.value(QStringLiteral("accounts")).toArray().first().toObject(),
