@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_background_job.h"
 
-#include "client/kirv_background_work.h"
+#include "client/kirv_thread_work.h"
 
 #include <QThreadPool>
 
@@ -14,15 +14,17 @@ void KirvBackgroundJob::start(const std::function<void(const Flag &)> &work, con
 {
     drop();
     isWanted = std::make_shared<std::atomic<bool>>(true);
-    auto *running = new KirvBackgroundWork(work, isWanted);
+    const auto begin = [work, wanted = isWanted] {
+        if (*wanted)
+            work(wanted);
+    };
     const auto finish = [this, wanted = isWanted, whenDone] {
         if (!*wanted)
             return;
         isWanted.reset();
         whenDone();
     };
-    connect(running, &KirvBackgroundWork::done, this, finish, Qt::QueuedConnection);
-    QThreadPool::globalInstance()->start(running);
+    KirvThreadWork::start(*QThreadPool::globalInstance(), this, begin, finish);
 }
 
 void KirvBackgroundJob::drop()
