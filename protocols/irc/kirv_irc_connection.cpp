@@ -105,27 +105,30 @@ void KirvIrcConnection::startLogin(const KirvPresence &presence)
 /// Without a proxy, at once. The proxy looks the name of the server up.
 void KirvIrcConnection::openThroughProxy(QAbstractSocket *transport)
 {
-    IrcConnection *const opened = link.data();
-    const auto timeOut = [this, opened, transport] {
-        if (link.data() == opened && transport->state() != QAbstractSocket::ConnectedState)
+    // Both are deleted later, that is after this, and another link can have the address of this one.
+    const auto isOpening = [this, opened = link.data(), socket = QPointer<QAbstractSocket>(transport)] {
+        return socket && link.data() == opened;
+    };
+    const auto timeOut = [=] {
+        if (isOpening() && transport->state() != QAbstractSocket::ConnectedState)
             connectionLost(kirvProxyTimedOut(proxy));
     };
     const auto receive = [=](const QNetworkProxy &found, const KirvFailure &failure) {
-        if (link.data() != opened) // it is deleted later
+        if (!isOpening())
             return;
         if (failure.isFailure())
             return connectionLost(failure);
         proxy = found;
         transport->setProxy(proxy);
         if (proxy.type() != QNetworkProxy::NoProxy)
-            clock().callLater(KirvProxy::timeout, transport, timeOut);
+            clock().callLater(KirvProxy::timeout, this, timeOut);
         auto *steps = new KirvSocketSteps(*transport, transport);
         connect(steps, &KirvSocketSteps::step, this, &KirvIrcConnection::reportStep);
         steps->begin(settings.server, settings.port, proxy,
                      settings.encrypted ? KirvSocketSteps::Wanted : KirvSocketSteps::None);
         openLink(qobject_cast<QSslSocket *>(transport));
     };
-    kirvFindProxy(settings.proxy.toNetworkProxy(), settings.server, settings.port, clock(), transport, receive);
+    kirvFindProxy(settings.proxy.toNetworkProxy(), settings.server, settings.port, clock(), this, receive);
 }
 
 /// A list of one's own takes the place of the system's, which is then needed as a whole.
@@ -345,8 +348,8 @@ void KirvIrcConnection::awaitErrorMessage(IrcNumericMessage *message)
     refusal = message->parameters().value(message->parameters().size() - 1);
     if (!isFirst || refusal.isEmpty())
         return;
-    clock().callLater(errorMessageTimeout, link.data(), [this, refused = link.data()] {
-        if (link.data() == refused)
+    clock().callLater(errorMessageTimeout, this, [this, refused = QPointer<IrcConnection>(link.data())] {
+        if (refused && link.data() == refused)
             loseConnection();
     });
 }
@@ -475,9 +478,9 @@ void KirvIrcConnection::watchServer()
 /// Calls \a callback later, unless the link has ended by then.
 void KirvIrcConnection::callLaterOnLink(int milliseconds, const std::function<void()> &callback)
 {
-    IrcConnection *const watched = link.data();
-    clock().callLater(milliseconds, watched, [this, watched, callback] {
-        if (link.data() == watched && state() == Online)
+    const QPointer<IrcConnection> watched = link.data();
+    clock().callLater(milliseconds, this, [this, watched, callback] {
+        if (watched && link.data() == watched && state() == Online)
             callback();
     });
 }

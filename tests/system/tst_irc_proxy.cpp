@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/protocol/kirv_system_proxy.h"
 #include "protocols/irc/kirv_irc_connection.h"
 #include "protocols/irc/kirv_irc_protocol.h"
 #include "tests/support/fakes/kirv_fake_clock.h"
@@ -8,6 +9,7 @@
 #include "tests/support/servers/kirv_scripted_irc_server.h"
 #include "tools/servers/kirv_ngircd_server.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
@@ -40,6 +42,7 @@ private Q_SLOTS:
     void logsIn();
     void theServerProvesItsName();
     void theProxyOfTheSystemIsUsed();
+    void aDestroyedConnectionOpensNothing();
     void thePasswordIsSecret();
     void settingsOfAProxyAreChecked();
 
@@ -162,6 +165,27 @@ void TestIrcProxy::theProxyOfTheSystemIsUsed()
     QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
     QCOMPARE(proxy.connections(), 1);
     qunsetenv("all_proxy");
+}
+
+/// Its socket, which is deleted later, lives on for a moment.
+void TestIrcProxy::aDestroyedConnectionOpensNothing()
+{
+    Proxy proxy(Proxy::Http, 1);
+    qputenv("all_proxy", "http://127.0.0.1:" + QByteArray::number(proxy.serverPort()));
+    logIn({ { "encryption", "none" }, { "server", "some.example" }, { "port", "6000" }, { "proxy", "system" } });
+    connection.reset();
+    // The system replies to one request after the other.
+    bool hasReplied = false;
+    KirvSystemProxy::instance().request(QStringLiteral("some.example"), 6000, KirvClock::system(), this,
+                                        [&](const std::optional<QNetworkProxy> &) { hasReplied = true; });
+    QElapsedTimer waited;
+    waited.start();
+    while (!hasReplied && waited.elapsed() < kirvPatience)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); // nothing is deleted meanwhile
+    QVERIFY(hasReplied);
+    qunsetenv("all_proxy");
+    QCoreApplication::processEvents();
+    QCOMPARE(proxy.connections(), 0);
 }
 
 void TestIrcProxy::thePasswordIsSecret()
