@@ -95,11 +95,12 @@ void KirvAccountStrip::arrange()
     firstPlace->addWidget(certificateButton);
     auto *buttons = new KirvButtonFlow(this);
     buttons->setObjectName(QStringLiteral("Accounts_StripButtons"));
-    // The context menu has these, too.
+    // The context menu has the spare ones, too, and the page another button to edit.
     buttons->addSpareAtEnd(logButton);
     buttons->addSpareAtEnd(testButton);
-    for (QWidget *button : { first, static_cast<QWidget *>(reconnectButton), static_cast<QWidget *>(editButton) })
-        buttons->addAtEnd(button);
+    buttons->addAtEnd(first);
+    buttons->addAtEnd(reconnectButton);
+    buttons->addSpareAtEnd(editButton);
     auto *layout = new QGridLayout(this);
     layout->setColumnStretch(1, 1);
     layout->addWidget(icon, 0, 0);

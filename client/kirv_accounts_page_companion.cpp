@@ -17,7 +17,7 @@
 #include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
 #include "client/kirv_main_account_selector.h"
-#include "client/kirv_narrow_button.h"
+#include "client/kirv_narrow_buttons.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_selecting_style.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -108,11 +108,11 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
     });
     if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
         new KirvMainAccountSelector(selector);
-    // One after the other, as the page gets narrower; the strip and the keys offer what these do, too.
-    for (const char *name : { "Accounts_RegisterButton", "Accounts_RemoveButton", "Accounts_EditButton" }) {
-        if (auto *button = top->findChild<QToolButton *>(QLatin1String(name)))
-            new KirvNarrowButton(button, top);
-    }
+    QList<QToolButton *> buttons; // the tool tips and the keys tell what they do
+    for (const char *name :
+         { "Accounts_RegisterButton", "Accounts_RemoveButton", "Accounts_EditButton", "Accounts_AddButton" })
+        buttons << top->findChildren<QToolButton *>(QLatin1String(name));
+    new KirvNarrowButtons(buttons, top);
     // Room for one row, also in a small window.
     list->setMinimumHeight(list->header()->sizeHint().height() + 3 * list->fontMetrics().lineSpacing());
     updateInvitation();

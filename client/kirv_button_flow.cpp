@@ -40,20 +40,37 @@ int KirvButtonFlow::widthOf(const Row &row) const
     return width;
 }
 
-KirvButtonFlow::Row KirvButtonFlow::wanted(bool withSpare) const
+int KirvButtonFlow::spareCount() const
+{
+    return int(std::count_if(items.begin(), items.end(), [](const Item &item) { return item.isSpare; }));
+}
+
+/// How many of the spare ones are not left out at \a width.
+int KirvButtonFlow::spareFor(int width) const
+{
+    int spare = spareCount();
+    if (hasRoomForRows())
+        return spare;
+    while (spare > 0 && widthOf(wanted(spare)) > width)
+        --spare;
+    return spare;
+}
+
+/// What is shown with the first \a spare of the spare ones.
+KirvButtonFlow::Row KirvButtonFlow::wanted(int spare) const
 {
     Row row;
     for (const Item &item : items) {
-        if (item.isSpare ? withSpare : !item.widget->isHidden())
+        if (item.isSpare ? spare-- > 0 : !item.widget->isHidden())
             row.append(item);
     }
     return row;
 }
 
-QList<KirvButtonFlow::Row> KirvButtonFlow::rowsFor(int width, bool withSpare) const
+QList<KirvButtonFlow::Row> KirvButtonFlow::rowsFor(int width, int spare) const
 {
     QList<Row> rows;
-    const Row all = wanted(withSpare);
+    const Row all = wanted(spare);
     for (const Item &item : all) {
         if (!rows.isEmpty() && widthOf(rows.last() + Row { item }) <= width)
             rows.last().append(item);
@@ -63,10 +80,10 @@ QList<KirvButtonFlow::Row> KirvButtonFlow::rowsFor(int width, bool withSpare) co
     return rows;
 }
 
-int KirvButtonFlow::heightFor(int width, bool withSpare) const
+int KirvButtonFlow::heightFor(int width, int spare) const
 {
     int height = 0;
-    const QList<Row> rows = rowsFor(width, withSpare);
+    const QList<Row> rows = rowsFor(width, spare);
     for (const Row &row : rows) {
         int highest = 0;
         for (const Item &item : row)
@@ -84,12 +101,16 @@ bool KirvButtonFlow::hasRoomForRows() const
 void KirvButtonFlow::arrange()
 {
     int top = 0;
-    const bool hasRoom = rowsFor(width(), true).size() == 1 || hasRoomForRows();
+    const int spare = spareFor(width());
+    int spareLeft = spare;
     for (const Item &item : qAsConst(items)) {
-        if (item.isSpare && item.widget->isHidden() == hasRoom)
-            item.widget->setVisible(hasRoom);
+        if (!item.isSpare)
+            continue;
+        const bool isShown = spareLeft-- > 0;
+        if (item.widget->isHidden() == isShown)
+            item.widget->setVisible(isShown);
     }
-    const QList<Row> rows = rowsFor(width(), hasRoom);
+    const QList<Row> rows = rowsFor(width(), spare);
     for (const Row &row : rows) {
         int left = 0, highest = 0;
         int restWidth = widthOf(row);
@@ -105,8 +126,8 @@ void KirvButtonFlow::arrange()
         }
         top += highest + gap();
     }
-    if (neededHeight != heightFor(width(), hasRoom)) {
-        neededHeight = heightFor(width(), hasRoom);
+    if (neededHeight != heightFor(width(), spare)) {
+        neededHeight = heightFor(width(), spare);
         updateGeometry();
     }
 }
@@ -149,19 +170,17 @@ bool KirvButtonFlow::eventFilter(QObject *watched, QEvent *event)
 
 QSize KirvButtonFlow::sizeHint() const
 {
-    const int wholeWidth = widthOf(wanted(true));
+    const int wholeWidth = widthOf(wanted(spareCount()));
     const int rowWidth = isVisible() ? width() : wholeWidth;
-    const bool hasRoom = rowsFor(rowWidth, true).size() == 1 || hasRoomForRows();
-    return { wholeWidth, heightFor(rowWidth, hasRoom) };
+    return { wholeWidth, heightFor(rowWidth, spareFor(rowWidth)) };
 }
 
 /// Those that are never left out stand in one row where others can be.
 QSize KirvButtonFlow::minimumSizeHint() const
 {
-    const Row needed = wanted(false);
-    const bool hasSpare = std::any_of(items.begin(), items.end(), [](const Item &item) { return item.isSpare; });
-    int widest = hasSpare ? widthOf(needed) : 0;
+    const Row needed = wanted(0);
+    int widest = spareCount() > 0 ? widthOf(needed) : 0;
     for (const Item &item : needed)
         widest = std::max(widest, item.widget->minimumSizeHint().width());
-    return { widest, heightFor(isVisible() ? std::max(width(), widest) : widthOf(needed), false) };
+    return { widest, heightFor(isVisible() ? std::max(width(), widest) : widthOf(needed), 0) };
 }

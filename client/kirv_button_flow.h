@@ -16,8 +16,8 @@ public:
     /// The flow then owns \a widget.
     void addAtBeginning(QWidget *widget) { add(widget, true, false); }
     void addAtEnd(QWidget *widget) { add(widget, false, false); }
-    /// The same; where one row is too narrow and the window too low for several, \a widget is left out. It is always
-    /// wanted otherwise.
+    /// The same; where one row is too narrow and the window too low for several, \a widget is left out, the one that
+    /// was added last first. It is always wanted otherwise.
     void addSpareAtEnd(QWidget *widget) { add(widget, false, true); }
 
     QSize sizeHint() const override;
@@ -38,9 +38,11 @@ private:
 
     void add(QWidget *widget, bool isAtBeginning, bool isSpare);
     int gap() const;
-    Row wanted(bool withSpare) const;
-    QList<Row> rowsFor(int width, bool withSpare) const;
-    int heightFor(int width, bool withSpare) const;
+    int spareCount() const;
+    int spareFor(int width) const;
+    Row wanted(int spare) const;
+    QList<Row> rowsFor(int width, int spare) const;
+    int heightFor(int width, int spare) const;
     int widthOf(const Row &row) const;
     bool hasRoomForRows() const;
     void arrange();

@@ -100,7 +100,7 @@
     </message>
     <message>
         <source>&amp;Remember password</source>
-        <translation>&amp;Recordar la contraseña</translation>
+        <translation>&amp;Recordar contraseña</translation>
     </message>
     <message>
         <source>S&amp;tart as:</source>
@@ -159,7 +159,7 @@
     </message>
     <message>
         <source>&amp;Remember password</source>
-        <translation>&amp;Recordar la contraseña</translation>
+        <translation>&amp;Recordar contraseña</translation>
     </message>
     <message>
         <source>The account takes the presence and description that it had last</source>
@@ -3163,7 +3163,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <name>KirvPasswordDialog</name>
     <message>
         <source>&amp;Remember the password</source>
-        <translation>&amp;Recordar la contraseña</translation>
+        <translation>&amp;Recordar contraseña</translation>
     </message>
     <message>
         <source>Password Needed</source>
@@ -4243,7 +4243,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     </message>
     <message>
         <source>&amp;Remember the password</source>
-        <translation>&amp;Recordar la contraseña</translation>
+        <translation>&amp;Recordar contraseña</translation>
     </message>
     <message>
         <source>Stores the password in your profile.</source>
@@ -4423,7 +4423,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     </message>
     <message>
         <source>Remember the password</source>
-        <translation>Recordar la contraseña</translation>
+        <translation>Recordar contraseña</translation>
     </message>
     <message>
         <source>Restore the last presence</source>

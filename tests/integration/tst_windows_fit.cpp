@@ -14,6 +14,7 @@
 #include "core/moving/kirv_account_file.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_protocol_base.h"
+#include "core/store/kirv_store.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/gui/kirv_assistant_window.h"
@@ -331,12 +332,17 @@ void tst_WindowsFit::windowFits()
     QFETCH(QString, window);
     QFETCH(QString, language);
     translations = std::make_unique<KirvTranslations>(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
-    translations->use(language);
     KirvClientOptions options;
     options.profileFolder = folder->filePath(QStringLiteral("profile"));
+    {
+        KirvStore store; // the start uses the language of the profile
+        QVERIFY(store.open(options.profileFolder));
+        QVERIFY(store.writeSetting(QStringLiteral("language"), language));
+    }
     options.pluginFolder = QStringLiteral(KIRV_FITTED_PROTOCOLS);
     client = std::make_unique<KirvClient>(options);
     QVERIFY(client->start());
+    QCOMPARE(translations->chosen(), language);
     client->window()->show();
     KIRV_TRY(client->arePluginsLoaded());
     for (KirvProtocolBase *protocol : client->plugins().protocols()) {
