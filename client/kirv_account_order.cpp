@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -22,6 +23,7 @@ const int numberColumn = 3;
 const QLatin1String sortingKey("accounts_page/sorting");
 const QLatin1String widthKey("accounts_page/protocol_width");
 const int widestColumn = 2000;
+const int protocolLetters = 12;
 /// Between two numbers: a row does not take one that QVariant holds for the same as that which it has, which is true of
 /// numbers of 100,000 rows up to 1e-7.
 const double smallestStep = 1e-6;
@@ -39,6 +41,14 @@ QPoint positionOf(const Event *event)
 double numberOf(const QTreeWidgetItem *row)
 {
     return row->data(numberColumn, Qt::DisplayRole).toDouble();
+}
+
+/// For the name of a protocol with its icon; the rest is for the alias and the state below it.
+int usualWidth(const QTreeWidget *list)
+{
+    const int icon = list->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, list);
+    const int text = protocolLetters * list->fontMetrics().averageCharWidth();
+    return qMax(list->header()->sectionSizeHint(KirvProtocolColumn), icon + text);
 }
 
 bool hasNumber(const QTreeWidgetItem *row)
@@ -122,16 +132,18 @@ void KirvAccountOrder::restore()
     }
     lastSection = list->header()->sortIndicatorSection();
     lastOrder = list->header()->sortIndicatorOrder();
+    list->header()->setStretchLastSection(false);
     const int width = settings.value(widthKey).toInt();
-    if (width > 0)
-        list->header()->resizeSection(KirvProtocolColumn,
-                                      qBound(list->header()->minimumSectionSize(), width, widestColumn));
+    list->header()->resizeSection(
+        KirvProtocolColumn,
+        width > 0 ? qBound(list->header()->minimumSectionSize(), width, widestColumn) : usualWidth(list));
 }
 
 void KirvAccountOrder::saveWidth()
 {
     const QString width = QString::number(list->columnWidth(KirvProtocolColumn));
-    if (settings.value(widthKey) != width)
+    const bool isUsual = list->columnWidth(KirvProtocolColumn) == usualWidth(list);
+    if (settings.value(widthKey) != width && !(isUsual && settings.value(widthKey).isEmpty()))
         settings.setValue(widthKey, width);
 }
 

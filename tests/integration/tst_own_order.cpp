@@ -64,6 +64,7 @@ private Q_SLOTS:
     void dropFromElsewhereIsRefused();
     void sortingAndPageAreRemembered();
     void widthIsRemembered();
+    void aliasHasTheRoomThatTheProtocolDoesNotNeed();
 
 private:
     QTreeWidget *list() const { return windows->list(); }
@@ -474,6 +475,20 @@ void tst_OwnOrder::widthIsRemembered()
     windows->restart();
     KirvClientWindows::settle();
     QCOMPARE(list()->columnWidth(1), before + 37);
+}
+
+void tst_OwnOrder::aliasHasTheRoomThatTheProtocolDoesNotNeed()
+{
+    const QHeaderView *header = list()->header();
+    QVERIFY(header->sectionSize(1) >= static_cast<QAbstractItemView *>(list())->sizeHintForColumn(1));
+    QVERIFY(header->sectionSize(1) < header->sectionSize(0) / 2);
+    QCOMPARE(header->length(), list()->viewport()->width());
+    // Another size of the window: the alias is as wide as there is room.
+    const int alias = header->sectionSize(0), protocol = header->sectionSize(1);
+    windows->client->window()->resize(windows->client->window()->width() + 60, windows->client->window()->height());
+    KirvClientWindows::settle();
+    QCOMPARE(header->sectionSize(0), alias + 60);
+    QCOMPARE(header->sectionSize(1), protocol);
 }
 
 QTEST_MAIN(tst_OwnOrder)
