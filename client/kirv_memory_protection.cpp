@@ -17,7 +17,7 @@ bool kirvProtectMemory()
     const rlimit none {};
     isProtected = setrlimit(RLIMIT_CORE, &none) == 0;
 #endif
-#if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__)
+#if defined(Q_OS_LINUX) && !defined(KIRV_SANITIZED)
     isProtected = prctl(PR_SET_DUMPABLE, 0) == 0 && isProtected;
 #endif
     return isProtected;

@@ -16,6 +16,8 @@
 #include <QtTest>
 #include <sodium.h>
 
+Q_DECLARE_METATYPE(KirvMovedAccounts)
+
 namespace {
 
 const QString passPhrase = QStringLiteral("open sesame");
@@ -549,6 +551,5 @@ void tst_AccountFile::largeFileIsNotWritten()
     QVERIFY(!written(accounts).isEmpty());
 }
 
-Q_DECLARE_METATYPE(KirvMovedAccounts)
 QTEST_GUILESS_MAIN(tst_AccountFile)
 #include "tst_account_file.moc"

@@ -19,7 +19,7 @@ private Q_SLOTS:
         QProcess process;
         process.start(QCoreApplication::applicationFilePath(), { QStringLiteral("--protect") });
         QVERIFY(process.waitForFinished());
-#ifdef __SANITIZE_ADDRESS__
+#ifdef KIRV_SANITIZED
         QCOMPARE(process.readAllStandardOutput(), QByteArray("protected, core 0 0, dumpable 1"));
 #else
         QCOMPARE(process.readAllStandardOutput(), QByteArray("protected, core 0 0, dumpable 0"));

@@ -142,7 +142,7 @@ private Q_SLOTS:
     {
         KirvStore store;
         QVERIFY(store.open(folder));
-        const auto pragma = [this](const char *name) {
+        const auto pragma = [](const char *name) {
             QSqlQuery query(ownConnection());
             query.exec(QLatin1String("PRAGMA ") + QLatin1String(name));
             return query.next() ? query.value(0).toString() : QString();
@@ -694,7 +694,7 @@ private Q_SLOTS:
         QVERIFY(store.insertAccount(account));
         KirvAccountRecord large = account;
         large.lastDescription = QString(200000, QLatin1Char('x'));
-        const auto limitPages = [this](const char *pages) {
+        const auto limitPages = [](const char *pages) {
             return QSqlQuery(ownConnection()).exec(QLatin1String("PRAGMA max_page_count = ") + QLatin1String(pages));
         };
         {

@@ -13,7 +13,7 @@
 /// Runs the event loop and measures what the program suffers meanwhile.
 class KirvLoadMeter {
 public:
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(KIRV_SANITIZED)
     static constexpr bool measuresMemory = false; ///< what is freed is kept for a while there
 #else
     static constexpr bool measuresMemory = true;
