@@ -101,9 +101,9 @@ add_library(kirv_build_options INTERFACE)
 target_include_directories(kirv_build_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(kirv_build_options INTERFACE ${KIRV_WARNINGS})
 target_compile_definitions(kirv_build_options INTERFACE QT_DEPRECATED_WARNINGS)
+# Not the programs that only test (KIRV_IS_TEST), which take half of the time of a build otherwise.
+set(sanitized "$<NOT:$<BOOL:$<TARGET_PROPERTY:KIRV_IS_TEST>>>")
 if(KIRV_SANITIZE)
-    # Not the programs that only test (KIRV_IS_TEST), which take half of the time of a build otherwise.
-    set(sanitized "$<NOT:$<BOOL:$<TARGET_PROPERTY:KIRV_IS_TEST>>>")
     target_compile_options(kirv_build_options INTERFACE
         "$<${sanitized}:-fsanitize=address,undefined;-fno-sanitize-recover=undefined;-fno-omit-frame-pointer>")
     # It would export the type of each function.
@@ -113,7 +113,7 @@ if(KIRV_SANITIZE)
     target_compile_definitions(kirv_build_options INTERFACE KIRV_SANITIZED)
 endif()
 if(KIRV_FUZZ)
-    target_compile_options(kirv_build_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_compile_options(kirv_build_options INTERFACE "$<${sanitized}:-fsanitize=fuzzer-no-link>")
 endif()
 
 # kirv_add_protocol_library(NAME SOURCES...): what a protocol consists of without its plug-in class, as a static library
@@ -122,7 +122,6 @@ function(kirv_add_protocol_library name)
     add_library(${name} STATIC ${ARGN})
     target_link_libraries(${name} PRIVATE kirv_build_options PUBLIC kirv_protocol)
     set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
-    kirv_precompile(${name} <QtCore> <QtNetwork>)
 endfunction()
 
 # kirv_add_protocol(NAME [OUTPUT folder] SOURCES...): a protocol plug-in, loaded at run time. One with a folder of

@@ -112,7 +112,7 @@ require_space() {
 build_preset() {
     local preset=$1 configuration=$1 log started=$SECONDS
     shift
-    [[ $preset != @(protocols|walk) ]] || configuration=sanitize
+    [[ $preset != @(protocols|walk|fuzz) ]] || configuration=sanitize
     mkdir -p build/logs
     log=build/logs/$preset.log
     say "Building build/$preset ..."
