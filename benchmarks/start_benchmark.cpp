@@ -3,13 +3,13 @@
 // of its own: this program starts itself, with the client's own parts, and ends when the list has been painted. The
 // accounts are switched off, so that nothing is logged in meanwhile. Between the two a timer of a millisecond runs,
 // whose gaps say for how long the window did not answer.
+#include "benchmarks/disabled_accounts.h"
 #include "benchmarks/measurement.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_application.h"
 #include "client/kirv_client.h"
 #include "client/kirv_settings_window.h"
-#include "core/store/kirv_store.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -25,7 +25,6 @@
 namespace {
 
 const int starts = 15;
-const QString accountProtocol = QStringLiteral("XMPP");
 
 /// The time on the clock that all processes of this computer share, in nanoseconds.
 qint64 now()
@@ -98,21 +97,6 @@ int startClient(const QString &profileFolder, qint64 started)
     return QCoreApplication::exec();
 }
 
-void createProfile(const QString &folder, int accountCount)
-{
-    KirvStore store;
-    bool good = store.open(folder) && store.begin();
-    for (int i = 0; good && i < accountCount; ++i) {
-        KirvAccountRecord account;
-        account.key = { QStringLiteral("user%1@example.org").arg(i), accountProtocol };
-        account.alias = QStringLiteral("Account %1").arg(i);
-        account.enabled = false;
-        good = store.insertAccount(account);
-    }
-    if (!good || !store.commit())
-        qFatal("The profile cannot be made: %s", qPrintable(store.lastError()));
-}
-
 /// The milliseconds of one start.
 struct Start {
     double window = 0;
@@ -136,7 +120,7 @@ Start startOnce(const QString &profileFolder, int accountCount)
 Start measure(const QString &folder, int accountCount)
 {
     QTemporaryDir profile(folder + QStringLiteral("/profile-XXXXXX"));
-    createProfile(profile.path(), accountCount);
+    makeProfileOfDisabledAccounts(profile.path(), accountCount);
     startOnce(profile.path(), accountCount); // warms the caches up, and tests the plug-ins
     QVector<double> window;
     QVector<double> list;

@@ -20,6 +20,8 @@ KirvApplication::KirvApplication(int &argc, char **argv)
 {
     initializeResources();
     prepare(*this);
+    // Qt 5 would make each window fit for OpenGL, of which nothing is shown, and load the driver for it at the first.
+    setAttribute(Qt::AA_ForceRasterWidgets);
     kirvRaiseDescriptorLimit(); // where it is refused, accounts beyond it say that they cannot connect
     setWindowIcon(QIcon(QStringLiteral(":/kirv/client/icons/kirv.svg")));
 }
