@@ -134,9 +134,9 @@ void KirvAccountOrder::restore()
     lastOrder = list->header()->sortIndicatorOrder();
     list->header()->setStretchLastSection(false);
     const int width = settings.value(widthKey).toInt();
-    list->header()->resizeSection(
-        KirvProtocolColumn,
-        width > 0 ? qBound(list->header()->minimumSectionSize(), width, widestColumn) : usualWidth(list));
+    list->header()->resizeSection(KirvProtocolColumn,
+                                  width > 0 ? qBound(list->header()->minimumSectionSize(), width, widestColumn)
+                                            : usualWidth(list));
 }
 
 void KirvAccountOrder::saveWidth()
