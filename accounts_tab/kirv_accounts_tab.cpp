@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 
+#include "accounts_tab/kirv_account_row_p.h"
 #include "accounts_tab/kirv_account_window_p.h"
 #include "accounts_tab/kirv_qt_compat_p.h"
 #include "add_account/kirv_add_account_dialog.h"
@@ -27,39 +28,9 @@
 
 #include <new>
 
+using namespace KirvAccountRow;
+
 namespace {
-
-enum Column {
-    AliasColumn, // with the check box that enables the account
-    ProtocolColumn, // with the protocol's icon
-    IdColumn, // hidden
-    UnusedColumn, // hidden and never filled
-    ColumnCount
-};
-
-QString aliasOf(const QTreeWidgetItem *row)
-{
-    return row->data(AliasColumn, Qt::DisplayRole).toString();
-}
-
-QString protocolNameOf(const QTreeWidgetItem *row)
-{
-    return row->data(ProtocolColumn, Qt::DisplayRole).toString();
-}
-
-QString accountIdOf(const QTreeWidgetItem *row)
-{
-    return row->data(IdColumn, Qt::DisplayRole).toString();
-}
-
-QTreeWidgetItem *createRow(const QString &alias, const QString &protocolName, const QString &accountId,
-                           const QIcon &icon, bool enabled)
-{
-    QTreeWidgetItem *row = new QTreeWidgetItem(QStringList() << alias << protocolName << accountId);
-    row->setIcon(ProtocolColumn, icon);
-    row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
-    return row;
-}
 
 bool isConfigured(const QString &accountId, const QString &protocolName)
 {
