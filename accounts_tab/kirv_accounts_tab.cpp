@@ -27,10 +27,20 @@
 #include <QTreeWidget>
 
 #include <new>
+#include <utility>
 
 using namespace KirvAccountRow;
 
 namespace {
+
+/// Leaves a box alone that shows this already. Setting the same state again has no effect either, but takes longer.
+void showEnabled(QTreeWidgetItem *row, bool enabled)
+{
+    const Qt::CheckState state = enabled ? Qt::Checked : Qt::Unchecked;
+    const QVariant shown = row->data(AliasColumn, Qt::CheckStateRole);
+    if (!shown.isValid() || shown.toInt() != state)
+        row->setCheckState(AliasColumn, state);
+}
 
 bool isConfigured(const QString &accountId, const QString &protocolName)
 {
@@ -138,7 +148,9 @@ void KirvAccountsTab::readProtocolAccounts(const QString &proto)
     if (!protocol)
         return;
 
-    const QIcon icon(protocol->getIconPath(0));
+    const QString iconPath = protocol->getIconPath(0);
+    const QIcon icon(iconPath);
+    icons.insert(iconPath, icon);
     QAction *action = new QAction(protocol->getName(), this);
     if (!icon.isNull())
         action->setIcon(icon);
@@ -199,20 +211,21 @@ void KirvAccountsTab::updateAccounts()
         offeredAccounts.clear();
     }
 
-    QHash<QString, QIcon> icons;
     for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
         QTreeWidgetItem *row = accountList->topLevelItem(i);
-        const AccountKey key(accountIdOf(row), protocolNameOf(row));
+        AccountKey key;
+        key.first = accountIdOf(row);
+        key.second = protocolNameOf(row);
         const bool enabled = manager->accountEnabled(key.first, key.second);
         // Intended: a check box that really changes reaches setAccountEnabled(), which refreshes again. The
         // refresh begun last fills and connects the selector; those around it only go on with the boxes.
-        row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
+        showEnabled(row, enabled);
         if (!enabled || refresh != refreshCount)
             continue;
 
         KirvAccountConnection *account = manager->getAccount(key.first, key.second);
         if (account && mainAccountBox && refresh == refreshCount)
-            offerAsMainAccount(account, key, aliasOf(row), icons);
+            offerAsMainAccount(account, key, aliasOf(row));
     }
 
     // Made without a selector too; Qt then warns.
@@ -220,10 +233,8 @@ void KirvAccountsTab::updateAccounts()
         connectSelector(true);
 }
 
-/// Each icon is made once per refresh and shared by its entries, so that its file is read once. When a call of the
-/// host begins another refresh, that one makes the entry.
-void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
-                                         QHash<QString, QIcon> &icons)
+/// When a call of the host begins another refresh, that one makes the entry. The list of entries takes \a key over.
+void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, AccountKey &key, const QString &alias)
 {
     const int refresh = refreshCount;
     const QString iconPath = account->getProtocol()->getIconPath(0);
@@ -235,7 +246,7 @@ void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const A
 
     const int index = mainAccountBox->count();
     mainAccountBox->insertItem(index, *icon, alias, QVariant::fromValue(static_cast<void *>(account)));
-    offeredAccounts << key;
+    offeredAccounts.append(std::move(key));
     if (account == KirvAccountManager::getInstance()->getMainAccount() && refresh == refreshCount)
         mainAccountBox->setCurrentIndex(index);
 }
@@ -248,7 +259,7 @@ void KirvAccountsTab::removeFromSelector(const QString &accountId, const QString
     // The entry that becomes current in place of a removed one was not chosen by the user.
     connectSelector(false);
     for (int i = offeredAccounts.indexOf(key); i != -1; i = offeredAccounts.indexOf(key)) {
-        offeredAccounts.removeAt(i);
+        offeredAccounts.remove(i);
         mainAccountBox->removeItem(i);
     }
     connectSelector(true);
