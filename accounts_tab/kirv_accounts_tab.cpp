@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 
+#include "accounts_tab/kirv_account_row_p.h"
 #include "accounts_tab/kirv_account_window_p.h"
 #include "accounts_tab/kirv_qt_compat_p.h"
 #include "add_account/kirv_add_account_dialog.h"
@@ -26,39 +27,19 @@
 #include <QTreeWidget>
 
 #include <new>
+#include <utility>
+
+using namespace KirvAccountRow;
 
 namespace {
 
-enum Column {
-    AliasColumn, // with the check box that enables the account
-    ProtocolColumn, // with the protocol's icon
-    IdColumn, // hidden
-    UnusedColumn, // hidden and never filled
-    ColumnCount
-};
-
-QString aliasOf(const QTreeWidgetItem *row)
+/// Leaves a box alone that shows this already. Setting the same state again has no effect either, but takes longer.
+void showEnabled(QTreeWidgetItem *row, bool enabled)
 {
-    return row->data(AliasColumn, Qt::DisplayRole).toString();
-}
-
-QString protocolNameOf(const QTreeWidgetItem *row)
-{
-    return row->data(ProtocolColumn, Qt::DisplayRole).toString();
-}
-
-QString accountIdOf(const QTreeWidgetItem *row)
-{
-    return row->data(IdColumn, Qt::DisplayRole).toString();
-}
-
-QTreeWidgetItem *createRow(const QString &alias, const QString &protocolName, const QString &accountId,
-                           const QIcon &icon, bool enabled)
-{
-    QTreeWidgetItem *row = new QTreeWidgetItem(QStringList() << alias << protocolName << accountId);
-    row->setIcon(ProtocolColumn, icon);
-    row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
-    return row;
+    const Qt::CheckState state = enabled ? Qt::Checked : Qt::Unchecked;
+    const QVariant shown = row->data(AliasColumn, Qt::CheckStateRole);
+    if (!shown.isValid() || shown.toInt() != state)
+        row->setCheckState(AliasColumn, state);
 }
 
 bool isConfigured(const QString &accountId, const QString &protocolName)
@@ -167,7 +148,9 @@ void KirvAccountsTab::readProtocolAccounts(const QString &proto)
     if (!protocol)
         return;
 
-    const QIcon icon(protocol->getIconPath(0));
+    const QString iconPath = protocol->getIconPath(0);
+    const QIcon icon(iconPath);
+    icons.insert(iconPath, icon);
     QAction *action = new QAction(protocol->getName(), this);
     if (!icon.isNull())
         action->setIcon(icon);
@@ -228,20 +211,21 @@ void KirvAccountsTab::updateAccounts()
         offeredAccounts.clear();
     }
 
-    QHash<QString, QIcon> icons;
     for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
         QTreeWidgetItem *row = accountList->topLevelItem(i);
-        const AccountKey key(accountIdOf(row), protocolNameOf(row));
+        AccountKey key;
+        key.first = accountIdOf(row);
+        key.second = protocolNameOf(row);
         const bool enabled = manager->accountEnabled(key.first, key.second);
         // Intended: a check box that really changes reaches setAccountEnabled(), which refreshes again. The
         // refresh begun last fills and connects the selector; those around it only go on with the boxes.
-        row->setCheckState(AliasColumn, enabled ? Qt::Checked : Qt::Unchecked);
+        showEnabled(row, enabled);
         if (!enabled || refresh != refreshCount)
             continue;
 
         KirvAccountConnection *account = manager->getAccount(key.first, key.second);
         if (account && mainAccountBox && refresh == refreshCount)
-            offerAsMainAccount(account, key, aliasOf(row), icons);
+            offerAsMainAccount(account, key, aliasOf(row));
     }
 
     // Made without a selector too; Qt then warns.
@@ -249,10 +233,8 @@ void KirvAccountsTab::updateAccounts()
         connectSelector(true);
 }
 
-/// Each icon is made once per refresh and shared by its entries, so that its file is read once. When a call of the
-/// host begins another refresh, that one makes the entry.
-void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
-                                         QHash<QString, QIcon> &icons)
+/// When a call of the host begins another refresh, that one makes the entry. The list of entries takes \a key over.
+void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, AccountKey &key, const QString &alias)
 {
     const int refresh = refreshCount;
     const QString iconPath = account->getProtocol()->getIconPath(0);
@@ -264,7 +246,7 @@ void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, const A
 
     const int index = mainAccountBox->count();
     mainAccountBox->insertItem(index, *icon, alias, QVariant::fromValue(static_cast<void *>(account)));
-    offeredAccounts << key;
+    offeredAccounts.append(std::move(key));
     if (account == KirvAccountManager::getInstance()->getMainAccount() && refresh == refreshCount)
         mainAccountBox->setCurrentIndex(index);
 }
@@ -277,7 +259,7 @@ void KirvAccountsTab::removeFromSelector(const QString &accountId, const QString
     // The entry that becomes current in place of a removed one was not chosen by the user.
     connectSelector(false);
     for (int i = offeredAccounts.indexOf(key); i != -1; i = offeredAccounts.indexOf(key)) {
-        offeredAccounts.removeAt(i);
+        offeredAccounts.remove(i);
         mainAccountBox->removeItem(i);
     }
     connectSelector(true);

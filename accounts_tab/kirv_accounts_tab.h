@@ -5,16 +5,16 @@
 #include "accounts_tab/kirv_gui_accounts_tab_export.h"
 
 #include <QHash>
-#include <QList>
+#include <QIcon>
 #include <QPair>
 #include <QString>
+#include <QVector>
 #include <QWidget>
 
 class KirvAccountConnection;
 class KirvEditAccountDialog;
 class QAction;
 class QComboBox;
-class QIcon;
 class QMenu;
 class QShowEvent;
 class QToolButton;
@@ -107,8 +107,7 @@ private:
     void openEditDialog(const QString &accountId, const QString &protocolName);
     void showDisableQuestion(const QString &accountId, const QString &protocolName);
     void showQuestion(const QString &title, const QString &question, const char *answerSlot);
-    void offerAsMainAccount(KirvAccountConnection *account, const AccountKey &key, const QString &alias,
-                            QHash<QString, QIcon> &icons);
+    void offerAsMainAccount(KirvAccountConnection *account, AccountKey &key, const QString &alias);
     void removeFromSelector(const QString &accountId, const QString &protocolName);
     void connectSelector(bool connected);
     void connectCheckBoxes(bool connected);
@@ -134,7 +133,9 @@ private:
     QTreeWidgetItem *rowInQuestion;
     /// The account of each entry of the selector, in its order: finds the entry of an account when the
     /// pointer in it must not be followed any more.
-    QList<AccountKey> offeredAccounts;
+    QVector<AccountKey> offeredAccounts;
+    /// The icon of each path, kept until a protocol with that path is read again.
+    QHash<QString, QIcon> icons;
 };
 
 #endif

@@ -24,7 +24,10 @@ private Q_SLOTS:
     void withoutAMainAccountTheFirstEntryIsCurrent();
     void aRefreshSetsTheCheckBoxes();
     void aRefreshAddsAndRemovesNoRows();
-    void anIconIsReadOncePerProtocolAndRefresh();
+    void anIconIsKeptUntilItsProtocolIsReadAgain();
+    void aChangedIconIsReadOnce();
+    void aRowWithoutACheckBoxGetsOne_data();
+    void aRowWithoutACheckBoxGetsOne();
     void manyRefreshesLeaveOneConnection();
     void severalRowsThatChangeInOneRefresh();
     void everyRowChangesInOneRefresh();
@@ -185,17 +188,60 @@ void TestSelectorRefresh::aRefreshAddsAndRemovesNoRows()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestSelectorRefresh::anIconIsReadOncePerProtocolAndRefresh()
+void TestSelectorRefresh::anIconIsKeptUntilItsProtocolIsReadAgain()
 {
     for (const char *id : { "alice", "bob", "carol" })
         addAccount(id, "XMPP", true);
     addAccount("dave", "IRC", true);
-    addAccount("erin", "IRC", true);
     fixture->showFilledPage();
     fixture->page()->updateAccounts();
-    QStringList reads = kirvRecordedIconReads();
-    reads.sort();
-    QCOMPARE(reads, (QStringList { "/icons/IRC.recorded", "/icons/XMPP.recorded" }));
+    fixture->page()->updateAccounts();
+    QCOMPARE(kirvRecordedIconReads(), QStringList());
+
+    fixture->page()->readProtocolAccounts("XMPP");
+    fixture->page()->updateAccounts();
+    QCOMPARE(kirvRecordedIconReads(), QStringList { "/icons/XMPP.recorded" });
+    const QIcon readAgain = fixture->addMenu()->actions().last()->icon();
+    const QComboBox *selector = fixture->selector();
+    for (int i = 0; i < selector->count(); ++i) {
+        const bool isXmpp = selector->itemIcon(i).name() == "/icons/XMPP.recorded";
+        QCOMPARE(selector->itemIcon(i).cacheKey() == readAgain.cacheKey(), isXmpp);
+    }
+}
+
+void TestSelectorRefresh::aChangedIconIsReadOnce()
+{
+    for (const char *id : { "alice", "bob", "carol" })
+        addAccount(id, "XMPP", true);
+    fixture->showFilledPage();
+    fixture->xmpp->iconPath = "/icons/other.recorded";
+    fixture->page()->updateAccounts();
+    fixture->page()->updateAccounts();
+    QCOMPARE(kirvRecordedIconReads(), QStringList { "/icons/other.recorded" });
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(fixture->selector()->itemIcon(i).name(), QString("/icons/other.recorded"));
+    QCOMPARE(fixture->host.calls({ "getIconPath" }).size(), 6);
+}
+
+void TestSelectorRefresh::aRowWithoutACheckBoxGetsOne_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("enabled account") << true;
+    QTest::newRow("disabled account") << false;
+}
+
+void TestSelectorRefresh::aRowWithoutACheckBoxGetsOne()
+{
+    QFETCH(bool, enabled);
+    addAccount("alice", "XMPP", enabled);
+    fixture->showFilledPage();
+    fixture->list()->blockSignals(true);
+    fixture->row("alice")->setData(0, Qt::CheckStateRole, QVariant());
+    fixture->list()->blockSignals(false);
+    fixture->page()->updateAccounts();
+    QVERIFY(fixture->row("alice")->data(0, Qt::CheckStateRole).isValid());
+    QCOMPARE(fixture->isChecked("alice"), enabled);
+    verifyAgreement();
 }
 
 void TestSelectorRefresh::manyRefreshesLeaveOneConnection()
