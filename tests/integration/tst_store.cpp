@@ -99,7 +99,7 @@ int runAsOtherProcess(const QStringList &arguments)
 
 }
 
-class StoreTest : public QObject {
+class tst_Store : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -936,7 +936,7 @@ int main(int argc, char *argv[])
     if (arguments.size() == 3
         && (arguments.at(1) == QLatin1String("--hold") || arguments.at(1) == QLatin1String("--try")))
         return runAsOtherProcess(arguments);
-    StoreTest test;
+    tst_Store test;
     return QTest::qExec(&test, argc, argv);
 }
 

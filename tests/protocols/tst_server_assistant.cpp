@@ -75,7 +75,7 @@ QString longAddress(int length)
 } // namespace
 
 /// The window for a request to a server, whatever the request is.
-class TestServerAssistant : public QObject {
+class tst_ServerAssistant : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -140,20 +140,20 @@ private:
     std::unique_ptr<KirvServerAssistant> window;
 };
 
-void TestServerAssistant::init()
+void tst_ServerAssistant::init()
 {
     request = std::make_unique<KirvFakeServerRequest>();
     request->isHeld = true;
     window = std::make_unique<KirvServerAssistant>(request.get(), nullptr);
 }
 
-void TestServerAssistant::cleanup()
+void tst_ServerAssistant::cleanup()
 {
     window.reset();
     request.reset();
 }
 
-void TestServerAssistant::show(const Step &first)
+void tst_ServerAssistant::show(const Step &first)
 {
     Q_EMIT request->stepReady(first);
     window->show();
@@ -162,7 +162,7 @@ void TestServerAssistant::show(const Step &first)
     QCoreApplication::processEvents();
 }
 
-void TestServerAssistant::aStepIsShownWhole()
+void tst_ServerAssistant::aStepIsShownWhole()
 {
     Step whole = step();
     whole.configurations = QStringList { "First", "Second" };
@@ -190,7 +190,7 @@ void TestServerAssistant::aStepIsShownWhole()
     }
 }
 
-void TestServerAssistant::whatAStepLacksIsHidden()
+void tst_ServerAssistant::whatAStepLacksIsHidden()
 {
     Step whole = step();
     whole.configurations = QStringList { "First" };
@@ -205,7 +205,7 @@ void TestServerAssistant::whatAStepLacksIsHidden()
     QVERIFY(button("Close")->isDefault());
 }
 
-void TestServerAssistant::textsAreShownAsTheyAre()
+void tst_ServerAssistant::textsAreShownAsTheyAre()
 {
     const QString markup = "<b>bold</b> <img src='file:///etc/passwd'> &amp; & one\ntwo";
     Step marked = step({ KirvField::textEdit(markup, "one", QString(), markup) });
@@ -224,7 +224,7 @@ void TestServerAssistant::textsAreShownAsTheyAre()
                  qPrintable(label->objectName()));
 }
 
-void TestServerAssistant::longWordsDoNotWidenTheWindow_data()
+void tst_ServerAssistant::longWordsDoNotWidenTheWindow_data()
 {
     QTest::addColumn<QString>("place");
     QTest::addColumn<int>("length");
@@ -235,7 +235,7 @@ void TestServerAssistant::longWordsDoNotWidenTheWindow_data()
     }
 }
 
-void TestServerAssistant::longWordsDoNotWidenTheWindow()
+void tst_ServerAssistant::longWordsDoNotWidenTheWindow()
 {
     QFETCH(QString, place);
     QFETCH(int, length);
@@ -281,7 +281,7 @@ void TestServerAssistant::longWordsDoNotWidenTheWindow()
     QVERIFY(button("Close")->isVisible() && !button("Close")->visibleRegion().isEmpty());
 }
 
-void TestServerAssistant::aLongStepScrolls()
+void tst_ServerAssistant::aLongStepScrolls()
 {
     QList<KirvField> fields;
     for (int i = 0; i < 100; ++i)
@@ -304,7 +304,7 @@ void TestServerAssistant::aLongStepScrolls()
     QVERIFY(area->viewport()->rect().contains(end));
 }
 
-void TestServerAssistant::theWindowGrowsWithItsStep()
+void tst_ServerAssistant::theWindowGrowsWithItsStep()
 {
     show(step({ line("one") }));
     const int height = window->height();
@@ -320,7 +320,7 @@ void TestServerAssistant::theWindowGrowsWithItsStep()
     QVERIFY(text->document()->size().height() <= text->height());
 }
 
-void TestServerAssistant::whatWasTypedIsSubmitted()
+void tst_ServerAssistant::whatWasTypedIsSubmitted()
 {
     show(step());
     QTest::keyClicks(edit("one"), "first");
@@ -331,14 +331,14 @@ void TestServerAssistant::whatWasTypedIsSubmitted()
     QCOMPARE(typed("two"), QString("second"));
 }
 
-void TestServerAssistant::whatWasTypedStaysWhenTheServerRefuses_data()
+void tst_ServerAssistant::whatWasTypedStaysWhenTheServerRefuses_data()
 {
     QTest::addColumn<QString>("reply");
     QTest::newRow("failed") << "failed";
     QTest::newRow("input rejected") << "rejected";
 }
 
-void TestServerAssistant::whatWasTypedStaysWhenTheServerRefuses()
+void tst_ServerAssistant::whatWasTypedStaysWhenTheServerRefuses()
 {
     QFETCH(QString, reply);
     show(step());
@@ -356,7 +356,7 @@ void TestServerAssistant::whatWasTypedStaysWhenTheServerRefuses()
     QVERIFY(button("Next")->isEnabled() && edit("one")->isEnabled());
 }
 
-void TestServerAssistant::goingBackPassesOnWhatWasTyped()
+void tst_ServerAssistant::goingBackPassesOnWhatWasTyped()
 {
     Step second = step();
     second.canGoBack = true;
@@ -368,7 +368,7 @@ void TestServerAssistant::goingBackPassesOnWhatWasTyped()
     QCOMPARE(typed("two"), QString("typed"));
 }
 
-void TestServerAssistant::aConfigurationFillsTheFields()
+void tst_ServerAssistant::aConfigurationFillsTheFields()
 {
     Step first = step();
     first.configurations = QStringList { "First", "Second" };
@@ -380,7 +380,7 @@ void TestServerAssistant::aConfigurationFillsTheFields()
     QCOMPARE(window->focusWidget(), box);
 }
 
-void TestServerAssistant::theConfigurationStaysChosen()
+void tst_ServerAssistant::theConfigurationStaysChosen()
 {
     Step first = step();
     first.configurations = QStringList { "First", "Second" };
@@ -394,7 +394,7 @@ void TestServerAssistant::theConfigurationStaysChosen()
     QCOMPARE(child<QComboBox>("Configuration")->currentText(), QString("Other"));
 }
 
-void TestServerAssistant::theKeyboardStartsInTheFirstField()
+void tst_ServerAssistant::theKeyboardStartsInTheFirstField()
 {
     show(step());
     QCOMPARE(window->focusWidget(), edit("one"));
@@ -404,7 +404,7 @@ void TestServerAssistant::theKeyboardStartsInTheFirstField()
     QCOMPARE(window->focusWidget(), button("Next"));
 }
 
-void TestServerAssistant::theKeyboardReturnsAfterWaiting()
+void tst_ServerAssistant::theKeyboardReturnsAfterWaiting()
 {
     show(step());
     edit("two")->setFocus();
@@ -415,7 +415,7 @@ void TestServerAssistant::theKeyboardReturnsAfterWaiting()
     QVERIFY(edit("two")->hasFocus());
 }
 
-void TestServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
+void tst_ServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
 {
     show(step());
     edit("two")->setFocus();
@@ -424,14 +424,14 @@ void TestServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
     QCOMPARE(window->focusWidget(), edit("two"));
 }
 
-void TestServerAssistant::theKeyboardGoesToTheFirstWrongField_data()
+void tst_ServerAssistant::theKeyboardGoesToTheFirstWrongField_data()
 {
     QTest::addColumn<bool>("isRefusedByServer");
     QTest::newRow("before it was sent") << false;
     QTest::newRow("by the server") << true;
 }
 
-void TestServerAssistant::theKeyboardGoesToTheFirstWrongField()
+void tst_ServerAssistant::theKeyboardGoesToTheFirstWrongField()
 {
     QFETCH(bool, isRefusedByServer);
     KirvField year = line("year");
@@ -451,7 +451,7 @@ void TestServerAssistant::theKeyboardGoesToTheFirstWrongField()
         QVERIFY2(window->findChild<QLabel *>(hint)->isVisible(), hint);
 }
 
-void TestServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
+void tst_ServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
 {
     show(step());
     button("Next")->setFocus();
@@ -462,7 +462,7 @@ void TestServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
     QCOMPARE(request->calls, QStringList({ "submit", "submit" }));
 }
 
-void TestServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
+void tst_ServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
 {
     show(step());
     edit("two")->setFocus();
@@ -471,7 +471,7 @@ void TestServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
     QCOMPARE(window->focusWidget(), edit("two"));
 }
 
-void TestServerAssistant::providersAreOffered()
+void tst_ServerAssistant::providersAreOffered()
 {
     window->setProviders({ { "chat.example", "Chat", "https://chat.example/", QDate(2026, 1, 2) },
                            { "talk.example", QString(), "a leaflet", QDate(2025, 3, 4) } });
@@ -499,7 +499,7 @@ void TestServerAssistant::providersAreOffered()
     QVERIFY(edit("two")->completer());
 }
 
-void TestServerAssistant::providersAreOfferedFromTheKeyboard()
+void tst_ServerAssistant::providersAreOfferedFromTheKeyboard()
 {
     window->setProviders({ { "chat.example", QString(), "a leaflet", QDate(2026, 1, 2) },
                            { "talk.example", QString(), "a leaflet", QDate(2026, 1, 2) } });
@@ -512,7 +512,7 @@ void TestServerAssistant::providersAreOfferedFromTheKeyboard()
     QVERIFY(edit("one")->accessibleDescription().contains("Down"));
 }
 
-void TestServerAssistant::withoutProvidersNothingIsOffered()
+void tst_ServerAssistant::withoutProvidersNothingIsOffered()
 {
     Step first = step();
     first.providerField = "one";
@@ -524,7 +524,7 @@ void TestServerAssistant::withoutProvidersNothingIsOffered()
     QVERIFY(!edit("one")->completer() && !edit("two")->completer());
 }
 
-void TestServerAssistant::nothingCanBeSentTwice()
+void tst_ServerAssistant::nothingCanBeSentTwice()
 {
     show(step());
     Q_EMIT request->waiting("Sending…");
@@ -536,14 +536,14 @@ void TestServerAssistant::nothingCanBeSentTwice()
     QVERIFY(window->isVisible());
 }
 
-void TestServerAssistant::enterSubmits()
+void tst_ServerAssistant::enterSubmits()
 {
     show(step());
     QTest::keyClick(edit("one"), Qt::Key_Return);
     QCOMPARE(request->calls, QStringList { "submit" });
 }
 
-void TestServerAssistant::dangerousCommandsAreNotTheDefault()
+void tst_ServerAssistant::dangerousCommandsAreNotTheDefault()
 {
     Step dangerous = step({});
     dangerous.isDangerous = true;
@@ -561,7 +561,7 @@ void TestServerAssistant::dangerousCommandsAreNotTheDefault()
     QVERIFY(button("Next")->isDefault() && !button("Close")->isDefault());
 }
 
-void TestServerAssistant::mnemonicsDoNotClash()
+void tst_ServerAssistant::mnemonicsDoNotClash()
 {
     Step whole = step({ line("one"), KirvField::checkBox("Remember", "two", false, QString()) });
     whole.command = "Register";
@@ -578,7 +578,7 @@ void TestServerAssistant::mnemonicsDoNotClash()
     QCOMPARE(keys.removeDuplicates(), 0);
 }
 
-void TestServerAssistant::picturesAreShown()
+void tst_ServerAssistant::picturesAreShown()
 {
     Step shown = step();
     shown.pictures = { { "Large", png({ 3000, 1000 }), QString() },
@@ -594,7 +594,7 @@ void TestServerAssistant::picturesAreShown()
     QVERIFY(!child<QWidget>("Picture1"));
 }
 
-void TestServerAssistant::picturesAreBounded()
+void tst_ServerAssistant::picturesAreBounded()
 {
     Step shown = step();
     for (int i = 0; i < 100; ++i)
@@ -605,7 +605,7 @@ void TestServerAssistant::picturesAreBounded()
     QVERIFY(!child<QWidget>("Picture5"));
 }
 
-void TestServerAssistant::hugePicturesBlockNothing_data()
+void tst_ServerAssistant::hugePicturesBlockNothing_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::newRow("picture of 16,000 x 16,000 pixels") << blank({ 16000, 16000 });
@@ -615,7 +615,7 @@ void TestServerAssistant::hugePicturesBlockNothing_data()
 }
 
 /// Whatever a server sends as a picture is read beside the window, or refused before it is decoded.
-void TestServerAssistant::hugePicturesBlockNothing()
+void tst_ServerAssistant::hugePicturesBlockNothing()
 {
     QFETCH(QByteArray, data);
     show(step());
@@ -629,7 +629,7 @@ void TestServerAssistant::hugePicturesBlockNothing()
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-void TestServerAssistant::picturesAreReadOutsideTheGuiThread()
+void tst_ServerAssistant::picturesAreReadOutsideTheGuiThread()
 {
     Step shown = step();
     shown.pictures = { { "Picture", png({ 60, 20 }), QString() } };
@@ -651,7 +651,7 @@ void TestServerAssistant::picturesAreReadOutsideTheGuiThread()
     QCoreApplication::processEvents();
 }
 
-void TestServerAssistant::anOutcomeStays()
+void tst_ServerAssistant::anOutcomeStays()
 {
     show(step());
     QSignalSpy triggered(window.get(), &KirvServerAssistant::outcomeCommandTriggered);
@@ -669,7 +669,7 @@ void TestServerAssistant::anOutcomeStays()
     QVERIFY(!button("Next")->isVisible() && button("Close")->isDefault());
 }
 
-void TestServerAssistant::theRequestMayGoFirst()
+void tst_ServerAssistant::theRequestMayGoFirst()
 {
     Step second = step();
     second.canGoBack = true;
@@ -683,5 +683,5 @@ void TestServerAssistant::theRequestMayGoFirst()
     QVERIFY(!window->isVisible());
 }
 
-QTEST_MAIN(TestServerAssistant)
+QTEST_MAIN(tst_ServerAssistant)
 #include "tst_server_assistant.moc"

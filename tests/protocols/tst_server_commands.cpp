@@ -30,7 +30,7 @@ const KirvAccountKey romeoKey { "romeo@example.org", "Alpha" };
 } // namespace
 
 /// The commands that lead to a server, and what their results do to the accounts.
-class TestServerCommands : public QObject {
+class tst_ServerCommands : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -97,7 +97,7 @@ private:
     std::unique_ptr<QSignalSpy> successes;
 };
 
-void TestServerCommands::init()
+void tst_ServerCommands::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     store = std::make_unique<KirvStore>();
@@ -117,7 +117,7 @@ void TestServerCommands::init()
     alpha = addProtocol("Alpha");
 }
 
-void TestServerCommands::cleanup()
+void tst_ServerCommands::cleanup()
 {
     unavailable.reset();
     problems.reset();
@@ -132,7 +132,7 @@ void TestServerCommands::cleanup()
     created = 0;
 }
 
-KirvFakeProtocol *TestServerCommands::addProtocol(const QString &name, bool offers)
+KirvFakeProtocol *tst_ServerCommands::addProtocol(const QString &name, bool offers)
 {
     auto *protocol = new KirvFakeProtocol(name);
     if (offers)
@@ -144,7 +144,7 @@ KirvFakeProtocol *TestServerCommands::addProtocol(const QString &name, bool offe
     return plugins->addProtocol(protocol) ? protocol : nullptr;
 }
 
-KirvFakeServerRequest *TestServerCommands::createRequest(const QString &protocol)
+KirvFakeServerRequest *tst_ServerCommands::createRequest(const QString &protocol)
 {
     KirvServerRequest::Step step;
     step.text = "Fill it in.";
@@ -158,7 +158,7 @@ KirvFakeServerRequest *TestServerCommands::createRequest(const QString &protocol
 }
 
 /// An account that is logged in.
-KirvAccount *TestServerCommands::addAccount()
+KirvAccount *tst_ServerCommands::addAccount()
 {
     KirvAccountRecord record;
     record.key = romeoKey;
@@ -170,7 +170,7 @@ KirvAccount *TestServerCommands::addAccount()
 }
 
 /// Opens the window of the change and submits it, so that a reply of the server is awaited.
-void TestServerCommands::changePassword()
+void tst_ServerCommands::changePassword()
 {
     commands->run(romeoKey, "act", window.get());
     QVERIFY(request() && Assistant::window());
@@ -178,7 +178,7 @@ void TestServerCommands::changePassword()
     request()->canBeCancelled = false;
 }
 
-void TestServerCommands::theSignalOpensTheOnlyRegistration()
+void tst_ServerCommands::theSignalOpensTheOnlyRegistration()
 {
     addProtocol("Beta", false);
     registerAccount();
@@ -187,7 +187,7 @@ void TestServerCommands::theSignalOpensTheOnlyRegistration()
     QVERIFY(!Assistant::window()->isModal());
 }
 
-void TestServerCommands::theSignalLetsChooseAmongSeveral()
+void tst_ServerCommands::theSignalLetsChooseAmongSeveral()
 {
     addProtocol("Beta");
     registerAccount();
@@ -201,7 +201,7 @@ void TestServerCommands::theSignalLetsChooseAmongSeveral()
     QVERIFY(Assistant::window() && request("Beta") && !request());
 }
 
-void TestServerCommands::theSignalNamesAProtocol()
+void tst_ServerCommands::theSignalNamesAProtocol()
 {
     addProtocol("Beta");
     plugins->broadcast("register_account", { KirvArg(QString("Beta")) });
@@ -209,7 +209,7 @@ void TestServerCommands::theSignalNamesAProtocol()
     QVERIFY(!window->findChild<QDialog *>("RegistrationChooser"));
 }
 
-void TestServerCommands::withoutAProtocolItIsUnavailable_data()
+void tst_ServerCommands::withoutAProtocolItIsUnavailable_data()
 {
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QString>("part");
@@ -221,7 +221,7 @@ void TestServerCommands::withoutAProtocolItIsUnavailable_data()
                                                  << "Gamma";
 }
 
-void TestServerCommands::withoutAProtocolItIsUnavailable()
+void tst_ServerCommands::withoutAProtocolItIsUnavailable()
 {
     QFETCH(QString, argument);
     QFETCH(QString, part);
@@ -238,13 +238,13 @@ void TestServerCommands::withoutAProtocolItIsUnavailable()
     QVERIFY(!Assistant::window());
 }
 
-void TestServerCommands::otherSignalsAreIgnored()
+void tst_ServerCommands::otherSignalsAreIgnored()
 {
     plugins->broadcast("something_else", {});
     QVERIFY(!Assistant::window() && unavailable->isEmpty());
 }
 
-void TestServerCommands::aCommandOpensOneWindow()
+void tst_ServerCommands::aCommandOpensOneWindow()
 {
     QVERIFY(addAccount());
     registerAccount();
@@ -261,14 +261,14 @@ void TestServerCommands::aCommandOpensOneWindow()
     QCOMPARE(created, 3);
 }
 
-void TestServerCommands::theRegisteredAccountIsAdded_data()
+void tst_ServerCommands::theRegisteredAccountIsAdded_data()
 {
     QTest::addColumn<bool>("isRemembered");
     QTest::newRow("password stored") << true;
     QTest::newRow("password not stored") << false;
 }
 
-void TestServerCommands::theRegisteredAccountIsAdded()
+void tst_ServerCommands::theRegisteredAccountIsAdded()
 {
     QFETCH(bool, isRemembered);
     registerAccount();
@@ -286,7 +286,7 @@ void TestServerCommands::theRegisteredAccountIsAdded()
     QTRY_VERIFY(account->isOnline());
 }
 
-void TestServerCommands::aKnownAccountIsNotAddedTwice()
+void tst_ServerCommands::aKnownAccountIsNotAddedTwice()
 {
     addAccount();
     registerAccount();
@@ -299,7 +299,7 @@ void TestServerCommands::aKnownAccountIsNotAddedTwice()
     QVERIFY(!Assistant::window() && !request());
 }
 
-void TestServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
+void tst_ServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
 {
     registerAccount();
     store->close();
@@ -315,7 +315,7 @@ void TestServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
     QVERIFY(!Assistant::window() && accounts->find(newKey));
 }
 
-void TestServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
+void tst_ServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
 {
     registerAccount();
     request()->succeedWith(Result::AccountRegistered, KirvLogin());
@@ -323,7 +323,7 @@ void TestServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
     QVERIFY(accounts->accounts().isEmpty() && !Assistant::next()->isVisible());
 }
 
-void TestServerCommands::closingTheWindowCancelsTheRegistration()
+void tst_ServerCommands::closingTheWindowCancelsTheRegistration()
 {
     registerAccount();
     press(Assistant::next());
@@ -331,7 +331,7 @@ void TestServerCommands::closingTheWindowCancelsTheRegistration()
     QVERIFY(!Assistant::window() && !request());
 }
 
-void TestServerCommands::theNewPasswordIsStored()
+void tst_ServerCommands::theNewPasswordIsStored()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -350,7 +350,7 @@ void TestServerCommands::theNewPasswordIsStored()
     QVERIFY(!Assistant::window() && !request() && successes->isEmpty());
 }
 
-void TestServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
+void tst_ServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -371,7 +371,7 @@ void TestServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
     QCOMPARE(logIns(), 1);
 }
 
-void TestServerCommands::closingTheWindowKeepsTheNewPassword()
+void tst_ServerCommands::closingTheWindowKeepsTheNewPassword()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -385,14 +385,14 @@ void TestServerCommands::closingTheWindowKeepsTheNewPassword()
     QVERIFY(successes->first().first().toString().contains("is changed on its server"));
 }
 
-void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain_data()
+void tst_ServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain_data()
 {
     QTest::addColumn<bool>("isDestroyed");
     QTest::newRow("closed") << false;
     QTest::newRow("destroyed") << true;
 }
 
-void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
+void tst_ServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
 {
     QFETCH(bool, isDestroyed);
     KirvAccount *account = addAccount();
@@ -410,7 +410,7 @@ void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
     QVERIFY(Assistant::message().contains("is changed") && !account->hasUnstoredPassword());
 }
 
-void TestServerCommands::aFailureAfterClosingIsReported()
+void tst_ServerCommands::aFailureAfterClosingIsReported()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -423,7 +423,7 @@ void TestServerCommands::aFailureAfterClosingIsReported()
     QCOMPARE(account->record().password, QString("old"));
 }
 
-void TestServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
+void tst_ServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
 {
     addAccount();
     changePassword();
@@ -435,7 +435,7 @@ void TestServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
     QVERIFY(Assistant::window() && problems->isEmpty());
 }
 
-void TestServerCommands::theDeletedAccountIsRemoved()
+void tst_ServerCommands::theDeletedAccountIsRemoved()
 {
     addAccount();
     commands->run(romeoKey, "act", window.get());
@@ -444,7 +444,7 @@ void TestServerCommands::theDeletedAccountIsRemoved()
     QVERIFY(store->readAccounts().isEmpty());
 }
 
-void TestServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
+void tst_ServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
 {
     addAccount();
     commands->run(romeoKey, "act", window.get());
@@ -458,14 +458,14 @@ void TestServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
     QVERIFY(!accounts->find(romeoKey) && !Assistant::window());
 }
 
-void TestServerCommands::windowsGoWithTheirProtocol_data()
+void tst_ServerCommands::windowsGoWithTheirProtocol_data()
 {
     QTest::addColumn<bool>("isRegistration");
     QTest::newRow("registration") << true;
     QTest::newRow("action") << false;
 }
 
-void TestServerCommands::windowsGoWithTheirProtocol()
+void tst_ServerCommands::windowsGoWithTheirProtocol()
 {
     QFETCH(bool, isRegistration);
     addAccount();
@@ -480,7 +480,7 @@ void TestServerCommands::windowsGoWithTheirProtocol()
     QVERIFY(wasFirst);
 }
 
-void TestServerCommands::windowsGoWithTheirAccount()
+void tst_ServerCommands::windowsGoWithTheirAccount()
 {
     KirvAccount *account = addAccount();
     registerAccount();
@@ -492,7 +492,7 @@ void TestServerCommands::windowsGoWithTheirAccount()
     QVERIFY(Assistant::window() && !Assistant::window()->isModal());
 }
 
-void TestServerCommands::windowsGoWhileAModalChildIsOpen()
+void tst_ServerCommands::windowsGoWhileAModalChildIsOpen()
 {
     registerAccount();
     const QPointer<KirvServerAssistant> open = Assistant::window();
@@ -503,7 +503,7 @@ void TestServerCommands::windowsGoWhileAModalChildIsOpen()
     QTRY_VERIFY(!open && !child);
 }
 
-void TestServerCommands::theWindowMayBeDestroyedWithItsParent()
+void tst_ServerCommands::theWindowMayBeDestroyedWithItsParent()
 {
     addAccount();
     auto parent = std::make_unique<QWidget>();
@@ -515,7 +515,7 @@ void TestServerCommands::theWindowMayBeDestroyedWithItsParent()
     QVERIFY(Assistant::window() && request());
 }
 
-void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
+void tst_ServerCommands::theMenuHasTheActionsOfTheProtocol()
 {
     KirvAccount *account = addAccount();
     QVERIFY(KirvAccountActionsMenu::isUseful(romeoKey, *commands));
@@ -537,7 +537,7 @@ void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
     QVERIFY(menu.actions().isEmpty());
 }
 
-void TestServerCommands::unknownActionsAreIgnored()
+void tst_ServerCommands::unknownActionsAreIgnored()
 {
     addAccount();
     commands->run(romeoKey, "none", window.get());
@@ -545,5 +545,5 @@ void TestServerCommands::unknownActionsAreIgnored()
     QVERIFY(!Assistant::window());
 }
 
-QTEST_MAIN(TestServerCommands)
+QTEST_MAIN(tst_ServerCommands)
 #include "tst_server_commands.moc"

@@ -46,7 +46,7 @@ KirvTlsIrcServer::Script external(const QByteArray &judgement, const QByteArray 
 } // namespace
 
 /// Logging in with a certificate of one's own.
-class TestIrcClientCertificate : public QObject {
+class tst_IrcClientCertificate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -85,7 +85,7 @@ private:
     std::unique_ptr<QSignalSpy> notices;
 };
 
-void TestIrcClientCertificate::initTestCase()
+void tst_IrcClientCertificate::initTestCase()
 {
     const QStringList ec { "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1" };
     QVERIFY(createCertificate(path("server.pem"), path("server.key"), ec));
@@ -106,18 +106,18 @@ void TestIrcClientCertificate::initTestCase()
     QCOMPARE(mkfifo(QFile::encodeName(path("pipe.key")), 0600), 0);
 }
 
-void TestIrcClientCertificate::init()
+void tst_IrcClientCertificate::init()
 {
     connection = std::make_unique<KirvIrcConnection>();
     notices = std::make_unique<QSignalSpy>(connection.get(), &KirvConnection::noticeReceived);
 }
 
-void TestIrcClientCertificate::serve(KirvTlsIrcServer::Script script)
+void tst_IrcClientCertificate::serve(KirvTlsIrcServer::Script script)
 {
     server = std::make_unique<KirvTlsIrcServer>(path("server.pem"), path("server.key"), std::move(script));
 }
 
-void TestIrcClientCertificate::logIn(const Values &values)
+void tst_IrcClientCertificate::logIn(const Values &values)
 {
     Values all = values;
     all.insert("server", "127.0.0.1");
@@ -136,7 +136,7 @@ void TestIrcClientCertificate::logIn(const Values &values)
     connection->logIn(login, { QStringLiteral("available"), QString(), QString() });
 }
 
-void TestIrcClientCertificate::certificateLogsIn_data()
+void tst_IrcClientCertificate::certificateLogsIn_data()
 {
     QTest::addColumn<QString>("certificate");
     QTest::addColumn<QString>("key");
@@ -155,7 +155,7 @@ void TestIrcClientCertificate::certificateLogsIn_data()
                                              << "sasl";
 }
 
-void TestIrcClientCertificate::certificateLogsIn()
+void tst_IrcClientCertificate::certificateLogsIn()
 {
     QFETCH(QString, certificate);
     QFETCH(QString, key);
@@ -173,7 +173,7 @@ void TestIrcClientCertificate::certificateLogsIn()
     QVERIFY(notices->isEmpty());
 }
 
-void TestIrcClientCertificate::unknownCertificateIsRefused()
+void tst_IrcClientCertificate::unknownCertificateIsRefused()
 {
     serve(external("904"));
     logIn(client("ec"));
@@ -182,7 +182,7 @@ void TestIrcClientCertificate::unknownCertificateIsRefused()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcClientCertificate::otherMechanismsAreNotUsedInstead()
+void tst_IrcClientCertificate::otherMechanismsAreNotUsedInstead()
 {
     serve(external("903", "sasl=PLAIN"));
     Values values = client("ec");
@@ -192,7 +192,7 @@ void TestIrcClientCertificate::otherMechanismsAreNotUsedInstead()
     QVERIFY(!server->receivedLines().join('\n').contains("AUTHENTICATE"));
 }
 
-void TestIrcClientCertificate::unusableFilesAreTold_data()
+void tst_IrcClientCertificate::unusableFilesAreTold_data()
 {
     QTest::addColumn<Values>("values");
     QTest::addColumn<QString>("named");
@@ -213,7 +213,7 @@ void TestIrcClientCertificate::unusableFilesAreTold_data()
     QTest::newRow("no encryption") << plain << "encryption";
 }
 
-void TestIrcClientCertificate::unusableFilesAreTold()
+void tst_IrcClientCertificate::unusableFilesAreTold()
 {
     QFETCH(Values, values);
     QFETCH(QString, named);
@@ -225,7 +225,7 @@ void TestIrcClientCertificate::unusableFilesAreTold()
     QVERIFY(server->receivedLines().isEmpty());
 }
 
-void TestIrcClientCertificate::keyOfAnotherCertificateIsTold()
+void tst_IrcClientCertificate::keyOfAnotherCertificateIsTold()
 {
     serve(external("903"));
     logIn({ { "client_certificate", path("ec.pem") }, { "client_key", path("rsa.key") } });
@@ -233,7 +233,7 @@ void TestIrcClientCertificate::keyOfAnotherCertificateIsTold()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcClientCertificate::keyThatOthersCanReadIsTold_data()
+void tst_IrcClientCertificate::keyThatOthersCanReadIsTold_data()
 {
     QTest::addColumn<int>("permissions");
     QTest::addColumn<bool>("isTold");
@@ -243,7 +243,7 @@ void TestIrcClientCertificate::keyThatOthersCanReadIsTold_data()
     QTest::newRow("all read") << (owner | QFile::ReadOther) << true;
 }
 
-void TestIrcClientCertificate::keyThatOthersCanReadIsTold()
+void tst_IrcClientCertificate::keyThatOthersCanReadIsTold()
 {
     QFETCH(int, permissions);
     QFETCH(bool, isTold);
@@ -260,7 +260,7 @@ void TestIrcClientCertificate::keyThatOthersCanReadIsTold()
     QVERIFY(!isTold || notices->at(0).at(0).toString().contains("copy.key"));
 }
 
-void TestIrcClientCertificate::protectionOfTheSessionIsKnown()
+void tst_IrcClientCertificate::protectionOfTheSessionIsKnown()
 {
     serve(external("903"));
     QCOMPARE(connection->securityText(), QString());
@@ -276,7 +276,7 @@ void TestIrcClientCertificate::protectionOfTheSessionIsKnown()
     QVERIFY(connection->securityText().endsWith("SASL PLAIN"));
 }
 
-void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data()
+void tst_IrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data()
 {
     QTest::addColumn<QString>("own");
     QTest::addColumn<QString>("ofSystem");
@@ -289,7 +289,7 @@ void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data
                                << "ec.pem" << false;
 }
 
-void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
+void tst_IrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
 {
     QFETCH(QString, own);
     QFETCH(QString, ofSystem);
@@ -305,7 +305,7 @@ void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
     connection.reset(); // it ends before the certificates do
 }
 
-void TestIrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesNotConnect()
+void tst_IrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesNotConnect()
 {
     KirvSystemCertificates system([&] { return QSslCertificate::fromPath(path("server.pem")); });
     connection = std::make_unique<KirvIrcConnection>(KirvClock::system(), nullptr, system);
@@ -320,5 +320,5 @@ void TestIrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesN
     connection.reset();
 }
 
-QTEST_GUILESS_MAIN(TestIrcClientCertificate)
+QTEST_GUILESS_MAIN(tst_IrcClientCertificate)
 #include "tst_irc_client_certificate.moc"

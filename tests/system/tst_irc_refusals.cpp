@@ -35,7 +35,7 @@ QByteArray welcome(const QByteArray &line)
 } // namespace
 
 /// What a server says when it does not want an account, or not now, and what follows from it.
-class TestIrcRefusals : public QObject {
+class tst_IrcRefusals : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -73,14 +73,14 @@ private:
 
 #define TRY_STATE(expected) QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::expected, patience)
 
-void TestIrcRefusals::init()
+void tst_IrcRefusals::init()
 {
     connection = std::make_unique<KirvIrcConnection>(clock);
     failures = std::make_unique<QSignalSpy>(connection.get(), &KirvConnection::failed);
     notices = std::make_unique<QSignalSpy>(connection.get(), &KirvConnection::noticeReceived);
 }
 
-void TestIrcRefusals::cleanup()
+void tst_IrcRefusals::cleanup()
 {
     notices.reset();
     failures.reset();
@@ -88,12 +88,12 @@ void TestIrcRefusals::cleanup()
     server.reset();
 }
 
-void TestIrcRefusals::serve(KirvScriptedIrcServer::Script script)
+void tst_IrcRefusals::serve(KirvScriptedIrcServer::Script script)
 {
     server = std::make_unique<KirvScriptedIrcServer>(std::move(script));
 }
 
-void TestIrcRefusals::logIn(const QString &passwordUse)
+void tst_IrcRefusals::logIn(const QString &passwordUse)
 {
     const QMap<QString, QString> values { { "server", "127.0.0.1" },
                                           { "port", QString::number(server->serverPort()) },
@@ -110,7 +110,7 @@ void TestIrcRefusals::logIn(const QString &passwordUse)
     connection->logIn(login, { QStringLiteral("available"), QString(), QString() });
 }
 
-void TestIrcRefusals::refusalsAreFinalOrPass_data()
+void tst_IrcRefusals::refusalsAreFinalOrPass_data()
 {
     QTest::addColumn<QByteArray>("lines");
     QTest::addColumn<bool>("isFinal");
@@ -136,7 +136,7 @@ void TestIrcRefusals::refusalsAreFinalOrPass_data()
         << QByteArray(":server 464 alice :Password incorrect\r\nERROR :Closing Link: (Bad Password)\r\n") << true;
 }
 
-void TestIrcRefusals::refusalsAreFinalOrPass()
+void tst_IrcRefusals::refusalsAreFinalOrPass()
 {
     QFETCH(QByteArray, lines);
     QFETCH(bool, isFinal);
@@ -148,14 +148,14 @@ void TestIrcRefusals::refusalsAreFinalOrPass()
     QVERIFY(lastFailure().detail().contains(QLatin1String("Closing Link")));
 }
 
-void TestIrcRefusals::reasonOfABanIsTold_data()
+void tst_IrcRefusals::reasonOfABanIsTold_data()
 {
     QTest::addColumn<QByteArray>("between");
     QTest::newRow("at once") << QByteArray();
     QTest::newRow("after a notice") << QByteArray(":server NOTICE alice :Bye\r\n");
 }
 
-void TestIrcRefusals::reasonOfABanIsTold()
+void tst_IrcRefusals::reasonOfABanIsTold()
 {
     QFETCH(QByteArray, between);
     serve([between](const QByteArray &line) -> QByteArray {
@@ -172,7 +172,7 @@ void TestIrcRefusals::reasonOfABanIsTold()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::banWithoutAGoodbyeIsFinal()
+void tst_IrcRefusals::banWithoutAGoodbyeIsFinal()
 {
     serve([](const QByteArray &line) {
         return line.startsWith("USER ") ? ":server 465 alice :You are banned\r\nPING :seen\r\n" : "";
@@ -186,7 +186,7 @@ void TestIrcRefusals::banWithoutAGoodbyeIsFinal()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::banWhileOnLineIsFinal()
+void tst_IrcRefusals::banWhileOnLineIsFinal()
 {
     serve([](const QByteArray &line) {
         return line.startsWith("AWAY :Away") ? ":server 465 alice :You are banned\r\nERROR :Closing Link: (spam)\r\n"
@@ -201,7 +201,7 @@ void TestIrcRefusals::banWhileOnLineIsFinal()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::saslThatWorkedBeforeIsAwaited_data()
+void tst_IrcRefusals::saslThatWorkedBeforeIsAwaited_data()
 {
     QTest::addColumn<QByteArray>("onList");
     QTest::addColumn<QByteArray>("onMechanism");
@@ -215,7 +215,7 @@ void TestIrcRefusals::saslThatWorkedBeforeIsAwaited_data()
 }
 
 /// The services of a network are often back some seconds after the network.
-void TestIrcRefusals::saslThatWorkedBeforeIsAwaited()
+void tst_IrcRefusals::saslThatWorkedBeforeIsAwaited()
 {
     QFETCH(QByteArray, onList);
     QFETCH(QByteArray, onMechanism);
@@ -244,7 +244,7 @@ void TestIrcRefusals::saslThatWorkedBeforeIsAwaited()
     TRY_STATE(Online);
 }
 
-void TestIrcRefusals::saslThatNeverWorkedIsNotAwaited()
+void tst_IrcRefusals::saslThatNeverWorkedIsNotAwaited()
 {
     serve([](const QByteArray &line) { return answer(line, false); });
     logIn(QStringLiteral("sasl"));
@@ -253,7 +253,7 @@ void TestIrcRefusals::saslThatNeverWorkedIsNotAwaited()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
+void tst_IrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
 {
     bool accepts = true;
     serve([&accepts](const QByteArray &line) -> QByteArray {
@@ -271,7 +271,7 @@ void TestIrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::nicksAreShownCleaned()
+void tst_IrcRefusals::nicksAreShownCleaned()
 {
     const QString nick = QString::fromUtf8("al\u202eice\u2066\u200f\x03") + QString(1000, 'x');
     serve([nick](const QByteArray &line) {
@@ -286,7 +286,7 @@ void TestIrcRefusals::nicksAreShownCleaned()
         QVERIFY(character.category() != QChar::Other_Format && character.category() != QChar::Other_Control);
 }
 
-void TestIrcRefusals::changesOfTheNickAreToldNowAndThen()
+void tst_IrcRefusals::changesOfTheNickAreToldNowAndThen()
 {
     serve([](const QByteArray &line) -> QByteArray {
         if (!line.startsWith("AWAY :Away"))
@@ -308,7 +308,7 @@ void TestIrcRefusals::changesOfTheNickAreToldNowAndThen()
 }
 
 /// Also when it was heard just before it was looked at the last time.
-void TestIrcRefusals::silentServerIsNoticedWithinAMinute()
+void tst_IrcRefusals::silentServerIsNoticedWithinAMinute()
 {
     serve([](const QByteArray &line) -> QByteArray {
         return line.startsWith("AWAY :Away") ? ":server NOTICE alice :I am here\r\nPING :seen\r\n" : welcome(line);
@@ -332,7 +332,7 @@ void TestIrcRefusals::silentServerIsNoticedWithinAMinute()
 }
 
 /// The time, the system and the like stay our own.
-void TestIrcRefusals::onlyTheNameOfTheProgramIsTold()
+void tst_IrcRefusals::onlyTheNameOfTheProgramIsTold()
 {
     serve([](const QByteArray &line) -> QByteArray {
         if (!line.startsWith("AWAY :Away"))
@@ -352,5 +352,5 @@ void TestIrcRefusals::onlyTheNameOfTheProgramIsTold()
     QVERIFY(!replies[0].toLower().contains("linux") && !replies[0].contains("Qt"));
 }
 
-QTEST_GUILESS_MAIN(TestIrcRefusals)
+QTEST_GUILESS_MAIN(tst_IrcRefusals)
 #include "tst_irc_refusals.moc"

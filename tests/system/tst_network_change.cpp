@@ -13,7 +13,7 @@
 #include <memory>
 
 /// Sessions with real servers when the network is another one: whether they still work is found out at once.
-class TestNetworkChange : public QObject {
+class tst_NetworkChange : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -36,20 +36,20 @@ private:
     std::unique_ptr<KirvConnection> connection;
 };
 
-void TestNetworkChange::protocols()
+void tst_NetworkChange::protocols()
 {
     QTest::addColumn<bool>("isXmpp");
     QTest::newRow("XMPP") << true;
     QTest::newRow("IRC") << false;
 }
 
-void TestNetworkChange::cleanup()
+void tst_NetworkChange::cleanup()
 {
     connection.reset();
     proxy.reset();
 }
 
-void TestNetworkChange::logIn(bool isXmpp)
+void tst_NetworkChange::logIn(bool isXmpp)
 {
     qRegisterMetaType<KirvConnection::State>("KirvConnection::State");
     QVERIFY(prosody.isRunning() || KirvXmppProfile::start(prosody));
@@ -80,7 +80,7 @@ void TestNetworkChange::logIn(bool isXmpp)
 }
 
 /// Until long after its check: a session that hangs has been left meanwhile.
-void TestNetworkChange::aSessionThatWorksIsKept()
+void tst_NetworkChange::aSessionThatWorksIsKept()
 {
     QFETCH(bool, isXmpp);
     logIn(isXmpp);
@@ -97,7 +97,7 @@ void TestNetworkChange::aSessionThatWorksIsKept()
     QCOMPARE(working->state(), KirvConnection::Online);
 }
 
-void TestNetworkChange::aSessionThatHangsIsLeft()
+void tst_NetworkChange::aSessionThatHangsIsLeft()
 {
     QFETCH(bool, isXmpp);
     logIn(isXmpp);
@@ -111,7 +111,7 @@ void TestNetworkChange::aSessionThatHangsIsLeft()
     QVERIFY2(time.elapsed() >= 4500 && time.elapsed() < 15000, qPrintable(QString::number(time.elapsed())));
 }
 
-void TestNetworkChange::aWaitIsCutShort()
+void tst_NetworkChange::aWaitIsCutShort()
 {
     QFETCH(bool, isXmpp);
     logIn(isXmpp);
@@ -121,5 +121,5 @@ void TestNetworkChange::aWaitIsCutShort()
     QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::Online, kirvPatience);
 }
 
-QTEST_GUILESS_MAIN(TestNetworkChange)
+QTEST_GUILESS_MAIN(tst_NetworkChange)
 #include "tst_network_change.moc"

@@ -119,7 +119,7 @@ KirvLogin loginTo(quint16 port, KirvXmppSettings::Encryption encryption = KirvXm
 Q_DECLARE_METATYPE(KirvScriptedXmppServer::Script)
 
 /// Servers that do not keep to the order of a log-in, pretend it, or demand more of it than is reasonable.
-class TestXmppHostileLogins : public QObject {
+class tst_XmppHostileLogins : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -132,7 +132,7 @@ private Q_SLOTS:
     void protectionOfTheSessionIsKnown();
 };
 
-void TestXmppHostileLogins::honestServersLogIn_data()
+void tst_XmppHostileLogins::honestServersLogIn_data()
 {
     QTest::addColumn<KirvScriptedXmppServer::Script>("script");
     QTest::newRow("proof at the end") << logsIn(Scram());
@@ -154,7 +154,7 @@ void TestXmppHostileLogins::honestServersLogIn_data()
     QTest::newRow("20,000 rounds of SHA-512") << logsIn(laborious);
 }
 
-void TestXmppHostileLogins::honestServersLogIn()
+void tst_XmppHostileLogins::honestServersLogIn()
 {
     QFETCH(KirvScriptedXmppServer::Script, script);
     KirvScriptedXmppServer server(script);
@@ -172,7 +172,7 @@ void TestXmppHostileLogins::honestServersLogIn()
     QVERIFY(connection.securityText().startsWith("not encrypted, SASL SCRAM-SHA-"));
 }
 
-void TestXmppHostileLogins::othersAreLeftWithASentence_data()
+void tst_XmppHostileLogins::othersAreLeftWithASentence_data()
 {
     QTest::addColumn<KirvScriptedXmppServer::Script>("script");
     QTest::addColumn<QString>("said");
@@ -241,7 +241,7 @@ void TestXmppHostileLogins::othersAreLeftWithASentence_data()
     }) << "again and again";
 }
 
-void TestXmppHostileLogins::othersAreLeftWithASentence()
+void tst_XmppHostileLogins::othersAreLeftWithASentence()
 {
     QFETCH(KirvScriptedXmppServer::Script, script);
     QFETCH(QString, said);
@@ -260,7 +260,7 @@ void TestXmppHostileLogins::othersAreLeftWithASentence()
 }
 
 /// They would log in nobody, or give the password to others.
-void TestXmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
+void tst_XmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
 {
     KirvScriptedXmppServer server([](const QByteArray &received) {
         return received.contains("<stream:stream")
@@ -275,7 +275,7 @@ void TestXmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
     QVERIFY2(!server.received().contains("<auth"), server.received().constData());
 }
 
-void TestXmppHostileLogins::protectionOfTheSessionIsKnown_data()
+void tst_XmppHostileLogins::protectionOfTheSessionIsKnown_data()
 {
     QTest::addColumn<bool>("isEncrypted");
     QTest::addColumn<QString>("start");
@@ -283,7 +283,7 @@ void TestXmppHostileLogins::protectionOfTheSessionIsKnown_data()
     QTest::newRow("in clear") << false << "not encrypted, ";
 }
 
-void TestXmppHostileLogins::protectionOfTheSessionIsKnown()
+void tst_XmppHostileLogins::protectionOfTheSessionIsKnown()
 {
     QFETCH(bool, isEncrypted);
     QFETCH(QString, start);
@@ -307,5 +307,5 @@ void TestXmppHostileLogins::protectionOfTheSessionIsKnown()
     server.kill(); // an orderly end takes a second
 }
 
-QTEST_GUILESS_MAIN(TestXmppHostileLogins)
+QTEST_GUILESS_MAIN(tst_XmppHostileLogins)
 #include "tst_xmpp_hostile_logins.moc"

@@ -10,7 +10,7 @@
 
 /// The refresh: check boxes as the account manager has them, the selector filled anew, no signal for a choice that
 /// the user did not make, also when refreshes run inside each other.
-class TestSelectorRefresh : public QObject {
+class tst_SelectorRefresh : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -49,19 +49,19 @@ private:
     std::unique_ptr<QSignalSpy> reported;
 };
 
-void TestSelectorRefresh::init()
+void tst_SelectorRefresh::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     reported = std::make_unique<QSignalSpy>(fixture->page(), SIGNAL(mainAccountChanged()));
 }
 
-void TestSelectorRefresh::cleanup()
+void tst_SelectorRefresh::cleanup()
 {
     reported.reset();
     fixture.reset();
 }
 
-void TestSelectorRefresh::verifyAgreement()
+void tst_SelectorRefresh::verifyAgreement()
 {
     // No choice but the user's was reported or stored.
     QCOMPARE(reported->count(), 0);
@@ -91,7 +91,7 @@ void TestSelectorRefresh::verifyAgreement()
     reported->clear();
 }
 
-void TestSelectorRefresh::theHostIsCalledInOrder()
+void tst_SelectorRefresh::theHostIsCalledInOrder()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", false);
@@ -107,7 +107,7 @@ void TestSelectorRefresh::theHostIsCalledInOrder()
                        "getAccount(dave, IRC)", "dave@IRC.getProtocol()", "IRC.getIconPath(0)", "getMainAccount()" }));
 }
 
-void TestSelectorRefresh::anEntryCarriesAliasIconAndAccount()
+void tst_SelectorRefresh::anEntryCarriesAliasIconAndAccount()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
     fixture->showFilledPage();
@@ -124,7 +124,7 @@ void TestSelectorRefresh::anEntryCarriesAliasIconAndAccount()
     QCOMPARE(selector->itemText(0), QString("Alias of alice"));
 }
 
-void TestSelectorRefresh::onlyEnabledAndLoadedAccountsAreOffered()
+void tst_SelectorRefresh::onlyEnabledAndLoadedAccountsAreOffered()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", false);
@@ -136,7 +136,7 @@ void TestSelectorRefresh::onlyEnabledAndLoadedAccountsAreOffered()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::theMainAccountIsCurrent()
+void tst_SelectorRefresh::theMainAccountIsCurrent()
 {
     addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", true);
@@ -147,7 +147,7 @@ void TestSelectorRefresh::theMainAccountIsCurrent()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::withoutAMainAccountTheFirstEntryIsCurrent()
+void tst_SelectorRefresh::withoutAMainAccountTheFirstEntryIsCurrent()
 {
     addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", false);
@@ -159,7 +159,7 @@ void TestSelectorRefresh::withoutAMainAccountTheFirstEntryIsCurrent()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aRefreshSetsTheCheckBoxes()
+void tst_SelectorRefresh::aRefreshSetsTheCheckBoxes()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", false);
@@ -173,7 +173,7 @@ void TestSelectorRefresh::aRefreshSetsTheCheckBoxes()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aRefreshAddsAndRemovesNoRows()
+void tst_SelectorRefresh::aRefreshAddsAndRemovesNoRows()
 {
     addAccount("alice", "XMPP", true);
     fixture->showFilledPage();
@@ -185,7 +185,7 @@ void TestSelectorRefresh::aRefreshAddsAndRemovesNoRows()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestSelectorRefresh::anIconIsReadOncePerProtocolAndRefresh()
+void tst_SelectorRefresh::anIconIsReadOncePerProtocolAndRefresh()
 {
     for (const char *id : { "alice", "bob", "carol" })
         addAccount(id, "XMPP", true);
@@ -198,7 +198,7 @@ void TestSelectorRefresh::anIconIsReadOncePerProtocolAndRefresh()
     QCOMPARE(reads, (QStringList { "/icons/IRC.recorded", "/icons/XMPP.recorded" }));
 }
 
-void TestSelectorRefresh::manyRefreshesLeaveOneConnection()
+void tst_SelectorRefresh::manyRefreshesLeaveOneConnection()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", true);
@@ -208,7 +208,7 @@ void TestSelectorRefresh::manyRefreshesLeaveOneConnection()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::severalRowsThatChangeInOneRefresh()
+void tst_SelectorRefresh::severalRowsThatChangeInOneRefresh()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", false);
@@ -224,7 +224,7 @@ void TestSelectorRefresh::severalRowsThatChangeInOneRefresh()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::everyRowChangesInOneRefresh()
+void tst_SelectorRefresh::everyRowChangesInOneRefresh()
 {
     QList<KirvRecordingAccount *> accounts;
     for (int i = 0; i < 12; ++i)
@@ -237,7 +237,7 @@ void TestSelectorRefresh::everyRowChangesInOneRefresh()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatDoesNotEnable()
+void tst_SelectorRefresh::aHostThatDoesNotEnable()
 {
     addAccount("alice", "XMPP", false);
     addAccount("bob", "XMPP", true);
@@ -251,7 +251,7 @@ void TestSelectorRefresh::aHostThatDoesNotEnable()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatDoesNotDisable()
+void tst_SelectorRefresh::aHostThatDoesNotDisable()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", true);
@@ -263,14 +263,14 @@ void TestSelectorRefresh::aHostThatDoesNotDisable()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled_data()
+void tst_SelectorRefresh::aHostThatRefreshesWhileItIsCalled_data()
 {
     QTest::addColumn<QString>("operation");
     for (const char *operation : { "accountEnabled", "getAccount", "getIconPath", "getMainAccount" })
         QTest::newRow(operation) << operation;
 }
 
-void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled()
+void tst_SelectorRefresh::aHostThatRefreshesWhileItIsCalled()
 {
     QFETCH(QString, operation);
     for (const char *id : { "alice", "bob", "carol" })
@@ -287,7 +287,7 @@ void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
+void tst_SelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
 {
     addAccount("bob", "XMPP", true);
     addAccount("carol", "XMPP", true);
@@ -304,7 +304,7 @@ void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
+void tst_SelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
 {
     // While an account logs out, say: the box is cleared by the refresh, and the question keeps it checked.
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
@@ -325,5 +325,5 @@ void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
     QCOMPARE(fixture->offered(), QStringList { "*bob@XMPP" });
 }
 
-QTEST_MAIN(TestSelectorRefresh)
+QTEST_MAIN(tst_SelectorRefresh)
 #include "tst_selector_refresh.moc"
