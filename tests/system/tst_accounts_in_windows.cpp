@@ -29,7 +29,7 @@ const QString secret = QStringLiteral("anns-password");
 
 } // namespace
 
-/// What a person does with accounts on the page, against a real server.
+/// What a user does with accounts on the page, against a real server.
 class tst_AccountsInWindows : public QObject {
     Q_OBJECT
 

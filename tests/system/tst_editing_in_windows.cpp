@@ -247,7 +247,7 @@ private:
 
 } // namespace
 
-/// What a person does in the window of an account, against a real server and before the eyes of another person.
+/// What a user does in the window of an account, against a real server and before the eyes of another user.
 class tst_EditingInWindows : public QObject {
     Q_OBJECT
 

@@ -63,7 +63,7 @@ QByteArray welcome(const QByteArray &line)
 
 } // namespace
 
-/// What a person does with IRC accounts in the client's windows, against a real server where that can do it.
+/// What a user does with IRC accounts in the client's windows, against a real server where that can do it.
 class tst_IrcInWindows : public QObject {
     Q_OBJECT
 

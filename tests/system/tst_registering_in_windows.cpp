@@ -32,7 +32,7 @@ const QString deleteAccount = QStringLiteral("Delete Account on Server…");
 
 } // namespace
 
-/// What a person does who has no account yet, and what can be done with an account on its server, in the client's
+/// What a user does who has no account yet, and what can be done with an account on its server, in the client's
 /// windows.
 class tst_RegisteringInWindows : public QObject {
     Q_OBJECT

@@ -81,7 +81,7 @@ public:
             daemon.waitForFinished();
         }
     }
-    /// Locks the collection as the person's own program for it does.
+    /// Locks the collection as the user's own program for it does.
     bool lock()
     {
         const QList<QDBusObjectPath> paths { QDBusObjectPath(collection()) };
