@@ -5,6 +5,7 @@
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/kirv_field_texts.h"
 #include "tests/support/kirv_load_meter.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAbstractItemView>
 #include <QBuffer>
@@ -158,7 +159,7 @@ void tst_ServerAssistant::show(const Step &first)
     Q_EMIT request->stepReady(first);
     window->show();
     window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), kirvPatience));
     QCoreApplication::processEvents();
 }
 
@@ -176,7 +177,7 @@ void tst_ServerAssistant::aStepIsShownWhole()
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), QString("Fill it in."));
     QCOMPARE(child<QComboBox>("Configuration")->count(), 2);
     QCOMPARE(child<KirvFieldWidget>("Fields")->getFields().size(), 2);
-    QTRY_VERIFY(child<QLabel>("Picture1"));
+    KIRV_TRY(child<QLabel>("Picture1"));
     QCOMPARE(child<QLabel>("Picture1")->pixmap(Qt::ReturnByValue).size(), QSize(60, 20));
     QVERIFY(child<QCheckBox>("Remember")->isVisible() && window->isPasswordToBeRemembered());
     QCOMPARE(message(), QString("Look at this."));
@@ -216,7 +217,7 @@ void tst_ServerAssistant::textsAreShownAsTheyAre()
     Q_EMIT request->failed(KirvFailure(KirvFailure::RequestFailed, "<i>no</i>"));
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), markup);
     QVERIFY(message().contains("<i>no</i>"));
-    QTRY_VERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("cannot be shown"));
+    KIRV_TRY(child<QTextEdit>("Picture1")->toPlainText().contains("cannot be shown"));
     QVERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("<b>bold</b>"));
     QVERIFY(button("Next")->text().contains("&&"));
     for (const QLabel *label : window->findChildren<QLabel *>())
@@ -273,8 +274,8 @@ void tst_ServerAssistant::longWordsDoNotWidenTheWindow()
         return names;
     };
     if (place == "picture") // read in a thread
-        QTRY_VERIFY(window->findChild<KirvWrappedText *>("ServerAssistant_Picture1")->toPlainText().contains("cannot"));
-    QTRY_COMPARE(cutOff(), QStringList());
+        KIRV_TRY(window->findChild<KirvWrappedText *>("ServerAssistant_Picture1")->toPlainText().contains("cannot"));
+    KIRV_TRY_COMPARE(cutOff(), QStringList());
     QVERIFY2(window->minimumSizeHint().width() <= 600, qPrintable(QString::number(window->minimumSizeHint().width())));
     QVERIFY2(window->width() <= qMax(ordinary + 100, 650), qPrintable(QString::number(window->width())));
     QVERIFY(window->height() <= window->screen()->availableGeometry().height());
@@ -314,8 +315,8 @@ void tst_ServerAssistant::theWindowGrowsWithItsStep()
     Step larger = step(fields);
     larger.text = "Words of the server. " + QString("More words. ").repeated(30);
     Q_EMIT request->stepReady(larger);
-    QTRY_VERIFY(window->height() > height);
-    QTRY_VERIFY(!child<QScrollArea>("Area")->verticalScrollBar()->isVisible());
+    KIRV_TRY(window->height() > height);
+    KIRV_TRY(!child<QScrollArea>("Area")->verticalScrollBar()->isVisible());
     const QTextEdit *text = child<QTextEdit>("Text");
     QVERIFY(text->document()->size().height() <= text->height());
 }
@@ -507,7 +508,7 @@ void tst_ServerAssistant::providersAreOfferedFromTheKeyboard()
     first.providerField = "one";
     show(first);
     QTest::keyClick(edit("one"), Qt::Key_Down);
-    QTRY_VERIFY(edit("one")->completer()->popup()->isVisible());
+    KIRV_TRY(edit("one")->completer()->popup()->isVisible());
     QCOMPARE(edit("one")->completer()->completionCount(), 2);
     QVERIFY(edit("one")->accessibleDescription().contains("Down"));
 }
@@ -585,7 +586,7 @@ void tst_ServerAssistant::picturesAreShown()
                        { "Broken", "no picture", "https://example.org/a" },
                        { "Elsewhere", QByteArray(), "https://example.org/b" } };
     show(shown);
-    QTRY_VERIFY(child<QLabel>("Picture1") && child<QTextEdit>("Picture3")->toPlainText().contains("example.org"));
+    KIRV_TRY(child<QLabel>("Picture1") && child<QTextEdit>("Picture3")->toPlainText().contains("example.org"));
     QCOMPARE(child<QLabel>("Picture1")->pixmap(Qt::ReturnByValue).width(), 400);
     QCOMPARE(child<QLabel>("Picture1")->accessibleName(), QString("Large"));
     QVERIFY(child<QTextEdit>("Picture2")->toPlainText().contains("https://example.org/a"));
@@ -601,7 +602,7 @@ void tst_ServerAssistant::picturesAreBounded()
         shown.pictures << KirvServerRequest::Picture { "Picture", png({ 10, 10 }), QString() };
     show(shown);
     QVERIFY(child<QWidget>("Picture4") && !child<QWidget>("Picture5"));
-    QTRY_VERIFY(child<QLabel>("Picture4"));
+    KIRV_TRY(child<QLabel>("Picture4"));
     QVERIFY(!child<QWidget>("Picture5"));
 }
 
@@ -637,17 +638,17 @@ void tst_ServerAssistant::picturesAreReadOutsideTheGuiThread()
     Q_EMIT request->stepReady(shown);
     QVERIFY(!child<QLabel>("Picture1")); // the window is there before the picture
     QVERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("Picture"));
-    QTRY_VERIFY(child<QLabel>("Picture1"));
+    KIRV_TRY(child<QLabel>("Picture1"));
 
     // Neither the next step nor the end of the window waits for one.
     Q_EMIT request->stepReady(shown);
     Q_EMIT request->stepReady(step());
-    QVERIFY(QThreadPool::globalInstance()->waitForDone());
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(kirvPatience));
     QCoreApplication::processEvents();
     QVERIFY(!child<QWidget>("Picture1"));
     Q_EMIT request->stepReady(shown);
     window.reset();
-    QVERIFY(QThreadPool::globalInstance()->waitForDone());
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(kirvPatience));
     QCoreApplication::processEvents();
 }
 

@@ -7,6 +7,7 @@
 #include "tests/support/fakes/kirv_fake_protocol.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QCheckBox>
 #include <QHash>
@@ -166,7 +167,7 @@ KirvAccount *tst_ServerCommands::addAccount()
     record.rememberPassword = true;
     record.defaultPresence = "available";
     KirvAccount *account = accounts->create(record, alpha);
-    return QTest::qWaitFor([account] { return account->isOnline(); }) ? account : nullptr;
+    return QTest::qWaitFor([account] { return account->isOnline(); }, kirvPatience) ? account : nullptr;
 }
 
 /// Opens the window of the change and submits it, so that a reply of the server is awaited.
@@ -283,7 +284,7 @@ void tst_ServerCommands::theRegisteredAccountIsAdded()
     QCOMPARE(account->record().rememberPassword, isRemembered);
     QCOMPARE(account->record().settings.value("server"), QString("127.0.0.1"));
     QCOMPARE(account->record().defaultPresence, QString("available"));
-    QTRY_VERIFY(account->isOnline());
+    KIRV_TRY(account->isOnline());
 }
 
 void tst_ServerCommands::aKnownAccountIsNotAddedTwice()
@@ -500,7 +501,7 @@ void tst_ServerCommands::windowsGoWhileAModalChildIsOpen()
     QMetaObject::invokeMethod(
         this, [this] { plugins.reset(); }, Qt::QueuedConnection);
     child->exec();
-    QTRY_VERIFY(!open && !child);
+    KIRV_TRY(!open && !child);
 }
 
 void tst_ServerCommands::theWindowMayBeDestroyedWithItsParent()
@@ -529,7 +530,7 @@ void tst_ServerCommands::theMenuHasTheActionsOfTheProtocol()
     QVERIFY(Assistant::window());
 
     account->setPresence(alpha->presenceWithId("offline", QString()));
-    QTRY_VERIFY(!account->isOnline());
+    KIRV_TRY(!account->isOnline());
     Q_EMIT menu.aboutToShow();
     QVERIFY(!menu.actions().first()->isEnabled());
     accounts->remove(account);

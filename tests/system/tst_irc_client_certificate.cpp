@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_tls_irc_server.h"
 
 #include <QFile>
@@ -12,8 +13,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-const int patience = 15000;
 
 using Values = QMap<QString, QString>;
 
@@ -164,7 +163,7 @@ void tst_IrcClientCertificate::certificateLogsIn()
     logIn({ { "client_certificate", path(certificate) },
             { "client_key", key.isEmpty() ? key : path(key) },
             { "password_use", passwordUse } });
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
     QCOMPARE(server->clientCertificate(), QSslCertificate::fromPath(path(certificate)).value(0));
     QVERIFY(server->receivedLines().contains("AUTHENTICATE EXTERNAL"));
     QVERIFY(server->receivedLines().contains("AUTHENTICATE +"));
@@ -177,7 +176,7 @@ void tst_IrcClientCertificate::unknownCertificateIsRefused()
 {
     serve(external("904"));
     logIn(client("ec"));
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AccessDenied, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AccessDenied, kirvPatience);
     QVERIFY2(failure().text().contains("certificate"), qPrintable(failure().text()));
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
@@ -188,7 +187,7 @@ void tst_IrcClientCertificate::otherMechanismsAreNotUsedInstead()
     Values values = client("ec");
     values.insert("password_use", "sasl");
     logIn(values);
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AuthenticationNotOffered, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AuthenticationNotOffered, kirvPatience);
     QVERIFY(!server->receivedLines().join('\n').contains("AUTHENTICATE"));
 }
 
@@ -219,7 +218,7 @@ void tst_IrcClientCertificate::unusableFilesAreTold()
     QFETCH(QString, named);
     serve(external("903"));
     logIn(values);
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, kirvPatience);
     QVERIFY2(failure().detail().contains(named), qPrintable(failure().detail()));
     QCOMPARE(connection->state(), KirvConnection::Offline);
     QVERIFY(server->receivedLines().isEmpty());
@@ -229,7 +228,7 @@ void tst_IrcClientCertificate::keyOfAnotherCertificateIsTold()
 {
     serve(external("903"));
     logIn({ { "client_certificate", path("ec.pem") }, { "client_key", path("rsa.key") } });
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, kirvPatience);
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
@@ -253,7 +252,7 @@ void tst_IrcClientCertificate::keyThatOthersCanReadIsTold()
     serve(external("903"));
     for (int visit = 0; visit < 2; ++visit) {
         logIn({ { "client_certificate", path("ec.pem") }, { "client_key", key } });
-        QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+        QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
         QCOMPARE(notices->size(), isTold ? 1 : 0); // once is enough
         connection->drop();
     }
@@ -265,14 +264,14 @@ void tst_IrcClientCertificate::protectionOfTheSessionIsKnown()
     serve(external("903"));
     QCOMPARE(connection->securityText(), QString());
     logIn(client("ec"));
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
     QVERIFY2(connection->securityText().startsWith("TLS"), qPrintable(connection->securityText()));
     QVERIFY(connection->securityText().endsWith("SASL EXTERNAL"));
     connection->drop();
     QCOMPARE(connection->securityText(), QString());
 
     logIn({ { "password_use", "sasl" } });
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
     QVERIFY(connection->securityText().endsWith("SASL PLAIN"));
 }
 
@@ -298,7 +297,7 @@ void tst_IrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
     connection = std::make_unique<KirvIrcConnection>(KirvClock::system(), nullptr, system);
     serve([](const QByteArray &line) { return line.startsWith("USER ") ? ":server 001 alice :Welcome\r\n" : ""; });
     logIn({ { "certificate", path(own) } });
-    QTRY_VERIFY_WITH_TIMEOUT(isOnline() || failure().isFailure(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(isOnline() || failure().isFailure(), kirvPatience);
     QVERIFY2(isOnline() == isTrusted, qPrintable(failure().text()));
     if (!isTrusted)
         QCOMPARE(failure().kind(), KirvFailure::UntrustedCertificate);
@@ -314,7 +313,7 @@ void tst_IrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesN
     connection->drop();
     bool areRead = false;
     system.request(this, [&areRead](const QList<QSslCertificate> &) { areRead = true; });
-    QTRY_VERIFY_WITH_TIMEOUT(areRead, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(areRead, kirvPatience);
     QCOMPARE(connection->state(), KirvConnection::Offline);
     QVERIFY(!server->waitForNewConnection(0));
     connection.reset();

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_observing_irc_client.h"
 #include "tests/support/servers/kirv_plugin_profile.h"
 #include "tests/support/servers/kirv_scripted_irc_server.h"
@@ -384,7 +385,7 @@ void tst_IrcConnection::takenNickIsReplaced()
     profile->goTo(account, "available");
     KIRV_TRY_STATE(account, Online);
     QVERIFY(others[0].sees(expected));
-    QTRY_COMPARE(notices.size(), 1);
+    KIRV_TRY_COMPARE(notices.size(), 1);
     QVERIFY(notices[0][0].toString().contains(QString("\"%1\"").arg(expected)));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
 #include "tests/support/fakes/kirv_fake_clock.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_scripted_irc_server.h"
 
 #include <QSignalSpy>
@@ -10,8 +11,6 @@
 Q_DECLARE_METATYPE(KirvFailure::Kind)
 
 namespace {
-
-const int patience = 15000;
 
 /// Replies of a server that has SASL while \a offersSasl, and otherwise knows nothing of it.
 QByteArray answer(const QByteArray &line, bool offersSasl)
@@ -71,7 +70,7 @@ private:
     std::unique_ptr<QSignalSpy> notices;
 };
 
-#define TRY_STATE(expected) QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::expected, patience)
+#define TRY_STATE(expected) QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::expected, kirvPatience)
 
 void tst_IrcRefusals::init()
 {
@@ -142,7 +141,7 @@ void tst_IrcRefusals::refusalsAreFinalOrPass()
     QFETCH(bool, isFinal);
     serve([lines](const QByteArray &line) { return line.startsWith("USER ") ? lines : ""; });
     logIn();
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(connection->state(), isFinal ? KirvConnection::Offline : KirvConnection::Waiting);
     QCOMPARE(lastFailure().kind() == KirvFailure::AccessDenied, isFinal);
     QVERIFY(lastFailure().detail().contains(QLatin1String("Closing Link")));
@@ -164,7 +163,7 @@ void tst_IrcRefusals::reasonOfABanIsTold()
                                         : "";
     });
     logIn();
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::AccessDenied);
     const QString text = lastFailure().text();
     QVERIFY2(text.contains("You are banned") && text.contains("open proxy"), qPrintable(text));
@@ -178,7 +177,7 @@ void tst_IrcRefusals::banWithoutAGoodbyeIsFinal()
         return line.startsWith("USER ") ? ":server 465 alice :You are banned\r\nPING :seen\r\n" : "";
     });
     logIn();
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     clock.advance(5000);
     QCOMPARE(failures->size(), 1);
     QCOMPARE(lastFailure().kind(), KirvFailure::AccessDenied);
@@ -195,7 +194,7 @@ void tst_IrcRefusals::banWhileOnLineIsFinal()
     logIn();
     TRY_STATE(Online);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::AccessDenied);
     QVERIFY(lastFailure().detail().contains("spam"));
     QCOMPARE(connection->state(), KirvConnection::Offline);
@@ -234,7 +233,7 @@ void tst_IrcRefusals::saslThatWorkedBeforeIsAwaited()
     TRY_STATE(Waiting);
 
     clock.advance(int(clock.now().msecsTo(connection->nextRetry())));
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, kirvPatience);
     QVERIFY2(lastFailure().isWorthRetrying(), qPrintable(lastFailure().text()));
     QVERIFY2(lastFailure().text().contains("SASL"), qPrintable(lastFailure().text()));
     QCOMPARE(connection->state(), KirvConnection::Waiting);
@@ -248,7 +247,7 @@ void tst_IrcRefusals::saslThatNeverWorkedIsNotAwaited()
 {
     serve([](const QByteArray &line) { return answer(line, false); });
     logIn(QStringLiteral("sasl"));
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::AuthenticationNotOffered);
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
@@ -266,7 +265,7 @@ void tst_IrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
     server->hangUp();
     TRY_STATE(Waiting);
     clock.advance(int(clock.now().msecsTo(connection->nextRetry())));
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::WrongPassword);
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
@@ -278,7 +277,7 @@ void tst_IrcRefusals::nicksAreShownCleaned()
         return line.startsWith("USER ") ? ":server 001 " + nick.toUtf8() + " :Welcome\r\n" : "";
     });
     logIn();
-    QTRY_COMPARE_WITH_TIMEOUT(notices->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(notices->size(), 1, kirvPatience);
     const QString notice = notices->at(0).at(0).toString();
     QVERIFY2(notice.contains("alice"), qPrintable(notice));
     QVERIFY(notice.size() < 300);
@@ -300,7 +299,7 @@ void tst_IrcRefusals::changesOfTheNickAreToldNowAndThen()
     logIn();
     TRY_STATE(Online);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     QCOMPARE(notices->size(), 1);
     clock.advance(20000);
     QCOMPARE(notices->size(), 2);
@@ -318,13 +317,13 @@ void tst_IrcRefusals::silentServerIsNoticedWithinAMinute()
     for (int second = 0; second < 29; ++second)
         clock.advance(1000);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     const auto pass = [this](int seconds) {
         for (int second = 0; second < seconds && failures->isEmpty(); ++second)
             clock.advance(1000);
     };
     pass(40);
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("PING "), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("PING "), kirvPatience);
     QCOMPARE(connection->state(), KirvConnection::Online);
     pass(20);
     QCOMPARE(failures->size(), 1);
@@ -345,7 +344,7 @@ void tst_IrcRefusals::onlyTheNameOfTheProgramIsTold()
     logIn();
     TRY_STATE(Online);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     const QByteArrayList replies = server->linesWith("NOTICE ");
     QCOMPARE(replies.size(), 1);
     QVERIFY(replies[0].startsWith("NOTICE bob :\1VERSION "));

@@ -4,6 +4,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/protocol/kirv_server_request.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_registration_script.h"
 #include "tests/system/kirv_windows.h"
@@ -112,7 +113,7 @@ bool tst_RegisteringInWindows::openWindow(const QString &configuration)
     KirvWindowDriver::click(
         KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_RegisterButton"));
     if (!QTest::qWaitFor([] { return Assistant::window(); }, kirvPatience)
-        || !QTest::qWaitForWindowExposed(Assistant::window()))
+        || !QTest::qWaitForWindowExposed(Assistant::window(), kirvPatience))
         return false;
     KirvWindowDriver::choose(Assistant::part<QComboBox>("Configuration"), configuration);
     return Assistant::filled(QStringLiteral("domain")) == QLatin1String("localhost");
@@ -251,7 +252,7 @@ void tst_RegisteringInWindows::formIsShownAsTheServerHasIt()
     QVERIFY(openForm());
     const QString instructions = Assistant::text();
     QVERIFY(instructions.contains(QLatin1String("Join <us>")) && instructions.contains(QLatin1String("Fill it in.")));
-    QTRY_VERIFY(Assistant::part<QLabel>("Picture1"));
+    KIRV_TRY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
     QVERIFY(picture && picture->isVisible() && !picture->pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(Assistant::filled(QStringLiteral("odd")), QStringLiteral("as it was"));

@@ -2,6 +2,7 @@
 #include "protocols/xmpp/kirv_xmpp_connection.h"
 #include "protocols/xmpp/kirv_xmpp_stream_guard.h"
 #include "tests/support/kirv_load_meter.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_hostile_xmpp_server.h"
 
 #include <QProcess>
@@ -207,7 +208,7 @@ void tst_XmppHostileServers::streamThatCannotGoOnIsEnded()
     QSignalSpy failures(&connection, &KirvConnection::failed);
     connection.logIn(loginTo(server->port(), encrypted), { QStringLiteral("available"), QString(), QString() });
     meter.runUntil([&] { return !failures.isEmpty() || server->isSpent(); });
-    QTRY_VERIFY(!failures.isEmpty());
+    KIRV_TRY(!failures.isEmpty());
     meter.report(start.size() + server->sentBytes());
     const auto failure = failures[0][0].value<KirvFailure>();
     QVERIFY2(failure.detail().contains(said), qPrintable(failure.text()));
@@ -251,7 +252,7 @@ void tst_XmppHostileServers::largeReplyIsBounded()
     QSignalSpy failures(&connection, &KirvConnection::failed);
     QSignalSpy answers(&connection, &KirvConnection::directoryAnswered);
     connection.logIn(loginTo(server->port(), false), { QStringLiteral("available"), QString(), QString() });
-    QTRY_COMPARE(connection.state(), KirvConnection::Online);
+    KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
     connection.fetchDirectory();
     QVERIFY(meter.runUntil([&] { return server->isDigested() && !answers.isEmpty(); }));
     meter.report(attack.start.size());

@@ -2,6 +2,7 @@
 #include "client/kirv_server_commands.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_registration_script.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
@@ -334,7 +335,7 @@ void tst_XmppRegistration::formIsShownAsItComes()
     fillServer(server);
     QVERIFY(openForm());
     QVERIFY(Assistant::text().contains("Join <us>") && Assistant::text().contains("Fill it in."));
-    QTRY_VERIFY(Assistant::part<QLabel>("Picture1"));
+    KIRV_TRY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
     QVERIFY(picture && picture->pixmap(Qt::ReturnByValue).size() == QSize(60, 20));
     QCOMPARE(picture->accessibleName(), QString("What is written there?"));

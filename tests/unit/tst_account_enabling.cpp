@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/unit/kirv_question.h"
 
 #include <QLineEdit>
@@ -169,7 +170,7 @@ void tst_AccountEnabling::anyOtherAnswerKeepsTheAccountEnabled()
     QCOMPARE(fixture->host.calls(), QStringList());
     QVERIFY(fixture->isChecked("alice"));
     QVERIFY(alice->enabled);
-    QTRY_VERIFY(!box);
+    KIRV_TRY(!box);
 }
 
 void tst_AccountEnabling::afterTheAnswerTheCheckBoxWorksOnce()

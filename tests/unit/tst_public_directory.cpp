@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "edit_account/kirv_pubdir_account_received_event.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/unit/kirv_edit_fixture.h"
 
 #include <QMessageBox>
@@ -205,7 +206,7 @@ void tst_PublicDirectory::aPostedAnswerIsHandledLikeASentOne()
     fixture->call("requestPubdirInfo");
     QCoreApplication::postEvent(fixture->page()->getAccEdit(),
                                 new KirvPubdirAccountReceivedEvent(alice, entry("Alice", "Oslo")));
-    QTRY_VERIFY(fixture->directoryForm()->isEnabled());
+    KIRV_TRY(fixture->directoryForm()->isEnabled());
     QCOMPARE(shown(), QString("[name=Alice, town=Oslo]"));
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/walk/kirv_walk.h"
 #include "tests/walk/kirv_walk_checks.h"
 #include "tests/walk/kirv_walk_user.h"
@@ -53,7 +54,7 @@ void tst_RandomWalk::windowsCoreAndStoreAgreeAfterEveryStep()
     KirvWalk walk;
     walk.seed(seed);
     QVERIFY(walk.start());
-    QVERIFY(QTest::qWaitForWindowExposed(walk.client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(walk.client->window(), kirvPatience));
     KirvWalkUser user(walk);
     KirvWalkWorld world(walk);
     const KirvWalkChecks checks(walk);
