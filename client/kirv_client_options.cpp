@@ -123,7 +123,7 @@ KirvClientOptions KirvClientOptions::defaults()
 
 QList<QCommandLineOption> KirvClientOptions::placeOptions()
 {
-    return { { profileOption, tr("Keep accounts and settings in <folder> instead of the person's own profile."),
+    return { { profileOption, tr("Keep accounts and settings in <folder> instead of the user's own profile."),
                tr("folder") },
              { pluginsOption, tr("Load the protocol plug-ins of <folder>."), tr("folder") } };
 }

@@ -30,7 +30,7 @@ public:
     QString profileFolder; ///< absolute; empty when there is none, and profileProblem says why
     QString profileProblem; ///< a sentence for the user
     QString pluginFolder;
-    bool usesKeyring = false; ///< whether passwords go to the desktop's keyring; only of the person's own program
+    bool usesKeyring = false; ///< whether passwords go to the desktop's keyring; only of the user's own program
     KirvAccountLink link; ///< whose account is to be added; null: none
     QString linkText; ///< the link as it was typed
 

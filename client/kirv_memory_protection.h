@@ -3,7 +3,7 @@
 #define KIRV_MEMORY_PROTECTION_H
 
 /// Keeps the passwords in the memory of the process out of core dumps, and the memory away from other programs of the
-/// same person; the latter not in a build with sanitizers, which read it themselves. False when the system refuses.
+/// same user; the latter not in a build with sanitizers, which read it themselves. False when the system refuses.
 bool kirvProtectMemory();
 
 #endif

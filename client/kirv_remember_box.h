@@ -18,7 +18,7 @@ class KirvRememberBox : public QObject {
 public:
     enum Default {
         AsItIs, ///< the box shows what is stored
-        OffWhenUnsafe ///< the box is off where there is no keyring, until the person has clicked it
+        OffWhenUnsafe ///< the box is off where there is no keyring, until the user has clicked it
     };
 
     /// Puts a line into the layout of \a box. \a keeper outlives the box.

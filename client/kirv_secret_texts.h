@@ -22,7 +22,7 @@ public:
     QString place() const;
     /// Who keeps the passwords, and in what state that is, in sentences.
     QString state() const;
-    /// Whether passwords are better not remembered unless the person says so: there is no keyring.
+    /// Whether passwords are better not remembered unless the user says so: there is no keyring.
     bool isRememberingUnsafe() const;
     /// A few words about why a secret that is awaited is not there.
     QString shortObstacle() const;

@@ -1789,7 +1789,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>المعامل «‎%1» غير معروف.</translation>
     </message>
     <message>
-        <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
+        <source>Keep accounts and settings in &lt;folder&gt; instead of the user&apos;s own profile.</source>
         <translation>يحفظ الحسابات والإعدادات في &lt;مجلد&gt; بدلًا من الملف الشخصي للمستخدم.</translation>
     </message>
     <message>

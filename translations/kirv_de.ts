@@ -1683,7 +1683,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Die Option --%1 braucht einen Ordner.</translation>
     </message>
     <message>
-        <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
+        <source>Keep accounts and settings in &lt;folder&gt; instead of the user&apos;s own profile.</source>
         <translation>Konten und Einstellungen in &lt;Ordner&gt; statt im eigenen Profil ablegen.</translation>
     </message>
     <message>

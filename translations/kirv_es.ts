@@ -1721,7 +1721,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>No se reconoce el argumento «%1».</translation>
     </message>
     <message>
-        <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
+        <source>Keep accounts and settings in &lt;folder&gt; instead of the user&apos;s own profile.</source>
         <translation>Guardar las cuentas y los ajustes en &lt;carpeta&gt; en lugar del perfil personal.</translation>
     </message>
     <message>

@@ -1721,7 +1721,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>L’argument «&#xa0;%1&#xa0;» est inconnu.</translation>
     </message>
     <message>
-        <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
+        <source>Keep accounts and settings in &lt;folder&gt; instead of the user&apos;s own profile.</source>
         <translation>Conserver les comptes et les paramètres dans &lt;dossier&gt; plutôt que dans le profil personnel.</translation>
     </message>
     <message>

@@ -1738,7 +1738,7 @@ Znak - zamiast nazwy pliku oznacza standardowe wyjście lub wejście.</translati
         <translation>Nieznany argument „%1”.</translation>
     </message>
     <message>
-        <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
+        <source>Keep accounts and settings in &lt;folder&gt; instead of the user&apos;s own profile.</source>
         <translation>Przechowuje konta i ustawienia w folderze &lt;folder&gt; zamiast we własnym profilu użytkownika.</translation>
     </message>
     <message>

@@ -1721,7 +1721,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>O argumento “%1” não é conhecido.</translation>
     </message>
     <message>
-        <source>Keep accounts and settings in &lt;folder&gt; instead of the person&apos;s own profile.</source>
+        <source>Keep accounts and settings in &lt;folder&gt; instead of the user&apos;s own profile.</source>
         <translation>Manter as contas e as configurações em &lt;pasta&gt; em vez do perfil pessoal.</translation>
     </message>
     <message>

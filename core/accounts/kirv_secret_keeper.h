@@ -22,7 +22,7 @@ class KirvStore;
 ///
 /// A change commits the item of a secret first, under a key that was never used; then the secret is written to the
 /// keyring and read back, and what it replaces is removed. What was interrupted goes on at the next start. Secrets are
-/// read from the event loop, one at a time; when the person refuses, or the keyring does not respond, nothing more is
+/// read from the event loop, one at a time; when the user refuses, or the keyring does not respond, nothing more is
 /// requested of it until its state changes, the user requests it or stores another secret.
 class KirvSecretKeeper : public QObject {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     /// Why secrets that are awaited are not there.
     enum Obstacle {
         None, ///< they are being read
-        Locked, ///< the keyring asks the person to unlock it
+        Locked, ///< the keyring asks the user to unlock it
         Refused,
         Silent,
         Unavailable,
@@ -118,7 +118,7 @@ private:
     QList<KirvStoredItem> writes, removals;
     QSet<QString> newKeys; ///< of items that are not read back yet
     std::vector<std::weak_ptr<const QStringList>> held;
-    QSet<QString> reported; ///< keys of those of which the person knows that they could not be written
+    QSet<QString> reported; ///< keys of those of which the user knows that they could not be written
     QList<KirvAccountKey> toExamine; ///< whether the profile holds secrets of them
     QList<Secret> movable; ///< what it holds
     QList<KirvStoredItem> batch; ///< of the move: what is still in the profile

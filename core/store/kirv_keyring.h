@@ -13,7 +13,7 @@ class KirvKeyringWatcher;
 
 /// The keyring of the desktop, whichever program offers the Secret Service: GNOME Keyring, KWallet, KeePassXC.
 ///
-/// One operation is carried out at a time, so that at most one asks the person to unlock the keyring. One that does not
+/// One operation is carried out at a time, so that at most one asks the user to unlock the keyring. One that does not
 /// end in time keeps the place until it ends: those that follow fail at once.
 class KirvKeyring : public KirvSecretStore {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     /// Milliseconds.
     struct Limits {
         int operation = 10000; ///< of one operation while the keyring is unlocked
-        int unlocking = 120000; ///< while it is locked, and a person may be asked
+        int unlocking = 120000; ///< while it is locked, and the user may be asked
         int reply = 3000; ///< until a service that does not say its state is Silent
     };
 

@@ -213,7 +213,7 @@ void KirvKeyringWatcher::requestDefaultCollection()
             requestLockState(path);
             return;
         }
-        // Where there is no collection, writing would ask the person to make one.
+        // Where there is no collection, writing would ask the user to make one.
         finish(KirvSecretStore::Unavailable);
     });
 }

@@ -19,7 +19,7 @@ public:
     enum State {
         Unknown, ///< it is being found out
         Ready,
-        Locked, ///< the store itself asks the person to unlock it when an operation needs that
+        Locked, ///< the store itself asks the user to unlock it when an operation needs that
         Silent, ///< it is there and does not respond
         Unavailable ///< there is none
     };
@@ -28,7 +28,7 @@ public:
     enum Outcome {
         Done,
         Missing, ///< there is no such secret; the store was unlocked
-        Refused, ///< the person, or the store, did not allow it
+        Refused, ///< the user, or the store, did not allow it
         TimedOut, ///< no answer in time; it may still be carried out
         Failed
     };

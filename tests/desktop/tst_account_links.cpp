@@ -6,6 +6,7 @@
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/plugins/kirv_plugin_queue.h"
 #include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QDialog>
 #include <QDir>
@@ -187,7 +188,7 @@ void tst_AccountLinks::linkOpensTheAddWindow()
     KirvClient client(optionsFor(text));
     QVERIFY2(client.start(), qPrintable(client.errorString()));
     client.window()->show();
-    QTRY_COMPARE(watcher.shown, 1);
+    KIRV_TRY_COMPARE(watcher.shown, 1);
     QTEST(filled, "login");
     QVERIFY(client.window()->messageBar()->messages().isEmpty());
 }
@@ -199,13 +200,13 @@ void tst_AccountLinks::linkIsOpenedOnce()
     KirvClient client(optionsFor(QStringLiteral("xmpp:ann@example.org")));
     QVERIFY2(client.start(), qPrintable(client.errorString()));
     client.window()->show();
-    QTRY_COMPARE(watcher.shown, 1);
+    KIRV_TRY_COMPARE(watcher.shown, 1);
 
     QSignalSpy finished(&client.pluginQueue(), &KirvPluginQueue::finished);
     const QString plugin = client.plugins().plugins().first().fileName;
     QVERIFY(client.plugins().unload(plugin));
     client.pluginQueue().load(plugin);
-    QVERIFY(finished.wait());
+    QVERIFY(finished.wait(kirvPatience));
     QCoreApplication::processEvents();
     QCOMPARE(watcher.shown, 1);
 }
@@ -217,8 +218,8 @@ void tst_AccountLinks::missingProtocolIsSaid()
     KirvClient client(optionsFor(QStringLiteral("xmpp:ann@example.org")));
     QVERIFY2(client.start(), qPrintable(client.errorString()));
     client.window()->show();
-    QTRY_COMPARE(client.window()->messageBar()->messages(),
-                 QStringList { QStringLiteral("The link cannot be opened: the protocol XMPP is not available.") });
+    KIRV_TRY_COMPARE(client.window()->messageBar()->messages(),
+                     QStringList { QStringLiteral("The link cannot be opened: the protocol XMPP is not available.") });
     QCOMPARE(watcher.shown, 0);
 }
 
@@ -235,7 +236,7 @@ void tst_AccountLinks::wrongCommandLinesAreRefused()
     QFETCH(QStringList, arguments);
     QProcess program;
     program.start(QStringLiteral(KIRV_PROGRAM), QStringList { "--profile", fileIn("profile") } + arguments);
-    QVERIFY(program.waitForFinished());
+    QVERIFY(program.waitForFinished(kirvPatience));
     QCOMPARE(program.exitCode(), 1);
     QVERIFY(program.readAllStandardError().startsWith("kirv: "));
 }

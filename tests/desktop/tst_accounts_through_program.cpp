@@ -192,12 +192,12 @@ void tst_AccountsThroughProgram::enabledAccountLogsInAndIsShown()
 {
     start();
     addAccount(QStringLiteral("bob"), false);
-    QTRY_VERIFY(row(QStringLiteral("bob")));
-    QTRY_COMPARE(row(QStringLiteral("bob"))->checkState(0), Qt::Unchecked);
+    KIRV_TRY(row(QStringLiteral("bob")));
+    KIRV_TRY_COMPARE(row(QStringLiteral("bob"))->checkState(0), Qt::Unchecked);
     const KirvProgramRun result = run({ "enable", "bob" });
     QVERIFY2(result.status == 0, qPrintable(result.errorText()));
     QTRY_VERIFY_WITH_TIMEOUT(account(QStringLiteral("bob"))->isOnline(), kirvPatience);
-    QTRY_COMPARE(row(QStringLiteral("bob"))->checkState(0), Qt::Checked);
+    KIRV_TRY_COMPARE(row(QStringLiteral("bob"))->checkState(0), Qt::Checked);
 }
 
 void tst_AccountsThroughProgram::disabledAccountsAreOneStepToUndo()
@@ -207,8 +207,8 @@ void tst_AccountsThroughProgram::disabledAccountsAreOneStepToUndo()
         addAccount(QLatin1String(id));
     QTRY_VERIFY_WITH_TIMEOUT(account(QStringLiteral("bob"))->isOnline(), kirvPatience);
     QCOMPARE(run({ "disable", "ann", "bob" }).status, 0);
-    QTRY_VERIFY(!account(QStringLiteral("bob"))->isOnline());
-    QTRY_COMPARE(row(QStringLiteral("bob"))->checkState(0), Qt::Unchecked);
+    KIRV_TRY(!account(QStringLiteral("bob"))->isOnline());
+    KIRV_TRY_COMPARE(row(QStringLiteral("bob"))->checkState(0), Qt::Unchecked);
     KirvAccountHistory &history = client->accountHistory();
     QCOMPARE(history.accountsOf(history.latest()).size(), 2);
     QVERIFY(!client->window()->messageBar()->messages().isEmpty());
@@ -241,7 +241,7 @@ void tst_AccountsThroughProgram::exportAndImportGoThroughTheProgram()
     QVERIFY(account(QStringLiteral("ann")));
     QCOMPARE(account(QStringLiteral("ann"))->record().password, secret);
     QTRY_VERIFY_WITH_TIMEOUT(account(QStringLiteral("ann"))->isOnline(), kirvPatience);
-    QTRY_VERIFY(row(QStringLiteral("ann")));
+    KIRV_TRY(row(QStringLiteral("ann")));
 }
 
 void tst_AccountsThroughProgram::importIsUndone()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account_directory.h"
 #include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QPointer>
 #include <QtTest>
@@ -198,7 +199,7 @@ void tst_AccountDirectory::aFailedFetchLeavesNoBase()
     timing.requestTimeout = timesOut ? 20 : 60000;
     core->connection()->setTiming(timing);
     directory().fetch();
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     const KirvDirectoryAnswer answer = takeAnswer();
     QCOMPARE(answer.outcome, Outcome::Failed);
     QCOMPARE(answer.failure.kind(), timesOut ? KirvFailure::TimedOut : KirvFailure::RequestFailed);
@@ -445,7 +446,7 @@ void tst_AccountDirectory::aPublicationFailsWhenTheReconnectionDoes()
     directory().publish(fields("Bob", "Verona"));
     account->setPassword("wrong");
     QVERIFY(account->endSave());
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(takeAnswer().outcome, Outcome::Failed);
     QCOMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
     QVERIFY(!directory().isBusy());
@@ -460,7 +461,7 @@ void tst_AccountDirectory::aPublicationOfADisabledAccountFails()
     directory().publish(fields("Bob", "Verona"));
     account->setEnabled(false);
     QVERIFY(account->endSave());
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(takeAnswer().outcome, Outcome::Failed);
     QCOMPARE(core->takeCalls(), QStringList { "id log out" });
 }
@@ -571,7 +572,7 @@ void tst_AccountDirectory::aSlotMayUnloadTheProtocol()
         core->accounts->protocolAboutToBeUnloaded(core->fake);
     core->settleAndDelete();
     QCOMPARE(answered, 1);
-    QTRY_COMPARE(server().connections, 0);
+    KIRV_TRY_COMPARE(server().connections, 0);
 }
 
 void tst_AccountDirectory::failuresAndSuccessesAreThoseOfTheAccount()

@@ -5,6 +5,7 @@
 #include "core/store/kirv_account_columns.h"
 #include "core/values/kirv_bounded_image.h"
 #include "tests/support/kirv_moved_samples.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_quick_keys.h"
 
@@ -299,7 +300,7 @@ QString tst_AccountFile::schemaProblem(const QByteArray &file) const
         { QStringLiteral("-c"), program, QStringLiteral(KIRV_SOURCE_FOLDER "/docs/export-format.schema.json") });
     python.write(file);
     python.closeWriteChannel();
-    if (!python.waitForFinished(-1))
+    if (!python.waitForFinished(kirvPatience))
         return python.errorString();
     const QString report = QString::fromUtf8(python.readAllStandardError());
     return python.exitCode() == 0 ? QString() : QStringLiteral("refused: ") + report;

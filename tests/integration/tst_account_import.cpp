@@ -4,6 +4,7 @@
 #include "core/moving/kirv_account_import.h"
 #include "tests/integration/kirv_accounts_fixture.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/store_refusal.h"
 
@@ -302,7 +303,7 @@ void tst_AccountImport::newAccountsLogInWhenTheyAreEnabled()
     QSignalSpy added(core->accounts.get(), &KirvAccountCollection::accountAdded);
     importAll(accounts);
     QCOMPARE(added.size(), 2);
-    QTRY_VERIFY(core->account(dora)->isOnline());
+    KIRV_TRY(core->account(dora)->isOnline());
     QCOMPARE(core->takeCalls(), QStringList { "dora log in away moved word of dora" });
     QVERIFY(!core->account(eve)->isOnline());
 }
@@ -411,9 +412,9 @@ void tst_AccountImport::replacedAccountLogsInWithWhatIsNew()
     KirvMovedAccounts accounts = movedAccounts({ ann, bob, cleo });
     accounts.accounts[0].record.enabled = false;
     importAll(accounts);
-    QTRY_VERIFY(core->account(cleo)->isOnline());
-    QTRY_VERIFY(core->account(bob)->isOnline());
-    QTRY_VERIFY(!core->account(ann)->isOnline());
+    KIRV_TRY(core->account(cleo)->isOnline());
+    KIRV_TRY(core->account(bob)->isOnline());
+    KIRV_TRY(!core->account(ann)->isOnline());
     const QStringList calls = core->takeCalls();
     QVERIFY2(calls.contains("ann log out"), qPrintable(calls.join(", ")));
     QVERIFY2(calls.contains("bob log in available moved word of bob"), qPrintable(calls.join(", ")));
@@ -632,7 +633,7 @@ void tst_AccountImport::importIsUndoneInOneStep()
     QCOMPARE(difference(state(), before), QByteArray());
     QCOMPARE(removed.size(), 2);
     QCOMPARE(history->latest(), 0);
-    QTRY_VERIFY(core->account(bob)->isOnline());
+    KIRV_TRY(core->account(bob)->isOnline());
     history.reset();
     core->restart();
     QCOMPARE(difference(state(), before), QByteArray());
@@ -714,7 +715,7 @@ void tst_AccountImport::secretsGoToTheKeyring()
     core->accounts->secrets().setKeyring(keyring.get());
     importAll(movedAccounts({ bob, dora }));
     QVERIFY(!isTextInFiles("moved word of", core->store.folder()));
-    QTRY_COMPARE(int(secretsInKeyring().filter("moved").size()), 4);
+    KIRV_TRY_COMPARE(int(secretsInKeyring().filter("moved").size()), 4);
     const KirvAccountRecord record = core->account(dora)->record();
     QCOMPARE(keyring->secrets.value(record.secretItems.value(QString()).key), QStringLiteral("moved word of dora"));
     QVERIFY(!isTextInFiles("moved word of", core->store.folder()));
@@ -725,12 +726,12 @@ void tst_AccountImport::undoingReturnsSecretsOfTheKeyring()
     keyring = std::make_unique<KirvFakeSecretStore>();
     core->accounts->secrets().setKeyring(keyring.get());
     core->account(bob)->setPassword(QStringLiteral("in the keyring"));
-    QTRY_VERIFY(secretsInKeyring().contains("in the keyring"));
+    KIRV_TRY(secretsInKeyring().contains("in the keyring"));
     importAll(movedAccounts({ bob, dora }));
-    QTRY_COMPARE(int(secretsInKeyring().filter("moved").size()), 4);
-    QTRY_VERIFY(!secretsInKeyring().contains("in the keyring"));
+    KIRV_TRY_COMPARE(int(secretsInKeyring().filter("moved").size()), 4);
+    KIRV_TRY(!secretsInKeyring().contains("in the keyring"));
     QCOMPARE(history->undo(history->latest()), QStringList());
-    QTRY_COMPARE(secretsInKeyring(), QStringList { "in the keyring" });
+    KIRV_TRY_COMPARE(secretsInKeyring(), QStringList { "in the keyring" });
     QCOMPARE(core->account(bob)->record().password, QStringLiteral("in the keyring"));
     QCOMPARE(keyring->secrets.value(core->account(bob)->record().secretItems.value(QString()).key),
              QStringLiteral("in the keyring"));
@@ -741,9 +742,9 @@ void tst_AccountImport::undoingAfterTheKeyringIsGone()
     keyring = std::make_unique<KirvFakeSecretStore>();
     core->accounts->secrets().setKeyring(keyring.get());
     core->account(bob)->setPassword(QStringLiteral("in the keyring"));
-    QTRY_VERIFY(secretsInKeyring().contains("in the keyring"));
+    KIRV_TRY(secretsInKeyring().contains("in the keyring"));
     importAll(movedAccounts({ bob }));
-    QTRY_VERIFY(!secretsInKeyring().contains("in the keyring"));
+    KIRV_TRY(!secretsInKeyring().contains("in the keyring"));
     keyring->setState(KirvSecretStore::Unavailable);
     core->settle();
     QCOMPARE(history->undo(history->latest()), QStringList());
@@ -759,9 +760,9 @@ void tst_AccountImport::lockedSecretsStayAndComeBack()
     core->accounts->secrets().setKeyring(keyring.get());
     for (const QString &id : { ann, bob }) {
         core->account(id)->setPassword(QStringLiteral("locked word of ") + id);
-        QTRY_VERIFY(secretsInKeyring().contains("locked word of " + id));
+        KIRV_TRY(secretsInKeyring().contains("locked word of " + id));
     }
-    QTRY_VERIFY(core->store.unsettledItems().isEmpty());
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
     history.reset();
     keyring->outcome = KirvSecretStore::Refused;
     keyring->setState(KirvSecretStore::Locked);
@@ -782,8 +783,8 @@ void tst_AccountImport::lockedSecretsStayAndComeBack()
     keyring->outcome = KirvSecretStore::Done;
     keyring->setState(KirvSecretStore::Ready);
     for (const QString &id : { ann, bob })
-        QTRY_COMPARE(core->account(id)->record().password, "locked word of " + id);
-    QTRY_COMPARE(int(secretsInKeyring().filter("moved").size()), 0);
+        KIRV_TRY_COMPARE(core->account(id)->record().password, "locked word of " + id);
+    KIRV_TRY_COMPARE(int(secretsInKeyring().filter("moved").size()), 0);
 }
 
 void tst_AccountImport::importThatIsUndoneLeavesNoSecretOnTheDisk()

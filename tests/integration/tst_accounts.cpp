@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QElapsedTimer>
@@ -462,7 +463,7 @@ private Q_SLOTS:
         QVERIFY(filesIn(core->store.avatarFolder()).isEmpty());
         QVERIFY(!isTextInFiles("word of id", core->store.folder()));
         QCOMPARE(core->takeCalls(), QStringList({ "id log out" }));
-        QTRY_VERIFY(!leaving);
+        KIRV_TRY(!leaving);
         QCOMPARE(core->server().connections, 1);
         core->restart();
         QCOMPARE(core->idsOf(core->fake), QStringList({ "other" }));
@@ -497,7 +498,7 @@ private Q_SLOTS:
         QCOMPARE(core->connection()->state(), KirvConnection::Online);
         if (serverAnswers)
             connection->logoutFinished();
-        QTRY_COMPARE(core->server().connections, 1);
+        KIRV_TRY_COMPARE(core->server().connections, 1);
         QVERIFY(core->account("id")->isLoggedIn());
     }
 
@@ -613,10 +614,10 @@ private Q_SLOTS:
         QMetaObject::invokeMethod(
             connection, [=] { leaving->logoutFinished(); }, Qt::QueuedConnection);
         timer.start();
-        core->accounts->logOutAll(60000);
-        QVERIFY(timer.elapsed() < 30000);
+        core->accounts->logOutAll(10 * kirvPatience);
+        QVERIFY(timer.elapsed() < kirvPatience);
         QCOMPARE(connection->state(), KirvConnection::Offline);
-        core->accounts->logOutAll(60000); // nobody is on line
+        core->accounts->logOutAll(10 * kirvPatience); // nobody is on line
     }
 
     // Size

@@ -42,8 +42,8 @@ void tst_AccountsService::passwordsOfALockedKeyringAreNotExported()
     core.accounts->secrets().setKeyring(&keyring);
     core.create();
     core.account()->change([](KirvAccountRecord &record) { record.rememberPassword = true; });
-    QTRY_COMPARE(keyring.secrets.values(), QStringList { QStringLiteral("word of id") });
-    QTRY_VERIFY(core.account()->isOnline());
+    KIRV_TRY_COMPARE(keyring.secrets.values(), QStringList { QStringLiteral("word of id") });
+    KIRV_TRY(core.account()->isOnline());
     KirvAccountsFixture::settle();
     keyring.setState(state);
 

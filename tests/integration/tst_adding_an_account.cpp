@@ -4,6 +4,7 @@
 #include "host/kirv_field_widget.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -140,7 +141,7 @@ void tst_AddingAnAccount::open(const std::function<void(KirvLayoutDialog *)> &in
     const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
         const QPointer<KirvLayoutDialog> added(window);
         window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window));
+        QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
         inWindow(window);
         isRun = true;
         if (added && added->isVisible())
@@ -357,13 +358,13 @@ void tst_AddingAnAccount::refusedCharacterIsSaid()
         login(window)->setCursorPosition(2);
         QTest::keyClick(login(window), Qt::Key_Space);
         QCOMPARE(login(window)->text(), QString("anna"));
-        QTRY_COMPARE(hint(window), said);
+        KIRV_TRY_COMPARE(hint(window), said);
         QTest::keyClick(login(window), Qt::Key_X);
         QCOMPARE(hint(window), QString());
         login(window)->clear();
         QGuiApplication::clipboard()->setText("a b");
         login(window)->paste();
-        QTRY_COMPARE(hint(window), said);
+        KIRV_TRY_COMPARE(hint(window), said);
     });
 }
 
@@ -512,11 +513,11 @@ void tst_AddingAnAccount::linkIsTakenForItsLogin()
     open([](KirvLayoutDialog *window) {
         QGuiApplication::clipboard()->setText("xmpp:anna@example.org");
         login(window)->paste();
-        QTRY_COMPARE(login(window)->text(), QString("anna@example.org"));
+        KIRV_TRY_COMPARE(login(window)->text(), QString("anna@example.org"));
         QCOMPARE(hint(window), QString());
         login(window)->clear();
         QTest::keySequence(login(window), QKeySequence::Paste);
-        QTRY_COMPARE(login(window)->text(), QString("anna@example.org"));
+        KIRV_TRY_COMPARE(login(window)->text(), QString("anna@example.org"));
     });
 }
 
@@ -561,13 +562,13 @@ void tst_AddingAnAccount::linkOnThePageOpensTheWindow()
     if (how == QLatin1String("pasted")) {
         QGuiApplication::clipboard()->setText(link);
         page->window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(page->window()));
+        QVERIFY(QTest::qWaitForWindowActive(page->window(), kirvPatience));
         child<QToolButton>(page, "Accounts_AddButton")->setFocus();
         QTest::keySequence(page->window()->focusWidget(), QKeySequence::Paste);
     } else {
         QVERIFY(dropOnPage(page, link, how == QLatin1String("dropped address")));
     }
-    QTRY_COMPARE(filledIn, QString("anna@example.org"));
+    KIRV_TRY_COMPARE(filledIn, QString("anna@example.org"));
 }
 
 void tst_AddingAnAccount::otherTextOnThePageOpensNothing()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "host/kirv_avatar_quick_set_widget.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -98,7 +99,7 @@ void tst_AvatarPicker::init()
     picker->setFixedSize(64, 64);
     picker->show();
     picker->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(picker.get()));
+    QVERIFY(QTest::qWaitForWindowActive(picker.get(), kirvPatience));
     button = picker->findChild<QWidget *>("KirvAvatar_Button");
     QVERIFY(button);
     selected = std::make_unique<QSignalSpy>(picker.get(), SIGNAL(imageSelected(QString)));
@@ -226,17 +227,17 @@ void tst_AvatarPicker::chosenFileIsShownAndReported()
     QVERIFY(name);
     name->setText(path);
     QTest::keyClick(name, Qt::Key_Return);
-    QTRY_COMPARE(selected->count(), 1);
+    KIRV_TRY_COMPARE(selected->count(), 1);
     QCOMPARE(selected->first().first().toString(), path);
     QCOMPARE(pixel(32, 32), QColor(Qt::green));
-    QTRY_VERIFY(!fileDialog());
+    KIRV_TRY(!fileDialog());
 }
 
 void tst_AvatarPicker::cancelledFileDialogChangesNothing()
 {
     QTest::keyClick(button, Qt::Key_Space);
     QTest::keyClick(fileDialog(), Qt::Key_Escape);
-    QTRY_VERIFY(!fileDialog());
+    KIRV_TRY(!fileDialog());
     QCOMPARE(selected->count(), 0);
     QVERIFY(!refusal());
 }
@@ -307,7 +308,7 @@ void tst_AvatarPicker::refusalIsPlainTextAndDoesNotBlock()
     QCOMPARE(refusal()->windowModality(), Qt::WindowModal);
     QVERIFY(refusal()->isVisible());
     QTest::keyClick(refusal(), Qt::Key_Escape);
-    QTRY_VERIFY(!refusal());
+    KIRV_TRY(!refusal());
 }
 
 void tst_AvatarPicker::droppedFileIsTaken()
@@ -441,7 +442,7 @@ void tst_AvatarPicker::keyboardAndAccessibilityReachIt()
     button->clearFocus();
     const QImage unfocused = picker->grab().toImage();
     picker->setFocus();
-    QTRY_VERIFY(button->hasFocus());
+    KIRV_TRY(button->hasFocus());
     QVERIFY(picker->grab().toImage() != unfocused);
 
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(button);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -100,7 +102,7 @@ tst_BadPlugins::Start tst_BadPlugins::start(const QString &misdeed, const QStrin
     timer.start();
     process.start();
     Start result;
-    if (!process.waitForFinished(60000))
+    if (!process.waitForFinished(kirvPatienceWithProgram))
         return result;
     result.milliseconds = timer.elapsed();
     result.crashed = process.exitStatus() == QProcess::CrashExit;
@@ -281,9 +283,9 @@ void tst_BadPlugins::everythingHappensAfterTheFirstPaint()
 {
     const Start first = start(QStringLiteral("loop in name"));
     QCOMPARE(first.lines.value(0), QStringLiteral("painted|0"));
-    const int blocked = first.of("blocked").value(0).section(QLatin1Char('|'), 1).toInt();
-    qInfo("The event loop was blocked for at most %d ms.", blocked);
-    QVERIFY2(blocked < 500, "Nothing here takes longer than 50 ms; the rest is for a busy machine.");
+    // The test alone takes its whole time. What waits for it leaves a turn or two.
+    const int turns = first.of("turns").value(0).section(QLatin1Char('|'), 1).toInt();
+    QVERIFY2(turns >= 20, qPrintable(QString::number(turns)));
 }
 
 void tst_BadPlugins::aTestThatRunsEndsWithTheProgram()
@@ -293,7 +295,7 @@ void tst_BadPlugins::aTestThatRunsEndsWithTheProgram()
     prepare(process, QStringLiteral("loop in initializer"), {});
     process.start();
     QByteArray seen;
-    QTRY_VERIFY_WITH_TIMEOUT((seen += process.readAllStandardOutput()).contains("|Being tested|"), 20000);
+    KIRV_TRY((seen += process.readAllStandardOutput()).contains("|Being tested|"));
     const QString children = QStringLiteral("/proc/%1/task/%1/children").arg(process.processId());
     QByteArray tester;
     const auto findTester = [&] {
@@ -302,14 +304,12 @@ void tst_BadPlugins::aTestThatRunsEndsWithTheProgram()
         QFile command(QStringLiteral("/proc/%1/stat").arg(QString::fromLatin1(tester)));
         return !tester.isEmpty() && command.open(QIODevice::ReadOnly) && command.readAll().contains("kirv_plugin_te");
     };
-    QTRY_VERIFY_WITH_TIMEOUT(findTester(), 20000);
-    QTRY_VERIFY_WITH_TIMEOUT(QFile(QStringLiteral("/proc/%1/maps").arg(QString::fromLatin1(tester))).exists(), 20000);
+    KIRV_TRY(findTester());
+    KIRV_TRY(QFile(QStringLiteral("/proc/%1/maps").arg(QString::fromLatin1(tester))).exists());
     process.kill();
-    QVERIFY(process.waitForFinished());
-    QTRY_VERIFY_WITH_TIMEOUT(
-        ::kill(pid_t(tester.toInt()), 0) != 0
-            || QFile(QStringLiteral("/proc/%1/exe").arg(QString::fromLatin1(tester))).symLinkTarget().isEmpty(),
-        20000);
+    QVERIFY(process.waitForFinished(kirvPatience));
+    KIRV_TRY(::kill(pid_t(tester.toInt()), 0) != 0
+             || QFile(QStringLiteral("/proc/%1/exe").arg(QString::fromLatin1(tester))).symLinkTarget().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_BadPlugins)

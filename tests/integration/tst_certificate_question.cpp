@@ -262,7 +262,7 @@ void tst_CertificateQuestion::enterDoesNotTrust()
 {
     windows->addAccount(ann);
     KIRV_TRY(question());
-    QVERIFY(QTest::qWaitForWindowActive(question()));
+    QVERIFY(QTest::qWaitForWindowActive(question(), kirvPatience));
     QVERIFY(part("LeaveButton")->isDefault());
     QVERIFY(part("LeaveButton")->hasFocus());
     QTest::keyClick(question()->focusWidget(), Qt::Key_Return);

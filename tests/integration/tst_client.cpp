@@ -18,6 +18,7 @@
 #include "host/kirv_plugin_manager.h"
 #include "tests/support/fakes/kirv_fake_protocol.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -167,8 +168,8 @@ void tst_Client::start()
     client = std::make_unique<KirvClient>(options);
     QVERIFY2(client->start(), qPrintable(client->errorString()));
     client->window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(client->window()));
-    QTRY_VERIFY(client->arePluginsLoaded());
+    QVERIFY(QTest::qWaitForWindowExposed(client->window(), kirvPatience));
+    KIRV_TRY(client->arePluginsLoaded());
 }
 
 void tst_Client::restart()
@@ -189,7 +190,7 @@ KirvAccount *tst_Client::addAccount(const QString &id, const QString &password, 
 KirvAccount *tst_Client::addOnlineAccount(const QString &id)
 {
     KirvAccount *created = addAccount(id);
-    return QTest::qWaitFor([created] { return created->isLoggedIn(); }) ? created : nullptr;
+    return QTest::qWaitFor([created] { return created->isLoggedIn(); }, kirvPatience) ? created : nullptr;
 }
 
 QTreeWidget *tst_Client::list() const
@@ -301,7 +302,7 @@ void tst_Client::accountsLogInAgainAfterARestart()
     restart();
     QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
     QCOMPARE(row(QStringLiteral("anna"))->checkState(AliasColumn), Qt::Checked);
-    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    KIRV_TRY(account(QStringLiteral("anna"))->isLoggedIn());
 }
 
 void tst_Client::titleAndRowsFollowTheMainAccount()
@@ -313,10 +314,10 @@ void tst_Client::titleAndRowsFollowTheMainAccount()
     QVERIFY(index > 0);
     selector()->setCurrentIndex(index);
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – bert"));
-    QTRY_COMPARE(
+    KIRV_TRY_COMPARE(
         row(QStringLiteral("anna"))->data(AliasColumn, Qt::AccessibleTextRole).toString().contains("main account"),
         false);
-    QTRY_VERIFY(
+    KIRV_TRY(
         row(QStringLiteral("bert"))->data(AliasColumn, Qt::AccessibleTextRole).toString().contains("main account"));
     bert->setAlias(QStringLiteral("Bert\nB."));
     QCOMPARE(client->window()->windowTitle(), QStringLiteral("Kirv – Settings – Bert B."));
@@ -366,7 +367,7 @@ void tst_Client::reloadedProtocolListsItsAccountsOnce()
         QCOMPARE(row(QStringLiteral("anna"))->toolTip(AliasColumn), QString());
         QCOMPARE(selector()->count(), 1);
         QCOMPARE(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")->menu()->actions().size(), 1);
-        QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+        KIRV_TRY(account(QStringLiteral("anna"))->isLoggedIn());
     }
 }
 
@@ -438,8 +439,8 @@ void tst_Client::reloadingFromThePluginsPage()
     QVERIFY(!unloadButton->isEnabled());
     QTest::mouseClick(loadButton, Qt::LeftButton);
     QVERIFY(!loadButton->isEnabled());
-    QTRY_COMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
-    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    KIRV_TRY_COMPARE(plugins->topLevelItem(0)->text(1), QStringLiteral("Loaded"));
+    KIRV_TRY(account(QStringLiteral("anna"))->isLoggedIn());
     QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
 }
 
@@ -576,7 +577,7 @@ void tst_Client::oneSaveIsOneTransaction()
     QCOMPARE(anna->getPassword(), QStringLiteral("another"));
     QVERIFY(anna->record().restorePresence);
     QCOMPARE(row(QStringLiteral("anna"))->text(AliasColumn), QStringLiteral("Anna"));
-    QTRY_VERIFY(anna->isLoggedIn());
+    KIRV_TRY(anna->isLoggedIn());
 }
 
 void tst_Client::refusedSaveKeepsTheWindowOpen()
@@ -606,7 +607,7 @@ void tst_Client::directoryTabSaysWhyItIsLocked()
     child<QTabWidget>(window, "EditAccount_Tabs")->setCurrentIndex(1);
     QVERIFY(!fields->isEnabled());
     QCOMPARE(status->text(), QStringLiteral("Requesting the directory entry…"));
-    QTRY_VERIFY(fields->isEnabled());
+    KIRV_TRY(fields->isEnabled());
     QCOMPARE(status->text(), QString());
 }
 
@@ -614,7 +615,7 @@ void tst_Client::directoryIsAskedWhenTheAccountComesOnLine()
 {
     KirvAccount *anna = addOnlineAccount(QStringLiteral("anna"));
     KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
-    QTRY_VERIFY(!anna->isLoggedIn());
+    KIRV_TRY(!anna->isLoggedIn());
     QDialog *window = openEditWindow(QStringLiteral("anna"));
     auto *status = child<QLabel>(window, "EditAccount_PubDirStatus");
     auto *fields = child<QWidget>(window, "EditAccount_PubDirResults")->findChild<KirvFieldWidget *>();
@@ -622,18 +623,18 @@ void tst_Client::directoryIsAskedWhenTheAccountComesOnLine()
     QVERIFY(!fields->isEnabled());
     QVERIFY(status->text().contains(QLatin1String("must be connected")));
     KirvAccountManager::getInstance()->enableAccount(QStringLiteral("anna"), example);
-    QTRY_VERIFY(fields->isEnabled());
+    KIRV_TRY(fields->isEnabled());
     QCOMPARE(status->text(), QString());
 }
 
 void tst_Client::rowsShowStates()
 {
     KirvAccount *anna = addAccount(QStringLiteral("anna"));
-    QTRY_COMPARE(state(anna), QStringLiteral("Connecting…"));
-    QTRY_COMPARE(state(anna), QStringLiteral("Connected"));
+    KIRV_TRY_COMPARE(state(anna), QStringLiteral("Connecting…"));
+    KIRV_TRY_COMPARE(state(anna), QStringLiteral("Connected"));
     anna->setPresence(anna->protocol()->presenceWithId(QStringLiteral("offline"), QString()));
-    QTRY_COMPARE(state(anna), QStringLiteral("Logging out…"));
-    QTRY_COMPARE(state(anna), QStringLiteral("Off line"));
+    KIRV_TRY_COMPARE(state(anna), QStringLiteral("Logging out…"));
+    KIRV_TRY_COMPARE(state(anna), QStringLiteral("Off line"));
     KirvAccountManager::getInstance()->disableAccount(QStringLiteral("anna"), example);
     QCOMPARE(state(anna), QStringLiteral("Disabled"));
 }
@@ -643,12 +644,12 @@ void tst_Client::reconnectLogsInAgain()
     KirvAccount *anna = addOnlineAccount(QStringLiteral("anna"));
     anna->setPresence(anna->getProtocol()->createPresenceWithId(QStringLiteral("offline"), QString()));
     anna->getProtocol()->accountPresenceChanged(anna);
-    QTRY_COMPARE(anna->connection()->state(), KirvConnection::Offline);
+    KIRV_TRY_COMPARE(anna->connection()->state(), KirvConnection::Offline);
     list()->setCurrentItem(row(QStringLiteral("anna")));
     auto *reconnect = child<QPushButton>(client->accountsPage(), "Accounts_ReconnectButton");
-    QTRY_VERIFY(reconnect->isEnabled());
+    KIRV_TRY(reconnect->isEnabled());
     reconnect->click();
-    QTRY_VERIFY(anna->isLoggedIn());
+    KIRV_TRY(anna->isLoggedIn());
     QCOMPARE(anna->presence().getId(), QStringLiteral("available"));
 }
 
@@ -656,7 +657,7 @@ void tst_Client::passwordIsAskedForAndTaken()
 {
     addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
     restart();
-    QTRY_VERIFY(passwordQuestion());
+    KIRV_TRY(passwordQuestion());
     QPointer<KirvPasswordDialog> question = passwordQuestion();
     QVERIFY(child<QLabel>(question, "PasswordQuestion_Text")->text().contains(QLatin1String("anna (Example)")));
     QPushButton *ok = child<QDialogButtonBox>(question, "PasswordQuestion_Buttons")->button(QDialogButtonBox::Ok);
@@ -664,12 +665,12 @@ void tst_Client::passwordIsAskedForAndTaken()
     QTest::keyClicks(child<QLineEdit>(question, "PasswordQuestion_Password"), QStringLiteral("secret"));
     child<QCheckBox>(question, "PasswordQuestion_Remember")->setChecked(true);
     ok->click();
-    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    KIRV_TRY(account(QStringLiteral("anna"))->isLoggedIn());
     processDeletions();
     QVERIFY(!question);
 
     restart();
-    QTRY_VERIFY(account(QStringLiteral("anna"))->isLoggedIn());
+    KIRV_TRY(account(QStringLiteral("anna"))->isLoggedIn());
     QVERIFY(!passwordQuestion());
 }
 
@@ -678,7 +679,7 @@ void tst_Client::passwordsAreAskedOneAfterTheOther()
     addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
     addAccount(QStringLiteral("bert"), QStringLiteral("secret"), false);
     restart();
-    QTRY_VERIFY(passwordQuestion());
+    KIRV_TRY(passwordQuestion());
     QCOMPARE(int(client->window()->findChildren<KirvPasswordDialog *>().size()), 1);
     const KirvAccountKey first = passwordQuestion()->key();
     passwordQuestion()->reject();
@@ -694,25 +695,25 @@ void tst_Client::cancelledPasswordQuestionLeavesTheAccountOffLine()
 {
     addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
     restart();
-    QTRY_VERIFY(passwordQuestion());
+    KIRV_TRY(passwordQuestion());
     passwordQuestion()->reject();
     KirvAccount *anna = account(QStringLiteral("anna"));
     QCOMPARE(state(anna), QStringLiteral("Password needed"));
     list()->setCurrentItem(row(QStringLiteral("anna")));
     auto *enter = child<QPushButton>(client->accountsPage(), "Accounts_PasswordButton");
-    QTRY_VERIFY(enter->isEnabled());
+    KIRV_TRY(enter->isEnabled());
     enter->click();
     QVERIFY(passwordQuestion());
     QTest::keyClicks(child<QLineEdit>(passwordQuestion(), "PasswordQuestion_Password"), QStringLiteral("secret"));
     QTest::keyClick(passwordQuestion(), Qt::Key_Return);
-    QTRY_VERIFY(anna->isLoggedIn());
+    KIRV_TRY(anna->isLoggedIn());
 }
 
 void tst_Client::passwordQuestionGoesWithItsAccount()
 {
     addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
     restart();
-    QTRY_VERIFY(passwordQuestion());
+    KIRV_TRY(passwordQuestion());
     KirvAccountManager::getInstance()->removeAccount(QStringLiteral("anna"), example);
     processDeletions();
     QVERIFY(client->window()->findChildren<KirvPasswordDialog *>().isEmpty());
@@ -723,7 +724,7 @@ void tst_Client::passwordQuestionGoesWithItsProtocol()
     addAccount(QStringLiteral("anna"), QStringLiteral("secret"), false);
     addAccount(QStringLiteral("bert"), QStringLiteral("secret"), false);
     restart();
-    QTRY_VERIFY(passwordQuestion());
+    KIRV_TRY(passwordQuestion());
     unload();
     processDeletions();
     QVERIFY(client->window()->findChildren<KirvPasswordDialog *>().isEmpty());
@@ -790,7 +791,7 @@ void tst_Client::actionsOfTheProtocolAreOffered()
                                                      QStringLiteral("secret"), true, protocol,
                                                      protocol->presences().first(), {});
     const KirvAccount *anna = client->accounts().find({ QStringLiteral("anna"), offering });
-    QTRY_VERIFY(anna->isOnline());
+    KIRV_TRY(anna->isOnline());
     QDialog *window = openEditWindow(QStringLiteral("anna"));
     QVERIFY(window);
     auto *more = child<QPushButton>(window, "EditAccount_ServerAccountButton");

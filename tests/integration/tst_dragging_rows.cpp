@@ -3,6 +3,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_client_windows.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -66,7 +67,7 @@ void tst_DraggingRows::init()
     QVERIFY(windows->isReady());
     for (const QString &id : { cleo, ann, dora, bob })
         QVERIFY(windows->addAccount(id));
-    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window(), kirvPatience));
     // Three clicks on the header lead to the user's own order.
     for (int click = 0; click < 3 && windows->rowIds() != QStringList({ cleo, ann, dora, bob }); ++click) {
         QTest::mouseClick(list()->header()->viewport(), Qt::LeftButton, {}, QPoint(40, list()->header()->height() / 2));
@@ -114,7 +115,7 @@ void tst_DraggingRows::drag(const QString &id, const QPoint &target)
     QTest::mouseMove(window, inWindow(start + QPoint(1, 0)));
     QTimer::singleShot(5, this, step);
     QTest::mouseMove(window, inWindow(start + QPoint(2 * QApplication::startDragDistance(), 0)));
-    QTRY_VERIFY(hasEnded);
+    KIRV_TRY(hasEnded);
     KirvClientWindows::settle();
 }
 

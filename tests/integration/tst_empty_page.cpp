@@ -64,7 +64,7 @@ void tst_EmptyPage::init()
     windows = std::make_unique<KirvClientWindows>();
     QVERIFY(windows->isReady());
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
 }
 
 void tst_EmptyPage::cleanup()

@@ -7,6 +7,7 @@
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QDir>
 #include <QFile>
@@ -142,20 +143,20 @@ void tst_ExampleProtocol::logsInAndOut()
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
     QVERIFY(account);
     QVERIFY(!account->isLoggedIn());
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     account->setPresence(core->presence("offline"));
-    QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
+    KIRV_TRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
     account->setPresence(core->presence("away"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     QCOMPARE(account->connection()->presence().getId(), QStringLiteral("away"));
     account->setPresence(core->presence("offline"));
-    QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
+    KIRV_TRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
 }
 
 void tst_ExampleProtocol::aWrongPasswordIsNotTriedAgain()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("wrong"));
-    QTRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
+    KIRV_TRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
     QCOMPARE(account->connection()->state(), KirvConnection::Offline);
 }
 
@@ -163,7 +164,7 @@ void tst_ExampleProtocol::needsAPassword()
 {
     QSignalSpy questions(&core->accounts, &KirvAccountCollection::passwordNeeded);
     KirvAccount *account = core->createAccount(QString());
-    QTRY_COMPARE(questions.size(), 1);
+    KIRV_TRY_COMPARE(questions.size(), 1);
     QCOMPARE(account->connection()->lastFailure().kind(), KirvFailure::PasswordMissing);
 }
 
@@ -173,43 +174,43 @@ void tst_ExampleProtocol::aServerThatIsTooSlowIsGivenUp()
     KirvConnection::Timing timing;
     timing.loginTimeout = 20;
     account->connection()->setTiming(timing);
-    QTRY_COMPARE(account->connection()->state(), KirvConnection::Waiting);
+    KIRV_TRY_COMPARE(account->connection()->state(), KirvConnection::Waiting);
     QCOMPARE(account->connection()->lastFailure().kind(), KirvFailure::TimedOut);
 }
 
 void tst_ExampleProtocol::aChangedPresenceIsSent()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     QSignalSpy notices(account->connection(), &KirvConnection::noticeReceived);
     account->setPresence(core->presence("away", QStringLiteral("at lunch")));
     core->protocol()->accountPresenceChanged(account);
-    QTRY_COMPARE(notices.size(), 1);
+    KIRV_TRY_COMPARE(notices.size(), 1);
     QCOMPARE(account->connection()->presence().getId(), QStringLiteral("away"));
     QCOMPARE(notices.first().first().toString(), QStringLiteral("The server echoes: at lunch"));
 
     account->setPresence(core->presence("offline"));
     core->protocol()->accountPresenceChanged(account);
-    QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
+    KIRV_TRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
 }
 
 void tst_ExampleProtocol::aChangedPasswordLogsInAgain()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     account->setPassword(QStringLiteral("wrong"));
     core->protocol()->accountPresenceChanged(account);
-    QTRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
+    KIRV_TRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
 
     account->setPassword(QStringLiteral("secret"));
     core->protocol()->accountPresenceChanged(account);
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
 }
 
 void tst_ExampleProtocol::theSamePasswordKeepsTheSession()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     QSignalSpy states(account->connection(), &KirvConnection::stateChanged);
     account->setPassword(QStringLiteral("secret"));
     core->protocol()->accountPresenceChanged(account);
@@ -221,9 +222,9 @@ void tst_ExampleProtocol::theSamePasswordKeepsTheSession()
 void tst_ExampleProtocol::aDisabledAccountStaysOffline()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     KirvAccountManager::getInstance()->disableAccount(account->getUid(), account->getProtocolName());
-    QTRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
+    KIRV_TRY_COMPARE(account->connection()->state(), KirvConnection::Offline);
     account->setPresence(core->presence("available"));
     core->protocol()->accountPresenceChanged(account);
     QCoreApplication::processEvents();
@@ -233,17 +234,17 @@ void tst_ExampleProtocol::aDisabledAccountStaysOffline()
 void tst_ExampleProtocol::aChangedSettingLogsInAgain()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     QSignalSpy states(account->connection(), &KirvConnection::stateChanged);
     account->setAccountSettings({ KirvField::number(QString(), QStringLiteral("latency"), 2, 0, 60000, QString()) });
-    QTRY_COMPARE(states.size(), 4);
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY_COMPARE(states.size(), 4);
+    KIRV_TRY(account->isLoggedIn());
 }
 
 void tst_ExampleProtocol::keepsADirectoryEntry()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     QList<KirvDirectoryAnswer> answers;
     connect(account->connection(), &KirvConnection::directoryAnswered, this,
             [&](const KirvDirectoryAnswer &answer) { answers << answer; });
@@ -252,39 +253,39 @@ void tst_ExampleProtocol::keepsADirectoryEntry()
     };
 
     core->protocol()->fetchPubdirInfo(account);
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(answers.takeFirst().outcome, KirvDirectoryAnswer::None);
     core->protocol()->publishPubdirInfo(account, { field("name", "Ann"), field("town", "Verona") });
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(answers.takeFirst().fields.size(), 2);
     // A change of one field leaves the other one as it is.
     account->connection()->publishDirectory({ field("town", "Padua") });
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(answers.takeFirst().fields, (QList<KirvField> { field("name", "Ann"), field("town", "Padua") }));
     core->protocol()->deletePubdirInfo(account);
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(answers.takeFirst().outcome, KirvDirectoryAnswer::None);
     core->protocol()->fetchPubdirInfo(account);
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(answers.takeFirst().outcome, KirvDirectoryAnswer::None);
 }
 
 void tst_ExampleProtocol::aRequestOfAnAccountThatIsNotConnectedFails()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("wrong"));
-    QTRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
+    KIRV_TRY_COMPARE(account->connection()->lastFailure().kind(), KirvFailure::WrongPassword);
     QList<KirvDirectoryAnswer> answers;
     connect(&account->directory(), &KirvAccountDirectory::answered, this,
             [&](KirvAccountDirectory::Operation, const KirvDirectoryAnswer &answer) { answers << answer; });
     core->protocol()->fetchPubdirInfo(account);
-    QTRY_COMPARE(answers.size(), 1);
+    KIRV_TRY_COMPARE(answers.size(), 1);
     QCOMPARE(answers.first().outcome, KirvDirectoryAnswer::Failed);
 }
 
 void tst_ExampleProtocol::aRequestFailsWhenTheProtocolIsUnloaded()
 {
     KirvAccount *account = core->createAccount(QStringLiteral("secret"));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
     QList<KirvDirectoryAnswer> answers;
     connect(&account->directory(), &KirvAccountDirectory::answered, this,
             [&](KirvAccountDirectory::Operation, const KirvDirectoryAnswer &answer) { answers << answer; });
@@ -295,7 +296,7 @@ void tst_ExampleProtocol::aRequestFailsWhenTheProtocolIsUnloaded()
     QVERIFY(!account->connection());
 
     QVERIFY(core->plugins.load(core->file));
-    QTRY_VERIFY(account->isLoggedIn());
+    KIRV_TRY(account->isLoggedIn());
 }
 
 /// The code in the guide is the code that is built.

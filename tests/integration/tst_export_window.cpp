@@ -463,7 +463,7 @@ void tst_ExportWindow::keyboardAloneExports()
 {
     open();
     window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QVERIFY(QTest::qWaitForWindowActive(window(), kirvPatience));
     QVERIFY(QApplication::focusWidget() == list());
     QTest::keyClick(list(), Qt::Key_Space); // the first account
     QCOMPARE(list()->topLevelItem(0)->checkState(0), Qt::Unchecked);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "host/kirv_field_widget.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -355,9 +356,9 @@ void tst_FieldWidget::refillKeepsTheFocus()
     Form form(fields);
     form.activateWindow();
     form.control<QLineEdit>("b")->setFocus();
-    QTRY_VERIFY(form.control<QLineEdit>("b")->hasFocus());
+    KIRV_TRY(form.control<QLineEdit>("b")->hasFocus());
     form.fillWithFields(fields);
-    QTRY_VERIFY(form.control<QLineEdit>("b")->hasFocus());
+    KIRV_TRY(form.control<QLineEdit>("b")->hasFocus());
 }
 
 void tst_FieldWidget::hintTellsWhatIsWrong_data()
@@ -408,7 +409,7 @@ void tst_FieldWidget::emptyRequiredFieldIsNotBlamedBeforeItIsLeft()
     auto *edit = form.control<QLineEdit>();
     QVERIFY(!edit->placeholderText().isEmpty());
     edit->setFocus();
-    QTRY_VERIFY(edit->hasFocus());
+    KIRV_TRY(edit->hasFocus());
     QCOMPARE(form.hint(), QString());
     QTest::keyClick(edit, Qt::Key_Tab);
     QVERIFY(form.control<QLineEdit>("b")->hasFocus());
@@ -511,7 +512,7 @@ void tst_FieldWidget::wheelPassesOverControlsWithoutFocus()
     Form form({ KirvField::textEdit("A", "a", QString(), QString()), port("80") });
     form.activateWindow();
     form.control<QLineEdit>("a")->setFocus();
-    QTRY_VERIFY(form.control<QLineEdit>("a")->hasFocus());
+    KIRV_TRY(form.control<QLineEdit>("a")->hasFocus());
     auto *box = form.control<QSpinBox>();
     const auto turn = [box] {
         QWheelEvent event(box->rect().center(), box->mapToGlobal(box->rect().center()), QPoint(), QPoint(0, 120),
@@ -531,7 +532,7 @@ void tst_FieldWidget::tabLeavesAMultiLineField()
     form.activateWindow();
     auto *edit = form.control<QPlainTextEdit>("a");
     edit->setFocus();
-    QTRY_VERIFY(edit->hasFocus());
+    KIRV_TRY(edit->hasFocus());
     QTest::keyClick(edit, Qt::Key_Tab);
     QVERIFY(form.control<QSpinBox>()->hasFocus());
     QCOMPARE(edit->toPlainText(), QString());

@@ -157,7 +157,7 @@ void tst_HelpInWindows::init()
         return text.contains(QLatin1Char(' ')) ? QStringLiteral("It holds a blank.") : QString();
     };
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
 }
 
 void tst_HelpInWindows::cleanup()
@@ -174,7 +174,7 @@ void tst_HelpInWindows::inAddWindow(const std::function<void(KirvLayoutDialog *)
     const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
         const QPointer<KirvLayoutDialog> added(window);
         window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window));
+        QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
         look(window);
         isRun = true;
         if (added && added->isVisible())
@@ -553,7 +553,7 @@ void tst_HelpInWindows::logIsCopied()
     QCOMPARE(QGuiApplication::clipboard()->text(), textsOf(list).join('\n'));
     list->setCurrentRow(1);
     window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window));
+    QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
     QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QGuiApplication::clipboard()->text(), list->item(1)->text());
 }

@@ -595,7 +595,7 @@ void tst_ImportWindow::keyboardAloneImports()
     choose(writeAccounts({ moved(ann), moved(bob) }, phrase));
     KIRV_TRY(part<QLineEdit>("PassPhrase")->isVisible());
     window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QVERIFY(QTest::qWaitForWindowActive(window(), kirvPatience));
     KIRV_TRY(QApplication::focusWidget() == part<QLineEdit>("PassPhrase"));
     QTest::keyClicks(QApplication::focusWidget(), phrase);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

@@ -118,7 +118,7 @@ void tst_KeyboardOnly::start(const QStringList &ids)
     for (const QString &id : ids)
         QVERIFY(windows->addAccount(id));
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
 }
 
 void tst_KeyboardOnly::goToRow(const QString &id)
@@ -140,8 +140,8 @@ void tst_KeyboardOnly::accountIsAdded()
     start({});
     bool isAccepted = false;
     const auto fillIn = [](const QWidget *window) {
-        QTRY_COMPARE(QApplication::activeWindow(), window);
-        QTRY_COMPARE(focused(), QStringLiteral("AddAccount_UsernameEdit"));
+        KIRV_TRY_COMPARE(QApplication::activeWindow(), window);
+        KIRV_TRY_COMPARE(focused(), QStringLiteral("AddAccount_UsernameEdit"));
         type(ann);
         QVERIFY(tabTo(QStringLiteral("AddAccount_PasswordEdit")));
         type(QStringLiteral("secret"));
@@ -210,7 +210,7 @@ void tst_KeyboardOnly::accountIsRemovedAndComesBack()
     goToRow(bob);
     const KirvWindowWatcher<QMessageBox> watcher([](QMessageBox *box) {
         const QPointer<QMessageBox> open(box);
-        const bool isActive = QTest::qWaitFor([box] { return QApplication::activeWindow() == box; });
+        const bool isActive = QTest::qWaitFor([box] { return QApplication::activeWindow() == box; }, kirvPatience);
         if (isActive && tabTo(box->button(QMessageBox::Yes)))
             press(Qt::Key_Space);
         if (open && open->isVisible())
@@ -222,7 +222,7 @@ void tst_KeyboardOnly::accountIsRemovedAndComesBack()
     QCOMPARE(windows->rowIds(), QStringList(ann));
 
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
     QVERIFY(tabTo(QStringLiteral("Accounts_List")));
     press(Qt::Key_Z, Qt::ControlModifier);
     Windows::settle();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_keyring.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
 #include "tests/support/servers/kirv_scripted_secret_service.h"
@@ -65,6 +66,9 @@ void startAgain(QProcess &process, const QString &argument, const QMap<QString, 
     process.start(QCoreApplication::applicationFilePath(), { argument });
 }
 
+/// Only the state that a service does not say comes in time.
+const KirvKeyring::Limits onlyTheReply { 10 * kirvPatience, 10 * kirvPatience, 500 };
+
 const QString busVariable = QStringLiteral("DBUS_SESSION_BUS_ADDRESS");
 
 } // namespace
@@ -108,7 +112,7 @@ void tst_Keyring::withoutABusThereIsNoKeyringAtOnce()
     QFETCH(QByteArray, bus);
     QProcess process;
     startAgain(process, QStringLiteral("--write"), { { busVariable, bus } });
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(kirvPatience));
     QCOMPARE(process.readAllStandardOutput(), QByteArray("unavailable at once, then failed"));
 }
 
@@ -120,7 +124,7 @@ static int writeWithoutBus()
     Answer answer;
     keyring.write(item, QStringLiteral("secret"), &answer, answer.taker());
     const bool isLater = !answer.has(); // from the event loop
-    const bool isAnswered = QTest::qWaitFor([&] { return answer.has(); });
+    const bool isAnswered = QTest::qWaitFor([&] { return answer.has(); }, kirvPatience);
     std::printf("%s, then %s", isAtOnce && isLater ? "unavailable at once" : "something else",
                 isAnswered && answer.outcome() == KirvSecretStore::Failed ? "failed" : "something else");
     return 0;
@@ -152,15 +156,15 @@ void tst_Keyring::aBusThatDoesNotAnswerHoldsNothingUp()
         said += process.readAllStandardOutput();
         return said.contains(text);
     };
-    QTRY_VERIFY2(says("\n"), "nothing in time");
-    QTRY_VERIFY2(says("wrote TimedOut\n"), said.constData());
+    KIRV_TRY_SAYING(says("\n"), "nothing in time");
+    KIRV_TRY_SAYING(says("wrote TimedOut\n"), said.constData());
     QVERIFY2(said.startsWith("Unknown, Silent while it turns"), said.constData());
     if (answersLater) {
         bus.pass();
-        QTRY_VERIFY2_WITH_TIMEOUT(says("Ready"), said.constData(), 20000);
+        KIRV_TRY_SAYING(says("Ready"), said.constData());
     }
     process.closeWriteChannel(); // which ends it
-    QTRY_COMPARE(process.state(), QProcess::NotRunning);
+    KIRV_TRY_COMPARE(process.state(), QProcess::NotRunning);
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
 }
 
@@ -168,7 +172,7 @@ void tst_Keyring::aBusThatDoesNotAnswerHoldsNothingUp()
 static int followStates()
 {
     const Turns turns;
-    KirvKeyring keyring({ 10000, 120000, 500 });
+    KirvKeyring keyring(onlyTheReply);
     const auto say = [&keyring] {
         std::printf("%s", QMetaEnum::fromType<KirvSecretStore::State>().valueToKey(keyring.state()));
     };
@@ -198,10 +202,10 @@ void tst_Keyring::aBusThatHangsUpIsNone()
     QProcess process;
     startAgain(process, QStringLiteral("--follow"), { { busVariable, bus.address() } });
     QByteArray said;
-    QTRY_VERIFY2((said += process.readAllStandardOutput()).contains("Unavailable"), said.constData());
+    KIRV_TRY_SAYING((said += process.readAllStandardOutput()).contains("Unavailable"), said.constData());
     QCOMPARE(said, QByteArray("Unknown, Unavailable"));
     process.closeWriteChannel();
-    QTRY_COMPARE(process.state(), QProcess::NotRunning);
+    KIRV_TRY_COMPARE(process.state(), QProcess::NotRunning);
 }
 
 /// In Plasma QtKeychain prefers another interface of KWallet to the Secret Service, whoever offers that.
@@ -216,7 +220,7 @@ void tst_Keyring::theServiceThatIsShownIsUsedInEverySession()
                { { QStringLiteral("XDG_CURRENT_DESKTOP"), "KDE" },
                  { QStringLiteral("KDE_SESSION_VERSION"), "5" },
                  { QStringLiteral("KDE_FULL_SESSION"), "true" } });
-    QTRY_COMPARE(process.state(), QProcess::NotRunning);
+    KIRV_TRY_COMPARE(process.state(), QProcess::NotRunning);
     QCOMPARE(process.readAllStandardOutput(), QByteArray("GNOME Keyring Done KDE"));
     QCOMPARE(daemon.count(), 1);
     QCOMPARE(wallet.calls(), 0);
@@ -228,7 +232,7 @@ static int keepInPlasma()
     KirvKeyring keyring;
     Answer answer;
     keyring.write(item, QStringLiteral("secret"), &answer, answer.taker());
-    if (!QTest::qWaitFor([&] { return answer.has(); }))
+    if (!QTest::qWaitFor([&] { return answer.has(); }, kirvPatience))
         return 1;
     std::printf("%s %s %s", qPrintable(keyring.providerName()),
                 QMetaEnum::fromType<KirvSecretStore::Outcome>().valueToKey(answer.outcome()),
@@ -241,7 +245,7 @@ void tst_Keyring::onlyTheBusSaysWhoOffersTheService()
     KirvGnomeKeyring daemon;
     QVERIFY(daemon.start());
     KirvKeyring keyring;
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
     QSignalSpy changes(&keyring, &KirvSecretStore::stateChanged);
     const QString bus = QStringLiteral("org.freedesktop.DBus");
     QDBusMessage forged =
@@ -250,7 +254,7 @@ void tst_Keyring::onlyTheBusSaysWhoOffersTheService()
     QVERIFY(QDBusConnection::sessionBus().send(forged));
     Answer written; // later than the signal
     keyring.write(item, QStringLiteral("secret"), &written, written.taker());
-    QTRY_VERIFY(written.has());
+    KIRV_TRY(written.has());
     QCOMPARE(written.outcome(), KirvSecretStore::Done);
     QCOMPARE(keyring.state(), KirvSecretStore::Ready);
     QVERIFY(changes.isEmpty());
@@ -259,7 +263,7 @@ void tst_Keyring::onlyTheBusSaysWhoOffersTheService()
 void tst_Keyring::withoutAServiceThereIsNoKeyring()
 {
     KirvKeyring keyring;
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
 }
 
 void tst_Keyring::aSecretIsWrittenReadAndRemoved()
@@ -267,7 +271,7 @@ void tst_Keyring::aSecretIsWrittenReadAndRemoved()
     KirvGnomeKeyring daemon;
     QVERIFY(daemon.start());
     KirvKeyring keyring;
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
     QCOMPARE(keyring.providerName(), QStringLiteral("GNOME Keyring"));
     const QString secret = QString::fromUtf8("pass \xc3\xa4\xe2\x82\xac\xf0\x9f\x94\x91\nword ") + QString(5000, u'x');
     Answer written, read, removed, gone;
@@ -275,7 +279,7 @@ void tst_Keyring::aSecretIsWrittenReadAndRemoved()
     keyring.read(item, &read, read.taker());
     keyring.remove(item, &removed, removed.taker());
     keyring.read(item, &gone, gone.taker());
-    QTRY_VERIFY(gone.has());
+    KIRV_TRY(gone.has());
     QCOMPARE(written.outcome(), KirvSecretStore::Done);
     QCOMPARE(read.outcome(), KirvSecretStore::Done);
     QCOMPARE(read.reply->secret, secret);
@@ -292,7 +296,7 @@ void tst_Keyring::whatIsNotThereIsMissing()
     Answer read, removed; // requested before the state is known
     keyring.read(other, &read, read.taker());
     keyring.remove(other, &removed, removed.taker());
-    QTRY_VERIFY(removed.has());
+    KIRV_TRY(removed.has());
     QCOMPARE(read.outcome(), KirvSecretStore::Missing);
     QCOMPARE(removed.outcome(), KirvSecretStore::Done);
 }
@@ -302,11 +306,11 @@ void tst_Keyring::lockingAndUnlockingAreNoticed()
     KirvGnomeKeyring daemon;
     QVERIFY(daemon.start());
     KirvKeyring keyring;
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
     QVERIFY(daemon.lock());
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
     QVERIFY(daemon.unlock());
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
 }
 
 void tst_Keyring::aLockedSecretIsNotMissing()
@@ -316,12 +320,12 @@ void tst_Keyring::aLockedSecretIsNotMissing()
     KirvKeyring keyring;
     Answer written, read;
     keyring.write(item, QStringLiteral("secret"), &written, written.taker());
-    QTRY_VERIFY(written.has());
+    KIRV_TRY(written.has());
     QVERIFY2(written.outcome() == KirvSecretStore::Done, written.text());
     QVERIFY(daemon.lock());
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
     keyring.read(item, &read, read.taker()); // nobody is there who could be asked
-    QTRY_VERIFY_WITH_TIMEOUT(read.has(), 60000);
+    KIRV_TRY(read.has());
     QVERIFY2(read.outcome() != KirvSecretStore::Missing, qPrintable(read.reply->text));
     QVERIFY(read.outcome() != KirvSecretStore::Done);
 }
@@ -331,20 +335,20 @@ void tst_Keyring::aKeyringThatGoesAndComesIsNoticed()
     KirvGnomeKeyring daemon;
     QVERIFY(daemon.start());
     KirvKeyring keyring;
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
     Answer written, failed, read;
     keyring.write(item, QStringLiteral("secret"), &written, written.taker());
-    QTRY_VERIFY(written.has());
+    KIRV_TRY(written.has());
     QVERIFY2(written.outcome() == KirvSecretStore::Done, written.text());
     daemon.stop();
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
     keyring.read(item, &failed, failed.taker());
-    QTRY_COMPARE(failed.count, 1);
+    KIRV_TRY_COMPARE(failed.count, 1);
     QCOMPARE(failed.outcome(), KirvSecretStore::Failed);
     QVERIFY(daemon.start());
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
     keyring.read(item, &read, read.taker());
-    QTRY_VERIFY(read.has());
+    KIRV_TRY(read.has());
     QCOMPARE(read.outcome(), KirvSecretStore::Done);
     QCOMPARE(read.reply->secret, QStringLiteral("secret"));
 }
@@ -354,18 +358,18 @@ void tst_Keyring::aServiceThatNeverRepliesIsSilent()
     KirvScriptedSecretService service(KirvScriptedSecretService::NeverReplies);
     QVERIFY(service.appear());
     const Turns turns;
-    KirvKeyring keyring({ 10000, 120000, 500 });
+    KirvKeyring keyring(onlyTheReply);
     Answer early, late;
     keyring.read(item, &early, early.taker());
     QCOMPARE(keyring.state(), KirvSecretStore::Unknown);
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Silent);
-    QTRY_VERIFY(early.has());
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Silent);
+    KIRV_TRY(early.has());
     keyring.read(item, &late, late.taker());
-    QTRY_VERIFY(late.has());
+    KIRV_TRY(late.has());
     QCOMPARE(late.outcome(), KirvSecretStore::TimedOut);
     QVERIFY2(turns.count > 3, QByteArray::number(turns.count).constData());
     service.leave();
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
 }
 
 void tst_Keyring::anOperationThatHangsHoldsNothingUp()
@@ -373,13 +377,13 @@ void tst_Keyring::anOperationThatHangsHoldsNothingUp()
     KirvScriptedSecretService service(KirvScriptedSecretService::SaysItsState);
     QVERIFY(service.appear());
     KirvKeyring keyring({ 300, 300, 3000 });
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
     std::vector<Answer> answers(20);
     const Turns turns;
     for (Answer &answer : answers)
         keyring.read(item, &answer, answer.taker());
     for (const Answer &answer : answers) {
-        QTRY_VERIFY(answer.has());
+        KIRV_TRY(answer.has());
         QCOMPARE(answer.outcome(), KirvSecretStore::TimedOut);
     }
     QVERIFY(service.calls().count(QStringLiteral("GetAll"))
@@ -387,7 +391,7 @@ void tst_Keyring::anOperationThatHangsHoldsNothingUp()
     QCOMPARE(keyring.state(), KirvSecretStore::Silent);
     QVERIFY2(turns.count > 3, QByteArray::number(turns.count).constData());
     service.leave(); // which ends the operation
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Unavailable);
 }
 
 void tst_Keyring::aRefusalToUnlockIsNoMissingSecret()
@@ -396,10 +400,10 @@ void tst_Keyring::aRefusalToUnlockIsNoMissingSecret()
     service.isLocked = true;
     QVERIFY(service.appear());
     KirvKeyring keyring;
-    QTRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
     Answer read, written;
     keyring.read(item, &read, read.taker());
-    QTRY_VERIFY_WITH_TIMEOUT(read.has(), 20000);
+    KIRV_TRY(read.has());
     QVERIFY(service.calls().contains(QStringLiteral("Prompt")));
     QCOMPARE(read.outcome(), KirvSecretStore::Refused);
 }
@@ -419,10 +423,10 @@ void tst_Keyring::aReplyMayDestroyTheKeyring()
     QVERIFY(service.appear());
     auto keyring = std::make_unique<KirvKeyring>(KirvKeyring::Limits { 300, 300, saysItsState ? 3000 : 500 });
     if (saysItsState)
-        QTRY_COMPARE(keyring->state(), KirvSecretStore::Ready);
+        KIRV_TRY_COMPARE(keyring->state(), KirvSecretStore::Ready);
     QObject context;
     keyring->read(item, &context, [&keyring](const KirvSecretStore::Reply &) { keyring.reset(); });
-    QTRY_VERIFY(!keyring);
+    KIRV_TRY(!keyring);
     service.leave();
 }
 
@@ -436,16 +440,16 @@ void tst_Keyring::aReplyForADestroyedObjectIsDropped()
     keyring->read(item, context.get(), dropped.taker());
     keyring->read(item, &kept, kept.taker());
     context.reset();
-    QTRY_VERIFY(kept.has());
+    KIRV_TRY(kept.has());
     QVERIFY(!dropped.has());
     keyring->read(item, &dropped, dropped.taker());
-    QTRY_VERIFY(keyring->state() == KirvSecretStore::Ready);
+    KIRV_TRY(keyring->state() == KirvSecretStore::Ready);
     QCoreApplication::processEvents(); // the job runs
     keyring.reset();
     KirvKeyring other; // jobs run one after the other, so the one of the destroyed keyring ends before this one's
     Answer later;
     other.read(item, &later, later.taker());
-    QTRY_VERIFY(later.has());
+    KIRV_TRY(later.has());
     QVERIFY(!dropped.has());
 }
 

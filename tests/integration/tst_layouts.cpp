@@ -4,6 +4,7 @@
 #include "host/kirv_avatar_quick_set_widget.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_ui_loader.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -207,7 +208,7 @@ void tst_Layouts::pageFillsItsParent()
     QVERIFY(page->isVisible());
     QCOMPARE(page->geometry(), QRect(0, 0, 700, 500));
     parent.resize(800, 600);
-    QTRY_COMPARE(page->geometry(), QRect(0, 0, 800, 600));
+    KIRV_TRY_COMPARE(page->geometry(), QRect(0, 0, 800, 600));
 }
 
 void tst_Layouts::pageJoinsTheLayoutOfItsParent()
@@ -625,13 +626,13 @@ void tst_Layouts::scrollBarGoesWhenTheFormFitsWithoutIt()
     area.setWidget(content);
     area.resize(300, 40);
     area.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&area));
-    QTRY_VERIFY(area.verticalScrollBar()->isVisible());
+    QVERIFY(QTest::qWaitForWindowExposed(&area, kirvPatience));
+    KIRV_TRY(area.verticalScrollBar()->isVisible());
     const int needed = content->heightForWidth(300);
     QVERIFY(content->heightForWidth(content->width()) > needed); // with the bar it would not fit
     area.resize(300, needed);
-    QTRY_VERIFY(!area.verticalScrollBar()->isVisible());
-    QTRY_COMPARE(content->width(), 300);
+    KIRV_TRY(!area.verticalScrollBar()->isVisible());
+    KIRV_TRY_COMPARE(content->width(), 300);
 }
 
 void tst_Layouts::manyFieldsScrollInsteadOfGrowingTheWindow()
@@ -652,8 +653,8 @@ void tst_Layouts::manyFieldsScrollInsteadOfGrowingTheWindow()
     auto *next = top->findChild<QWidget *>("EditAccount_RememberPresence"); // below the fields
     next->setFocus();
     QTest::keyClick(next, Qt::Key_Backtab);
-    QTRY_COMPARE(QApplication::focusWidget(), last);
-    QTRY_VERIFY(top->rect().contains(last->mapTo(top.get(), last->rect().center())));
+    KIRV_TRY_COMPARE(QApplication::focusWidget(), last);
+    KIRV_TRY(top->rect().contains(last->mapTo(top.get(), last->rect().center())));
 }
 
 void tst_Layouts::labelsOfTheFieldsLineUpWithThoseOfTheWindow()
@@ -667,7 +668,7 @@ void tst_Layouts::labelsOfTheFieldsLineUpWithThoseOfTheWindow()
         const auto *widget = top->findChild<QWidget *>(name);
         return widget->mapTo(top.get(), QPoint()).x();
     };
-    QTRY_COMPARE(left("KirvField_x"), left("AddAccount_UsernameEdit"));
+    KIRV_TRY_COMPARE(left("KirvField_x"), left("AddAccount_UsernameEdit"));
 }
 
 void tst_Layouts::fallbackIconsCanBePainted()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Accounts that have their turns to log in.
 #include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -139,7 +140,7 @@ void tst_LoginTurns::aHundredAccountsStartOneByOne()
         most = qMax(most, begun);
     });
     turns.start(0);
-    QTRY_COMPARE(logIns, count);
+    KIRV_TRY_COMPARE(logIns, count);
     // Before this timer's turn one log-in may have been started and after the last one another.
     QVERIFY2(most <= 2, qPrintable(QString::number(most)));
     QVERIFY(turn >= count / 2);
@@ -162,7 +163,7 @@ void tst_LoginTurns::aTurnOfTheEventLoopBringsAFewAccountsOnTheirWay()
     QTimer turns; // times out once in each
     connect(&turns, &QTimer::timeout, this, [&] { most = qMax(most, std::exchange(begunInTurn, 0)); });
     turns.start(0);
-    QTRY_VERIFY(begun >= count - 1); // the first one starts without a wait
+    KIRV_TRY(begun >= count - 1); // the first one starts without a wait
     most = qMax(most, begunInTurn);
     QVERIFY2(most > 0 && most <= 2 * KirvReconcilerQueue::perTurn, QByteArray::number(most).constData());
 }
@@ -203,7 +204,7 @@ void tst_LoginTurns::theMainAccountIsFirstWhenAllReturn()
         QVERIFY(account(number)->isOnline());
         connection(number)->serverGoes();
     }
-    QTRY_COMPARE(core->accounts->loginQueue().waitingCount(), 9);
+    KIRV_TRY_COMPARE(core->accounts->loginQueue().waitingCount(), 9);
     QCOMPARE(started(), ids({ 0 })); // it was back before the others
     connection(0)->serverAccepts();
     QCOMPARE(started(), ids({ 7 }));
@@ -232,7 +233,7 @@ void tst_LoginTurns::anAccountThatFailsDoesNotOvertake()
     connection(0)->setTiming(timing);
     setLimits(2, 60000); // of which two are taken
     connection(0)->serverGoes();
-    QTRY_VERIFY(connection(0)->isWaitingForTurn());
+    KIRV_TRY(connection(0)->isWaitingForTurn());
     connection(1)->serverAccepts();
     QCOMPARE(started(), ids({ 3 }));
     connection(2)->serverAccepts();
@@ -245,10 +246,10 @@ void tst_LoginTurns::anAccountThatFailsDoesNotOvertake()
 void tst_LoginTurns::attemptsThatHangDoNotBlockTheOthers()
 {
     start(12, 20);
-    QTRY_COMPARE(connection(2)->state(), State::Connecting);
-    QTRY_COMPARE(connection(11)->state(), State::Connecting);
+    KIRV_TRY_COMPARE(connection(2)->state(), State::Connecting);
+    KIRV_TRY_COMPARE(connection(11)->state(), State::Connecting);
     QCOMPARE(connection(0)->state(), State::Connecting);
-    QTRY_COMPARE(core->accounts->loginQueue().attemptCount(), 0);
+    KIRV_TRY_COMPARE(core->accounts->loginQueue().attemptCount(), 0);
     connection(0)->serverAccepts();
     QVERIFY(account(0)->isOnline());
 }
@@ -277,7 +278,7 @@ void tst_LoginTurns::aWaitThatIsOverBecomesAWaitForATurn()
     QVERIFY(!connection(0)->isWaitingForTurn());
     int changes = 0;
     connect(account(0), &KirvAccount::changed, this, [&] { ++changes; });
-    QTRY_VERIFY(connection(0)->isWaitingForTurn());
+    KIRV_TRY(connection(0)->isWaitingForTurn());
     QVERIFY(!connection(0)->nextRetry().isValid());
     QCOMPARE(changes, 1);
 }
@@ -304,7 +305,7 @@ void tst_LoginTurns::aRemovedAccountDoesNotLogIn()
     connection(0)->serverAccepts(); // before the account has left
     connection(1)->serverAccepts();
     QCOMPARE(started(), ids({ 4, 5 }));
-    QTRY_VERIFY(!removed);
+    KIRV_TRY(!removed);
     QCOMPARE(core->accounts->loginQueue().waitingCount(), 0);
 }
 
@@ -371,7 +372,7 @@ void tst_LoginTurns::allReturnInTurnsWhenTheNetworkIsBack()
     core->server().logIn = KirvFakeServer::Accepts;
     for (int number = 0; number < count; ++number)
         connection(number)->serverAccepts();
-    QTRY_COMPARE(core->accounts->loginQueue().waitingCount(), 0);
+    KIRV_TRY_COMPARE(core->accounts->loginQueue().waitingCount(), 0);
     for (int number = 0; number < count; ++number)
         QVERIFY(account(number)->isOnline());
     core->server().takeCalls();
@@ -396,7 +397,7 @@ void tst_LoginTurns::sessionsAreCheckedAFewInATurn()
         most = qMax(most, begun);
     });
     turns.start(0);
-    QTRY_COMPARE(checks, count);
+    KIRV_TRY_COMPARE(checks, count);
     QVERIFY2(most <= 2 * KirvAccountCollection::accountsPerTurn, qPrintable(QString::number(most)));
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_memory_protection.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QProcess>
@@ -18,7 +19,7 @@ private Q_SLOTS:
     {
         QProcess process;
         process.start(QCoreApplication::applicationFilePath(), { QStringLiteral("--protect") });
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(kirvPatience));
 #ifdef KIRV_SANITIZED
         QCOMPARE(process.readAllStandardOutput(), QByteArray("protected, core 0 0, dumpable 1"));
 #else
@@ -33,7 +34,7 @@ private Q_SLOTS:
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(QStringLiteral(KIRV_PROGRAM),
                       { QStringLiteral("--profile"), folder.filePath(QStringLiteral("profile")) });
-        QVERIFY(process.waitForStarted());
+        QVERIFY(process.waitForStarted(kirvPatience));
         const QString limits = QStringLiteral("/proc/%1/limits").arg(process.processId());
         const auto coreLimit = [&limits] {
             const QList<QByteArray> lines = contentOf(limits).split('\n');
@@ -43,9 +44,9 @@ private Q_SLOTS:
             }
             return QByteArray();
         };
-        QTRY_COMPARE(coreLimit(), QByteArray("Max core file size 0 0 bytes"));
+        KIRV_TRY_COMPARE(coreLimit(), QByteArray("Max core file size 0 0 bytes"));
         process.kill();
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(kirvPatience));
     }
 };
 

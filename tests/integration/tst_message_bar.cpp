@@ -81,7 +81,7 @@ void tst_MessageBar::init()
     windows = std::make_unique<KirvClientWindows>();
     QVERIFY(windows->isReady());
     windows->addAccount(QStringLiteral("ann"));
-    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    QVERIFY(QTest::qWaitForWindowExposed(window(), kirvPatience));
     QCursor::setPos(window()->mapToGlobal(QPoint(5, 5)));
 }
 
@@ -438,7 +438,7 @@ void tst_MessageBar::currentRowIsShownAboveTheBar()
     for (int i = 1; i < 40; ++i)
         windows->addAccount(QStringLiteral("u%1").arg(i));
     window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QVERIFY(QTest::qWaitForWindowActive(window(), kirvPatience));
     show(QStringLiteral("one"));
     list()->setFocus();
     QTest::keyClick(list(), Qt::Key_End);

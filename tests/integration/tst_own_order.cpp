@@ -85,7 +85,7 @@ void tst_OwnOrder::init()
     for (const QString &id : { cleo, ann, dora, bob })
         windows->addAccount(id);
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
 }
 
 void tst_OwnOrder::cleanup()
@@ -329,7 +329,7 @@ void tst_OwnOrder::removedAccountComesBackAtItsPlace()
     windows->removeInPage(ann);
     QCOMPARE(windows->rowIds(), QStringList({ cleo, dora, bob }));
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
     QTest::keyClick(list(), Qt::Key_Z, Qt::ControlModifier);
     KirvClientWindows::settle();
     QCOMPARE(windows->rowIds(), QStringList({ cleo, ann, dora, bob }));

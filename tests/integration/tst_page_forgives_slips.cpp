@@ -149,7 +149,7 @@ void tst_PageForgivesSlips::cleanup()
 
 void tst_PageForgivesSlips::activate(QWidget *window)
 {
-    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QVERIFY(QTest::qWaitForWindowExposed(window, kirvPatience));
     window->activateWindow();
     KIRV_TRY_COMPARE(QApplication::activeWindow(), window);
 }

@@ -96,7 +96,7 @@ void tst_PageTellsStates::init()
 {
     windows = std::make_unique<KirvClientWindows>();
     QVERIFY(windows->isReady());
-    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window(), kirvPatience));
 }
 
 void tst_PageTellsStates::cleanup()
@@ -519,7 +519,7 @@ void tst_PageTellsStates::stripStandsBelowTheListInAnyLayout()
     windows->restart();
     QVERIFY(windows->isReady());
     QVERIFY2(windows->messages().isEmpty(), qPrintable(windows->messages().join(QLatin1Char('\n'))));
-    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window(), kirvPatience));
     windows->addAccount(ann);
     windows->select(ann);
     KirvClientWindows::settle();

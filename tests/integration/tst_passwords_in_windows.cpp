@@ -9,6 +9,7 @@
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QCheckBox>
@@ -292,8 +293,9 @@ void tst_PasswordsInWindows::theMoveIsSaidOnce()
     restart(KirvSecretStore::Unavailable);
     keyring->setState(KirvSecretStore::Ready);
     secrets().startMoving();
-    QTRY_COMPARE(keyring->secrets.size(), 12);
-    QTRY_COMPARE(windows->messages(), QStringList("12 passwords were moved to your keyring, which is Fake Keyring."));
+    KIRV_TRY_COMPARE(keyring->secrets.size(), 12);
+    KIRV_TRY_COMPARE(windows->messages(),
+                     QStringList("12 passwords were moved to your keyring, which is Fake Keyring."));
     const auto *icon = KirvClientWindows::child<QLabel>(windows->client->window(), "MessageBar_Icon");
     QCOMPARE(icon->accessibleName(), QStringLiteral("Information")); // nothing is wrong
     restart(KirvSecretStore::Ready);

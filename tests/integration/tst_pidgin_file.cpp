@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/moving/kirv_pidgin_file.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QElapsedTimer>
@@ -476,7 +477,7 @@ void tst_PidginFile::longTagsTakeLittleTime()
     timer.start();
     QVERIFY(!KirvPidginFile::read(document(tag + "/>")).problem.isEmpty());
     QVERIFY(!KirvPidginFile::isOne(tag));
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < kirvPatience, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_PidginFile::whatIsNotOfInterestIsSkipped()

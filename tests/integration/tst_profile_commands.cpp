@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
 
@@ -79,9 +80,9 @@ tst_ProfileCommands::Result tst_ProfileCommands::run(const QStringList &argument
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(home->path());
     process.start(QStringLiteral(KIRV_PROGRAM), arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished(kirvPatience) || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(kirvPatience);
         return {};
     }
     return { process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),

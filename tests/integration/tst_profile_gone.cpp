@@ -10,6 +10,7 @@
 #include "host/kirv_plugin_manager.h"
 #include "host/kirv_protocol.h"
 #include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_tool.h"
 #include "tests/support/store_refusal.h"
 
@@ -90,8 +91,8 @@ void tst_ProfileGone::start()
     client = std::make_unique<KirvClient>(options);
     QVERIFY2(client->start(), qPrintable(client->errorString()));
     client->window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(client->window()));
-    QTRY_VERIFY(client->arePluginsLoaded());
+    QVERIFY(QTest::qWaitForWindowExposed(client->window(), kirvPatience));
+    KIRV_TRY(client->arePluginsLoaded());
 }
 
 void tst_ProfileGone::addAccount(const QString &id)
@@ -117,7 +118,7 @@ void tst_ProfileGone::saveTo(const QString &folder) const
     });
     QVERIFY(saveButton());
     saveButton()->click();
-    QTRY_VERIFY(!client->window()->findChild<QFileDialog *>());
+    KIRV_TRY(!client->window()->findChild<QFileDialog *>());
     QCOMPARE(watcher.shown, 1);
 }
 
@@ -159,7 +160,7 @@ void tst_ProfileGone::everythingIsSavedToAnotherFolder()
     QCOMPARE(messages().size(), 1);
     QVERIFY2(messages().first().contains(QStringLiteral("--profile \"%1\"").arg(other)),
              qPrintable(messages().first()));
-    QTRY_COMPARE(commands().size(), 1);
+    KIRV_TRY_COMPARE(commands().size(), 1);
     QSignalSpy continued(client.get(), &KirvClient::continuationRequested);
     commands().first()->click();
     QCOMPARE(continued.value(0), QVariantList { other });
@@ -214,7 +215,7 @@ void tst_ProfileGone::programGoesOnWithTheOtherFolder()
             dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
         });
         last->findChild<QPushButton *>(QStringLiteral("MessageBar_Command"))->click();
-        QTRY_COMPARE(last->messageBar()->messages().value(0).contains(QLatin1String("--profile")), true);
+        KIRV_TRY_COMPARE(last->messageBar()->messages().value(0).contains(QLatin1String("--profile")), true);
         last->findChildren<QPushButton *>(QStringLiteral("MessageBar_Command")).last()->click();
     });
     timer.start(10);

@@ -2,6 +2,7 @@
 #include "core/store/kirv_default_profile.h"
 #include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
 
@@ -290,10 +291,10 @@ void tst_ProfileOpening::aPipeOrFolderInPlaceOfAFileIsSaid()
         QVERIFY(QDir().mkdir(file));
     QProcess holder;
     holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
-    const bool hasReplied = holder.waitForReadyRead(20000);
+    const bool hasReplied = holder.waitForReadyRead(kirvPatience);
     const QByteArray reply = holder.readAll();
     holder.kill();
-    holder.waitForFinished();
+    holder.waitForFinished(kirvPatience);
     QVERIFY(hasReplied);
     QVERIFY2(reply.contains("is not an ordinary file") && reply.contains(name.toLatin1()), reply.constData());
 }
@@ -530,14 +531,14 @@ void tst_ProfileOpening::theLockIsFoundOnEveryWayToTheProfile()
         return; // a container without the right to mount
     QProcess holder;
     holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
-    QVERIFY(holder.waitForReadyRead(20000));
+    QVERIFY(holder.waitForReadyRead(kirvPatience));
     QCOMPARE(holder.readAll(), QByteArray("opened\n"));
     KirvStore store;
     const bool opened = store.open(other);
     const bool locked = store.isLockedByAnother();
     store.close();
     holder.kill();
-    holder.waitForFinished();
+    holder.waitForFinished(kirvPatience);
     const bool openedAfter = store.open(other);
     store.close();
     if (way == QLatin1String("mount"))
@@ -560,7 +561,7 @@ void tst_ProfileOpening::whatAnotherInstanceHoldsIsNotDamaged()
     makeProfile();
     QProcess holder;
     holder.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
-    QVERIFY(holder.waitForReadyRead(20000));
+    QVERIFY(holder.waitForReadyRead(kirvPatience));
     for (const char *suffix : { "", "-wal", "-shm" })
         QFile::remove(database() + QLatin1String(suffix));
     if (!isMissing)
@@ -570,7 +571,7 @@ void tst_ProfileOpening::whatAnotherInstanceHoldsIsNotDamaged()
     QCOMPARE(store.state(), KirvProfileState::InUse);
     QCOMPARE(KirvProfileRescue(folder).check().kind, KirvProfileState::InUse);
     holder.kill();
-    holder.waitForFinished();
+    holder.waitForFinished(kirvPatience);
     QVERIFY(!store.open(folder));
     QCOMPARE(store.state(), KirvProfileState::Damaged);
     QCOMPARE(KirvProfileRescue(folder).check().kind, KirvProfileState::Damaged);
@@ -587,7 +588,7 @@ void tst_ProfileOpening::ofSixAtOnceOneOpens()
         int opened = 0, locked = 0;
         QByteArray said;
         for (const auto &process : processes) {
-            QVERIFY(process->canReadLine() || process->waitForReadyRead(20000));
+            QVERIFY(process->canReadLine() || process->waitForReadyRead(kirvPatience));
             const QByteArray line = process->readLine();
             opened += line == "opened\n";
             locked += line == "locked\n";
@@ -595,7 +596,7 @@ void tst_ProfileOpening::ofSixAtOnceOneOpens()
         }
         for (const auto &process : processes) {
             process->kill();
-            process->waitForFinished();
+            process->waitForFinished(kirvPatience);
         }
         QVERIFY2(opened == 1 && locked == 5, said.constData());
     }
@@ -606,7 +607,7 @@ void tst_ProfileOpening::aHotJournalIsRolledBack()
     makeProfile(500);
     QProcess tool;
     tool.start(QCoreApplication::applicationFilePath(), { "--crash-while-writing", database() });
-    QVERIFY(tool.waitForFinished());
+    QVERIFY(tool.waitForFinished(kirvPatience));
     QCOMPARE(tool.exitStatus(), QProcess::CrashExit);
     QCOMPARE(tool.readAllStandardOutput(), QByteArray("1"));
     QVERIFY(contentOf(database()).contains("(half of a change)"));
@@ -672,7 +673,7 @@ void tst_ProfileOpening::oddTextsAreReadChangedAndRemoved()
     QVERIFY(store.readAccounts().at(1) == changed);
     QVERIFY2(store.removeAccount(changed.key), qPrintable(store.lastError()));
     QCOMPARE(store.readAccounts().size(), 2);
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < kirvPatience, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_ProfileOpening::bytesThatAreNoTextStayWhenSomethingElseIsChanged()

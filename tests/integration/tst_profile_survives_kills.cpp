@@ -2,6 +2,7 @@
 #include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_kill_point.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
 
@@ -163,7 +164,7 @@ void tst_ProfileSurvivesKills::aProfileOpensAfterAKillAtAnyCall()
         QProcess process;
         process.start(QCoreApplication::applicationFilePath(),
                       { "--do", action, folder, picture, QString::number(call) });
-        QVERIFY(process.waitForFinished(60000));
+        QVERIFY(process.waitForFinished(kirvPatienceWithProgram));
         said = process.readAllStandardOutput();
         const bool ended = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
         QVERIFY2(said.contains("done") || process.exitStatus() == QProcess::CrashExit,

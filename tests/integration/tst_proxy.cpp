@@ -3,6 +3,7 @@
 #include "core/protocol/kirv_system_proxy.h"
 #include "tests/support/fakes/kirv_fake_clock.h"
 #include "tests/support/kirv_field_texts.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QSemaphore>
 #include <QtTest>
@@ -228,7 +229,7 @@ void tst_Proxy::theSystemIsQueriedInAThread()
         });
     }
     QVERIFY(found.isEmpty());
-    QTRY_COMPARE(found, QStringList({ "for-a", "for-b", "for-c" }));
+    KIRV_TRY_COMPARE(found, QStringList({ "for-a", "for-b", "for-c" }));
     QVERIFY(thread.load() != QThread::currentThreadId());
 }
 
@@ -257,7 +258,7 @@ void tst_Proxy::aSystemThatIsSilentGivesNoConnection()
         isAnswered = proxy && proxy->type() == QNetworkProxy::NoProxy;
     });
     go.release();
-    QTRY_VERIFY(isAnswered);
+    KIRV_TRY(isAnswered);
     QCOMPARE(replies, 1);
 }
 
@@ -274,14 +275,14 @@ void tst_Proxy::aSystemThatIsSilentIsNotQueriedMore()
     int replies = 0;
     for (int round = 0; round < 100; ++round) {
         system.request("server", 1, clock, this, [&](const std::optional<QNetworkProxy> &) { ++replies; });
-        QTRY_COMPARE(queries.load(), 1); // the others are given up before their turn
+        KIRV_TRY_COMPARE(queries.load(), 1); // the others are given up before their turn
         clock.advance(KirvSystemProxy::replyTimeout);
     }
     QCOMPARE(replies, 100);
     go.release();
     system.request("server", 1, clock, this, [&](const std::optional<QNetworkProxy> &) { ++replies; });
     go.release();
-    QTRY_COMPARE(replies, 101);
+    KIRV_TRY_COMPARE(replies, 101);
     QCOMPARE(queries.load(), 2);
 }
 
@@ -294,7 +295,7 @@ void tst_Proxy::nothingComesForWhoIsGone()
     system.request("server", 1, clock, context.get(), [&](const std::optional<QNetworkProxy> &) { ++replies += 10; });
     context.reset();
     system.request("server", 1, clock, this, [&](const std::optional<QNetworkProxy> &) { ++replies; });
-    QTRY_COMPARE(replies, 1);
+    KIRV_TRY_COMPARE(replies, 1);
     clock.advance(KirvSystemProxy::replyTimeout);
     QCOMPARE(replies, 1);
 }
@@ -313,7 +314,7 @@ void tst_Proxy::theObjectMayGoWhileAQueryRuns()
     system->request("server", 1, clock, this, [&](const std::optional<QNetworkProxy> &) { ++replies; });
     system.reset();
     go->release();
-    QTRY_VERIFY(isDone->load() || go->available() == 1); // or the thread had not begun
+    KIRV_TRY(isDone->load() || go->available() == 1); // or the thread had not begun
     clock.advance(KirvSystemProxy::replyTimeout);
     QCoreApplication::processEvents();
     QCOMPARE(replies, 0);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -305,7 +306,7 @@ void tst_Reconciler::aRemovedAccountIsNotLoggedInAtOnce()
     QVERIFY(!account->isLoggedIn());
     QVERIFY(connection->isLoggedIn());
     QCOMPARE(core->takeCalls(), QStringList { "id log out" });
-    QTRY_VERIFY(!account && !connection);
+    KIRV_TRY(!account && !connection);
 }
 
 void tst_Reconciler::aRemovedAccountDoesNotComeBack()
@@ -318,7 +319,7 @@ void tst_Reconciler::aRemovedAccountDoesNotComeBack()
     QVERIFY(connection->comesBack());
     core->manager().removeAccount("id", core->fake);
     connection->serverAccepts(); // before the reconciler's turn
-    QTRY_VERIFY(!account);
+    KIRV_TRY(!account);
     QCOMPARE(core->takeCalls(), QStringList());
 }
 
@@ -336,7 +337,7 @@ void tst_Reconciler::itsConnectionOutlivesARemovedAccount()
     core->settle();
     QVERIFY(!connection->comesBack());
     connection->serverAccepts();
-    QTRY_VERIFY(!account && !connection);
+    KIRV_TRY(!account && !connection);
     QCOMPARE(core->takeCalls(), QStringList { "id log out" });
 }
 

@@ -4,6 +4,7 @@
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_kill_point.h"
 #include "tests/support/fakes/kirv_fake_protocol.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QGuiApplication>
@@ -134,7 +135,7 @@ int tst_SaveSurvivesAKill::killWhileSaving(const QString &home, int number, int 
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(),
                   { "--save", home, QString::number(number), QString::number(call) });
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::CrashExit)
+    if (!process.waitForFinished(kirvPatienceWithProgram) || process.exitStatus() != QProcess::CrashExit)
         return -2;
     const QByteArray output = process.readAllStandardOutput();
     return output.isEmpty() ? -1 : output.toInt();

@@ -63,7 +63,7 @@ void tst_SearchInPage::init()
     windows = std::make_unique<KirvClientWindows>();
     QVERIFY(windows->isReady());
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
 }
 
 void tst_SearchInPage::fill()

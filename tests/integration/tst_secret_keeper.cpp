@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/integration/kirv_accounts_fixture.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QElapsedTimer>
@@ -830,7 +831,7 @@ void tst_SecretKeeper::aTurnOfTheEventLoopServesAFewAccounts()
 {
     for (int number = 0; number < 200; ++number)
         QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
-    QTRY_COMPARE(keyring->secrets.size(), 200);
+    KIRV_TRY_COMPARE(keyring->secrets.size(), 200);
     settle();
     keyring->setState(KirvSecretStore::Unknown);
     restart();
@@ -844,7 +845,7 @@ void tst_SecretKeeper::aTurnOfTheEventLoopServesAFewAccounts()
     connect(&turns, &QTimer::timeout, this, [&] { most = qMax(most, std::exchange(changesInTurn, 0)); });
     turns.start(0);
     keyring->setState(KirvSecretStore::Silent);
-    QTRY_COMPARE(changes, 200);
+    KIRV_TRY_COMPARE(changes, 200);
     QVERIFY2(most > 0 && most <= 20, QByteArray::number(most).constData());
 }
 
@@ -865,7 +866,7 @@ void tst_SecretKeeper::theProfileIsMovedOnce()
     settle();
     QVERIFY(keyring->calls.isEmpty());
     keyring->setState(KirvSecretStore::Ready);
-    QTRY_COMPARE(moves.size(), 1);
+    KIRV_TRY_COMPARE(moves.size(), 1);
     QCOMPARE(moves.first().first().toInt(), 100);
     QCOMPARE(keyring->secrets.size(), 100);
     QVERIFY(!isInProfile(QStringLiteral("word of id")));
@@ -908,11 +909,12 @@ void tst_SecretKeeper::aMoveThatFailsLosesNothing()
     keyring->isHeld = false;
     restart();
     for (const char *id : { "a", "b", "c" }) {
-        QTRY_COMPARE(core->account(QLatin1String(id))->getPassword(), QStringLiteral("word of ") + QLatin1String(id));
+        KIRV_TRY_COMPARE(core->account(QLatin1String(id))->getPassword(),
+                         QStringLiteral("word of ") + QLatin1String(id));
     }
     QSignalSpy moves(&core->accounts->secrets(), &KirvSecretKeeper::moved);
     core->accounts->secrets().startMoving();
-    QTRY_COMPARE(keyring->secrets.size(), 3);
+    KIRV_TRY_COMPARE(keyring->secrets.size(), 3);
     settle();
     settle();
     QCOMPARE(keyring->secrets.size(), 3); // and no orphan
@@ -997,8 +999,8 @@ void tst_SecretKeeper::aMoveComesBackToWhatFailed()
     QVERIFY(keyring->secrets.isEmpty());
     keyring->outcome = KirvSecretStore::Done;
     keyring->setState(KirvSecretStore::Ready);
-    QTRY_COMPARE(keyring->secrets.size(), count);
-    QTRY_VERIFY(core->store.unsettledItems().isEmpty());
+    KIRV_TRY_COMPARE(keyring->secrets.size(), count);
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
     QVERIFY(!isInProfile(QStringLiteral("word of ")));
 }
 

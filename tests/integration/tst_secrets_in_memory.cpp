@@ -5,6 +5,7 @@
 #include "core/store/kirv_keyring.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/fakes/kirv_fake_protocol.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
 
@@ -47,10 +48,12 @@ struct Core {
     KirvAccount *account() const { return accounts->find({ QStringLiteral("id"), fake }); }
     bool isSettled()
     {
-        return QTest::qWaitFor([this] {
-            return keyring.state() == KirvSecretStore::Ready && (!account() || !account()->awaitsSecrets())
-                && store.unsettledItems().isEmpty();
-        });
+        return QTest::qWaitFor(
+            [this] {
+                return keyring.state() == KirvSecretStore::Ready && (!account() || !account()->awaitsSecrets())
+                    && store.unsettledItems().isEmpty();
+            },
+            kirvPatience);
     }
 
     KirvStore store;
@@ -154,7 +157,7 @@ void tst_SecretsInMemory::nothingKeepsASecret()
     process.start(QCoreApplication::applicationFilePath(), { QStringLiteral("--follow"), folder });
     const auto carryOut = [&process](const QByteArray &text) {
         process.write(text + '\n');
-        return QTest::qWaitFor([&process] { return process.canReadLine(); }, 20000)
+        return QTest::qWaitFor([&process] { return process.canReadLine(); }, kirvPatience)
             && process.readLine().trimmed() == text;
     };
     QVERIFY(carryOut("read"));
@@ -163,7 +166,7 @@ void tst_SecretsInMemory::nothingKeepsASecret()
     QCOMPARE(countInMemory(process.processId(), utf16), 0);
     QCOMPARE(countInMemory(process.processId(), utf8), 0);
     process.closeWriteChannel();
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(kirvPatience));
 }
 
 int main(int argc, char *argv[])

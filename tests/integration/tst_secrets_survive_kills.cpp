@@ -207,7 +207,7 @@ QString tst_SecretsSurviveKills::killed(const QString &name, const QString &fold
     QProcess process;
     process.start(QCoreApplication::applicationFilePath(),
                   { QStringLiteral("--change"), name, folder, QString::number(call) });
-    if (!process.waitForFinished(60000))
+    if (!process.waitForFinished(kirvPatienceWithProgram))
         return QStringLiteral("does not end");
     if (process.exitStatus() != QProcess::CrashExit)
         return QStringLiteral("exit status %1").arg(process.exitCode());

@@ -71,7 +71,7 @@ QString detail(const KirvServerCertificate &certificate, const QString &label)
 } // namespace
 
 /// What is known of the certificate of a server.
-class TestServerCertificate : public QObject {
+class tst_ServerCertificate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -85,7 +85,7 @@ private Q_SLOTS:
     void hostileTextsAreOneBoundedLine();
 };
 
-void TestServerCertificate::itSaysWhomItIsForAndFrom_data()
+void tst_ServerCertificate::itSaysWhomItIsForAndFrom_data()
 {
     QTest::addColumn<QByteArray>("subject");
     QTest::addColumn<QByteArray>("issuer");
@@ -104,7 +104,7 @@ void TestServerCertificate::itSaysWhomItIsForAndFrom_data()
                              << "";
 }
 
-void TestServerCertificate::itSaysWhomItIsForAndFrom()
+void tst_ServerCertificate::itSaysWhomItIsForAndFrom()
 {
     QFETCH(QByteArray, subject);
     QFETCH(QByteArray, issuer);
@@ -124,7 +124,7 @@ void TestServerCertificate::itSaysWhomItIsForAndFrom()
     QCOMPARE(detail(certificate, "Issued by"), issuedBy);
 }
 
-void TestServerCertificate::itHasDatesAndAFingerprint()
+void tst_ServerCertificate::itHasDatesAndAFingerprint()
 {
     const QSslCertificate original = makeCertificate(part(3, "a"), part(3, "b"));
     const KirvServerCertificate certificate = read(part(3, "a"), part(3, "b"));
@@ -139,7 +139,7 @@ void TestServerCertificate::itHasDatesAndAFingerprint()
     QVERIFY(read(part(3, "a")) != certificate);
 }
 
-void TestServerCertificate::problemsAreSentencesWithoutRepetition()
+void tst_ServerCertificate::problemsAreSentencesWithoutRepetition()
 {
     const KirvServerCertificate certificate =
         read(part(3, "other.test"), part(3, "b"),
@@ -158,7 +158,7 @@ void TestServerCertificate::problemsAreSentencesWithoutRepetition()
     QCOMPARE(detail(own, "Issued by"), QStringLiteral("itself"));
 }
 
-void TestServerCertificate::aProblemOfTheIssuerIsSaidToBeOne()
+void tst_ServerCertificate::aProblemOfTheIssuerIsSaidToBeOne()
 {
     const QSslCertificate issuer = makeCertificate(part(3, "b"), part(3, "b"));
     const KirvServerCertificate certificate(makeCertificate(part(3, "a"), part(3, "b")),
@@ -166,7 +166,7 @@ void TestServerCertificate::aProblemOfTheIssuerIsSaidToBeOne()
     QCOMPARE(certificate.problems, QStringList { "A certificate of its issuer has expired." });
 }
 
-void TestServerCertificate::nothingShownIsNull()
+void tst_ServerCertificate::nothingShownIsNull()
 {
     QVERIFY(KirvServerCertificate().isNull());
     const KirvServerCertificate none(QSslCertificate(), { QSslError(QSslError::NoPeerCertificate) }, "a");
@@ -175,7 +175,7 @@ void TestServerCertificate::nothingShownIsNull()
     QCOMPARE(none.problems.size(), 1);
 }
 
-void TestServerCertificate::hostileTextsAreOneBoundedLine_data()
+void tst_ServerCertificate::hostileTextsAreOneBoundedLine_data()
 {
     QTest::addColumn<QByteArray>("text");
     // Names of more than 1 MB are no names for the TLS library.
@@ -194,7 +194,7 @@ void TestServerCertificate::hostileTextsAreOneBoundedLine_data()
     QTest::newRow("markup") << QByteArray("<b>&amp;</b><img src='x'>");
 }
 
-void TestServerCertificate::hostileTextsAreOneBoundedLine()
+void tst_ServerCertificate::hostileTextsAreOneBoundedLine()
 {
     QFETCH(QByteArray, text);
     QElapsedTimer time;
@@ -223,5 +223,5 @@ void TestServerCertificate::hostileTextsAreOneBoundedLine()
     QVERIFY2(taken < 1000, qPrintable(QString::number(taken)));
 }
 
-QTEST_GUILESS_MAIN(TestServerCertificate)
+QTEST_GUILESS_MAIN(tst_ServerCertificate)
 #include "tst_server_certificate.moc"

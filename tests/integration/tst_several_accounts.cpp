@@ -91,7 +91,7 @@ void tst_SeveralAccounts::cleanup()
 void tst_SeveralAccounts::activate()
 {
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
     list()->setFocus();
 }
 

@@ -3,6 +3,7 @@
 #include "core/store/kirv_profile_rescue.h"
 #include "core/store/kirv_store.h"
 #include "core/store/kirv_store_schema.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QLockFile>
@@ -99,7 +100,7 @@ int runAsOtherProcess(const QStringList &arguments)
 
 }
 
-class StoreTest : public QObject {
+class tst_Store : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -394,7 +395,7 @@ private Q_SLOTS:
     {
         QProcess other;
         other.start(QCoreApplication::applicationFilePath(), { "--hold", folder });
-        QTRY_VERIFY_WITH_TIMEOUT(other.canReadLine(), 20000);
+        KIRV_TRY(other.canReadLine());
         QCOMPARE(other.readLine().trimmed(), QByteArray("opened"));
         KirvStore store;
         QVERIFY(!store.open(folder));
@@ -403,7 +404,7 @@ private Q_SLOTS:
         QVERIFY(store.lastError().contains(QLatin1String("another running instance")));
 
         other.kill();
-        QVERIFY(other.waitForFinished());
+        QVERIFY(other.waitForFinished(kirvPatience));
         QVERIFY2(store.open(folder), qPrintable(store.lastError()));
         QVERIFY(!store.isLockedByAnother());
         QVERIFY(store.lastError().isEmpty());
@@ -662,7 +663,7 @@ private Q_SLOTS:
         const QByteArray content = contentOf(QDir(folder).filePath(databaseName));
         QProcess other;
         other.start(QCoreApplication::applicationFilePath(), { "--try", folder });
-        QVERIFY(other.waitForFinished());
+        QVERIFY(other.waitForFinished(kirvPatience));
         QCOMPARE(other.exitStatus(), QProcess::NormalExit);
         QCOMPARE(other.exitCode(), 1);
         const QByteArray said = other.readAllStandardOutput();
@@ -936,7 +937,7 @@ int main(int argc, char *argv[])
     if (arguments.size() == 3
         && (arguments.at(1) == QLatin1String("--hold") || arguments.at(1) == QLatin1String("--try")))
         return runAsOtherProcess(arguments);
-    StoreTest test;
+    tst_Store test;
     return QTest::qExec(&test, argc, argv);
 }
 

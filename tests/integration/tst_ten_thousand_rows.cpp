@@ -98,7 +98,7 @@ void tst_TenThousandRows::initTestCase()
     }
     windows->restart();
     QVERIFY(windows->isReady());
-    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(windows->client->window(), kirvPatience));
     KIRV_TRY_COMPARE(windows->list()->topLevelItemCount(), accountCount);
     windows->select(idOf(accountCount - 1));
     // Assistive technology receives the texts of the rows in slices.

@@ -89,7 +89,7 @@ void tst_UndoInPage::init()
     for (const QString &id : { ann, bob, cleo })
         windows->addAccount(id);
     windows->client->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(windows->client->window()));
+    QVERIFY(QTest::qWaitForWindowActive(windows->client->window(), kirvPatience));
     KIRV_TRY(windows->account(ann)->isOnline() && windows->account(bob)->isOnline());
 }
 

@@ -210,7 +210,7 @@ void tst_WindowCompanions::init()
     QVERIFY(client->plugins().addProtocol(protocol));
     server().entries.insert(ann, entry(published, QStringLiteral("Aachen")));
     client->window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(client->window(), kirvPatience));
     addAccount(ann);
     KIRV_TRY(account()->isOnline());
     server().takeCalls();
@@ -369,7 +369,7 @@ void tst_WindowCompanions::everyWayToSaveIsOneChange()
 {
     QFETCH(QString, way);
     QPointer<KirvLayoutDialog> window = edit();
-    QVERIFY(QTest::qWaitForWindowActive(window));
+    QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
     QSignalSpy finished(window, &QDialog::finished);
     auto *alias = child<QLineEdit>(window, "EditAccount_Alias");
     alias->setText(QStringLiteral("Ann"));
@@ -1082,7 +1082,7 @@ void tst_WindowCompanions::fieldsOutsideTheSecondTabAreFetchedToo()
 void tst_WindowCompanions::saveButtonNeedNotBeTheDefault()
 {
     QPointer<KirvLayoutDialog> window = edit();
-    QVERIFY(QTest::qWaitForWindowActive(window));
+    QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
     QPushButton *saveButton = button(window, QDialogButtonBox::Save);
     saveButton->setAutoDefault(false);
     saveButton->setDefault(false);
@@ -1219,7 +1219,7 @@ void tst_WindowCompanions::markupInADescriptionIsPlainText()
     settle();
     server().takeCalls();
     QPointer<KirvLayoutDialog> window = edit();
-    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QVERIFY(QTest::qWaitForWindowExposed(window, kirvPatience));
     QCOMPARE(child<QTextEdit>(window, "EditAccount_DescriptionEdit")->toPlainText(), description);
     const int commits = client->profile().commitCount();
     save(window);

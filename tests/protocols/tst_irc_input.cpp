@@ -5,7 +5,7 @@
 #include <QTest>
 
 /// What of a server's lines reaches the library.
-class TestIrcInput : public QObject {
+class tst_IrcInput : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void requestsForTheNameAreBounded();
 };
 
-void TestIrcInput::linesAreKeptOrDropped_data()
+void tst_IrcInput::linesAreKeptOrDropped_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QByteArray>("kept");
@@ -63,7 +63,7 @@ void TestIrcInput::linesAreKeptOrDropped_data()
     QTest::newRow("space at the start") << QByteArray("  PING :a") << QByteArray("PING :a");
 }
 
-void TestIrcInput::linesAreKeptOrDropped()
+void tst_IrcInput::linesAreKeptOrDropped()
 {
     QFETCH(QByteArray, line);
     QFETCH(QByteArray, kept);
@@ -76,7 +76,7 @@ void TestIrcInput::linesAreKeptOrDropped()
     }
 }
 
-void TestIrcInput::piecesAreJoined()
+void tst_IrcInput::piecesAreJoined()
 {
     KirvFakeClock clock;
     KirvIrcInput input(clock);
@@ -91,7 +91,7 @@ void TestIrcInput::piecesAreJoined()
     QCOMPARE(input.takeLines(10), QByteArray("PING :three\r\n"));
 }
 
-void TestIrcInput::takesNoMoreThanItMay()
+void tst_IrcInput::takesNoMoreThanItMay()
 {
     KirvFakeClock clock;
     KirvIrcInput input(clock);
@@ -102,7 +102,7 @@ void TestIrcInput::takesNoMoreThanItMay()
     QVERIFY(!input.hasLines());
 }
 
-void TestIrcInput::longLinesAreCut()
+void tst_IrcInput::longLinesAreCut()
 {
     KirvFakeClock clock;
     KirvIrcInput input(clock);
@@ -111,7 +111,7 @@ void TestIrcInput::longLinesAreCut()
     QCOMPARE(input.takeLines(10), text.left(KirvIrcInput::longestUsedLine) + "\r\nPING :a\r\n");
 }
 
-void TestIrcInput::lineThatIsTooLongIsAnError_data()
+void tst_IrcInput::lineThatIsTooLongIsAnError_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<bool>("hasEnd");
@@ -122,7 +122,7 @@ void TestIrcInput::lineThatIsTooLongIsAnError_data()
     QTest::newRow("too long so far") << KirvIrcInput::longestLine + 1 << false << true;
 }
 
-void TestIrcInput::lineThatIsTooLongIsAnError()
+void tst_IrcInput::lineThatIsTooLongIsAnError()
 {
     QFETCH(int, size);
     QFETCH(bool, hasEnd);
@@ -143,7 +143,7 @@ void TestIrcInput::lineThatIsTooLongIsAnError()
     }
 }
 
-void TestIrcInput::negotiationIsBounded()
+void tst_IrcInput::negotiationIsBounded()
 {
     KirvFakeClock clock;
     KirvIrcInput input(clock);
@@ -153,7 +153,7 @@ void TestIrcInput::negotiationIsBounded()
     QVERIFY(taken.count("AUTH") >= 20 && taken.count("AUTH") <= 100);
 }
 
-void TestIrcInput::requestsForTheNameAreBounded()
+void tst_IrcInput::requestsForTheNameAreBounded()
 {
     KirvFakeClock clock;
     KirvIrcInput input(clock);
@@ -168,5 +168,5 @@ void TestIrcInput::requestsForTheNameAreBounded()
     QCOMPARE(answered(), 3);
 }
 
-QTEST_GUILESS_MAIN(TestIrcInput)
+QTEST_GUILESS_MAIN(tst_IrcInput)
 #include "tst_irc_input.moc"

@@ -8,7 +8,7 @@
 #include <memory>
 
 /// The negotiation of a log-in with SASL, line by line.
-class TestIrcSasl : public QObject {
+class tst_IrcSasl : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -45,18 +45,18 @@ private:
     QStringList opening;
 };
 
-void TestIrcSasl::init()
+void tst_IrcSasl::init()
 {
     connectWith("secret");
 }
 
-void TestIrcSasl::cleanup()
+void tst_IrcSasl::cleanup()
 {
     failed.reset();
     connection.reset();
 }
 
-void TestIrcSasl::connectWith(const QString &password)
+void tst_IrcSasl::connectWith(const QString &password)
 {
     failed.reset();
     connection = std::make_unique<IrcConnection>();
@@ -74,26 +74,26 @@ void TestIrcSasl::connectWith(const QString &password)
 }
 
 /// What the client sends in reply to \a line.
-QStringList TestIrcSasl::receive(const QByteArray &line)
+QStringList tst_IrcSasl::receive(const QByteArray &line)
 {
     socket->receive(line);
     QCoreApplication::processEvents(); // the library sends some lines later
     return socket->takeSent();
 }
 
-KirvFailure::Kind TestIrcSasl::failure() const
+KirvFailure::Kind tst_IrcSasl::failure() const
 {
     return failed->isEmpty() ? KirvFailure::None : failed->first().first().value<KirvFailure>().kind();
 }
 
-void TestIrcSasl::offerSasl()
+void tst_IrcSasl::offerSasl()
 {
     QVERIFY2(opening.contains("CAP LS 302") || opening.contains("CAP LS"), qPrintable(opening.join(" / ")));
     const QStringList requested = receive(":irc CAP * LS :multi-prefix sasl");
     QVERIFY2(requested.contains("CAP REQ :sasl"), qPrintable(requested.join(" / ")));
 }
 
-void TestIrcSasl::passwordIsSentOnceAndOnlyWhenItIsRequested()
+void tst_IrcSasl::passwordIsSentOnceAndOnlyWhenItIsRequested()
 {
     const QString encoded = QByteArray(QByteArray("\0alice\0secret", 13).toBase64());
     offerSasl();
@@ -105,14 +105,14 @@ void TestIrcSasl::passwordIsSentOnceAndOnlyWhenItIsRequested()
     QVERIFY(opening.filter("secret").isEmpty() && opening.filter("PASS").isEmpty());
 }
 
-void TestIrcSasl::theNegotiationEndsWhenThePasswordIsAccepted_data()
+void tst_IrcSasl::theNegotiationEndsWhenThePasswordIsAccepted_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::newRow("success") << QByteArray(":irc 903 alice :SASL authentication successful");
     QTest::newRow("already") << QByteArray(":irc 907 alice :You have already authenticated");
 }
 
-void TestIrcSasl::theNegotiationEndsWhenThePasswordIsAccepted()
+void tst_IrcSasl::theNegotiationEndsWhenThePasswordIsAccepted()
 {
     QFETCH(QByteArray, line);
     offerSasl();
@@ -125,7 +125,7 @@ void TestIrcSasl::theNegotiationEndsWhenThePasswordIsAccepted()
     QCOMPARE(failed->size(), 0);
 }
 
-void TestIrcSasl::refusalsFail_data()
+void tst_IrcSasl::refusalsFail_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<int>("kind");
@@ -143,7 +143,7 @@ void TestIrcSasl::refusalsFail_data()
                                       << int(KirvFailure::AuthenticationNotOffered) << "no way" << false;
 }
 
-void TestIrcSasl::refusalsFail()
+void tst_IrcSasl::refusalsFail()
 {
     QFETCH(QByteArray, line);
     offerSasl();
@@ -160,7 +160,7 @@ void TestIrcSasl::refusalsFail()
 }
 
 /// A server whose services are away refuses before it has seen the password.
-void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement_data()
+void tst_IrcSasl::refusalBeforeThePasswordIsNoJudgement_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<int>("kind");
@@ -169,7 +169,7 @@ void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement_data()
     QTest::newRow("aborted") << QByteArray(":irc 906 alice :aborted") << int(KirvFailure::ServiceUnavailable);
 }
 
-void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement()
+void tst_IrcSasl::refusalBeforeThePasswordIsNoJudgement()
 {
     QFETCH(QByteArray, line);
     offerSasl();
@@ -179,7 +179,7 @@ void TestIrcSasl::refusalBeforeThePasswordIsNoJudgement()
 }
 
 /// A server can know already who a user is.
-void TestIrcSasl::alreadyLoggedInNeedsNoPassword()
+void tst_IrcSasl::alreadyLoggedInNeedsNoPassword()
 {
     QVERIFY(!receive(":irc 907 alice :already").contains("CAP END"));
     offerSasl();
@@ -191,7 +191,7 @@ void TestIrcSasl::alreadyLoggedInNeedsNoPassword()
 }
 
 /// Whatever the server sends, in whatever order.
-void TestIrcSasl::nothingIsSentTwiceOrUnrequested()
+void tst_IrcSasl::nothingIsSentTwiceOrUnrequested()
 {
     QVERIFY(receive("AUTHENTICATE +").filter("AUTHENTICATE").isEmpty());
     QVERIFY(!receive(":irc 903 alice :welcome").contains("CAP END"));
@@ -204,7 +204,7 @@ void TestIrcSasl::nothingIsSentTwiceOrUnrequested()
     QVERIFY(receive(":irc 903 alice :welcome").filter("CAP END").isEmpty());
 }
 
-void TestIrcSasl::offersAreRead_data()
+void tst_IrcSasl::offersAreRead_data()
 {
     QTest::addColumn<QByteArray>("offer");
     QTest::addColumn<bool>("isUsable");
@@ -216,7 +216,7 @@ void TestIrcSasl::offersAreRead_data()
     QTest::newRow("nothing") << QByteArray("") << false;
 }
 
-void TestIrcSasl::offersAreRead()
+void tst_IrcSasl::offersAreRead()
 {
     QFETCH(QByteArray, offer);
     QFETCH(bool, isUsable);
@@ -226,21 +226,21 @@ void TestIrcSasl::offersAreRead()
     QVERIFY(!sent.contains("CAP END"));
 }
 
-void TestIrcSasl::aListInSeveralLinesIsReadToItsEnd()
+void tst_IrcSasl::aListInSeveralLinesIsReadToItsEnd()
 {
     QVERIFY(!receive(":irc CAP * LS * :away-notify").contains("CAP REQ :sasl"));
     QCOMPARE(failure(), KirvFailure::None);
     QVERIFY(receive(":irc CAP * LS :sasl").contains("CAP REQ :sasl"));
 }
 
-void TestIrcSasl::aRefusedCapabilityFails()
+void tst_IrcSasl::aRefusedCapabilityFails()
 {
     offerSasl();
     receive(":irc CAP * NAK :sasl");
     QCOMPARE(failure(), KirvFailure::AuthenticationNotOffered);
 }
 
-void TestIrcSasl::longCredentialsAreSentInPieces_data()
+void tst_IrcSasl::longCredentialsAreSentInPieces_data()
 {
     QTest::addColumn<int>("length"); // of the password
     QTest::addColumn<QList<int>>("pieces");
@@ -251,7 +251,7 @@ void TestIrcSasl::longCredentialsAreSentInPieces_data()
     QTest::newRow("exactly two") << 592 << QList<int> { 400, 400, 1 };
 }
 
-void TestIrcSasl::longCredentialsAreSentInPieces()
+void tst_IrcSasl::longCredentialsAreSentInPieces()
 {
     QFETCH(int, length);
     QFETCH(QList<int>, pieces);
@@ -272,12 +272,12 @@ void TestIrcSasl::longCredentialsAreSentInPieces()
     QCOMPARE(QByteArray::fromBase64(joined.toLatin1()), QByteArray("\0alice\0", 7) + password.toLatin1());
 }
 
-void TestIrcSasl::aServerWithoutCapabilitiesGetsNoPassword()
+void tst_IrcSasl::aServerWithoutCapabilitiesGetsNoPassword()
 {
     const QStringList sent = receive(":irc 001 alice :Welcome") + receive(":irc 376 alice :End of /MOTD command.");
     QVERIFY2(sent.filter("AUTHENTICATE").isEmpty() && sent.filter("secret").isEmpty(), qPrintable(sent.join(" / ")));
     QVERIFY(!sasl->isAccepted());
 }
 
-QTEST_GUILESS_MAIN(TestIrcSasl)
+QTEST_GUILESS_MAIN(tst_IrcSasl)
 #include "tst_irc_sasl.moc"

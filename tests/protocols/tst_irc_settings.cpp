@@ -12,7 +12,7 @@ const QList<KirvField> onServer { text("server", "irc.example.org") };
 } // namespace
 
 /// What login, password and fields of an IRC account mean.
-class TestIrcSettings : public QObject {
+class tst_IrcSettings : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void spellingsOfANickAreOneLogin();
 };
 
-void TestIrcSettings::loginIsNickAndNetwork_data()
+void tst_IrcSettings::loginIsNickAndNetwork_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<QString>("serverField");
@@ -67,7 +67,7 @@ void TestIrcSettings::loginIsNickAndNetwork_data()
                                << "";
 }
 
-void TestIrcSettings::loginIsNickAndNetwork()
+void tst_IrcSettings::loginIsNickAndNetwork()
 {
     QFETCH(QString, login);
     QFETCH(QString, serverField);
@@ -76,7 +76,7 @@ void TestIrcSettings::loginIsNickAndNetwork()
     QTEST(settings.server, "server");
 }
 
-void TestIrcSettings::missingFieldsHaveDefaults()
+void tst_IrcSettings::missingFieldsHaveDefaults()
 {
     const KirvIrcSettings settings("alice@irc.example.org", "secret", {});
     QCOMPARE(settings.problem(), QString());
@@ -89,7 +89,7 @@ void TestIrcSettings::missingFieldsHaveDefaults()
     QVERIFY(settings.alternativeNicks.isEmpty());
 }
 
-void TestIrcSettings::fieldsAreRead()
+void tst_IrcSettings::fieldsAreRead()
 {
     const KirvIrcSettings settings("alice", "secret",
                                    { text("server", " irc.example.org "), text("port", "7000"),
@@ -108,7 +108,7 @@ void TestIrcSettings::fieldsAreRead()
     QCOMPARE(settings.alternativeNicks, QStringList({ "bob", "carol" }));
 }
 
-void TestIrcSettings::problemsAreReported_data()
+void tst_IrcSettings::problemsAreReported_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<QString>("password");
@@ -179,7 +179,7 @@ void TestIrcSettings::problemsAreReported_data()
                                          << "";
 }
 
-void TestIrcSettings::problemsAreReported()
+void tst_IrcSettings::problemsAreReported()
 {
     QFETCH(QString, login);
     QFETCH(QString, password);
@@ -192,7 +192,7 @@ void TestIrcSettings::problemsAreReported()
     QVERIFY(!settings.problem().contains('\n'));
 }
 
-void TestIrcSettings::passwordHasOneUse_data()
+void tst_IrcSettings::passwordHasOneUse_data()
 {
     QTest::addColumn<QString>("value");
     QTest::addColumn<int>("use");
@@ -202,13 +202,13 @@ void TestIrcSettings::passwordHasOneUse_data()
     QTest::newRow("unknown") << "everywhere" << int(KirvIrcSettings::NotUsed);
 }
 
-void TestIrcSettings::passwordHasOneUse()
+void tst_IrcSettings::passwordHasOneUse()
 {
     QFETCH(QString, value);
     QTEST(int(KirvIrcSettings("alice", "secret", { text("password_use", value) }).passwordUse), "use");
 }
 
-void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword_data()
+void tst_IrcSettings::clientCertificateTakesThePlaceOfThePassword_data()
 {
     QTest::addColumn<QString>("use");
     QTest::addColumn<QString>("certificate");
@@ -224,7 +224,7 @@ void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword_data()
                                           << "/a.pem" << false;
 }
 
-void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword()
+void tst_IrcSettings::clientCertificateTakesThePlaceOfThePassword()
 {
     QFETCH(QString, use);
     QFETCH(QString, certificate);
@@ -234,7 +234,7 @@ void TestIrcSettings::clientCertificateTakesThePlaceOfThePassword()
     QCOMPARE(settings.usesClientCertificate(), !certificate.isEmpty());
 }
 
-void TestIrcSettings::filesAreFields()
+void tst_IrcSettings::filesAreFields()
 {
     QStringList ids;
     const QList<KirvField> fields = KirvIrcSettings::defaultFields();
@@ -246,7 +246,7 @@ void TestIrcSettings::filesAreFields()
         QVERIFY2(ids.contains(file), qPrintable(file));
 }
 
-void TestIrcSettings::keyIsInTheCertificatesFileUnlessThereIsAnother()
+void tst_IrcSettings::keyIsInTheCertificatesFileUnlessThereIsAnother()
 {
     const QList<KirvField> fields = onServer + QList { text("client_certificate", " /a.pem ") };
     QCOMPARE(KirvIrcSettings("alice", QString(), fields).clientCertificateFile, QString("/a.pem"));
@@ -258,21 +258,21 @@ void TestIrcSettings::keyIsInTheCertificatesFileUnlessThereIsAnother()
     QVERIFY(alone.problem().contains("no client certificate"));
 }
 
-void TestIrcSettings::clientCertificateNeedsEncryption()
+void tst_IrcSettings::clientCertificateNeedsEncryption()
 {
     const KirvIrcSettings settings(
         "alice", QString(), onServer + QList { text("client_certificate", "/a.pem"), text("encryption", "none") });
     QVERIFY2(settings.problem().contains("encryption"), qPrintable(settings.problem()));
 }
 
-void TestIrcSettings::alternativesAreTriedInTheirOrder()
+void tst_IrcSettings::alternativesAreTriedInTheirOrder()
 {
     const KirvIrcSettings settings("alice", QString(),
                                    { text("alternative_nicks", ",bob  alice,1bad,\ncarol,alice_ b@d") });
     QCOMPARE(settings.nicks(), QStringList({ "alice", "bob", "carol", "alice_", "alice__", "alice___" }));
 }
 
-void TestIrcSettings::userNameIsLettersAndDigits_data()
+void tst_IrcSettings::userNameIsLettersAndDigits_data()
 {
     QTest::addColumn<QString>("nick");
     QTest::addColumn<QString>("userName");
@@ -286,19 +286,19 @@ void TestIrcSettings::userNameIsLettersAndDigits_data()
                                 << "user";
 }
 
-void TestIrcSettings::userNameIsLettersAndDigits()
+void tst_IrcSettings::userNameIsLettersAndDigits()
 {
     QFETCH(QString, nick);
     QTEST(KirvIrcSettings(nick, QString(), onServer).userName(), "userName");
 }
 
-void TestIrcSettings::realNameIsOneLine()
+void tst_IrcSettings::realNameIsOneLine()
 {
     const KirvIrcSettings settings("alice", QString(), { text("real_name", "Al\nice" + QString(200, 'x')) });
     QVERIFY(settings.realName.startsWith("Al ice") && settings.realName.size() == 100);
 }
 
-void TestIrcSettings::configurationsAreEncryptedNetworks()
+void tst_IrcSettings::configurationsAreEncryptedNetworks()
 {
     const QStringList names = KirvIrcSettings::configurations();
     QVERIFY(names.contains("Libera.Chat") && names.size() == 6);
@@ -313,7 +313,7 @@ void TestIrcSettings::configurationsAreEncryptedNetworks()
     QVERIFY(KirvIrcSettings::configurationFields("no such network").isEmpty());
 }
 
-void TestIrcSettings::localConfigurationUsesTheLocalPort()
+void tst_IrcSettings::localConfigurationUsesTheLocalPort()
 {
     const QString local = KirvIrcSettings::configurations().last();
     qunsetenv("KIRV_IRC_LOCAL_PORT");
@@ -327,7 +327,7 @@ void TestIrcSettings::localConfigurationUsesTheLocalPort()
     QCOMPARE(valueOf(KirvIrcSettings::configurationFields(local), "encryption"), QString("none"));
 }
 
-void TestIrcSettings::loginPatternAccepts_data()
+void tst_IrcSettings::loginPatternAccepts_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<bool>("isGood");
@@ -343,7 +343,7 @@ void TestIrcSettings::loginPatternAccepts_data()
     QTest::newRow("other letters") << QString::fromUtf8("älice") << false;
 }
 
-void TestIrcSettings::problemsOfLoginsAreSaid_data()
+void tst_IrcSettings::problemsOfLoginsAreSaid_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<QString>("problem");
@@ -364,13 +364,13 @@ void TestIrcSettings::problemsOfLoginsAreSaid_data()
     add("with an address", "alice@[::1]", "\"[::1]\" is no address of a server.");
 }
 
-void TestIrcSettings::problemsOfLoginsAreSaid()
+void tst_IrcSettings::problemsOfLoginsAreSaid()
 {
     QFETCH(QString, login);
     QTEST(KirvIrcSettings::loginProblem(login), "problem");
 }
 
-void TestIrcSettings::loginPatternAccepts()
+void tst_IrcSettings::loginPatternAccepts()
 {
     QFETCH(QString, login);
     const QRegularExpression pattern(QRegularExpression::anchoredPattern(KirvIrcSettings::loginPattern()));
@@ -378,7 +378,7 @@ void TestIrcSettings::loginPatternAccepts()
     QTEST(pattern.match(login).hasMatch(), "isGood");
 }
 
-void TestIrcSettings::spellingsOfANickAreOneLogin_data()
+void tst_IrcSettings::spellingsOfANickAreOneLogin_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<QString>("normalized");
@@ -397,11 +397,11 @@ void TestIrcSettings::spellingsOfANickAreOneLogin_data()
                            << "";
 }
 
-void TestIrcSettings::spellingsOfANickAreOneLogin()
+void tst_IrcSettings::spellingsOfANickAreOneLogin()
 {
     QFETCH(QString, login);
     QTEST(KirvIrcSettings::normalizedLogin(login), "normalized");
 }
 
-QTEST_GUILESS_MAIN(TestIrcSettings)
+QTEST_GUILESS_MAIN(tst_IrcSettings)
 #include "tst_irc_settings.moc"

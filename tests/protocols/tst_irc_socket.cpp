@@ -2,6 +2,7 @@
 #include "protocols/irc/kirv_irc_socket.h"
 #include "tests/protocols/fake_irc_socket.h"
 #include "tests/support/fakes/kirv_fake_clock.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -30,7 +31,7 @@ private:
 };
 
 /// How much is handed on in one turn of the event loop, and in which order things end.
-class TestIrcSocket : public QObject {
+class tst_IrcSocket : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -59,7 +60,7 @@ private:
     QByteArray handedOn;
 };
 
-void TestIrcSocket::init()
+void tst_IrcSocket::init()
 {
     transport = new SlowIrcSocket;
     socket = std::make_unique<KirvIrcSocket>(transport, clock);
@@ -72,12 +73,12 @@ void TestIrcSocket::init()
     turn();
 }
 
-void TestIrcSocket::cleanup()
+void tst_IrcSocket::cleanup()
 {
     socket.reset();
 }
 
-QByteArray TestIrcSocket::turn()
+QByteArray tst_IrcSocket::turn()
 {
     handedOn.clear();
     bool isOver = false;
@@ -90,7 +91,7 @@ QByteArray TestIrcSocket::turn()
     return handedOn;
 }
 
-void TestIrcSocket::handsOnFewLinesInATurn()
+void tst_IrcSocket::handsOnFewLinesInATurn()
 {
     const int count = 3 * KirvIrcSocket::linesPerTurn + 1;
     transport->receive(QByteArray("PING :a\r\n").repeated(count).chopped(2));
@@ -105,7 +106,7 @@ void TestIrcSocket::handsOnFewLinesInATurn()
     QVERIFY(turns >= 2);
 }
 
-void TestIrcSocket::readsFewBytesInATurn()
+void tst_IrcSocket::readsFewBytesInATurn()
 {
     const QByteArray notice = "NOTICE alice :" + QByteArray(400, 'x') + "\r\n";
     const QByteArray notices = notice.repeated(10 * KirvIrcSocket::bytesPerTurn / notice.size());
@@ -120,7 +121,7 @@ void TestIrcSocket::readsFewBytesInATurn()
     QVERIFY(handedOn.contains("PING :end") || turn().contains("PING :end"));
 }
 
-void TestIrcSocket::otherEventsAreHandledBetweenTwoTurns()
+void tst_IrcSocket::otherEventsAreHandledBetweenTwoTurns()
 {
     transport->receive(QByteArray("PING :a\r\n").repeated(100 * KirvIrcSocket::linesPerTurn));
     QTimer other;
@@ -133,17 +134,17 @@ void TestIrcSocket::otherEventsAreHandledBetweenTwoTurns()
     QVERIFY(socket->state() == QAbstractSocket::ConnectedState);
 }
 
-void TestIrcSocket::readsNothingWhileTooMuchWaitsToBeSent()
+void tst_IrcSocket::readsNothingWhileTooMuchWaitsToBeSent()
 {
     transport->setWaiting(KirvIrcSocket::largestBacklog + 1);
     turn();
     transport->receive("PING :a");
     QVERIFY(turn().isEmpty() && turn().isEmpty());
     transport->setWaiting(0);
-    QTRY_COMPARE(handedOn, QByteArray("PING :a\r\n"));
+    KIRV_TRY_COMPARE(handedOn, QByteArray("PING :a\r\n"));
 }
 
-void TestIrcSocket::lineThatIsTooLongIsReportedOnce()
+void tst_IrcSocket::lineThatIsTooLongIsReportedOnce()
 {
     QSignalSpy tooLong(socket.get(), &KirvIrcSocket::lineWasTooLong);
     const int size = 4 * KirvIrcInput::longestLine;
@@ -154,14 +155,14 @@ void TestIrcSocket::lineThatIsTooLongIsReportedOnce()
     QVERIFY(transport->bytesAvailable() > size / 2);
 }
 
-void TestIrcSocket::whatCameBeforeTheEndIsHandedOn_data()
+void tst_IrcSocket::whatCameBeforeTheEndIsHandedOn_data()
 {
     QTest::addColumn<int>("error");
     QTest::newRow("closed") << int(QAbstractSocket::RemoteHostClosedError);
     QTest::newRow("broken") << int(QAbstractSocket::NetworkError);
 }
 
-void TestIrcSocket::whatCameBeforeTheEndIsHandedOn()
+void tst_IrcSocket::whatCameBeforeTheEndIsHandedOn()
 {
     QFETCH(int, error);
     QSignalSpy errors(socket.get(), &QAbstractSocket::errorOccurred);
@@ -182,7 +183,7 @@ void TestIrcSocket::whatCameBeforeTheEndIsHandedOn()
     QCOMPARE(socket->state(), QAbstractSocket::UnconnectedState);
 }
 
-void TestIrcSocket::errorBeforeTheConnectionIsReported()
+void tst_IrcSocket::errorBeforeTheConnectionIsReported()
 {
     auto *dead = new SlowIrcSocket;
     KirvIrcSocket other(dead, clock);
@@ -196,7 +197,7 @@ void TestIrcSocket::errorBeforeTheConnectionIsReported()
     QCOMPARE(errors[0][0].value<QAbstractSocket::SocketError>(), QAbstractSocket::ConnectionRefusedError);
 }
 
-void TestIrcSocket::breakingOffIsSilent()
+void tst_IrcSocket::breakingOffIsSilent()
 {
     QSignalSpy errors(socket.get(), &QAbstractSocket::errorOccurred);
     QSignalSpy ended(socket.get(), &QAbstractSocket::disconnected);
@@ -207,21 +208,21 @@ void TestIrcSocket::breakingOffIsSilent()
     QCOMPARE(transport->state(), QAbstractSocket::UnconnectedState);
 }
 
-void TestIrcSocket::droppedLinesAreHeard()
+void tst_IrcSocket::droppedLinesAreHeard()
 {
     QSignalSpy heard(socket.get(), &KirvIrcSocket::heard);
     transport->receive(":bob!b@host PRIVMSG alice :Hello");
     QVERIFY(turn().isEmpty());
-    QTRY_COMPARE(heard.size(), 1);
+    KIRV_TRY_COMPARE(heard.size(), 1);
 }
 
-void TestIrcSocket::socketCanBeDestroyedWhileItHandsOn()
+void tst_IrcSocket::socketCanBeDestroyedWhileItHandsOn()
 {
     QSignalSpy ended(transport, &QObject::destroyed);
     connect(socket.get(), &QAbstractSocket::readyRead, this, [this] { socket.reset(); });
     transport->receive(QByteArray("PING :a\r\n").repeated(1000));
-    QTRY_COMPARE(ended.size(), 1);
+    KIRV_TRY_COMPARE(ended.size(), 1);
 }
 
-QTEST_GUILESS_MAIN(TestIrcSocket)
+QTEST_GUILESS_MAIN(tst_IrcSocket)
 #include "tst_irc_socket.moc"

@@ -4,7 +4,7 @@
 #include <QTest>
 
 /// Texts as one line of the protocol.
-class TestIrcText : public QObject {
+class tst_IrcText : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -15,7 +15,7 @@ private Q_SLOTS:
     void shownTextKeepsItsDirection();
 };
 
-void TestIrcText::textsBecomeOneLine_data()
+void tst_IrcText::textsBecomeOneLine_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("maximum");
@@ -33,14 +33,14 @@ void TestIrcText::textsBecomeOneLine_data()
     QTest::newRow("pair alone") << QString::fromUtf8("😀") << 3 << "";
 }
 
-void TestIrcText::textsBecomeOneLine()
+void tst_IrcText::textsBecomeOneLine()
 {
     QFETCH(QString, text);
     QFETCH(int, maximum);
     QTEST(kirvIrcLine(text, maximum), "line");
 }
 
-void TestIrcText::aLineNeverExceedsItsBytes()
+void tst_IrcText::aLineNeverExceedsItsBytes()
 {
     const QString text = QString::fromUtf8("aä€😀\n").repeated(20);
     for (int maximum = 0; maximum < 60; ++maximum) {
@@ -52,7 +52,7 @@ void TestIrcText::aLineNeverExceedsItsBytes()
     }
 }
 
-void TestIrcText::shownTextKeepsItsDirection_data()
+void tst_IrcText::shownTextKeepsItsDirection_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shown");
@@ -69,11 +69,11 @@ void TestIrcText::shownTextKeepsItsDirection_data()
     QTest::newRow("cut") << QString(100, 'x') << QString(20, 'x');
 }
 
-void TestIrcText::shownTextKeepsItsDirection()
+void tst_IrcText::shownTextKeepsItsDirection()
 {
     QFETCH(QString, text);
     QTEST(kirvIrcShown(text, 20), "shown");
 }
 
-QTEST_APPLESS_MAIN(TestIrcText)
+QTEST_APPLESS_MAIN(tst_IrcText)
 #include "tst_irc_text.moc"

@@ -5,6 +5,7 @@
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/kirv_field_texts.h"
 #include "tests/support/kirv_load_meter.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QAbstractItemView>
 #include <QBuffer>
@@ -75,7 +76,7 @@ QString longAddress(int length)
 } // namespace
 
 /// The window for a request to a server, whatever the request is.
-class TestServerAssistant : public QObject {
+class tst_ServerAssistant : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -140,29 +141,29 @@ private:
     std::unique_ptr<KirvServerAssistant> window;
 };
 
-void TestServerAssistant::init()
+void tst_ServerAssistant::init()
 {
     request = std::make_unique<KirvFakeServerRequest>();
     request->isHeld = true;
     window = std::make_unique<KirvServerAssistant>(request.get(), nullptr);
 }
 
-void TestServerAssistant::cleanup()
+void tst_ServerAssistant::cleanup()
 {
     window.reset();
     request.reset();
 }
 
-void TestServerAssistant::show(const Step &first)
+void tst_ServerAssistant::show(const Step &first)
 {
     Q_EMIT request->stepReady(first);
     window->show();
     window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), kirvPatience));
     QCoreApplication::processEvents();
 }
 
-void TestServerAssistant::aStepIsShownWhole()
+void tst_ServerAssistant::aStepIsShownWhole()
 {
     Step whole = step();
     whole.configurations = QStringList { "First", "Second" };
@@ -176,7 +177,7 @@ void TestServerAssistant::aStepIsShownWhole()
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), QString("Fill it in."));
     QCOMPARE(child<QComboBox>("Configuration")->count(), 2);
     QCOMPARE(child<KirvFieldWidget>("Fields")->getFields().size(), 2);
-    QTRY_VERIFY(child<QLabel>("Picture1"));
+    KIRV_TRY(child<QLabel>("Picture1"));
     QCOMPARE(child<QLabel>("Picture1")->pixmap(Qt::ReturnByValue).size(), QSize(60, 20));
     QVERIFY(child<QCheckBox>("Remember")->isVisible() && window->isPasswordToBeRemembered());
     QCOMPARE(message(), QString("Look at this."));
@@ -190,7 +191,7 @@ void TestServerAssistant::aStepIsShownWhole()
     }
 }
 
-void TestServerAssistant::whatAStepLacksIsHidden()
+void tst_ServerAssistant::whatAStepLacksIsHidden()
 {
     Step whole = step();
     whole.configurations = QStringList { "First" };
@@ -205,7 +206,7 @@ void TestServerAssistant::whatAStepLacksIsHidden()
     QVERIFY(button("Close")->isDefault());
 }
 
-void TestServerAssistant::textsAreShownAsTheyAre()
+void tst_ServerAssistant::textsAreShownAsTheyAre()
 {
     const QString markup = "<b>bold</b> <img src='file:///etc/passwd'> &amp; & one\ntwo";
     Step marked = step({ KirvField::textEdit(markup, "one", QString(), markup) });
@@ -216,7 +217,7 @@ void TestServerAssistant::textsAreShownAsTheyAre()
     Q_EMIT request->failed(KirvFailure(KirvFailure::RequestFailed, "<i>no</i>"));
     QCOMPARE(child<QTextEdit>("Text")->toPlainText(), markup);
     QVERIFY(message().contains("<i>no</i>"));
-    QTRY_VERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("cannot be shown"));
+    KIRV_TRY(child<QTextEdit>("Picture1")->toPlainText().contains("cannot be shown"));
     QVERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("<b>bold</b>"));
     QVERIFY(button("Next")->text().contains("&&"));
     for (const QLabel *label : window->findChildren<QLabel *>())
@@ -224,7 +225,7 @@ void TestServerAssistant::textsAreShownAsTheyAre()
                  qPrintable(label->objectName()));
 }
 
-void TestServerAssistant::longWordsDoNotWidenTheWindow_data()
+void tst_ServerAssistant::longWordsDoNotWidenTheWindow_data()
 {
     QTest::addColumn<QString>("place");
     QTest::addColumn<int>("length");
@@ -235,7 +236,7 @@ void TestServerAssistant::longWordsDoNotWidenTheWindow_data()
     }
 }
 
-void TestServerAssistant::longWordsDoNotWidenTheWindow()
+void tst_ServerAssistant::longWordsDoNotWidenTheWindow()
 {
     QFETCH(QString, place);
     QFETCH(int, length);
@@ -273,15 +274,15 @@ void TestServerAssistant::longWordsDoNotWidenTheWindow()
         return names;
     };
     if (place == "picture") // read in a thread
-        QTRY_VERIFY(window->findChild<KirvWrappedText *>("ServerAssistant_Picture1")->toPlainText().contains("cannot"));
-    QTRY_COMPARE(cutOff(), QStringList());
+        KIRV_TRY(window->findChild<KirvWrappedText *>("ServerAssistant_Picture1")->toPlainText().contains("cannot"));
+    KIRV_TRY_COMPARE(cutOff(), QStringList());
     QVERIFY2(window->minimumSizeHint().width() <= 600, qPrintable(QString::number(window->minimumSizeHint().width())));
     QVERIFY2(window->width() <= qMax(ordinary + 100, 650), qPrintable(QString::number(window->width())));
     QVERIFY(window->height() <= window->screen()->availableGeometry().height());
     QVERIFY(button("Close")->isVisible() && !button("Close")->visibleRegion().isEmpty());
 }
 
-void TestServerAssistant::aLongStepScrolls()
+void tst_ServerAssistant::aLongStepScrolls()
 {
     QList<KirvField> fields;
     for (int i = 0; i < 100; ++i)
@@ -304,7 +305,7 @@ void TestServerAssistant::aLongStepScrolls()
     QVERIFY(area->viewport()->rect().contains(end));
 }
 
-void TestServerAssistant::theWindowGrowsWithItsStep()
+void tst_ServerAssistant::theWindowGrowsWithItsStep()
 {
     show(step({ line("one") }));
     const int height = window->height();
@@ -314,13 +315,13 @@ void TestServerAssistant::theWindowGrowsWithItsStep()
     Step larger = step(fields);
     larger.text = "Words of the server. " + QString("More words. ").repeated(30);
     Q_EMIT request->stepReady(larger);
-    QTRY_VERIFY(window->height() > height);
-    QTRY_VERIFY(!child<QScrollArea>("Area")->verticalScrollBar()->isVisible());
+    KIRV_TRY(window->height() > height);
+    KIRV_TRY(!child<QScrollArea>("Area")->verticalScrollBar()->isVisible());
     const QTextEdit *text = child<QTextEdit>("Text");
     QVERIFY(text->document()->size().height() <= text->height());
 }
 
-void TestServerAssistant::whatWasTypedIsSubmitted()
+void tst_ServerAssistant::whatWasTypedIsSubmitted()
 {
     show(step());
     QTest::keyClicks(edit("one"), "first");
@@ -331,14 +332,14 @@ void TestServerAssistant::whatWasTypedIsSubmitted()
     QCOMPARE(typed("two"), QString("second"));
 }
 
-void TestServerAssistant::whatWasTypedStaysWhenTheServerRefuses_data()
+void tst_ServerAssistant::whatWasTypedStaysWhenTheServerRefuses_data()
 {
     QTest::addColumn<QString>("reply");
     QTest::newRow("failed") << "failed";
     QTest::newRow("input rejected") << "rejected";
 }
 
-void TestServerAssistant::whatWasTypedStaysWhenTheServerRefuses()
+void tst_ServerAssistant::whatWasTypedStaysWhenTheServerRefuses()
 {
     QFETCH(QString, reply);
     show(step());
@@ -356,7 +357,7 @@ void TestServerAssistant::whatWasTypedStaysWhenTheServerRefuses()
     QVERIFY(button("Next")->isEnabled() && edit("one")->isEnabled());
 }
 
-void TestServerAssistant::goingBackPassesOnWhatWasTyped()
+void tst_ServerAssistant::goingBackPassesOnWhatWasTyped()
 {
     Step second = step();
     second.canGoBack = true;
@@ -368,7 +369,7 @@ void TestServerAssistant::goingBackPassesOnWhatWasTyped()
     QCOMPARE(typed("two"), QString("typed"));
 }
 
-void TestServerAssistant::aConfigurationFillsTheFields()
+void tst_ServerAssistant::aConfigurationFillsTheFields()
 {
     Step first = step();
     first.configurations = QStringList { "First", "Second" };
@@ -380,7 +381,7 @@ void TestServerAssistant::aConfigurationFillsTheFields()
     QCOMPARE(window->focusWidget(), box);
 }
 
-void TestServerAssistant::theConfigurationStaysChosen()
+void tst_ServerAssistant::theConfigurationStaysChosen()
 {
     Step first = step();
     first.configurations = QStringList { "First", "Second" };
@@ -394,7 +395,7 @@ void TestServerAssistant::theConfigurationStaysChosen()
     QCOMPARE(child<QComboBox>("Configuration")->currentText(), QString("Other"));
 }
 
-void TestServerAssistant::theKeyboardStartsInTheFirstField()
+void tst_ServerAssistant::theKeyboardStartsInTheFirstField()
 {
     show(step());
     QCOMPARE(window->focusWidget(), edit("one"));
@@ -404,7 +405,7 @@ void TestServerAssistant::theKeyboardStartsInTheFirstField()
     QCOMPARE(window->focusWidget(), button("Next"));
 }
 
-void TestServerAssistant::theKeyboardReturnsAfterWaiting()
+void tst_ServerAssistant::theKeyboardReturnsAfterWaiting()
 {
     show(step());
     edit("two")->setFocus();
@@ -415,7 +416,7 @@ void TestServerAssistant::theKeyboardReturnsAfterWaiting()
     QVERIFY(edit("two")->hasFocus());
 }
 
-void TestServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
+void tst_ServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
 {
     show(step());
     edit("two")->setFocus();
@@ -424,14 +425,14 @@ void TestServerAssistant::theKeyboardStaysInAFieldThatComesAgain()
     QCOMPARE(window->focusWidget(), edit("two"));
 }
 
-void TestServerAssistant::theKeyboardGoesToTheFirstWrongField_data()
+void tst_ServerAssistant::theKeyboardGoesToTheFirstWrongField_data()
 {
     QTest::addColumn<bool>("isRefusedByServer");
     QTest::newRow("before it was sent") << false;
     QTest::newRow("by the server") << true;
 }
 
-void TestServerAssistant::theKeyboardGoesToTheFirstWrongField()
+void tst_ServerAssistant::theKeyboardGoesToTheFirstWrongField()
 {
     QFETCH(bool, isRefusedByServer);
     KirvField year = line("year");
@@ -451,7 +452,7 @@ void TestServerAssistant::theKeyboardGoesToTheFirstWrongField()
         QVERIFY2(window->findChild<QLabel *>(hint)->isVisible(), hint);
 }
 
-void TestServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
+void tst_ServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
 {
     show(step());
     button("Next")->setFocus();
@@ -462,7 +463,7 @@ void TestServerAssistant::theKeyboardGoesToAnErrorWithoutAField()
     QCOMPARE(request->calls, QStringList({ "submit", "submit" }));
 }
 
-void TestServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
+void tst_ServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
 {
     show(step());
     edit("two")->setFocus();
@@ -471,7 +472,7 @@ void TestServerAssistant::theKeyboardStaysInTheFormOnAnErrorWithoutAField()
     QCOMPARE(window->focusWidget(), edit("two"));
 }
 
-void TestServerAssistant::providersAreOffered()
+void tst_ServerAssistant::providersAreOffered()
 {
     window->setProviders({ { "chat.example", "Chat", "https://chat.example/", QDate(2026, 1, 2) },
                            { "talk.example", QString(), "a leaflet", QDate(2025, 3, 4) } });
@@ -499,7 +500,7 @@ void TestServerAssistant::providersAreOffered()
     QVERIFY(edit("two")->completer());
 }
 
-void TestServerAssistant::providersAreOfferedFromTheKeyboard()
+void tst_ServerAssistant::providersAreOfferedFromTheKeyboard()
 {
     window->setProviders({ { "chat.example", QString(), "a leaflet", QDate(2026, 1, 2) },
                            { "talk.example", QString(), "a leaflet", QDate(2026, 1, 2) } });
@@ -507,12 +508,12 @@ void TestServerAssistant::providersAreOfferedFromTheKeyboard()
     first.providerField = "one";
     show(first);
     QTest::keyClick(edit("one"), Qt::Key_Down);
-    QTRY_VERIFY(edit("one")->completer()->popup()->isVisible());
+    KIRV_TRY(edit("one")->completer()->popup()->isVisible());
     QCOMPARE(edit("one")->completer()->completionCount(), 2);
     QVERIFY(edit("one")->accessibleDescription().contains("Down"));
 }
 
-void TestServerAssistant::withoutProvidersNothingIsOffered()
+void tst_ServerAssistant::withoutProvidersNothingIsOffered()
 {
     Step first = step();
     first.providerField = "one";
@@ -524,7 +525,7 @@ void TestServerAssistant::withoutProvidersNothingIsOffered()
     QVERIFY(!edit("one")->completer() && !edit("two")->completer());
 }
 
-void TestServerAssistant::nothingCanBeSentTwice()
+void tst_ServerAssistant::nothingCanBeSentTwice()
 {
     show(step());
     Q_EMIT request->waiting("Sending…");
@@ -536,14 +537,14 @@ void TestServerAssistant::nothingCanBeSentTwice()
     QVERIFY(window->isVisible());
 }
 
-void TestServerAssistant::enterSubmits()
+void tst_ServerAssistant::enterSubmits()
 {
     show(step());
     QTest::keyClick(edit("one"), Qt::Key_Return);
     QCOMPARE(request->calls, QStringList { "submit" });
 }
 
-void TestServerAssistant::dangerousCommandsAreNotTheDefault()
+void tst_ServerAssistant::dangerousCommandsAreNotTheDefault()
 {
     Step dangerous = step({});
     dangerous.isDangerous = true;
@@ -561,7 +562,7 @@ void TestServerAssistant::dangerousCommandsAreNotTheDefault()
     QVERIFY(button("Next")->isDefault() && !button("Close")->isDefault());
 }
 
-void TestServerAssistant::mnemonicsDoNotClash()
+void tst_ServerAssistant::mnemonicsDoNotClash()
 {
     Step whole = step({ line("one"), KirvField::checkBox("Remember", "two", false, QString()) });
     whole.command = "Register";
@@ -578,14 +579,14 @@ void TestServerAssistant::mnemonicsDoNotClash()
     QCOMPARE(keys.removeDuplicates(), 0);
 }
 
-void TestServerAssistant::picturesAreShown()
+void tst_ServerAssistant::picturesAreShown()
 {
     Step shown = step();
     shown.pictures = { { "Large", png({ 3000, 1000 }), QString() },
                        { "Broken", "no picture", "https://example.org/a" },
                        { "Elsewhere", QByteArray(), "https://example.org/b" } };
     show(shown);
-    QTRY_VERIFY(child<QLabel>("Picture1") && child<QTextEdit>("Picture3")->toPlainText().contains("example.org"));
+    KIRV_TRY(child<QLabel>("Picture1") && child<QTextEdit>("Picture3")->toPlainText().contains("example.org"));
     QCOMPARE(child<QLabel>("Picture1")->pixmap(Qt::ReturnByValue).width(), 400);
     QCOMPARE(child<QLabel>("Picture1")->accessibleName(), QString("Large"));
     QVERIFY(child<QTextEdit>("Picture2")->toPlainText().contains("https://example.org/a"));
@@ -594,18 +595,18 @@ void TestServerAssistant::picturesAreShown()
     QVERIFY(!child<QWidget>("Picture1"));
 }
 
-void TestServerAssistant::picturesAreBounded()
+void tst_ServerAssistant::picturesAreBounded()
 {
     Step shown = step();
     for (int i = 0; i < 100; ++i)
         shown.pictures << KirvServerRequest::Picture { "Picture", png({ 10, 10 }), QString() };
     show(shown);
     QVERIFY(child<QWidget>("Picture4") && !child<QWidget>("Picture5"));
-    QTRY_VERIFY(child<QLabel>("Picture4"));
+    KIRV_TRY(child<QLabel>("Picture4"));
     QVERIFY(!child<QWidget>("Picture5"));
 }
 
-void TestServerAssistant::hugePicturesBlockNothing_data()
+void tst_ServerAssistant::hugePicturesBlockNothing_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::newRow("picture of 16,000 x 16,000 pixels") << blank({ 16000, 16000 });
@@ -615,7 +616,7 @@ void TestServerAssistant::hugePicturesBlockNothing_data()
 }
 
 /// Whatever a server sends as a picture is read beside the window, or refused before it is decoded.
-void TestServerAssistant::hugePicturesBlockNothing()
+void tst_ServerAssistant::hugePicturesBlockNothing()
 {
     QFETCH(QByteArray, data);
     show(step());
@@ -629,7 +630,7 @@ void TestServerAssistant::hugePicturesBlockNothing()
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-void TestServerAssistant::picturesAreReadOutsideTheGuiThread()
+void tst_ServerAssistant::picturesAreReadOutsideTheGuiThread()
 {
     Step shown = step();
     shown.pictures = { { "Picture", png({ 60, 20 }), QString() } };
@@ -637,21 +638,21 @@ void TestServerAssistant::picturesAreReadOutsideTheGuiThread()
     Q_EMIT request->stepReady(shown);
     QVERIFY(!child<QLabel>("Picture1")); // the window is there before the picture
     QVERIFY(child<QTextEdit>("Picture1")->toPlainText().contains("Picture"));
-    QTRY_VERIFY(child<QLabel>("Picture1"));
+    KIRV_TRY(child<QLabel>("Picture1"));
 
     // Neither the next step nor the end of the window waits for one.
     Q_EMIT request->stepReady(shown);
     Q_EMIT request->stepReady(step());
-    QVERIFY(QThreadPool::globalInstance()->waitForDone());
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(kirvPatience));
     QCoreApplication::processEvents();
     QVERIFY(!child<QWidget>("Picture1"));
     Q_EMIT request->stepReady(shown);
     window.reset();
-    QVERIFY(QThreadPool::globalInstance()->waitForDone());
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(kirvPatience));
     QCoreApplication::processEvents();
 }
 
-void TestServerAssistant::anOutcomeStays()
+void tst_ServerAssistant::anOutcomeStays()
 {
     show(step());
     QSignalSpy triggered(window.get(), &KirvServerAssistant::outcomeCommandTriggered);
@@ -669,7 +670,7 @@ void TestServerAssistant::anOutcomeStays()
     QVERIFY(!button("Next")->isVisible() && button("Close")->isDefault());
 }
 
-void TestServerAssistant::theRequestMayGoFirst()
+void tst_ServerAssistant::theRequestMayGoFirst()
 {
     Step second = step();
     second.canGoBack = true;
@@ -683,5 +684,5 @@ void TestServerAssistant::theRequestMayGoFirst()
     QVERIFY(!window->isVisible());
 }
 
-QTEST_MAIN(TestServerAssistant)
+QTEST_MAIN(tst_ServerAssistant)
 #include "tst_server_assistant.moc"

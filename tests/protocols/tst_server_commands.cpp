@@ -7,6 +7,7 @@
 #include "tests/support/fakes/kirv_fake_protocol.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QCheckBox>
 #include <QHash>
@@ -30,7 +31,7 @@ const KirvAccountKey romeoKey { "romeo@example.org", "Alpha" };
 } // namespace
 
 /// The commands that lead to a server, and what their results do to the accounts.
-class TestServerCommands : public QObject {
+class tst_ServerCommands : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -97,7 +98,7 @@ private:
     std::unique_ptr<QSignalSpy> successes;
 };
 
-void TestServerCommands::init()
+void tst_ServerCommands::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     store = std::make_unique<KirvStore>();
@@ -117,7 +118,7 @@ void TestServerCommands::init()
     alpha = addProtocol("Alpha");
 }
 
-void TestServerCommands::cleanup()
+void tst_ServerCommands::cleanup()
 {
     unavailable.reset();
     problems.reset();
@@ -132,7 +133,7 @@ void TestServerCommands::cleanup()
     created = 0;
 }
 
-KirvFakeProtocol *TestServerCommands::addProtocol(const QString &name, bool offers)
+KirvFakeProtocol *tst_ServerCommands::addProtocol(const QString &name, bool offers)
 {
     auto *protocol = new KirvFakeProtocol(name);
     if (offers)
@@ -144,7 +145,7 @@ KirvFakeProtocol *TestServerCommands::addProtocol(const QString &name, bool offe
     return plugins->addProtocol(protocol) ? protocol : nullptr;
 }
 
-KirvFakeServerRequest *TestServerCommands::createRequest(const QString &protocol)
+KirvFakeServerRequest *tst_ServerCommands::createRequest(const QString &protocol)
 {
     KirvServerRequest::Step step;
     step.text = "Fill it in.";
@@ -158,7 +159,7 @@ KirvFakeServerRequest *TestServerCommands::createRequest(const QString &protocol
 }
 
 /// An account that is logged in.
-KirvAccount *TestServerCommands::addAccount()
+KirvAccount *tst_ServerCommands::addAccount()
 {
     KirvAccountRecord record;
     record.key = romeoKey;
@@ -166,11 +167,11 @@ KirvAccount *TestServerCommands::addAccount()
     record.rememberPassword = true;
     record.defaultPresence = "available";
     KirvAccount *account = accounts->create(record, alpha);
-    return QTest::qWaitFor([account] { return account->isOnline(); }) ? account : nullptr;
+    return QTest::qWaitFor([account] { return account->isOnline(); }, kirvPatience) ? account : nullptr;
 }
 
 /// Opens the window of the change and submits it, so that a reply of the server is awaited.
-void TestServerCommands::changePassword()
+void tst_ServerCommands::changePassword()
 {
     commands->run(romeoKey, "act", window.get());
     QVERIFY(request() && Assistant::window());
@@ -178,7 +179,7 @@ void TestServerCommands::changePassword()
     request()->canBeCancelled = false;
 }
 
-void TestServerCommands::theSignalOpensTheOnlyRegistration()
+void tst_ServerCommands::theSignalOpensTheOnlyRegistration()
 {
     addProtocol("Beta", false);
     registerAccount();
@@ -187,7 +188,7 @@ void TestServerCommands::theSignalOpensTheOnlyRegistration()
     QVERIFY(!Assistant::window()->isModal());
 }
 
-void TestServerCommands::theSignalLetsChooseAmongSeveral()
+void tst_ServerCommands::theSignalLetsChooseAmongSeveral()
 {
     addProtocol("Beta");
     registerAccount();
@@ -201,7 +202,7 @@ void TestServerCommands::theSignalLetsChooseAmongSeveral()
     QVERIFY(Assistant::window() && request("Beta") && !request());
 }
 
-void TestServerCommands::theSignalNamesAProtocol()
+void tst_ServerCommands::theSignalNamesAProtocol()
 {
     addProtocol("Beta");
     plugins->broadcast("register_account", { KirvArg(QString("Beta")) });
@@ -209,7 +210,7 @@ void TestServerCommands::theSignalNamesAProtocol()
     QVERIFY(!window->findChild<QDialog *>("RegistrationChooser"));
 }
 
-void TestServerCommands::withoutAProtocolItIsUnavailable_data()
+void tst_ServerCommands::withoutAProtocolItIsUnavailable_data()
 {
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QString>("part");
@@ -221,7 +222,7 @@ void TestServerCommands::withoutAProtocolItIsUnavailable_data()
                                                  << "Gamma";
 }
 
-void TestServerCommands::withoutAProtocolItIsUnavailable()
+void tst_ServerCommands::withoutAProtocolItIsUnavailable()
 {
     QFETCH(QString, argument);
     QFETCH(QString, part);
@@ -238,13 +239,13 @@ void TestServerCommands::withoutAProtocolItIsUnavailable()
     QVERIFY(!Assistant::window());
 }
 
-void TestServerCommands::otherSignalsAreIgnored()
+void tst_ServerCommands::otherSignalsAreIgnored()
 {
     plugins->broadcast("something_else", {});
     QVERIFY(!Assistant::window() && unavailable->isEmpty());
 }
 
-void TestServerCommands::aCommandOpensOneWindow()
+void tst_ServerCommands::aCommandOpensOneWindow()
 {
     QVERIFY(addAccount());
     registerAccount();
@@ -261,14 +262,14 @@ void TestServerCommands::aCommandOpensOneWindow()
     QCOMPARE(created, 3);
 }
 
-void TestServerCommands::theRegisteredAccountIsAdded_data()
+void tst_ServerCommands::theRegisteredAccountIsAdded_data()
 {
     QTest::addColumn<bool>("isRemembered");
     QTest::newRow("password stored") << true;
     QTest::newRow("password not stored") << false;
 }
 
-void TestServerCommands::theRegisteredAccountIsAdded()
+void tst_ServerCommands::theRegisteredAccountIsAdded()
 {
     QFETCH(bool, isRemembered);
     registerAccount();
@@ -283,10 +284,10 @@ void TestServerCommands::theRegisteredAccountIsAdded()
     QCOMPARE(account->record().rememberPassword, isRemembered);
     QCOMPARE(account->record().settings.value("server"), QString("127.0.0.1"));
     QCOMPARE(account->record().defaultPresence, QString("available"));
-    QTRY_VERIFY(account->isOnline());
+    KIRV_TRY(account->isOnline());
 }
 
-void TestServerCommands::aKnownAccountIsNotAddedTwice()
+void tst_ServerCommands::aKnownAccountIsNotAddedTwice()
 {
     addAccount();
     registerAccount();
@@ -299,7 +300,7 @@ void TestServerCommands::aKnownAccountIsNotAddedTwice()
     QVERIFY(!Assistant::window() && !request());
 }
 
-void TestServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
+void tst_ServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
 {
     registerAccount();
     store->close();
@@ -315,7 +316,7 @@ void TestServerCommands::anAccountThatWasNotStoredCanBeAddedAgain()
     QVERIFY(!Assistant::window() && accounts->find(newKey));
 }
 
-void TestServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
+void tst_ServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
 {
     registerAccount();
     request()->succeedWith(Result::AccountRegistered, KirvLogin());
@@ -323,7 +324,7 @@ void TestServerCommands::anAccountThatOnlyTheServerKnowsIsReported()
     QVERIFY(accounts->accounts().isEmpty() && !Assistant::next()->isVisible());
 }
 
-void TestServerCommands::closingTheWindowCancelsTheRegistration()
+void tst_ServerCommands::closingTheWindowCancelsTheRegistration()
 {
     registerAccount();
     press(Assistant::next());
@@ -331,7 +332,7 @@ void TestServerCommands::closingTheWindowCancelsTheRegistration()
     QVERIFY(!Assistant::window() && !request());
 }
 
-void TestServerCommands::theNewPasswordIsStored()
+void tst_ServerCommands::theNewPasswordIsStored()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -350,7 +351,7 @@ void TestServerCommands::theNewPasswordIsStored()
     QVERIFY(!Assistant::window() && !request() && successes->isEmpty());
 }
 
-void TestServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
+void tst_ServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -371,7 +372,7 @@ void TestServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
     QCOMPARE(logIns(), 1);
 }
 
-void TestServerCommands::closingTheWindowKeepsTheNewPassword()
+void tst_ServerCommands::closingTheWindowKeepsTheNewPassword()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -385,14 +386,14 @@ void TestServerCommands::closingTheWindowKeepsTheNewPassword()
     QVERIFY(successes->first().first().toString().contains("is changed on its server"));
 }
 
-void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain_data()
+void tst_ServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain_data()
 {
     QTest::addColumn<bool>("isDestroyed");
     QTest::newRow("closed") << false;
     QTest::newRow("destroyed") << true;
 }
 
-void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
+void tst_ServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
 {
     QFETCH(bool, isDestroyed);
     KirvAccount *account = addAccount();
@@ -410,7 +411,7 @@ void TestServerCommands::aPasswordThatWasNotStoredOpensTheWindowAgain()
     QVERIFY(Assistant::message().contains("is changed") && !account->hasUnstoredPassword());
 }
 
-void TestServerCommands::aFailureAfterClosingIsReported()
+void tst_ServerCommands::aFailureAfterClosingIsReported()
 {
     KirvAccount *account = addAccount();
     changePassword();
@@ -423,7 +424,7 @@ void TestServerCommands::aFailureAfterClosingIsReported()
     QCOMPARE(account->record().password, QString("old"));
 }
 
-void TestServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
+void tst_ServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
 {
     addAccount();
     changePassword();
@@ -435,7 +436,7 @@ void TestServerCommands::theWindowThatWasClosedComesBackWithItsCommand()
     QVERIFY(Assistant::window() && problems->isEmpty());
 }
 
-void TestServerCommands::theDeletedAccountIsRemoved()
+void tst_ServerCommands::theDeletedAccountIsRemoved()
 {
     addAccount();
     commands->run(romeoKey, "act", window.get());
@@ -444,7 +445,7 @@ void TestServerCommands::theDeletedAccountIsRemoved()
     QVERIFY(store->readAccounts().isEmpty());
 }
 
-void TestServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
+void tst_ServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
 {
     addAccount();
     commands->run(romeoKey, "act", window.get());
@@ -458,14 +459,14 @@ void TestServerCommands::aDeletedAccountThatWasNotRemovedIsReported()
     QVERIFY(!accounts->find(romeoKey) && !Assistant::window());
 }
 
-void TestServerCommands::windowsGoWithTheirProtocol_data()
+void tst_ServerCommands::windowsGoWithTheirProtocol_data()
 {
     QTest::addColumn<bool>("isRegistration");
     QTest::newRow("registration") << true;
     QTest::newRow("action") << false;
 }
 
-void TestServerCommands::windowsGoWithTheirProtocol()
+void tst_ServerCommands::windowsGoWithTheirProtocol()
 {
     QFETCH(bool, isRegistration);
     addAccount();
@@ -480,7 +481,7 @@ void TestServerCommands::windowsGoWithTheirProtocol()
     QVERIFY(wasFirst);
 }
 
-void TestServerCommands::windowsGoWithTheirAccount()
+void tst_ServerCommands::windowsGoWithTheirAccount()
 {
     KirvAccount *account = addAccount();
     registerAccount();
@@ -492,7 +493,7 @@ void TestServerCommands::windowsGoWithTheirAccount()
     QVERIFY(Assistant::window() && !Assistant::window()->isModal());
 }
 
-void TestServerCommands::windowsGoWhileAModalChildIsOpen()
+void tst_ServerCommands::windowsGoWhileAModalChildIsOpen()
 {
     registerAccount();
     const QPointer<KirvServerAssistant> open = Assistant::window();
@@ -500,10 +501,10 @@ void TestServerCommands::windowsGoWhileAModalChildIsOpen()
     QMetaObject::invokeMethod(
         this, [this] { plugins.reset(); }, Qt::QueuedConnection);
     child->exec();
-    QTRY_VERIFY(!open && !child);
+    KIRV_TRY(!open && !child);
 }
 
-void TestServerCommands::theWindowMayBeDestroyedWithItsParent()
+void tst_ServerCommands::theWindowMayBeDestroyedWithItsParent()
 {
     addAccount();
     auto parent = std::make_unique<QWidget>();
@@ -515,7 +516,7 @@ void TestServerCommands::theWindowMayBeDestroyedWithItsParent()
     QVERIFY(Assistant::window() && request());
 }
 
-void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
+void tst_ServerCommands::theMenuHasTheActionsOfTheProtocol()
 {
     KirvAccount *account = addAccount();
     QVERIFY(KirvAccountActionsMenu::isUseful(romeoKey, *commands));
@@ -529,7 +530,7 @@ void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
     QVERIFY(Assistant::window());
 
     account->setPresence(alpha->presenceWithId("offline", QString()));
-    QTRY_VERIFY(!account->isOnline());
+    KIRV_TRY(!account->isOnline());
     Q_EMIT menu.aboutToShow();
     QVERIFY(!menu.actions().first()->isEnabled());
     accounts->remove(account);
@@ -537,7 +538,7 @@ void TestServerCommands::theMenuHasTheActionsOfTheProtocol()
     QVERIFY(menu.actions().isEmpty());
 }
 
-void TestServerCommands::unknownActionsAreIgnored()
+void tst_ServerCommands::unknownActionsAreIgnored()
 {
     addAccount();
     commands->run(romeoKey, "none", window.get());
@@ -545,5 +546,5 @@ void TestServerCommands::unknownActionsAreIgnored()
     QVERIFY(!Assistant::window());
 }
 
-QTEST_MAIN(TestServerCommands)
+QTEST_MAIN(tst_ServerCommands)
 #include "tst_server_commands.moc"

@@ -8,7 +8,7 @@
 #include <QtTest>
 #include <atomic>
 
-class TestSystemCertificates : public QObject {
+class tst_SystemCertificates : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -33,13 +33,13 @@ private:
     QSemaphore permits;
 };
 
-void TestSystemCertificates::initTestCase()
+void tst_SystemCertificates::initTestCase()
 {
     ofSystem = QSslConfiguration::systemCaCertificates();
     QVERIFY2(ofSystem.size() > 3, "the system trusts nobody");
 }
 
-void TestSystemCertificates::init()
+void tst_SystemCertificates::init()
 {
     reads = 0;
     reader = nullptr;
@@ -47,7 +47,7 @@ void TestSystemCertificates::init()
 }
 
 /// Waits for a permit and gives the first certificates of the system.
-QList<QSslCertificate> TestSystemCertificates::read()
+QList<QSslCertificate> tst_SystemCertificates::read()
 {
     permits.acquire();
     reader = QThread::currentThread();
@@ -55,7 +55,7 @@ QList<QSslCertificate> TestSystemCertificates::read()
     return ofSystem.mid(0, 3);
 }
 
-void TestSystemCertificates::theyAreThoseOfTheSystem()
+void tst_SystemCertificates::theyAreThoseOfTheSystem()
 {
     QList<QSslCertificate> received;
     KirvSystemCertificates::instance().request(this, [&](const auto &certificates) { received = certificates; });
@@ -63,7 +63,7 @@ void TestSystemCertificates::theyAreThoseOfTheSystem()
     QCOMPARE(received, ofSystem);
 }
 
-void TestSystemCertificates::theyAreReadOnceInAnotherThread()
+void tst_SystemCertificates::theyAreReadOnceInAnotherThread()
 {
     KirvSystemCertificates certificates([this] { return read(); });
     int received = 0;
@@ -80,7 +80,7 @@ void TestSystemCertificates::theyAreReadOnceInAnotherThread()
     QVERIFY(reader != QThread::currentThread());
 }
 
-void TestSystemCertificates::theEventLoopRunsMeanwhile()
+void tst_SystemCertificates::theEventLoopRunsMeanwhile()
 {
     KirvSystemCertificates certificates([this] { return read(); });
     bool received = false;
@@ -95,7 +95,7 @@ void TestSystemCertificates::theEventLoopRunsMeanwhile()
     KIRV_TRY(received);
 }
 
-void TestSystemCertificates::theyAreGivenAtOnceWhenTheyAreThere()
+void tst_SystemCertificates::theyAreGivenAtOnceWhenTheyAreThere()
 {
     permits.release(5);
     KirvSystemCertificates certificates([this] { return read(); });
@@ -108,7 +108,7 @@ void TestSystemCertificates::theyAreGivenAtOnceWhenTheyAreThere()
     QCOMPARE(reads.load(), 1);
 }
 
-void TestSystemCertificates::whatIsNotFreshIsReadAgain()
+void tst_SystemCertificates::whatIsNotFreshIsReadAgain()
 {
     permits.release(5);
     KirvSystemCertificates certificates([this] { return read().mid(reads - 1); }, 0);
@@ -121,7 +121,7 @@ void TestSystemCertificates::whatIsNotFreshIsReadAgain()
     KIRV_TRY_COMPARE(sizes, (QList<int> { 3, 2 })); // one is not trusted any more
 }
 
-void TestSystemCertificates::theSameCertificatesAreKept()
+void tst_SystemCertificates::theSameCertificatesAreKept()
 {
     permits.release(5);
     const auto readNewCopies = [this] {
@@ -141,7 +141,7 @@ void TestSystemCertificates::theSameCertificatesAreKept()
     QCOMPARE(handles.at(0), handles.at(1));
 }
 
-void TestSystemCertificates::destroyedContextsReceiveNothing()
+void tst_SystemCertificates::destroyedContextsReceiveNothing()
 {
     KirvSystemCertificates certificates([this] { return read(); });
     auto context = std::make_unique<QObject>();
@@ -153,7 +153,7 @@ void TestSystemCertificates::destroyedContextsReceiveNothing()
     KIRV_TRY_COMPARE(received, 1);
 }
 
-void TestSystemCertificates::itMayBeDestroyedWhileTheyAreRead()
+void tst_SystemCertificates::itMayBeDestroyedWhileTheyAreRead()
 {
     bool received = false;
     {
@@ -166,5 +166,5 @@ void TestSystemCertificates::itMayBeDestroyedWhileTheyAreRead()
     QVERIFY(!received);
 }
 
-QTEST_GUILESS_MAIN(TestSystemCertificates)
+QTEST_GUILESS_MAIN(tst_SystemCertificates)
 #include "tst_system_certificates.moc"

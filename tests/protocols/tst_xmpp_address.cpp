@@ -5,7 +5,7 @@
 #include <QTest>
 
 /// Addresses as servers compare them.
-class TestXmppAddress : public QObject {
+class tst_XmppAddress : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -26,7 +26,7 @@ QString text(const char *utf8)
 
 } // namespace
 
-void TestXmppAddress::spellingsOfOneAddressAreTheSame_data()
+void tst_XmppAddress::spellingsOfOneAddressAreTheSame_data()
 {
     QTest::addColumn<QString>("one");
     QTest::addColumn<QString>("other");
@@ -49,14 +49,14 @@ void TestXmppAddress::spellingsOfOneAddressAreTheSame_data()
                                            << "name@[::a]";
 }
 
-void TestXmppAddress::spellingsOfOneAddressAreTheSame()
+void tst_XmppAddress::spellingsOfOneAddressAreTheSame()
 {
     QFETCH(QString, one);
     QFETCH(QString, other);
     QCOMPARE(kirvXmppNormalizedAddress(one), kirvXmppNormalizedAddress(other));
 }
 
-void TestXmppAddress::otherAddressesAreOthers_data()
+void tst_XmppAddress::otherAddressesAreOthers_data()
 {
     QTest::addColumn<QString>("one");
     QTest::addColumn<QString>("other");
@@ -75,14 +75,14 @@ void TestXmppAddress::otherAddressesAreOthers_data()
     QTest::newRow("zero") << text("näme") + QChar(0) + "x@host" << text("näme") + QChar(0) + "y@host";
 }
 
-void TestXmppAddress::otherAddressesAreOthers()
+void tst_XmppAddress::otherAddressesAreOthers()
 {
     QFETCH(QString, one);
     QFETCH(QString, other);
     QVERIFY(kirvXmppNormalizedAddress(one) != kirvXmppNormalizedAddress(other));
 }
 
-void TestXmppAddress::theResultStaysAsItIs()
+void tst_XmppAddress::theResultStaysAsItIs()
 {
     for (const char *address : { "name@host", "Name@Bücher.example.", "ΣΑΣ@host", "a@b@c", "@", "" }) {
         const QString once = kirvXmppNormalizedAddress(text(address));
@@ -90,11 +90,11 @@ void TestXmppAddress::theResultStaysAsItIs()
     }
 }
 
-void TestXmppAddress::theProtocolNormalizesLogins()
+void tst_XmppAddress::theProtocolNormalizesLogins()
 {
     const KirvXmppProtocol protocol;
     QCOMPARE(protocol.normalizedLogin(text("Röbi@Host")), text("röbi@host"));
 }
 
-QTEST_GUILESS_MAIN(TestXmppAddress)
+QTEST_GUILESS_MAIN(tst_XmppAddress)
 #include "tst_xmpp_address.moc"

@@ -39,7 +39,7 @@ QByteArray metadata(const QByteArray &picture)
 } // namespace
 
 /// The picture here and the ones on the server.
-class TestXmppAvatar : public QObject {
+class tst_XmppAvatar : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -79,7 +79,7 @@ private:
     };
 };
 
-void TestXmppAvatar::init()
+void tst_XmppAvatar::init()
 {
     link = std::make_unique<FakeXmppLink>(KirvXmppLink::LogIn);
     link->arrive();
@@ -89,7 +89,7 @@ void TestXmppAvatar::init()
     results = 0;
 }
 
-QString TestXmppAvatar::makePicture()
+QString tst_XmppAvatar::makePicture()
 {
     QImage image(8, 8, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -97,7 +97,7 @@ QString TestXmppAvatar::makePicture()
     return image.save(path) ? path : QString();
 }
 
-void TestXmppAvatar::replyToEvent(const QByteArray &event)
+void tst_XmppAvatar::replyToEvent(const QByteArray &event)
 {
     if (event.isEmpty())
         link->refuse("item-not-found");
@@ -105,7 +105,7 @@ void TestXmppAvatar::replyToEvent(const QByteArray &event)
         link->reply(metadata(event));
 }
 
-Result TestXmppAvatar::synchronize(const KirvAvatar &avatar, const QByteArray &entry, const QByteArray &event)
+Result tst_XmppAvatar::synchronize(const KirvAvatar &avatar, const QByteArray &entry, const QByteArray &event)
 {
     picture->synchronize(avatar, receive);
     if (isRequested("urn:xmpp:avatar:metadata"))
@@ -120,7 +120,7 @@ Result TestXmppAvatar::synchronize(const KirvAvatar &avatar, const QByteArray &e
     return results == 1 && link->requests.isEmpty() ? result : Result { KirvFailure::Other, {}, {}, "unfinished", {} };
 }
 
-void TestXmppAvatar::theNewerPictureWins_data()
+void tst_XmppAvatar::theNewerPictureWins_data()
 {
     QTest::addColumn<QByteArray>("known");
     QTest::addColumn<QByteArray>("entry");
@@ -147,7 +147,7 @@ void TestXmppAvatar::theNewerPictureWins_data()
     QTest::newRow("nothing before, an entry now") << QByteArray("/") << in << none << true << in;
 }
 
-void TestXmppAvatar::theNewerPictureWins()
+void tst_XmppAvatar::theNewerPictureWins()
 {
     QFETCH(QByteArray, known);
     QFETCH(QByteArray, entry);
@@ -164,7 +164,7 @@ void TestXmppAvatar::theNewerPictureWins()
     QCOMPARE(int(synchronize({ "/taken.png", last.onServer, false }, entry, event).kind), int(Result::Unchanged));
 }
 
-void TestXmppAvatar::aChosenPictureIsPublishedWhateverTheServerHas_data()
+void tst_XmppAvatar::aChosenPictureIsPublishedWhateverTheServerHas_data()
 {
     QTest::addColumn<QByteArray>("known");
     QTest::addColumn<QByteArray>("entry");
@@ -176,7 +176,7 @@ void TestXmppAvatar::aChosenPictureIsPublishedWhateverTheServerHas_data()
     }
 }
 
-void TestXmppAvatar::aChosenPictureIsPublishedWhateverTheServerHas()
+void tst_XmppAvatar::aChosenPictureIsPublishedWhateverTheServerHas()
 {
     QFETCH(QByteArray, known);
     QFETCH(QByteArray, entry);
@@ -190,7 +190,7 @@ void TestXmppAvatar::aChosenPictureIsPublishedWhateverTheServerHas()
     QCOMPARE(int(next.kind), int(Result::Unchanged));
 }
 
-void TestXmppAvatar::aRemovedPictureIsRemovedThere()
+void tst_XmppAvatar::aRemovedPictureIsRemovedThere()
 {
     picture->synchronize({ QString(), hashOf("old") + '/', true }, receive);
     replyToEvent(QByteArray());
@@ -201,14 +201,14 @@ void TestXmppAvatar::aRemovedPictureIsRemovedThere()
     QCOMPARE(result.onServer, QByteArray("/"));
 }
 
-void TestXmppAvatar::ourPictureFillsAnEmptyPlace()
+void tst_XmppAvatar::ourPictureFillsAnEmptyPlace()
 {
     const Result last = synchronize({ makePicture(), QByteArray(), false }, QByteArray(), QByteArray());
     QCOMPARE(int(last.kind), int(Result::Published));
     QVERIFY(!last.photo.isNull());
 }
 
-void TestXmppAvatar::ourOwnPublicationIsNoChange()
+void tst_XmppAvatar::ourOwnPublicationIsNoChange()
 {
     picture->publish({ makePicture(), QByteArray(), true }, receive);
     replyToEvent(QByteArray());
@@ -220,7 +220,7 @@ void TestXmppAvatar::ourOwnPublicationIsNoChange()
     QCOMPARE(int(next.kind), int(Result::Unchanged));
 }
 
-void TestXmppAvatar::whatIsNotKnownChangesNothing_data()
+void tst_XmppAvatar::whatIsNotKnownChangesNothing_data()
 {
     QTest::addColumn<QString>("condition");
     QTest::addColumn<bool>("isChosen");
@@ -230,7 +230,7 @@ void TestXmppAvatar::whatIsNotKnownChangesNothing_data()
     }
 }
 
-void TestXmppAvatar::whatIsNotKnownChangesNothing()
+void tst_XmppAvatar::whatIsNotKnownChangesNothing()
 {
     QFETCH(QString, condition);
     QFETCH(bool, isChosen);
@@ -247,7 +247,7 @@ void TestXmppAvatar::whatIsNotKnownChangesNothing()
     QVERIFY(result.failure.isFailure() && link->requests.isEmpty());
 }
 
-void TestXmppAvatar::aPictureThatIsNotThereChangesNothing()
+void tst_XmppAvatar::aPictureThatIsNotThereChangesNothing()
 {
     picture->synchronize({ "/ours.png", hashOf("old") + '/', false }, receive);
     replyToEvent("new");
@@ -259,7 +259,7 @@ void TestXmppAvatar::aPictureThatIsNotThereChangesNothing()
     QCOMPARE(result.photo.data, QByteArray("old")); // what is announced
 }
 
-void TestXmppAvatar::aDisabledPictureIsNone()
+void tst_XmppAvatar::aDisabledPictureIsNone()
 {
     picture->synchronize({ QString(), hashOf("old") + '/', false }, receive);
     link->reply(item("urn:xmpp:avatar:metadata", "current", "<metadata xmlns='urn:xmpp:avatar:metadata'/>"));
@@ -267,5 +267,5 @@ void TestXmppAvatar::aDisabledPictureIsNone()
     QCOMPARE(int(result.kind), int(Result::Unchanged));
 }
 
-QTEST_MAIN(TestXmppAvatar)
+QTEST_MAIN(tst_XmppAvatar)
 #include "tst_xmpp_avatar.moc"

@@ -34,7 +34,7 @@ QStringList mechanismsOf(const QDomElement &features)
 } // namespace
 
 /// Which features of a server the library sees.
-class TestXmppFeatures : public QObject {
+class tst_XmppFeatures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -43,7 +43,7 @@ private Q_SLOTS:
     void theBestAllowedWayIsLeft();
 };
 
-void TestXmppFeatures::unusedFeaturesAreTakenOut()
+void tst_XmppFeatures::unusedFeaturesAreTakenOut()
 {
     QDomDocument document = parsed(featuresOf("<starttls xmlns='urn:ietf:params:xml:ns:xmpp-tls'/>"
                                               "<compression xmlns='http://jabber.org/features/compress'/>"
@@ -61,7 +61,7 @@ void TestXmppFeatures::unusedFeaturesAreTakenOut()
     QCOMPARE(names, QStringList({ "starttls", "bind", "session", "register" }));
 }
 
-void TestXmppFeatures::theBestAllowedWayIsLeft_data()
+void tst_XmppFeatures::theBestAllowedWayIsLeft_data()
 {
     QTest::addColumn<QByteArrayList>("offered");
     QTest::addColumn<bool>("sendsPasswords");
@@ -85,7 +85,7 @@ void TestXmppFeatures::theBestAllowedWayIsLeft_data()
     QTest::newRow("nothing is offered") << QByteArrayList() << false << QStringList() << true;
 }
 
-void TestXmppFeatures::theBestAllowedWayIsLeft()
+void tst_XmppFeatures::theBestAllowedWayIsLeft()
 {
     QFETCH(QByteArrayList, offered);
     QFETCH(bool, sendsPasswords);
@@ -97,5 +97,5 @@ void TestXmppFeatures::theBestAllowedWayIsLeft()
     QTEST(mechanismsOf(features), "left");
 }
 
-QTEST_APPLESS_MAIN(TestXmppFeatures)
+QTEST_APPLESS_MAIN(tst_XmppFeatures)
 #include "tst_xmpp_features.moc"

@@ -9,7 +9,7 @@
 #include <QtTest>
 
 /// A link that trusts a certificate of its own waits for those of the system.
-class TestXmppLinkCertificates : public QObject {
+class tst_XmppLinkCertificates : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -21,7 +21,7 @@ private:
     QXmppConfiguration configurationFor(const QTcpServer &server) const;
 };
 
-QXmppConfiguration TestXmppLinkCertificates::configurationFor(const QTcpServer &server) const
+QXmppConfiguration tst_XmppLinkCertificates::configurationFor(const QTcpServer &server) const
 {
     QXmppConfiguration configuration;
     configuration.setHost("127.0.0.1");
@@ -31,7 +31,7 @@ QXmppConfiguration TestXmppLinkCertificates::configurationFor(const QTcpServer &
     return configuration;
 }
 
-void TestXmppLinkCertificates::aLinkConnectsWhenTheyWereRead()
+void tst_XmppLinkCertificates::aLinkConnectsWhenTheyWereRead()
 {
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
@@ -40,14 +40,14 @@ void TestXmppLinkCertificates::aLinkConnectsWhenTheyWereRead()
     KIRV_TRY(server.hasPendingConnections());
 }
 
-void TestXmppLinkCertificates::aLinkThatIsAbortedMeanwhileDoesNotConnect_data()
+void tst_XmppLinkCertificates::aLinkThatIsAbortedMeanwhileDoesNotConnect_data()
 {
     QTest::addColumn<bool>("isOrderly");
     QTest::newRow("aborted") << false;
     QTest::newRow("closed") << true;
 }
 
-void TestXmppLinkCertificates::aLinkThatIsAbortedMeanwhileDoesNotConnect()
+void tst_XmppLinkCertificates::aLinkThatIsAbortedMeanwhileDoesNotConnect()
 {
     QFETCH(bool, isOrderly);
     delete &KirvSystemCertificates::instance(); // they are read again
@@ -76,5 +76,5 @@ void TestXmppLinkCertificates::aLinkThatIsAbortedMeanwhileDoesNotConnect()
     QCOMPARE(ends, isOrderly ? 1 : 0);
 }
 
-QTEST_GUILESS_MAIN(TestXmppLinkCertificates)
+QTEST_GUILESS_MAIN(tst_XmppLinkCertificates)
 #include "tst_xmpp_link_certificates.moc"

@@ -4,7 +4,7 @@
 #include <QTest>
 
 /// Which replies count.
-class TestXmppPendingRequests : public QObject {
+class tst_XmppPendingRequests : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -17,7 +17,7 @@ private Q_SLOTS:
     void serverIsKnown();
 };
 
-void TestXmppPendingRequests::repliesCountOnlyFromTheAddressOfTheRequest_data()
+void tst_XmppPendingRequests::repliesCountOnlyFromTheAddressOfTheRequest_data()
 {
     QTest::addColumn<QString>("to");
     QTest::addColumn<QString>("from");
@@ -57,7 +57,7 @@ void TestXmppPendingRequests::repliesCountOnlyFromTheAddressOfTheRequest_data()
     row("international domain", QString::fromUtf8("bücher.example"), "xn--bcher-kva.example", true);
 }
 
-void TestXmppPendingRequests::repliesCountOnlyFromTheAddressOfTheRequest()
+void tst_XmppPendingRequests::repliesCountOnlyFromTheAddressOfTheRequest()
 {
     QFETCH(QString, to);
     QFETCH(QString, from);
@@ -69,7 +69,7 @@ void TestXmppPendingRequests::repliesCountOnlyFromTheAddressOfTheRequest()
     QTEST(requests.isAwaited(id, from), "counts");
 }
 
-void TestXmppPendingRequests::unknownIdsAreNotAwaited()
+void tst_XmppPendingRequests::unknownIdsAreNotAwaited()
 {
     KirvXmppPendingRequests requests;
     requests.setAccount("ann@example.org");
@@ -78,7 +78,7 @@ void TestXmppPendingRequests::unknownIdsAreNotAwaited()
         QVERIFY(!requests.isAwaited(id, "ann@example.org"));
 }
 
-void TestXmppPendingRequests::requestsAreForgottenWhenTaken()
+void tst_XmppPendingRequests::requestsAreForgottenWhenTaken()
 {
     KirvXmppPendingRequests requests;
     requests.setAccount("ann@example.org");
@@ -91,7 +91,7 @@ void TestXmppPendingRequests::requestsAreForgottenWhenTaken()
     QVERIFY(!requests.take(id));
 }
 
-void TestXmppPendingRequests::idsCannotBeGuessed()
+void tst_XmppPendingRequests::idsCannotBeGuessed()
 {
     KirvXmppPendingRequests requests;
     QStringList ids;
@@ -108,7 +108,7 @@ void TestXmppPendingRequests::idsCannotBeGuessed()
     }
 }
 
-void TestXmppPendingRequests::serverIsKnown_data()
+void tst_XmppPendingRequests::serverIsKnown_data()
 {
     QTest::addColumn<QString>("address");
     QTest::addColumn<bool>("isServer");
@@ -122,7 +122,7 @@ void TestXmppPendingRequests::serverIsKnown_data()
     QTest::newRow("another server") << "example.net" << false;
 }
 
-void TestXmppPendingRequests::serverIsKnown()
+void tst_XmppPendingRequests::serverIsKnown()
 {
     QFETCH(QString, address);
     KirvXmppPendingRequests requests;
@@ -130,5 +130,5 @@ void TestXmppPendingRequests::serverIsKnown()
     QTEST(requests.isOwnServer(address), "isServer");
 }
 
-QTEST_APPLESS_MAIN(TestXmppPendingRequests)
+QTEST_APPLESS_MAIN(tst_XmppPendingRequests)
 #include "tst_xmpp_pending_requests.moc"

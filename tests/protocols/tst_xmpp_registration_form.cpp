@@ -84,7 +84,7 @@ QStringList sentValues(const QDomDocument &query, const QString &name)
 } // namespace
 
 /// The form of a server as fields, and what is sent back.
-class TestXmppRegistrationForm : public QObject {
+class tst_XmppRegistrationForm : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -112,7 +112,7 @@ private Q_SLOTS:
     void userNameIsTheFirstPartOfAnAddress();
 };
 
-void TestXmppRegistrationForm::fixedFieldsBecomeRequiredLines()
+void tst_XmppRegistrationForm::fixedFieldsBecomeRequiredLines()
 {
     const KirvXmppRegistrationForm fixed = form(fixedFields);
     QStringList ids;
@@ -129,7 +129,7 @@ void TestXmppRegistrationForm::fixedFieldsBecomeRequiredLines()
     QVERIFY(fixed.hasPassword());
 }
 
-void TestXmppRegistrationForm::fixedFieldsAreSentAsTheyCame()
+void tst_XmppRegistrationForm::fixedFieldsAreSentAsTheyCame()
 {
     const KirvXmppRegistrationForm fixed = form(fixedFields);
     QList<KirvField> fields = filled(fixed.fields(), "username", "romeo@localhost");
@@ -145,7 +145,7 @@ void TestXmppRegistrationForm::fixedFieldsAreSentAsTheyCame()
     QVERIFY(root.firstChildElement("instructions").isNull());
 }
 
-void TestXmppRegistrationForm::everyKindOfFieldIsShown_data()
+void tst_XmppRegistrationForm::everyKindOfFieldIsShown_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<int>("kind");
@@ -178,7 +178,7 @@ void TestXmppRegistrationForm::everyKindOfFieldIsShown_data()
                              << "" << false;
 }
 
-void TestXmppRegistrationForm::everyKindOfFieldIsShown()
+void tst_XmppRegistrationForm::everyKindOfFieldIsShown()
 {
     QFETCH(QString, id);
     const KirvField field = fieldOf(form(dataForm), id);
@@ -194,7 +194,7 @@ void TestXmppRegistrationForm::everyKindOfFieldIsShown()
     }
 }
 
-void TestXmppRegistrationForm::notesHaveNamesOfTheirOwn()
+void tst_XmppRegistrationForm::notesHaveNamesOfTheirOwn()
 {
     QStringList ids;
     QStringList texts;
@@ -208,7 +208,7 @@ void TestXmppRegistrationForm::notesHaveNamesOfTheirOwn()
     QVERIFY(!ids.contains("FORM_TYPE") && !ids.contains("many"));
 }
 
-void TestXmppRegistrationForm::textsAboveTheFieldsAreRead()
+void tst_XmppRegistrationForm::textsAboveTheFieldsAreRead()
 {
     QCOMPARE(form(dataForm).title(), QString("Join <us>"));
     QCOMPARE(form(dataForm).instructions(), QString("First line.\nSecond line."));
@@ -216,7 +216,7 @@ void TestXmppRegistrationForm::textsAboveTheFieldsAreRead()
              QString("Only here."));
 }
 
-void TestXmppRegistrationForm::everyKindOfFieldIsSent_data()
+void tst_XmppRegistrationForm::everyKindOfFieldIsSent_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("typed");
@@ -247,7 +247,7 @@ void TestXmppRegistrationForm::everyKindOfFieldIsSent_data()
                                     << "" << false << "many" << QStringList { "one", "two" };
 }
 
-void TestXmppRegistrationForm::everyKindOfFieldIsSent()
+void tst_XmppRegistrationForm::everyKindOfFieldIsSent()
 {
     QFETCH(QString, id);
     QFETCH(QString, typed);
@@ -258,14 +258,14 @@ void TestXmppRegistrationForm::everyKindOfFieldIsSent()
     QTEST(sentValues(query, name), "values");
 }
 
-void TestXmppRegistrationForm::notesAreNotSent()
+void tst_XmppRegistrationForm::notesAreNotSent()
 {
     const KirvXmppRegistrationForm shown = form(dataForm);
     const QByteArray sent = shown.toQuery(shown.fields()).toByteArray(-1);
     QVERIFY2(!sent.contains("note/") && !sent.contains("About") && !sent.contains("fixed"), sent.constData());
 }
 
-void TestXmppRegistrationForm::theFormIsMarkedAsSubmitted()
+void tst_XmppRegistrationForm::theFormIsMarkedAsSubmitted()
 {
     const KirvXmppRegistrationForm shown = form(dataForm);
     const QDomDocument query = shown.toQuery(shown.fields());
@@ -274,7 +274,7 @@ void TestXmppRegistrationForm::theFormIsMarkedAsSubmitted()
     QCOMPARE(sent.namespaceURI(), QString("jabber:x:data"));
 }
 
-void TestXmppRegistrationForm::severalOptionsBecomeBoxes()
+void tst_XmppRegistrationForm::severalOptionsBecomeBoxes()
 {
     const QByteArray many = "<x xmlns='jabber:x:data'><field type='list-multi' var='a/b' label='Choose'>"
                             "<option><value>1</value></option><option><value>1</value></option></field></x>";
@@ -283,7 +283,7 @@ void TestXmppRegistrationForm::severalOptionsBecomeBoxes()
     QCOMPARE(sentValues(shown.toQuery(filled(shown.fields(), "a/b/1", "", true)), "a/b"), QStringList { "1" });
 }
 
-void TestXmppRegistrationForm::picturesAreFound_data()
+void tst_XmppRegistrationForm::picturesAreFound_data()
 {
     QTest::addColumn<QByteArray>("uris");
     QTest::addColumn<QByteArray>("insideData");
@@ -303,7 +303,7 @@ void TestXmppRegistrationForm::picturesAreFound_data()
                                 << "cid:y@bob";
 }
 
-void TestXmppRegistrationForm::picturesAreFound()
+void tst_XmppRegistrationForm::picturesAreFound()
 {
     QFETCH(QByteArray, uris);
     QFETCH(QByteArray, insideData);
@@ -318,7 +318,7 @@ void TestXmppRegistrationForm::picturesAreFound()
     QTEST(shown.pictures().first().address, "address");
 }
 
-void TestXmppRegistrationForm::theAddressOfAPageIsRead()
+void tst_XmppRegistrationForm::theAddressOfAPageIsRead()
 {
     const KirvXmppRegistrationForm shown = form("<instructions>Go there.</instructions><x "
                                                 "xmlns='jabber:x:oob'><url>https://example.org/&lt;join&gt;</url></x>");
@@ -327,7 +327,7 @@ void TestXmppRegistrationForm::theAddressOfAPageIsRead()
     QVERIFY(!shown.hasPassword());
 }
 
-void TestXmppRegistrationForm::aReplyWithoutAFormHasNoFields()
+void tst_XmppRegistrationForm::aReplyWithoutAFormHasNoFields()
 {
     QVERIFY(KirvXmppRegistrationForm(QDomElement()).fields().isEmpty());
     QVERIFY(form("").fields().isEmpty());
@@ -336,7 +336,7 @@ void TestXmppRegistrationForm::aReplyWithoutAFormHasNoFields()
     QVERIFY(KirvXmppRegistrationForm(other.documentElement()).fields().isEmpty());
 }
 
-void TestXmppRegistrationForm::whatWasTypedIsKept()
+void tst_XmppRegistrationForm::whatWasTypedIsKept()
 {
     const KirvXmppRegistrationForm shown = form(dataForm);
     QList<KirvField> typed = filled(form(fixedFields).fields(), "username", "romeo");
@@ -352,7 +352,7 @@ void TestXmppRegistrationForm::whatWasTypedIsKept()
     }
 }
 
-void TestXmppRegistrationForm::onlyWhatWasTypedIsKept()
+void tst_XmppRegistrationForm::onlyWhatWasTypedIsKept()
 {
     const QByteArray start = "<x xmlns='jabber:x:data'><field var='one'><value>";
     const QByteArray end = "</value></field><field var='ocr'><media xmlns='urn:xmpp:media-element'/></field></x>";
@@ -367,7 +367,7 @@ void TestXmppRegistrationForm::onlyWhatWasTypedIsKept()
     QCOMPARE(textOf(filled(before, "ocr", "what was in the old picture"), 1), QString());
 }
 
-void TestXmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce_data()
+void tst_XmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce_data()
 {
     QTest::addColumn<QByteArray>("query");
     QTest::addColumn<bool>("once");
@@ -382,13 +382,13 @@ void TestXmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce_data()
     QTest::newRow("picture") << dataForm("<field var='ocr'><media xmlns='urn:xmpp:media-element'/></field>") << true;
 }
 
-void TestXmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce()
+void tst_XmppRegistrationForm::whatTheServerKnowsOnceIsSentOnce()
 {
     QFETCH(QByteArray, query);
     QTEST(form(query).isSingleUse(), "once");
 }
 
-void TestXmppRegistrationForm::whatIsMissingIsReported_data()
+void tst_XmppRegistrationForm::whatIsMissingIsReported_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("typed");
@@ -406,7 +406,7 @@ void TestXmppRegistrationForm::whatIsMissingIsReported_data()
     QTest::newRow("broken pair") << "untyped" << QString(QChar(0xdc00)) << "untyped";
 }
 
-void TestXmppRegistrationForm::whatIsMissingIsReported()
+void tst_XmppRegistrationForm::whatIsMissingIsReported()
 {
     QFETCH(QString, id);
     QFETCH(QString, typed);
@@ -419,7 +419,7 @@ void TestXmppRegistrationForm::whatIsMissingIsReported()
     QVERIFY2(problem.contains(part), qPrintable(problem));
 }
 
-void TestXmppRegistrationForm::userNameIsTheFirstPartOfAnAddress()
+void tst_XmppRegistrationForm::userNameIsTheFirstPartOfAnAddress()
 {
     QList<KirvField> fields = filled(form(fixedFields).fields(), "username", " romeo@localhost");
     fields = filled(fields, "password", "a@b");
@@ -428,5 +428,5 @@ void TestXmppRegistrationForm::userNameIsTheFirstPartOfAnAddress()
     QCOMPARE(KirvXmppRegistrationForm::userName({}), QString());
 }
 
-QTEST_GUILESS_MAIN(TestXmppRegistrationForm)
+QTEST_GUILESS_MAIN(tst_XmppRegistrationForm)
 #include "tst_xmpp_registration_form.moc"

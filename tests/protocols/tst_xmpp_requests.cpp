@@ -102,7 +102,7 @@ private:
 } // namespace
 
 /// The requests of XMPP to a server, over a link that a test replies on.
-class TestXmppRequests : public QObject {
+class tst_XmppRequests : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -175,7 +175,7 @@ private:
     std::unique_ptr<Listener> listener;
 };
 
-void TestXmppRequests::init()
+void tst_XmppRequests::init()
 {
     qRegisterMetaType<KirvConnection::State>("KirvConnection::State");
     server = FakeXmppServer();
@@ -183,14 +183,14 @@ void TestXmppRequests::init()
     logIn();
 }
 
-void TestXmppRequests::cleanup()
+void tst_XmppRequests::cleanup()
 {
     listener.reset();
     request.reset();
     connection.reset();
 }
 
-void TestXmppRequests::logIn()
+void tst_XmppRequests::logIn()
 {
     connection->logIn(login, KirvPresence("available", "Available", QString(), QString()));
     server.link()->arrive();
@@ -200,7 +200,7 @@ void TestXmppRequests::logIn()
     QVERIFY(!server.isAwaited());
 }
 
-void TestXmppRequests::createRegistration()
+void tst_XmppRequests::createRegistration()
 {
     request = std::make_unique<KirvXmppRegistrationRequest>(clock, nullptr, server.factory());
     listener = std::make_unique<Listener>(*request);
@@ -209,7 +209,7 @@ void TestXmppRequests::createRegistration()
 }
 
 /// The server shows a certificate that is not trusted.
-void TestXmppRequests::refuseCertificate(const QByteArray &fingerprint)
+void tst_XmppRequests::refuseCertificate(const QByteArray &fingerprint)
 {
     KirvServerCertificate certificate;
     certificate.fingerprint = fingerprint;
@@ -220,7 +220,7 @@ void TestXmppRequests::refuseCertificate(const QByteArray &fingerprint)
 }
 
 /// Goes to the second step, with these \a fields in the form of the server.
-void TestXmppRequests::receiveForm(const QByteArray &fields)
+void tst_XmppRequests::receiveForm(const QByteArray &fields)
 {
     request->submit(filled(listener->step.fields, "domain", "example.org"));
     server.link()->arrive();
@@ -228,7 +228,7 @@ void TestXmppRequests::receiveForm(const QByteArray &fields)
     QCOMPARE(listener->take(), QStringList({ "waiting", "step" }));
 }
 
-void TestXmppRequests::theResourceStaysForTheConnection()
+void tst_XmppRequests::theResourceStaysForTheConnection()
 {
     const QString resource = server.link()->configuration.resource();
     QVERIFY(!resource.isEmpty() && resource != KirvXmppSettings().resource);
@@ -240,7 +240,7 @@ void TestXmppRequests::theResourceStaysForTheConnection()
     QVERIFY(server.link()->configuration.resource() != resource);
 }
 
-void TestXmppRequests::theProtocolOffersThem()
+void tst_XmppRequests::theProtocolOffersThem()
 {
     KirvXmppProtocol protocol;
     QVERIFY(protocol.offersRegistration());
@@ -254,7 +254,7 @@ void TestXmppRequests::theProtocolOffersThem()
     }
 }
 
-void TestXmppRequests::actionsNeedAConnectionOfTheProtocol()
+void tst_XmppRequests::actionsNeedAConnectionOfTheProtocol()
 {
     KirvXmppProtocol protocol;
     QVERIFY(!protocol.createAccountRequest("no such action", connection.get()));
@@ -262,7 +262,7 @@ void TestXmppRequests::actionsNeedAConnectionOfTheProtocol()
         QVERIFY(!protocol.createAccountRequest(action.id, nullptr));
 }
 
-void TestXmppRequests::aNewPasswordIsEnteredTwice()
+void tst_XmppRequests::aNewPasswordIsEnteredTwice()
 {
     KirvXmppPasswordRequest password(connection.get());
     Listener heard(password);
@@ -275,7 +275,7 @@ void TestXmppRequests::aNewPasswordIsEnteredTwice()
     QVERIFY(!heard.step.command.isEmpty() && !heard.step.isDangerous && !heard.step.hasPassword);
 }
 
-void TestXmppRequests::aPasswordThatCannotBeSentIsRejected_data()
+void tst_XmppRequests::aPasswordThatCannotBeSentIsRejected_data()
 {
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
@@ -288,7 +288,7 @@ void TestXmppRequests::aPasswordThatCannotBeSentIsRejected_data()
     QTest::newRow("control character") << QString("a") + QChar(1) << QString("a") + QChar(1);
 }
 
-void TestXmppRequests::aPasswordThatCannotBeSentIsRejected()
+void tst_XmppRequests::aPasswordThatCannotBeSentIsRejected()
 {
     QFETCH(QString, first);
     QFETCH(QString, second);
@@ -302,7 +302,7 @@ void TestXmppRequests::aPasswordThatCannotBeSentIsRejected()
     QVERIFY(password.cancel());
 }
 
-void TestXmppRequests::thePasswordIsChangedWithoutReconnecting()
+void tst_XmppRequests::thePasswordIsChangedWithoutReconnecting()
 {
     KirvXmppPasswordRequest password(connection.get());
     Listener heard(password);
@@ -326,7 +326,7 @@ void TestXmppRequests::thePasswordIsChangedWithoutReconnecting()
     QCOMPARE(server.links, 1);
 }
 
-void TestXmppRequests::aRefusedPasswordCanBeSentAgain()
+void tst_XmppRequests::aRefusedPasswordCanBeSentAgain()
 {
     KirvXmppPasswordRequest password(connection.get());
     Listener heard(password);
@@ -342,7 +342,7 @@ void TestXmppRequests::aRefusedPasswordCanBeSentAgain()
     QCOMPARE(heard.take(), QStringList({ "waiting", "succeeded" }));
 }
 
-void TestXmppRequests::whatWasSentCannotBeCancelled()
+void tst_XmppRequests::whatWasSentCannotBeCancelled()
 {
     KirvXmppPasswordRequest password(connection.get());
     Listener heard(password);
@@ -355,7 +355,7 @@ void TestXmppRequests::whatWasSentCannotBeCancelled()
     QVERIFY(password.cancel());
 }
 
-void TestXmppRequests::theEndOfTheConnectionFailsTheRequest_data()
+void tst_XmppRequests::theEndOfTheConnectionFailsTheRequest_data()
 {
     QTest::addColumn<QString>("end");
     QTest::addColumn<bool>("isDeletion");
@@ -365,7 +365,7 @@ void TestXmppRequests::theEndOfTheConnectionFailsTheRequest_data()
     }
 }
 
-void TestXmppRequests::theEndOfTheConnectionFailsTheRequest()
+void tst_XmppRequests::theEndOfTheConnectionFailsTheRequest()
 {
     QFETCH(QString, end);
     QFETCH(bool, isDeletion);
@@ -400,7 +400,7 @@ void TestXmppRequests::theEndOfTheConnectionFailsTheRequest()
     QCOMPARE(heard.take(), QStringList({ "waiting", "failed" }));
 }
 
-void TestXmppRequests::aReplyAfterTheFailureIsIgnored()
+void tst_XmppRequests::aReplyAfterTheFailureIsIgnored()
 {
     KirvXmppPasswordRequest password(connection.get());
     Listener heard(password);
@@ -413,14 +413,14 @@ void TestXmppRequests::aReplyAfterTheFailureIsIgnored()
     QCOMPARE(heard.take(), QStringList({ "step", "waiting", "failed" }));
 }
 
-void TestXmppRequests::theRequestCanGoFirst_data()
+void tst_XmppRequests::theRequestCanGoFirst_data()
 {
     QTest::addColumn<QString>("moment");
     for (const char *moment : { "before the reply", "in succeeded", "in failed", "in waiting" })
         QTest::newRow(moment) << moment;
 }
 
-void TestXmppRequests::theRequestCanGoFirst()
+void tst_XmppRequests::theRequestCanGoFirst()
 {
     QFETCH(QString, moment);
     request = std::make_unique<KirvXmppPasswordRequest>(connection.get());
@@ -447,7 +447,7 @@ void TestXmppRequests::theRequestCanGoFirst()
     QCoreApplication::processEvents();
 }
 
-void TestXmppRequests::deletionIsConfirmedTwice()
+void tst_XmppRequests::deletionIsConfirmedTwice()
 {
     KirvXmppDeletionRequest deletion(connection.get());
     Listener heard(deletion);
@@ -463,7 +463,7 @@ void TestXmppRequests::deletionIsConfirmedTwice()
     QVERIFY(first.text != heard.step.text && first.command != heard.step.command);
 }
 
-void TestXmppRequests::theAccountIsDeletedAndTheConnectionEnds()
+void tst_XmppRequests::theAccountIsDeletedAndTheConnectionEnds()
 {
     KirvXmppDeletionRequest deletion(connection.get());
     Listener heard(deletion);
@@ -481,7 +481,7 @@ void TestXmppRequests::theAccountIsDeletedAndTheConnectionEnds()
     QCOMPARE(failed.size(), 0);
 }
 
-void TestXmppRequests::aRefusedDeletionKeepsTheConnection()
+void tst_XmppRequests::aRefusedDeletionKeepsTheConnection()
 {
     KirvXmppDeletionRequest deletion(connection.get());
     Listener heard(deletion);
@@ -495,7 +495,7 @@ void TestXmppRequests::aRefusedDeletionKeepsTheConnection()
     QCOMPARE(heard.take(), QStringList { "waiting" });
 }
 
-void TestXmppRequests::registrationStartsWithTheServer()
+void tst_XmppRequests::registrationStartsWithTheServer()
 {
     createRegistration();
     const Step &step = listener->step;
@@ -512,7 +512,7 @@ void TestXmppRequests::registrationStartsWithTheServer()
     QCOMPARE(valueOf(request->fieldsOf(step.configurations.at(0), step.fields), "domain"), QString());
 }
 
-void TestXmppRequests::aServerIsNeeded_data()
+void tst_XmppRequests::aServerIsNeeded_data()
 {
     QTest::addColumn<QString>("domain");
     QTest::newRow("empty") << "";
@@ -521,7 +521,7 @@ void TestXmppRequests::aServerIsNeeded_data()
     QTest::newRow("control character") << QString("a") + QChar(2);
 }
 
-void TestXmppRequests::aServerIsNeeded()
+void tst_XmppRequests::aServerIsNeeded()
 {
     QFETCH(QString, domain);
     createRegistration();
@@ -530,7 +530,7 @@ void TestXmppRequests::aServerIsNeeded()
     QCOMPARE(server.links, 1); // that of the connection
 }
 
-void TestXmppRequests::theFormFollowsTheServer()
+void tst_XmppRequests::theFormFollowsTheServer()
 {
     createRegistration();
     request->submit(filled(filled(listener->step.fields, "domain", "romeo@example.org"), "port", "5223"));
@@ -551,7 +551,7 @@ void TestXmppRequests::theFormFollowsTheServer()
     QVERIFY(step.canGoBack && step.hasPassword && step.notice.isEmpty() && step.configurations.isEmpty());
 }
 
-void TestXmppRequests::theNewAccountIsTheResult()
+void tst_XmppRequests::theNewAccountIsTheResult()
 {
     createRegistration();
     request->submit(filled(filled(listener->step.fields, "domain", "example.org"), "encryption", "offered"));
@@ -574,7 +574,7 @@ void TestXmppRequests::theNewAccountIsTheResult()
     QCOMPARE(valueOf(listener->result.account.settings, "encryption"), QString("offered"));
 }
 
-void TestXmppRequests::anUntrustedCertificateIsAskedAbout()
+void tst_XmppRequests::anUntrustedCertificateIsAskedAbout()
 {
     createRegistration();
     request->submit(filled(listener->step.fields, "domain", "example.org"));
@@ -605,7 +605,7 @@ void TestXmppRequests::anUntrustedCertificateIsAskedAbout()
     QCOMPARE(listener->result.account.trustedCertificate, QByteArray("first"));
 }
 
-void TestXmppRequests::theCertificateOfAnotherServerIsAskedAboutAgain()
+void tst_XmppRequests::theCertificateOfAnotherServerIsAskedAboutAgain()
 {
     createRegistration();
     const QList<KirvField> fields = filled(listener->step.fields, "domain", "example.org");
@@ -628,7 +628,7 @@ void TestXmppRequests::theCertificateOfAnotherServerIsAskedAboutAgain()
     QCOMPARE(listener->take(), QStringList({ "step", "waiting", "failed" }));
 }
 
-void TestXmppRequests::aFormWithoutAUserNameHasNoAccount()
+void tst_XmppRequests::aFormWithoutAUserNameHasNoAccount()
 {
     createRegistration();
     receiveForm("<email/>");
@@ -639,7 +639,7 @@ void TestXmppRequests::aFormWithoutAUserNameHasNoAccount()
     QCOMPARE(listener->result.account.id, QString());
 }
 
-void TestXmppRequests::goingBackKeepsBothSteps()
+void tst_XmppRequests::goingBackKeepsBothSteps()
 {
     createRegistration();
     receiveForm("<username/><password/>");
@@ -657,7 +657,7 @@ void TestXmppRequests::goingBackKeepsBothSteps()
     QCOMPARE(listener->take(), QStringList { "step" });
 }
 
-void TestXmppRequests::aTakenNameIsReported()
+void tst_XmppRequests::aTakenNameIsReported()
 {
     createRegistration();
     receiveForm("<username/><password/>");
@@ -674,7 +674,7 @@ void TestXmppRequests::aTakenNameIsReported()
     QCOMPARE(listener->result.account.id, QString("juliet2@example.org"));
 }
 
-void TestXmppRequests::aWrongAnswerToAPictureGetsANewOne()
+void tst_XmppRequests::aWrongAnswerToAPictureGetsANewOne()
 {
     createRegistration();
     receiveForm(pictureForm("first"));
@@ -701,7 +701,7 @@ void TestXmppRequests::aWrongAnswerToAPictureGetsANewOne()
     QCOMPARE(server.links, 2);
 }
 
-void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain_data()
+void tst_XmppRequests::aFormThatWasRefusedIsNotSentAgain_data()
 {
     QTest::addColumn<QString>("instead");
     QTest::newRow("no new form") << "refuses";
@@ -709,7 +709,7 @@ void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain_data()
     QTest::newRow("cancelled") << "cancelled";
 }
 
-void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain()
+void tst_XmppRequests::aFormThatWasRefusedIsNotSentAgain()
 {
     QFETCH(QString, instead);
     createRegistration();
@@ -736,7 +736,7 @@ void TestXmppRequests::aFormThatWasRefusedIsNotSentAgain()
     QVERIFY(!server.isAwaited());
 }
 
-void TestXmppRequests::hiddenFieldsAreThoseOfTheLatestForm()
+void tst_XmppRequests::hiddenFieldsAreThoseOfTheLatestForm()
 {
     createRegistration();
     receiveForm("<username/><password/><key>first</key>");
@@ -757,7 +757,7 @@ void TestXmppRequests::hiddenFieldsAreThoseOfTheLatestForm()
     QCOMPARE(textAt(server.payload(), "key"), QString("third"));
 }
 
-void TestXmppRequests::anotherFormKeepsWhatWasTyped()
+void tst_XmppRequests::anotherFormKeepsWhatWasTyped()
 {
     createRegistration();
     receiveForm("<username/><password/>");
@@ -772,7 +772,7 @@ void TestXmppRequests::anotherFormKeepsWhatWasTyped()
     QCOMPARE(valueOf(listener->step.fields, "email"), QString());
 }
 
-void TestXmppRequests::aFormWithoutFieldsCannotBeSent()
+void tst_XmppRequests::aFormWithoutFieldsCannotBeSent()
 {
     createRegistration();
     receiveForm("<instructions>Go there.</instructions><x xmlns='jabber:x:oob'><url>https://a/</url></x>");
@@ -780,14 +780,14 @@ void TestXmppRequests::aFormWithoutFieldsCannotBeSent()
     QVERIFY(listener->step.notice.contains("from within a client"));
 }
 
-void TestXmppRequests::registrationThatIsNotOfferedIsReported_data()
+void tst_XmppRequests::registrationThatIsNotOfferedIsReported_data()
 {
     QTest::addColumn<bool>("ends");
     QTest::newRow("refused") << false;
     QTest::newRow("stream closed") << true;
 }
 
-void TestXmppRequests::registrationThatIsNotOfferedIsReported()
+void tst_XmppRequests::registrationThatIsNotOfferedIsReported()
 {
     QFETCH(bool, ends);
     createRegistration();
@@ -801,7 +801,7 @@ void TestXmppRequests::registrationThatIsNotOfferedIsReported()
     QCOMPARE(listener->failure.kind(), KirvFailure::NotSupported);
 }
 
-void TestXmppRequests::aSilentServerTimesOut()
+void tst_XmppRequests::aSilentServerTimesOut()
 {
     createRegistration();
     request->setProperty("timeout", 5000);
@@ -816,7 +816,7 @@ void TestXmppRequests::aSilentServerTimesOut()
     QVERIFY(listener->take().isEmpty());
 }
 
-void TestXmppRequests::aStreamThatEndedMeanwhileIsOpenedAgain()
+void tst_XmppRequests::aStreamThatEndedMeanwhileIsOpenedAgain()
 {
     createRegistration();
     receiveForm("<username/><password/>");
@@ -831,7 +831,7 @@ void TestXmppRequests::aStreamThatEndedMeanwhileIsOpenedAgain()
     QCOMPARE(listener->take(), QStringList({ "waiting", "succeeded" }));
 }
 
-void TestXmppRequests::aStreamThatEndsWhileSendingFails()
+void tst_XmppRequests::aStreamThatEndsWhileSendingFails()
 {
     createRegistration();
     receiveForm("<username/><password/>");
@@ -845,7 +845,7 @@ void TestXmppRequests::aStreamThatEndsWhileSendingFails()
     QCOMPARE(server.links, 3);
 }
 
-void TestXmppRequests::badSettingsAreReported()
+void tst_XmppRequests::badSettingsAreReported()
 {
     createRegistration();
     request->submit(filled(filled(listener->step.fields, "domain", "example.org"), "certificate", "/no/such/file"));
@@ -854,7 +854,7 @@ void TestXmppRequests::badSettingsAreReported()
     QCOMPARE(server.links, 1);
 }
 
-void TestXmppRequests::registrationCanBeCancelled()
+void tst_XmppRequests::registrationCanBeCancelled()
 {
     createRegistration();
     request->submit(filled(listener->step.fields, "domain", "example.org"));
@@ -866,14 +866,14 @@ void TestXmppRequests::registrationCanBeCancelled()
     receiveForm("<username/><password/>"); // the step can be submitted again
 }
 
-void TestXmppRequests::registrationCanGoInAnySlot_data()
+void tst_XmppRequests::registrationCanGoInAnySlot_data()
 {
     QTest::addColumn<QString>("moment");
     for (const char *moment : { "in stepReady", "in waiting", "in failed", "in inputRejected", "in succeeded" })
         QTest::newRow(moment) << moment;
 }
 
-void TestXmppRequests::registrationCanGoInAnySlot()
+void tst_XmppRequests::registrationCanGoInAnySlot()
 {
     QFETCH(QString, moment);
     createRegistration();
@@ -905,7 +905,7 @@ void TestXmppRequests::registrationCanGoInAnySlot()
     QCoreApplication::processEvents();
 }
 
-void TestXmppRequests::onlyTheChangesArePublishedOverAFreshEntry()
+void tst_XmppRequests::onlyTheChangesArePublishedOverAFreshEntry()
 {
     QSignalSpy answered(connection.get(), &KirvConnection::directoryAnswered);
     const int number = connection->publishDirectory({ KirvField::textEdit("", "telephone", "789", "") });
@@ -925,7 +925,7 @@ void TestXmppRequests::onlyTheChangesArePublishedOverAFreshEntry()
     QCOMPARE(valueOf(answer.fields, "fullname"), QString("New since then"));
 }
 
-void TestXmppRequests::directoryRequestsAreDoneOneAfterTheOther()
+void tst_XmppRequests::directoryRequestsAreDoneOneAfterTheOther()
 {
     QSignalSpy answered(connection.get(), &KirvConnection::directoryAnswered);
     const int publication = connection->publishDirectory({ KirvField::textEdit("", "nickname", "romeo", "") });
@@ -947,7 +947,7 @@ void TestXmppRequests::directoryRequestsAreDoneOneAfterTheOther()
     }
 }
 
-void TestXmppRequests::directoryErrorsAreReported()
+void tst_XmppRequests::directoryErrorsAreReported()
 {
     QSignalSpy answered(connection.get(), &KirvConnection::directoryAnswered);
     connection->publishDirectory({ KirvField::textEdit("", "nickname", "romeo", "") });
@@ -963,7 +963,7 @@ void TestXmppRequests::directoryErrorsAreReported()
         QCOMPARE(int(arguments.first().value<KirvDirectoryAnswer>().outcome), int(KirvDirectoryAnswer::Failed));
 }
 
-void TestXmppRequests::theAvatarIsPublished()
+void tst_XmppRequests::theAvatarIsPublished()
 {
     QTemporaryDir folder;
     QImage image(20, 20, QImage::Format_RGB32);
@@ -995,7 +995,7 @@ void TestXmppRequests::theAvatarIsPublished()
     QCOMPARE(failed.size(), 1);
 }
 
-void TestXmppRequests::thePictureOfAnotherClientIsReported()
+void tst_XmppRequests::thePictureOfAnotherClientIsReported()
 {
     QSignalSpy received(connection.get(), &KirvConnection::avatarReceived);
     QSignalSpy failed(connection.get(), &KirvConnection::failed);
@@ -1021,5 +1021,5 @@ void TestXmppRequests::thePictureOfAnotherClientIsReported()
     QCOMPARE(failed.size(), 0);
 }
 
-QTEST_MAIN(TestXmppRequests)
+QTEST_MAIN(tst_XmppRequests)
 #include "tst_xmpp_requests.moc"

@@ -29,7 +29,7 @@ KirvXmppServiceRecord record(const QString &host, int port, int priority = 0, in
 } // namespace
 
 /// The way to a server, with service records, servers and ports that a test scripts.
-class TestXmppRoute : public QObject {
+class tst_XmppRoute : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -106,7 +106,7 @@ private:
     std::unique_ptr<QSignalSpy> ended;
 };
 
-void TestXmppRoute::init()
+void tst_XmppRoute::init()
 {
     qRegisterMetaType<KirvFailure>("KirvFailure");
     server = FakeXmppServer();
@@ -135,13 +135,13 @@ void TestXmppRoute::init()
     ended = std::make_unique<QSignalSpy>(route.get(), &KirvXmppLink::ended);
 }
 
-void TestXmppRoute::cleanup()
+void tst_XmppRoute::cleanup()
 {
     ended.reset();
     route.reset();
 }
 
-void TestXmppRoute::open(Security security, const QString &host, const QNetworkProxy &proxy)
+void tst_XmppRoute::open(Security security, const QString &host, const QNetworkProxy &proxy)
 {
     QXmppConfiguration configuration;
     configuration.setDomain("example.org");
@@ -152,7 +152,7 @@ void TestXmppRoute::open(Security security, const QString &host, const QNetworkP
     route->open(configuration, QXmppPresence());
 }
 
-void TestXmppRoute::recordsAreTriedInTheirOrder_data()
+void tst_XmppRoute::recordsAreTriedInTheirOrder_data()
 {
     QTest::addColumn<Records>("ordinary");
     QTest::addColumn<Records>("direct");
@@ -175,7 +175,7 @@ void TestXmppRoute::recordsAreTriedInTheirOrder_data()
                                                << Records() << false << QList<KirvXmppTarget> { a };
 }
 
-void TestXmppRoute::recordsAreTriedInTheirOrder()
+void tst_XmppRoute::recordsAreTriedInTheirOrder()
 {
     QFETCH(Records, ordinary);
     QFETCH(Records, direct);
@@ -184,7 +184,7 @@ void TestXmppRoute::recordsAreTriedInTheirOrder()
     QCOMPARE(kirvXmppTargets(ordinary, direct, [=](int largest) { return isHighest ? largest : 0; }), targets);
 }
 
-void TestXmppRoute::serviceNamesAreThoseOfTheDomain()
+void tst_XmppRoute::serviceNamesAreThoseOfTheDomain()
 {
     QCOMPARE(kirvXmppServiceName("example.org", false), ordinaryName);
     QCOMPARE(kirvXmppServiceName("example.org", true), directName);
@@ -196,7 +196,7 @@ void TestXmppRoute::serviceNamesAreThoseOfTheDomain()
     QVERIFY(kirvXmppTargets(many, many, [](int) { return 0; }).size() <= 40);
 }
 
-void TestXmppRoute::aServerThatIsGivenIsNotLookedUp()
+void tst_XmppRoute::aServerThatIsGivenIsNotLookedUp()
 {
     open(QXmppConfiguration::TLSRequired, "127.0.0.1");
     QVERIFY(lookUps.isEmpty());
@@ -206,7 +206,7 @@ void TestXmppRoute::aServerThatIsGivenIsNotLookedUp()
     QCOMPARE(server.links, 1);
 }
 
-void TestXmppRoute::theServicesFollowTheEncryption_data()
+void tst_XmppRoute::theServicesFollowTheEncryption_data()
 {
     QTest::addColumn<Security>("security");
     QTest::addColumn<QStringList>("names");
@@ -219,7 +219,7 @@ void TestXmppRoute::theServicesFollowTheEncryption_data()
     QTest::newRow("direct") << QXmppConfiguration::LegacySSL << QStringList { directName } << "example.org:5223 direct";
 }
 
-void TestXmppRoute::theServicesFollowTheEncryption()
+void tst_XmppRoute::theServicesFollowTheEncryption()
 {
     QFETCH(Security, security);
     QFETCH(QStringList, names);
@@ -234,7 +234,7 @@ void TestXmppRoute::theServicesFollowTheEncryption()
     QCOMPARE(server.link()->configuration.streamSecurityMode(), security);
 }
 
-void TestXmppRoute::theNextServerIsTriedWhenOneCannotBeReached_data()
+void tst_XmppRoute::theNextServerIsTriedWhenOneCannotBeReached_data()
 {
     QTest::addColumn<KirvFailure::Kind>("kind");
     QTest::newRow("not found") << KirvFailure::HostNotFound;
@@ -242,7 +242,7 @@ void TestXmppRoute::theNextServerIsTriedWhenOneCannotBeReached_data()
     QTest::newRow("lost at once") << KirvFailure::ConnectionLost;
 }
 
-void TestXmppRoute::theNextServerIsTriedWhenOneCannotBeReached()
+void tst_XmppRoute::theNextServerIsTriedWhenOneCannotBeReached()
 {
     QFETCH(KirvFailure::Kind, kind);
     open();
@@ -266,7 +266,7 @@ void TestXmppRoute::theNextServerIsTriedWhenOneCannotBeReached()
     QCOMPARE(ending().kind(), kind);
 }
 
-void TestXmppRoute::aServerThatRefusesEndsTheSearch()
+void tst_XmppRoute::aServerThatRefusesEndsTheSearch()
 {
     open();
     answer(directName, Records());
@@ -277,7 +277,7 @@ void TestXmppRoute::aServerThatRefusesEndsTheSearch()
     QCOMPARE(server.links, 1);
 }
 
-void TestXmppRoute::aSilentLookUpDoesNotHoldTheLogIn()
+void tst_XmppRoute::aSilentLookUpDoesNotHoldTheLogIn()
 {
     open();
     answer(directName, Records { record("one", 443) });
@@ -290,7 +290,7 @@ void TestXmppRoute::aSilentLookUpDoesNotHoldTheLogIn()
     QCOMPARE(server.links, 1);
 }
 
-void TestXmppRoute::aSilentServerIsLeftForTheNext()
+void tst_XmppRoute::aSilentServerIsLeftForTheNext()
 {
     open();
     answer(directName, Records());
@@ -303,7 +303,7 @@ void TestXmppRoute::aSilentServerIsLeftForTheNext()
     QCOMPARE(ended->size(), 0);
 }
 
-void TestXmppRoute::aServerThatIsLeftIsAFailedStep_data()
+void tst_XmppRoute::aServerThatIsLeftIsAFailedStep_data()
 {
     QTest::addColumn<int>("why");
     QTest::newRow("it cannot be reached") << 0;
@@ -311,7 +311,7 @@ void TestXmppRoute::aServerThatIsLeftIsAFailedStep_data()
     QTest::newRow("it hangs up") << 2;
 }
 
-void TestXmppRoute::aServerThatIsLeftIsAFailedStep()
+void tst_XmppRoute::aServerThatIsLeftIsAFailedStep()
 {
     QFETCH(int, why);
     QList<KirvLoginStep> steps;
@@ -339,7 +339,7 @@ void TestXmppRoute::aServerThatIsLeftIsAFailedStep()
     QVERIFY(ended->isEmpty());
 }
 
-void TestXmppRoute::theLastServerMayTakeItsTime()
+void tst_XmppRoute::theLastServerMayTakeItsTime()
 {
     open(QXmppConfiguration::TLSRequired, "one");
     clock.advance(KirvXmppRoute::silence);
@@ -352,7 +352,7 @@ void TestXmppRoute::theLastServerMayTakeItsTime()
     QCOMPARE(ended->size(), 0);
 }
 
-void TestXmppRoute::aReferenceIsFollowed_data()
+void tst_XmppRoute::aReferenceIsFollowed_data()
 {
     QTest::addColumn<Security>("security");
     QTest::addColumn<int>("port");
@@ -362,7 +362,7 @@ void TestXmppRoute::aReferenceIsFollowed_data()
     QTest::newRow("direct") << QXmppConfiguration::LegacySSL << 0 << "other:5223 direct";
 }
 
-void TestXmppRoute::aReferenceIsFollowed()
+void tst_XmppRoute::aReferenceIsFollowed()
 {
     QFETCH(Security, security);
     QFETCH(int, port);
@@ -376,7 +376,7 @@ void TestXmppRoute::aReferenceIsFollowed()
     QVERIFY(route->isReady());
 }
 
-void TestXmppRoute::referencesWithoutEndAreNotFollowed()
+void tst_XmppRoute::referencesWithoutEndAreNotFollowed()
 {
     open(QXmppConfiguration::TLSRequired, "one");
     for (int i = 0; i < 100 && ended->isEmpty(); ++i)
@@ -386,7 +386,7 @@ void TestXmppRoute::referencesWithoutEndAreNotFollowed()
     QCOMPARE(ending().kind(), KirvFailure::ServiceUnavailable);
 }
 
-void TestXmppRoute::aReferenceNeverWeakensSecurity_data()
+void tst_XmppRoute::aReferenceNeverWeakensSecurity_data()
 {
     QTest::addColumn<Security>("before");
     QTest::addColumn<bool>("wasEncrypted");
@@ -398,7 +398,7 @@ void TestXmppRoute::aReferenceNeverWeakensSecurity_data()
     QTest::newRow("none") << QXmppConfiguration::TLSDisabled << false << QXmppConfiguration::TLSDisabled;
 }
 
-void TestXmppRoute::aReferenceNeverWeakensSecurity()
+void tst_XmppRoute::aReferenceNeverWeakensSecurity()
 {
     QFETCH(Security, before);
     QFETCH(bool, wasEncrypted);
@@ -410,7 +410,7 @@ void TestXmppRoute::aReferenceNeverWeakensSecurity()
     QTEST(server.link()->configuration.streamSecurityMode(), "after");
 }
 
-void TestXmppRoute::privateNetworksAreReachedFromWithinOnly_data()
+void tst_XmppRoute::privateNetworksAreReachedFromWithinOnly_data()
 {
     QTest::addColumn<QString>("host");
     QTest::addColumn<bool>("isLocal"); // the server that refers
@@ -427,7 +427,7 @@ void TestXmppRoute::privateNetworksAreReachedFromWithinOnly_data()
     }
 }
 
-void TestXmppRoute::privateNetworksAreReachedFromWithinOnly()
+void tst_XmppRoute::privateNetworksAreReachedFromWithinOnly()
 {
     QFETCH(QString, host);
     QFETCH(bool, isLocal);
@@ -445,7 +445,7 @@ void TestXmppRoute::privateNetworksAreReachedFromWithinOnly()
 }
 
 /// To find out how its port starts would be to connect to it again.
-void TestXmppRoute::aRefusedLocalServerIsNotLookedAt()
+void tst_XmppRoute::aRefusedLocalServerIsNotLookedAt()
 {
     open(QXmppConfiguration::TLSRequired, "one");
     Q_EMIT server.link()->redirected("other.example", 5222, true);
@@ -454,7 +454,7 @@ void TestXmppRoute::aRefusedLocalServerIsNotLookedAt()
     QVERIFY(probes.isEmpty());
 }
 
-void TestXmppRoute::aReferenceOfASessionEndsIt()
+void tst_XmppRoute::aReferenceOfASessionEndsIt()
 {
     open(QXmppConfiguration::TLSRequired, "one");
     server.link()->arrive();
@@ -463,7 +463,7 @@ void TestXmppRoute::aReferenceOfASessionEndsIt()
     QCOMPARE(server.links, 1);
 }
 
-void TestXmppRoute::theOtherStartIsNamed_data()
+void tst_XmppRoute::theOtherStartIsNamed_data()
 {
     QTest::addColumn<Security>("security");
     QTest::addColumn<bool>("isSilent");
@@ -473,7 +473,7 @@ void TestXmppRoute::theOtherStartIsNamed_data()
     QTest::newRow("TLS later, hangs up") << QXmppConfiguration::LegacySSL << false;
 }
 
-void TestXmppRoute::theOtherStartIsNamed()
+void tst_XmppRoute::theOtherStartIsNamed()
 {
     QFETCH(Security, security);
     QFETCH(bool, isSilent);
@@ -491,7 +491,7 @@ void TestXmppRoute::theOtherStartIsNamed()
     QCOMPARE(text.contains("Do not choose"), security == QXmppConfiguration::LegacySSL);
 }
 
-void TestXmppRoute::anotherEndIsReportedAsItIs_data()
+void tst_XmppRoute::anotherEndIsReportedAsItIs_data()
 {
     QTest::addColumn<KirvFailure::Kind>("kind");
     QTest::addColumn<int>("probed");
@@ -501,7 +501,7 @@ void TestXmppRoute::anotherEndIsReportedAsItIs_data()
     QTest::newRow("not found") << KirvFailure::HostNotFound << 0;
 }
 
-void TestXmppRoute::anotherEndIsReportedAsItIs()
+void tst_XmppRoute::anotherEndIsReportedAsItIs()
 {
     QFETCH(KirvFailure::Kind, kind);
     QFETCH(int, probed);
@@ -514,14 +514,14 @@ void TestXmppRoute::anotherEndIsReportedAsItIs()
     QCOMPARE(ended->size(), 1);
 }
 
-void TestXmppRoute::aProxyLooksTheServerUp_data()
+void tst_XmppRoute::aProxyLooksTheServerUp_data()
 {
     QTest::addColumn<QNetworkProxy>("proxy");
     QTest::newRow("SOCKS5") << QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080);
     QTest::newRow("HTTP") << QNetworkProxy(QNetworkProxy::HttpProxy, "proxy", 3128);
 }
 
-void TestXmppRoute::aProxyLooksTheServerUp()
+void tst_XmppRoute::aProxyLooksTheServerUp()
 {
     QFETCH(QNetworkProxy, proxy);
     open(QXmppConfiguration::TLSRequired, QString(), proxy);
@@ -538,7 +538,7 @@ void TestXmppRoute::aProxyLooksTheServerUp()
     QVERIFY(lookUps.isEmpty());
 }
 
-void TestXmppRoute::aProxyThatFailsEndsIt_data()
+void tst_XmppRoute::aProxyThatFailsEndsIt_data()
 {
     QTest::addColumn<KirvFailure::Kind>("kind");
     QTest::newRow("not reached") << KirvFailure::ProxyNotReached;
@@ -547,7 +547,7 @@ void TestXmppRoute::aProxyThatFailsEndsIt_data()
     QTest::newRow("other") << KirvFailure::ProxyFailed;
 }
 
-void TestXmppRoute::aProxyThatFailsEndsIt()
+void tst_XmppRoute::aProxyThatFailsEndsIt()
 {
     QFETCH(KirvFailure::Kind, kind);
     open(QXmppConfiguration::TLSRequired, QString(), QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
@@ -559,7 +559,7 @@ void TestXmppRoute::aProxyThatFailsEndsIt()
     QVERIFY(lookUps.isEmpty());
 }
 
-void TestXmppRoute::aProxyThatIsSilentIsNamed()
+void tst_XmppRoute::aProxyThatIsSilentIsNamed()
 {
     open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
     clock.advance(KirvProxy::timeout - 1);
@@ -570,7 +570,7 @@ void TestXmppRoute::aProxyThatIsSilentIsNamed()
     QCOMPARE(ending().detail(), QString("proxy:1080"));
 }
 
-void TestXmppRoute::theServerBehindAProxyMayTakeItsTime()
+void tst_XmppRoute::theServerBehindAProxyMayTakeItsTime()
 {
     open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy(QNetworkProxy::Socks5Proxy, "proxy", 1080));
     Q_EMIT server.link()->reached();
@@ -579,7 +579,7 @@ void TestXmppRoute::theServerBehindAProxyMayTakeItsTime()
     QCOMPARE(probes.size(), 1); // the server is silent
 }
 
-void TestXmppRoute::theSystemIsQueriedForEachServer()
+void tst_XmppRoute::theSystemIsQueriedForEachServer()
 {
     const QNetworkProxy socks(QNetworkProxy::Socks5Proxy, "proxy", 1080);
     open(QXmppConfiguration::TLSRequired, QString(), QNetworkProxy::DefaultProxy);
@@ -601,7 +601,7 @@ void TestXmppRoute::theSystemIsQueriedForEachServer()
     QCOMPARE(server.link()->configuration.networkProxy(), socks);
 }
 
-void TestXmppRoute::noServerIsTriedWhileTheSystemIsSilent()
+void tst_XmppRoute::noServerIsTriedWhileTheSystemIsSilent()
 {
     for (const QString &host : { QString(), QString("one") }) {
         cleanup();
@@ -617,7 +617,7 @@ void TestXmppRoute::noServerIsTriedWhileTheSystemIsSilent()
     }
 }
 
-void TestXmppRoute::theProbeGoesThroughTheProxy()
+void tst_XmppRoute::theProbeGoesThroughTheProxy()
 {
     const QNetworkProxy socks(QNetworkProxy::Socks5Proxy, "proxy", 1080);
     open(QXmppConfiguration::TLSRequired, "one", QNetworkProxy::DefaultProxy);
@@ -627,7 +627,7 @@ void TestXmppRoute::theProbeGoesThroughTheProxy()
     QCOMPARE(probedThrough, socks);
 }
 
-void TestXmppRoute::everythingIsPassedOn()
+void tst_XmppRoute::everythingIsPassedOn()
 {
     open(QXmppConfiguration::TLSRequired, "one");
     QSignalSpy loggedIn(route.get(), &KirvXmppLink::loggedIn);
@@ -648,7 +648,7 @@ void TestXmppRoute::everythingIsPassedOn()
     QVERIFY(!ending().isFailure());
 }
 
-void TestXmppRoute::requestsWithoutAServerFail()
+void tst_XmppRoute::requestsWithoutAServerFail()
 {
     int replies = 0;
     KirvXmppReply last;
@@ -665,14 +665,14 @@ void TestXmppRoute::requestsWithoutAServerFail()
     QCOMPARE(last.failure.kind(), KirvFailure::ConnectionLost);
 }
 
-void TestXmppRoute::nothingComesAfterAnAbort_data()
+void tst_XmppRoute::nothingComesAfterAnAbort_data()
 {
     QTest::addColumn<QString>("moment");
     for (const char *moment : { "look-up", "connecting", "probing" })
         QTest::newRow(moment) << moment;
 }
 
-void TestXmppRoute::nothingComesAfterAnAbort()
+void tst_XmppRoute::nothingComesAfterAnAbort()
 {
     QFETCH(QString, moment);
     open(QXmppConfiguration::TLSRequired, moment == "look-up" ? "" : "one");
@@ -689,7 +689,7 @@ void TestXmppRoute::nothingComesAfterAnAbort()
     QCOMPARE(server.links, moment == "look-up" ? 0 : 1);
 }
 
-void TestXmppRoute::closingDuringTheLookUpEndsIt()
+void tst_XmppRoute::closingDuringTheLookUpEndsIt()
 {
     open();
     route->close();
@@ -699,5 +699,5 @@ void TestXmppRoute::closingDuringTheLookUpEndsIt()
     QVERIFY(!ending().isFailure());
 }
 
-QTEST_GUILESS_MAIN(TestXmppRoute)
+QTEST_GUILESS_MAIN(tst_XmppRoute)
 #include "tst_xmpp_route.moc"

@@ -28,7 +28,7 @@ rWhE
 } // namespace
 
 /// The settings of an XMPP account as fields, and what they make of the library's configuration.
-class TestXmppSettings : public QObject {
+class tst_XmppSettings : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void problemsOfLoginsAreSaid();
 };
 
-void TestXmppSettings::fieldsAreReadAndWrittenAlike()
+void tst_XmppSettings::fieldsAreReadAndWrittenAlike()
 {
     KirvXmppSettings settings;
     settings.server = "xmpp.example.org";
@@ -76,7 +76,7 @@ void TestXmppSettings::fieldsAreReadAndWrittenAlike()
     QVERIFY(again.toFields() == fields);
 }
 
-void TestXmppSettings::badValuesFallBackToSafeOnes_data()
+void tst_XmppSettings::badValuesFallBackToSafeOnes_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("value");
@@ -128,7 +128,7 @@ void TestXmppSettings::badValuesFallBackToSafeOnes_data()
                                                      << "/folder/a%20b.pem";
 }
 
-void TestXmppSettings::badValuesFallBackToSafeOnes()
+void tst_XmppSettings::badValuesFallBackToSafeOnes()
 {
     QFETCH(QString, id);
     QFETCH(QString, value);
@@ -137,7 +137,7 @@ void TestXmppSettings::badValuesFallBackToSafeOnes()
     QCOMPARE(valueOf(settings.toFields(), id), read);
 }
 
-void TestXmppSettings::serverFieldsAreAmongTheFields()
+void tst_XmppSettings::serverFieldsAreAmongTheFields()
 {
     const QList<KirvField> all = KirvXmppSettings().toFields();
     for (const KirvField &field : KirvXmppSettings().toServerFields())
@@ -147,7 +147,7 @@ void TestXmppSettings::serverFieldsAreAmongTheFields()
         QVERIFY2(KirvXmppSettings().toServerFields().contains(field), qPrintable(field.getId()));
 }
 
-void TestXmppSettings::configurationsGiveFields()
+void tst_XmppSettings::configurationsGiveFields()
 {
     qputenv("KIRV_XMPP_LOCAL_PORT", "15222");
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", "/local.pem");
@@ -170,7 +170,7 @@ void TestXmppSettings::configurationsGiveFields()
     qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
 }
 
-void TestXmppSettings::theServerOfTheDomainIsTheDefault()
+void tst_XmppSettings::theServerOfTheDomainIsTheDefault()
 {
     for (const QString &name : KirvXmppSettings::configurations())
         QCOMPARE(valueOf(KirvXmppSettings::configurationFields(name), "login"), QString("missing"));
@@ -178,7 +178,7 @@ void TestXmppSettings::theServerOfTheDomainIsTheDefault()
     QCOMPARE(valueOf(KirvXmppSettings().toFields(), "encryption"), QString("required"));
 }
 
-void TestXmppSettings::encryptionBecomesAMode_data()
+void tst_XmppSettings::encryptionBecomesAMode_data()
 {
     QTest::addColumn<QString>("value");
     QTest::addColumn<int>("mode");
@@ -188,7 +188,7 @@ void TestXmppSettings::encryptionBecomesAMode_data()
     QTest::newRow("unknown") << "what?" << int(QXmppConfiguration::TLSRequired);
 }
 
-void TestXmppSettings::encryptionBecomesAMode()
+void tst_XmppSettings::encryptionBecomesAMode()
 {
     QFETCH(QString, value);
     QFETCH(int, mode);
@@ -198,7 +198,7 @@ void TestXmppSettings::encryptionBecomesAMode()
     QCOMPARE(int(configuration.streamSecurityMode()), mode);
 }
 
-void TestXmppSettings::theHostIsOnlyGivenWhenNeeded_data()
+void tst_XmppSettings::theHostIsOnlyGivenWhenNeeded_data()
 {
     QTest::addColumn<QString>("server");
     QTest::addColumn<QString>("port");
@@ -217,7 +217,7 @@ void TestXmppSettings::theHostIsOnlyGivenWhenNeeded_data()
                           << "127.0.0.1";
 }
 
-void TestXmppSettings::theHostIsOnlyGivenWhenNeeded()
+void tst_XmppSettings::theHostIsOnlyGivenWhenNeeded()
 {
     QFETCH(QString, server);
     QFETCH(QString, port);
@@ -231,7 +231,7 @@ void TestXmppSettings::theHostIsOnlyGivenWhenNeeded()
     QCOMPARE(configuration.port(), port.toInt());
 }
 
-void TestXmppSettings::theResourceHasARandomPartByDefault()
+void tst_XmppSettings::theResourceHasARandomPartByDefault()
 {
     const KirvXmppSettings settings;
     const QString resource = settings.resourceWith("abc");
@@ -245,7 +245,7 @@ void TestXmppSettings::theResourceHasARandomPartByDefault()
     QCOMPARE(KirvXmppSettings({ text("resource", "*, *") }).resourceWith("abc"), QString("abc, abc"));
 }
 
-void TestXmppSettings::theLibraryNeitherReconnectsNorAccepts()
+void tst_XmppSettings::theLibraryNeitherReconnectsNorAccepts()
 {
     QXmppConfiguration configuration;
     QString problem;
@@ -256,14 +256,14 @@ void TestXmppSettings::theLibraryNeitherReconnectsNorAccepts()
     QVERIFY(!configuration.ignoreSslErrors());
 }
 
-void TestXmppSettings::aTrustedCertificateIsAdded_data()
+void tst_XmppSettings::aTrustedCertificateIsAdded_data()
 {
     QTest::addColumn<QString>("prefix");
     QTest::newRow("path") << "";
     QTest::newRow("address") << "file://";
 }
 
-void TestXmppSettings::aTrustedCertificateIsAdded()
+void tst_XmppSettings::aTrustedCertificateIsAdded()
 {
     QFETCH(QString, prefix);
     QTemporaryDir folder;
@@ -279,7 +279,7 @@ void TestXmppSettings::aTrustedCertificateIsAdded()
              QStringList { "localhost" });
 }
 
-void TestXmppSettings::filesAreFields()
+void tst_XmppSettings::filesAreFields()
 {
     QCOMPARE(KirvXmppSettings::fileFields(), QStringList { "certificate" });
     QStringList ids;
@@ -289,7 +289,7 @@ void TestXmppSettings::filesAreFields()
     QVERIFY(ids.contains("certificate"));
 }
 
-void TestXmppSettings::aCertificateThatWouldBlockIsReported()
+void tst_XmppSettings::aCertificateThatWouldBlockIsReported()
 {
     QTemporaryDir folder;
     const QString pipe = folder.filePath("pipe.pem");
@@ -302,7 +302,7 @@ void TestXmppSettings::aCertificateThatWouldBlockIsReported()
     }
 }
 
-void TestXmppSettings::aCertificateThatCannotBeUsedIsReported_data()
+void tst_XmppSettings::aCertificateThatCannotBeUsedIsReported_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("part");
@@ -310,7 +310,7 @@ void TestXmppSettings::aCertificateThatCannotBeUsedIsReported_data()
     QTest::newRow("no certificate") << QByteArray("text") << "does not hold a certificate";
 }
 
-void TestXmppSettings::aCertificateThatCannotBeUsedIsReported()
+void tst_XmppSettings::aCertificateThatCannotBeUsedIsReported()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, part);
@@ -324,7 +324,7 @@ void TestXmppSettings::aCertificateThatCannotBeUsedIsReported()
     QVERIFY2(problem.contains(part) && problem.contains(file.fileName()), qPrintable(problem));
 }
 
-void TestXmppSettings::loginsAreAddresses_data()
+void tst_XmppSettings::loginsAreAddresses_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<bool>("isGood");
@@ -341,7 +341,7 @@ void TestXmppSettings::loginsAreAddresses_data()
     QTest::newRow("markup") << "<b>@example.org" << false;
 }
 
-void TestXmppSettings::problemsOfLoginsAreSaid_data()
+void tst_XmppSettings::problemsOfLoginsAreSaid_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<QString>("problem");
@@ -369,13 +369,13 @@ void TestXmppSettings::problemsOfLoginsAreSaid_data()
     add("long domain", "a@" + QString(1024, 'a'), "The address is too long.");
 }
 
-void TestXmppSettings::problemsOfLoginsAreSaid()
+void tst_XmppSettings::problemsOfLoginsAreSaid()
 {
     QFETCH(QString, login);
     QTEST(KirvXmppSettings::loginProblem(login), "problem");
 }
 
-void TestXmppSettings::loginsAreAddresses()
+void tst_XmppSettings::loginsAreAddresses()
 {
     QFETCH(QString, login);
     QFETCH(bool, isGood);
@@ -384,5 +384,5 @@ void TestXmppSettings::loginsAreAddresses()
     QCOMPARE(pattern.match(login).hasMatch(), isGood);
 }
 
-QTEST_GUILESS_MAIN(TestXmppSettings)
+QTEST_GUILESS_MAIN(tst_XmppSettings)
 #include "tst_xmpp_settings.moc"

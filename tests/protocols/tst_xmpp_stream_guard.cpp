@@ -44,7 +44,7 @@ QByteArray nested(const QByteArray &name, int depth)
 } // namespace
 
 /// What of a server's stream reaches the library.
-class TestXmppStreamGuard : public QObject {
+class tst_XmppStreamGuard : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -68,7 +68,7 @@ private Q_SLOTS:
     void resetForgetsEverything();
 };
 
-void TestXmppStreamGuard::stanzasAreKeptOrDropped_data()
+void tst_XmppStreamGuard::stanzasAreKeptOrDropped_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("pieces");
@@ -98,7 +98,7 @@ void TestXmppStreamGuard::stanzasAreKeptOrDropped_data()
 }
 
 /// In pieces of every size, as a network delivers them.
-void TestXmppStreamGuard::stanzasAreKeptOrDropped()
+void tst_XmppStreamGuard::stanzasAreKeptOrDropped()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QByteArray, pieces);
@@ -106,7 +106,7 @@ void TestXmppStreamGuard::stanzasAreKeptOrDropped()
         QCOMPARE(piecesAfterHeader(bytes, size), pieces);
 }
 
-void TestXmppStreamGuard::headerIsGiven_data()
+void tst_XmppStreamGuard::headerIsGiven_data()
 {
     QTest::addColumn<QByteArray>("before");
     QTest::newRow("alone") << QByteArray();
@@ -115,7 +115,7 @@ void TestXmppStreamGuard::headerIsGiven_data()
     QTest::newRow("space") << QByteArray("\n");
 }
 
-void TestXmppStreamGuard::headerIsGiven()
+void tst_XmppStreamGuard::headerIsGiven()
 {
     QFETCH(QByteArray, before);
     for (int size = 1; size < before.size() + header.size(); ++size) {
@@ -131,7 +131,7 @@ void TestXmppStreamGuard::headerIsGiven()
     }
 }
 
-void TestXmppStreamGuard::startIsRead()
+void tst_XmppStreamGuard::startIsRead()
 {
     Guard guard(isNoMessage);
     guard.append(header + "<iq from='a&amp;b@c/&#x20AC;' type=\"result\" xml:id='no' id='1'><a from='x' id='2'/></iq>");
@@ -143,7 +143,7 @@ void TestXmppStreamGuard::startIsRead()
     QCOMPARE(piece.start.id, QByteArray("1"));
 }
 
-void TestXmppStreamGuard::largeUsedStanzaIsDroppedAlone_data()
+void tst_XmppStreamGuard::largeUsedStanzaIsDroppedAlone_data()
 {
     QTest::addColumn<QByteArray>("stanza");
     QTest::addColumn<bool>("isOversized");
@@ -162,7 +162,7 @@ void TestXmppStreamGuard::largeUsedStanzaIsDroppedAlone_data()
     QTest::newRow("more attributes") << "<iq><a" + QByteArray(" b='c'").repeated(Guard::mostNodes) + "/></iq>" << true;
 }
 
-void TestXmppStreamGuard::largeUsedStanzaIsDroppedAlone()
+void tst_XmppStreamGuard::largeUsedStanzaIsDroppedAlone()
 {
     QFETCH(QByteArray, stanza);
     QFETCH(bool, isOversized);
@@ -170,7 +170,7 @@ void TestXmppStreamGuard::largeUsedStanzaIsDroppedAlone()
     QVERIFY(pieces == (isOversized ? QByteArray("oversized") : stanza) + "|<iq/>");
 }
 
-void TestXmppStreamGuard::largeUnusedStanzaDoesNoHarm_data()
+void tst_XmppStreamGuard::largeUnusedStanzaDoesNoHarm_data()
 {
     QTest::addColumn<QByteArray>("stanza");
     QTest::newRow("depth 9,000") << nested("message", 9000);
@@ -182,13 +182,13 @@ void TestXmppStreamGuard::largeUnusedStanzaDoesNoHarm_data()
     QTest::newRow("used, if it were not so long") << "<iq a='" + QByteArray(Guard::longestUsed, 'x') + "'/>";
 }
 
-void TestXmppStreamGuard::largeUnusedStanzaDoesNoHarm()
+void tst_XmppStreamGuard::largeUnusedStanzaDoesNoHarm()
 {
     QFETCH(QByteArray, stanza);
     QCOMPARE(piecesAfterHeader(stanza + "<iq/>"), QByteArray("<iq/>"));
 }
 
-void TestXmppStreamGuard::unusedStanzaIsNotCollected()
+void tst_XmppStreamGuard::unusedStanzaIsNotCollected()
 {
     Guard guard(isNoMessage);
     piecesOf(guard, header + "<message>");
@@ -199,7 +199,7 @@ void TestXmppStreamGuard::unusedStanzaIsNotCollected()
     QCOMPARE(piecesOf(guard, "</message><iq/>"), QByteArray("<iq/>"));
 }
 
-void TestXmppStreamGuard::violationBreaksTheStream_data()
+void tst_XmppStreamGuard::violationBreaksTheStream_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("violation");
@@ -255,7 +255,7 @@ void TestXmppStreamGuard::violationBreaksTheStream_data()
     tooLarge("many features", "<stream:features>" + QByteArray("<a/>").repeated(Guard::mostNodes));
 }
 
-void TestXmppStreamGuard::violationBreaksTheStream()
+void tst_XmppStreamGuard::violationBreaksTheStream()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(int, violation);
@@ -269,7 +269,7 @@ void TestXmppStreamGuard::violationBreaksTheStream()
     QCOMPARE(int(slow.violation()), violation);
 }
 
-void TestXmppStreamGuard::whatIsNoStreamIsKnown_data()
+void tst_XmppStreamGuard::whatIsNoStreamIsKnown_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("another protocol") << QByteArray("HTTP/1.1 400 Bad Request\r\n");
@@ -283,7 +283,7 @@ void TestXmppStreamGuard::whatIsNoStreamIsKnown_data()
     QTest::newRow("endless tag") << "<stream:stream a='" + QByteArray(Guard::longestTag, 'x');
 }
 
-void TestXmppStreamGuard::whatIsNoStreamIsKnown()
+void tst_XmppStreamGuard::whatIsNoStreamIsKnown()
 {
     QFETCH(QByteArray, bytes);
     Guard guard(isNoMessage);
@@ -291,7 +291,7 @@ void TestXmppStreamGuard::whatIsNoStreamIsKnown()
     QCOMPARE(int(guard.violation()), int(Guard::NoStream));
 }
 
-void TestXmppStreamGuard::nothingFollowsAViolation()
+void tst_XmppStreamGuard::nothingFollowsAViolation()
 {
     Guard guard(isNoMessage);
     QCOMPARE(piecesOf(guard, header + "<iq/></wrong><iq/>"), QByteArray("header|<iq/>|broken"));
@@ -299,7 +299,7 @@ void TestXmppStreamGuard::nothingFollowsAViolation()
     QCOMPARE(guard.size(), 0);
 }
 
-void TestXmppStreamGuard::streamStartsOverAfterTheLogIn()
+void tst_XmppStreamGuard::streamStartsOverAfterTheLogIn()
 {
     const QByteArray bytes = header + "<success a='b'/>" + "<?xml version='1.0'?>" + header + "<iq/></stream:stream>";
     for (int size = 1; size < bytes.size(); ++size) {
@@ -309,7 +309,7 @@ void TestXmppStreamGuard::streamStartsOverAfterTheLogIn()
 }
 
 /// What was sent in clear would count as encrypted.
-void TestXmppStreamGuard::nothingIsReadBetweenTheAgreementAndEncryption()
+void tst_XmppStreamGuard::nothingIsReadBetweenTheAgreementAndEncryption()
 {
     Guard guard(isNoMessage);
     QCOMPARE(piecesOf(guard, header + "<proceed/>\n"), QByteArray("header|<proceed/>"));
@@ -321,7 +321,7 @@ void TestXmppStreamGuard::nothingIsReadBetweenTheAgreementAndEncryption()
     QCOMPARE(int(guard.violation()), int(Guard::Forbidden));
 }
 
-void TestXmppStreamGuard::resetForgetsEverything()
+void tst_XmppStreamGuard::resetForgetsEverything()
 {
     for (const QByteArray &before : { QByteArray("<iq a='"), QByteArray("<iq><a>"), QByteArray("<message>&am"),
                                       QByteArray("<message>\xe2"), QByteArray("</wrong>") }) {
@@ -333,5 +333,5 @@ void TestXmppStreamGuard::resetForgetsEverything()
     }
 }
 
-QTEST_APPLESS_MAIN(TestXmppStreamGuard)
+QTEST_APPLESS_MAIN(tst_XmppStreamGuard)
 #include "tst_xmpp_stream_guard.moc"

@@ -22,7 +22,7 @@ const QByteArray unused = "<message><body>" + QByteArray(1024 - 32, 'x') + "</bo
 } // namespace
 
 /// How much of a stream is handled in a turn of the event loop.
-class TestXmppStreamReader : public QObject {
+class tst_XmppStreamReader : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -51,7 +51,7 @@ private:
 };
 
 /// Connects, and counts from the start of the stream.
-void TestXmppStreamReader::init()
+void tst_XmppStreamReader::init()
 {
     stanzas = starts = mostStanzas = mostStarts = stanzasBefore = startsBefore = 0;
     QVERIFY(server.isListening() || server.listen(QHostAddress::LocalHost));
@@ -79,7 +79,7 @@ void TestXmppStreamReader::init()
     takeTurn();
 }
 
-void TestXmppStreamReader::cleanup()
+void tst_XmppStreamReader::cleanup()
 {
     counter.reset();
     reader.reset();
@@ -88,7 +88,7 @@ void TestXmppStreamReader::cleanup()
 }
 
 /// Of two that want turns each has every other one.
-void TestXmppStreamReader::takeTurn()
+void tst_XmppStreamReader::takeTurn()
 {
     mostStanzas = qMax(mostStanzas, stanzas - stanzasBefore);
     mostStarts = qMax(mostStarts, starts - startsBefore);
@@ -97,7 +97,7 @@ void TestXmppStreamReader::takeTurn()
     KirvXmppTurns::instance().request(counter.get(), [this] { takeTurn(); });
 }
 
-void TestXmppStreamReader::fewStanzasAreHandledInATurn()
+void tst_XmppStreamReader::fewStanzasAreHandledInATurn()
 {
     const int count = 20 * KirvXmppStreamReader::piecesPerTurn;
     peer->write(used.repeated(count));
@@ -105,7 +105,7 @@ void TestXmppStreamReader::fewStanzasAreHandledInATurn()
     QVERIFY2(mostStanzas <= KirvXmppStreamReader::piecesPerTurn, qPrintable(QString::number(mostStanzas)));
 }
 
-void TestXmppStreamReader::fewBytesAreReadInATurn()
+void tst_XmppStreamReader::fewBytesAreReadInATurn()
 {
     const int count = 20 * KirvXmppStreamReader::bytesPerTurn / int(unused.size());
     peer->write(unused.repeated(count));
@@ -115,7 +115,7 @@ void TestXmppStreamReader::fewBytesAreReadInATurn()
     QVERIFY2(mostStarts <= most, qPrintable(QString::number(mostStarts)));
 }
 
-void TestXmppStreamReader::nothingIsReadAfterTheStop()
+void tst_XmppStreamReader::nothingIsReadAfterTheStop()
 {
     reader->stop();
     peer->write(used);
@@ -125,5 +125,5 @@ void TestXmppStreamReader::nothingIsReadAfterTheStop()
     QCOMPARE(starts, 0);
 }
 
-QTEST_GUILESS_MAIN(TestXmppStreamReader)
+QTEST_GUILESS_MAIN(tst_XmppStreamReader)
 #include "tst_xmpp_stream_reader.moc"

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_turns.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QtTest>
 #include <memory>
 #include <vector>
 
-class TestXmppTurns : public QObject {
+class tst_XmppTurns : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -28,7 +29,7 @@ private:
     QList<int> taken;
 };
 
-void TestXmppTurns::init()
+void tst_XmppTurns::init()
 {
     turns = std::make_unique<KirvXmppTurns>();
     streams.clear();
@@ -37,7 +38,7 @@ void TestXmppTurns::init()
     taken.clear();
 }
 
-void TestXmppTurns::request(int number, const std::function<void()> &alsoDo)
+void tst_XmppTurns::request(int number, const std::function<void()> &alsoDo)
 {
     turns->request(streams[size_t(number)].get(), [this, number, alsoDo] {
         taken << number;
@@ -45,13 +46,13 @@ void TestXmppTurns::request(int number, const std::function<void()> &alsoDo)
     });
 }
 
-void TestXmppTurns::settle()
+void tst_XmppTurns::settle()
 {
     for (int turn = 0; turn < 50; ++turn)
         QCoreApplication::processEvents();
 }
 
-void TestXmppTurns::oneStepIsTakenInATurnOfTheEventLoop()
+void tst_XmppTurns::oneStepIsTakenInATurnOfTheEventLoop()
 {
     QList<int> seen; // how many there were in each turn
     QTimer timer;
@@ -60,13 +61,13 @@ void TestXmppTurns::oneStepIsTakenInATurnOfTheEventLoop()
     for (int number = 0; number < 10; ++number)
         request(number);
     QCOMPARE(taken.size(), 0);
-    QTRY_COMPARE(taken.size(), 10);
+    KIRV_TRY_COMPARE(taken.size(), 10);
     for (int i = 1; i < seen.size(); ++i)
         QVERIFY(seen.at(i) - seen.at(i - 1) <= 1);
     QVERIFY(seen.size() >= 9);
 }
 
-void TestXmppTurns::stepsAreTakenInOrder()
+void tst_XmppTurns::stepsAreTakenInOrder()
 {
     for (const int number : { 3, 1, 2 })
         request(number);
@@ -74,7 +75,7 @@ void TestXmppTurns::stepsAreTakenInOrder()
     QCOMPARE(taken, (QList<int> { 3, 1, 2 }));
 }
 
-void TestXmppTurns::aStreamWaitsOnce()
+void tst_XmppTurns::aStreamWaitsOnce()
 {
     request(1);
     request(1);
@@ -87,7 +88,7 @@ void TestXmppTurns::aStreamWaitsOnce()
     QCOMPARE(taken, (QList<int> { 1, 1 }));
 }
 
-void TestXmppTurns::aStreamThatGoesOnComesBehindTheOthers()
+void tst_XmppTurns::aStreamThatGoesOnComesBehindTheOthers()
 {
     request(1, [this] { request(1); });
     request(2);
@@ -95,7 +96,7 @@ void TestXmppTurns::aStreamThatGoesOnComesBehindTheOthers()
     QCOMPARE(taken, (QList<int> { 1, 2, 1 }));
 }
 
-void TestXmppTurns::cancelledStepsAreNotTaken()
+void tst_XmppTurns::cancelledStepsAreNotTaken()
 {
     request(1);
     request(2);
@@ -106,7 +107,7 @@ void TestXmppTurns::cancelledStepsAreNotTaken()
     QCOMPARE(taken, (QList<int> { 1, 3 }));
 }
 
-void TestXmppTurns::stepsOfDestroyedStreamsAreNotTaken()
+void tst_XmppTurns::stepsOfDestroyedStreamsAreNotTaken()
 {
     request(1);
     request(2);
@@ -117,7 +118,7 @@ void TestXmppTurns::stepsOfDestroyedStreamsAreNotTaken()
     QCOMPARE(taken, QList<int> { 2 });
 }
 
-void TestXmppTurns::aStepMayDestroyAStream()
+void tst_XmppTurns::aStepMayDestroyAStream()
 {
     request(1, [this] { streams[1].reset(); });
     request(2, [this] { streams[3].reset(); });
@@ -127,5 +128,5 @@ void TestXmppTurns::aStepMayDestroyAStream()
     QCOMPARE(taken, (QList<int> { 1, 2, 4 }));
 }
 
-QTEST_GUILESS_MAIN(TestXmppTurns)
+QTEST_GUILESS_MAIN(tst_XmppTurns)
 #include "tst_xmpp_turns.moc"

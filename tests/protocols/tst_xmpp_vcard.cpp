@@ -57,7 +57,7 @@ QImage noise(int side)
 } // namespace
 
 /// A directory entry as fields and back.
-class TestXmppVCard : public QObject {
+class tst_XmppVcard : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -86,7 +86,7 @@ private Q_SLOTS:
     void theSizeIsThatOfTheXml();
 };
 
-void TestXmppVCard::eachFieldHasItsPlace_data()
+void tst_XmppVcard::eachFieldHasItsPlace_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("path");
@@ -123,7 +123,7 @@ void TestXmppVCard::eachFieldHasItsPlace_data()
                            << "One\nTwo <b>";
 }
 
-void TestXmppVCard::eachFieldHasItsPlace()
+void tst_XmppVcard::eachFieldHasItsPlace()
 {
     QFETCH(QString, id);
     QFETCH(QString, path);
@@ -139,7 +139,7 @@ void TestXmppVCard::eachFieldHasItsPlace()
     QCOMPARE(valueOf(KirvXmppVCard(root(made)), id), value);
 }
 
-void TestXmppVCard::anEntryWithoutTextsHasNoFields_data()
+void tst_XmppVcard::anEntryWithoutTextsHasNoFields_data()
 {
     QTest::addColumn<QByteArray>("xml");
     QTest::newRow("empty") << QByteArray("<vCard xmlns='vcard-temp'/>");
@@ -149,14 +149,14 @@ void TestXmppVCard::anEntryWithoutTextsHasNoFields_data()
     QTest::newRow("other namespace") << QByteArray("<vCard xmlns='urn:other'><FN>Anna</FN></vCard>");
 }
 
-void TestXmppVCard::anEntryWithoutTextsHasNoFields()
+void tst_XmppVcard::anEntryWithoutTextsHasNoFields()
 {
     QFETCH(QByteArray, xml);
     QVERIFY(card(xml).toFields().isEmpty());
     QVERIFY(KirvXmppVCard(QDomElement()).toFields().isEmpty());
 }
 
-void TestXmppVCard::onlyTheGivenFieldsAreChanged()
+void tst_XmppVcard::onlyTheGivenFieldsAreChanged()
 {
     const QList<KirvField> before = card(fullEntry).toFields();
     KirvXmppVCard changed = card(fullEntry);
@@ -169,7 +169,7 @@ void TestXmppVCard::onlyTheGivenFieldsAreChanged()
     }
 }
 
-void TestXmppVCard::whatHasNoFieldStays()
+void tst_XmppVcard::whatHasNoFieldStays()
 {
     KirvXmppVCard changed = card(fullEntry);
     changed.setFields({ text("telephone", "789"), text("town", "Elsewhere"), text("fullname", "New Name") });
@@ -186,7 +186,7 @@ void TestXmppVCard::whatHasNoFieldStays()
     QVERIFY2(xml.contains("urn:extra") && xml.contains("odd") && xml.contains("kept"), xml.constData());
 }
 
-void TestXmppVCard::prefixesOfNamespacesMakeNoDifference()
+void tst_XmppVcard::prefixesOfNamespacesMakeNoDifference()
 {
     const QDomDocument entry = parsed("<v:vCard xmlns:v='vcard-temp'><v:FN>Ann</v:FN><v:ORG><v:ORGNAME>Post</v:ORGNAME>"
                                       "</v:ORG><x:OTHER xmlns:x='urn:x'>1</x:OTHER></v:vCard>");
@@ -198,7 +198,7 @@ void TestXmppVCard::prefixesOfNamespacesMakeNoDifference()
     QCOMPARE(root(read).lastChildElement().namespaceURI(), QString("urn:x"));
 }
 
-void TestXmppVCard::anEmptyTextRemovesItsElementAlone()
+void tst_XmppVcard::anEmptyTextRemovesItsElementAlone()
 {
     KirvXmppVCard changed = card(fullEntry);
     changed.setFields({ text("town", ""), text("nickname", ""), text("web", "") });
@@ -213,21 +213,21 @@ void TestXmppVCard::anEmptyTextRemovesItsElementAlone()
     QVERIFY(!root(alone).hasChildNodes());
 }
 
-void TestXmppVCard::unknownFieldsAreIgnored()
+void tst_XmppVcard::unknownFieldsAreIgnored()
 {
     KirvXmppVCard made;
     made.setFields({ text("shoe size", "43"), text("", "nothing") });
     QVERIFY(!root(made).hasChildNodes());
 }
 
-void TestXmppVCard::whatCannotBeSentIsLeftOut()
+void tst_XmppVcard::whatCannotBeSentIsLeftOut()
 {
     KirvXmppVCard made;
     made.setFields({ text("about", QString("a") + QChar(0x1) + "b\n" + QChar(0xd800) + QString::fromUtf8("c😀")) });
     QCOMPARE(valueOf(made, "about"), QString::fromUtf8("ab\nc😀"));
 }
 
-void TestXmppVCard::whatXmlWouldNotKeepIsNotStored()
+void tst_XmppVcard::whatXmlWouldNotKeepIsNotStored()
 {
     KirvXmppVCard made;
     made.setFields({ text("about", "a\r\nb\rc"), text("town", " \t ") });
@@ -235,7 +235,7 @@ void TestXmppVCard::whatXmlWouldNotKeepIsNotStored()
     QCOMPARE(valueOf(made, "town"), QString());
 }
 
-void TestXmppVCard::clearingKeepsThePicture()
+void tst_XmppVcard::clearingKeepsThePicture()
 {
     KirvXmppVCard cleared = card(fullEntry);
     cleared.clear();
@@ -244,7 +244,7 @@ void TestXmppVCard::clearingKeepsThePicture()
     QVERIFY(cleared.toFields().isEmpty());
 }
 
-void TestXmppVCard::aPictureIsSetAndRemoved()
+void tst_XmppVcard::aPictureIsSetAndRemoved()
 {
     KirvXmppVCard changed = card(fullEntry);
     changed.setPhoto({ "new", "image/jpeg" });
@@ -259,7 +259,7 @@ void TestXmppVCard::aPictureIsSetAndRemoved()
     QCOMPARE(valueOf(changed, "fullname"), QString("Anna Example"));
 }
 
-void TestXmppVCard::aPictureFileIsMadeSmall_data()
+void tst_XmppVcard::aPictureFileIsMadeSmall_data()
 {
     QTest::addColumn<QImage>("image");
     QTest::addColumn<QString>("type");
@@ -269,7 +269,7 @@ void TestXmppVCard::aPictureFileIsMadeSmall_data()
     QTest::newRow("detailed") << noise(400) << "image/jpeg";
 }
 
-void TestXmppVCard::aPictureFileIsMadeSmall()
+void tst_XmppVcard::aPictureFileIsMadeSmall()
 {
     QFETCH(QImage, image);
     QFETCH(QString, type);
@@ -281,7 +281,7 @@ void TestXmppVCard::aPictureFileIsMadeSmall()
     QVERIFY(photo.data.size() < KirvXmppVCard::largestSize / 2);
 }
 
-void TestXmppVCard::aFileWithoutAPictureGivesNone_data()
+void tst_XmppVcard::aFileWithoutAPictureGivesNone_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("text") << QByteArray("no picture");
@@ -290,7 +290,7 @@ void TestXmppVCard::aFileWithoutAPictureGivesNone_data()
     QTest::newRow("empty") << QByteArray();
 }
 
-void TestXmppVCard::aFileWithoutAPictureGivesNone()
+void tst_XmppVcard::aFileWithoutAPictureGivesNone()
 {
     QFETCH(QByteArray, content);
     QTemporaryDir folder;
@@ -302,7 +302,7 @@ void TestXmppVCard::aFileWithoutAPictureGivesNone()
     QVERIFY(KirvXmppPhoto::fromFile("/dev/zero").isNull());
 }
 
-void TestXmppVCard::theSizeIsThatOfTheXml()
+void tst_XmppVcard::theSizeIsThatOfTheXml()
 {
     KirvXmppVCard made;
     made.setFields({ text("nickname", "anna") });
@@ -328,7 +328,7 @@ bool isTaken(const QString &id, const QString &text)
 
 } // namespace
 
-void TestXmppVCard::birthdaysAreDates_data()
+void tst_XmppVcard::birthdaysAreDates_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isDate");
@@ -347,7 +347,7 @@ void TestXmppVCard::birthdaysAreDates_data()
     QTest::newRow("words") << "in spring" << false;
 }
 
-void TestXmppVCard::birthdaysAreDates()
+void tst_XmppVcard::birthdaysAreDates()
 {
     QFETCH(QString, text);
     QFETCH(bool, isDate);
@@ -356,7 +356,7 @@ void TestXmppVCard::birthdaysAreDates()
         QCOMPARE(QDate::fromString(text, Qt::ISODate).isValid(), isDate); // the pattern agrees with the calendar
 }
 
-void TestXmppVCard::webPagesAreAddresses_data()
+void tst_XmppVcard::webPagesAreAddresses_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isAddress");
@@ -374,12 +374,12 @@ void TestXmppVCard::webPagesAreAddresses_data()
     QTest::newRow("words") << "my page" << false;
 }
 
-void TestXmppVCard::webPagesAreAddresses()
+void tst_XmppVcard::webPagesAreAddresses()
 {
     QFETCH(QString, text);
     QFETCH(bool, isAddress);
     QCOMPARE(isTaken("web", text), isAddress);
 }
 
-QTEST_MAIN(TestXmppVCard)
+QTEST_MAIN(tst_XmppVcard)
 #include "tst_xmpp_vcard.moc"

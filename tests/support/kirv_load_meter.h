@@ -2,6 +2,8 @@
 #ifndef KIRV_LOAD_METER_H
 #define KIRV_LOAD_METER_H
 
+#include "tests/support/kirv_patience.h"
+
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -19,10 +21,9 @@ public:
     static constexpr bool measuresMemory = true;
 #endif
 
-    /// Runs the event loop until \a condition holds, or for a minute; whether it holds.
+    /// Runs the event loop until \a condition holds, which may take as long as a program; whether it holds.
     bool runUntil(const std::function<bool()> &condition)
     {
-        const int patience = 60000;
         longestGap = 0;
         mostWork = 0;
         forgetPeak();
@@ -37,7 +38,7 @@ public:
             longestGap = qMax(longestGap, sinceLast.nsecsElapsed() / 1000);
             mostWork = qMax(mostWork, used - usedBefore);
             usedBefore = used;
-            if (condition() || sinceStart.elapsed() > patience)
+            if (condition() || sinceStart.elapsed() > kirvPatienceWithProgram)
                 loop.quit();
             sinceLast.restart();
         });

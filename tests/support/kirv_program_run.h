@@ -39,10 +39,10 @@ inline KirvProgramRun kirvRunProgram(const QString &program, const QStringList &
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    if (!QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 3 * kirvPatience)
+    if (!QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, kirvPatienceWithProgram)
         || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(kirvPatience);
         return { -1, process.readAllStandardOutput(), process.readAllStandardError() };
     }
     return { process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError() };

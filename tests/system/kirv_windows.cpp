@@ -68,7 +68,7 @@ bool KirvWindows::start()
         return false;
     }
     client->window()->show();
-    return QTest::qWaitForWindowExposed(client->window())
+    return QTest::qWaitForWindowExposed(client->window(), kirvPatience)
         && QTest::qWaitFor([this] { return client->arePluginsLoaded(); }, kirvPatience);
 }
 

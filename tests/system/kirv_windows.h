@@ -21,7 +21,7 @@ class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// The real client with a profile of its own, used through its windows as a person uses it.
+/// The real client with a profile of its own, used through its windows as a user uses it.
 class KirvWindows {
 public:
     KirvWindows();

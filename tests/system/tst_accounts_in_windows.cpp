@@ -29,8 +29,8 @@ const QString secret = QStringLiteral("anns-password");
 
 } // namespace
 
-/// What a person does with accounts on the page, against a real server.
-class tst_accounts_in_windows : public QObject {
+/// What a user does with accounts on the page, against a real server.
+class tst_AccountsInWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -70,7 +70,7 @@ private:
     std::unique_ptr<KirvWindows> windows;
 };
 
-void tst_accounts_in_windows::initTestCase()
+void tst_AccountsInWindows::initTestCase()
 {
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     QVERIFY(server.addUser(QStringLiteral("ann"), secret));
@@ -78,19 +78,19 @@ void tst_accounts_in_windows::initTestCase()
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server.port()));
 }
 
-void tst_accounts_in_windows::init()
+void tst_AccountsInWindows::init()
 {
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", server.certificatePath().toLocal8Bit());
     windows = std::make_unique<KirvWindows>();
     QVERIFY(windows->start());
 }
 
-void tst_accounts_in_windows::cleanup()
+void tst_AccountsInWindows::cleanup()
 {
     windows.reset();
 }
 
-void tst_accounts_in_windows::addedAccountIsLoggedInAndComesBackAfterARestart()
+void tst_AccountsInWindows::addedAccountIsLoggedInAndComesBackAfterARestart()
 {
     QVERIFY(addAnn());
     QVERIFY(windows->row(ann));
@@ -109,7 +109,7 @@ void tst_accounts_in_windows::addedAccountIsLoggedInAndComesBackAfterARestart()
     KIRV_TRY(server.isOnline(QStringLiteral("ann")));
 }
 
-void tst_accounts_in_windows::everythingInTheAddWindowHasAnAccessibleName()
+void tst_AccountsInWindows::everythingInTheAddWindowHasAnAccessibleName()
 {
     int seen = 0;
     QStringList nameless;
@@ -133,14 +133,14 @@ void tst_accounts_in_windows::everythingInTheAddWindowHasAnAccessibleName()
     QCOMPARE(nameless, QStringList());
 }
 
-void tst_accounts_in_windows::existingAccountIsRefusedAndNothingTypedIsLost()
+void tst_AccountsInWindows::existingAccountIsRefusedAndNothingTypedIsLost()
 {
     QVERIFY(addAnn());
     QVERIFY(windows->add(xmpp, here, ann, secret, {}, false));
     QCOMPARE(windows->list()->topLevelItemCount(), 1);
 }
 
-void tst_accounts_in_windows::passwordThatIsNotRememberedIsAskedFor()
+void tst_AccountsInWindows::passwordThatIsNotRememberedIsAskedFor()
 {
     const auto forget = [](QWidget *window) {
         KirvWindows::child<QAbstractButton>(window, "AddAccount_RememberPasswordCheckbox")->setChecked(false);
@@ -161,7 +161,7 @@ void tst_accounts_in_windows::passwordThatIsNotRememberedIsAskedFor()
     KIRV_TRY(isConnected(cy));
 }
 
-void tst_accounts_in_windows::wrongPasswordIsSaid()
+void tst_AccountsInWindows::wrongPasswordIsSaid()
 {
     QVERIFY(windows->add(xmpp, here, ann, QStringLiteral("mistyped")));
     KIRV_TRY_CONTAINS(windows->problem(ann), "password");
@@ -169,7 +169,7 @@ void tst_accounts_in_windows::wrongPasswordIsSaid()
     QVERIFY(!server.isOnline(QStringLiteral("ann")));
 }
 
-void tst_accounts_in_windows::serverThatIsNotThereIsSaid()
+void tst_AccountsInWindows::serverThatIsNotThereIsSaid()
 {
     const int nobody = KirvLocalServer::findFreePort();
     QVERIFY(windows->add(xmpp, here, ann, secret, [nobody](QWidget *window) {
@@ -179,7 +179,7 @@ void tst_accounts_in_windows::serverThatIsNotThereIsSaid()
     KIRV_TRY_CONTAINS(windows->state(ann), "waiting");
 }
 
-void tst_accounts_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
+void tst_AccountsInWindows::untrustedCertificateIsSaidAndCanBeTrusted()
 {
     qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
     QVERIFY(addAnn());
@@ -196,7 +196,7 @@ void tst_accounts_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
     KIRV_TRY(isConnected(ann));
 }
 
-void tst_accounts_in_windows::untickedOfflineAccountIsDisabledAtOnce()
+void tst_AccountsInWindows::untickedOfflineAccountIsDisabledAtOnce()
 {
     QVERIFY(windows->add(xmpp, here, ann, QStringLiteral("mistyped")));
     KIRV_TRY_CONTAINS(windows->problem(ann), "password");
@@ -206,7 +206,7 @@ void tst_accounts_in_windows::untickedOfflineAccountIsDisabledAtOnce()
     QVERIFY(!windows->account(ann)->isEnabled());
 }
 
-void tst_accounts_in_windows::untickedConnectedAccountIsAskedAbout()
+void tst_AccountsInWindows::untickedConnectedAccountIsAskedAbout()
 {
     QVERIFY(addAnn());
     KIRV_TRY(isConnected(ann));
@@ -230,7 +230,7 @@ void tst_accounts_in_windows::untickedConnectedAccountIsAskedAbout()
     QCOMPARE(windows->selector()->count(), 1);
 }
 
-void tst_accounts_in_windows::removedAccountLeavesNothingBehind()
+void tst_AccountsInWindows::removedAccountLeavesNothingBehind()
 {
     QVERIFY(addAnn());
     KIRV_TRY(isConnected(ann));
@@ -259,7 +259,7 @@ void tst_accounts_in_windows::removedAccountLeavesNothingBehind()
     QVERIFY(!windows->profileHolds(secret.toUtf8()));
 }
 
-void tst_accounts_in_windows::mainAccountIsFollowedAndRestored()
+void tst_AccountsInWindows::mainAccountIsFollowedAndRestored()
 {
     QVERIFY(addAnn());
     QVERIFY(windows->add(xmpp, here, bob, secret, [](QWidget *window) { remember(window); }));
@@ -275,7 +275,7 @@ void tst_accounts_in_windows::mainAccountIsFollowedAndRestored()
     KIRV_TRY(windows->selector()->currentText() == bob);
 }
 
-void tst_accounts_in_windows::protocolGoesAndComesWhileConnected()
+void tst_AccountsInWindows::protocolGoesAndComesWhileConnected()
 {
     QVERIFY(addAnn());
     KIRV_TRY(isConnected(ann));
@@ -290,7 +290,7 @@ void tst_accounts_in_windows::protocolGoesAndComesWhileConnected()
     KIRV_TRY(windows->selector()->count() == 1);
 }
 
-void tst_accounts_in_windows::protocolGoesWhileAnAccountIsEdited()
+void tst_AccountsInWindows::protocolGoesWhileAnAccountIsEdited()
 {
     QVERIFY(addAnn());
     KIRV_TRY(isConnected(ann));
@@ -302,7 +302,7 @@ void tst_accounts_in_windows::protocolGoesWhileAnAccountIsEdited()
     QVERIFY(windows->edit(ann));
 }
 
-void tst_accounts_in_windows::protocolGoesWhileAQuestionIsOpen()
+void tst_AccountsInWindows::protocolGoesWhileAQuestionIsOpen()
 {
     QVERIFY(addAnn());
     KIRV_TRY(isConnected(ann));
@@ -316,5 +316,5 @@ void tst_accounts_in_windows::protocolGoesWhileAQuestionIsOpen()
     KIRV_TRY(!server.isOnline(QStringLiteral("ann")));
 }
 
-QTEST_MAIN(tst_accounts_in_windows)
+QTEST_MAIN(tst_AccountsInWindows)
 #include "tst_accounts_in_windows.moc"

@@ -27,7 +27,7 @@ QString digestText(const QString &file)
 } // namespace
 
 /// Servers with certificates that nobody trusts, met through the windows.
-class tst_certificates_in_windows : public QObject {
+class tst_CertificatesInWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -69,7 +69,7 @@ private:
     std::unique_ptr<KirvWindows> windows;
 };
 
-void tst_certificates_in_windows::init()
+void tst_CertificatesInWindows::init()
 {
     qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
     ngircd.setEncrypted(true);
@@ -77,12 +77,12 @@ void tst_certificates_in_windows::init()
     QVERIFY(windows->start());
 }
 
-void tst_certificates_in_windows::cleanup()
+void tst_CertificatesInWindows::cleanup()
 {
     windows.reset();
 }
 
-bool tst_certificates_in_windows::startServer(bool isXmpp)
+bool tst_CertificatesInWindows::startServer(bool isXmpp)
 {
     if (!server(isXmpp).start())
         return false;
@@ -93,7 +93,7 @@ bool tst_certificates_in_windows::startServer(bool isXmpp)
     return prosody.hasUser(QStringLiteral("ann")) || prosody.addUser(QStringLiteral("ann"), secret);
 }
 
-bool tst_certificates_in_windows::add(bool isXmpp, const QString &login)
+bool tst_CertificatesInWindows::add(bool isXmpp, const QString &login)
 {
     const QString configuration = QStringLiteral("Server on this computer");
     return windows->add(
@@ -104,7 +104,7 @@ bool tst_certificates_in_windows::add(bool isXmpp, const QString &login)
         });
 }
 
-void tst_certificates_in_windows::certificateIsTrustedAndItsChangeIsAskedAbout_data()
+void tst_CertificatesInWindows::certificateIsTrustedAndItsChangeIsAskedAbout_data()
 {
     QTest::addColumn<bool>("isXmpp");
     QTest::addColumn<QString>("login");
@@ -112,7 +112,7 @@ void tst_certificates_in_windows::certificateIsTrustedAndItsChangeIsAskedAbout_d
     QTest::newRow("ngIRCd") << false << "alice";
 }
 
-void tst_certificates_in_windows::certificateIsTrustedAndItsChangeIsAskedAbout()
+void tst_CertificatesInWindows::certificateIsTrustedAndItsChangeIsAskedAbout()
 {
     QFETCH(bool, isXmpp);
     QFETCH(QString, login);
@@ -148,7 +148,7 @@ void tst_certificates_in_windows::certificateIsTrustedAndItsChangeIsAskedAbout()
     KIRV_TRY(isConnected(login));
 }
 
-void tst_certificates_in_windows::accountThatIsNotTrustedStaysOffLine()
+void tst_CertificatesInWindows::accountThatIsNotTrustedStaysOffLine()
 {
     const QString ann = QStringLiteral("ann@localhost");
     QVERIFY(startServer(true));
@@ -165,5 +165,5 @@ void tst_certificates_in_windows::accountThatIsNotTrustedStaysOffLine()
     QVERIFY(!question());
 }
 
-QTEST_MAIN(tst_certificates_in_windows)
+QTEST_MAIN(tst_CertificatesInWindows)
 #include "tst_certificates_in_windows.moc"

@@ -34,7 +34,7 @@ QXmppVCardIq entry(const QString &town, const QString &telephone)
 } // namespace
 
 /// The directory tab of the edit window, when a request fails, and what is published then.
-class tst_directory_in_windows : public QObject {
+class tst_DirectoryInWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -66,7 +66,7 @@ private:
     std::unique_ptr<KirvTestedAccount> account;
 };
 
-void tst_directory_in_windows::init()
+void tst_DirectoryInWindows::init()
 {
     server = std::make_unique<KirvScriptedSessionServer>();
     server->setCard(card);
@@ -76,21 +76,21 @@ void tst_directory_in_windows::init()
     account = std::make_unique<KirvTestedAccount>(*windows, ann);
 }
 
-void tst_directory_in_windows::cleanup()
+void tst_DirectoryInWindows::cleanup()
 {
     account.reset();
     windows.reset();
     server.reset();
 }
 
-void tst_directory_in_windows::failingFetches()
+void tst_DirectoryInWindows::failingFetches()
 {
     QTest::addColumn<int>("directory");
     QTest::newRow("refused") << int(KirvScriptedSessionServer::RefusesToRead);
     QTest::newRow("timed out") << int(KirvScriptedSessionServer::IsSilent);
 }
 
-bool tst_directory_in_windows::connectAccount()
+bool tst_DirectoryInWindows::connectAccount()
 {
     if (!account->create(secret, hereInClear))
         return false;
@@ -102,13 +102,13 @@ bool tst_directory_in_windows::connectAccount()
         kirvPatience);
 }
 
-bool tst_directory_in_windows::publishElsewhere(const KirvProsodyServer &prosody, const QXmppVCardIq &changed)
+bool tst_DirectoryInWindows::publishElsewhere(const KirvProsodyServer &prosody, const QXmppVCardIq &changed)
 {
     KirvObservingXmppClient otherClient;
     return otherClient.logIn(prosody, "ann") && otherClient.publish(changed);
 }
 
-QDialog *tst_directory_in_windows::editDirectory()
+QDialog *tst_DirectoryInWindows::editDirectory()
 {
     QDialog *window = account->openEditWindow();
     if (window)
@@ -116,7 +116,7 @@ QDialog *tst_directory_in_windows::editDirectory()
     return window;
 }
 
-bool tst_directory_in_windows::openFetched(QPointer<QDialog> *window)
+bool tst_DirectoryInWindows::openFetched(QPointer<QDialog> *window)
 {
     *window = editDirectory();
     return *window
@@ -128,7 +128,7 @@ bool tst_directory_in_windows::openFetched(QPointer<QDialog> *window)
             kirvPatience);
 }
 
-void tst_directory_in_windows::failedFetchKeepsTheFieldsLocked()
+void tst_DirectoryInWindows::failedFetchKeepsTheFieldsLocked()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
@@ -146,7 +146,7 @@ void tst_directory_in_windows::failedFetchKeepsTheFieldsLocked()
     QCOMPARE(KirvTestedAccount::directoryStatus(window), QString());
 }
 
-void tst_directory_in_windows::savingAfterAFailedFetchPublishesNothing()
+void tst_DirectoryInWindows::savingAfterAFailedFetchPublishesNothing()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
@@ -169,7 +169,7 @@ void tst_directory_in_windows::savingAfterAFailedFetchPublishesNothing()
     QCOMPARE(KirvTestedAccount::directoryText(window, "telephone"), QString("1234"));
 }
 
-void tst_directory_in_windows::onlyTheChangedFieldIsPublished()
+void tst_DirectoryInWindows::onlyTheChangedFieldIsPublished()
 {
     QVERIFY(connectAccount());
     QPointer<QDialog> window;
@@ -180,7 +180,7 @@ void tst_directory_in_windows::onlyTheChangedFieldIsPublished()
     QCOMPARE(server->storedCard(), QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
-void tst_directory_in_windows::changedFieldIsPublishedOverAFreshCopy()
+void tst_DirectoryInWindows::changedFieldIsPublishedOverAFreshCopy()
 {
     KirvProsodyServer prosody;
     QVERIFY2(prosody.start() && prosody.addUser("ann", secret) && prosody.addUser("juliet", secret),
@@ -205,14 +205,14 @@ void tst_directory_in_windows::changedFieldIsPublishedOverAFreshCopy()
     QCOMPARE(seen.description(), QString("About me"));
 }
 
-void tst_directory_in_windows::failedPublicationLosesNothing_data()
+void tst_DirectoryInWindows::failedPublicationLosesNothing_data()
 {
     QTest::addColumn<int>("directory");
     QTest::newRow("refused") << int(KirvScriptedSessionServer::RefusesToPublish);
     QTest::newRow("timed out") << int(KirvScriptedSessionServer::IgnoresPublications);
 }
 
-void tst_directory_in_windows::failedPublicationLosesNothing()
+void tst_DirectoryInWindows::failedPublicationLosesNothing()
 {
     QFETCH(int, directory);
     QVERIFY(connectAccount());
@@ -236,7 +236,7 @@ void tst_directory_in_windows::failedPublicationLosesNothing()
     KIRV_TRY(server->storedCard() == QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
-void tst_directory_in_windows::refusedSavePublishesNothingAndLosesNothing()
+void tst_DirectoryInWindows::refusedSavePublishesNothingAndLosesNothing()
 {
     QVERIFY(connectAccount());
     QPointer<QDialog> window = account->openEditWindow();
@@ -262,5 +262,5 @@ void tst_directory_in_windows::refusedSavePublishesNothingAndLosesNothing()
     QCOMPARE(server->storedCard(), QByteArray(card).replace("Berlin", "Potsdam"));
 }
 
-QTEST_MAIN(tst_directory_in_windows)
+QTEST_MAIN(tst_DirectoryInWindows)
 #include "tst_directory_in_windows.moc"

@@ -247,8 +247,8 @@ private:
 
 } // namespace
 
-/// What a person does in the window of an account, against a real server and before the eyes of another person.
-class tst_editing_in_windows : public QObject {
+/// What a user does in the window of an account, against a real server and before the eyes of another user.
+class tst_EditingInWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -362,7 +362,7 @@ private:
     std::unique_ptr<KirvWindows> windows;
 };
 
-void tst_editing_in_windows::initTestCase()
+void tst_EditingInWindows::initTestCase()
 {
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     for (const char *user : { "ann", "bob", "juliet" })
@@ -373,7 +373,7 @@ void tst_editing_in_windows::initTestCase()
     QVERIFY(friendOfAnn.logIn(server, "juliet", secret) && friendOfAnn.befriend(server, "ann", secret));
 }
 
-void tst_editing_in_windows::init()
+void tst_EditingInWindows::init()
 {
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     juliet = std::make_unique<KirvObservingXmppClient>();
@@ -383,13 +383,13 @@ void tst_editing_in_windows::init()
     QVERIFY(windows->start());
 }
 
-void tst_editing_in_windows::cleanup()
+void tst_EditingInWindows::cleanup()
 {
     windows.reset();
     juliet.reset();
 }
 
-void tst_editing_in_windows::windowOpensFilledIn_data()
+void tst_EditingInWindows::windowOpensFilledIn_data()
 {
     QTest::addColumn<Open>("open");
     QTest::newRow("double click") << Open([](KirvWindows &windows) { return windows.edit(ann); });
@@ -405,7 +405,7 @@ void tst_editing_in_windows::windowOpensFilledIn_data()
     });
 }
 
-void tst_editing_in_windows::windowOpensFilledIn()
+void tst_EditingInWindows::windowOpensFilledIn()
 {
     QFETCH(Open, open);
     QVERIFY(add(ann));
@@ -429,7 +429,7 @@ void tst_editing_in_windows::windowOpensFilledIn()
     QCOMPARE(part<QTabWidget>(window, "EditAccount_Tabs")->count(), 2);
 }
 
-void tst_editing_in_windows::unusualTextsAreShownAndStoredAsTheyAre_data()
+void tst_EditingInWindows::unusualTextsAreShownAndStoredAsTheyAre_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("plain") << "Ann at home";
@@ -441,7 +441,7 @@ void tst_editing_in_windows::unusualTextsAreShownAndStoredAsTheyAre_data()
     QTest::newRow("format") << "%1 %2 &x";
 }
 
-void tst_editing_in_windows::unusualTextsAreShownAndStoredAsTheyAre()
+void tst_EditingInWindows::unusualTextsAreShownAndStoredAsTheyAre()
 {
     QFETCH(QString, text);
     QVERIFY(add(ann));
@@ -462,7 +462,7 @@ void tst_editing_in_windows::unusualTextsAreShownAndStoredAsTheyAre()
     QCOMPARE(description(window)->toPlainText(), text);
 }
 
-void tst_editing_in_windows::whatIsRestoredGreysOutWhatItOverrides()
+void tst_EditingInWindows::whatIsRestoredGreysOutWhatItOverrides()
 {
     QVERIFY(add(ann));
     goTo("dnd", "Writing");
@@ -490,7 +490,7 @@ void tst_editing_in_windows::whatIsRestoredGreysOutWhatItOverrides()
     QVERIFY(!presence(window)->isEnabled() && !description(window)->isEnabled());
 }
 
-void tst_editing_in_windows::wrongPasswordLogsOutAndTheRightOneLogsIn()
+void tst_EditingInWindows::wrongPasswordLogsOutAndTheRightOneLogsIn()
 {
     QVERIFY(add(ann));
     QDialog *window = windows->edit(ann);
@@ -511,7 +511,7 @@ void tst_editing_in_windows::wrongPasswordLogsOutAndTheRightOneLogsIn()
     QCOMPARE(windows->problem(ann), QString());
 }
 
-void tst_editing_in_windows::savingKeepsTheConnectionOfAnAccountWhosePasswordIsNotRemembered()
+void tst_EditingInWindows::savingKeepsTheConnectionOfAnAccountWhosePasswordIsNotRemembered()
 {
     QVERIFY(add(ann, false));
     const QDateTime since = windows->account(ann)->connection()->since();
@@ -527,7 +527,7 @@ void tst_editing_in_windows::savingKeepsTheConnectionOfAnAccountWhosePasswordIsN
     QVERIFY(!windows->profileHolds(secret.toUtf8()));
 }
 
-void tst_editing_in_windows::changedSettingsMakeOneReconnection()
+void tst_EditingInWindows::changedSettingsMakeOneReconnection()
 {
     QVERIFY(add(ann));
     QDialog *window = windows->edit(ann);
@@ -543,7 +543,7 @@ void tst_editing_in_windows::changedSettingsMakeOneReconnection()
     QCOMPARE(logIns, 1);
 }
 
-void tst_editing_in_windows::cancelWritesNothingButThePicture_data()
+void tst_EditingInWindows::cancelWritesNothingButThePicture_data()
 {
     QTest::addColumn<Leave>("leave");
     QTest::newRow("Cancel") << Leave([](QDialog *window) { KirvWindowDriver::click(cancelButton(window)); });
@@ -552,7 +552,7 @@ void tst_editing_in_windows::cancelWritesNothingButThePicture_data()
     QTest::newRow("closed") << Leave([](QDialog *window) { window->close(); });
 }
 
-void tst_editing_in_windows::cancelWritesNothingButThePicture()
+void tst_EditingInWindows::cancelWritesNothingButThePicture()
 {
     QFETCH(Leave, leave);
     QVERIFY(add(ann));
@@ -585,7 +585,7 @@ void tst_editing_in_windows::cancelWritesNothingButThePicture()
     QVERIFY(QFile::exists(windows->account(ann)->getCurrentAvatarPath()));
 }
 
-void tst_editing_in_windows::pickedPictureIsSeenByOthersAndSurvivesItsFile()
+void tst_EditingInWindows::pickedPictureIsSeenByOthersAndSurvivesItsFile()
 {
     QVERIFY(add(ann));
     const QRgb red = qRgb(200, 10, 20);
@@ -611,7 +611,7 @@ void tst_editing_in_windows::pickedPictureIsSeenByOthersAndSurvivesItsFile()
     QCOMPARE(shown.pixel(shown.rect().center()), red);
 }
 
-void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused_data()
+void tst_EditingInWindows::pictureThatCannotBeUsedIsRefused_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
@@ -635,7 +635,7 @@ void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused_data()
     QTest::newRow("not there") << files.filePath("nowhere.png") << "cannot be read";
 }
 
-void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused()
+void tst_EditingInWindows::pictureThatCannotBeUsedIsRefused()
 {
     QFETCH(QString, path);
     QFETCH(QString, reason);
@@ -664,7 +664,7 @@ void tst_editing_in_windows::pictureThatCannotBeUsedIsRefused()
     QCOMPARE(hashOf(juliet->vCardOf(ann).photo()), hash);
 }
 
-void tst_editing_in_windows::pictureThatVanishedIsSaid()
+void tst_EditingInWindows::pictureThatVanishedIsSaid()
 {
     QVERIFY(add(ann));
     QDialog *window = windows->edit(ann);
@@ -683,7 +683,7 @@ void tst_editing_in_windows::pictureThatVanishedIsSaid()
     QVERIFY(isConnected(ann));
 }
 
-void tst_editing_in_windows::entryComesFromTheServerAndGoesThere()
+void tst_EditingInWindows::entryComesFromTheServerAndGoesThere()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -701,7 +701,7 @@ void tst_editing_in_windows::entryComesFromTheServerAndGoesThere()
     QCOMPARE(windows->problem(ann), QString());
 }
 
-void tst_editing_in_windows::entryIsFetchedAgain()
+void tst_EditingInWindows::entryIsFetchedAgain()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -714,7 +714,7 @@ void tst_editing_in_windows::entryIsFetchedAgain()
     KIRV_TRY(!isLocked(window) && shownEntry(window) == fullEntry("2"));
 }
 
-void tst_editing_in_windows::entryStaysWhenOnlyTheAccountIsChanged()
+void tst_EditingInWindows::entryStaysWhenOnlyTheAccountIsChanged()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -730,7 +730,7 @@ void tst_editing_in_windows::entryStaysWhenOnlyTheAccountIsChanged()
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
 
-void tst_editing_in_windows::entryStaysWhenSavedBeforeItCame()
+void tst_EditingInWindows::entryStaysWhenSavedBeforeItCame()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -748,7 +748,7 @@ void tst_editing_in_windows::entryStaysWhenSavedBeforeItCame()
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
 
-void tst_editing_in_windows::entryIsDeletedAfterAQuestion()
+void tst_EditingInWindows::entryIsDeletedAfterAQuestion()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -774,7 +774,7 @@ void tst_editing_in_windows::entryIsDeletedAfterAQuestion()
     QCOMPARE(shownEntry(window), entryOf(QXmppVCardIq()));
 }
 
-void tst_editing_in_windows::veryLongEntryOfTheServerIsKept()
+void tst_EditingInWindows::veryLongEntryOfTheServerIsKept()
 {
     QVERIFY(add(ann));
     Entry entry = fullEntry("1");
@@ -789,7 +789,7 @@ void tst_editing_in_windows::veryLongEntryOfTheServerIsKept()
     KIRV_TRY(seenEntry() == entry);
 }
 
-void tst_editing_in_windows::tooLongEntryIsRefused()
+void tst_EditingInWindows::tooLongEntryIsRefused()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -807,14 +807,14 @@ void tst_editing_in_windows::tooLongEntryIsRefused()
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
 
-void tst_editing_in_windows::fieldsAreLockedUntilTheAccountIsConnected_data()
+void tst_EditingInWindows::fieldsAreLockedUntilTheAccountIsConnected_data()
 {
     QTest::addColumn<bool>("isDisabled");
     QTest::newRow("off line") << false;
     QTest::newRow("disabled") << true;
 }
 
-void tst_editing_in_windows::fieldsAreLockedUntilTheAccountIsConnected()
+void tst_EditingInWindows::fieldsAreLockedUntilTheAccountIsConnected()
 {
     QFETCH(bool, isDisabled);
     QVERIFY(add(ann));
@@ -840,7 +840,7 @@ void tst_editing_in_windows::fieldsAreLockedUntilTheAccountIsConnected()
     QCOMPARE(status(window), QString());
 }
 
-void tst_editing_in_windows::fieldsAreLockedWhileTheServerIsAsked()
+void tst_EditingInWindows::fieldsAreLockedWhileTheServerIsAsked()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -856,7 +856,7 @@ void tst_editing_in_windows::fieldsAreLockedWhileTheServerIsAsked()
     QCOMPARE(status(window), QString());
 }
 
-void tst_editing_in_windows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
+void tst_EditingInWindows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -876,7 +876,7 @@ void tst_editing_in_windows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
     QCOMPARE(shownEntry(window), fullEntry("1"));
 }
 
-void tst_editing_in_windows::serverThatDoesNotAnswerIsSaid()
+void tst_EditingInWindows::serverThatDoesNotAnswerIsSaid()
 {
     QVERIFY(add(ann));
     hurry();
@@ -890,7 +890,7 @@ void tst_editing_in_windows::serverThatDoesNotAnswerIsSaid()
     QVERIFY(isConnected(ann));
 }
 
-void tst_editing_in_windows::serverKilledWhilePublishing()
+void tst_EditingInWindows::serverKilledWhilePublishing()
 {
     QVERIFY(add(ann));
     QVERIFY(publishElsewhere(fullEntry("1")));
@@ -921,7 +921,7 @@ void tst_editing_in_windows::serverKilledWhilePublishing()
     QCOMPARE(shownEntry(window), entry);
 }
 
-void tst_editing_in_windows::windowGoesWithWhatItEdits_data()
+void tst_EditingInWindows::windowGoesWithWhatItEdits_data()
 {
     QTest::addColumn<Go>("go");
     QTest::newRow("account") << Go([](KirvWindows &) { KirvAccountManager::getInstance()->removeAccount(ann, xmpp); });
@@ -930,7 +930,7 @@ void tst_editing_in_windows::windowGoesWithWhatItEdits_data()
     QTest::newRow("client") << Go([](KirvWindows &windows) { windows.quit(); });
 }
 
-void tst_editing_in_windows::windowGoesWithWhatItEdits()
+void tst_EditingInWindows::windowGoesWithWhatItEdits()
 {
     QFETCH(Go, go);
     QVERIFY(add(ann));
@@ -952,7 +952,7 @@ void tst_editing_in_windows::windowGoesWithWhatItEdits()
     KIRV_TRY(!server.isOnline("ann"));
 }
 
-void tst_editing_in_windows::stripLeavesOneWindow()
+void tst_EditingInWindows::stripLeavesOneWindow()
 {
     QVERIFY(add(ann) && add(bob));
     QVERIFY(windows->edit(ann));
@@ -976,5 +976,5 @@ void tst_editing_in_windows::stripLeavesOneWindow()
     QCOMPARE(windows->row(ann)->text(0), ann);
 }
 
-QTEST_MAIN(tst_editing_in_windows)
+QTEST_MAIN(tst_EditingInWindows)
 #include "tst_editing_in_windows.moc"

@@ -21,7 +21,7 @@ const QString secret = QStringLiteral("secret");
 } // namespace
 
 /// Layouts of the user's own, whose top widgets are not named as those of the built-in ones are.
-class tst_foreign_layouts : public QObject {
+class tst_ForeignLayouts : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -57,7 +57,7 @@ private:
     std::unique_ptr<KirvTestedAccount> account;
 };
 
-void tst_foreign_layouts::initTestCase()
+void tst_ForeignLayouts::initTestCase()
 {
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     for (const char *user : { "ann", "juliet" })
@@ -66,7 +66,7 @@ void tst_foreign_layouts::initTestCase()
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", server.certificatePath().toLocal8Bit());
 }
 
-void tst_foreign_layouts::init()
+void tst_ForeignLayouts::init()
 {
     juliet = std::make_unique<KirvObservingXmppClient>();
     QVERIFY(juliet->logIn(server, "juliet"));
@@ -80,14 +80,14 @@ void tst_foreign_layouts::init()
     account = std::make_unique<KirvTestedAccount>(*windows, ann);
 }
 
-void tst_foreign_layouts::cleanup()
+void tst_ForeignLayouts::cleanup()
 {
     account.reset();
     windows.reset();
     juliet.reset();
 }
 
-void tst_foreign_layouts::editLayouts()
+void tst_ForeignLayouts::editLayouts()
 {
     QTest::addColumn<QString>("topName");
     QTest::newRow("its own") << "EditAccount";
@@ -96,7 +96,7 @@ void tst_foreign_layouts::editLayouts()
     QTest::newRow("a child's") << "EditAccount_Alias";
 }
 
-void tst_foreign_layouts::addLayouts()
+void tst_ForeignLayouts::addLayouts()
 {
     QTest::addColumn<QString>("topName");
     QTest::newRow("its own") << "AddAccount";
@@ -104,7 +104,7 @@ void tst_foreign_layouts::addLayouts()
     QTest::newRow("another layout's") << "EditAccount";
 }
 
-QDialog *tst_foreign_layouts::edit(const QString &topName)
+QDialog *tst_ForeignLayouts::edit(const QString &topName)
 {
     const bool isReady = KirvTestedAccount::replaceLayout(*windows, "EditAccount", topName)
         && account->create(secret, here, "available")
@@ -112,7 +112,7 @@ QDialog *tst_foreign_layouts::edit(const QString &topName)
     return isReady ? account->openEditWindow() : nullptr;
 }
 
-bool tst_foreign_layouts::unloadWhileAdding(const QString &topName, const std::function<void(QDialog *)> &then)
+bool tst_ForeignLayouts::unloadWhileAdding(const QString &topName, const std::function<void(QDialog *)> &then)
 {
     if (!KirvTestedAccount::replaceLayout(*windows, "AddAccount", topName))
         return false;
@@ -148,7 +148,7 @@ bool tst_foreign_layouts::unloadWhileAdding(const QString &topName, const std::f
     return walk.run() && isUnloaded;
 }
 
-void tst_foreign_layouts::savingWithoutAChangePublishesNothing()
+void tst_ForeignLayouts::savingWithoutAChangePublishesNothing()
 {
     QFETCH(QString, topName);
     QDialog *window = edit(topName);
@@ -167,7 +167,7 @@ void tst_foreign_layouts::savingWithoutAChangePublishesNothing()
     QCOMPARE(KirvTestedAccount::directoryText(window, "fullname"), QString("Ann Example"));
 }
 
-void tst_foreign_layouts::editWindowGoesWithItsAccount()
+void tst_ForeignLayouts::editWindowGoesWithItsAccount()
 {
     QFETCH(QString, topName);
     const QPointer<QDialog> window = edit(topName);
@@ -176,7 +176,7 @@ void tst_foreign_layouts::editWindowGoesWithItsAccount()
     KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
-void tst_foreign_layouts::editWindowGoesWithItsProtocol()
+void tst_ForeignLayouts::editWindowGoesWithItsProtocol()
 {
     QFETCH(QString, topName);
     const QPointer<QDialog> window = edit(topName);
@@ -185,7 +185,7 @@ void tst_foreign_layouts::editWindowGoesWithItsProtocol()
     KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
-void tst_foreign_layouts::usingTheEditWindowAfterItsProtocolDoesNoHarm()
+void tst_ForeignLayouts::usingTheEditWindowAfterItsProtocolDoesNoHarm()
 {
     QFETCH(QString, topName);
     const QPointer<QDialog> window = edit(topName);
@@ -205,13 +205,13 @@ void tst_foreign_layouts::usingTheEditWindowAfterItsProtocolDoesNoHarm()
     QCOMPARE(juliet->vCardOf(ann).fullName(), QString("Ann Example"));
 }
 
-void tst_foreign_layouts::addWindowGoesWithItsProtocol()
+void tst_ForeignLayouts::addWindowGoesWithItsProtocol()
 {
     QFETCH(QString, topName);
     QVERIFY(unloadWhileAdding(topName));
 }
 
-void tst_foreign_layouts::usingTheAddWindowAfterItsProtocolDoesNoHarm()
+void tst_ForeignLayouts::usingTheAddWindowAfterItsProtocolDoesNoHarm()
 {
     QFETCH(QString, topName);
     const QString fileName = windows->pluginFile(xmpp);
@@ -220,5 +220,5 @@ void tst_foreign_layouts::usingTheAddWindowAfterItsProtocolDoesNoHarm()
     QVERIFY(!KirvTestedAccount(*windows, bob).isThere());
 }
 
-QTEST_MAIN(tst_foreign_layouts)
+QTEST_MAIN(tst_ForeignLayouts)
 #include "tst_foreign_layouts.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_tls_irc_server.h"
 
 #include <QFile>
@@ -12,8 +13,6 @@
 #include <sys/stat.h>
 
 namespace {
-
-const int patience = 15000;
 
 using Values = QMap<QString, QString>;
 
@@ -46,7 +45,7 @@ KirvTlsIrcServer::Script external(const QByteArray &judgement, const QByteArray 
 } // namespace
 
 /// Logging in with a certificate of one's own.
-class TestIrcClientCertificate : public QObject {
+class tst_IrcClientCertificate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -85,7 +84,7 @@ private:
     std::unique_ptr<QSignalSpy> notices;
 };
 
-void TestIrcClientCertificate::initTestCase()
+void tst_IrcClientCertificate::initTestCase()
 {
     const QStringList ec { "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1" };
     QVERIFY(createCertificate(path("server.pem"), path("server.key"), ec));
@@ -106,18 +105,18 @@ void TestIrcClientCertificate::initTestCase()
     QCOMPARE(mkfifo(QFile::encodeName(path("pipe.key")), 0600), 0);
 }
 
-void TestIrcClientCertificate::init()
+void tst_IrcClientCertificate::init()
 {
     connection = std::make_unique<KirvIrcConnection>();
     notices = std::make_unique<QSignalSpy>(connection.get(), &KirvConnection::noticeReceived);
 }
 
-void TestIrcClientCertificate::serve(KirvTlsIrcServer::Script script)
+void tst_IrcClientCertificate::serve(KirvTlsIrcServer::Script script)
 {
     server = std::make_unique<KirvTlsIrcServer>(path("server.pem"), path("server.key"), std::move(script));
 }
 
-void TestIrcClientCertificate::logIn(const Values &values)
+void tst_IrcClientCertificate::logIn(const Values &values)
 {
     Values all = values;
     all.insert("server", "127.0.0.1");
@@ -136,7 +135,7 @@ void TestIrcClientCertificate::logIn(const Values &values)
     connection->logIn(login, { QStringLiteral("available"), QString(), QString() });
 }
 
-void TestIrcClientCertificate::certificateLogsIn_data()
+void tst_IrcClientCertificate::certificateLogsIn_data()
 {
     QTest::addColumn<QString>("certificate");
     QTest::addColumn<QString>("key");
@@ -155,7 +154,7 @@ void TestIrcClientCertificate::certificateLogsIn_data()
                                              << "sasl";
 }
 
-void TestIrcClientCertificate::certificateLogsIn()
+void tst_IrcClientCertificate::certificateLogsIn()
 {
     QFETCH(QString, certificate);
     QFETCH(QString, key);
@@ -164,7 +163,7 @@ void TestIrcClientCertificate::certificateLogsIn()
     logIn({ { "client_certificate", path(certificate) },
             { "client_key", key.isEmpty() ? key : path(key) },
             { "password_use", passwordUse } });
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
     QCOMPARE(server->clientCertificate(), QSslCertificate::fromPath(path(certificate)).value(0));
     QVERIFY(server->receivedLines().contains("AUTHENTICATE EXTERNAL"));
     QVERIFY(server->receivedLines().contains("AUTHENTICATE +"));
@@ -173,26 +172,26 @@ void TestIrcClientCertificate::certificateLogsIn()
     QVERIFY(notices->isEmpty());
 }
 
-void TestIrcClientCertificate::unknownCertificateIsRefused()
+void tst_IrcClientCertificate::unknownCertificateIsRefused()
 {
     serve(external("904"));
     logIn(client("ec"));
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AccessDenied, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AccessDenied, kirvPatience);
     QVERIFY2(failure().text().contains("certificate"), qPrintable(failure().text()));
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcClientCertificate::otherMechanismsAreNotUsedInstead()
+void tst_IrcClientCertificate::otherMechanismsAreNotUsedInstead()
 {
     serve(external("903", "sasl=PLAIN"));
     Values values = client("ec");
     values.insert("password_use", "sasl");
     logIn(values);
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AuthenticationNotOffered, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::AuthenticationNotOffered, kirvPatience);
     QVERIFY(!server->receivedLines().join('\n').contains("AUTHENTICATE"));
 }
 
-void TestIrcClientCertificate::unusableFilesAreTold_data()
+void tst_IrcClientCertificate::unusableFilesAreTold_data()
 {
     QTest::addColumn<Values>("values");
     QTest::addColumn<QString>("named");
@@ -213,27 +212,27 @@ void TestIrcClientCertificate::unusableFilesAreTold_data()
     QTest::newRow("no encryption") << plain << "encryption";
 }
 
-void TestIrcClientCertificate::unusableFilesAreTold()
+void tst_IrcClientCertificate::unusableFilesAreTold()
 {
     QFETCH(Values, values);
     QFETCH(QString, named);
     serve(external("903"));
     logIn(values);
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, kirvPatience);
     QVERIFY2(failure().detail().contains(named), qPrintable(failure().detail()));
     QCOMPARE(connection->state(), KirvConnection::Offline);
     QVERIFY(server->receivedLines().isEmpty());
 }
 
-void TestIrcClientCertificate::keyOfAnotherCertificateIsTold()
+void tst_IrcClientCertificate::keyOfAnotherCertificateIsTold()
 {
     serve(external("903"));
     logIn({ { "client_certificate", path("ec.pem") }, { "client_key", path("rsa.key") } });
-    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::BadSettings, kirvPatience);
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcClientCertificate::keyThatOthersCanReadIsTold_data()
+void tst_IrcClientCertificate::keyThatOthersCanReadIsTold_data()
 {
     QTest::addColumn<int>("permissions");
     QTest::addColumn<bool>("isTold");
@@ -243,7 +242,7 @@ void TestIrcClientCertificate::keyThatOthersCanReadIsTold_data()
     QTest::newRow("all read") << (owner | QFile::ReadOther) << true;
 }
 
-void TestIrcClientCertificate::keyThatOthersCanReadIsTold()
+void tst_IrcClientCertificate::keyThatOthersCanReadIsTold()
 {
     QFETCH(int, permissions);
     QFETCH(bool, isTold);
@@ -253,30 +252,30 @@ void TestIrcClientCertificate::keyThatOthersCanReadIsTold()
     serve(external("903"));
     for (int visit = 0; visit < 2; ++visit) {
         logIn({ { "client_certificate", path("ec.pem") }, { "client_key", key } });
-        QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+        QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
         QCOMPARE(notices->size(), isTold ? 1 : 0); // once is enough
         connection->drop();
     }
     QVERIFY(!isTold || notices->at(0).at(0).toString().contains("copy.key"));
 }
 
-void TestIrcClientCertificate::protectionOfTheSessionIsKnown()
+void tst_IrcClientCertificate::protectionOfTheSessionIsKnown()
 {
     serve(external("903"));
     QCOMPARE(connection->securityText(), QString());
     logIn(client("ec"));
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
     QVERIFY2(connection->securityText().startsWith("TLS"), qPrintable(connection->securityText()));
     QVERIFY(connection->securityText().endsWith("SASL EXTERNAL"));
     connection->drop();
     QCOMPARE(connection->securityText(), QString());
 
     logIn({ { "password_use", "sasl" } });
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isOnline(), qPrintable(failure().text()), kirvPatience);
     QVERIFY(connection->securityText().endsWith("SASL PLAIN"));
 }
 
-void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data()
+void tst_IrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data()
 {
     QTest::addColumn<QString>("own");
     QTest::addColumn<QString>("ofSystem");
@@ -289,7 +288,7 @@ void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems_data
                                << "ec.pem" << false;
 }
 
-void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
+void tst_IrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
 {
     QFETCH(QString, own);
     QFETCH(QString, ofSystem);
@@ -298,14 +297,14 @@ void TestIrcClientCertificate::trustedCertificateIsTrustedBesidesTheSystems()
     connection = std::make_unique<KirvIrcConnection>(KirvClock::system(), nullptr, system);
     serve([](const QByteArray &line) { return line.startsWith("USER ") ? ":server 001 alice :Welcome\r\n" : ""; });
     logIn({ { "certificate", path(own) } });
-    QTRY_VERIFY_WITH_TIMEOUT(isOnline() || failure().isFailure(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(isOnline() || failure().isFailure(), kirvPatience);
     QVERIFY2(isOnline() == isTrusted, qPrintable(failure().text()));
     if (!isTrusted)
         QCOMPARE(failure().kind(), KirvFailure::UntrustedCertificate);
     connection.reset(); // it ends before the certificates do
 }
 
-void TestIrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesNotConnect()
+void tst_IrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesNotConnect()
 {
     KirvSystemCertificates system([&] { return QSslCertificate::fromPath(path("server.pem")); });
     connection = std::make_unique<KirvIrcConnection>(KirvClock::system(), nullptr, system);
@@ -314,11 +313,11 @@ void TestIrcClientCertificate::logInThatIsLeftBeforeTheCertificatesAreThereDoesN
     connection->drop();
     bool areRead = false;
     system.request(this, [&areRead](const QList<QSslCertificate> &) { areRead = true; });
-    QTRY_VERIFY_WITH_TIMEOUT(areRead, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(areRead, kirvPatience);
     QCOMPARE(connection->state(), KirvConnection::Offline);
     QVERIFY(!server->waitForNewConnection(0));
     connection.reset();
 }
 
-QTEST_GUILESS_MAIN(TestIrcClientCertificate)
+QTEST_GUILESS_MAIN(tst_IrcClientCertificate)
 #include "tst_irc_client_certificate.moc"

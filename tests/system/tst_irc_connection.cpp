@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_observing_irc_client.h"
 #include "tests/support/servers/kirv_plugin_profile.h"
 #include "tests/support/servers/kirv_scripted_irc_server.h"
@@ -74,7 +75,7 @@ KirvScriptedIrcServer::Script saslServer(const QByteArray &judgement,
 } // namespace
 
 /// The IRC plug-in in our core, against a real server where that can do it, and a scripted one where it cannot.
-class TestIrcConnection : public QObject {
+class tst_IrcConnection : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -146,26 +147,26 @@ private:
     KirvProtocolBase *protocol = nullptr; ///< of the profile
 };
 
-void TestIrcConnection::init()
+void tst_IrcConnection::init()
 {
     profile = std::make_unique<KirvPluginProfile>(KIRV_IRC_PLUGIN, "IRC");
     QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
     protocol = profile->protocol();
 }
 
-void TestIrcConnection::cleanup()
+void tst_IrcConnection::cleanup()
 {
     profile.reset();
 }
 
-KirvAccount *TestIrcConnection::createAccount(const KirvLocalServer &server, Values values, const QString &password)
+KirvAccount *tst_IrcConnection::createAccount(const KirvLocalServer &server, Values values, const QString &password)
 {
     values.insert("server", server.host());
     values.insert("port", QString::number(server.port()));
     return profile->createAccount("alice", values, password);
 }
 
-KirvAccount *TestIrcConnection::createAccount(const QTcpServer &server, Values values, const QString &password)
+KirvAccount *tst_IrcConnection::createAccount(const QTcpServer &server, Values values, const QString &password)
 {
     values.insert("server", server.serverAddress().toString());
     values.insert("port", QString::number(server.serverPort()));
@@ -173,14 +174,14 @@ KirvAccount *TestIrcConnection::createAccount(const QTcpServer &server, Values v
 }
 
 template <class Server>
-KirvAccount *TestIrcConnection::logIn(const Server &server)
+KirvAccount *tst_IrcConnection::logIn(const Server &server)
 {
     KirvAccount *account = createAccount(server, plain());
     profile->goTo(account, "available");
     return QTest::qWaitFor([account] { return account->isOnline(); }, kirvPatience) ? account : nullptr;
 }
 
-void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork_data()
+void tst_IrcConnection::loginsAreNicksWithAnOptionalNetwork_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<bool>("matches");
@@ -198,14 +199,14 @@ void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork_data()
     QTest::newRow("line break") << "alice\r\nQUIT" << false;
 }
 
-void TestIrcConnection::loginsAreNicksWithAnOptionalNetwork()
+void tst_IrcConnection::loginsAreNicksWithAnOptionalNetwork()
 {
     QFETCH(QString, login);
     const QRegularExpression pattern(QRegularExpression::anchoredPattern(protocol->getLoginPattern()));
     QTEST(pattern.match(login).hasMatch(), "matches");
 }
 
-void TestIrcConnection::configurationsFillTheForm()
+void tst_IrcConnection::configurationsFillTheForm()
 {
     QVERIFY(protocol->getConfigurations().size() >= 5);
     const int expected = protocol->accountSettings().size();
@@ -223,7 +224,7 @@ void TestIrcConnection::configurationsFillTheForm()
     QVERIFY(protocol->getConfigurationFields("Nowhere").isEmpty());
 }
 
-void TestIrcConnection::localConfigurationKnowsThePortOfTheDemo()
+void tst_IrcConnection::localConfigurationKnowsThePortOfTheDemo()
 {
     qputenv("KIRV_IRC_LOCAL_PORT", "12345");
     const QList<KirvField> fields = protocol->getConfigurationFields(protocol->getConfigurations().last());
@@ -232,13 +233,13 @@ void TestIrcConnection::localConfigurationKnowsThePortOfTheDemo()
     QCOMPARE(fields.at(1).getText(), QString("12345"));
 }
 
-void TestIrcConnection::thereIsNoDirectory()
+void tst_IrcConnection::thereIsNoDirectory()
 {
     QVERIFY(protocol->getPubdirAccountFields().isEmpty());
     QVERIFY(!QFile::exists("irc.svg") && QFile::exists(protocol->getIconPath(0)));
 }
 
-void TestIrcConnection::unusableSettingsAreSaid_data()
+void tst_IrcConnection::unusableSettingsAreSaid_data()
 {
     QTest::addColumn<Values>("values");
     const Values local { { "server", "127.0.0.1" } };
@@ -255,7 +256,7 @@ void TestIrcConnection::unusableSettingsAreSaid_data()
     QTest::newRow("certificate is none") << with("certificate", KIRV_IRC_PLUGIN);
 }
 
-void TestIrcConnection::unusableSettingsAreSaid()
+void tst_IrcConnection::unusableSettingsAreSaid()
 {
     QFETCH(Values, values);
     KirvAccount *account = profile->createAccount("alice", values);
@@ -265,27 +266,27 @@ void TestIrcConnection::unusableSettingsAreSaid()
     QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
 }
 
-void TestIrcConnection::loginsThatCannotWorkMakeNoAccount_data()
+void tst_IrcConnection::loginsThatCannotWorkMakeNoAccount_data()
 {
     QTest::addColumn<QString>("login");
     QTest::newRow("nick that is none") << "9 lives";
     QTest::newRow("nick of two lines") << "alice\r\nQUIT";
 }
 
-void TestIrcConnection::loginsThatCannotWorkMakeNoAccount()
+void tst_IrcConnection::loginsThatCannotWorkMakeNoAccount()
 {
     QFETCH(QString, login);
     QVERIFY(!profile->createAccount(login, {}));
 }
 
-void TestIrcConnection::logsInAndOut_data()
+void tst_IrcConnection::logsInAndOut_data()
 {
     QTest::addColumn<bool>("encrypted");
     QTest::newRow("plain") << false;
     QTest::newRow("TLS") << true;
 }
 
-void TestIrcConnection::logsInAndOut()
+void tst_IrcConnection::logsInAndOut()
 {
     QFETCH(bool, encrypted);
     KirvNgircdServer server;
@@ -306,7 +307,7 @@ void TestIrcConnection::logsInAndOut()
     QTRY_VERIFY2_WITH_TIMEOUT(server.output().contains("Got QUIT command"), qPrintable(server.output()), kirvPatience);
 }
 
-void TestIrcConnection::loginNamesTheServerWhenNoSettingDoes()
+void tst_IrcConnection::loginNamesTheServerWhenNoSettingDoes()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -319,7 +320,7 @@ void TestIrcConnection::loginNamesTheServerWhenNoSettingDoes()
     QVERIFY(bob.sees("alice"));
 }
 
-void TestIrcConnection::untrustedCertificateIsRefused()
+void tst_IrcConnection::untrustedCertificateIsRefused()
 {
     KirvNgircdServer server;
     server.setEncrypted(true);
@@ -331,7 +332,7 @@ void TestIrcConnection::untrustedCertificateIsRefused()
     QVERIFY(!server.output().contains("alice"));
 }
 
-void TestIrcConnection::certificateForAnotherNameIsRefused()
+void tst_IrcConnection::certificateForAnotherNameIsRefused()
 {
     KirvNgircdServer server;
     server.setEncrypted(true);
@@ -345,7 +346,7 @@ void TestIrcConnection::certificateForAnotherNameIsRefused()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::serverWithoutEncryptionIsRefused()
+void tst_IrcConnection::serverWithoutEncryptionIsRefused()
 {
     KirvScriptedIrcServer server(nullptr, ":server NOTICE * :*** Looking up your name\r\n");
     KirvAccount *account = createAccount(server);
@@ -354,7 +355,7 @@ void TestIrcConnection::serverWithoutEncryptionIsRefused()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::takenNickIsReplaced_data()
+void tst_IrcConnection::takenNickIsReplaced_data()
 {
     QTest::addColumn<QString>("alternatives");
     QTest::addColumn<QStringList>("taken");
@@ -368,7 +369,7 @@ void TestIrcConnection::takenNickIsReplaced_data()
     QTest::newRow("alternative taken, too") << "alice2" << QStringList { "alice", "alice2", "alice_" } << "alice__";
 }
 
-void TestIrcConnection::takenNickIsReplaced()
+void tst_IrcConnection::takenNickIsReplaced()
 {
     QFETCH(QString, alternatives);
     QFETCH(QStringList, taken);
@@ -384,11 +385,11 @@ void TestIrcConnection::takenNickIsReplaced()
     profile->goTo(account, "available");
     KIRV_TRY_STATE(account, Online);
     QVERIFY(others[0].sees(expected));
-    QTRY_COMPARE(notices.size(), 1);
+    KIRV_TRY_COMPARE(notices.size(), 1);
     QVERIFY(notices[0][0].toString().contains(QString("\"%1\"").arg(expected)));
 }
 
-void TestIrcConnection::allNicksTaken()
+void tst_IrcConnection::allNicksTaken()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -404,7 +405,7 @@ void TestIrcConnection::allNicksTaken()
     QCOMPARE(account->connection()->lastFailure().detail(), QString("alice"));
 }
 
-void TestIrcConnection::nickThatTheServerRefuses()
+void tst_IrcConnection::nickThatTheServerRefuses()
 {
     KirvNgircdServer server;
     server.setMaximumNickLength(4);
@@ -415,7 +416,7 @@ void TestIrcConnection::nickThatTheServerRefuses()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::serverPassword_data()
+void tst_IrcConnection::serverPassword_data()
 {
     QTest::addColumn<QString>("use");
     QTest::addColumn<QString>("password");
@@ -430,7 +431,7 @@ void TestIrcConnection::serverPassword_data()
                                << "open\r\nQUIT" << KirvFailure::BadSettings;
 }
 
-void TestIrcConnection::serverPassword()
+void tst_IrcConnection::serverPassword()
 {
     QFETCH(QString, use);
     QFETCH(QString, password);
@@ -446,7 +447,7 @@ void TestIrcConnection::serverPassword()
         KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::passwordIsKeptWhenItIsNotUsed()
+void tst_IrcConnection::passwordIsKeptWhenItIsNotUsed()
 {
     KirvScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, plain(), "topsecret");
@@ -456,7 +457,7 @@ void TestIrcConnection::passwordIsKeptWhenItIsNotUsed()
     QVERIFY(!server.hasReceived("PASS") && !server.hasReceived("topsecret"));
 }
 
-void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed_data()
+void tst_IrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed_data()
 {
     QTest::addColumn<QString>("use");
     QTest::addColumn<bool>("isAskedFor");
@@ -465,7 +466,7 @@ void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed_data()
     QTest::newRow("SASL") << "sasl" << true;
 }
 
-void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
+void tst_IrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
 {
     QFETCH(QString, use);
     QFETCH(bool, isAskedFor);
@@ -479,7 +480,7 @@ void TestIrcConnection::missingPasswordIsAskedForOnlyWhenItIsUsed()
     QCOMPARE(server.linesWith("NICK").isEmpty(), isAskedFor);
 }
 
-void TestIrcConnection::awayIsSeenByOthers_data()
+void tst_IrcConnection::awayIsSeenByOthers_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("seen");
@@ -495,7 +496,7 @@ void TestIrcConnection::awayIsSeenByOthers_data()
                                  << "Gone  QUIT :by force";
 }
 
-void TestIrcConnection::awayIsSeenByOthers()
+void tst_IrcConnection::awayIsSeenByOthers()
 {
     QFETCH(QString, text);
     QFETCH(QString, seen);
@@ -511,7 +512,7 @@ void TestIrcConnection::awayIsSeenByOthers()
     QVERIFY(bob.sees("alice"));
 }
 
-void TestIrcConnection::backIsSeenByOthers()
+void tst_IrcConnection::backIsSeenByOthers()
 {
     KirvNgircdServer server;
     KirvObservingIrcClient bob;
@@ -525,7 +526,7 @@ void TestIrcConnection::backIsSeenByOthers()
     QVERIFY(bob.sees("alice"));
 }
 
-void TestIrcConnection::arrivesAway()
+void tst_IrcConnection::arrivesAway()
 {
     KirvNgircdServer server;
     KirvObservingIrcClient bob;
@@ -536,7 +537,7 @@ void TestIrcConnection::arrivesAway()
     KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Still asleep"));
 }
 
-void TestIrcConnection::longAwayTextKeepsTheConnection()
+void tst_IrcConnection::longAwayTextKeepsTheConnection()
 {
     KirvNgircdServer server;
     KirvObservingIrcClient bob;
@@ -548,7 +549,7 @@ void TestIrcConnection::longAwayTextKeepsTheConnection()
     QCOMPARE(state(account), KirvConnection::Online);
 }
 
-void TestIrcConnection::killedServerIsReachedAgain()
+void tst_IrcConnection::killedServerIsReachedAgain()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -569,7 +570,7 @@ void TestIrcConnection::killedServerIsReachedAgain()
     KIRV_TRY_COMPARE(bob.awayTextOf("alice"), QString("Out"));
 }
 
-void TestIrcConnection::stoppedServerSaysGoodbye()
+void tst_IrcConnection::stoppedServerSaysGoodbye()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -584,7 +585,7 @@ void TestIrcConnection::stoppedServerSaysGoodbye()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::hungServerTimesOut()
+void tst_IrcConnection::hungServerTimesOut()
 {
     KirvScriptedIrcServer server(nullptr);
     KirvAccount *account = createAccount(server, plain());
@@ -598,7 +599,7 @@ void TestIrcConnection::hungServerTimesOut()
     QVERIFY(server.hasReceived("NICK alice"));
 }
 
-void TestIrcConnection::serverThatFallsSilentIsLost()
+void tst_IrcConnection::serverThatFallsSilentIsLost()
 {
     KirvScriptedIrcServer server(welcome);
     KirvAccount *account = createAccount(server, plain());
@@ -613,7 +614,7 @@ void TestIrcConnection::serverThatFallsSilentIsLost()
     QCOMPARE(state(account), KirvConnection::Waiting);
 }
 
-void TestIrcConnection::quietServerIsKept()
+void tst_IrcConnection::quietServerIsKept()
 {
     KirvScriptedIrcServer server(welcomeAndPong);
     KirvAccount *account = createAccount(server, plain());
@@ -628,7 +629,7 @@ void TestIrcConnection::quietServerIsKept()
     QVERIFY(failures.isEmpty());
 }
 
-void TestIrcConnection::nobodyListens()
+void tst_IrcConnection::nobodyListens()
 {
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
@@ -640,7 +641,7 @@ void TestIrcConnection::nobodyListens()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::serverIsNotFound()
+void tst_IrcConnection::serverIsNotFound()
 {
     // A label of more than 63 characters is no name: nobody has to be asked.
     KirvAccount *account = profile->createAccount("alice", { { "server", QString(70, 'a') + ".invalid" } });
@@ -650,14 +651,14 @@ void TestIrcConnection::serverIsNotFound()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::bannedUserStaysOut_data()
+void tst_IrcConnection::bannedUserStaysOut_data()
 {
     QTest::addColumn<QByteArray>("answer");
     QTest::newRow("numeric") << QByteArray(":server 465 alice :You are banned\r\n");
     QTest::newRow("error") << QByteArray("ERROR :Closing Link: 127.0.0.1 (K-Lined)\r\n");
 }
 
-void TestIrcConnection::bannedUserStaysOut()
+void tst_IrcConnection::bannedUserStaysOut()
 {
     QFETCH(QByteArray, answer);
     KirvScriptedIrcServer server([answer](const QByteArray &line) { return line.startsWith("USER ") ? answer : ""; });
@@ -667,7 +668,7 @@ void TestIrcConnection::bannedUserStaysOut()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestIrcConnection::serverThatIsBusyIsTriedAgain()
+void tst_IrcConnection::serverThatIsBusyIsTriedAgain()
 {
     bool busy = true;
     KirvScriptedIrcServer server([&busy](const QByteArray &line) {
@@ -680,7 +681,7 @@ void TestIrcConnection::serverThatIsBusyIsTriedAgain()
     KIRV_TRY_STATE(account, Online);
 }
 
-void TestIrcConnection::removedAccountLeavesTheServer()
+void tst_IrcConnection::removedAccountLeavesTheServer()
 {
     KirvNgircdServer server;
     KirvObservingIrcClient bob;
@@ -692,7 +693,7 @@ void TestIrcConnection::removedAccountLeavesTheServer()
     KIRV_TRY(!bob.sees("alice"));
 }
 
-void TestIrcConnection::othersLearnTheNameOfTheProgram()
+void tst_IrcConnection::othersLearnTheNameOfTheProgram()
 {
     KirvScriptedIrcServer server([](const QByteArray &line) {
         return line.startsWith("AWAY") ? ":bob!b@host PRIVMSG alice :\1VERSION\1\r\n" : welcome(line);
@@ -703,7 +704,7 @@ void TestIrcConnection::othersLearnTheNameOfTheProgram()
     KIRV_TRY(server.hasReceived(answer));
 }
 
-void TestIrcConnection::saslLogsIn_data()
+void tst_IrcConnection::saslLogsIn_data()
 {
     QTest::addColumn<QString>("user");
     QTest::addColumn<QString>("password");
@@ -717,7 +718,7 @@ void TestIrcConnection::saslLogsIn_data()
     QTest::newRow("full piece") << "" << QString(293, 'x') << QByteArray("sasl");
 }
 
-void TestIrcConnection::saslLogsIn()
+void tst_IrcConnection::saslLogsIn()
 {
     QFETCH(QString, user);
     QFETCH(QString, password);
@@ -740,7 +741,7 @@ void TestIrcConnection::saslLogsIn()
     QCOMPARE(server.linesWith("CAP END").size(), 1);
 }
 
-void TestIrcConnection::saslPasswordIsRefused()
+void tst_IrcConnection::saslPasswordIsRefused()
 {
     KirvScriptedIrcServer server(saslServer("904"));
     KirvAccount *account = createAccount(server, { { "encryption", "none" }, { "password_use", "sasl" } });
@@ -750,7 +751,7 @@ void TestIrcConnection::saslPasswordIsRefused()
     QVERIFY(!server.hasReceived("CAP END"));
 }
 
-void TestIrcConnection::saslIsNotOffered_data()
+void tst_IrcConnection::saslIsNotOffered_data()
 {
     QTest::addColumn<QByteArray>("answerToList");
     QTest::addColumn<QByteArray>("answerToRequest");
@@ -762,7 +763,7 @@ void TestIrcConnection::saslIsNotOffered_data()
                                      << QByteArray(":server CAP * NAK :sasl\r\n");
 }
 
-void TestIrcConnection::saslIsNotOffered()
+void tst_IrcConnection::saslIsNotOffered()
 {
     QFETCH(QByteArray, answerToList);
     QFETCH(QByteArray, answerToRequest);
@@ -781,5 +782,5 @@ void TestIrcConnection::saslIsNotOffered()
     QVERIFY(!server.hasReceived("topsecret") && !server.hasReceived(QByteArray("\0alice\0topsecret", 16).toBase64()));
 }
 
-QTEST_GUILESS_MAIN(TestIrcConnection)
+QTEST_GUILESS_MAIN(tst_IrcConnection)
 #include "tst_irc_connection.moc"

@@ -35,7 +35,7 @@ bool createCertificate(const QString &certificateFile, const QString &keyFile)
 } // namespace
 
 /// Servers that send what no server should: the event loop and the memory of the program do not suffer from them.
-class TestIrcHostileServers : public QObject {
+class tst_IrcHostileServers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -56,7 +56,7 @@ private:
     KirvLoadMeter meter;
 };
 
-KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificate, const QString &passwordUse)
+KirvLogin tst_IrcHostileServers::loginTo(quint16 port, const QString &certificate, const QString &passwordUse)
 {
     KirvLogin login;
     login.id = QStringLiteral("alice");
@@ -77,7 +77,7 @@ KirvLogin TestIrcHostileServers::loginTo(quint16 port, const QString &certificat
     return login;
 }
 
-void TestIrcHostileServers::whatCannotGoOnEndsTheConnection_data()
+void tst_IrcHostileServers::whatCannotGoOnEndsTheConnection_data()
 {
     QTest::addColumn<QByteArray>("block");
     QTest::addColumn<bool>("beforeWelcome");
@@ -96,7 +96,7 @@ void TestIrcHostileServers::whatCannotGoOnEndsTheConnection_data()
         << blockOf(":server CAP * LS :sasl\r\n:server CAP * ACK :sasl\r\n:server 906 * :aborted\r\n") << true << "SASL";
 }
 
-void TestIrcHostileServers::whatCannotGoOnEndsTheConnection()
+void tst_IrcHostileServers::whatCannotGoOnEndsTheConnection()
 {
     QFETCH(QByteArray, block);
     QFETCH(bool, beforeWelcome);
@@ -116,7 +116,7 @@ void TestIrcHostileServers::whatCannotGoOnEndsTheConnection()
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-void TestIrcHostileServers::floodIsDigested_data()
+void tst_IrcHostileServers::floodIsDigested_data()
 {
     QTest::addColumn<QByteArray>("block");
     QTest::addColumn<qint64>("total");
@@ -141,7 +141,7 @@ void TestIrcHostileServers::floodIsDigested_data()
     lines("100,000 PING lines", "PING :are you there\r\n", 100000);
 }
 
-void TestIrcHostileServers::floodIsDigested()
+void tst_IrcHostileServers::floodIsDigested()
 {
     QFETCH(QByteArray, block);
     QFETCH(qint64, total);
@@ -157,7 +157,7 @@ void TestIrcHostileServers::floodIsDigested()
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-void TestIrcHostileServers::logInWithoutEndIsLeft_data()
+void tst_IrcHostileServers::logInWithoutEndIsLeft_data()
 {
     QTest::addColumn<QByteArray>("block");
     QTest::newRow("capabilities without end") << blockOf(":server CAP * LS * :multi-prefix away-notify\r\n");
@@ -170,7 +170,7 @@ void TestIrcHostileServers::logInWithoutEndIsLeft_data()
 }
 
 /// It is left when its time is over, whatever the server sends until then.
-void TestIrcHostileServers::logInWithoutEndIsLeft()
+void tst_IrcHostileServers::logInWithoutEndIsLeft()
 {
     QFETCH(QByteArray, block);
     KirvHostileIrcServer server({ block, floodSize / 4, true, true, false });
@@ -190,7 +190,7 @@ void TestIrcHostileServers::logInWithoutEndIsLeft()
 }
 
 /// The replies to a server that does not read them are not collected.
-void TestIrcHostileServers::serverThatDoesNotReadIsNotReadEither()
+void tst_IrcHostileServers::serverThatDoesNotReadIsNotReadEither()
 {
     KirvHostileIrcServer::Attack attack { blockOf("PING :are you there\r\n"), floodSize };
     attack.readsReplies = false;
@@ -212,7 +212,7 @@ void TestIrcHostileServers::serverThatDoesNotReadIsNotReadEither()
 }
 
 /// The socket for TLS has buffers of its own.
-void TestIrcHostileServers::floodOverTlsIsDigested()
+void tst_IrcHostileServers::floodOverTlsIsDigested()
 {
     QTemporaryDir folder;
     const QString certificate = folder.filePath("certificate.pem");
@@ -231,5 +231,5 @@ void TestIrcHostileServers::floodOverTlsIsDigested()
         QVERIFY2(meter.peakGrowth() < 16 * 1024, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-QTEST_GUILESS_MAIN(TestIrcHostileServers)
+QTEST_GUILESS_MAIN(tst_IrcHostileServers)
 #include "tst_irc_hostile_servers.moc"

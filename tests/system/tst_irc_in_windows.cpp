@@ -63,8 +63,8 @@ QByteArray welcome(const QByteArray &line)
 
 } // namespace
 
-/// What a person does with IRC accounts in the client's windows, against a real server where that can do it.
-class tst_irc_in_windows : public QObject {
+/// What a user does with IRC accounts in the client's windows, against a real server where that can do it.
+class tst_IrcInWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -108,19 +108,19 @@ private:
     std::unique_ptr<KirvWindows> windows;
 };
 
-void tst_irc_in_windows::init()
+void tst_IrcInWindows::init()
 {
     windows = std::make_unique<KirvWindows>();
     QVERIFY(windows->start());
 }
 
-void tst_irc_in_windows::cleanup()
+void tst_IrcInWindows::cleanup()
 {
     windows.reset();
     qunsetenv("KIRV_IRC_LOCAL_PORT");
 }
 
-bool tst_irc_in_windows::start(KirvLocalServer &server)
+bool tst_IrcInWindows::start(KirvLocalServer &server)
 {
     if (!server.start()) {
         qWarning("%s", qPrintable(server.errorString()));
@@ -130,7 +130,7 @@ bool tst_irc_in_windows::start(KirvLocalServer &server)
     return true;
 }
 
-void tst_irc_in_windows::menuOffersBothProtocols()
+void tst_IrcInWindows::menuOffersBothProtocols()
 {
     KirvWindowDriver walk(windows->profileFolder());
     walk.expectOnTop(
@@ -148,7 +148,7 @@ void tst_irc_in_windows::menuOffersBothProtocols()
     QVERIFY(!KirvWindowDriver::window(QStringLiteral("AddAccount")));
 }
 
-void tst_irc_in_windows::networksFillTheForm()
+void tst_IrcInWindows::networksFillTheForm()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -174,14 +174,14 @@ void tst_irc_in_windows::networksFillTheForm()
     KIRV_TRY(isConnected(alice));
 }
 
-void tst_irc_in_windows::addedAccountIsLoggedIn_data()
+void tst_IrcInWindows::addedAccountIsLoggedIn_data()
 {
     QTest::addColumn<bool>("encrypted");
     QTest::newRow("plain") << false;
     QTest::newRow("TLS") << true;
 }
 
-void tst_irc_in_windows::addedAccountIsLoggedIn()
+void tst_IrcInWindows::addedAccountIsLoggedIn()
 {
     QFETCH(bool, encrypted);
     KirvNgircdServer server;
@@ -212,7 +212,7 @@ void tst_irc_in_windows::addedAccountIsLoggedIn()
     KIRV_TRY(bob.sees(alice));
 }
 
-void tst_irc_in_windows::editWindowHasNoDirectory()
+void tst_IrcInWindows::editWindowHasNoDirectory()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -229,7 +229,7 @@ void tst_irc_in_windows::editWindowHasNoDirectory()
     QVERIFY(isConnected(alice));
 }
 
-void tst_irc_in_windows::disabledAccountSaysGoodbye()
+void tst_IrcInWindows::disabledAccountSaysGoodbye()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -245,7 +245,7 @@ void tst_irc_in_windows::disabledAccountSaysGoodbye()
     QCOMPARE(windows->row(alice)->checkState(0), Qt::Unchecked);
 }
 
-void tst_irc_in_windows::awayAndBackAreSeenByOthers()
+void tst_IrcInWindows::awayAndBackAreSeenByOthers()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -267,7 +267,7 @@ void tst_irc_in_windows::awayAndBackAreSeenByOthers()
     QCOMPARE(windows->problem(alice), QString());
 }
 
-void tst_irc_in_windows::defaultPresenceIsSeenByOthers()
+void tst_IrcInWindows::defaultPresenceIsSeenByOthers()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -291,7 +291,7 @@ void tst_irc_in_windows::defaultPresenceIsSeenByOthers()
     QCOMPARE(bob.awayTextOf(alice), QStringLiteral("Gone fishing"));
 }
 
-void tst_irc_in_windows::takenNickIsReplacedAndSaid()
+void tst_IrcInWindows::takenNickIsReplacedAndSaid()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -307,7 +307,7 @@ void tst_irc_in_windows::takenNickIsReplacedAndSaid()
     QCOMPARE(windows->problem(alice), QString());
 }
 
-void tst_irc_in_windows::allNicksTakenIsSaid()
+void tst_IrcInWindows::allNicksTakenIsSaid()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -329,7 +329,7 @@ void tst_irc_in_windows::allNicksTakenIsSaid()
     QVERIFY(bob.sees(alice));
 }
 
-void tst_irc_in_windows::nickThatTheServerRefusesIsSaid()
+void tst_IrcInWindows::nickThatTheServerRefusesIsSaid()
 {
     KirvNgircdServer server;
     server.setMaximumNickLength(4);
@@ -339,7 +339,7 @@ void tst_irc_in_windows::nickThatTheServerRefusesIsSaid()
     QVERIFY(windows->hasGivenUp(alice));
 }
 
-void tst_irc_in_windows::textThatIsNoNickCannotBeTyped()
+void tst_IrcInWindows::textThatIsNoNickCannotBeTyped()
 {
     KirvScriptedIrcServer silent(nullptr);
     use(silent);
@@ -352,7 +352,7 @@ void tst_irc_in_windows::textThatIsNoNickCannotBeTyped()
     QCOMPARE(typed, alice);
 }
 
-void tst_irc_in_windows::wrongServerPasswordIsSaidAndCorrected()
+void tst_IrcInWindows::wrongServerPasswordIsSaidAndCorrected()
 {
     KirvNgircdServer server;
     server.setPassword(QStringLiteral("sesame"));
@@ -373,7 +373,7 @@ void tst_irc_in_windows::wrongServerPasswordIsSaidAndCorrected()
     QCOMPARE(windows->problem(alice), QString());
 }
 
-void tst_irc_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
+void tst_IrcInWindows::untrustedCertificateIsSaidAndCanBeTrusted()
 {
     KirvNgircdServer server;
     server.setEncrypted(true);
@@ -394,7 +394,7 @@ void tst_irc_in_windows::untrustedCertificateIsSaidAndCanBeTrusted()
     QCOMPARE(windows->problem(alice), QString());
 }
 
-void tst_irc_in_windows::killedServerIsReachedAgain()
+void tst_IrcInWindows::killedServerIsReachedAgain()
 {
     KirvNgircdServer server;
     QVERIFY(start(server));
@@ -413,7 +413,7 @@ void tst_irc_in_windows::killedServerIsReachedAgain()
     QVERIFY(bob.sees(alice));
 }
 
-void tst_irc_in_windows::hungServerIsSaid()
+void tst_IrcInWindows::hungServerIsSaid()
 {
     KirvScriptedIrcServer silent(nullptr);
     use(silent);
@@ -429,7 +429,7 @@ void tst_irc_in_windows::hungServerIsSaid()
     KIRV_TRY(windows->state(alice) == QLatin1String("Disabled"));
 }
 
-void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
+void tst_IrcInWindows::connectionLostWhileLoggingInIsSaid()
 {
     bool isReplying = false;
     KirvScriptedIrcServer server(
@@ -446,7 +446,7 @@ void tst_irc_in_windows::connectionLostWhileLoggingInIsSaid()
     QCOMPARE(windows->problem(alice), QString());
 }
 
-void tst_irc_in_windows::bothProtocolsSideBySide()
+void tst_IrcInWindows::bothProtocolsSideBySide()
 {
     const QString ann = QStringLiteral("ann@localhost");
     KirvProsodyServer xmppServer;
@@ -477,5 +477,5 @@ void tst_irc_in_windows::bothProtocolsSideBySide()
     KIRV_TRY(windows->selector()->currentText() == alice);
 }
 
-QTEST_MAIN(tst_irc_in_windows)
+QTEST_MAIN(tst_IrcInWindows)
 #include "tst_irc_in_windows.moc"

@@ -32,7 +32,7 @@ Values through(const Proxy &proxy, Proxy::Kind kind)
 } // namespace
 
 /// IRC through proxies: a real server behind scripted ones, and proxies that fail.
-class TestIrcProxy : public QObject {
+class tst_IrcProxy : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -62,12 +62,12 @@ private:
     std::unique_ptr<KirvIrcConnection> connection;
 };
 
-void TestIrcProxy::cleanup()
+void tst_IrcProxy::cleanup()
 {
     connection.reset();
 }
 
-void TestIrcProxy::logIn(const Values &values, KirvClock &clock)
+void tst_IrcProxy::logIn(const Values &values, KirvClock &clock)
 {
     QList<KirvField> fields = KirvIrcSettings::defaultFields();
     for (KirvField &field : fields) {
@@ -82,7 +82,7 @@ void TestIrcProxy::logIn(const Values &values, KirvClock &clock)
     connection->logIn({ "alice", QString(), fields }, available);
 }
 
-void TestIrcProxy::logsIn_data()
+void tst_IrcProxy::logsIn_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<bool>("requiresLogIn");
@@ -95,7 +95,7 @@ void TestIrcProxy::logsIn_data()
     }
 }
 
-void TestIrcProxy::logsIn()
+void tst_IrcProxy::logsIn()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(bool, requiresLogIn);
@@ -130,7 +130,7 @@ void TestIrcProxy::logsIn()
     QCOMPARE(kirvTakeLookUps(), QStringList());
 }
 
-void TestIrcProxy::theServerProvesItsName()
+void tst_IrcProxy::theServerProvesItsName()
 {
     KirvNgircdServer server;
     server.setEncrypted(true);
@@ -144,7 +144,7 @@ void TestIrcProxy::theServerProvesItsName()
     QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::UntrustedCertificate, kirvPatience);
 }
 
-void TestIrcProxy::theProxyOfTheSystemIsUsed()
+void tst_IrcProxy::theProxyOfTheSystemIsUsed()
 {
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -168,7 +168,7 @@ void TestIrcProxy::theProxyOfTheSystemIsUsed()
 }
 
 /// Its socket, which is deleted later, lives on for a moment.
-void TestIrcProxy::aDestroyedConnectionOpensNothing()
+void tst_IrcProxy::aDestroyedConnectionOpensNothing()
 {
     Proxy proxy(Proxy::Http, 1);
     qputenv("all_proxy", "http://127.0.0.1:" + QByteArray::number(proxy.serverPort()));
@@ -188,7 +188,7 @@ void TestIrcProxy::aDestroyedConnectionOpensNothing()
     QCOMPARE(proxy.connections(), 0);
 }
 
-void TestIrcProxy::thePasswordIsSecret()
+void tst_IrcProxy::thePasswordIsSecret()
 {
     KirvIrcProtocol protocol;
     int secrets = 0;
@@ -201,7 +201,7 @@ void TestIrcProxy::thePasswordIsSecret()
     QCOMPARE(secrets, 1);
 }
 
-void TestIrcProxy::settingsOfAProxyAreChecked()
+void tst_IrcProxy::settingsOfAProxyAreChecked()
 {
     KirvScriptedIrcServer server({});
     for (const char *kind : { "socks5", "socks4" }) {
@@ -215,12 +215,12 @@ void TestIrcProxy::settingsOfAProxyAreChecked()
     }
 }
 
-void TestIrcProxy::aFailingProxyIsNotAvoided_data()
+void tst_IrcProxy::aFailingProxyIsNotAvoided_data()
 {
     kirvAddFailingProxies();
 }
 
-void TestIrcProxy::aFailingProxyIsNotAvoided()
+void tst_IrcProxy::aFailingProxyIsNotAvoided()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(Proxy::Behaviour, behaviour);
@@ -244,7 +244,7 @@ void TestIrcProxy::aFailingProxyIsNotAvoided()
     }
 }
 
-void TestIrcProxy::aProxyThatIsNotThereIsNotAvoided_data()
+void tst_IrcProxy::aProxyThatIsNotThereIsNotAvoided_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<QString>("host");
@@ -254,7 +254,7 @@ void TestIrcProxy::aProxyThatIsNotThereIsNotAvoided_data()
     QTest::newRow("HTTP, no such host") << Proxy::Http << "no-proxy-here.invalid";
 }
 
-void TestIrcProxy::aProxyThatIsNotThereIsNotAvoided()
+void tst_IrcProxy::aProxyThatIsNotThereIsNotAvoided()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(QString, host);
@@ -279,14 +279,14 @@ void TestIrcProxy::aProxyThatIsNotThereIsNotAvoided()
     QCOMPARE(names, QStringList());
 }
 
-void TestIrcProxy::aSilentProxyIsNotAvoided_data()
+void tst_IrcProxy::aSilentProxyIsNotAvoided_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::newRow("SOCKS5") << Proxy::Socks5;
     QTest::newRow("HTTP") << Proxy::Http;
 }
 
-void TestIrcProxy::aSilentProxyIsNotAvoided()
+void tst_IrcProxy::aSilentProxyIsNotAvoided()
 {
     QFETCH(Proxy::Kind, kind);
     KirvScriptedIrcServer server({});
@@ -306,7 +306,7 @@ void TestIrcProxy::aSilentProxyIsNotAvoided()
     connection.reset();
 }
 
-void TestIrcProxy::aWrongLogInIsTold_data()
+void tst_IrcProxy::aWrongLogInIsTold_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<QString>("user");
@@ -316,7 +316,7 @@ void TestIrcProxy::aWrongLogInIsTold_data()
     QTest::newRow("HTTP, wrong") << Proxy::Http << "eve";
 }
 
-void TestIrcProxy::aWrongLogInIsTold()
+void tst_IrcProxy::aWrongLogInIsTold()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(QString, user);
@@ -337,5 +337,5 @@ void TestIrcProxy::aWrongLogInIsTold()
     QCOMPARE(kirvTakeLookUps(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestIrcProxy)
+QTEST_GUILESS_MAIN(tst_IrcProxy)
 #include "tst_irc_proxy.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/irc/kirv_irc_connection.h"
 #include "tests/support/fakes/kirv_fake_clock.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_scripted_irc_server.h"
 
 #include <QSignalSpy>
@@ -10,8 +11,6 @@
 Q_DECLARE_METATYPE(KirvFailure::Kind)
 
 namespace {
-
-const int patience = 15000;
 
 /// Replies of a server that has SASL while \a offersSasl, and otherwise knows nothing of it.
 QByteArray answer(const QByteArray &line, bool offersSasl)
@@ -35,7 +34,7 @@ QByteArray welcome(const QByteArray &line)
 } // namespace
 
 /// What a server says when it does not want an account, or not now, and what follows from it.
-class TestIrcRefusals : public QObject {
+class tst_IrcRefusals : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -71,16 +70,16 @@ private:
     std::unique_ptr<QSignalSpy> notices;
 };
 
-#define TRY_STATE(expected) QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::expected, patience)
+#define TRY_STATE(expected) QTRY_COMPARE_WITH_TIMEOUT(connection->state(), KirvConnection::expected, kirvPatience)
 
-void TestIrcRefusals::init()
+void tst_IrcRefusals::init()
 {
     connection = std::make_unique<KirvIrcConnection>(clock);
     failures = std::make_unique<QSignalSpy>(connection.get(), &KirvConnection::failed);
     notices = std::make_unique<QSignalSpy>(connection.get(), &KirvConnection::noticeReceived);
 }
 
-void TestIrcRefusals::cleanup()
+void tst_IrcRefusals::cleanup()
 {
     notices.reset();
     failures.reset();
@@ -88,12 +87,12 @@ void TestIrcRefusals::cleanup()
     server.reset();
 }
 
-void TestIrcRefusals::serve(KirvScriptedIrcServer::Script script)
+void tst_IrcRefusals::serve(KirvScriptedIrcServer::Script script)
 {
     server = std::make_unique<KirvScriptedIrcServer>(std::move(script));
 }
 
-void TestIrcRefusals::logIn(const QString &passwordUse)
+void tst_IrcRefusals::logIn(const QString &passwordUse)
 {
     const QMap<QString, QString> values { { "server", "127.0.0.1" },
                                           { "port", QString::number(server->serverPort()) },
@@ -110,7 +109,7 @@ void TestIrcRefusals::logIn(const QString &passwordUse)
     connection->logIn(login, { QStringLiteral("available"), QString(), QString() });
 }
 
-void TestIrcRefusals::refusalsAreFinalOrPass_data()
+void tst_IrcRefusals::refusalsAreFinalOrPass_data()
 {
     QTest::addColumn<QByteArray>("lines");
     QTest::addColumn<bool>("isFinal");
@@ -136,26 +135,26 @@ void TestIrcRefusals::refusalsAreFinalOrPass_data()
         << QByteArray(":server 464 alice :Password incorrect\r\nERROR :Closing Link: (Bad Password)\r\n") << true;
 }
 
-void TestIrcRefusals::refusalsAreFinalOrPass()
+void tst_IrcRefusals::refusalsAreFinalOrPass()
 {
     QFETCH(QByteArray, lines);
     QFETCH(bool, isFinal);
     serve([lines](const QByteArray &line) { return line.startsWith("USER ") ? lines : ""; });
     logIn();
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(connection->state(), isFinal ? KirvConnection::Offline : KirvConnection::Waiting);
     QCOMPARE(lastFailure().kind() == KirvFailure::AccessDenied, isFinal);
     QVERIFY(lastFailure().detail().contains(QLatin1String("Closing Link")));
 }
 
-void TestIrcRefusals::reasonOfABanIsTold_data()
+void tst_IrcRefusals::reasonOfABanIsTold_data()
 {
     QTest::addColumn<QByteArray>("between");
     QTest::newRow("at once") << QByteArray();
     QTest::newRow("after a notice") << QByteArray(":server NOTICE alice :Bye\r\n");
 }
 
-void TestIrcRefusals::reasonOfABanIsTold()
+void tst_IrcRefusals::reasonOfABanIsTold()
 {
     QFETCH(QByteArray, between);
     serve([between](const QByteArray &line) -> QByteArray {
@@ -164,7 +163,7 @@ void TestIrcRefusals::reasonOfABanIsTold()
                                         : "";
     });
     logIn();
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::AccessDenied);
     const QString text = lastFailure().text();
     QVERIFY2(text.contains("You are banned") && text.contains("open proxy"), qPrintable(text));
@@ -172,13 +171,13 @@ void TestIrcRefusals::reasonOfABanIsTold()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::banWithoutAGoodbyeIsFinal()
+void tst_IrcRefusals::banWithoutAGoodbyeIsFinal()
 {
     serve([](const QByteArray &line) {
         return line.startsWith("USER ") ? ":server 465 alice :You are banned\r\nPING :seen\r\n" : "";
     });
     logIn();
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     clock.advance(5000);
     QCOMPARE(failures->size(), 1);
     QCOMPARE(lastFailure().kind(), KirvFailure::AccessDenied);
@@ -186,7 +185,7 @@ void TestIrcRefusals::banWithoutAGoodbyeIsFinal()
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::banWhileOnLineIsFinal()
+void tst_IrcRefusals::banWhileOnLineIsFinal()
 {
     serve([](const QByteArray &line) {
         return line.startsWith("AWAY :Away") ? ":server 465 alice :You are banned\r\nERROR :Closing Link: (spam)\r\n"
@@ -195,13 +194,13 @@ void TestIrcRefusals::banWhileOnLineIsFinal()
     logIn();
     TRY_STATE(Online);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::AccessDenied);
     QVERIFY(lastFailure().detail().contains("spam"));
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::saslThatWorkedBeforeIsAwaited_data()
+void tst_IrcRefusals::saslThatWorkedBeforeIsAwaited_data()
 {
     QTest::addColumn<QByteArray>("onList");
     QTest::addColumn<QByteArray>("onMechanism");
@@ -215,7 +214,7 @@ void TestIrcRefusals::saslThatWorkedBeforeIsAwaited_data()
 }
 
 /// The services of a network are often back some seconds after the network.
-void TestIrcRefusals::saslThatWorkedBeforeIsAwaited()
+void tst_IrcRefusals::saslThatWorkedBeforeIsAwaited()
 {
     QFETCH(QByteArray, onList);
     QFETCH(QByteArray, onMechanism);
@@ -234,7 +233,7 @@ void TestIrcRefusals::saslThatWorkedBeforeIsAwaited()
     TRY_STATE(Waiting);
 
     clock.advance(int(clock.now().msecsTo(connection->nextRetry())));
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, kirvPatience);
     QVERIFY2(lastFailure().isWorthRetrying(), qPrintable(lastFailure().text()));
     QVERIFY2(lastFailure().text().contains("SASL"), qPrintable(lastFailure().text()));
     QCOMPARE(connection->state(), KirvConnection::Waiting);
@@ -244,16 +243,16 @@ void TestIrcRefusals::saslThatWorkedBeforeIsAwaited()
     TRY_STATE(Online);
 }
 
-void TestIrcRefusals::saslThatNeverWorkedIsNotAwaited()
+void tst_IrcRefusals::saslThatNeverWorkedIsNotAwaited()
 {
     serve([](const QByteArray &line) { return answer(line, false); });
     logIn(QStringLiteral("sasl"));
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 1, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::AuthenticationNotOffered);
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
+void tst_IrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
 {
     bool accepts = true;
     serve([&accepts](const QByteArray &line) -> QByteArray {
@@ -266,19 +265,19 @@ void TestIrcRefusals::wrongPasswordIsFinalEvenWhenItWorkedBefore()
     server->hangUp();
     TRY_STATE(Waiting);
     clock.advance(int(clock.now().msecsTo(connection->nextRetry())));
-    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(failures->size(), 2, kirvPatience);
     QCOMPARE(lastFailure().kind(), KirvFailure::WrongPassword);
     QCOMPARE(connection->state(), KirvConnection::Offline);
 }
 
-void TestIrcRefusals::nicksAreShownCleaned()
+void tst_IrcRefusals::nicksAreShownCleaned()
 {
     const QString nick = QString::fromUtf8("al\u202eice\u2066\u200f\x03") + QString(1000, 'x');
     serve([nick](const QByteArray &line) {
         return line.startsWith("USER ") ? ":server 001 " + nick.toUtf8() + " :Welcome\r\n" : "";
     });
     logIn();
-    QTRY_COMPARE_WITH_TIMEOUT(notices->size(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(notices->size(), 1, kirvPatience);
     const QString notice = notices->at(0).at(0).toString();
     QVERIFY2(notice.contains("alice"), qPrintable(notice));
     QVERIFY(notice.size() < 300);
@@ -286,7 +285,7 @@ void TestIrcRefusals::nicksAreShownCleaned()
         QVERIFY(character.category() != QChar::Other_Format && character.category() != QChar::Other_Control);
 }
 
-void TestIrcRefusals::changesOfTheNickAreToldNowAndThen()
+void tst_IrcRefusals::changesOfTheNickAreToldNowAndThen()
 {
     serve([](const QByteArray &line) -> QByteArray {
         if (!line.startsWith("AWAY :Away"))
@@ -300,7 +299,7 @@ void TestIrcRefusals::changesOfTheNickAreToldNowAndThen()
     logIn();
     TRY_STATE(Online);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     QCOMPARE(notices->size(), 1);
     clock.advance(20000);
     QCOMPARE(notices->size(), 2);
@@ -308,7 +307,7 @@ void TestIrcRefusals::changesOfTheNickAreToldNowAndThen()
 }
 
 /// Also when it was heard just before it was looked at the last time.
-void TestIrcRefusals::silentServerIsNoticedWithinAMinute()
+void tst_IrcRefusals::silentServerIsNoticedWithinAMinute()
 {
     serve([](const QByteArray &line) -> QByteArray {
         return line.startsWith("AWAY :Away") ? ":server NOTICE alice :I am here\r\nPING :seen\r\n" : welcome(line);
@@ -318,13 +317,13 @@ void TestIrcRefusals::silentServerIsNoticedWithinAMinute()
     for (int second = 0; second < 29; ++second)
         clock.advance(1000);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     const auto pass = [this](int seconds) {
         for (int second = 0; second < seconds && failures->isEmpty(); ++second)
             clock.advance(1000);
     };
     pass(40);
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("PING "), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("PING "), kirvPatience);
     QCOMPARE(connection->state(), KirvConnection::Online);
     pass(20);
     QCOMPARE(failures->size(), 1);
@@ -332,7 +331,7 @@ void TestIrcRefusals::silentServerIsNoticedWithinAMinute()
 }
 
 /// The time, the system and the like stay our own.
-void TestIrcRefusals::onlyTheNameOfTheProgramIsTold()
+void tst_IrcRefusals::onlyTheNameOfTheProgramIsTold()
 {
     serve([](const QByteArray &line) -> QByteArray {
         if (!line.startsWith("AWAY :Away"))
@@ -345,12 +344,12 @@ void TestIrcRefusals::onlyTheNameOfTheProgramIsTold()
     logIn();
     TRY_STATE(Online);
     connection->changePresence({ QStringLiteral("away"), QString(), QString() });
-    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(server->hasReceived("seen"), kirvPatience);
     const QByteArrayList replies = server->linesWith("NOTICE ");
     QCOMPARE(replies.size(), 1);
     QVERIFY(replies[0].startsWith("NOTICE bob :\1VERSION "));
     QVERIFY(!replies[0].toLower().contains("linux") && !replies[0].contains("Qt"));
 }
 
-QTEST_GUILESS_MAIN(TestIrcRefusals)
+QTEST_GUILESS_MAIN(tst_IrcRefusals)
 #include "tst_irc_refusals.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/store/kirv_keyring.h"
 #include "core/store/kirv_store.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
@@ -71,7 +72,7 @@ void tst_KeyringInTheProgram::start(QProcess &program, const QString &folder)
 {
     program.setProcessChannelMode(QProcess::MergedChannels);
     program.start(QStringLiteral(KIRV_PROGRAM), { QStringLiteral("--profile"), folder });
-    QVERIFY(program.waitForStarted());
+    QVERIFY(program.waitForStarted(kirvPatience));
 }
 
 bool tst_KeyringInTheProgram::hasSecrets(const QByteArray &bytes)
@@ -100,7 +101,7 @@ void tst_KeyringInTheProgram::theFirstStartMovesEverySecret()
     QVERIFY(hasSecretsIn(folder));
     QProcess program;
     start(program, folder);
-    QTRY_VERIFY_WITH_TIMEOUT(!hasSecretsIn(folder), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!hasSecretsIn(folder), kirvPatienceWithProgram);
     QCOMPARE(daemon.count(), others + 2 * accountCount);
     const QString process = QStringLiteral("/proc/%1/").arg(program.processId());
     for (const char *name : { "cmdline", "environ" }) {
@@ -109,7 +110,7 @@ void tst_KeyringInTheProgram::theFirstStartMovesEverySecret()
         QVERIFY(!hasSecrets(bytes));
     }
     program.terminate();
-    QVERIFY(program.waitForFinished(20000));
+    QVERIFY(program.waitForFinished(kirvPatience));
     QVERIFY(!hasSecretsIn(folder)); // with the copy that the end has made
     QVERIFY(!hasSecrets(program.readAll()));
     QCOMPARE(daemon.count(), others + 2 * accountCount);
@@ -125,11 +126,11 @@ void tst_KeyringInTheProgram::twoProfilesSideBySideKeepTheirOwn()
     QProcess first, second;
     start(first, one);
     start(second, two);
-    QTRY_VERIFY_WITH_TIMEOUT(!hasSecretsIn(one) && !hasSecretsIn(two), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!hasSecretsIn(one) && !hasSecretsIn(two), kirvPatienceWithProgram);
     QCOMPARE(daemon.count(), others + 4 * accountCount);
     for (QProcess *program : { &first, &second }) {
         program->terminate();
-        QVERIFY(program->waitForFinished(20000));
+        QVERIFY(program->waitForFinished(kirvPatience));
     }
     {
         KirvStore store;
@@ -139,9 +140,9 @@ void tst_KeyringInTheProgram::twoProfilesSideBySideKeepTheirOwn()
             QVERIFY(store.removeAccount(account.key));
     }
     start(first, one); // removes what is left of them
-    QTRY_COMPARE_WITH_TIMEOUT(daemon.count(), others + 2 * accountCount, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(daemon.count(), others + 2 * accountCount, kirvPatienceWithProgram);
     first.terminate();
-    QVERIFY(first.waitForFinished(20000));
+    QVERIFY(first.waitForFinished(kirvPatience));
     KirvStore store;
     QVERIFY(store.open(two));
     KirvKeyring keyring;
@@ -153,7 +154,7 @@ void tst_KeyringInTheProgram::twoProfilesSideBySideKeepTheirOwn()
             read += reply.outcome == KirvSecretStore::Done && reply.secret == passwordOf(account.key.id.mid(4).toInt());
         });
     }
-    QTRY_COMPARE_WITH_TIMEOUT(read, accountCount, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(read, accountCount, kirvPatienceWithProgram);
 }
 
 void tst_KeyringInTheProgram::withAServiceThatIsNotThereTheProfileStaysAsItIs()
@@ -164,9 +165,10 @@ void tst_KeyringInTheProgram::withAServiceThatIsNotThereTheProfileStaysAsItIs()
     makeProfile(folder);
     QProcess program;
     start(program, folder);
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder + QStringLiteral("/plugins.json")), 60000); // it has loaded them
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder + QStringLiteral("/plugins.json")),
+                             kirvPatienceWithProgram); // it has loaded them
     program.terminate();
-    QVERIFY(program.waitForFinished(20000));
+    QVERIFY(program.waitForFinished(kirvPatience));
     KirvStore store;
     QVERIFY(store.open(folder));
     const QList<KirvAccountRecord> accounts = store.readAccounts();
@@ -190,9 +192,10 @@ void tst_KeyringInTheProgram::aSessionBusThatDoesNotAnswerHoldsNothingUp()
     QProcess program;
     program.setProcessEnvironment(environment);
     start(program, folder);
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder + QStringLiteral("/plugins.json")), 15000); // it has loaded them
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(folder + QStringLiteral("/plugins.json")),
+                             kirvPatience); // it has loaded them
     program.terminate();
-    QVERIFY(program.waitForFinished(15000));
+    QVERIFY(program.waitForFinished(kirvPatience));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     KirvStore store;
     QVERIFY(store.open(folder));

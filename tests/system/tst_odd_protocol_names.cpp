@@ -14,7 +14,7 @@ const QString pluginFile = QStringLiteral(KIRV_NAMED_PROTOCOL);
 } // namespace
 
 /// Protocols whose names hold what the client puts between names itself.
-class tst_odd_protocol_names : public QObject {
+class tst_OddProtocolNames : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -36,7 +36,7 @@ private:
     std::unique_ptr<KirvTestedAccount> account;
 };
 
-void tst_odd_protocol_names::init()
+void tst_OddProtocolNames::init()
 {
     QFETCH(QString, name);
     qputenv("KIRV_FIXTURE_PROTOCOL", name.toUtf8());
@@ -46,25 +46,25 @@ void tst_odd_protocol_names::init()
     QVERIFY(account->loadProtocol(pluginFile));
 }
 
-void tst_odd_protocol_names::cleanup()
+void tst_OddProtocolNames::cleanup()
 {
     account.reset();
     windows.reset();
 }
 
-void tst_odd_protocol_names::names()
+void tst_OddProtocolNames::names()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : { "X", "X (Y)", "Y (X) (Z)", "X (", "X@@Y", "@@", "<b>X</b> &amp; Y", "%1 (%2)" })
         QTest::newRow(name) << name;
 }
 
-QDialog *tst_odd_protocol_names::edit()
+QDialog *tst_OddProtocolNames::edit()
 {
     return account->create("old") ? account->openEditWindow() : nullptr;
 }
 
-void tst_odd_protocol_names::saveIsOneChange()
+void tst_OddProtocolNames::saveIsOneChange()
 {
     QFETCH(QString, name);
     QDialog *window = edit();
@@ -90,7 +90,7 @@ void tst_odd_protocol_names::saveIsOneChange()
     QCOMPARE(account->alias(), ann);
 }
 
-void tst_odd_protocol_names::editWindowGoesWithItsAccount()
+void tst_OddProtocolNames::editWindowGoesWithItsAccount()
 {
     const QPointer<QDialog> window = edit();
     QVERIFY(window);
@@ -98,7 +98,7 @@ void tst_odd_protocol_names::editWindowGoesWithItsAccount()
     KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
-void tst_odd_protocol_names::editWindowGoesWithItsProtocol()
+void tst_OddProtocolNames::editWindowGoesWithItsProtocol()
 {
     const QPointer<QDialog> window = edit();
     QVERIFY(window);
@@ -106,5 +106,5 @@ void tst_odd_protocol_names::editWindowGoesWithItsProtocol()
     KIRV_TRY(KirvTestedAccount::isOutOfUse(window));
 }
 
-QTEST_MAIN(tst_odd_protocol_names)
+QTEST_MAIN(tst_OddProtocolNames)
 #include "tst_odd_protocol_names.moc"

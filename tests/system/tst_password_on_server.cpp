@@ -17,7 +17,7 @@ const QString fresh = QStringLiteral("fresh");
 } // namespace
 
 /// An account that gets a new password on its server.
-class tst_password_on_server : public QObject {
+class tst_PasswordOnServer : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -36,20 +36,20 @@ private:
     std::unique_ptr<KirvTestedAccount> account;
 };
 
-void tst_password_on_server::init()
+void tst_PasswordOnServer::init()
 {
     windows = std::make_unique<KirvWindows>();
     QVERIFY(windows->start());
     account = std::make_unique<KirvTestedAccount>(*windows, ann);
 }
 
-void tst_password_on_server::cleanup()
+void tst_PasswordOnServer::cleanup()
 {
     account.reset();
     windows.reset();
 }
 
-QDialog *tst_password_on_server::edit(const QString &configuration, quint16 port, const QString &certificate)
+QDialog *tst_PasswordOnServer::edit(const QString &configuration, quint16 port, const QString &certificate)
 {
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(port));
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", certificate.toLocal8Bit());
@@ -58,7 +58,7 @@ QDialog *tst_password_on_server::edit(const QString &configuration, quint16 port
     return isReady ? account->openEditWindow() : nullptr;
 }
 
-void tst_password_on_server::newPasswordIsKeptWhenTheStoreRefusesIt()
+void tst_PasswordOnServer::newPasswordIsKeptWhenTheStoreRefusesIt()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start() && server.addUser("ann", secret), qPrintable(server.errorString()));
@@ -82,14 +82,14 @@ void tst_password_on_server::newPasswordIsKeptWhenTheStoreRefusesIt()
     KIRV_TRY(account->isConnected());
 }
 
-void tst_password_on_server::acceptedChangeMakesNoReconnection_data()
+void tst_PasswordOnServer::acceptedChangeMakesNoReconnection_data()
 {
     QTest::addColumn<bool>("isSaved");
     QTest::newRow("window is cancelled") << false;
     QTest::newRow("window is saved") << true;
 }
 
-void tst_password_on_server::acceptedChangeMakesNoReconnection()
+void tst_PasswordOnServer::acceptedChangeMakesNoReconnection()
 {
     QFETCH(bool, isSaved);
     KirvScriptedSessionServer server;
@@ -111,5 +111,5 @@ void tst_password_on_server::acceptedChangeMakesNoReconnection()
     QCOMPARE(server.passwords(), QByteArrayList { secret.toUtf8() });
 }
 
-QTEST_MAIN(tst_password_on_server)
+QTEST_MAIN(tst_PasswordOnServer)
 #include "tst_password_on_server.moc"

@@ -4,6 +4,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/protocol/kirv_server_request.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_registration_script.h"
 #include "tests/system/kirv_windows.h"
@@ -32,9 +33,9 @@ const QString deleteAccount = QStringLiteral("Delete Account on Server…");
 
 } // namespace
 
-/// What a person does who has no account yet, and what can be done with an account on its server, in the client's
+/// What a user does who has no account yet, and what can be done with an account on its server, in the client's
 /// windows.
-class tst_registering_in_windows : public QObject {
+class tst_RegisteringInWindows : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -79,13 +80,13 @@ private:
     std::unique_ptr<KirvWindows> windows;
 };
 
-void tst_registering_in_windows::init()
+void tst_RegisteringInWindows::init()
 {
     windows = std::make_unique<KirvWindows>();
     QVERIFY(windows->start());
 }
 
-void tst_registering_in_windows::cleanup()
+void tst_RegisteringInWindows::cleanup()
 {
     windows.reset();
     QVERIFY(!Assistant::window());
@@ -93,7 +94,7 @@ void tst_registering_in_windows::cleanup()
     qunsetenv("KIRV_XMPP_LOCAL_CERTIFICATE");
 }
 
-bool tst_registering_in_windows::start(KirvProsodyServer &server)
+bool tst_RegisteringInWindows::start(KirvProsodyServer &server)
 {
     if (!server.start()) {
         qWarning("%s", qPrintable(server.errorString()));
@@ -104,7 +105,7 @@ bool tst_registering_in_windows::start(KirvProsodyServer &server)
     return true;
 }
 
-bool tst_registering_in_windows::openWindow(const QString &configuration)
+bool tst_RegisteringInWindows::openWindow(const QString &configuration)
 {
     windows->showPage(0);
     if (!QTest::qWaitFor([this] { return windows->client->accountsPage()->isVisible(); }, kirvPatience))
@@ -112,19 +113,19 @@ bool tst_registering_in_windows::openWindow(const QString &configuration)
     KirvWindowDriver::click(
         KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_RegisterButton"));
     if (!QTest::qWaitFor([] { return Assistant::window(); }, kirvPatience)
-        || !QTest::qWaitForWindowExposed(Assistant::window()))
+        || !QTest::qWaitForWindowExposed(Assistant::window(), kirvPatience))
         return false;
     KirvWindowDriver::choose(Assistant::part<QComboBox>("Configuration"), configuration);
     return Assistant::filled(QStringLiteral("domain")) == QLatin1String("localhost");
 }
 
-bool tst_registering_in_windows::openForm()
+bool tst_RegisteringInWindows::openForm()
 {
     pressNext();
     return QTest::qWaitFor(&Assistant::isAtLaterStep, kirvPatience);
 }
 
-bool tst_registering_in_windows::addRomeo(KirvProsodyServer &server)
+bool tst_RegisteringInWindows::addRomeo(KirvProsodyServer &server)
 {
     return start(server) && server.addUser(romeo, secret)
         && windows->add(
@@ -135,7 +136,7 @@ bool tst_registering_in_windows::addRomeo(KirvProsodyServer &server)
         && QTest::qWaitFor([this] { return isConnected(romeoAddress); }, kirvPatience);
 }
 
-bool tst_registering_in_windows::choose(QDialog *editWindow, const QString &command)
+bool tst_RegisteringInWindows::choose(QDialog *editWindow, const QString &command)
 {
     KirvWindowDriver walk(windows->profileFolder());
     walk.expectOnTop(
@@ -149,7 +150,7 @@ bool tst_registering_in_windows::choose(QDialog *editWindow, const QString &comm
     return walk.run();
 }
 
-void tst_registering_in_windows::newAccountIsInTheListAndLoggedIn()
+void tst_RegisteringInWindows::newAccountIsInTheListAndLoggedIn()
 {
     KirvProsodyServer server;
     QVERIFY(start(server));
@@ -173,7 +174,7 @@ void tst_registering_in_windows::newAccountIsInTheListAndLoggedIn()
     KIRV_TRY(isConnected(romeoAddress));
 }
 
-void tst_registering_in_windows::takenNameIsSaidAndNothingIsLost()
+void tst_RegisteringInWindows::takenNameIsSaidAndNothingIsLost()
 {
     KirvProsodyServer server;
     QVERIFY(start(server));
@@ -195,7 +196,7 @@ void tst_registering_in_windows::takenNameIsSaidAndNothingIsLost()
     KIRV_TRY(isConnected(QStringLiteral("romeo2@localhost")));
 }
 
-void tst_registering_in_windows::registrationThatIsNotOfferedIsSaid()
+void tst_RegisteringInWindows::registrationThatIsNotOfferedIsSaid()
 {
     KirvProsodyServer::Options options;
     options.allowsRegistration = false;
@@ -211,7 +212,7 @@ void tst_registering_in_windows::registrationThatIsNotOfferedIsSaid()
     KIRV_TRY(!Assistant::window());
 }
 
-void tst_registering_in_windows::silentServerIsSaid()
+void tst_RegisteringInWindows::silentServerIsSaid()
 {
     KirvScriptedXmppServer server;
     use(server.serverPort());
@@ -226,7 +227,7 @@ void tst_registering_in_windows::silentServerIsSaid()
     QVERIFY(Assistant::next()->isEnabled());
 }
 
-void tst_registering_in_windows::serverThatIsNotThereIsSaid()
+void tst_RegisteringInWindows::serverThatIsNotThereIsSaid()
 {
     use(KirvLocalServer::findFreePort());
     QVERIFY(openWindow(hereInClear));
@@ -243,7 +244,7 @@ void tst_registering_in_windows::serverThatIsNotThereIsSaid()
     QVERIFY(openForm());
 }
 
-void tst_registering_in_windows::formIsShownAsTheServerHasIt()
+void tst_RegisteringInWindows::formIsShownAsTheServerHasIt()
 {
     KirvScriptedXmppServer server(registering(dataForm(pngPicture())));
     use(server.serverPort());
@@ -251,7 +252,7 @@ void tst_registering_in_windows::formIsShownAsTheServerHasIt()
     QVERIFY(openForm());
     const QString instructions = Assistant::text();
     QVERIFY(instructions.contains(QLatin1String("Join <us>")) && instructions.contains(QLatin1String("Fill it in.")));
-    QTRY_VERIFY(Assistant::part<QLabel>("Picture1"));
+    KIRV_TRY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
     QVERIFY(picture && picture->isVisible() && !picture->pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(Assistant::filled(QStringLiteral("odd")), QStringLiteral("as it was"));
@@ -271,7 +272,7 @@ void tst_registering_in_windows::formIsShownAsTheServerHasIt()
     KIRV_TRY(windows->row(romeoAddress));
 }
 
-void tst_registering_in_windows::serverGoesWhileTheFormIsFilledIn()
+void tst_RegisteringInWindows::serverGoesWhileTheFormIsFilledIn()
 {
     KirvProsodyServer server;
     QVERIFY(start(server));
@@ -293,7 +294,7 @@ void tst_registering_in_windows::serverGoesWhileTheFormIsFilledIn()
     KIRV_TRY(isConnected(romeoAddress));
 }
 
-void tst_registering_in_windows::connectionIsLostWhileTheFormIsSent()
+void tst_RegisteringInWindows::connectionIsLostWhileTheFormIsSent()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>", ""));
     use(server.serverPort());
@@ -311,7 +312,7 @@ void tst_registering_in_windows::connectionIsLostWhileTheFormIsSent()
     QCOMPARE(windows->list()->topLevelItemCount(), 0);
 }
 
-void tst_registering_in_windows::clientQuitsWhileTheServerIsAsked()
+void tst_RegisteringInWindows::clientQuitsWhileTheServerIsAsked()
 {
     KirvScriptedXmppServer server;
     use(server.serverPort());
@@ -324,7 +325,7 @@ void tst_registering_in_windows::clientQuitsWhileTheServerIsAsked()
     QCOMPARE(windows->list()->topLevelItemCount(), 0);
 }
 
-void tst_registering_in_windows::passwordIsChangedOnTheServer()
+void tst_RegisteringInWindows::passwordIsChangedOnTheServer()
 {
     KirvProsodyServer server;
     QVERIFY(addRomeo(server));
@@ -351,7 +352,7 @@ void tst_registering_in_windows::passwordIsChangedOnTheServer()
     QCOMPARE(windows->problem(romeoAddress), QString());
 }
 
-void tst_registering_in_windows::actionsNeedAConnection()
+void tst_RegisteringInWindows::actionsNeedAConnection()
 {
     KirvProsodyServer server;
     QVERIFY(addRomeo(server));
@@ -370,7 +371,7 @@ void tst_registering_in_windows::actionsNeedAConnection()
     QVERIFY(!Assistant::window());
 }
 
-void tst_registering_in_windows::accountIsDeletedOnTheServer()
+void tst_RegisteringInWindows::accountIsDeletedOnTheServer()
 {
     KirvProsodyServer server;
     QVERIFY(addRomeo(server));
@@ -397,14 +398,14 @@ void tst_registering_in_windows::accountIsDeletedOnTheServer()
     QVERIFY(!windows->profileHolds(romeoAddress.toUtf8()));
 }
 
-void tst_registering_in_windows::cancelKeepsTheAccount_data()
+void tst_RegisteringInWindows::cancelKeepsTheAccount_data()
 {
     QTest::addColumn<int>("confirmations");
     QTest::newRow("at the first question") << 0;
     QTest::newRow("at the second question") << 1;
 }
 
-void tst_registering_in_windows::cancelKeepsTheAccount()
+void tst_RegisteringInWindows::cancelKeepsTheAccount()
 {
     QFETCH(int, confirmations);
     KirvProsodyServer server;
@@ -427,5 +428,5 @@ void tst_registering_in_windows::cancelKeepsTheAccount()
     QVERIFY(server.isOnline(romeo));
 }
 
-QTEST_MAIN(tst_registering_in_windows)
+QTEST_MAIN(tst_RegisteringInWindows)
 #include "tst_registering_in_windows.moc"

@@ -17,7 +17,7 @@ const QString newPassword = QStringLiteral("the-new-one");
 } // namespace
 
 /// What reaches the server's socket when an account is saved in its window.
-class tst_saving_an_account : public QObject {
+class tst_SavingAnAccount : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -45,13 +45,13 @@ private:
     std::unique_ptr<KirvTestedAccount> account;
 };
 
-void tst_saving_an_account::initTestCase()
+void tst_SavingAnAccount::initTestCase()
 {
     QVERIFY2(certified.start(), qPrintable(certified.errorString()));
     certified.kill();
 }
 
-void tst_saving_an_account::init()
+void tst_SavingAnAccount::init()
 {
     server = std::make_unique<KirvScriptedSessionServer>();
     qputenv("KIRV_XMPP_LOCAL_PORT", QByteArray::number(server->serverPort()));
@@ -60,14 +60,14 @@ void tst_saving_an_account::init()
     account = std::make_unique<KirvTestedAccount>(*windows, ann);
 }
 
-void tst_saving_an_account::cleanup()
+void tst_SavingAnAccount::cleanup()
 {
     account.reset();
     windows.reset();
     server.reset();
 }
 
-void tst_saving_an_account::addStates()
+void tst_SavingAnAccount::addStates()
 {
     QTest::addColumn<int>("state");
     QTest::newRow("connected") << int(Connected);
@@ -75,7 +75,7 @@ void tst_saving_an_account::addStates()
     QTest::newRow("waiting for the next attempt") << int(Waiting);
 }
 
-bool tst_saving_an_account::bring(int state)
+bool tst_SavingAnAccount::bring(int state)
 {
     const QString refused = QStringLiteral("password");
     server->setPassword(state == Refused ? "another one" : "");
@@ -96,7 +96,7 @@ bool tst_saving_an_account::bring(int state)
         && server->comeBack();
 }
 
-bool tst_saving_an_account::isInClear(const QString &password) const
+bool tst_SavingAnAccount::isInClear(const QString &password) const
 {
     const QByteArray raw = password.toUtf8();
     const QByteArray received = server->receivedInClear();
@@ -107,7 +107,7 @@ bool tst_saving_an_account::isInClear(const QString &password) const
     return false;
 }
 
-void tst_saving_an_account::newPasswordIsNotSentWithTheOldEncryption_data()
+void tst_SavingAnAccount::newPasswordIsNotSentWithTheOldEncryption_data()
 {
     QTest::addColumn<int>("state");
     QTest::addColumn<bool>("isOffered");
@@ -119,7 +119,7 @@ void tst_saving_an_account::newPasswordIsNotSentWithTheOldEncryption_data()
     }
 }
 
-void tst_saving_an_account::newPasswordIsNotSentWithTheOldEncryption()
+void tst_SavingAnAccount::newPasswordIsNotSentWithTheOldEncryption()
 {
     QFETCH(int, state);
     QFETCH(bool, isOffered);
@@ -145,12 +145,12 @@ void tst_saving_an_account::newPasswordIsNotSentWithTheOldEncryption()
     QCOMPARE(server->connections(), connections + 1);
 }
 
-void tst_saving_an_account::refusedSaveChangesNothingOutside_data()
+void tst_SavingAnAccount::refusedSaveChangesNothingOutside_data()
 {
     addStates();
 }
 
-void tst_saving_an_account::refusedSaveChangesNothingOutside()
+void tst_SavingAnAccount::refusedSaveChangesNothingOutside()
 {
     QFETCH(int, state);
     QVERIFY(bring(state));
@@ -176,12 +176,12 @@ void tst_saving_an_account::refusedSaveChangesNothingOutside()
     QCOMPARE(server->connections(), connections + 1);
 }
 
-void tst_saving_an_account::acceptedSaveReconnectsOnce_data()
+void tst_SavingAnAccount::acceptedSaveReconnectsOnce_data()
 {
     addStates();
 }
 
-void tst_saving_an_account::acceptedSaveReconnectsOnce()
+void tst_SavingAnAccount::acceptedSaveReconnectsOnce()
 {
     QFETCH(int, state);
     QVERIFY(bring(state));
@@ -200,5 +200,5 @@ void tst_saving_an_account::acceptedSaveReconnectsOnce()
     QCOMPARE(server->connections(), connections + 1);
 }
 
-QTEST_MAIN(tst_saving_an_account)
+QTEST_MAIN(tst_SavingAnAccount)
 #include "tst_saving_an_account.moc"

@@ -24,7 +24,7 @@ QByteArray welcome(const QByteArray &line)
 } // namespace
 
 /// What the protocols make of the certificates of their servers.
-class TestServerCertificates : public QObject {
+class tst_ServerCertificates : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -62,14 +62,14 @@ private:
     std::unique_ptr<KirvConnection> connection;
 };
 
-void TestServerCertificates::protocols()
+void tst_ServerCertificates::protocols()
 {
     QTest::addColumn<bool>("isXmpp");
     QTest::newRow("XMPP") << true;
     QTest::newRow("IRC") << false;
 }
 
-void TestServerCertificates::initTestCase()
+void tst_ServerCertificates::initTestCase()
 {
     qRegisterMetaType<KirvConnection::State>("KirvConnection::State");
     using Wish = KirvTestCertificates::Wish;
@@ -105,14 +105,14 @@ void TestServerCertificates::initTestCase()
     QVERIFY(certificates.make("issued-by-it", wish));
 }
 
-void TestServerCertificates::cleanup()
+void tst_ServerCertificates::cleanup()
 {
     connection.reset();
     server.reset();
     QSslConfiguration::setDefaultConfiguration(untouched);
 }
 
-void TestServerCertificates::serve(const QString &certificate)
+void tst_ServerCertificates::serve(const QString &certificate)
 {
     const quint16 port = server ? server->serverPort() : 0;
     server.reset();
@@ -125,7 +125,7 @@ void TestServerCertificates::serve(const QString &certificate)
 }
 
 /// XMPP with TLS from the first byte, as IRC has it.
-void TestServerCertificates::logIn(bool isXmpp, const QByteArray &trusted)
+void tst_ServerCertificates::logIn(bool isXmpp, const QByteArray &trusted)
 {
     KirvLogin login;
     const QMap<QString, QString> values { { "server", "127.0.0.1" },
@@ -144,7 +144,7 @@ void TestServerCertificates::logIn(bool isXmpp, const QByteArray &trusted)
     connection->logIn(login, available);
 }
 
-void TestServerCertificates::everyProblemIsNamed_data()
+void tst_ServerCertificates::everyProblemIsNamed_data()
 {
     QTest::addColumn<bool>("isXmpp");
     QTest::addColumn<QString>("certificate");
@@ -165,7 +165,7 @@ void TestServerCertificates::everyProblemIsNamed_data()
     }
 }
 
-void TestServerCertificates::everyProblemIsNamed()
+void tst_ServerCertificates::everyProblemIsNamed()
 {
     QFETCH(bool, isXmpp);
     QFETCH(QString, certificate);
@@ -195,7 +195,7 @@ void TestServerCertificates::everyProblemIsNamed()
     QVERIFY(connection->pinnedCertificate().isNull());
 }
 
-void TestServerCertificates::theTrustedOneIsUsedWhateverIsWrongWithIt()
+void tst_ServerCertificates::theTrustedOneIsUsedWhateverIsWrongWithIt()
 {
     QFETCH(bool, isXmpp);
     QFETCH(QString, certificate);
@@ -214,7 +214,7 @@ void TestServerCertificates::theTrustedOneIsUsedWhateverIsWrongWithIt()
 }
 
 /// Nor does it where the server sends it along.
-void TestServerCertificates::theOneThatWasTrustedVouchesForNoOther()
+void tst_ServerCertificates::theOneThatWasTrustedVouchesForNoOther()
 {
     QFETCH(bool, isXmpp);
     for (const bool isSentAlong : { false, true }) {
@@ -231,7 +231,7 @@ void TestServerCertificates::theOneThatWasTrustedVouchesForNoOther()
     }
 }
 
-void TestServerCertificates::anotherOneIsRefused()
+void tst_ServerCertificates::anotherOneIsRefused()
 {
     QFETCH(bool, isXmpp);
     serve("self-signed-too");
@@ -242,14 +242,14 @@ void TestServerCertificates::anotherOneIsRefused()
     QCOMPARE(connection->refusedCertificate().fingerprint, certificates.digest("self-signed-too"));
 }
 
-void TestServerCertificates::trustAuthority()
+void tst_ServerCertificates::trustAuthority()
 {
     QSslConfiguration system = untouched;
     system.addCaCertificate(certificates.read("authority"));
     QSslConfiguration::setDefaultConfiguration(system);
 }
 
-void TestServerCertificates::anotherOneThatTheSystemTrustsIsRefused()
+void tst_ServerCertificates::anotherOneThatTheSystemTrustsIsRefused()
 {
     QFETCH(bool, isXmpp);
     trustAuthority();
@@ -265,7 +265,7 @@ void TestServerCertificates::anotherOneThatTheSystemTrustsIsRefused()
     QVERIFY(isXmpp || !server->wasSpokenTo());
 }
 
-void TestServerCertificates::oneThatTheSystemTrustsIsUsed()
+void tst_ServerCertificates::oneThatTheSystemTrustsIsUsed()
 {
     QFETCH(bool, isXmpp);
     trustAuthority();
@@ -277,7 +277,7 @@ void TestServerCertificates::oneThatTheSystemTrustsIsUsed()
     QVERIFY(isXmpp || connection->pinnedCertificate().isNull());
 }
 
-void TestServerCertificates::theTrustedOneIsUsedWhenTheSystemTrustsItToo()
+void tst_ServerCertificates::theTrustedOneIsUsedWhenTheSystemTrustsItToo()
 {
     QFETCH(bool, isXmpp);
     trustAuthority();
@@ -288,7 +288,7 @@ void TestServerCertificates::theTrustedOneIsUsedWhenTheSystemTrustsItToo()
     QCOMPARE(refused.size(), 0);
 }
 
-void TestServerCertificates::theRefusedOneIsForgottenWithTheNextLogin()
+void tst_ServerCertificates::theRefusedOneIsForgottenWithTheNextLogin()
 {
     serve("self-signed");
     logIn(false);
@@ -304,7 +304,7 @@ void TestServerCertificates::theRefusedOneIsForgottenWithTheNextLogin()
     QVERIFY(connection->pinnedCertificate().isNull());
 }
 
-void TestServerCertificates::aSessionGoesOnWithTheTrustedOne_data()
+void tst_ServerCertificates::aSessionGoesOnWithTheTrustedOne_data()
 {
     QTest::addColumn<bool>("encryptsAtOnce");
     QTest::newRow("STARTTLS") << false;
@@ -312,7 +312,7 @@ void TestServerCertificates::aSessionGoesOnWithTheTrustedOne_data()
 }
 
 /// A real XMPP server, which gets another certificate.
-void TestServerCertificates::aSessionGoesOnWithTheTrustedOne()
+void tst_ServerCertificates::aSessionGoesOnWithTheTrustedOne()
 {
     QFETCH(bool, encryptsAtOnce);
     KirvProsodyServer::Options options;
@@ -342,5 +342,5 @@ void TestServerCertificates::aSessionGoesOnWithTheTrustedOne()
     QVERIFY(connection->refusedCertificate().fingerprint != login.trustedCertificate);
 }
 
-QTEST_GUILESS_MAIN(TestServerCertificates)
+QTEST_GUILESS_MAIN(tst_ServerCertificates)
 #include "tst_server_certificates.moc"

@@ -33,7 +33,7 @@ bool startWithFriend(KirvProsodyServer &server, KirvObservingXmppClient &juliet)
 } // namespace
 
 /// The XMPP plug-in in our core, against a real server where that can do it, and a scripted one where it cannot.
-class TestXmppConnection : public QObject {
+class tst_XmppConnection : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -84,18 +84,18 @@ private:
     std::unique_ptr<KirvXmppProfile> profile;
 };
 
-void TestXmppConnection::init()
+void tst_XmppConnection::init()
 {
     profile = std::make_unique<KirvXmppProfile>();
     QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
 }
 
-void TestXmppConnection::cleanup()
+void tst_XmppConnection::cleanup()
 {
     profile.reset();
 }
 
-void TestXmppConnection::loginsAreBareAddresses_data()
+void tst_XmppConnection::loginsAreBareAddresses_data()
 {
     QTest::addColumn<QString>("login");
     QTest::addColumn<bool>("matches");
@@ -115,7 +115,7 @@ void TestXmppConnection::loginsAreBareAddresses_data()
     QTest::newRow("markup") << "<b>romeo@example.org" << false;
 }
 
-void TestXmppConnection::loginsAreBareAddresses()
+void tst_XmppConnection::loginsAreBareAddresses()
 {
     QFETCH(QString, login);
     const QString pattern = profile->protocol()->getLoginPattern();
@@ -124,7 +124,7 @@ void TestXmppConnection::loginsAreBareAddresses()
     QTEST(QRegExp(pattern).exactMatch(login), "matches");
 }
 
-void TestXmppConnection::everyConfigurationFillsTheForm()
+void tst_XmppConnection::everyConfigurationFillsTheForm()
 {
     const QStringList names = profile->protocol()->getConfigurations();
     QVERIFY(names.contains("Server on this computer"));
@@ -140,7 +140,7 @@ void TestXmppConnection::everyConfigurationFillsTheForm()
     QVERIFY(profile->protocol()->getConfigurationFields("Nowhere").isEmpty());
 }
 
-void TestXmppConnection::localConfigurationKnowsTheServerOfTheDemo()
+void tst_XmppConnection::localConfigurationKnowsTheServerOfTheDemo()
 {
     qputenv("KIRV_XMPP_LOCAL_PORT", "12345");
     qputenv("KIRV_XMPP_LOCAL_CERTIFICATE", "/somewhere/localhost.crt");
@@ -155,12 +155,12 @@ void TestXmppConnection::localConfigurationKnowsTheServerOfTheDemo()
     QCOMPARE(values["encryption"], QString("required"));
 }
 
-void TestXmppConnection::iconIsThere()
+void tst_XmppConnection::iconIsThere()
 {
     QVERIFY(QFile::exists(profile->protocol()->getIconPath(0)));
 }
 
-void TestXmppConnection::unusableSettingsAreSaid_data()
+void tst_XmppConnection::unusableSettingsAreSaid_data()
 {
     QTest::addColumn<Values>("values");
     QTest::newRow("certificate is not there") << Values { { "certificate", "/nonexistent.pem" } };
@@ -168,7 +168,7 @@ void TestXmppConnection::unusableSettingsAreSaid_data()
     QTest::newRow("certificate is a folder") << Values { { "certificate", "/" } };
 }
 
-void TestXmppConnection::unusableSettingsAreSaid()
+void tst_XmppConnection::unusableSettingsAreSaid()
 {
     QFETCH(Values, values);
     KirvAccount *account = profile->createAccount(romeoAddress, values);
@@ -178,20 +178,20 @@ void TestXmppConnection::unusableSettingsAreSaid()
     QVERIFY(!account->connection()->lastFailure().detail().isEmpty());
 }
 
-void TestXmppConnection::loginsThatCannotWorkMakeNoAccount_data()
+void tst_XmppConnection::loginsThatCannotWorkMakeNoAccount_data()
 {
     QTest::addColumn<QString>("login");
     QTest::newRow("no domain") << "romeo";
     QTest::newRow("no user") << "@localhost";
 }
 
-void TestXmppConnection::loginsThatCannotWorkMakeNoAccount()
+void tst_XmppConnection::loginsThatCannotWorkMakeNoAccount()
 {
     QFETCH(QString, login);
     QVERIFY(!profile->createAccount(login, {}));
 }
 
-void TestXmppConnection::logsInAndOut_data()
+void tst_XmppConnection::logsInAndOut_data()
 {
     QTest::addColumn<bool>("encrypted");
     QTest::addColumn<QString>("encryption");
@@ -201,7 +201,7 @@ void TestXmppConnection::logsInAndOut_data()
     QTest::newRow("plain because nothing else is offered") << false << "offered";
 }
 
-void TestXmppConnection::logsInAndOut()
+void tst_XmppConnection::logsInAndOut()
 {
     QFETCH(bool, encrypted);
     QFETCH(QString, encryption);
@@ -222,7 +222,7 @@ void TestXmppConnection::logsInAndOut()
 }
 
 /// Lets \a account log in in vain; the text of the failure, null when it is not \a expected.
-QString TestXmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind expected)
+QString tst_XmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind expected)
 {
     QSignalSpy failed(account->connection(), &KirvConnection::failed);
     profile->goTo(account, "available");
@@ -231,7 +231,7 @@ QString TestXmppConnection::tryToLogIn(KirvAccount *account, KirvFailure::Kind e
     return failure(account) == expected ? account->connection()->lastFailure().text() : QString();
 }
 
-void TestXmppConnection::wrongPasswordIsSaidAndNotTriedAgain()
+void tst_XmppConnection::wrongPasswordIsSaidAndNotTriedAgain()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -241,13 +241,13 @@ void TestXmppConnection::wrongPasswordIsSaidAndNotTriedAgain()
     QVERIFY(!server.isOnline("romeo"));
 }
 
-void TestXmppConnection::missingPasswordIsSaid()
+void tst_XmppConnection::missingPasswordIsSaid()
 {
     KirvAccount *account = profile->createAccount(romeoAddress, {}, "");
     QVERIFY(!tryToLogIn(account, KirvFailure::PasswordMissing).isEmpty());
 }
 
-void TestXmppConnection::nobodyListens()
+void tst_XmppConnection::nobodyListens()
 {
     const QString port = QString::number(KirvLocalServer::findFreePort());
     KirvAccount *account = profile->createAccount(romeoAddress, { { "server", "127.0.0.1" }, { "port", port } });
@@ -255,14 +255,14 @@ void TestXmppConnection::nobodyListens()
     QCOMPARE(state(account), KirvConnection::Waiting);
 }
 
-void TestXmppConnection::hostIsNotFound()
+void tst_XmppConnection::hostIsNotFound()
 {
     KirvAccount *account = profile->createAccount(romeoAddress, { { "server", "nowhere.invalid" } });
     QVERIFY(tryToLogIn(account, KirvFailure::HostNotFound).contains("nowhere.invalid"));
     QCOMPARE(state(account), KirvConnection::Waiting);
 }
 
-void TestXmppConnection::domainThatTheServerDoesNotServe()
+void tst_XmppConnection::domainThatTheServerDoesNotServe()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -272,7 +272,7 @@ void TestXmppConnection::domainThatTheServerDoesNotServe()
     QCOMPARE(state(account), KirvConnection::Offline);
 }
 
-void TestXmppConnection::untrustedCertificateIsRefusedUntilItIsTrusted()
+void tst_XmppConnection::untrustedCertificateIsRefusedUntilItIsTrusted()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -285,7 +285,7 @@ void TestXmppConnection::untrustedCertificateIsRefusedUntilItIsTrusted()
     KIRV_TRY_STATE(account, Online);
 }
 
-void TestXmppConnection::passwordIsNotSentWithoutEncryption()
+void tst_XmppConnection::passwordIsNotSentWithoutEncryption()
 {
     KirvScriptedXmppServer server([](const QByteArray &received) {
         return received.contains("<stream:stream") ? KirvScriptedXmppServer::stream(
@@ -310,7 +310,7 @@ void TestXmppConnection::passwordIsNotSentWithoutEncryption()
     KIRV_TRY(server.received().contains("<auth"));
 }
 
-void TestXmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
+void tst_XmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -319,7 +319,7 @@ void TestXmppConnection::serverThatRequiresEncryptionIsNotLeftOut()
     QCOMPARE(state(account), KirvConnection::Offline);
 }
 
-void TestXmppConnection::noWayToLogIn()
+void tst_XmppConnection::noWayToLogIn()
 {
     KirvScriptedXmppServer server([](const QByteArray &received) {
         return received.contains("<stream:stream") ? KirvScriptedXmppServer::stream(
@@ -333,14 +333,14 @@ void TestXmppConnection::noWayToLogIn()
     QCOMPARE(state(account), KirvConnection::Offline);
 }
 
-void TestXmppConnection::hungServerTimesOut_data()
+void tst_XmppConnection::hungServerTimesOut_data()
 {
     QTest::addColumn<bool>("opensStream");
     QTest::newRow("says nothing") << false;
     QTest::newRow("stops after the greeting") << true;
 }
 
-void TestXmppConnection::hungServerTimesOut()
+void tst_XmppConnection::hungServerTimesOut()
 {
     QFETCH(bool, opensStream);
     KirvScriptedXmppServer server([opensStream](const QByteArray &received) {
@@ -359,7 +359,7 @@ void TestXmppConnection::hungServerTimesOut()
     KIRV_TRY_STATE(account, Offline);
 }
 
-void TestXmppConnection::presenceIsSeenByOthers_data()
+void tst_XmppConnection::presenceIsSeenByOthers_data()
 {
     QTest::addColumn<QString>("presence");
     QTest::addColumn<int>("seen");
@@ -370,7 +370,7 @@ void TestXmppConnection::presenceIsSeenByOthers_data()
     QTest::newRow("do not disturb") << "dnd" << int(QXmppPresence::DND);
 }
 
-void TestXmppConnection::presenceIsSeenByOthers()
+void tst_XmppConnection::presenceIsSeenByOthers()
 {
     QFETCH(QString, presence);
     QFETCH(int, seen);
@@ -390,7 +390,7 @@ void TestXmppConnection::presenceIsSeenByOthers()
     KIRV_TRY(!juliet.sees(romeoAddress));
 }
 
-void TestXmppConnection::arrivesWithItsPresence()
+void tst_XmppConnection::arrivesWithItsPresence()
 {
     KirvProsodyServer server;
     KirvObservingXmppClient juliet;
@@ -402,7 +402,7 @@ void TestXmppConnection::arrivesWithItsPresence()
     QCOMPARE(juliet.presenceOf(romeoAddress).statusText(), QString("Busy"));
 }
 
-void TestXmppConnection::invisibleIsNotSeen()
+void tst_XmppConnection::invisibleIsNotSeen()
 {
     KirvProsodyServer server;
     KirvObservingXmppClient juliet;
@@ -425,7 +425,7 @@ void TestXmppConnection::invisibleIsNotSeen()
     QVERIFY(account->isOnline());
 }
 
-void TestXmppConnection::statusThatCannotBeSentKeepsTheSession()
+void tst_XmppConnection::statusThatCannotBeSentKeepsTheSession()
 {
     KirvProsodyServer server;
     KirvObservingXmppClient juliet;
@@ -438,7 +438,7 @@ void TestXmppConnection::statusThatCannotBeSentKeepsTheSession()
     QVERIFY(account->isOnline());
 }
 
-void TestXmppConnection::priorityAndResourceAreTaken()
+void tst_XmppConnection::priorityAndResourceAreTaken()
 {
     KirvProsodyServer server;
     KirvObservingXmppClient juliet;
@@ -450,7 +450,7 @@ void TestXmppConnection::priorityAndResourceAreTaken()
     QCOMPARE(juliet.presenceOf(romeoAddress).priority(), -7);
 }
 
-void TestXmppConnection::killedServerIsReachedAgain()
+void tst_XmppConnection::killedServerIsReachedAgain()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -467,7 +467,7 @@ void TestXmppConnection::killedServerIsReachedAgain()
     QVERIFY(server.isOnline("romeo"));
 }
 
-void TestXmppConnection::stoppedServerIsReachedAgain()
+void tst_XmppConnection::stoppedServerIsReachedAgain()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -482,7 +482,7 @@ void TestXmppConnection::stoppedServerIsReachedAgain()
     KIRV_TRY_STATE(account, Online);
 }
 
-void TestXmppConnection::sameResourceTwiceEndsTheOlder()
+void tst_XmppConnection::sameResourceTwiceEndsTheOlder()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -496,7 +496,7 @@ void TestXmppConnection::sameResourceTwiceEndsTheOlder()
     QCOMPARE(state(account), KirvConnection::Offline);
 }
 
-void TestXmppConnection::changedPasswordIsUsed()
+void tst_XmppConnection::changedPasswordIsUsed()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -512,7 +512,7 @@ void TestXmppConnection::changedPasswordIsUsed()
     KIRV_TRY_STATE(account, Online);
 }
 
-void TestXmppConnection::disabledAccountLeavesTheServer()
+void tst_XmppConnection::disabledAccountLeavesTheServer()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -523,7 +523,7 @@ void TestXmppConnection::disabledAccountLeavesTheServer()
     QVERIFY(!account->isOnline());
 }
 
-void TestXmppConnection::removedAccountLeavesTheServer()
+void tst_XmppConnection::removedAccountLeavesTheServer()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -533,5 +533,5 @@ void TestXmppConnection::removedAccountLeavesTheServer()
     KIRV_TRY(!server.isOnline("romeo"));
 }
 
-QTEST_MAIN(TestXmppConnection)
+QTEST_MAIN(tst_XmppConnection)
 #include "tst_xmpp_connection.moc"

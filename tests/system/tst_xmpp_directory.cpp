@@ -20,7 +20,7 @@ const QString romeoAddress = "romeo@localhost";
 } // namespace
 
 /// The directory entry and the picture of an XMPP account, on a real server and as another client sees them.
-class TestXmppDirectory : public QObject {
+class tst_XmppDirectory : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -65,7 +65,7 @@ private:
     KirvAccount *romeo = nullptr;
 };
 
-void TestXmppDirectory::init()
+void tst_XmppDirectory::init()
 {
     profile = std::make_unique<KirvXmppProfile>();
     QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
@@ -78,7 +78,7 @@ void TestXmppDirectory::init()
     KIRV_TRY(juliet->sees(romeoAddress));
 }
 
-void TestXmppDirectory::cleanup()
+void tst_XmppDirectory::cleanup()
 {
     juliet.reset();
     profile.reset();
@@ -87,7 +87,7 @@ void TestXmppDirectory::cleanup()
 }
 
 /// The one answer to what \a send requests.
-KirvDirectoryAnswer TestXmppDirectory::request(const std::function<void()> &send)
+KirvDirectoryAnswer tst_XmppDirectory::request(const std::function<void()> &send)
 {
     KirvDirectoryAnswer answer;
     int answers = 0;
@@ -103,13 +103,13 @@ KirvDirectoryAnswer TestXmppDirectory::request(const std::function<void()> &send
     return answer;
 }
 
-KirvDirectoryAnswer TestXmppDirectory::fetch()
+KirvDirectoryAnswer tst_XmppDirectory::fetch()
 {
     return request([this] { profile->protocol()->fetchPubdirInfo(romeo); });
 }
 
 /// Publishes an entry of \a values alone in the place of the one that is fetched before, unless it is known.
-KirvDirectoryAnswer TestXmppDirectory::publish(const Values &values)
+KirvDirectoryAnswer tst_XmppDirectory::publish(const Values &values)
 {
     if (!romeo->directory().isKnown())
         fetch();
@@ -117,12 +117,12 @@ KirvDirectoryAnswer TestXmppDirectory::publish(const Values &values)
     return request([&] { profile->protocol()->publishPubdirInfo(romeo, fields); });
 }
 
-KirvDirectoryAnswer TestXmppDirectory::deleteEntry()
+KirvDirectoryAnswer tst_XmppDirectory::deleteEntry()
 {
     return request([this] { profile->protocol()->deletePubdirInfo(romeo); });
 }
 
-QString TestXmppDirectory::createPicture(const QString &name, const QSize &size, QRgb color) const
+QString tst_XmppDirectory::createPicture(const QString &name, const QSize &size, QRgb color) const
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
@@ -130,7 +130,7 @@ QString TestXmppDirectory::createPicture(const QString &name, const QSize &size,
     return image.save(path) ? path : QString();
 }
 
-void TestXmppDirectory::fieldsAreBlank()
+void tst_XmppDirectory::fieldsAreBlank()
 {
     QStringList ids;
     for (const KirvField &field : profile->protocol()->directoryFields()) {
@@ -142,14 +142,14 @@ void TestXmppDirectory::fieldsAreBlank()
     QCOMPARE(ids, expected);
 }
 
-void TestXmppDirectory::thereIsNoEntryAtFirst()
+void tst_XmppDirectory::thereIsNoEntryAtFirst()
 {
     QSignalSpy failed(romeo->connection(), &KirvConnection::failed);
     QCOMPARE(fetch().outcome, KirvDirectoryAnswer::None);
     QVERIFY(failed.isEmpty());
 }
 
-void TestXmppDirectory::publishedEntryIsSeenByOthers()
+void tst_XmppDirectory::publishedEntryIsSeenByOthers()
 {
     const QString about = QString::fromUtf8("Two lines\nwith <b>markup</b> & a ☕");
     const KirvDirectoryAnswer answer = publish({ { "fullname", "Romeo Montague" },
@@ -177,14 +177,14 @@ void TestXmppDirectory::publishedEntryIsSeenByOthers()
     QCOMPARE(seen.description(), about);
 }
 
-void TestXmppDirectory::publishedEntryIsFetchedAgain()
+void tst_XmppDirectory::publishedEntryIsFetchedAgain()
 {
     const KirvDirectoryAnswer published = publish({ { "fullname", "Romeo" }, { "town", "Verona" } });
     QCOMPARE(valueOf(published.fields, "fullname"), QString("Romeo"));
     QCOMPARE(fetch().fields, published.fields);
 }
 
-void TestXmppDirectory::whatHasNoFieldIsKept()
+void tst_XmppDirectory::whatHasNoFieldIsKept()
 {
     QXmppVCardIq card;
     card.setFirstName("Romeo");
@@ -212,7 +212,7 @@ void TestXmppDirectory::whatHasNoFieldIsKept()
     QCOMPARE(seen.addresses().value(0).locality(), QString("Verona"));
 }
 
-void TestXmppDirectory::emptyTextTakesTheElementAway()
+void tst_XmppDirectory::emptyTextTakesTheElementAway()
 {
     publish({ { "fullname", "Romeo" }, { "email", "romeo@montague.example" } });
     publish({ { "fullname", "Romeo" } });
@@ -221,7 +221,7 @@ void TestXmppDirectory::emptyTextTakesTheElementAway()
     QVERIFY(seen.emails().isEmpty());
 }
 
-void TestXmppDirectory::deletedEntryIsGone()
+void tst_XmppDirectory::deletedEntryIsGone()
 {
     publish({ { "fullname", "Romeo" } });
     QCOMPARE(deleteEntry().outcome, KirvDirectoryAnswer::None);
@@ -229,7 +229,7 @@ void TestXmppDirectory::deletedEntryIsGone()
     QCOMPARE(fetch().outcome, KirvDirectoryAnswer::None);
 }
 
-void TestXmppDirectory::deletingKeepsThePicture()
+void tst_XmppDirectory::deletingKeepsThePicture()
 {
     romeo->setAvatar(createPicture("red.png", QSize(32, 32), qRgb(255, 0, 0)));
     KIRV_TRY(!seenHash().isEmpty());
@@ -240,7 +240,7 @@ void TestXmppDirectory::deletingKeepsThePicture()
     QVERIFY(!seen.photo().isEmpty());
 }
 
-void TestXmppDirectory::entryThatIsTooLongIsRefusedBeforeItIsSent()
+void tst_XmppDirectory::entryThatIsTooLongIsRefusedBeforeItIsSent()
 {
     publish({ { "fullname", "Romeo" } });
     const KirvDirectoryAnswer answer = publish({ { "fullname", "Juliet" }, { "about", QString(1024 * 1024, 'x') } });
@@ -251,14 +251,14 @@ void TestXmppDirectory::entryThatIsTooLongIsRefusedBeforeItIsSent()
     QCOMPARE(juliet->vCardOf(romeoAddress).fullName(), QString("Romeo"));
 }
 
-void TestXmppDirectory::textThatCannotBeSentIsCleaned()
+void tst_XmppDirectory::textThatCannotBeSentIsCleaned()
 {
     publish({ { "fullname", QString("Ro") + QChar(2) + "me" + QChar(0xdc00) + "o" } });
     QCOMPARE(juliet->vCardOf(romeoAddress).fullName(), QString("Romeo"));
     QVERIFY(romeo->isOnline());
 }
 
-void TestXmppDirectory::unknownFieldsAreIgnored()
+void tst_XmppDirectory::unknownFieldsAreIgnored()
 {
     const QList<KirvField> fields { KirvField::textEdit("?", "shoe-size", "43", ""),
                                     KirvField::textEdit("", "fullname", "Romeo", "") };
@@ -268,7 +268,7 @@ void TestXmppDirectory::unknownFieldsAreIgnored()
     QCOMPARE(juliet->vCardOf(romeoAddress).fullName(), QString("Romeo"));
 }
 
-void TestXmppDirectory::requestOfAnAccountThatIsOffLineIsAnswered()
+void tst_XmppDirectory::requestOfAnAccountThatIsOffLineIsAnswered()
 {
     fetch();
     profile->goTo(romeo, "offline");
@@ -278,7 +278,7 @@ void TestXmppDirectory::requestOfAnAccountThatIsOffLineIsAnswered()
     QCOMPARE(deleteEntry().outcome, KirvDirectoryAnswer::Failed);
 }
 
-void TestXmppDirectory::refusedRequestIsAnswered()
+void tst_XmppDirectory::refusedRequestIsAnswered()
 {
     KirvProsodyServer::Options options;
     options.disabledModules << "vcard";
@@ -316,7 +316,7 @@ KirvScriptedXmppServer::Script logInAndSayNothing()
     };
 }
 
-void TestXmppDirectory::silentServerIsAnswered()
+void tst_XmppDirectory::silentServerIsAnswered()
 {
     KirvScriptedXmppServer silent(logInAndSayNothing());
     KirvConnection::Timing timing = romeo->connection()->timing();
@@ -334,7 +334,7 @@ void TestXmppDirectory::silentServerIsAnswered()
     KIRV_TRY(silent.received().count("<vCard") == 2);
 }
 
-void TestXmppDirectory::serverGoneInTheMiddle()
+void tst_XmppDirectory::serverGoneInTheMiddle()
 {
     fetch();
     QSignalSpy answered(romeo->connection(), &KirvConnection::directoryAnswered);
@@ -352,7 +352,7 @@ void TestXmppDirectory::serverGoneInTheMiddle()
     QCOMPARE(answered.size(), 2);
 }
 
-void TestXmppDirectory::pictureIsSeenByOthers()
+void tst_XmppDirectory::pictureIsSeenByOthers()
 {
     romeo->setAvatar(createPicture("red.png", QSize(48, 48), qRgb(255, 0, 0)));
     KIRV_TRY(!seenHash().isEmpty());
@@ -364,7 +364,7 @@ void TestXmppDirectory::pictureIsSeenByOthers()
     QCOMPARE(image.pixel(24, 24), qRgb(255, 0, 0));
 }
 
-void TestXmppDirectory::pictureChosenOffLineIsPublishedAtLogIn()
+void tst_XmppDirectory::pictureChosenOffLineIsPublishedAtLogIn()
 {
     profile->goTo(romeo, "offline");
     KIRV_TRY(!juliet->sees(romeoAddress));
@@ -374,7 +374,7 @@ void TestXmppDirectory::pictureChosenOffLineIsPublishedAtLogIn()
     QVERIFY(!juliet->vCardOf(romeoAddress).photo().isEmpty());
 }
 
-void TestXmppDirectory::samePictureIsNotPublishedAgain()
+void tst_XmppDirectory::samePictureIsNotPublishedAgain()
 {
     romeo->setAvatar(createPicture("red.png", QSize(48, 48), qRgb(255, 0, 0)));
     KIRV_TRY(!seenHash().isEmpty());
@@ -385,7 +385,7 @@ void TestXmppDirectory::samePictureIsNotPublishedAgain()
     KIRV_TRY(seenHash() == hash);
 }
 
-void TestXmppDirectory::pictureTakenAwayIsRemoved()
+void tst_XmppDirectory::pictureTakenAwayIsRemoved()
 {
     romeo->setAvatar(createPicture("red.png", QSize(48, 48), qRgb(255, 0, 0)));
     KIRV_TRY(!seenHash().isEmpty());
@@ -397,7 +397,7 @@ void TestXmppDirectory::pictureTakenAwayIsRemoved()
     QCOMPARE(seen.fullName(), QString("Romeo"));
 }
 
-void TestXmppDirectory::pictureOfAnotherClientIsAdvertised()
+void tst_XmppDirectory::pictureOfAnotherClientIsAdvertised()
 {
     profile->goTo(romeo, "offline");
     KIRV_TRY(!juliet->sees(romeoAddress));
@@ -414,7 +414,7 @@ void TestXmppDirectory::pictureOfAnotherClientIsAdvertised()
     QCOMPARE(juliet->vCardOf(romeoAddress).photo(), QByteArray("a picture"));
 }
 
-void TestXmppDirectory::largePictureIsMadeSmall()
+void tst_XmppDirectory::largePictureIsMadeSmall()
 {
     QImage noise(1200, 800, QImage::Format_ARGB32);
     QRandomGenerator generator(1);
@@ -431,7 +431,7 @@ void TestXmppDirectory::largePictureIsMadeSmall()
     QVERIFY(romeo->isOnline());
 }
 
-void TestXmppDirectory::pictureAndEntryAtOnceKeepEachOther()
+void tst_XmppDirectory::pictureAndEntryAtOnceKeepEachOther()
 {
     fetch(); // so that nothing is waited for between the two
     romeo->setAvatar(createPicture("red.png", QSize(48, 48), qRgb(255, 0, 0)));
@@ -442,5 +442,5 @@ void TestXmppDirectory::pictureAndEntryAtOnceKeepEachOther()
     QCOMPARE(seen.fullName(), QString("Romeo"));
 }
 
-QTEST_MAIN(TestXmppDirectory)
+QTEST_MAIN(tst_XmppDirectory)
 #include "tst_xmpp_directory.moc"

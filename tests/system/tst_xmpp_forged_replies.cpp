@@ -20,7 +20,7 @@ const QByteArray forgedEntry = "<vCard xmlns='vcard-temp'><FN>Forged</FN></vCard
 } // namespace
 
 /// Somebody with an account on the same server replies in its place.
-class TestXmppForgedReplies : public QObject {
+class tst_XmppForgedReplies : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -46,7 +46,7 @@ private:
 };
 
 /// Starts a server with Mallory, and with Romeo on line.
-void TestXmppForgedReplies::startMallory()
+void tst_XmppForgedReplies::startMallory()
 {
     KirvProsodyServer::Options options;
     options.allowsRegistration = false;
@@ -62,7 +62,7 @@ void TestXmppForgedReplies::startMallory()
     QCOMPARE(fullName(), QString()); // and nothing is under way any more
 }
 
-void TestXmppForgedReplies::cleanup()
+void tst_XmppForgedReplies::cleanup()
 {
     romeo.reset();
     mallory.reset();
@@ -72,7 +72,7 @@ void TestXmppForgedReplies::cleanup()
 }
 
 /// Encrypted when a certificate is to be trusted.
-void TestXmppForgedReplies::logIn(const QString &id, quint16 port, const QString &certificate)
+void tst_XmppForgedReplies::logIn(const QString &id, quint16 port, const QString &certificate)
 {
     KirvLogin login;
     login.id = id;
@@ -89,7 +89,7 @@ void TestXmppForgedReplies::logIn(const QString &id, quint16 port, const QString
 
 /// Sends Romeo results with the ids that the library gives to the next requests, and lets them arrive where they wait
 /// to be read.
-void TestXmppForgedReplies::forge(const QByteArray &content)
+void tst_XmppForgedReplies::forge(const QByteArray &content)
 {
     const int forgeries = 30;
     int number = QXmppIq().id().remove(QRegularExpression("^\\D*")).toInt();
@@ -101,7 +101,7 @@ void TestXmppForgedReplies::forge(const QByteArray &content)
 }
 
 /// The full name of the entry that Romeo fetches.
-QString TestXmppForgedReplies::fullName()
+QString tst_XmppForgedReplies::fullName()
 {
     QSignalSpy answers(romeo.get(), &KirvConnection::directoryAnswered);
     romeo->fetchDirectory();
@@ -115,7 +115,7 @@ QString TestXmppForgedReplies::fullName()
     return QString();
 }
 
-void TestXmppForgedReplies::forgedDirectoryEntryIsIgnored()
+void tst_XmppForgedReplies::forgedDirectoryEntryIsIgnored()
 {
     startMallory();
     forge(forgedEntry);
@@ -123,7 +123,7 @@ void TestXmppForgedReplies::forgedDirectoryEntryIsIgnored()
 }
 
 /// A forged entry would be written back with the change, over the real one.
-void TestXmppForgedReplies::forgedPublicationIsIgnored()
+void tst_XmppForgedReplies::forgedPublicationIsIgnored()
 {
     startMallory();
     KirvField nickname = KirvField::textEdit("Nickname", "nickname", "Romy", QString());
@@ -136,7 +136,7 @@ void TestXmppForgedReplies::forgedPublicationIsIgnored()
     QCOMPARE(seen.fullName(), QString());
 }
 
-void TestXmppForgedReplies::forgedResultIsIgnored_data()
+void tst_XmppForgedReplies::forgedResultIsIgnored_data()
 {
     QTest::addColumn<bool>("isDeletion");
     QTest::newRow("password") << false;
@@ -144,7 +144,7 @@ void TestXmppForgedReplies::forgedResultIsIgnored_data()
 }
 
 /// The server does neither; the forged results say that it did.
-void TestXmppForgedReplies::forgedResultIsIgnored()
+void tst_XmppForgedReplies::forgedResultIsIgnored()
 {
     QFETCH(bool, isDeletion);
     startMallory();
@@ -164,7 +164,7 @@ void TestXmppForgedReplies::forgedResultIsIgnored()
     QCOMPARE(romeo->state(), KirvConnection::Online);
 }
 
-void TestXmppForgedReplies::replyFromAnotherAddressIsIgnored_data()
+void tst_XmppForgedReplies::replyFromAnotherAddressIsIgnored_data()
 {
     QTest::addColumn<QByteArray>("sender");
     QTest::newRow("stranger") << QByteArray("mallory@localhost/Kirv");
@@ -174,7 +174,7 @@ void TestXmppForgedReplies::replyFromAnotherAddressIsIgnored_data()
 }
 
 /// Even where the id is known.
-void TestXmppForgedReplies::replyFromAnotherAddressIsIgnored()
+void tst_XmppForgedReplies::replyFromAnotherAddressIsIgnored()
 {
     QFETCH(QByteArray, sender);
     KirvHostileXmppServer::Attack attack;
@@ -190,7 +190,7 @@ void TestXmppForgedReplies::replyFromAnotherAddressIsIgnored()
 }
 
 /// Who has seen one request knows nothing of the next one.
-void TestXmppForgedReplies::idsDoNotFollowEachOther()
+void tst_XmppForgedReplies::idsDoNotFollowEachOther()
 {
     KirvScriptedSessionServer scripted;
     romeo = std::make_unique<KirvXmppConnection>();
@@ -212,5 +212,5 @@ void TestXmppForgedReplies::idsDoNotFollowEachOther()
     QCOMPARE(requests, 3); // the entry twice, the log-in fetches it, too
 }
 
-QTEST_GUILESS_MAIN(TestXmppForgedReplies)
+QTEST_GUILESS_MAIN(tst_XmppForgedReplies)
 #include "tst_xmpp_forged_replies.moc"

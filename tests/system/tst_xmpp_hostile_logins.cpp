@@ -3,88 +3,23 @@
 #include "protocols/xmpp/kirv_xmpp_login_guard.h"
 #include "tests/support/kirv_load_meter.h"
 #include "tests/support/kirv_patience.h"
+#include "tests/support/servers/kirv_scram.h"
 #include "tests/support/servers/kirv_scripted_xmpp_server.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
 #include "tools/servers/kirv_prosody_server.h"
 
-#include <QMessageAuthenticationCode>
-#include <QPasswordDigestor>
 #include <QSignalSpy>
 #include <QTest>
 
 namespace {
-
-const QByteArray saslSpace = "urn:ietf:params:xml:ns:xmpp-sasl";
-
-QByteArray sasl(const QByteArray &name, const QByteArray &content = QByteArray())
-{
-    return '<' + name + " xmlns='" + saslSpace + "'>" + content.toBase64() + "</" + name + '>';
-}
-
-QByteArray mechanisms(const QByteArrayList &names)
-{
-    return "<mechanisms xmlns='" + saslSpace + "'><mechanism>" + names.join("</mechanism><mechanism>")
-        + "</mechanism></mechanisms>";
-}
 
 QByteArray features(const QByteArray &content)
 {
     return "<stream:features>" + content + "</stream:features>";
 }
 
-/// A server's side of SCRAM, as far as its messages differ from those of a good one.
-struct Scram {
-    QByteArray password = "secret"; ///< that the server knows
-    QByteArray rounds = "4096";
-    QByteArray mechanism = "SCRAM-SHA-1";
-    QCryptographicHash::Algorithm hash = QCryptographicHash::Sha1; ///< of the mechanism
-    QByteArray noncePrefix; ///< before the client's nonce
-    QByteArray padding; ///< at the end of the challenge
-    bool sendsChallenge = true;
-    bool repeatsChallenge = false; ///< in the place of an end
-    bool provesInChallenge = false; ///< in the place of the end
-    bool proves = true;
-
-    /// The reply to \a received, which is one element.
-    QByteArray answer(const QByteArray &received)
-    {
-        const int begin = received.indexOf('>') + 1;
-        const QByteArray message = QByteArray::fromBase64(received.mid(begin, received.lastIndexOf('<') - begin));
-        if (received.contains("<auth")) {
-            clientFirst = message.mid(int(qstrlen("n,,")));
-            const QByteArray nonce = clientFirst.mid(clientFirst.indexOf(",r=") + 3);
-            serverFirst = "r=" + noncePrefix + nonce + "srv,s=c2FsdA==,i=" + rounds + padding;
-            return sendsChallenge ? sasl("challenge", serverFirst) : sasl("success");
-        }
-        if (repeatsChallenge)
-            return sasl("challenge", serverFirst);
-        if (message.isEmpty())
-            return sasl("success"); // the proof was sent
-        if (!proves)
-            return sasl("success");
-        return sasl(provesInChallenge ? "challenge" : "success", "v=" + proof(message).toBase64());
-    }
-
-private:
-    QByteArray hashed(const QByteArray &message, const QByteArray &key) const
-    {
-        return QMessageAuthenticationCode::hash(message, key, hash);
-    }
-    QByteArray proof(const QByteArray &clientFinal) const
-    {
-        const int length = QCryptographicHash::hashLength(hash);
-        const QByteArray key =
-            QPasswordDigestor::deriveKeyPbkdf2(hash, password, "salt", rounds.toInt(), quint64(length));
-        const QByteArray withoutProof = clientFinal.left(clientFinal.indexOf(",p="));
-        return hashed(clientFirst + ',' + serverFirst + ',' + withoutProof, hashed("Server Key", key));
-    }
-
-    QByteArray clientFirst;
-    QByteArray serverFirst;
-};
-
 /// A server that logs \a scram's client in and binds it to \a address.
-KirvScriptedXmppServer::Script logsIn(Scram scram, const QByteArray &address = "ann@localhost/x",
+KirvScriptedXmppServer::Script logsIn(KirvScram scram, const QByteArray &address = "ann@localhost/x",
                                       const QByteArray &lastFeatures = QByteArray())
 {
     bool isLoggedIn = false;
@@ -92,7 +27,7 @@ KirvScriptedXmppServer::Script logsIn(Scram scram, const QByteArray &address = "
         if (received.contains("<stream:stream"))
             return KirvScriptedXmppServer::stream(isLoggedIn ? "<bind xmlns='urn:ietf:params:xml:ns:xmpp-bind'/>"
                                                           + lastFeatures
-                                                             : mechanisms({ "PLAIN", scram.mechanism }));
+                                                             : kirvMechanisms({ "PLAIN", scram.mechanism }));
         if (received.contains("<auth") || received.contains("<response")) {
             const QByteArray answer = scram.answer(received);
             isLoggedIn = answer.startsWith("<success");
@@ -119,7 +54,7 @@ KirvLogin loginTo(quint16 port, KirvXmppSettings::Encryption encryption = KirvXm
 Q_DECLARE_METATYPE(KirvScriptedXmppServer::Script)
 
 /// Servers that do not keep to the order of a log-in, pretend it, or demand more of it than is reasonable.
-class TestXmppHostileLogins : public QObject {
+class tst_XmppHostileLogins : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -132,17 +67,17 @@ private Q_SLOTS:
     void protectionOfTheSessionIsKnown();
 };
 
-void TestXmppHostileLogins::honestServersLogIn_data()
+void tst_XmppHostileLogins::honestServersLogIn_data()
 {
     QTest::addColumn<KirvScriptedXmppServer::Script>("script");
-    QTest::newRow("proof at the end") << logsIn(Scram());
-    Scram inChallenge;
+    QTest::newRow("proof at the end") << logsIn(KirvScram());
+    KirvScram inChallenge;
     inChallenge.provesInChallenge = true;
     QTest::newRow("proof in a challenge") << logsIn(inChallenge);
-    QTest::newRow("no address") << logsIn(Scram(), "");
-    QTest::newRow("address in capitals") << logsIn(Scram(), "Ann@LOCALHOST/x");
-    QTest::newRow("mechanisms after the log-in") << logsIn(Scram(), "ann@localhost/x", mechanisms({ "PLAIN" }));
-    Scram laborious;
+    QTest::newRow("no address") << logsIn(KirvScram(), "");
+    QTest::newRow("address in capitals") << logsIn(KirvScram(), "Ann@LOCALHOST/x");
+    QTest::newRow("mechanisms after the log-in") << logsIn(KirvScram(), "ann@localhost/x", kirvMechanisms({ "PLAIN" }));
+    KirvScram laborious;
     laborious.rounds = QByteArray::number(KirvXmppLoginGuard::mostRounds);
     QTest::newRow("30,000 rounds of SHA-1") << logsIn(laborious);
     laborious.mechanism = "SCRAM-SHA-256";
@@ -154,7 +89,7 @@ void TestXmppHostileLogins::honestServersLogIn_data()
     QTest::newRow("20,000 rounds of SHA-512") << logsIn(laborious);
 }
 
-void TestXmppHostileLogins::honestServersLogIn()
+void tst_XmppHostileLogins::honestServersLogIn()
 {
     QFETCH(KirvScriptedXmppServer::Script, script);
     KirvScriptedXmppServer server(script);
@@ -172,14 +107,14 @@ void TestXmppHostileLogins::honestServersLogIn()
     QVERIFY(connection.securityText().startsWith("not encrypted, SASL SCRAM-SHA-"));
 }
 
-void TestXmppHostileLogins::othersAreLeftWithASentence_data()
+void tst_XmppHostileLogins::othersAreLeftWithASentence_data()
 {
     QTest::addColumn<KirvScriptedXmppServer::Script>("script");
     QTest::addColumn<QString>("said");
-    const auto row = [](const char *name, const Scram &scram, const char *said) {
+    const auto row = [](const char *name, const KirvScram &scram, const char *said) {
         QTest::newRow(name) << logsIn(scram) << said;
     };
-    Scram scram;
+    KirvScram scram;
     scram.rounds = "2147483647";
     row("rounds of hours", scram, "2147483647 rounds");
     scram.rounds = "99999999999999999999";
@@ -190,41 +125,42 @@ void TestXmppHostileLogins::othersAreLeftWithASentence_data()
     scram.hash = QCryptographicHash::Sha512;
     scram.rounds = QByteArray::number(KirvXmppLoginGuard::mostRoundsOfSha512 + 1);
     row("one round too many of SHA-512", scram, "rounds");
-    scram = Scram();
+    scram = KirvScram();
     scram.padding = ',' + QByteArray(1000000, 'x');
     row("challenge of a megabyte", scram, "more than a log-in needs");
-    scram = Scram();
+    scram = KirvScram();
     scram.sendsChallenge = false;
     row("success without a challenge", scram, "proved");
-    scram = Scram();
+    scram = KirvScram();
     scram.proves = false;
     row("success without a proof", scram, "proved");
-    scram = Scram();
+    scram = KirvScram();
     scram.password = "another";
     row("server that does not know the password", scram, "proved");
     scram.provesInChallenge = true;
     row("wrong proof in a challenge", scram, "part of the log-in is wrong");
-    scram = Scram();
+    scram = KirvScram();
     scram.proves = false;
     scram.padding = ",v=AAAA";
     row("proof in the first challenge", scram, "part of the log-in is wrong");
-    scram = Scram();
+    scram = KirvScram();
     scram.padding = ",i=2000000";
     row("rounds twice", scram, "part of the log-in is wrong");
-    scram = Scram();
+    scram = KirvScram();
     scram.padding = ",s=QSXCR+Q6sek8bf92";
     row("salt twice", scram, "part of the log-in is wrong");
-    scram = Scram();
+    scram = KirvScram();
     scram.noncePrefix = "x";
     row("answer to somebody else", scram, "part of the log-in is wrong");
-    scram = Scram();
+    scram = KirvScram();
     scram.repeatsChallenge = true;
     row("challenges without end", scram, "part of the log-in is wrong");
-    QTest::newRow("another account") << logsIn(Scram(), "eve@localhost/x") << "eve@localhost";
-    QTest::newRow("another domain") << logsIn(Scram(), "ann@elsewhere.example/x") << "ann@elsewhere.example";
+    QTest::newRow("another account") << logsIn(KirvScram(), "eve@localhost/x") << "eve@localhost";
+    QTest::newRow("another domain") << logsIn(KirvScram(), "ann@elsewhere.example/x") << "ann@elsewhere.example";
     QTest::newRow("success before anything") << KirvScriptedXmppServer::Script([](const QByteArray &received) {
-        return received.contains("<stream:stream") ? KirvScriptedXmppServer::stream(QByteArray()) + sasl("success")
-                                                   : QByteArray();
+        return received.contains("<stream:stream")
+            ? KirvScriptedXmppServer::stream(QByteArray()) + kirvSaslElement("success")
+            : QByteArray();
     }) << "no way to log in";
     QTest::newRow("encryption that was not requested")
         << KirvScriptedXmppServer::Script([](const QByteArray &received) {
@@ -236,20 +172,18 @@ void TestXmppHostileLogins::othersAreLeftWithASentence_data()
         << "";
     QTest::newRow("log-in again and again") << KirvScriptedXmppServer::Script([](const QByteArray &received) {
         if (received.contains("<stream:stream"))
-            return KirvScriptedXmppServer::stream(mechanisms({ "PLAIN" }));
-        return received.contains("<auth") ? features(mechanisms({ "PLAIN" })) : QByteArray();
+            return KirvScriptedXmppServer::stream(kirvMechanisms({ "PLAIN" }));
+        return received.contains("<auth") ? features(kirvMechanisms({ "PLAIN" })) : QByteArray();
     }) << "again and again";
 }
 
-void TestXmppHostileLogins::othersAreLeftWithASentence()
+void tst_XmppHostileLogins::othersAreLeftWithASentence()
 {
     QFETCH(KirvScriptedXmppServer::Script, script);
     QFETCH(QString, said);
     KirvScriptedXmppServer server(script);
     KirvXmppConnection connection;
     QSignalSpy failures(&connection, &KirvConnection::failed);
-    QElapsedTimer time;
-    time.start();
     connection.logIn(loginTo(server.serverPort()), { "available", QString(), QString() });
     KIRV_TRY(!failures.isEmpty() || connection.state() == KirvConnection::Online);
     QVERIFY(!failures.isEmpty());
@@ -260,11 +194,11 @@ void TestXmppHostileLogins::othersAreLeftWithASentence()
 }
 
 /// They would log in nobody, or give the password to others.
-void TestXmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
+void tst_XmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
 {
     KirvScriptedXmppServer server([](const QByteArray &received) {
         return received.contains("<stream:stream")
-            ? KirvScriptedXmppServer::stream(mechanisms({ "ANONYMOUS", "X-FACEBOOK-PLATFORM", "X-OAUTH2" }))
+            ? KirvScriptedXmppServer::stream(kirvMechanisms({ "ANONYMOUS", "X-FACEBOOK-PLATFORM", "X-OAUTH2" }))
             : QByteArray();
     });
     KirvXmppConnection connection;
@@ -275,7 +209,7 @@ void TestXmppHostileLogins::nothingIsSentForMechanismsWithoutThePassword()
     QVERIFY2(!server.received().contains("<auth"), server.received().constData());
 }
 
-void TestXmppHostileLogins::protectionOfTheSessionIsKnown_data()
+void tst_XmppHostileLogins::protectionOfTheSessionIsKnown_data()
 {
     QTest::addColumn<bool>("isEncrypted");
     QTest::addColumn<QString>("start");
@@ -283,7 +217,7 @@ void TestXmppHostileLogins::protectionOfTheSessionIsKnown_data()
     QTest::newRow("in clear") << false << "not encrypted, ";
 }
 
-void TestXmppHostileLogins::protectionOfTheSessionIsKnown()
+void tst_XmppHostileLogins::protectionOfTheSessionIsKnown()
 {
     QFETCH(bool, isEncrypted);
     QFETCH(QString, start);
@@ -307,5 +241,5 @@ void TestXmppHostileLogins::protectionOfTheSessionIsKnown()
     server.kill(); // an orderly end takes a second
 }
 
-QTEST_GUILESS_MAIN(TestXmppHostileLogins)
+QTEST_GUILESS_MAIN(tst_XmppHostileLogins)
 #include "tst_xmpp_hostile_logins.moc"

@@ -2,6 +2,7 @@
 #include "protocols/xmpp/kirv_xmpp_connection.h"
 #include "protocols/xmpp/kirv_xmpp_stream_guard.h"
 #include "tests/support/kirv_load_meter.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_hostile_xmpp_server.h"
 
 #include <QProcess>
@@ -44,7 +45,7 @@ bool createCertificate(const QString &certificateFile, const QString &keyFile)
 } // namespace
 
 /// Servers and strangers that send what they should not: neither the event loop nor the memory of the program suffers.
-class TestXmppHostileServers : public QObject {
+class tst_XmppHostileServers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -65,12 +66,12 @@ private:
     KirvLoadMeter meter;
 };
 
-void TestXmppHostileServers::initTestCase()
+void tst_XmppHostileServers::initTestCase()
 {
     QVERIFY(createCertificate(folder.filePath("certificate.pem"), folder.filePath("key.pem")));
 }
 
-KirvLogin TestXmppHostileServers::loginTo(quint16 port, bool encrypted) const
+KirvLogin tst_XmppHostileServers::loginTo(quint16 port, bool encrypted) const
 {
     KirvLogin login;
     login.id = QStringLiteral("ann@localhost");
@@ -85,13 +86,13 @@ KirvLogin TestXmppHostileServers::loginTo(quint16 port, bool encrypted) const
     return login;
 }
 
-std::unique_ptr<Server> TestXmppHostileServers::startServer(const Server::Attack &attack, bool encrypted) const
+std::unique_ptr<Server> tst_XmppHostileServers::startServer(const Server::Attack &attack, bool encrypted) const
 {
     return encrypted ? std::make_unique<Server>(attack, folder.filePath("certificate.pem"), folder.filePath("key.pem"))
                      : std::make_unique<Server>(attack);
 }
 
-void TestXmppHostileServers::strangersAreDigested_data()
+void tst_XmppHostileServers::strangersAreDigested_data()
 {
     QTest::addColumn<QByteArray>("start");
     QTest::addColumn<QByteArray>("block");
@@ -126,7 +127,7 @@ void TestXmppHostileServers::strangersAreDigested_data()
     flood("spaces without end", QByteArray(65536, ' '), floodSize / 65536);
 }
 
-void TestXmppHostileServers::strangersAreDigested()
+void tst_XmppHostileServers::strangersAreDigested()
 {
     QFETCH(QByteArray, start);
     QFETCH(QByteArray, block);
@@ -148,7 +149,7 @@ void TestXmppHostileServers::strangersAreDigested()
         QVERIFY2(meter.peakGrowth() < largestGrowth, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-void TestXmppHostileServers::streamThatCannotGoOnIsEnded_data()
+void tst_XmppHostileServers::streamThatCannotGoOnIsEnded_data()
 {
     QTest::addColumn<QByteArray>("start");
     QTest::addColumn<QByteArray>("block");
@@ -190,7 +191,7 @@ void TestXmppHostileServers::streamThatCannotGoOnIsEnded_data()
     row("undeclared entity", "<message><body>&b;</body></message>", {}, Server::AfterLogIn, false, "XML");
 }
 
-void TestXmppHostileServers::streamThatCannotGoOnIsEnded()
+void tst_XmppHostileServers::streamThatCannotGoOnIsEnded()
 {
     QFETCH(QByteArray, start);
     QFETCH(QByteArray, block);
@@ -207,7 +208,7 @@ void TestXmppHostileServers::streamThatCannotGoOnIsEnded()
     QSignalSpy failures(&connection, &KirvConnection::failed);
     connection.logIn(loginTo(server->port(), encrypted), { QStringLiteral("available"), QString(), QString() });
     meter.runUntil([&] { return !failures.isEmpty() || server->isSpent(); });
-    QTRY_VERIFY(!failures.isEmpty());
+    KIRV_TRY(!failures.isEmpty());
     meter.report(start.size() + server->sentBytes());
     const auto failure = failures[0][0].value<KirvFailure>();
     QVERIFY2(failure.detail().contains(said), qPrintable(failure.text()));
@@ -217,7 +218,7 @@ void TestXmppHostileServers::streamThatCannotGoOnIsEnded()
         QVERIFY2(meter.peakGrowth() < largestGrowth, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-void TestXmppHostileServers::largeReplyIsBounded_data()
+void tst_XmppHostileServers::largeReplyIsBounded_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<int>("outcome");
@@ -239,7 +240,7 @@ void TestXmppHostileServers::largeReplyIsBounded_data()
 }
 
 /// The reply is the server's, but others can have written what is in it.
-void TestXmppHostileServers::largeReplyIsBounded()
+void tst_XmppHostileServers::largeReplyIsBounded()
 {
     QFETCH(QByteArray, content);
     QFETCH(int, outcome);
@@ -251,7 +252,7 @@ void TestXmppHostileServers::largeReplyIsBounded()
     QSignalSpy failures(&connection, &KirvConnection::failed);
     QSignalSpy answers(&connection, &KirvConnection::directoryAnswered);
     connection.logIn(loginTo(server->port(), false), { QStringLiteral("available"), QString(), QString() });
-    QTRY_COMPARE(connection.state(), KirvConnection::Online);
+    KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
     connection.fetchDirectory();
     QVERIFY(meter.runUntil([&] { return server->isDigested() && !answers.isEmpty(); }));
     meter.report(attack.start.size());
@@ -264,7 +265,7 @@ void TestXmppHostileServers::largeReplyIsBounded()
 }
 
 /// The replies to a server that does not read them are not collected.
-void TestXmppHostileServers::serverThatDoesNotReadIsNotReadEither()
+void tst_XmppHostileServers::serverThatDoesNotReadIsNotReadEither()
 {
     Server::Attack attack;
     attack.block = blockOf("<iq type='get' id='1' from='localhost'><ping xmlns='urn:xmpp:ping'/></iq>");
@@ -287,5 +288,5 @@ void TestXmppHostileServers::serverThatDoesNotReadIsNotReadEither()
         QVERIFY2(meter.peakGrowth() < largestGrowth, qPrintable(QString::number(meter.peakGrowth())));
 }
 
-QTEST_GUILESS_MAIN(TestXmppHostileServers)
+QTEST_GUILESS_MAIN(tst_XmppHostileServers)
 #include "tst_xmpp_hostile_servers.moc"

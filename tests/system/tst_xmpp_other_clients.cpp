@@ -13,7 +13,7 @@
 #include <memory>
 
 /// One account in several clients at a time, on a real server.
-class TestXmppOtherClients : public QObject {
+class tst_XmppOtherClients : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -37,7 +37,7 @@ private:
     std::unique_ptr<KirvProsodyServer> server;
 };
 
-void TestXmppOtherClients::init()
+void tst_XmppOtherClients::init()
 {
     KirvProsodyServer::Options options;
     options.enabledModules = QStringList { "pep" };
@@ -45,12 +45,12 @@ void TestXmppOtherClients::init()
     QVERIFY(KirvXmppProfile::start(*server, { "romeo", "juliet" }));
 }
 
-void TestXmppOtherClients::cleanup()
+void tst_XmppOtherClients::cleanup()
 {
     server.reset();
 }
 
-KirvLogin TestXmppOtherClients::login(const QString &id) const
+KirvLogin tst_XmppOtherClients::login(const QString &id) const
 {
     KirvXmppSettings settings;
     settings.server = server->host();
@@ -59,13 +59,13 @@ KirvLogin TestXmppOtherClients::login(const QString &id) const
     return { id, "secret", settings.toFields() };
 }
 
-void TestXmppOtherClients::logIn(KirvXmppConnection &connection) const
+void tst_XmppOtherClients::logIn(KirvXmppConnection &connection) const
 {
     connection.logIn(login(), available);
     QTRY_COMPARE_WITH_TIMEOUT(connection.state(), KirvConnection::Online, kirvPatience);
 }
 
-void TestXmppOtherClients::twoWithTheSameSettingsStayOnLine()
+void tst_XmppOtherClients::twoWithTheSameSettingsStayOnLine()
 {
     KirvXmppConnection one, other;
     QSignalSpy failed(&one, &KirvConnection::failed);
@@ -76,7 +76,7 @@ void TestXmppOtherClients::twoWithTheSameSettingsStayOnLine()
     QCOMPARE(failed.size(), 0);
 }
 
-void TestXmppOtherClients::comingBackTakesThePlaceOfTheOldSession()
+void tst_XmppOtherClients::comingBackTakesThePlaceOfTheOldSession()
 {
     KirvXmppConnection connection;
     logIn(connection);
@@ -86,14 +86,14 @@ void TestXmppOtherClients::comingBackTakesThePlaceOfTheOldSession()
     QTRY_COMPARE_WITH_TIMEOUT(server->sessions(), before, kirvPatience);
 }
 
-void TestXmppOtherClients::messagesStayForClientsThatShowThem_data()
+void tst_XmppOtherClients::messagesStayForClientsThatShowThem_data()
 {
     QTest::addColumn<QString>("when");
     QTest::newRow("nobody is on line") << "before";
     QTest::newRow("only this client is on line") << "meanwhile";
 }
 
-void TestXmppOtherClients::messagesStayForClientsThatShowThem()
+void tst_XmppOtherClients::messagesStayForClientsThatShowThem()
 {
     QFETCH(QString, when);
     KirvObservingXmppClient juliet, romeo;
@@ -113,7 +113,7 @@ void TestXmppOtherClients::messagesStayForClientsThatShowThem()
     QTRY_COMPARE_WITH_TIMEOUT(romeo.heard(), QStringList { "Art thou not Romeo?" }, kirvPatience);
 }
 
-QByteArray TestXmppOtherClients::makePicture(QColor colour, const QString &path) const
+QByteArray tst_XmppOtherClients::makePicture(QColor colour, const QString &path) const
 {
     QImage image(40, 40, QImage::Format_RGB32);
     image.fill(colour);
@@ -124,14 +124,14 @@ QByteArray TestXmppOtherClients::makePicture(QColor colour, const QString &path)
     return isMade ? data : QByteArray();
 }
 
-void TestXmppOtherClients::theNewerPictureIsShownHere_data()
+void tst_XmppOtherClients::theNewerPictureIsShownHere_data()
 {
     QTest::addColumn<bool>("isEvent");
     QTest::newRow("in the directory entry") << false;
     QTest::newRow("among the personal events") << true;
 }
 
-void TestXmppOtherClients::theNewerPictureIsShownHere()
+void tst_XmppOtherClients::theNewerPictureIsShownHere()
 {
     QFETCH(bool, isEvent);
     KirvXmppProfile profile;
@@ -166,7 +166,7 @@ void TestXmppOtherClients::theNewerPictureIsShownHere()
     }
 }
 
-void TestXmppOtherClients::aPictureThatWasChosenHereIsPublished()
+void tst_XmppOtherClients::aPictureThatWasChosenHereIsPublished()
 {
     KirvObservingXmppClient other;
     QVERIFY(other.logIn(*server, "romeo") && other.publishEvent(makePicture(Qt::blue)));
@@ -193,5 +193,5 @@ void TestXmppOtherClients::aPictureThatWasChosenHereIsPublished()
     }
 }
 
-QTEST_MAIN(TestXmppOtherClients)
+QTEST_MAIN(tst_XmppOtherClients)
 #include "tst_xmpp_other_clients.moc"

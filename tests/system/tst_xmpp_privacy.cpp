@@ -36,7 +36,7 @@ KirvPresence presence(const QString &id)
 } // namespace
 
 /// What others learn of an account that they have not been told.
-class TestXmppPrivacy : public QObject {
+class tst_XmppPrivacy : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -50,7 +50,7 @@ private Q_SLOTS:
     void passwordIsSentInClearOnlyWhereThatIsChosen();
 };
 
-void TestXmppPrivacy::strangersAreNotAnswered_data()
+void tst_XmppPrivacy::strangersAreNotAnswered_data()
 {
     QTest::addColumn<QByteArray>("request");
     QTest::addColumn<QString>("presenceId");
@@ -67,7 +67,7 @@ void TestXmppPrivacy::strangersAreNotAnswered_data()
     }
 }
 
-void TestXmppPrivacy::strangersAreNotAnswered()
+void tst_XmppPrivacy::strangersAreNotAnswered()
 {
     QFETCH(QByteArray, request);
     QFETCH(QString, presenceId);
@@ -95,7 +95,7 @@ void TestXmppPrivacy::strangersAreNotAnswered()
 }
 
 /// Else it would end the session.
-void TestXmppPrivacy::invisibleAccountAnswersItsServer()
+void tst_XmppPrivacy::invisibleAccountAnswersItsServer()
 {
     KirvHostileXmppServer server(KirvHostileXmppServer::Attack {});
     KirvXmppConnection connection;
@@ -104,7 +104,7 @@ void TestXmppPrivacy::invisibleAccountAnswersItsServer()
     QCOMPARE(connection.state(), KirvConnection::Online);
 }
 
-void TestXmppPrivacy::requestsAreAnsweredAsTheSenderNeeds_data()
+void tst_XmppPrivacy::requestsAreAnsweredAsTheSenderNeeds_data()
 {
     QTest::addColumn<QByteArray>("from");
     QTest::addColumn<QByteArray>("request");
@@ -126,7 +126,7 @@ void TestXmppPrivacy::requestsAreAnsweredAsTheSenderNeeds_data()
 }
 
 /// The server receives an error for what is not known here. Others would learn from it that the account is on line.
-void TestXmppPrivacy::requestsAreAnsweredAsTheSenderNeeds()
+void tst_XmppPrivacy::requestsAreAnsweredAsTheSenderNeeds()
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, request);
@@ -149,7 +149,7 @@ void TestXmppPrivacy::requestsAreAnsweredAsTheSenderNeeds()
     QCOMPARE(connection.state(), KirvConnection::Online);
 }
 
-void TestXmppPrivacy::presenceTellsNothingOfTheProgram()
+void tst_XmppPrivacy::presenceTellsNothingOfTheProgram()
 {
     KirvScriptedSessionServer server;
     KirvXmppConnection connection;
@@ -165,7 +165,7 @@ void TestXmppPrivacy::presenceTellsNothingOfTheProgram()
     QVERIFY(!server.receivedInClear().contains("roster"));
 }
 
-void TestXmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen_data()
+void tst_XmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen_data()
 {
     QTest::addColumn<int>("encryption");
     QTest::addColumn<bool>("isSent");
@@ -175,7 +175,7 @@ void TestXmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen_data()
 }
 
 /// Somebody on the way takes encryption out of what the server offers.
-void TestXmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen()
+void tst_XmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen()
 {
     QFETCH(int, encryption);
     QFETCH(bool, isSent);
@@ -192,5 +192,5 @@ void TestXmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen()
         QCOMPARE(failures[0][0].value<KirvFailure>().kind(), KirvFailure::EncryptionNotOffered);
 }
 
-QTEST_GUILESS_MAIN(TestXmppPrivacy)
+QTEST_GUILESS_MAIN(tst_XmppPrivacy)
 #include "tst_xmpp_privacy.moc"

@@ -33,7 +33,7 @@ KirvProxy settingsFor(const Proxy &proxy, Proxy::Kind kind)
 } // namespace
 
 /// XMPP through proxies: a real server behind scripted ones, and proxies that fail.
-class TestXmppProxy : public QObject {
+class tst_XmppProxy : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -69,12 +69,12 @@ private:
     std::unique_ptr<KirvXmppConnection> connection;
 };
 
-void TestXmppProxy::cleanup()
+void tst_XmppProxy::cleanup()
 {
     connection.reset();
 }
 
-void TestXmppProxy::logIn(const KirvXmppSettings &settings, const QString &id, KirvClock &clock)
+void tst_XmppProxy::logIn(const KirvXmppSettings &settings, const QString &id, KirvClock &clock)
 {
     kirvTakeLookUps();
     connection = std::make_unique<KirvXmppConnection>(clock);
@@ -84,7 +84,7 @@ void TestXmppProxy::logIn(const KirvXmppSettings &settings, const QString &id, K
     connection->logIn({ id, "secret", settings.toFields() }, available);
 }
 
-void TestXmppProxy::logsIn_data()
+void tst_XmppProxy::logsIn_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<bool>("requiresLogIn");
@@ -104,7 +104,7 @@ void TestXmppProxy::logsIn_data()
                                   << "localhost:5222";
 }
 
-void TestXmppProxy::logsIn()
+void tst_XmppProxy::logsIn()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(bool, requiresLogIn);
@@ -130,7 +130,7 @@ void TestXmppProxy::logsIn()
     QCOMPARE(kirvTakeLookUps(), QStringList());
 }
 
-void TestXmppProxy::directTlsLogsIn()
+void tst_XmppProxy::directTlsLogsIn()
 {
     KirvProsodyServer::Options options;
     options.encryptsAtOnce = true;
@@ -146,7 +146,7 @@ void TestXmppProxy::directTlsLogsIn()
     QCOMPARE(proxy.requested(), QStringList { "localhost:5223" });
 }
 
-void TestXmppProxy::theServerProvesItsDomain()
+void tst_XmppProxy::theServerProvesItsDomain()
 {
     KirvProsodyServer prosody; // for its certificate, which is for "localhost"
     QVERIFY(KirvXmppProfile::start(prosody));
@@ -165,7 +165,7 @@ void TestXmppProxy::theServerProvesItsDomain()
     QCOMPARE(proxy.requested(), QStringList { "localhost:5223" });
 }
 
-void TestXmppProxy::theProxyOfTheSystemIsUsed()
+void tst_XmppProxy::theProxyOfTheSystemIsUsed()
 {
     KirvProsodyServer prosody;
     QVERIFY(KirvXmppProfile::start(prosody));
@@ -190,7 +190,7 @@ void TestXmppProxy::theProxyOfTheSystemIsUsed()
     qunsetenv("all_proxy");
 }
 
-void TestXmppProxy::aSessionThatIsLostReturnsThroughTheProxy()
+void tst_XmppProxy::aSessionThatIsLostReturnsThroughTheProxy()
 {
     KirvProsodyServer prosody;
     QVERIFY(KirvXmppProfile::start(prosody));
@@ -209,7 +209,7 @@ void TestXmppProxy::aSessionThatIsLostReturnsThroughTheProxy()
     QCOMPARE(kirvTakeLookUps(), QStringList());
 }
 
-void TestXmppProxy::thePasswordIsChangedThroughTheProxy()
+void tst_XmppProxy::thePasswordIsChangedThroughTheProxy()
 {
     KirvProsodyServer prosody;
     QVERIFY(KirvXmppProfile::start(prosody));
@@ -230,7 +230,7 @@ void TestXmppProxy::thePasswordIsChangedThroughTheProxy()
     QCOMPARE(kirvTakeLookUps(), QStringList());
 }
 
-void TestXmppProxy::registersThroughTheProxy()
+void tst_XmppProxy::registersThroughTheProxy()
 {
     qRegisterMetaType<KirvServerRequest::Step>("KirvServerRequest::Step");
     qRegisterMetaType<KirvServerRequest::Result>("KirvServerRequest::Result");
@@ -269,7 +269,7 @@ void TestXmppProxy::registersThroughTheProxy()
     QCOMPARE(kept.password, QString("word"));
 }
 
-void TestXmppProxy::theConfigurationsOfARegistrationKeepTheProxy()
+void tst_XmppProxy::theConfigurationsOfARegistrationKeepTheProxy()
 {
     KirvXmppRegistrationRequest request;
     KirvProxy proxy;
@@ -282,12 +282,12 @@ void TestXmppProxy::theConfigurationsOfARegistrationKeepTheProxy()
     }
 }
 
-void TestXmppProxy::aFailingProxyIsNotAvoided_data()
+void tst_XmppProxy::aFailingProxyIsNotAvoided_data()
 {
     kirvAddFailingProxies();
 }
 
-void TestXmppProxy::aFailingProxyIsNotAvoided()
+void tst_XmppProxy::aFailingProxyIsNotAvoided()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(Proxy::Behaviour, behaviour);
@@ -310,7 +310,7 @@ void TestXmppProxy::aFailingProxyIsNotAvoided()
     }
 }
 
-void TestXmppProxy::aProxyThatIsNotThereIsNotAvoided_data()
+void tst_XmppProxy::aProxyThatIsNotThereIsNotAvoided_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<QString>("host");
@@ -320,7 +320,7 @@ void TestXmppProxy::aProxyThatIsNotThereIsNotAvoided_data()
     QTest::newRow("HTTP, no such host") << Proxy::Http << noProxyHere;
 }
 
-void TestXmppProxy::aProxyThatIsNotThereIsNotAvoided()
+void tst_XmppProxy::aProxyThatIsNotThereIsNotAvoided()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(QString, host);
@@ -346,14 +346,14 @@ void TestXmppProxy::aProxyThatIsNotThereIsNotAvoided()
     QCOMPARE(names, QStringList());
 }
 
-void TestXmppProxy::aSilentProxyIsNotAvoided_data()
+void tst_XmppProxy::aSilentProxyIsNotAvoided_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::newRow("SOCKS5") << Proxy::Socks5;
     QTest::newRow("HTTP") << Proxy::Http;
 }
 
-void TestXmppProxy::aSilentProxyIsNotAvoided()
+void tst_XmppProxy::aSilentProxyIsNotAvoided()
 {
     QFETCH(Proxy::Kind, kind);
     KirvScriptedXmppServer server;
@@ -374,7 +374,7 @@ void TestXmppProxy::aSilentProxyIsNotAvoided()
     connection.reset();
 }
 
-void TestXmppProxy::aWrongLogInIsTold_data()
+void tst_XmppProxy::aWrongLogInIsTold_data()
 {
     QTest::addColumn<Proxy::Kind>("kind");
     QTest::addColumn<QString>("user");
@@ -394,7 +394,7 @@ void TestXmppProxy::aWrongLogInIsTold_data()
     row("HTTP, unknown", Proxy::Http, "eve", "Unheard", KirvFailure::ProxyFailed);
 }
 
-void TestXmppProxy::aWrongLogInIsTold()
+void tst_XmppProxy::aWrongLogInIsTold()
 {
     QFETCH(Proxy::Kind, kind);
     QFETCH(QString, user);
@@ -422,7 +422,7 @@ void TestXmppProxy::aWrongLogInIsTold()
     QVERIFY2(names.isEmpty(), qPrintable(names.join(' ')));
 }
 
-void TestXmppProxy::aFailingProxyIsTriedAgain()
+void tst_XmppProxy::aFailingProxyIsTriedAgain()
 {
     KirvProsodyServer prosody;
     QVERIFY(KirvXmppProfile::start(prosody));
@@ -441,7 +441,7 @@ void TestXmppProxy::aFailingProxyIsTriedAgain()
     QVERIFY(!failure().isFailure());
 }
 
-void TestXmppProxy::aServerNameCannotForgeHeaders()
+void tst_XmppProxy::aServerNameCannotForgeHeaders()
 {
     KirvScriptedXmppServer server;
     Proxy proxy(Proxy::Http, server.serverPort());
@@ -454,7 +454,7 @@ void TestXmppProxy::aServerNameCannotForgeHeaders()
         QVERIFY2(!requested.contains("a:1"), qPrintable(requested));
 }
 
-void TestXmppProxy::thePasswordIsStoredAsASecret()
+void tst_XmppProxy::thePasswordIsStoredAsASecret()
 {
     KirvXmppProfile profile;
     QVERIFY2(profile.problem().isEmpty(), qPrintable(profile.problem()));
@@ -464,5 +464,5 @@ void TestXmppProxy::thePasswordIsStoredAsASecret()
     QVERIFY(!account->record().secretSettings.contains("proxy_user"));
 }
 
-QTEST_GUILESS_MAIN(TestXmppProxy)
+QTEST_GUILESS_MAIN(tst_XmppProxy)
 #include "tst_xmpp_proxy.moc"

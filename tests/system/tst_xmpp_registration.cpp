@@ -2,6 +2,7 @@
 #include "client/kirv_server_commands.h"
 #include "host/kirv_field_widget.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_registration_script.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
@@ -25,7 +26,7 @@ const KirvAccountKey romeoKey { romeoAddress, "XMPP" };
 
 /// The requests of the XMPP plug-in in the assistant's real window, against servers: the registration of an account,
 /// and what can be done with an account on its server.
-class TestXmppRegistration : public QObject {
+class tst_XmppRegistration : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -77,7 +78,7 @@ private:
     KirvServerCommands *commands = nullptr; ///< owned by the window
 };
 
-void TestXmppRegistration::init()
+void tst_XmppRegistration::init()
 {
     profile = std::make_unique<KirvXmppProfile>();
     QVERIFY2(profile->problem().isEmpty(), qPrintable(profile->problem()));
@@ -86,26 +87,26 @@ void TestXmppRegistration::init()
     commands = new KirvServerCommands(profile->plugins(), profile->accounts(), window.get());
 }
 
-void TestXmppRegistration::cleanup()
+void tst_XmppRegistration::cleanup()
 {
     window.reset();
     profile.reset();
     QVERIFY(!Assistant::window());
 }
 
-bool TestXmppRegistration::openRegistration()
+bool tst_XmppRegistration::openRegistration()
 {
     profile->plugins().broadcast("register_account", {});
     return Assistant::window();
 }
 
-bool TestXmppRegistration::openAction(const QString &actionId)
+bool tst_XmppRegistration::openAction(const QString &actionId)
 {
     commands->run(romeoKey, actionId, window.get());
     return Assistant::window();
 }
 
-void TestXmppRegistration::type(const QString &field, const QString &text)
+void tst_XmppRegistration::type(const QString &field, const QString &text)
 {
     QLineEdit *edit = Assistant::field(field);
     QVERIFY2(edit, qPrintable(field));
@@ -114,13 +115,13 @@ void TestXmppRegistration::type(const QString &field, const QString &text)
     QTest::keyClicks(edit, text);
 }
 
-void TestXmppRegistration::fillServer(const Values &values)
+void tst_XmppRegistration::fillServer(const Values &values)
 {
     auto *widget = Assistant::part<KirvFieldWidget>("Fields");
     widget->fillWithFields(KirvPluginProfile::withValues(widget->getFields(), values));
 }
 
-void TestXmppRegistration::fillServer(const KirvProsodyServer &server)
+void tst_XmppRegistration::fillServer(const KirvProsodyServer &server)
 {
     fillServer({ { "domain", server.domain() },
                  { "server", server.host() },
@@ -128,7 +129,7 @@ void TestXmppRegistration::fillServer(const KirvProsodyServer &server)
                  { "certificate", server.certificatePath() } });
 }
 
-void TestXmppRegistration::fillServer(const KirvScriptedXmppServer &server)
+void tst_XmppRegistration::fillServer(const KirvScriptedXmppServer &server)
 {
     fillServer({ { "domain", "localhost" },
                  { "server", "127.0.0.1" },
@@ -136,13 +137,13 @@ void TestXmppRegistration::fillServer(const KirvScriptedXmppServer &server)
                  { "encryption", "none" } });
 }
 
-bool TestXmppRegistration::openForm()
+bool tst_XmppRegistration::openForm()
 {
     press(Assistant::next());
     return QTest::qWaitFor(&Assistant::isAtLaterStep, kirvPatience);
 }
 
-void TestXmppRegistration::signalOpensOneWindow()
+void tst_XmppRegistration::signalOpensOneWindow()
 {
     QVERIFY(openRegistration());
     const QPointer<KirvServerAssistant> first = Assistant::window();
@@ -153,7 +154,7 @@ void TestXmppRegistration::signalOpensOneWindow()
     KIRV_TRY(!first);
 }
 
-void TestXmppRegistration::signalForAnotherProtocolIsLeftAlone()
+void tst_XmppRegistration::signalForAnotherProtocolIsLeftAlone()
 {
     QSignalSpy unavailable(commands, &KirvServerCommands::unavailable);
     profile->plugins().broadcast("register_account", { KirvArg("IRC") });
@@ -165,7 +166,7 @@ void TestXmppRegistration::signalForAnotherProtocolIsLeftAlone()
     QVERIFY(Assistant::window());
 }
 
-void TestXmppRegistration::windowGoesWithTheProtocol()
+void tst_XmppRegistration::windowGoesWithTheProtocol()
 {
     QVERIFY(openRegistration());
     const QPointer<KirvServerAssistant> open = Assistant::window();
@@ -173,7 +174,7 @@ void TestXmppRegistration::windowGoesWithTheProtocol()
     KIRV_TRY(!open);
 }
 
-void TestXmppRegistration::newAccountIsInTheListAndLogsIn()
+void tst_XmppRegistration::newAccountIsInTheListAndLogsIn()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -198,7 +199,7 @@ void TestXmppRegistration::newAccountIsInTheListAndLogsIn()
     QVERIFY(independent.logIn(server, "romeo"));
 }
 
-void TestXmppRegistration::passwordIsForgottenOnRequest()
+void tst_XmppRegistration::passwordIsForgottenOnRequest()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -215,7 +216,7 @@ void TestXmppRegistration::passwordIsForgottenOnRequest()
     KIRV_TRY_STATE(romeo(), Online);
 }
 
-void TestXmppRegistration::takenNameCanBeChanged()
+void tst_XmppRegistration::takenNameCanBeChanged()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start() && server.addUser("romeo", "other"), qPrintable(server.errorString()));
@@ -240,7 +241,7 @@ void TestXmppRegistration::takenNameCanBeChanged()
     KIRV_TRY_STATE(account, Online);
 }
 
-void TestXmppRegistration::registrationIsNotOffered()
+void tst_XmppRegistration::registrationIsNotOffered()
 {
     KirvProsodyServer::Options options;
     options.allowsRegistration = false;
@@ -254,7 +255,7 @@ void TestXmppRegistration::registrationIsNotOffered()
     QCOMPARE(Assistant::filled("domain"), QString("localhost"));
 }
 
-void TestXmppRegistration::silentServerIsSaid()
+void tst_XmppRegistration::silentServerIsSaid()
 {
     KirvScriptedXmppServer server;
     QVERIFY(openRegistration());
@@ -270,7 +271,7 @@ void TestXmppRegistration::silentServerIsSaid()
     QVERIFY(Assistant::next()->isEnabled());
 }
 
-void TestXmppRegistration::serverIsNotThere()
+void tst_XmppRegistration::serverIsNotThere()
 {
     QVERIFY(openRegistration());
     const QString port = QString::number(KirvLocalServer::findFreePort());
@@ -279,7 +280,7 @@ void TestXmppRegistration::serverIsNotThere()
     KIRV_TRY_CONTAINS(Assistant::message(), "does not accept connections");
 }
 
-void TestXmppRegistration::untrustedCertificateIsAskedAbout()
+void tst_XmppRegistration::untrustedCertificateIsAskedAbout()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -302,7 +303,7 @@ void TestXmppRegistration::untrustedCertificateIsAskedAbout()
     QVERIFY(!romeo()->connection()->pinnedCertificate().isNull());
 }
 
-void TestXmppRegistration::domainMustBeEntered()
+void tst_XmppRegistration::domainMustBeEntered()
 {
     QVERIFY(openRegistration());
     press(Assistant::next());
@@ -315,7 +316,7 @@ void TestXmppRegistration::domainMustBeEntered()
     QCOMPARE(Assistant::filled("server"), QString("127.0.0.1"));
 }
 
-void TestXmppRegistration::requiredFieldsMustBeFilledIn()
+void tst_XmppRegistration::requiredFieldsMustBeFilledIn()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>"));
     QVERIFY(openRegistration());
@@ -327,14 +328,14 @@ void TestXmppRegistration::requiredFieldsMustBeFilledIn()
     QVERIFY(!server.received().contains("type=\"set\""));
 }
 
-void TestXmppRegistration::formIsShownAsItComes()
+void tst_XmppRegistration::formIsShownAsItComes()
 {
     KirvScriptedXmppServer server(registering(dataForm(pngPicture())));
     QVERIFY(openRegistration());
     fillServer(server);
     QVERIFY(openForm());
     QVERIFY(Assistant::text().contains("Join <us>") && Assistant::text().contains("Fill it in."));
-    QTRY_VERIFY(Assistant::part<QLabel>("Picture1"));
+    KIRV_TRY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
     QVERIFY(picture && picture->pixmap(Qt::ReturnByValue).size() == QSize(60, 20));
     QCOMPARE(picture->accessibleName(), QString("What is written there?"));
@@ -369,7 +370,7 @@ void TestXmppRegistration::formIsShownAsItComes()
     QVERIFY(romeo());
 }
 
-void TestXmppRegistration::fixedFieldsAreShownAsTheyCome()
+void tst_XmppRegistration::fixedFieldsAreShownAsTheyCome()
 {
     KirvScriptedXmppServer server(
         registering("<instructions>Please.</instructions><key>k1</key><username/><password/><zip/><shoesize/>"));
@@ -388,7 +389,7 @@ void TestXmppRegistration::fixedFieldsAreShownAsTheyCome()
         QVERIFY2(server.received().contains(part), part);
 }
 
-void TestXmppRegistration::formWithoutFieldsNamesItsAddress()
+void tst_XmppRegistration::formWithoutFieldsNamesItsAddress()
 {
     KirvScriptedXmppServer server(registering("<instructions>Go there.</instructions><x xmlns='jabber:x:oob'>"
                                               "<url>https://example.org/&lt;join&gt;</url></x>"));
@@ -400,7 +401,7 @@ void TestXmppRegistration::formWithoutFieldsNamesItsAddress()
     QVERIFY(!Assistant::next()->isVisible());
 }
 
-void TestXmppRegistration::connectionLostWhileTheFormIsFilledIn()
+void tst_XmppRegistration::connectionLostWhileTheFormIsFilledIn()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
@@ -422,7 +423,7 @@ void TestXmppRegistration::connectionLostWhileTheFormIsFilledIn()
     KIRV_TRY_STATE(romeo(), Online);
 }
 
-void TestXmppRegistration::connectionLostWhileTheFormIsSent()
+void tst_XmppRegistration::connectionLostWhileTheFormIsSent()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>", ""));
     QVERIFY(openRegistration());
@@ -439,7 +440,7 @@ void TestXmppRegistration::connectionLostWhileTheFormIsSent()
     QVERIFY(!romeo());
 }
 
-void TestXmppRegistration::goingBackKeepsWhatWasTyped()
+void tst_XmppRegistration::goingBackKeepsWhatWasTyped()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>"));
     QVERIFY(openRegistration());
@@ -453,7 +454,7 @@ void TestXmppRegistration::goingBackKeepsWhatWasTyped()
     QCOMPARE(Assistant::filled("username"), QString("romeo"));
 }
 
-void TestXmppRegistration::accountThatIsInTheListAlreadyIsSaid()
+void tst_XmppRegistration::accountThatIsInTheListAlreadyIsSaid()
 {
     profile->createAccount(romeoAddress, {});
     KirvScriptedXmppServer server(registering("<username/><password/>"));
@@ -468,7 +469,7 @@ void TestXmppRegistration::accountThatIsInTheListAlreadyIsSaid()
     QCOMPARE(romeo()->record().password, QString("secret"));
 }
 
-void TestXmppRegistration::passwordIsChangedOnTheServer()
+void tst_XmppRegistration::passwordIsChangedOnTheServer()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -498,7 +499,7 @@ void TestXmppRegistration::passwordIsChangedOnTheServer()
     QVERIFY(independent.logIn(server, "romeo", "new"));
 }
 
-void TestXmppRegistration::passwordChangeThatFailsKeepsTheOldOne()
+void tst_XmppRegistration::passwordChangeThatFailsKeepsTheOldOne()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -517,7 +518,7 @@ void TestXmppRegistration::passwordChangeThatFailsKeepsTheOldOne()
     KIRV_TRY(!Assistant::window());
 }
 
-void TestXmppRegistration::accountIsDeletedOnTheServer()
+void tst_XmppRegistration::accountIsDeletedOnTheServer()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -539,14 +540,14 @@ void TestXmppRegistration::accountIsDeletedOnTheServer()
     QVERIFY(!server.hasUser("romeo"));
 }
 
-void TestXmppRegistration::deletionIsConfirmedTwice_data()
+void tst_XmppRegistration::deletionIsConfirmedTwice_data()
 {
     QTest::addColumn<int>("confirmations");
     QTest::newRow("cancelled at the first question") << 0;
     QTest::newRow("cancelled at the second question") << 1;
 }
 
-void TestXmppRegistration::deletionIsConfirmedTwice()
+void tst_XmppRegistration::deletionIsConfirmedTwice()
 {
     QFETCH(int, confirmations);
     KirvProsodyServer server;
@@ -566,7 +567,7 @@ void TestXmppRegistration::deletionIsConfirmedTwice()
     QVERIFY(server.hasUser("romeo"));
 }
 
-void TestXmppRegistration::actionsWithoutAConnectionDoNothing()
+void tst_XmppRegistration::actionsWithoutAConnectionDoNothing()
 {
     KirvAccount *account = profile->createAccount(romeoAddress, {});
     QVERIFY(!commands->canRun(romeoKey));
@@ -585,5 +586,5 @@ void TestXmppRegistration::actionsWithoutAConnectionDoNothing()
     KIRV_TRY(!deletion && !Assistant::window());
 }
 
-QTEST_MAIN(TestXmppRegistration)
+QTEST_MAIN(tst_XmppRegistration)
 #include "tst_xmpp_registration.moc"

@@ -22,7 +22,7 @@ const QString direct = QStringLiteral("_xmpps-client._tcp.example.test");
 } // namespace
 
 /// The way to a real server by the records of a real name server, in a network of the test's own.
-class TestXmppServiceRecords : public QObject {
+class tst_XmppServiceRecords : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -37,7 +37,7 @@ private:
     static KirvProsodyServer::Options options(bool encryptsAtOnce);
 };
 
-KirvLogin TestXmppServiceRecords::loginTo(const KirvProsodyServer &server, KirvXmppSettings::Encryption encryption)
+KirvLogin tst_XmppServiceRecords::loginTo(const KirvProsodyServer &server, KirvXmppSettings::Encryption encryption)
 {
     KirvXmppSettings settings;
     settings.encryption = encryption;
@@ -45,7 +45,7 @@ KirvLogin TestXmppServiceRecords::loginTo(const KirvProsodyServer &server, KirvX
     return { "romeo@" + domain, "secret", settings.toFields() };
 }
 
-KirvProsodyServer::Options TestXmppServiceRecords::options(bool encryptsAtOnce)
+KirvProsodyServer::Options tst_XmppServiceRecords::options(bool encryptsAtOnce)
 {
     KirvProsodyServer::Options options;
     options.domain = domain;
@@ -53,7 +53,7 @@ KirvProsodyServer::Options TestXmppServiceRecords::options(bool encryptsAtOnce)
     return options;
 }
 
-void TestXmppServiceRecords::recordsLeadToTheServer_data()
+void tst_XmppServiceRecords::recordsLeadToTheServer_data()
 {
     QTest::addColumn<bool>("encryptsAtOnce");
     QTest::addColumn<int>("encryption");
@@ -62,7 +62,7 @@ void TestXmppServiceRecords::recordsLeadToTheServer_data()
     QTest::newRow("TLS at once and nothing else") << true << int(KirvXmppSettings::Direct);
 }
 
-void TestXmppServiceRecords::recordsLeadToTheServer()
+void tst_XmppServiceRecords::recordsLeadToTheServer()
 {
     QFETCH(bool, encryptsAtOnce);
     QFETCH(int, encryption);
@@ -79,7 +79,7 @@ void TestXmppServiceRecords::recordsLeadToTheServer()
     server.kill(); // an orderly end takes a second
 }
 
-void TestXmppServiceRecords::theNextServerIsTriedWhereTheFirstIsNotThere()
+void tst_XmppServiceRecords::theNextServerIsTriedWhereTheFirstIsNotThere()
 {
     KirvProsodyServer server(options(false));
     QVERIFY(KirvXmppProfile::start(server));
@@ -95,7 +95,7 @@ void TestXmppServiceRecords::theNextServerIsTriedWhereTheFirstIsNotThere()
     server.kill();
 }
 
-void TestXmppServiceRecords::theDomainItselfIsTriedWithoutRecords()
+void tst_XmppServiceRecords::theDomainItselfIsTriedWithoutRecords()
 {
     KirvProsodyServer server(options(false));
     QVERIFY(KirvXmppProfile::start(server));
@@ -110,7 +110,7 @@ void TestXmppServiceRecords::theDomainItselfIsTriedWithoutRecords()
     server.kill();
 }
 
-void TestXmppServiceRecords::aNameServerThatIsNotThereIsNoServer()
+void tst_XmppServiceRecords::aNameServerThatIsNotThereIsNoServer()
 {
     KirvProsodyServer server(options(false));
     QVERIFY(KirvXmppProfile::start(server));
@@ -138,7 +138,7 @@ int main(int argc, char **argv)
         return notRun;
     }
     QCoreApplication application(argc, argv);
-    TestXmppServiceRecords test;
+    tst_XmppServiceRecords test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -33,7 +33,7 @@ KirvScriptedXmppServer::Script referringTo(const QByteArray &address)
 } // namespace
 
 /// The ways to servers that are elsewhere, or speak in another way, than the settings say; and how streams end.
-class TestXmppWays : public QObject {
+class tst_XmppWays : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -61,12 +61,12 @@ private:
     std::unique_ptr<KirvXmppConnection> connection;
 };
 
-void TestXmppWays::cleanup()
+void tst_XmppWays::cleanup()
 {
     connection.reset();
 }
 
-KirvXmppSettings TestXmppWays::settingsFor(const KirvProsodyServer &server) const
+KirvXmppSettings tst_XmppWays::settingsFor(const KirvProsodyServer &server) const
 {
     KirvXmppSettings settings;
     settings.server = server.host();
@@ -75,14 +75,14 @@ KirvXmppSettings TestXmppWays::settingsFor(const KirvProsodyServer &server) cons
     return settings;
 }
 
-void TestXmppWays::logIn(const KirvXmppSettings &settings, const QString &id)
+void tst_XmppWays::logIn(const KirvXmppSettings &settings, const QString &id)
 {
     if (!connection)
         connection = std::make_unique<KirvXmppConnection>();
     connection->logIn({ id, "secret", settings.toFields() }, { "available", "Available", QString(), QString() });
 }
 
-void TestXmppWays::directTlsLogsIn()
+void tst_XmppWays::directTlsLogsIn()
 {
     KirvProsodyServer::Options options;
     options.encryptsAtOnce = true;
@@ -100,7 +100,7 @@ void TestXmppWays::directTlsLogsIn()
     QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::UntrustedCertificate, kirvPatience);
 }
 
-void TestXmppWays::theOtherStartIsNamed_data()
+void tst_XmppWays::theOtherStartIsNamed_data()
 {
     QTest::addColumn<bool>("encryptsAtOnce");
     QTest::addColumn<KirvXmppSettings::Encryption>("encryption");
@@ -110,7 +110,7 @@ void TestXmppWays::theOtherStartIsNamed_data()
     QTest::newRow("TLS later, direct") << false << KirvXmppSettings::Direct;
 }
 
-void TestXmppWays::theOtherStartIsNamed()
+void tst_XmppWays::theOtherStartIsNamed()
 {
     QFETCH(bool, encryptsAtOnce);
     QFETCH(KirvXmppSettings::Encryption, encryption);
@@ -127,7 +127,7 @@ void TestXmppWays::theOtherStartIsNamed()
     QCOMPARE(failure().text().contains("does not start with encryption"), !encryptsAtOnce);
 }
 
-void TestXmppWays::aSilentPortIsNoOtherStart()
+void tst_XmppWays::aSilentPortIsNoOtherStart()
 {
     KirvScriptedXmppServer server([](const QByteArray &) { return QByteArray(); });
     KirvXmppSettings settings;
@@ -143,14 +143,14 @@ void TestXmppWays::aSilentPortIsNoOtherStart()
     QTRY_COMPARE_WITH_TIMEOUT(failure().kind(), KirvFailure::ConnectionLost, kirvPatience);
 }
 
-void TestXmppWays::serviceRecordsLeadToTheServer_data()
+void tst_XmppWays::serviceRecordsLeadToTheServer_data()
 {
     QTest::addColumn<bool>("encryptsAtOnce");
     QTest::newRow("ordinary") << false;
     QTest::newRow("TLS at once") << true;
 }
 
-void TestXmppWays::serviceRecordsLeadToTheServer()
+void tst_XmppWays::serviceRecordsLeadToTheServer()
 {
     QFETCH(bool, encryptsAtOnce);
     KirvProsodyServer::Options options;
@@ -185,7 +185,7 @@ void TestXmppWays::serviceRecordsLeadToTheServer()
     QCOMPARE(names, QStringList({ "_xmpp-client._tcp.localhost", "_xmpps-client._tcp.localhost" }));
 }
 
-void TestXmppWays::aReferenceIsFollowed()
+void tst_XmppWays::aReferenceIsFollowed()
 {
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
@@ -199,14 +199,14 @@ void TestXmppWays::aReferenceIsFollowed()
     QVERIFY(!connection->lastFailure().isFailure());
 }
 
-void TestXmppWays::aReferenceToNowhereIsReported_data()
+void tst_XmppWays::aReferenceToNowhereIsReported_data()
 {
     QTest::addColumn<QByteArray>("address");
     for (const char *address : { "", " ", ":5222", "a b", "user@host", "host/path", "host:port", "[::1" })
         QTest::newRow(address) << QByteArray(address);
 }
 
-void TestXmppWays::aReferenceToNowhereIsReported()
+void tst_XmppWays::aReferenceToNowhereIsReported()
 {
     QFETCH(QByteArray, address);
     KirvScriptedXmppServer referring(referringTo(address));
@@ -219,7 +219,7 @@ void TestXmppWays::aReferenceToNowhereIsReported()
     QCOMPARE(referring.connections(), 1);
 }
 
-void TestXmppWays::serversThatReferToOneAnotherAreLeft()
+void tst_XmppWays::serversThatReferToOneAnotherAreLeft()
 {
     QByteArray address;
     KirvScriptedXmppServer referring([&address](const QByteArray &received) { return referringTo(address)(received); });
@@ -236,7 +236,7 @@ void TestXmppWays::serversThatReferToOneAnotherAreLeft()
 }
 
 /// Whoever is there receives nothing of what a server outside wanted it to receive.
-void TestXmppWays::aLocalServerIsRefusedBeforeAnythingIsSent()
+void tst_XmppWays::aLocalServerIsRefusedBeforeAnythingIsSent()
 {
     KirvScriptedXmppServer server([](const QByteArray &) { return QByteArray(); });
     KirvXmppServerLink link(KirvXmppLink::LogIn, KirvClock::system(), 1000);
@@ -255,7 +255,7 @@ void TestXmppWays::aLocalServerIsRefusedBeforeAnythingIsSent()
     QCOMPARE(server.received(), QByteArray());
 }
 
-void TestXmppWays::theServersWordsAreReported_data()
+void tst_XmppWays::theServersWordsAreReported_data()
 {
     QTest::addColumn<QByteArray>("condition");
     QTest::addColumn<QByteArray>("words");
@@ -273,7 +273,7 @@ void TestXmppWays::theServersWordsAreReported_data()
                                << KirvFailure::ServerShutDown;
 }
 
-void TestXmppWays::theServersWordsAreReported()
+void tst_XmppWays::theServersWordsAreReported()
 {
     QFETCH(QByteArray, condition);
     QFETCH(QByteArray, words);
@@ -292,5 +292,5 @@ void TestXmppWays::theServersWordsAreReported()
     QVERIFY2(failure().text().contains(words), qPrintable(failure().text()));
 }
 
-QTEST_GUILESS_MAIN(TestXmppWays)
+QTEST_GUILESS_MAIN(tst_XmppWays)
 #include "tst_xmpp_ways.moc"

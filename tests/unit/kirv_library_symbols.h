@@ -2,6 +2,8 @@
 #ifndef KIRV_LIBRARY_SYMBOLS_H
 #define KIRV_LIBRARY_SYMBOLS_H
 
+#include "tests/support/kirv_patience.h"
+
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
@@ -12,7 +14,7 @@ inline QStringList exportedSymbols(const QString &file)
     QProcess nm;
     nm.start(QStringLiteral(KIRV_NM),
              { QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--demangle"), file });
-    if (!nm.waitForFinished() || nm.exitCode() != 0)
+    if (!nm.waitForFinished(kirvPatience) || nm.exitCode() != 0)
         return QStringList();
     QStringList symbols;
     const QStringList lines = QString::fromLocal8Bit(nm.readAllStandardOutput()).split(QLatin1Char('\n'));

@@ -2,6 +2,7 @@
 #include "tests/unit/kirv_page_fixture.h"
 
 #include "edit_account/kirv_edit_account_dialog.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QStyle>
 #include <QStyleOptionViewItem>
@@ -34,7 +35,7 @@ void KirvPageFixture::showPage()
     page()->resize(640, 480);
     page()->show();
     page()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(page()));
+    QVERIFY(QTest::qWaitForWindowActive(page(), kirvPatience));
 }
 
 void KirvPageFixture::showFilledPage()

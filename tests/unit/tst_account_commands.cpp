@@ -46,7 +46,7 @@ private:
 }
 
 /// The commands that open a dialog or request a registration.
-class TestAccountCommands : public QObject {
+class tst_AccountCommands : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -89,7 +89,7 @@ private:
     KirvRecordingAccount *bob = nullptr;
 };
 
-void TestAccountCommands::init()
+void tst_AccountCommands::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     alice = fixture->host.addAccount("alice", "XMPP");
@@ -97,7 +97,7 @@ void TestAccountCommands::init()
     fixture->showFilledPage();
 }
 
-void TestAccountCommands::anAddEntryOpensTheDialogOfItsProtocol()
+void tst_AccountCommands::anAddEntryOpensTheDialogOfItsProtocol()
 {
     fixture->irc->configurations = QStringList { "Home" };
     KirvWindowWatcher<QDialog> watcher([&](QDialog *window) {
@@ -114,7 +114,7 @@ void TestAccountCommands::anAddEntryOpensTheDialogOfItsProtocol()
              (QStringList { "getProtocolByName(IRC)", "loadUI(AddAccount, null)", "IRC.getLoginPattern()" }));
 }
 
-void TestAccountCommands::addingReturnsWhenTheDialogHasFinished()
+void tst_AccountCommands::addingReturnsWhenTheDialogHasFinished()
 {
     bool isRunning = true;
     KirvWindowWatcher<QDialog> watcher([&](QDialog *window) {
@@ -128,7 +128,7 @@ void TestAccountCommands::addingReturnsWhenTheDialogHasFinished()
     QVERIFY(!kirvVisibleWindow<QDialog>());
 }
 
-void TestAccountCommands::anAddEntryOfAnUnloadedProtocolOpensNothing()
+void tst_AccountCommands::anAddEntryOfAnUnloadedProtocolOpensNothing()
 {
     fixture->host.unloadProtocol("XMPP");
     fixture->addMenu()->actions().first()->trigger();
@@ -136,13 +136,13 @@ void TestAccountCommands::anAddEntryOfAnUnloadedProtocolOpensNothing()
     QVERIFY(!kirvVisibleWindow<QDialog>());
 }
 
-void TestAccountCommands::addingWithoutASenderDoesNothing()
+void tst_AccountCommands::addingWithoutASenderDoesNothing()
 {
     QVERIFY(QMetaObject::invokeMethod(fixture->page(), "addAccount"));
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestAccountCommands::addingFromAnythingButAnActionDoesNothing()
+void tst_AccountCommands::addingFromAnythingButAnActionDoesNothing()
 {
     QToolButton button;
     connect(&button, SIGNAL(clicked()), fixture->page(), SLOT(addAccount()));
@@ -150,7 +150,7 @@ void TestAccountCommands::addingFromAnythingButAnActionDoesNothing()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestAccountCommands::aForeignActionGetsAnEmptyNameAndOpensNothing()
+void tst_AccountCommands::aForeignActionGetsAnEmptyNameAndOpensNothing()
 {
     const auto &actions = fixture->page()->*kirvMember(KirvAccountsTab_protocolActions());
     QCOMPARE(actions.size(), 2);
@@ -163,7 +163,7 @@ void TestAccountCommands::aForeignActionGetsAnEmptyNameAndOpensNothing()
     QCOMPARE(actions.value(&foreign, "none"), QString());
 }
 
-void TestAccountCommands::theEditButtonOpensTheSelectedAccount()
+void tst_AccountCommands::theEditButtonOpensTheSelectedAccount()
 {
     fixture->clickRow(fixture->row("bob", "IRC"));
     QTest::mouseClick(fixture->editButton(), Qt::LeftButton);
@@ -177,14 +177,14 @@ void TestAccountCommands::theEditButtonOpensTheSelectedAccount()
     QVERIFY(!fixture->page()->getAccEdit()->parent());
 }
 
-void TestAccountCommands::editingNeedsExactlyOneSelectedRow_data()
+void tst_AccountCommands::editingNeedsExactlyOneSelectedRow_data()
 {
     QTest::addColumn<bool>("all");
     QTest::newRow("no row selected") << false;
     QTest::newRow("two rows selected") << true;
 }
 
-void TestAccountCommands::editingNeedsExactlyOneSelectedRow()
+void tst_AccountCommands::editingNeedsExactlyOneSelectedRow()
 {
     QFETCH(bool, all);
     fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -199,14 +199,14 @@ void TestAccountCommands::editingNeedsExactlyOneSelectedRow()
     QVERIFY(!fixture->page()->getAccEdit());
 }
 
-void TestAccountCommands::activatingAnyColumnOpensTheAccount_data()
+void tst_AccountCommands::activatingAnyColumnOpensTheAccount_data()
 {
     QTest::addColumn<int>("column");
     for (int column = 0; column < 4; ++column)
         QTest::addRow("column %d", column) << column;
 }
 
-void TestAccountCommands::activatingAnyColumnOpensTheAccount()
+void tst_AccountCommands::activatingAnyColumnOpensTheAccount()
 {
     QFETCH(int, column);
     // The row that is activated counts, not the selected one.
@@ -217,7 +217,7 @@ void TestAccountCommands::activatingAnyColumnOpensTheAccount()
     QCOMPARE(fixture->host.count("loadUI(EditAccount, null)"), 1);
 }
 
-void TestAccountCommands::aDoubleClickOnTheRowOpensTheAccount()
+void tst_AccountCommands::aDoubleClickOnTheRowOpensTheAccount()
 {
     const QRect cell = fixture->list()->visualItemRect(fixture->row("alice"));
     QTest::mouseClick(fixture->list()->viewport(), Qt::LeftButton, {}, cell.center());
@@ -225,14 +225,14 @@ void TestAccountCommands::aDoubleClickOnTheRowOpensTheAccount()
     QCOMPARE(identifier(), QString("alice (XMPP)"));
 }
 
-void TestAccountCommands::theEnterKeyOpensTheAccount()
+void tst_AccountCommands::theEnterKeyOpensTheAccount()
 {
     fixture->clickRow(fixture->row("alice"));
     QTest::keyClick(fixture->list(), Qt::Key_Return);
     QCOMPARE(identifier(), QString("alice (XMPP)"));
 }
 
-void TestAccountCommands::theHostOpensAnAccountWithoutTheList()
+void tst_AccountCommands::theHostOpensAnAccountWithoutTheList()
 {
     KirvRecordingAccount *carol = fixture->host.addAccount("carol", "XMPP");
     fixture->clickRow(fixture->row("alice"));
@@ -241,7 +241,7 @@ void TestAccountCommands::theHostOpensAnAccountWithoutTheList()
     QVERIFY(fixture->page()->getAccEdit());
 }
 
-void TestAccountCommands::theNextEditDialogReplacesTheOneBefore()
+void tst_AccountCommands::theNextEditDialogReplacesTheOneBefore()
 {
     fixture->page()->editAccount(alice);
     const QPointer<KirvEditAccountDialog> first = fixture->page()->getAccEdit();
@@ -255,7 +255,7 @@ void TestAccountCommands::theNextEditDialogReplacesTheOneBefore()
     QCOMPARE(identifier(), QString("bob (IRC)"));
 }
 
-void TestAccountCommands::theRecordedDialogNeverDangles_data()
+void tst_AccountCommands::theRecordedDialogNeverDangles_data()
 {
     using End = std::function<void(KirvEditAccountDialog *)>;
     QTest::addColumn<End>("end");
@@ -275,7 +275,7 @@ void TestAccountCommands::theRecordedDialogNeverDangles_data()
     });
 }
 
-void TestAccountCommands::theRecordedDialogNeverDangles()
+void tst_AccountCommands::theRecordedDialogNeverDangles()
 {
     QFETCH(std::function<void(KirvEditAccountDialog *)>, end);
     fixture->page()->editAccount(alice);
@@ -288,7 +288,7 @@ void TestAccountCommands::theRecordedDialogNeverDangles()
     QVERIFY(fixture->page()->getAccEdit());
 }
 
-void TestAccountCommands::anUnknownProtocolEndsTheDialogBeforeAndRecordsNone()
+void tst_AccountCommands::anUnknownProtocolEndsTheDialogBeforeAndRecordsNone()
 {
     fixture->page()->editAccount(alice);
     const QPointer<KirvEditAccountDialog> first = fixture->page()->getAccEdit();
@@ -300,7 +300,7 @@ void TestAccountCommands::anUnknownProtocolEndsTheDialogBeforeAndRecordsNone()
     QCOMPARE(fixture->host.calls({ "loadUI", "loadAccount", "readAccountGlobals" }), QStringList());
 }
 
-void TestAccountCommands::aDialogForAnUnknownProtocolIsNotLeaked()
+void tst_AccountCommands::aDialogForAnUnknownProtocolIsNotLeaked()
 {
     fixture->host.unloadProtocol("IRC");
     const KirvObjectCounter counter;
@@ -310,14 +310,14 @@ void TestAccountCommands::aDialogForAnUnknownProtocolIsNotLeaked()
     QCOMPARE(counter.living(), 0);
 }
 
-void TestAccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce_data()
+void tst_AccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce_data()
 {
     QTest::addColumn<bool>("secondIsKnown");
     QTest::newRow("by an account of a loaded protocol") << true;
     QTest::newRow("by an account of an unloaded protocol") << false;
 }
 
-void TestAccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce()
+void tst_AccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce()
 {
     QFETCH(bool, secondIsKnown);
     if (!secondIsKnown)
@@ -337,7 +337,7 @@ void TestAccountCommands::anEditDialogReplacedWhileItIsShownIsDeletedOnce()
     QCOMPARE(!second.isNull(), secondIsKnown);
 }
 
-void TestAccountCommands::addDialogsLeaveNothingBehind()
+void tst_AccountCommands::addDialogsLeaveNothingBehind()
 {
     fixture->xmpp->configurations = QStringList { "Home" };
     KirvWindowWatcher<QDialog> watcher([](QDialog *window) { window->close(); });
@@ -354,7 +354,7 @@ void TestAccountCommands::addDialogsLeaveNothingBehind()
     QCOMPARE(counter.living(), 0);
 }
 
-void TestAccountCommands::registeringEmitsOneCoreSignalWithoutArguments()
+void tst_AccountCommands::registeringEmitsOneCoreSignalWithoutArguments()
 {
     QTest::mouseClick(fixture->registerButton(), Qt::LeftButton);
     QCOMPARE(fixture->host.calls(), QStringList { "emitCoreSignal(register_account, 0)" });
@@ -362,5 +362,5 @@ void TestAccountCommands::registeringEmitsOneCoreSignalWithoutArguments()
     QCOMPARE(fixture->host.count("emitCoreSignal(register_account, 0)"), 2);
 }
 
-QTEST_MAIN(TestAccountCommands)
+QTEST_MAIN(tst_AccountCommands)
 #include "tst_account_commands.moc"

@@ -14,7 +14,7 @@
 #include <memory>
 
 /// Creating an account with the add dialog, refusals, and how dialog and window end.
-class TestAccountCreation : public QObject {
+class tst_AccountCreation : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -70,7 +70,7 @@ private:
     QPointer<QDialog> window;
 };
 
-void TestAccountCreation::init()
+void tst_AccountCreation::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     fixture->xmpp->accountSettings = { KirvField::textEdit("", "server", "example.org", "") };
@@ -78,19 +78,19 @@ void TestAccountCreation::init()
     open();
 }
 
-void TestAccountCreation::cleanup()
+void tst_AccountCreation::cleanup()
 {
     delete dialog;
     fixture.reset();
 }
 
-void TestAccountCreation::fill(const QString &login, const QString &password)
+void tst_AccountCreation::fill(const QString &login, const QString &password)
 {
     child<QLineEdit>("AddAccount_UsernameEdit")->setText(login);
     child<QLineEdit>("AddAccount_PasswordEdit")->setText(password);
 }
 
-void TestAccountCreation::saveCreatesTheAccountAndListsIt()
+void tst_AccountCreation::saveCreatesTheAccountAndListsIt()
 {
     const int result = run([&] {
         QTest::keyClicks(child<QLineEdit>("AddAccount_UsernameEdit"), "alice");
@@ -108,7 +108,7 @@ void TestAccountCreation::saveCreatesTheAccountAndListsIt()
     QCOMPARE(fixture->list()->topLevelItemCount(), 1);
 }
 
-void TestAccountCreation::theHostIsCalledInOrder()
+void tst_AccountCreation::theHostIsCalledInOrder()
 {
     fill("alice", "secret");
     run([&] { button(QDialogButtonBox::Save)->click(); });
@@ -123,7 +123,7 @@ void TestAccountCreation::theHostIsCalledInOrder()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestAccountCreation::withoutFieldWidgetTheSettingsAreEmpty()
+void tst_AccountCreation::withoutFieldWidgetTheSettingsAreEmpty()
 {
     delete dialog;
     delete window;
@@ -136,7 +136,7 @@ void TestAccountCreation::withoutFieldWidgetTheSettingsAreEmpty()
     QCOMPARE(fixture->host.calls({ "getFields" }), QStringList());
 }
 
-void TestAccountCreation::onlyAnUncheckedBoxForgetsThePassword_data()
+void tst_AccountCreation::onlyAnUncheckedBoxForgetsThePassword_data()
 {
     QTest::addColumn<Qt::CheckState>("state");
     QTest::addColumn<QString>("remembers");
@@ -145,7 +145,7 @@ void TestAccountCreation::onlyAnUncheckedBoxForgetsThePassword_data()
     QTest::newRow("checked") << Qt::Checked << "true";
 }
 
-void TestAccountCreation::onlyAnUncheckedBoxForgetsThePassword()
+void tst_AccountCreation::onlyAnUncheckedBoxForgetsThePassword()
 {
     QFETCH(Qt::CheckState, state);
     QFETCH(QString, remembers);
@@ -157,7 +157,7 @@ void TestAccountCreation::onlyAnUncheckedBoxForgetsThePassword()
                            + ", XMPP, online:null, [server=example.org])" });
 }
 
-void TestAccountCreation::anEmptyPresenceListGivesAnEmptyId()
+void tst_AccountCreation::anEmptyPresenceListGivesAnEmptyId()
 {
     child<QComboBox>("AddAccount_PresenceCombo")->clear();
     fill("alice", "secret");
@@ -168,7 +168,7 @@ void TestAccountCreation::anEmptyPresenceListGivesAnEmptyId()
             || created.first() == "XMPP.createPresenceWithId(\"\", null)");
 }
 
-void TestAccountCreation::aRefusalIsReportedAndTheWindowStays()
+void tst_AccountCreation::aRefusalIsReportedAndTheWindowStays()
 {
     fixture->host.addAccount("alice", "XMPP");
     fill("alice", "secret");
@@ -197,7 +197,7 @@ void TestAccountCreation::aRefusalIsReportedAndTheWindowStays()
     QCOMPARE(fixture->list()->topLevelItemCount(), 0);
 }
 
-void TestAccountCreation::everyRefusalIsReportedAlike()
+void tst_AccountCreation::everyRefusalIsReportedAlike()
 {
     // Whatever the cause; the login is put in as it is.
     fixture->host.acceptsNewAccounts = false;
@@ -214,7 +214,7 @@ void TestAccountCreation::everyRefusalIsReportedAlike()
     QCOMPARE(shown, QString("Account '%1 100%' alerady exists!"));
 }
 
-void TestAccountCreation::afterARefusalSaveTriesAgain()
+void tst_AccountCreation::afterARefusalSaveTriesAgain()
 {
     fixture->host.addAccount("alice", "XMPP");
     fill("alice", "secret");
@@ -231,14 +231,14 @@ void TestAccountCreation::afterARefusalSaveTriesAgain()
     QVERIFY(!fixture->row("alice"));
 }
 
-void TestAccountCreation::everyWayOfCancellingCreatesNothing_data()
+void tst_AccountCreation::everyWayOfCancellingCreatesNothing_data()
 {
     QTest::addColumn<QString>("way");
     for (const char *way : { "Cancel", "close button", "Escape" })
         QTest::newRow(way) << way;
 }
 
-void TestAccountCreation::everyWayOfCancellingCreatesNothing()
+void tst_AccountCreation::everyWayOfCancellingCreatesNothing()
 {
     QFETCH(QString, way);
     fill("alice", "secret");
@@ -258,14 +258,14 @@ void TestAccountCreation::everyWayOfCancellingCreatesNothing()
     QVERIFY(!window);
 }
 
-void TestAccountCreation::dialogAndWindowEndAfterTheyFinished_data()
+void tst_AccountCreation::dialogAndWindowEndAfterTheyFinished_data()
 {
     QTest::addColumn<bool>("saves");
     QTest::newRow("saved") << true;
     QTest::newRow("cancelled") << false;
 }
 
-void TestAccountCreation::dialogAndWindowEndAfterTheyFinished()
+void tst_AccountCreation::dialogAndWindowEndAfterTheyFinished()
 {
     QFETCH(bool, saves);
     fill("alice", "secret");
@@ -282,7 +282,7 @@ void TestAccountCreation::dialogAndWindowEndAfterTheyFinished()
     QVERIFY(!window);
 }
 
-void TestAccountCreation::theWindowDestroyedWithItsParentEndsTheDialog()
+void tst_AccountCreation::theWindowDestroyedWithItsParentEndsTheDialog()
 {
     delete fixture->page();
     QVERIFY(!window);
@@ -290,7 +290,7 @@ void TestAccountCreation::theWindowDestroyedWithItsParentEndsTheDialog()
     QVERIFY(!dialog);
 }
 
-void TestAccountCreation::theDialogDeletedBeforeItsWindow()
+void tst_AccountCreation::theDialogDeletedBeforeItsWindow()
 {
     delete dialog;
     QVERIFY(window);
@@ -301,7 +301,7 @@ void TestAccountCreation::theDialogDeletedBeforeItsWindow()
     QVERIFY(!window);
 }
 
-void TestAccountCreation::finishedOnlySchedulesTheEnd()
+void tst_AccountCreation::finishedOnlySchedulesTheEnd()
 {
     QVERIFY(QMetaObject::invokeMethod(dialog, "finished", Q_ARG(int, 0)));
     QVERIFY(dialog);
@@ -309,5 +309,5 @@ void TestAccountCreation::finishedOnlySchedulesTheEnd()
     QVERIFY(!dialog);
 }
 
-QTEST_MAIN(TestAccountCreation)
+QTEST_MAIN(tst_AccountCreation)
 #include "tst_account_creation.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/unit/kirv_question.h"
 
 #include <QLineEdit>
@@ -6,7 +7,7 @@
 #include <memory>
 
 /// Enabling and disabling accounts by their check boxes.
-class TestAccountEnabling : public QObject {
+class tst_AccountEnabling : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,7 +53,7 @@ const QStringList refresh { "accountEnabled(alice, XMPP)", "accountEnabled(bob, 
 
 }
 
-void TestAccountEnabling::init()
+void tst_AccountEnabling::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     alice = fixture->host.addAccount("alice", "XMPP");
@@ -60,7 +61,7 @@ void TestAccountEnabling::init()
     fixture->showFilledPage();
 }
 
-void TestAccountEnabling::checkingEnablesTheAccount()
+void tst_AccountEnabling::checkingEnablesTheAccount()
 {
     fixture->clickCheckBox(fixture->row("bob", "IRC"));
     QCOMPARE(fixture->host.calls({ "enableAccount", "disableAccount", "isLoggedIn", "accountEnabled" }),
@@ -70,7 +71,7 @@ void TestAccountEnabling::checkingEnablesTheAccount()
     QCOMPARE(fixture->offered(), (QStringList { "*alice@XMPP", "bob@IRC" }));
 }
 
-void TestAccountEnabling::uncheckingAnOfflineAccountDisablesItAtOnce()
+void tst_AccountEnabling::uncheckingAnOfflineAccountDisablesItAtOnce()
 {
     uncheckAlice();
     QCOMPARE(fixture->host.calls(),
@@ -81,7 +82,7 @@ void TestAccountEnabling::uncheckingAnOfflineAccountDisablesItAtOnce()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestAccountEnabling::uncheckingAnUnknownAccountDisablesItAtOnce()
+void tst_AccountEnabling::uncheckingAnUnknownAccountDisablesItAtOnce()
 {
     alice->loaded = false;
     alice->loggedIn = true;
@@ -91,7 +92,7 @@ void TestAccountEnabling::uncheckingAnUnknownAccountDisablesItAtOnce()
     QVERIFY(!kirvVisibleWindow<QMessageBox>());
 }
 
-void TestAccountEnabling::uncheckingAConnectedAccountKeepsTheCheckAndOpensAQuestion()
+void tst_AccountEnabling::uncheckingAConnectedAccountKeepsTheCheckAndOpensAQuestion()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -104,7 +105,7 @@ void TestAccountEnabling::uncheckingAConnectedAccountKeepsTheCheckAndOpensAQuest
     QVERIFY(fixture->list()->isEnabled());
 }
 
-void TestAccountEnabling::theQuestionNamesIdAndProtocol()
+void tst_AccountEnabling::theQuestionNamesIdAndProtocol()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -112,7 +113,7 @@ void TestAccountEnabling::theQuestionNamesIdAndProtocol()
                        "Do you want to disable account 'alice' (XMPP) in which you are currently logged in.");
 }
 
-void TestAccountEnabling::markupInAnIdIsShownAsText()
+void tst_AccountEnabling::markupInAnIdIsShownAsText()
 {
     KirvRecordingAccount *odd = fixture->host.addAccount("<b>odd</b>", "IRC");
     fixture->page()->addAccountEntry(odd);
@@ -122,7 +123,7 @@ void TestAccountEnabling::markupInAnIdIsShownAsText()
                        "Do you want to disable account '<b>odd</b>' (IRC) in which you are currently logged in.");
 }
 
-void TestAccountEnabling::yesClearsTheCheckDisablesAndRefreshes()
+void tst_AccountEnabling::yesClearsTheCheckDisablesAndRefreshes()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -138,7 +139,7 @@ void TestAccountEnabling::yesClearsTheCheckDisablesAndRefreshes()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestAccountEnabling::yesLeavesTheListAndTheFocusAlone()
+void tst_AccountEnabling::yesLeavesTheListAndTheFocusAlone()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -150,7 +151,7 @@ void TestAccountEnabling::yesLeavesTheListAndTheFocusAlone()
     QCOMPARE(fixture->page()->focusWidget(), fixture->selector());
 }
 
-void TestAccountEnabling::anyOtherAnswerKeepsTheAccountEnabled_data()
+void tst_AccountEnabling::anyOtherAnswerKeepsTheAccountEnabled_data()
 {
     QTest::addColumn<KirvAnswer>("answer");
     QTest::newRow("no") << KirvAnswer::No;
@@ -158,7 +159,7 @@ void TestAccountEnabling::anyOtherAnswerKeepsTheAccountEnabled_data()
     QTest::newRow("escaped") << KirvAnswer::Escape;
 }
 
-void TestAccountEnabling::anyOtherAnswerKeepsTheAccountEnabled()
+void tst_AccountEnabling::anyOtherAnswerKeepsTheAccountEnabled()
 {
     QFETCH(KirvAnswer, answer);
     alice->loggedIn = true;
@@ -169,10 +170,10 @@ void TestAccountEnabling::anyOtherAnswerKeepsTheAccountEnabled()
     QCOMPARE(fixture->host.calls(), QStringList());
     QVERIFY(fixture->isChecked("alice"));
     QVERIFY(alice->enabled);
-    QTRY_VERIFY(!box);
+    KIRV_TRY(!box);
 }
 
-void TestAccountEnabling::afterTheAnswerTheCheckBoxWorksOnce()
+void tst_AccountEnabling::afterTheAnswerTheCheckBoxWorksOnce()
 {
     alice->loggedIn = true;
     for (KirvAnswer answer : { KirvAnswer::No, KirvAnswer::No, KirvAnswer::Yes }) {
@@ -185,7 +186,7 @@ void TestAccountEnabling::afterTheAnswerTheCheckBoxWorksOnce()
     QCOMPARE(fixture->host.effects(), QStringList { "enableAccount(alice, XMPP)" });
 }
 
-void TestAccountEnabling::everyColumnIsHandledAlike_data()
+void tst_AccountEnabling::everyColumnIsHandledAlike_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<QString>("id");
@@ -201,7 +202,7 @@ void TestAccountEnabling::everyColumnIsHandledAlike_data()
     }
 }
 
-void TestAccountEnabling::everyColumnIsHandledAlike()
+void tst_AccountEnabling::everyColumnIsHandledAlike()
 {
     QFETCH(int, column);
     QFETCH(QString, id);
@@ -212,7 +213,7 @@ void TestAccountEnabling::everyColumnIsHandledAlike()
     QCOMPARE(fixture->host.calls({ "accountEnabled" }), refresh);
 }
 
-void TestAccountEnabling::aHalfCheckedBoxCountsAsUnchecked()
+void tst_AccountEnabling::aHalfCheckedBoxCountsAsUnchecked()
 {
     fixture->row("alice")->setCheckState(0, Qt::PartiallyChecked);
     // The refresh clears the box for good, which is handled once more.
@@ -221,7 +222,7 @@ void TestAccountEnabling::aHalfCheckedBoxCountsAsUnchecked()
     QCOMPARE(fixture->row("alice")->checkState(0), Qt::Unchecked);
 }
 
-void TestAccountEnabling::theListIsDisabledWhileTheHostWorks()
+void tst_AccountEnabling::theListIsDisabledWhileTheHostWorks()
 {
     QStringList enabledDuring;
     for (const char *operation : { "disableAccount", "enableAccount", "getAccount", "accountEnabled" }) {
@@ -237,14 +238,14 @@ void TestAccountEnabling::theListIsDisabledWhileTheHostWorks()
     QVERIFY(fixture->list()->isEnabled());
 }
 
-void TestAccountEnabling::theListGetsTheFocus()
+void tst_AccountEnabling::theListGetsTheFocus()
 {
     fixture->selector()->setFocus();
     fixture->row("alice")->setCheckState(0, Qt::Unchecked);
     QVERIFY(fixture->list()->hasFocus());
 }
 
-void TestAccountEnabling::theSpaceKeyChangesTheBox()
+void tst_AccountEnabling::theSpaceKeyChangesTheBox()
 {
     fixture->clickRow(fixture->row("alice"));
     QTest::keyClick(fixture->list(), Qt::Key_Space);
@@ -252,7 +253,7 @@ void TestAccountEnabling::theSpaceKeyChangesTheBox()
     QVERIFY(fixture->list()->hasFocus());
 }
 
-void TestAccountEnabling::theRowGoneWhileTheQuestionIsOpen_data()
+void tst_AccountEnabling::theRowGoneWhileTheQuestionIsOpen_data()
 {
     QTest::addColumn<KirvAnswer>("answer");
     QTest::addColumn<QStringList>("effects");
@@ -260,7 +261,7 @@ void TestAccountEnabling::theRowGoneWhileTheQuestionIsOpen_data()
     QTest::newRow("no") << KirvAnswer::No << QStringList();
 }
 
-void TestAccountEnabling::theRowGoneWhileTheQuestionIsOpen()
+void tst_AccountEnabling::theRowGoneWhileTheQuestionIsOpen()
 {
     QFETCH(KirvAnswer, answer);
     QFETCH(QStringList, effects);
@@ -273,7 +274,7 @@ void TestAccountEnabling::theRowGoneWhileTheQuestionIsOpen()
     QCOMPARE(fixture->list()->topLevelItemCount(), 1);
 }
 
-void TestAccountEnabling::anotherRowInPlaceOfTheOneThatIsGone()
+void tst_AccountEnabling::anotherRowInPlaceOfTheOneThatIsGone()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -287,7 +288,7 @@ void TestAccountEnabling::anotherRowInPlaceOfTheOneThatIsGone()
         QVERIFY(fixture->isChecked(QString("account%1").arg(i)));
 }
 
-void TestAccountEnabling::theAccountRemovedWhileTheQuestionIsOpen()
+void tst_AccountEnabling::theAccountRemovedWhileTheQuestionIsOpen()
 {
     alice->loggedIn = true;
     uncheckAlice();
@@ -297,7 +298,7 @@ void TestAccountEnabling::theAccountRemovedWhileTheQuestionIsOpen()
     QCOMPARE(fixture->host.effects(), QStringList());
 }
 
-void TestAccountEnabling::aHostThatDoesNotDisableGetsTheCheckBack()
+void tst_AccountEnabling::aHostThatDoesNotDisableGetsTheCheckBack()
 {
     alice->loggedIn = true;
     fixture->host.disablesAccounts = false;
@@ -309,7 +310,7 @@ void TestAccountEnabling::aHostThatDoesNotDisableGetsTheCheckBack()
     QCOMPARE(fixture->offered(), QStringList { "*alice@XMPP" });
 }
 
-void TestAccountEnabling::aHostThatRefreshesInsideAnOperation_data()
+void tst_AccountEnabling::aHostThatRefreshesInsideAnOperation_data()
 {
     QTest::addColumn<bool>("enable");
     QTest::newRow("while it enables") << true;
@@ -317,7 +318,7 @@ void TestAccountEnabling::aHostThatRefreshesInsideAnOperation_data()
 }
 
 /// What the page passed to the operation still names the same account afterwards.
-void TestAccountEnabling::aHostThatRefreshesInsideAnOperation()
+void tst_AccountEnabling::aHostThatRefreshesInsideAnOperation()
 {
     QFETCH(bool, enable);
     KirvRecordingAccount *bob = fixture->host.findAccount("bob", "IRC");
@@ -345,7 +346,7 @@ void TestAccountEnabling::aHostThatRefreshesInsideAnOperation()
     QCOMPARE(fixture->isChecked("carol", "IRC"), carol->enabled);
 }
 
-void TestAccountEnabling::anAliasChangedOnADisabledConnectedAccountOpensAQuestion()
+void tst_AccountEnabling::anAliasChangedOnADisabledConnectedAccountOpensAQuestion()
 {
     KirvRecordingAccount *bob = fixture->host.findAccount("bob", "IRC");
     int questions = 0;
@@ -360,5 +361,5 @@ void TestAccountEnabling::anAliasChangedOnADisabledConnectedAccountOpensAQuestio
     QVERIFY2(questions <= 2, "the refresh and the question go round in circles");
 }
 
-QTEST_MAIN(TestAccountEnabling)
+QTEST_MAIN(tst_AccountEnabling)
 #include "tst_account_enabling.moc"

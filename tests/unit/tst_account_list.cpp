@@ -8,7 +8,7 @@
 #include <memory>
 
 /// The rows of the list and the entries of the add menu: how they come, change and go.
-class TestAccountList : public QObject {
+class tst_AccountList : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -67,7 +67,7 @@ private:
     std::unique_ptr<KirvPageFixture> fixture;
 };
 
-void TestAccountList::theAccountsOfALoadedProtocolAreReadOnce()
+void tst_AccountList::theAccountsOfALoadedProtocolAreReadOnce()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->host.addAccount("bob", "XMPP");
@@ -79,7 +79,7 @@ void TestAccountList::theAccountsOfALoadedProtocolAreReadOnce()
     QCOMPARE(calls, (QStringList { "getProtocolByName(XMPP)", "XMPP.getIconPath(0)", "getAccountsInfo(XMPP)" }));
 }
 
-void TestAccountList::aRowShowsTheStoredAccount()
+void tst_AccountList::aRowShowsTheStoredAccount()
 {
     addAccount("alice", "XMPP", "Work");
     addAccount("bob", "XMPP", "Home")->enabled = false;
@@ -95,7 +95,7 @@ void TestAccountList::aRowShowsTheStoredAccount()
     QCOMPARE(fixture->row("bob")->data(0, Qt::CheckStateRole), QVariant(0));
 }
 
-void TestAccountList::aRowUsesStandardRolesOnly()
+void tst_AccountList::aRowUsesStandardRolesOnly()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->page()->readProtocolAccounts("XMPP");
@@ -113,7 +113,7 @@ void TestAccountList::aRowUsesStandardRolesOnly()
     QVERIFY(!row->data(1, Qt::CheckStateRole).isValid());
 }
 
-void TestAccountList::anUnknownProtocolChangesNothing()
+void tst_AccountList::anUnknownProtocolChangesNothing()
 {
     fixture->page();
     fixture->host.forgetCalls();
@@ -123,7 +123,7 @@ void TestAccountList::anUnknownProtocolChangesNothing()
     QCOMPARE(fixture->list()->topLevelItemCount(), 0);
 }
 
-void TestAccountList::aProtocolWithoutAccountsIsInTheAddMenu()
+void tst_AccountList::aProtocolWithoutAccountsIsInTheAddMenu()
 {
     fixture->page()->readProtocolAccounts("XMPP");
     const QList<QAction *> actions = fixture->addMenu()->actions();
@@ -133,7 +133,7 @@ void TestAccountList::aProtocolWithoutAccountsIsInTheAddMenu()
     QCOMPARE(actions.first()->parent(), fixture->page());
 }
 
-void TestAccountList::theActionHasAnIconOnlyWhenThereIsOne_data()
+void tst_AccountList::theActionHasAnIconOnlyWhenThereIsOne_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("hasIcon");
@@ -141,7 +141,7 @@ void TestAccountList::theActionHasAnIconOnlyWhenThereIsOne_data()
     QTest::newRow("no path") << "" << false;
 }
 
-void TestAccountList::theActionHasAnIconOnlyWhenThereIsOne()
+void tst_AccountList::theActionHasAnIconOnlyWhenThereIsOne()
 {
     QFETCH(QString, path);
     QFETCH(bool, hasIcon);
@@ -155,7 +155,7 @@ void TestAccountList::theActionHasAnIconOnlyWhenThereIsOne()
     QCOMPARE(decoration.value<QIcon>().isNull(), !hasIcon);
 }
 
-void TestAccountList::theIconIsReadOncePerProtocol()
+void tst_AccountList::theIconIsReadOncePerProtocol()
 {
     for (const char *id : { "alice", "bob", "carol" })
         fixture->host.addAccount(id, "XMPP");
@@ -165,7 +165,7 @@ void TestAccountList::theIconIsReadOncePerProtocol()
     QCOMPARE(kirvRecordedIconReads(), (QStringList { "/icons/XMPP.recorded", "/icons/IRC.recorded" }));
 }
 
-void TestAccountList::theActionStandsForTheNameThatTheHostPassed()
+void tst_AccountList::theActionStandsForTheNameThatTheHostPassed()
 {
     fixture->xmpp->reportedName = "Jabber";
     fixture->host.addAccount("alice", "XMPP");
@@ -183,7 +183,7 @@ void TestAccountList::theActionStandsForTheNameThatTheHostPassed()
     QVERIFY(fixture->addMenu()->actions().isEmpty());
 }
 
-void TestAccountList::aProtocolReadTwiceIsListedTwice()
+void tst_AccountList::aProtocolReadTwiceIsListedTwice()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->page()->readProtocolAccounts("XMPP");
@@ -197,7 +197,7 @@ void TestAccountList::aProtocolReadTwiceIsListedTwice()
     QCOMPARE(fixture->list()->topLevelItemCount(), 2);
 }
 
-void TestAccountList::anUnloadedProtocolLeavesTheMenuButNotTheList()
+void tst_AccountList::anUnloadedProtocolLeavesTheMenuButNotTheList()
 {
     fixture->host.addAccount("alice", "XMPP");
     // Not even a row that the protocol's name is looked up in, by alias or id.
@@ -216,7 +216,7 @@ void TestAccountList::anUnloadedProtocolLeavesTheMenuButNotTheList()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestAccountList::anUnknownProtocolIsUnloadedSilently()
+void tst_AccountList::anUnknownProtocolIsUnloadedSilently()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->page()->readProtocolAccounts("XMPP");
@@ -226,7 +226,7 @@ void TestAccountList::anUnknownProtocolIsUnloadedSilently()
     QCOMPARE(fixture->list()->topLevelItemCount(), 1);
 }
 
-void TestAccountList::readingAndUnloadingLeaveTheSelectorAlone()
+void tst_AccountList::readingAndUnloadingLeaveTheSelectorAlone()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->host.addAccount("dave", "IRC");
@@ -239,7 +239,7 @@ void TestAccountList::readingAndUnloadingLeaveTheSelectorAlone()
     QCOMPARE(fixture->offered(), QStringList { "*alice@XMPP" });
 }
 
-void TestAccountList::aNewAccountIsListedAsEnabledInAnyCase()
+void tst_AccountList::aNewAccountIsListedAsEnabledInAnyCase()
 {
     fixture->showFilledPage();
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", "Work");
@@ -263,7 +263,7 @@ void TestAccountList::aNewAccountIsListedAsEnabledInAnyCase()
     QCOMPARE(fixture->row("alice")->checkState(0), Qt::Unchecked);
 }
 
-void TestAccountList::aNewAccountComesIntoTheSelectorWithTheNextShow()
+void tst_AccountList::aNewAccountComesIntoTheSelectorWithTheNextShow()
 {
     fixture->showFilledPage();
     fixture->page()->addAccountEntry(fixture->host.addAccount("alice", "XMPP"));
@@ -273,7 +273,7 @@ void TestAccountList::aNewAccountComesIntoTheSelectorWithTheNextShow()
     QCOMPARE(fixture->offered(), QStringList { "*alice@XMPP" });
 }
 
-void TestAccountList::aChangedAliasIsShownAtOnce()
+void tst_AccountList::aChangedAliasIsShownAtOnce()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", "Old");
     fixture->showFilledPage();
@@ -284,7 +284,7 @@ void TestAccountList::aChangedAliasIsShownAtOnce()
     QCOMPARE(fixture->row("alice")->icon(1).name(), QString("/icons/XMPP.recorded"));
 }
 
-void TestAccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox_data()
+void tst_AccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QString>("effect");
@@ -292,7 +292,7 @@ void TestAccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox_data()
     QTest::newRow("disabled account") << false << "disableAccount(alice, XMPP)";
 }
 
-void TestAccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox()
+void tst_AccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox()
 {
     QFETCH(bool, enabled);
     QFETCH(QString, effect);
@@ -306,7 +306,7 @@ void TestAccountList::aChangedAliasIsHandledLikeAChangeOfTheCheckBox()
     QCOMPARE(fixture->host.count("accountEnabled(alice, XMPP)"), 1);
 }
 
-void TestAccountList::anUnchangedAliasIsNotHandled()
+void tst_AccountList::anUnchangedAliasIsNotHandled()
 {
     KirvRecordingAccount *alice = fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -315,7 +315,7 @@ void TestAccountList::anUnchangedAliasIsNotHandled()
     QCOMPARE(fixture->host.calls({ "accountEnabled" }), QStringList());
 }
 
-void TestAccountList::onlyTheRowOfThatAccountIsUpdated()
+void tst_AccountList::onlyTheRowOfThatAccountIsUpdated()
 {
     addAccount("alice", "IRC", "Alice on IRC");
     addAccount("bob", "XMPP", "Bob");
@@ -333,7 +333,7 @@ void TestAccountList::onlyTheRowOfThatAccountIsUpdated()
     QCOMPARE(aliases().count("New"), 1);
 }
 
-void TestAccountList::idsAreComparedExactly()
+void tst_AccountList::idsAreComparedExactly()
 {
     addAccount("Alice", "XMPP", "Upper");
     fixture->showFilledPage();
@@ -343,7 +343,7 @@ void TestAccountList::idsAreComparedExactly()
     QCOMPARE(fixture->host.effects(), QStringList());
 }
 
-void TestAccountList::buttonsFollowTheCurrentRow()
+void tst_AccountList::buttonsFollowTheCurrentRow()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -361,7 +361,7 @@ void TestAccountList::buttonsFollowTheCurrentRow()
     QVERIFY(fixture->addButton()->isEnabled());
 }
 
-void TestAccountList::buttonsFollowTheCurrentRowAndNotTheSelection()
+void tst_AccountList::buttonsFollowTheCurrentRowAndNotTheSelection()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -372,7 +372,7 @@ void TestAccountList::buttonsFollowTheCurrentRowAndNotTheSelection()
     QVERIFY(fixture->removeButton()->isEnabled());
 }
 
-void TestAccountList::theRemoveButtonIsSetBeforeTheEditButton()
+void tst_AccountList::theRemoveButtonIsSetBeforeTheEditButton()
 {
     struct Order : QObject {
         QStringList names;
@@ -394,7 +394,7 @@ void TestAccountList::theRemoveButtonIsSetBeforeTheEditButton()
     QCOMPARE(order.names, once + once);
 }
 
-void TestAccountList::buttonsAreDisabledWhenTheListIsEmptyAgain()
+void tst_AccountList::buttonsAreDisabledWhenTheListIsEmptyAgain()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -404,7 +404,7 @@ void TestAccountList::buttonsAreDisabledWhenTheListIsEmptyAgain()
     QVERIFY(!fixture->removeButton()->isEnabled());
 }
 
-void TestAccountList::theListOpensSortedByAliasFromAToZ()
+void tst_AccountList::theListOpensSortedByAliasFromAToZ()
 {
     addAccount("1", "XMPP", "Home");
     addAccount("2", "XMPP", "Away from home");
@@ -415,7 +415,7 @@ void TestAccountList::theListOpensSortedByAliasFromAToZ()
     QCOMPARE(aliases(), (QStringList { "Away from home", "Bureau", "Chat", "Home" }));
 }
 
-void TestAccountList::theSortOrderOfTheUserHolds()
+void tst_AccountList::theSortOrderOfTheUserHolds()
 {
     addAccount("1", "XMPP", "B");
     addAccount("2", "IRC", "C");
@@ -439,5 +439,5 @@ void TestAccountList::theSortOrderOfTheUserHolds()
     QCOMPARE(protocols, (QStringList { "IRC", "IRC", "XMPP", "XMPP", "XMPP" }));
 }
 
-QTEST_MAIN(TestAccountList)
+QTEST_MAIN(tst_AccountList)
 #include "tst_account_list.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/unit/kirv_question.h"
 
 #include <QSignalSpy>
@@ -6,7 +7,7 @@
 #include <memory>
 
 /// Removing an account: the question and its answers.
-class TestAccountRemoval : public QObject {
+class tst_AccountRemoval : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -44,7 +45,7 @@ private:
     std::unique_ptr<KirvPageFixture> fixture;
 };
 
-void TestAccountRemoval::init()
+void tst_AccountRemoval::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     fixture->host.addAccount("alice", "XMPP")->alias = "Work";
@@ -53,14 +54,14 @@ void TestAccountRemoval::init()
     fixture->showFilledPage();
 }
 
-void TestAccountRemoval::theQuestionNamesAliasAndProtocol()
+void tst_AccountRemoval::theQuestionNamesAliasAndProtocol()
 {
     openQuestion("alice");
     kirvVerifyQuestion(*fixture, "Removing account",
                        "Do you want to remove account 'Work' (XMPP) and all related data?");
 }
 
-void TestAccountRemoval::theQuestionDoesNotBlock()
+void tst_AccountRemoval::theQuestionDoesNotBlock()
 {
     fixture->row("alice")->setSelected(true);
     QVERIFY(QMetaObject::invokeMethod(fixture->page(), "removeAccount"));
@@ -68,7 +69,7 @@ void TestAccountRemoval::theQuestionDoesNotBlock()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestAccountRemoval::markupInAnAliasIsShownAsText()
+void tst_AccountRemoval::markupInAnAliasIsShownAsText()
 {
     fixture->row("alice")->setText(0, "<h1>%2</h1>");
     fixture->host.forgetCalls();
@@ -78,14 +79,14 @@ void TestAccountRemoval::markupInAnAliasIsShownAsText()
                        "Do you want to remove account '<h1>XMPP</h1>' (XMPP) and all related data?");
 }
 
-void TestAccountRemoval::removingNeedsExactlyOneSelectedRow_data()
+void tst_AccountRemoval::removingNeedsExactlyOneSelectedRow_data()
 {
     QTest::addColumn<bool>("all");
     QTest::newRow("no row selected") << false;
     QTest::newRow("several rows selected") << true;
 }
 
-void TestAccountRemoval::removingNeedsExactlyOneSelectedRow()
+void tst_AccountRemoval::removingNeedsExactlyOneSelectedRow()
 {
     QFETCH(bool, all);
     fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -98,7 +99,7 @@ void TestAccountRemoval::removingNeedsExactlyOneSelectedRow()
     QVERIFY(!kirvVisibleWindow<QMessageBox>());
 }
 
-void TestAccountRemoval::yesRemovesTheAccountAndItsRow()
+void tst_AccountRemoval::yesRemovesTheAccountAndItsRow()
 {
     openQuestion("alice");
     kirvAnswer(KirvAnswer::Yes);
@@ -108,7 +109,7 @@ void TestAccountRemoval::yesRemovesTheAccountAndItsRow()
     QVERIFY(fixture->row("bob", "XMPP"));
 }
 
-void TestAccountRemoval::anyOtherAnswerLeavesEverything_data()
+void tst_AccountRemoval::anyOtherAnswerLeavesEverything_data()
 {
     QTest::addColumn<KirvAnswer>("answer");
     QTest::newRow("no") << KirvAnswer::No;
@@ -116,7 +117,7 @@ void TestAccountRemoval::anyOtherAnswerLeavesEverything_data()
     QTest::newRow("escaped") << KirvAnswer::Escape;
 }
 
-void TestAccountRemoval::anyOtherAnswerLeavesEverything()
+void tst_AccountRemoval::anyOtherAnswerLeavesEverything()
 {
     QFETCH(KirvAnswer, answer);
     openQuestion("alice");
@@ -127,7 +128,7 @@ void TestAccountRemoval::anyOtherAnswerLeavesEverything()
     QCOMPARE(fixture->selector()->count(), 3);
 }
 
-void TestAccountRemoval::onlyYesCounts_data()
+void tst_AccountRemoval::onlyYesCounts_data()
 {
     QTest::addColumn<int>("result");
     QTest::newRow("yes to all") << int(QMessageBox::YesToAll);
@@ -138,7 +139,7 @@ void TestAccountRemoval::onlyYesCounts_data()
     QTest::newRow("nothing") << -1;
 }
 
-void TestAccountRemoval::onlyYesCounts()
+void tst_AccountRemoval::onlyYesCounts()
 {
     QFETCH(int, result);
     fixture->clickRow(fixture->row("alice"));
@@ -148,22 +149,22 @@ void TestAccountRemoval::onlyYesCounts()
     QCOMPARE(fixture->list()->topLevelItemCount(), 3);
 }
 
-void TestAccountRemoval::theQuestionEndsWithTheAnswer_data()
+void tst_AccountRemoval::theQuestionEndsWithTheAnswer_data()
 {
     anyOtherAnswerLeavesEverything_data();
     QTest::newRow("yes") << KirvAnswer::Yes;
 }
 
-void TestAccountRemoval::theQuestionEndsWithTheAnswer()
+void tst_AccountRemoval::theQuestionEndsWithTheAnswer()
 {
     QFETCH(KirvAnswer, answer);
     openQuestion("alice");
     const QPointer<QMessageBox> box = kirvVisibleWindow<QMessageBox>();
     kirvAnswer(answer);
-    QTRY_VERIFY(!box);
+    KIRV_TRY(!box);
 }
 
-void TestAccountRemoval::theAnswerCountsForWhatIsSelectedThen()
+void tst_AccountRemoval::theAnswerCountsForWhatIsSelectedThen()
 {
     openQuestion("alice");
     fixture->list()->setCurrentItem(fixture->row("bob"));
@@ -173,7 +174,7 @@ void TestAccountRemoval::theAnswerCountsForWhatIsSelectedThen()
     QVERIFY(!fixture->row("bob"));
 }
 
-void TestAccountRemoval::yesWithoutASelectionRemovesNothing()
+void tst_AccountRemoval::yesWithoutASelectionRemovesNothing()
 {
     openQuestion("alice");
     fixture->list()->clearSelection();
@@ -182,7 +183,7 @@ void TestAccountRemoval::yesWithoutASelectionRemovesNothing()
     QCOMPARE(fixture->list()->topLevelItemCount(), 3);
 }
 
-void TestAccountRemoval::yesWithSeveralSelectedRowsRemovesNothing()
+void tst_AccountRemoval::yesWithSeveralSelectedRowsRemovesNothing()
 {
     fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
     openQuestion("alice");
@@ -192,7 +193,7 @@ void TestAccountRemoval::yesWithSeveralSelectedRowsRemovesNothing()
     QCOMPARE(fixture->list()->topLevelItemCount(), 3);
 }
 
-void TestAccountRemoval::aRowThatIsGoneIsNotTouched()
+void tst_AccountRemoval::aRowThatIsGoneIsNotTouched()
 {
     openQuestion("alice");
     delete fixture->row("alice");
@@ -202,7 +203,7 @@ void TestAccountRemoval::aRowThatIsGoneIsNotTouched()
     QCOMPARE(fixture->list()->topLevelItemCount(), 2);
 }
 
-void TestAccountRemoval::aHostThatTakesTheRowAwayItself()
+void tst_AccountRemoval::aHostThatTakesTheRowAwayItself()
 {
     fixture->host.hook("removeAccount", [&] { delete fixture->row("alice"); });
     openQuestion("alice");
@@ -211,7 +212,7 @@ void TestAccountRemoval::aHostThatTakesTheRowAwayItself()
     QCOMPARE(fixture->list()->topLevelItemCount(), 2);
 }
 
-void TestAccountRemoval::theRowsAreNotRefreshed()
+void tst_AccountRemoval::theRowsAreNotRefreshed()
 {
     fixture->host.findAccount("bob", "XMPP")->enabled = false;
     openQuestion("alice");
@@ -220,7 +221,7 @@ void TestAccountRemoval::theRowsAreNotRefreshed()
     QVERIFY(fixture->isChecked("bob"));
 }
 
-void TestAccountRemoval::theSelectorNoLongerOffersTheAccount()
+void tst_AccountRemoval::theSelectorNoLongerOffersTheAccount()
 {
     QSignalSpy reported(fixture->page(), SIGNAL(mainAccountChanged()));
     QCOMPARE(fixture->offered(), (QStringList { "*alice@IRC", "bob@XMPP", "alice@XMPP" }));
@@ -230,7 +231,7 @@ void TestAccountRemoval::theSelectorNoLongerOffersTheAccount()
     QCOMPARE(reported.count(), 0);
 }
 
-void TestAccountRemoval::theDeleteKeyWorksLikeTheButton()
+void tst_AccountRemoval::theDeleteKeyWorksLikeTheButton()
 {
     fixture->clickRow(fixture->row("bob"));
     QTest::keyClick(fixture->list(), Qt::Key_Delete);
@@ -240,5 +241,5 @@ void TestAccountRemoval::theDeleteKeyWorksLikeTheButton()
     QCOMPARE(fixture->host.effects(), QStringList { "removeAccount(bob, XMPP)" });
 }
 
-QTEST_MAIN(TestAccountRemoval)
+QTEST_MAIN(tst_AccountRemoval)
 #include "tst_account_removal.moc"

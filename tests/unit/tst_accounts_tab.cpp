@@ -12,7 +12,7 @@
 Q_DECLARE_METATYPE(std::function<void(KirvPageFixture &)>)
 
 /// The page itself: its one instance, its meta-object, what it binds of the layout and how it ends.
-class TestAccountsTab : public QObject {
+class tst_AccountsTab : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -46,7 +46,7 @@ private:
     std::unique_ptr<KirvPageFixture> fixture;
 };
 
-void TestAccountsTab::signalsAndSlotsStandInTheirOrder_data()
+void tst_AccountsTab::signalsAndSlotsStandInTheirOrder_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("type");
@@ -74,7 +74,7 @@ void TestAccountsTab::signalsAndSlotsStandInTheirOrder_data()
     add(12, slot, isProtected, "mainAccountChanged(int)", { "index" });
 }
 
-void TestAccountsTab::signalsAndSlotsStandInTheirOrder()
+void tst_AccountsTab::signalsAndSlotsStandInTheirOrder()
 {
     QFETCH(int, index);
     QFETCH(int, type);
@@ -89,7 +89,7 @@ void TestAccountsTab::signalsAndSlotsStandInTheirOrder()
     QCOMPARE(method.parameterNames(), parameters);
 }
 
-void TestAccountsTab::theMetaObjectHoldsNothingElse()
+void tst_AccountsTab::theMetaObjectHoldsNothingElse()
 {
     const QMetaObject &meta = KirvAccountsTab::staticMetaObject;
     QCOMPARE(meta.className(), "KirvAccountsTab");
@@ -99,7 +99,7 @@ void TestAccountsTab::theMetaObjectHoldsNothingElse()
     QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
 }
 
-void TestAccountsTab::thereIsOnePage()
+void tst_AccountsTab::thereIsOnePage()
 {
     KirvAccountsTab *page = KirvAccountsTab::getInstance();
     QVERIFY(page);
@@ -109,7 +109,7 @@ void TestAccountsTab::thereIsOnePage()
     QCOMPARE(fixture->host.count("loadUI(Accounts, KirvAccountsTab, null)"), 1);
 }
 
-void TestAccountsTab::afterItsEndTheNextPageIsNewAndBound()
+void tst_AccountsTab::afterItsEndTheNextPageIsNewAndBound()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->page()->readProtocolAccounts("XMPP");
@@ -125,13 +125,13 @@ void TestAccountsTab::afterItsEndTheNextPageIsNewAndBound()
     QVERIFY(fixture->editButton()->isEnabled());
 }
 
-void TestAccountsTab::constructionOnlyLoadsTheLayout()
+void tst_AccountsTab::constructionOnlyLoadsTheLayout()
 {
     fixture->page();
     QCOMPARE(fixture->host.calls(), QStringList { "loadUI(Accounts, KirvAccountsTab, null)" });
 }
 
-void TestAccountsTab::constructionFillsNothing()
+void tst_AccountsTab::constructionFillsNothing()
 {
     fixture->host.addAccount("alice", "XMPP");
     QCOMPARE(fixture->list()->topLevelItemCount(), 0);
@@ -140,7 +140,7 @@ void TestAccountsTab::constructionFillsNothing()
     QVERIFY(!fixture->page()->getAccEdit());
 }
 
-void TestAccountsTab::theListIsSetUp()
+void tst_AccountsTab::theListIsSetUp()
 {
     QTreeWidget *list = fixture->list();
     QCOMPARE(list->columnCount(), 4);
@@ -155,7 +155,7 @@ void TestAccountsTab::theListIsSetUp()
     QCOMPARE(list->header()->sectionResizeMode(1), QHeaderView::Interactive);
 }
 
-void TestAccountsTab::theHeaderIsLabelled()
+void tst_AccountsTab::theHeaderIsLabelled()
 {
     const QTreeWidgetItem *header = fixture->list()->headerItem();
     QCOMPARE(header->text(0), QString("Alias"));
@@ -163,14 +163,14 @@ void TestAccountsTab::theHeaderIsLabelled()
     QCOMPARE(header->text(2), QString("uid"));
 }
 
-void TestAccountsTab::theAddButtonOpensItsMenuAtOnce()
+void tst_AccountsTab::theAddButtonOpensItsMenuAtOnce()
 {
     QCOMPARE(fixture->addButton()->popupMode(), QToolButton::InstantPopup);
     QVERIFY(fixture->addMenu());
     QCOMPARE(fixture->addMenu()->parent(), fixture->page());
 }
 
-void TestAccountsTab::theAddButtonItselfDoesNothing()
+void tst_AccountsTab::theAddButtonItselfDoesNothing()
 {
     fixture->showFilledPage();
     QVERIFY(QMetaObject::invokeMethod(fixture->addButton(), "clicked", Q_ARG(bool, false)));
@@ -178,7 +178,7 @@ void TestAccountsTab::theAddButtonItselfDoesNothing()
     QVERIFY(!kirvVisibleWindow<QDialog>());
 }
 
-void TestAccountsTab::buttonsStartWithoutACurrentRow()
+void tst_AccountsTab::buttonsStartWithoutACurrentRow()
 {
     fixture->page();
     QVERIFY(fixture->addButton()->isEnabled());
@@ -187,7 +187,7 @@ void TestAccountsTab::buttonsStartWithoutACurrentRow()
     QVERIFY(fixture->registerButton()->isEnabled());
 }
 
-void TestAccountsTab::theDeleteKeyIsAShortcutOfTheList()
+void tst_AccountsTab::theDeleteKeyIsAShortcutOfTheList()
 {
     const QList<QShortcut *> shortcuts =
         fixture->list()->findChildren<QShortcut *>(QString(), Qt::FindDirectChildrenOnly);
@@ -197,7 +197,7 @@ void TestAccountsTab::theDeleteKeyIsAShortcutOfTheList()
     QVERIFY(shortcuts.first()->isEnabled());
 }
 
-void TestAccountsTab::theDeleteKeyWorksEvenWhileTheButtonIsDisabled()
+void tst_AccountsTab::theDeleteKeyWorksEvenWhileTheButtonIsDisabled()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -209,7 +209,7 @@ void TestAccountsTab::theDeleteKeyWorksEvenWhileTheButtonIsDisabled()
     QVERIFY(kirvVisibleWindow<QMessageBox>());
 }
 
-void TestAccountsTab::everyControlIsConnectedOnce_data()
+void tst_AccountsTab::everyControlIsConnectedOnce_data()
 {
     using Action = std::function<void(KirvPageFixture &)>;
     QTest::addColumn<Action>("act");
@@ -240,7 +240,7 @@ void TestAccountsTab::everyControlIsConnectedOnce_data()
         "getProtocolByName(XMPP)");
 }
 
-void TestAccountsTab::everyControlIsConnectedOnce()
+void tst_AccountsTab::everyControlIsConnectedOnce()
 {
     QFETCH(std::function<void(KirvPageFixture &)>, act);
     QFETCH(QString, call);
@@ -254,7 +254,7 @@ void TestAccountsTab::everyControlIsConnectedOnce()
     QCOMPARE(fixture->host.count(call), 1);
 }
 
-void TestAccountsTab::everyShowRefreshes()
+void tst_AccountsTab::everyShowRefreshes()
 {
     KirvRecordingAccount *alice = fixture->host.addAccount("alice", "XMPP");
     fixture->page()->readProtocolAccounts("XMPP");
@@ -270,7 +270,7 @@ void TestAccountsTab::everyShowRefreshes()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestAccountsTab::aLayoutWithoutSelectorIsServed()
+void tst_AccountsTab::aLayoutWithoutSelectorIsServed()
 {
     fixture->host.layouts.omitted.insert("Accounts_MainAccount");
     KirvRecordingAccount *alice = fixture->host.addAccount("alice", "XMPP");
@@ -294,7 +294,7 @@ void TestAccountsTab::aLayoutWithoutSelectorIsServed()
     QCOMPARE(fixture->list()->topLevelItemCount(), 0);
 }
 
-void TestAccountsTab::aLayoutWithoutRegisterButtonIsServed()
+void tst_AccountsTab::aLayoutWithoutRegisterButtonIsServed()
 {
     fixture->host.layouts.omitted.insert("Accounts_RegisterButton");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(R"(^QObject::connect.*::clicked\(\))"));
@@ -303,7 +303,7 @@ void TestAccountsTab::aLayoutWithoutRegisterButtonIsServed()
     QCOMPARE(fixture->offered(), QStringList { "*alice@XMPP" });
 }
 
-void TestAccountsTab::whatThePageOwnsGoesWithIt()
+void tst_AccountsTab::whatThePageOwnsGoesWithIt()
 {
     fixture->page()->readProtocolAccounts("XMPP");
     const QPointer<QMenu> menu = fixture->addMenu();
@@ -318,7 +318,7 @@ void TestAccountsTab::whatThePageOwnsGoesWithIt()
     QVERIFY(!list);
 }
 
-void TestAccountsTab::theEditDialogOutlivesThePage()
+void tst_AccountsTab::theEditDialogOutlivesThePage()
 {
     KirvRecordingAccount *alice = fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -339,7 +339,7 @@ void TestAccountsTab::theEditDialogOutlivesThePage()
     QVERIFY(!fixture->page()->getAccEdit());
 }
 
-void TestAccountsTab::anOpenQuestionGoesWithThePage()
+void tst_AccountsTab::anOpenQuestionGoesWithThePage()
 {
     fixture->host.addAccount("alice", "XMPP");
     fixture->showFilledPage();
@@ -352,5 +352,5 @@ void TestAccountsTab::anOpenQuestionGoesWithThePage()
     QCOMPARE(fixture->host.effects(), QStringList());
 }
 
-QTEST_MAIN(TestAccountsTab)
+QTEST_MAIN(tst_AccountsTab)
 #include "tst_accounts_tab.moc"

@@ -17,7 +17,7 @@
 #include <memory>
 
 /// The add dialog's window: how it is built, bound and filled, and what typing and choosing do.
-class TestAddAccountDialog : public QObject {
+class tst_AddAccountDialog : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -87,7 +87,7 @@ KirvField text(const QString &id, const QString &value)
 
 }
 
-void TestAddAccountDialog::init()
+void tst_AddAccountDialog::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     xmpp = fixture->xmpp;
@@ -99,20 +99,20 @@ void TestAddAccountDialog::init()
     fixture->host.forgetCalls();
 }
 
-void TestAddAccountDialog::cleanup()
+void tst_AddAccountDialog::cleanup()
 {
     delete dialog;
     fixture.reset();
 }
 
-KirvAddAccountDialog *TestAddAccountDialog::open(const QString &configuration)
+KirvAddAccountDialog *tst_AddAccountDialog::open(const QString &configuration)
 {
     dialog = new KirvAddAccountDialog(xmpp, configuration, fixture->page(), Qt::Sheet);
     window = fixture->page()->findChild<QDialog *>("AddAccount");
     return dialog;
 }
 
-void TestAddAccountDialog::slotsStandInTheirOrder_data()
+void tst_AddAccountDialog::slotsStandInTheirOrder_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QByteArray>("signature");
@@ -122,7 +122,7 @@ void TestAddAccountDialog::slotsStandInTheirOrder_data()
         QTest::newRow(signature) << index++ << QByteArray(signature);
 }
 
-void TestAddAccountDialog::slotsStandInTheirOrder()
+void tst_AddAccountDialog::slotsStandInTheirOrder()
 {
     QFETCH(int, index);
     QFETCH(QByteArray, signature);
@@ -133,7 +133,7 @@ void TestAddAccountDialog::slotsStandInTheirOrder()
     QCOMPARE(method.access(), QMetaMethod::Protected);
 }
 
-void TestAddAccountDialog::theMetaObjectHoldsNothingElse()
+void tst_AddAccountDialog::theMetaObjectHoldsNothingElse()
 {
     const QMetaObject &meta = KirvAddAccountDialog::staticMetaObject;
     QCOMPARE(meta.className(), "KirvAddAccountDialog");
@@ -143,7 +143,7 @@ void TestAddAccountDialog::theMetaObjectHoldsNothingElse()
     QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
 }
 
-void TestAddAccountDialog::theProtocolIsCalledInOrder()
+void tst_AddAccountDialog::theProtocolIsCalledInOrder()
 {
     open();
     QCOMPARE(fixture->host.calls(),
@@ -153,7 +153,7 @@ void TestAddAccountDialog::theProtocolIsCalledInOrder()
                             "getCurrentRosterThemeDir()", "XMPP.getLoginPattern()" }));
 }
 
-void TestAddAccountDialog::theWindowIsAHiddenPlainDialogOfItsParent()
+void tst_AddAccountDialog::theWindowIsAHiddenPlainDialogOfItsParent()
 {
     open();
     QVERIFY(!dialog->parent());
@@ -164,7 +164,7 @@ void TestAddAccountDialog::theWindowIsAHiddenPlainDialogOfItsParent()
     QCOMPARE(window->windowType(), Qt::Dialog);
 }
 
-void TestAddAccountDialog::theWindowFitsItsContent()
+void tst_AddAccountDialog::theWindowFitsItsContent()
 {
     open();
     const QSize size = window->size();
@@ -172,7 +172,7 @@ void TestAddAccountDialog::theWindowFitsItsContent()
     QCOMPARE(size, window->size());
 }
 
-void TestAddAccountDialog::presencesAreOfferedInOrder()
+void tst_AddAccountDialog::presencesAreOfferedInOrder()
 {
     open();
     QCOMPARE(presences()->count(), 3);
@@ -183,7 +183,7 @@ void TestAddAccountDialog::presencesAreOfferedInOrder()
     }
 }
 
-void TestAddAccountDialog::presenceIconsAreFoundWithoutAnAddedSlash()
+void tst_AddAccountDialog::presenceIconsAreFoundWithoutAnAddedSlash()
 {
     fixture->host.rosterThemeDir = "/no/slash";
     open();
@@ -193,7 +193,7 @@ void TestAddAccountDialog::presenceIconsAreFoundWithoutAnAddedSlash()
     QCOMPARE(presences()->itemIcon(1).name(), QString("/no/slashicons/away.recorded"));
 }
 
-void TestAddAccountDialog::aProtocolWithoutPresencesLeavesNoneCurrent()
+void tst_AddAccountDialog::aProtocolWithoutPresencesLeavesNoneCurrent()
 {
     xmpp->presences.clear();
     open();
@@ -201,7 +201,7 @@ void TestAddAccountDialog::aProtocolWithoutPresencesLeavesNoneCurrent()
     QCOMPARE(presences()->currentIndex(), -1);
 }
 
-void TestAddAccountDialog::withoutConfigurationsTheChoiceIsHidden()
+void tst_AddAccountDialog::withoutConfigurationsTheChoiceIsHidden()
 {
     xmpp->configurations.clear();
     open("Home");
@@ -212,7 +212,7 @@ void TestAddAccountDialog::withoutConfigurationsTheChoiceIsHidden()
              QStringList { "XMPP.getConfigurations()" });
 }
 
-void TestAddAccountDialog::withoutConfigurationsTheChoiceIsStillConnected()
+void tst_AddAccountDialog::withoutConfigurationsTheChoiceIsStillConnected()
 {
     xmpp->configurations.clear();
     open();
@@ -222,7 +222,7 @@ void TestAddAccountDialog::withoutConfigurationsTheChoiceIsStillConnected()
     QCOMPARE(login()->text(), QString("me@home.example"));
 }
 
-void TestAddAccountDialog::configurationsFollowNone()
+void tst_AddAccountDialog::configurationsFollowNone()
 {
     open();
     QVERIFY(!configurations()->isHidden());
@@ -236,7 +236,7 @@ void TestAddAccountDialog::configurationsFollowNone()
     }
 }
 
-void TestAddAccountDialog::theFieldWidgetIsTheLastRowOfTheLoginForm()
+void tst_AddAccountDialog::theFieldWidgetIsTheLastRowOfTheLoginForm()
 {
     open();
     auto *frame = child<QWidget>("AddAccount_LoginFrame");
@@ -252,7 +252,7 @@ void TestAddAccountDialog::theFieldWidgetIsTheLastRowOfTheLoginForm()
     QCOMPARE(shownFields(), QString("[server=, port=5222]"));
 }
 
-void TestAddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget_data()
+void tst_AddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget_data()
 {
     QTest::addColumn<bool>("hasSettings");
     QTest::addColumn<bool>("hasForm");
@@ -262,7 +262,7 @@ void TestAddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget_data()
     QTest::newRow("neither") << false << false << 0;
 }
 
-void TestAddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget()
+void tst_AddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget()
 {
     QFETCH(bool, hasSettings);
     QFETCH(bool, hasForm);
@@ -275,14 +275,14 @@ void TestAddAccountDialog::withoutSettingsOrFormThereIsNoFieldWidget()
     QCOMPARE(fixture->host.count("XMPP.getAccountSettings()"), settingsCalls);
 }
 
-void TestAddAccountDialog::thePasswordIsMasked()
+void tst_AddAccountDialog::thePasswordIsMasked()
 {
     open();
     QCOMPARE(password()->echoMode(), QLineEdit::Password);
     QCOMPARE(login()->echoMode(), QLineEdit::Normal);
 }
 
-void TestAddAccountDialog::saveNeedsLoginAndPassword()
+void tst_AddAccountDialog::saveNeedsLoginAndPassword()
 {
     open();
     QVERIFY(!save()->isEnabled());
@@ -298,7 +298,7 @@ void TestAddAccountDialog::saveNeedsLoginAndPassword()
     QVERIFY(!save()->isEnabled());
 }
 
-void TestAddAccountDialog::saveDoesNotDependOnTheValidator()
+void tst_AddAccountDialog::saveDoesNotDependOnTheValidator()
 {
     xmpp->loginPattern = "[a-z]+@[a-z]+";
     open();
@@ -308,14 +308,14 @@ void TestAddAccountDialog::saveDoesNotDependOnTheValidator()
     QVERIFY(save()->isEnabled());
 }
 
-void TestAddAccountDialog::noConfigurationIsChosenBeforehand()
+void tst_AddAccountDialog::noConfigurationIsChosenBeforehand()
 {
     open();
     QCOMPARE(configurations()->currentIndex(), 0);
     QCOMPARE(fixture->host.calls({ "fillWithFields", "getConfigurationFields" }), QStringList());
 }
 
-void TestAddAccountDialog::aConfigurationIsChosenBeforehand()
+void tst_AddAccountDialog::aConfigurationIsChosenBeforehand()
 {
     open("Home");
     QCOMPARE(configurations()->currentText(), QString("Home"));
@@ -326,7 +326,7 @@ void TestAddAccountDialog::aConfigurationIsChosenBeforehand()
     QVERIFY(save()->isEnabled());
 }
 
-void TestAddAccountDialog::configurationsAreComparedExactly_data()
+void tst_AddAccountDialog::configurationsAreComparedExactly_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("other case") << "home";
@@ -337,7 +337,7 @@ void TestAddAccountDialog::configurationsAreComparedExactly_data()
     QTest::newRow("unknown") << "Elsewhere";
 }
 
-void TestAddAccountDialog::configurationsAreComparedExactly()
+void tst_AddAccountDialog::configurationsAreComparedExactly()
 {
     QFETCH(QString, name);
     open(name);
@@ -345,7 +345,7 @@ void TestAddAccountDialog::configurationsAreComparedExactly()
     QCOMPARE(fixture->host.calls({ "fillWithFields", "getConfigurationFields" }), QStringList());
 }
 
-void TestAddAccountDialog::choosingAConfigurationFillsFieldsAndLogin()
+void tst_AddAccountDialog::choosingAConfigurationFillsFieldsAndLogin()
 {
     open();
     fixture->host.forgetCalls();
@@ -357,7 +357,7 @@ void TestAddAccountDialog::choosingAConfigurationFillsFieldsAndLogin()
     QCOMPARE(login()->text(), QString("me@home.example"));
 }
 
-void TestAddAccountDialog::theLastLoginOfAConfigurationWins()
+void tst_AddAccountDialog::theLastLoginOfAConfigurationWins()
 {
     xmpp->configurationFields["Home"] = { text("login", "first"), text("Login", "other id"), text("login", "last"),
                                           text("server", "home.example") };
@@ -366,7 +366,7 @@ void TestAddAccountDialog::theLastLoginOfAConfigurationWins()
     QCOMPARE(login()->text(), QString("last"));
 }
 
-void TestAddAccountDialog::aConfigurationWithoutLoginKeepsTheLogin()
+void tst_AddAccountDialog::aConfigurationWithoutLoginKeepsTheLogin()
 {
     open();
     QTest::keyClicks(login(), "me");
@@ -375,7 +375,7 @@ void TestAddAccountDialog::aConfigurationWithoutLoginKeepsTheLogin()
     QCOMPARE(shownFields(), QString("[server=work.example, port=5223]"));
 }
 
-void TestAddAccountDialog::aConfigurationChangesNothingElse()
+void tst_AddAccountDialog::aConfigurationChangesNothingElse()
 {
     open();
     QTest::keyClicks(password(), "secret");
@@ -389,7 +389,7 @@ void TestAddAccountDialog::aConfigurationChangesNothingElse()
     }
 }
 
-void TestAddAccountDialog::choosingNoneRestoresTheSettingsAndClearsTheLogin()
+void tst_AddAccountDialog::choosingNoneRestoresTheSettingsAndClearsTheLogin()
 {
     open("Work");
     QTest::keyClicks(login(), "typed");
@@ -403,7 +403,7 @@ void TestAddAccountDialog::choosingNoneRestoresTheSettingsAndClearsTheLogin()
     QVERIFY(!save()->isEnabled());
 }
 
-void TestAddAccountDialog::aConfigurationCalledNoneIsNone()
+void tst_AddAccountDialog::aConfigurationCalledNoneIsNone()
 {
     xmpp->configurations = QStringList { "Home", "None" };
     xmpp->configurationFields["None"] = { text("login", "nobody") };
@@ -415,7 +415,7 @@ void TestAddAccountDialog::aConfigurationCalledNoneIsNone()
     QCOMPARE(login()->text(), QString());
 }
 
-void TestAddAccountDialog::aConfigurationWithoutFieldWidgetSkipsTheRefill()
+void tst_AddAccountDialog::aConfigurationWithoutFieldWidgetSkipsTheRefill()
 {
     xmpp->accountSettings.clear();
     open();
@@ -426,7 +426,7 @@ void TestAddAccountDialog::aConfigurationWithoutFieldWidgetSkipsTheRefill()
     QCOMPARE(fixture->host.calls({ "fillWithFields" }), QStringList());
 }
 
-void TestAddAccountDialog::aConfiguredLoginPassesTheValidatorBy()
+void tst_AddAccountDialog::aConfiguredLoginPassesTheValidatorBy()
 {
     xmpp->loginPattern = "[0-9]+";
     open();
@@ -434,5 +434,5 @@ void TestAddAccountDialog::aConfiguredLoginPassesTheValidatorBy()
     QCOMPARE(login()->text(), QString("me@home.example"));
 }
 
-QTEST_MAIN(TestAddAccountDialog)
+QTEST_MAIN(tst_AddAccountDialog)
 #include "tst_add_account_dialog.moc"

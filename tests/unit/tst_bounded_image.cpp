@@ -65,7 +65,7 @@ const QString name = QStringLiteral("face");
 
 } // namespace
 
-class tst_bounded_image : public QObject {
+class tst_BoundedImage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -100,19 +100,19 @@ private:
     QTemporaryDir folder;
 };
 
-void tst_bounded_image::initTestCase()
+void tst_BoundedImage::initTestCase()
 {
     QVERIFY(folder.isValid());
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder")));
 }
 
-QString tst_bounded_image::write(const QString &fileName, const QByteArray &data) const
+QString tst_BoundedImage::write(const QString &fileName, const QByteArray &data) const
 {
     QFile file(folder.filePath(fileName));
     return file.open(QIODevice::WriteOnly) && file.write(data) == data.size() ? file.fileName() : QString();
 }
 
-void tst_bounded_image::acceptedFormatIsRead_data()
+void tst_BoundedImage::acceptedFormatIsRead_data()
 {
     QTest::addColumn<QByteArray>("data");
     for (const char *format : { "png", "jpeg", "bmp" })
@@ -121,7 +121,7 @@ void tst_bounded_image::acceptedFormatIsRead_data()
     QTest::newRow("gif") << QByteArray::fromBase64("R0lGODdhAQABAIAAAICAgAAAACwAAAAAAQABAAACAkQBADs=");
 }
 
-void tst_bounded_image::acceptedFormatIsRead()
+void tst_BoundedImage::acceptedFormatIsRead()
 {
     QFETCH(QByteArray, data);
     QVERIFY(!data.isEmpty());
@@ -134,7 +134,7 @@ void tst_bounded_image::acceptedFormatIsRead()
     QCOMPARE(fromFile.image(), fromData.image());
 }
 
-void tst_bounded_image::drawingIsRefused()
+void tst_BoundedImage::drawingIsRefused()
 {
     const QByteArray drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"8\" height=\"8\"/>";
     for (const QString &fileName : { QStringLiteral("drawing.svg"), QStringLiteral("drawing.png") }) {
@@ -144,7 +144,7 @@ void tst_bounded_image::drawingIsRefused()
     }
 }
 
-void tst_bounded_image::smallImageKeepsItsSize_data()
+void tst_BoundedImage::smallImageKeepsItsSize_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("pixel") << QSize(1, 1);
@@ -152,14 +152,14 @@ void tst_bounded_image::smallImageKeepsItsSize_data()
     QTest::newRow("as large as allowed") << QSize(100, 100);
 }
 
-void tst_bounded_image::smallImageKeepsItsSize()
+void tst_BoundedImage::smallImageKeepsItsSize()
 {
     QFETCH(QSize, size);
     QCOMPARE(KirvBoundedImage::fromData(encoded(picture(size), "png"), name, 100).image(),
              picture(size).convertToFormat(QImage::Format_RGB32));
 }
 
-void tst_bounded_image::largeImageIsScaledDown_data()
+void tst_BoundedImage::largeImageIsScaledDown_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QSize>("scaled");
@@ -169,7 +169,7 @@ void tst_bounded_image::largeImageIsScaledDown_data()
     QTest::newRow("a line") << QSize(5000, 1) << QSize(100, 1);
 }
 
-void tst_bounded_image::largeImageIsScaledDown()
+void tst_BoundedImage::largeImageIsScaledDown()
 {
     QFETCH(QSize, size);
     QFETCH(QSize, scaled);
@@ -180,7 +180,7 @@ void tst_bounded_image::largeImageIsScaledDown()
     }
 }
 
-void tst_bounded_image::tooManyPixelsAreRefusedUndecoded()
+void tst_BoundedImage::tooManyPixelsAreRefusedUndecoded()
 {
     for (const QSize &size : { QSize(5001, 5000), QSize(0x7fffffff, 1), QSize(100000, 100000) }) {
         const KirvBoundedImage image = KirvBoundedImage::fromData(pngStating(size), name);
@@ -192,7 +192,7 @@ void tst_bounded_image::tooManyPixelsAreRefusedUndecoded()
     QVERIFY2(problem.contains(QStringLiteral("5001 × 5000")), qPrintable(problem));
 }
 
-void tst_bounded_image::asManyPixelsAsAllowedAreAccepted()
+void tst_BoundedImage::asManyPixelsAsAllowedAreAccepted()
 {
     const KirvBoundedImage image = KirvBoundedImage::fromData(encoded(picture(QSize(5000, 5000)), "png"), name);
     QCOMPARE(image.problem(), QString());
@@ -200,7 +200,7 @@ void tst_bounded_image::asManyPixelsAsAllowedAreAccepted()
 }
 
 /// Qt measures the part that the picture fills, and decodes the whole screen.
-void tst_bounded_image::screenOfAGifCountsWithItsPixels()
+void tst_BoundedImage::screenOfAGifCountsWithItsPixels()
 {
     const KirvBoundedImage image = KirvBoundedImage::fromData(gifWithScreen(QSize(1539, 65280)), name);
     QVERIFY(image.isNull());
@@ -208,13 +208,13 @@ void tst_bounded_image::screenOfAGifCountsWithItsPixels()
              QStringLiteral("The picture is too large: 1539 × 65280 pixels. Up to 25 million pixels are possible."));
 }
 
-void tst_bounded_image::screenOfAGifKeepsItsShape()
+void tst_BoundedImage::screenOfAGifKeepsItsShape()
 {
     const KirvBoundedImage image = KirvBoundedImage::fromData(gifWithScreen(QSize(3000, 1500)), name, 100);
     QCOMPARE(image.image().size(), QSize(100, 50));
 }
 
-void tst_bounded_image::tooManyBytesAreRefused()
+void tst_BoundedImage::tooManyBytesAreRefused()
 {
     const QByteArray data =
         encoded(picture(QSize(4, 4)), "png").leftJustified(int(KirvBoundedImage::maximumBytes) + 1, 'x');
@@ -225,7 +225,7 @@ void tst_bounded_image::tooManyBytesAreRefused()
     }
 }
 
-void tst_bounded_image::asManyBytesAsAllowedAreAccepted()
+void tst_BoundedImage::asManyBytesAsAllowedAreAccepted()
 {
     const QByteArray data =
         encoded(picture(QSize(4, 4)), "png").leftJustified(int(KirvBoundedImage::maximumBytes), 'x');
@@ -233,7 +233,7 @@ void tst_bounded_image::asManyBytesAsAllowedAreAccepted()
     QVERIFY(!KirvBoundedImage::fromFile(write(name, data)).isNull());
 }
 
-void tst_bounded_image::whatIsNoImageIsRefused_data()
+void tst_BoundedImage::whatIsNoImageIsRefused_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::newRow("empty") << QByteArray();
@@ -242,7 +242,7 @@ void tst_bounded_image::whatIsNoImageIsRefused_data()
     QTest::newRow("without size") << pngStating(QSize(0, 4));
 }
 
-void tst_bounded_image::whatIsNoImageIsRefused()
+void tst_BoundedImage::whatIsNoImageIsRefused()
 {
     QFETCH(QByteArray, data);
     const KirvBoundedImage image = KirvBoundedImage::fromData(data, QStringLiteral("<b>face</b>"));
@@ -250,7 +250,7 @@ void tst_bounded_image::whatIsNoImageIsRefused()
     QVERIFY2(image.problem().contains(QStringLiteral("\"<b>face</b>\"")), qPrintable(image.problem()));
 }
 
-void tst_bounded_image::damagedImageIsRefused()
+void tst_BoundedImage::damagedImageIsRefused()
 {
     QImage noise(64, 64, QImage::Format_RGB32);
     for (int y = 0; y < 64; ++y) {
@@ -264,7 +264,7 @@ void tst_bounded_image::damagedImageIsRefused()
     QCOMPARE(image.problem(), QStringLiteral("The picture in the file \"face\" is damaged."));
 }
 
-void tst_bounded_image::onlyOrdinaryFilesAreRead_data()
+void tst_BoundedImage::onlyOrdinaryFilesAreRead_data()
 {
     QTest::addColumn<QString>("path");
     const QString pipe = folder.filePath(QStringLiteral("pipe"));
@@ -277,7 +277,7 @@ void tst_bounded_image::onlyOrdinaryFilesAreRead_data()
 }
 
 /// Reading the first two would never end, and the test with it.
-void tst_bounded_image::onlyOrdinaryFilesAreRead()
+void tst_BoundedImage::onlyOrdinaryFilesAreRead()
 {
     QFETCH(QString, path);
     const KirvBoundedImage image = KirvBoundedImage::fromFile(path);
@@ -289,7 +289,7 @@ void tst_bounded_image::onlyOrdinaryFilesAreRead()
     QCOMPARE(problem, image.problem());
 }
 
-void tst_bounded_image::measuredFileIsHandedOutAsItIs()
+void tst_BoundedImage::measuredFileIsHandedOutAsItIs()
 {
     const QByteArray data = encoded(picture(QSize(600, 600)), "jpeg");
     QByteArray format;
@@ -304,7 +304,7 @@ void tst_bounded_image::measuredFileIsHandedOutAsItIs()
 }
 
 /// So that somebody else can say what is too large.
-void tst_bounded_image::sizeIsMeasuredWithoutALimit()
+void tst_BoundedImage::sizeIsMeasuredWithoutALimit()
 {
     QCOMPARE(KirvBoundedImage::measuredSize(encoded(picture(QSize(600, 500)), "jpeg")), QSize(600, 500));
     QCOMPARE(KirvBoundedImage::measuredSize(pngStating(QSize(100000, 1000))), QSize(100000, 1000));
@@ -313,7 +313,7 @@ void tst_bounded_image::sizeIsMeasuredWithoutALimit()
     QVERIFY(KirvBoundedImage::measuredSize(QByteArray()).isEmpty());
 }
 
-void tst_bounded_image::imageInMemoryIsBoundedToo()
+void tst_BoundedImage::imageInMemoryIsBoundedToo()
 {
     QCOMPARE(KirvBoundedImage::fromImage(picture(QSize(400, 200)), 100).image().size(), QSize(100, 50));
     QCOMPARE(KirvBoundedImage::fromImage(picture(QSize(40, 20)), 100).image(), picture(QSize(40, 20)));
@@ -323,7 +323,7 @@ void tst_bounded_image::imageInMemoryIsBoundedToo()
     QVERIFY(huge.problem().contains(QStringLiteral("5001 × 5000")));
 }
 
-void tst_bounded_image::namePatternsAreThoseOfTheAcceptedFormats()
+void tst_BoundedImage::namePatternsAreThoseOfTheAcceptedFormats()
 {
     const QStringList patterns = KirvBoundedImage::namePatterns();
     for (const char *pattern : { "*.png", "*.jpg", "*.jpeg", "*.gif", "*.bmp" })
@@ -332,12 +332,12 @@ void tst_bounded_image::namePatternsAreThoseOfTheAcceptedFormats()
     QVERIFY(!patterns.contains(QStringLiteral("*.svg")));
 }
 
-void tst_bounded_image::nothingIsNullWithoutAReason()
+void tst_BoundedImage::nothingIsNullWithoutAReason()
 {
     const KirvBoundedImage nothing;
     QVERIFY(nothing.isNull());
     QCOMPARE(nothing.problem(), QString());
 }
 
-QTEST_GUILESS_MAIN(tst_bounded_image)
+QTEST_GUILESS_MAIN(tst_BoundedImage)
 #include "tst_bounded_image.moc"

@@ -8,7 +8,7 @@
 #include <memory>
 
 /// The edit dialog's window: how it is built, bound and shown, and how dialog and window end.
-class TestEditAccountDialog : public QObject {
+class tst_EditAccountDialog : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<KirvEditFixture> fixture;
 };
 
-void TestEditAccountDialog::slotsStandInTheirOrder_data()
+void tst_EditAccountDialog::slotsStandInTheirOrder_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QByteArray>("signature");
@@ -62,7 +62,7 @@ void TestEditAccountDialog::slotsStandInTheirOrder_data()
         QTest::newRow(signature) << index++ << QByteArray(signature);
 }
 
-void TestEditAccountDialog::slotsStandInTheirOrder()
+void tst_EditAccountDialog::slotsStandInTheirOrder()
 {
     QFETCH(int, index);
     QFETCH(QByteArray, signature);
@@ -73,7 +73,7 @@ void TestEditAccountDialog::slotsStandInTheirOrder()
     QCOMPARE(method.access(), QMetaMethod::Protected);
 }
 
-void TestEditAccountDialog::theMetaObjectHoldsNothingElse()
+void tst_EditAccountDialog::theMetaObjectHoldsNothingElse()
 {
     const QMetaObject &meta = KirvEditAccountDialog::staticMetaObject;
     QCOMPARE(meta.className(), "KirvEditAccountDialog");
@@ -83,7 +83,7 @@ void TestEditAccountDialog::theMetaObjectHoldsNothingElse()
     QCOMPARE(meta.classInfoCount(), meta.classInfoOffset());
 }
 
-void TestEditAccountDialog::theHostIsCalledInOrder()
+void tst_EditAccountDialog::theHostIsCalledInOrder()
 {
     fixture->open();
     QStringList calls = fixture->host.calls();
@@ -104,7 +104,7 @@ void TestEditAccountDialog::theHostIsCalledInOrder()
     QCOMPARE(fixture->host.effects(), QStringList());
 }
 
-void TestEditAccountDialog::theWindowIsShownWindowModal()
+void tst_EditAccountDialog::theWindowIsShownWindowModal()
 {
     fixture->open();
     QVERIFY(fixture->window);
@@ -122,19 +122,19 @@ void TestEditAccountDialog::theWindowIsShownWindowModal()
     QCOMPARE(fixture->window->windowFlags(), likewise.windowFlags());
 }
 
-void TestEditAccountDialog::theDialogIsRecordedWithThePage()
+void tst_EditAccountDialog::theDialogIsRecordedWithThePage()
 {
     fixture->open();
     QVERIFY(fixture->dialog());
 }
 
-void TestEditAccountDialog::theIdentifierNamesIdAndProtocol()
+void tst_EditAccountDialog::theIdentifierNamesIdAndProtocol()
 {
     fixture->open();
     QCOMPARE(fixture->child<QLabel>("Identifier")->text(), QString("alice (XMPP)"));
 }
 
-void TestEditAccountDialog::presencesAreOfferedInOrder()
+void tst_EditAccountDialog::presencesAreOfferedInOrder()
 {
     fixture->open();
     const auto *combo = fixture->child<QComboBox>("PresenceCombo");
@@ -145,7 +145,7 @@ void TestEditAccountDialog::presencesAreOfferedInOrder()
     }
 }
 
-void TestEditAccountDialog::presenceIconsAreFoundWithAnAddedSlash()
+void tst_EditAccountDialog::presenceIconsAreFoundWithAnAddedSlash()
 {
     fixture->open();
     QCOMPARE(kirvRecordedIconReads(),
@@ -154,7 +154,7 @@ void TestEditAccountDialog::presenceIconsAreFoundWithAnAddedSlash()
     QCOMPARE(fixture->child<QComboBox>("PresenceCombo")->itemIcon(2).name(), QString("/theme//icons/offline.recorded"));
 }
 
-void TestEditAccountDialog::theDefaultPresenceIsCurrent_data()
+void tst_EditAccountDialog::theDefaultPresenceIsCurrent_data()
 {
     QTest::addColumn<QStringList>("ids");
     QTest::addColumn<QString>("defaultId");
@@ -166,7 +166,7 @@ void TestEditAccountDialog::theDefaultPresenceIsCurrent_data()
     QTest::newRow("no presences") << QStringList() << "away" << -1;
 }
 
-void TestEditAccountDialog::theDefaultPresenceIsCurrent()
+void tst_EditAccountDialog::theDefaultPresenceIsCurrent()
 {
     QFETCH(QStringList, ids);
     QFETCH(QString, defaultId);
@@ -179,7 +179,7 @@ void TestEditAccountDialog::theDefaultPresenceIsCurrent()
     QCOMPARE(fixture->child<QComboBox>("PresenceCombo")->currentIndex(), current);
 }
 
-void TestEditAccountDialog::theDescriptionIsShownAsText_data()
+void tst_EditAccountDialog::theDescriptionIsShownAsText_data()
 {
     QTest::addColumn<QString>("description");
     QTest::newRow("words") << "at lunch";
@@ -189,7 +189,7 @@ void TestEditAccountDialog::theDescriptionIsShownAsText_data()
     QTest::newRow("right to left") << QString::fromUtf8("\u05e9\u05dc\u05d5\u05dd");
 }
 
-void TestEditAccountDialog::theDescriptionIsShownAsText()
+void tst_EditAccountDialog::theDescriptionIsShownAsText()
 {
     QFETCH(QString, description);
     fixture->alice->defaultPresence = fixture->xmpp->presence("away", description);
@@ -197,7 +197,7 @@ void TestEditAccountDialog::theDescriptionIsShownAsText()
     QCOMPARE(fixture->child<QTextEdit>("DescriptionEdit")->toPlainText(), description);
 }
 
-void TestEditAccountDialog::markupInTheDescriptionIsShownFormatted()
+void tst_EditAccountDialog::markupInTheDescriptionIsShownFormatted()
 {
     fixture->alice->defaultPresence = fixture->xmpp->presence("away", "at <b>lunch</b>");
     fixture->open();
@@ -208,7 +208,7 @@ void TestEditAccountDialog::markupInTheDescriptionIsShownFormatted()
     QCOMPARE(cursor.charFormat().fontWeight(), int(QFont::Bold));
 }
 
-void TestEditAccountDialog::theAvatarPickerFillsItsPlace()
+void tst_EditAccountDialog::theAvatarPickerFillsItsPlace()
 {
     fixture->open();
     auto *picker = fixture->child<QWidget>("AvatarPlacement")->findChild<KirvAvatarQuickSetWidget *>();
@@ -217,14 +217,14 @@ void TestEditAccountDialog::theAvatarPickerFillsItsPlace()
     QCOMPARE(picker->maximumSize(), QSize(64, 64));
 }
 
-void TestEditAccountDialog::theSettingsFillTheirPlace()
+void tst_EditAccountDialog::theSettingsFillTheirPlace()
 {
     fixture->open();
     QVERIFY(fixture->settingsForm());
     QCOMPARE(fixture->tabs()->count(), 2);
 }
 
-void TestEditAccountDialog::withoutSettingsThePlaceStaysEmpty()
+void tst_EditAccountDialog::withoutSettingsThePlaceStaysEmpty()
 {
     fixture->alice->settings.clear();
     fixture->open();
@@ -233,7 +233,7 @@ void TestEditAccountDialog::withoutSettingsThePlaceStaysEmpty()
     QVERIFY(fixture->directoryForm());
 }
 
-void TestEditAccountDialog::theDirectoryFillsItsPlace()
+void tst_EditAccountDialog::theDirectoryFillsItsPlace()
 {
     fixture->open();
     QVERIFY(fixture->directoryForm());
@@ -242,7 +242,7 @@ void TestEditAccountDialog::theDirectoryFillsItsPlace()
     QCOMPARE(fixture->host.calls({ "fetchPubdirInfo" }), QStringList());
 }
 
-void TestEditAccountDialog::withoutDirectoryTheSecondTabGoes()
+void tst_EditAccountDialog::withoutDirectoryTheSecondTabGoes()
 {
     fixture->xmpp->pubdirFields.clear();
     fixture->alice->loggedIn = true;
@@ -255,7 +255,7 @@ void TestEditAccountDialog::withoutDirectoryTheSecondTabGoes()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestEditAccountDialog::tickedBoxesDisableWhatTheyOverride_data()
+void tst_EditAccountDialog::tickedBoxesDisableWhatTheyOverride_data()
 {
     QTest::addColumn<QString>("box");
     QTest::addColumn<bool>("presence");
@@ -265,7 +265,7 @@ void TestEditAccountDialog::tickedBoxesDisableWhatTheyOverride_data()
     QTest::newRow("password") << "RememberPassword" << true << true;
 }
 
-void TestEditAccountDialog::tickedBoxesDisableWhatTheyOverride()
+void tst_EditAccountDialog::tickedBoxesDisableWhatTheyOverride()
 {
     QFETCH(QString, box);
     QFETCH(bool, presence);
@@ -286,7 +286,7 @@ void TestEditAccountDialog::tickedBoxesDisableWhatTheyOverride()
     QVERIFY(edit->isEnabled());
 }
 
-void TestEditAccountDialog::anAccountNotFoundShowsOnlyWhatIsStored()
+void tst_EditAccountDialog::anAccountNotFoundShowsOnlyWhatIsStored()
 {
     fixture->alice->loadable = false;
     fixture->open();
@@ -307,7 +307,7 @@ void TestEditAccountDialog::anAccountNotFoundShowsOnlyWhatIsStored()
     QVERIFY(fixture->dialog());
 }
 
-void TestEditAccountDialog::anAccountNotFoundConnectsNothing()
+void tst_EditAccountDialog::anAccountNotFoundConnectsNothing()
 {
     fixture->alice->loadable = false;
     fixture->open();
@@ -323,7 +323,7 @@ void TestEditAccountDialog::anAccountNotFoundConnectsNothing()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestEditAccountDialog::anUnknownProtocolOpensNothing()
+void tst_EditAccountDialog::anUnknownProtocolOpensNothing()
 {
     const std::unique_ptr<KirvEditAccountDialog> dialog(
         new KirvEditAccountDialog("alice", "Unknown", fixture->page(), Qt::Sheet));
@@ -332,7 +332,7 @@ void TestEditAccountDialog::anUnknownProtocolOpensNothing()
     QVERIFY(!fixture->dialog());
 }
 
-void TestEditAccountDialog::anUnknownProtocolEndsTheDialogBefore()
+void tst_EditAccountDialog::anUnknownProtocolEndsTheDialogBefore()
 {
     fixture->open();
     const QPointer<KirvEditAccountDialog> before = fixture->dialog();
@@ -343,7 +343,7 @@ void TestEditAccountDialog::anUnknownProtocolEndsTheDialogBefore()
     QVERIFY(fixture->window);
 }
 
-void TestEditAccountDialog::aControllerWithoutWindowAnswersRejected()
+void tst_EditAccountDialog::aControllerWithoutWindowAnswersRejected()
 {
     KirvEditAccountDialog dialog("alice", "Unknown", fixture->page(), Qt::Sheet);
     fixture->host.forgetCalls();
@@ -355,7 +355,7 @@ void TestEditAccountDialog::aControllerWithoutWindowAnswersRejected()
     QCOMPARE(fixture->host.effects(), QStringList());
 }
 
-void TestEditAccountDialog::theNextDialogLeavesTheWindowBefore()
+void tst_EditAccountDialog::theNextDialogLeavesTheWindowBefore()
 {
     fixture->host.addAccount("bob", "IRC");
     fixture->open();
@@ -373,7 +373,7 @@ void TestEditAccountDialog::theNextDialogLeavesTheWindowBefore()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestEditAccountDialog::nothingIsConnectedToTheEndOfTheWindow()
+void tst_EditAccountDialog::nothingIsConnectedToTheEndOfTheWindow()
 {
     fixture->open();
     const QPointer<KirvEditAccountDialog> dialog = fixture->dialog();
@@ -384,7 +384,7 @@ void TestEditAccountDialog::nothingIsConnectedToTheEndOfTheWindow()
     QVERIFY(fixture->window);
 }
 
-void TestEditAccountDialog::finishedEndsTheController()
+void tst_EditAccountDialog::finishedEndsTheController()
 {
     fixture->open();
     const QPointer<KirvEditAccountDialog> dialog = fixture->dialog();
@@ -397,7 +397,7 @@ void TestEditAccountDialog::finishedEndsTheController()
     QVERIFY(fixture->window->isVisible());
 }
 
-void TestEditAccountDialog::execBlocksUntilTheWindowIsClosed()
+void tst_EditAccountDialog::execBlocksUntilTheWindowIsClosed()
 {
     fixture->open();
     QTimer::singleShot(0, fixture->window, [&] { fixture->button(QDialogButtonBox::Save)->click(); });
@@ -407,7 +407,7 @@ void TestEditAccountDialog::execBlocksUntilTheWindowIsClosed()
     QCOMPARE(fixture->dialog()->exec(), int(QDialog::Rejected));
 }
 
-void TestEditAccountDialog::theControllerDeletedWhileItsWindowIsOpen()
+void tst_EditAccountDialog::theControllerDeletedWhileItsWindowIsOpen()
 {
     fixture->alice->loggedIn = true;
     fixture->open();
@@ -422,7 +422,7 @@ void TestEditAccountDialog::theControllerDeletedWhileItsWindowIsOpen()
     QVERIFY(!fixture->dialog());
 }
 
-void TestEditAccountDialog::theWindowDeletedBeforeTheController()
+void tst_EditAccountDialog::theWindowDeletedBeforeTheController()
 {
     fixture->alice->loggedIn = true;
     fixture->open();
@@ -436,5 +436,5 @@ void TestEditAccountDialog::theWindowDeletedBeforeTheController()
     QVERIFY(fixture->window);
 }
 
-QTEST_MAIN(TestEditAccountDialog)
+QTEST_MAIN(tst_EditAccountDialog)
 #include "tst_edit_account_dialog.moc"

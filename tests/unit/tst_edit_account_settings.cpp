@@ -6,7 +6,7 @@
 #include <memory>
 
 /// What the edit dialog shows of the stored account and what saving writes.
-class TestEditAccountSettings : public QObject {
+class tst_EditAccountSettings : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -61,14 +61,14 @@ QStringList written(const QString &presence, const QStringList &password, const 
 
 }
 
-void TestEditAccountSettings::storedValuesFillTheWindow_data()
+void tst_EditAccountSettings::storedValuesFillTheWindow_data()
 {
     QTest::addColumn<bool>("checked");
     QTest::newRow("checked") << true;
     QTest::newRow("not checked") << false;
 }
 
-void TestEditAccountSettings::storedValuesFillTheWindow()
+void tst_EditAccountSettings::storedValuesFillTheWindow()
 {
     QFETCH(bool, checked);
     using F = KirvEditFixture;
@@ -83,7 +83,7 @@ void TestEditAccountSettings::storedValuesFillTheWindow()
     QCOMPARE(fixture->host.calls({ "readAccountGlobals" }), QStringList { "readAccountGlobals(alice, XMPP)" });
 }
 
-void TestEditAccountSettings::laterValuesOverwriteEarlierOnes()
+void tst_EditAccountSettings::laterValuesOverwriteEarlierOnes()
 {
     using F = KirvEditFixture;
     fixture->alice->globals = { F::text("alias", "First"), F::check("password/remember", true),
@@ -93,7 +93,7 @@ void TestEditAccountSettings::laterValuesOverwriteEarlierOnes()
     QCOMPARE(fixture->child<QCheckBox>("RememberPassword")->checkState(), Qt::Unchecked);
 }
 
-void TestEditAccountSettings::otherValuesAreSkipped()
+void tst_EditAccountSettings::otherValuesAreSkipped()
 {
     using F = KirvEditFixture;
     fixture->alice->globals = { F::text("Alias", "Other case"), F::text("login", "alice"), F::text("", "nothing") };
@@ -102,7 +102,7 @@ void TestEditAccountSettings::otherValuesAreSkipped()
     QCOMPARE(fixture->child<QLineEdit>("Password")->text(), QString());
 }
 
-void TestEditAccountSettings::storedTicksDisableWhatTheyOverride_data()
+void tst_EditAccountSettings::storedTicksDisableWhatTheyOverride_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<bool>("presence");
@@ -110,7 +110,7 @@ void TestEditAccountSettings::storedTicksDisableWhatTheyOverride_data()
     QTest::newRow("last description") << "presence/restore_desc" << true;
 }
 
-void TestEditAccountSettings::storedTicksDisableWhatTheyOverride()
+void tst_EditAccountSettings::storedTicksDisableWhatTheyOverride()
 {
     QFETCH(QString, id);
     QFETCH(bool, presence);
@@ -120,7 +120,7 @@ void TestEditAccountSettings::storedTicksDisableWhatTheyOverride()
     QVERIFY(!fixture->child<QTextEdit>("DescriptionEdit")->isEnabled());
 }
 
-void TestEditAccountSettings::savingWithoutChangesWritesInOrder()
+void tst_EditAccountSettings::savingWithoutChangesWritesInOrder()
 {
     fixture->open();
     save();
@@ -136,7 +136,7 @@ void TestEditAccountSettings::savingWithoutChangesWritesInOrder()
                        "getFields()", settingsKept, "alice@XMPP.getUid()", "alice@XMPP.getProtocolName()" }));
 }
 
-void TestEditAccountSettings::everyChangeIsWritten()
+void tst_EditAccountSettings::everyChangeIsWritten()
 {
     fixture->open();
     fixture->child<QLineEdit>("Alias")->setText("Home");
@@ -150,7 +150,7 @@ void TestEditAccountSettings::everyChangeIsWritten()
                      "alice@XMPP.setAccountSettings([server=other.org, tls=false])"));
 }
 
-void TestEditAccountSettings::theDefaultPresenceIsWrittenWhileItIsDisabled()
+void tst_EditAccountSettings::theDefaultPresenceIsWrittenWhileItIsDisabled()
 {
     fixture->open();
     fixture->child<QCheckBox>("RememberPresence")->setChecked(true);
@@ -159,7 +159,7 @@ void TestEditAccountSettings::theDefaultPresenceIsWrittenWhileItIsDisabled()
     QVERIFY(fixture->host.effects().contains("alice@XMPP.setRestoreLastPresence(true)"));
 }
 
-void TestEditAccountSettings::onlyACheckedBoxCountsAsChecked_data()
+void tst_EditAccountSettings::onlyACheckedBoxCountsAsChecked_data()
 {
     QTest::addColumn<Qt::CheckState>("state");
     QTest::addColumn<QString>("value");
@@ -168,7 +168,7 @@ void TestEditAccountSettings::onlyACheckedBoxCountsAsChecked_data()
     QTest::newRow("checked") << Qt::Checked << "true";
 }
 
-void TestEditAccountSettings::onlyACheckedBoxCountsAsChecked()
+void tst_EditAccountSettings::onlyACheckedBoxCountsAsChecked()
 {
     QFETCH(Qt::CheckState, state);
     QFETCH(QString, value);
@@ -182,7 +182,7 @@ void TestEditAccountSettings::onlyACheckedBoxCountsAsChecked()
                             "alice@XMPP.setRememberPassword(" + value + ')' }));
 }
 
-void TestEditAccountSettings::aChangedPasswordTakesAnEnabledAccountToItsDefaultPresence()
+void tst_EditAccountSettings::aChangedPasswordTakesAnEnabledAccountToItsDefaultPresence()
 {
     fixture->open();
     fixture->child<QLineEdit>("Password")->setText("changed");
@@ -195,7 +195,7 @@ void TestEditAccountSettings::aChangedPasswordTakesAnEnabledAccountToItsDefaultP
                      "Work", settingsKept));
 }
 
-void TestEditAccountSettings::aChangedPasswordOfADisabledAccountIsOnlyStored()
+void tst_EditAccountSettings::aChangedPasswordOfADisabledAccountIsOnlyStored()
 {
     fixture->alice->enabled = false;
     fixture->open();
@@ -205,7 +205,7 @@ void TestEditAccountSettings::aChangedPasswordOfADisabledAccountIsOnlyStored()
              written(defaultPresenceKept, { "alice@XMPP.setPassword(changed)" }, "Work", settingsKept));
 }
 
-void TestEditAccountSettings::theSavedPasswordIsComparedWithTheAccounts()
+void tst_EditAccountSettings::theSavedPasswordIsComparedWithTheAccounts()
 {
     // Not with the one that was shown at first.
     fixture->alice->password = "changed elsewhere";
@@ -214,7 +214,7 @@ void TestEditAccountSettings::theSavedPasswordIsComparedWithTheAccounts()
     QVERIFY(fixture->host.effects().contains("alice@XMPP.setPassword(secret)"));
 }
 
-void TestEditAccountSettings::emptyValuesAreWritten()
+void tst_EditAccountSettings::emptyValuesAreWritten()
 {
     fixture->open();
     fixture->child<QLineEdit>("Alias")->clear();
@@ -224,7 +224,7 @@ void TestEditAccountSettings::emptyValuesAreWritten()
     QVERIFY(fixture->host.effects().contains("alice@XMPP.setPassword(\"\")"));
 }
 
-void TestEditAccountSettings::withoutSettingsNoneAreWritten()
+void tst_EditAccountSettings::withoutSettingsNoneAreWritten()
 {
     fixture->alice->settings.clear();
     fixture->open();
@@ -233,7 +233,7 @@ void TestEditAccountSettings::withoutSettingsNoneAreWritten()
     QVERIFY(fixture->host.effects().contains("alice@XMPP.setAlias(Work)"));
 }
 
-void TestEditAccountSettings::thePageShowsTheNewAlias()
+void tst_EditAccountSettings::thePageShowsTheNewAlias()
 {
     fixture->page()->readProtocolAccounts("XMPP");
     fixture->open();
@@ -245,7 +245,7 @@ void TestEditAccountSettings::thePageShowsTheNewAlias()
              (QStringList { settingsKept, "enableAccount(alice, XMPP)" }));
 }
 
-void TestEditAccountSettings::saveClosesTheWindow()
+void tst_EditAccountSettings::saveClosesTheWindow()
 {
     fixture->open();
     int result = -1;
@@ -256,7 +256,7 @@ void TestEditAccountSettings::saveClosesTheWindow()
     QVERIFY(fixture->dialog());
 }
 
-void TestEditAccountSettings::saveSettingsAloneLeavesTheWindow()
+void tst_EditAccountSettings::saveSettingsAloneLeavesTheWindow()
 {
     fixture->open();
     fixture->host.forgetCalls();
@@ -265,7 +265,7 @@ void TestEditAccountSettings::saveSettingsAloneLeavesTheWindow()
     QVERIFY(fixture->window->isVisible());
 }
 
-void TestEditAccountSettings::savingAnAccountThatIsGoneClosesOnly()
+void tst_EditAccountSettings::savingAnAccountThatIsGoneClosesOnly()
 {
     fixture->page()->readProtocolAccounts("XMPP");
     fixture->open();
@@ -280,7 +280,7 @@ void TestEditAccountSettings::savingAnAccountThatIsGoneClosesOnly()
     QCOMPARE(fixture->window->result(), int(QDialog::Accepted));
 }
 
-void TestEditAccountSettings::cancelWritesNothing()
+void tst_EditAccountSettings::cancelWritesNothing()
 {
     fixture->open();
     fixture->child<QLineEdit>("Alias")->setText("Home");
@@ -292,7 +292,7 @@ void TestEditAccountSettings::cancelWritesNothing()
     QCOMPARE(fixture->window->result(), int(QDialog::Rejected));
 }
 
-void TestEditAccountSettings::anAvatarIsAppliedAtOnce()
+void tst_EditAccountSettings::anAvatarIsAppliedAtOnce()
 {
     fixture->open();
     fixture->host.forgetCalls();
@@ -308,7 +308,7 @@ void TestEditAccountSettings::anAvatarIsAppliedAtOnce()
     QCOMPARE(fixture->host.effects().size(), 1);
 }
 
-void TestEditAccountSettings::theAvatarOfAnAccountThatIsGone()
+void tst_EditAccountSettings::theAvatarOfAnAccountThatIsGone()
 {
     fixture->open();
     fixture->alice->loadable = false;
@@ -317,5 +317,5 @@ void TestEditAccountSettings::theAvatarOfAnAccountThatIsGone()
     QCOMPARE(fixture->host.effects(), QStringList());
 }
 
-QTEST_MAIN(TestEditAccountSettings)
+QTEST_MAIN(tst_EditAccountSettings)
 #include "tst_edit_account_settings.moc"

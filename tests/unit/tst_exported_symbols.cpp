@@ -11,7 +11,7 @@ const QStringList publicClasses = { "KirvAccountsTab", "KirvAddAccountDialog", "
 }
 
 /// Reads what the built library exports.
-class TestExportedSymbols : public QObject {
+class tst_ExportedSymbols : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -24,18 +24,18 @@ private:
     QStringList symbols;
 };
 
-void TestExportedSymbols::initTestCase()
+void tst_ExportedSymbols::initTestCase()
 {
     symbols = exportedSymbols(QStringLiteral(KIRV_LIBRARY));
     QVERIFY(!symbols.isEmpty());
 }
 
-void TestExportedSymbols::onlyThePublicClassesAreExported()
+void tst_ExportedSymbols::onlyThePublicClassesAreExported()
 {
     QCOMPARE(symbolsOfOthers(symbols, publicClasses), QStringList());
 }
 
-void TestExportedSymbols::whatClientsAndPlugInsNeedIsExported_data()
+void tst_ExportedSymbols::whatClientsAndPlugInsNeedIsExported_data()
 {
     QTest::addColumn<QString>("symbol");
     for (const QString &name : publicClasses) {
@@ -72,11 +72,11 @@ void TestExportedSymbols::whatClientsAndPlugInsNeedIsExported_data()
         QTest::newRow(qPrintable(operation)) << operation;
 }
 
-void TestExportedSymbols::whatClientsAndPlugInsNeedIsExported()
+void tst_ExportedSymbols::whatClientsAndPlugInsNeedIsExported()
 {
     QFETCH(QString, symbol);
     QVERIFY(symbols.contains(symbol));
 }
 
-QTEST_GUILESS_MAIN(TestExportedSymbols)
+QTEST_GUILESS_MAIN(tst_ExportedSymbols)
 #include "tst_exported_symbols.moc"

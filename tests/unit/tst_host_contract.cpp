@@ -135,7 +135,7 @@ int slotOf(Operation operation)
 
 }
 
-class TestHostContract : public QObject {
+class tst_HostContract : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -150,7 +150,7 @@ private Q_SLOTS:
     void uiWidgetsAreReachedByCast();
 };
 
-void TestHostContract::virtualOperationsOfAProtocolStandInTheirOrder()
+void tst_HostContract::virtualOperationsOfAProtocolStandInTheirOrder()
 {
     QCOMPARE(slotOf(&KirvProtocol::getName), 0);
     QCOMPARE(slotOf(&KirvProtocol::getIconPath), 2);
@@ -165,7 +165,7 @@ void TestHostContract::virtualOperationsOfAProtocolStandInTheirOrder()
     QVERIFY(slotOf(&KirvProtocol::getLoginPattern) > publish + 2);
 }
 
-void TestHostContract::aTextFieldCarriesIdAndText()
+void tst_HostContract::aTextFieldCarriesIdAndText()
 {
     const KirvField field = KirvField::textEdit("", "main_account", "alice@@XMPP", "");
     QCOMPARE(field.getId(), QString("main_account"));
@@ -174,7 +174,7 @@ void TestHostContract::aTextFieldCarriesIdAndText()
     QVERIFY(!field.isChecked());
 }
 
-void TestHostContract::fieldsAreComparedInFull_data()
+void tst_HostContract::fieldsAreComparedInFull_data()
 {
     QTest::addColumn<KirvField>("other");
     QTest::addColumn<bool>("equal");
@@ -196,7 +196,7 @@ void TestHostContract::fieldsAreComparedInFull_data()
     QTest::newRow("pattern") << pattern << false;
 }
 
-void TestHostContract::fieldsAreComparedInFull()
+void tst_HostContract::fieldsAreComparedInFull()
 {
     QFETCH(KirvField, other);
     QFETCH(bool, equal);
@@ -204,7 +204,7 @@ void TestHostContract::fieldsAreComparedInFull()
     QCOMPARE(KirvField::textEdit("Label", "id", "text", "Tip") != other, !equal);
 }
 
-void TestHostContract::listsOfFieldsAreComparedElementByElement()
+void tst_HostContract::listsOfFieldsAreComparedElementByElement()
 {
     const Fields fields = { KirvField::textEdit("", "a", "1", ""), KirvField::textEdit("", "b", "2", "") };
     QVERIFY(fields == Fields({ KirvField::textEdit("", "a", "1", ""), KirvField::textEdit("", "b", "2", "") }));
@@ -212,7 +212,7 @@ void TestHostContract::listsOfFieldsAreComparedElementByElement()
     QVERIFY(fields != Fields({ KirvField::textEdit("", "a", "1", "") }));
 }
 
-void TestHostContract::aPresenceCarriesItsFourTexts()
+void tst_HostContract::aPresenceCarriesItsFourTexts()
 {
     const KirvPresence presence = KirvPresence("away", "Away", "away.png", "at lunch");
     QCOMPARE(presence.getId(), QString("away"));
@@ -221,7 +221,7 @@ void TestHostContract::aPresenceCarriesItsFourTexts()
     QCOMPARE(presence.getDescription(), QString("at lunch"));
 }
 
-void TestHostContract::anAccountInfoCarriesWhatIsStored()
+void tst_HostContract::anAccountInfoCarriesWhatIsStored()
 {
     const KirvAccountInfo info("alice", "Work", true);
     QCOMPARE(info.getId(), QString("alice"));
@@ -229,13 +229,13 @@ void TestHostContract::anAccountInfoCarriesWhatIsStored()
     QVERIFY(info.isEnabled());
 }
 
-void TestHostContract::anArgumentCarriesItsValue()
+void tst_HostContract::anArgumentCarriesItsValue()
 {
     QCOMPARE(KirvArg(QVariant(7)).getValue().toInt(), 7);
     QVERIFY(!KirvArg().getValue().isValid());
 }
 
-void TestHostContract::uiWidgetsAreReachedByCast()
+void tst_HostContract::uiWidgetsAreReachedByCast()
 {
     QCOMPARE(KirvFieldWidget::staticMetaObject.className(), "KirvFieldWidget");
     QVERIFY(KirvFieldWidget::staticMetaObject.inherits(&QWidget::staticMetaObject));
@@ -244,5 +244,5 @@ void TestHostContract::uiWidgetsAreReachedByCast()
     QVERIFY(picker.indexOfSignal("imageSelected(QString)") != -1);
 }
 
-QTEST_MAIN(TestHostContract)
+QTEST_MAIN(tst_HostContract)
 #include "tst_host_contract.moc"

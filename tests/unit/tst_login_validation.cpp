@@ -22,7 +22,7 @@ void countWarning(QtMsgType type, const QMessageLogContext &, const QString &)
 }
 
 /// What the login pattern of a protocol lets through in the add dialog: the same with every major of Qt.
-class TestLoginValidation : public QObject {
+class tst_LoginValidation : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -47,20 +47,20 @@ private:
     QLineEdit *login = nullptr;
 };
 
-void TestLoginValidation::cleanup()
+void tst_LoginValidation::cleanup()
 {
     delete dialog;
     fixture.reset();
 }
 
-void TestLoginValidation::open(const QString &pattern)
+void tst_LoginValidation::open(const QString &pattern)
 {
     fixture->xmpp->loginPattern = pattern;
     dialog = new KirvAddAccountDialog(fixture->xmpp, QString(), fixture->page(), Qt::Sheet);
     login = fixture->page()->findChild<QLineEdit *>("AddAccount_UsernameEdit");
 }
 
-void TestLoginValidation::typingIsValidated_data()
+void tst_LoginValidation::typingIsValidated_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("typed");
@@ -74,7 +74,7 @@ void TestLoginValidation::typingIsValidated_data()
     // clang-format on
 }
 
-void TestLoginValidation::typingIsValidated()
+void tst_LoginValidation::typingIsValidated()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, typed);
@@ -84,7 +84,7 @@ void TestLoginValidation::typingIsValidated()
     QCOMPARE(login->text(), taken);
 }
 
-void TestLoginValidation::textIsValidated_data()
+void tst_LoginValidation::textIsValidated_data()
 {
     const QString accented = QString::fromUtf8("h\u00e9l\u00e8ne");
     const QString decomposed = QString::fromUtf8("he\u0301le\u0300ne");
@@ -139,7 +139,7 @@ void TestLoginValidation::textIsValidated_data()
     // clang-format on
 }
 
-void TestLoginValidation::textIsValidated()
+void tst_LoginValidation::textIsValidated()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, text);
@@ -153,7 +153,7 @@ void TestLoginValidation::textIsValidated()
     QCOMPARE(login->text(), state == QValidator::Invalid ? QString() : text);
 }
 
-void TestLoginValidation::theDotMatchesALineFeed()
+void tst_LoginValidation::theDotMatchesALineFeed()
 {
     open(".+");
     int position = 0;
@@ -161,7 +161,7 @@ void TestLoginValidation::theDotMatchesALineFeed()
     QCOMPARE(login->validator()->validate(text, position), QValidator::Acceptable);
 }
 
-void TestLoginValidation::thePositionOfInvalidTextIsItsEnd_data()
+void tst_LoginValidation::thePositionOfInvalidTextIsItsEnd_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::newRow("digits") << "[0-9]+";
@@ -169,7 +169,7 @@ void TestLoginValidation::thePositionOfInvalidTextIsItsEnd_data()
     QTest::newRow("invalid") << "[";
 }
 
-void TestLoginValidation::thePositionOfInvalidTextIsItsEnd()
+void tst_LoginValidation::thePositionOfInvalidTextIsItsEnd()
 {
     QFETCH(QString, pattern);
     open(pattern);
@@ -179,7 +179,7 @@ void TestLoginValidation::thePositionOfInvalidTextIsItsEnd()
     QCOMPARE(position, 4);
 }
 
-void TestLoginValidation::anInvalidPatternIsNotLogged()
+void tst_LoginValidation::anInvalidPatternIsNotLogged()
 {
     warnings = 0;
     const QtMessageHandler before = qInstallMessageHandler(countWarning);
@@ -191,7 +191,7 @@ void TestLoginValidation::anInvalidPatternIsNotLogged()
     QCOMPARE(warnings, 0);
 }
 
-void TestLoginValidation::theValidatorGoesWithTheController()
+void tst_LoginValidation::theValidatorGoesWithTheController()
 {
     open("[a-z]+");
     const QPointer<const QValidator> validator = login->validator();
@@ -200,5 +200,5 @@ void TestLoginValidation::theValidatorGoesWithTheController()
     QVERIFY(!validator);
 }
 
-QTEST_MAIN(TestLoginValidation)
+QTEST_MAIN(tst_LoginValidation)
 #include "tst_login_validation.moc"

@@ -8,7 +8,7 @@
 #include <memory>
 
 /// The user's choice of the main account.
-class TestMainAccount : public QObject {
+class tst_MainAccount : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -37,7 +37,7 @@ private:
     std::unique_ptr<QSignalSpy> reported;
 };
 
-void TestMainAccount::init()
+void tst_MainAccount::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     alice = fixture->host.addAccount("alice", "XMPP");
@@ -47,13 +47,13 @@ void TestMainAccount::init()
     fixture->showFilledPage();
 }
 
-void TestMainAccount::cleanup()
+void tst_MainAccount::cleanup()
 {
     reported.reset();
     fixture.reset();
 }
 
-void TestMainAccount::choosingAnEntryMakesItTheMainAccount()
+void tst_MainAccount::choosingAnEntryMakesItTheMainAccount()
 {
     fixture->selector()->setFocus();
     QTest::keyClick(fixture->selector(), Qt::Key_Down);
@@ -64,7 +64,7 @@ void TestMainAccount::choosingAnEntryMakesItTheMainAccount()
     QCOMPARE(reported->count(), 1);
 }
 
-void TestMainAccount::theAccountIsAssignedThenStoredThenReported()
+void tst_MainAccount::theAccountIsAssignedThenStoredThenReported()
 {
     QStringList order;
     fixture->host.hook("writeGlobalSetting", [&] {
@@ -78,14 +78,14 @@ void TestMainAccount::theAccountIsAssignedThenStoredThenReported()
     QCOMPARE(order, (QStringList { "stored after it was assigned", "reported after it was stored" }));
 }
 
-void TestMainAccount::theSettingIsATextField()
+void tst_MainAccount::theSettingIsATextField()
 {
     fixture->selector()->setCurrentIndex(1);
     QCOMPARE(fixture->host.writtenSettings.size(), 1);
     QVERIFY(fixture->host.writtenSettings.first() == KirvField::textEdit("", "main_account", "bob@@IRC", ""));
 }
 
-void TestMainAccount::nothingElseHappens()
+void tst_MainAccount::nothingElseHappens()
 {
     fixture->selector()->setCurrentIndex(1);
     QStringList calls = fixture->host.calls();
@@ -95,14 +95,14 @@ void TestMainAccount::nothingElseHappens()
                             "writeGlobalSetting(main_account=bob@@IRC)" }));
 }
 
-void TestMainAccount::choosingTheCurrentEntryIsNoChoice()
+void tst_MainAccount::choosingTheCurrentEntryIsNoChoice()
 {
     fixture->selector()->setCurrentIndex(0);
     QCOMPARE(fixture->host.calls(), QStringList());
     QCOMPARE(reported->count(), 0);
 }
 
-void TestMainAccount::anIndexWithoutAccountChangesNothing_data()
+void tst_MainAccount::anIndexWithoutAccountChangesNothing_data()
 {
     QTest::addColumn<int>("index");
     QTest::newRow("no entry") << -1;
@@ -110,7 +110,7 @@ void TestMainAccount::anIndexWithoutAccountChangesNothing_data()
     QTest::newRow("far away") << 1000000;
 }
 
-void TestMainAccount::anIndexWithoutAccountChangesNothing()
+void tst_MainAccount::anIndexWithoutAccountChangesNothing()
 {
     QFETCH(int, index);
     QVERIFY(QMetaObject::invokeMethod(fixture->page(), "mainAccountChanged", Q_ARG(int, index)));
@@ -119,7 +119,7 @@ void TestMainAccount::anIndexWithoutAccountChangesNothing()
     QCOMPARE(mainAccount(), static_cast<KirvAccountConnection *>(alice));
 }
 
-void TestMainAccount::anEntryWithoutAccountChangesNothing_data()
+void tst_MainAccount::anEntryWithoutAccountChangesNothing_data()
 {
     QTest::addColumn<QVariant>("data");
     QTest::newRow("null pointer") << QVariant::fromValue(static_cast<void *>(nullptr));
@@ -127,7 +127,7 @@ void TestMainAccount::anEntryWithoutAccountChangesNothing_data()
     QTest::newRow("a text") << QVariant("alice");
 }
 
-void TestMainAccount::anEntryWithoutAccountChangesNothing()
+void tst_MainAccount::anEntryWithoutAccountChangesNothing()
 {
     QFETCH(QVariant, data);
     fixture->selector()->setItemData(1, data, Qt::UserRole);
@@ -137,7 +137,7 @@ void TestMainAccount::anEntryWithoutAccountChangesNothing()
     QCOMPARE(mainAccount(), static_cast<KirvAccountConnection *>(alice));
 }
 
-void TestMainAccount::enablingAndDisablingAccountsChoosesNothing()
+void tst_MainAccount::enablingAndDisablingAccountsChoosesNothing()
 {
     fixture->clickCheckBox(fixture->row("alice"));
     QCOMPARE(fixture->offered(), QStringList { "*bob@IRC" });
@@ -151,7 +151,7 @@ void TestMainAccount::enablingAndDisablingAccountsChoosesNothing()
     QCOMPARE(mainAccount(), static_cast<KirvAccountConnection *>(alice));
 }
 
-void TestMainAccount::removingTheCurrentEntryChoosesNothing()
+void tst_MainAccount::removingTheCurrentEntryChoosesNothing()
 {
     fixture->clickRow(fixture->row("alice"));
     fixture->removeButton()->click();
@@ -163,7 +163,7 @@ void TestMainAccount::removingTheCurrentEntryChoosesNothing()
     QVERIFY(!mainAccount());
 }
 
-void TestMainAccount::afterTheRemovalAChoiceCountsOnce()
+void tst_MainAccount::afterTheRemovalAChoiceCountsOnce()
 {
     fixture->host.addAccount("carol", "IRC");
     fixture->page()->addAccountEntry(fixture->host.findAccount("carol", "IRC"));
@@ -177,5 +177,5 @@ void TestMainAccount::afterTheRemovalAChoiceCountsOnce()
     QCOMPARE(reported->count(), 1);
 }
 
-QTEST_MAIN(TestMainAccount)
+QTEST_MAIN(tst_MainAccount)
 #include "tst_main_account.moc"

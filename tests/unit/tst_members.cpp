@@ -70,7 +70,7 @@ bool isAscending(const QList<qptrdiff> &offsets)
 
 /// The data members of the public classes: their order is part of the classes' layout, their first values of what
 /// a fresh object promises.
-class TestMembers : public QObject {
+class tst_Members : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -88,7 +88,7 @@ private:
     std::unique_ptr<KirvPageFixture> fixture;
 };
 
-void TestMembers::membersOfThePageStandInTheirOrder()
+void tst_Members::membersOfThePageStandInTheirOrder()
 {
     const KirvAccountsTab &page = *fixture->page();
     QVERIFY(isAscending({ OFFSET(page, KirvAccountsTab, mainAccountBox), OFFSET(page, KirvAccountsTab, accountList),
@@ -99,7 +99,7 @@ void TestMembers::membersOfThePageStandInTheirOrder()
                           OFFSET(page, KirvAccountsTab, protocolActions), OFFSET(page, KirvAccountsTab, accEdit) }));
 }
 
-void TestMembers::membersOfThePageStartEmpty()
+void tst_Members::membersOfThePageStartEmpty()
 {
     const KirvAccountsTab &page = *fixture->page();
     QVERIFY(VALUE(page, KirvAccountsTab, pendingAccountId).isNull());
@@ -114,7 +114,7 @@ void TestMembers::membersOfThePageStartEmpty()
     QCOMPARE(VALUE(page, KirvAccountsTab, removeButton), fixture->removeButton());
 }
 
-void TestMembers::membersOfTheAddDialogStandInTheirOrder()
+void tst_Members::membersOfTheAddDialogStandInTheirOrder()
 {
     fixture->xmpp->configurations = QStringList { "Home" };
     const KirvAddAccountDialog dialog(fixture->xmpp, "Home", fixture->page(), Qt::Sheet);
@@ -132,7 +132,7 @@ void TestMembers::membersOfTheAddDialogStandInTheirOrder()
     QVERIFY(!dialog.parent());
 }
 
-void TestMembers::membersOfTheEditDialogStandInTheirOrder()
+void tst_Members::membersOfTheEditDialogStandInTheirOrder()
 {
     fixture->host.addAccount("alice", "XMPP");
     const KirvEditAccountDialog dialog("alice", "XMPP", fixture->page(), Qt::Sheet);
@@ -158,7 +158,7 @@ void TestMembers::membersOfTheEditDialogStandInTheirOrder()
     QVERIFY(!dialog.parent());
 }
 
-void TestMembers::aControllerForAnUnknownProtocolHasNoWindow()
+void tst_Members::aControllerForAnUnknownProtocolHasNoWindow()
 {
     const KirvEditAccountDialog dialog("alice", "Unknown", fixture->page(), Qt::Sheet);
     QVERIFY(VALUE(dialog, KirvEditAccountDialog, protocol) == nullptr);
@@ -168,12 +168,12 @@ void TestMembers::aControllerForAnUnknownProtocolHasNoWindow()
     QVERIFY(VALUE(dialog, KirvEditAccountDialog, pubdirData).isEmpty());
 }
 
-void TestMembers::membersOfTheEventStandInTheirOrder()
+void tst_Members::membersOfTheEventStandInTheirOrder()
 {
     const KirvPubdirAccountReceivedEvent event(nullptr, {});
     QVERIFY(isAscending({ OFFSET(event, KirvPubdirAccountReceivedEvent, account),
                           OFFSET(event, KirvPubdirAccountReceivedEvent, data) }));
 }
 
-QTEST_MAIN(TestMembers)
+QTEST_MAIN(tst_Members)
 #include "tst_members.moc"

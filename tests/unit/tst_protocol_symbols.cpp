@@ -10,7 +10,7 @@ const QStringList markedClasses = { "KirvBackOff",           "KirvBoundedImage",
 }
 
 /// Reads what the built library for protocol plug-ins exports.
-class tst_protocol_symbols : public QObject {
+class tst_ProtocolSymbols : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -23,13 +23,13 @@ private:
     QStringList symbols;
 };
 
-void tst_protocol_symbols::initTestCase()
+void tst_ProtocolSymbols::initTestCase()
 {
     symbols = exportedSymbols(QStringLiteral(KIRV_LIBRARY));
     QVERIFY(!symbols.isEmpty());
 }
 
-void tst_protocol_symbols::onlyTheMarkedClassesAreExported()
+void tst_ProtocolSymbols::onlyTheMarkedClassesAreExported()
 {
     QStringList others;
     // The classes of the contract have no library of their own: each that uses one may hold its type and tables.
@@ -44,7 +44,7 @@ void tst_protocol_symbols::onlyTheMarkedClassesAreExported()
     QCOMPARE(others, QStringList());
 }
 
-void tst_protocol_symbols::whatPlugInsNeedIsExported_data()
+void tst_ProtocolSymbols::whatPlugInsNeedIsExported_data()
 {
     QTest::addColumn<QString>("symbol");
     for (const char *name : { "KirvConnection", "KirvProtocolBase", "KirvServerRequest" }) {
@@ -64,11 +64,11 @@ void tst_protocol_symbols::whatPlugInsNeedIsExported_data()
         QTest::newRow(operation) << QString::fromLatin1(operation);
 }
 
-void tst_protocol_symbols::whatPlugInsNeedIsExported()
+void tst_ProtocolSymbols::whatPlugInsNeedIsExported()
 {
     QFETCH(QString, symbol);
     QVERIFY(symbols.contains(symbol));
 }
 
-QTEST_GUILESS_MAIN(tst_protocol_symbols)
+QTEST_GUILESS_MAIN(tst_ProtocolSymbols)
 #include "tst_protocol_symbols.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "edit_account/kirv_pubdir_account_received_event.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/unit/kirv_edit_fixture.h"
 
 #include <QMessageBox>
@@ -8,7 +9,7 @@
 #include <memory>
 
 /// The account's directory entry: requested, shown, published and deleted.
-class TestPublicDirectory : public QObject {
+class tst_PublicDirectory : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -74,7 +75,7 @@ private:
     KirvRecordingAccount *alice = nullptr;
 };
 
-void TestPublicDirectory::init()
+void tst_PublicDirectory::init()
 {
     fixture = std::make_unique<KirvEditFixture>();
     alice = fixture->alice;
@@ -83,7 +84,7 @@ void TestPublicDirectory::init()
     fixture->host.forgetCalls();
 }
 
-void TestPublicDirectory::theEventCarriesAccountAndData()
+void tst_PublicDirectory::theEventCarriesAccountAndData()
 {
     Fields data = entry("Alice", "Oslo");
     const KirvPubdirAccountReceivedEvent event(alice, data);
@@ -94,7 +95,7 @@ void TestPublicDirectory::theEventCarriesAccountAndData()
     QVERIFY(event.getData() == entry("Alice", "Oslo"));
 }
 
-void TestPublicDirectory::everyVisitOfTheTabSendsARequest()
+void tst_PublicDirectory::everyVisitOfTheTabSendsARequest()
 {
     fixture->tabs()->setCurrentIndex(1);
     QCOMPARE(sent(), QStringList { "XMPP.fetchPubdirInfo(alice@XMPP)" });
@@ -104,7 +105,7 @@ void TestPublicDirectory::everyVisitOfTheTabSendsARequest()
     QCOMPARE(sent().size(), 2);
 }
 
-void TestPublicDirectory::onlyTheFirstTabSendsNoRequest_data()
+void tst_PublicDirectory::onlyTheFirstTabSendsNoRequest_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("requests");
@@ -114,7 +115,7 @@ void TestPublicDirectory::onlyTheFirstTabSendsNoRequest_data()
     QTest::newRow("none") << -1 << 1;
 }
 
-void TestPublicDirectory::onlyTheFirstTabSendsNoRequest()
+void tst_PublicDirectory::onlyTheFirstTabSendsNoRequest()
 {
     QFETCH(int, index);
     QFETCH(int, requests);
@@ -123,7 +124,7 @@ void TestPublicDirectory::onlyTheFirstTabSendsNoRequest()
     QCOMPARE(fixture->directoryForm()->isEnabled(), requests == 0);
 }
 
-void TestPublicDirectory::aRequestDisablesTheFields_data()
+void tst_PublicDirectory::aRequestDisablesTheFields_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<QString>("request");
@@ -131,7 +132,7 @@ void TestPublicDirectory::aRequestDisablesTheFields_data()
     QTest::newRow("delete") << QByteArray("removePubdirInfo") << "XMPP.deletePubdirInfo(alice@XMPP)";
 }
 
-void TestPublicDirectory::aRequestDisablesTheFields()
+void tst_PublicDirectory::aRequestDisablesTheFields()
 {
     QFETCH(QByteArray, slot);
     QFETCH(QString, request);
@@ -147,7 +148,7 @@ void TestPublicDirectory::aRequestDisablesTheFields()
                             request }));
 }
 
-void TestPublicDirectory::fieldsWithoutARequestStayDisabled_data()
+void tst_PublicDirectory::fieldsWithoutARequestStayDisabled_data()
 {
     QTest::addColumn<QByteArray>("slot");
     QTest::addColumn<bool>("enabled");
@@ -165,7 +166,7 @@ void TestPublicDirectory::fieldsWithoutARequestStayDisabled_data()
     }
 }
 
-void TestPublicDirectory::fieldsWithoutARequestStayDisabled()
+void tst_PublicDirectory::fieldsWithoutARequestStayDisabled()
 {
     QFETCH(QByteArray, slot);
     QFETCH(bool, enabled);
@@ -190,7 +191,7 @@ void TestPublicDirectory::fieldsWithoutARequestStayDisabled()
     QCOMPARE(shown(), QString("[name=Alice, town=Oslo]"));
 }
 
-void TestPublicDirectory::anAnswerFillsAndEnablesTheFields()
+void tst_PublicDirectory::anAnswerFillsAndEnablesTheFields()
 {
     fixture->call("requestPubdirInfo");
     fixture->host.forgetCalls();
@@ -200,16 +201,16 @@ void TestPublicDirectory::anAnswerFillsAndEnablesTheFields()
     QVERIFY(fixture->directoryForm()->isEnabled());
 }
 
-void TestPublicDirectory::aPostedAnswerIsHandledLikeASentOne()
+void tst_PublicDirectory::aPostedAnswerIsHandledLikeASentOne()
 {
     fixture->call("requestPubdirInfo");
     QCoreApplication::postEvent(fixture->page()->getAccEdit(),
                                 new KirvPubdirAccountReceivedEvent(alice, entry("Alice", "Oslo")));
-    QTRY_VERIFY(fixture->directoryForm()->isEnabled());
+    KIRV_TRY(fixture->directoryForm()->isEnabled());
     QCOMPARE(shown(), QString("[name=Alice, town=Oslo]"));
 }
 
-void TestPublicDirectory::anAnswerReplacesWhatTheUserTyped()
+void tst_PublicDirectory::anAnswerReplacesWhatTheUserTyped()
 {
     answer(alice, entry("Alice", "Oslo"));
     type("name", "typed");
@@ -217,7 +218,7 @@ void TestPublicDirectory::anAnswerReplacesWhatTheUserTyped()
     QCOMPARE(shown(), QString("[name=Alice B., town=Oslo]"));
 }
 
-void TestPublicDirectory::anEmptyAnswerShowsBlankFieldsOrLeavesThem()
+void tst_PublicDirectory::anEmptyAnswerShowsBlankFieldsOrLeavesThem()
 {
     type("name", "typed");
     answer(alice, {});
@@ -230,7 +231,7 @@ void TestPublicDirectory::anEmptyAnswerShowsBlankFieldsOrLeavesThem()
     QVERIFY(fixture->directoryForm()->isEnabled());
 }
 
-void TestPublicDirectory::anEmptyAnswerAfterADeletionBlanksTheFields()
+void tst_PublicDirectory::anEmptyAnswerAfterADeletionBlanksTheFields()
 {
     answer(alice, entry("Alice", "Oslo"));
     // Cleared before the request, which may be answered at once.
@@ -240,7 +241,7 @@ void TestPublicDirectory::anEmptyAnswerAfterADeletionBlanksTheFields()
     QVERIFY(fixture->directoryForm()->isEnabled());
 }
 
-void TestPublicDirectory::answersForOthersAreDropped_data()
+void tst_PublicDirectory::answersForOthersAreDropped_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("protocol");
@@ -255,7 +256,7 @@ void TestPublicDirectory::answersForOthersAreDropped_data()
                                                     << "XMPP" << true;
 }
 
-void TestPublicDirectory::answersForOthersAreDropped()
+void tst_PublicDirectory::answersForOthersAreDropped()
 {
     QFETCH(QString, id);
     QFETCH(QString, protocol);
@@ -271,7 +272,7 @@ void TestPublicDirectory::answersForOthersAreDropped()
     QVERIFY(!fixture->directoryForm()->isEnabled());
 }
 
-void TestPublicDirectory::otherEventsAreIgnored()
+void tst_PublicDirectory::otherEventsAreIgnored()
 {
     fixture->call("requestPubdirInfo");
     fixture->host.forgetCalls();
@@ -283,7 +284,7 @@ void TestPublicDirectory::otherEventsAreIgnored()
     QVERIFY(!fixture->directoryForm()->isEnabled());
 }
 
-void TestPublicDirectory::withoutDirectoryEverythingReturnsAtOnce()
+void tst_PublicDirectory::withoutDirectoryEverythingReturnsAtOnce()
 {
     fixture->xmpp->pubdirFields.clear();
     fixture->open();
@@ -299,7 +300,7 @@ void TestPublicDirectory::withoutDirectoryEverythingReturnsAtOnce()
     QCOMPARE(sent(), QStringList());
 }
 
-void TestPublicDirectory::savingPublishesChangedFields()
+void tst_PublicDirectory::savingPublishesChangedFields()
 {
     answer(alice, entry("Alice", "Oslo"));
     type("town", "Bergen");
@@ -314,7 +315,7 @@ void TestPublicDirectory::savingPublishesChangedFields()
     QCOMPARE(shown(), QString("[name=Alice, town=Bergen]"));
 }
 
-void TestPublicDirectory::whatWasPublishedIsNotPublishedAgain()
+void tst_PublicDirectory::whatWasPublishedIsNotPublishedAgain()
 {
     type("name", "Alice");
     save();
@@ -323,7 +324,7 @@ void TestPublicDirectory::whatWasPublishedIsNotPublishedAgain()
     QCOMPARE(sent(), QStringList());
 }
 
-void TestPublicDirectory::whatWasReceivedIsNotPublishedBack()
+void tst_PublicDirectory::whatWasReceivedIsNotPublishedBack()
 {
     answer(alice, entry("Alice", "Oslo"));
     save();
@@ -331,7 +332,7 @@ void TestPublicDirectory::whatWasReceivedIsNotPublishedBack()
     QVERIFY(fixture->directoryForm()->isEnabled());
 }
 
-void TestPublicDirectory::savingSendsNothingForAnAccountThatIsOffline_data()
+void tst_PublicDirectory::savingSendsNothingForAnAccountThatIsOffline_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<bool>("loggedIn");
@@ -339,7 +340,7 @@ void TestPublicDirectory::savingSendsNothingForAnAccountThatIsOffline_data()
     QTest::newRow("off line") << true << false;
 }
 
-void TestPublicDirectory::savingSendsNothingForAnAccountThatIsOffline()
+void tst_PublicDirectory::savingSendsNothingForAnAccountThatIsOffline()
 {
     QFETCH(bool, enabled);
     QFETCH(bool, loggedIn);
@@ -352,7 +353,7 @@ void TestPublicDirectory::savingSendsNothingForAnAccountThatIsOffline()
     QVERIFY(fixture->host.effects().contains("alice@XMPP.setAlias(Work)"));
 }
 
-void TestPublicDirectory::fieldsEditedOffLineAreSentOnceConnected()
+void tst_PublicDirectory::fieldsEditedOffLineAreSentOnceConnected()
 {
     alice->loggedIn = false;
     type("name", "Alice");
@@ -362,7 +363,7 @@ void TestPublicDirectory::fieldsEditedOffLineAreSentOnceConnected()
     QCOMPARE(sent(), QStringList { "XMPP.publishPubdirInfo(alice@XMPP, [name=Alice, town=])" });
 }
 
-void TestPublicDirectory::theFetchButtonSendsARequest()
+void tst_PublicDirectory::theFetchButtonSendsARequest()
 {
     fixture->tabs()->setCurrentIndex(1);
     fixture->host.forgetCalls();
@@ -370,14 +371,14 @@ void TestPublicDirectory::theFetchButtonSendsARequest()
     QCOMPARE(sent(), QStringList { "XMPP.fetchPubdirInfo(alice@XMPP)" });
 }
 
-void TestPublicDirectory::theDeleteButtonOpensAQuestionFirst_data()
+void tst_PublicDirectory::theDeleteButtonOpensAQuestionFirst_data()
 {
     QTest::addColumn<bool>("yes");
     QTest::newRow("yes") << true;
     QTest::newRow("no") << false;
 }
 
-void TestPublicDirectory::theDeleteButtonOpensAQuestionFirst()
+void tst_PublicDirectory::theDeleteButtonOpensAQuestionFirst()
 {
     QFETCH(bool, yes);
     fixture->tabs()->setCurrentIndex(1);
@@ -402,14 +403,14 @@ void TestPublicDirectory::theDeleteButtonOpensAQuestionFirst()
     QVERIFY(!yes || sent().first() == "XMPP.deletePubdirInfo(alice@XMPP)");
 }
 
-void TestPublicDirectory::aLayoutWithoutControlsIsServed_data()
+void tst_PublicDirectory::aLayoutWithoutControlsIsServed_data()
 {
     QTest::addColumn<QString>("omitted");
     for (const char *name : { "EditAccount_PubDirControls", "EditAccount_PubDirFetch", "EditAccount_PubDirDelete" })
         QTest::newRow(name) << name;
 }
 
-void TestPublicDirectory::aLayoutWithoutControlsIsServed()
+void tst_PublicDirectory::aLayoutWithoutControlsIsServed()
 {
     QFETCH(QString, omitted);
     fixture->host.layouts.omitted.insert(omitted);
@@ -423,5 +424,5 @@ void TestPublicDirectory::aLayoutWithoutControlsIsServed()
     }
 }
 
-QTEST_MAIN(TestPublicDirectory)
+QTEST_MAIN(tst_PublicDirectory)
 #include "tst_public_directory.moc"

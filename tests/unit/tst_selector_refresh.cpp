@@ -10,7 +10,7 @@
 
 /// The refresh: check boxes as the account manager has them, the selector filled anew, no signal for a choice that
 /// the user did not make, also when refreshes run inside each other.
-class TestSelectorRefresh : public QObject {
+class tst_SelectorRefresh : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,19 +52,19 @@ private:
     std::unique_ptr<QSignalSpy> reported;
 };
 
-void TestSelectorRefresh::init()
+void tst_SelectorRefresh::init()
 {
     fixture = std::make_unique<KirvPageFixture>();
     reported = std::make_unique<QSignalSpy>(fixture->page(), SIGNAL(mainAccountChanged()));
 }
 
-void TestSelectorRefresh::cleanup()
+void tst_SelectorRefresh::cleanup()
 {
     reported.reset();
     fixture.reset();
 }
 
-void TestSelectorRefresh::verifyAgreement()
+void tst_SelectorRefresh::verifyAgreement()
 {
     // No choice but the user's was reported or stored.
     QCOMPARE(reported->count(), 0);
@@ -94,7 +94,7 @@ void TestSelectorRefresh::verifyAgreement()
     reported->clear();
 }
 
-void TestSelectorRefresh::theHostIsCalledInOrder()
+void tst_SelectorRefresh::theHostIsCalledInOrder()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", false);
@@ -110,7 +110,7 @@ void TestSelectorRefresh::theHostIsCalledInOrder()
                        "getAccount(dave, IRC)", "dave@IRC.getProtocol()", "IRC.getIconPath(0)", "getMainAccount()" }));
 }
 
-void TestSelectorRefresh::anEntryCarriesAliasIconAndAccount()
+void tst_SelectorRefresh::anEntryCarriesAliasIconAndAccount()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
     fixture->showFilledPage();
@@ -127,7 +127,7 @@ void TestSelectorRefresh::anEntryCarriesAliasIconAndAccount()
     QCOMPARE(selector->itemText(0), QString("Alias of alice"));
 }
 
-void TestSelectorRefresh::onlyEnabledAndLoadedAccountsAreOffered()
+void tst_SelectorRefresh::onlyEnabledAndLoadedAccountsAreOffered()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", false);
@@ -139,7 +139,7 @@ void TestSelectorRefresh::onlyEnabledAndLoadedAccountsAreOffered()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::theMainAccountIsCurrent()
+void tst_SelectorRefresh::theMainAccountIsCurrent()
 {
     addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", true);
@@ -150,7 +150,7 @@ void TestSelectorRefresh::theMainAccountIsCurrent()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::withoutAMainAccountTheFirstEntryIsCurrent()
+void tst_SelectorRefresh::withoutAMainAccountTheFirstEntryIsCurrent()
 {
     addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", false);
@@ -162,7 +162,7 @@ void TestSelectorRefresh::withoutAMainAccountTheFirstEntryIsCurrent()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aRefreshSetsTheCheckBoxes()
+void tst_SelectorRefresh::aRefreshSetsTheCheckBoxes()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", false);
@@ -176,7 +176,7 @@ void TestSelectorRefresh::aRefreshSetsTheCheckBoxes()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aRefreshAddsAndRemovesNoRows()
+void tst_SelectorRefresh::aRefreshAddsAndRemovesNoRows()
 {
     addAccount("alice", "XMPP", true);
     fixture->showFilledPage();
@@ -188,7 +188,7 @@ void TestSelectorRefresh::aRefreshAddsAndRemovesNoRows()
     QCOMPARE(fixture->offered(), QStringList());
 }
 
-void TestSelectorRefresh::anIconIsKeptUntilItsProtocolIsReadAgain()
+void tst_SelectorRefresh::anIconIsKeptUntilItsProtocolIsReadAgain()
 {
     for (const char *id : { "alice", "bob", "carol" })
         addAccount(id, "XMPP", true);
@@ -209,7 +209,7 @@ void TestSelectorRefresh::anIconIsKeptUntilItsProtocolIsReadAgain()
     }
 }
 
-void TestSelectorRefresh::aChangedIconIsReadOnce()
+void tst_SelectorRefresh::aChangedIconIsReadOnce()
 {
     for (const char *id : { "alice", "bob", "carol" })
         addAccount(id, "XMPP", true);
@@ -223,14 +223,14 @@ void TestSelectorRefresh::aChangedIconIsReadOnce()
     QCOMPARE(fixture->host.calls({ "getIconPath" }).size(), 6);
 }
 
-void TestSelectorRefresh::aRowWithoutACheckBoxGetsOne_data()
+void tst_SelectorRefresh::aRowWithoutACheckBoxGetsOne_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::newRow("enabled account") << true;
     QTest::newRow("disabled account") << false;
 }
 
-void TestSelectorRefresh::aRowWithoutACheckBoxGetsOne()
+void tst_SelectorRefresh::aRowWithoutACheckBoxGetsOne()
 {
     QFETCH(bool, enabled);
     addAccount("alice", "XMPP", enabled);
@@ -244,7 +244,7 @@ void TestSelectorRefresh::aRowWithoutACheckBoxGetsOne()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::manyRefreshesLeaveOneConnection()
+void tst_SelectorRefresh::manyRefreshesLeaveOneConnection()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", true);
@@ -254,7 +254,7 @@ void TestSelectorRefresh::manyRefreshesLeaveOneConnection()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::severalRowsThatChangeInOneRefresh()
+void tst_SelectorRefresh::severalRowsThatChangeInOneRefresh()
 {
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
     KirvRecordingAccount *bob = addAccount("bob", "XMPP", false);
@@ -270,7 +270,7 @@ void TestSelectorRefresh::severalRowsThatChangeInOneRefresh()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::everyRowChangesInOneRefresh()
+void tst_SelectorRefresh::everyRowChangesInOneRefresh()
 {
     QList<KirvRecordingAccount *> accounts;
     for (int i = 0; i < 12; ++i)
@@ -283,7 +283,7 @@ void TestSelectorRefresh::everyRowChangesInOneRefresh()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatDoesNotEnable()
+void tst_SelectorRefresh::aHostThatDoesNotEnable()
 {
     addAccount("alice", "XMPP", false);
     addAccount("bob", "XMPP", true);
@@ -297,7 +297,7 @@ void TestSelectorRefresh::aHostThatDoesNotEnable()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatDoesNotDisable()
+void tst_SelectorRefresh::aHostThatDoesNotDisable()
 {
     addAccount("alice", "XMPP", true);
     addAccount("bob", "XMPP", true);
@@ -309,14 +309,14 @@ void TestSelectorRefresh::aHostThatDoesNotDisable()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled_data()
+void tst_SelectorRefresh::aHostThatRefreshesWhileItIsCalled_data()
 {
     QTest::addColumn<QString>("operation");
     for (const char *operation : { "accountEnabled", "getAccount", "getIconPath", "getMainAccount" })
         QTest::newRow(operation) << operation;
 }
 
-void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled()
+void tst_SelectorRefresh::aHostThatRefreshesWhileItIsCalled()
 {
     QFETCH(QString, operation);
     for (const char *id : { "alice", "bob", "carol" })
@@ -333,7 +333,7 @@ void TestSelectorRefresh::aHostThatRefreshesWhileItIsCalled()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
+void tst_SelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
 {
     addAccount("bob", "XMPP", true);
     addAccount("carol", "XMPP", true);
@@ -350,7 +350,7 @@ void TestSelectorRefresh::aHostThatListsAnAccountWhileItIsCalled()
     verifyAgreement();
 }
 
-void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
+void tst_SelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
 {
     // While an account logs out, say: the box is cleared by the refresh, and the question keeps it checked.
     KirvRecordingAccount *alice = addAccount("alice", "XMPP", true);
@@ -371,5 +371,5 @@ void TestSelectorRefresh::aDisabledAccountThatIsStillLoggedInOpensOneQuestion()
     QCOMPARE(fixture->offered(), QStringList { "*bob@XMPP" });
 }
 
-QTEST_MAIN(TestSelectorRefresh)
+QTEST_MAIN(tst_SelectorRefresh)
 #include "tst_selector_refresh.moc"

@@ -29,7 +29,7 @@ public:
 };
 
 /// Every text that users see goes through the translation, with a comment for the translator.
-class TestTranslations : public QObject {
+class tst_Translations : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -54,19 +54,19 @@ private:
     std::unique_ptr<KirvEditFixture> fixture;
 };
 
-void TestTranslations::init()
+void tst_Translations::init()
 {
     translator = std::make_unique<KirvRecordingTranslator>();
     fixture = std::make_unique<KirvEditFixture>();
 }
 
-void TestTranslations::cleanup()
+void tst_Translations::cleanup()
 {
     fixture.reset();
     translator.reset();
 }
 
-void TestTranslations::headerLabels()
+void tst_Translations::headerLabels()
 {
     const QTreeWidgetItem *header = fixture->list()->headerItem();
     QCOMPARE(header->text(0), QString("[Alias]"));
@@ -77,7 +77,7 @@ void TestTranslations::headerLabels()
     QCOMPARE(translator->translated, expected);
 }
 
-void TestTranslations::removeQuestion()
+void tst_Translations::removeQuestion()
 {
     fixture->showFilledPage();
     fixture->clickRow(fixture->row("alice"));
@@ -90,7 +90,7 @@ void TestTranslations::removeQuestion()
                      "%1 = account alias, %2 = account protocol. Confirmation of removing account");
 }
 
-void TestTranslations::disableQuestion()
+void tst_Translations::disableQuestion()
 {
     fixture->alice->loggedIn = true;
     fixture->showFilledPage();
@@ -104,7 +104,7 @@ void TestTranslations::disableQuestion()
                      "%1 = account id, %2 = account protocol. Confirmation of disabling account");
 }
 
-void TestTranslations::refusedAccount()
+void tst_Translations::refusedAccount()
 {
     fixture->host.acceptsNewAccounts = false;
     const std::unique_ptr<KirvAddAccountDialog> dialog(
@@ -122,7 +122,7 @@ void TestTranslations::refusedAccount()
     verifyTranslated("Account '%1' alerady exists!", "information about existing account while adding account");
 }
 
-void TestTranslations::noConfiguration()
+void tst_Translations::noConfiguration()
 {
     fixture->xmpp->configurations = QStringList { "Home" };
     const KirvAddAccountDialog dialog(fixture->xmpp, QString(""), fixture->page(), Qt::Sheet);
@@ -133,7 +133,7 @@ void TestTranslations::noConfiguration()
     verifyTranslated("None", "nc");
 }
 
-void TestTranslations::aConfigurationOfTheTranslatedNameIsNone()
+void tst_Translations::aConfigurationOfTheTranslatedNameIsNone()
 {
     fixture->xmpp->configurations = QStringList { "None", "[None]" };
     fixture->xmpp->accountSettings = { KirvEditFixture::text("server", "") };
@@ -149,7 +149,7 @@ void TestTranslations::aConfigurationOfTheTranslatedNameIsNone()
              QStringList { "XMPP.getAccountSettings()" });
 }
 
-void TestTranslations::whatIsNotTranslated()
+void tst_Translations::whatIsNotTranslated()
 {
     fixture->showFilledPage();
     fixture->open();
@@ -160,5 +160,5 @@ void TestTranslations::whatIsNotTranslated()
     }
 }
 
-QTEST_MAIN(TestTranslations)
+QTEST_MAIN(tst_Translations)
 #include "tst_translations.moc"

@@ -26,7 +26,7 @@ struct Found {
 }
 
 /// What the controllers of the add and the edit window offer, and how one is found by its window.
-class TestWindowControllers : public QObject {
+class tst_WindowControllers : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -66,13 +66,13 @@ private:
     QPointer<KirvAddAccountDialog> adding;
 };
 
-void TestWindowControllers::cleanup()
+void tst_WindowControllers::cleanup()
 {
     delete adding;
     fixture.reset();
 }
 
-void TestWindowControllers::theEditControllerNamesItsAccountAndWindow()
+void tst_WindowControllers::theEditControllerNamesItsAccountAndWindow()
 {
     fixture->open();
     QCOMPARE(fixture->dialog()->getAccountId(), QString("alice"));
@@ -81,7 +81,7 @@ void TestWindowControllers::theEditControllerNamesItsAccountAndWindow()
     QCOMPARE(fixture->dialog()->getWindow(), fixture->window.data());
 }
 
-void TestWindowControllers::theProtocolNameOutlivesTheProtocol()
+void tst_WindowControllers::theProtocolNameOutlivesTheProtocol()
 {
     // The protocol itself reports another name, and is not called.
     fixture->xmpp->reportedName = "Jabber (old)";
@@ -92,7 +92,7 @@ void TestWindowControllers::theProtocolNameOutlivesTheProtocol()
     QCOMPARE(fixture->host.calls(), QStringList());
 }
 
-void TestWindowControllers::anUnknownProtocolHasANameButNoWindow()
+void tst_WindowControllers::anUnknownProtocolHasANameButNoWindow()
 {
     const KirvEditAccountDialog dialog("alice", "Unknown", fixture->page(), Qt::Sheet);
     QCOMPARE(dialog.getAccountId(), QString("alice"));
@@ -100,7 +100,7 @@ void TestWindowControllers::anUnknownProtocolHasANameButNoWindow()
     QVERIFY(!dialog.getWindow());
 }
 
-void TestWindowControllers::theAddControllerNamesItsProtocolAndWindow()
+void tst_WindowControllers::theAddControllerNamesItsProtocolAndWindow()
 {
     openAdd(fixture->page());
     QCOMPARE(adding->getProtocol(), static_cast<KirvProtocol *>(fixture->xmpp));
@@ -109,7 +109,7 @@ void TestWindowControllers::theAddControllerNamesItsProtocolAndWindow()
     QCOMPARE(adding->getWindow(), window);
 }
 
-void TestWindowControllers::aLayoutWithoutDialogLeavesNoWindow()
+void tst_WindowControllers::aLayoutWithoutDialogLeavesNoWindow()
 {
     fixture->host.layouts.omitted = { "AddAccount", "EditAccount" };
     openAdd(fixture->page());
@@ -119,7 +119,7 @@ void TestWindowControllers::aLayoutWithoutDialogLeavesNoWindow()
     QVERIFY(Found(nullptr).isNothing());
 }
 
-void TestWindowControllers::aDestroyedWindowIsForgotten()
+void tst_WindowControllers::aDestroyedWindowIsForgotten()
 {
     fixture->open();
     openAdd(fixture->page());
@@ -133,7 +133,7 @@ void TestWindowControllers::aDestroyedWindowIsForgotten()
     QVERIFY(Found(addWindow).isNothing());
 }
 
-void TestWindowControllers::aDestroyedWindowIsForgottenBeforeItSignalsThat()
+void tst_WindowControllers::aDestroyedWindowIsForgottenBeforeItSignalsThat()
 {
     fixture->open();
     openAdd(fixture->page());
@@ -151,7 +151,7 @@ void TestWindowControllers::aDestroyedWindowIsForgottenBeforeItSignalsThat()
     QCOMPARE(signalled, 2);
 }
 
-void TestWindowControllers::controllersAreFoundByTheirWindows()
+void tst_WindowControllers::controllersAreFoundByTheirWindows()
 {
     fixture->open();
     openAdd(fixture->page());
@@ -164,7 +164,7 @@ void TestWindowControllers::controllersAreFoundByTheirWindows()
     QCOMPARE(Found(fixture->window).editing, fixture->dialog());
 }
 
-void TestWindowControllers::nothingElseIsFound()
+void tst_WindowControllers::nothingElseIsFound()
 {
     fixture->open();
     openAdd(fixture->page());
@@ -178,7 +178,7 @@ void TestWindowControllers::nothingElseIsFound()
     QVERIFY(Found(&inside).isNothing());
 }
 
-void TestWindowControllers::aDestroyedControllerIsNotFound()
+void tst_WindowControllers::aDestroyedControllerIsNotFound()
 {
     fixture->open();
     openAdd(fixture->page());
@@ -192,7 +192,7 @@ void TestWindowControllers::aDestroyedControllerIsNotFound()
     QVERIFY(Found(addWindow).isNothing());
 }
 
-void TestWindowControllers::theReplacedEditControllerIsNotFound()
+void tst_WindowControllers::theReplacedEditControllerIsNotFound()
 {
     fixture->open();
     const QPointer<QDialog> before = fixture->window;
@@ -203,7 +203,7 @@ void TestWindowControllers::theReplacedEditControllerIsNotFound()
     QCOMPARE(Found(fixture->window).editing->getAccountId(), QString("bob"));
 }
 
-void TestWindowControllers::eachOfSeveralControllersIsFound()
+void tst_WindowControllers::eachOfSeveralControllersIsFound()
 {
     QList<KirvAddAccountDialog *> controllers;
     for (int i = 0; i < 4; ++i)
@@ -218,7 +218,7 @@ void TestWindowControllers::eachOfSeveralControllersIsFound()
     }
 }
 
-void TestWindowControllers::theEditControllerIsFoundWhileItsWindowIsLoaded()
+void tst_WindowControllers::theEditControllerIsFoundWhileItsWindowIsLoaded()
 {
     Found found;
     QPointer<QWidget> announced;
@@ -238,7 +238,7 @@ void TestWindowControllers::theEditControllerIsFoundWhileItsWindowIsLoaded()
     QCOMPARE(Found(fixture->window).editing, fixture->dialog());
 }
 
-void TestWindowControllers::theAddControllerIsFoundWhileItsWindowIsLoaded()
+void tst_WindowControllers::theAddControllerIsFoundWhileItsWindowIsLoaded()
 {
     Found found;
     announce([&](QWidget *window) {
@@ -253,7 +253,7 @@ void TestWindowControllers::theAddControllerIsFoundWhileItsWindowIsLoaded()
     QCOMPARE(Found(adding->getWindow()).adding, adding.data());
 }
 
-void TestWindowControllers::onlyAWindowOfItsOwnIsTakenForTheOneBeingLoaded()
+void tst_WindowControllers::onlyAWindowOfItsOwnIsTakenForTheOneBeingLoaded()
 {
     // Without a parent, so that only its own controller keeps it from being taken for another's.
     openAdd(nullptr);
@@ -277,7 +277,7 @@ void TestWindowControllers::onlyAWindowOfItsOwnIsTakenForTheOneBeingLoaded()
     delete addWindow;
 }
 
-void TestWindowControllers::aWindowDestroyedDuringTheLoadingIsNotFound()
+void tst_WindowControllers::aWindowDestroyedDuringTheLoadingIsNotFound()
 {
     int announced = 0;
     announce([&](QWidget *window) {
@@ -292,7 +292,7 @@ void TestWindowControllers::aWindowDestroyedDuringTheLoadingIsNotFound()
     QCOMPARE(announced, 1);
 }
 
-void TestWindowControllers::aWindowLoadedInsideTheLoadingOfAnotherHasItsOwnController_data()
+void tst_WindowControllers::aWindowLoadedInsideTheLoadingOfAnotherHasItsOwnController_data()
 {
     QTest::addColumn<bool>("outerEdits");
     QTest::addColumn<bool>("innerEdits");
@@ -301,7 +301,7 @@ void TestWindowControllers::aWindowLoadedInsideTheLoadingOfAnotherHasItsOwnContr
     QTest::newRow("add inside add") << false << false;
 }
 
-void TestWindowControllers::aWindowLoadedInsideTheLoadingOfAnotherHasItsOwnController()
+void tst_WindowControllers::aWindowLoadedInsideTheLoadingOfAnotherHasItsOwnController()
 {
     QFETCH(bool, outerEdits);
     QFETCH(bool, innerEdits);
@@ -347,7 +347,7 @@ void TestWindowControllers::aWindowLoadedInsideTheLoadingOfAnotherHasItsOwnContr
     delete outer;
 }
 
-void TestWindowControllers::afterTheLoadingOnlyTheLoadedWindowIsFound()
+void tst_WindowControllers::afterTheLoadingOnlyTheLoadedWindowIsFound()
 {
     std::unique_ptr<QDialog> second;
     announce([&](QWidget *) {
@@ -360,7 +360,7 @@ void TestWindowControllers::afterTheLoadingOnlyTheLoadedWindowIsFound()
     QCOMPARE(Found(fixture->window).editing, fixture->dialog());
 }
 
-void TestWindowControllers::loadingThePageFindsNothing()
+void tst_WindowControllers::loadingThePageFindsNothing()
 {
     int announced = 0;
     announce([&](QWidget *top) {
@@ -373,5 +373,5 @@ void TestWindowControllers::loadingThePageFindsNothing()
     QCOMPARE(announced, 1);
 }
 
-QTEST_MAIN(TestWindowControllers)
+QTEST_MAIN(tst_WindowControllers)
 #include "tst_window_controllers.moc"

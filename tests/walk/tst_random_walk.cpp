@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/support/kirv_patience.h"
 #include "tests/walk/kirv_walk.h"
 #include "tests/walk/kirv_walk_checks.h"
 #include "tests/walk/kirv_walk_user.h"
@@ -30,7 +31,7 @@ const char *const wanted[] = { "a save that is refused",
 /// Walks through all commands of the client by chance, with protocols that come and go, servers that answer or not,
 /// a disk that refuses and questions left open, and compares after every step what the windows show with what the
 /// core and the store hold.
-class tst_random_walk : public QObject {
+class tst_RandomWalk : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -41,7 +42,7 @@ private:
     void settle();
 };
 
-void tst_random_walk::windowsCoreAndStoreAgreeAfterEveryStep()
+void tst_RandomWalk::windowsCoreAndStoreAgreeAfterEveryStep()
 {
     // The same way each time unless another one is set, so that a failure is always news; 0 takes a new one.
     int seed = setting("KIRV_WALK_SEED", 1);
@@ -53,7 +54,7 @@ void tst_random_walk::windowsCoreAndStoreAgreeAfterEveryStep()
     KirvWalk walk;
     walk.seed(seed);
     QVERIFY(walk.start());
-    QVERIFY(QTest::qWaitForWindowExposed(walk.client->window()));
+    QVERIFY(QTest::qWaitForWindowExposed(walk.client->window(), kirvPatience));
     KirvWalkUser user(walk);
     KirvWalkWorld world(walk);
     const KirvWalkChecks checks(walk);
@@ -80,7 +81,7 @@ void tst_random_walk::windowsCoreAndStoreAgreeAfterEveryStep()
         QVERIFY2(length < thoroughLength || walk.hasSeen(QLatin1String(name)), name);
 }
 
-QString tst_random_walk::takeStep(KirvWalk &walk, const std::vector<KirvWalkStep> &steps)
+QString tst_RandomWalk::takeStep(KirvWalk &walk, const std::vector<KirvWalkStep> &steps)
 {
     int total = 0;
     for (const KirvWalkStep &step : steps)
@@ -98,12 +99,12 @@ QString tst_random_walk::takeStep(KirvWalk &walk, const std::vector<KirvWalkStep
     return QString();
 }
 
-void tst_random_walk::settle()
+void tst_RandomWalk::settle()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-QTEST_MAIN(tst_random_walk)
+QTEST_MAIN(tst_RandomWalk)
 #include "tst_random_walk.moc"

@@ -2,6 +2,8 @@
 #ifndef KIRV_GNOME_KEYRING_H
 #define KIRV_GNOME_KEYRING_H
 
+#include "tests/support/kirv_patience.h"
+
 #include <QByteArray>
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -66,22 +68,23 @@ public:
         daemon.start(
             QStringLiteral("gnome-keyring-daemon"),
             { QStringLiteral("--foreground"), QStringLiteral("--unlock"), QStringLiteral("--components=secrets") });
-        if (!daemon.waitForStarted() || daemon.write(password()) < 0 || !daemon.waitForBytesWritten())
+        if (!daemon.waitForStarted(kirvPatience) || daemon.write(password()) < 0
+            || !daemon.waitForBytesWritten(kirvPatience))
             return false;
         daemon.closeWriteChannel();
-        return QTest::qWaitFor([this] { return isUnlocked(); });
+        return QTest::qWaitFor([this] { return isUnlocked(); }, kirvPatience);
     }
     void stop()
     {
         if (daemon.state() == QProcess::NotRunning)
             return;
         daemon.terminate();
-        if (!daemon.waitForFinished(5000)) {
+        if (!daemon.waitForFinished(kirvPatience)) {
             daemon.kill();
-            daemon.waitForFinished();
+            daemon.waitForFinished(kirvPatience);
         }
     }
-    /// Locks the collection as the person's own program for it does.
+    /// Locks the collection as the user's own program for it does.
     bool lock()
     {
         const QList<QDBusObjectPath> paths { QDBusObjectPath(collection()) };

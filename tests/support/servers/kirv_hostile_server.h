@@ -2,6 +2,8 @@
 #ifndef KIRV_HOSTILE_SERVER_H
 #define KIRV_HOSTILE_SERVER_H
 
+#include "tests/support/kirv_patience.h"
+
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QThread>
@@ -48,7 +50,7 @@ protected:
         socket.setLocalCertificate(certificateFile);
         socket.setPrivateKey(keyFile, QSsl::Ec);
         socket.startServerEncryption();
-        socket.waitForEncrypted();
+        socket.waitForEncrypted(kirvPatience);
     }
     /// False when the client has left or the test has ended.
     bool isAlive(const QSslSocket &socket) const

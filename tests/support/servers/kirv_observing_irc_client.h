@@ -10,7 +10,7 @@
 #include <QSslConfiguration>
 #include <QSslSocket>
 
-/// Another person on the same server, who speaks the protocol by hand.
+/// Another user on the same server, who speaks the protocol by hand.
 class KirvObservingIrcClient {
 public:
     bool logIn(const KirvNgircdServer &server, const QString &nick)

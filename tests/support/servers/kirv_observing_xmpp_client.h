@@ -10,7 +10,7 @@
 
 class KirvProsodyServer;
 
-/// Another person's client on the same server, which shares no code with ours.
+/// Another user's client on the same server, which shares no code with ours.
 class KirvObservingXmppClient {
 public:
     KirvObservingXmppClient();

@@ -8,7 +8,7 @@
 #include <unistd.h>
 #include <vector>
 
-// A session bus for one test program, apart from that of the person.
+// A session bus for one test program, apart from that of the user.
 
 /// Starts the program again on a session bus of its own, which lasts as long as the program and starts no services.
 /// Returns in the program that is on such a bus; \a argv is that of main().

@@ -12,7 +12,7 @@
 #include <atomic>
 
 /// A Secret Service on the session bus that does what a test says: it says whether it is locked, refuses to be unlocked
-/// as a person does who closes the question, or never replies. It keeps no secrets.
+/// as a user does who closes the question, or never replies. It keeps no secrets.
 class KirvScriptedSecretService : public QDBusVirtualObject {
 public:
     enum Script {

@@ -2,6 +2,8 @@
 #ifndef KIRV_TEST_CERTIFICATES_H
 #define KIRV_TEST_CERTIFICATES_H
 
+#include "tests/support/kirv_patience.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QProcess>
@@ -60,7 +62,7 @@ private:
     {
         QProcess openssl;
         openssl.start(QStringLiteral("openssl"), arguments);
-        openssl.waitForFinished(-1);
+        openssl.waitForFinished(kirvPatience);
         if (openssl.exitCode() != 0)
             qWarning("%s", openssl.readAllStandardError().constData());
         return openssl.exitStatus() == QProcess::NormalExit && openssl.exitCode() == 0;
