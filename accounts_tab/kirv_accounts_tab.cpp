@@ -27,7 +27,6 @@
 #include <QTreeWidget>
 
 #include <new>
-#include <utility>
 
 using namespace KirvAccountRow;
 
@@ -246,7 +245,8 @@ void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, Account
 
     const int index = mainAccountBox->count();
     mainAccountBox->insertItem(index, *icon, alias, QVariant::fromValue(static_cast<void *>(account)));
-    offeredAccounts.append(std::move(key));
+    offeredAccounts.append(AccountKey());
+    qSwap(offeredAccounts.last(), key);
     if (account == KirvAccountManager::getInstance()->getMainAccount() && refresh == refreshCount)
         mainAccountBox->setCurrentIndex(index);
 }
@@ -259,7 +259,7 @@ void KirvAccountsTab::removeFromSelector(const QString &accountId, const QString
     // The entry that becomes current in place of a removed one was not chosen by the user.
     connectSelector(false);
     for (int i = offeredAccounts.indexOf(key); i != -1; i = offeredAccounts.indexOf(key)) {
-        offeredAccounts.remove(i);
+        offeredAccounts.removeAt(i);
         mainAccountBox->removeItem(i);
     }
     connectSelector(true);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <ctime>
 
 double millisecondsOf(const std::function<void()> &work)
 {
@@ -14,6 +15,18 @@ double millisecondsOf(const std::function<void()> &work)
     timer.start();
     work();
     return double(timer.nsecsElapsed()) / 1e6;
+}
+
+double processorMillisecondsOf(const std::function<void()> &work)
+{
+    const auto used = [] {
+        timespec time;
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+    };
+    const double before = used();
+    work();
+    return used() - before;
 }
 
 double median(QVector<double> values)

@@ -10,6 +10,9 @@
 
 /// How long \a work takes, in milliseconds.
 double millisecondsOf(const std::function<void()> &work);
+/// The processor time that \a work takes of this thread, in milliseconds. What other programs do at the same time does
+/// not count, so this is for work that waits for nothing.
+double processorMillisecondsOf(const std::function<void()> &work);
 double median(QVector<double> values);
 
 /// A table of texts, printed with aligned columns: the first to the left, the others to the right.
