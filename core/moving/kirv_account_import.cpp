@@ -5,6 +5,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
+#include "core/accounts/kirv_open_settings.h"
 #include "core/values/kirv_bounded_image.h"
 #include "core/values/kirv_single_line.h"
 #include "core/values/kirv_text_limit.h"
@@ -20,17 +21,6 @@ namespace {
 QString shown(const QString &name)
 {
     return kirvVisibleText(kirvSingleLine(name, kirvLongestShownName));
-}
-
-/// The settings that say where and how an account connects, without the secret ones and those of the core.
-QMap<QString, QString> openSettings(const KirvAccountRecord &record)
-{
-    QMap<QString, QString> open = record.settings;
-    for (const QString &secret : record.secretSettings)
-        open.remove(secret);
-    for (const QLatin1String &own : { KirvOwnSetting::avatarOnServer, KirvOwnSetting::avatarIsChosen })
-        open.remove(own);
-    return open;
 }
 
 /// What \a record lacks of the secrets of \a before stays as it is there.
@@ -188,7 +178,7 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
         // A file, which anybody may have written, sends no password of this profile to another server.
-        if (openSettings(account.record) == openSettings(complete(before.record))) {
+        if (kirvOpenSettings(account.record) == kirvOpenSettings(complete(before.record))) {
             keepSecrets(&account.record, before.record);
             account.record.trustedCertificate = before.record.trustedCertificate;
         }

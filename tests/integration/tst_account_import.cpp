@@ -87,6 +87,8 @@ private Q_SLOTS:
     void accountsRemovedSinceDoNotHinderUndoing();
     void secretsGoToTheKeyring();
     void undoingReturnsSecretsOfTheKeyring();
+    void secretsBeforeGoToNoOtherServer_data();
+    void secretsBeforeGoToNoOtherServer();
     void undoingAfterTheKeyringIsGone();
     void lockedSecretsStayAndComeBack();
     void importThatIsUndoneLeavesNoSecretOnTheDisk();
@@ -206,7 +208,8 @@ void tst_AccountImport::rowsSayWhatHinders_data()
 {
     QTest::addColumn<QStringList>("logins"); ///< "login" or "login protocol"
     QTest::addColumn<QStringList>("problems");
-    const QString twice = QStringLiteral("The file has this login twice: \"%1\" is the same as \"%2\" to the server.");
+    const QString twice =
+        QStringLiteral("The file has this login twice: \"%1\" is the same as \"%2\" to the server.");
     const QString odd = QStringLiteral("odd");
     QTest::newRow("new ones") << QStringList { dora, eve } << QStringList { "", "" };
     QTest::newRow("existing") << QStringList { bob, "BOB" } << QStringList { "", twice.arg("BOB", bob) };
@@ -702,7 +705,8 @@ void tst_AccountImport::accountsRemovedSinceDoNotHinderUndoing()
     const int step = history->latest();
     QVERIFY(core->accounts->remove({ core->account(bob), core->account(dora) }));
     QCOMPARE(history->undo(step),
-             QStringList { "The account \"Moved bob\" cannot become what it was before the import: it was removed." });
+             QStringList {
+                 "The account \"Moved bob\" cannot become what it was before the import: it was removed." });
     QCOMPARE(order(), QStringList({ ann, cleo }));
     QCOMPARE(core->account(cleo)->record().alias, QStringLiteral("Alias of cleo"));
     QVERIFY(!history->has(step));
@@ -734,6 +738,37 @@ void tst_AccountImport::undoingReturnsSecretsOfTheKeyring()
     QCOMPARE(core->account(bob)->record().password, QStringLiteral("in the keyring"));
     QCOMPARE(keyring->secrets.value(core->account(bob)->record().secretItems.value(QString()).key),
              QStringLiteral("in the keyring"));
+}
+
+void tst_AccountImport::secretsBeforeGoToNoOtherServer_data()
+{
+    QTest::addColumn<QString>("server"); ///< of the file
+    QTest::addColumn<QString>("password"); ///< that counts at the next start
+    QTest::newRow("another server") << QStringLiteral("moved.example") << QString();
+    QTest::newRow("the same server") << QStringLiteral("localhost") << QStringLiteral("in the keyring");
+}
+
+/// The program ends before the keyring has the secrets of the file.
+void tst_AccountImport::secretsBeforeGoToNoOtherServer()
+{
+    QFETCH(QString, server);
+    keyring = std::make_unique<KirvFakeSecretStore>();
+    core->accounts->secrets().setKeyring(keyring.get());
+    core->account(bob)->setPassword(QStringLiteral("in the keyring"));
+    QTRY_VERIFY(secretsInKeyring().contains("in the keyring"));
+    QTRY_VERIFY(core->store.unsettledItems().isEmpty());
+    KirvMovedAccounts accounts = movedAccounts({ bob });
+    accounts.accounts.first().record.settings.insert(QStringLiteral("server"), server);
+    keyring->isHeld = true;
+    importAll(accounts);
+    QCOMPARE(core->account(bob)->record().password, QStringLiteral("moved word of bob"));
+    history.reset();
+    keyring->isHeld = false;
+    core->restart(true, [this] { core->accounts->secrets().setKeyring(keyring.get()); });
+    QTRY_VERIFY(!core->account(bob)->awaitsPassword());
+    QTEST(core->account(bob)->record().password, "password");
+    QTRY_VERIFY(core->store.unsettledItems().isEmpty());
+    QCOMPARE(secretsInKeyring().contains("in the keyring"), !core->account(bob)->record().password.isEmpty());
 }
 
 void tst_AccountImport::undoingAfterTheKeyringIsGone()
