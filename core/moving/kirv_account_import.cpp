@@ -104,7 +104,7 @@ void KirvAccountImport::makeRows()
         row.problem = problemOf(row);
         if (row.problem.isEmpty() && !twin.isEmpty()) {
             //: %1 and %2 are logins, which may be spelt the same
-            row.problem = tr("The file has this login twice: \"%1\" is the same as \"%2\" to the server.")
+            row.problem = tr("The file contains this login twice: \"%1\" is the same as \"%2\" to the server.")
                               .arg(shown(record.key.id), shown(twin));
         }
         row.isTaken = row.problem.isEmpty() && row.isNew();
@@ -158,10 +158,11 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
             continue;
         const KirvMovedAccount &source = moved.accounts.at(index);
         const bool isSame = accounts.idWithSameLogin(row.key) == row.existing.id;
-        *problem = isSame ? problemOf(row) : tr("Another account with this login was added or removed since.");
+        *problem =
+            isSame ? problemOf(row) : tr("Another account with this login was added or removed in the meantime.");
         if (!problem->isEmpty()) {
             //: %1 = login, %2 = a sentence
-            *problem = tr("The account \"%1\" cannot be taken over. %2").arg(shown(row.key.id), *problem);
+            *problem = tr("The account \"%1\" cannot be imported. %2").arg(shown(row.key.id), *problem);
             return false;
         }
         KirvRemovedAccount account;

@@ -209,7 +209,7 @@ void tst_AccountImport::rowsSayWhatHinders_data()
     QTest::addColumn<QStringList>("logins"); ///< "login" or "login protocol"
     QTest::addColumn<QStringList>("problems");
     const QString twice =
-        QStringLiteral("The file has this login twice: \"%1\" is the same as \"%2\" to the server.");
+        QStringLiteral("The file contains this login twice: \"%1\" is the same as \"%2\" to the server.");
     const QString odd = QStringLiteral("odd");
     QTest::newRow("new ones") << QStringList { dora, eve } << QStringList { "", "" };
     QTest::newRow("existing") << QStringList { bob, "BOB" } << QStringList { "", twice.arg("BOB", bob) };
@@ -525,8 +525,8 @@ void tst_AccountImport::accountThatWasAddedSinceIsNotTouched()
     QString problem;
     QVERIFY(!importing.apply(&problem));
     QCOMPARE(problem,
-             QStringLiteral("The account \"eve\" cannot be taken over. Another account with this login was added or "
-                            "removed since."));
+             QStringLiteral("The account \"eve\" cannot be imported. Another account with this login was added or "
+                            "removed in the meantime."));
     QCOMPARE(order(), QStringList({ ann, bob, cleo, eve }));
     QCOMPARE(core->account(eve)->record().alias, QStringLiteral("Alias of eve"));
 }
@@ -538,7 +538,7 @@ void tst_AccountImport::accountThatWasRemovedSinceEndsTheImport()
     QVERIFY(core->accounts->remove(core->account(bob)));
     QString problem;
     QVERIFY(!importing.apply(&problem));
-    QVERIFY(problem.startsWith("The account \"bob\" cannot be taken over."));
+    QVERIFY(problem.startsWith("The account \"bob\" cannot be imported."));
     QCOMPARE(order(), QStringList({ ann, cleo }));
 }
 
@@ -548,7 +548,7 @@ void tst_AccountImport::protocolThatWasUnloadedSinceEndsTheImport()
     core->accounts->protocolAboutToBeUnloaded(core->fake);
     QString problem;
     QVERIFY(!importing.apply(&problem));
-    QCOMPARE(problem, QStringLiteral("The account \"eve\" cannot be taken over. The protocol Fake is not loaded."));
+    QCOMPARE(problem, QStringLiteral("The account \"eve\" cannot be imported. The protocol Fake is not loaded."));
     QCOMPARE(order(), QStringList({ ann, bob, cleo }));
 }
 
@@ -706,7 +706,7 @@ void tst_AccountImport::accountsRemovedSinceDoNotHinderUndoing()
     QVERIFY(core->accounts->remove({ core->account(bob), core->account(dora) }));
     QCOMPARE(history->undo(step),
              QStringList {
-                 "The account \"Moved bob\" cannot become what it was before the import: it was removed." });
+                 "The account \"Moved bob\" cannot be restored to what it was before the import: it was removed." });
     QCOMPARE(order(), QStringList({ ann, cleo }));
     QCOMPARE(core->account(cleo)->record().alias, QStringLiteral("Alias of cleo"));
     QVERIFY(!history->has(step));
