@@ -102,7 +102,7 @@ void KirvAccountInvitation::updateText()
                       ? tr("There is no account yet. Add one that you already have, register a new one, or import "
                            "accounts from a file.")
                       : tr("There is no account yet. Add one that you already have, register a new one, or import "
-                           "accounts. Pidgin has accounts on this computer."));
+                           "accounts. There are accounts of Pidgin on this computer."));
 }
 
 void KirvAccountInvitation::offerPidgin(const QString &path)

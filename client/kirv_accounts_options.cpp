@@ -68,7 +68,7 @@ Parser::Parser()
         { { QStringLiteral("force"), KirvAccountsOptions::tr("Export: overwrite a file that is there.") },
           { KirvAccountsRequest::Export } },
         { { QStringLiteral("without-passwords"),
-            KirvAccountsOptions::tr("Import: leave the passwords out that are in the file.") },
+            KirvAccountsOptions::tr("Import: leave out the passwords that are in the file.") },
           { KirvAccountsRequest::Import } },
         { { QStringLiteral("replace"),
             KirvAccountsOptions::tr("Import: replace accounts that exist by those of the file.") },
@@ -172,7 +172,7 @@ void Parser::readPassPhrase(KirvAccountsOptions *options) const
     const bool isUseless =
         options->command == KirvAccountsRequest::Export ? !options->withPasswords : options->withoutPasswords;
     if ((isInFile || isInDescriptor) && isUseless)
-        refuse(KirvAccountsOptions::tr("A pass phrase is of no use when no passwords are taken along."));
+        refuse(KirvAccountsOptions::tr("A pass phrase is of no use when no passwords are exported or imported."));
     if (isInFile)
         options->passPhraseFile = parser.value(QStringLiteral("pass-phrase-file"));
     if (isInFile && options->passPhraseFile.isEmpty())

@@ -122,18 +122,17 @@ QWidget *KirvExportWindow::createPassPhrase()
     place->setObjectName(QStringLiteral("ExportAccounts_PassPhrasePlace"));
     passPhraseLine = createPassPhraseLine("ExportAccounts_PassPhrase");
     repetitionLine = createPassPhraseLine("ExportAccounts_Repetition");
-    auto *advice =
-        createText("ExportAccounts_Advice",
-                   tr("Several words that do not belong together are easy to remember and hard to guess. Whoever has "
-                      "the file and guesses the pass phrase has your passwords; without it nobody can read them, not "
-                      "even you."),
-                   place);
+    auto *advice = createText(
+        "ExportAccounts_Advice",
+        tr("Several words that are not related are easy to remember and hard to guess. Whoever has the file and "
+           "guesses the pass phrase has your passwords; without it, nobody can read them, not even you."),
+        place);
     passPhraseLine->setAccessibleDescription(advice->text());
     problem = createText("ExportAccounts_Problem", QString(), place);
     auto *form = new QFormLayout(place);
     form->setContentsMargins(0, 0, 0, 0);
     form->addRow(createLabel(tr("Pass p&hrase:"), passPhraseLine, place), passPhraseLine);
-    form->addRow(createLabel(tr("&Repeat it:"), repetitionLine, place), repetitionLine);
+    form->addRow(createLabel(tr("&Repeat pass phrase:"), repetitionLine, place), repetitionLine);
     form->addRow(problem);
     form->addRow(advice);
     for (QLineEdit *line : { passPhraseLine, repetitionLine }) {
@@ -219,7 +218,7 @@ QString KirvExportWindow::passPhraseProblem() const
     if (passPhraseLine->text().toUcs4().size() < shortestPassPhrase)
         return tr("The pass phrase needs at least %n characters.", nullptr, shortestPassPhrase);
     if (passPhraseLine->text() != repetitionLine->text())
-        return tr("The pass phrase and its repetition must be the same.");
+        return tr("The two pass phrases must be the same.");
     return QString();
 }
 
@@ -308,8 +307,8 @@ void KirvExportWindow::finish(const Outcome &outcome, const KirvMovedAccounts &w
     texts << tr("%n accounts were exported to %1.", nullptr, int(written.accounts.size()))
                  .arg(kirvPlainName(QDir::toNativeSeparators(path)));
     if (!passwordsBox->isChecked())
-        texts << tr("No passwords are in the file.");
-    const QString leftOut = kirvLeftOutText(tr("These are not in the file:"), written.leftOut);
+        texts << tr("The file contains no passwords.");
+    const QString leftOut = kirvLeftOutText(tr("The following is not in the file:"), written.leftOut);
     if (!leftOut.isEmpty())
         texts << leftOut;
     passPhraseLine->clear();

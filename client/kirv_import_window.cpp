@@ -197,7 +197,7 @@ void KirvImportWindow::take(const Found &found)
     if (found.needsPassPhrase || found.result.wrongPassPhrase) {
         //: %1 = path of a file
         showText(
-            tr("The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.").arg(shownPath));
+            tr("The file %1 contains passwords. Enter the pass phrase with which they are encrypted.").arg(shownPath));
         setState(NeedsPassPhrase);
         showProblem(found.result.problem);
     } else if (!found.result.problem.isEmpty()) {
@@ -209,12 +209,11 @@ void KirvImportWindow::take(const Found &found)
         passPhraseLine->clear();
         moved = found.result.accounts;
         //: %1 = path of a file
-        showText(moved.accounts.isEmpty()
-                     ? tr("There are no accounts that can be imported in the file %1.").arg(shownPath)
-                     //: %1 = path of a file
-                     : tr("These accounts are in the file %1. Nothing is changed before you "
-                          "import them, and the import can be undone.")
-                           .arg(shownPath));
+        showText(moved.accounts.isEmpty() ? tr("The file %1 contains no accounts that can be imported.").arg(shownPath)
+                                          //: %1 = path of a file
+                                          : tr("The file %1 contains these accounts. Nothing is changed before you "
+                                               "import them, and the import can be undone.")
+                                                .arg(shownPath));
         list();
     }
 }
@@ -341,14 +340,14 @@ QString KirvImportWindow::stateOf(const KirvAccountImport::Row &row) const
     if (!row.problem.isEmpty())
         return kirvPlainName(row.problem);
     if (row.isNew())
-        return row.isTaken ? tr("New") : tr("New, is left out");
+        return row.isTaken ? tr("New") : tr("New, will be left out");
     if (row.existing == row.key)
-        return row.isTaken ? tr("Exists here, is replaced") : tr("Exists here, is kept");
+        return row.isTaken ? tr("Exists, will be replaced") : tr("Exists, will be kept");
     const QString here = kirvPlainName(row.existing.id);
     //: %1 = the login of an account, which is written otherwise in the file
-    return row.isTaken ? tr("Exists here as %1, is replaced").arg(here)
+    return row.isTaken ? tr("Exists as %1, will be replaced").arg(here)
                        //: %1 = the login of an account, which is written otherwise in the file
-                       : tr("Exists here as %1, is kept").arg(here);
+                       : tr("Exists as %1, will be kept").arg(here);
 }
 
 /// Also of the rows that cannot be taken, whose reasons may be longer than their column.
@@ -362,7 +361,7 @@ QString KirvImportWindow::leftOutText() const
             sentences << tr("%1: %2").arg(row.key.id, row.problem);
         }
     }
-    return kirvLeftOutText(tr("These are not imported:"), sentences + plan->leftOut());
+    return kirvLeftOutText(tr("The following is not imported:"), sentences + plan->leftOut());
 }
 
 void KirvImportWindow::import()

@@ -50,7 +50,7 @@ bool KirvMovedFile::read(qint64 largest, QByteArray *bytes)
     if (file.error() != QFile::NoError)
         return fail(tr("The file \"%1\" cannot be read: %2").arg(path, file.errorString()));
     if (bytes->size() > largest)
-        return fail(tr("The file \"%1\" is too large to be one with accounts.").arg(path));
+        return fail(tr("The file \"%1\" is too large to be a file of exported accounts.").arg(path));
     return true;
 }
 
@@ -60,8 +60,8 @@ bool KirvMovedFile::mayWrite(bool overwrites)
     if (isStandard() || ::lstat(QFile::encodeName(path).constData(), &status) != 0)
         return true;
     if (!S_ISREG(status.st_mode))
-        return fail(tr("\"%1\" is no file that can be overwritten.").arg(path));
-    return overwrites ? true : fail(tr("The file \"%1\" is there already. It is overwritten with --force.").arg(path));
+        return fail(tr("\"%1\" is not a file that can be overwritten.").arg(path));
+    return overwrites ? true : fail(tr("The file \"%1\" exists already. Use --force to overwrite it.").arg(path));
 }
 
 bool KirvMovedFile::write(const QByteArray &bytes, bool overwrites)

@@ -23,9 +23,7 @@ bool KirvPassPhraseInput::isNamed(const KirvAccountsOptions &options)
 QString KirvPassPhraseInput::read(bool isNew)
 {
     if (options.passPhraseDescriptor >= 0)
-        return firstLine(options.passPhraseDescriptor,
-                         //: %1 = number
-                         tr("file descriptor %1").arg(options.passPhraseDescriptor));
+        return fromDescriptor(options.passPhraseDescriptor);
     return options.passPhraseFile.isEmpty() ? fromTerminal(isNew) : fromFile(options.passPhraseFile);
 }
 
@@ -36,7 +34,7 @@ QString KirvPassPhraseInput::fail(const QString &problem)
 }
 
 /// Byte by byte, as what follows the line may be meant for somebody else.
-QString KirvPassPhraseInput::firstLine(int descriptor, const QString &name)
+QString KirvPassPhraseInput::firstLine(int descriptor, const Problems &problems)
 {
     QByteArray line;
     line.reserve(longest + 1);
@@ -51,21 +49,32 @@ QString KirvPassPhraseInput::firstLine(int descriptor, const QString &name)
         line += byte;
     }
     if (count < 0)
-        return fail(tr("The pass phrase cannot be read from %1.").arg(name));
+        return fail(problems.unreadable);
     if (line.endsWith('\r'))
         line.chop(1);
     const QString read = line.size() > longest ? QString() : QString::fromUtf8(line);
     const bool isTooLong = line.size() > longest;
     line.fill('\0');
     if (isTooLong)
-        return fail(tr("The pass phrase in %1 is too long.").arg(name));
-    return read.isEmpty() ? fail(tr("There is no pass phrase in %1.").arg(name)) : read;
+        return fail(problems.tooLong);
+    return read.isEmpty() ? fail(problems.missing) : read;
+}
+
+QString KirvPassPhraseInput::fromDescriptor(int descriptor)
+{
+    return firstLine(descriptor,
+                     { tr("The pass phrase cannot be read from file descriptor %1.").arg(descriptor),
+                       tr("The pass phrase from file descriptor %1 is too long.").arg(descriptor),
+                       tr("There is no pass phrase to be read from file descriptor %1.").arg(descriptor) });
 }
 
 QString KirvPassPhraseInput::fromFile(const QString &path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const QString line = firstLine(descriptor, QLatin1Char('"') + path + QLatin1Char('"'));
+    const QString line = firstLine(descriptor,
+                                   { tr("The pass phrase cannot be read from the file \"%1\".").arg(path),
+                                     tr("The pass phrase in the file \"%1\" is too long.").arg(path),
+                                     tr("There is no pass phrase in the file \"%1\".").arg(path) });
     if (descriptor >= 0)
         ::close(descriptor);
     return line;
@@ -75,13 +84,13 @@ QString KirvPassPhraseInput::fromTerminal(bool isNew)
 {
     KirvTerminalLine terminal;
     if (!terminal.isOpen())
-        return fail(tr("A pass phrase is needed, and there is no terminal to type it on. Give it with "
-                       "--pass-phrase-file or --pass-phrase-fd."));
+        return fail(tr("A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or "
+                       "--pass-phrase-fd."));
     QByteArray typed, repeated;
-    if (!terminal.read(tr("Pass phrase of the file: "), longest, &typed) || typed.isEmpty())
-        return fail(tr("No pass phrase was typed."));
-    if (isNew && (!terminal.read(tr("The same again: "), longest, &repeated) || typed != repeated))
-        return fail(tr("The pass phrase was not typed twice in the same way."));
+    if (!terminal.read(tr("Pass phrase for the file: "), longest, &typed) || typed.isEmpty())
+        return fail(tr("No pass phrase was entered."));
+    if (isNew && (!terminal.read(tr("Repeat the pass phrase: "), longest, &repeated) || typed != repeated))
+        return fail(tr("The two pass phrases are not the same."));
     const QString read = QString::fromLocal8Bit(typed);
     typed.fill('\0');
     repeated.fill('\0');

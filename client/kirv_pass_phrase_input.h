@@ -26,8 +26,14 @@ public:
     QString problem() const { return text; }
 
 private:
+    /// What can be wrong with one place, a sentence each.
+    struct Problems {
+        QString unreadable, tooLong, missing;
+    };
+
     QString fail(const QString &problem);
-    QString firstLine(int descriptor, const QString &name);
+    QString firstLine(int descriptor, const Problems &problems);
+    QString fromDescriptor(int descriptor);
     QString fromFile(const QString &path);
     QString fromTerminal(bool isNew);
 

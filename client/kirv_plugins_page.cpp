@@ -74,6 +74,7 @@ QWidget *KirvPluginsPage::createPlace(const QString &folder)
 {
     auto *place = new KirvWrappedText(this);
     place->setObjectName(QStringLiteral("Plugins_Folder"));
+    place->setAccessibleName(tr("Plug-ins"));
     //: %1 = path of a folder
     place->showText(tr("Plug-ins are looked for in the folder %1.").arg(QDir::toNativeSeparators(folder)));
     return place;

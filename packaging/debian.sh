@@ -15,7 +15,7 @@ KIRV_TEST_PACKAGES=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev libqt6opengl6-dev libqt6sql6-sqlite
     qt6-translations-l10n qtkeychain-qt6-dev gnome-keyring dbus dnsmasq-base iproute2 util-linux
     binutils sqlite3 clang libclang-rt-14-dev lld clang-format clang-tidy git python3 python3-jsonschema reuse
-    appstream desktop-file-utils doxygen man-db xvfb xauth qt6-qpa-plugins)
+    appstream desktop-file-utils doxygen man-db xvfb xauth at-spi2-core qt6-qpa-plugins)
 # To build Debian packages, to look them over, to try them in a minimal system and to compare binary interfaces.
 KIRV_DEB_PACKAGES=(abigail-tools binutils dpkg-dev debhelper lintian xz-utils debootstrap util-linux)
 

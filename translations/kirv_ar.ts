@@ -490,7 +490,7 @@
         <translation>الملف تالف، أو ليس ملف حسابات مصدّرة.</translation>
     </message>
     <message>
-        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <source>The passwords in the file are damaged, so nothing is imported from it.</source>
         <translation>كلمات السر في الملف تالفة، ولذلك لا يُستورد منه شيء.</translation>
     </message>
     <message>
@@ -511,7 +511,7 @@
         <translation>الحساب رقم %1 في الملف تالف: لا يمكن استعمال القيمة «%2».</translation>
     </message>
     <message>
-        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <source>The file contains the account &quot;%1&quot; (%2) twice.</source>
         <extracomment>%1 = login, %2 = name of a protocol</extracomment>
         <translation>الحساب «%1» (بروتوكول %2) وارد في الملف مرتين.</translation>
     </message>
@@ -528,7 +528,7 @@
         <translation>الملف تالف: حسابه الرئيسي ليس فيه.</translation>
     </message>
     <message>
-        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <source>The file contains no passwords that the pass phrase could decrypt. If it should contain some, somebody has changed it.</source>
         <translation>ليس في الملف كلمات سر، ولذلك لا يوجد ما تفتحه عبارة السر. إذا كان يجب أن تكون فيه كلمات سر فقد غيّره شخص ما.</translation>
     </message>
     <message>
@@ -536,19 +536,19 @@
         <translation>استُبعدت كلمات السر التي في الملف، لأنها تحتاج إلى عبارة سره.</translation>
     </message>
     <message>
-        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <source>Decrypting the passwords in the file needs more memory or time than is allowed, so nothing is imported from it.</source>
         <translation>يتطلب فتح كلمات السر في الملف ذاكرة أو وقتًا أكثر من المسموح به، ولذلك لا يُستورد منه شيء.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open the passwords in the file.</source>
+        <source>There is not enough memory to decrypt the passwords in the file.</source>
         <translation>لا توجد ذاكرة كافية لفتح كلمات السر في الملف.</translation>
     </message>
     <message>
-        <source>The pass phrase does not open the passwords in the file.</source>
+        <source>The pass phrase does not decrypt the passwords in the file.</source>
         <translation>لا تفتح عبارة السر هذه كلمات السر في الملف.</translation>
     </message>
     <message>
-        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing is imported from it.</source>
         <translation>غُيّرت الحسابات في الملف بعد كتابته. لم تعد تطابق كلمات السر التي فيه، ولذلك لا يُستورد منه شيء.</translation>
     </message>
     <message>
@@ -624,7 +624,7 @@
         <translation>لا يمكن تفعيل الحساب «%1» من جديد: لقد أُزيل.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <source>The account &quot;%1&quot; cannot be restored to what it was before the import: it was removed.</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>لا يمكن أن يعود الحساب «%1» إلى ما كان عليه قبل الاستيراد: لقد أُزيل.</translation>
     </message>
@@ -632,7 +632,7 @@
 <context>
     <name>KirvAccountImport</name>
     <message>
-        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <source>The file contains this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
         <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
         <translation>اسم الدخول هذا وارد في الملف مرتين: «%1» هو لدى الخادم نفس «%2».</translation>
     </message>
@@ -646,13 +646,13 @@
         <translation>البروتوكول %1 غير محمّل.</translation>
     </message>
     <message>
-        <source>Another account with this login was added or removed since.</source>
+        <source>Another account with this login was added or removed in the meantime.</source>
         <translation>أُضيف أو أُزيل منذ ذلك الحين حساب آخر باسم الدخول هذا.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <source>The account &quot;%1&quot; cannot be imported. %2</source>
         <extracomment>%1 = login, %2 = a sentence</extracomment>
-        <translation>لا يمكن نقل الحساب «%1». %2</translation>
+        <translation>لا يمكن استيراد الحساب «%1». %2</translation>
     </message>
     <message>
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
@@ -695,7 +695,7 @@
         <translation>لا يوجد حساب بعد. أضف حسابًا لديك بالفعل، أو سجّل حسابًا جديدًا، أو استورد حسابات من ملف.</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. There are accounts of Pidgin on this computer.</source>
         <translation>لا يوجد حساب بعد. أضف حسابًا لديك بالفعل، أو سجّل حسابًا جديدًا، أو استورد حسابات. لبرنامج Pidgin حسابات على هذا الحاسوب.</translation>
     </message>
     <message>
@@ -1266,7 +1266,7 @@
         <translation>التصدير: يكتب فوق ملف موجود.</translation>
     </message>
     <message>
-        <source>Import: leave the passwords out that are in the file.</source>
+        <source>Import: leave out the passwords that are in the file.</source>
         <translation>الاستيراد: يستبعد كلمات السر التي في الملف.</translation>
     </message>
     <message>
@@ -1359,7 +1359,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>لا يمكن استعمال الخيار ‎--json عندما يُكتب الملف إلى الخرج القياسي.</translation>
     </message>
     <message>
-        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <source>A pass phrase is of no use when no passwords are exported or imported.</source>
         <translation>لا فائدة من عبارة سر إذا لم تُنقل كلمات السر.</translation>
     </message>
     <message>
@@ -1998,7 +1998,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>النتيجة</translation>
     </message>
     <message>
-        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <source>Several words that are not related are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it, nobody can read them, not even you.</source>
         <translation>عدة كلمات لا رابط بينها يسهل تذكّرها ويصعب تخمينها. من لديه الملف وخمّن عبارة السر حصل على كلمات السر التي فيه؛ ومن دونها لا يستطيع أحد قراءتها، ولا حتى أنت.</translation>
     </message>
     <message>
@@ -2006,7 +2006,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>&amp;عبارة السر:</translation>
     </message>
     <message>
-        <source>&amp;Repeat it:</source>
+        <source>&amp;Repeat pass phrase:</source>
         <translation>&amp;تأكيد العبارة:</translation>
     </message>
     <message>
@@ -2029,7 +2029,7 @@ A file is called - where the standard output or input is meant.</source>
         </translation>
     </message>
     <message>
-        <source>The pass phrase and its repetition must be the same.</source>
+        <source>The two pass phrases must be the same.</source>
         <translation>يجب أن تتطابق عبارة السر وتأكيدها.</translation>
     </message>
     <message>
@@ -2057,11 +2057,11 @@ A file is called - where the standard output or input is meant.</source>
         </translation>
     </message>
     <message>
-        <source>No passwords are in the file.</source>
+        <source>The file contains no passwords.</source>
         <translation>ليس في الملف كلمات سر.</translation>
     </message>
     <message>
-        <source>These are not in the file:</source>
+        <source>The following is not in the file:</source>
         <translation>ما ليس في الملف:</translation>
     </message>
 </context>
@@ -2477,7 +2477,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>يُقرأ الملف ‎%1…</translation>
     </message>
     <message>
-        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>في الملف ‎%1 كلمات سر. أدخل عبارة السر التي شُفّرت بها.</translation>
     </message>
@@ -2487,12 +2487,12 @@ A file is called - where the standard output or input is meant.</source>
         <translation>لا يمكن استيراد الحسابات التي في الملف ‎%1.</translation>
     </message>
     <message>
-        <source>There are no accounts that can be imported in the file %1.</source>
+        <source>The file %1 contains no accounts that can be imported.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>لا توجد حسابات يمكن استيرادها في الملف ‎%1.</translation>
     </message>
     <message>
-        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
         <translation>هذه هي الحسابات التي في الملف ‎%1. لا يُغيَّر شيء قبل أن تستوردها، ويمكن التراجع عن الاستيراد.</translation>
     </message>
     <message>
@@ -2515,24 +2515,24 @@ A file is called - where the standard output or input is meant.</source>
         <translation>جديد</translation>
     </message>
     <message>
-        <source>New, is left out</source>
+        <source>New, will be left out</source>
         <translation>جديد، سيُستبعد</translation>
     </message>
     <message>
-        <source>Exists here, is replaced</source>
+        <source>Exists, will be replaced</source>
         <translation>موجود هنا، سيُستبدل</translation>
     </message>
     <message>
-        <source>Exists here, is kept</source>
+        <source>Exists, will be kept</source>
         <translation>موجود هنا، سيبقى كما هو</translation>
     </message>
     <message>
-        <source>Exists here as %1, is replaced</source>
+        <source>Exists as %1, will be replaced</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>موجود هنا باسم %1، سيُستبدل</translation>
     </message>
     <message>
-        <source>Exists here as %1, is kept</source>
+        <source>Exists as %1, will be kept</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>موجود هنا باسم %1، سيبقى كما هو</translation>
     </message>
@@ -2542,7 +2542,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>These are not imported:</source>
+        <source>The following is not imported:</source>
         <translation>ما لن يُستورد:</translation>
     </message>
 </context>
@@ -3148,15 +3148,15 @@ A file is called - where the standard output or input is meant.</source>
         <translation>لا يمكن قراءة الملف «‎%1»: %2</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
         <translation>الملف «‎%1» أكبر من أن يكون ملف حسابات.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
         <translation>المسار «‎%1» ليس ملفًا يمكن الكتابة فوقه.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
         <translation>الملف «‎%1» موجود بالفعل. للكتابة فوقه استعمل الخيار ‎--force.</translation>
     </message>
     <message>
@@ -3206,40 +3206,47 @@ A file is called - where the standard output or input is meant.</source>
 <context>
     <name>KirvPassPhraseInput</name>
     <message>
-        <source>file descriptor %1</source>
-        <extracomment>%1 = number</extracomment>
-        <translation>واصف الملف %1</translation>
+        <source>The pass phrase cannot be read from file descriptor %1.</source>
+        <translation>لا يمكن قراءة عبارة السر من واصف الملف %1.</translation>
     </message>
     <message>
-        <source>The pass phrase cannot be read from %1.</source>
-        <translation>لا يمكن قراءة عبارة السر من ‎%1.</translation>
+        <source>The pass phrase from file descriptor %1 is too long.</source>
+        <translation>عبارة السر المقروءة من واصف الملف %1 طويلة جدًا.</translation>
     </message>
     <message>
-        <source>The pass phrase in %1 is too long.</source>
-        <translation>عبارة السر في ‎%1 طويلة جدًا.</translation>
+        <source>There is no pass phrase to be read from file descriptor %1.</source>
+        <translation>لا توجد عبارة سر لقراءتها من واصف الملف %1.</translation>
     </message>
     <message>
-        <source>There is no pass phrase in %1.</source>
-        <translation>لا توجد عبارة سر في ‎%1.</translation>
+        <source>The pass phrase cannot be read from the file &quot;%1&quot;.</source>
+        <translation>لا يمكن قراءة عبارة السر من الملف «‎%1».</translation>
     </message>
     <message>
-        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <source>The pass phrase in the file &quot;%1&quot; is too long.</source>
+        <translation>عبارة السر في الملف «‎%1» طويلة جدًا.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in the file &quot;%1&quot;.</source>
+        <translation>لا توجد عبارة سر في الملف «‎%1».</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or --pass-phrase-fd.</source>
         <translation>تلزم عبارة سر، ولا توجد طرفية لكتابتها. اذكرها بالخيار ‎--pass-phrase-file أو ‎--pass-phrase-fd.</translation>
     </message>
     <message>
-        <source>Pass phrase of the file: </source>
+        <source>Pass phrase for the file: </source>
         <translation>عبارة سر الملف: </translation>
     </message>
     <message>
-        <source>No pass phrase was typed.</source>
+        <source>No pass phrase was entered.</source>
         <translation>لم تُكتب عبارة سر.</translation>
     </message>
     <message>
-        <source>The same again: </source>
+        <source>Repeat the pass phrase: </source>
         <translation>تأكيد عبارة السر: </translation>
     </message>
     <message>
-        <source>The pass phrase was not typed twice in the same way.</source>
+        <source>The two pass phrases are not the same.</source>
         <translation>لم تُكتب عبارة السر نفسها في المرتين.</translation>
     </message>
 </context>
@@ -3317,11 +3324,11 @@ A file is called - where the standard output or input is meant.</source>
         <translation>لم يعد الحساب «%1» يرسل كلمة سره بلا تشفير.</translation>
     </message>
     <message>
-        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <source>The server of the account &quot;%1&quot; was left out: it is not the name or address of a server.</source>
         <translation>استُبعد خادم الحساب «%1»: ليس اسم خادم ولا عنوانه.</translation>
     </message>
     <message>
-        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <source>The port of the account &quot;%1&quot; was left out: it is not a number from 1 to 65535.</source>
         <translation>استُبعد منفذ الحساب «%1»: ليس عددًا من 1 إلى 65535.</translation>
     </message>
     <message>
@@ -3347,7 +3354,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>استُبعد وسيط الحساب «%1». %2 الحساب معطّل كي لا يتصل بلا الوسيط.</translation>
     </message>
     <message>
-        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are no such settings here: %2.</source>
         <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
         <translation>استُبعدت إعدادات من الحساب «%1»، لأنه لا مثيل لها هنا: %2.</translation>
     </message>

@@ -470,7 +470,7 @@
         <translation>Die Datei ist beschädigt oder keine Datei mit exportierten Konten.</translation>
     </message>
     <message>
-        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <source>The passwords in the file are damaged, so nothing is imported from it.</source>
         <translation>Die Passwörter in der Datei sind beschädigt; daher wird nichts daraus importiert.</translation>
     </message>
     <message>
@@ -491,7 +491,7 @@
         <translation>Konto %1 in der Datei ist beschädigt: „%2“ ist nicht brauchbar.</translation>
     </message>
     <message>
-        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <source>The file contains the account &quot;%1&quot; (%2) twice.</source>
         <extracomment>%1 = login, %2 = name of a protocol</extracomment>
         <translation>Die Datei enthält das Konto „%1“ (%2) zweimal.</translation>
     </message>
@@ -508,7 +508,7 @@
         <translation>Die Datei ist beschädigt: Ihr Hauptkonto ist nicht darin.</translation>
     </message>
     <message>
-        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <source>The file contains no passwords that the pass phrase could decrypt. If it should contain some, somebody has changed it.</source>
         <translation>Die Datei enthält keine Passwörter; die Passphrase hat also nichts zu öffnen. Wenn sie welche enthalten müsste, hat jemand sie verändert.</translation>
     </message>
     <message>
@@ -516,19 +516,19 @@
         <translation>Die Passwörter in der Datei werden ausgelassen, weil dafür ihre Passphrase nötig ist.</translation>
     </message>
     <message>
-        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <source>Decrypting the passwords in the file needs more memory or time than is allowed, so nothing is imported from it.</source>
         <translation>Um die Passwörter in der Datei zu öffnen, ist mehr Speicher oder Zeit nötig als erlaubt; daher wird nichts daraus importiert.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open the passwords in the file.</source>
+        <source>There is not enough memory to decrypt the passwords in the file.</source>
         <translation>Der Speicher reicht nicht aus, um die Passwörter in der Datei zu öffnen.</translation>
     </message>
     <message>
-        <source>The pass phrase does not open the passwords in the file.</source>
+        <source>The pass phrase does not decrypt the passwords in the file.</source>
         <translation>Die Passphrase öffnet die Passwörter in der Datei nicht.</translation>
     </message>
     <message>
-        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing is imported from it.</source>
         <translation>Die Konten in der Datei wurden verändert, nachdem sie geschrieben wurde. Sie gehören nicht mehr zu den Passwörtern darin; daher wird nichts aus der Datei importiert.</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@
         <translation>Das Konto „%1“ kann nicht wieder aktiviert werden: Es wurde entfernt.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <source>The account &quot;%1&quot; cannot be restored to what it was before the import: it was removed.</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>Das Konto „%1“ kann nicht wieder werden, was es vor dem Import war: Es wurde entfernt.</translation>
     </message>
@@ -600,7 +600,7 @@
 <context>
     <name>KirvAccountImport</name>
     <message>
-        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <source>The file contains this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
         <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
         <translation>Die Datei enthält diesen Anmeldenamen zweimal: „%1“ ist für den Server dasselbe wie „%2“.</translation>
     </message>
@@ -614,13 +614,13 @@
         <translation>Das Protokoll %1 ist nicht geladen.</translation>
     </message>
     <message>
-        <source>Another account with this login was added or removed since.</source>
+        <source>Another account with this login was added or removed in the meantime.</source>
         <translation>Inzwischen wurde ein anderes Konto mit diesem Anmeldenamen hinzugefügt oder entfernt.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <source>The account &quot;%1&quot; cannot be imported. %2</source>
         <extracomment>%1 = login, %2 = a sentence</extracomment>
-        <translation>Das Konto „%1“ kann nicht übernommen werden. %2</translation>
+        <translation>Das Konto „%1“ kann nicht importiert werden. %2</translation>
     </message>
     <message>
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
@@ -663,7 +663,7 @@
         <translation>Es gibt noch kein Konto. Fügen Sie eines hinzu, das Sie schon haben, registrieren Sie ein neues, oder importieren Sie Konten aus einer Datei.</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. There are accounts of Pidgin on this computer.</source>
         <translation>Es gibt noch kein Konto. Fügen Sie eines hinzu, das Sie schon haben, registrieren Sie ein neues, oder importieren Sie Konten. Auf diesem Rechner gibt es Konten von Pidgin.</translation>
     </message>
     <message>
@@ -1206,7 +1206,7 @@
         <translation>Export: eine vorhandene Datei überschreiben.</translation>
     </message>
     <message>
-        <source>Import: leave the passwords out that are in the file.</source>
+        <source>Import: leave out the passwords that are in the file.</source>
         <translation>Import: die Passwörter auslassen, die in der Datei sind.</translation>
     </message>
     <message>
@@ -1299,7 +1299,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Die Option --json kann nicht benutzt werden, wenn die Datei auf die Standardausgabe geschrieben wird.</translation>
     </message>
     <message>
-        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <source>A pass phrase is of no use when no passwords are exported or imported.</source>
         <translation>Eine Passphrase nützt nichts, wenn keine Passwörter mitgenommen werden.</translation>
     </message>
     <message>
@@ -1930,7 +1930,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Ergebnis</translation>
     </message>
     <message>
-        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <source>Several words that are not related are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it, nobody can read them, not even you.</source>
         <translation>Mehrere Wörter, die nicht zusammengehören, sind leicht zu merken und schwer zu erraten. Wer die Datei hat und die Passphrase errät, hat Ihre Passwörter; ohne sie kann niemand die Passwörter lesen, auch Sie nicht.</translation>
     </message>
     <message>
@@ -1938,7 +1938,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Passp&amp;hrase:</translation>
     </message>
     <message>
-        <source>&amp;Repeat it:</source>
+        <source>&amp;Repeat pass phrase:</source>
         <translation>&amp;Wiederholen:</translation>
     </message>
     <message>
@@ -1957,7 +1957,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         </translation>
     </message>
     <message>
-        <source>The pass phrase and its repetition must be the same.</source>
+        <source>The two pass phrases must be the same.</source>
         <translation>Die Passphrase und ihre Wiederholung müssen gleich sein.</translation>
     </message>
     <message>
@@ -1981,11 +1981,11 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         </translation>
     </message>
     <message>
-        <source>No passwords are in the file.</source>
+        <source>The file contains no passwords.</source>
         <translation>In der Datei sind keine Passwörter.</translation>
     </message>
     <message>
-        <source>These are not in the file:</source>
+        <source>The following is not in the file:</source>
         <translation>Nicht in der Datei enthalten:</translation>
     </message>
 </context>
@@ -2401,7 +2401,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Die Datei %1 wird gelesen…</translation>
     </message>
     <message>
-        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>Die Datei %1 enthält Passwörter. Geben Sie die Passphrase ein, mit der sie verschlüsselt sind.</translation>
     </message>
@@ -2411,12 +2411,12 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Die Konten in der Datei %1 können nicht importiert werden.</translation>
     </message>
     <message>
-        <source>There are no accounts that can be imported in the file %1.</source>
+        <source>The file %1 contains no accounts that can be imported.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>In der Datei %1 gibt es keine Konten, die importiert werden können.</translation>
     </message>
     <message>
-        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
         <translation>Diese Konten sind in der Datei %1. Nichts wird geändert, bevor Sie sie importieren, und der Import kann rückgängig gemacht werden.</translation>
     </message>
     <message>
@@ -2435,24 +2435,24 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Neu</translation>
     </message>
     <message>
-        <source>New, is left out</source>
+        <source>New, will be left out</source>
         <translation>Neu, wird ausgelassen</translation>
     </message>
     <message>
-        <source>Exists here, is replaced</source>
+        <source>Exists, will be replaced</source>
         <translation>Hier vorhanden, wird ersetzt</translation>
     </message>
     <message>
-        <source>Exists here, is kept</source>
+        <source>Exists, will be kept</source>
         <translation>Hier vorhanden, bleibt erhalten</translation>
     </message>
     <message>
-        <source>Exists here as %1, is replaced</source>
+        <source>Exists as %1, will be replaced</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Hier als %1 vorhanden, wird ersetzt</translation>
     </message>
     <message>
-        <source>Exists here as %1, is kept</source>
+        <source>Exists as %1, will be kept</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Hier als %1 vorhanden, bleibt erhalten</translation>
     </message>
@@ -2462,7 +2462,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>These are not imported:</source>
+        <source>The following is not imported:</source>
         <translation>Nicht importiert wird:</translation>
     </message>
 </context>
@@ -3064,15 +3064,15 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
         <translation>Die Datei „%1“ ist zu groß, um eine mit Konten zu sein.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
         <translation>„%1“ ist keine Datei, die überschrieben werden kann.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
         <translation>Die Datei „%1“ gibt es schon. Mit --force wird sie überschrieben.</translation>
     </message>
     <message>
@@ -3122,40 +3122,47 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
 <context>
     <name>KirvPassPhraseInput</name>
     <message>
-        <source>file descriptor %1</source>
-        <extracomment>%1 = number</extracomment>
-        <translation>Dateideskriptor %1</translation>
+        <source>The pass phrase cannot be read from file descriptor %1.</source>
+        <translation>Die Passphrase kann nicht vom Dateideskriptor %1 gelesen werden.</translation>
     </message>
     <message>
-        <source>The pass phrase cannot be read from %1.</source>
-        <translation>Die Passphrase kann nicht von %1 gelesen werden.</translation>
+        <source>The pass phrase from file descriptor %1 is too long.</source>
+        <translation>Die Passphrase vom Dateideskriptor %1 ist zu lang.</translation>
     </message>
     <message>
-        <source>The pass phrase in %1 is too long.</source>
-        <translation>Die Passphrase in %1 ist zu lang.</translation>
+        <source>There is no pass phrase to be read from file descriptor %1.</source>
+        <translation>Vom Dateideskriptor %1 ist keine Passphrase zu lesen.</translation>
     </message>
     <message>
-        <source>There is no pass phrase in %1.</source>
-        <translation>In %1 ist keine Passphrase.</translation>
+        <source>The pass phrase cannot be read from the file &quot;%1&quot;.</source>
+        <translation>Die Passphrase kann nicht aus der Datei „%1“ gelesen werden.</translation>
     </message>
     <message>
-        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <source>The pass phrase in the file &quot;%1&quot; is too long.</source>
+        <translation>Die Passphrase in der Datei „%1“ ist zu lang.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in the file &quot;%1&quot;.</source>
+        <translation>In der Datei „%1“ ist keine Passphrase.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or --pass-phrase-fd.</source>
         <translation>Eine Passphrase ist nötig, aber es gibt kein Terminal, um sie einzugeben. Geben Sie sie mit --pass-phrase-file oder --pass-phrase-fd an.</translation>
     </message>
     <message>
-        <source>Pass phrase of the file: </source>
+        <source>Pass phrase for the file: </source>
         <translation>Passphrase der Datei: </translation>
     </message>
     <message>
-        <source>No pass phrase was typed.</source>
+        <source>No pass phrase was entered.</source>
         <translation>Es wurde keine Passphrase eingegeben.</translation>
     </message>
     <message>
-        <source>The same again: </source>
+        <source>Repeat the pass phrase: </source>
         <translation>Noch einmal dieselbe: </translation>
     </message>
     <message>
-        <source>The pass phrase was not typed twice in the same way.</source>
+        <source>The two pass phrases are not the same.</source>
         <translation>Die Passphrase wurde nicht zweimal gleich eingegeben.</translation>
     </message>
 </context>
@@ -3233,11 +3240,11 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Das Konto „%1“ sendet sein Passwort nicht mehr unverschlüsselt.</translation>
     </message>
     <message>
-        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <source>The server of the account &quot;%1&quot; was left out: it is not the name or address of a server.</source>
         <translation>Der Server des Kontos „%1“ wurde ausgelassen: Die Angabe ist weder Name noch Adresse eines Servers.</translation>
     </message>
     <message>
-        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <source>The port of the account &quot;%1&quot; was left out: it is not a number from 1 to 65535.</source>
         <translation>Der Port des Kontos „%1“ wurde ausgelassen: Er ist keine Zahl von 1 bis 65535.</translation>
     </message>
     <message>
@@ -3263,7 +3270,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Der Proxy des Kontos „%1“ wurde ausgelassen. %2 Das Konto ist deaktiviert, damit es sich nicht ohne den Proxy verbindet.</translation>
     </message>
     <message>
-        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are no such settings here: %2.</source>
         <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
         <translation>Einstellungen des Kontos „%1“ wurden ausgelassen, weil es hier keine entsprechenden gibt: %2.</translation>
     </message>

@@ -470,7 +470,7 @@
         <translation>El archivo está dañado o no es un archivo de cuentas exportadas.</translation>
     </message>
     <message>
-        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <source>The passwords in the file are damaged, so nothing is imported from it.</source>
         <translation>Las contraseñas del archivo están dañadas, por lo que no se importa nada de él.</translation>
     </message>
     <message>
@@ -491,7 +491,7 @@
         <translation>La cuenta %1 del archivo está dañada: «%2» no se puede usar.</translation>
     </message>
     <message>
-        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <source>The file contains the account &quot;%1&quot; (%2) twice.</source>
         <extracomment>%1 = login, %2 = name of a protocol</extracomment>
         <translation>La cuenta «%1» (%2) está dos veces en el archivo.</translation>
     </message>
@@ -508,7 +508,7 @@
         <translation>El archivo está dañado: no contiene su cuenta principal.</translation>
     </message>
     <message>
-        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <source>The file contains no passwords that the pass phrase could decrypt. If it should contain some, somebody has changed it.</source>
         <translation>El archivo no tiene contraseñas, por lo que la frase de contraseña no tiene nada que abrir. Si debería tenerlas, alguien lo ha cambiado.</translation>
     </message>
     <message>
@@ -516,19 +516,19 @@
         <translation>Se omiten las contraseñas del archivo, ya que necesitan su frase de contraseña.</translation>
     </message>
     <message>
-        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <source>Decrypting the passwords in the file needs more memory or time than is allowed, so nothing is imported from it.</source>
         <translation>Abrir las contraseñas del archivo necesita más memoria o tiempo de lo permitido, por lo que no se importa nada de él.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open the passwords in the file.</source>
+        <source>There is not enough memory to decrypt the passwords in the file.</source>
         <translation>No hay memoria suficiente para abrir las contraseñas del archivo.</translation>
     </message>
     <message>
-        <source>The pass phrase does not open the passwords in the file.</source>
+        <source>The pass phrase does not decrypt the passwords in the file.</source>
         <translation>La frase de contraseña no abre las contraseñas del archivo.</translation>
     </message>
     <message>
-        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing is imported from it.</source>
         <translation>Las cuentas del archivo se cambiaron después de que se escribiera. Ya no corresponden a sus contraseñas, por lo que no se importa nada de él.</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@
         <translation>La cuenta «%1» no se puede volver a activar: se eliminó.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <source>The account &quot;%1&quot; cannot be restored to what it was before the import: it was removed.</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>La cuenta «%1» no puede volver a ser como era antes de la importación: se eliminó.</translation>
     </message>
@@ -600,7 +600,7 @@
 <context>
     <name>KirvAccountImport</name>
     <message>
-        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <source>The file contains this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
         <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
         <translation>El archivo tiene este nombre de usuario dos veces: para el servidor, «%1» es el mismo que «%2».</translation>
     </message>
@@ -614,11 +614,11 @@
         <translation>El protocolo %1 no está cargado.</translation>
     </message>
     <message>
-        <source>Another account with this login was added or removed since.</source>
+        <source>Another account with this login was added or removed in the meantime.</source>
         <translation>Entretanto se añadió o se eliminó otra cuenta con este nombre de usuario.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <source>The account &quot;%1&quot; cannot be imported. %2</source>
         <extracomment>%1 = login, %2 = a sentence</extracomment>
         <translation>No se puede importar la cuenta «%1». %2</translation>
     </message>
@@ -663,7 +663,7 @@
         <translation>Todavía no hay ninguna cuenta. Añada una que ya tenga, registre una nueva o importe cuentas de un archivo.</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. There are accounts of Pidgin on this computer.</source>
         <translation>Todavía no hay ninguna cuenta. Añada una que ya tenga, registre una nueva o importe cuentas. Pidgin tiene cuentas en este equipo.</translation>
     </message>
     <message>
@@ -1206,7 +1206,7 @@
         <translation>Exportar: sobrescribir el archivo si ya existe.</translation>
     </message>
     <message>
-        <source>Import: leave the passwords out that are in the file.</source>
+        <source>Import: leave out the passwords that are in the file.</source>
         <translation>Importar: omitir las contraseñas que haya en el archivo.</translation>
     </message>
     <message>
@@ -1299,7 +1299,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>La opción --json no se puede usar cuando el archivo va a la salida estándar.</translation>
     </message>
     <message>
-        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <source>A pass phrase is of no use when no passwords are exported or imported.</source>
         <translation>Una frase de contraseña no sirve de nada si no se incluyen contraseñas.</translation>
     </message>
     <message>
@@ -1930,7 +1930,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Resultado</translation>
     </message>
     <message>
-        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <source>Several words that are not related are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it, nobody can read them, not even you.</source>
         <translation>Varias palabras que no guardan relación entre sí son fáciles de recordar y difíciles de adivinar. Quien tenga el archivo y adivine la frase de contraseña tendrá sus contraseñas; sin ella nadie puede leerlas, ni siquiera usted.</translation>
     </message>
     <message>
@@ -1938,7 +1938,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>&amp;Frase de contraseña:</translation>
     </message>
     <message>
-        <source>&amp;Repeat it:</source>
+        <source>&amp;Repeat pass phrase:</source>
         <translation>&amp;Repetir la frase:</translation>
     </message>
     <message>
@@ -1957,7 +1957,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         </translation>
     </message>
     <message>
-        <source>The pass phrase and its repetition must be the same.</source>
+        <source>The two pass phrases must be the same.</source>
         <translation>La frase de contraseña y su repetición deben coincidir.</translation>
     </message>
     <message>
@@ -1981,11 +1981,11 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         </translation>
     </message>
     <message>
-        <source>No passwords are in the file.</source>
+        <source>The file contains no passwords.</source>
         <translation>El archivo no contiene contraseñas.</translation>
     </message>
     <message>
-        <source>These are not in the file:</source>
+        <source>The following is not in the file:</source>
         <translation>Lo siguiente no está en el archivo:</translation>
     </message>
 </context>
@@ -2401,7 +2401,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Leyendo el archivo %1…</translation>
     </message>
     <message>
-        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>El archivo %1 contiene contraseñas. Introduzca la frase de contraseña con la que están cifradas.</translation>
     </message>
@@ -2411,12 +2411,12 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>No se pueden importar las cuentas del archivo %1.</translation>
     </message>
     <message>
-        <source>There are no accounts that can be imported in the file %1.</source>
+        <source>The file %1 contains no accounts that can be imported.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>No hay cuentas que se puedan importar en el archivo %1.</translation>
     </message>
     <message>
-        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
         <translation>Estas cuentas están en el archivo %1. No se cambia nada hasta que las importe, y la importación se puede deshacer.</translation>
     </message>
     <message>
@@ -2435,24 +2435,24 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Nueva</translation>
     </message>
     <message>
-        <source>New, is left out</source>
+        <source>New, will be left out</source>
         <translation>Nueva, se omite</translation>
     </message>
     <message>
-        <source>Exists here, is replaced</source>
+        <source>Exists, will be replaced</source>
         <translation>Existe aquí, se sustituye</translation>
     </message>
     <message>
-        <source>Exists here, is kept</source>
+        <source>Exists, will be kept</source>
         <translation>Existe aquí, se conserva</translation>
     </message>
     <message>
-        <source>Exists here as %1, is replaced</source>
+        <source>Exists as %1, will be replaced</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Existe aquí como %1, se sustituye</translation>
     </message>
     <message>
-        <source>Exists here as %1, is kept</source>
+        <source>Exists as %1, will be kept</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Existe aquí como %1, se conserva</translation>
     </message>
@@ -2462,7 +2462,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>These are not imported:</source>
+        <source>The following is not imported:</source>
         <translation>Lo siguiente no se importa:</translation>
     </message>
 </context>
@@ -3064,15 +3064,15 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>No se puede leer el archivo «%1»: %2</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
         <translation>El archivo «%1» es demasiado grande para ser un archivo de cuentas.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
         <translation>«%1» no es un archivo que se pueda sobrescribir.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
         <translation>El archivo «%1» ya existe. Con --force se sobrescribe.</translation>
     </message>
     <message>
@@ -3122,40 +3122,47 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
 <context>
     <name>KirvPassPhraseInput</name>
     <message>
-        <source>file descriptor %1</source>
-        <extracomment>%1 = number</extracomment>
-        <translation>el descriptor de archivo %1</translation>
+        <source>The pass phrase cannot be read from file descriptor %1.</source>
+        <translation>No se puede leer la frase de contraseña desde el descriptor de archivo %1.</translation>
     </message>
     <message>
-        <source>The pass phrase cannot be read from %1.</source>
-        <translation>No se puede leer la frase de contraseña desde %1.</translation>
+        <source>The pass phrase from file descriptor %1 is too long.</source>
+        <translation>La frase de contraseña leída desde el descriptor de archivo %1 es demasiado larga.</translation>
     </message>
     <message>
-        <source>The pass phrase in %1 is too long.</source>
-        <translation>La frase de contraseña en %1 es demasiado larga.</translation>
+        <source>There is no pass phrase to be read from file descriptor %1.</source>
+        <translation>No hay ninguna frase de contraseña que leer desde el descriptor de archivo %1.</translation>
     </message>
     <message>
-        <source>There is no pass phrase in %1.</source>
-        <translation>No hay ninguna frase de contraseña en %1.</translation>
+        <source>The pass phrase cannot be read from the file &quot;%1&quot;.</source>
+        <translation>No se puede leer la frase de contraseña desde el archivo «%1».</translation>
     </message>
     <message>
-        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <source>The pass phrase in the file &quot;%1&quot; is too long.</source>
+        <translation>La frase de contraseña en el archivo «%1» es demasiado larga.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in the file &quot;%1&quot;.</source>
+        <translation>No hay ninguna frase de contraseña en el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or --pass-phrase-fd.</source>
         <translation>Se necesita una frase de contraseña y no hay ningún terminal en el que introducirla. Indíquela con --pass-phrase-file o --pass-phrase-fd.</translation>
     </message>
     <message>
-        <source>Pass phrase of the file: </source>
+        <source>Pass phrase for the file: </source>
         <translation>Frase de contraseña del archivo: </translation>
     </message>
     <message>
-        <source>No pass phrase was typed.</source>
+        <source>No pass phrase was entered.</source>
         <translation>No se introdujo ninguna frase de contraseña.</translation>
     </message>
     <message>
-        <source>The same again: </source>
+        <source>Repeat the pass phrase: </source>
         <translation>La misma otra vez: </translation>
     </message>
     <message>
-        <source>The pass phrase was not typed twice in the same way.</source>
+        <source>The two pass phrases are not the same.</source>
         <translation>La frase de contraseña no se introdujo las dos veces igual.</translation>
     </message>
 </context>
@@ -3233,11 +3240,11 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>La cuenta «%1» ya no envía su contraseña sin cifrado.</translation>
     </message>
     <message>
-        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <source>The server of the account &quot;%1&quot; was left out: it is not the name or address of a server.</source>
         <translation>Se omitió el servidor de la cuenta «%1»: no es un nombre ni una dirección de servidor.</translation>
     </message>
     <message>
-        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <source>The port of the account &quot;%1&quot; was left out: it is not a number from 1 to 65535.</source>
         <translation>Se omitió el puerto de la cuenta «%1»: no es un número del 1 al 65535.</translation>
     </message>
     <message>
@@ -3263,7 +3270,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Se omitió el proxy de la cuenta «%1». %2 La cuenta está desactivada para que no se conecte sin el proxy.</translation>
     </message>
     <message>
-        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are no such settings here: %2.</source>
         <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
         <translation>Se omitieron ajustes de la cuenta «%1», ya que aquí no existen ajustes equivalentes: %2.</translation>
     </message>

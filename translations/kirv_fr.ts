@@ -470,7 +470,7 @@
         <translation>Le fichier est endommagé, ou ce n’est pas un fichier de comptes exportés.</translation>
     </message>
     <message>
-        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <source>The passwords in the file are damaged, so nothing is imported from it.</source>
         <translation>Les mots de passe du fichier sont endommagés, rien n’en est donc importé.</translation>
     </message>
     <message>
@@ -491,7 +491,7 @@
         <translation>Le compte %1 du fichier est endommagé&#xa0;: «&#xa0;%2&#xa0;» n’est pas utilisable.</translation>
     </message>
     <message>
-        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <source>The file contains the account &quot;%1&quot; (%2) twice.</source>
         <extracomment>%1 = login, %2 = name of a protocol</extracomment>
         <translation>Le fichier contient deux fois le compte «&#xa0;%1&#xa0;» (%2).</translation>
     </message>
@@ -508,7 +508,7 @@
         <translation>Le fichier est endommagé&#xa0;: son compte principal n’y figure pas.</translation>
     </message>
     <message>
-        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <source>The file contains no passwords that the pass phrase could decrypt. If it should contain some, somebody has changed it.</source>
         <translation>Le fichier ne contient aucun mot de passe, la phrase secrète n’a donc rien à ouvrir. S’il devait en contenir, quelqu’un l’a modifié.</translation>
     </message>
     <message>
@@ -516,19 +516,19 @@
         <translation>Les mots de passe du fichier sont omis, car sa phrase secrète est nécessaire pour les lire.</translation>
     </message>
     <message>
-        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <source>Decrypting the passwords in the file needs more memory or time than is allowed, so nothing is imported from it.</source>
         <translation>L’ouverture des mots de passe du fichier demande plus de mémoire ou de temps que ce qui est permis, rien n’en est donc importé.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open the passwords in the file.</source>
+        <source>There is not enough memory to decrypt the passwords in the file.</source>
         <translation>Il n’y a pas assez de mémoire pour ouvrir les mots de passe du fichier.</translation>
     </message>
     <message>
-        <source>The pass phrase does not open the passwords in the file.</source>
+        <source>The pass phrase does not decrypt the passwords in the file.</source>
         <translation>La phrase secrète n’ouvre pas les mots de passe du fichier.</translation>
     </message>
     <message>
-        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing is imported from it.</source>
         <translation>Les comptes du fichier ont été modifiés après son écriture. Ils ne correspondent plus à ses mots de passe, rien n’en est donc importé.</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@
         <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas être réactivé&#xa0;: il a été supprimé.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <source>The account &quot;%1&quot; cannot be restored to what it was before the import: it was removed.</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas redevenir ce qu’il était avant l’importation&#xa0;: il a été supprimé.</translation>
     </message>
@@ -600,7 +600,7 @@
 <context>
     <name>KirvAccountImport</name>
     <message>
-        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <source>The file contains this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
         <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
         <translation>Le fichier contient deux fois cet identifiant&#xa0;: pour le serveur, «&#xa0;%1&#xa0;» est identique à «&#xa0;%2&#xa0;».</translation>
     </message>
@@ -614,13 +614,13 @@
         <translation>Le protocole %1 n’est pas chargé.</translation>
     </message>
     <message>
-        <source>Another account with this login was added or removed since.</source>
+        <source>Another account with this login was added or removed in the meantime.</source>
         <translation>Un autre compte avec cet identifiant a été ajouté ou supprimé entre-temps.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <source>The account &quot;%1&quot; cannot be imported. %2</source>
         <extracomment>%1 = login, %2 = a sentence</extracomment>
-        <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas être repris. %2</translation>
+        <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas être importé. %2</translation>
     </message>
     <message>
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
@@ -663,7 +663,7 @@
         <translation>Il n’y a pas encore de compte. Ajoutez-en un que vous avez déjà, créez-en un nouveau ou importez des comptes depuis un fichier.</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. There are accounts of Pidgin on this computer.</source>
         <translation>Il n’y a pas encore de compte. Ajoutez-en un que vous avez déjà, créez-en un nouveau ou importez des comptes. Pidgin a des comptes sur cet ordinateur.</translation>
     </message>
     <message>
@@ -1206,7 +1206,7 @@
         <translation>Exportation&#xa0;: écraser un fichier existant.</translation>
     </message>
     <message>
-        <source>Import: leave the passwords out that are in the file.</source>
+        <source>Import: leave out the passwords that are in the file.</source>
         <translation>Importation&#xa0;: omettre les mots de passe contenus dans le fichier.</translation>
     </message>
     <message>
@@ -1299,7 +1299,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>L’option --json ne peut pas être utilisée lorsque le fichier est écrit sur la sortie standard.</translation>
     </message>
     <message>
-        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <source>A pass phrase is of no use when no passwords are exported or imported.</source>
         <translation>Une phrase secrète ne sert à rien si aucun mot de passe n’est transféré.</translation>
     </message>
     <message>
@@ -1930,7 +1930,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Résultat</translation>
     </message>
     <message>
-        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <source>Several words that are not related are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it, nobody can read them, not even you.</source>
         <translation>Plusieurs mots sans rapport entre eux sont faciles à retenir et difficiles à deviner. Quiconque possède le fichier et devine la phrase secrète a vos mots de passe&#xa0;; sans elle, personne ne peut les lire, pas même vous.</translation>
     </message>
     <message>
@@ -1938,7 +1938,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>P&amp;hrase secrète&#xa0;:</translation>
     </message>
     <message>
-        <source>&amp;Repeat it:</source>
+        <source>&amp;Repeat pass phrase:</source>
         <translation>&amp;Répétez-la&#xa0;:</translation>
     </message>
     <message>
@@ -1957,7 +1957,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         </translation>
     </message>
     <message>
-        <source>The pass phrase and its repetition must be the same.</source>
+        <source>The two pass phrases must be the same.</source>
         <translation>La phrase secrète et sa répétition doivent être identiques.</translation>
     </message>
     <message>
@@ -1981,11 +1981,11 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         </translation>
     </message>
     <message>
-        <source>No passwords are in the file.</source>
+        <source>The file contains no passwords.</source>
         <translation>Le fichier ne contient aucun mot de passe.</translation>
     </message>
     <message>
-        <source>These are not in the file:</source>
+        <source>The following is not in the file:</source>
         <translation>Ne figurent pas dans le fichier&#xa0;:</translation>
     </message>
 </context>
@@ -2401,7 +2401,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Lecture du fichier %1…</translation>
     </message>
     <message>
-        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>Le fichier %1 contient des mots de passe. Saisissez la phrase secrète avec laquelle ils sont chiffrés.</translation>
     </message>
@@ -2411,12 +2411,12 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Les comptes du fichier %1 ne peuvent pas être importés.</translation>
     </message>
     <message>
-        <source>There are no accounts that can be imported in the file %1.</source>
+        <source>The file %1 contains no accounts that can be imported.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>Le fichier %1 ne contient aucun compte qui puisse être importé.</translation>
     </message>
     <message>
-        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
         <translation>Ces comptes sont dans le fichier %1. Rien n’est modifié avant que vous ne les importiez, et l’importation peut être annulée.</translation>
     </message>
     <message>
@@ -2435,24 +2435,24 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Nouveau</translation>
     </message>
     <message>
-        <source>New, is left out</source>
+        <source>New, will be left out</source>
         <translation>Nouveau, est omis</translation>
     </message>
     <message>
-        <source>Exists here, is replaced</source>
+        <source>Exists, will be replaced</source>
         <translation>Existe ici, est remplacé</translation>
     </message>
     <message>
-        <source>Exists here, is kept</source>
+        <source>Exists, will be kept</source>
         <translation>Existe ici, est conservé</translation>
     </message>
     <message>
-        <source>Exists here as %1, is replaced</source>
+        <source>Exists as %1, will be replaced</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Existe ici sous le nom %1, est remplacé</translation>
     </message>
     <message>
-        <source>Exists here as %1, is kept</source>
+        <source>Exists as %1, will be kept</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Existe ici sous le nom %1, est conservé</translation>
     </message>
@@ -2462,7 +2462,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>These are not imported:</source>
+        <source>The following is not imported:</source>
         <translation>Ne sont pas importés&#xa0;:</translation>
     </message>
 </context>
@@ -3064,15 +3064,15 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
         <translation>Le fichier «&#xa0;%1&#xa0;» est trop volumineux pour être un fichier de comptes.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un fichier qui peut être écrasé.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
         <translation>Le fichier «&#xa0;%1&#xa0;» existe déjà. Avec --force, il est écrasé.</translation>
     </message>
     <message>
@@ -3122,40 +3122,47 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
 <context>
     <name>KirvPassPhraseInput</name>
     <message>
-        <source>file descriptor %1</source>
-        <extracomment>%1 = number</extracomment>
-        <translation>le descripteur de fichier %1</translation>
+        <source>The pass phrase cannot be read from file descriptor %1.</source>
+        <translation>La phrase secrète ne peut pas être lue depuis le descripteur de fichier %1.</translation>
     </message>
     <message>
-        <source>The pass phrase cannot be read from %1.</source>
-        <translation>La phrase secrète ne peut pas être lue depuis %1.</translation>
+        <source>The pass phrase from file descriptor %1 is too long.</source>
+        <translation>La phrase secrète lue depuis le descripteur de fichier %1 est trop longue.</translation>
     </message>
     <message>
-        <source>The pass phrase in %1 is too long.</source>
-        <translation>La phrase secrète dans %1 est trop longue.</translation>
+        <source>There is no pass phrase to be read from file descriptor %1.</source>
+        <translation>Il n’y a pas de phrase secrète à lire depuis le descripteur de fichier %1.</translation>
     </message>
     <message>
-        <source>There is no pass phrase in %1.</source>
-        <translation>Il n’y a pas de phrase secrète dans %1.</translation>
+        <source>The pass phrase cannot be read from the file &quot;%1&quot;.</source>
+        <translation>La phrase secrète ne peut pas être lue depuis le fichier «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <source>The pass phrase in the file &quot;%1&quot; is too long.</source>
+        <translation>La phrase secrète dans le fichier «&#xa0;%1&#xa0;» est trop longue.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in the file &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de phrase secrète dans le fichier «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or --pass-phrase-fd.</source>
         <translation>Une phrase secrète est nécessaire, mais il n’y a pas de terminal où la saisir. Indiquez-la avec --pass-phrase-file ou --pass-phrase-fd.</translation>
     </message>
     <message>
-        <source>Pass phrase of the file: </source>
+        <source>Pass phrase for the file: </source>
         <translation>Phrase secrète du fichier&#xa0;: </translation>
     </message>
     <message>
-        <source>No pass phrase was typed.</source>
+        <source>No pass phrase was entered.</source>
         <translation>Aucune phrase secrète n’a été saisie.</translation>
     </message>
     <message>
-        <source>The same again: </source>
+        <source>Repeat the pass phrase: </source>
         <translation>La même encore une fois&#xa0;: </translation>
     </message>
     <message>
-        <source>The pass phrase was not typed twice in the same way.</source>
+        <source>The two pass phrases are not the same.</source>
         <translation>La phrase secrète n’a pas été saisie deux fois de la même façon.</translation>
     </message>
 </context>
@@ -3233,11 +3240,11 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Le compte «&#xa0;%1&#xa0;» n’envoie plus son mot de passe sans chiffrement.</translation>
     </message>
     <message>
-        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <source>The server of the account &quot;%1&quot; was left out: it is not the name or address of a server.</source>
         <translation>Le serveur du compte «&#xa0;%1&#xa0;» a été omis&#xa0;: ce n’est ni le nom ni l’adresse d’un serveur.</translation>
     </message>
     <message>
-        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <source>The port of the account &quot;%1&quot; was left out: it is not a number from 1 to 65535.</source>
         <translation>Le port du compte «&#xa0;%1&#xa0;» a été omis&#xa0;: ce n’est pas un nombre compris entre 1 et 65535.</translation>
     </message>
     <message>
@@ -3263,7 +3270,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Le proxy du compte «&#xa0;%1&#xa0;» a été omis. %2 Le compte est désactivé, afin qu’il ne se connecte pas sans le proxy.</translation>
     </message>
     <message>
-        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are no such settings here: %2.</source>
         <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
         <translation>Des paramètres du compte «&#xa0;%1&#xa0;» ont été omis, car il n’y en a pas d’équivalents ici&#xa0;: %2.</translation>
     </message>

@@ -475,7 +475,7 @@
         <translation>Plik jest uszkodzony lub nie jest plikiem z wyeksportowanymi kontami.</translation>
     </message>
     <message>
-        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <source>The passwords in the file are damaged, so nothing is imported from it.</source>
         <translation>Hasła w pliku są uszkodzone, dlatego nic z niego nie zostanie zaimportowane.</translation>
     </message>
     <message>
@@ -496,7 +496,7 @@
         <translation>Konto nr %1 w pliku jest uszkodzone: nie można użyć wartości „%2”.</translation>
     </message>
     <message>
-        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <source>The file contains the account &quot;%1&quot; (%2) twice.</source>
         <extracomment>%1 = login, %2 = name of a protocol</extracomment>
         <translation>Plik zawiera konto „%1” (%2) dwa razy.</translation>
     </message>
@@ -513,7 +513,7 @@
         <translation>Plik jest uszkodzony: nie ma w nim jego konta głównego.</translation>
     </message>
     <message>
-        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <source>The file contains no passwords that the pass phrase could decrypt. If it should contain some, somebody has changed it.</source>
         <translation>Plik nie zawiera haseł, więc fraza szyfrująca nie ma czego odszyfrować. Jeśli powinny w nim być hasła, ktoś zmienił plik.</translation>
     </message>
     <message>
@@ -521,19 +521,19 @@
         <translation>Pominięto hasła z pliku, ponieważ do ich odczytania potrzebna jest jego fraza szyfrująca.</translation>
     </message>
     <message>
-        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <source>Decrypting the passwords in the file needs more memory or time than is allowed, so nothing is imported from it.</source>
         <translation>Odszyfrowanie haseł w pliku wymaga więcej pamięci lub czasu, niż jest dozwolone, dlatego nic z niego nie zostanie zaimportowane.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open the passwords in the file.</source>
+        <source>There is not enough memory to decrypt the passwords in the file.</source>
         <translation>Za mało pamięci, aby odszyfrować hasła w pliku.</translation>
     </message>
     <message>
-        <source>The pass phrase does not open the passwords in the file.</source>
+        <source>The pass phrase does not decrypt the passwords in the file.</source>
         <translation>Tą frazą szyfrującą nie można odszyfrować haseł w pliku.</translation>
     </message>
     <message>
-        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing is imported from it.</source>
         <translation>Konta w pliku zostały zmienione po jego zapisaniu. Nie pasują już do haseł w pliku, dlatego nic z niego nie zostanie zaimportowane.</translation>
     </message>
     <message>
@@ -600,7 +600,7 @@
         <translation>Nie można ponownie włączyć konta „%1”: zostało usunięte.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <source>The account &quot;%1&quot; cannot be restored to what it was before the import: it was removed.</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>Nie można przywrócić konta „%1” do stanu sprzed importu: zostało usunięte.</translation>
     </message>
@@ -608,7 +608,7 @@
 <context>
     <name>KirvAccountImport</name>
     <message>
-        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <source>The file contains this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
         <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
         <translation>Plik zawiera ten login dwa razy: „%1” jest dla serwera tym samym co „%2”.</translation>
     </message>
@@ -622,13 +622,13 @@
         <translation>Protokół %1 nie jest załadowany.</translation>
     </message>
     <message>
-        <source>Another account with this login was added or removed since.</source>
+        <source>Another account with this login was added or removed in the meantime.</source>
         <translation>W międzyczasie dodano lub usunięto inne konto z tym loginem.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <source>The account &quot;%1&quot; cannot be imported. %2</source>
         <extracomment>%1 = login, %2 = a sentence</extracomment>
-        <translation>Nie można przejąć konta „%1”. %2</translation>
+        <translation>Nie można zaimportować konta „%1”. %2</translation>
     </message>
     <message>
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
@@ -671,7 +671,7 @@
         <translation>Nie ma jeszcze żadnego konta. Dodaj konto, które już masz, zarejestruj nowe lub zaimportuj konta z pliku.</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. There are accounts of Pidgin on this computer.</source>
         <translation>Nie ma jeszcze żadnego konta. Dodaj konto, które już masz, zarejestruj nowe lub zaimportuj konta. Na tym komputerze są konta programu Pidgin.</translation>
     </message>
     <message>
@@ -1221,7 +1221,7 @@
         <translation>Eksport: zastępuje istniejący plik.</translation>
     </message>
     <message>
-        <source>Import: leave the passwords out that are in the file.</source>
+        <source>Import: leave out the passwords that are in the file.</source>
         <translation>Import: pomija hasła, które są w pliku.</translation>
     </message>
     <message>
@@ -1314,7 +1314,7 @@ Znak - zamiast nazwy pliku oznacza standardowe wyjście lub wejście.</translati
         <translation>Nie można użyć opcji --json, gdy plik trafia na standardowe wyjście.</translation>
     </message>
     <message>
-        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <source>A pass phrase is of no use when no passwords are exported or imported.</source>
         <translation>Fraza szyfrująca jest niepotrzebna, gdy hasła nie są przenoszone.</translation>
     </message>
     <message>
@@ -1947,7 +1947,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Wynik</translation>
     </message>
     <message>
-        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <source>Several words that are not related are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it, nobody can read them, not even you.</source>
         <translation>Kilka niezwiązanych ze sobą słów łatwo zapamiętać, a trudno odgadnąć. Kto ma plik i odgadnie frazę szyfrującą, pozna Twoje hasła; bez niej nikt ich nie odczyta, nawet Ty.</translation>
     </message>
     <message>
@@ -1955,7 +1955,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>&amp;Fraza szyfrująca:</translation>
     </message>
     <message>
-        <source>&amp;Repeat it:</source>
+        <source>&amp;Repeat pass phrase:</source>
         <translation>&amp;Powtórz frazę:</translation>
     </message>
     <message>
@@ -1975,7 +1975,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         </translation>
     </message>
     <message>
-        <source>The pass phrase and its repetition must be the same.</source>
+        <source>The two pass phrases must be the same.</source>
         <translation>Fraza szyfrująca i jej powtórzenie muszą być takie same.</translation>
     </message>
     <message>
@@ -2000,11 +2000,11 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         </translation>
     </message>
     <message>
-        <source>No passwords are in the file.</source>
+        <source>The file contains no passwords.</source>
         <translation>W pliku nie ma haseł.</translation>
     </message>
     <message>
-        <source>These are not in the file:</source>
+        <source>The following is not in the file:</source>
         <translation>W pliku nie ma:</translation>
     </message>
 </context>
@@ -2420,7 +2420,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Odczytywanie pliku %1…</translation>
     </message>
     <message>
-        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>Plik %1 zawiera hasła. Wprowadź frazę szyfrującą, którą są zaszyfrowane.</translation>
     </message>
@@ -2430,12 +2430,12 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Nie można zaimportować kont z pliku %1.</translation>
     </message>
     <message>
-        <source>There are no accounts that can be imported in the file %1.</source>
+        <source>The file %1 contains no accounts that can be imported.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>W pliku %1 nie ma kont, które można zaimportować.</translation>
     </message>
     <message>
-        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
         <translation>W pliku %1 są następujące konta. Dopóki ich nie zaimportujesz, nic się nie zmieni, a import można cofnąć.</translation>
     </message>
     <message>
@@ -2455,24 +2455,24 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Nowe</translation>
     </message>
     <message>
-        <source>New, is left out</source>
+        <source>New, will be left out</source>
         <translation>Nowe, zostanie pominięte</translation>
     </message>
     <message>
-        <source>Exists here, is replaced</source>
+        <source>Exists, will be replaced</source>
         <translation>Już istnieje, zostanie zastąpione</translation>
     </message>
     <message>
-        <source>Exists here, is kept</source>
+        <source>Exists, will be kept</source>
         <translation>Już istnieje, pozostanie bez zmian</translation>
     </message>
     <message>
-        <source>Exists here as %1, is replaced</source>
+        <source>Exists as %1, will be replaced</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Już istnieje jako %1, zostanie zastąpione</translation>
     </message>
     <message>
-        <source>Exists here as %1, is kept</source>
+        <source>Exists as %1, will be kept</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Już istnieje jako %1, pozostanie bez zmian</translation>
     </message>
@@ -2482,7 +2482,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>These are not imported:</source>
+        <source>The following is not imported:</source>
         <translation>Nie zostaną zaimportowane:</translation>
     </message>
 </context>
@@ -3085,15 +3085,15 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Nie można odczytać pliku „%1”: %2</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
         <translation>Plik „%1” jest za duży jak na plik z kontami.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
         <translation>„%1” nie jest plikiem, który można zastąpić.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
         <translation>Plik „%1” już istnieje. Aby go zastąpić, użyj opcji --force.</translation>
     </message>
     <message>
@@ -3143,40 +3143,47 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
 <context>
     <name>KirvPassPhraseInput</name>
     <message>
-        <source>file descriptor %1</source>
-        <extracomment>%1 = number</extracomment>
-        <translation>deskryptor pliku %1</translation>
+        <source>The pass phrase cannot be read from file descriptor %1.</source>
+        <translation>Nie można odczytać frazy szyfrującej z deskryptora pliku %1.</translation>
     </message>
     <message>
-        <source>The pass phrase cannot be read from %1.</source>
-        <translation>Nie można odczytać frazy szyfrującej (%1).</translation>
+        <source>The pass phrase from file descriptor %1 is too long.</source>
+        <translation>Fraza szyfrująca z deskryptora pliku %1 jest za długa.</translation>
     </message>
     <message>
-        <source>The pass phrase in %1 is too long.</source>
-        <translation>Fraza szyfrująca jest za długa (%1).</translation>
+        <source>There is no pass phrase to be read from file descriptor %1.</source>
+        <translation>Brak frazy szyfrującej do odczytania z deskryptora pliku %1.</translation>
     </message>
     <message>
-        <source>There is no pass phrase in %1.</source>
-        <translation>Brak frazy szyfrującej (%1).</translation>
+        <source>The pass phrase cannot be read from the file &quot;%1&quot;.</source>
+        <translation>Nie można odczytać frazy szyfrującej z pliku „%1”.</translation>
     </message>
     <message>
-        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <source>The pass phrase in the file &quot;%1&quot; is too long.</source>
+        <translation>Fraza szyfrująca w pliku „%1” jest za długa.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in the file &quot;%1&quot;.</source>
+        <translation>Brak frazy szyfrującej w pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or --pass-phrase-fd.</source>
         <translation>Potrzebna jest fraza szyfrująca, a nie ma terminala, na którym można ją wpisać. Podaj ją za pomocą opcji --pass-phrase-file lub --pass-phrase-fd.</translation>
     </message>
     <message>
-        <source>Pass phrase of the file: </source>
+        <source>Pass phrase for the file: </source>
         <translation>Fraza szyfrująca pliku: </translation>
     </message>
     <message>
-        <source>No pass phrase was typed.</source>
+        <source>No pass phrase was entered.</source>
         <translation>Nie wpisano frazy szyfrującej.</translation>
     </message>
     <message>
-        <source>The same again: </source>
+        <source>Repeat the pass phrase: </source>
         <translation>Powtórz frazę: </translation>
     </message>
     <message>
-        <source>The pass phrase was not typed twice in the same way.</source>
+        <source>The two pass phrases are not the same.</source>
         <translation>Wpisane frazy szyfrujące różnią się od siebie.</translation>
     </message>
 </context>
@@ -3254,11 +3261,11 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Konto „%1” nie wysyła już hasła bez szyfrowania.</translation>
     </message>
     <message>
-        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <source>The server of the account &quot;%1&quot; was left out: it is not the name or address of a server.</source>
         <translation>Pominięto serwer konta „%1”: nie jest to nazwa ani adres serwera.</translation>
     </message>
     <message>
-        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <source>The port of the account &quot;%1&quot; was left out: it is not a number from 1 to 65535.</source>
         <translation>Pominięto port konta „%1”: nie jest to liczba od 1 do 65535.</translation>
     </message>
     <message>
@@ -3284,7 +3291,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Pominięto serwer proxy konta „%1”. %2 Konto jest wyłączone, aby nie łączyło się bez serwera proxy.</translation>
     </message>
     <message>
-        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are no such settings here: %2.</source>
         <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
         <translation>Pominięto ustawienia konta „%1”, ponieważ nie mają tu odpowiedników: %2.</translation>
     </message>

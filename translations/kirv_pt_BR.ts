@@ -470,7 +470,7 @@
         <translation>O arquivo está danificado ou não é um arquivo de contas exportadas.</translation>
     </message>
     <message>
-        <source>The passwords in the file are damaged, so nothing of it is imported.</source>
+        <source>The passwords in the file are damaged, so nothing is imported from it.</source>
         <translation>As senhas do arquivo estão danificadas, portanto nada dele é importado.</translation>
     </message>
     <message>
@@ -491,7 +491,7 @@
         <translation>A conta %1 do arquivo está danificada: “%2” não pode ser usado.</translation>
     </message>
     <message>
-        <source>The file has the account &quot;%1&quot; (%2) twice.</source>
+        <source>The file contains the account &quot;%1&quot; (%2) twice.</source>
         <extracomment>%1 = login, %2 = name of a protocol</extracomment>
         <translation>A conta “%1” (%2) está duas vezes no arquivo.</translation>
     </message>
@@ -508,7 +508,7 @@
         <translation>O arquivo está danificado: ele não contém a sua conta principal.</translation>
     </message>
     <message>
-        <source>The file has no passwords, so there is nothing that the pass phrase opens. If it should have some, somebody has changed it.</source>
+        <source>The file contains no passwords that the pass phrase could decrypt. If it should contain some, somebody has changed it.</source>
         <translation>O arquivo não tem senhas, portanto não há nada que a frase secreta abra. Se ele deveria ter senhas, alguém o alterou.</translation>
     </message>
     <message>
@@ -516,19 +516,19 @@
         <translation>As senhas do arquivo foram omitidas, pois precisam da frase secreta dele.</translation>
     </message>
     <message>
-        <source>Opening the passwords in the file needs more memory or time than is allowed, so nothing of it is imported.</source>
+        <source>Decrypting the passwords in the file needs more memory or time than is allowed, so nothing is imported from it.</source>
         <translation>Abrir as senhas do arquivo exige mais memória ou tempo do que o permitido, portanto nada dele é importado.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open the passwords in the file.</source>
+        <source>There is not enough memory to decrypt the passwords in the file.</source>
         <translation>Não há memória suficiente para abrir as senhas do arquivo.</translation>
     </message>
     <message>
-        <source>The pass phrase does not open the passwords in the file.</source>
+        <source>The pass phrase does not decrypt the passwords in the file.</source>
         <translation>A frase secreta não abre as senhas do arquivo.</translation>
     </message>
     <message>
-        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing of it is imported.</source>
+        <source>The accounts in the file were changed after it was written. They do not belong to its passwords any more, so nothing is imported from it.</source>
         <translation>As contas do arquivo foram alteradas depois que ele foi gravado. Elas não correspondem mais às senhas dele, portanto nada dele é importado.</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@
         <translation>A conta “%1” não pode ser reativada: ela foi removida.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot become what it was before the import: it was removed.</source>
+        <source>The account &quot;%1&quot; cannot be restored to what it was before the import: it was removed.</source>
         <extracomment>%1 = name of an account</extracomment>
         <translation>A conta “%1” não pode voltar a ser como era antes da importação: ela foi removida.</translation>
     </message>
@@ -600,7 +600,7 @@
 <context>
     <name>KirvAccountImport</name>
     <message>
-        <source>The file has this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
+        <source>The file contains this login twice: &quot;%1&quot; is the same as &quot;%2&quot; to the server.</source>
         <extracomment>%1 and %2 are logins, which may be spelt the same</extracomment>
         <translation>O arquivo tem este nome de usuário duas vezes: para o servidor, “%1” é o mesmo que “%2”.</translation>
     </message>
@@ -614,11 +614,11 @@
         <translation>O protocolo %1 não está carregado.</translation>
     </message>
     <message>
-        <source>Another account with this login was added or removed since.</source>
+        <source>Another account with this login was added or removed in the meantime.</source>
         <translation>Nesse meio-tempo, outra conta com este nome de usuário foi adicionada ou removida.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; cannot be taken over. %2</source>
+        <source>The account &quot;%1&quot; cannot be imported. %2</source>
         <extracomment>%1 = login, %2 = a sentence</extracomment>
         <translation>A conta “%1” não pode ser importada. %2</translation>
     </message>
@@ -663,7 +663,7 @@
         <translation>Ainda não há nenhuma conta. Adicione uma que você já tem, registre uma nova ou importe contas de um arquivo.</translation>
     </message>
     <message>
-        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. Pidgin has accounts on this computer.</source>
+        <source>There is no account yet. Add one that you already have, register a new one, or import accounts. There are accounts of Pidgin on this computer.</source>
         <translation>Ainda não há nenhuma conta. Adicione uma que você já tem, registre uma nova ou importe contas. O Pidgin tem contas neste computador.</translation>
     </message>
     <message>
@@ -1206,7 +1206,7 @@
         <translation>Exportar: sobrescrever o arquivo se ele já existir.</translation>
     </message>
     <message>
-        <source>Import: leave the passwords out that are in the file.</source>
+        <source>Import: leave out the passwords that are in the file.</source>
         <translation>Importar: omitir as senhas que estiverem no arquivo.</translation>
     </message>
     <message>
@@ -1299,7 +1299,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>A opção --json não pode ser usada quando o arquivo vai para a saída padrão.</translation>
     </message>
     <message>
-        <source>A pass phrase is of no use when no passwords are taken along.</source>
+        <source>A pass phrase is of no use when no passwords are exported or imported.</source>
         <translation>Uma frase secreta não tem utilidade quando nenhuma senha é incluída.</translation>
     </message>
     <message>
@@ -1930,7 +1930,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Resultado</translation>
     </message>
     <message>
-        <source>Several words that do not belong together are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it nobody can read them, not even you.</source>
+        <source>Several words that are not related are easy to remember and hard to guess. Whoever has the file and guesses the pass phrase has your passwords; without it, nobody can read them, not even you.</source>
         <translation>Várias palavras sem relação entre si são fáceis de lembrar e difíceis de adivinhar. Quem tiver o arquivo e adivinhar a frase secreta terá as suas senhas; sem ela ninguém pode lê-las, nem mesmo você.</translation>
     </message>
     <message>
@@ -1938,7 +1938,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Fra&amp;se secreta:</translation>
     </message>
     <message>
-        <source>&amp;Repeat it:</source>
+        <source>&amp;Repeat pass phrase:</source>
         <translation>&amp;Repetir a frase:</translation>
     </message>
     <message>
@@ -1957,7 +1957,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         </translation>
     </message>
     <message>
-        <source>The pass phrase and its repetition must be the same.</source>
+        <source>The two pass phrases must be the same.</source>
         <translation>A frase secreta e a sua repetição devem ser iguais.</translation>
     </message>
     <message>
@@ -1981,11 +1981,11 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         </translation>
     </message>
     <message>
-        <source>No passwords are in the file.</source>
+        <source>The file contains no passwords.</source>
         <translation>O arquivo não contém senhas.</translation>
     </message>
     <message>
-        <source>These are not in the file:</source>
+        <source>The following is not in the file:</source>
         <translation>O seguinte não está no arquivo:</translation>
     </message>
 </context>
@@ -2401,7 +2401,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Lendo o arquivo %1…</translation>
     </message>
     <message>
-        <source>The file %1 has passwords in it. Enter the pass phrase with which they are encrypted.</source>
+        <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>O arquivo %1 contém senhas. Digite a frase secreta com a qual elas estão criptografadas.</translation>
     </message>
@@ -2411,12 +2411,12 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>As contas do arquivo %1 não podem ser importadas.</translation>
     </message>
     <message>
-        <source>There are no accounts that can be imported in the file %1.</source>
+        <source>The file %1 contains no accounts that can be imported.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>Não há contas que possam ser importadas no arquivo %1.</translation>
     </message>
     <message>
-        <source>These accounts are in the file %1. Nothing is changed before you import them, and the import can be undone.</source>
+        <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
         <translation>Estas contas estão no arquivo %1. Nada é alterado antes que você as importe, e a importação pode ser desfeita.</translation>
     </message>
     <message>
@@ -2435,24 +2435,24 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Nova</translation>
     </message>
     <message>
-        <source>New, is left out</source>
+        <source>New, will be left out</source>
         <translation>Nova, será omitida</translation>
     </message>
     <message>
-        <source>Exists here, is replaced</source>
+        <source>Exists, will be replaced</source>
         <translation>Existe aqui, será substituída</translation>
     </message>
     <message>
-        <source>Exists here, is kept</source>
+        <source>Exists, will be kept</source>
         <translation>Existe aqui, será mantida</translation>
     </message>
     <message>
-        <source>Exists here as %1, is replaced</source>
+        <source>Exists as %1, will be replaced</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Existe aqui como %1, será substituída</translation>
     </message>
     <message>
-        <source>Exists here as %1, is kept</source>
+        <source>Exists as %1, will be kept</source>
         <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
         <translation>Existe aqui como %1, será mantida</translation>
     </message>
@@ -2462,7 +2462,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>These are not imported:</source>
+        <source>The following is not imported:</source>
         <translation>O seguinte não é importado:</translation>
     </message>
 </context>
@@ -3064,15 +3064,15 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>O arquivo “%1” não pode ser lido: %2</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be one with accounts.</source>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
         <translation>O arquivo “%1” é grande demais para ser um arquivo de contas.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no file that can be overwritten.</source>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
         <translation>“%1” não é um arquivo que possa ser sobrescrito.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is there already. It is overwritten with --force.</source>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
         <translation>O arquivo “%1” já existe. Com --force, ele é sobrescrito.</translation>
     </message>
     <message>
@@ -3122,40 +3122,47 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
 <context>
     <name>KirvPassPhraseInput</name>
     <message>
-        <source>file descriptor %1</source>
-        <extracomment>%1 = number</extracomment>
-        <translation>descritor de arquivo %1</translation>
+        <source>The pass phrase cannot be read from file descriptor %1.</source>
+        <translation>A frase secreta não pode ser lida do descritor de arquivo %1.</translation>
     </message>
     <message>
-        <source>The pass phrase cannot be read from %1.</source>
-        <translation>A frase secreta não pode ser lida de %1.</translation>
+        <source>The pass phrase from file descriptor %1 is too long.</source>
+        <translation>A frase secreta lida do descritor de arquivo %1 é longa demais.</translation>
     </message>
     <message>
-        <source>The pass phrase in %1 is too long.</source>
-        <translation>A frase secreta em %1 é longa demais.</translation>
+        <source>There is no pass phrase to be read from file descriptor %1.</source>
+        <translation>Não há nenhuma frase secreta para ler do descritor de arquivo %1.</translation>
     </message>
     <message>
-        <source>There is no pass phrase in %1.</source>
-        <translation>Não há nenhuma frase secreta em %1.</translation>
+        <source>The pass phrase cannot be read from the file &quot;%1&quot;.</source>
+        <translation>A frase secreta não pode ser lida do arquivo “%1”.</translation>
     </message>
     <message>
-        <source>A pass phrase is needed, and there is no terminal to type it on. Give it with --pass-phrase-file or --pass-phrase-fd.</source>
+        <source>The pass phrase in the file &quot;%1&quot; is too long.</source>
+        <translation>A frase secreta no arquivo “%1” é longa demais.</translation>
+    </message>
+    <message>
+        <source>There is no pass phrase in the file &quot;%1&quot;.</source>
+        <translation>Não há nenhuma frase secreta no arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>A pass phrase is needed, and there is no terminal to enter it on. Use --pass-phrase-file or --pass-phrase-fd.</source>
         <translation>É necessária uma frase secreta, e não há nenhum terminal em que digitá-la. Informe-a com --pass-phrase-file ou --pass-phrase-fd.</translation>
     </message>
     <message>
-        <source>Pass phrase of the file: </source>
+        <source>Pass phrase for the file: </source>
         <translation>Frase secreta do arquivo: </translation>
     </message>
     <message>
-        <source>No pass phrase was typed.</source>
+        <source>No pass phrase was entered.</source>
         <translation>Nenhuma frase secreta foi digitada.</translation>
     </message>
     <message>
-        <source>The same again: </source>
+        <source>Repeat the pass phrase: </source>
         <translation>A mesma novamente: </translation>
     </message>
     <message>
-        <source>The pass phrase was not typed twice in the same way.</source>
+        <source>The two pass phrases are not the same.</source>
         <translation>A frase secreta não foi digitada igual nas duas vezes.</translation>
     </message>
 </context>
@@ -3233,11 +3240,11 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>A conta “%1” não envia mais a senha sem criptografia.</translation>
     </message>
     <message>
-        <source>The server of the account &quot;%1&quot; was left out: it is no name or address of a server.</source>
+        <source>The server of the account &quot;%1&quot; was left out: it is not the name or address of a server.</source>
         <translation>O servidor da conta “%1” foi omitido: ele não é um nome nem um endereço de servidor.</translation>
     </message>
     <message>
-        <source>The port of the account &quot;%1&quot; was left out: it is no number from 1 to 65535.</source>
+        <source>The port of the account &quot;%1&quot; was left out: it is not a number from 1 to 65535.</source>
         <translation>A porta da conta “%1” foi omitida: ela não é um número de 1 a 65535.</translation>
     </message>
     <message>
@@ -3263,7 +3270,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>O proxy da conta “%1” foi omitido. %2 A conta está desativada, para que não se conecte sem o proxy.</translation>
     </message>
     <message>
-        <source>Settings of the account &quot;%1&quot; were left out, as there are none like them: %2.</source>
+        <source>Settings of the account &quot;%1&quot; were left out, as there are no such settings here: %2.</source>
         <extracomment>%1 = login, %2 = names, separated by commas</extracomment>
         <translation>Configurações da conta “%1” foram omitidas, pois não há configurações equivalentes aqui: %2.</translation>
     </message>

@@ -3,12 +3,36 @@
 #include "core/accounts/kirv_account_batch.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_fields.h"
+#include "core/accounts/kirv_open_settings.h"
 #include "core/store/kirv_settings_table.h"
 #include "core/store/kirv_store.h"
 
 #include <QFile>
 #include <QTemporaryFile>
 #include <algorithm>
+
+namespace {
+
+/// The secrets before count until the keyring has those that replace them, as the program may end meanwhile. They are
+/// for the server before, though, and go to no other.
+bool storeReplacement(KirvStore &store, const KirvAccountRecord &before, const KirvAccountRecord &record)
+{
+    if (!store.updateAccount(record))
+        return false;
+    if (kirvOpenSettings(record) == kirvOpenSettings(before))
+        return true;
+    QStringList obsolete;
+    for (auto item = record.secretItems.constBegin(); item != record.secretItems.constEnd(); ++item) {
+        const QString kept = store.secretItem(record.key, item.key(), KirvStoredItem::Kept).key;
+        if (!store.lastError().isEmpty())
+            return false;
+        if (!kept.isEmpty() && kept != item->key)
+            obsolete << kept;
+    }
+    return obsolete.isEmpty() || store.makeItemsObsolete(obsolete);
+}
+
+} // namespace
 
 /// A batch with its secrets and pictures in their places.
 struct KirvAccountCollection::PlacedBatch {
@@ -147,7 +171,9 @@ bool KirvAccountCollection::storeBatch(const KirvAccountBatch &batch, const Plac
     if (!store.begin())
         return false;
     const auto insert = [this](const KirvAccountRecord &record) { return store.insertAccount(record); };
-    const auto update = [this](const KirvAccountRecord &record) { return store.updateAccount(record); };
+    const auto update = [this](const KirvAccountRecord &record) {
+        return storeReplacement(store, find(record.key)->record(), record);
+    };
     const auto remove = [this](const KirvAccount *account) { return store.removeAccount(account->key()); };
     if (std::all_of(placed.added.begin(), placed.added.end(), insert) && storeOrder(placed)
         && std::all_of(placed.replaced.begin(), placed.replaced.end(), update)

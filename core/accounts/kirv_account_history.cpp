@@ -259,7 +259,8 @@ QString KirvAccountHistory::addTo(KirvAccountBatch *batch, Kind kind, const Chan
         return accounts.problemWithNew(key);
     if (kind == Import && !account) {
         //: %1 = name of an account
-        return tr("The account \"%1\" cannot become what it was before the import: it was removed.").arg(change.name);
+        return tr("The account \"%1\" cannot be restored to what it was before the import: it was removed.")
+            .arg(change.name);
     }
     (kind == Removal ? batch->added : batch->replaced) << change.account;
     if (change.wasMain && change.account.record.enabled)

@@ -108,7 +108,7 @@ QString notSuchAFile()
 
 QString damagedSecrets()
 {
-    return KirvAccountFile::tr("The passwords in the file are damaged, so nothing of it is imported.");
+    return KirvAccountFile::tr("The passwords in the file are damaged, so nothing is imported from it.");
 }
 
 /// The object in \a bytes when they are a file of exported accounts; what else they are is in \a problem.
@@ -200,7 +200,8 @@ QString Reader::readAccount(const QJsonValue &json)
     const KirvAccountKey &key = account.record.key;
     if (keys.contains(key)) {
         //: %1 = login, %2 = name of a protocol
-        return KirvAccountFile::tr("The file has the account \"%1\" (%2) twice.").arg(nameOf(key), protocolOf(key));
+        return KirvAccountFile::tr("The file contains the account \"%1\" (%2) twice.")
+            .arg(nameOf(key), protocolOf(key));
     }
     if (isPictureTooLarge(account.picture)) {
         return KirvAccountFile::tr("The picture of the account \"%1\" (%2) in the file is too large.")
@@ -232,8 +233,8 @@ QString Reader::readSecrets()
     if (!file.contains(secrets)) {
         return passPhrase.isEmpty()
             ? QString()
-            : KirvAccountFile::tr("The file has no passwords, so there is nothing that the pass phrase opens. If it "
-                                  "should have some, somebody has changed it.");
+            : KirvAccountFile::tr("The file contains no passwords that the pass phrase could decrypt. If it should "
+                                  "contain some, somebody has changed it.");
     }
     const KirvSecretBox::Outcome checked = KirvSecretBox::check(file.value(secrets).toObject());
     if (checked != KirvSecretBox::Done)
@@ -252,15 +253,15 @@ QString Reader::sentence(KirvSecretBox::Outcome outcome)
     case KirvSecretBox::Damaged:
         return damagedSecrets();
     case KirvSecretBox::TooExpensive:
-        return KirvAccountFile::tr("Opening the passwords in the file needs more memory or time than is allowed, so "
-                                   "nothing of it is imported.");
+        return KirvAccountFile::tr("Decrypting the passwords in the file needs more memory or time than is allowed, so "
+                                   "nothing is imported from it.");
     case KirvSecretBox::NoMemory:
-        return KirvAccountFile::tr("There is not enough memory to open the passwords in the file.");
+        return KirvAccountFile::tr("There is not enough memory to decrypt the passwords in the file.");
     case KirvSecretBox::WrongPassPhrase:
         break;
     }
     wrongPassPhrase = true;
-    return KirvAccountFile::tr("The pass phrase does not open the passwords in the file.");
+    return KirvAccountFile::tr("The pass phrase does not decrypt the passwords in the file.");
 }
 
 QString Reader::openSecrets()
@@ -283,7 +284,7 @@ QString Reader::readOpened(const QByteArray &content)
         return damagedSecrets();
     if (opened.value(binding).toString() != bindingOf(file))
         return KirvAccountFile::tr("The accounts in the file were changed after it was written. They do not belong to "
-                                   "its passwords any more, so nothing of it is imported.");
+                                   "its passwords any more, so nothing is imported from it.");
     if (list.size() != moved.accounts.size())
         return damagedSecrets();
     for (int index = 0; index < list.size(); ++index) {

@@ -5,6 +5,7 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
+#include "core/accounts/kirv_open_settings.h"
 #include "core/values/kirv_bounded_image.h"
 #include "core/values/kirv_single_line.h"
 #include "core/values/kirv_text_limit.h"
@@ -20,17 +21,6 @@ namespace {
 QString shown(const QString &name)
 {
     return kirvVisibleText(kirvSingleLine(name, kirvLongestShownName));
-}
-
-/// The settings that say where and how an account connects, without the secret ones and those of the core.
-QMap<QString, QString> openSettings(const KirvAccountRecord &record)
-{
-    QMap<QString, QString> open = record.settings;
-    for (const QString &secret : record.secretSettings)
-        open.remove(secret);
-    for (const QLatin1String &own : { KirvOwnSetting::avatarOnServer, KirvOwnSetting::avatarIsChosen })
-        open.remove(own);
-    return open;
 }
 
 /// What \a record lacks of the secrets of \a before stays as it is there.
@@ -114,7 +104,7 @@ void KirvAccountImport::makeRows()
         row.problem = problemOf(row);
         if (row.problem.isEmpty() && !twin.isEmpty()) {
             //: %1 and %2 are logins, which may be spelt the same
-            row.problem = tr("The file has this login twice: \"%1\" is the same as \"%2\" to the server.")
+            row.problem = tr("The file contains this login twice: \"%1\" is the same as \"%2\" to the server.")
                               .arg(shown(record.key.id), shown(twin));
         }
         row.isTaken = row.problem.isEmpty() && row.isNew();
@@ -168,10 +158,11 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
             continue;
         const KirvMovedAccount &source = moved.accounts.at(index);
         const bool isSame = accounts.idWithSameLogin(row.key) == row.existing.id;
-        *problem = isSame ? problemOf(row) : tr("Another account with this login was added or removed since.");
+        *problem =
+            isSame ? problemOf(row) : tr("Another account with this login was added or removed in the meantime.");
         if (!problem->isEmpty()) {
             //: %1 = login, %2 = a sentence
-            *problem = tr("The account \"%1\" cannot be taken over. %2").arg(shown(row.key.id), *problem);
+            *problem = tr("The account \"%1\" cannot be imported. %2").arg(shown(row.key.id), *problem);
             return false;
         }
         KirvRemovedAccount account;
@@ -188,7 +179,7 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
         // A file, which anybody may have written, sends no password of this profile to another server.
-        if (openSettings(account.record) == openSettings(complete(before.record))) {
+        if (kirvOpenSettings(account.record) == kirvOpenSettings(complete(before.record))) {
             keepSecrets(&account.record, before.record);
             account.record.trustedCertificate = before.record.trustedCertificate;
         }

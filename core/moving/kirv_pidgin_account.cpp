@@ -210,8 +210,8 @@ void Translation::translateServer()
     if (isServer(server)) {
         result.record.settings.insert(Ours::server, server);
     } else if (!server.isEmpty() || (has("connect_server") && !isOfType("connect_server", "string"))) {
-        leaveOut(
-            tr("The server of the account \"%1\" was left out: it is no name or address of a server.").arg(name()));
+        leaveOut(tr("The server of the account \"%1\" was left out: it is not the name or address of a server.")
+                     .arg(name()));
     }
 }
 
@@ -223,7 +223,7 @@ void Translation::translatePort(int fallback)
     if (isNumber && port > 0 && port <= 65535)
         result.record.settings.insert(Ours::port, QString::number(port));
     else if (has("port"))
-        leaveOut(tr("The port of the account \"%1\" was left out: it is no number from 1 to 65535.").arg(name()));
+        leaveOut(tr("The port of the account \"%1\" was left out: it is not a number from 1 to 65535.").arg(name()));
     else if (fallback > 0)
         result.record.settings.insert(Ours::port, QString::number(fallback));
 }
@@ -329,7 +329,7 @@ void Translation::listOthers()
     if (names.size() > mostNamedSettings)
         names = names.mid(0, mostNamedSettings) << QStringLiteral("\u2026");
     //: %1 = login, %2 = names, separated by commas
-    leaveOut(tr("Settings of the account \"%1\" were left out, as there are none like them: %2.")
+    leaveOut(tr("Settings of the account \"%1\" were left out, as there are no such settings here: %2.")
                  .arg(name(), names.join(QStringLiteral(", "))));
 }
 

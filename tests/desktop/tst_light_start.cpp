@@ -2,6 +2,7 @@
 #include "client/kirv_application.h"
 #include "client/kirv_client.h"
 #include "client/kirv_settings_window.h"
+#include "tests/support/kirv_patience.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,7 +37,7 @@ void tst_LightStart::windowDoesWithoutOpenGL()
     KirvClient client(options);
     QVERIFY2(client.start(), qPrintable(client.errorString()));
     client.window()->show();
-    QVERIFY(QTest::qWaitForWindowExposed(client.window()));
+    QVERIFY(QTest::qWaitForWindowExposed(client.window(), kirvPatience));
     QVERIFY(mappedFiles().contains("/platforms/libqxcb.so"));
     QVERIFY(!mappedFiles().contains("/xcbglintegrations/"));
 }

@@ -206,7 +206,7 @@ void tst_AccountFileSecrets::onlyThePassPhraseOpensThem()
     const QByteArray file = written();
     const KirvAccountFile::Result result = KirvAccountFile::read(file, phrase);
     QVERIFY(result.wrongPassPhrase);
-    QVERIFY2(result.problem.contains(QStringLiteral("pass phrase does not open")), qPrintable(result.problem));
+    QVERIFY2(result.problem.contains(QStringLiteral("pass phrase does not decrypt")), qPrintable(result.problem));
     QVERIFY(result.accounts.accounts.isEmpty());
     QVERIFY(isSameResult(KirvAccountFile::read(file, passPhrase), sampleAccounts()));
 }
@@ -436,7 +436,7 @@ void tst_AccountFileSecrets::removedEncryptionIsNoticed()
     QJsonObject file = toJson(written());
     file.remove(secrets);
     const KirvAccountFile::Result result = KirvAccountFile::read(toBytes(file), passPhrase);
-    QVERIFY2(result.problem.contains(QStringLiteral("has no passwords")), qPrintable(result.problem));
+    QVERIFY2(result.problem.contains(QStringLiteral("contains no passwords")), qPrintable(result.problem));
     QVERIFY(result.accounts.accounts.isEmpty() && !result.wrongPassPhrase);
     QVERIFY(!KirvAccountFile::hasSecrets(toBytes(file)));
 }

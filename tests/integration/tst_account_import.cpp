@@ -88,6 +88,8 @@ private Q_SLOTS:
     void accountsRemovedSinceDoNotHinderUndoing();
     void secretsGoToTheKeyring();
     void undoingReturnsSecretsOfTheKeyring();
+    void secretsBeforeGoToNoOtherServer_data();
+    void secretsBeforeGoToNoOtherServer();
     void undoingAfterTheKeyringIsGone();
     void lockedSecretsStayAndComeBack();
     void importThatIsUndoneLeavesNoSecretOnTheDisk();
@@ -207,7 +209,8 @@ void tst_AccountImport::rowsSayWhatHinders_data()
 {
     QTest::addColumn<QStringList>("logins"); ///< "login" or "login protocol"
     QTest::addColumn<QStringList>("problems");
-    const QString twice = QStringLiteral("The file has this login twice: \"%1\" is the same as \"%2\" to the server.");
+    const QString twice =
+        QStringLiteral("The file contains this login twice: \"%1\" is the same as \"%2\" to the server.");
     const QString odd = QStringLiteral("odd");
     QTest::newRow("new ones") << QStringList { dora, eve } << QStringList { "", "" };
     QTest::newRow("existing") << QStringList { bob, "BOB" } << QStringList { "", twice.arg("BOB", bob) };
@@ -523,8 +526,8 @@ void tst_AccountImport::accountThatWasAddedSinceIsNotTouched()
     QString problem;
     QVERIFY(!importing.apply(&problem));
     QCOMPARE(problem,
-             QStringLiteral("The account \"eve\" cannot be taken over. Another account with this login was added or "
-                            "removed since."));
+             QStringLiteral("The account \"eve\" cannot be imported. Another account with this login was added or "
+                            "removed in the meantime."));
     QCOMPARE(order(), QStringList({ ann, bob, cleo, eve }));
     QCOMPARE(core->account(eve)->record().alias, QStringLiteral("Alias of eve"));
 }
@@ -536,7 +539,7 @@ void tst_AccountImport::accountThatWasRemovedSinceEndsTheImport()
     QVERIFY(core->accounts->remove(core->account(bob)));
     QString problem;
     QVERIFY(!importing.apply(&problem));
-    QVERIFY(problem.startsWith("The account \"bob\" cannot be taken over."));
+    QVERIFY(problem.startsWith("The account \"bob\" cannot be imported."));
     QCOMPARE(order(), QStringList({ ann, cleo }));
 }
 
@@ -546,7 +549,7 @@ void tst_AccountImport::protocolThatWasUnloadedSinceEndsTheImport()
     core->accounts->protocolAboutToBeUnloaded(core->fake);
     QString problem;
     QVERIFY(!importing.apply(&problem));
-    QCOMPARE(problem, QStringLiteral("The account \"eve\" cannot be taken over. The protocol Fake is not loaded."));
+    QCOMPARE(problem, QStringLiteral("The account \"eve\" cannot be imported. The protocol Fake is not loaded."));
     QCOMPARE(order(), QStringList({ ann, bob, cleo }));
 }
 
@@ -703,7 +706,8 @@ void tst_AccountImport::accountsRemovedSinceDoNotHinderUndoing()
     const int step = history->latest();
     QVERIFY(core->accounts->remove({ core->account(bob), core->account(dora) }));
     QCOMPARE(history->undo(step),
-             QStringList { "The account \"Moved bob\" cannot become what it was before the import: it was removed." });
+             QStringList {
+                 "The account \"Moved bob\" cannot be restored to what it was before the import: it was removed." });
     QCOMPARE(order(), QStringList({ ann, cleo }));
     QCOMPARE(core->account(cleo)->record().alias, QStringLiteral("Alias of cleo"));
     QVERIFY(!history->has(step));
@@ -735,6 +739,37 @@ void tst_AccountImport::undoingReturnsSecretsOfTheKeyring()
     QCOMPARE(core->account(bob)->record().password, QStringLiteral("in the keyring"));
     QCOMPARE(keyring->secrets.value(core->account(bob)->record().secretItems.value(QString()).key),
              QStringLiteral("in the keyring"));
+}
+
+void tst_AccountImport::secretsBeforeGoToNoOtherServer_data()
+{
+    QTest::addColumn<QString>("server"); ///< of the file
+    QTest::addColumn<QString>("password"); ///< that counts at the next start
+    QTest::newRow("another server") << QStringLiteral("moved.example") << QString();
+    QTest::newRow("the same server") << QStringLiteral("localhost") << QStringLiteral("in the keyring");
+}
+
+/// The program ends before the keyring has the secrets of the file.
+void tst_AccountImport::secretsBeforeGoToNoOtherServer()
+{
+    QFETCH(QString, server);
+    keyring = std::make_unique<KirvFakeSecretStore>();
+    core->accounts->secrets().setKeyring(keyring.get());
+    core->account(bob)->setPassword(QStringLiteral("in the keyring"));
+    KIRV_TRY(secretsInKeyring().contains("in the keyring"));
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
+    KirvMovedAccounts accounts = movedAccounts({ bob });
+    accounts.accounts.first().record.settings.insert(QStringLiteral("server"), server);
+    keyring->isHeld = true;
+    importAll(accounts);
+    QCOMPARE(core->account(bob)->record().password, QStringLiteral("moved word of bob"));
+    history.reset();
+    keyring->isHeld = false;
+    core->restart(true, [this] { core->accounts->secrets().setKeyring(keyring.get()); });
+    KIRV_TRY(!core->account(bob)->awaitsPassword());
+    QTEST(core->account(bob)->record().password, "password");
+    KIRV_TRY(core->store.unsettledItems().isEmpty());
+    QCOMPARE(secretsInKeyring().contains("in the keyring"), !core->account(bob)->record().password.isEmpty());
 }
 
 void tst_AccountImport::undoingAfterTheKeyringIsGone()

@@ -481,9 +481,9 @@ void tst_AccountsCommand::passPhraseIsTypedWithoutAnEcho()
     const auto type = [&](const QByteArray &keys) {
         return ::write(terminal, keys.constData(), size_t(keys.size())) == keys.size();
     };
-    QVERIFY(showUntil("Pass phrase of the file: "));
+    QVERIFY(showUntil("Pass phrase for the file: "));
     QVERIFY(type("wrong\x15" + phrase.toUtf8() + "x\x7f\r"));
-    QVERIFY(showUntil("The same again: "));
+    QVERIFY(showUntil("Repeat the pass phrase: "));
     QVERIFY(type(phrase.toUtf8() + "\r"));
     QVERIFY(showUntil("exported"));
     int status = 0;

@@ -183,7 +183,7 @@ void tst_ExportWindow::allAccountsAreChosenAtFirst()
     exportTo(target());
     QCOMPARE(loginsIn(read().accounts), QStringList({ ann, bob, cleo }));
     QVERIFY2(outcome().contains(target()), qPrintable(outcome()));
-    QVERIFY(outcome().contains(QLatin1String("No passwords")));
+    QVERIFY(outcome().contains(QLatin1String("no passwords")));
 }
 
 void tst_ExportWindow::chosenAccountsAreInTheFile()
@@ -328,7 +328,7 @@ void tst_ExportWindow::passwordsGoEncrypted()
     QCOMPARE(part<QLineEdit>("PassPhrase")->echoMode(), QLineEdit::Password);
     QCOMPARE(part<QLineEdit>("Repetition")->echoMode(), QLineEdit::Password);
     exportTo(target());
-    QVERIFY2(!outcome().contains(QLatin1String("No passwords")), qPrintable(outcome()));
+    QVERIFY2(!outcome().contains(QLatin1String("no passwords")), qPrintable(outcome()));
     QVERIFY(KirvAccountFile::hasSecrets(contentOf(target())));
     QVERIFY(!contentOf(target()).contains("secret\""));
     QCOMPARE(read(phrase).accounts.accounts.first().record.password, QStringLiteral("secret"));

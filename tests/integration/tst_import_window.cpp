@@ -250,7 +250,7 @@ void tst_ImportWindow::existingAccountIsKeptUnlessChosen()
     windows->addAccount(ann);
     choose(writeAccounts({ moved(ann), moved(bob) }));
     KIRV_TRY(isListing());
-    QCOMPARE(row(ann)->text(2), QStringLiteral("Exists here, is kept"));
+    QCOMPARE(row(ann)->text(2), QStringLiteral("Exists, will be kept"));
     QCOMPARE(row(ann)->checkState(0), Qt::Unchecked);
     QCOMPARE(part<QCheckBox>("All")->checkState(), Qt::PartiallyChecked);
     import();
@@ -265,7 +265,7 @@ void tst_ImportWindow::existingAccountIsReplaced()
     KIRV_TRY(isListing());
     QVERIFY(!action()->isEnabled());
     row(ann)->setCheckState(0, Qt::Checked);
-    QCOMPARE(row(ann)->text(2), QStringLiteral("Exists here, is replaced"));
+    QCOMPARE(row(ann)->text(2), QStringLiteral("Exists, will be replaced"));
     import();
     QCOMPARE(windows->account(ann)->record().alias, QStringLiteral("Alias of ann"));
     pagePart<QPushButton>("MessageBar_Command")->click();
@@ -279,7 +279,7 @@ void tst_ImportWindow::accountIsLeftOut()
     choose(writeAccounts({ moved(ann), moved(bob) }));
     KIRV_TRY(isListing());
     row(ann)->setCheckState(0, Qt::Unchecked);
-    QCOMPARE(row(ann)->text(2), QStringLiteral("New, is left out"));
+    QCOMPARE(row(ann)->text(2), QStringLiteral("New, will be left out"));
     QVERIFY(action()->text().contains(QLatin1Char('1')));
     import();
     QVERIFY(!windows->account(ann) && windows->account(bob));

@@ -122,7 +122,8 @@ void tst_PidginFile::theFileOfPidginIsTakenOver()
 void tst_PidginFile::whatIsLeftOutOfTheFileHasAReason()
 {
     const QStringList expected {
-        "Settings of the account \"anna_@irc.example.net\" were left out, as there are none like them: username.",
+        "Settings of the account \"anna_@irc.example.net\" were left out, as there are no such settings here: "
+        "username.",
         "The account \"someone\" was left out: the protocol GroupWise is not supported.",
     };
     QCOMPARE(KirvPidginFile::read(sample()).accounts.leftOut, expected);
@@ -173,7 +174,7 @@ void tst_PidginFile::settingsBecomeOurs_data()
                                        << "";
     QTest::newRow("others") << xmpp << setting("ft_proxies", "string", "p") + setting("bosh_url", "string", "u")
                             << required
-                            << "Settings of the account \"anna@b\" were left out, as there are none like them: "
+                            << "Settings of the account \"anna@b\" were left out, as there are no such settings here: "
                                "bosh_url, ft_proxies.";
     QTest::newRow("others that do nothing")
         << xmpp
