@@ -4462,6 +4462,42 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
 </context>
 <context>
+    <name>KirvSocketSteps</name>
+    <message>
+        <source>%1, port %2</source>
+        <extracomment>%1 = name of a server, %2 = number of a port</extracomment>
+        <translation>%1, Port %2</translation>
+    </message>
+    <message>
+        <source>%1, which the proxy looks up</source>
+        <extracomment>%1 = server and port</extracomment>
+        <translation>%1; den Namen löst der Proxy auf</translation>
+    </message>
+    <message>
+        <source>through the proxy %1</source>
+        <extracomment>%1 = name of a proxy</extracomment>
+        <translation>über den Proxy %1</translation>
+    </message>
+    <message>
+        <source>none, as the settings say</source>
+        <translation>keine, wie eingestellt</translation>
+    </message>
+    <message>
+        <source>none: the server offers none</source>
+        <translation>keine: der Server bietet keine an</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = &quot;TLS 1.3&quot;, %2 = about a certificate</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>certificate of %1, valid until %2, fingerprint %3 (SHA-256)</source>
+        <extracomment>%1 = name of a server, %2 = a date, %3 = hexadecimal digits</extracomment>
+        <translation>Zertifikat von %1, gültig bis %2, Fingerabdruck %3 (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvSortingHint</name>
     <message>
         <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>

@@ -4462,6 +4462,42 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     </message>
 </context>
 <context>
+    <name>KirvSocketSteps</name>
+    <message>
+        <source>%1, port %2</source>
+        <extracomment>%1 = name of a server, %2 = number of a port</extracomment>
+        <translation>%1, porta %2</translation>
+    </message>
+    <message>
+        <source>%1, which the proxy looks up</source>
+        <extracomment>%1 = server and port</extracomment>
+        <translation>%1; o proxy procura o nome</translation>
+    </message>
+    <message>
+        <source>through the proxy %1</source>
+        <extracomment>%1 = name of a proxy</extracomment>
+        <translation>pelo proxy %1</translation>
+    </message>
+    <message>
+        <source>none, as the settings say</source>
+        <translation>nenhuma, conforme as configurações</translation>
+    </message>
+    <message>
+        <source>none: the server offers none</source>
+        <translation>nenhuma: o servidor não oferece</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 = &quot;TLS 1.3&quot;, %2 = about a certificate</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>certificate of %1, valid until %2, fingerprint %3 (SHA-256)</source>
+        <extracomment>%1 = name of a server, %2 = a date, %3 = hexadecimal digits</extracomment>
+        <translation>certificado de %1, válido até %2, impressão digital %3 (SHA-256)</translation>
+    </message>
+</context>
+<context>
     <name>KirvSortingHint</name>
     <message>
         <source>The list is sorted by a column. Accounts can be moved only in your own order.</source>

@@ -40,7 +40,7 @@ KirvSocketSteps::KirvSocketSteps(QAbstractSocket &socket, QObject *parent)
 void KirvSocketSteps::begin(const QString &host, int port, const QNetworkProxy &newProxy, Encryption newEncryption)
 {
     //: %1 = name of a server, %2 = number of a port
-    target = tr("%1, port %2").arg(host).arg(port);
+    target = tr("%1, port %2").arg(host, QString::number(port));
     proxy = newProxy;
     encryption = newEncryption;
     hasLogInBegun = false;

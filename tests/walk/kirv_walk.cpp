@@ -16,6 +16,7 @@
 KirvWalk::KirvWalk()
 {
     picture = folder.filePath(QStringLiteral("picked.png"));
+    exported = folder.filePath(QStringLiteral("accounts.json"));
     QImage image(20, 20, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
     image.save(picture);

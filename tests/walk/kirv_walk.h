@@ -67,6 +67,7 @@ public:
     const std::map<QString, int> &sights() const { return met; }
 
     QString picture; ///< the path of an image file
+    QString exported; ///< the path of a file for exported accounts, which need not be there
     std::unique_ptr<KirvClient> client;
     std::unique_ptr<StoreRefusal> refusal; ///< while the store refuses
 

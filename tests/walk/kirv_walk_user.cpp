@@ -285,8 +285,9 @@ void KirvWalkUser::registerAccount()
 void KirvWalkUser::answerOtherWindow()
 {
     auto *window = walk.anyVisible<QDialog>();
-    if (!window || window->objectName() == QLatin1String("EditAccount")
-        || window->objectName() == QLatin1String("ServerAssistant") || qobject_cast<QMessageBox *>(window))
+    static const QStringList others { QStringLiteral("EditAccount"), QStringLiteral("ServerAssistant"),
+                                      QStringLiteral("ExportAccounts"), QStringLiteral("ImportAccounts") };
+    if (!window || others.contains(window->objectName()) || qobject_cast<QMessageBox *>(window))
         return;
     for (QLineEdit *edit : window->findChildren<QLineEdit *>())
         edit->setText(walk.maybe(80) ? QStringLiteral("secret") : QString());

@@ -2,6 +2,7 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/walk/kirv_walk.h"
 #include "tests/walk/kirv_walk_checks.h"
+#include "tests/walk/kirv_walk_mover.h"
 #include "tests/walk/kirv_walk_user.h"
 #include "tests/walk/kirv_walk_world.h"
 
@@ -24,7 +25,11 @@ const char *const wanted[] = { "a save that is refused",
                                "a server request that succeeds",
                                "an account that is removed while it logs out",
                                "a protocol that goes under an edit window",
-                               "a protocol that goes under an assistant" };
+                               "a protocol that goes under an assistant",
+                               "an export with passwords",
+                               "an export without them",
+                               "an import that replaces accounts",
+                               "an import that is undone" };
 
 } // namespace
 
@@ -56,11 +61,12 @@ void tst_RandomWalk::windowsCoreAndStoreAgreeAfterEveryStep()
     QVERIFY(walk.start());
     QVERIFY(QTest::qWaitForWindowExposed(walk.client->window(), kirvPatience));
     KirvWalkUser user(walk);
+    KirvWalkMover mover(walk);
     KirvWalkWorld world(walk);
     const KirvWalkChecks checks(walk);
     std::vector<KirvWalkStep> steps = user.steps();
-    for (const KirvWalkStep &step : world.steps())
-        steps.push_back(step);
+    for (const std::vector<KirvWalkStep> &others : { mover.steps(), world.steps() })
+        steps.insert(steps.end(), others.begin(), others.end());
 
     QStringList trace;
     for (int i = 0; i < length; ++i) {

@@ -6,17 +6,21 @@
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_history.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStyle>
 #include <QTabWidget>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -27,6 +31,10 @@ const QString xmpp = QStringLiteral("XMPP");
 const QString irc = QStringLiteral("IRC");
 const QString add = QStringLiteral("AddAccount");
 const QString edit = QStringLiteral("EditAccount");
+const QString exportWindow = QStringLiteral("ExportAccounts");
+const QString importWindow = QStringLiteral("ImportAccounts");
+const QString settings = QStringLiteral("Settings");
+const QString passPhrase = QStringLiteral("seven green horses");
 enum Column { AliasColumn, ProtocolColumn };
 
 /// The child of that name of the visible window \a window; null when there is none.
@@ -65,12 +73,28 @@ void chooseIn(const QString &window, const QString &name, const QString &text)
 
 void showPage(int index)
 {
-    auto *pages = child<QListWidget>(QStringLiteral("Settings"), QStringLiteral("Settings_Pages"));
+    auto *pages = child<QListWidget>(settings, QStringLiteral("Settings_Pages"));
     KirvWindowDriver::click(pages->viewport());
     for (int i = 0; i < pages->count(); ++i)
         KirvWindowDriver::pressKey(pages, Qt::Key_Up);
     for (int i = 0; i < index; ++i)
         KirvWindowDriver::pressKey(pages, Qt::Key_Down);
+}
+
+/// Names the file in the file dialog, and confirms it.
+void chooseFile(const QString &dialogName, const QString &path)
+{
+    auto *dialog = qobject_cast<QFileDialog *>(KirvWindowDriver::window(dialogName));
+    dialog->selectFile(path);
+    KirvWindowDriver::click(dialog->findChild<QDialogButtonBox *>()->buttons().first());
+}
+
+/// The visible part of that name; null when there is none.
+template <typename T>
+T *shown(const QString &window, const QString &name)
+{
+    T *part = child<T>(window, name);
+    return part && part->isVisible() ? part : nullptr;
 }
 
 QMessageBox *question()
@@ -98,6 +122,8 @@ bool KirvTour::run()
     planWrongPassword();
     if (demo.hasIrc())
         planIrcAccount();
+    planExport();
+    planImport();
     planDisabling();
     planRemoving();
     return walk.run();
@@ -267,6 +293,81 @@ void KirvTour::planIrcAccount()
         [this] { select(irc); });
     walk.expect(
         QStringLiteral("The IRC account is connected"), [this] { return state(irc) == QLatin1String("Connected"); },
+        [] { showPage(0); });
+}
+
+void KirvTour::planExport()
+{
+    const QString path = exports.filePath(QStringLiteral("accounts.json"));
+    walk.expectOnTop(
+        QStringLiteral("The General page is opened"), [this] { return page()->isVisible(); }, [] { showPage(2); });
+    walk.expect(
+        QStringLiteral("It offers to export the accounts"),
+        [] { return shown<QPushButton>(settings, QStringLiteral("General_ExportButton")); },
+        [] { KirvWindowDriver::click(child<QPushButton>(settings, QStringLiteral("General_ExportButton"))); });
+    walk.expect(
+        QStringLiteral("All accounts are chosen"),
+        [] {
+            const auto *all = child<QCheckBox>(exportWindow, QStringLiteral("ExportAccounts_All"));
+            return all && all->checkState() == Qt::Checked;
+        },
+        [] {
+            KirvWindowDriver::pressKey(child<QCheckBox>(exportWindow, QStringLiteral("ExportAccounts_Passwords")),
+                                       Qt::Key_Space);
+            typeInto(exportWindow, QStringLiteral("ExportAccounts_PassPhrase"), passPhrase);
+            typeInto(exportWindow, QStringLiteral("ExportAccounts_Repetition"), passPhrase);
+        });
+    walk.expect(
+        QStringLiteral("A pass phrase that was repeated encrypts the passwords"),
+        [] { return child<QPushButton>(exportWindow, QStringLiteral("ExportAccounts_Export"))->isEnabled(); },
+        [] { KirvWindowDriver::click(child<QPushButton>(exportWindow, QStringLiteral("ExportAccounts_Export"))); });
+    walk.expect(
+        QStringLiteral("The file is chosen"),
+        [] { return KirvWindowDriver::window(QStringLiteral("ExportAccounts_File")); },
+        [path] { chooseFile(QStringLiteral("ExportAccounts_File"), path); });
+    walk.expect(
+        QStringLiteral("The accounts are in the file"),
+        [path] {
+            return shown<QTextEdit>(exportWindow, QStringLiteral("ExportAccounts_Outcome")) && QFile::exists(path);
+        },
+        [] { KirvWindowDriver::click(child<QPushButton>(exportWindow, QStringLiteral("ExportAccounts_Close"))); });
+}
+
+void KirvTour::planImport()
+{
+    const QString path = exports.filePath(QStringLiteral("accounts.json"));
+    const auto action = [] { return child<QPushButton>(importWindow, QStringLiteral("ImportAccounts_Action")); };
+    const auto list = [] { return shown<QTreeWidget>(importWindow, QStringLiteral("ImportAccounts_List")); };
+    walk.expectOnTop(
+        QStringLiteral("The export window is closed"), [] { return !KirvWindowDriver::window(exportWindow); },
+        [] { KirvWindowDriver::click(child<QPushButton>(settings, QStringLiteral("General_ImportButton"))); });
+    walk.expect(
+        QStringLiteral("The file is chosen for an import"),
+        [] { return KirvWindowDriver::window(QStringLiteral("ImportAccounts_File")); },
+        [path] { chooseFile(QStringLiteral("ImportAccounts_File"), path); });
+    walk.expect(
+        QStringLiteral("Its passwords need the pass phrase"),
+        [] { return shown<QLineEdit>(importWindow, QStringLiteral("ImportAccounts_PassPhrase")); },
+        [action] {
+            typeInto(importWindow, QStringLiteral("ImportAccounts_PassPhrase"), passPhrase);
+            KirvWindowDriver::click(action());
+        });
+    walk.expect(
+        QStringLiteral("All of its accounts exist, and are kept"),
+        [action, list] { return list() && !action()->isEnabled(); },
+        [list] { KirvWindowDriver::pressKey(list(), Qt::Key_Space); });
+    walk.expect(
+        QStringLiteral("One is checked to be replaced"), [action] { return action()->isEnabled(); },
+        [action] { KirvWindowDriver::click(action()); });
+    walk.expectOnTop(
+        QStringLiteral("It was imported, and that can be undone"),
+        [] {
+            return !KirvWindowDriver::window(importWindow)
+                && shown<QPushButton>(settings, QStringLiteral("MessageBar_Command"));
+        },
+        [] { KirvWindowDriver::click(child<QPushButton>(settings, QStringLiteral("MessageBar_Command"))); });
+    walk.expectOnTop(
+        QStringLiteral("The import is undone"), [this] { return client->accountHistory().latest() == 0 && row(xmpp); },
         [] { showPage(0); });
 }
 

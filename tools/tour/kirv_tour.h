@@ -6,6 +6,8 @@
 #include "tools/demo/kirv_demo.h"
 #include "tools/tour/kirv_window_driver.h"
 
+#include <QTemporaryDir>
+
 #include <memory>
 
 class QTreeWidgetItem;
@@ -27,6 +29,8 @@ private:
     void planEditing();
     void planWrongPassword();
     void planIrcAccount();
+    void planExport();
+    void planImport();
     void planDisabling();
     void planRemoving();
 
@@ -40,6 +44,7 @@ private:
     KirvDemo &demo;
     KirvClientOptions options;
     std::unique_ptr<KirvClient> client;
+    const QTemporaryDir exports;
     KirvWindowDriver walk;
 };
 

@@ -132,6 +132,8 @@ void KirvWindowDriver::takePicture(const QString &text)
     if (!shown)
         shown = QApplication::activeModalWidget();
     if (!shown)
+        shown = QApplication::activeWindow();
+    if (!shown)
         shown = window(QStringLiteral("Settings"));
     if (!shown)
         return;
