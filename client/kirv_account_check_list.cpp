@@ -76,6 +76,7 @@ void KirvAccountCheckList::setRows(const QList<Row> &rows)
     std::transform(rows.begin(), rows.end(), std::back_inserter(items), &createItem);
     list->addTopLevelItems(items);
     makeCurrent(before);
+    narrowestColumns.clear();
     fitColumns();
     refreshAllBox();
 }
@@ -110,9 +111,10 @@ void KirvAccountCheckList::fitColumns()
     int needed = list->header()->sectionSizeHint(nameColumn) + 2 * list->frameWidth()
         + list->verticalScrollBar()->sizeHint().width();
     for (int column = protocolColumn; column < list->columnCount(); ++column) {
+        const int narrowest = std::max(list->header()->sectionSizeHint(column), narrowestColumns.value(column));
         list->resizeColumnToContents(column);
-        list->setColumnWidth(
-            column, std::max(std::min(list->columnWidth(column), widest), list->header()->sectionSizeHint(column)));
+        list->setColumnWidth(column, std::max(std::min(list->columnWidth(column), widest), narrowest));
+        narrowestColumns.insert(column, list->columnWidth(column));
         needed += list->columnWidth(column);
     }
     list->setMinimumWidth(needed);

@@ -4,6 +4,7 @@
 
 #include "core/values/kirv_account_key.h"
 
+#include <QHash>
 #include <QList>
 #include <QStringList>
 #include <QWidget>
@@ -34,6 +35,8 @@ public:
     void setRows(const QList<Row> &rows);
     /// \a column counts the further columns.
     void setText(int row, int column, const QString &text);
+    /// Makes the columns wider where texts that were set since setRows() need it, within limits; none becomes narrower.
+    void fitColumns();
 
     /// How the list names an account: by its alias and its login.
     static QString nameOf(const KirvAccountKey &account, const QString &alias);
@@ -51,12 +54,12 @@ Q_SIGNALS:
 private:
     static QTreeWidgetItem *createItem(const Row &row);
     void makeCurrent(const KirvAccountKey &account);
-    void fitColumns();
     void toggleAll();
     void refreshAllBox();
 
     QCheckBox *allBox;
     QTreeWidget *list;
+    QHash<int, int> narrowestColumns; ///< by column, in pixels
     int checked = 0;
     int checkable = 0;
 };

@@ -129,12 +129,16 @@ QWidget *KirvExportWindow::createPassPhrase()
         place);
     passPhraseLine->setAccessibleDescription(advice->text());
     problem = createText("ExportAccounts_Problem", QString(), place);
-    auto *form = new QFormLayout(place);
+    auto *lines = new QWidget(place);
+    auto *form = new QFormLayout(lines);
     form->setContentsMargins(0, 0, 0, 0);
     form->addRow(createLabel(tr("Pass p&hrase:"), passPhraseLine, place), passPhraseLine);
     form->addRow(createLabel(tr("&Repeat pass phrase:"), repetitionLine, place), repetitionLine);
-    form->addRow(problem);
-    form->addRow(advice);
+    auto *column = new QVBoxLayout(place);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(lines);
+    column->addWidget(problem);
+    column->addWidget(advice);
     for (QLineEdit *line : { passPhraseLine, repetitionLine }) {
         KirvRevealButton *reveal = KirvRevealButton::addBeside(line);
         reveal->setObjectName(line->objectName() + QStringLiteral("_Reveal"));

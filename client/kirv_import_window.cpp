@@ -332,6 +332,7 @@ void KirvImportWindow::refreshRows()
         plan->setTaken(i, row.isTaken);
         rows->setText(i, 0, stateOf(row));
     }
+    rows->fitColumns();
     refreshButtons();
 }
 
