@@ -59,8 +59,9 @@ QString KirvWalkChecks::rowDisagreement() const
             return QStringLiteral("a row of the account %1 that is not configured").arg(key.toSetting());
         if (listed.contains(key))
             return QStringLiteral("two rows of %1").arg(key.toSetting());
-        if (row->text(0) != account->getAlias())
-            return QStringLiteral("the alias of %1").arg(key.toSetting());
+        const bool isNameless = account->getAlias().trimmed().isEmpty();
+        if (row->text(0) != (isNameless ? account->displayName() : account->getAlias()))
+            return QStringLiteral("the alias of %1, \"%2\"").arg(key.toSetting(), row->text(0));
         if (walk.page()->isVisible() && (row->checkState(0) == Qt::Checked) != account->isEnabled())
             return QStringLiteral("the check box of %1").arg(key.toSetting());
         listed.insert(key);
@@ -69,12 +70,15 @@ QString KirvWalkChecks::rowDisagreement() const
         return QStringLiteral("%1 rows of %2 accounts")
             .arg(listed.size())
             .arg(walk.client->accounts().accounts().size());
-    // The list's focus makes a row current without selecting it, which the buttons do not follow.
-    const bool isSelected = !list->selectedItems().isEmpty();
+    // The list's focus makes a row current without selecting it, which the buttons do not follow. Several are removed,
+    // but not edited.
+    const int selected = list->selectedItems().size();
     const bool isCurrent = list->currentIndex().isValid();
     for (const char *button : { "Accounts_EditButton", "Accounts_RemoveButton" }) {
         const bool isEnabled = walk.page()->findChild<QToolButton *>(QLatin1String(button))->isEnabled();
-        if ((isSelected && !isEnabled) || (!isCurrent && isEnabled))
+        const bool isMeant =
+            selected == 1 || (selected > 1 && QLatin1String(button) == QLatin1String("Accounts_RemoveButton"));
+        if ((isMeant && !isEnabled) || (!isCurrent && isEnabled))
             return QStringLiteral("%1 is %2")
                 .arg(QLatin1String(button), QLatin1String(isEnabled ? "enabled" : "disabled"));
     }

@@ -112,7 +112,8 @@ void KirvWalkUser::selectRow()
 {
     if (QTreeWidgetItem *row = walk.anyRow()) {
         if (walk.maybe(90))
-            walk.list()->setCurrentItem(row);
+            // Not with the modifiers of the latest key, which the list looks at otherwise.
+            walk.list()->setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         else
             walk.list()->clearSelection();
     }

@@ -19,7 +19,7 @@ int setting(const char *variable, int fallback)
 }
 
 /// What makes the walk worth while: one of this length comes by all of it.
-const int thoroughLength = 5000;
+const int thoroughLength = 8000;
 const char *const wanted[] = { "a save that is refused",
                                "a publication that the server holds",
                                "a server request that succeeds",
