@@ -13,7 +13,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -81,12 +80,12 @@ void showPage(int index)
         KirvWindowDriver::pressKey(pages, Qt::Key_Down);
 }
 
-/// Names the file in the file dialog, and confirms it.
-void chooseFile(const QString &dialogName, const QString &path)
+/// Types the path of the file in the file dialog, and confirms it.
+void chooseFile(const QString &dialog, const QString &path)
 {
-    auto *dialog = qobject_cast<QFileDialog *>(KirvWindowDriver::window(dialogName));
-    dialog->selectFile(path);
-    KirvWindowDriver::click(dialog->findChild<QDialogButtonBox *>()->buttons().first());
+    const QString line = QStringLiteral("fileNameEdit");
+    typeInto(dialog, line, path);
+    KirvWindowDriver::pressKey(child<QLineEdit>(dialog, line), Qt::Key_Return);
 }
 
 /// The visible part of that name; null when there is none.

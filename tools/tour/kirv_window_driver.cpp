@@ -3,10 +3,12 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPixmap>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -54,6 +56,16 @@ QWindow *prepare(QWidget *widget)
     if (!QTest::qWaitForWindowActive(window, activationMilliseconds))
         std::printf("        (the window %s is not active)\n", qPrintable(widget->window()->objectName()));
     return window;
+}
+/// A visible window that belongs to \a widget; null when there is none.
+QWidget *windowAbove(const QWidget *widget)
+{
+    const QList<QDialog *> dialogs = widget->findChildren<QDialog *>();
+    for (QDialog *dialog : dialogs) {
+        if (dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
 }
 } // namespace
 
@@ -135,6 +147,8 @@ void KirvWindowDriver::takePicture(const QString &text)
         shown = QApplication::activeWindow();
     if (!shown)
         shown = window(QStringLiteral("Settings"));
+    if (QWidget *above = shown ? windowAbove(shown) : nullptr)
+        shown = above;
     if (!shown)
         return;
     static const QRegularExpression notPlain(QStringLiteral("[^a-z0-9]+"));
@@ -159,9 +173,11 @@ void KirvWindowDriver::doubleClick(QWidget *widget, const QPoint &position)
 
 void KirvWindowDriver::pressKey(QWidget *widget, Qt::Key key)
 {
-    QWindow *window = prepare(widget);
+    const QPointer<QWindow> window(prepare(widget));
     widget->setFocus();
-    QTest::keyClick(window, key);
+    QTest::keyPress(window, key);
+    if (window) // the key may have closed it
+        QTest::keyRelease(window, key);
 }
 
 void KirvWindowDriver::type(QLineEdit *edit, const QString &text)
