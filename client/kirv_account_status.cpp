@@ -19,7 +19,7 @@ QString timeText(const QDateTime &time)
                                                : locale.toString(time, QLocale::ShortFormat);
 }
 
-/// The presence of \a account as its protocol calls it now, in the language that is spoken now.
+/// The presence of \a account as its protocol calls it now, in the language that is used now.
 QString presenceName(const KirvAccount &account)
 {
     const KirvPresence presence = account.presence();

@@ -175,7 +175,7 @@ void KirvAddWindowCompanion::takeNewSettings()
         advanced->setOpen(true);
 }
 
-/// As high as its content wants it to be and the screen lets it; the width that the user gave it stays.
+/// As high as its content needs and the screen has room for; the width that the user gave it stays.
 void KirvAddWindowCompanion::fitHeight()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of what was just shown or hidden
@@ -184,7 +184,7 @@ void KirvAddWindowCompanion::fitHeight()
     window()->resize(width, std::min(wantedHeight(width), available.height()));
 }
 
-/// Texts and rows that are wrapped need more height than the window wants by itself.
+/// Texts and rows that are wrapped need more height than the window has by itself.
 int KirvAddWindowCompanion::wantedHeight(int width) const
 {
     const int height = window()->sizeHint().height();

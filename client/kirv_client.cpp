@@ -245,7 +245,7 @@ void KirvClient::connectPage()
             &KirvAccountsPageCompanion::refreshLater); // its selector shows the main account that was refused
 }
 
-/// Another language is spoken.
+/// Another language is used.
 void KirvClient::createPagesAnew()
 {
     const bool hadFocus = settingsWindow->isActiveWindow();

@@ -22,7 +22,7 @@ public:
     KirvGeneralPage(KirvAccountCollection &accounts, const KirvTranslations *translations, const QString &profileFolder,
                     QWidget *parent = nullptr);
 
-    /// Shows \a language as the chosen one, empty: as the system, and whether it is spoken only later.
+    /// Shows \a language as the chosen one, empty: as the system, and whether it is used only later.
     void showLanguage(const QString &language, bool isPending);
     /// Gives the keyboard to the list of languages.
     void focusLanguage();

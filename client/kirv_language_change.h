@@ -9,7 +9,7 @@
 class KirvClientSettings;
 class KirvWindowCompanions;
 
-/// Stores the language that the user chooses and has the program speak it as soon as no window is open that would have
+/// Stores the language that the user chooses and has the program use it as soon as no window is open that would have
 /// to be closed for it. Windows in which nothing was entered are closed.
 class KirvLanguageChange : public QObject {
     Q_OBJECT
@@ -20,17 +20,17 @@ public:
 
     /// What is stored; empty: as the system.
     static QString chosen(const KirvClientSettings &settings);
-    /// Has the program speak what is stored. For the start, before there are windows.
+    /// Has the program use what is stored. For the start, before there are windows.
     static void applyStored(const KirvClientSettings &settings);
 
     /// Stores \a language; empty: as the system. False when that was refused.
     bool choose(const QString &language);
-    /// Whether the chosen language is not spoken yet.
+    /// Whether the chosen language is not used yet.
     bool isPending() const { return retry.isActive() && retry.interval() > 0; }
 
 Q_SIGNALS:
     void pendingChanged();
-    /// Another language is spoken: what shows texts is to be made anew. From the event loop.
+    /// Another language is used: what shows texts is to be made anew. From the event loop.
     void changed();
 
 private:

@@ -15,7 +15,7 @@
 
 class KirvInstanceConnection;
 
-/// What a program that has a profile open hears of later starts with the same profile: these hand over the link they
+/// What a program that has a profile open learns of later starts with the same profile: these hand over the link they
 /// were started with, or a command, and end.
 ///
 /// Both meet at a socket in the folder that the desktop keeps for the user's running programs (XDG_RUNTIME_DIR), which
@@ -27,7 +27,7 @@ class KirvRunningInstance : public QObject {
 public:
     /// Longest link that is handed over, in bytes of UTF-8.
     static const int longestLink = 4096;
-    /// Later starts that are heard at a time.
+    /// Later starts that are served at a time.
     static const int mostAtOnce = 8;
 
     /// Called with the reply, once, at any time; not needed any more when the other end is gone.
@@ -46,7 +46,7 @@ public:
     explicit KirvRunningInstance(const QString &profileFolder, QObject *parent = nullptr);
     ~KirvRunningInstance() override;
 
-    /// Whether later starts can be heard of.
+    /// Whether later starts can reach this program.
     bool isListening() const { return server.isListening(); }
     /// Who handles the messages that do more than show the window. Without one they are refused.
     void setHandler(const Handler &newHandler) { handler = newHandler; }

@@ -23,7 +23,7 @@ public:
     /// Adds \a page, which the window then owns; \a title is its name in the list.
     void addPage(QWidget *page, const QString &title, const QIcon &icon);
     void showPage(QWidget *page);
-    /// Deletes all pages and says everything else again, in the language that is spoken now. The page that takes the
+    /// Deletes all pages and says everything else again, in the language that is used now. The page that takes the
     /// place of the current one is shown when it is added.
     void removePages();
 

@@ -15,7 +15,7 @@ class QTranslator;
 /// Where the texts that came with the program are.
 QString kirvTranslationFolder();
 
-/// The languages of the program and the one that it speaks. The texts of the program and of Qt, the formats of numbers
+/// The languages of the program and the one that is used. The texts of the program and of Qt, the formats of numbers
 /// and dates and the direction of the layout follow it. Made after the application, and one at a time.
 ///
 /// Below every language lies English, which has texts of its own: plural forms, and what the sources misspell.
@@ -23,7 +23,7 @@ class KirvTranslations : public QObject {
     Q_OBJECT
 
 public:
-    /// Speaks no language yet; \a folder holds the texts. \a application outlives this.
+    /// Uses no language yet; \a folder holds the texts. \a application outlives this.
     explicit KirvTranslations(QCoreApplication &application, const QString &folder = kirvTranslationFolder());
     /// Takes the texts away; the locale and the direction stay.
     ~KirvTranslations() override;
@@ -38,14 +38,14 @@ public:
     /// Whether a native speaker has read the texts of \a language.
     static bool isRead(const QString &language);
 
-    /// Speaks \a language, which is one of languages(); otherwise, and when it is empty, that of the system.
+    /// Uses \a language, which is one of languages(); otherwise, and when it is empty, that of the system.
     void use(const QString &language);
     /// What use() was called with last.
     QString chosen() const { return wanted; }
-    /// What is spoken when the system chooses, one of languages().
+    /// What is used when the system chooses, one of languages().
     QString languageOfSystem() const { return languageOf(systemLocale); }
-    /// What is spoken, one of languages().
-    QString spoken() const { return current; }
+    /// What is used, one of languages().
+    QString inUse() const { return current; }
 
 private:
     QString languageOf(const QLocale &locale) const;

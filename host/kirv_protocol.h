@@ -38,7 +38,7 @@ public:
     /// server refused, did not answer in time or holds no entry.
     /// Sends \a fields as the directory entry of \a account.
     virtual void publishPubdirInfo(KirvAccountConnection *account, const QList<KirvField> &fields) = 0;
-    /// Asks for the directory entry of \a account.
+    /// Requests the directory entry of \a account.
     virtual void fetchPubdirInfo(KirvAccountConnection *account) = 0;
     /// Removes the directory entry of \a account.
     virtual void deletePubdirInfo(KirvAccountConnection *account) = 0;

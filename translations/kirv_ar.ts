@@ -2930,14 +2930,14 @@ A file is called - where the standard output or input is meant.</source>
         <translation>الصورة «‎%1» ليست في مجلد التخطيط.</translation>
     </message>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>يطلب الملف عنصر واجهة من الصنف المجهول %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>يطلب الملف عنصر واجهة من الصنف المجهول %1.</translation>
     </message>
     <message>
@@ -4715,11 +4715,11 @@ A file is called - where the standard output or input is meant.</source>
 <context>
     <name>KirvXmppLoginGuard</name>
     <message>
-        <source>It asks for more than a log-in needs.</source>
+        <source>It requires more than a log-in needs.</source>
         <translation>يطلب الخادم أكثر مما يحتاج إليه تسجيل الدخول.</translation>
     </message>
     <message>
-        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <source>It requires more work to check the password than is allowed (%1 rounds, at most %2).</source>
         <translation>يطلب الخادم لفحص كلمة السر عملًا أكثر من المسموح به (%1 دورة، والحد الأقصى %2).</translation>
     </message>
     <message>
@@ -5063,7 +5063,7 @@ A file is called - where the standard output or input is meant.</source>
         <translation>المورد</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <source>Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
         <translation>يميّز هذا العميل عن عملائك الآخرين. تحل محارف عشوائية محل العلامة *. فارغ: يختار الخادم.</translation>
     </message>
     <message>

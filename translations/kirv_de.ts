@@ -2842,7 +2842,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Das Bild „%1“ liegt nicht im Ordner des Layouts.</translation>
     </message>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
     </message>
     <message>
@@ -2857,7 +2857,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
     </message>
     <message>
@@ -4615,11 +4615,11 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
 <context>
     <name>KirvXmppLoginGuard</name>
     <message>
-        <source>It asks for more than a log-in needs.</source>
+        <source>It requires more than a log-in needs.</source>
         <translation>Er verlangt mehr, als eine Anmeldung braucht.</translation>
     </message>
     <message>
-        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <source>It requires more work to check the password than is allowed (%1 rounds, at most %2).</source>
         <translation>Er verlangt mehr Arbeit zur Prüfung des Passworts, als zulässig ist (%1 Runden, höchstens %2).</translation>
     </message>
     <message>
@@ -5024,7 +5024,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Die Datei %1 enthält kein Zertifikat im PEM-Format.</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <source>Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
         <translation>Unterscheidet diesen Client von Ihren anderen. Zufällige Zeichen treten an die Stelle eines *. Leer: Der Server wählt.</translation>
     </message>
     <message>

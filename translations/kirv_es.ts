@@ -2850,14 +2850,14 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>La imagen «%1» no está en la carpeta del diseño.</translation>
     </message>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Pide un elemento gráfico de la clase desconocida %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Pide un elemento gráfico de la clase desconocida %1.</translation>
     </message>
     <message>
@@ -4615,11 +4615,11 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
 <context>
     <name>KirvXmppLoginGuard</name>
     <message>
-        <source>It asks for more than a log-in needs.</source>
+        <source>It requires more than a log-in needs.</source>
         <translation>Pide más de lo que necesita un inicio de sesión.</translation>
     </message>
     <message>
-        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <source>It requires more work to check the password than is allowed (%1 rounds, at most %2).</source>
         <translation>Pide más trabajo del permitido para comprobar la contraseña (%1 iteraciones, como máximo %2).</translation>
     </message>
     <message>
@@ -4963,7 +4963,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Recurso</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <source>Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
         <translation>Distingue este cliente de los demás que usa. Unos caracteres al azar ocupan el lugar de un *. Vacío: elige el servidor.</translation>
     </message>
     <message>

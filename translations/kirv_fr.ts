@@ -2850,14 +2850,14 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>L’image «&#xa0;%1&#xa0;» n’est pas dans le dossier de la disposition.</translation>
     </message>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Il demande un élément graphique de la classe inconnue %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Il demande un élément graphique de la classe inconnue %1.</translation>
     </message>
     <message>
@@ -4615,11 +4615,11 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
 <context>
     <name>KirvXmppLoginGuard</name>
     <message>
-        <source>It asks for more than a log-in needs.</source>
+        <source>It requires more than a log-in needs.</source>
         <translation>Il demande plus que ce qu’exige une connexion.</translation>
     </message>
     <message>
-        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <source>It requires more work to check the password than is allowed (%1 rounds, at most %2).</source>
         <translation>Il demande plus de travail que ce qui est permis pour vérifier le mot de passe (%1 itérations, au plus %2).</translation>
     </message>
     <message>
@@ -4963,7 +4963,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Ressource</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <source>Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
         <translation>Distingue ce client de vos autres clients. Des caractères aléatoires prennent la place d’un *. Vide&#xa0;: le serveur choisit.</translation>
     </message>
     <message>

@@ -2870,14 +2870,14 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Obraz „%1” nie znajduje się w folderze układu.</translation>
     </message>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Plik żąda widżetu nieznanej klasy %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Plik żąda widżetu nieznanej klasy %1.</translation>
     </message>
     <message>
@@ -4640,11 +4640,11 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
 <context>
     <name>KirvXmppLoginGuard</name>
     <message>
-        <source>It asks for more than a log-in needs.</source>
+        <source>It requires more than a log-in needs.</source>
         <translation>Serwer żąda więcej, niż potrzeba do zalogowania.</translation>
     </message>
     <message>
-        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <source>It requires more work to check the password than is allowed (%1 rounds, at most %2).</source>
         <translation>Serwer żąda przy sprawdzaniu hasła więcej obliczeń, niż jest dozwolone (rundy: %1, najwyżej %2).</translation>
     </message>
     <message>
@@ -4988,7 +4988,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Zasób</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <source>Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
         <translation>Odróżnia tego klienta od pozostałych. W miejsce znaku * wstawiane są losowe znaki. Puste: wybiera serwer.</translation>
     </message>
     <message>

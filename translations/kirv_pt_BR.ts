@@ -2850,14 +2850,14 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>A imagem “%1” não está na pasta do layout.</translation>
     </message>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Ele pede um elemento gráfico da classe desconhecida %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It asks for a widget of the unknown class %1.</source>
+        <source>It uses the unknown widget class %1.</source>
         <translation>Ele pede um elemento gráfico da classe desconhecida %1.</translation>
     </message>
     <message>
@@ -4615,11 +4615,11 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
 <context>
     <name>KirvXmppLoginGuard</name>
     <message>
-        <source>It asks for more than a log-in needs.</source>
+        <source>It requires more than a log-in needs.</source>
         <translation>Ele pede mais do que uma autenticação precisa.</translation>
     </message>
     <message>
-        <source>It asks for more work to check the password than is allowed (%1 rounds, at most %2).</source>
+        <source>It requires more work to check the password than is allowed (%1 rounds, at most %2).</source>
         <translation>Ele pede mais trabalho do que o permitido para verificar a senha (%1 iterações, no máximo %2).</translation>
     </message>
     <message>
@@ -4963,7 +4963,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Recurso</translation>
     </message>
     <message>
-        <source>Tells this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
+        <source>Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: the server chooses.</source>
         <translation>Distingue este cliente dos outros que você usa. Caracteres aleatórios tomam o lugar de um *. Vazio: o servidor escolhe.</translation>
     </message>
     <message>

@@ -4,7 +4,7 @@
 
 #include <QScrollArea>
 
-/// Shows forms that stand below each other as one: with a common label column, as large as they want to be, and
+/// Shows forms that stand below each other as one: with a common label column, as large as they need to be, and
 /// scrolled up and down where the window has no room for that. Layout files may ask for it by its class name.
 class KirvFormArea : public QScrollArea {
     Q_OBJECT

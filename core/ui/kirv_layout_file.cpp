@@ -42,7 +42,7 @@ public:
     }
 };
 
-/// Makes our own classes where a layout asks for them or where they stand in for Qt's, and notes what it could not
+/// Makes our own classes where a layout names them or where they stand in for Qt's, and notes what it could not
 /// make; the base class only prints a warning and leaves a gap or a base class.
 class Loader : public QUiLoader {
 public:
@@ -152,7 +152,7 @@ std::unique_ptr<QWidget> KirvLayoutFile::build()
     buffer.open(QIODevice::ReadOnly);
     std::unique_ptr<QWidget> top(loader.load(&buffer));
     if (!loader.unknownClasses.isEmpty())
-        failure = tr("It asks for a widget of the unknown class %1.").arg(loader.unknownClasses.first());
+        failure = tr("It uses the unknown widget class %1.").arg(loader.unknownClasses.first());
     else if (!top)
         failure = tr("It is not a window layout: %1").arg(loader.errorString());
     if (!failure.isEmpty())

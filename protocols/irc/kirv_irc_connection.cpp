@@ -46,13 +46,13 @@ bool isBan(const QString &text)
     return matches(text, "\\bbann?ed\\b|\\b[gkz]-?lined?\\b");
 }
 
-/// Whether \a text speaks of a limit that is reached for the moment.
+/// Whether \a text is about a limit that is reached for the moment.
 bool isLimit(const QString &text)
 {
     return matches(text, "too (many|fast)|no more connections|\\bfull\\b|\\blimit\\b|try( again)? later");
 }
 
-/// Whether a server that closes the connection before the log-in says so because it does not want us. Everything
+/// Whether a server that closes the connection before the log-in says so because it refuses this client. Everything
 /// else (it is full, we came back too fast) may pass.
 bool isDenial(const QString &text)
 {
@@ -172,7 +172,7 @@ void KirvIrcConnection::createSocket(QAbstractSocket *transport)
 {
     socket = new KirvIrcSocket(transport, clock(), link.data());
     link->setSocket(socket);
-    connect(socket, &KirvIrcSocket::heard, this, [this] {
+    connect(socket, &KirvIrcSocket::received, this, [this] {
         lastReceived = clock().now();
         ++receivedCount;
         wasPinged = false;

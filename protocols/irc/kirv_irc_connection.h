@@ -85,7 +85,7 @@ private:
     bool announcesLater = false; ///< a nick was announced not long ago
     QDateTime lastReceived;
     quint64 receivedCount = 0; ///< counts what the server has sent
-    bool wasPinged = false; ///< since the server was last heard
+    bool wasPinged = false; ///< since the last line of the server
 };
 
 #endif

@@ -155,11 +155,11 @@ void KirvIrcSocket::takeTurn()
         const QByteArray piece = transport->read(bytesPerTurn);
         input.append(piece);
         if (!piece.isEmpty())
-            Q_EMIT heard();
+            Q_EMIT received();
     }
     used += input.takeLines(linesPerTurn);
     if (!isOpen())
-        used.clear(); // the library wants nothing more and waits for the end
+        used.clear(); // the library reads nothing more and waits for the end
     else if (!used.isEmpty())
         Q_EMIT readyRead();
     if (!alive || state() != ConnectedState)

@@ -37,7 +37,7 @@ public:
 
 Q_SIGNALS:
     /// The server has sent something, whether it is used or not.
-    void heard();
+    void received();
     /// The server has sent a line that is longer than any: nothing more is read.
     void lineWasTooLong();
 

@@ -78,7 +78,7 @@ Q_SIGNALS:
     void step(const KirvLoginStep &step);
     /// There is a connection to the server, through the proxy where there is one.
     void reached();
-    /// The server has begun to speak: it has said what it offers. May be emitted several times.
+    /// The server has sent what it offers. May be emitted several times.
     void greeted();
     /// The server has shown a certificate that has problems, or any while trustedCertificate() is set; the end follows,
     /// unless it is trustedCertificate().

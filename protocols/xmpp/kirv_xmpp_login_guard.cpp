@@ -75,7 +75,7 @@ KirvFailure KirvXmppLoginGuard::receiveChallenge(const QString &text)
     if (isChecking)
         return KirvFailure();
     if (++challengeCount > mostChallenges || text.size() > longestChallenge)
-        return KirvFailure(KirvFailure::ServiceUnavailable, tr("It asks for more than a log-in needs."));
+        return KirvFailure(KirvFailure::ServiceUnavailable, tr("It requires more than a log-in needs."));
     if (!isMutual())
         return KirvFailure();
     QHash<char, QByteArray> attributes;
@@ -90,7 +90,7 @@ KirvFailure KirvXmppLoginGuard::receiveChallenge(const QString &text)
     if (rounds.isEmpty() || (rounds.toInt(&isNumber) <= most && isNumber))
         return KirvFailure();
     return KirvFailure(KirvFailure::ServiceUnavailable,
-                       tr("It asks for more work to check the password than is allowed (%1 rounds, at most %2).")
+                       tr("It requires more work to check the password than is allowed (%1 rounds, at most %2).")
                            .arg(QString::fromLatin1(rounds.left(12)))
                            .arg(most));
 }

@@ -40,7 +40,7 @@ bool KirvXmppPendingRequests::isAwaited(const QString &id, const QString &from) 
     const auto request = requests.constFind(id);
     if (request == requests.constEnd())
         return false;
-    // The server speaks for the account, and need not say that it is the server.
+    // The server replies for the account, and need not say that it is the server.
     const bool isToAccount = request->to.isEmpty() || request->to == bareAddress;
     const bool isToServer = isToAccount || request->to == domain;
     if (from.isEmpty())

@@ -28,7 +28,7 @@ public:
     QStringList ids() const { return requests.keys(); }
     void clear() { requests.clear(); }
 
-    /// Whether \a address is the server of the account or the account itself as its server speaks for it; an empty
+    /// Whether \a address is the server of the account or the account itself as its server replies for it; an empty
     /// one is.
     bool isOwnServer(const QString &address) const;
 

@@ -247,7 +247,7 @@ void KirvXmppRoute::receiveNothing()
     probe(target, proxy, clock, this, receive);
 }
 
-/// The server has hung up, or made no sense, before it began to speak.
+/// The server has closed the connection, or sent what is no XMPP, before it sent what it offers.
 void KirvXmppRoute::explainEnd(const KirvFailure &failure)
 {
     if (failure.kind() == KirvFailure::UntrustedCertificate || !mayBeLocal) {

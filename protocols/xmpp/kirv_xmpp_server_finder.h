@@ -29,7 +29,7 @@ struct KirvXmppServiceRecord {
     int weight = 0; ///< among those of the same priority: how often it is the first one
 };
 
-/// What is asked for the service records of a name such as "_xmpp-client._tcp.example.org". The receiver is called
+/// What is called for the service records of a name such as "_xmpp-client._tcp.example.org". The receiver is called
 /// once, later, unless \a context is destroyed before; with an empty list when there are none, or no reply.
 using KirvXmppServiceLookup = std::function<void(
     const QString &name, QObject *context, const std::function<void(const QList<KirvXmppServiceRecord> &)> &receiver)>;

@@ -91,11 +91,12 @@ KirvXmppSettings::KirvXmppSettings(const QList<KirvField> &fields)
 QList<KirvField> KirvXmppSettings::toFields() const
 {
     QList<KirvField> fields = toServerFields();
-    fields.insert(2,
-                  KirvField::textEdit(
-                      tr("Resource"), resourceId, resource,
-                      tr("Tells this client from your other ones. Characters by chance take the place of a *. Empty: "
-                         "the server chooses.")));
+    fields.insert(
+        2,
+        KirvField::textEdit(
+            tr("Resource"), resourceId, resource,
+            tr("Distinguishes this client from your other ones. Characters by chance take the place of a *. Empty: "
+               "the server chooses.")));
     fields.insert(
         3,
         KirvField::number(tr("Priority"), priorityId, priority, -128, 127,

@@ -26,7 +26,7 @@ QList<KirvField> filled(QList<KirvField> fields, const QString &text)
 
 } // namespace
 
-/// The reply of a server that is asked for its form, and after a byte of 255 the text that a user puts in.
+/// The reply of a server to the request of its form, and after a byte of 255 the text that a user puts in.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray input(reinterpret_cast<const char *>(data), int(size));

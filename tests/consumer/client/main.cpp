@@ -45,7 +45,7 @@ int main(int argc, char **argv)
     const auto *list = page->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));
     const auto *selector = page->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount"));
     good &= check(list->topLevelItemCount() == 2, "both accounts are listed");
-    good &= check(list->headerItem()->text(1) == QLatin1String("Protokoll"), "and it speaks German");
+    good &= check(list->headerItem()->text(1) == QLatin1String("Protokoll"), "and it is in German");
     const auto *removeButton = page->findChild<QToolButton *>(QStringLiteral("Accounts_RemoveButton"));
     good &= check(removeButton->text().contains(QLatin1String("ntfernen")), "also in its layout");
     good &= check(selector->count() == 1, "the enabled one is offered as main account");
