@@ -75,6 +75,7 @@ private Q_SLOTS:
     void uselessFilesAreRefused();
 
 private:
+    void lostPasswordsAreNamed();
     QString profile(const char *name = "profile") const { return home->filePath(QLatin1String(name)); }
     QString path(const char *name) const { return home->filePath(QLatin1String(name)); }
     KirvProgramRun run(const QStringList &arguments, const char *profileName = "profile",
@@ -604,6 +605,32 @@ void tst_AccountsCommand::uselessFilesAreRefused()
     add(QStringLiteral("ann"));
     QVERIFY(write(path("file"), content));
     for (const QString &file : { QStringLiteral("file"), QStringLiteral("missing"), QStringLiteral("plugins") }) {
+/// The file has another server, to which no stored password goes.
+void tst_AccountsCommand::lostPasswordsAreNamed()
+{
+    add(QStringLiteral("ann"));
+    add(QStringLiteral("bob"));
+    exportAll();
+    {
+        KirvStore store;
+        QVERIFY(store.open(profile()));
+        KirvAccountRecord ann = store.readAccounts().first();
+        QCOMPARE(ann.key.id, QStringLiteral("ann"));
+        ann.settings.insert(QStringLiteral("server"), QStringLiteral("elsewhere.example"));
+        QVERIFY(store.updateAccount(ann));
+    }
+    for (const bool isTrial : { true, false }) {
+        const KirvProgramRun result = run(QStringList { "import", "--replace", "accounts.json" }
+                                          + (isTrial ? QStringList { "--dry-run" } : QStringList()));
+        QCOMPARE(result.status, 4);
+        QCOMPARE(result.errorText(),
+                 QStringLiteral("Stored passwords of the account \"ann\" are not kept, because its settings "
+                                "in the file differ. They must be entered again.\n"));
+        QCOMPARE(storedOne(QStringLiteral("ann")).password, isTrial ? secret : QString());
+        QCOMPARE(storedOne(QStringLiteral("bob")).password, secret);
+    }
+}
+
         const KirvProgramRun result = run({ "import", "--replace", file });
         QCOMPARE(result.status, 1);
         QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
