@@ -83,6 +83,8 @@ private:
     void add(const QString &id, const QString &ofProtocol = protocol, const QString &alias = QString(),
              bool isEnabled = true);
     QList<KirvAccountRecord> stored(const char *profileName = "profile") const;
+    void refusedImportMakesNoProfile_data();
+    void refusedImportMakesNoProfile();
     KirvAccountRecord storedOne(const QString &id, const char *profileName = "profile") const;
     void exportAll(const QStringList &more = {});
 
@@ -641,3 +643,27 @@ void tst_AccountsCommand::lostPasswordsAreNamed()
 QTEST_GUILESS_MAIN(tst_AccountsCommand)
 
 #include "tst_accounts_command.moc"
+void tst_AccountsCommand::refusedImportMakesNoProfile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::newRow("something else") << QStringList { "phrase" } << 1;
+    QTest::newRow("wrong pass phrase") << QStringList { "accounts.json", "--pass-phrase-file", "wrong" } << 5;
+    QTest::newRow("damaged") << QStringList { "damaged.json", "--without-passwords" } << 1;
+}
+
+void tst_AccountsCommand::refusedImportMakesNoProfile()
+{
+    QFETCH(QStringList, arguments);
+    add(QStringLiteral("ann"));
+    exportAll({ "--with-passwords", "--pass-phrase-file", "phrase" });
+    QVERIFY(write(path("wrong"), "another pass phrase\n"));
+    QVERIFY(write(path("damaged.json"), contentOf(path("accounts.json")).chopped(20)));
+    const KirvProgramRun result = run(QStringList { "import" } + arguments, "new");
+    QTEST(result.status, "status");
+    QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
+    QVERIFY(!QFileInfo::exists(profile("new")));
+    QCOMPARE(run({ "import", "accounts.json", "--pass-phrase-file", "phrase" }, "new").status, 0);
+    QCOMPARE(storedOne(QStringLiteral("ann"), "new").password, secret);
+}
+
