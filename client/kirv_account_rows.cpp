@@ -37,6 +37,18 @@ QList<QTreeWidgetItem *> KirvAccountRows::rowsOf(const QString &protocol) const
     return list->findItems(protocol, Qt::MatchExactly | Qt::MatchCaseSensitive, KirvProtocolColumn);
 }
 
+QSet<const QTreeWidgetItem *> KirvAccountRows::visible() const
+{
+    QSet<const QTreeWidgetItem *> visible;
+    const QRect viewport = list->viewport()->rect();
+    const QTreeWidgetItem *row = list->itemAt(viewport.width() / 2, 0);
+    while (row && list->visualItemRect(row).top() <= viewport.bottom()) {
+        visible << row;
+        row = list->itemBelow(row);
+    }
+    return visible;
+}
+
 void KirvAccountRows::insert(const QModelIndex &parent, int first, int last)
 {
     for (int i = first; i <= last && !parent.isValid(); ++i) {

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QModelIndex>
 #include <QObject>
+#include <QSet>
 
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -32,6 +33,8 @@ public:
     void select(QTreeWidgetItem *row) const;
     /// The rows of one protocol, by an exact comparison.
     QList<QTreeWidgetItem *> rowsOf(const QString &protocol) const;
+    /// Those that the list shows now.
+    QSet<const QTreeWidgetItem *> visible() const;
 
 Q_SIGNALS:
     void inserted(const KirvAccountKey &key);

@@ -106,8 +106,8 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
     connect(invitation, &KirvAccountInvitation::registrationRequested, this, [] {
         KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("register_account"), QList<KirvArg>());
     });
-    if (auto *selector = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
-        new KirvMainAccountSelector(selector);
+    if (auto *box = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
+        selector = new KirvMainAccountSelector(box);
     QList<QToolButton *> buttons; // the tool tips and the keys tell what they do
     for (const char *name :
          { "Accounts_RegisterButton", "Accounts_RemoveButton", "Accounts_EditButton", "Accounts_AddButton" })
@@ -376,6 +376,8 @@ void KirvAccountsPageCompanion::syncRows()
     searchBar->accountsChanged();
     // Also while the page is hidden: its selector must not keep accounts that are gone.
     page->updateAccounts();
+    if (selector)
+        selector->correctLater();
     selectNewRow(std::exchange(added, KirvAccountKey()));
     selectImported(std::exchange(imported, {}));
 }
@@ -400,7 +402,7 @@ void KirvAccountsPageCompanion::updateRow(const KirvAccount *account)
 /// rows, so it reports only those that are visible.
 void KirvAccountsPageCompanion::updateCheckBoxes(const QList<KirvAccountKey> &keys)
 {
-    const QSet<const QTreeWidgetItem *> visible = visibleRows();
+    const QSet<const QTreeWidgetItem *> visible = rows->visible();
     const QSignalBlocker noItemChanged(list);
     for (const KirvAccountKey &key : keys) {
         const KirvAccount *account = accounts.find(key);
@@ -411,18 +413,6 @@ void KirvAccountsPageCompanion::updateCheckBoxes(const QList<KirvAccountKey> &ke
         row->setCheckState(KirvAliasColumn, account->record().enabled ? Qt::Checked : Qt::Unchecked);
     }
     refreshLater();
-}
-
-QSet<const QTreeWidgetItem *> KirvAccountsPageCompanion::visibleRows() const
-{
-    QSet<const QTreeWidgetItem *> visible;
-    const QRect viewport = list->viewport()->rect();
-    const QTreeWidgetItem *row = list->itemAt(viewport.width() / 2, 0);
-    while (row && list->visualItemRect(row).top() <= viewport.bottom()) {
-        visible << row;
-        row = list->itemBelow(row);
-    }
-    return visible;
 }
 
 /// The page lists the accounts of loaded protocols only.

@@ -6,7 +6,6 @@
 
 #include <QList>
 #include <QObject>
-#include <QSet>
 #include <memory>
 #include <vector>
 
@@ -23,6 +22,7 @@ class KirvAccountUndo;
 class KirvAliasEditor;
 class KirvClientSettings;
 class KirvMainAccount;
+class KirvMainAccountSelector;
 class KirvServerCommands;
 class QToolButton;
 class QTreeWidget;
@@ -102,7 +102,6 @@ private:
     static bool isUpToDate(const QTreeWidgetItem *row, const KirvAccount &account);
     void updateRow(const KirvAccount *account);
     void updateCheckBoxes(const QList<KirvAccountKey> &keys);
-    QSet<const QTreeWidgetItem *> visibleRows() const;
     void listUnloaded();
     void remove(const KirvAccountKey &key);
     void removeAll(const QString &protocol);
@@ -121,6 +120,7 @@ private:
     KirvAccountInvitation *invitation;
     KirvAccountMoving &moving;
     QToolButton *addButton;
+    KirvMainAccountSelector *selector = nullptr; ///< null when the layout has none
     KirvAliasEditor *aliasEditor = nullptr;
     std::vector<KeptRow> keptRows;
     KirvAccountKey added; ///< the latest account, until its row is selected

@@ -124,6 +124,7 @@ void KirvDirectoryGuard::findButtons()
 void KirvDirectoryGuard::saveBegins()
 {
     wasLocked = isLocked();
+    leftUnpublished = false;
     typed = fields ? fields->getFields() : QList<KirvField>();
     wrong = wrongChanges();
 }
@@ -145,9 +146,22 @@ QStringList KirvDirectoryGuard::wrongChanges() const
     return ids;
 }
 
+/// Whether what was typed differs from the entry that is known; one that was not fetched counts as blank.
+bool KirvDirectoryGuard::hasChanges() const
+{
+    KirvAccount *edited = account();
+    if (!fields || wasLocked || !edited || !edited->isLoaded())
+        return false;
+    const bool isKnown = edited->directory().isKnown();
+    return !KirvAccountDirectory::changes(typed,
+                                          isKnown ? edited->directory().base() : edited->protocol()->directoryFields())
+                .isEmpty();
+}
+
 void KirvDirectoryGuard::saveEnded(bool saved)
 {
     KirvAccount *edited = account();
+    leftUnpublished = saved && edited && !edited->isOnline() && !isLocked() && hasChanges();
     const bool isPublished = fields && edited && isLocked() && !wasLocked;
     if (!isPublished)
         return;
@@ -164,6 +178,18 @@ void KirvDirectoryGuard::showWrongEntry()
     auto *form = fields ? fields->findChild<KirvFieldForm *>() : nullptr;
     if (QWidget *control = form ? form->showProblems(wrong) : nullptr)
         control->setFocus();
+    announceStatus();
+}
+
+void KirvDirectoryGuard::showUnpublished()
+{
+    showFields();
+    updateStatus();
+    announceStatus();
+}
+
+void KirvDirectoryGuard::announceStatus()
+{
     QAccessibleEvent alert(status, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

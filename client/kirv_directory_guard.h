@@ -34,6 +34,10 @@ public:
     bool isPublishing() const { return publishing; }
     /// Whether the save that began would publish values that are wrong: it must not be saved.
     bool wouldPublishWrong() const { return !wrong.isEmpty(); }
+    /// Whether something was typed that the last save could not publish, as the account was off line. It stays typed.
+    bool isLeftUnpublished() const { return leftUnpublished; }
+    /// Brings what was left to the front, and says why again to assistive technology.
+    void showUnpublished();
     /// Brings the wrong values to the front and says what is wrong with them, after saveEnded().
     void showWrongEntry();
     /// Brings the tab with the fields to the front; what is typed there stays.
@@ -62,6 +66,8 @@ private:
     void receive(KirvAccountDirectory::Operation operation, const KirvDirectoryAnswer &answer);
     void restoreTyped();
     QStringList wrongChanges() const;
+    bool hasChanges() const;
+    void announceStatus();
     void onAccountChanged(KirvAccount *changed);
     void updateStatus();
     void updateButtons();
@@ -81,6 +87,7 @@ private:
     QStringList wrong; ///< ids of what the latest save would have published and is wrong
     bool wasLocked = false; ///< when the save began
     bool publishing = false;
+    bool leftUnpublished = false; ///< by the latest save
     bool wasOnline = false;
 };
 

@@ -244,7 +244,7 @@ bool KirvEditWindowCompanion::commitSave()
         return true;
     if (directory)
         directory->saveEnded(isSaved);
-    keepsOpen = !isSaved || (directory && directory->isPublishing());
+    keepsOpen = !isSaved || (directory && (directory->isPublishing() || directory->isLeftUnpublished()));
     if (!isSaved) {
         KirvAccountsTab::getInstance()->updateAccount(account); // its row shows what is stored
         KirvAccountsTab::getInstance()->updateAccounts(); // and the selector, in the order of the rows
@@ -253,6 +253,8 @@ bool KirvEditWindowCompanion::commitSave()
         directory->showWrongEntry();
     } else if (!isSaved) {
         showRefusal(tr("Saving Account"), tr("Nothing was changed. The window stays open, so that you can try again."));
+    } else if (directory && directory->isLeftUnpublished()) {
+        directory->showUnpublished();
     } else if (keepsOpen) {
         setPublishing(true);
     }

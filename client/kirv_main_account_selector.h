@@ -17,8 +17,11 @@ public:
     /// \a box owns this.
     explicit KirvMainAccountSelector(QComboBox *box);
 
-private:
+    /// Corrects it from the event loop: the main account may be another one, or have another name. A refresh that
+    /// changes no entry does not show that.
     void correctLater();
+
+private:
     void correct();
     void nameEntries();
     int entryOf(const KirvAccount *account) const;

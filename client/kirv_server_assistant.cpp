@@ -3,7 +3,9 @@
 
 #include "client/kirv_picture_reader.h"
 #include "client/kirv_provider_completer.h"
+#include "client/kirv_remember_box.h"
 #include "client/kirv_wrapped_text.h"
+#include "core/accounts/kirv_secret_keeper.h"
 #include "core/ui/kirv_field_form.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_keyboard.h"
@@ -137,10 +139,6 @@ QWidget *KirvServerAssistant::createPage()
     connect(pictureReader, &KirvPictureReader::pictureRead, this, &KirvServerAssistant::showPicture);
     fields = new KirvFieldWidget({}, page, KirvFieldWidget::LabelsBeside);
     fields->setObjectName(QStringLiteral("ServerAssistant_Fields"));
-    rememberBox = new QCheckBox(tr("&Remember the password"), page);
-    rememberBox->setObjectName(QStringLiteral("ServerAssistant_Remember"));
-    rememberBox->setToolTip(tr("Stores the password in your profile."));
-    rememberBox->setChecked(true);
 
     auto *introduction = new QHBoxLayout;
     introduction->addWidget(warningIcon);
@@ -148,11 +146,30 @@ QWidget *KirvServerAssistant::createPage()
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(introduction);
-    for (QWidget *part :
-         { configurationRow, pictureList, static_cast<QWidget *>(fields), static_cast<QWidget *>(rememberBox) })
+    for (QWidget *part : { configurationRow, pictureList, static_cast<QWidget *>(fields), createRememberRow(page) })
         layout->addWidget(part);
     layout->addStretch();
     return page;
+}
+
+QWidget *KirvServerAssistant::createRememberRow(QWidget *page)
+{
+    rememberRow = new QWidget(page);
+    rememberRow->setObjectName(QStringLiteral("ServerAssistant_RememberRow"));
+    rememberBox = new QCheckBox(tr("&Remember the password"), rememberRow);
+    rememberBox->setObjectName(QStringLiteral("ServerAssistant_Remember"));
+    rememberBox->setChecked(true);
+    connect(rememberBox, &QCheckBox::toggled, this, &KirvServerAssistant::rememberingChanged);
+    auto *layout = new QVBoxLayout(rememberRow);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(rememberBox);
+    return rememberRow;
+}
+
+void KirvServerAssistant::setSecrets(const KirvSecretKeeper &keeper)
+{
+    new KirvRememberBox(rememberBox, keeper, KirvRememberBox::OffWhenUnsafe);
+    connect(&keeper, &KirvSecretKeeper::changed, this, &KirvServerAssistant::growLater);
 }
 
 QWidget *KirvServerAssistant::createMessageRow()
@@ -209,7 +226,7 @@ void KirvServerAssistant::showStep(const KirvServerRequest::Step &newStep)
     showPictures();
     fillFields(step.fields);
     fields->setVisible(!step.fields.isEmpty());
-    rememberBox->setVisible(step.hasPassword);
+    rememberRow->setVisible(step.hasPassword);
     showMessage(step.notice, true);
     focusStep();
     growLater();

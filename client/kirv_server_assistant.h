@@ -12,6 +12,7 @@ class KirvBoundedImage;
 class KirvFieldWidget;
 class KirvFormArea;
 class KirvPictureReader;
+class KirvSecretKeeper;
 class KirvWrappedText;
 class QCheckBox;
 class QComboBox;
@@ -34,6 +35,9 @@ public:
 
     /// What is offered to choose from where a step has a field for the domain of a provider; from the next step on.
     void setProviders(const QList<KirvProvider> &newProviders) { providers = newProviders; }
+    /// Says where \a keeper, which outlives this, would keep the password of a new account. Without a keyring it is not
+    /// remembered unless the user says so. Call it at most once.
+    void setSecrets(const KirvSecretKeeper &keeper);
     /// Whether the password of the new account is to be stored.
     bool isPasswordToBeRemembered() const;
     /// The request is over, and \a text says what is left to say. With a \a command, in title case, there is a button
@@ -41,11 +45,13 @@ public:
     void showOutcome(const QString &text, const QString &command, bool isProblem = true);
 
 Q_SIGNALS:
+    void rememberingChanged(bool isPasswordToBeRemembered);
     void outcomeCommandTriggered();
 
 private:
     void build();
     QWidget *createPage();
+    QWidget *createRememberRow(QWidget *page);
     QWidget *createMessageRow();
     QWidget *createButtons();
     QWidget *createPictureText(int index, const QString &text);
@@ -83,6 +89,7 @@ private:
     QWidget *pictureList = nullptr;
     KirvPictureReader *pictureReader = nullptr;
     KirvFieldWidget *fields = nullptr;
+    QWidget *rememberRow = nullptr;
     QCheckBox *rememberBox = nullptr;
     QWidget *messageRow = nullptr;
     QLabel *messageIcon = nullptr;

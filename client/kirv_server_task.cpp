@@ -44,6 +44,8 @@ void KirvServerTask::createAssistant(QWidget *window)
     parentWindow = window;
     assistant = new KirvServerAssistant(request.get(), window);
     assistant->setProviders(providers);
+    assistant->setSecrets(accounts.secrets());
+    followRememberBox();
     // A dialogue about one account belongs to the window that it was opened from.
     if (requestAccount && window)
         assistant->setWindowModality(Qt::WindowModal);
@@ -54,6 +56,16 @@ void KirvServerTask::createAssistant(QWidget *window)
         assistant.clear();
         windowClosed();
     });
+}
+
+/// The window may be destroyed before there is a result.
+void KirvServerTask::followRememberBox()
+{
+    if (isFinished)
+        return; // the window only says what is left to say
+    isRemembered = assistant->isPasswordToBeRemembered();
+    connect(assistant, &KirvServerAssistant::rememberingChanged, this,
+            [this](bool isChecked) { isRemembered = isChecked; });
 }
 
 void KirvServerTask::windowClosed()
@@ -91,7 +103,6 @@ void KirvServerTask::finish(const KirvServerRequest::Result &newResult)
 {
     result = newResult;
     isFinished = true;
-    isRemembered = !assistant || assistant->isPasswordToBeRemembered();
     applyResult();
 }
 

@@ -54,6 +54,7 @@ private:
     };
 
     void createAssistant(QWidget *window);
+    void followRememberBox();
     void windowClosed();
     void failed(const KirvFailure &failure);
     void finish(const KirvServerRequest::Result &result);
@@ -70,7 +71,7 @@ private:
     QPointer<QWidget> parentWindow;
     QList<KirvProvider> providers;
     KirvServerRequest::Result result;
-    bool isRemembered = true; ///< the password of the new account
+    bool isRemembered = false; ///< the password of the new account; what the window said last
     bool isFinished = false; ///< there is a result
     bool isOver = false;
 };

@@ -88,7 +88,11 @@ public:
     /// Whether the account waits for secrets that are in the keyring before it logs in.
     bool awaitsSecrets() const { return !awaited.isEmpty(); }
     /// Whether the password is among them.
-    bool awaitsPassword() const { return awaited.contains(QString()); }
+    bool awaitsPassword() const { return awaitsSecret(QString()); }
+    /// Whether that setting is; an empty \a field is the password.
+    bool awaitsSecret(const QString &field) const { return awaited.contains(field); }
+    /// Whether any setting is.
+    bool awaitsSetting() const { return awaited.size() > (awaitsPassword() ? 1 : 0); }
     const KirvSecretKeeper &secrets() const { return keeper; }
     /// The server has changed the password to \a password. Where the store refuses, the account keeps it for this run,
     /// so that it can be stored later; the result is false then.

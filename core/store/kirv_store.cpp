@@ -5,6 +5,7 @@
 #include "core/store/kirv_avatar_folder.h"
 #include "core/store/kirv_database.h"
 #include "core/store/kirv_file_identity.h"
+#include "core/store/kirv_profile_contents.h"
 #include "core/store/kirv_profile_copies.h"
 #include "core/store/kirv_profile_lock.h"
 #include "core/store/kirv_profile_opening.h"
@@ -490,10 +491,7 @@ bool KirvStore::Private::copyAllTo(KirvStore &other)
         return false;
     for (const KirvAccountRecord &record : qAsConst(records))
         other.insertAccount(record);
-    QSqlQuery *query = database.run(QStringLiteral("SELECT key, value FROM setting"));
-    while (query && query->next())
-        other.writeSetting(query->value(0).toString(), query->value(1).toString());
-    const bool isComplete = database.readToEnd(query);
+    const bool isComplete = kirvCopySettingsAndItems(database, other.d->database);
     if (!isComplete)
         other.rollBack();
     return isComplete && other.commit();

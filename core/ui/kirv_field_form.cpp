@@ -133,6 +133,15 @@ QLineEdit *KirvFieldForm::lineOf(const QString &id) const
     return nullptr;
 }
 
+void KirvFieldForm::addBelow(QLineEdit *line, QWidget *widget)
+{
+    for (const Row &row : rows) {
+        auto *cell = row.editor.widget == line ? qobject_cast<QVBoxLayout *>(row.cell->parent()) : nullptr;
+        if (cell)
+            cell->addWidget(widget);
+    }
+}
+
 void KirvFieldForm::addBeside(QLineEdit *line, QWidget *button)
 {
     for (const Row &row : rows) {

@@ -38,6 +38,8 @@ public:
     QLineEdit *lineOf(const QString &id) const;
     /// Puts \a button, which the form then owns, behind that line, also in the order of Tab.
     void addBeside(QLineEdit *line, QWidget *button);
+    /// Puts \a widget, which the form then owns, below that line.
+    void addBelow(QLineEdit *line, QWidget *widget);
 
     /// Gives the captions mnemonics that do not clash in the window that the form is in by now.
     void assignMnemonics();

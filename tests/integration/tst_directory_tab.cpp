@@ -33,6 +33,8 @@ private Q_SLOTS:
     void wrongEntryIsSaidAndNotPublished();
     void correctedEntryIsPublished();
     void wrongTextOfTheServerDoesNotKeepFromSaving();
+    void entryTypedOffLineIsNotLost();
+    void unchangedEntryClosesOffLine();
 
 private:
     KirvAccount *account() const { return windows->account(id); }
@@ -203,6 +205,55 @@ void tst_DirectoryTab::wrongTextOfTheServerDoesNotKeepFromSaving()
     QVERIFY(!window || !window->isVisible());
     QCOMPARE(windows->protocol->server->takeCalls().filter(QStringLiteral("publish")),
              QStringList(QStringLiteral("ann publish town")));
+}
+
+void tst_DirectoryTab::entryTypedOffLineIsNotLost()
+{
+    openDirectory();
+    connection()->serverGoes();
+    Windows::settle();
+    QVERIFY(!account()->isOnline());
+    entry("town")->setText(QStringLiteral("Verona"));
+    child<QTabWidget>("EditAccount_Tabs")->setCurrentIndex(0);
+    child<QLineEdit>("EditAccount_Alias")->setText(QStringLiteral("Other"));
+    Windows::save(window);
+
+    // The rest is saved; the entry stays where it was typed, and the window says why.
+    QVERIFY(window && window->isVisible());
+    QCOMPARE(account()->record().alias, QStringLiteral("Other"));
+    QCOMPARE(child<QTabWidget>("EditAccount_Tabs")->currentIndex(), 1);
+    QCOMPARE(child<QLabel>("EditAccount_PubDirStatus")->text(),
+             QStringLiteral("The account must be connected before its directory entry can be read or changed."));
+    QCOMPARE(entry("town")->text(), QStringLiteral("Verona"));
+    QVERIFY(Windows::button(window, QDialogButtonBox::Save)->isEnabled());
+
+    account()->tryAgain();
+    Windows::settle();
+    QVERIFY(account()->isOnline());
+    QCOMPARE(entry("town")->text(), QStringLiteral("Verona"));
+    windows->protocol->server->takeCalls();
+    Windows::save(window);
+    QVERIFY(!window || !window->isVisible());
+    QCOMPARE(windows->protocol->server->takeCalls().filter(QStringLiteral("publish")),
+             QStringList(QStringLiteral("ann publish town")));
+}
+
+void tst_DirectoryTab::unchangedEntryClosesOffLine()
+{
+    openDirectory();
+    connection()->serverGoes();
+    Windows::settle();
+    child<QLineEdit>("EditAccount_Alias")->setText(QStringLiteral("Other"));
+    Windows::save(window);
+    QVERIFY(!window || !window->isVisible());
+    QCOMPARE(account()->record().alias, QStringLiteral("Other"));
+
+    // Neither does one that was never fetched keep it open.
+    window = windows->edit(id);
+    child<QLineEdit>("EditAccount_Alias")->setText(QStringLiteral("Third"));
+    Windows::save(window);
+    QVERIFY(!window || !window->isVisible());
+    QCOMPARE(account()->record().alias, QStringLiteral("Third"));
 }
 
 QTEST_MAIN(tst_DirectoryTab)

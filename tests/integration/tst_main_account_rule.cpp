@@ -43,6 +43,7 @@ private Q_SLOTS:
     void withoutAnEnabledAccountThereIsNone();
     void unloadedPlugInPassesNothingOn();
     void accountOfAMissingPlugInStaysOverARestart();
+    void unloadedOneIsShownAsItChanges();
     void storedOneThatIsDisabledIsReplacedAtTheStart();
     void refusedStoringPassesItOnAllTheSame();
     void assigningStoresNothing();
@@ -212,8 +213,31 @@ void tst_MainAccountRule::accountOfAMissingPlugInStaysOverARestart()
         KirvClientWindows::settle();
         QCOMPARE(stored(), QStringLiteral("ann@@Fake"));
         QVERIFY(rule().account());
+        QCOMPARE(windows->selector()->count(), 0);
+        QCOMPARE(windows->selector()->placeholderText(), QStringLiteral("ann (its plug-in is not loaded)"));
         windows->client.reset();
     }
+}
+
+void tst_MainAccountRule::unloadedOneIsShownAsItChanges()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    windows->chooseMainAccount(ann);
+    windows->client->accounts().protocolAboutToBeUnloaded(QStringLiteral("Fake"));
+    windows->client->accountsPage()->updateAccounts();
+    KirvClientWindows::settle();
+    QCOMPARE(windows->selector()->count(), 0);
+    QCOMPARE(windows->selector()->placeholderText(), QStringLiteral("ann (its plug-in is not loaded)"));
+    windows->account(ann)->setAlias(QStringLiteral("Annie"));
+    KirvClientWindows::settle();
+    QCOMPARE(windows->selector()->placeholderText(), QStringLiteral("Annie (its plug-in is not loaded)"));
+    QVERIFY(windows->client->accounts().remove(windows->account(ann)));
+    KirvClientWindows::settle();
+    QCOMPARE(windows->selector()->placeholderText(), QStringLiteral("bob (its plug-in is not loaded)"));
+    QVERIFY(windows->client->accounts().remove(windows->account(bob)));
+    KirvClientWindows::settle();
+    QCOMPARE(windows->selector()->placeholderText(), QString());
 }
 
 void tst_MainAccountRule::storedOneThatIsDisabledIsReplacedAtTheStart()

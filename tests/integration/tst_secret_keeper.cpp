@@ -94,10 +94,13 @@ private Q_SLOTS:
     void aMoveComesBackToWhatFailed();
     void whatAMoveHasLeftIsNotRemovedDuringASave();
     void aProfileSavedElsewhereKeepsItsSecrets();
+    void aProfileSavedElsewhereKeepsWhatIsNotSettled();
+    void aProfileSavedElsewhereKeepsWhatAMoveHasWritten();
 
 private:
     void settle();
     void restart();
+    void startWithSavedProfile();
     KirvAccount *account() const { return core->account(); }
     bool isInProfile(const QString &text) const { return isTextInFiles(text, core->store.folder()); }
 
@@ -1029,18 +1032,63 @@ void tst_SecretKeeper::aProfileSavedElsewhereKeepsItsSecrets()
 {
     QVERIFY(core->create());
     settle();
-    QTemporaryDir other;
-    const QString folder = other.filePath(QStringLiteral("saved"));
-    QVERIFY2(core->store.saveTo(folder), qPrintable(core->store.lastError()));
-    core->endCore();
-    core->store.close();
-    QVERIFY(core->store.open(folder));
-    restart();
-    settle();
+    startWithSavedProfile();
     QCOMPARE(account()->getPassword(), password);
     account()->setPassword(QStringLiteral("later"));
     settle();
     QCOMPARE(keyring->secrets.values(), QStringList("later")); // its items are still its own
+}
+
+/// Saves the profile to another folder and starts again with that one.
+void tst_SecretKeeper::startWithSavedProfile()
+{
+    const QString folder = core->home.filePath(QStringLiteral("saved"));
+    QVERIFY2(core->store.saveTo(folder), qPrintable(core->store.lastError()));
+    core->endCore();
+    core->store.close();
+    QVERIFY(core->store.open(folder));
+    keyring->isHeld = false; // what was held is never carried out
+    restart();
+    settle();
+}
+
+void tst_SecretKeeper::aProfileSavedElsewhereKeepsWhatIsNotSettled()
+{
+    const QString gone = QStringLiteral("gone");
+    QVERIFY(core->create());
+    QVERIFY(core->create(gone));
+    settle();
+    const QStringList before { QStringLiteral("word of gone"), password };
+    QStringList values = keyring->secrets.values();
+    values.sort();
+    QCOMPARE(values, before);
+    keyring->isHeld = true;
+    account()->setPassword(QStringLiteral("never written"));
+    QVERIFY(core->accounts->remove(core->account(gone)));
+    startWithSavedProfile();
+    QCOMPARE(account()->getPassword(), password); // the one before counts
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    QVERIFY(core->store.unsettledItems().isEmpty());
+}
+
+void tst_SecretKeeper::aProfileSavedElsewhereKeepsWhatAMoveHasWritten()
+{
+    const QString other = QStringLiteral("other");
+    QVERIFY(core->create());
+    settle();
+    keyring->setState(KirvSecretStore::Unavailable);
+    QVERIFY(core->create(other)); // into the profile
+    KirvSecretItem item = account()->record().secretItems.value(QString());
+    item.key += QStringLiteral("-moved");
+    QVERIFY(core->store.addSecretItems({ { item, core->account(other)->key(), QString() } }));
+    keyring->secrets.insert(item.key, QStringLiteral("word of other"));
+    keyring->setState(KirvSecretStore::Silent); // nothing is removed before the profile is saved
+    startWithSavedProfile();
+    QCOMPARE(core->account(other)->getPassword(), QStringLiteral("word of other"));
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(!keyring->secrets.contains(item.key));
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
 }
 
 QTEST_MAIN(tst_SecretKeeper)

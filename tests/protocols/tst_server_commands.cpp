@@ -2,9 +2,11 @@
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_server_commands.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_secret_keeper.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/fakes/kirv_fake_protocol.h"
+#include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/gui/kirv_assistant_window.h"
 #include "tests/support/kirv_patience.h"
@@ -48,6 +50,11 @@ private Q_SLOTS:
 
     void theRegisteredAccountIsAdded_data();
     void theRegisteredAccountIsAdded();
+    void theRegistrationSaysWhereThePasswordGoes_data();
+    void theRegistrationSaysWhereThePasswordGoes();
+    void theBoxFollowsTheKeyringUntilItIsClicked();
+    void aDestroyedWindowKeepsWhatItsBoxSaid_data();
+    void aDestroyedWindowKeepsWhatItsBoxSaid();
     void aKnownAccountIsNotAddedTwice();
     void anAccountThatWasNotStoredCanBeAddedAgain();
     void anAccountThatOnlyTheServerKnowsIsReported();
@@ -285,6 +292,74 @@ void tst_ServerCommands::theRegisteredAccountIsAdded()
     QCOMPARE(account->record().settings.value("server"), QString("127.0.0.1"));
     QCOMPARE(account->record().defaultPresence, QString("available"));
     KIRV_TRY(account->isOnline());
+}
+
+void tst_ServerCommands::theRegistrationSaysWhereThePasswordGoes_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isOn");
+    QTest::newRow("ready") << KirvSecretStore::Ready << "in Fake Keyring" << true;
+    QTest::newRow("locked") << KirvSecretStore::Locked << "in Fake Keyring (locked: you will be asked to unlock it)"
+                            << true;
+    QTest::newRow("none") << KirvSecretStore::Unavailable
+                          << "There is no keyring here: it would be kept in a file only you can read" << false;
+}
+
+void tst_ServerCommands::theRegistrationSaysWhereThePasswordGoes()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(QString, text);
+    QFETCH(bool, isOn);
+    KirvFakeSecretStore keyring(state);
+    accounts->secrets().setKeyring(&keyring);
+    registerAccount();
+    auto *box = Assistant::part<QCheckBox>("Remember");
+    auto *line = Assistant::part<QLabel>("RememberPlace");
+    QVERIFY(box && line && box->isVisible() && line->isVisible());
+    QCOMPARE(line->text(), text);
+    QCOMPARE(box->accessibleDescription(), text);
+    QCOMPARE(box->isChecked(), isOn);
+    QVERIFY(box->toolTip().isEmpty());
+
+    Q_EMIT request()->stepReady(KirvServerRequest::Step());
+    QVERIFY(!box->isVisible() && !line->isVisible());
+    request()->succeedWith(Result::AccountRegistered, newAccount);
+    QVERIFY(accounts->find(newKey));
+    QCOMPARE(accounts->find(newKey)->record().rememberPassword, isOn);
+}
+
+void tst_ServerCommands::theBoxFollowsTheKeyringUntilItIsClicked()
+{
+    KirvFakeSecretStore keyring(KirvSecretStore::Unknown);
+    accounts->secrets().setKeyring(&keyring);
+    registerAccount();
+    auto *box = Assistant::part<QCheckBox>("Remember");
+    QVERIFY(box->isChecked());
+    keyring.setState(KirvSecretStore::Unavailable);
+    QVERIFY(!box->isChecked());
+    box->click();
+    keyring.setState(KirvSecretStore::Ready);
+    keyring.setState(KirvSecretStore::Unavailable);
+    QVERIFY(box->isChecked());
+}
+
+void tst_ServerCommands::aDestroyedWindowKeepsWhatItsBoxSaid_data()
+{
+    theRegisteredAccountIsAdded_data();
+}
+
+void tst_ServerCommands::aDestroyedWindowKeepsWhatItsBoxSaid()
+{
+    QFETCH(bool, isRemembered);
+    registerAccount();
+    Assistant::part<QCheckBox>("Remember")->setChecked(isRemembered);
+    press(Assistant::next());
+    request()->canBeCancelled = false;
+    delete Assistant::window();
+    request()->succeedWith(Result::AccountRegistered, newAccount);
+    QVERIFY(accounts->find(newKey));
+    QCOMPARE(accounts->find(newKey)->record().rememberPassword, isRemembered);
 }
 
 void tst_ServerCommands::aKnownAccountIsNotAddedTwice()
