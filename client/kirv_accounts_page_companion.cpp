@@ -223,7 +223,7 @@ void KirvAccountsPageCompanion::connectStrip(KirvAccountHelp &help)
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &KirvAccountsPageCompanion::refreshStripLater);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
-        if (account == currentAccount())
+        if (strip->isAbout(account->key()))
             refreshStripLater();
     });
     connect(strip, &KirvAccountStrip::logRequested, &help, [this, &help] { help.showLog(currentAccount()); });
@@ -274,7 +274,7 @@ void KirvAccountsPageCompanion::mainAccountChanged()
 
 KirvAccount *KirvAccountsPageCompanion::currentAccount() const
 {
-    return accounts.find(current());
+    return accounts.find(rows->chosen());
 }
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:
