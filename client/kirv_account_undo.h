@@ -30,6 +30,10 @@ public:
 
     KirvAccountHistory &history() const { return past; }
 
+    /// The step that disabled all accounts; 0: none. Kept here, as the pages are created anew for another language.
+    int allDisabled() const { return stepOfAll; }
+    void setAllDisabled(int step) { stepOfAll = step; }
+
 private:
     void stepAdded(int step);
     void show(int step);
@@ -44,6 +48,7 @@ private:
     KirvMessageBar &messages;
     QHash<int, QString> shown; ///< the message of each step
     QSet<int> heldBack; ///< steps whose message is not shown until a later removal was undone
+    int stepOfAll = 0;
 };
 
 #endif
