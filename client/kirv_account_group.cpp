@@ -98,12 +98,12 @@ void KirvAccountGroup::disableAll()
 
 bool KirvAccountGroup::canEnableAgain() const
 {
-    return undo.history().canUndo(allDisabled);
+    return undo.history().canUndo(undo.allDisabled());
 }
 
 void KirvAccountGroup::enableAgain()
 {
-    undo.undo(allDisabled);
+    undo.undo(undo.allDisabled());
 }
 
 void KirvAccountGroup::disableNow(const QList<KirvAccountKey> &keys, bool isAll)
@@ -117,7 +117,7 @@ void KirvAccountGroup::disableNow(const QList<KirvAccountKey> &keys, bool isAll)
     const int before = history.latest();
     history.endStep();
     if (isAll && history.latest() != before)
-        allDisabled = history.latest();
+        undo.setAllDisabled(history.latest());
 }
 
 void KirvAccountGroup::removeNow(const QList<KirvAccountKey> &keys)

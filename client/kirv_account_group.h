@@ -51,7 +51,6 @@ private:
     KirvMainAccount &mainAccount;
     KirvAccountUndo &undo;
     QWidget *parent;
-    int allDisabled = 0; ///< the step of disableAll()
 };
 
 #endif

@@ -31,6 +31,13 @@ void KirvAccountRows::select(QTreeWidgetItem *row) const
     list->setCurrentItem(row, KirvAliasColumn, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+KirvAccountKey KirvAccountRows::chosen() const
+{
+    const QModelIndexList selected = list->selectionModel()->selectedRows();
+    const QModelIndex index = selected.size() == 1 ? selected.first() : list->currentIndex();
+    return index.isValid() ? keyOf(index) : KirvAccountKey();
+}
+
 QList<QTreeWidgetItem *> KirvAccountRows::rowsOf(const QString &protocol) const
 {
     // Qt compares case-insensitively by default; names of protocols may differ in case only.

@@ -58,6 +58,8 @@ KirvAccountSearch::KirvAccountSearch(const KirvAccountCollection &accounts, cons
     connect(list->model(), &QAbstractItemModel::layoutChanged, this, &KirvAccountSearch::rowsMoved);
     connect(field, &QLineEdit::textChanged, this, &KirvAccountSearch::search);
     connect(&rows, &KirvAccountRows::inserted, this, &KirvAccountSearch::touch);
+    connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &KirvAccountSearch::releaseKept);
+    connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &KirvAccountSearch::releaseKept);
     connect(&accounts, &KirvAccountCollection::accountChanged, this,
             [this](const KirvAccount *account) { touch(account->key()); });
     auto *shortcut = new QShortcut(QKeySequence::Find, list->window());
@@ -145,6 +147,7 @@ void KirvAccountSearch::search()
 void KirvAccountSearch::applyToAll()
 {
     touched.clear();
+    kept.clear();
     nextRow = 0;
     applyToNext();
 }
@@ -175,6 +178,20 @@ void KirvAccountSearch::touch(const KirvAccountKey &key)
     if (words.isEmpty())
         return;
     touched.insert(key);
+    filterLater();
+}
+
+/// Rows that the user may have finished with.
+void KirvAccountSearch::releaseKept()
+{
+    if (kept.isEmpty())
+        return;
+    touched += std::exchange(kept, {});
+    filterLater();
+}
+
+void KirvAccountSearch::filterLater()
+{
     if (!std::exchange(isFilterDue, true))
         QMetaObject::invokeMethod(this, &KirvAccountSearch::filterTouched, Qt::QueuedConnection);
 }
@@ -186,11 +203,22 @@ void KirvAccountSearch::filterTouched()
     const QDateTime now = QDateTime::currentDateTime();
     for (const KirvAccountKey &key : keys) {
         QTreeWidgetItem *row = rows.find(key);
-        if (row)
-            apply(list->indexOfTopLevelItem(row), isMatch(key, now));
+        if (!row)
+            continue;
+        const bool matches = isMatch(key, now);
+        if (!matches && !row->isHidden() && isInUse(row))
+            kept.insert(key);
+        else
+            apply(list->indexOfTopLevelItem(row), matches);
     }
     if (!keys.isEmpty())
         showCount();
+}
+
+/// A question may be open about it, or an editor in it.
+bool KirvAccountSearch::isInUse(const QTreeWidgetItem *row) const
+{
+    return row == list->currentItem() || row->isSelected();
 }
 
 void KirvAccountSearch::apply(int row, bool isMatch)
@@ -230,6 +258,7 @@ QString KirvAccountSearch::stateWords(const KirvAccount &account, const QDateTim
     case KirvAccountStatus::NotLoaded:
         return status.text(now) + QLatin1Char(' ') + tr("problem");
     case KirvAccountStatus::Waiting:
+    case KirvAccountStatus::Connecting:
         return account.lastFailure().isFailure() ? status.text(now) + QLatin1Char(' ') + tr("problem")
                                                  : status.text(now);
     default:

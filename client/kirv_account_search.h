@@ -17,11 +17,13 @@ class QLabel;
 class QLineEdit;
 class QTimer;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 /// Hides the rows of the page's list that do not have every typed word in their alias, id, protocol or state;
 /// "problem" stands for every state that needs attention. Shown from shownFromCount on, and by Ctrl+F.
 ///
-/// A row is deselected before it is hidden: the page's commands work on what is selected, seen or not.
+/// A row is deselected before it is hidden: the page's commands work on what is selected, seen or not. A row that is
+/// current or selected when its account changes stays as long as that lasts, as the user may be working on it.
 class KirvAccountSearch : public QWidget {
     Q_OBJECT
 
@@ -44,7 +46,10 @@ private:
     void moveToList();
     void search();
     void touch(const KirvAccountKey &key);
+    void releaseKept();
+    void filterLater();
     void filterTouched();
+    bool isInUse(const QTreeWidgetItem *row) const;
     void apply(int row, bool isMatch);
     void applyToAll();
     void applyToNext();
@@ -64,6 +69,7 @@ private:
     int nextRow = 0; ///< from which it goes on
     QStringList words;
     QSet<KirvAccountKey> touched;
+    QSet<KirvAccountKey> kept; ///< shown although they do not match, as they are current or selected
     bool isOpened = false; ///< by Ctrl+F
     bool isFilterDue = false;
 };

@@ -150,8 +150,11 @@ void KirvAccountStrip::show(const KirvAccount *account, bool isMain)
     icon->setPixmap(kirvStatePixmap(status.kind(), this, icon->width()));
     icon->setAccessibleName(status.accessibleLine());
     title->setText(status.accessibleLine());
+    shown = account->key();
     //: %1 = name of an account
-    setAccessibleName(tr("State of %1").arg(kirvPlainName(account->displayName())));
+    const QString name = tr("State of %1").arg(kirvPlainName(account->displayName()));
+    setAccessibleName(name);
+    setToolTip(kirvPlainToolTip(name));
     const QString text = status.reason();
     if (reason->toPlainText() != text) // what is selected in it stays
         reason->setPlainText(text);
@@ -185,5 +188,7 @@ void KirvAccountStrip::showNone(const QString &text, const QString &details)
     icon->setAccessibleName(QString());
     title->setText(text);
     setAccessibleName(text);
+    setToolTip(QString());
+    shown = KirvAccountKey();
     reason->setPlainText(details);
 }

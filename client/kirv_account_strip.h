@@ -2,6 +2,8 @@
 #ifndef KIRV_ACCOUNT_STRIP_H
 #define KIRV_ACCOUNT_STRIP_H
 
+#include "core/values/kirv_account_key.h"
+
 #include <QFrame>
 
 class KirvAccount;
@@ -23,6 +25,7 @@ public:
 
     /// Shows \a account as it is now; null: none. The account is not kept. \a isMain: it is the main account.
     void show(const KirvAccount *account, bool isMain);
+    bool isAbout(const KirvAccountKey &account) const { return account == shown; }
     /// Says that \a count accounts are selected.
     void showSeveral(int count);
     /// To be called when the strip is in its window: gives the buttons mnemonics that the window has not.
@@ -47,6 +50,7 @@ private:
     void fixHeight();
     void showNone(const QString &text, const QString &details);
 
+    KirvAccountKey shown; ///< the id is empty: none
     QLabel *icon;
     QLabel *title;
     QTextEdit *reason;

@@ -8,6 +8,8 @@
 
 #include <QShortcut>
 
+#include <algorithm>
+
 KirvAccountUndo::KirvAccountUndo(KirvAccountCollection &accounts, KirvAccountHistory &history, KirvMessageBar &messages,
                                  QWidget *window)
     : QObject(window)
@@ -23,12 +25,13 @@ KirvAccountUndo::KirvAccountUndo(KirvAccountCollection &accounts, KirvAccountHis
 
 QString KirvAccountUndo::command() const
 {
-    const QStringList names = past.namesOf(past.latest());
+    const int step = past.latestUndoable();
+    const QStringList names = past.namesOf(step);
     if (names.isEmpty())
         return QString();
     const QString name = kirvPlainCommand(kirvPlainName(names.first()));
     const int count = int(names.size());
-    switch (past.kindOf(past.latest())) {
+    switch (past.kindOf(step)) {
     case KirvAccountHistory::Removal:
         //: %1 = name of an account
         return count == 1 ? tr("&Undo Removing %1").arg(name) : tr("&Undo Removing %n Accounts", nullptr, count);
@@ -44,7 +47,8 @@ QString KirvAccountUndo::command() const
 
 void KirvAccountUndo::undoLatest()
 {
-    undo(past.latest());
+    const int step = past.latestUndoable();
+    undo(step ? step : past.latest()); // for the reason why it cannot be undone
 }
 
 void KirvAccountUndo::undo(int step)
@@ -79,7 +83,8 @@ void KirvAccountUndo::stepAdded(int step)
 void KirvAccountUndo::holdBack()
 {
     for (auto message = shown.constBegin(); message != shown.constEnd(); ++message) {
-        if (past.canUndo(message.key()) || !messages.messages().contains(message.value()))
+        const bool isShown = !heldBack.contains(message.key()) && messages.messages().contains(message.value());
+        if (!isShown || past.canUndo(message.key()))
             continue;
         heldBack.insert(message.key());
         messages.removeMessage(message.value());
@@ -88,9 +93,10 @@ void KirvAccountUndo::holdBack()
 
 void KirvAccountUndo::showHeldBack()
 {
-    const QSet<int> steps = heldBack;
-    for (int step : steps) {
-        if (!past.canUndo(step))
+    QList<int> steps = heldBack.values();
+    std::sort(steps.begin(), steps.end());
+    for (int step : qAsConst(steps)) {
+        if (!past.canUndo(step) || isReplaced(step))
             continue;
         heldBack.remove(step);
         show(step);
@@ -100,17 +106,42 @@ void KirvAccountUndo::showHeldBack()
 void KirvAccountUndo::show(int step)
 {
     const QString text = messageOf(step);
-    messages.removeMessage(text); // of an earlier step on an account of the same name: its button would undo that one
+    replaceEarlier(step, text);
     shown.insert(step, text);
     messages.showMessage(
         text, tr("&Undo"), [this, step] { undo(step); }, KirvMessageBar::Information);
 }
 
+/// Takes the message \a text of an earlier step on an account of the same name away: its button would undo that one.
+void KirvAccountUndo::replaceEarlier(int step, const QString &text)
+{
+    const bool isShown = messages.messages().contains(text);
+    const QList<int> alike = shown.keys(text);
+    for (int earlier : alike) {
+        if (earlier == step || heldBack.contains(earlier))
+            continue;
+        if (isShown)
+            heldBack.insert(earlier);
+        else
+            shown.remove(earlier); // the user has closed it
+    }
+    messages.removeMessage(text);
+}
+
+/// Whether a later step shows the message of \a step.
+bool KirvAccountUndo::isReplaced(int step) const
+{
+    const QString text = shown.value(step);
+    const QList<int> alike = shown.keys(text);
+    return messages.messages().contains(text) && std::any_of(alike.begin(), alike.end(), [this, step](int other) {
+               return other > step && !heldBack.contains(other);
+           });
+}
+
 void KirvAccountUndo::withdraw(int step)
 {
     const QString text = shown.take(step);
-    heldBack.remove(step);
-    if (!shown.values().contains(text))
+    if (!heldBack.remove(step) && !text.isEmpty())
         messages.removeMessage(text);
     showHeldBack();
 }

@@ -78,10 +78,10 @@ KirvAccountsPageCompanion::KirvAccountsPageCompanion(QWidget *top, const Environ
         }
     });
     connect(&accounts, &KirvAccountCollection::enabledChanged, this, &KirvAccountsPageCompanion::updateCheckBoxes);
-    // After a save the page rewrites the row itself, with an alias that may be empty.
-    connect(list->model(), &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &index) {
-        const KirvAccount *account = accounts.find(KirvAccountRows::keyOf(index));
-        if (index.column() == KirvAliasColumn && account && index.data().toString() != shownName(*account))
+    // After a save the page rewrites the row, with an alias that may be empty. Where it is sorted in, it moves first.
+    connect(list, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem *row, int column) {
+        const KirvAccount *account = accounts.find(KirvAccountRows::keyOf(row));
+        if (column == KirvAliasColumn && account && row->text(column) != shownName(*account))
             syncRowLater(account->key());
     });
     connect(&accounts, &KirvAccountCollection::accountRemoved, this,
@@ -223,7 +223,7 @@ void KirvAccountsPageCompanion::connectStrip(KirvAccountHelp &help)
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &KirvAccountsPageCompanion::refreshStripLater);
     connect(&accounts, &KirvAccountCollection::accountChanged, this, [this](const KirvAccount *account) {
-        if (account == currentAccount())
+        if (strip->isAbout(account->key()))
             refreshStripLater();
     });
     connect(strip, &KirvAccountStrip::logRequested, &help, [this, &help] { help.showLog(currentAccount()); });
@@ -274,7 +274,7 @@ void KirvAccountsPageCompanion::mainAccountChanged()
 
 KirvAccount *KirvAccountsPageCompanion::currentAccount() const
 {
-    return accounts.find(current());
+    return accounts.find(rows->chosen());
 }
 
 /// The page lists the accounts of a protocol anew each time it is loaded and keeps the rows of one that was unloaded:

@@ -16,14 +16,13 @@
 KirvLoginTestDialog::KirvLoginTestDialog(const KirvAccount &account, QWidget *parent)
     : QDialog(parent)
     , accountKey(account.key())
+    , tested(&account)
 {
     setObjectName(QStringLiteral("LogInTest"));
     //: %1 = name of an account
     setWindowTitle(tr("Log-In of %1").arg(kirvPlainName(account.displayName())));
-    const KirvLogin login { accountKey.id, account.record().password, account.settings(),
-                            account.trustedCertificate() };
     view = new KirvLoginTestView(
-        *account.protocol(), [login] { return login; }, objectName(), this);
+        *account.protocol(), [this] { return storedLogin(); }, objectName(), this);
     auto *close = new QDialogButtonBox(QDialogButtonBox::Close, this);
     close->setObjectName(QStringLiteral("LogInTest_Buttons"));
     connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -41,6 +40,14 @@ KirvLoginTestDialog::KirvLoginTestDialog(const KirvAccount &account, QWidget *pa
     const int unit = fontMetrics().averageCharWidth();
     resize(std::min(70 * unit, parent->screen()->availableSize().width()), sizeHint().height());
     view->start();
+}
+
+/// As it is now: the account may have been changed since the last test.
+KirvLogin KirvLoginTestDialog::storedLogin() const
+{
+    if (!tested)
+        return { accountKey.id, QString(), {} };
+    return { accountKey.id, tested->record().password, tested->settings(), tested->trustedCertificate() };
 }
 
 void KirvLoginTestDialog::growToFit()

@@ -6,6 +6,7 @@
 #include "core/accounts/kirv_main_account.h"
 
 #include <QPointer>
+#include <QSet>
 
 #include <algorithm>
 #include <utility>
@@ -108,11 +109,30 @@ bool KirvAccountHistory::isRemovalHeld(const KirvAccountKey &key) const
 bool KirvAccountHistory::canUndo(int step) const
 {
     const int index = indexOf(step);
-    if (index < 0 || steps.at(index).kind != Disabling)
+    if (index < 0 || steps.at(index).kind == Import)
         return index >= 0;
+    const bool isRemoval = steps.at(index).kind == Removal;
     const QList<Change> &changes = steps.at(index).changes;
-    return !std::all_of(changes.begin(), changes.end(),
-                        [this](const Change &change) { return isRemovalHeld(change.account.record.key); });
+    return std::any_of(changes.begin(), changes.end(), [&](const Change &change) {
+        const KirvAccountKey &key = change.account.record.key;
+        return isRemoval ? !accounts.hasLogin(key) : !isRemovalHeld(key);
+    });
+}
+
+int KirvAccountHistory::latestUndoable() const
+{
+    QSet<KirvAccountKey> passed;
+    for (auto step = steps.crbegin(); step != steps.crend(); ++step) {
+        const QList<Change> &changes = step->changes;
+        const bool isApart = std::none_of(changes.begin(), changes.end(), [&passed](const Change &change) {
+            return passed.contains(change.account.record.key);
+        });
+        if (isApart && canUndo(step->number))
+            return step->number;
+        for (const Change &change : changes)
+            passed << change.account.record.key;
+    }
+    return 0;
 }
 
 KirvAccountHistory::Kind KirvAccountHistory::kindOf(int step) const
@@ -218,6 +238,10 @@ QStringList KirvAccountHistory::undo(int step)
         return rest.reasons;
     }
     undone.changes = rest.changes;
+    for (const Change &change : qAsConst(undone.changes)) {
+        if (undone.kind == Removal)
+            removedBy.insert(change.account.record.key, step);
+    }
     const auto isLater = [step](const Step &other) { return other.number > step; };
     steps.insert(std::find_if(steps.begin(), steps.end(), isLater), undone);
     return rest.reasons;
@@ -228,18 +252,22 @@ KirvAccountHistory::Rest KirvAccountHistory::bringBack(const Step &step)
 {
     KirvAccountBatch batch;
     Rest rest;
+    QList<Change> blocked; // by an account that was added since
     // The latest first, so that each finds the neighbours that it had.
     for (auto change = step.changes.crbegin(); change != step.changes.crend(); ++change) {
         const QString reason = addTo(&batch, step.kind, *change);
-        if (reason.isEmpty())
+        const bool isBlocked = !reason.isEmpty() && step.kind == Removal;
+        if (reason.isEmpty() || isBlocked)
             rest.changes.prepend(*change);
-        else
+        if (isBlocked)
+            blocked.prepend(*change);
+        if (!reason.isEmpty())
             rest.add(reason);
     }
     if (!batch.mainAccount.id.isEmpty())
         batch.onStored = [this] { mainAccount.restore(); };
     if (accounts.apply(batch))
-        rest.changes.clear();
+        rest.changes = blocked;
     else
         rest.add(accounts.lastError());
     return rest;

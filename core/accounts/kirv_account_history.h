@@ -47,9 +47,13 @@ public:
     /// Number of the latest step; 0 when there is none.
     int latest() const;
     bool has(int step) const { return indexOf(step) >= 0; }
-    /// False while each of its accounts was removed by a later step that can still be undone; undo() keeps the step
-    /// then. Also false when there is no such step.
+    /// False while nothing of it can be undone: of a disabling while each of its accounts was removed by a later step
+    /// that can still be undone, of a removal while there are such accounts again. undo() keeps the step then. Also
+    /// false when there is no such step.
     bool canUndo(int step) const;
+    /// Number of the latest step that can be undone; 0 when there is none. Steps before one that cannot be undone are
+    /// passed over when they are about the same accounts.
+    int latestUndoable() const;
     Kind kindOf(int step) const;
     /// The accounts of the step, in the order in which they were changed.
     QList<KirvAccountKey> accountsOf(int step) const;
@@ -60,8 +64,8 @@ public:
     /// enabled with the presence that was wanted, imported ones are removed or as they were before, and the main
     /// account is the one that it was. Gives the reasons, a sentence each, why some of it was not undone. What the
     /// store refused stays in the step and can be undone later, of removals and imports all of it, and so do accounts
-    /// to enable that a later step removed; what cannot be undone, as there is such an account again or none any more,
-    /// is dropped.
+    /// to enable that a later step removed, and removed ones as long as there is such an account again; what cannot be
+    /// undone, as there is no such account any more, is dropped.
     QStringList undo(int step);
 
 Q_SIGNALS:

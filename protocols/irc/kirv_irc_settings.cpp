@@ -90,6 +90,29 @@ QList<KirvField> fieldsFor(const QString &server, int port, const char *encrypti
     return fields;
 }
 
+QString portProblem()
+{
+    return KirvIrcSettings::tr("The port must be a number from 1 to 65535.");
+}
+
+/// What follows the "@" of a login. A value type.
+struct ServerPart {
+    QString server;
+    bool hasPort = false;
+    quint16 port = 0; ///< 0: it is no port
+};
+
+/// One colon stands before a port; the addresses of IPv6 have several.
+ServerPart readServerPart(const QString &text)
+{
+    const int colon = int(text.indexOf(QLatin1Char(':')));
+    if (colon < 0 || text.indexOf(QLatin1Char(':'), colon + 1) >= 0)
+        return { text };
+    static const QRegularExpression digits(QRegularExpression::anchoredPattern(QStringLiteral("[0-9]{1,5}")));
+    const QString port = text.mid(colon + 1);
+    return { text.left(colon), true, digits.match(port).hasMatch() ? port.toUShort() : quint16(0) };
+}
+
 /// The port of the server that was started together with the program, when it was.
 int localPort()
 {
@@ -108,9 +131,12 @@ KirvIrcSettings::KirvIrcSettings(const QString &login, const QString &password, 
 
     nick = login.section(QLatin1Char('@'), 0, 0);
     server = text(serverId);
-    if (server.isEmpty())
-        server = login.section(QLatin1Char('@'), 1);
     port = text(portId).toUShort();
+    if (server.isEmpty()) {
+        const ServerPart part = readServerPart(login.section(QLatin1Char('@'), 1));
+        server = part.server;
+        port = part.hasPort ? part.port : port;
+    }
     encrypted = text(encryptionId) != QLatin1String(none);
     certificateFile = text(certificateId);
     clientCertificateFile = text(clientCertificateId);
@@ -134,7 +160,7 @@ QString KirvIrcSettings::problem() const
     if (server != kirvIrcLine(server, 255) || server.contains(QLatin1Char(' ')))
         return tr("\"%1\" is not the name of a server.").arg(kirvIrcLine(server, 255));
     if (port == 0)
-        return tr("The port must be a number from 1 to 65535.");
+        return portProblem();
     if (clientCertificateFile.isEmpty() && !clientKeyFile.isEmpty())
         return tr("There is a key of a client certificate, but no client certificate.");
     if (usesClientCertificate() && !encrypted)
@@ -175,7 +201,8 @@ QList<KirvField> KirvIrcSettings::defaultFields()
                             tr("The name or address of the server. When it is empty, the part of the login after "
                                "the @ is the server.")),
         KirvField::number(tr("Port"), QLatin1String(portId), encryptedPort, 1, 65535,
-                          tr("Usually 6697 with encryption and 6667 without.")),
+                          tr("Usually 6697 with encryption and 6667 without. A port in the login, as in "
+                             "ann@irc.example.org:6667, is used instead.")),
         KirvField::choice(
             tr("Encryption"), QLatin1String(encryptionId), QLatin1String(required),
             { QLatin1String(required), QLatin1String(none) }, { tr("Required (TLS)"), tr("None") },
@@ -249,11 +276,13 @@ QString KirvIrcSettings::loginProblem(const QString &login)
     if (at < 0)
         return QString();
     const QString server = login.mid(at + 1);
-    if (server.isEmpty())
+    const ServerPart part = readServerPart(server);
+    if (part.server.isEmpty())
         return tr("The server after the \"@\" is missing.");
     static const QRegularExpression address(QRegularExpression::anchoredPattern(QLatin1String(serverPattern)));
-    return address.match(server).hasMatch() ? QString()
-                                            : tr("\"%1\" is no address of a server.").arg(kirvVisibleText(server));
+    if (!address.match(server).hasMatch())
+        return tr("\"%1\" is no address of a server.").arg(kirvVisibleText(server));
+    return part.hasPort && part.port == 0 ? portProblem() : QString();
 }
 
 QString KirvIrcSettings::normalizedLogin(const QString &login)

@@ -12,9 +12,11 @@
 
 /// The settings of an IRC account, read from its login, its password and its fields. A value type.
 ///
-/// A login is a nick, or a nick, "@" and the name of a network: "alice", "alice@irc.libera.chat". The second form
+/// A login is a nick, or a nick, "@" and the name of a network: "alice", "alice\@irc.libera.chat". The second form
 /// lets a user keep the same nick on several networks, as a login can be used only once. What follows the "@" is
 /// the server as long as the field "server" is empty; otherwise it is only a name that tells the accounts apart.
+/// The port of such a server may follow after a colon, "alice\@irc.libera.chat:7000", and holds in place of the field
+/// "port".
 class KirvIrcSettings {
     Q_DECLARE_TR_FUNCTIONS(KirvIrcSettings)
 

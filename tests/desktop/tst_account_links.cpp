@@ -168,6 +168,9 @@ void tst_AccountLinks::linkOpensTheAddWindow_data()
     QTest::newRow("IRC") << "ircs://ann@irc.example.org"
                          << "IRC"
                          << "ann@irc.example.org";
+    QTest::newRow("port") << "ircs://ann@irc.example.org:6697"
+                          << "IRC"
+                          << "ann@irc.example.org:6697";
     QTest::newRow("no nick") << "irc://irc.example.org"
                              << "IRC"
                              << "@irc.example.org";

@@ -43,6 +43,9 @@ private Q_SLOTS:
     void enablingElsewhereEmptiesTheStep();
     void disablingWaitsForTheRemovalToBeUndone();
     void loginThatWasAddedAnewIsNotTouched();
+    void removalStaysWhileTheLoginIsTakenAnew();
+    void accountsThatCanComeBackDoSo();
+    void stepThatCannotBeUndoneIsPassedOver();
     void accountOfAnUnloadedProtocolComesBack();
     void refusedChangeMakesNoStep();
     void refusedUndoLosesNothing_data();
@@ -349,8 +352,67 @@ void tst_AccountHistory::loginThatWasAddedAnewIsNotTouched()
     core->account(bob)->setAlias(QStringLiteral("the new one"));
     QCOMPARE(history->undo(history->latest()), QStringList { "The account \"bob\" (Fake) exists already." });
     QCOMPARE(core->account(bob)->getAlias(), QStringLiteral("the new one"));
-    QCOMPARE(history->latest(), 0);
     QCOMPARE(order(), QStringList({ ann, cleo, bob }));
+}
+
+/// What belonged to the removed one is nowhere else.
+void tst_AccountHistory::removalStaysWhileTheLoginIsTakenAnew()
+{
+    core->changeEverything(core->account(bob));
+    const KirvAccountRecord before = core->account(bob)->record();
+    QVERIFY(!before.alias.isEmpty() && !before.password.isEmpty());
+    QVERIFY(!core->account(bob)->avatarPath().isEmpty());
+    remove(bob);
+    const int removal = history->latest();
+    QVERIFY(core->create(bob));
+    core->account(bob)->setAlias(QStringLiteral("the new one"));
+    QVERIFY(!history->canUndo(removal));
+    QCOMPARE(int(history->undo(removal).size()), 1);
+    QVERIFY(history->has(removal));
+    remove(bob);
+    const int removalOfNew = history->latest();
+    QVERIFY(history->canUndo(removal));
+    QCOMPARE(history->undo(removal), QStringList());
+    QCOMPARE(core->account(bob)->getAlias(), before.alias);
+    QCOMPARE(core->account(bob)->record().password, before.password);
+    QVERIFY(!core->account(bob)->avatarPath().isEmpty());
+    QVERIFY(!history->has(removal));
+    QVERIFY(history->has(removalOfNew) && !history->canUndo(removalOfNew));
+}
+
+void tst_AccountHistory::accountsThatCanComeBackDoSo()
+{
+    history->beginStep(KirvAccountHistory::Removal);
+    QVERIFY(core->accounts->remove({ core->account(ann), core->account(bob) }));
+    history->endStep();
+    const int step = history->latest();
+    QVERIFY(core->create(bob));
+    QVERIFY(history->canUndo(step));
+    QCOMPARE(int(history->undo(step).size()), 1);
+    QVERIFY(core->account(ann));
+    QCOMPARE(history->namesOf(step), QStringList { "Alias of bob" });
+    QVERIFY(!history->canUndo(step));
+    remove(bob);
+    QCOMPARE(history->undo(step), QStringList());
+    QVERIFY(core->account(bob));
+    QVERIFY(!history->has(step));
+}
+
+void tst_AccountHistory::stepThatCannotBeUndoneIsPassedOver()
+{
+    QVERIFY(core->account(bob)->setEnabled(false));
+    remove(ann);
+    const int removalOfAnn = history->latest();
+    remove(bob);
+    QCOMPARE(history->latestUndoable(), history->latest());
+    QVERIFY(core->create(bob));
+    QCOMPARE(history->latestUndoable(), removalOfAnn);
+    QCOMPARE(history->undo(removalOfAnn), QStringList());
+    // What was disabled was the account that is gone.
+    QCOMPARE(history->latestUndoable(), 0);
+    QVERIFY(history->latest() != 0);
+    remove(bob);
+    QCOMPARE(history->latestUndoable(), history->latest());
 }
 
 void tst_AccountHistory::accountOfAnUnloadedProtocolComesBack()

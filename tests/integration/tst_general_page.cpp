@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_group.h"
 #include "client/kirv_message_bar.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void languagesAreListedInTheirOwnWords();
     void chosenLanguageIsSpokenAtOnce();
     void pageWorksAfterEachChange();
+    void disabledAccountsAreEnabledAgainAfterwards();
     void chosenLanguageIsSpokenAtTheNextStart();
     void languageOfTheSystemIsChosenAgain();
     void directionFollowsTheLanguage();
@@ -175,6 +177,26 @@ void tst_GeneralPage::pageWorksAfterEachChange()
         QVERIFY(edited);
         KirvClientWindows::save(edited);
     }
+}
+
+/// The page that has disabled them is gone by then.
+void tst_GeneralPage::disabledAccountsAreEnabledAgainAfterwards()
+{
+    windows->addAccount(bob);
+    const auto group = [this] { return windows->client->accountsPage()->findChild<KirvAccountGroup *>(); };
+    group()->disableAll();
+    KirvClientWindows::settle();
+    QCOMPARE(int(KirvClientWindows::boxes().size()), 1);
+    KirvClientWindows::boxes().first()->button(QMessageBox::Yes)->click();
+    KIRV_TRY(!windows->account(ann)->isEnabled() && !windows->account(bob)->isEnabled());
+    KirvClientWindows::settle();
+    QVERIFY(group()->canEnableAgain());
+    choose(german);
+    QVERIFY(isGerman());
+    QVERIFY(group()->canEnableAgain());
+    group()->enableAgain();
+    QVERIFY(windows->account(ann)->isEnabled() && windows->account(bob)->isEnabled());
+    QVERIFY(!group()->canEnableAgain());
 }
 
 void tst_GeneralPage::chosenLanguageIsSpokenAtTheNextStart()

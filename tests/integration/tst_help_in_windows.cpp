@@ -98,6 +98,7 @@ private Q_SLOTS:
     void windowWithATestFitsASmallScreen();
 
     void whatIsWrongTestsTheStoredAccount();
+    void nextTestTakesWhatIsStoredThen();
     void whatIsWrongIsOfferedForWhatFails();
     void runningConnectionIsLeftAlone();
     void oneDialogForAnAccount();
@@ -463,6 +464,29 @@ void tst_HelpInWindows::whatIsWrongTestsTheStoredAccount()
     QCOMPARE(server().calls.filter("ann log in available secret").size(), 2);
     QTest::keyClick(dialog, Qt::Key_Escape);
     QVERIFY(!open<KirvLoginTestDialog>());
+}
+
+void tst_HelpInWindows::nextTestTakesWhatIsStoredThen()
+{
+    addFailing(ann);
+    stripButton("Accounts_TestButton")->click();
+    auto *dialog = open<KirvLoginTestDialog>();
+    QVERIFY(dialog);
+    auto *again = child<QPushButton>(dialog, "LogInTest_TestLogIn");
+    KIRV_TRY_COMPARE(plain(again->text()), QString("Test Again"));
+    server().logIn = KirvFakeServer::Holds;
+    windows->account(ann)->change([](KirvAccountRecord &record) {
+        record.password = typed;
+        record.settings.insert("server", "other.example.org");
+    });
+    KirvClientWindows::settle();
+    again->click();
+    KIRV_TRY(connection && connection != ownConnection(ann) && connection->state() == KirvConnection::Connecting);
+    QCOMPARE(connection->login().password, typed);
+    QCOMPARE(connection->login().settings.at(1).getText(), QString("other.example.org"));
+    // The button of the page shows the same dialog, which stays up to date.
+    stripButton("Accounts_TestButton")->click();
+    QCOMPARE(open<KirvLoginTestDialog>(), dialog);
 }
 
 void tst_HelpInWindows::whatIsWrongIsOfferedForWhatFails()

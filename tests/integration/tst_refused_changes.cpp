@@ -70,6 +70,8 @@ private Q_SLOTS:
     void creatingWithoutAWindowSaysTheReasonInTheBar();
 
     void refusedEditKeepsEveryTypedValue();
+    void rowWithoutAnAliasShowsItsLoginAgain_data();
+    void rowWithoutAnAliasShowsItsLoginAgain();
 
     void checkBoxShowsWhatIsStored_data();
     void checkBoxShowsWhatIsStored();
@@ -373,6 +375,36 @@ void tst_RefusedChanges::refusedEditKeepsEveryTypedValue()
     QCOMPARE(stored.defaultPresence, QStringLiteral("away"));
     QVERIFY(stored.restorePresence && stored.restoreDescription);
     QCOMPARE(windows->row(ann)->text(0), stored.alias);
+}
+
+void tst_RefusedChanges::rowWithoutAnAliasShowsItsLoginAgain_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("alias") << QStringLiteral("aaa");
+}
+
+/// Sorted by what it shows, the row moves when that changes.
+void tst_RefusedChanges::rowWithoutAnAliasShowsItsLoginAgain()
+{
+    QFETCH(QString, typed);
+    windows->account(cleo)->setAlias(QString());
+    KirvClientWindows::settle();
+    windows->list()->sortByColumn(0, Qt::AscendingOrder);
+    QCOMPARE(windows->row(cleo)->text(0), cleo);
+    const QPointer<KirvLayoutDialog> window = windows->edit(cleo);
+    line(window, "EditAccount_Alias")->setText(typed);
+    KirvClientWindows::child<QTextEdit>(window, "EditAccount_DescriptionEdit")->setPlainText(QStringLiteral("Busy"));
+    {
+        const StoreRefusal refusal(windows->profileFolder());
+        KirvClientWindows::save(window);
+        KirvClientWindows::closeBoxes();
+    }
+    QVERIFY(window);
+    QCOMPARE(windows->row(cleo)->text(0), cleo);
+    QCOMPARE(windows->rowIds(), (QStringList { ann, bob, cleo }));
+    KirvClientWindows::cancel(window);
+    QCOMPARE(windows->row(cleo)->text(0), cleo);
 }
 
 void tst_RefusedChanges::checkBoxShowsWhatIsStored_data()

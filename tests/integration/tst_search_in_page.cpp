@@ -37,6 +37,11 @@ private Q_SLOTS:
     void wordsAreFound_data();
     void wordsAreFound();
     void stateThatChangesMovesItsRow();
+    void accountThatTriesAgainIsAProblem();
+    void questionStaysAboutItsRow_data();
+    void questionStaysAboutItsRow();
+    void rowInUseIsHiddenAfterwards_data();
+    void rowInUseIsHiddenAfterwards();
     void hiddenRowIsDeselectedFirst();
     void deleteRemovesNoHiddenAccount();
     void keysLeadFromTheFieldToTheList();
@@ -52,6 +57,7 @@ private:
         return KirvClientWindows::child<QLineEdit>(windows->client->accountsPage(), "Accounts_Search");
     }
     void fill();
+    void refuse(int index);
     void search(const QString &text);
     QStringList shownIds() const;
 
@@ -73,6 +79,15 @@ void tst_SearchInPage::fill()
     windows->account(idOf(3))->setAlias(QStringLiteral("Ann at Work"));
     KIRV_TRY(windows->account(idOf(enough - 1))->isOnline());
     QVERIFY(field()->isVisible());
+}
+
+/// Has the server refuse the account.
+void tst_SearchInPage::refuse(int index)
+{
+    windows->protocol->server->logIn = KirvFakeServer::Refuses;
+    windows->account(idOf(index))->reconnect();
+    KIRV_TRY(windows->account(idOf(index))->lastFailure().isFailure());
+    KirvClientWindows::settle();
 }
 
 void tst_SearchInPage::search(const QString &text)
@@ -165,6 +180,76 @@ void tst_SearchInPage::stateThatChangesMovesItsRow()
     windows->protocol->server->logIn = KirvFakeServer::Accepts;
     windows->account(idOf(4))->reconnect();
     KIRV_TRY_COMPARE(shownIds(), QStringList());
+}
+
+void tst_SearchInPage::accountThatTriesAgainIsAProblem()
+{
+    fill();
+    refuse(5);
+    search(QStringLiteral("problem"));
+    QCOMPARE(shownIds(), QStringList { idOf(5) });
+    windows->protocol->server->logIn = KirvFakeServer::Holds;
+    windows->account(idOf(5))->reconnect();
+    KIRV_TRY(windows->account(idOf(5))->connection()->state() == KirvConnection::Connecting);
+    KirvClientWindows::settle();
+    QCOMPARE(shownIds(), QStringList { idOf(5) });
+}
+
+void tst_SearchInPage::questionStaysAboutItsRow_data()
+{
+    QTest::addColumn<bool>("isConnected");
+    QTest::newRow("tries again") << false;
+    QTest::newRow("gets connected") << true;
+}
+
+void tst_SearchInPage::questionStaysAboutItsRow()
+{
+    QFETCH(bool, isConnected);
+    fill();
+    refuse(5);
+    search(QStringLiteral("problem"));
+    windows->select(idOf(5));
+    windows->pageButton("Accounts_RemoveButton")->click();
+    KirvClientWindows::settle();
+    QCOMPARE(int(KirvClientWindows::boxes().size()), 1);
+    windows->protocol->server->logIn = isConnected ? KirvFakeServer::Accepts : KirvFakeServer::Holds;
+    windows->account(idOf(5))->reconnect();
+    const auto wanted = isConnected ? KirvConnection::Online : KirvConnection::Connecting;
+    KIRV_TRY(windows->account(idOf(5))->connection()->state() == wanted);
+    KirvClientWindows::settle();
+    KirvClientWindows::boxes().first()->button(QMessageBox::Yes)->click();
+    KirvClientWindows::settle();
+    QVERIFY(!windows->account(idOf(5)));
+    QCOMPARE(int(windows->client->accounts().accounts().size()), enough - 1);
+}
+
+void tst_SearchInPage::rowInUseIsHiddenAfterwards_data()
+{
+    QTest::addColumn<bool>("isSearchedAnew");
+    QTest::newRow("another row is selected") << false;
+    QTest::newRow("other words") << true;
+}
+
+void tst_SearchInPage::rowInUseIsHiddenAfterwards()
+{
+    QFETCH(bool, isSearchedAnew);
+    fill();
+    refuse(4);
+    refuse(5);
+    search(QStringLiteral("problem"));
+    windows->select(idOf(5));
+    windows->protocol->server->logIn = KirvFakeServer::Accepts;
+    windows->account(idOf(5))->reconnect();
+    KIRV_TRY(windows->account(idOf(5))->isOnline());
+    KirvClientWindows::settle();
+    QCOMPARE(shownIds(), (QStringList { idOf(4), idOf(5) }));
+    QVERIFY(windows->row(idOf(5))->isSelected());
+    if (isSearchedAnew)
+        search(QStringLiteral("proble"));
+    else
+        windows->select(idOf(4));
+    KIRV_TRY_COMPARE(shownIds(), QStringList { idOf(4) });
+    QVERIFY(!windows->row(idOf(5))->isSelected());
 }
 
 void tst_SearchInPage::hiddenRowIsDeselectedFirst()

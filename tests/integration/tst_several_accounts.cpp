@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QToolButton>
@@ -37,6 +38,7 @@ private Q_SLOTS:
 
     void shiftAndCtrlSelectSeveral();
     void buttonsAndStripKnowThatThereAreSeveral();
+    void stripIsAboutTheSelectedRow();
     void severalAreDisabledWithOneQuestion();
     void severalOffLineAreDisabledWithoutAQuestion();
     void severalAreEnabled();
@@ -173,6 +175,31 @@ void tst_SeveralAccounts::buttonsAndStripKnowThatThereAreSeveral()
     QVERIFY(windows->pageButton("Accounts_EditButton")->isEnabled());
     KIRV_TRY(title->text().startsWith(QLatin1String("Connected")));
     KIRV_TRY(windows->pageButton("Accounts_ReconnectButton")->isEnabled());
+}
+
+/// As Edit and Remove are, also when another row is the current one.
+void tst_SeveralAccounts::stripIsAboutTheSelectedRow()
+{
+    windows->account(bob)->setEnabled(false);
+    const QWidget *page = windows->client->accountsPage();
+    const auto *title = KirvClientWindows::child<QLabel>(page, "Accounts_StripTitle");
+    const auto *strip = KirvClientWindows::child<QWidget>(page, "Accounts_Strip");
+    click(bob);
+    click(cleo, Qt::ControlModifier);
+    click(cleo, Qt::ControlModifier);
+    QCOMPARE(list()->selectedItems(), QList<QTreeWidgetItem *> { windows->row(bob) });
+    QCOMPARE(list()->currentItem(), windows->row(cleo));
+    KIRV_TRY_COMPARE(title->text(), QStringLiteral("Disabled"));
+    QCOMPARE(strip->accessibleName(), QStringLiteral("State of bob"));
+    QCOMPARE(strip->toolTip(), QStringLiteral("<qt>State of bob</qt>"));
+    windows->account(bob)->setEnabled(true);
+    KIRV_TRY(title->text().startsWith(QLatin1String("Connected")));
+    windows->pageButton("Accounts_StripEditButton")->click();
+    KirvClientWindows::settle();
+    auto *window = windows->client->window()->findChild<KirvLayoutDialog *>();
+    QVERIFY(window);
+    QCOMPARE(KirvClientWindows::child<QLineEdit>(window, "EditAccount_Alias")->text(), bob);
+    KirvClientWindows::cancel(window);
 }
 
 void tst_SeveralAccounts::severalAreDisabledWithOneQuestion()

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void undoneMainAccountIsShown();
     void greyedRowComesBackGreyed();
     void loginThatWasAddedAnewIsNamed();
+    void removalOfATakenLoginIsPassedOver();
+    void messageOfAnEarlierStepComesBack();
     void refusedUndoStaysPossible();
     void allAreDisabledAndExactlyThoseEnabledAgain();
     void disablingAllAsksOnce();
@@ -350,8 +352,43 @@ void tst_UndoInPage::loginThatWasAddedAnewIsNamed()
     windows->removeInPage(bob);
     windows->addAccount(bob);
     press(list(), Qt::Key_Z);
-    QCOMPARE(windows->messages(), QStringList { QStringLiteral("The account \"bob\" (Fake) exists already.") });
+    const QString reason = QStringLiteral("The account \"bob\" (Fake) exists already.");
+    QCOMPARE(windows->messages(), QStringList({ removed, reason }));
     QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
+}
+
+/// What belonged to the removed account waits until its login is free.
+void tst_UndoInPage::removalOfATakenLoginIsPassedOver()
+{
+    windows->removeInPage(cleo);
+    windows->account(bob)->setAlias(QStringLiteral("Robert"));
+    windows->removeInPage(bob);
+    windows->addAccount(bob);
+    press(list(), Qt::Key_Z);
+    QVERIFY(windows->account(cleo));
+    press(list(), Qt::Key_Menu, Qt::NoModifier);
+    QVERIFY(!action("Accounts_UndoAction")->isEnabled());
+    menu()->close();
+    windows->removeInPage(bob);
+    QCOMPARE(windows->messages(), QStringList({ QStringLiteral("The account Robert (Fake) was removed."), removed }));
+    bar()->findChildren<QAbstractButton *>("MessageBar_Command").first()->click(); // Robert's
+    KirvClientWindows::settle();
+    QCOMPARE(windows->account(bob)->getAlias(), QStringLiteral("Robert"));
+}
+
+/// Each message with a button undoes what it names, also where two say the same.
+void tst_UndoInPage::messageOfAnEarlierStepComesBack()
+{
+    windows->removeInPage(bob);
+    windows->account(ann)->setAlias(bob);
+    windows->removeInPage(ann);
+    QCOMPARE(int(windows->messages().filter(removed).size()), 1);
+    clickUndo();
+    QVERIFY(windows->account(ann) && !windows->account(bob));
+    QCOMPARE(int(windows->messages().filter(removed).size()), 1);
+    clickUndo();
+    QVERIFY(windows->account(bob));
+    QCOMPARE(int(windows->messages().filter(removed).size()), 0);
 }
 
 void tst_UndoInPage::refusedUndoStaysPossible()

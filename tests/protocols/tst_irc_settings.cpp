@@ -18,6 +18,8 @@ class tst_IrcSettings : public QObject {
 private Q_SLOTS:
     void loginIsNickAndNetwork_data();
     void loginIsNickAndNetwork();
+    void portFollowsTheServerOfTheLogin_data();
+    void portFollowsTheServerOfTheLogin();
     void missingFieldsHaveDefaults();
     void fieldsAreRead();
     void problemsAreReported_data();
@@ -74,6 +76,45 @@ void tst_IrcSettings::loginIsNickAndNetwork()
     const KirvIrcSettings settings(login, QString(), { text("server", serverField) });
     QTEST(settings.nick, "nick");
     QTEST(settings.server, "server");
+}
+
+void tst_IrcSettings::portFollowsTheServerOfTheLogin_data()
+{
+    QTest::addColumn<QString>("login");
+    QTest::addColumn<QString>("serverField");
+    QTest::addColumn<QString>("server");
+    QTest::addColumn<int>("port");
+    QTest::addColumn<bool>("works");
+    const auto add = [](const char *name, const QString &login, const QString &serverField, const QString &server,
+                        int port,
+                        bool works) { QTest::newRow(name) << login << serverField << server << port << works; };
+    add("none", "ann@irc.example.org", "", "irc.example.org", 7000, true);
+    add("port", "ann@irc.example.org:6667", "", "irc.example.org", 6667, true);
+    add("highest", "ann@irc.example.org:65535", "", "irc.example.org", 65535, true);
+    add("address", "ann@192.0.2.7:6667", "", "192.0.2.7", 6667, true);
+    add("address of IPv6", "ann@2001:db8::7", "", "2001:db8::7", 7000, true);
+    add("address of IPv6 that ends in digits", "ann@2001:db8::6667", "", "2001:db8::6667", 7000, true);
+    add("name only", "ann@work:6667", "irc.example.org", "irc.example.org", 7000, true);
+    add("zero", "ann@irc.example.org:0", "", "irc.example.org", 0, false);
+    add("too high", "ann@irc.example.org:65536", "", "irc.example.org", 0, false);
+    add("too long", "ann@irc.example.org:006667", "", "irc.example.org", 0, false);
+    add("missing", "ann@irc.example.org:", "", "irc.example.org", 0, false);
+    add("no number", "ann@irc.example.org:tls", "", "irc.example.org", 0, false);
+    add("sign", "ann@irc.example.org:+66", "", "irc.example.org", 0, false);
+    add("no server", "ann@:6667", "", "", 6667, false);
+}
+
+void tst_IrcSettings::portFollowsTheServerOfTheLogin()
+{
+    QFETCH(QString, login);
+    QFETCH(QString, serverField);
+    QFETCH(bool, works);
+    const KirvIrcSettings settings(login, QString(), { text("server", serverField), text("port", "7000") });
+    QCOMPARE(settings.nick, QString("ann"));
+    QTEST(settings.server, "server");
+    QTEST(int(settings.port), "port");
+    QCOMPARE(settings.problem().isEmpty(), works);
+    QCOMPARE(KirvIrcSettings::loginProblem(login).isEmpty(), works);
 }
 
 void tst_IrcSettings::missingFieldsHaveDefaults()
@@ -361,6 +402,10 @@ void tst_IrcSettings::problemsOfLoginsAreSaid_data()
     add("other letters", QString::fromUtf8("\xc3\xa4lice"), letters);
     add("empty network", "alice@", "The server after the \"@\" is missing.");
     add("no nick", "@irc.libera.chat", "The nickname is missing.");
+    add("with a port", "alice@irc.libera.chat:6697", "");
+    add("port zero", "alice@irc.libera.chat:0", "The port must be a number from 1 to 65535.");
+    add("port too high", "alice@irc.libera.chat:70000", "The port must be a number from 1 to 65535.");
+    add("port without a server", "alice@:6697", "The server after the \"@\" is missing.");
     add("with an address", "alice@[::1]", "\"[::1]\" is no address of a server.");
 }
 

@@ -94,6 +94,7 @@ private Q_SLOTS:
 
     void logsInAndOut_data();
     void logsInAndOut();
+    void loginNamesTheServerWhenNoSettingDoes_data();
     void loginNamesTheServerWhenNoSettingDoes();
     void untrustedCertificateIsRefused();
     void certificateForAnotherNameIsRefused();
@@ -307,12 +308,22 @@ void tst_IrcConnection::logsInAndOut()
     QTRY_VERIFY2_WITH_TIMEOUT(server.output().contains("Got QUIT command"), qPrintable(server.output()), kirvPatience);
 }
 
+void tst_IrcConnection::loginNamesTheServerWhenNoSettingDoes_data()
+{
+    QTest::addColumn<bool>("withPort");
+    QTest::newRow("server") << false;
+    QTest::newRow("server and port") << true;
+}
+
 void tst_IrcConnection::loginNamesTheServerWhenNoSettingDoes()
 {
+    QFETCH(bool, withPort);
     KirvNgircdServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    KirvAccount *account = profile->createAccount(
-        "alice@127.0.0.1", { { "port", QString::number(server.port()) }, { "encryption", "none" } });
+    const QString port = QString::number(server.port());
+    KirvAccount *account = withPort
+        ? profile->createAccount("alice@127.0.0.1:" + port, plain())
+        : profile->createAccount("alice@127.0.0.1", { { "port", port }, { "encryption", "none" } });
     profile->goTo(account, "available");
     KIRV_TRY_STATE(account, Online);
     KirvObservingIrcClient bob;
