@@ -6,6 +6,7 @@
 #include "host/kirv_plugin_manager.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QLineEdit>
 #include <QUrl>
 
@@ -14,6 +15,15 @@
 namespace {
 // The longest address that XMPP allows, and longer than any of IRC.
 const int longestLogin = 2047;
+const int longestScheme = 4;
+
+/// By the scheme of their links.
+QHash<QString, QString> protocols()
+{
+    return { { QStringLiteral("xmpp"), QStringLiteral("XMPP") },
+             { QStringLiteral("irc"), QStringLiteral("IRC") },
+             { QStringLiteral("ircs"), QStringLiteral("IRC") } };
+}
 
 /// Without the part before the "@" where the link has none.
 QString loginOfAuthority(const QUrl &url)
@@ -50,17 +60,20 @@ void showLogin(QLineEdit *line, const QString &login)
 
 KirvAccountLink KirvAccountLink::fromText(const QString &text)
 {
-    const QUrl url(text, QUrl::StrictMode);
     KirvAccountLink link;
+    if (text.size() > longest || text.toUtf8().size() > longest) {
+        link.isTooLong = protocols().contains(text.left(longestScheme + 1).section(QLatin1Char(':'), 0, 0).toLower());
+        return link;
+    }
+    const QUrl url(text, QUrl::StrictMode);
     if (!url.isValid())
         return link;
-    if (url.scheme() == QLatin1String("xmpp")) {
-        link.protocol = QStringLiteral("XMPP");
+    link.protocol = protocols().value(url.scheme());
+    if (link.protocol == QLatin1String("XMPP")) {
         link.login = url.authority().isEmpty() ? loginOfAddress(url) : loginOfAuthority(url);
         if (link.login.startsWith(QLatin1Char('@')))
             link.login.clear();
-    } else if (url.scheme() == QLatin1String("irc") || url.scheme() == QLatin1String("ircs")) {
-        link.protocol = QStringLiteral("IRC");
+    } else if (!link.isNull()) {
         link.login = loginOfAuthority(url);
     }
     if (!isShowable(link.login))

@@ -14,10 +14,14 @@ struct KirvAccountLink {
     /// Empty when the link does not say whose account it is. A link of IRC without a nick names a server:
     /// "\@server:port".
     QString login;
+    bool isTooLong = false; ///< it begins as one of those above, but has more than \a longest bytes; it is null then
+
+    /// Of a whole link, in bytes of UTF-8.
+    static const int longest = 4096;
 
     bool isNull() const { return protocol.isEmpty(); }
-    /// The link in \a text; null when it is none of those above. An address that an xmpp link names to write to, or to
-    /// do anything with but to register there, is somebody else's and no login.
+    /// The link in \a text; null when it is none of those above, or too long. An address that an xmpp link names to
+    /// write to, or to do anything with but to register there, is somebody else's and no login.
     static KirvAccountLink fromText(const QString &text);
 
     /// Runs the window for a new account over \a page, filled with the login. False when the protocol is not loaded.

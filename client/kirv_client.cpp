@@ -308,7 +308,9 @@ void KirvClient::loadPlugins()
 void KirvClient::openLink()
 {
     const KirvAccountLink link = std::exchange(unopenedLink, KirvAccountLink());
-    if (!link.isNull())
+    if (link.isTooLong)
+        refuseLongLink();
+    else if (!link.isNull())
         open(link);
 }
 
@@ -323,6 +325,8 @@ void KirvClient::show(const KirvAccountLink &link)
         front->raise();
         front->activateWindow();
     }
+    if (link.isTooLong)
+        return refuseLongLink();
     if (link.isNull())
         return;
     if (modal)
@@ -332,6 +336,11 @@ void KirvClient::show(const KirvAccountLink &link)
         open(link);
     else
         unopenedLink = link;
+}
+
+void KirvClient::refuseLongLink()
+{
+    showProblem(tr("The link was not opened because it is too long."));
 }
 
 void KirvClient::open(const KirvAccountLink &link)

@@ -69,7 +69,8 @@ public:
     KirvAccountsTab *accountsPage() const;
     KirvPluginsPage *pluginsPage() const;
 
-    /// The program was started again: brings the window to the front and opens \a link when it is not null.
+    /// The program was started again: brings the window to the front and opens \a link when it is not null. One that is
+    /// too long is said to be.
     void show(const KirvAccountLink &link);
 
 Q_SIGNALS:
@@ -89,6 +90,7 @@ private:
     void connectServices();
     void loadPlugins();
     void openLink();
+    void refuseLongLink();
     void open(const KirvAccountLink &link);
 
     void protocolLoaded(KirvProtocolBase *protocol);

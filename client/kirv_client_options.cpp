@@ -99,7 +99,7 @@ public:
             read->copy = others.takeFirst();
         if (read->command == KirvClientOptions::Start && !others.isEmpty()) {
             read->link = KirvAccountLink::fromText(others.first());
-            if (!read->link.isNull())
+            if (!read->link.isNull() || read->link.isTooLong)
                 read->linkText = others.takeFirst();
         }
         if (!others.isEmpty()) {

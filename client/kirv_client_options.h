@@ -32,7 +32,7 @@ public:
     QString pluginFolder;
     bool usesKeyring = false; ///< whether passwords go to the desktop's keyring; only of the user's own program
     KirvAccountLink link; ///< whose account is to be added; null: none
-    QString linkText; ///< the link as it was typed
+    QString linkText; ///< the link as it was typed, also one that is too long
 
     /// The user's own profile and the plug-ins that came with the program.
     static KirvClientOptions defaults();

@@ -10,9 +10,11 @@
 #include "client/kirv_settings_window.h"
 
 #include <QDeadlineTimer>
+#include <QThread>
 
 namespace {
 const int millisecondsForTheOther = 10000;
+const int millisecondsBetweenAttempts = 50;
 }
 
 bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool hasDisplay, int *status)
@@ -27,10 +29,13 @@ bool kirvStartClient(KirvClient &client, const KirvClientOptions &options, bool 
                 *status = KirvProfileCommand::Success;
                 return false;
             }
-            if (!refusal.isEmpty())
+            if (!refusal.isEmpty()) {
                 problem = refusal;
-            else if (KirvRunningInstance::canMeet(options.profileFolder) && !patience.hasExpired())
-                continue; // a command that was started without windows has the profile open for some moments
+            } else if (KirvRunningInstance::canMeet(options.profileFolder) && !patience.hasExpired()) {
+                // A command that was started without windows has the profile open for some moments.
+                QThread::msleep(millisecondsBetweenAttempts);
+                continue;
+            }
         }
         if (!client.isProfileDamaged()) {
             KirvApplication::reportFatal(problem);

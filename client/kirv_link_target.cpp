@@ -11,15 +11,13 @@
 
 namespace {
 
-const int longestLink = 4096; // longer ones are no account's
-
 KirvAccountLink linkIn(const QMimeData *data)
 {
     const QList<QUrl> urls = data ? data->urls() : QList<QUrl>();
     QString text = urls.isEmpty() ? QString() : QString::fromLatin1(urls.first().toEncoded());
     if (text.isEmpty() && data)
         text = data->text().trimmed();
-    return text.size() <= longestLink ? KirvAccountLink::fromText(text) : KirvAccountLink();
+    return KirvAccountLink::fromText(text);
 }
 
 } // namespace

@@ -21,6 +21,7 @@ const int millisecondsBetweenAttempts = 50;
 const int millisecondsUntilItListens = 500;
 const QLatin1String commandKey("command");
 const QLatin1String linkKey("link");
+const QLatin1String tooLongKey("linkIsTooLong");
 const QLatin1String shown("show");
 
 /// The desktop's folder for the user's running programs; empty when there is none that nobody else can use.
@@ -116,10 +117,11 @@ void KirvRunningInstance::handle(KirvInstanceConnection *connection, const QJson
         if (answered)
             answered->reply(answer);
     };
-    const QString link = message.value(linkKey).toString();
-    if (message.value(commandKey).toString() == shown && link.toUtf8().size() < longestLink) {
+    if (message.value(commandKey).toString() == shown) {
+        KirvAccountLink link = KirvAccountLink::fromText(message.value(linkKey).toString());
+        link.isTooLong = link.isTooLong || message.value(tooLongKey).toBool();
         reply({ { commandKey, shown } });
-        Q_EMIT laterStart(KirvAccountLink::fromText(link));
+        Q_EMIT laterStart(link);
     } else if (handler) {
         handler(message, reply);
     } else {
@@ -130,10 +132,11 @@ void KirvRunningInstance::handle(KirvInstanceConnection *connection, const QJson
 bool KirvRunningInstance::handOver(const QString &profileFolder, const QString &link, int milliseconds,
                                    QString *problem)
 {
-    if (link.toUtf8().size() >= longestLink || link.contains(QLatin1Char('\n')))
-        return false;
-    const Answer answer = request(profileFolder, { { commandKey, shown }, { linkKey, link } },
-                                  qMin(milliseconds, millisecondsUntilItListens), milliseconds);
+    const bool isTooLong = KirvAccountLink::fromText(link).isTooLong;
+    const QJsonObject message { { commandKey, shown },
+                                { linkKey, isTooLong ? QString() : link },
+                                { tooLongKey, isTooLong } };
+    const Answer answer = request(profileFolder, message, qMin(milliseconds, millisecondsUntilItListens), milliseconds);
     if (problem)
         *problem = answer.problem;
     return answer.message.value(commandKey).toString() == shown;

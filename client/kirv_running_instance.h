@@ -25,8 +25,6 @@ class KirvRunningInstance : public QObject {
     Q_OBJECT
 
 public:
-    /// Longest link that is handed over, in bytes of UTF-8.
-    static const int longestLink = 4096;
     /// Later starts that are heard at a time.
     static const int mostAtOnce = 8;
 
@@ -54,6 +52,7 @@ public:
     /// Whether there is a folder where both can meet.
     static bool canMeet(const QString &profileFolder);
     /// Hands \a link, as it was typed, or an empty text, to the program that has the profile in \a profileFolder open.
+    /// Of one that is too long only that is handed over.
     /// Waits at most \a milliseconds for its reply, less when nobody listens; false when there was none that counts,
     /// and \a problem, which may be null, gets a sentence when the program refuses. Needs no event loop.
     static bool handOver(const QString &profileFolder, const QString &link, int milliseconds = 10000,
@@ -64,7 +63,7 @@ public:
                           int milliseconds);
 
 Q_SIGNALS:
-    /// The program was started again, with \a link, or without one when that is null.
+    /// The program was started again, with \a link, or without one when that is null; that may have been too long.
     void laterStart(const KirvAccountLink &link);
 
 private:

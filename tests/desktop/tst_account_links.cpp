@@ -36,6 +36,7 @@ private Q_SLOTS:
     void linkOpensTheAddWindow();
     void linkIsOpenedOnce();
     void missingProtocolIsSaid();
+    void longLinkIsSaid();
 
     void wrongCommandLinesAreRefused_data();
     void wrongCommandLinesAreRefused();
@@ -153,6 +154,7 @@ void tst_AccountLinks::otherTextsAreNoLinks()
 {
     QFETCH(QString, text);
     QVERIFY(KirvAccountLink::fromText(text).isNull());
+    QVERIFY(!KirvAccountLink::fromText(text + QString(KirvAccountLink::longest, QLatin1Char('x'))).isTooLong);
 }
 
 void tst_AccountLinks::linkOpensTheAddWindow_data()
@@ -220,6 +222,21 @@ void tst_AccountLinks::missingProtocolIsSaid()
     client.window()->show();
     KIRV_TRY_COMPARE(client.window()->messageBar()->messages(),
                      QStringList { QStringLiteral("The link cannot be opened: the protocol XMPP is not available.") });
+    QCOMPARE(watcher.shown, 0);
+}
+
+void tst_AccountLinks::longLinkIsSaid()
+{
+    qputenv("KIRV_FIXTURE_PROTOCOL", "XMPP");
+    KirvWindowWatcher<QDialog> watcher([](QDialog *window) { window->reject(); });
+    const QString link =
+        QStringLiteral("XMPP:ann@example.org/").leftJustified(KirvAccountLink::longest, QLatin1Char('x'));
+    QCOMPARE(KirvAccountLink::fromText(link).login, QStringLiteral("ann@example.org"));
+    KirvClient client(optionsFor(link + QLatin1Char('x')));
+    QVERIFY2(client.start(), qPrintable(client.errorString()));
+    client.window()->show();
+    KIRV_TRY_COMPARE(client.window()->messageBar()->messages(),
+                     QStringList { QStringLiteral("The link was not opened because it is too long.") });
     QCOMPARE(watcher.shown, 0);
 }
 
