@@ -150,7 +150,7 @@ KirvAccountsReply KirvAccountsMoving::take(const KirvAccountFile::Result &file, 
         if (!row.problem.isEmpty())
             reply.status = KirvAccountsReply::DoneInPart;
     }
-    const QStringList leftOut = import.leftOut();
+    const QStringList leftOut = import.leftOut() + import.lostSecrets();
     if (!leftOut.isEmpty())
         reply.status = KirvAccountsReply::DoneInPart;
     reply.result = { { QStringLiteral("accounts"), accounts },

@@ -342,6 +342,8 @@ QString KirvImportWindow::stateOf(const KirvAccountImport::Row &row) const
         return kirvPlainName(row.problem);
     if (row.isNew())
         return row.isTaken ? tr("New") : tr("New, will be left out");
+    if (row.isTaken && row.losesSecrets)
+        return stateOfLosing(row);
     if (row.existing == row.key)
         return row.isTaken ? tr("Exists, will be replaced") : tr("Exists, will be kept");
     const QString here = kirvPlainName(row.existing.id);
@@ -349,6 +351,15 @@ QString KirvImportWindow::stateOf(const KirvAccountImport::Row &row) const
     return row.isTaken ? tr("Exists as %1, will be replaced").arg(here)
                        //: %1 = the login of an account, which is written otherwise in the file
                        : tr("Exists as %1, will be kept").arg(here);
+}
+
+QString KirvImportWindow::stateOfLosing(const KirvAccountImport::Row &row)
+{
+    if (row.existing == row.key)
+        return tr("Exists, will be replaced; its passwords must be entered again");
+    //: %1 = the login of an account, which is written otherwise in the file
+    return tr("Exists as %1, will be replaced; its passwords must be entered again")
+        .arg(kirvPlainName(row.existing.id));
 }
 
 /// Also of the rows that cannot be taken, whose reasons may be longer than their column.

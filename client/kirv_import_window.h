@@ -76,6 +76,7 @@ private:
     void refreshRows();
     void refreshButtons();
     QString stateOf(const KirvAccountImport::Row &row) const;
+    static QString stateOfLosing(const KirvAccountImport::Row &row);
     QString leftOutText() const;
     void import();
     void grow();

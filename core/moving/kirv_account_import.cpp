@@ -3,6 +3,7 @@
 
 #include "core/accounts/kirv_account_batch.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_fields.h"
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
 #include "core/accounts/kirv_open_settings.h"
@@ -47,6 +48,13 @@ void keepSecrets(KirvAccountRecord *record, const KirvAccountRecord &before)
             record->settings.remove(field);
         keepUnread(field);
     }
+}
+
+/// Whether \a before has a password, or \a field, that \a record lacks.
+bool lacksSecret(const KirvAccountRecord &record, const KirvAccountRecord &before, const QString &field)
+{
+    return kirvSecretOf(record, field).isEmpty()
+        && (!kirvSecretOf(before, field).isEmpty() || before.unreadSecrets.contains(field));
 }
 
 /// The picture that \a before has, with what is known of it.
@@ -108,6 +116,8 @@ void KirvAccountImport::makeRows()
                               .arg(shown(record.key.id), shown(twin));
         }
         row.isTaken = row.problem.isEmpty() && row.isNew();
+        const KirvAccount *replaced = row.problem.isEmpty() ? accounts.find(row.existing) : nullptr;
+        row.losesSecrets = replaced && losesSecrets(complete(record), replaced->record());
         logins.insert(record.key);
         keys.insert(record.key);
         all << row;
@@ -153,7 +163,7 @@ bool KirvAccountImport::apply(QString *problem)
 bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
 {
     for (int index = 0; index < all.size(); ++index) {
-        const Row &row = all.at(index);
+        Row &row = all[index];
         if (!row.isTaken)
             continue;
         const KirvMovedAccount &source = moved.accounts.at(index);
@@ -178,8 +188,8 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         account.record.key = row.existing;
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
-        // A file, which anybody may have written, sends no password of this profile to another server.
-        if (kirvOpenSettings(account.record) == kirvOpenSettings(complete(before.record))) {
+        row.losesSecrets = losesSecrets(account.record, before.record);
+        if (destination(account.record) == destination(before.record)) {
             keepSecrets(&account.record, before.record);
             account.record.trustedCertificate = before.record.trustedCertificate;
         }
@@ -209,6 +219,42 @@ KirvAccountRecord KirvAccountImport::complete(KirvAccountRecord record) const
     if (record.defaultPresence.isEmpty())
         record.defaultPresence = protocol->presences().first().getId();
     return record;
+}
+
+/// What decides where a password goes and how it is protected. Settings that are replaced for a log-in that is only a
+/// test do not: a test is one of the same server, in the same way.
+QMap<QString, QString> KirvAccountImport::destination(const KirvAccountRecord &record) const
+{
+    KirvProtocolBase *protocol = accounts.protocol(record.key.protocol);
+    KirvAccountRecord tested = complete(record);
+    const QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
+    const QMap<QString, QString> values = kirvStoredValues(protocol->settingsForTest(fields));
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        tested.settings.insert(value.key(), value.value());
+    return kirvOpenSettings(tested);
+}
+
+/// A file, which anybody may have written, sends no password of this profile to another server.
+bool KirvAccountImport::losesSecrets(const KirvAccountRecord &record, const KirvAccountRecord &before) const
+{
+    const QSet<QString> fields = before.secretSettings + before.unreadSecrets + QSet<QString> { QString() };
+    const auto isLacking = [&](const QString &field) { return lacksSecret(record, before, field); };
+    return std::any_of(fields.begin(), fields.end(), isLacking) && destination(record) != destination(before);
+}
+
+QStringList KirvAccountImport::lostSecrets() const
+{
+    QStringList sentences;
+    for (const Row &row : all) {
+        if (row.isTaken && row.losesSecrets) {
+            //: %1 = name of an account
+            sentences
+                << tr("Stored passwords of the account \"%1\" are not kept, because its settings in the file differ. "
+                      "They must be entered again.")
+                       .arg(shown(row.name));
+        }
+    }
+    return sentences;
 }
 
 /// The one of the file, where there is none; empty: the rule decides.

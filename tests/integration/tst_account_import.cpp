@@ -67,6 +67,7 @@ private Q_SLOTS:
     void replacedAccountHasWhatTheFileSays();
     void replacedAccountKeepsWhatTheFileLacks();
     void replacedAccountWithAnotherServerKeepsNoSecret();
+    void settingsThatDoNotDecideWhereAPasswordGoesDoNotCount();
     void trustedCertificatesAreNotTakenOver();
     void replacedAccountKeepsItsPlaceAndSpelling();
     void replacedAccountLogsInWithWhatIsNew();
@@ -377,12 +378,46 @@ void tst_AccountImport::replacedAccountWithAnotherServerKeepsNoSecret()
     KirvAccountRecord &record = accounts.accounts.first().record;
     record.password.clear();
     record.settings = { { QStringLiteral("server"), QStringLiteral("elsewhere.example") } };
-    importAll(accounts);
+    KirvAccountImport importing = importOf(accounts);
+    QVERIFY(importing.rows().first().losesSecrets);
+    QCOMPARE(importing.lostSecrets(), QStringList()); // it is kept
+    importing.setTaken(0, true);
+    const QStringList lost { QStringLiteral("Stored passwords of the account \"Moved bob\" are not kept, because its "
+                                            "settings in the file differ. They must be entered again.") };
+    QCOMPARE(importing.lostSecrets(), lost);
+    QString problem;
+    QVERIFY2(importing.apply(&problem), qPrintable(problem));
+    QCOMPARE(importing.lostSecrets(), lost);
+    QCOMPARE(importing.leftOut(), QStringList());
     const KirvAccountRecord after = core->account(bob)->record();
     QCOMPARE(after.settings.value("server"), QStringLiteral("elsewhere.example"));
     QCOMPARE(after.password, QString());
     QCOMPARE(after.settings.value("server-password"), QString());
     QCOMPARE(after.trustedCertificate, QString());
+}
+
+/// What the protocol changes for a log-in that is only a test, which goes to the same server.
+void tst_AccountImport::settingsThatDoNotDecideWhereAPasswordGoesDoNotCount()
+{
+    core->protocol->changeForTest = [](QList<KirvField> fields) {
+        for (KirvField &field : fields) {
+            if (field.getId() == QLatin1String("port"))
+                field.setText(QStringLiteral("1"));
+        }
+        return fields;
+    };
+    QVERIFY(core->account(bob)->change(
+        [](KirvAccountRecord &record) { record.trustedCertificate = QString(64, QLatin1Char('a')); }));
+    KirvMovedAccounts accounts = movedAccounts({ bob });
+    KirvAccountRecord &record = accounts.accounts.first().record;
+    record.password.clear();
+    record.settings = { { QStringLiteral("port"), QStringLiteral("5333") } };
+    QVERIFY(!importOf(accounts).rows().first().losesSecrets);
+    importAll(accounts);
+    const KirvAccountRecord after = core->account(bob)->record();
+    QCOMPARE(after.settings.value("port"), QStringLiteral("5333"));
+    QCOMPARE(after.password, QStringLiteral("word of bob"));
+    QCOMPARE(after.trustedCertificate, QString(64, QLatin1Char('a')));
 }
 
 void tst_AccountImport::trustedCertificatesAreNotTakenOver()
@@ -809,7 +844,10 @@ void tst_AccountImport::lockedSecretsStayAndComeBack()
 
     KirvMovedAccounts accounts = movedAccounts({ ann, bob });
     accounts.accounts[0].record.password.clear(); // stays
+    accounts.accounts[0].record.settings = { { QStringLiteral("server"), QStringLiteral("moved.example") } };
+    QVERIFY(importOf(accounts).rows().first().losesSecrets); // although nobody has read it
     accounts.accounts[0].record.settings.clear();
+    QVERIFY(!importOf(accounts).rows().first().losesSecrets);
     importAll(accounts);
     QVERIFY(core->account(ann)->awaitsPassword());
     QVERIFY(!core->account(bob)->awaitsPassword());

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void passwordsAreLeftOutWhenWanted();
     void passPhraseIsTypedWithoutAnEcho();
     void existingAccountsAreKeptOrReplaced();
+    void lostPasswordsAreNamed();
     void trialChangesNothing_data();
     void trialChangesNothing();
     void accountsOfPidginAreImported();
@@ -518,6 +519,32 @@ void tst_AccountsCommand::existingAccountsAreKeptOrReplaced()
              QJsonValue(QStringLiteral("replaced")));
     QCOMPARE(storedOne(QStringLiteral("ann")).alias, QStringLiteral("old"));
     QCOMPARE(storedOne(QStringLiteral("ann")).password, secret); // which did not come along
+}
+
+/// The file has another server, to which no stored password goes.
+void tst_AccountsCommand::lostPasswordsAreNamed()
+{
+    add(QStringLiteral("ann"));
+    add(QStringLiteral("bob"));
+    exportAll();
+    {
+        KirvStore store;
+        QVERIFY(store.open(profile()));
+        KirvAccountRecord ann = store.readAccounts().first();
+        QCOMPARE(ann.key.id, QStringLiteral("ann"));
+        ann.settings.insert(QStringLiteral("server"), QStringLiteral("elsewhere.example"));
+        QVERIFY(store.updateAccount(ann));
+    }
+    for (const bool isTrial : { true, false }) {
+        const KirvProgramRun result = run(QStringList { "import", "--replace", "accounts.json" }
+                                          + (isTrial ? QStringList { "--dry-run" } : QStringList()));
+        QCOMPARE(result.status, 4);
+        QCOMPARE(result.errorText(),
+                 QStringLiteral("Stored passwords of the account \"ann\" are not kept, because its settings "
+                                "in the file differ. They must be entered again.\n"));
+        QCOMPARE(storedOne(QStringLiteral("ann")).password, isTrial ? secret : QString());
+        QCOMPARE(storedOne(QStringLiteral("bob")).password, secret);
+    }
 }
 
 void tst_AccountsCommand::trialChangesNothing_data()

@@ -73,6 +73,7 @@ private Q_SLOTS:
     void importedRowsAreSelected();
     void existingAccountIsKeptUnlessChosen();
     void existingAccountIsReplaced();
+    void lostPasswordIsSaidBeforeTheImport();
     void accountIsLeftOut();
     void nothingChangesBeforeTheImport();
     void passPhraseOpensThePasswords();
@@ -272,6 +273,34 @@ void tst_ImportWindow::existingAccountIsReplaced()
     KirvClientWindows::settle();
     QVERIFY(windows->account(ann));
     QCOMPARE(windows->account(ann)->record().alias, ann);
+}
+
+void tst_ImportWindow::lostPasswordIsSaidBeforeTheImport()
+{
+    for (const QString &id : { ann, bob, cleo })
+        windows->addAccount(id);
+    QList<KirvMovedAccount> accounts { moved(ann), moved(bob), moved(cleo) };
+    for (int index : { 0, 1 })
+        accounts[index].record.password.clear();
+    for (int index : { 1, 2 })
+        accounts[index].record.settings.insert(QStringLiteral("server"), QStringLiteral("elsewhere.example"));
+    choose(writeAccounts(accounts, phrase));
+    KIRV_TRY(window() && part<QLineEdit>("PassPhrase")->isVisible());
+    part<QLineEdit>("PassPhrase")->setText(phrase);
+    action()->click();
+    KIRV_TRY(isListing());
+    for (const QString &id : { ann, bob, cleo })
+        row(id)->setCheckState(0, Qt::Checked);
+    QCOMPARE(row(ann)->text(2), QStringLiteral("Exists, will be replaced"));
+    QCOMPARE(row(bob)->text(2), QStringLiteral("Exists, will be replaced; its passwords must be entered again"));
+    QCOMPARE(row(cleo)->text(2), QStringLiteral("Exists, will be replaced"));
+    row(bob)->setCheckState(0, Qt::Unchecked);
+    QCOMPARE(row(bob)->text(2), QStringLiteral("Exists, will be kept"));
+    row(bob)->setCheckState(0, Qt::Checked);
+    import();
+    QVERIFY(!windows->account(ann)->record().password.isEmpty());
+    QCOMPARE(windows->account(bob)->record().password, QString());
+    QCOMPARE(windows->account(cleo)->record().password, QStringLiteral("word of cleo"));
 }
 
 void tst_ImportWindow::accountIsLeftOut()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "protocols/xmpp/kirv_xmpp_protocol.h"
 #include "protocols/xmpp/kirv_xmpp_settings.h"
 #include "tests/support/kirv_field_texts.h"
 
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void fieldsAreReadAndWrittenAlike();
     void badValuesFallBackToSafeOnes_data();
     void badValuesFallBackToSafeOnes();
+    void testReplacesNothingThatDecidesWhereAPasswordGoes();
     void serverFieldsAreAmongTheFields();
     void configurationsGiveFields();
     void theServerOfTheDomainIsTheDefault();
@@ -74,6 +76,36 @@ void tst_XmppSettings::fieldsAreReadAndWrittenAlike()
     QCOMPARE(again.encryption, settings.encryption);
     QCOMPARE(again.certificatePath, settings.certificatePath);
     QVERIFY(again.toFields() == fields);
+}
+
+void tst_XmppSettings::testReplacesNothingThatDecidesWhereAPasswordGoes()
+{
+    const QHash<QString, QString> values {
+        { "server", "xmpp.example.org" },
+        { "port", "5223" },
+        { "resource", "Home" },
+        { "priority", "7" },
+        { "encryption", "offered" },
+        { "certificate", "/ca.pem" },
+        { "proxy", "socks5" },
+        { "proxy_host", "proxy.example" },
+        { "proxy_port", "1080" },
+        { "proxy_user", "ann" },
+        { "proxy_password", "proxy word" },
+    };
+    KirvXmppProtocol protocol;
+    QList<KirvField> fields = protocol.accountSettings();
+    for (KirvField &field : fields) {
+        QVERIFY2(values.contains(field.getId()), qPrintable(field.getId()));
+        field.setText(values.value(field.getId()));
+    }
+    const QList<KirvField> tested = protocol.settingsForTest(fields);
+    QStringList replaced;
+    for (const KirvField &field : std::as_const(fields)) {
+        if (valueOf(tested, field.getId()) != field.getText())
+            replaced << field.getId();
+    }
+    QCOMPARE(replaced, QStringList({ "resource", "priority" }));
 }
 
 void tst_XmppSettings::badValuesFallBackToSafeOnes_data()
