@@ -10,6 +10,7 @@
 #include "client/kirv_running_instance.h"
 #include "client/kirv_terminal_text.h"
 #include "core/moving/kirv_account_file.h"
+#include "core/moving/kirv_moving_file.h"
 #include "core/store/kirv_wiped_text.h"
 
 #include <QDeadlineTimer>
@@ -130,6 +131,8 @@ bool KirvAccountsCommand::performHere()
         performOnNothing();
         return true;
     }
+    if (isNew && !canBeRead())
+        return true;
     QTemporaryDir elsewhere;
     if (isNew && options.isTrial)
         folder = elsewhere.filePath(QStringLiteral("profile"));
@@ -148,6 +151,16 @@ bool KirvAccountsCommand::performHere()
         break;
     }
     return true;
+}
+
+/// Whether the file to import can be read and decrypted: no profile is made for one that cannot.
+bool KirvAccountsCommand::canBeRead()
+{
+    const QByteArray bytes = QByteArray::fromBase64(request.file.toLatin1());
+    const KirvAccountFile::Result file = KirvMovingFile::accounts(bytes, request.passPhrase);
+    if (file.problem.isEmpty())
+        return true;
+    return refuse(file.problem, file.wrongPassPhrase ? KirvAccountsReply::WrongPassPhrase : KirvAccountsReply::Refused);
 }
 
 /// There is no profile yet, and none is made by a question about it.

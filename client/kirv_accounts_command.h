@@ -29,6 +29,7 @@ private:
     void perform();
     bool performHere();
     bool performThere();
+    bool canBeRead();
     void performOnNothing();
     void writeFile();
     int print();

@@ -74,6 +74,8 @@ private Q_SLOTS:
     void nothingLogsIn();
     void uselessFilesAreRefused_data();
     void uselessFilesAreRefused();
+    void refusedImportMakesNoProfile_data();
+    void refusedImportMakesNoProfile();
 
 private:
     QString profile(const char *name = "profile") const { return home->filePath(QLatin1String(name)); }
@@ -636,6 +638,30 @@ void tst_AccountsCommand::uselessFilesAreRefused()
         QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
         QCOMPARE(stored().size(), 1);
     }
+}
+
+void tst_AccountsCommand::refusedImportMakesNoProfile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::newRow("something else") << QStringList { "phrase" } << 1;
+    QTest::newRow("wrong pass phrase") << QStringList { "accounts.json", "--pass-phrase-file", "wrong" } << 5;
+    QTest::newRow("damaged") << QStringList { "damaged.json", "--without-passwords" } << 1;
+}
+
+void tst_AccountsCommand::refusedImportMakesNoProfile()
+{
+    QFETCH(QStringList, arguments);
+    add(QStringLiteral("ann"));
+    exportAll({ "--with-passwords", "--pass-phrase-file", "phrase" });
+    QVERIFY(write(path("wrong"), "another pass phrase\n"));
+    QVERIFY(write(path("damaged.json"), contentOf(path("accounts.json")).chopped(20)));
+    const KirvProgramRun result = run(QStringList { "import" } + arguments, "new");
+    QTEST(result.status, "status");
+    QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
+    QVERIFY(!QFileInfo::exists(profile("new")));
+    QCOMPARE(run({ "import", "accounts.json", "--pass-phrase-file", "phrase" }, "new").status, 0);
+    QCOMPARE(storedOne(QStringLiteral("ann"), "new").password, secret);
 }
 
 QTEST_GUILESS_MAIN(tst_AccountsCommand)
