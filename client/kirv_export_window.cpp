@@ -10,6 +10,7 @@
 #include "core/accounts/kirv_main_account.h"
 #include "core/moving/kirv_account_export.h"
 #include "core/moving/kirv_moving_file.h"
+#include "core/moving/kirv_pass_phrase.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/ui/kirv_reveal_button.h"
@@ -142,6 +143,7 @@ QWidget *KirvExportWindow::createPassPhrase()
     for (QLineEdit *line : { passPhraseLine, repetitionLine }) {
         KirvRevealButton *reveal = KirvRevealButton::addBeside(line);
         reveal->setObjectName(line->objectName() + QStringLiteral("_Reveal"));
+        line->setMaxLength(KirvPassPhrase::longest);
         kirvLimitLength(line);
         connect(line, &QLineEdit::textChanged, this, &KirvExportWindow::updateControls);
     }
@@ -219,9 +221,8 @@ QString KirvExportWindow::passPhraseProblem() const
 {
     if (!passwordsBox->isChecked())
         return QString();
-    if (passPhraseLine->text().toUcs4().size() < shortestPassPhrase)
-        return tr("The pass phrase needs at least %n characters.", nullptr, shortestPassPhrase);
-    if (passPhraseLine->text() != repetitionLine->text())
+    const QString wrong = KirvPassPhrase::problemWithNew(passPhraseLine->text());
+    if (wrong.isEmpty() && passPhraseLine->text() != repetitionLine->text())
         return tr("The two pass phrases must be the same.");
     return QString();
 }

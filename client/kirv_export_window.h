@@ -27,9 +27,6 @@ class KirvExportWindow : public QDialog {
     Q_OBJECT
 
 public:
-    /// In characters.
-    static constexpr int shortestPassPhrase = 12;
-
     /// \a accounts and \a mainAccount are not owned and outlive the window. \a chosen are checked, or all when it is
     /// empty.
     KirvExportWindow(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
