@@ -224,7 +224,7 @@ QString KirvExportWindow::passPhraseProblem() const
     const QString wrong = KirvPassPhrase::problemWithNew(passPhraseLine->text());
     if (wrong.isEmpty() && passPhraseLine->text() != repetitionLine->text())
         return tr("The two pass phrases must be the same.");
-    return QString();
+    return wrong;
 }
 
 void KirvExportWindow::updateControls()
@@ -268,21 +268,30 @@ void KirvExportWindow::exportTo(const QString &path)
     const KirvMovedAccounts moved =
         KirvAccountExport::collect(accounts, mainAccount, chosen, passwordsBox->isChecked());
     isWanted = std::make_shared<std::atomic<bool>>(true);
-    const auto write = [moved, phrase, path, isWanted = isWanted](const KirvBackgroundJob::Flag &) {
-        Outcome outcome;
-        const QByteArray bytes = KirvAccountFile::write(moved, phrase, &outcome.problem);
-        if (outcome.problem.isEmpty()) {
-            outcome.problem = KirvMovingFile::write(path, bytes, [&outcome, isWanted] {
-                outcome.isCancelled = !*isWanted;
-                return !outcome.isCancelled;
-            });
-        }
-        return outcome;
-    };
-    job.run<Outcome>(write, [this, moved, path](const Outcome &outcome) { finish(outcome, moved, path); });
+    job.run<Outcome>([moved, phrase, path, isWanted = isWanted](
+                         const KirvBackgroundJob::Flag &) { return write(moved, phrase, path, isWanted); },
+                     [this, path](const Outcome &outcome) { finish(outcome, path); });
     outcomeText->hide();
     updateControls();
     box->button(QDialogButtonBox::Cancel)->setFocus();
+}
+
+/// In the thread.
+KirvExportWindow::Outcome KirvExportWindow::write(KirvMovedAccounts moved, const QString &phrase, const QString &path,
+                                                  const KirvBackgroundJob::Flag &isWanted)
+{
+    Outcome outcome;
+    KirvAccountExport::readPictures(&moved);
+    const QByteArray bytes = KirvAccountFile::write(moved, phrase, &outcome.problem);
+    if (outcome.problem.isEmpty()) {
+        outcome.problem = KirvMovingFile::write(path, bytes, [&outcome, isWanted] {
+            outcome.isCancelled = !*isWanted;
+            return !outcome.isCancelled;
+        });
+    }
+    outcome.count = int(moved.accounts.size());
+    outcome.leftOut = moved.leftOut;
+    return outcome;
 }
 
 void KirvExportWindow::cancel()
@@ -298,7 +307,7 @@ void KirvExportWindow::reject()
     QDialog::reject();
 }
 
-void KirvExportWindow::finish(const Outcome &outcome, const KirvMovedAccounts &written, const QString &path)
+void KirvExportWindow::finish(const Outcome &outcome, const QString &path)
 {
     box->button(QDialogButtonBox::Cancel)->setEnabled(true);
     updateControls();
@@ -309,11 +318,11 @@ void KirvExportWindow::finish(const Outcome &outcome, const KirvMovedAccounts &w
     }
     QStringList texts;
     //: %1 = path of a file
-    texts << tr("%n accounts were exported to %1.", nullptr, int(written.accounts.size()))
+    texts << tr("%n accounts were exported to %1.", nullptr, outcome.count)
                  .arg(kirvPlainName(QDir::toNativeSeparators(path)));
     if (!passwordsBox->isChecked())
         texts << tr("The file contains no passwords.");
-    const QString leftOut = kirvLeftOutText(tr("The following is not in the file:"), written.leftOut);
+    const QString leftOut = kirvLeftOutText(tr("The following is not in the file:"), outcome.leftOut);
     if (!leftOut.isEmpty())
         texts << leftOut;
     passPhraseLine->clear();

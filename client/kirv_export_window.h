@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QList>
+#include <QStringList>
 
 class KirvAccountCheckList;
 class KirvAccountCollection;
@@ -46,6 +47,8 @@ private:
     struct Outcome {
         QString problem;
         bool isCancelled = false;
+        int count = 0; ///< of the accounts that are in the file
+        QStringList leftOut;
     };
 
     QWidget *createContent();
@@ -58,7 +61,9 @@ private:
     void updateControls();
     void chooseFile();
     void cancel();
-    void finish(const Outcome &outcome, const KirvMovedAccounts &written, const QString &path);
+    static Outcome write(KirvMovedAccounts moved, const QString &phrase, const QString &path,
+                         const KirvBackgroundJob::Flag &isWanted);
+    void finish(const Outcome &outcome, const QString &path);
     void showOutcome(const QString &text);
     void grow();
 
