@@ -97,6 +97,7 @@ void KirvAccountsMoving::exportThem(const QList<KirvAccount *> &chosen, const Ki
     if (request.withPasswords)
         leaveOutLocked(environment.accounts, &work->moved);
     const auto write = [work, passPhrase = request.passPhrase] {
+        KirvAccountExport::readPictures(&work->moved);
         work->file = QString::fromLatin1(KirvAccountFile::write(work->moved, passPhrase, &work->problem).toBase64());
     };
     KirvThreadWork::start(threads, this, write, [work, callback] {

@@ -10,6 +10,7 @@
 #include "core/accounts/kirv_main_account.h"
 #include "core/moving/kirv_account_export.h"
 #include "core/moving/kirv_moving_file.h"
+#include "core/moving/kirv_pass_phrase.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_length_limit.h"
 #include "core/ui/kirv_reveal_button.h"
@@ -142,6 +143,7 @@ QWidget *KirvExportWindow::createPassPhrase()
     for (QLineEdit *line : { passPhraseLine, repetitionLine }) {
         KirvRevealButton *reveal = KirvRevealButton::addBeside(line);
         reveal->setObjectName(line->objectName() + QStringLiteral("_Reveal"));
+        line->setMaxLength(KirvPassPhrase::longest);
         kirvLimitLength(line);
         connect(line, &QLineEdit::textChanged, this, &KirvExportWindow::updateControls);
     }
@@ -219,11 +221,10 @@ QString KirvExportWindow::passPhraseProblem() const
 {
     if (!passwordsBox->isChecked())
         return QString();
-    if (passPhraseLine->text().toUcs4().size() < shortestPassPhrase)
-        return tr("The pass phrase needs at least %n characters.", nullptr, shortestPassPhrase);
-    if (passPhraseLine->text() != repetitionLine->text())
+    const QString wrong = KirvPassPhrase::problemWithNew(passPhraseLine->text());
+    if (wrong.isEmpty() && passPhraseLine->text() != repetitionLine->text())
         return tr("The two pass phrases must be the same.");
-    return QString();
+    return wrong;
 }
 
 void KirvExportWindow::updateControls()
@@ -267,21 +268,30 @@ void KirvExportWindow::exportTo(const QString &path)
     const KirvMovedAccounts moved =
         KirvAccountExport::collect(accounts, mainAccount, chosen, passwordsBox->isChecked());
     isWanted = std::make_shared<std::atomic<bool>>(true);
-    const auto write = [moved, phrase, path, isWanted = isWanted](const KirvBackgroundJob::Flag &) {
-        Outcome outcome;
-        const QByteArray bytes = KirvAccountFile::write(moved, phrase, &outcome.problem);
-        if (outcome.problem.isEmpty()) {
-            outcome.problem = KirvMovingFile::write(path, bytes, [&outcome, isWanted] {
-                outcome.isCancelled = !*isWanted;
-                return !outcome.isCancelled;
-            });
-        }
-        return outcome;
-    };
-    job.run<Outcome>(write, [this, moved, path](const Outcome &outcome) { finish(outcome, moved, path); });
+    job.run<Outcome>([moved, phrase, path, isWanted = isWanted](
+                         const KirvBackgroundJob::Flag &) { return write(moved, phrase, path, isWanted); },
+                     [this, path](const Outcome &outcome) { finish(outcome, path); });
     outcomeText->hide();
     updateControls();
     box->button(QDialogButtonBox::Cancel)->setFocus();
+}
+
+/// In the thread.
+KirvExportWindow::Outcome KirvExportWindow::write(KirvMovedAccounts moved, const QString &phrase, const QString &path,
+                                                  const KirvBackgroundJob::Flag &isWanted)
+{
+    Outcome outcome;
+    KirvAccountExport::readPictures(&moved);
+    const QByteArray bytes = KirvAccountFile::write(moved, phrase, &outcome.problem);
+    if (outcome.problem.isEmpty()) {
+        outcome.problem = KirvMovingFile::write(path, bytes, [&outcome, isWanted] {
+            outcome.isCancelled = !*isWanted;
+            return !outcome.isCancelled;
+        });
+    }
+    outcome.count = int(moved.accounts.size());
+    outcome.leftOut = moved.leftOut;
+    return outcome;
 }
 
 void KirvExportWindow::cancel()
@@ -297,7 +307,7 @@ void KirvExportWindow::reject()
     QDialog::reject();
 }
 
-void KirvExportWindow::finish(const Outcome &outcome, const KirvMovedAccounts &written, const QString &path)
+void KirvExportWindow::finish(const Outcome &outcome, const QString &path)
 {
     box->button(QDialogButtonBox::Cancel)->setEnabled(true);
     updateControls();
@@ -308,11 +318,11 @@ void KirvExportWindow::finish(const Outcome &outcome, const KirvMovedAccounts &w
     }
     QStringList texts;
     //: %1 = path of a file
-    texts << tr("%n accounts were exported to %1.", nullptr, int(written.accounts.size()))
+    texts << tr("%n accounts were exported to %1.", nullptr, outcome.count)
                  .arg(kirvPlainName(QDir::toNativeSeparators(path)));
     if (!passwordsBox->isChecked())
         texts << tr("The file contains no passwords.");
-    const QString leftOut = kirvLeftOutText(tr("The following is not in the file:"), written.leftOut);
+    const QString leftOut = kirvLeftOutText(tr("The following is not in the file:"), outcome.leftOut);
     if (!leftOut.isEmpty())
         texts << leftOut;
     passPhraseLine->clear();

@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QList>
+#include <QStringList>
 
 class KirvAccountCheckList;
 class KirvAccountCollection;
@@ -27,9 +28,6 @@ class KirvExportWindow : public QDialog {
     Q_OBJECT
 
 public:
-    /// In characters.
-    static constexpr int shortestPassPhrase = 12;
-
     /// \a accounts and \a mainAccount are not owned and outlive the window. \a chosen are checked, or all when it is
     /// empty.
     KirvExportWindow(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
@@ -49,6 +47,8 @@ private:
     struct Outcome {
         QString problem;
         bool isCancelled = false;
+        int count = 0; ///< of the accounts that are in the file
+        QStringList leftOut;
     };
 
     QWidget *createContent();
@@ -61,7 +61,9 @@ private:
     void updateControls();
     void chooseFile();
     void cancel();
-    void finish(const Outcome &outcome, const KirvMovedAccounts &written, const QString &path);
+    static Outcome write(KirvMovedAccounts moved, const QString &phrase, const QString &path,
+                         const KirvBackgroundJob::Flag &isWanted);
+    void finish(const Outcome &outcome, const QString &path);
     void showOutcome(const QString &text);
     void grow();
 

@@ -3,12 +3,17 @@
 
 #include "client/kirv_accounts_options.h"
 #include "client/kirv_terminal_line.h"
+#include "core/moving/kirv_pass_phrase.h"
 
 #include <QFile>
 
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
+
+namespace {
+const int longest = KirvPassPhrase::longest;
+}
 
 KirvPassPhraseInput::KirvPassPhraseInput(const KirvAccountsOptions &options)
     : options(options)
@@ -21,6 +26,13 @@ bool KirvPassPhraseInput::isNamed(const KirvAccountsOptions &options)
 }
 
 QString KirvPassPhraseInput::read(bool isNew)
+{
+    const QString phrase = readAny(isNew);
+    const QString problem = isNew && !phrase.isEmpty() ? KirvPassPhrase::problemWithNew(phrase) : QString();
+    return problem.isEmpty() ? phrase : fail(problem);
+}
+
+QString KirvPassPhraseInput::readAny(bool isNew)
 {
     if (options.passPhraseDescriptor >= 0)
         return fromDescriptor(options.passPhraseDescriptor);
@@ -52,7 +64,7 @@ QString KirvPassPhraseInput::firstLine(int descriptor, const Problems &problems)
         return fail(problems.unreadable);
     if (line.endsWith('\r'))
         line.chop(1);
-    const QString read = line.size() > longest ? QString() : QString::fromUtf8(line);
+    const QString read = line.size() > longest ? QString() : KirvPassPhrase::fromBytes(line);
     const bool isTooLong = line.size() > longest;
     line.fill('\0');
     if (isTooLong)
@@ -91,7 +103,7 @@ QString KirvPassPhraseInput::fromTerminal(bool isNew)
         return fail(tr("No pass phrase was entered."));
     if (isNew && (!terminal.read(tr("Repeat the pass phrase: "), longest, &repeated) || typed != repeated))
         return fail(tr("The two pass phrases are not the same."));
-    const QString read = QString::fromLocal8Bit(typed);
+    const QString read = KirvPassPhrase::fromBytes(typed);
     typed.fill('\0');
     repeated.fill('\0');
     return read;

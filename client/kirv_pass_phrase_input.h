@@ -13,14 +13,12 @@ class KirvPassPhraseInput {
     Q_DECLARE_TR_FUNCTIONS(KirvPassPhraseInput)
 
 public:
-    /// Longest pass phrase, in bytes.
-    static const int longest = 1024;
-
     explicit KirvPassPhraseInput(const KirvAccountsOptions &options);
 
     /// Whether the command line says where it comes from.
     static bool isNamed(const KirvAccountsOptions &options);
-    /// The pass phrase; typed twice on the terminal when \a isNew. Empty when there is none, and problem() says why.
+    /// The pass phrase; typed twice on the terminal when \a isNew. Empty when there is none, or none that something new
+    /// can be encrypted with, and problem() says why.
     QString read(bool isNew);
     /// A sentence for the user.
     QString problem() const { return text; }
@@ -32,6 +30,7 @@ private:
     };
 
     QString fail(const QString &problem);
+    QString readAny(bool isNew);
     QString firstLine(int descriptor, const Problems &problems);
     QString fromDescriptor(int descriptor);
     QString fromFile(const QString &path);

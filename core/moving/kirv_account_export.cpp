@@ -16,11 +16,12 @@
 
 namespace {
 
-/// A sentence with the name and the protocol of \a account.
-QString about(const KirvAccount *account, const QString &text)
+/// A sentence with the name and the protocol of an account.
+QString about(const KirvAccountRecord &account, const QString &text)
 {
-    return text.arg(kirvSingleLine(account->displayName(), kirvLongestShownName),
-                    kirvSingleLine(account->key().protocol, kirvLongestShownName));
+    return text.arg(
+        kirvSingleLine(account.alias.trimmed().isEmpty() ? account.key.id : account.alias, kirvLongestShownName),
+        kirvSingleLine(account.key.protocol, kirvLongestShownName));
 }
 
 void clearSecrets(KirvAccountRecord &record)
@@ -41,13 +42,13 @@ void reportUnread(const KirvAccount *account, QStringList *leftOut)
     QSet<QString> unread = account->record().unreadSecrets;
     if (unread.remove(QString())) {
         //: %1 = name of an account, %2 = name of a protocol
-        *leftOut << about(account,
+        *leftOut << about(account->record(),
                           KirvAccountExport::tr("The password of the account \"%1\" (%2) is left out: it is "
                                                 "in the keyring and could not be read."));
     }
     if (!unread.isEmpty()) {
         //: %1 = name of an account, %2 = name of a protocol
-        *leftOut << about(account,
+        *leftOut << about(account->record(),
                           KirvAccountExport::tr("Secret settings of the account \"%1\" (%2) are left out: "
                                                 "they are in the keyring and could not be read."));
     }
@@ -72,34 +73,27 @@ KirvAccountRecord movedRecord(const KirvAccount *account, bool withSecrets)
     return record;
 }
 
-/// Empty, and \a isReadable says whether there is none.
-QByteArray pictureOf(const KirvAccount *account, bool *isReadable)
+/// Empty when \a account has none or it cannot be exported.
+QByteArray pictureOf(const KirvMovedAccount &account)
 {
-    const QString path = account->avatarPath();
-    QFile file(path);
-    QByteArray picture;
-    if (!path.isEmpty() && file.open(QIODevice::ReadOnly))
-        picture = file.read(KirvBoundedImage::maximumBytes + 1);
-    *isReadable = path.isEmpty() || !KirvBoundedImage::measuredSize(picture).isEmpty();
-    return *isReadable ? picture : QByteArray();
+    QFile file(account.unreadPicture);
+    KirvMovedAccount complete { account.record, QByteArray(), QString() };
+    if (!account.unreadPicture.isEmpty() && file.open(QIODevice::ReadOnly))
+        complete.picture = file.read(KirvBoundedImage::maximumBytes + 1);
+    const bool isUsable =
+        !KirvBoundedImage::measuredSize(complete.picture).isEmpty() && KirvAccountFile::canHold(complete);
+    return isUsable ? complete.picture : QByteArray();
 }
 
 void add(const KirvAccount *account, bool withSecrets, KirvMovedAccounts *moved)
 {
-    bool isPictureReadable = false;
-    const KirvMovedAccount copy = { movedRecord(account, withSecrets), pictureOf(account, &isPictureReadable) };
+    const KirvMovedAccount copy = { movedRecord(account, withSecrets), QByteArray(), account->avatarPath() };
     if (!KirvAccountFile::canHold(copy)) {
         //: %1 = name of an account, %2 = name of a protocol
-        moved->leftOut << about(account,
+        moved->leftOut << about(account->record(),
                                 KirvAccountExport::tr("The account \"%1\" (%2) is left out: it has texts or a "
                                                       "picture that cannot be exported."));
         return;
-    }
-    if (!isPictureReadable) {
-        //: %1 = name of an account, %2 = name of a protocol
-        moved->leftOut << about(account,
-                                KirvAccountExport::tr("The picture of the account \"%1\" (%2) is left out: it "
-                                                      "could not be read."));
     }
     if (withSecrets)
         reportUnread(account, &moved->leftOut);
@@ -123,4 +117,23 @@ KirvMovedAccounts KirvAccountExport::collect(const KirvAccountCollection &accoun
     if (std::any_of(moved.accounts.cbegin(), moved.accounts.cend(), isMain))
         moved.mainAccount = mainAccount.account()->key();
     return moved;
+}
+
+void KirvAccountExport::readPictures(KirvMovedAccounts *moved)
+{
+    qint64 size = 0;
+    for (KirvMovedAccount &account : moved->accounts) {
+        if (account.unreadPicture.isEmpty())
+            continue;
+        if (size > KirvAccountFile::largestFile)
+            return;
+        account.picture = pictureOf(account);
+        account.unreadPicture.clear();
+        size += account.picture.size();
+        if (account.picture.isEmpty()) {
+            //: %1 = name of an account, %2 = name of a protocol
+            moved->leftOut << about(account.record,
+                                    tr("The picture of the account \"%1\" (%2) is left out: it could not be read."));
+        }
+    }
 }

@@ -17,9 +17,12 @@ class KirvAccountExport {
 public:
     /// \a chosen in the user's own order, with the main account when it is among them. \a withSecrets takes passwords
     /// and secret settings along, as far as they are stored and known: what a locked keyring holds is named in leftOut,
-    /// and so are accounts and pictures that no file can hold. Reads the files of the pictures.
+    /// and so are accounts that no file can hold. Reads no files: the pictures are unread.
     static KirvMovedAccounts collect(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
                                      const QList<KirvAccount *> &chosen, bool withSecrets);
+    /// Reads the pictures of \a moved, for which a thread is the place. Those that cannot be exported are named in
+    /// leftOut. Ends when there are more than a file can hold; the others are unread then.
+    static void readPictures(KirvMovedAccounts *moved);
 };
 
 #endif

@@ -14,6 +14,7 @@ struct KirvMovedAccount {
     /// not read of them. The password and secret settings that did not come along are empty or missing.
     KirvAccountRecord record;
     QByteArray picture; ///< the bytes of the picture's file; empty: none
+    QString unreadPicture; ///< the path of the picture's file that is still to be read for an export; empty: none
 };
 
 /// The accounts of one file. A value type.

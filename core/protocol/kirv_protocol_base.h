@@ -64,7 +64,8 @@ public:
     virtual KirvConnection *createConnection() = 0;
 
     /// The \a settings for a log-in that only finds out whether it works, beside a session of the same account that is
-    /// not to be disturbed. The default is \a settings.
+    /// not to be disturbed. Nothing is replaced that says where a password goes or how it is protected: a stored
+    /// password stays while these are the same. The default is \a settings.
     virtual QList<KirvField> settingsForTest(const QList<KirvField> &settings) const;
     /// What the plug-in consists of, each with its version, as "XMPP plug-in 1.0" and "QXmpp 1.4.0", for reports about
     /// problems. The default is empty.

@@ -13,6 +13,11 @@ if(KIRV_SCREENSHOTS)
     <screenshot type=\"default\">
       <caption>The accounts of two protocols</caption>
       <caption xml:lang=\"de\">Die Konten zweier Protokolle</caption>
+      <caption xml:lang=\"ar\">حسابات بروتوكولين</caption>
+      <caption xml:lang=\"es\">Las cuentas de dos protocolos</caption>
+      <caption xml:lang=\"fr\">Les comptes de deux protocoles</caption>
+      <caption xml:lang=\"pl\">Konta dwóch protokołów</caption>
+      <caption xml:lang=\"pt_BR\">As contas de dois protocolos</caption>
       <image>${KIRV_SCREENSHOTS}/accounts-page.png</image>
     </screenshot>
   </screenshots>\n")

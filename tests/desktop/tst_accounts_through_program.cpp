@@ -286,7 +286,7 @@ void tst_AccountsThroughProgram::wrongPassPhraseIsSaid()
     addAccount(QStringLiteral("ann"));
     for (const char *text : { "right", "wrong" }) {
         QFile file(folder->filePath(QLatin1String(text)));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(text).repeated(3)) > 0);
     }
     QCOMPARE(run({ "export", "a.json", "--with-passwords", "--pass-phrase-file", path("right") }).status, 0);
     const KirvProgramRun result = run({ "import", "a.json", "--replace", "--pass-phrase-file", path("wrong") });

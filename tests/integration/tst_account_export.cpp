@@ -2,6 +2,7 @@
 #include "core/accounts/kirv_main_account.h"
 #include "core/moving/kirv_account_export.h"
 #include "core/moving/kirv_account_file.h"
+#include "core/values/kirv_bounded_image.h"
 #include "tests/integration/kirv_accounts_fixture.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/kirv_profile_files.h"
@@ -44,6 +45,8 @@ private Q_SLOTS:
     void whatAKeyringHasGivenComes();
     void whatBelongsToTheProfileStaysHere();
     void pictureThatIsGoneIsNamed();
+    void picturesAreReadLater();
+    void picturesThatNoFileHoldsAreNotRead();
     void accountThatNoFileHoldsIsNamed();
     void whatIsCollectedCanBeWritten();
 
@@ -87,7 +90,9 @@ KirvMovedAccounts tst_AccountExport::collect(const QStringList &ids, bool withSe
     QList<KirvAccount *> chosen;
     for (const QString &id : ids)
         chosen << core->account(id);
-    return KirvAccountExport::collect(*core->accounts, mainAccount(), chosen, withSecrets);
+    KirvMovedAccounts moved = KirvAccountExport::collect(*core->accounts, mainAccount(), chosen, withSecrets);
+    KirvAccountExport::readPictures(&moved);
+    return moved;
 }
 
 /// Each operation of the keyring follows from the event loop from the one before.
@@ -241,6 +246,45 @@ void tst_AccountExport::pictureThatIsGoneIsNamed()
              qPrintable(moved.leftOut.first()));
     QCOMPARE(idsOf(moved), QStringList({ ann, bob }));
     QVERIFY(moved.accounts.last().picture.isEmpty());
+}
+
+/// The window goes on meanwhile.
+void tst_AccountExport::picturesAreReadLater()
+{
+    QVERIFY(core->account(bob)->setAvatar(core->makePicture()));
+    KirvMovedAccounts moved =
+        KirvAccountExport::collect(*core->accounts, mainAccount(), { core->account(ann), core->account(bob) }, false);
+    QCOMPARE(moved.accounts.first().unreadPicture, QString());
+    QCOMPARE(moved.accounts.last().unreadPicture, core->account(bob)->avatarPath());
+    QVERIFY(moved.accounts.last().picture.isEmpty());
+    KirvAccountExport::readPictures(&moved);
+    QCOMPARE(moved.accounts.last().unreadPicture, QString());
+    QVERIFY(!moved.accounts.last().picture.isEmpty());
+    QCOMPARE(moved.leftOut, QStringList());
+}
+
+void tst_AccountExport::picturesThatNoFileHoldsAreNotRead()
+{
+    QVERIFY(core->account(bob)->setAvatar(core->makePicture()));
+    QFile picture(core->account(bob)->avatarPath());
+    QVERIFY(picture.resize(KirvBoundedImage::maximumBytes));
+    KirvMovedAccounts moved;
+    for (int index = 0; index < 20; ++index) {
+        KirvMovedAccount account;
+        account.record.key = { QString::number(index), core->fake };
+        account.unreadPicture = picture.fileName();
+        moved.accounts << account;
+    }
+    KirvAccountExport::readPictures(&moved);
+    QCOMPARE(moved.leftOut, QStringList());
+    qint64 size = 0;
+    for (const KirvMovedAccount &account : qAsConst(moved.accounts))
+        size += account.picture.size();
+    QVERIFY(size > KirvAccountFile::largestFile);
+    QVERIFY(size <= KirvAccountFile::largestFile + KirvBoundedImage::maximumBytes);
+    QString problem;
+    QCOMPARE(KirvAccountFile::write(moved, QString(), &problem), QByteArray());
+    QVERIFY(!problem.isEmpty());
 }
 
 void tst_AccountExport::accountThatNoFileHoldsIsNamed()

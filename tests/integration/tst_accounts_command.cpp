@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/moving/kirv_account_file.h"
+#include "core/moving/kirv_pass_phrase.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_settings_table.h"
 #include "core/store/kirv_store.h"
+#include "tests/support/kirv_moved_samples.h"
 #include "tests/support/kirv_profile_tool.h"
 #include "tests/support/kirv_program_run.h"
 
 #include <QJsonArray>
 #include <QTemporaryDir>
 #include <QtTest>
+#if QT_VERSION < 0x060000
+#include <QTextCodec>
+#endif
 
 #include <memory>
 #include <pty.h>
@@ -64,8 +70,13 @@ private Q_SLOTS:
     void passwordsNeedAPassPhrase();
     void wrongPassPhraseImportsNothing();
     void passwordsAreLeftOutWhenWanted();
+    void newPassPhrasesAreBounded_data();
+    void newPassPhrasesAreBounded();
+    void oldFileWithAShortPassPhraseIsRead();
     void passPhraseIsTypedWithoutAnEcho();
+    void passPhraseIsTheSameInEveryLocale();
     void existingAccountsAreKeptOrReplaced();
+    void lostPasswordsAreNamed();
     void trialChangesNothing_data();
     void trialChangesNothing();
     void accountsOfPidginAreImported();
@@ -73,6 +84,8 @@ private Q_SLOTS:
     void nothingLogsIn();
     void uselessFilesAreRefused_data();
     void uselessFilesAreRefused();
+    void refusedImportMakesNoProfile_data();
+    void refusedImportMakesNoProfile();
 
 private:
     void lostPasswordsAreNamed();
@@ -460,6 +473,43 @@ void tst_AccountsCommand::passwordsAreLeftOutWhenWanted()
     QCOMPARE(storedOne(QStringLiteral("ann"), "other").password, QString());
 }
 
+void tst_AccountsCommand::newPassPhrasesAreBounded_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("problem"); ///< empty: it can be used
+    const QString tooShort = QStringLiteral("The pass phrase needs at least 12 characters.");
+    const QString character = QString::fromUtf8("\xf0\x9f\x90\x8e"); // one, of two units
+    QTest::newRow("short") << QStringLiteral("eleven char") << tooShort;
+    QTest::newRow("long enough") << QStringLiteral("twelve chars") << QString();
+    QTest::newRow("few large characters") << character.repeated(11) << tooShort;
+    QTest::newRow("enough large characters") << character.repeated(12) << QString();
+    QTest::newRow("as long as can be") << QString(KirvPassPhrase::longest, QLatin1Char('x')) << QString();
+}
+
+void tst_AccountsCommand::newPassPhrasesAreBounded()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, problem);
+    add(QStringLiteral("ann"));
+    QVERIFY(write(path("typed"), typed.toUtf8() + '\n'));
+    const KirvProgramRun result = run({ "export", "accounts.json", "--with-passwords", "--pass-phrase-file", "typed" });
+    QCOMPARE(result.status, problem.isEmpty() ? 0 : 5);
+    QCOMPARE(result.errorText(), problem.isEmpty() ? QString() : QStringLiteral("kirv: %1\n").arg(problem));
+    QCOMPARE(QFileInfo::exists(path("accounts.json")), problem.isEmpty());
+}
+
+void tst_AccountsCommand::oldFileWithAShortPassPhraseIsRead()
+{
+    KirvMovedAccounts accounts;
+    accounts.accounts << sampleAccount(QStringLiteral("ann"));
+    QString problem;
+    QVERIFY(write(path("accounts.json"), KirvAccountFile::write(accounts, QStringLiteral("short"), &problem)));
+    QVERIFY(write(path("typed"), "short\n"));
+    const KirvProgramRun result = run({ "import", "accounts.json", "--pass-phrase-file", "typed" });
+    QVERIFY2(result.status == 0, qPrintable(result.errorText()));
+    QCOMPARE(storedOne(QStringLiteral("ann")).password, QStringLiteral("password of ann"));
+}
+
 /// The program in a terminal of its own, where the pass phrase is typed twice, once with a slip.
 void tst_AccountsCommand::passPhraseIsTypedWithoutAnEcho()
 {
@@ -500,6 +550,17 @@ void tst_AccountsCommand::passPhraseIsTypedWithoutAnEcho()
     QCOMPARE(storedOne(QStringLiteral("ann"), "other").password, secret);
 }
 
+void tst_AccountsCommand::passPhraseIsTheSameInEveryLocale()
+{
+#if QT_VERSION < 0x060000 // later versions take every locale for one of UTF-8
+    const auto restore =
+        qScopeGuard([before = QTextCodec::codecForLocale()] { QTextCodec::setCodecForLocale(before); });
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    QCOMPARE(KirvPassPhrase::fromBytes("gr\xfcne Pferde"), QString::fromUtf8("gr\xc3\xbcne Pferde"));
+#endif
+    QCOMPARE(KirvPassPhrase::fromBytes("gr\xc3\xbcne Pferde"), QString::fromUtf8("gr\xc3\xbcne Pferde"));
+}
+
 void tst_AccountsCommand::existingAccountsAreKeptOrReplaced()
 {
     add(QStringLiteral("ann"), protocol, QStringLiteral("old"));
@@ -521,6 +582,32 @@ void tst_AccountsCommand::existingAccountsAreKeptOrReplaced()
              QJsonValue(QStringLiteral("replaced")));
     QCOMPARE(storedOne(QStringLiteral("ann")).alias, QStringLiteral("old"));
     QCOMPARE(storedOne(QStringLiteral("ann")).password, secret); // which did not come along
+}
+
+/// The file has another server, to which no stored password goes.
+void tst_AccountsCommand::lostPasswordsAreNamed()
+{
+    add(QStringLiteral("ann"));
+    add(QStringLiteral("bob"));
+    exportAll();
+    {
+        KirvStore store;
+        QVERIFY(store.open(profile()));
+        KirvAccountRecord ann = store.readAccounts().first();
+        QCOMPARE(ann.key.id, QStringLiteral("ann"));
+        ann.settings.insert(QStringLiteral("server"), QStringLiteral("elsewhere.example"));
+        QVERIFY(store.updateAccount(ann));
+    }
+    for (const bool isTrial : { true, false }) {
+        const KirvProgramRun result = run(QStringList { "import", "--replace", "accounts.json" }
+                                          + (isTrial ? QStringList { "--dry-run" } : QStringList()));
+        QCOMPARE(result.status, 4);
+        QCOMPARE(result.errorText(),
+                 QStringLiteral("Stored passwords of the account \"ann\" are not kept, because its settings "
+                                "in the file differ. They must be entered again.\n"));
+        QCOMPARE(storedOne(QStringLiteral("ann")).password, isTrial ? secret : QString());
+        QCOMPARE(storedOne(QStringLiteral("bob")).password, secret);
+    }
 }
 
 void tst_AccountsCommand::trialChangesNothing_data()
@@ -638,6 +725,30 @@ void tst_AccountsCommand::lostPasswordsAreNamed()
         QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
         QCOMPARE(stored().size(), 1);
     }
+}
+
+void tst_AccountsCommand::refusedImportMakesNoProfile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::newRow("something else") << QStringList { "phrase" } << 1;
+    QTest::newRow("wrong pass phrase") << QStringList { "accounts.json", "--pass-phrase-file", "wrong" } << 5;
+    QTest::newRow("damaged") << QStringList { "damaged.json", "--without-passwords" } << 1;
+}
+
+void tst_AccountsCommand::refusedImportMakesNoProfile()
+{
+    QFETCH(QStringList, arguments);
+    add(QStringLiteral("ann"));
+    exportAll({ "--with-passwords", "--pass-phrase-file", "phrase" });
+    QVERIFY(write(path("wrong"), "another pass phrase\n"));
+    QVERIFY(write(path("damaged.json"), contentOf(path("accounts.json")).chopped(20)));
+    const KirvProgramRun result = run(QStringList { "import" } + arguments, "new");
+    QTEST(result.status, "status");
+    QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
+    QVERIFY(!QFileInfo::exists(profile("new")));
+    QCOMPARE(run({ "import", "accounts.json", "--pass-phrase-file", "phrase" }, "new").status, 0);
+    QCOMPARE(storedOne(QStringLiteral("ann"), "new").password, secret);
 }
 
 QTEST_GUILESS_MAIN(tst_AccountsCommand)

@@ -4,6 +4,7 @@
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/moving/kirv_account_file.h"
+#include "core/moving/kirv_pass_phrase.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/gui/kirv_window_watcher.h"
@@ -299,6 +300,8 @@ void tst_ExportWindow::passPhraseIsChecked_data()
         << QString::fromUtf8("🐎🐎🐎🐎🐎🐎🐎🐎🐎🐎🐎") << QString::fromUtf8("🐎🐎🐎🐎🐎🐎🐎🐎🐎🐎🐎") << isShort;
     QTest::newRow("not repeated") << phrase << QString() << isOther;
     QTest::newRow("repeated with a slip") << phrase << phrase + QLatin1Char(' ') << isOther;
+    const QString horses = QString::fromUtf8("🐎").repeated(257); // of four bytes each
+    QTest::newRow("more bytes than it may have") << horses << horses << QStringLiteral("too long");
     QTest::newRow("right") << phrase << phrase << QString();
 }
 
@@ -310,6 +313,7 @@ void tst_ExportWindow::passPhraseIsChecked()
     open();
     enterPassPhrase(first, second);
     KirvClientWindows::settle();
+    QCOMPARE(part<QLineEdit>("PassPhrase")->maxLength(), int(KirvPassPhrase::longest));
     const auto *shown = part<QLabel>("Problem");
     QCOMPARE(shown->isVisible(), !problem.isEmpty());
     QVERIFY2(shown->text().contains(problem), qPrintable(shown->text()));
