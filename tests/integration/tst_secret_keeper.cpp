@@ -74,6 +74,8 @@ private Q_SLOTS:
     void aPasswordForNowLastsUntilTheProgramEnds();
     void aPasswordForNowIsNotUsedWithoutTheOtherSecrets();
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
+    void eachPasswordThatCouldNotBeKeptIsReported_data();
+    void eachPasswordThatCouldNotBeKeptIsReported();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
     void aProfileThatRefusesAChangeCostsNoPassword();
@@ -188,6 +190,7 @@ void tst_SecretKeeper::whatIsStoredBeforeTheStateIsKnownFindsItsPlace()
     QFETCH(bool, isThere);
     KirvFakeSecretStore undecided(KirvSecretStore::Unknown);
     core->accounts->secrets().setKeyring(&undecided);
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
     QVERIFY(core->create());
     settle();
     QVERIFY(!isInProfile(password));
@@ -196,6 +199,7 @@ void tst_SecretKeeper::whatIsStoredBeforeTheStateIsKnownFindsItsPlace()
     settle();
     QCOMPARE(isInProfile(password), !isThere);
     QCOMPARE(undecided.secrets.values(), isThere ? QStringList(password) : QStringList());
+    QVERIFY(notices.isEmpty());
     core->accounts->secrets().setKeyring(nullptr);
 }
 
@@ -697,6 +701,39 @@ void tst_SecretKeeper::aWriteThatFailsIsReportedOnceAndTriedAgain()
     keyring->setState(KirvSecretStore::Ready);
     settle();
     QCOMPARE(keyring->secrets.values(), QStringList(password));
+}
+
+void tst_SecretKeeper::eachPasswordThatCouldNotBeKeptIsReported_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state"); ///< in which the passwords are stored
+    QTest::addColumn<KirvSecretStore::State>("stateAfter");
+    QTest::newRow("refused") << KirvSecretStore::Ready << KirvSecretStore::Ready;
+    QTest::newRow("locked, and refused") << KirvSecretStore::Locked << KirvSecretStore::Locked;
+    QTest::newRow("gone") << KirvSecretStore::Unknown << KirvSecretStore::Unavailable;
+}
+
+/// Not the first one of them only.
+void tst_SecretKeeper::eachPasswordThatCouldNotBeKeptIsReported()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(KirvSecretStore::State, stateAfter);
+    const int count = 25; // more than one turn reports
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->outcome = KirvSecretStore::Refused;
+    keyring->setState(state);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    settle();
+    keyring->setState(stateAfter);
+    KIRV_TRY_COMPARE(notices.size(), count);
+    keyring->setState(stateAfter);
+    settle();
+    QCOMPARE(notices.size(), count);
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring->secrets.size(), count);
+    QCOMPARE(notices.size(), count);
+    QVERIFY(!isInProfile(QStringLiteral("word of id")));
 }
 
 void tst_SecretKeeper::aNewSecretThatWasNeverWrittenIsTheOneBefore()
