@@ -23,7 +23,7 @@ public:
     /// What is stored, and what the user wants.
     struct Wanted {
         bool online = false;
-        bool awaitsSecrets = false; ///< a log-in waits for what login lacks; what is on line stays so
+        bool awaitsSecrets = false; ///< a log-in waits for what login lacks; a session with the same login goes on
         KirvLogin login;
         KirvPresence presence;
         KirvAvatar avatar;
@@ -51,7 +51,7 @@ public:
 
     /// Something that is wanted may have changed.
     void schedule();
-    void requestStep(RequestedStep requestedStep);
+    void requestStep(RequestedStep step);
     /// Nothing is done between hold() and the release() that belongs to it. What requestStep() requested meanwhile
     /// counts only when it is \a kept.
     void hold();
@@ -70,6 +70,7 @@ Q_SIGNALS:
     void settled();
 
 private:
+    void waitForSecrets(const Wanted &wanted);
     void take(Step step, const Wanted &wanted, RequestedStep requestedStep);
 
     const std::function<Wanted()> wanted;

@@ -60,6 +60,14 @@ KirvSecretKeeper::Obstacle KirvSecretKeeper::obstacle() const
     return secretStore->state() == KirvSecretStore::Locked ? Locked : None;
 }
 
+/// Whether one would not be refused at once, or without an answer.
+bool KirvSecretKeeper::canBeginOperation() const
+{
+    if (!secretStore || isPaused)
+        return false;
+    return secretStore->state() == KirvSecretStore::Ready || secretStore->state() == KirvSecretStore::Locked;
+}
+
 QString KirvSecretKeeper::profileId()
 {
     if (id.isEmpty())
@@ -109,7 +117,9 @@ void KirvSecretKeeper::place(KirvAccountRecord &record, const KirvAccountRecord 
         if (!item.key.isEmpty())
             record.secretItems.insert(field, item);
     }
-    record.secretItems = kirvStoredForm(record).secretItems;
+    const KirvAccountRecord stored = kirvStoredForm(record);
+    record.secretItems = stored.secretItems;
+    record.unreadSecrets = stored.unreadSecrets; // what is not remembered any more is not read
 }
 
 void KirvSecretKeeper::read(KirvAccount *account)
@@ -121,6 +131,15 @@ void KirvSecretKeeper::read(KirvAccount *account)
         reads.prepend({ record.key, item.key() });
     isPaused = false;
     next();
+}
+
+void KirvSecretKeeper::readAwaited()
+{
+    isUnlocking = true;
+    for (KirvAccount *account : qAsConst(accounts)) {
+        if (account->awaitsSecrets())
+            read(account);
+    }
 }
 
 /// What is to be done is read from the event loop, once for all that has changed until then.
@@ -193,7 +212,7 @@ std::shared_ptr<const QStringList> KirvSecretKeeper::hold(const QStringList &key
 void KirvSecretKeeper::onStateChanged()
 {
     const KirvSecretStore::State state = secretStore->state();
-    isPaused = false;
+    isPaused = isUnlocking = false;
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
     loadChanges();
@@ -251,6 +270,7 @@ void KirvSecretKeeper::notifyNext()
 void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
 {
     isPaused = true;
+    isUnlocking = false;
     lastOutcome = reply.outcome;
     store.wipeTraces();
     notifyAccounts();
@@ -276,15 +296,15 @@ void KirvSecretKeeper::next()
     if (isBusy || !secretStore)
         return;
     loadChanges();
-    if (isPaused)
-        return;
     const KirvSecretStore::State state = secretStore->state();
-    if (state == KirvSecretStore::Silent)
-        reportWrites();
-    if (state != KirvSecretStore::Ready)
+    if (!isPaused && state != KirvSecretStore::Ready)
         store.wipeTraces();
-    if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
+    if (!canBeginOperation()) {
+        scheduleGivingUp();
+        if (!isPaused) // what has paused it reports them
+            reportWrites();
         return;
+    }
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)
         return;
     if (std::exchange(hasReplaced, false)) {
@@ -296,14 +316,14 @@ void KirvSecretKeeper::next()
         moveNext();
 }
 
-/// While the keyring is locked, only what is needed to log in is worth a question.
+/// While the keyring is locked, only what is needed to log in is worth a question, or what the user requests.
 bool KirvSecretKeeper::readNext()
 {
     const bool isLocked = secretStore->state() == KirvSecretStore::Locked;
     int index = 0;
     while (index < reads.size()) {
         const KirvAccount *owner = accounts.value(reads.at(index).account);
-        if (isLocked && owner && !owner->record().enabled) {
+        if (isLocked && !isUnlocking && owner && !owner->record().enabled) {
             ++index;
             continue;
         }
@@ -312,6 +332,10 @@ bool KirvSecretKeeper::readNext()
         const KirvSecretItem item = account ? account->record().secretItems.value(secret.field) : KirvSecretItem();
         const bool isBeingWritten =
             account && newKeys.contains(item.key) && !account->record().unreadSecrets.contains(secret.field);
+        if (isBeingWritten) {
+            givenUp << secret;
+            scheduleGivingUp();
+        }
         if (item.key.isEmpty() || isBeingWritten)
             continue;
         isBusy = true;
@@ -324,7 +348,42 @@ bool KirvSecretKeeper::readNext()
         });
         return true;
     }
+    isUnlocking = false;
     return false;
+}
+
+/// From the event loop: the accounts emit signals.
+void KirvSecretKeeper::scheduleGivingUp()
+{
+    if (!std::exchange(isGivingUpScheduled, true))
+        QTimer::singleShot(0, this, &KirvSecretKeeper::giveUpNext);
+}
+
+/// What the accounts know serves them while it cannot be read again. A few at a time: thousands may wait, and each
+/// changes a row of a list.
+void KirvSecretKeeper::giveUpNext()
+{
+    isGivingUpScheduled = false;
+    const auto isKnown = [this](const Secret &secret) {
+        const KirvAccount *account = accounts.value(secret.account);
+        return !account || !account->record().unreadSecrets.contains(secret.field);
+    };
+    if (!canBeginOperation()) {
+        QList<Secret> unknown;
+        for (const Secret &secret : qAsConst(reads))
+            (isKnown(secret) ? givenUp : unknown) << secret;
+        reads = unknown;
+    }
+    const QPointer<KirvSecretKeeper> alive(this);
+    for (int count = 0; count < notifySize && !givenUp.isEmpty(); ++count) {
+        const Secret secret = givenUp.takeFirst();
+        if (KirvAccount *account = accounts.value(secret.account))
+            account->secretFailed(secret.field);
+        if (!alive)
+            return;
+    }
+    if (!givenUp.isEmpty())
+        scheduleGivingUp();
 }
 
 void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply)
@@ -361,6 +420,8 @@ void KirvSecretKeeper::readLater(const Secret &secret, KirvAccount *account, con
     account->secretFailed(secret.field);
     if (alive)
         pause(reply);
+    if (alive)
+        reportWrites();
 }
 
 /// One that was never written is the value before, where there was one; otherwise nothing is left to be written.

@@ -69,11 +69,14 @@ private Q_SLOTS:
     void whatCannotBeReadIsRequestedOnce_data();
     void whatCannotBeReadIsRequestedOnce();
     void aLockedKeyringIsAskedForEnabledAccountsOnly();
+    void aLockedKeyringIsAskedForDisabledAccountsOnRequest();
     void aPasswordForNowChangesNothingThatIsStored();
     void aPasswordForNowLastsUntilTheProgramEnds_data();
     void aPasswordForNowLastsUntilTheProgramEnds();
     void aPasswordForNowIsNotUsedWithoutTheOtherSecrets();
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
+    void eachPasswordThatCouldNotBeKeptIsReported_data();
+    void eachPasswordThatCouldNotBeKeptIsReported();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
     void aProfileThatRefusesAChangeCostsNoPassword();
@@ -191,6 +194,7 @@ void tst_SecretKeeper::whatIsStoredBeforeTheStateIsKnownFindsItsPlace()
     QFETCH(bool, isThere);
     KirvFakeSecretStore undecided(KirvSecretStore::Unknown);
     core->accounts->secrets().setKeyring(&undecided);
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
     QVERIFY(core->create());
     settle();
     QVERIFY(!isInProfile(password));
@@ -199,6 +203,7 @@ void tst_SecretKeeper::whatIsStoredBeforeTheStateIsKnownFindsItsPlace()
     settle();
     QCOMPARE(isInProfile(password), !isThere);
     QCOMPARE(undecided.secrets.values(), isThere ? QStringList(password) : QStringList());
+    QVERIFY(notices.isEmpty());
     core->accounts->secrets().setKeyring(nullptr);
 }
 
@@ -601,6 +606,31 @@ void tst_SecretKeeper::aLockedKeyringIsAskedForEnabledAccountsOnly()
     QVERIFY(account()->isOnline());
 }
 
+void tst_SecretKeeper::aLockedKeyringIsAskedForDisabledAccountsOnRequest()
+{
+    for (const char *id : { "id", "b" }) {
+        QVERIFY(core->create(QLatin1String(id)));
+        QVERIFY(core->account(QLatin1String(id))->setEnabled(false));
+    }
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    keyring->calls.clear();
+    core->accounts->secrets().readAwaited();
+    settle();
+    QCOMPARE(keyring->calls, QStringList("read"));
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Locked);
+    settle();
+    QCOMPARE(keyring->calls, QStringList("read")); // not again without a request
+    core->accounts->secrets().readAwaited();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(core->account(QStringLiteral("b"))->getPassword(), QStringLiteral("word of b"));
+}
+
 void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
 {
     QVERIFY(core->create());
@@ -700,6 +730,39 @@ void tst_SecretKeeper::aWriteThatFailsIsReportedOnceAndTriedAgain()
     keyring->setState(KirvSecretStore::Ready);
     settle();
     QCOMPARE(keyring->secrets.values(), QStringList(password));
+}
+
+void tst_SecretKeeper::eachPasswordThatCouldNotBeKeptIsReported_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state"); ///< in which the passwords are stored
+    QTest::addColumn<KirvSecretStore::State>("stateAfter");
+    QTest::newRow("refused") << KirvSecretStore::Ready << KirvSecretStore::Ready;
+    QTest::newRow("locked, and refused") << KirvSecretStore::Locked << KirvSecretStore::Locked;
+    QTest::newRow("gone") << KirvSecretStore::Unknown << KirvSecretStore::Unavailable;
+}
+
+/// Not the first one of them only.
+void tst_SecretKeeper::eachPasswordThatCouldNotBeKeptIsReported()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(KirvSecretStore::State, stateAfter);
+    const int count = 25; // more than one turn reports
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->outcome = KirvSecretStore::Refused;
+    keyring->setState(state);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    settle();
+    keyring->setState(stateAfter);
+    KIRV_TRY_COMPARE(notices.size(), count);
+    keyring->setState(stateAfter);
+    settle();
+    QCOMPARE(notices.size(), count);
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring->secrets.size(), count);
+    QCOMPARE(notices.size(), count);
+    QVERIFY(!isInProfile(QStringLiteral("word of id")));
 }
 
 void tst_SecretKeeper::aNewSecretThatWasNeverWrittenIsTheOneBefore()
