@@ -88,7 +88,6 @@ private Q_SLOTS:
     void refusedImportMakesNoProfile();
 
 private:
-    void lostPasswordsAreNamed();
     QString profile(const char *name = "profile") const { return home->filePath(QLatin1String(name)); }
     QString path(const char *name) const { return home->filePath(QLatin1String(name)); }
     KirvProgramRun run(const QStringList &arguments, const char *profileName = "profile",
@@ -96,8 +95,6 @@ private:
     void add(const QString &id, const QString &ofProtocol = protocol, const QString &alias = QString(),
              bool isEnabled = true);
     QList<KirvAccountRecord> stored(const char *profileName = "profile") const;
-    void refusedImportMakesNoProfile_data();
-    void refusedImportMakesNoProfile();
     KirvAccountRecord storedOne(const QString &id, const char *profileName = "profile") const;
     void exportAll(const QStringList &more = {});
 
@@ -694,32 +691,6 @@ void tst_AccountsCommand::uselessFilesAreRefused()
     add(QStringLiteral("ann"));
     QVERIFY(write(path("file"), content));
     for (const QString &file : { QStringLiteral("file"), QStringLiteral("missing"), QStringLiteral("plugins") }) {
-/// The file has another server, to which no stored password goes.
-void tst_AccountsCommand::lostPasswordsAreNamed()
-{
-    add(QStringLiteral("ann"));
-    add(QStringLiteral("bob"));
-    exportAll();
-    {
-        KirvStore store;
-        QVERIFY(store.open(profile()));
-        KirvAccountRecord ann = store.readAccounts().first();
-        QCOMPARE(ann.key.id, QStringLiteral("ann"));
-        ann.settings.insert(QStringLiteral("server"), QStringLiteral("elsewhere.example"));
-        QVERIFY(store.updateAccount(ann));
-    }
-    for (const bool isTrial : { true, false }) {
-        const KirvProgramRun result = run(QStringList { "import", "--replace", "accounts.json" }
-                                          + (isTrial ? QStringList { "--dry-run" } : QStringList()));
-        QCOMPARE(result.status, 4);
-        QCOMPARE(result.errorText(),
-                 QStringLiteral("Stored passwords of the account \"ann\" are not kept, because its settings "
-                                "in the file differ. They must be entered again.\n"));
-        QCOMPARE(storedOne(QStringLiteral("ann")).password, isTrial ? secret : QString());
-        QCOMPARE(storedOne(QStringLiteral("bob")).password, secret);
-    }
-}
-
         const KirvProgramRun result = run({ "import", "--replace", file });
         QCOMPARE(result.status, 1);
         QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
@@ -754,27 +725,3 @@ void tst_AccountsCommand::refusedImportMakesNoProfile()
 QTEST_GUILESS_MAIN(tst_AccountsCommand)
 
 #include "tst_accounts_command.moc"
-void tst_AccountsCommand::refusedImportMakesNoProfile_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::newRow("something else") << QStringList { "phrase" } << 1;
-    QTest::newRow("wrong pass phrase") << QStringList { "accounts.json", "--pass-phrase-file", "wrong" } << 5;
-    QTest::newRow("damaged") << QStringList { "damaged.json", "--without-passwords" } << 1;
-}
-
-void tst_AccountsCommand::refusedImportMakesNoProfile()
-{
-    QFETCH(QStringList, arguments);
-    add(QStringLiteral("ann"));
-    exportAll({ "--with-passwords", "--pass-phrase-file", "phrase" });
-    QVERIFY(write(path("wrong"), "another pass phrase\n"));
-    QVERIFY(write(path("damaged.json"), contentOf(path("accounts.json")).chopped(20)));
-    const KirvProgramRun result = run(QStringList { "import" } + arguments, "new");
-    QTEST(result.status, "status");
-    QVERIFY(result.errorText().startsWith(QLatin1String("kirv: ")));
-    QVERIFY(!QFileInfo::exists(profile("new")));
-    QCOMPARE(run({ "import", "accounts.json", "--pass-phrase-file", "phrase" }, "new").status, 0);
-    QCOMPARE(storedOne(QStringLiteral("ann"), "new").password, secret);
-}
-
