@@ -144,7 +144,7 @@ QString KirvAccountStatus::reason() const
     case Connecting:
         return sentences({ failure.text(), since() });
     case Waiting:
-        return isWaitingForSecrets() ? kirvPlainName(KirvSecretTexts(account.secrets()).obstacle())
+        return isWaitingForSecrets() ? kirvPlainName(KirvSecretTexts(account.secrets()).obstacleOf(account))
                                      : sentences({ failure.text(), waitingReason() });
     case Failed:
         return sentences({ failure.text(), otherCertificateText(), advice(failure), since() });

@@ -101,8 +101,9 @@ void KirvEditWindowCompanion::aboutToShow()
     kirvLimitLength(window()->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias")));
     new KirvRememberBox(window()->findChild<QCheckBox *>(QStringLiteral("EditAccount_RememberPassword")),
                         accounts.secrets(), KirvRememberBox::AsItIs);
-    passwordReason = kirvAddLineBelow(passwordEdit, "Reason");
+    findSettings(*account->protocol());
     unshownSecrets = account->record().unreadSecrets;
+    addReasons();
     showSecrets(*account);
     connect(&accounts.secrets(), &KirvSecretKeeper::changed, this, [this] {
         if (const KirvAccount *shown = accounts.find(accountKey))
@@ -113,7 +114,8 @@ void KirvEditWindowCompanion::aboutToShow()
     showDescriptionAsPlainText(*account);
     watchRefusals(*account);
     addServerAccountButton();
-    addFileButtons(*account->protocol());
+    if (settings)
+        KirvFileButton::addTo(settings, account->protocol()->fileSettings());
     directory = new KirvDirectoryGuard(window(), controller, accounts);
     connect(directory, &KirvDirectoryGuard::publicationEnded, this, &KirvEditWindowCompanion::onPublicationEnded);
     input.note(window());
@@ -196,8 +198,8 @@ void KirvEditWindowCompanion::addServerAccountButton()
     more->setMenu(new KirvAccountActionsMenu(accountKey, serverCommands, window(), more));
 }
 
-/// In the form of the settings: the directory may have fields with the same ids.
-void KirvEditWindowCompanion::addFileButtons(const KirvProtocolBase &protocol)
+/// The form of the settings: the directory may have fields with the same ids.
+void KirvEditWindowCompanion::findSettings(const KirvProtocolBase &protocol)
 {
     const auto idsOf = [](const QList<KirvField> &fields) {
         QStringList ids;
@@ -207,8 +209,8 @@ void KirvEditWindowCompanion::addFileButtons(const KirvProtocolBase &protocol)
     };
     const auto forms = window()->findChildren<KirvFieldForm *>();
     for (KirvFieldForm *form : forms) {
-        if (idsOf(form->fields()) == idsOf(protocol.accountSettings()))
-            KirvFileButton::addTo(form, protocol.fileSettings());
+        if (!settings && idsOf(form->fields()) == idsOf(protocol.accountSettings()))
+            settings = form;
     }
 }
 
@@ -337,23 +339,50 @@ void KirvEditWindowCompanion::onAccountChanged(KirvAccount *account)
     showSecrets(*account);
 }
 
-/// Says why the password is not shown, and shows secret settings that have become known: Save would put the empty text
-/// that is shown for them in their place.
+/// Puts a line below each secret that the window does not show.
+void KirvEditWindowCompanion::addReasons()
+{
+    reasons.insert(QString(), kirvAddLineBelow(passwordEdit, "Reason"));
+    for (const QString &field : qAsConst(unshownSecrets)) {
+        QLineEdit *edit = settings && !field.isEmpty() ? settings->lineOf(field) : nullptr;
+        if (!edit)
+            continue;
+        QLabel *line = kirvCreateLine(edit->objectName() + QStringLiteral("_Reason"), settings);
+        settings->addBelow(edit, line);
+        reasons.insert(field, line);
+    }
+}
+
+/// Says why secrets are not shown, and shows secret settings that have become known: Save would put the empty text that
+/// is shown for them in their place.
 void KirvEditWindowCompanion::showSecrets(const KirvAccount &account)
 {
     const QSet<QString> &unread = account.record().unreadSecrets;
-    const KirvSecretTexts texts(accounts.secrets());
-    const bool isShown = !unread.contains(QString()) || !account.getPassword().isEmpty();
-    passwordReason->setText(isShown                       ? QString()
-                                : account.awaitsSecrets() ? texts.notShown()
-                                                          : KirvSecretTexts::passwordIsGone());
-    passwordReason->setVisible(!isShown);
-    passwordEdit->setPlaceholderText(isShown ? tr("None is stored") : QString());
     const QSet<QString> known = unshownSecrets - unread;
     unshownSecrets.intersect(unread);
     for (const QString &field : known) {
-        auto *edit = window()->findChild<QLineEdit *>(QStringLiteral("KirvField_") + field);
-        if (!field.isEmpty() && edit && edit->text().isEmpty())
+        QLineEdit *edit = settings && !field.isEmpty() ? settings->lineOf(field) : nullptr;
+        if (edit && edit->text().isEmpty())
             edit->setText(kirvEditablePart(account.record().settings.value(field)));
+    }
+    showReasons(account);
+}
+
+void KirvEditWindowCompanion::showReasons(const KirvAccount &account)
+{
+    const KirvAccountRecord &record = account.record();
+    const KirvSecretTexts texts(accounts.secrets());
+    for (auto reason = reasons.constBegin(); reason != reasons.constEnd(); ++reason) {
+        const QString &field = reason.key();
+        const QString value = field.isEmpty() ? account.getPassword() : record.settings.value(field);
+        const bool isShown = !record.unreadSecrets.contains(field) || !value.isEmpty();
+        if (field.isEmpty())
+            passwordEdit->setPlaceholderText(isShown ? tr("None is stored") : QString());
+        if (!*reason)
+            continue;
+        (*reason)->setText(isShown                           ? QString()
+                               : account.awaitsSecret(field) ? texts.notShown()
+                                                             : KirvSecretTexts::passwordIsGone());
+        (*reason)->setVisible(!isShown);
     }
 }

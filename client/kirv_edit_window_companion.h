@@ -6,6 +6,7 @@
 #include "core/ui/kirv_layout_dialog.h"
 #include "core/values/kirv_account_key.h"
 
+#include <QHash>
 #include <QList>
 #include <QPointer>
 #include <QSet>
@@ -14,6 +15,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvDirectoryGuard;
 class KirvEditAccountDialog;
+class KirvFieldForm;
 class KirvProtocolBase;
 class KirvServerCommands;
 class QDialogButtonBox;
@@ -49,7 +51,7 @@ public:
 private:
     void bindWindow();
     void addServerAccountButton();
-    void addFileButtons(const KirvProtocolBase &protocol);
+    void findSettings(const KirvProtocolBase &protocol);
     void showIdentifierAsPlainText();
     void describeParts();
     void fitToScreen();
@@ -62,7 +64,9 @@ private:
     void watchRefusals(const KirvAccount &account);
     void showRefusal(const QString &title, const QString &advice);
     void onAccountChanged(KirvAccount *account);
+    void addReasons();
     void showSecrets(const KirvAccount &account);
+    void showReasons(const KirvAccount &account);
 
     QPointer<KirvEditAccountDialog> controller;
     KirvAccountCollection &accounts;
@@ -74,7 +78,8 @@ private:
     KirvDirectoryGuard *directory = nullptr; ///< from the first showing on
     KirvTypedInput input;
     QPointer<KirvAccount> saving; ///< while the change of a Save is open
-    QLabel *passwordReason = nullptr; ///< why the password is not shown
+    QPointer<KirvFieldForm> settings; ///< null when the protocol has none
+    QHash<QString, QPointer<QLabel>> reasons; ///< why secrets are not shown, by field; that of the password is empty
     QSet<QString> unshownSecrets; ///< fields of secret settings that the window shows as empty
     QString knownPassword; ///< of the account, as far as the window shows it
     bool wasRefused = false; ///< a change of the account, by what the event loop is running now

@@ -45,13 +45,19 @@ protected:
 
 } // namespace
 
+QLabel *kirvCreateLine(const QString &objectName, QWidget *parent)
+{
+    QLabel *line = new WrappedLine(parent);
+    line->setObjectName(objectName);
+    line->setTextFormat(Qt::PlainText);
+    line->setWordWrap(true);
+    return line;
+}
+
 QLabel *kirvAddLineBelow(QWidget *widget, const char *suffix)
 {
     QWidget *parent = widget->parentWidget();
-    QLabel *line = new WrappedLine(parent);
-    line->setObjectName(widget->objectName() + QLatin1String(suffix));
-    line->setTextFormat(Qt::PlainText);
-    line->setWordWrap(true);
+    QLabel *line = kirvCreateLine(widget->objectName() + QLatin1String(suffix), parent);
     QLayout *layout = parent ? layoutOf(parent->layout(), widget) : nullptr;
     if (!layout) { // placed by hand
         line->hide();

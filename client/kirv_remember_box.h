@@ -33,6 +33,8 @@ private:
     bool mayChange;
 };
 
+/// A line of plain text that is wrapped, for below a widget of \a parent.
+QLabel *kirvCreateLine(const QString &objectName, QWidget *parent);
 /// Puts a line of text, named after \a widget, below it, in whatever layout it is.
 QLabel *kirvAddLineBelow(QWidget *widget, const char *suffix);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_secret_texts.h"
 
+#include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_secret_keeper.h"
 
 QString KirvSecretTexts::withProvider(const QString &named, const QString &nameless) const
@@ -107,11 +108,27 @@ QString KirvSecretTexts::obstacleItself() const
                         tr("The password is in your keyring, which cannot be read. Reconnect tries again."));
 }
 
-QString KirvSecretTexts::obstacle() const
+QString KirvSecretTexts::obstacleWith(const QString &advice) const
 {
     if (keeper.obstacle() == KirvSecretKeeper::None)
         return obstacleItself();
-    return obstacleItself() + QLatin1Char(' ') + tr("Or enter the password: it is used until the program ends.");
+    return obstacleItself() + QLatin1Char(' ') + advice;
+}
+
+QString KirvSecretTexts::obstacle() const
+{
+    return obstacleWith(tr("Or enter the password: it is used until the program ends."));
+}
+
+QString KirvSecretTexts::obstacleOf(const KirvAccount &account) const
+{
+    if (!account.awaitsSetting())
+        return obstacle();
+    // The password alone would not let it log in.
+    return obstacleWith(account.awaitsPassword()
+                            ? tr("Or edit the account and enter its passwords again.")
+                            //: it = a password that is one of the settings of an account, such as that of a proxy
+                            : tr("Or edit the account and enter it again."));
 }
 
 QString KirvSecretTexts::notShown() const

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QString>
 
+class KirvAccount;
 class KirvSecretKeeper;
 
 /// What the windows say about where passwords are kept, in one place. All texts are plain text.
@@ -26,9 +27,11 @@ public:
     bool isRememberingUnsafe() const;
     /// A few words about why a secret that is awaited is not there.
     QString shortObstacle() const;
-    /// The same in sentences, with what can be done.
+    /// The same in sentences, with what can be done when the password is awaited.
     QString obstacle() const;
-    /// Why a password is not shown, and what happens to it; for the edit window.
+    /// The same, with what can be done when \a account awaits what it awaits.
+    QString obstacleOf(const KirvAccount &account) const;
+    /// Why a password, or a setting that is one, is not shown, and what happens to it; for the edit window.
     QString notShown() const;
     /// A password that the profile says is in the keyring is not there.
     static QString passwordIsGone();
@@ -37,6 +40,7 @@ private:
     /// \a named with the name of the keyring's program as its %1, or \a nameless when that is not known.
     QString withProvider(const QString &named, const QString &nameless) const;
     QString obstacleItself() const;
+    QString obstacleWith(const QString &advice) const;
 
     const KirvSecretKeeper &keeper;
 };

@@ -24,6 +24,12 @@ namespace {
 
 const QString id = QStringLiteral("ann");
 
+KirvField serverPassword()
+{
+    return KirvField::password(QString(), QStringLiteral("server-password"), QStringLiteral("of the server"),
+                               QString());
+}
+
 } // namespace
 
 /// What the windows show of the keyring, and what they do with passwords that are in it.
@@ -40,8 +46,11 @@ private Q_SLOTS:
     void theEditWindowSaysWhyAPasswordIsNotShown();
     void aPasswordThatBecomesKnownIsShown();
     void aSecretSettingThatBecomesKnownIsKept();
+    void theEditWindowSaysWhyASecretSettingIsNotShown();
     void theAccountSaysWhatItWaitsFor_data();
     void theAccountSaysWhatItWaitsFor();
+    void theAccountSaysWhatCanBeEntered_data();
+    void theAccountSaysWhatCanBeEntered();
     void aPasswordCanBeEnteredForNow();
     void aPasswordThatIsNotInTheKeyringIsNotForNow();
     void theMoveIsSaidOnce();
@@ -205,6 +214,30 @@ void tst_PasswordsInWindows::aSecretSettingThatBecomesKnownIsKept()
     QVERIFY(keyring->secrets.values().contains(QStringLiteral("of the server")));
 }
 
+void tst_PasswordsInWindows::theEditWindowSaysWhyASecretSettingIsNotShown()
+{
+    QVERIFY(windows->addAccount(id));
+    account()->setSettings({ serverPassword() });
+    restart(KirvSecretStore::Unavailable);
+    KirvLayoutDialog *window = windows->edit(id);
+    auto *edit = KirvClientWindows::child<QLineEdit>(window, "KirvField_server-password");
+    auto *reason = KirvClientWindows::child<QLabel>(window, "KirvField_server-password_Reason");
+    QVERIFY(edit && reason);
+    QVERIFY(edit->text().isEmpty());
+    QVERIFY(reason->isVisibleTo(edit->window()));
+    QCOMPARE(reason->text(),
+             QStringLiteral("The keyring is not there. The password stays as it is unless you enter another one."));
+    QVERIFY(reason->mapTo(window, QPoint()).y() >= edit->mapTo(window, QPoint()).y() + edit->height());
+    keyring->setState(KirvSecretStore::Silent);
+    settle();
+    QVERIFY2(reason->text().startsWith(QLatin1String("The keyring does not respond.")), qPrintable(reason->text()));
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(edit->text(), QStringLiteral("of the server"));
+    QVERIFY(!reason->isVisibleTo(edit->window()));
+    KirvClientWindows::cancel(window);
+}
+
 void tst_PasswordsInWindows::theAccountSaysWhatItWaitsFor_data()
 {
     QTest::addColumn<KirvSecretStore::State>("state");
@@ -234,6 +267,32 @@ void tst_PasswordsInWindows::theAccountSaysWhatItWaitsFor()
     QVERIFY(status.accessibleLine().contains(text));
     QVERIFY(status.reason().contains(QStringLiteral("password")));
     QVERIFY(status.canEnterPassword());
+}
+
+void tst_PasswordsInWindows::theAccountSaysWhatCanBeEntered_data()
+{
+    QTest::addColumn<bool>("hasPassword");
+    QTest::addColumn<bool>("hasSetting");
+    QTest::addColumn<QString>("advice");
+    QTest::newRow("password") << true << false << "Or enter the password: it is used until the program ends.";
+    QTest::newRow("setting") << false << true << "Or edit the account and enter it again.";
+    QTest::newRow("both") << true << true << "Or edit the account and enter its passwords again.";
+}
+
+/// The password alone would not help where a setting is missing.
+void tst_PasswordsInWindows::theAccountSaysWhatCanBeEntered()
+{
+    QFETCH(bool, hasPassword);
+    QFETCH(bool, hasSetting);
+    QFETCH(QString, advice);
+    QVERIFY(windows->addAccount(id));
+    if (hasSetting)
+        account()->setSettings({ serverPassword() });
+    account()->setRememberPassword(hasPassword);
+    restart(KirvSecretStore::Unavailable);
+    const KirvAccountStatus status(*account(), false);
+    QCOMPARE(status.kind(), KirvAccountStatus::Waiting);
+    QVERIFY2(status.reason().endsWith(advice), qPrintable(status.reason()));
 }
 
 void tst_PasswordsInWindows::aPasswordCanBeEnteredForNow()
