@@ -2,8 +2,8 @@
 #include "client/kirv_accounts_command.h"
 
 #include "client/kirv_accounts_text.h"
+#include "client/kirv_command_file.h"
 #include "client/kirv_damaged_profile.h"
-#include "client/kirv_moved_file.h"
 #include "client/kirv_pass_phrase_input.h"
 #include "client/kirv_profile_accounts.h"
 #include "client/kirv_profile_command.h"
@@ -82,7 +82,7 @@ bool KirvAccountsCommand::prepare()
 
 bool KirvAccountsCommand::prepareExport()
 {
-    KirvMovedFile file(options.file);
+    KirvCommandFile file(options.file);
     if (!file.mayWrite(options.overwrites))
         return refuse(file.problem());
     return !options.withPasswords || readPassPhrase(true);
@@ -90,7 +90,7 @@ bool KirvAccountsCommand::prepareExport()
 
 bool KirvAccountsCommand::prepareImport()
 {
-    KirvMovedFile file(options.file);
+    KirvCommandFile file(options.file);
     QByteArray bytes;
     if (!file.read(KirvAccountFile::largestFile, &bytes))
         return refuse(file.problem());
@@ -190,7 +190,7 @@ bool KirvAccountsCommand::performThere()
 
 void KirvAccountsCommand::writeFile()
 {
-    KirvMovedFile file(options.file);
+    KirvCommandFile file(options.file);
     if (!file.write(QByteArray::fromBase64(reply.file.toLatin1()), options.overwrites))
         refuse(file.problem());
     reply.result.insert(QStringLiteral("withPasswords"), options.withPasswords);

@@ -2,12 +2,10 @@
 #include "client/kirv_accounts_page_companion.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_account_commands.h"
 #include "client/kirv_account_group.h"
 #include "client/kirv_account_help.h"
 #include "client/kirv_account_invitation.h"
 #include "client/kirv_account_list_frame.h"
-#include "client/kirv_account_moving.h"
 #include "client/kirv_account_order.h"
 #include "client/kirv_account_row_delegate.h"
 #include "client/kirv_account_row_states.h"
@@ -17,9 +15,11 @@
 #include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
 #include "client/kirv_main_account_selector.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_narrow_buttons.h"
+#include "client/kirv_page_commands.h"
 #include "client/kirv_plain_text.h"
-#include "client/kirv_selecting_style.h"
+#include "client/kirv_single_click_style.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
@@ -123,10 +123,10 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
 
 void KirvAccountsPageCompanion::connectMoving()
 {
-    connect(invitation, &KirvAccountInvitation::importRequested, &moving, &KirvAccountMoving::importAccounts);
-    connect(invitation, &KirvAccountInvitation::pidginRequested, &moving, &KirvAccountMoving::importFrom);
-    connect(&moving, &KirvAccountMoving::pidginFound, invitation, &KirvAccountInvitation::offerPidgin);
-    connect(&moving, &KirvAccountMoving::imported, this, [this](const QList<KirvAccountKey> &keys) {
+    connect(invitation, &KirvAccountInvitation::importRequested, &moving, &KirvMovingWindows::importAccounts);
+    connect(invitation, &KirvAccountInvitation::pidginRequested, &moving, &KirvMovingWindows::importFrom);
+    connect(&moving, &KirvMovingWindows::pidginFound, invitation, &KirvAccountInvitation::offerPidgin);
+    connect(&moving, &KirvMovingWindows::imported, this, [this](const QList<KirvAccountKey> &keys) {
         imported = keys;
         refreshLater();
     });
@@ -136,16 +136,15 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
 {
     auto *delegate = new KirvAccountRowDelegate(accounts, list);
     list->setItemDelegate(delegate);
-    list->setStyle(new KirvSelectingStyle(list));
+    list->setStyle(new KirvSingleClickStyle(list));
     aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
     auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
     auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
-    auto *commands = new KirvAccountCommands({ accounts, *rows, environment.serverCommands, environment.mainAccount,
-                                               environment.undo, *group, *order, environment.help, environment.moving },
-                                             aliasEditor, top, list);
-    connect(commands, &KirvAccountCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
-    connect(commands, &KirvAccountCommands::certificateRequested, this,
-            &KirvAccountsPageCompanion::certificateRequested);
+    auto *commands = new KirvPageCommands({ accounts, *rows, environment.serverCommands, environment.mainAccount,
+                                            environment.undo, *group, *order, environment.help, environment.moving },
+                                          aliasEditor, top, list);
+    connect(commands, &KirvPageCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
+    connect(commands, &KirvPageCommands::certificateRequested, this, &KirvAccountsPageCompanion::certificateRequested);
 }
 
 /// What the user does in the list is not disturbed: an open question is answered for what is selected then.

@@ -13,7 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHelp;
 class KirvAccountInvitation;
-class KirvAccountMoving;
+class KirvMovingWindows;
 class KirvAccountRows;
 class KirvAccountRowStates;
 class KirvAccountSearch;
@@ -46,7 +46,7 @@ public:
         KirvAccountUndo &undo;
         KirvClientSettings &settings;
         KirvAccountHelp &help;
-        KirvAccountMoving &moving;
+        KirvMovingWindows &moving;
     };
 
     /// \a top was just built for the page.
@@ -118,7 +118,7 @@ private:
     KirvAccountStrip *strip;
     KirvAccountSearch *searchBar;
     KirvAccountInvitation *invitation;
-    KirvAccountMoving &moving;
+    KirvMovingWindows &moving;
     QToolButton *addButton;
     KirvMainAccountSelector *selector = nullptr; ///< null when the layout has none
     KirvAliasEditor *aliasEditor = nullptr;

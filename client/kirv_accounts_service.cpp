@@ -3,7 +3,7 @@
 
 #include "client/kirv_account_names.h"
 #include "client/kirv_account_status.h"
-#include "client/kirv_accounts_moving.h"
+#include "client/kirv_moving_commands.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
@@ -35,7 +35,7 @@ KirvAccountsReply withAccounts(const QJsonArray &accounts)
 KirvAccountsService::KirvAccountsService(const Environment &environment, QObject *parent)
     : QObject(parent)
     , environment(environment)
-    , moving(new KirvAccountsMoving(environment, this))
+    , moving(new KirvMovingCommands(environment, this))
 {
 }
 

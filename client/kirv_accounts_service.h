@@ -12,7 +12,7 @@
 class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHistory;
-class KirvAccountsMoving;
+class KirvMovingCommands;
 class KirvMainAccount;
 
 /// Does what the commands for accounts of the command line want, in the program that has the profile open.
@@ -45,7 +45,7 @@ private:
     QJsonObject describe(const KirvAccount &account) const;
 
     const Environment environment;
-    KirvAccountsMoving *moving;
+    KirvMovingCommands *moving;
 };
 
 #endif

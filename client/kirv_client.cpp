@@ -3,7 +3,6 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_help.h"
-#include "client/kirv_account_moving.h"
 #include "client/kirv_account_order.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_accounts_page_companion.h"
@@ -14,6 +13,7 @@
 #include "client/kirv_language_change.h"
 #include "client/kirv_list_end_room.h"
 #include "client/kirv_message_bar.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_password_questions.h"
 #include "client/kirv_plain_text.h"
 #include "client/kirv_plugins_page.h"
@@ -180,9 +180,9 @@ void KirvClient::createWindow()
     serverCommands->setProviders(providers);
     auto *undo = new KirvAccountUndo(*accountCollection, *history, *settingsWindow->messageBar(), settingsWindow.get());
     help = new KirvAccountHelp(*accountCollection, *pluginLoader, settingsWindow.get());
-    moving = new KirvAccountMoving({ *accountCollection, services->mainAccountRule, *history }, settingsWindow.get());
-    connect(moving, &KirvAccountMoving::imported, this, [this] { settingsWindow->showPage(page); });
-    connect(moving, &KirvAccountMoving::problemOccurred, this, &KirvClient::showProblem);
+    moving = new KirvMovingWindows({ *accountCollection, services->mainAccountRule, *history }, settingsWindow.get());
+    connect(moving, &KirvMovingWindows::imported, this, [this] { settingsWindow->showPage(page); });
+    connect(moving, &KirvMovingWindows::problemOccurred, this, &KirvClient::showProblem);
     companions = new KirvWindowCompanions(
         *layouts,
         { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help, *moving },
@@ -227,7 +227,7 @@ void KirvClient::createPages()
     });
     connect(languageChange, &KirvLanguageChange::pendingChanged, generalPage, showLanguage);
     connect(generalPage, &KirvGeneralPage::exportRequested, moving, [this] { moving->exportAccounts(); });
-    connect(generalPage, &KirvGeneralPage::importRequested, moving, &KirvAccountMoving::importAccounts);
+    connect(generalPage, &KirvGeneralPage::importRequested, moving, &KirvMovingWindows::importAccounts);
     connect(pluginList, &KirvPluginsPage::reportRequested, help, [this] { help->showReport(); });
 }
 

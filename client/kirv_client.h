@@ -13,7 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHelp;
 class KirvAccountHistory;
-class KirvAccountMoving;
+class KirvMovingWindows;
 class KirvAccountsTab;
 class KirvGeneralPage;
 class KirvCertificateQuestions;
@@ -124,7 +124,7 @@ private:
     QPointer<KirvAccountsTab> page;
     QPointer<KirvPluginsPage> pluginList;
     QPointer<KirvAccountHelp> help;
-    QPointer<KirvAccountMoving> moving;
+    QPointer<KirvMovingWindows> moving;
     QPointer<KirvGeneralPage> generalPage;
     QPointer<KirvLanguageChange> languageChange;
     QPointer<KirvWindowCompanions> companions;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_main_account_selector.h"
 
+#include "client/kirv_long_list_style.h"
 #include "client/kirv_plain_text.h"
-#include "client/kirv_selector_style.h"
 #include "core/accounts/kirv_account.h"
 #include "host/kirv_account_manager.h"
 
@@ -25,7 +25,7 @@ KirvMainAccountSelector::KirvMainAccountSelector(QComboBox *box)
     : QObject(box)
     , box(box)
 {
-    box->setStyle(new KirvSelectorStyle(box));
+    box->setStyle(new KirvLongListStyle(box));
     // A refresh empties and fills the selector, which must not lose the focus meanwhile: this comes after it.
     connect(box->model(), &QAbstractItemModel::rowsInserted, this, &KirvMainAccountSelector::correctLater);
     connect(box->model(), &QAbstractItemModel::rowsRemoved, this, &KirvMainAccountSelector::correctLater);

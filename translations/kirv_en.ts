@@ -12,7 +12,7 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountCommands</name>
+    <name>KirvPageCommands</name>
     <message numerus="yes">
         <source>&amp;Enable %n Accounts</source>
         <translation>

@@ -327,7 +327,7 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountCommands</name>
+    <name>KirvPageCommands</name>
     <message numerus="yes">
         <source>&amp;Enable %n Accounts</source>
         <translation>
@@ -1180,7 +1180,7 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountsMoving</name>
+    <name>KirvMovingCommands</name>
     <message>
         <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
         <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
@@ -3057,7 +3057,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     </message>
 </context>
 <context>
-    <name>KirvMovedFile</name>
+    <name>KirvCommandFile</name>
     <message>
         <source>The file &quot;%1&quot; cannot be read: %2</source>
         <extracomment>%1 = path of a file, %2 = what the system says</extracomment>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_account_moving.h"
 #include "client/kirv_import_window.h"
 #include "client/kirv_message_bar.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/moving/kirv_account_file.h"
@@ -131,7 +131,7 @@ private:
     /// The same without the dialog.
     void open(const QString &path) const
     {
-        windows->client->window()->findChild<KirvAccountMoving *>()->importFrom(path);
+        windows->client->window()->findChild<KirvMovingWindows *>()->importFrom(path);
     }
     QTreeWidgetItem *row(const QString &id) const;
     void import();

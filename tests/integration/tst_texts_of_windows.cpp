@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_account_moving.h"
 #include "client/kirv_export_window.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_registration_chooser.h"
 #include "client/kirv_rescue_window.h"
@@ -474,7 +474,7 @@ void tst_TextsOfWindows::movingAccounts()
 {
     start({ ann, bob });
     const QString path = windows->folder.filePath(QStringLiteral("ann"));
-    auto *moving = window()->findChild<KirvAccountMoving *>();
+    auto *moving = window()->findChild<KirvMovingWindows *>();
     moving->exportAccounts();
     auto *exported = window()->findChild<KirvExportWindow *>();
     look("export", exported);

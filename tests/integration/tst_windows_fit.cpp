@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
-#include "client/kirv_account_moving.h"
 #include "client/kirv_accounts_page_companion.h"
 #include "client/kirv_client.h"
 #include "client/kirv_export_window.h"
 #include "client/kirv_import_window.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_plugins_page.h"
 #include "client/kirv_server_commands.h"
@@ -251,7 +251,7 @@ void tst_WindowsFit::openImportWindow(const Look &look)
     file.close();
     KirvImportWindow *window = nullptr;
     const auto read = [&](const QString &path) {
-        client->window()->findChild<KirvAccountMoving *>()->importFrom(path);
+        client->window()->findChild<KirvMovingWindows *>()->importFrom(path);
         window = client->window()->findChild<KirvImportWindow *>();
         KIRV_TRY(!Windows::child<QWidget>(window, "ImportAccounts_Progress")->isVisible());
         look(window);

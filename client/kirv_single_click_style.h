@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_SELECTING_STYLE_H
-#define KIRV_SELECTING_STYLE_H
+#ifndef KIRV_SINGLE_CLICK_STYLE_H
+#define KIRV_SINGLE_CLICK_STYLE_H
 
 #include <QProxyStyle>
 
 /// The style of the program for a list in which a single click only selects, also in desktops where it activates.
-class KirvSelectingStyle : public QProxyStyle {
+class KirvSingleClickStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     /// \a parent owns it.
-    explicit KirvSelectingStyle(QObject *parent);
+    explicit KirvSingleClickStyle(QObject *parent);
 
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_MOVED_FILE_H
-#define KIRV_MOVED_FILE_H
+#ifndef KIRV_COMMAND_FILE_H
+#define KIRV_COMMAND_FILE_H
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 
 /// A file with accounts, as the command line names it; "-" is the standard output or input.
-class KirvMovedFile {
-    Q_DECLARE_TR_FUNCTIONS(KirvMovedFile)
+class KirvCommandFile {
+    Q_DECLARE_TR_FUNCTIONS(KirvCommandFile)
 
 public:
-    explicit KirvMovedFile(const QString &path);
+    explicit KirvCommandFile(const QString &path);
 
     /// All of it, at most \a largest bytes. False when it cannot be read or is larger.
     bool read(qint64 largest, QByteArray *bytes);

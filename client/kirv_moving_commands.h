@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_ACCOUNTS_MOVING_H
-#define KIRV_ACCOUNTS_MOVING_H
+#ifndef KIRV_MOVING_COMMANDS_H
+#define KIRV_MOVING_COMMANDS_H
 
 #include "client/kirv_accounts_service.h"
 #include "core/moving/kirv_account_file.h"
@@ -10,13 +10,13 @@
 
 /// The export and the import among the commands for accounts. Files are read and written in a thread, as a pass phrase
 /// takes a second or more.
-class KirvAccountsMoving : public QObject {
+class KirvMovingCommands : public QObject {
     Q_OBJECT
 
 public:
     using Callback = KirvAccountsService::Callback;
 
-    KirvAccountsMoving(const KirvAccountsService::Environment &environment, QObject *parent);
+    KirvMovingCommands(const KirvAccountsService::Environment &environment, QObject *parent);
 
     void exportThem(const QList<KirvAccount *> &chosen, const KirvAccountsRequest &request, const Callback &callback);
     void importThem(const KirvAccountsRequest &request, const Callback &callback);

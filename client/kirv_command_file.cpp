@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/kirv_moved_file.h"
+#include "client/kirv_command_file.h"
 
 #include "core/store/kirv_private_file.h"
 
@@ -22,18 +22,18 @@ bool writeAndSync(const QString &path, const QByteArray &bytes)
 
 } // namespace
 
-KirvMovedFile::KirvMovedFile(const QString &path)
+KirvCommandFile::KirvCommandFile(const QString &path)
     : path(path)
 {
 }
 
-bool KirvMovedFile::fail(const QString &problem)
+bool KirvCommandFile::fail(const QString &problem)
 {
     text = problem;
     return false;
 }
 
-bool KirvMovedFile::read(qint64 largest, QByteArray *bytes)
+bool KirvCommandFile::read(qint64 largest, QByteArray *bytes)
 {
     QFile file(path);
     const bool isOpen = isStandard() ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
@@ -54,7 +54,7 @@ bool KirvMovedFile::read(qint64 largest, QByteArray *bytes)
     return true;
 }
 
-bool KirvMovedFile::mayWrite(bool overwrites)
+bool KirvCommandFile::mayWrite(bool overwrites)
 {
     struct stat status { };
     if (isStandard() || ::lstat(QFile::encodeName(path).constData(), &status) != 0)
@@ -64,7 +64,7 @@ bool KirvMovedFile::mayWrite(bool overwrites)
     return overwrites ? true : fail(tr("The file \"%1\" exists already. Use --force to overwrite it.").arg(path));
 }
 
-bool KirvMovedFile::write(const QByteArray &bytes, bool overwrites)
+bool KirvCommandFile::write(const QByteArray &bytes, bool overwrites)
 {
     if (isStandard())
         return writeToOutput(bytes);
@@ -82,7 +82,7 @@ bool KirvMovedFile::write(const QByteArray &bytes, bool overwrites)
     return true;
 }
 
-bool KirvMovedFile::writeToOutput(const QByteArray &bytes)
+bool KirvCommandFile::writeToOutput(const QByteArray &bytes)
 {
     const bool isWritten = std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout) == size_t(bytes.size())
         && std::fflush(stdout) == 0;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_ACCOUNT_COMMANDS_H
-#define KIRV_ACCOUNT_COMMANDS_H
+#ifndef KIRV_PAGE_COMMANDS_H
+#define KIRV_PAGE_COMMANDS_H
 
 #include "core/values/kirv_account_key.h"
 
@@ -10,7 +10,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountGroup;
 class KirvAccountHelp;
-class KirvAccountMoving;
+class KirvMovingWindows;
 class KirvAccountOrder;
 class KirvAccountRows;
 class KirvAccountUndo;
@@ -26,7 +26,7 @@ class QTreeWidget;
 /// The commands on the accounts of the page's list, in its context menu and by keys: F2 renames, Ctrl+N adds, the Menu
 /// key and Shift+F10 open the menu. Several selected accounts have a menu of their own, and are removed by the button
 /// and the key of the page, which itself removes one only.
-class KirvAccountCommands : public QObject {
+class KirvPageCommands : public QObject {
     Q_OBJECT
 
 public:
@@ -40,11 +40,11 @@ public:
         KirvAccountGroup &group;
         KirvAccountOrder &order;
         KirvAccountHelp &help;
-        KirvAccountMoving &moving;
+        KirvMovingWindows &moving;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.
-    KirvAccountCommands(const Environment &environment, KirvAliasEditor *editor, QWidget *top, QTreeWidget *list);
+    KirvPageCommands(const Environment &environment, KirvAliasEditor *editor, QWidget *top, QTreeWidget *list);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/kirv_account_moving.h"
+#include "client/kirv_moving_windows.h"
 
 #include "client/kirv_export_window.h"
 #include "core/moving/kirv_moving_file.h"
@@ -7,14 +7,14 @@
 
 #include <QFileDialog>
 
-KirvAccountMoving::KirvAccountMoving(const KirvImportWindow::Environment &environment, QWidget *window)
+KirvMovingWindows::KirvMovingWindows(const KirvImportWindow::Environment &environment, QWidget *window)
     : QObject(window)
     , environment(environment)
     , window(window)
 {
 }
 
-void KirvAccountMoving::open(QDialog *opened)
+void KirvMovingWindows::open(QDialog *opened)
 {
     opened->setAttribute(Qt::WA_DeleteOnClose);
     opened->show();
@@ -22,7 +22,7 @@ void KirvAccountMoving::open(QDialog *opened)
     opened->activateWindow();
 }
 
-void KirvAccountMoving::exportAccounts(const QList<KirvAccountKey> &chosen)
+void KirvMovingWindows::exportAccounts(const QList<KirvAccountKey> &chosen)
 {
     if (!exportWindow || !exportWindow->isVisible())
         exportWindow = new KirvExportWindow(environment.accounts, environment.mainAccount, chosen, window);
@@ -31,7 +31,7 @@ void KirvAccountMoving::exportAccounts(const QList<KirvAccountKey> &chosen)
     open(exportWindow);
 }
 
-void KirvAccountMoving::importAccounts()
+void KirvMovingWindows::importAccounts()
 {
     if (importWindow && importWindow->isVisible()) {
         open(importWindow);
@@ -39,31 +39,31 @@ void KirvAccountMoving::importAccounts()
     }
     if (!fileDialog) {
         fileDialog = KirvImportWindow::createFileDialog(window);
-        connect(fileDialog, &QFileDialog::fileSelected, this, &KirvAccountMoving::importFrom);
+        connect(fileDialog, &QFileDialog::fileSelected, this, &KirvMovingWindows::importFrom);
     }
     fileDialog->open();
     fileDialog->activateWindow();
 }
 
-void KirvAccountMoving::importFrom(const QString &path)
+void KirvMovingWindows::importFrom(const QString &path)
 {
     if (!importWindow || !importWindow->isVisible()) {
         importWindow = new KirvImportWindow(environment, window);
-        connect(importWindow, &KirvImportWindow::imported, this, &KirvAccountMoving::imported);
-        connect(importWindow, &KirvImportWindow::partLeftOut, this, &KirvAccountMoving::problemOccurred);
+        connect(importWindow, &KirvImportWindow::imported, this, &KirvMovingWindows::imported);
+        connect(importWindow, &KirvImportWindow::partLeftOut, this, &KirvMovingWindows::problemOccurred);
     }
     importWindow->read(path);
     open(importWindow);
 }
 
-void KirvAccountMoving::protocolsChanged()
+void KirvMovingWindows::protocolsChanged()
 {
     if (importWindow)
         importWindow->listLater();
 }
 
 /// The folder may be on a slow disk.
-void KirvAccountMoving::lookForPidgin()
+void KirvMovingWindows::lookForPidgin()
 {
     const QString path = KirvPidginFile::defaultPath();
     look.run<bool>([path](const KirvBackgroundJob::Flag &) { return KirvMovingFile::isPidginFile(path); },

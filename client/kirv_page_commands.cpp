@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/kirv_account_commands.h"
+#include "client/kirv_page_commands.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_actions_menu.h"
 #include "client/kirv_account_group.h"
 #include "client/kirv_account_help.h"
 #include "client/kirv_account_invitation.h"
-#include "client/kirv_account_moving.h"
 #include "client/kirv_account_order.h"
 #include "client/kirv_account_rows.h"
 #include "client/kirv_account_status.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_main_account.h"
@@ -40,8 +40,8 @@ QAction *addCommand(QMenu *menu, const char *name, const QString &text, QObject 
 
 } // namespace
 
-KirvAccountCommands::KirvAccountCommands(const Environment &environment, KirvAliasEditor *editor, QWidget *top,
-                                         QTreeWidget *list)
+KirvPageCommands::KirvPageCommands(const Environment &environment, KirvAliasEditor *editor, QWidget *top,
+                                   QTreeWidget *list)
     : QObject(top)
     , environment(environment)
     , editor(editor)
@@ -53,19 +53,19 @@ KirvAccountCommands::KirvAccountCommands(const Environment &environment, KirvAli
 {
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     // The page makes its own connections after this.
-    QMetaObject::invokeMethod(this, &KirvAccountCommands::joinPage, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &KirvPageCommands::joinPage, Qt::QueuedConnection);
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
     if (auto *invitation = top->findChild<KirvAccountInvitation *>())
         invitation->installEventFilter(this);
     auto *rename = new QShortcut(Qt::Key_F2, list);
     rename->setContext(Qt::WidgetShortcut);
-    connect(rename, &QShortcut::activated, this, &KirvAccountCommands::rename);
+    connect(rename, &QShortcut::activated, this, &KirvPageCommands::rename);
     auto *add = new QShortcut(QKeySequence::New, top);
-    connect(add, &QShortcut::activated, this, &KirvAccountCommands::openAddMenu);
+    connect(add, &QShortcut::activated, this, &KirvPageCommands::openAddMenu);
 }
 
-bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
+bool KirvPageCommands::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ContextMenu) {
         const auto *request = static_cast<QContextMenuEvent *>(event);
@@ -87,27 +87,27 @@ bool KirvAccountCommands::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
-void KirvAccountCommands::joinPage()
+void KirvPageCommands::joinPage()
 {
-    connect(list, &QTreeWidget::itemSelectionChanged, this, &KirvAccountCommands::updateButtons);
-    connect(removeButton, &QAbstractButton::clicked, this, &KirvAccountCommands::removeSeveral);
+    connect(list, &QTreeWidget::itemSelectionChanged, this, &KirvPageCommands::updateButtons);
+    connect(removeButton, &QAbstractButton::clicked, this, &KirvPageCommands::removeSeveral);
     const auto shortcuts = list->findChildren<QShortcut *>();
     for (const QShortcut *shortcut : shortcuts) {
         if (shortcut->key() == QKeySequence(QKeySequence::Delete))
-            connect(shortcut, &QShortcut::activated, this, &KirvAccountCommands::removeSeveral);
+            connect(shortcut, &QShortcut::activated, this, &KirvPageCommands::removeSeveral);
     }
     updateButtons();
 }
 
 /// The page looks at the current row only.
-void KirvAccountCommands::updateButtons()
+void KirvPageCommands::updateButtons()
 {
     if (list->selectionModel()->selectedRows().size() > 1)
         editButton->setEnabled(false);
 }
 
 /// One is removed by the page.
-void KirvAccountCommands::removeSeveral()
+void KirvPageCommands::removeSeveral()
 {
     const QList<KirvAccountKey> keys = selectedKeys();
     if (keys.size() > 1)
@@ -115,7 +115,7 @@ void KirvAccountCommands::removeSeveral()
 }
 
 /// In the order of the rows.
-QList<KirvAccountKey> KirvAccountCommands::selectedKeys() const
+QList<KirvAccountKey> KirvPageCommands::selectedKeys() const
 {
     QModelIndexList selected = list->selectionModel()->selectedRows();
     std::sort(selected.begin(), selected.end());
@@ -127,7 +127,7 @@ QList<KirvAccountKey> KirvAccountCommands::selectedKeys() const
     return keys;
 }
 
-void KirvAccountCommands::openGroupMenu(const QPoint &position)
+void KirvPageCommands::openGroupMenu(const QPoint &position)
 {
     const QList<KirvAccountKey> keys = selectedKeys();
     const int count = int(keys.size());
@@ -139,7 +139,7 @@ void KirvAccountCommands::openGroupMenu(const QPoint &position)
                [group, keys] { group->disable(keys); });
     addCommand(menu, "Accounts_RemoveSeveralAction", tr("Re&move %n Accounts…", nullptr, count), group,
                [group, keys] { group->remove(keys); });
-    KirvAccountMoving *moving = &environment.moving;
+    KirvMovingWindows *moving = &environment.moving;
     addCommand(menu, "Accounts_ExportSeveralAction", tr("E&xport %n Accounts…", nullptr, count), moving,
                [moving, keys] { moving->exportAccounts(keys); });
     menu->addSeparator();
@@ -148,18 +148,18 @@ void KirvAccountCommands::openGroupMenu(const QPoint &position)
     menu->setActiveAction(menu->actions().first());
 }
 
-KirvAccountKey KirvAccountCommands::currentKey() const
+KirvAccountKey KirvPageCommands::currentKey() const
 {
     const QTreeWidgetItem *row = list->currentItem();
     return row ? KirvAccountRows::keyOf(row) : KirvAccountKey();
 }
 
-void KirvAccountCommands::rename()
+void KirvPageCommands::rename()
 {
     editor->edit(currentKey());
 }
 
-void KirvAccountCommands::openAddMenu()
+void KirvPageCommands::openAddMenu()
 {
     QMenu *menu = addButton->menu();
     if (!menu || menu->actions().isEmpty())
@@ -170,7 +170,7 @@ void KirvAccountCommands::openAddMenu()
     menu->setActiveAction(menu->actions().first());
 }
 
-void KirvAccountCommands::openMenuOfCurrentRow()
+void KirvPageCommands::openMenuOfCurrentRow()
 {
     QTreeWidgetItem *row = list->currentItem();
     if (QApplication::activePopupWidget())
@@ -184,7 +184,7 @@ void KirvAccountCommands::openMenuOfCurrentRow()
     openMenu(KirvAccountRows::keyOf(row), list->viewport()->mapToGlobal(list->visualItemRect(row).center()));
 }
 
-void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &position)
+void KirvPageCommands::openMenu(const KirvAccountKey &key, const QPoint &position)
 {
     KirvAccount *account = environment.accounts.find(key);
     QTreeWidgetItem *row = environment.rows.find(key);
@@ -203,7 +203,7 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     menu->addSeparator();
     addMoving(menu, account);
     addCommand(menu, "Accounts_RemoveAction", tr("Re&move…"), account, [this, key] { remove(key); });
-    KirvAccountMoving *moving = &environment.moving;
+    KirvMovingWindows *moving = &environment.moving;
     addCommand(menu, "Accounts_ExportAction", tr("E&xport…"), moving,
                [moving, key] { moving->exportAccounts({ key }); });
     menu->addSeparator();
@@ -213,7 +213,7 @@ void KirvAccountCommands::openMenu(const KirvAccountKey &key, const QPoint &posi
     menu->setActiveAction(menu->actions().first());
 }
 
-void KirvAccountCommands::addEditing(QMenu *menu, KirvAccount *account)
+void KirvPageCommands::addEditing(QMenu *menu, KirvAccount *account)
 {
     const KirvAccountKey key = account->key();
     addCommand(menu, "Accounts_EditAction", tr("&Edit…"), account, [account] {
@@ -235,7 +235,7 @@ void KirvAccountCommands::addEditing(QMenu *menu, KirvAccount *account)
     })->setEnabled(canBecomeMain && account != environment.mainAccount.account());
 }
 
-void KirvAccountCommands::addConnecting(QMenu *menu, KirvAccount *account)
+void KirvPageCommands::addConnecting(QMenu *menu, KirvAccount *account)
 {
     const KirvAccountStatus status(*account, false);
     addCommand(menu, "Accounts_ReconnectAction", tr("&Reconnect"), account, [account] {
@@ -254,7 +254,7 @@ void KirvAccountCommands::addConnecting(QMenu *menu, KirvAccount *account)
         menu->addMenu(new KirvAccountActionsMenu(account->key(), environment.serverCommands, list->window(), menu));
 }
 
-void KirvAccountCommands::addHelp(QMenu *menu, KirvAccount *account)
+void KirvPageCommands::addHelp(QMenu *menu, KirvAccount *account)
 {
     KirvAccountHelp *help = &environment.help;
     addCommand(menu, "Accounts_TestAction", tr("&Test Log-In"), account, [help, account] {
@@ -263,7 +263,7 @@ void KirvAccountCommands::addHelp(QMenu *menu, KirvAccount *account)
     addCommand(menu, "Accounts_LogAction", tr("L&og"), account, [help, account] { help->showLog(account); });
 }
 
-void KirvAccountCommands::addPresences(QMenu *menu, KirvAccount *account)
+void KirvPageCommands::addPresences(QMenu *menu, KirvAccount *account)
 {
     QMenu *choices = menu->addMenu(tr("Pre&sence"));
     choices->setObjectName(QStringLiteral("Accounts_PresenceMenu"));
@@ -281,7 +281,7 @@ void KirvAccountCommands::addPresences(QMenu *menu, KirvAccount *account)
     }
 }
 
-void KirvAccountCommands::openGeneralMenu(const QPoint &position)
+void KirvPageCommands::openGeneralMenu(const QPoint &position)
 {
     QMenu *menu = createMenu();
     addGeneral(menu);
@@ -289,7 +289,7 @@ void KirvAccountCommands::openGeneralMenu(const QPoint &position)
     menu->setActiveAction(menu->actions().first());
 }
 
-QMenu *KirvAccountCommands::createMenu()
+QMenu *KirvPageCommands::createMenu()
 {
     auto *menu = new QMenu(top);
     menu->setObjectName(QStringLiteral("Accounts_Menu"));
@@ -298,7 +298,7 @@ QMenu *KirvAccountCommands::createMenu()
 }
 
 /// Only in the user's own order.
-void KirvAccountCommands::addMoving(QMenu *menu, KirvAccount *account)
+void KirvPageCommands::addMoving(QMenu *menu, KirvAccount *account)
 {
     const KirvAccountKey key = account->key();
     if (!environment.order.isOwn())
@@ -315,7 +315,7 @@ void KirvAccountCommands::addMoving(QMenu *menu, KirvAccount *account)
 }
 
 /// What needs no row.
-void KirvAccountCommands::addGeneral(QMenu *menu)
+void KirvPageCommands::addGeneral(QMenu *menu)
 {
     addCommand(menu, "Accounts_DisableAllAction", tr("Disable A&ll…"), &environment.group, [this] {
         environment.group.disableAll();
@@ -336,14 +336,14 @@ void KirvAccountCommands::addGeneral(QMenu *menu)
 }
 
 /// As a click on the check box does, with its question.
-void KirvAccountCommands::toggle(const KirvAccountKey &key)
+void KirvPageCommands::toggle(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = environment.rows.find(key))
         row->setCheckState(KirvAliasColumn,
                            row->checkState(KirvAliasColumn) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
 }
 
-void KirvAccountCommands::remove(const KirvAccountKey &key)
+void KirvPageCommands::remove(const KirvAccountKey &key)
 {
     if (QTreeWidgetItem *row = environment.rows.find(key)) {
         environment.rows.select(row);

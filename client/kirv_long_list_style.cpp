@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/kirv_selector_style.h"
+#include "client/kirv_long_list_style.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QStyleOptionComboBox>
 
-KirvSelectorStyle::KirvSelectorStyle(QObject *parent)
+KirvLongListStyle::KirvLongListStyle(QObject *parent)
     : QProxyStyle(QApplication::style()->objectName()) // one of its own: a proxy owns its base
 {
     setParent(parent);
 }
 
-int KirvSelectorStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+int KirvLongListStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                                  QStyleHintReturn *returnData) const
 {
     if (hint == SH_ComboBox_Popup)
@@ -19,7 +19,7 @@ int KirvSelectorStyle::styleHint(StyleHint hint, const QStyleOption *option, con
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
-void KirvSelectorStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+void KirvLongListStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                                     const QWidget *widget) const
 {
     const auto *box = qobject_cast<const QComboBox *>(widget);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/kirv_accounts_moving.h"
+#include "client/kirv_moving_commands.h"
 
 #include "client/kirv_account_names.h"
 #include "client/kirv_thread_work.h"
@@ -56,7 +56,7 @@ void leaveOutKept(const KirvAccountRecord &stored, KirvMovedAccounts *moved, Kir
     }
     if (wasThere) {
         //: %1 = name of an account, as XMPP:anna@example.org
-        moved->leftOut << KirvAccountsMoving::tr("Passwords of the account \"%1\" are left out: the keyring is locked.")
+        moved->leftOut << KirvMovingCommands::tr("Passwords of the account \"%1\" are left out: the keyring is locked.")
                               .arg(KirvAccountNames::of(stored.key));
     }
 }
@@ -75,14 +75,14 @@ void leaveOutLocked(const KirvAccountCollection &accounts, KirvMovedAccounts *mo
 
 } // namespace
 
-KirvAccountsMoving::KirvAccountsMoving(const KirvAccountsService::Environment &environment, QObject *parent)
+KirvMovingCommands::KirvMovingCommands(const KirvAccountsService::Environment &environment, QObject *parent)
     : QObject(parent)
     , environment(environment)
 {
     threads.setMaxThreadCount(1); // a pass phrase takes much memory
 }
 
-void KirvAccountsMoving::exportThem(const QList<KirvAccount *> &chosen, const KirvAccountsRequest &request,
+void KirvMovingCommands::exportThem(const QList<KirvAccount *> &chosen, const KirvAccountsRequest &request,
                                     const Callback &callback)
 {
     if (request.withPasswords != !request.passPhrase.isEmpty())
@@ -116,7 +116,7 @@ void KirvAccountsMoving::exportThem(const QList<KirvAccount *> &chosen, const Ki
     });
 }
 
-void KirvAccountsMoving::importThem(const KirvAccountsRequest &request, const Callback &callback)
+void KirvMovingCommands::importThem(const KirvAccountsRequest &request, const Callback &callback)
 {
     const auto file = std::make_shared<KirvAccountFile::Result>();
     KirvThreadWork::start(
@@ -127,7 +127,7 @@ void KirvAccountsMoving::importThem(const KirvAccountsRequest &request, const Ca
         [this, file, request, callback] { callback(take(*file, request)); });
 }
 
-KirvAccountsReply KirvAccountsMoving::take(const KirvAccountFile::Result &file, const KirvAccountsRequest &request)
+KirvAccountsReply KirvMovingCommands::take(const KirvAccountFile::Result &file, const KirvAccountsRequest &request)
 {
     if (file.wrongPassPhrase)
         return KirvAccountsReply::refusal(file.problem, KirvAccountsReply::WrongPassPhrase);

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "client/kirv_selecting_style.h"
+#include "client/kirv_single_click_style.h"
 
 #include <QApplication>
 
-KirvSelectingStyle::KirvSelectingStyle(QObject *parent)
+KirvSingleClickStyle::KirvSingleClickStyle(QObject *parent)
     : QProxyStyle(QApplication::style()->objectName()) // one of its own: a proxy owns its base
 {
     setParent(parent);
 }
 
-int KirvSelectingStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                                  QStyleHintReturn *returnData) const
+int KirvSingleClickStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                                    QStyleHintReturn *returnData) const
 {
     if (hint == SH_ItemView_ActivateItemOnSingleClick)
         return 0;

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_SELECTOR_STYLE_H
-#define KIRV_SELECTOR_STYLE_H
+#ifndef KIRV_LONG_LIST_STYLE_H
+#define KIRV_LONG_LIST_STYLE_H
 
 #include <QProxyStyle>
 
 /// The style of the program for a combo box with many entries: its list has QComboBox::maxVisibleItems() rows, where
 /// styles show as many as the screen holds. The placeholder text can be read in every palette; Qt 5 paints none in
 /// light ones.
-class KirvSelectorStyle : public QProxyStyle {
+class KirvLongListStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     /// \a parent owns it.
-    explicit KirvSelectorStyle(QObject *parent);
+    explicit KirvLongListStyle(QObject *parent);
 
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef KIRV_ACCOUNT_MOVING_H
-#define KIRV_ACCOUNT_MOVING_H
+#ifndef KIRV_MOVING_WINDOWS_H
+#define KIRV_MOVING_WINDOWS_H
 
 #include "client/kirv_background_job.h"
 #include "client/kirv_import_window.h"
@@ -16,12 +16,12 @@ class QWidget;
 
 /// Opens the windows in which accounts move into a file and out of one, one of each, and finds the accounts of another
 /// program that can be imported.
-class KirvAccountMoving : public QObject {
+class KirvMovingWindows : public QObject {
     Q_OBJECT
 
 public:
     /// What is in \a environment is not owned and outlives this. \a window is the parent of the windows and owns this.
-    KirvAccountMoving(const KirvImportWindow::Environment &environment, QWidget *window);
+    KirvMovingWindows(const KirvImportWindow::Environment &environment, QWidget *window);
 
     /// \a chosen are checked; when it is empty, all are, or what is checked in the window that is open.
     void exportAccounts(const QList<KirvAccountKey> &chosen = {});
