@@ -331,129 +331,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;فعّل %n حساب</numerusform>
-            <numerusform>&amp;فعّل حسابًا واحدًا</numerusform>
-            <numerusform>&amp;فعّل حسابين</numerusform>
-            <numerusform>&amp;فعّل %n حسابات</numerusform>
-            <numerusform>&amp;فعّل %n حسابًا</numerusform>
-            <numerusform>&amp;فعّل %n حساب</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;عطّل %n حساب</numerusform>
-            <numerusform>&amp;عطّل حسابًا واحدًا</numerusform>
-            <numerusform>&amp;عطّل حسابين</numerusform>
-            <numerusform>&amp;عطّل %n حسابات</numerusform>
-            <numerusform>&amp;عطّل %n حسابًا</numerusform>
-            <numerusform>&amp;عطّل %n حساب</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>أ&amp;زل %n حساب…</numerusform>
-            <numerusform>أ&amp;زل حسابًا واحدًا…</numerusform>
-            <numerusform>أ&amp;زل حسابين…</numerusform>
-            <numerusform>أ&amp;زل %n حسابات…</numerusform>
-            <numerusform>أ&amp;زل %n حسابًا…</numerusform>
-            <numerusform>أ&amp;زل %n حساب…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Re&amp;move…</source>
-        <translation>أ&amp;زل…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit…</source>
-        <translation>&amp;حرّر…</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>أعد ال&amp;تسمية</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;عطّل</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;فعّل</translation>
-    </message>
-    <message>
-        <source>Make Main &amp;Account</source>
-        <translation>اجعله الحساب ال&amp;رئيسي</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>أعد الات&amp;صال</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>أدخل &amp;كلمة السر…</translation>
-    </message>
-    <message>
-        <source>Pre&amp;sence</source>
-        <translation>الح&amp;ضور</translation>
-    </message>
-    <message>
-        <source>Move Up</source>
-        <translation>انقل لأعلى</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>انقل لأسفل</translation>
-    </message>
-    <message>
-        <source>Disable A&amp;ll…</source>
-        <translation>عطّل الك&amp;ل…</translation>
-    </message>
-    <message>
-        <source>Enable Those &amp;Again</source>
-        <translation>أعد تفعيل&amp;ها</translation>
-    </message>
-    <message>
-        <source>&amp;Own Order</source>
-        <translation>الترتيب ال&amp;خاص</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>ترا&amp;جع</translation>
-    </message>
-    <message>
-        <source>Show &amp;Certificate…</source>
-        <translation>اعرض ال&amp;شهادة…</translation>
-    </message>
-    <message>
-        <source>&amp;Test Log-In</source>
-        <translation>اخت&amp;بر تسجيل الدخول</translation>
-    </message>
-    <message>
-        <source>L&amp;og</source>
-        <translation>ال&amp;سجل</translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>صدّر %n حساب إلى &amp;ملف…</numerusform>
-            <numerusform>صدّر حسابًا واحدًا إلى &amp;ملف…</numerusform>
-            <numerusform>صدّر حسابين إلى &amp;ملف…</numerusform>
-            <numerusform>صدّر %n حسابات إلى &amp;ملف…</numerusform>
-            <numerusform>صدّر %n حسابًا إلى &amp;ملف…</numerusform>
-            <numerusform>صدّر %n حساب إلى &amp;ملف…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>E&amp;xport…</source>
-        <translation>صدّر إلى &amp;ملف…</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -658,6 +535,11 @@
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
         <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
         <translation>استُبعدت صورة الحساب «%1». %2</translation>
+    </message>
+    <message>
+        <source>Stored passwords of the account &quot;%1&quot; are not kept, because its settings in the file differ. They must be entered again.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>لا تُحفظ كلمات السر المخزنة للحساب «%1»، لأن إعداداته في الملف مختلفة. يجب إدخالها من جديد.</translation>
     </message>
 </context>
 <context>
@@ -1240,18 +1122,6 @@
     </message>
 </context>
 <context>
-    <name>KirvMovingCommands</name>
-    <message>
-        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
-        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
-        <translation>استُبعدت كلمات سر الحساب «%1»: حلقة المفاتيح مقفلة.</translation>
-    </message>
-    <message>
-        <source>A pass phrase is needed.</source>
-        <translation>تلزم عبارة سر.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountsOptions</name>
     <message>
         <source>Print one line of JSON.</source>
@@ -1742,6 +1612,10 @@ A file is called - where the standard output or input is meant.</source>
         <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
         <translation>لم يُفتح الرابط لأن نافذة أخرى تنتظر ردًا. أغلق تلك النافذة وافتح الرابط من جديد.</translation>
     </message>
+    <message>
+        <source>The link was not opened because it is too long.</source>
+        <translation>لم يُفتح الرابط لأنه أطول من اللازم.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1805,6 +1679,34 @@ A file is called - where the standard output or input is meant.</source>
 &quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
         <translation>حسابات عدة بروتوكولات للتراسل الفوري في مكان واحد.
 يبيّن الأمر «‎kirv accounts --help» كيف تُسرد الحسابات وتُفعَّل وتُعطَّل وتُصدَّر وتُستورد بلا نوافذ.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvCommandFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>لا يمكن قراءة الملف «‎%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
+        <translation>الملف «‎%1» أكبر من أن يكون ملف حسابات.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
+        <translation>المسار «‎%1» ليس ملفًا يمكن الكتابة فوقه.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
+        <translation>الملف «‎%1» موجود بالفعل. للكتابة فوقه استعمل الخيار ‎--force.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>لا يمكن كتابة الملف «‎%1».</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>لا يمكن الكتابة إلى الخرج القياسي.</translation>
     </message>
 </context>
 <context>
@@ -2016,17 +1918,6 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Choose the file to which the accounts are written.</source>
         <translation>اختر الملف الذي تُكتب فيه الحسابات.</translation>
-    </message>
-    <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>لا حد أدنى لعدد محارف عبارة السر.</numerusform>
-            <numerusform>يجب ألا تقل عبارة السر عن محرف واحد.</numerusform>
-            <numerusform>يجب ألا تقل عبارة السر عن محرفين.</numerusform>
-            <numerusform>يجب ألا تقل عبارة السر عن %n محارف.</numerusform>
-            <numerusform>يجب ألا تقل عبارة السر عن %n محرفًا.</numerusform>
-            <numerusform>يجب ألا تقل عبارة السر عن %n محرف.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The two pass phrases must be the same.</source>
@@ -2545,6 +2436,15 @@ A file is called - where the standard output or input is meant.</source>
         <source>The following is not imported:</source>
         <translation>ما لن يُستورد:</translation>
     </message>
+    <message>
+        <source>Exists, will be replaced; its passwords must be entered again</source>
+        <translation>موجود هنا، سيُستبدل؛ ويجب إدخال كلمات سره من جديد</translation>
+    </message>
+    <message>
+        <source>Exists as %1, will be replaced; its passwords must be entered again</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>موجود هنا باسم %1، سيُستبدل؛ ويجب إدخال كلمات سره من جديد</translation>
+    </message>
 </context>
 <context>
     <name>KirvInstanceCommands</name>
@@ -2702,10 +2602,6 @@ A file is called - where the standard output or input is meant.</source>
         <translation>المنفذ</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation>عادةً 6697 مع التشفير و6667 من دونه.</translation>
-    </message>
-    <message>
         <source>Encryption</source>
         <translation>التشفير</translation>
     </message>
@@ -2816,6 +2712,10 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>&quot;%1&quot; is no address of a server.</source>
         <translation>ليس «%1» عنوان خادم.</translation>
+    </message>
+    <message>
+        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>عادةً 6697 مع التشفير و6667 من دونه. ويُستعمل بدلاً من ذلك المنفذ المذكور في اسم الدخول، كما في ann@irc.example.org:6667.</translation>
     </message>
 </context>
 <context>
@@ -3141,31 +3041,15 @@ A file is called - where the standard output or input is meant.</source>
     </message>
 </context>
 <context>
-    <name>KirvCommandFile</name>
+    <name>KirvMovingCommands</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
-        <translation>لا يمكن قراءة الملف «‎%1»: %2</translation>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>استُبعدت كلمات سر الحساب «%1»: حلقة المفاتيح مقفلة.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
-        <translation>الملف «‎%1» أكبر من أن يكون ملف حسابات.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
-        <translation>المسار «‎%1» ليس ملفًا يمكن الكتابة فوقه.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
-        <translation>الملف «‎%1» موجود بالفعل. للكتابة فوقه استعمل الخيار ‎--force.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>لا يمكن كتابة الملف «‎%1».</translation>
-    </message>
-    <message>
-        <source>The standard output cannot be written.</source>
-        <translation>لا يمكن الكتابة إلى الخرج القياسي.</translation>
+        <source>A pass phrase is needed.</source>
+        <translation>تلزم عبارة سر.</translation>
     </message>
 </context>
 <context>
@@ -3201,6 +3085,147 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>تعذّر نقل ملكية ملفات الخادم إليه.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;فعّل %n حساب</numerusform>
+            <numerusform>&amp;فعّل حسابًا واحدًا</numerusform>
+            <numerusform>&amp;فعّل حسابين</numerusform>
+            <numerusform>&amp;فعّل %n حسابات</numerusform>
+            <numerusform>&amp;فعّل %n حسابًا</numerusform>
+            <numerusform>&amp;فعّل %n حساب</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;عطّل %n حساب</numerusform>
+            <numerusform>&amp;عطّل حسابًا واحدًا</numerusform>
+            <numerusform>&amp;عطّل حسابين</numerusform>
+            <numerusform>&amp;عطّل %n حسابات</numerusform>
+            <numerusform>&amp;عطّل %n حسابًا</numerusform>
+            <numerusform>&amp;عطّل %n حساب</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>أ&amp;زل %n حساب…</numerusform>
+            <numerusform>أ&amp;زل حسابًا واحدًا…</numerusform>
+            <numerusform>أ&amp;زل حسابين…</numerusform>
+            <numerusform>أ&amp;زل %n حسابات…</numerusform>
+            <numerusform>أ&amp;زل %n حسابًا…</numerusform>
+            <numerusform>أ&amp;زل %n حساب…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>أ&amp;زل…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;حرّر…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>أعد ال&amp;تسمية</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;عطّل</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;فعّل</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>اجعله الحساب ال&amp;رئيسي</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>أعد الات&amp;صال</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>أدخل &amp;كلمة السر…</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>الح&amp;ضور</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>انقل لأعلى</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>انقل لأسفل</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>عطّل الك&amp;ل…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>أعد تفعيل&amp;ها</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>الترتيب ال&amp;خاص</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>ترا&amp;جع</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>اعرض ال&amp;شهادة…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>اخت&amp;بر تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>ال&amp;سجل</translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>صدّر %n حساب إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر حسابًا واحدًا إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر حسابين إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر %n حسابات إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر %n حسابًا إلى &amp;ملف…</numerusform>
+            <numerusform>صدّر %n حساب إلى &amp;ملف…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>صدّر إلى &amp;ملف…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>لا حد أدنى لعدد محارف عبارة السر.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن محرف واحد.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن محرفين.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن %n محارف.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن %n محرفًا.</numerusform>
+            <numerusform>يجب ألا تقل عبارة السر عن %n محرف.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase is too long.</source>
+        <translation>عبارة السر أطول من اللازم.</translation>
     </message>
 </context>
 <context>
@@ -4325,6 +4350,14 @@ A file is called - where the standard output or input is meant.</source>
         <source>The password is not in the keyring any more.</source>
         <translation>لم تعد كلمة السر في حلقة المفاتيح.</translation>
     </message>
+    <message>
+        <source>Or edit the account and enter its passwords again.</source>
+        <translation>أو حرّر الحساب وأدخل كلمات سره من جديد.</translation>
+    </message>
+    <message>
+        <source>Or edit the account and enter it again.</source>
+        <translation>أو حرّر الحساب وأدخلها من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -4351,10 +4384,6 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>&amp;Remember the password</source>
         <translation>ت&amp;ذكّر كلمة السر</translation>
-    </message>
-    <message>
-        <source>Stores the password in your profile.</source>
-        <translation>يحفظ كلمة السر في ملفك الشخصي.</translation>
     </message>
     <message>
         <source>Message</source>

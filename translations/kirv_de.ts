@@ -327,113 +327,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message>
-        <source>Re&amp;move…</source>
-        <translation>Ent&amp;fernen…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit…</source>
-        <translation>&amp;Bearbeiten …</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Umbenennen</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;Deaktivieren</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Aktivieren</translation>
-    </message>
-    <message>
-        <source>Make Main &amp;Account</source>
-        <translation>Zum &amp;Hauptkonto machen</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>&amp;Neu verbinden</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>&amp;Passwort eingeben …</translation>
-    </message>
-    <message>
-        <source>Pre&amp;sence</source>
-        <translation>&amp;Status</translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>Ein Konto &amp;aktivieren</numerusform>
-            <numerusform>%n Konten &amp;aktivieren</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>Ein Konto &amp;deaktivieren</numerusform>
-            <numerusform>%n Konten &amp;deaktivieren</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>Ein Konto ent&amp;fernen…</numerusform>
-            <numerusform>%n Konten ent&amp;fernen…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Move Up</source>
-        <translation>Nach oben</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>Nach unten</translation>
-    </message>
-    <message>
-        <source>Disable A&amp;ll…</source>
-        <translation>A&amp;lle deaktivieren…</translation>
-    </message>
-    <message>
-        <source>Enable Those &amp;Again</source>
-        <translation>Diese &amp;wieder aktivieren</translation>
-    </message>
-    <message>
-        <source>&amp;Own Order</source>
-        <translation>&amp;Eigene Reihenfolge</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Show &amp;Certificate…</source>
-        <translation>&amp;Zertifikat anzeigen…</translation>
-    </message>
-    <message>
-        <source>&amp;Test Log-In</source>
-        <translation>Anmeldung &amp;testen</translation>
-    </message>
-    <message>
-        <source>L&amp;og</source>
-        <translation>Ereignispr&amp;otokoll</translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>Ein Konto e&amp;xportieren…</numerusform>
-            <numerusform>%n Konten e&amp;xportieren…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>E&amp;xport…</source>
-        <translation>E&amp;xportieren…</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -626,6 +519,11 @@
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
         <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
         <translation>Das Bild des Kontos „%1“ wurde ausgelassen. %2</translation>
+    </message>
+    <message>
+        <source>Stored passwords of the account &quot;%1&quot; are not kept, because its settings in the file differ. They must be entered again.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Gespeicherte Passwörter des Kontos „%1“ werden nicht behalten, weil seine Einstellungen in der Datei andere sind. Sie müssen neu eingegeben werden.</translation>
     </message>
 </context>
 <context>
@@ -1180,18 +1078,6 @@
     </message>
 </context>
 <context>
-    <name>KirvMovingCommands</name>
-    <message>
-        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
-        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
-        <translation>Passwörter des Kontos „%1“ werden ausgelassen: Der Schlüsselbund ist gesperrt.</translation>
-    </message>
-    <message>
-        <source>A pass phrase is needed.</source>
-        <translation>Eine Passphrase ist nötig.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountsOptions</name>
     <message>
         <source>Print one line of JSON.</source>
@@ -1674,6 +1560,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
         <translation>Die Verknüpfung wurde nicht geöffnet, weil ein anderes Fenster auf eine Antwort wartet. Schließen Sie dieses, und öffnen Sie die Verknüpfung erneut.</translation>
     </message>
+    <message>
+        <source>The link was not opened because it is too long.</source>
+        <translation>Der Link wurde nicht geöffnet, weil er zu lang ist.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1737,6 +1627,34 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
 &quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
         <translation>Konten mehrerer Sofortnachrichten-Protokolle an einem Ort.
 „kirv accounts --help“ zeigt, wie Konten ohne Fenster aufgelistet, aktiviert, deaktiviert, exportiert und importiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvCommandFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
+        <translation>Die Datei „%1“ ist zu groß, um eine mit Konten zu sein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
+        <translation>„%1“ ist keine Datei, die überschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
+        <translation>Die Datei „%1“ gibt es schon. Mit --force wird sie überschrieben.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Die Datei „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -1948,13 +1866,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Choose the file to which the accounts are written.</source>
         <translation>Die Datei wählen, in die die Konten geschrieben werden.</translation>
-    </message>
-    <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>Die Passphrase braucht mindestens ein Zeichen.</numerusform>
-            <numerusform>Die Passphrase braucht mindestens %n Zeichen.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The two pass phrases must be the same.</source>
@@ -2465,6 +2376,15 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <source>The following is not imported:</source>
         <translation>Nicht importiert wird:</translation>
     </message>
+    <message>
+        <source>Exists, will be replaced; its passwords must be entered again</source>
+        <translation>Hier vorhanden, wird ersetzt; seine Passwörter müssen neu eingegeben werden</translation>
+    </message>
+    <message>
+        <source>Exists as %1, will be replaced; its passwords must be entered again</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Hier als %1 vorhanden, wird ersetzt; seine Passwörter müssen neu eingegeben werden</translation>
+    </message>
 </context>
 <context>
     <name>KirvInstanceCommands</name>
@@ -2614,10 +2534,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Port</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation>Gewöhnlich 6697 mit Verschlüsselung und 6667 ohne.</translation>
-    </message>
-    <message>
         <source>Encryption</source>
         <translation>Verschlüsselung</translation>
     </message>
@@ -2736,6 +2652,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>&quot;%1&quot; is no address of a server.</source>
         <translation>„%1“ ist keine Adresse eines Servers.</translation>
+    </message>
+    <message>
+        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Gewöhnlich 6697 mit Verschlüsselung und 6667 ohne. Ein Port im Anmeldenamen, wie in ann@irc.example.org:6667, geht vor.</translation>
     </message>
 </context>
 <context>
@@ -3057,31 +2977,15 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
 </context>
 <context>
-    <name>KirvCommandFile</name>
+    <name>KirvMovingCommands</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
-        <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Passwörter des Kontos „%1“ werden ausgelassen: Der Schlüsselbund ist gesperrt.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
-        <translation>Die Datei „%1“ ist zu groß, um eine mit Konten zu sein.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
-        <translation>„%1“ ist keine Datei, die überschrieben werden kann.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
-        <translation>Die Datei „%1“ gibt es schon. Mit --force wird sie überschrieben.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>Die Datei „%1“ kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>The standard output cannot be written.</source>
-        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+        <source>A pass phrase is needed.</source>
+        <translation>Eine Passphrase ist nötig.</translation>
     </message>
 </context>
 <context>
@@ -3117,6 +3021,127 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>Die Dateien des Servers konnten ihm nicht übergeben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>Ent&amp;fernen…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Bearbeiten …</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Deaktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Aktivieren</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>Zum &amp;Hauptkonto machen</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>&amp;Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>&amp;Passwort eingeben …</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>&amp;Status</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>Ein Konto &amp;aktivieren</numerusform>
+            <numerusform>%n Konten &amp;aktivieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>Ein Konto &amp;deaktivieren</numerusform>
+            <numerusform>%n Konten &amp;deaktivieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>Ein Konto ent&amp;fernen…</numerusform>
+            <numerusform>%n Konten ent&amp;fernen…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>A&amp;lle deaktivieren…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>Diese &amp;wieder aktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>&amp;Eigene Reihenfolge</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>&amp;Zertifikat anzeigen…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Anmeldung &amp;testen</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>Ereignispr&amp;otokoll</translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>Ein Konto e&amp;xportieren…</numerusform>
+            <numerusform>%n Konten e&amp;xportieren…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportieren…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>Die Passphrase braucht mindestens ein Zeichen.</numerusform>
+            <numerusform>Die Passphrase braucht mindestens %n Zeichen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase is too long.</source>
+        <translation>Die Passphrase ist zu lang.</translation>
     </message>
 </context>
 <context>
@@ -4225,6 +4250,14 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <source>The password is not in the keyring any more.</source>
         <translation>Das Passwort ist nicht mehr im Schlüsselbund.</translation>
     </message>
+    <message>
+        <source>Or edit the account and enter its passwords again.</source>
+        <translation>Oder bearbeiten Sie das Konto und geben Sie seine Passwörter neu ein.</translation>
+    </message>
+    <message>
+        <source>Or edit the account and enter it again.</source>
+        <translation>Oder bearbeiten Sie das Konto und geben Sie es neu ein.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -4251,10 +4284,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>&amp;Remember the password</source>
         <translation>Passwort &amp;merken</translation>
-    </message>
-    <message>
-        <source>Stores the password in your profile.</source>
-        <translation>Speichert das Passwort in Ihrem Profil.</translation>
     </message>
     <message>
         <source>Message</source>

@@ -12,37 +12,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Enable %n Account</numerusform>
-            <numerusform>&amp;Enable %n Accounts</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Disable %n Account</numerusform>
-            <numerusform>&amp;Disable %n Accounts</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>Re&amp;move %n Account…</numerusform>
-            <numerusform>Re&amp;move %n Accounts…</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>E&amp;xport %n Account…</numerusform>
-            <numerusform>E&amp;xport %n Accounts…</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountGroup</name>
     <message numerus="yes">
         <source>Do you want to disable %n accounts? They are logged out.</source>
@@ -142,13 +111,6 @@
 <context>
     <name>KirvExportWindow</name>
     <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>The pass phrase needs at least %n character.</numerusform>
-            <numerusform>The pass phrase needs at least %n characters.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n accounts were exported to %1.</source>
         <extracomment>%1 = path of a file</extracomment>
         <translation>
@@ -174,6 +136,47 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Enable %n Account</numerusform>
+            <numerusform>&amp;Enable %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Disable %n Account</numerusform>
+            <numerusform>&amp;Disable %n Accounts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>Re&amp;move %n Account…</numerusform>
+            <numerusform>Re&amp;move %n Accounts…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>E&amp;xport %n Account…</numerusform>
+            <numerusform>E&amp;xport %n Accounts…</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>The pass phrase needs at least %n character.</numerusform>
+            <numerusform>The pass phrase needs at least %n characters.</numerusform>
         </translation>
     </message>
 </context>

@@ -327,113 +327,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Activar %n cuenta</numerusform>
-            <numerusform>&amp;Activar %n cuentas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Desactivar %n cuenta</numerusform>
-            <numerusform>&amp;Desactivar %n cuentas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>Eli&amp;minar %n cuenta…</numerusform>
-            <numerusform>Eli&amp;minar %n cuentas…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Re&amp;move…</source>
-        <translation>Eli&amp;minar…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit…</source>
-        <translation>&amp;Editar…</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>Cambiar de &amp;nombre</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;Desactivar</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Activar</translation>
-    </message>
-    <message>
-        <source>Make Main &amp;Account</source>
-        <translation>Establecer como cuenta &amp;principal</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>&amp;Reconectar</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>Introducir la &amp;contraseña…</translation>
-    </message>
-    <message>
-        <source>Pre&amp;sence</source>
-        <translation>Pre&amp;sencia</translation>
-    </message>
-    <message>
-        <source>Move Up</source>
-        <translation>Subir</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>Bajar</translation>
-    </message>
-    <message>
-        <source>Disable A&amp;ll…</source>
-        <translation>Desactivar &amp;todas…</translation>
-    </message>
-    <message>
-        <source>Enable Those &amp;Again</source>
-        <translation>Volver a acti&amp;var estas</translation>
-    </message>
-    <message>
-        <source>&amp;Own Order</source>
-        <translation>&amp;Orden propio</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>Des&amp;hacer</translation>
-    </message>
-    <message>
-        <source>Show &amp;Certificate…</source>
-        <translation>Mostrar el cert&amp;ificado…</translation>
-    </message>
-    <message>
-        <source>&amp;Test Log-In</source>
-        <translation>Pro&amp;bar el inicio de sesión</translation>
-    </message>
-    <message>
-        <source>L&amp;og</source>
-        <translation>Re&amp;gistro de eventos</translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>E&amp;xportar %n cuenta…</numerusform>
-            <numerusform>E&amp;xportar %n cuentas…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>E&amp;xport…</source>
-        <translation>E&amp;xportar…</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -626,6 +519,11 @@
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
         <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
         <translation>Se omitió la imagen de la cuenta «%1». %2</translation>
+    </message>
+    <message>
+        <source>Stored passwords of the account &quot;%1&quot; are not kept, because its settings in the file differ. They must be entered again.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Las contraseñas guardadas de la cuenta «%1» no se conservan, porque sus ajustes en el archivo son distintos. Hay que volver a introducirlas.</translation>
     </message>
 </context>
 <context>
@@ -1180,18 +1078,6 @@
     </message>
 </context>
 <context>
-    <name>KirvMovingCommands</name>
-    <message>
-        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
-        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
-        <translation>Se omiten contraseñas de la cuenta «%1»: el depósito de claves está bloqueado.</translation>
-    </message>
-    <message>
-        <source>A pass phrase is needed.</source>
-        <translation>Se necesita una frase de contraseña.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountsOptions</name>
     <message>
         <source>Print one line of JSON.</source>
@@ -1674,6 +1560,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
         <translation>No se abrió el enlace porque otra ventana espera una respuesta. Ciérrela y abra de nuevo el enlace.</translation>
     </message>
+    <message>
+        <source>The link was not opened because it is too long.</source>
+        <translation>El enlace no se abrió porque es demasiado largo.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1737,6 +1627,34 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
 &quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
         <translation>Cuentas de varios protocolos de mensajería instantánea en un solo lugar.
 «kirv accounts --help» explica cómo enumerar, activar, desactivar, exportar e importar cuentas sin ventanas.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvCommandFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>No se puede leer el archivo «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
+        <translation>El archivo «%1» es demasiado grande para ser un archivo de cuentas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
+        <translation>«%1» no es un archivo que se pueda sobrescribir.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
+        <translation>El archivo «%1» ya existe. Con --force se sobrescribe.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>No se puede escribir el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>No se puede escribir en la salida estándar.</translation>
     </message>
 </context>
 <context>
@@ -1948,13 +1866,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Choose the file to which the accounts are written.</source>
         <translation>Elegir el archivo en el que se escriben las cuentas.</translation>
-    </message>
-    <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>La frase de contraseña necesita al menos %n carácter.</numerusform>
-            <numerusform>La frase de contraseña necesita al menos %n caracteres.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The two pass phrases must be the same.</source>
@@ -2465,6 +2376,15 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <source>The following is not imported:</source>
         <translation>Lo siguiente no se importa:</translation>
     </message>
+    <message>
+        <source>Exists, will be replaced; its passwords must be entered again</source>
+        <translation>Existe aquí, se sustituye; hay que volver a introducir sus contraseñas</translation>
+    </message>
+    <message>
+        <source>Exists as %1, will be replaced; its passwords must be entered again</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe aquí como %1, se sustituye; hay que volver a introducir sus contraseñas</translation>
+    </message>
 </context>
 <context>
     <name>KirvInstanceCommands</name>
@@ -2622,10 +2542,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Puerto</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation>Normalmente 6697 con cifrado y 6667 sin él.</translation>
-    </message>
-    <message>
         <source>Encryption</source>
         <translation>Cifrado</translation>
     </message>
@@ -2736,6 +2652,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>&quot;%1&quot; is no address of a server.</source>
         <translation>«%1» no es una dirección de servidor.</translation>
+    </message>
+    <message>
+        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Normalmente 6697 con cifrado y 6667 sin él. Si el nombre de usuario lleva un puerto, como en ann@irc.example.org:6667, se usa ese.</translation>
     </message>
 </context>
 <context>
@@ -3057,31 +2977,15 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     </message>
 </context>
 <context>
-    <name>KirvCommandFile</name>
+    <name>KirvMovingCommands</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
-        <translation>No se puede leer el archivo «%1»: %2</translation>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Se omiten contraseñas de la cuenta «%1»: el depósito de claves está bloqueado.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
-        <translation>El archivo «%1» es demasiado grande para ser un archivo de cuentas.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
-        <translation>«%1» no es un archivo que se pueda sobrescribir.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
-        <translation>El archivo «%1» ya existe. Con --force se sobrescribe.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>No se puede escribir el archivo «%1».</translation>
-    </message>
-    <message>
-        <source>The standard output cannot be written.</source>
-        <translation>No se puede escribir en la salida estándar.</translation>
+        <source>A pass phrase is needed.</source>
+        <translation>Se necesita una frase de contraseña.</translation>
     </message>
 </context>
 <context>
@@ -3117,6 +3021,127 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>No se pudo transferir al servidor la propiedad de sus archivos.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Activar %n cuenta</numerusform>
+            <numerusform>&amp;Activar %n cuentas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Desactivar %n cuenta</numerusform>
+            <numerusform>&amp;Desactivar %n cuentas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>Eli&amp;minar %n cuenta…</numerusform>
+            <numerusform>Eli&amp;minar %n cuentas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>Eli&amp;minar…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Editar…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Cambiar de &amp;nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Desactivar</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Activar</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>Establecer como cuenta &amp;principal</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>&amp;Reconectar</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>Introducir la &amp;contraseña…</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>Pre&amp;sencia</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>Desactivar &amp;todas…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>Volver a acti&amp;var estas</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>&amp;Orden propio</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Des&amp;hacer</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>Mostrar el cert&amp;ificado…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Pro&amp;bar el inicio de sesión</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>Re&amp;gistro de eventos</translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>E&amp;xportar %n cuenta…</numerusform>
+            <numerusform>E&amp;xportar %n cuentas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>La frase de contraseña necesita al menos %n carácter.</numerusform>
+            <numerusform>La frase de contraseña necesita al menos %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase is too long.</source>
+        <translation>La frase de contraseña es demasiado larga.</translation>
     </message>
 </context>
 <context>
@@ -4225,6 +4250,14 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <source>The password is not in the keyring any more.</source>
         <translation>La contraseña ya no está en el depósito de claves.</translation>
     </message>
+    <message>
+        <source>Or edit the account and enter its passwords again.</source>
+        <translation>O edite la cuenta y vuelva a introducir sus contraseñas.</translation>
+    </message>
+    <message>
+        <source>Or edit the account and enter it again.</source>
+        <translation>O edite la cuenta y vuelva a introducirla.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -4251,10 +4284,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>&amp;Remember the password</source>
         <translation>&amp;Recordar contraseña</translation>
-    </message>
-    <message>
-        <source>Stores the password in your profile.</source>
-        <translation>Guarda la contraseña en su perfil.</translation>
     </message>
     <message>
         <source>Message</source>

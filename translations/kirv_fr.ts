@@ -327,113 +327,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Activer %n compte</numerusform>
-            <numerusform>&amp;Activer %n comptes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Désactiver %n compte</numerusform>
-            <numerusform>&amp;Désactiver %n comptes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>&amp;Supprimer %n compte…</numerusform>
-            <numerusform>&amp;Supprimer %n comptes…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Re&amp;move…</source>
-        <translation>&amp;Supprimer…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit…</source>
-        <translation>&amp;Modifier…</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>&amp;Renommer</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;Désactiver</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Activer</translation>
-    </message>
-    <message>
-        <source>Make Main &amp;Account</source>
-        <translation>Définir comme compte &amp;principal</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>Re&amp;connecter</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>Saisir le m&amp;ot de passe…</translation>
-    </message>
-    <message>
-        <source>Pre&amp;sence</source>
-        <translation>S&amp;tatut</translation>
-    </message>
-    <message>
-        <source>Move Up</source>
-        <translation>Monter</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>Descendre</translation>
-    </message>
-    <message>
-        <source>Disable A&amp;ll…</source>
-        <translation>To&amp;ut désactiver…</translation>
-    </message>
-    <message>
-        <source>Enable Those &amp;Again</source>
-        <translation>Réacti&amp;ver ces comptes</translation>
-    </message>
-    <message>
-        <source>&amp;Own Order</source>
-        <translation>Ordre p&amp;ersonnalisé</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>A&amp;nnuler</translation>
-    </message>
-    <message>
-        <source>Show &amp;Certificate…</source>
-        <translation>A&amp;fficher le certificat…</translation>
-    </message>
-    <message>
-        <source>&amp;Test Log-In</source>
-        <translation>Tester la conne&amp;xion</translation>
-    </message>
-    <message>
-        <source>L&amp;og</source>
-        <translation>&amp;Journal</translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>Exporter %n compte dans un f&amp;ichier…</numerusform>
-            <numerusform>Exporter %n comptes dans un f&amp;ichier…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>E&amp;xport…</source>
-        <translation>Exporter dans un f&amp;ichier…</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -626,6 +519,11 @@
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
         <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
         <translation>L’image du compte «&#xa0;%1&#xa0;» a été omise. %2</translation>
+    </message>
+    <message>
+        <source>Stored passwords of the account &quot;%1&quot; are not kept, because its settings in the file differ. They must be entered again.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Les mots de passe enregistrés du compte «&#xa0;%1&#xa0;» ne sont pas conservés, car ses réglages dans le fichier sont différents. Ils doivent être saisis à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -1180,18 +1078,6 @@
     </message>
 </context>
 <context>
-    <name>KirvMovingCommands</name>
-    <message>
-        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
-        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
-        <translation>Des mots de passe du compte «&#xa0;%1&#xa0;» sont omis&#xa0;: le trousseau de clés est verrouillé.</translation>
-    </message>
-    <message>
-        <source>A pass phrase is needed.</source>
-        <translation>Une phrase secrète est nécessaire.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountsOptions</name>
     <message>
         <source>Print one line of JSON.</source>
@@ -1674,6 +1560,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
         <translation>Le lien n’a pas été ouvert, car une autre fenêtre attend une réponse. Fermez-la et ouvrez à nouveau le lien.</translation>
     </message>
+    <message>
+        <source>The link was not opened because it is too long.</source>
+        <translation>Le lien n’a pas été ouvert, car il est trop long.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1737,6 +1627,34 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
 &quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
         <translation>Des comptes de plusieurs protocoles de messagerie instantanée en un seul endroit.
 «&#xa0;kirv accounts --help&#xa0;» indique comment lister, activer, désactiver, exporter et importer des comptes sans fenêtres.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvCommandFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est trop volumineux pour être un fichier de comptes.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier qui peut être écrasé.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» existe déjà. Avec --force, il est écrasé.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
     </message>
 </context>
 <context>
@@ -1948,13 +1866,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Choose the file to which the accounts are written.</source>
         <translation>Choisir le fichier dans lequel les comptes seront écrits.</translation>
-    </message>
-    <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>La phrase secrète doit comporter au moins %n caractère.</numerusform>
-            <numerusform>La phrase secrète doit comporter au moins %n caractères.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The two pass phrases must be the same.</source>
@@ -2465,6 +2376,15 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <source>The following is not imported:</source>
         <translation>Ne sont pas importés&#xa0;:</translation>
     </message>
+    <message>
+        <source>Exists, will be replaced; its passwords must be entered again</source>
+        <translation>Existe ici, est remplacé&#xa0;; ses mots de passe doivent être saisis à nouveau</translation>
+    </message>
+    <message>
+        <source>Exists as %1, will be replaced; its passwords must be entered again</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe ici sous le nom %1, est remplacé&#xa0;; ses mots de passe doivent être saisis à nouveau</translation>
+    </message>
 </context>
 <context>
     <name>KirvInstanceCommands</name>
@@ -2622,10 +2542,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Port</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation>Généralement 6697 avec chiffrement et 6667 sans.</translation>
-    </message>
-    <message>
         <source>Encryption</source>
         <translation>Chiffrement</translation>
     </message>
@@ -2736,6 +2652,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>&quot;%1&quot; is no address of a server.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de serveur.</translation>
+    </message>
+    <message>
+        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Généralement 6697 avec chiffrement et 6667 sans. Un port dans l’identifiant, comme dans ann@irc.example.org:6667, est utilisé à la place.</translation>
     </message>
 </context>
 <context>
@@ -3057,31 +2977,15 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     </message>
 </context>
 <context>
-    <name>KirvCommandFile</name>
+    <name>KirvMovingCommands</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
-        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: %2</translation>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Des mots de passe du compte «&#xa0;%1&#xa0;» sont omis&#xa0;: le trousseau de clés est verrouillé.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
-        <translation>Le fichier «&#xa0;%1&#xa0;» est trop volumineux pour être un fichier de comptes.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier qui peut être écrasé.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
-        <translation>Le fichier «&#xa0;%1&#xa0;» existe déjà. Avec --force, il est écrasé.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être écrit.</translation>
-    </message>
-    <message>
-        <source>The standard output cannot be written.</source>
-        <translation>Impossible d’écrire sur la sortie standard.</translation>
+        <source>A pass phrase is needed.</source>
+        <translation>Une phrase secrète est nécessaire.</translation>
     </message>
 </context>
 <context>
@@ -3117,6 +3021,127 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>La propriété des fichiers du serveur n’a pas pu lui être transférée.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Activer %n compte</numerusform>
+            <numerusform>&amp;Activer %n comptes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Désactiver %n compte</numerusform>
+            <numerusform>&amp;Désactiver %n comptes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>&amp;Supprimer %n compte…</numerusform>
+            <numerusform>&amp;Supprimer %n comptes…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>&amp;Supprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Modifier…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Désactiver</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Activer</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>Définir comme compte &amp;principal</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>Re&amp;connecter</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>Saisir le m&amp;ot de passe…</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>S&amp;tatut</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>To&amp;ut désactiver…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>Réacti&amp;ver ces comptes</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Ordre p&amp;ersonnalisé</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>A&amp;fficher le certificat…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Tester la conne&amp;xion</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>&amp;Journal</translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>Exporter %n compte dans un f&amp;ichier…</numerusform>
+            <numerusform>Exporter %n comptes dans un f&amp;ichier…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>Exporter dans un f&amp;ichier…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>La phrase secrète doit comporter au moins %n caractère.</numerusform>
+            <numerusform>La phrase secrète doit comporter au moins %n caractères.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase is too long.</source>
+        <translation>La phrase secrète est trop longue.</translation>
     </message>
 </context>
 <context>
@@ -4225,6 +4250,14 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <source>The password is not in the keyring any more.</source>
         <translation>Le mot de passe n’est plus dans le trousseau de clés.</translation>
     </message>
+    <message>
+        <source>Or edit the account and enter its passwords again.</source>
+        <translation>Ou modifiez le compte et saisissez à nouveau ses mots de passe.</translation>
+    </message>
+    <message>
+        <source>Or edit the account and enter it again.</source>
+        <translation>Ou modifiez le compte et saisissez-le à nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -4251,10 +4284,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>&amp;Remember the password</source>
         <translation>&amp;Retenir le mot de passe</translation>
-    </message>
-    <message>
-        <source>Stores the password in your profile.</source>
-        <translation>Enregistre le mot de passe dans votre profil.</translation>
     </message>
     <message>
         <source>Message</source>

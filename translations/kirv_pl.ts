@@ -328,117 +328,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>Włąc&amp;z %n konto</numerusform>
-            <numerusform>Włąc&amp;z %n konta</numerusform>
-            <numerusform>Włąc&amp;z %n kont</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Wyłącz %n konto</numerusform>
-            <numerusform>&amp;Wyłącz %n konta</numerusform>
-            <numerusform>&amp;Wyłącz %n kont</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>&amp;Usuń %n konto…</numerusform>
-            <numerusform>&amp;Usuń %n konta…</numerusform>
-            <numerusform>&amp;Usuń %n kont…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Re&amp;move…</source>
-        <translation>&amp;Usuń…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit…</source>
-        <translation>&amp;Edytuj…</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>Zmień &amp;nazwę</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;Wyłącz</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>Włąc&amp;z</translation>
-    </message>
-    <message>
-        <source>Make Main &amp;Account</source>
-        <translation>Ustaw jako konto &amp;główne</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>&amp;Połącz ponownie</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>Wprowadź &amp;hasło…</translation>
-    </message>
-    <message>
-        <source>Pre&amp;sence</source>
-        <translation>&amp;Status</translation>
-    </message>
-    <message>
-        <source>Move Up</source>
-        <translation>Przesuń w górę</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>Przesuń w dół</translation>
-    </message>
-    <message>
-        <source>Disable A&amp;ll…</source>
-        <translation>Wyłącz wszys&amp;tkie…</translation>
-    </message>
-    <message>
-        <source>Enable Those &amp;Again</source>
-        <translation>Włącz je p&amp;onownie</translation>
-    </message>
-    <message>
-        <source>&amp;Own Order</source>
-        <translation>Własna &amp;kolejność</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Cofnij</translation>
-    </message>
-    <message>
-        <source>Show &amp;Certificate…</source>
-        <translation>Pokaż certy&amp;fikat…</translation>
-    </message>
-    <message>
-        <source>&amp;Test Log-In</source>
-        <translation>Testuj &amp;logowanie</translation>
-    </message>
-    <message>
-        <source>L&amp;og</source>
-        <translation>&amp;Dziennik</translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>Eksportu&amp;j %n konto…</numerusform>
-            <numerusform>Eksportu&amp;j %n konta…</numerusform>
-            <numerusform>Eksportu&amp;j %n kont…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>E&amp;xport…</source>
-        <translation>Eksportu&amp;j…</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -634,6 +523,11 @@
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
         <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
         <translation>Pominięto obraz konta „%1”. %2</translation>
+    </message>
+    <message>
+        <source>Stored passwords of the account &quot;%1&quot; are not kept, because its settings in the file differ. They must be entered again.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Zapisane hasła konta „%1” nie zostaną zachowane, ponieważ jego ustawienia w pliku są inne. Trzeba je wpisać ponownie.</translation>
     </message>
 </context>
 <context>
@@ -1195,18 +1089,6 @@
     </message>
 </context>
 <context>
-    <name>KirvMovingCommands</name>
-    <message>
-        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
-        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
-        <translation>Pominięto hasła konta „%1”: baza kluczy jest zablokowana.</translation>
-    </message>
-    <message>
-        <source>A pass phrase is needed.</source>
-        <translation>Potrzebna jest fraza szyfrująca.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountsOptions</name>
     <message>
         <source>Print one line of JSON.</source>
@@ -1691,6 +1573,10 @@ Znak - zamiast nazwy pliku oznacza standardowe wyjście lub wejście.</translati
         <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
         <translation>Odnośnik nie został otwarty, ponieważ inne okno czeka na odpowiedź. Zamknij to okno i otwórz odnośnik ponownie.</translation>
     </message>
+    <message>
+        <source>The link was not opened because it is too long.</source>
+        <translation>Odnośnik nie został otwarty, ponieważ jest za długi.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1754,6 +1640,34 @@ Znak - zamiast nazwy pliku oznacza standardowe wyjście lub wejście.</translati
 &quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
         <translation>Konta kilku protokołów komunikatorów internetowych w jednym miejscu.
 Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wyłączać, eksportować i importować konta bez otwierania okien.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvCommandFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>Nie można odczytać pliku „%1”: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
+        <translation>Plik „%1” jest za duży jak na plik z kontami.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
+        <translation>„%1” nie jest plikiem, który można zastąpić.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
+        <translation>Plik „%1” już istnieje. Aby go zastąpić, użyj opcji --force.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Nie można zapisać pliku „%1”.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Nie można zapisać na standardowym wyjściu.</translation>
     </message>
 </context>
 <context>
@@ -1965,14 +1879,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Choose the file to which the accounts are written.</source>
         <translation>Wybierz plik, w którym zostaną zapisane konta.</translation>
-    </message>
-    <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znak.</numerusform>
-            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znaki.</numerusform>
-            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znaków.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The two pass phrases must be the same.</source>
@@ -2485,6 +2391,15 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <source>The following is not imported:</source>
         <translation>Nie zostaną zaimportowane:</translation>
     </message>
+    <message>
+        <source>Exists, will be replaced; its passwords must be entered again</source>
+        <translation>Już istnieje, zostanie zastąpione; jego hasła trzeba będzie wpisać ponownie</translation>
+    </message>
+    <message>
+        <source>Exists as %1, will be replaced; its passwords must be entered again</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Już istnieje jako %1, zostanie zastąpione; jego hasła trzeba będzie wpisać ponownie</translation>
+    </message>
 </context>
 <context>
     <name>KirvInstanceCommands</name>
@@ -2642,10 +2557,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Port</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation>Zwykle 6697 z szyfrowaniem i 6667 bez niego.</translation>
-    </message>
-    <message>
         <source>Encryption</source>
         <translation>Szyfrowanie</translation>
     </message>
@@ -2756,6 +2667,10 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>&quot;%1&quot; is no address of a server.</source>
         <translation>„%1” nie jest adresem serwera.</translation>
+    </message>
+    <message>
+        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Zwykle 6697 z szyfrowaniem i 6667 bez niego. Port podany w loginie, jak w ann@irc.example.org:6667, ma pierwszeństwo.</translation>
     </message>
 </context>
 <context>
@@ -3078,31 +2993,15 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     </message>
 </context>
 <context>
-    <name>KirvCommandFile</name>
+    <name>KirvMovingCommands</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
-        <translation>Nie można odczytać pliku „%1”: %2</translation>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Pominięto hasła konta „%1”: baza kluczy jest zablokowana.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
-        <translation>Plik „%1” jest za duży jak na plik z kontami.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
-        <translation>„%1” nie jest plikiem, który można zastąpić.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
-        <translation>Plik „%1” już istnieje. Aby go zastąpić, użyj opcji --force.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>Nie można zapisać pliku „%1”.</translation>
-    </message>
-    <message>
-        <source>The standard output cannot be written.</source>
-        <translation>Nie można zapisać na standardowym wyjściu.</translation>
+        <source>A pass phrase is needed.</source>
+        <translation>Potrzebna jest fraza szyfrująca.</translation>
     </message>
 </context>
 <context>
@@ -3138,6 +3037,132 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>Nie udało się przekazać serwerowi jego plików.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>Włąc&amp;z %n konto</numerusform>
+            <numerusform>Włąc&amp;z %n konta</numerusform>
+            <numerusform>Włąc&amp;z %n kont</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Wyłącz %n konto</numerusform>
+            <numerusform>&amp;Wyłącz %n konta</numerusform>
+            <numerusform>&amp;Wyłącz %n kont</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>&amp;Usuń %n konto…</numerusform>
+            <numerusform>&amp;Usuń %n konta…</numerusform>
+            <numerusform>&amp;Usuń %n kont…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>&amp;Usuń…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Edytuj…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Zmień &amp;nazwę</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Wyłącz</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>Włąc&amp;z</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>Ustaw jako konto &amp;główne</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>&amp;Połącz ponownie</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>Wprowadź &amp;hasło…</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>&amp;Status</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Przesuń w górę</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Przesuń w dół</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>Wyłącz wszys&amp;tkie…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>Włącz je p&amp;onownie</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Własna &amp;kolejność</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>Pokaż certy&amp;fikat…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>Testuj &amp;logowanie</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>&amp;Dziennik</translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>Eksportu&amp;j %n konto…</numerusform>
+            <numerusform>Eksportu&amp;j %n konta…</numerusform>
+            <numerusform>Eksportu&amp;j %n kont…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>Eksportu&amp;j…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znak.</numerusform>
+            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znaki.</numerusform>
+            <numerusform>Fraza szyfrująca musi mieć co najmniej %n znaków.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase is too long.</source>
+        <translation>Fraza szyfrująca jest za długa.</translation>
     </message>
 </context>
 <context>
@@ -4250,6 +4275,14 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <source>The password is not in the keyring any more.</source>
         <translation>Hasła nie ma już w bazie kluczy.</translation>
     </message>
+    <message>
+        <source>Or edit the account and enter its passwords again.</source>
+        <translation>Albo edytuj konto i wpisz ponownie jego hasła.</translation>
+    </message>
+    <message>
+        <source>Or edit the account and enter it again.</source>
+        <translation>Albo edytuj konto i wpisz je ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -4276,10 +4309,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>&amp;Remember the password</source>
         <translation>Za&amp;pamiętaj hasło</translation>
-    </message>
-    <message>
-        <source>Stores the password in your profile.</source>
-        <translation>Zapisuje hasło w profilu.</translation>
     </message>
     <message>
         <source>Message</source>

@@ -327,113 +327,6 @@
     </message>
 </context>
 <context>
-    <name>KirvPageCommands</name>
-    <message numerus="yes">
-        <source>&amp;Enable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Ativar %n conta</numerusform>
-            <numerusform>&amp;Ativar %n contas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>&amp;Disable %n Accounts</source>
-        <translation>
-            <numerusform>&amp;Desativar %n conta</numerusform>
-            <numerusform>&amp;Desativar %n contas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Re&amp;move %n Accounts…</source>
-        <translation>
-            <numerusform>&amp;Remover %n conta…</numerusform>
-            <numerusform>&amp;Remover %n contas…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Re&amp;move…</source>
-        <translation>&amp;Remover…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit…</source>
-        <translation>&amp;Editar…</translation>
-    </message>
-    <message>
-        <source>Re&amp;name</source>
-        <translation>Re&amp;nomear</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;Desativar</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Ativar</translation>
-    </message>
-    <message>
-        <source>Make Main &amp;Account</source>
-        <translation>Definir como conta &amp;principal</translation>
-    </message>
-    <message>
-        <source>&amp;Reconnect</source>
-        <translation>Re&amp;conectar</translation>
-    </message>
-    <message>
-        <source>Enter &amp;Password…</source>
-        <translation>Digitar a &amp;senha…</translation>
-    </message>
-    <message>
-        <source>Pre&amp;sence</source>
-        <translation>Stat&amp;us</translation>
-    </message>
-    <message>
-        <source>Move Up</source>
-        <translation>Mover para cima</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>Mover para baixo</translation>
-    </message>
-    <message>
-        <source>Disable A&amp;ll…</source>
-        <translation>Desativar t&amp;odas…</translation>
-    </message>
-    <message>
-        <source>Enable Those &amp;Again</source>
-        <translation>Reati&amp;var estas</translation>
-    </message>
-    <message>
-        <source>&amp;Own Order</source>
-        <translation>Orde&amp;m própria</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>Des&amp;fazer</translation>
-    </message>
-    <message>
-        <source>Show &amp;Certificate…</source>
-        <translation>Exi&amp;bir certificado…</translation>
-    </message>
-    <message>
-        <source>&amp;Test Log-In</source>
-        <translation>&amp;Testar o início de sessão</translation>
-    </message>
-    <message>
-        <source>L&amp;og</source>
-        <translation>&amp;Log</translation>
-    </message>
-    <message numerus="yes">
-        <source>E&amp;xport %n Accounts…</source>
-        <translation>
-            <numerusform>E&amp;xportar %n conta…</numerusform>
-            <numerusform>E&amp;xportar %n contas…</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>E&amp;xport…</source>
-        <translation>E&amp;xportar…</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountDirectory</name>
     <message>
         <source>The connection ended before the server answered.</source>
@@ -626,6 +519,11 @@
         <source>The picture of the account &quot;%1&quot; was left out. %2</source>
         <extracomment>%1 = name of an account, %2 = a sentence</extracomment>
         <translation>A imagem da conta “%1” foi omitida. %2</translation>
+    </message>
+    <message>
+        <source>Stored passwords of the account &quot;%1&quot; are not kept, because its settings in the file differ. They must be entered again.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>As senhas armazenadas da conta &quot;%1&quot; não são mantidas, porque as configurações dela no arquivo são outras. Elas precisam ser digitadas de novo.</translation>
     </message>
 </context>
 <context>
@@ -1180,18 +1078,6 @@
     </message>
 </context>
 <context>
-    <name>KirvMovingCommands</name>
-    <message>
-        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
-        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
-        <translation>Senhas da conta “%1” foram omitidas: o chaveiro está bloqueado.</translation>
-    </message>
-    <message>
-        <source>A pass phrase is needed.</source>
-        <translation>É necessária uma frase secreta.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountsOptions</name>
     <message>
         <source>Print one line of JSON.</source>
@@ -1674,6 +1560,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <source>The link was not opened because another window waits for an answer. Close that, and open the link again.</source>
         <translation>O link não foi aberto porque outra janela aguarda uma resposta. Feche-a e abra o link novamente.</translation>
     </message>
+    <message>
+        <source>The link was not opened because it is too long.</source>
+        <translation>O link não foi aberto porque é longo demais.</translation>
+    </message>
 </context>
 <context>
     <name>KirvClientOptions</name>
@@ -1737,6 +1627,34 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
 &quot;kirv accounts --help&quot; says how accounts are listed, enabled, disabled, exported and imported without windows.</source>
         <translation>Contas de vários protocolos de mensagens instantâneas em um só lugar.
 “kirv accounts --help” explica como listar, ativar, desativar, exportar e importar contas sem janelas.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvCommandFile</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
+        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
+        <translation>O arquivo “%1” não pode ser lido: %2</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
+        <translation>O arquivo “%1” é grande demais para ser um arquivo de contas.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
+        <translation>“%1” não é um arquivo que possa ser sobrescrito.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
+        <translation>O arquivo “%1” já existe. Com --force, ele é sobrescrito.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written.</source>
+        <translation>Não é possível gravar o arquivo “%1”.</translation>
+    </message>
+    <message>
+        <source>The standard output cannot be written.</source>
+        <translation>Não é possível gravar na saída padrão.</translation>
     </message>
 </context>
 <context>
@@ -1948,13 +1866,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Choose the file to which the accounts are written.</source>
         <translation>Escolher o arquivo em que as contas são gravadas.</translation>
-    </message>
-    <message numerus="yes">
-        <source>The pass phrase needs at least %n characters.</source>
-        <translation>
-            <numerusform>A frase secreta precisa de pelo menos %n caractere.</numerusform>
-            <numerusform>A frase secreta precisa de pelo menos %n caracteres.</numerusform>
-        </translation>
     </message>
     <message>
         <source>The two pass phrases must be the same.</source>
@@ -2465,6 +2376,15 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <source>The following is not imported:</source>
         <translation>O seguinte não é importado:</translation>
     </message>
+    <message>
+        <source>Exists, will be replaced; its passwords must be entered again</source>
+        <translation>Existe aqui, será substituída; as senhas dela precisam ser digitadas de novo</translation>
+    </message>
+    <message>
+        <source>Exists as %1, will be replaced; its passwords must be entered again</source>
+        <extracomment>%1 = the login of an account, which is written otherwise in the file</extracomment>
+        <translation>Existe aqui como %1, será substituída; as senhas dela precisam ser digitadas de novo</translation>
+    </message>
 </context>
 <context>
     <name>KirvInstanceCommands</name>
@@ -2622,10 +2542,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without.</source>
-        <translation>Normalmente 6697 com criptografia e 6667 sem.</translation>
-    </message>
-    <message>
         <source>Encryption</source>
         <translation>Criptografia</translation>
     </message>
@@ -2736,6 +2652,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>&quot;%1&quot; is no address of a server.</source>
         <translation>“%1” não é um endereço de servidor.</translation>
+    </message>
+    <message>
+        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Normalmente 6697 com criptografia e 6667 sem. Uma porta no nome de usuário, como em ann@irc.example.org:6667, é usada no lugar.</translation>
     </message>
 </context>
 <context>
@@ -3057,31 +2977,15 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     </message>
 </context>
 <context>
-    <name>KirvCommandFile</name>
+    <name>KirvMovingCommands</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be read: %2</source>
-        <extracomment>%1 = path of a file, %2 = what the system says</extracomment>
-        <translation>O arquivo “%1” não pode ser lido: %2</translation>
+        <source>Passwords of the account &quot;%1&quot; are left out: the keyring is locked.</source>
+        <extracomment>%1 = name of an account, as XMPP:anna@example.org</extracomment>
+        <translation>Senhas da conta “%1” foram omitidas: o chaveiro está bloqueado.</translation>
     </message>
     <message>
-        <source>The file &quot;%1&quot; is too large to be a file of exported accounts.</source>
-        <translation>O arquivo “%1” é grande demais para ser um arquivo de contas.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a file that can be overwritten.</source>
-        <translation>“%1” não é um arquivo que possa ser sobrescrito.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; exists already. Use --force to overwrite it.</source>
-        <translation>O arquivo “%1” já existe. Com --force, ele é sobrescrito.</translation>
-    </message>
-    <message>
-        <source>The file &quot;%1&quot; cannot be written.</source>
-        <translation>Não é possível gravar o arquivo “%1”.</translation>
-    </message>
-    <message>
-        <source>The standard output cannot be written.</source>
-        <translation>Não é possível gravar na saída padrão.</translation>
+        <source>A pass phrase is needed.</source>
+        <translation>É necessária uma frase secreta.</translation>
     </message>
 </context>
 <context>
@@ -3117,6 +3021,127 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>The files of the server could not be given to it.</source>
         <translation>Não foi possível transferir ao servidor a propriedade dos arquivos dele.</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPageCommands</name>
+    <message numerus="yes">
+        <source>&amp;Enable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Ativar %n conta</numerusform>
+            <numerusform>&amp;Ativar %n contas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Disable %n Accounts</source>
+        <translation>
+            <numerusform>&amp;Desativar %n conta</numerusform>
+            <numerusform>&amp;Desativar %n contas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Re&amp;move %n Accounts…</source>
+        <translation>
+            <numerusform>&amp;Remover %n conta…</numerusform>
+            <numerusform>&amp;Remover %n contas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Re&amp;move…</source>
+        <translation>&amp;Remover…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation>&amp;Editar…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nomear</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Desativar</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Ativar</translation>
+    </message>
+    <message>
+        <source>Make Main &amp;Account</source>
+        <translation>Definir como conta &amp;principal</translation>
+    </message>
+    <message>
+        <source>&amp;Reconnect</source>
+        <translation>Re&amp;conectar</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation>Digitar a &amp;senha…</translation>
+    </message>
+    <message>
+        <source>Pre&amp;sence</source>
+        <translation>Sta&amp;tus</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>Disable A&amp;ll…</source>
+        <translation>Desativar t&amp;odas…</translation>
+    </message>
+    <message>
+        <source>Enable Those &amp;Again</source>
+        <translation>Reati&amp;var estas</translation>
+    </message>
+    <message>
+        <source>&amp;Own Order</source>
+        <translation>Orde&amp;m própria</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Des&amp;fazer</translation>
+    </message>
+    <message>
+        <source>Show &amp;Certificate…</source>
+        <translation>Exi&amp;bir certificado…</translation>
+    </message>
+    <message>
+        <source>&amp;Test Log-In</source>
+        <translation>&amp;Testar o início de sessão</translation>
+    </message>
+    <message>
+        <source>L&amp;og</source>
+        <translation>&amp;Log</translation>
+    </message>
+    <message numerus="yes">
+        <source>E&amp;xport %n Accounts…</source>
+        <translation>
+            <numerusform>E&amp;xportar %n conta…</numerusform>
+            <numerusform>E&amp;xportar %n contas…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+</context>
+<context>
+    <name>KirvPassPhrase</name>
+    <message numerus="yes">
+        <source>The pass phrase needs at least %n characters.</source>
+        <translation>
+            <numerusform>A frase secreta precisa de pelo menos %n caractere.</numerusform>
+            <numerusform>A frase secreta precisa de pelo menos %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pass phrase is too long.</source>
+        <translation>A frase secreta é longa demais.</translation>
     </message>
 </context>
 <context>
@@ -4225,6 +4250,14 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <source>The password is not in the keyring any more.</source>
         <translation>A senha não está mais no chaveiro.</translation>
     </message>
+    <message>
+        <source>Or edit the account and enter its passwords again.</source>
+        <translation>Ou edite a conta e digite de novo as senhas dela.</translation>
+    </message>
+    <message>
+        <source>Or edit the account and enter it again.</source>
+        <translation>Ou edite a conta e digite-a de novo.</translation>
+    </message>
 </context>
 <context>
     <name>KirvServerAssistant</name>
@@ -4251,10 +4284,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>&amp;Remember the password</source>
         <translation>&amp;Lembrar a senha</translation>
-    </message>
-    <message>
-        <source>Stores the password in your profile.</source>
-        <translation>Armazena a senha no seu perfil.</translation>
     </message>
     <message>
         <source>Message</source>
