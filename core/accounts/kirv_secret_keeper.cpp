@@ -135,11 +135,15 @@ void KirvSecretKeeper::read(KirvAccount *account)
 
 void KirvSecretKeeper::readAwaited()
 {
-    isUnlocking = true;
-    for (KirvAccount *account : qAsConst(accounts)) {
-        if (account->awaitsSecrets())
-            read(account);
+    for (const KirvAccount *account : qAsConst(accounts)) {
+        if (!account->awaitsSecrets())
+            continue;
+        for (const QString &field : account->record().unreadSecrets)
+            reads.prepend({ account->key(), field });
     }
+    isUnlocking = true;
+    isPaused = false;
+    next();
 }
 
 /// What is to be done is read from the event loop, once for all that has changed until then.

@@ -210,7 +210,7 @@ void tst_IrcSocket::breakingOffIsSilent()
 
 void tst_IrcSocket::droppedLinesAreHeard()
 {
-    QSignalSpy heard(socket.get(), &KirvIrcSocket::heard);
+    QSignalSpy heard(socket.get(), &KirvIrcSocket::received);
     transport->receive(":bob!b@host PRIVMSG alice :Hello");
     QVERIFY(turn().isEmpty());
     KIRV_TRY_COMPARE(heard.size(), 1);
