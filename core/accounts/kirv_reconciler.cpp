@@ -55,9 +55,9 @@ void KirvReconciler::schedule()
     turns.append(this);
 }
 
-void KirvReconciler::requestStep(RequestedStep newUrge)
+void KirvReconciler::requestStep(RequestedStep step)
 {
-    requestedStep = qMax(requestedStep, newUrge);
+    requestedStep = qMax(requestedStep, step);
     schedule();
 }
 

@@ -51,7 +51,7 @@ public:
 
     /// Something that is wanted may have changed.
     void schedule();
-    void requestStep(RequestedStep requestedStep);
+    void requestStep(RequestedStep step);
     /// Nothing is done between hold() and the release() that belongs to it. What requestStep() requested meanwhile
     /// counts only when it is \a kept.
     void hold();

@@ -44,12 +44,12 @@ private Q_SLOTS:
     void aRemovedAccountDoesNotComeBack();
     void itsConnectionOutlivesARemovedAccount();
 
-    // Urges.
+    // Steps that are requested.
     void tryingAgainEndsAWait();
     void tryingAgainKeepsASession();
     void reconnectingLogsOutAndInOnce();
-    void anUrgeIsForgottenOnceItWasFollowed();
-    void anUrgeDuringASaveWaitsForItsEnd();
+    void aRequestedStepIsForgottenOnceItWasTaken();
+    void aRequestedStepDuringASaveWaitsForItsEnd();
     void accountPresenceChangedOnlyMarks();
 
     // Avatars.
@@ -366,7 +366,7 @@ void tst_Reconciler::reconnectingLogsOutAndInOnce()
     QCOMPARE(core->takeCalls(), QStringList { "id log in available word of id" });
 }
 
-void tst_Reconciler::anUrgeIsForgottenOnceItWasFollowed()
+void tst_Reconciler::aRequestedStepIsForgottenOnceItWasTaken()
 {
     core->server().logIn = KirvFakeServer::Refuses;
     QVERIFY(core->create());
@@ -378,7 +378,7 @@ void tst_Reconciler::anUrgeIsForgottenOnceItWasFollowed()
     QCOMPARE(core->connection()->state(), State::Offline);
 }
 
-void tst_Reconciler::anUrgeDuringASaveWaitsForItsEnd()
+void tst_Reconciler::aRequestedStepDuringASaveWaitsForItsEnd()
 {
     core->bring("id", State::Waiting);
     core->account()->beginSave();
