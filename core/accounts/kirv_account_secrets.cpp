@@ -34,7 +34,7 @@ void KirvAccount::readSecretsAgain()
 {
     const QList<QString> fields = current.secretItems.keys();
     awaited = QSet<QString>(fields.begin(), fields.end());
-    if (usesPasswordForNow() && keeper.obstacle() != KirvSecretKeeper::None)
+    if (unstoredPassword || (usesPasswordForNow() && keeper.obstacle() != KirvSecretKeeper::None))
         awaited.remove(QString());
     if (awaited.isEmpty())
         return;
@@ -69,10 +69,12 @@ void KirvAccount::noLongerAwait(const QString &field)
         Q_EMIT changed();
 }
 
+/// A password that the profile did not take is newer than the one in the keyring.
 void KirvAccount::secretRead(const QString &field, const QString &value)
 {
     const bool isForNow = field.isEmpty() && usesPasswordForNow() && !awaited.contains(field);
-    if (!isForNow) {
+    const bool isNewer = field.isEmpty() && unstoredPassword;
+    if (!isForNow && !isNewer) {
         setValue(current, field, value);
         if (isSaving())
             setValue(recordBefore, field, value);
@@ -82,7 +84,7 @@ void KirvAccount::secretRead(const QString &field, const QString &value)
 
 void KirvAccount::secretMissing(const QString &field)
 {
-    if (!(field.isEmpty() && usesPasswordForNow())) {
+    if (!(field.isEmpty() && (usesPasswordForNow() || unstoredPassword))) {
         forgetValue(current, field);
         if (isSaving())
             forgetValue(recordBefore, field);

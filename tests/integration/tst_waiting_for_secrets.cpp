@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "tests/integration/kirv_accounts_fixture.h"
+#include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/store_refusal.h"
+
+#include <QtTest>
+#include <memory>
+
+namespace {
+
+const QString password = QStringLiteral("word of id");
+const QString newer = QStringLiteral("newer");
+
+QString logIn(const QString &with)
+{
+    return QStringLiteral("id log in available ") + with;
+}
+
+} // namespace
+
+/// When accounts wait for secrets that are in the keyring, and what they use when they do not.
+class tst_WaitingForSecrets : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore_data();
+    void aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore();
+
+private:
+    void settle();
+    void restart(KirvSecretStore::State state);
+    KirvAccount *account() const { return core->account(); }
+
+    std::unique_ptr<KirvFakeSecretStore> keyring;
+    std::unique_ptr<KirvAccountsFixture> core;
+};
+
+void tst_WaitingForSecrets::init()
+{
+    keyring = std::make_unique<KirvFakeSecretStore>();
+    core = std::make_unique<KirvAccountsFixture>();
+    QVERIFY(core->isReady());
+    core->accounts->secrets().setKeyring(keyring.get());
+    QVERIFY(core->create());
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(password));
+    core->takeCalls();
+}
+
+void tst_WaitingForSecrets::cleanup()
+{
+    core.reset();
+    keyring.reset();
+}
+
+/// Each operation of the keyring follows from the event loop from the one before.
+void tst_WaitingForSecrets::settle()
+{
+    for (int round = 0; round < 100; ++round)
+        core->settle();
+}
+
+void tst_WaitingForSecrets::restart(KirvSecretStore::State state)
+{
+    keyring->setState(state);
+    core->restart(true, [this] { core->accounts->secrets().setKeyring(keyring.get()); });
+    settle();
+}
+
+void tst_WaitingForSecrets::aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore_data()
+{
+    QTest::addColumn<bool>("isTyped");
+    QTest::addColumn<QString>("event");
+    for (const bool isTyped : { false, true }) {
+        for (const char *event : { "reconnect", "wrong password", "wrong password without it" })
+            QTest::addRow("%s, %s", isTyped ? "typed" : "changed on the server", event) << isTyped << event;
+    }
+}
+
+/// The profile still names the item of the one before.
+void tst_WaitingForSecrets::aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore()
+{
+    QFETCH(bool, isTyped);
+    QFETCH(QString, event);
+    const bool isReconnection = event == QLatin1String("reconnect");
+    {
+        const StoreRefusal refusal(core->store.folder(), QStringLiteral("1"), QStringLiteral("INSERT"),
+                                   QStringLiteral("secret_item"));
+        QVERIFY(refusal.holds());
+        if (isTyped)
+            account()->providePassword(newer, true);
+        else
+            QVERIFY(!account()->acceptServerPassword(newer));
+        QVERIFY(account()->hasUnstoredPassword());
+        settle();
+    }
+    core->takeCalls();
+    keyring->calls.clear();
+    if (event.endsWith(QLatin1String("without it")))
+        keyring->secrets.clear();
+    if (isReconnection)
+        account()->reconnect();
+    else
+        core->connection()->requestFailed(KirvFailure::WrongPassword);
+    settle();
+    QVERIFY(isReconnection || keyring->calls.contains(QStringLiteral("read")));
+    QCOMPARE(account()->getPassword(), newer);
+    QCOMPARE(core->takeCalls(), isReconnection ? QStringList({ "id log out", logIn(newer) }) : QStringList());
+    account()->beginSave(); // without any change
+    QVERIFY(account()->endSave());
+    settle();
+    QVERIFY(!account()->hasUnstoredPassword());
+    QCOMPARE(keyring->secrets.values(), QStringList(newer));
+    restart(KirvSecretStore::Ready);
+    QCOMPARE(account()->getPassword(), newer);
+}
+
+QTEST_MAIN(tst_WaitingForSecrets)
+#include "tst_waiting_for_secrets.moc"
