@@ -113,10 +113,11 @@ void KirvReconciler::reconcile()
         return;
     const QPointer<KirvReconciler> alive(this);
     const Wanted now = wanted();
-    const bool wouldLogIn = target->state() == KirvConnection::Offline || requestedStep != None;
-    if (now.online && now.awaitsSecrets && wouldLogIn)
-        return; // schedule() follows when they are there
     const Step step = nextStep(now, *target, requestedStep);
+    if (now.online && now.awaitsSecrets && (step == LogIn || requestedStep != None)) {
+        waitForSecrets(now);
+        return; // schedule() follows when they are there
+    }
     const bool endsSession = target->isLoggedIn() && (step == LogIn || step == LogOut);
     if (!endsSession) { // an avatar is not published over a session that is not wanted any more
         target->setAvatar(now.avatar);
@@ -128,6 +129,15 @@ void KirvReconciler::reconcile()
         target->setAvatar(now.avatar);
     if (alive && target && (step == Nothing || step == ChangePresence))
         Q_EMIT settled();
+}
+
+/// A session or an attempt with a login that is not wanted any more ends at once; nothing else begins.
+void KirvReconciler::waitForSecrets(const Wanted &now)
+{
+    const KirvConnection::State state = target->state();
+    const bool isUsed = state == KirvConnection::Disconnecting ? target->comesBack() : state != KirvConnection::Offline;
+    if (isUsed && target->login() != now.login)
+        take(LogOut, now, None);
 }
 
 void KirvReconciler::take(Step step, const Wanted &now, RequestedStep followed)

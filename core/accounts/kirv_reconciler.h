@@ -23,7 +23,7 @@ public:
     /// What is stored, and what the user wants.
     struct Wanted {
         bool online = false;
-        bool awaitsSecrets = false; ///< a log-in waits for what login lacks; what is on line stays so
+        bool awaitsSecrets = false; ///< a log-in waits for what login lacks; a session with the same login goes on
         KirvLogin login;
         KirvPresence presence;
         KirvAvatar avatar;
@@ -70,6 +70,7 @@ Q_SIGNALS:
     void settled();
 
 private:
+    void waitForSecrets(const Wanted &wanted);
     void take(Step step, const Wanted &wanted, RequestedStep requestedStep);
 
     const std::function<Wanted()> wanted;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "core/accounts/kirv_account_batch.h"
 #include "tests/integration/kirv_accounts_fixture.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/store_refusal.h"
@@ -28,6 +29,9 @@ private Q_SLOTS:
 
     void aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore_data();
     void aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore();
+    void noLoginBeginsWithoutItsSecrets_data();
+    void noLoginBeginsWithoutItsSecrets();
+    void aSessionGoesOnUntilItsSecretsAreRead();
 
 private:
     void settle();
@@ -116,6 +120,72 @@ void tst_WaitingForSecrets::aPasswordThatTheProfileRefusedIsNotReplacedByTheOneB
     QCOMPARE(keyring->secrets.values(), QStringList(newer));
     restart(KirvSecretStore::Ready);
     QCOMPARE(account()->getPassword(), newer);
+}
+
+void tst_WaitingForSecrets::noLoginBeginsWithoutItsSecrets_data()
+{
+    QTest::addColumn<KirvConnection::State>("state");
+    QTest::newRow("on line") << KirvConnection::Online;
+    QTest::newRow("connecting") << KirvConnection::Connecting;
+    QTest::newRow("waiting for the next attempt") << KirvConnection::Waiting;
+    QTest::newRow("logging out and in") << KirvConnection::Disconnecting;
+}
+
+/// An account gets another password for a while, as by an import that is undone. What uses it ends.
+void tst_WaitingForSecrets::noLoginBeginsWithoutItsSecrets()
+{
+    QFETCH(KirvConnection::State, state);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart(KirvSecretStore::Locked);
+    QVERIFY(account()->awaitsSecrets());
+    KirvAccountBatch undo;
+    undo.replaced << core->accounts->copyOf(account());
+    KirvAccountBatch change = undo;
+    change.replaced.first().record.password = newer;
+    change.replaced.first().record.secretItems.clear();
+    change.replaced.first().record.unreadSecrets.clear();
+    core->server().logIn = state == KirvConnection::Connecting ? KirvFakeServer::Holds : KirvFakeServer::Accepts;
+    core->server().logOut = state == KirvConnection::Disconnecting ? KirvFakeServer::Holds : KirvFakeServer::Accepts;
+    QVERIFY(core->accounts->apply(change));
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList(logIn(newer)));
+    if (state == KirvConnection::Waiting)
+        core->connection()->serverGoes();
+    else if (state == KirvConnection::Disconnecting)
+        account()->reconnect();
+    settle();
+    QCOMPARE(core->connection()->state(), state);
+    core->takeCalls();
+
+    QVERIFY(core->accounts->apply(undo));
+    settle();
+    if (state == KirvConnection::Disconnecting)
+        core->connection()->serverAccepts();
+    settle();
+    core->accounts->networkChanged();
+    settle();
+    QCOMPARE(core->takeCalls().filter(QStringLiteral("log in")), QStringList());
+    QVERIFY(account()->awaitsSecrets());
+    QCOMPARE(core->connection()->state(), KirvConnection::Offline);
+    core->server().logIn = core->server().logOut = KirvFakeServer::Accepts;
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList(logIn(password)));
+    QVERIFY(account()->isOnline());
+}
+
+void tst_WaitingForSecrets::aSessionGoesOnUntilItsSecretsAreRead()
+{
+    keyring->isHeld = true;
+    account()->reconnect();
+    settle();
+    QVERIFY(account()->awaitsSecrets());
+    QCOMPARE(core->takeCalls(), QStringList());
+    QVERIFY(account()->isOnline());
+    keyring->release();
+    settle();
+    QCOMPARE(core->takeCalls(), QStringList({ "id log out", logIn(password) }));
 }
 
 QTEST_MAIN(tst_WaitingForSecrets)
