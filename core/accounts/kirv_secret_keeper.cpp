@@ -60,6 +60,14 @@ KirvSecretKeeper::Obstacle KirvSecretKeeper::obstacle() const
     return secretStore->state() == KirvSecretStore::Locked ? Locked : None;
 }
 
+/// Whether one would not be refused at once, or without an answer.
+bool KirvSecretKeeper::canBeginOperation() const
+{
+    if (!secretStore || isPaused)
+        return false;
+    return secretStore->state() == KirvSecretStore::Ready || secretStore->state() == KirvSecretStore::Locked;
+}
+
 QString KirvSecretKeeper::profileId()
 {
     if (id.isEmpty())
@@ -276,15 +284,15 @@ void KirvSecretKeeper::next()
     if (isBusy || !secretStore)
         return;
     loadChanges();
-    if (isPaused)
-        return;
     const KirvSecretStore::State state = secretStore->state();
-    if (state == KirvSecretStore::Silent)
+    if (!isPaused && state == KirvSecretStore::Silent)
         reportWrites();
-    if (state != KirvSecretStore::Ready)
+    if (!isPaused && state != KirvSecretStore::Ready)
         store.wipeTraces();
-    if (state != KirvSecretStore::Ready && state != KirvSecretStore::Locked)
+    if (!canBeginOperation()) {
+        scheduleGivingUp();
         return;
+    }
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)
         return;
     if (std::exchange(hasReplaced, false)) {
@@ -312,6 +320,10 @@ bool KirvSecretKeeper::readNext()
         const KirvSecretItem item = account ? account->record().secretItems.value(secret.field) : KirvSecretItem();
         const bool isBeingWritten =
             account && newKeys.contains(item.key) && !account->record().unreadSecrets.contains(secret.field);
+        if (isBeingWritten) {
+            givenUp << secret;
+            scheduleGivingUp();
+        }
         if (item.key.isEmpty() || isBeingWritten)
             continue;
         isBusy = true;
@@ -325,6 +337,40 @@ bool KirvSecretKeeper::readNext()
         return true;
     }
     return false;
+}
+
+/// From the event loop: the accounts emit signals.
+void KirvSecretKeeper::scheduleGivingUp()
+{
+    if (!std::exchange(isGivingUpScheduled, true))
+        QTimer::singleShot(0, this, &KirvSecretKeeper::giveUpNext);
+}
+
+/// What the accounts know serves them while it cannot be read again. A few at a time: thousands may wait, and each
+/// changes a row of a list.
+void KirvSecretKeeper::giveUpNext()
+{
+    isGivingUpScheduled = false;
+    const auto isKnown = [this](const Secret &secret) {
+        const KirvAccount *account = accounts.value(secret.account);
+        return !account || !account->record().unreadSecrets.contains(secret.field);
+    };
+    if (!canBeginOperation()) {
+        QList<Secret> unknown;
+        for (const Secret &secret : qAsConst(reads))
+            (isKnown(secret) ? givenUp : unknown) << secret;
+        reads = unknown;
+    }
+    const QPointer<KirvSecretKeeper> alive(this);
+    for (int count = 0; count < notifySize && !givenUp.isEmpty(); ++count) {
+        const Secret secret = givenUp.takeFirst();
+        if (KirvAccount *account = accounts.value(secret.account))
+            account->secretFailed(secret.field);
+        if (!alive)
+            return;
+    }
+    if (!givenUp.isEmpty())
+        scheduleGivingUp();
 }
 
 void KirvSecretKeeper::onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply)

@@ -77,6 +77,7 @@ private:
         QString field;
     };
 
+    bool canBeginOperation() const;
     QString profileId();
     KirvSecretItem newItem(const KirvAccountKey &account);
     void onStateChanged();
@@ -88,6 +89,8 @@ private:
     void notifyNext();
 
     bool readNext();
+    void scheduleGivingUp();
+    void giveUpNext();
     void onRead(const Secret &secret, const KirvSecretItem &item, const KirvSecretStore::Reply &reply);
     void readLater(const Secret &secret, KirvAccount *account, const KirvSecretStore::Reply &reply);
     void onMissing(const Secret &secret, const KirvSecretItem &item, KirvAccount *account);
@@ -115,6 +118,7 @@ private:
     QString id; ///< of the profile
 
     QList<Secret> reads;
+    QList<Secret> givenUp; ///< reads that end with what the accounts know
     QList<KirvStoredItem> writes, removals;
     QSet<QString> newKeys; ///< of items that are not read back yet
     std::vector<std::weak_ptr<const QStringList>> held;
@@ -128,6 +132,7 @@ private:
     bool mayMove = false;
     bool isBusy = false;
     bool isScheduled = false;
+    bool isGivingUpScheduled = false;
     bool hasChanged = false; ///< what is stored, since load()
     bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;

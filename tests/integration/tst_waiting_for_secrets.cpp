@@ -2,9 +2,12 @@
 #include "core/accounts/kirv_account_batch.h"
 #include "tests/integration/kirv_accounts_fixture.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
+#include <QTimer>
 #include <QtTest>
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -32,11 +35,16 @@ private Q_SLOTS:
     void noLoginBeginsWithoutItsSecrets_data();
     void noLoginBeginsWithoutItsSecrets();
     void aSessionGoesOnUntilItsSecretsAreRead();
+    void aPasswordThatIsNotWrittenYetIsUsed_data();
+    void aPasswordThatIsNotWrittenYetIsUsed();
+    void knownPasswordsAreUsedWhenTheKeyringCannotBeRead_data();
+    void knownPasswordsAreUsedWhenTheKeyringCannotBeRead();
 
 private:
     void settle();
     void restart(KirvSecretStore::State state);
     KirvAccount *account() const { return core->account(); }
+    int awaiting() const;
 
     std::unique_ptr<KirvFakeSecretStore> keyring;
     std::unique_ptr<KirvAccountsFixture> core;
@@ -72,6 +80,14 @@ void tst_WaitingForSecrets::restart(KirvSecretStore::State state)
     keyring->setState(state);
     core->restart(true, [this] { core->accounts->secrets().setKeyring(keyring.get()); });
     settle();
+}
+
+/// How many accounts wait.
+int tst_WaitingForSecrets::awaiting() const
+{
+    const QList<KirvAccount *> all = core->accounts->accounts();
+    return int(
+        std::count_if(all.begin(), all.end(), [](const KirvAccount *account) { return account->awaitsSecrets(); }));
 }
 
 void tst_WaitingForSecrets::aPasswordThatTheProfileRefusedIsNotReplacedByTheOneBefore_data()
@@ -186,6 +202,90 @@ void tst_WaitingForSecrets::aSessionGoesOnUntilItsSecretsAreRead()
     keyring->release();
     settle();
     QCOMPARE(core->takeCalls(), QStringList({ "id log out", logIn(password) }));
+}
+
+void tst_WaitingForSecrets::aPasswordThatIsNotWrittenYetIsUsed_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state");
+    QTest::addColumn<bool>("isEnabled"); ///< again, in place of a reconnection
+    QTest::newRow("refused, reconnect") << KirvSecretStore::Ready << false;
+    QTest::newRow("refused, enable") << KirvSecretStore::Ready << true;
+    QTest::newRow("locked, reconnect") << KirvSecretStore::Locked << false;
+    QTest::newRow("locked, enable") << KirvSecretStore::Locked << true;
+}
+
+void tst_WaitingForSecrets::aPasswordThatIsNotWrittenYetIsUsed()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(bool, isEnabled);
+    keyring->outcome = KirvSecretStore::Refused;
+    keyring->setState(state);
+    account()->setPassword(newer);
+    settle();
+    if (isEnabled)
+        account()->setEnabled(false);
+    settle();
+    core->takeCalls();
+    if (isEnabled)
+        account()->setEnabled(true);
+    else
+        account()->reconnect();
+    settle();
+    QVERIFY(!account()->awaitsSecrets());
+    QCOMPARE(core->takeCalls().filter(QStringLiteral("log in")), QStringList(logIn(newer)));
+    QVERIFY(account()->isOnline());
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList(newer));
+}
+
+void tst_WaitingForSecrets::knownPasswordsAreUsedWhenTheKeyringCannotBeRead_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state");
+    QTest::addColumn<KirvSecretStore::Outcome>("outcome");
+    QTest::newRow("the user refuses") << KirvSecretStore::Locked << KirvSecretStore::Refused;
+    QTest::newRow("it fails") << KirvSecretStore::Ready << KirvSecretStore::Failed;
+    QTest::newRow("it does not respond") << KirvSecretStore::Silent << KirvSecretStore::TimedOut;
+    QTest::newRow("it is gone") << KirvSecretStore::Unavailable << KirvSecretStore::Failed;
+}
+
+/// By all accounts, of which the keyring has refused one read.
+void tst_WaitingForSecrets::knownPasswordsAreUsedWhenTheKeyringCannotBeRead()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(KirvSecretStore::Outcome, outcome);
+    const int count = 100;
+    for (int number = 1; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    KIRV_TRY_COMPARE(keyring->secrets.size(), count);
+    settle();
+    core->takeCalls();
+    keyring->isHeld = true;
+    const QList<KirvAccount *> all = core->accounts->accounts();
+    for (KirvAccount *one : all)
+        one->reconnect();
+    settle();
+    QCOMPARE(keyring->heldCount(), 1);
+    QCOMPARE(awaiting(), count);
+    QCOMPARE(core->takeCalls(), QStringList());
+
+    int before = count, most = 0;
+    QTimer turns; // times out once in each
+    connect(&turns, &QTimer::timeout, this, [&] {
+        most = qMax(most, before - awaiting());
+        before = awaiting();
+    });
+    turns.start(0);
+    keyring->outcome = outcome;
+    keyring->isHeld = false;
+    keyring->setState(state);
+    keyring->release();
+    KIRV_TRY_COMPARE(awaiting(), 0);
+    KIRV_TRY_COMPARE(int(core->server().calls.filter(QStringLiteral("log in")).size()), count);
+    for (const KirvAccount *one : all)
+        QVERIFY(one->isOnline());
+    QVERIFY2(most > 0 && most <= 22, QByteArray::number(most).constData());
 }
 
 QTEST_MAIN(tst_WaitingForSecrets)
