@@ -117,7 +117,9 @@ void KirvSecretKeeper::place(KirvAccountRecord &record, const KirvAccountRecord 
         if (!item.key.isEmpty())
             record.secretItems.insert(field, item);
     }
-    record.secretItems = kirvStoredForm(record).secretItems;
+    const KirvAccountRecord stored = kirvStoredForm(record);
+    record.secretItems = stored.secretItems;
+    record.unreadSecrets = stored.unreadSecrets; // what is not remembered any more is not read
 }
 
 void KirvSecretKeeper::read(KirvAccount *account)

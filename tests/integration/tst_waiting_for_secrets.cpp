@@ -5,6 +5,7 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
+#include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
 #include <algorithm>
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void aPasswordThatIsNotWrittenYetIsUsed();
     void knownPasswordsAreUsedWhenTheKeyringCannotBeRead_data();
     void knownPasswordsAreUsedWhenTheKeyringCannotBeRead();
+    void aPasswordThatIsNotRememberedAnyMoreIsNotAwaited();
 
 private:
     void settle();
@@ -286,6 +288,25 @@ void tst_WaitingForSecrets::knownPasswordsAreUsedWhenTheKeyringCannotBeRead()
     for (const KirvAccount *one : all)
         QVERIFY(one->isOnline());
     QVERIFY2(most > 0 && most <= 22, QByteArray::number(most).constData());
+}
+
+void tst_WaitingForSecrets::aPasswordThatIsNotRememberedAnyMoreIsNotAwaited()
+{
+    keyring->outcome = KirvSecretStore::Refused;
+    restart(KirvSecretStore::Locked);
+    QVERIFY(account()->awaitsSecrets());
+    core->server().needsPassword = true;
+    QSignalSpy requests(core->accounts.get(), &KirvAccountCollection::passwordNeeded);
+    QVERIFY(account()->change([](KirvAccountRecord &record) { record.rememberPassword = false; }));
+    settle();
+    QVERIFY(!account()->awaitsSecrets());
+    QVERIFY(account()->record().unreadSecrets.isEmpty());
+    QCOMPARE(requests.size(), 1);
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    settle();
+    QVERIFY(keyring->secrets.isEmpty());
+    QVERIFY(account()->getPassword().isEmpty());
 }
 
 QTEST_MAIN(tst_WaitingForSecrets)
