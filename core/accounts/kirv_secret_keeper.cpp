@@ -287,12 +287,12 @@ void KirvSecretKeeper::next()
         return;
     loadChanges();
     const KirvSecretStore::State state = secretStore->state();
-    if (!isPaused && state == KirvSecretStore::Silent)
-        reportWrites();
     if (!isPaused && state != KirvSecretStore::Ready)
         store.wipeTraces();
     if (!canBeginOperation()) {
         scheduleGivingUp();
+        if (!isPaused) // what has paused it reports them
+            reportWrites();
         return;
     }
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)
@@ -409,6 +409,8 @@ void KirvSecretKeeper::readLater(const Secret &secret, KirvAccount *account, con
     account->secretFailed(secret.field);
     if (alive)
         pause(reply);
+    if (alive)
+        reportWrites();
 }
 
 /// One that was never written is the value before, where there was one; otherwise nothing is left to be written.

@@ -98,14 +98,19 @@ void KirvSecretKeeper::onWritten(const KirvStoredItem &row, const KirvSecretStor
     pause(reply);
     if (alive)
         report(row, reply.text);
-    if (alive)
-        load(); // it is tried again when the state changes
+    if (!alive)
+        return;
+    load(); // it is tried again when the state changes
+    reportWrites();
 }
 
-/// Nobody knows how long the keyring stays silent, and the program may end meanwhile. A few at a time.
+/// What is not written now. Nobody knows for how long, and the program may end meanwhile. A few at a time.
 void KirvSecretKeeper::reportWrites()
 {
-    if (!secretStore || secretStore->state() != KirvSecretStore::Silent)
+    const KirvSecretStore::State state = secretStore ? secretStore->state() : KirvSecretStore::Unknown;
+    const bool isFindingOut = state == KirvSecretStore::Unknown;
+    const bool goesIntoProfile = state == KirvSecretStore::Unavailable && !wasPresent;
+    if (isFindingOut || goesIntoProfile || canBeginOperation())
         return;
     const QPointer<KirvSecretKeeper> alive(this);
     const QList<KirvStoredItem> rows = writes;

@@ -74,6 +74,9 @@ private Q_SLOTS:
     void aPasswordForNowLastsUntilTheProgramEnds();
     void aPasswordForNowIsNotUsedWithoutTheOtherSecrets();
     void aWriteThatFailsIsReportedOnceAndTriedAgain();
+    void eachPasswordThatCouldNotBeKeptIsReported_data();
+    void eachPasswordThatCouldNotBeKeptIsReported();
+    void aPasswordThatGoesIntoTheProfileIsNotReported();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
     void aProfileThatRefusesAChangeCostsNoPassword();
@@ -697,6 +700,56 @@ void tst_SecretKeeper::aWriteThatFailsIsReportedOnceAndTriedAgain()
     keyring->setState(KirvSecretStore::Ready);
     settle();
     QCOMPARE(keyring->secrets.values(), QStringList(password));
+}
+
+void tst_SecretKeeper::eachPasswordThatCouldNotBeKeptIsReported_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state"); ///< in which the passwords are stored
+    QTest::addColumn<KirvSecretStore::State>("stateAfter");
+    QTest::newRow("refused") << KirvSecretStore::Ready << KirvSecretStore::Ready;
+    QTest::newRow("locked, and refused") << KirvSecretStore::Locked << KirvSecretStore::Locked;
+    QTest::newRow("gone") << KirvSecretStore::Unknown << KirvSecretStore::Unavailable;
+}
+
+/// Not the first one of them only.
+void tst_SecretKeeper::eachPasswordThatCouldNotBeKeptIsReported()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(KirvSecretStore::State, stateAfter);
+    const int count = 25; // more than one turn reports
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    keyring->outcome = KirvSecretStore::Refused;
+    keyring->setState(state);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    settle();
+    keyring->setState(stateAfter);
+    KIRV_TRY_COMPARE(notices.size(), count);
+    keyring->setState(stateAfter);
+    settle();
+    QCOMPARE(notices.size(), count);
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(keyring->secrets.size(), count);
+    QCOMPARE(notices.size(), count);
+    QVERIFY(!isInProfile(QStringLiteral("word of id")));
+}
+
+void tst_SecretKeeper::aPasswordThatGoesIntoTheProfileIsNotReported()
+{
+    const int count = 25; // more than go there in one turn
+    KirvFakeSecretStore undecided(KirvSecretStore::Unknown);
+    core->accounts->secrets().setKeyring(&undecided);
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    for (int number = 0; number < count; ++number)
+        QVERIFY(core->create(QStringLiteral("id%1").arg(number)));
+    settle();
+    undecided.setState(KirvSecretStore::Unavailable);
+    settle();
+    for (int number = 0; number < count; ++number)
+        QVERIFY(isInProfile(QStringLiteral("word of id%1").arg(number)));
+    QVERIFY(notices.isEmpty());
+    core->accounts->secrets().setKeyring(nullptr);
 }
 
 void tst_SecretKeeper::aNewSecretThatWasNeverWrittenIsTheOneBefore()
