@@ -121,7 +121,7 @@ QGroupBox *KirvGeneralPage::createKeyring()
     unlockButton = new QPushButton(tr("&Unlock…"), group);
     unlockButton->setObjectName(QStringLiteral("General_UnlockButton"));
     unlockButton->setToolTip(tr("Reads the passwords that accounts wait for; the keyring asks you to unlock it."));
-    connect(unlockButton, &QPushButton::clicked, this, &KirvGeneralPage::unlock);
+    connect(unlockButton, &QPushButton::clicked, &accounts.secrets(), &KirvSecretKeeper::readAwaited);
     auto *row = new QHBoxLayout(group);
     row->addWidget(keyringText, 1);
     row->addWidget(unlockButton, 0, Qt::AlignTop);
@@ -138,15 +138,6 @@ void KirvGeneralPage::refreshKeyring()
     for (const KirvAccount *account : all)
         isAwaited = isAwaited || account->awaitsSecrets();
     unlockButton->setVisible(keyring && keyring->state() == KirvSecretStore::Locked && isAwaited);
-}
-
-void KirvGeneralPage::unlock()
-{
-    const QList<KirvAccount *> all = accounts.accounts();
-    for (KirvAccount *account : all) {
-        if (account->awaitsSecrets())
-            accounts.secrets().read(account);
-    }
 }
 
 QGroupBox *KirvGeneralPage::createProfile()

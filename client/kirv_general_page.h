@@ -45,7 +45,6 @@ private:
     void refreshMoving();
     void refreshKeyring();
     void refreshCopies();
-    void unlock();
     QLabel *createText(const char *name, QWidget *parent);
 
     KirvAccountCollection &accounts;

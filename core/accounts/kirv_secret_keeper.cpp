@@ -133,6 +133,19 @@ void KirvSecretKeeper::read(KirvAccount *account)
     next();
 }
 
+void KirvSecretKeeper::readAwaited()
+{
+    for (const KirvAccount *account : qAsConst(accounts)) {
+        if (!account->awaitsSecrets())
+            continue;
+        for (const QString &field : account->record().unreadSecrets)
+            reads.prepend({ account->key(), field });
+    }
+    isUnlocking = true;
+    isPaused = false;
+    next();
+}
+
 /// What is to be done is read from the event loop, once for all that has changed until then.
 void KirvSecretKeeper::scheduleLoad()
 {
@@ -203,7 +216,7 @@ std::shared_ptr<const QStringList> KirvSecretKeeper::hold(const QStringList &key
 void KirvSecretKeeper::onStateChanged()
 {
     const KirvSecretStore::State state = secretStore->state();
-    isPaused = false;
+    isPaused = isUnlocking = false;
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
     loadChanges();
@@ -261,6 +274,7 @@ void KirvSecretKeeper::notifyNext()
 void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
 {
     isPaused = true;
+    isUnlocking = false;
     lastOutcome = reply.outcome;
     store.wipeTraces();
     notifyAccounts();
@@ -306,14 +320,14 @@ void KirvSecretKeeper::next()
         moveNext();
 }
 
-/// While the keyring is locked, only what is needed to log in is worth a question.
+/// While the keyring is locked, only what is needed to log in is worth a question, or what the user requests.
 bool KirvSecretKeeper::readNext()
 {
     const bool isLocked = secretStore->state() == KirvSecretStore::Locked;
     int index = 0;
     while (index < reads.size()) {
         const KirvAccount *owner = accounts.value(reads.at(index).account);
-        if (isLocked && owner && !owner->record().enabled) {
+        if (isLocked && !isUnlocking && owner && !owner->record().enabled) {
             ++index;
             continue;
         }
@@ -338,6 +352,7 @@ bool KirvSecretKeeper::readNext()
         });
         return true;
     }
+    isUnlocking = false;
     return false;
 }
 

@@ -50,6 +50,9 @@ public:
     Obstacle obstacle() const;
     /// Moves what the profile holds to the keyring, when it is unlocked; also later, when that was not possible.
     void startMoving();
+    /// Reads the secrets that accounts await, also those of disabled accounts: the user requests it. A keyring that is
+    /// locked asks the user to unlock it.
+    void readAwaited();
 
     // For the accounts.
 
@@ -133,6 +136,7 @@ private:
     bool isBusy = false;
     bool isScheduled = false;
     bool isGivingUpScheduled = false;
+    bool isUnlocking = false; ///< what disabled accounts await is read, too
     bool hasChanged = false; ///< what is stored, since load()
     bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;

@@ -59,6 +59,7 @@ private Q_SLOTS:
 
     void keyringIsDescribed_data();
     void keyringIsDescribed();
+    void lockedKeyringIsUnlocked_data();
     void lockedKeyringIsUnlocked();
     void folderIsOpened();
     void copiesAreListed();
@@ -322,12 +323,22 @@ void tst_GeneralPage::keyringIsDescribed()
     windows->end();
 }
 
+void tst_GeneralPage::lockedKeyringIsUnlocked_data()
+{
+    QTest::addColumn<bool>("isEnabled");
+    QTest::newRow("for accounts that are enabled") << true;
+    QTest::newRow("for accounts that are disabled") << false;
+}
+
 void tst_GeneralPage::lockedKeyringIsUnlocked()
 {
+    QFETCH(bool, isEnabled);
     KirvFakeSecretStore keyring;
     windows->client->accounts().secrets().setKeyring(&keyring);
     windows->addAccount(bob);
     KIRV_TRY(!keyring.secrets.isEmpty());
+    for (const QString &id : { ann, bob })
+        QVERIFY(windows->account(id)->setEnabled(isEnabled));
     keyring.setState(KirvSecretStore::Locked);
     keyring.outcome = KirvSecretStore::Refused;
     windows->restart();
@@ -336,7 +347,7 @@ void tst_GeneralPage::lockedKeyringIsUnlocked()
     keyring.outcome = KirvSecretStore::Done;
     keyring.calls.clear();
     part<QPushButton>("UnlockButton")->click();
-    KIRV_TRY(!keyring.calls.isEmpty());
+    KIRV_TRY(keyring.calls.contains(QStringLiteral("read")));
     keyring.setState(KirvSecretStore::Ready);
     KIRV_TRY(!windows->account(bob)->awaitsSecrets());
     KIRV_TRY(part<QPushButton>("UnlockButton")->isHidden());

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void whatCannotBeReadIsRequestedOnce_data();
     void whatCannotBeReadIsRequestedOnce();
     void aLockedKeyringIsAskedForEnabledAccountsOnly();
+    void aLockedKeyringIsAskedForDisabledAccountsOnRequest();
     void aPasswordForNowChangesNothingThatIsStored();
     void aPasswordForNowLastsUntilTheProgramEnds_data();
     void aPasswordForNowLastsUntilTheProgramEnds();
@@ -599,6 +600,31 @@ void tst_SecretKeeper::aLockedKeyringIsAskedForEnabledAccountsOnly()
     settle();
     QCOMPARE(keyring->calls.value(0), QStringLiteral("read"));
     QVERIFY(account()->isOnline());
+}
+
+void tst_SecretKeeper::aLockedKeyringIsAskedForDisabledAccountsOnRequest()
+{
+    for (const char *id : { "id", "b" }) {
+        QVERIFY(core->create(QLatin1String(id)));
+        QVERIFY(core->account(QLatin1String(id))->setEnabled(false));
+    }
+    settle();
+    keyring->setState(KirvSecretStore::Locked);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart();
+    settle();
+    keyring->calls.clear();
+    core->accounts->secrets().readAwaited();
+    settle();
+    QCOMPARE(keyring->calls, QStringList("read"));
+    keyring->outcome = KirvSecretStore::Done;
+    keyring->setState(KirvSecretStore::Locked);
+    settle();
+    QCOMPARE(keyring->calls, QStringList("read")); // not again without a request
+    core->accounts->secrets().readAwaited();
+    settle();
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(core->account(QStringLiteral("b"))->getPassword(), QStringLiteral("word of b"));
 }
 
 void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
