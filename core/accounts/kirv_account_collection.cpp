@@ -26,10 +26,10 @@ KirvAccountCollection::KirvAccountCollection(KirvStore &store, QObject *parent)
     connect(&nextTurn, &QTimer::timeout, this, &KirvAccountCollection::notifyOfNetwork);
     nextFollowing.setSingleShot(true);
     connect(&nextFollowing, &QTimer::timeout, this, &KirvAccountCollection::followNext);
-    // When several accounts were disabled, their connections follow a few at a time; none logs in before.
+    // When several accounts were disabled or removed, their connections follow a few at a time; none logs in before.
     queue.setCondition([](const KirvConnection &connection) {
         const auto *account = qobject_cast<const KirvAccount *>(connection.parent());
-        return !account || account->record().enabled;
+        return !account || (account->record().enabled && !account->isRemoved());
     });
     const QList<KirvAccountRecord> records = store.readAccounts();
     error = store.lastError();

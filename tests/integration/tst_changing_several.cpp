@@ -6,6 +6,7 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void onlyThoseThatDifferAreChanged();
     void refusedChangeEmitsOneProblem();
     void disabledAccountsThatWaitForATurnDoNotLogIn();
+    void removedAccountsThatWaitForATurnDoNotLogIn();
     void anAccountChangedMeanwhileIsAsItWasChangedLast();
     void aSlotMayInterfere_data();
     void aSlotMayInterfere();
@@ -221,6 +223,27 @@ void tst_ChangingSeveral::disabledAccountsThatWaitForATurnDoNotLogIn()
     core->server().logIn = KirvFakeServer::Accepts;
     QVERIFY(core->accounts->setEnabled(core->accounts->accounts(), true));
     KIRV_TRY(areAll(true));
+}
+
+void tst_ChangingSeveral::removedAccountsThatWaitForATurnDoNotLogIn()
+{
+    const int count = 3 * KirvAccountCollection::accountsPerTurn;
+    create(count);
+    core->server().logIn = KirvFakeServer::Holds;
+    core->restart();
+    KirvLoginQueue &queue = core->accounts->loginQueue();
+    const int attempts = queue.limits().attempts;
+    KIRV_TRY(queue.attemptCount() == attempts && queue.waitingCount() == count - attempts);
+    QList<QPointer<KirvFakeConnection>> connections;
+    for (int number = 0; number < count; ++number)
+        connections << core->connection(id(number));
+    core->server().takeCalls();
+    QVERIFY(core->accounts->remove(core->accounts->accounts()));
+    for (int number = 0; number < attempts; ++number)
+        connections.at(number)->serverAccepts(); // makes room for others
+    KIRV_TRY(std::all_of(connections.cbegin(), connections.cend(), [](const auto &left) { return left.isNull(); }));
+    QCOMPARE(core->server().takeCalls().filter(QStringLiteral(" log in")), QStringList());
+    QCOMPARE(queue.waitingCount(), 0);
 }
 
 void tst_ChangingSeveral::anAccountChangedMeanwhileIsAsItWasChangedLast()
