@@ -2830,14 +2830,14 @@ A file is called - where the standard output or input is meant.</source>
         <translation>الصورة «‎%1» ليست في مجلد التخطيط.</translation>
     </message>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>يطلب الملف عنصر واجهة من الصنف المجهول %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>يطلب الملف عنصر واجهة من الصنف المجهول %1.</translation>
     </message>
     <message>

@@ -2762,7 +2762,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Das Bild „%1“ liegt nicht im Ordner des Layouts.</translation>
     </message>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
     </message>
     <message>
@@ -2777,7 +2777,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Sie verlangt ein Element der unbekannten Klasse %1.</translation>
     </message>
     <message>

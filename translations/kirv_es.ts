@@ -2770,14 +2770,14 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>La imagen «%1» no está en la carpeta del diseño.</translation>
     </message>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Pide un elemento gráfico de la clase desconocida %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Pide un elemento gráfico de la clase desconocida %1.</translation>
     </message>
     <message>

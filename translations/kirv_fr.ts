@@ -2770,14 +2770,14 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>L’image «&#xa0;%1&#xa0;» n’est pas dans le dossier de la disposition.</translation>
     </message>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Il demande un élément graphique de la classe inconnue %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Il demande un élément graphique de la classe inconnue %1.</translation>
     </message>
     <message>

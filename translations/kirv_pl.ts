@@ -2785,14 +2785,14 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Obraz „%1” nie znajduje się w folderze układu.</translation>
     </message>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Plik żąda widżetu nieznanej klasy %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Plik żąda widżetu nieznanej klasy %1.</translation>
     </message>
     <message>

@@ -2770,14 +2770,14 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>A imagem “%1” não está na pasta do layout.</translation>
     </message>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Ele pede um elemento gráfico da classe desconhecida %1.</translation>
     </message>
 </context>
 <context>
     <name>KirvLayoutFile</name>
     <message>
-        <source>It uses the unknown widget class %1.</source>
+        <source>It uses the unknown class %1.</source>
         <translation>Ele pede um elemento gráfico da classe desconhecida %1.</translation>
     </message>
     <message>

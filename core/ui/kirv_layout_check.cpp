@@ -328,5 +328,5 @@ QString KirvLayoutCheck::faultOfPictureFile(const QString &path) const
 
 QString KirvLayoutCheck::unknownClass(const QString &className)
 {
-    return tr("It uses the unknown widget class %1.").arg(className.left(40));
+    return tr("It uses the unknown class %1.").arg(className.left(40));
 }

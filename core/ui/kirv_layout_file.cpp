@@ -152,7 +152,7 @@ std::unique_ptr<QWidget> KirvLayoutFile::build()
     buffer.open(QIODevice::ReadOnly);
     std::unique_ptr<QWidget> top(loader.load(&buffer));
     if (!loader.unknownClasses.isEmpty())
-        failure = tr("It uses the unknown widget class %1.").arg(loader.unknownClasses.first());
+        failure = tr("It uses the unknown class %1.").arg(loader.unknownClasses.first());
     else if (!top)
         failure = tr("It is not a window layout: %1").arg(loader.errorString());
     if (!failure.isEmpty())
