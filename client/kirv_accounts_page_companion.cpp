@@ -107,7 +107,7 @@ void KirvAccountsPageCompanion::addWidgets(QWidget *top, KirvAccountHelp &help)
         KirvPluginManagerPrivate::instance->emitCoreSignal(QStringLiteral("register_account"), QList<KirvArg>());
     });
     if (auto *box = top->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount")))
-        selector = new KirvMainAccountSelector(box);
+        selector = new KirvMainAccountSelector(box, accounts);
     QList<QToolButton *> buttons; // the tool tips and the keys tell what they do
     for (const char *name :
          { "Accounts_RegisterButton", "Accounts_RemoveButton", "Accounts_EditButton", "Accounts_AddButton" })

@@ -4,26 +4,36 @@
 #include "client/kirv_long_list_style.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account.h"
+#include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_account_manager.h"
 
 #include <QAbstractItemModel>
 #include <QComboBox>
+#include <QHash>
 #include <QSignalBlocker>
 
 #include <utility>
 
 namespace {
 
-const KirvAccount *accountAt(const QComboBox *box, int index)
+/// What the page keeps with an entry: the address of an account, which may be gone until the next refresh. It is
+/// compared and never followed.
+const void *addressAt(const QComboBox *box, int index)
 {
-    return static_cast<const KirvAccount *>(static_cast<KirvAccountConnection *>(box->itemData(index).value<void *>()));
+    return box->itemData(index).value<void *>();
+}
+
+const void *addressOf(const KirvAccountConnection *account)
+{
+    return account;
 }
 
 } // namespace
 
-KirvMainAccountSelector::KirvMainAccountSelector(QComboBox *box)
+KirvMainAccountSelector::KirvMainAccountSelector(QComboBox *box, const KirvAccountCollection &accounts)
     : QObject(box)
     , box(box)
+    , accounts(accounts)
 {
     box->setStyle(new KirvLongListStyle(box));
     // A refresh empties and fills the selector, which must not lose the focus meanwhile: this comes after it.
@@ -55,9 +65,17 @@ void KirvMainAccountSelector::correct()
 
 void KirvMainAccountSelector::nameEntries()
 {
+    QHash<const void *, const KirvAccount *> byAddress;
     for (int i = 0; i < box->count(); ++i) {
-        if (box->itemText(i).isEmpty())
-            box->setItemText(i, kirvPlainName(accountAt(box, i)->displayName()));
+        if (!box->itemText(i).isEmpty())
+            continue;
+        if (byAddress.isEmpty()) {
+            const QList<KirvAccount *> all = accounts.accounts();
+            for (const KirvAccount *account : all)
+                byAddress.insert(addressOf(account), account);
+        }
+        if (const KirvAccount *account = byAddress.value(addressAt(box, i)))
+            box->setItemText(i, kirvPlainName(account->displayName()));
     }
 }
 
@@ -65,7 +83,7 @@ void KirvMainAccountSelector::nameEntries()
 int KirvMainAccountSelector::entryOf(const KirvAccount *account) const
 {
     for (int i = 0; account && i < box->count(); ++i) {
-        if (accountAt(box, i) == account)
+        if (addressAt(box, i) == addressOf(account))
             return i;
     }
     return -1;

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class KirvAccount;
+class KirvAccountCollection;
 class QComboBox;
 
 /// Corrects the page's selector of the main account after each of its refreshes, without a change that the page takes
@@ -14,8 +15,8 @@ class KirvMainAccountSelector : public QObject {
     Q_OBJECT
 
 public:
-    /// \a box owns this.
-    explicit KirvMainAccountSelector(QComboBox *box);
+    /// \a box owns this, and \a accounts outlives it.
+    KirvMainAccountSelector(QComboBox *box, const KirvAccountCollection &accounts);
 
     /// Corrects it from the event loop: the main account may be another one, or have another name. A refresh that
     /// changes no entry does not show that.
@@ -27,6 +28,7 @@ private:
     int entryOf(const KirvAccount *account) const;
 
     QComboBox *box;
+    const KirvAccountCollection &accounts;
     bool isDue = false;
 };
 

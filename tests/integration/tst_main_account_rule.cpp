@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_settings_window.h"
+#include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_main_account.h"
 #include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
+#include "core/protocol/kirv_connection.h"
 #include "core/store/kirv_client_settings.h"
 #include "core/store/kirv_store.h"
 #include "host/kirv_account_manager.h"
@@ -15,6 +17,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QImage>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTreeWidget>
 #include <QtTest>
@@ -49,6 +52,7 @@ private Q_SLOTS:
     void assigningStoresNothing();
     void aliasOfItIsShownAtOnce();
     void accountWithoutAliasIsOfferedUnderItsLogin();
+    void entryOfARemovedAccountIsNotFollowed();
     void correctingTheSelectorIsNoChoice();
     void unloadedOneCanBeRead_data();
     void unloadedOneCanBeRead();
@@ -295,6 +299,24 @@ void tst_MainAccountRule::accountWithoutAliasIsOfferedUnderItsLogin()
     windows->account(ann)->setAlias(QString());
     KirvClientWindows::settle();
     QCOMPARE(windows->selector()->currentText(), ann);
+}
+
+/// The account goes between a refresh of the page, which fills the selector, and the correction of its entries.
+void tst_MainAccountRule::entryOfARemovedAccountIsNotFollowed()
+{
+    windows->addAccount(ann);
+    windows->addAccount(bob);
+    windows->account(bob)->setAlias(QString());
+    KirvClientWindows::settle();
+    const QPointer<KirvAccount> removed(windows->account(bob));
+    removed->connection()->drop(); // it is gone at once then
+    windows->client->accountsPage()->updateAccounts();
+    QVERIFY(windows->client->accounts().remove(removed));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!removed);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->selector()->count(), 1);
+    QCOMPARE(mainAccount(), ann);
 }
 
 void tst_MainAccountRule::correctingTheSelectorIsNoChoice()
