@@ -146,13 +146,14 @@ QStringList KirvDirectoryGuard::wrongChanges() const
     return ids;
 }
 
-/// Whether what was typed differs from the entry that is known; one that was not fetched counts as blank.
+/// Whether what was typed differs from the entry that is known; one that was not fetched counts as blank. The page may
+/// have locked the fields since, as it does whenever the tab is shown.
 bool KirvDirectoryGuard::hasChanges() const
 {
     KirvAccount *edited = account();
-    if (!fields || wasLocked || !edited || !edited->isLoaded())
+    const bool isKnown = edited && edited->directory().isKnown();
+    if (!fields || !edited || !edited->isLoaded() || (wasLocked && !isKnown))
         return false;
-    const bool isKnown = edited->directory().isKnown();
     return !KirvAccountDirectory::changes(typed,
                                           isKnown ? edited->directory().base() : edited->protocol()->directoryFields())
                 .isEmpty();
@@ -161,7 +162,7 @@ bool KirvDirectoryGuard::hasChanges() const
 void KirvDirectoryGuard::saveEnded(bool saved)
 {
     KirvAccount *edited = account();
-    leftUnpublished = saved && edited && !edited->isOnline() && !isLocked() && hasChanges();
+    leftUnpublished = saved && edited && !edited->isOnline() && hasChanges();
     const bool isPublished = fields && edited && isLocked() && !wasLocked;
     if (!isPublished)
         return;
@@ -184,6 +185,8 @@ void KirvDirectoryGuard::showWrongEntry()
 void KirvDirectoryGuard::showUnpublished()
 {
     showFields();
+    if (isLocked()) // else the entry would be fetched over what was typed as soon as the account is on line
+        restoreTyped();
     updateStatus();
     announceStatus();
 }

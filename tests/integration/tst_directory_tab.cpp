@@ -33,6 +33,7 @@ private Q_SLOTS:
     void wrongEntryIsSaidAndNotPublished();
     void correctedEntryIsPublished();
     void wrongTextOfTheServerDoesNotKeepFromSaving();
+    void entryTypedOffLineIsNotLost_data();
     void entryTypedOffLineIsNotLost();
     void unchangedEntryClosesOffLine();
 
@@ -207,14 +208,26 @@ void tst_DirectoryTab::wrongTextOfTheServerDoesNotKeepFromSaving()
              QStringList(QStringLiteral("ann publish town")));
 }
 
+void tst_DirectoryTab::entryTypedOffLineIsNotLost_data()
+{
+    QTest::addColumn<bool>("isTabShownAgain"); // which locks the fields
+    QTest::newRow("open") << false;
+    QTest::newRow("locked") << true;
+}
+
 void tst_DirectoryTab::entryTypedOffLineIsNotLost()
 {
+    QFETCH(bool, isTabShownAgain);
     openDirectory();
     connection()->serverGoes();
     Windows::settle();
     QVERIFY(!account()->isOnline());
     entry("town")->setText(QStringLiteral("Verona"));
     child<QTabWidget>("EditAccount_Tabs")->setCurrentIndex(0);
+    if (isTabShownAgain) {
+        child<QTabWidget>("EditAccount_Tabs")->setCurrentIndex(1);
+        QVERIFY(!entry("town")->isEnabled());
+    }
     child<QLineEdit>("EditAccount_Alias")->setText(QStringLiteral("Other"));
     Windows::save(window);
 
