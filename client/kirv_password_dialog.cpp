@@ -20,7 +20,7 @@ QString reasonOf(const KirvAccount &account)
 {
     const KirvAccountRecord &record = account.record();
     if (account.awaitsPassword())
-        return kirvPlainName(KirvSecretTexts(account.secrets()).obstacle());
+        return kirvPlainName(KirvSecretTexts(account.secrets()).obstacleOf(account));
     if (record.password.isEmpty() && record.unreadSecrets.contains(QString()))
         return KirvSecretTexts::passwordIsGone();
     if (account.lastFailure().kind() == KirvFailure::WrongPassword)

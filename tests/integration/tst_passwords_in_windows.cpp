@@ -293,6 +293,15 @@ void tst_PasswordsInWindows::theAccountSaysWhatCanBeEntered()
     const KirvAccountStatus status(*account(), false);
     QCOMPARE(status.kind(), KirvAccountStatus::Waiting);
     QVERIFY2(status.reason().endsWith(advice), qPrintable(status.reason()));
+    if (!hasPassword)
+        return;
+    Q_EMIT windows->client->accountsPage()->findChild<KirvAccountsPageCompanion *>()->passwordRequested(account());
+    settle();
+    auto *dialog = windows->client->window()->findChild<KirvPasswordDialog *>();
+    QVERIFY(dialog);
+    const QString asked = KirvClientWindows::child<QLabel>(dialog, "PasswordQuestion_Reason")->text();
+    QVERIFY2(asked.endsWith(advice), qPrintable(asked));
+    dialog->reject();
 }
 
 void tst_PasswordsInWindows::aPasswordCanBeEnteredForNow()
