@@ -32,7 +32,7 @@ public:
     /// Makes \a row the current one and the only one selected, whatever keys are held down.
     void select(QTreeWidgetItem *row) const;
     /// The account of the row that is selected, if that is one alone, and otherwise of the current row, which need not
-    /// be selected: the commands of the page take the former, too. The id is empty when there is none.
+    /// be selected: Edit and Remove of the page take the former, too. The id is empty when there is none.
     KirvAccountKey chosen() const;
     /// The rows of one protocol, by an exact comparison.
     QList<QTreeWidgetItem *> rowsOf(const QString &protocol) const;

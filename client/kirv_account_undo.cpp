@@ -58,6 +58,20 @@ void KirvAccountUndo::undo(int step)
     const QStringList reasons = past.undo(step);
     for (const QString &reason : reasons)
         messages.showMessage(reason);
+    updateMessage(step);
+}
+
+/// What could not be undone stays in its step, whose message is about less then.
+void KirvAccountUndo::updateMessage(int step)
+{
+    const QString before = shown.value(step);
+    const bool isShown = !heldBack.contains(step) && messages.messages().contains(before);
+    if (!past.has(step) || !isShown || before == messageOf(step))
+        return;
+    messages.removeMessage(before);
+    shown.insert(step, messageOf(step));
+    heldBack.insert(step);
+    showHeldBack();
 }
 
 /// All accounts of the step in one change; the history finds them enabled then. False when the store refuses, which the

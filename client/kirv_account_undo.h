@@ -38,6 +38,7 @@ public:
 private:
     void stepAdded(int step);
     void show(int step);
+    void updateMessage(int step);
     void replaceEarlier(int step, const QString &text);
     bool isReplaced(int step) const;
     void holdBack();

@@ -150,8 +150,7 @@ void KirvPageCommands::openGroupMenu(const QPoint &position)
 
 KirvAccountKey KirvPageCommands::currentKey() const
 {
-    const QTreeWidgetItem *row = list->currentItem();
-    return row ? KirvAccountRows::keyOf(row) : KirvAccountKey();
+    return environment.rows.chosen();
 }
 
 void KirvPageCommands::rename()
@@ -172,7 +171,7 @@ void KirvPageCommands::openAddMenu()
 
 void KirvPageCommands::openMenuOfCurrentRow()
 {
-    QTreeWidgetItem *row = list->currentItem();
+    QTreeWidgetItem *row = environment.rows.find(currentKey());
     if (QApplication::activePopupWidget())
         return;
     if (!row) {

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void severalAreRemoved();
     void severalComeBackInTheOwnOrder_data();
     void severalComeBackInTheOwnOrder();
+    void messageFollowsAPartialUndo();
     void refusedQuestionRemovesNone();
     void refusedRemovalKeepsAllRows();
     void mainAccountIsPassedOnOnce();
@@ -192,6 +193,9 @@ void tst_SeveralAccounts::stripIsAboutTheSelectedRow()
     KIRV_TRY_COMPARE(title->text(), QStringLiteral("Disabled"));
     QCOMPARE(strip->accessibleName(), QStringLiteral("State of bob"));
     QCOMPARE(strip->toolTip(), QStringLiteral("<qt>State of bob</qt>"));
+    QTest::keyClick(list(), Qt::Key_F2);
+    QCOMPARE(KirvClientWindows::child<QLineEdit>(list(), "Accounts_AliasEditor")->text(), bob);
+    QTest::keyClick(KirvClientWindows::child<QLineEdit>(list(), "Accounts_AliasEditor"), Qt::Key_Escape);
     windows->account(bob)->setEnabled(true);
     KIRV_TRY(title->text().startsWith(QLatin1String("Connected")));
     windows->pageButton("Accounts_StripEditButton")->click();
@@ -481,6 +485,25 @@ void tst_SeveralAccounts::severalComeBackInTheOwnOrder()
     for (const KirvAccountRecord &record : records)
         stored << record.key.id;
     QCOMPARE(stored, before);
+}
+
+void tst_SeveralAccounts::messageFollowsAPartialUndo()
+{
+    const QString both = QStringLiteral("2 accounts were removed.");
+    click(bob);
+    click(dora, Qt::ControlModifier);
+    {
+        KirvScriptedAnswers answers({ QMessageBox::Yes });
+        windows->pageButton("Accounts_RemoveButton")->click();
+        KIRV_TRY(!windows->account(bob) && !windows->account(dora));
+    }
+    KIRV_TRY(windows->messages().contains(both));
+    windows->addAccount(dora);
+    activate();
+    QTest::keyClick(windows->client->window(), Qt::Key_Z, Qt::ControlModifier);
+    KIRV_TRY(windows->account(bob));
+    KirvClientWindows::settle();
+    QVERIFY2(!windows->messages().contains(both), qPrintable(windows->messages().join(QLatin1Char('\n'))));
 }
 
 void tst_SeveralAccounts::refusedQuestionRemovesNone()
