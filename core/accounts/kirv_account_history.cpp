@@ -239,8 +239,10 @@ QStringList KirvAccountHistory::undo(int step)
     }
     undone.changes = rest.changes;
     for (const Change &change : qAsConst(undone.changes)) {
-        if (undone.kind == Removal)
-            removedBy.insert(change.account.record.key, step);
+        if (undone.kind != Removal)
+            continue;
+        int &latest = removedBy[change.account.record.key];
+        latest = qMax(latest, step); // a later removal of the same login may be there
     }
     const auto isLater = [step](const Step &other) { return other.number > step; };
     steps.insert(std::find_if(steps.begin(), steps.end(), isLater), undone);

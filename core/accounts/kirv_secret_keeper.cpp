@@ -6,6 +6,8 @@
 #include "core/store/kirv_account_columns.h"
 #include "core/store/kirv_store.h"
 
+#include <QPair>
+#include <QSet>
 #include <QTimer>
 #include <QUuid>
 #include <algorithm>
@@ -127,6 +129,8 @@ void KirvSecretKeeper::read(KirvAccount *account)
     const KirvAccountRecord &record = account->record();
     if (record.secretItems.isEmpty())
         return;
+    const auto isOfAccount = [&record](const Secret &queued) { return queued.account == record.key; };
+    reads.erase(std::remove_if(reads.begin(), reads.end(), isOfAccount), reads.end());
     for (auto item = record.secretItems.constBegin(); item != record.secretItems.constEnd(); ++item)
         reads.prepend({ record.key, item.key() });
     isPaused = false;
@@ -135,11 +139,16 @@ void KirvSecretKeeper::read(KirvAccount *account)
 
 void KirvSecretKeeper::readAwaited()
 {
+    QSet<QPair<KirvAccountKey, QString>> queued;
+    for (const Secret &secret : qAsConst(reads))
+        queued.insert({ secret.account, secret.field });
     for (const KirvAccount *account : qAsConst(accounts)) {
         if (!account->awaitsSecrets())
             continue;
-        for (const QString &field : account->record().unreadSecrets)
-            reads.prepend({ account->key(), field });
+        for (const QString &field : account->record().unreadSecrets) {
+            if (!queued.contains({ account->key(), field }))
+                reads.prepend({ account->key(), field });
+        }
     }
     isUnlocking = true;
     isPaused = false;
@@ -305,8 +314,7 @@ void KirvSecretKeeper::next()
         store.wipeTraces();
     if (!canBeginOperation()) {
         scheduleGivingUp();
-        if (!isPaused) // what has paused it reports them
-            reportWrites();
+        QTimer::singleShot(0, this, &KirvSecretKeeper::reportWrites); // the caller may be in the middle of a change
         return;
     }
     if (readNext() || writeNext() || state == KirvSecretStore::Locked)

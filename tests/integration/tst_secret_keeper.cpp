@@ -628,6 +628,7 @@ void tst_SecretKeeper::aLockedKeyringIsAskedForDisabledAccountsOnRequest()
     settle();
     QCOMPARE(account()->getPassword(), password);
     QCOMPARE(core->account(QStringLiteral("b"))->getPassword(), QStringLiteral("word of b"));
+    QCOMPARE(keyring->calls.count(QStringLiteral("read")), 3); // once each, and the one that was refused
 }
 
 void tst_SecretKeeper::aPasswordForNowChangesNothingThatIsStored()
