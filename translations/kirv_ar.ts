@@ -350,14 +350,14 @@
         <translation>استُبعدت إعدادات سرية للحساب «%1» (بروتوكول %2): هي في حلقة المفاتيح وتعذّرت قراءتها.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts that cannot be exported.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>استُبعد الحساب «%1» (بروتوكول %2): فيه نصوص أو صورة لا يمكن تصديرها.</translation>
+        <translation>استُبعد الحساب «%1» (بروتوكول %2): فيه نصوص لا يمكن تصديرها.</translation>
     </message>
     <message>
-        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read, or is too large.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>استُبعدت صورة الحساب «%1» (بروتوكول %2): تعذّرت قراءتها.</translation>
+        <translation>استُبعدت صورة الحساب «%1» (بروتوكول %2): تعذّرت قراءتها أو هي أكبر من اللازم.</translation>
     </message>
 </context>
 <context>
@@ -2714,8 +2714,8 @@ A file is called - where the standard output or input is meant.</source>
         <translation>ليس «%1» عنوان خادم.</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
-        <translation>عادةً 6697 مع التشفير و6667 من دونه. ويُستعمل بدلاً من ذلك المنفذ المذكور في اسم الدخول، كما في ann@irc.example.org:6667.</translation>
+        <source>Usually 6697 with encryption and 6667 without. When the server is empty, a port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>عادةً 6697 مع التشفير و6667 من دونه. وعندما يكون الخادم فارغًا يُستعمل بدلاً من ذلك المنفذ المذكور في اسم الدخول، كما في ann@irc.example.org:6667.</translation>
     </message>
 </context>
 <context>

@@ -346,14 +346,14 @@
         <translation>Geheime Einstellungen des Kontos „%1“ (%2) werden ausgelassen: Sie sind im Schlüsselbund und konnten nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts that cannot be exported.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Das Konto „%1“ (%2) wird ausgelassen: Texte oder das Bild darin können nicht exportiert werden.</translation>
+        <translation>Das Konto „%1“ (%2) wird ausgelassen: Texte darin können nicht exportiert werden.</translation>
     </message>
     <message>
-        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read, or is too large.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Das Bild des Kontos „%1“ (%2) wird ausgelassen: Es konnte nicht gelesen werden.</translation>
+        <translation>Das Bild des Kontos „%1“ (%2) wird ausgelassen: Es konnte nicht gelesen werden oder ist zu groß.</translation>
     </message>
 </context>
 <context>
@@ -2654,8 +2654,8 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>„%1“ ist keine Adresse eines Servers.</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
-        <translation>Gewöhnlich 6697 mit Verschlüsselung und 6667 ohne. Ein Port im Anmeldenamen, wie in ann@irc.example.org:6667, geht vor.</translation>
+        <source>Usually 6697 with encryption and 6667 without. When the server is empty, a port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Gewöhnlich 6697 mit Verschlüsselung und 6667 ohne. Wenn der Server leer ist, gilt ein Port im Anmeldenamen, wie in ann@irc.example.org:6667.</translation>
     </message>
 </context>
 <context>

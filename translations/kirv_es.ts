@@ -346,14 +346,14 @@
         <translation>Se omiten ajustes secretos de la cuenta «%1» (%2): están en el depósito de claves y no se pudieron leer.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts that cannot be exported.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Se omite la cuenta «%1» (%2): tiene textos o una imagen que no se pueden exportar.</translation>
+        <translation>Se omite la cuenta «%1» (%2): tiene textos que no se pueden exportar.</translation>
     </message>
     <message>
-        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read, or is too large.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Se omite la imagen de la cuenta «%1» (%2): no se pudo leer.</translation>
+        <translation>Se omite la imagen de la cuenta «%1» (%2): no se pudo leer o es demasiado grande.</translation>
     </message>
 </context>
 <context>
@@ -426,7 +426,7 @@
     </message>
     <message>
         <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
-        <translation>La cuenta «%1» (%2) tiene textos o una imagen que no se pueden exportar.</translation>
+        <translation>La cuenta «%1» (%2) tiene textos que no se pueden exportar.</translation>
     </message>
     <message>
         <source>There is not enough memory to encrypt the passwords.</source>
@@ -2654,8 +2654,8 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>«%1» no es una dirección de servidor.</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
-        <translation>Normalmente 6697 con cifrado y 6667 sin él. Si el nombre de usuario lleva un puerto, como en ann@irc.example.org:6667, se usa ese.</translation>
+        <source>Usually 6697 with encryption and 6667 without. When the server is empty, a port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Normalmente 6697 con cifrado y 6667 sin él. Si el servidor está vacío y el nombre de usuario lleva un puerto, como en ann@irc.example.org:6667, se usa ese.</translation>
     </message>
 </context>
 <context>

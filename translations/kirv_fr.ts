@@ -346,14 +346,14 @@
         <translation>Des paramètres secrets du compte «&#xa0;%1&#xa0;» (%2) sont omis&#xa0;: ils se trouvent dans le trousseau de clés et n’ont pas pu être lus.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts that cannot be exported.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Le compte «&#xa0;%1&#xa0;» (%2) est omis&#xa0;: il contient des textes ou une image qui ne peuvent pas être exportés.</translation>
+        <translation>Le compte «&#xa0;%1&#xa0;» (%2) est omis&#xa0;: il contient des textes qui ne peuvent pas être exportés.</translation>
     </message>
     <message>
-        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read, or is too large.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>L’image du compte «&#xa0;%1&#xa0;» (%2) est omise&#xa0;: elle n’a pas pu être lue.</translation>
+        <translation>L’image du compte «&#xa0;%1&#xa0;» (%2) est omise&#xa0;: elle n’a pas pu être lue ou est trop grande.</translation>
     </message>
 </context>
 <context>
@@ -2654,8 +2654,8 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>«&#xa0;%1&#xa0;» n’est pas une adresse de serveur.</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
-        <translation>Généralement 6697 avec chiffrement et 6667 sans. Un port dans l’identifiant, comme dans ann@irc.example.org:6667, est utilisé à la place.</translation>
+        <source>Usually 6697 with encryption and 6667 without. When the server is empty, a port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Généralement 6697 avec chiffrement et 6667 sans. Quand le serveur est vide, un port dans l’identifiant, comme dans ann@irc.example.org:6667, est utilisé à la place.</translation>
     </message>
 </context>
 <context>

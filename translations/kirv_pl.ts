@@ -347,14 +347,14 @@
         <translation>Pominięto tajne ustawienia konta „%1” (%2): są w bazie kluczy i nie udało się ich odczytać.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts that cannot be exported.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Pominięto konto „%1” (%2): zawiera teksty lub obraz, których nie można wyeksportować.</translation>
+        <translation>Pominięto konto „%1” (%2): zawiera teksty, których nie można wyeksportować.</translation>
     </message>
     <message>
-        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read, or is too large.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>Pominięto obraz konta „%1” (%2): nie udało się go odczytać.</translation>
+        <translation>Pominięto obraz konta „%1” (%2): nie udało się go odczytać lub jest za duży.</translation>
     </message>
 </context>
 <context>
@@ -427,7 +427,7 @@
     </message>
     <message>
         <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
-        <translation>Konto „%1” (%2) zawiera teksty lub obraz, których nie można wyeksportować.</translation>
+        <translation>Konto „%1” (%2) zawiera teksty, których nie można wyeksportować.</translation>
     </message>
     <message>
         <source>There is not enough memory to encrypt the passwords.</source>
@@ -2669,8 +2669,8 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>„%1” nie jest adresem serwera.</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
-        <translation>Zwykle 6697 z szyfrowaniem i 6667 bez niego. Port podany w loginie, jak w ann@irc.example.org:6667, ma pierwszeństwo.</translation>
+        <source>Usually 6697 with encryption and 6667 without. When the server is empty, a port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Zwykle 6697 z szyfrowaniem i 6667 bez niego. Gdy serwer jest pusty, używany jest port podany w loginie, jak w ann@irc.example.org:6667.</translation>
     </message>
 </context>
 <context>

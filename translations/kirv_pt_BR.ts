@@ -346,14 +346,14 @@
         <translation>Configurações secretas da conta “%1” (%2) foram omitidas: elas estão no chaveiro e não puderam ser lidas.</translation>
     </message>
     <message>
-        <source>The account &quot;%1&quot; (%2) is left out: it has texts or a picture that cannot be exported.</source>
+        <source>The account &quot;%1&quot; (%2) is left out: it has texts that cannot be exported.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>A conta “%1” (%2) foi omitida: ela tem textos ou uma imagem que não podem ser exportados.</translation>
+        <translation>A conta “%1” (%2) foi omitida: ela tem textos que não podem ser exportados.</translation>
     </message>
     <message>
-        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read.</source>
+        <source>The picture of the account &quot;%1&quot; (%2) is left out: it could not be read, or is too large.</source>
         <extracomment>%1 = name of an account, %2 = name of a protocol</extracomment>
-        <translation>A imagem da conta “%1” (%2) foi omitida: ela não pôde ser lida.</translation>
+        <translation>A imagem da conta “%1” (%2) foi omitida: ela não pôde ser lida ou é grande demais.</translation>
     </message>
 </context>
 <context>
@@ -2654,8 +2654,8 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>“%1” não é um endereço de servidor.</translation>
     </message>
     <message>
-        <source>Usually 6697 with encryption and 6667 without. A port in the login, as in ann@irc.example.org:6667, is used instead.</source>
-        <translation>Normalmente 6697 com criptografia e 6667 sem. Uma porta no nome de usuário, como em ann@irc.example.org:6667, é usada no lugar.</translation>
+        <source>Usually 6697 with encryption and 6667 without. When the server is empty, a port in the login, as in ann@irc.example.org:6667, is used instead.</source>
+        <translation>Normalmente 6697 com criptografia e 6667 sem. Quando o servidor está vazio, uma porta no nome de usuário, como em ann@irc.example.org:6667, é usada no lugar.</translation>
     </message>
 </context>
 <context>

@@ -91,8 +91,8 @@ void add(const KirvAccount *account, bool withSecrets, KirvMovedAccounts *moved)
     if (!KirvAccountFile::canHold(copy)) {
         //: %1 = name of an account, %2 = name of a protocol
         moved->leftOut << about(account->record(),
-                                KirvAccountExport::tr("The account \"%1\" (%2) is left out: it has texts or a "
-                                                      "picture that cannot be exported."));
+                                KirvAccountExport::tr("The account \"%1\" (%2) is left out: it has texts "
+                                                      "that cannot be exported."));
         return;
     }
     if (withSecrets)
@@ -132,8 +132,9 @@ void KirvAccountExport::readPictures(KirvMovedAccounts *moved)
         size += account.picture.size();
         if (account.picture.isEmpty()) {
             //: %1 = name of an account, %2 = name of a protocol
-            moved->leftOut << about(account.record,
-                                    tr("The picture of the account \"%1\" (%2) is left out: it could not be read."));
+            moved->leftOut << about(
+                account.record,
+                tr("The picture of the account \"%1\" (%2) is left out: it could not be read, or is too large."));
         }
     }
 }

@@ -7,6 +7,7 @@
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
 #include "core/accounts/kirv_open_settings.h"
+#include "core/protocol/kirv_plugin_call.h"
 #include "core/values/kirv_bounded_image.h"
 #include "core/values/kirv_single_line.h"
 #include "core/values/kirv_text_limit.h"
@@ -227,8 +228,9 @@ QMap<QString, QString> KirvAccountImport::destination(const KirvAccountRecord &r
 {
     KirvProtocolBase *protocol = accounts.protocol(record.key.protocol);
     KirvAccountRecord tested = complete(record);
-    const QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
-    const QMap<QString, QString> values = kirvStoredValues(protocol->settingsForTest(fields));
+    QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
+    kirvCallPlugin([&] { fields = protocol->settingsForTest(fields); }); // it fails: every setting counts
+    const QMap<QString, QString> values = kirvStoredValues(fields);
     for (auto value = values.constBegin(); value != values.constEnd(); ++value)
         tested.settings.insert(value.key(), value.value());
     return kirvOpenSettings(tested);
@@ -237,6 +239,8 @@ QMap<QString, QString> KirvAccountImport::destination(const KirvAccountRecord &r
 /// A file, which anybody may have written, sends no password of this profile to another server.
 bool KirvAccountImport::losesSecrets(const KirvAccountRecord &record, const KirvAccountRecord &before) const
 {
+    if (record.settings == before.settings) // quick, as there may be thousands
+        return false;
     const QSet<QString> fields = before.secretSettings + before.unreadSecrets + QSet<QString> { QString() };
     const auto isLacking = [&](const QString &field) { return lacksSecret(record, before, field); };
     return std::any_of(fields.begin(), fields.end(), isLacking) && destination(record) != destination(before);

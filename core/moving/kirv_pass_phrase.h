@@ -6,7 +6,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// The pass phrases that files of accounts are encrypted with. The bounds are those of new ones; reading takes any.
+/// The pass phrases that files of accounts are encrypted with. The bounds are those of new ones.
 class KirvPassPhrase {
     Q_DECLARE_TR_FUNCTIONS(KirvPassPhrase)
 

@@ -83,6 +83,11 @@ QList<KirvField> KirvIrcProtocol::accountSettings() const
     return KirvIrcSettings::defaultFields();
 }
 
+QList<KirvField> KirvIrcProtocol::settingsForTest(const QList<KirvField> &settings) const
+{
+    return KirvIrcSettings::forTest(settings);
+}
+
 QStringList KirvIrcProtocol::components() const
 {
     return { QStringLiteral("IRC plug-in " KIRV_VERSION), QLatin1String("libcommuni ") + Irc::version() };

@@ -24,6 +24,7 @@ public:
     bool needsPassword(const QString &login, const QList<KirvField> &settings) const override;
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
+    QList<KirvField> settingsForTest(const QList<KirvField> &settings) const override;
     QStringList components() const override;
     QStringList fileSettings() const override;
     KirvConnection *createConnection() override;

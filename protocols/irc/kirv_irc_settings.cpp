@@ -201,8 +201,8 @@ QList<KirvField> KirvIrcSettings::defaultFields()
                             tr("The name or address of the server. When it is empty, the part of the login after "
                                "the @ is the server.")),
         KirvField::number(tr("Port"), QLatin1String(portId), encryptedPort, 1, 65535,
-                          tr("Usually 6697 with encryption and 6667 without. A port in the login, as in "
-                             "ann@irc.example.org:6667, is used instead.")),
+                          tr("Usually 6697 with encryption and 6667 without. When the server is empty, a port in the "
+                             "login, as in ann@irc.example.org:6667, is used instead.")),
         KirvField::choice(
             tr("Encryption"), QLatin1String(encryptionId), QLatin1String(required),
             { QLatin1String(required), QLatin1String(none) }, { tr("Required (TLS)"), tr("None") },
@@ -229,6 +229,15 @@ QList<KirvField> KirvIrcSettings::defaultFields()
                                "Empty: it is in the certificate's file.")),
     };
     return own + KirvProxy().toFields();
+}
+
+QList<KirvField> KirvIrcSettings::forTest(QList<KirvField> fields)
+{
+    for (KirvField &field : fields) {
+        if (field.getId() == QLatin1String(realNameId) || field.getId() == QLatin1String(alternativeNicksId))
+            field.setText(QString());
+    }
+    return fields;
 }
 
 QStringList KirvIrcSettings::fileFields()

@@ -59,6 +59,8 @@ public:
 
     /// The fields of a new account.
     static QList<KirvField> defaultFields();
+    /// \a fields for a log-in that is only a test: the names do not matter.
+    static QList<KirvField> forTest(QList<KirvField> fields);
     /// The ids of those that are the path of a file.
     static QStringList fileFields();
     /// The names of the ready-made configurations and the fields of one; empty for an unknown name.

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void userNameIsLettersAndDigits();
     void realNameIsOneLine();
     void configurationsAreEncryptedNetworks();
+    void testReplacesNothingThatDecidesWhereAPasswordGoes();
     void localConfigurationUsesTheLocalPort();
     void loginPatternAccepts_data();
     void loginPatternAccepts();
@@ -446,6 +447,21 @@ void tst_IrcSettings::spellingsOfANickAreOneLogin()
 {
     QFETCH(QString, login);
     QTEST(KirvIrcSettings::normalizedLogin(login), "normalized");
+}
+
+void tst_IrcSettings::testReplacesNothingThatDecidesWhereAPasswordGoes()
+{
+    QList<KirvField> fields = KirvIrcSettings::defaultFields();
+    for (KirvField &field : fields)
+        field.setText(QStringLiteral("value of ") + field.getId());
+    const QList<KirvField> tested = KirvIrcSettings::forTest(fields);
+    QCOMPARE(tested.size(), fields.size());
+    QStringList replaced;
+    for (int i = 0; i < fields.size(); ++i) {
+        if (tested.at(i).getText() != fields.at(i).getText())
+            replaced << tested.at(i).getId();
+    }
+    QCOMPARE(replaced, (QStringList { "real_name", "alternative_nicks" }));
 }
 
 QTEST_GUILESS_MAIN(tst_IrcSettings)
