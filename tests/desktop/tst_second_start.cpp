@@ -266,8 +266,6 @@ void tst_SecondStart::nobodyListens()
 {
     QVERIFY(!KirvRunningInstance::handOver(profile(), ircLink, 1));
     QVERIFY(!KirvRunningInstance::handOver(profile("no such folder"), ircLink, 1));
-    KirvRunningInstance first(profile());
-    QVERIFY(!KirvRunningInstance::handOver(profile(), QStringLiteral("xmpp:a\nxmpp:b"), 1));
 }
 
 void tst_SecondStart::silentFirstIsNotWaitedForForever()

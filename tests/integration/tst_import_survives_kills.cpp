@@ -365,7 +365,7 @@ void tst_ImportSurvivesKills::aKillLeavesAllOfTheImportOrNothing_data()
 void tst_ImportSurvivesKills::aKillLeavesAllOfTheImportOrNothing()
 {
     QFETCH(bool, usesKeyring);
-    const int step = qEnvironmentVariableIsSet("KIRV_EVERY_KILL") ? 1 : usesKeyring ? 23 : 5;
+    const int step = qEnvironmentVariableIsSet("KIRV_EVERY_KILL") ? 1 : usesKeyring ? 67 : 11;
     Content before, after;
     fill(usesKeyring);
     read(&before);

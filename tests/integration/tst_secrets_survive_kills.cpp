@@ -174,7 +174,7 @@ void tst_SecretsSurviveKills::aKillLeavesNoWrongSecretAndNoOrphan()
 {
     QFETCH(QString, name);
     const bool isOfMany = name == QLatin1String("move of many");
-    const int stride = qEnvironmentVariableIsSet("KIRV_EVERY_KILL") ? 1 : isOfMany ? 71 : 9;
+    const int stride = qEnvironmentVariableIsSet("KIRV_EVERY_KILL") ? 1 : isOfMany ? 151 : 13;
     int kills = 0;
     bool isDone = false;
     for (int call = 0; !isDone; call += stride, ++kills) {

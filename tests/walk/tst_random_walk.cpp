@@ -19,7 +19,7 @@ int setting(const char *variable, int fallback)
 }
 
 /// What makes the walk worth while: one of this length comes by all of it.
-const int thoroughLength = 8000;
+const int thoroughLength = 5000;
 const char *const wanted[] = { "a save that is refused",
                                "a publication that the server holds",
                                "a server request that succeeds",
@@ -50,7 +50,7 @@ private:
 void tst_RandomWalk::windowsCoreAndStoreAgreeAfterEveryStep()
 {
     // The same way each time unless another one is set, so that a failure is always news; 0 takes a new one.
-    int seed = setting("KIRV_WALK_SEED", 1);
+    int seed = setting("KIRV_WALK_SEED", 2);
     if (seed == 0)
         seed = 1 + int(QRandomGenerator::system()->bounded(1000000));
     const int length = setting("KIRV_WALK_STEPS", thoroughLength);
