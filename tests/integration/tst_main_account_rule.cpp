@@ -306,9 +306,10 @@ void tst_MainAccountRule::entryOfARemovedAccountIsNotFollowed()
 {
     windows->addAccount(ann);
     windows->addAccount(bob);
-    windows->account(bob)->setAlias(QString());
+    windows->selector()->setCurrentIndex(windows->selector()->findText(bob));
     KirvClientWindows::settle();
-    const QPointer<KirvAccount> removed(windows->account(bob));
+    QCOMPARE(mainAccount(), bob);
+    const QPointer<KirvAccount> removed(windows->account(ann));
     removed->connection()->drop(); // it is gone at once then
     windows->client->accountsPage()->updateAccounts();
     QVERIFY(windows->client->accounts().remove(removed));
@@ -316,7 +317,7 @@ void tst_MainAccountRule::entryOfARemovedAccountIsNotFollowed()
     QVERIFY(!removed);
     KirvClientWindows::settle();
     QCOMPARE(windows->selector()->count(), 1);
-    QCOMPARE(mainAccount(), ann);
+    QCOMPARE(mainAccount(), bob);
 }
 
 void tst_MainAccountRule::correctingTheSelectorIsNoChoice()
