@@ -184,6 +184,8 @@ void tst_TextsOfWindows::start(const QStringList &ids)
 void tst_TextsOfWindows::look(const char *place, QWidget *window)
 {
     KirvClientWindows::settle();
+    // The latest event may be the end of a thread, which has shown other parts.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     survey->look(QString::fromLatin1(place), window);
 }
 
