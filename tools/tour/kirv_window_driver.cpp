@@ -154,6 +154,7 @@ void KirvWindowDriver::takePicture(const QString &text)
     static const QRegularExpression notPlain(QStringLiteral("[^a-z0-9]+"));
     const QString slug = text.toLower().replace(notPlain, QStringLiteral("-")).left(60);
     const QString name = QStringLiteral("%1-%2.png").arg(current + 1, 2, 10, QLatin1Char('0')).arg(slug);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of parts that were shown just now
     shown->grab().save(QDir(folder).filePath(name));
 }
 
