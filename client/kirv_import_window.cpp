@@ -156,7 +156,7 @@ void KirvImportWindow::read(const QString &newPath)
     passPhraseLine->clear();
     problem->hide();
     //: %1 = path of a file
-    showText(tr("The file %1 is being read…").arg(QDir::toNativeSeparators(path)));
+    showText(tr("The file %1 is being read…").arg(kirvPlainName(QDir::toNativeSeparators(path))));
     setState(Reading);
     job.run<Found>([newPath](const KirvBackgroundJob::Flag &) { return readFile(newPath); },
                    [this](const Found &found) { take(found); });
@@ -193,7 +193,7 @@ void KirvImportWindow::take(const Found &found)
 {
     if (!found.bytes.isEmpty())
         bytes = found.bytes;
-    const QString shownPath = QDir::toNativeSeparators(path);
+    const QString shownPath = kirvPlainName(QDir::toNativeSeparators(path));
     if (found.needsPassPhrase || found.result.wrongPassPhrase) {
         //: %1 = path of a file
         showText(
@@ -220,7 +220,7 @@ void KirvImportWindow::take(const Found &found)
 
 void KirvImportWindow::showText(const QString &newText)
 {
-    text->showText(kirvPlainName(newText));
+    text->showText(newText);
 }
 
 void KirvImportWindow::showProblem(const QString &newText)
