@@ -4,6 +4,7 @@
 #include "client/kirv_account_log_window.h"
 #include "client/kirv_login_test_dialog.h"
 #include "client/kirv_report_window.h"
+#include "client/kirv_window_front.h"
 #include "core/accounts/kirv_account_collection.h"
 
 KirvAccountHelp::KirvAccountHelp(const KirvAccountCollection &accounts, const KirvPluginLoader &plugins,
@@ -29,20 +30,12 @@ Window *KirvAccountHelp::openWindow(const KirvAccountKey &account) const
     return nullptr;
 }
 
-void KirvAccountHelp::open(QDialog *opened)
-{
-    opened->setAttribute(Qt::WA_DeleteOnClose);
-    opened->show();
-    opened->raise();
-    opened->activateWindow();
-}
-
 void KirvAccountHelp::testLogin(const KirvAccount *account)
 {
     if (!account || !account->protocol())
         return;
     KirvLoginTestDialog *dialog = openWindow<KirvLoginTestDialog>(account->key());
-    open(dialog ? dialog : new KirvLoginTestDialog(*account, window));
+    kirvOpenInFront(dialog ? dialog : new KirvLoginTestDialog(*account, window));
 }
 
 void KirvAccountHelp::showLog(KirvAccount *account)
@@ -54,12 +47,12 @@ void KirvAccountHelp::showLog(KirvAccount *account)
         log = new KirvAccountLogWindow(*account, window);
         connect(log, &KirvAccountLogWindow::reportRequested, this, &KirvAccountHelp::showReport);
     }
-    open(log);
+    kirvOpenInFront(log);
 }
 
 void KirvAccountHelp::showReport(const KirvAccountKey &account)
 {
-    open(new KirvReportWindow(KirvReport(accounts, plugins), account, window));
+    kirvOpenInFront(new KirvReportWindow(KirvReport(accounts, plugins), account, window));
 }
 
 void KirvAccountHelp::closeWindowsOf(const QString &protocol)

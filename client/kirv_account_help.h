@@ -33,7 +33,6 @@ public:
 private:
     template <typename Window>
     Window *openWindow(const KirvAccountKey &account) const;
-    static void open(QDialog *window);
     void closeWindowsOf(const KirvAccountKey &account);
 
     const KirvAccountCollection &accounts;

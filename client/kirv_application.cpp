@@ -10,9 +10,9 @@
 
 #include <cstdio>
 
-static void initializeResources()
+void KirvApplication::initializeResources()
 {
-    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
+    Q_INIT_RESOURCE(kirv_client);
 }
 
 KirvApplication::KirvApplication(int &argc, char **argv)

@@ -13,6 +13,9 @@ public:
 
     /// What of it a program without windows has, too: name, version and language.
     static void prepare(QCoreApplication &application);
+    /// Makes the client's icons and texts known, which a static library leaves out otherwise. For programs and tests
+    /// whose application is another one.
+    static void initializeResources();
     /// Whether windows can be seen, and answered, by anybody.
     static bool hasDisplay();
     /// Whether a program that is started with \a arguments can be expected to find a display. Needs no application.

@@ -2,6 +2,7 @@
 #include "client/kirv_certificate_question.h"
 
 #include "client/kirv_plain_text.h"
+#include "client/kirv_text_label.h"
 #include "client/kirv_wrapped_text.h"
 #include "core/accounts/kirv_account.h"
 #include "core/ui/kirv_form_area.h"
@@ -25,15 +26,6 @@ QString inLines(const QString &fingerprint)
     QString lines = fingerprint;
     const int place = 3 * bytesInALine;
     return lines.size() > place ? lines.insert(place, QLatin1Char('\n')) : lines;
-}
-
-QLabel *createLabel(const char *name, const QString &text, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
 }
 
 } // namespace
@@ -67,7 +59,7 @@ QWidget *KirvCertificateQuestion::createPage(const KirvAccount &account)
     const auto kind = questionKind == ToTrust ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation;
     icon->setPixmap(style()->standardIcon(kind, nullptr, this).pixmap(edge, edge));
 
-    QLabel *title = createLabel("CertificateQuestion_Heading", heading(account), page);
+    QLabel *title = kirvCreateText("CertificateQuestion_Heading", heading(account), page);
     QFont bold = title->font();
     bold.setBold(true);
     title->setFont(bold);
@@ -80,8 +72,8 @@ QWidget *KirvCertificateQuestion::createPage(const KirvAccount &account)
     texts->addWidget(title);
     texts->addWidget(problems);
     if (questionKind == ToTrust)
-        texts->addWidget(createLabel("CertificateQuestion_Risk",
-                                     tr("Somebody between you and the server could read your password."), page));
+        texts->addWidget(kirvCreateText("CertificateQuestion_Risk",
+                                        tr("Somebody between you and the server could read your password."), page));
     auto *top = new QHBoxLayout;
     top->addWidget(icon, 0, Qt::AlignTop);
     top->addLayout(texts, 1);

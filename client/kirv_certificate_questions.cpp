@@ -2,6 +2,7 @@
 #include "client/kirv_certificate_questions.h"
 
 #include "client/kirv_certificate_question.h"
+#include "client/kirv_window_front.h"
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
 
@@ -43,8 +44,7 @@ void KirvCertificateQuestions::show(const KirvAccount *account)
     const KirvServerCertificate refused = refusedCertificate(*account);
     const KirvServerCertificate certificate = refused.isNull() ? trustedCertificate(*account) : refused;
     if (question && question->key() == account->key()) {
-        question->raise();
-        question->activateWindow();
+        kirvBringToFront(question);
         return;
     }
     if (question || certificate.isNull())

@@ -25,6 +25,7 @@
 #include "client/kirv_visible_boxes.h"
 #include "client/kirv_wheel_guard.h"
 #include "client/kirv_window_companions.h"
+#include "client/kirv_window_front.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_network_watch.h"
@@ -42,11 +43,6 @@
 #include <QTreeView>
 
 #include <utility>
-
-static void initializeResources()
-{
-    Q_INIT_RESOURCE(kirv_client); // a static library's resources are left out unless initialized
-}
 
 namespace {
 const int logOutMilliseconds = 3000;
@@ -71,7 +67,7 @@ KirvClient::KirvClient(const KirvClientOptions &options, QObject *parent)
     , options(options)
     , unopenedLink(options.link)
 {
-    initializeResources();
+    KirvApplication::initializeResources();
 }
 
 KirvClient::~KirvClient()
@@ -321,9 +317,7 @@ void KirvClient::show(const KirvAccountLink &link)
         if (!front)
             continue;
         front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
-        front->show();
-        front->raise();
-        front->activateWindow();
+        kirvBringToFront(front);
     }
     if (link.isTooLong)
         return refuseLongLink();

@@ -5,6 +5,7 @@
 #include "client/kirv_button_flow.h"
 #include "client/kirv_left_out.h"
 #include "client/kirv_plain_text.h"
+#include "client/kirv_text_label.h"
 #include "client/kirv_wrapped_text.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_main_account.h"
@@ -35,15 +36,6 @@
 namespace {
 
 const int comfortableWidth = 65; // in average characters
-
-QLabel *createText(const char *name, const QString &text, QWidget *parent)
-{
-    auto *label = new QLabel(text, parent);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
 
 QLabel *createLabel(const QString &text, QLineEdit *line, QWidget *parent)
 {
@@ -123,13 +115,13 @@ QWidget *KirvExportWindow::createPassPhrase()
     place->setObjectName(QStringLiteral("ExportAccounts_PassPhrasePlace"));
     passPhraseLine = createPassPhraseLine("ExportAccounts_PassPhrase");
     repetitionLine = createPassPhraseLine("ExportAccounts_Repetition");
-    auto *advice = createText(
+    auto *advice = kirvCreateText(
         "ExportAccounts_Advice",
         tr("Several words that are not related are easy to remember and hard to guess. Whoever has the file and "
            "guesses the pass phrase has your passwords; without it, nobody can read them, not even you."),
         place);
     passPhraseLine->setAccessibleDescription(advice->text());
-    problem = createText("ExportAccounts_Problem", QString(), place);
+    problem = kirvCreateText("ExportAccounts_Problem", QString(), place);
     auto *lines = new QWidget(place);
     auto *form = new QFormLayout(lines);
     form->setContentsMargins(0, 0, 0, 0);

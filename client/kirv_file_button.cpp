@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_file_button.h"
 
+#include "client/kirv_window_front.h"
 #include "core/ui/kirv_field_form.h"
 #include "core/values/kirv_local_path.h"
 
@@ -33,8 +34,7 @@ KirvFileButton::KirvFileButton(QLineEdit *line, QWidget *parent)
 void KirvFileButton::choose()
 {
     if (dialog) {
-        dialog->raise();
-        dialog->activateWindow();
+        kirvBringToFront(dialog);
         return;
     }
     const QFileInfo present(kirvLocalPath(line->text()));

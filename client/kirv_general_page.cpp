@@ -4,6 +4,7 @@
 #include "client/kirv_button_flow.h"
 #include "client/kirv_damaged_profile.h"
 #include "client/kirv_secret_texts.h"
+#include "client/kirv_text_label.h"
 #include "client/kirv_translations.h"
 #include "client/kirv_wrapped_text.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -50,11 +51,8 @@ KirvGeneralPage::KirvGeneralPage(KirvAccountCollection &accounts, const KirvTran
 
 QLabel *KirvGeneralPage::createText(const char *name, QWidget *parent)
 {
-    auto *label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
+    QLabel *label = kirvCreateText(name, QString(), parent);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setWordWrap(true);
     return label;
 }
 

@@ -2,6 +2,7 @@
 #include "client/kirv_moving_windows.h"
 
 #include "client/kirv_export_window.h"
+#include "client/kirv_window_front.h"
 #include "core/moving/kirv_moving_file.h"
 #include "core/moving/kirv_pidgin_file.h"
 
@@ -14,27 +15,19 @@ KirvMovingWindows::KirvMovingWindows(const KirvImportWindow::Environment &enviro
 {
 }
 
-void KirvMovingWindows::open(QDialog *opened)
-{
-    opened->setAttribute(Qt::WA_DeleteOnClose);
-    opened->show();
-    opened->raise();
-    opened->activateWindow();
-}
-
 void KirvMovingWindows::exportAccounts(const QList<KirvAccountKey> &chosen)
 {
     if (!exportWindow || !exportWindow->isVisible())
         exportWindow = new KirvExportWindow(environment.accounts, environment.mainAccount, chosen, window);
     else if (!chosen.isEmpty())
         exportWindow->check(chosen);
-    open(exportWindow);
+    kirvOpenInFront(exportWindow);
 }
 
 void KirvMovingWindows::importAccounts()
 {
     if (importWindow && importWindow->isVisible()) {
-        open(importWindow);
+        kirvOpenInFront(importWindow);
         return;
     }
     if (!fileDialog) {
@@ -53,7 +46,7 @@ void KirvMovingWindows::importFrom(const QString &path)
         connect(importWindow, &KirvImportWindow::partLeftOut, this, &KirvMovingWindows::problemOccurred);
     }
     importWindow->read(path);
-    open(importWindow);
+    kirvOpenInFront(importWindow);
 }
 
 void KirvMovingWindows::protocolsChanged()

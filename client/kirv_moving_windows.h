@@ -42,8 +42,6 @@ Q_SIGNALS:
     void problemOccurred(const QString &text);
 
 private:
-    static void open(QDialog *window);
-
     const KirvImportWindow::Environment environment;
     QWidget *const window;
     KirvBackgroundJob look;

@@ -3,6 +3,7 @@
 
 #include "client/kirv_plain_text.h"
 #include "client/kirv_remember_box.h"
+#include "client/kirv_text_label.h"
 #include "core/accounts/kirv_account.h"
 #include "core/ui/kirv_length_limit.h"
 
@@ -32,16 +33,6 @@ QString reasonOf(const KirvAccount &account)
         : KirvPasswordDialog::tr("The password is not remembered, so it is needed when the account logs in.");
 }
 
-QLabel *createText(const QString &name, const QString &text, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setText(text);
-    return label;
-}
-
 } // namespace
 
 KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *parent)
@@ -57,9 +48,9 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
 
     //: %1 = name of an account, %2 = its protocol
     const QString request = tr("Enter the password of the account %1 (%2).");
-    auto *question = createText(QStringLiteral("PasswordQuestion_Text"),
-                                kirvPlainName(request.arg(account.displayName(), account.key().protocol)), this);
-    auto *reason = createText(QStringLiteral("PasswordQuestion_Reason"), reasonOf(account), this);
+    auto *question = kirvCreateText("PasswordQuestion_Text",
+                                    kirvPlainName(request.arg(account.displayName(), account.key().protocol)), this);
+    auto *reason = kirvCreateText("PasswordQuestion_Reason", reasonOf(account), this);
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));
     passwordEdit->setAccessibleName(tr("Password"));

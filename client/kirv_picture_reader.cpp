@@ -1,32 +1,29 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_picture_reader.h"
 
-#include <QThreadPool>
-
-KirvPictureReader::~KirvPictureReader()
+void KirvPictureReader::read(const QList<Source> &newSources, int newLargestSide)
 {
-    cancel();
+    sources = newSources;
+    largestSide = newLargestSide;
+    reading.drop();
+    readFrom(0);
 }
 
-void KirvPictureReader::read(const QList<Source> &sources, int largestSide)
+void KirvPictureReader::readFrom(int index)
 {
-    cancel();
-    if (sources.isEmpty())
+    if (index >= sources.size())
         return;
-    qRegisterMetaType<KirvBoundedImage>("KirvBoundedImage");
-    isWanted = std::make_shared<std::atomic<bool>>(true);
-    auto *reading = new KirvPictureReading(sources, largestSide, isWanted);
-    const auto forward = [this, wanted = isWanted](int index, const KirvBoundedImage &picture) {
-        if (*wanted)
-            Q_EMIT pictureRead(index, picture);
+    const auto work = [source = sources.at(index), side = largestSide](const KirvBackgroundJob::Flag &) {
+        return KirvBoundedImage::fromData(source.first, source.second, side);
     };
-    connect(reading, &KirvPictureReading::pictureRead, this, forward, Qt::QueuedConnection);
-    QThreadPool::globalInstance()->start(reading);
+    reading.run<KirvBoundedImage>(work, [this, index](const KirvBoundedImage &picture) {
+        readFrom(index + 1);
+        Q_EMIT pictureRead(index, picture); // a slot may cancel, read others, or destroy this
+    });
 }
 
 void KirvPictureReader::cancel()
 {
-    if (isWanted)
-        *isWanted = false;
-    isWanted.reset();
+    reading.drop();
+    sources.clear();
 }

@@ -2,6 +2,7 @@
 #include "client/kirv_report_window.h"
 
 #include "client/kirv_button_flow.h"
+#include "client/kirv_text_label.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -49,10 +50,8 @@ KirvReportWindow::KirvReportWindow(const KirvReport &report, const KirvAccountKe
 
 void KirvReportWindow::arrange()
 {
-    auto *introduction = new QLabel(tr("Passwords are left out. Read the report before you give it to anybody."), this);
-    introduction->setObjectName(QStringLiteral("Report_Introduction"));
-    introduction->setTextFormat(Qt::PlainText);
-    introduction->setWordWrap(true);
+    QLabel *introduction = kirvCreateText(
+        "Report_Introduction", tr("Passwords are left out. Read the report before you give it to anybody."), this);
     auto *copy = new QPushButton(tr("&Copy"), this);
     copy->setObjectName(QStringLiteral("Report_Copy"));
     connect(copy, &QPushButton::clicked, this, [this] { QApplication::clipboard()->setText(text->toPlainText()); });

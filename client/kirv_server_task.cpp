@@ -3,6 +3,7 @@
 
 #include "client/kirv_plain_text.h"
 #include "client/kirv_server_assistant.h"
+#include "client/kirv_window_front.h"
 #include "core/accounts/kirv_account_collection.h"
 
 KirvServerTask::KirvServerTask(std::unique_ptr<KirvServerRequest> newRequest, KirvProtocolBase *protocol,
@@ -34,9 +35,7 @@ void KirvServerTask::show(QWidget *window)
         createAssistant(window);
     if (isFirst && request)
         request->start();
-    assistant->show();
-    assistant->raise();
-    assistant->activateWindow();
+    kirvBringToFront(assistant);
 }
 
 void KirvServerTask::createAssistant(QWidget *window)

@@ -4,6 +4,7 @@
 #include "core/accounts/kirv_account_log.h"
 #include "core/accounts/kirv_secret_keeper.h"
 #include "core/protocol/kirv_plugin_call.h"
+#include "core/protocol/kirv_same_value.h"
 #include "core/store/kirv_store.h"
 #include "core/values/kirv_text_limit.h"
 
@@ -20,7 +21,7 @@ bool isSame(const std::optional<KirvPresence> &left, const std::optional<KirvPre
 {
     if (!left || !right)
         return left.has_value() == right.has_value();
-    return left->getId() == right->getId() && left->getDescription() == right->getDescription();
+    return kirvIsSamePresence(*left, *right);
 }
 
 } // namespace

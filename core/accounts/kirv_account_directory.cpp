@@ -2,17 +2,9 @@
 #include "core/accounts/kirv_account_directory.h"
 
 #include "core/protocol/kirv_connection.h"
+#include "core/protocol/kirv_same_value.h"
 
 #include <algorithm>
-
-namespace {
-
-bool hasSameValue(const KirvField &left, const KirvField &right)
-{
-    return left.getText() == right.getText() && left.isChecked() == right.isChecked();
-}
-
-} // namespace
 
 KirvAccountDirectory::KirvAccountDirectory(QObject *parent)
     : QObject(parent)
@@ -97,7 +89,7 @@ QList<KirvField> KirvAccountDirectory::changes(const QList<KirvField> &fields, c
         const auto before = std::find_if(base.begin(), base.end(), [&field](const KirvField &candidate) {
             return candidate.getId() == field.getId();
         });
-        if (before == base.end() || !hasSameValue(*before, field) || uncertain.contains(field.getId()))
+        if (before == base.end() || !kirvHasSameValue(*before, field) || uncertain.contains(field.getId()))
             changed << field;
     }
     return changed;

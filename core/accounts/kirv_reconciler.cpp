@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_reconciler.h"
 
+#include "core/protocol/kirv_same_value.h"
+
 #include <utility>
-
-namespace {
-
-bool isSame(const KirvPresence &left, const KirvPresence &right)
-{
-    return left.getId() == right.getId() && left.getDescription() == right.getDescription();
-}
-
-} // namespace
 
 KirvReconciler::KirvReconciler(std::function<Wanted()> wanted, KirvLoginQueue &logins, KirvReconcilerQueue &turns,
                                QObject *parent)
@@ -83,7 +76,7 @@ KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvCo
         return state == KirvConnection::Offline || isLeaving ? Nothing : LogOut;
     }
     const bool isOtherLogin = connection.login() != wanted.login;
-    const bool isOtherPresence = !isSame(connection.presence(), wanted.presence);
+    const bool isOtherPresence = !kirvIsSamePresence(connection.presence(), wanted.presence);
     switch (state) {
     case KirvConnection::Offline: {
         const bool gaveUp = connection.lastFailure().isFailure();

@@ -2,19 +2,11 @@
 #include "core/protocol/kirv_connection_p.h"
 
 #include "core/protocol/kirv_plugin_call.h"
+#include "core/protocol/kirv_same_value.h"
 
 #include <QPointer>
 #include <algorithm>
 #include <utility>
-
-namespace {
-
-bool isSame(const KirvPresence &left, const KirvPresence &right)
-{
-    return left.getId() == right.getId() && left.getDescription() == right.getDescription();
-}
-
-} // namespace
 
 /// Enters \a next and emits it. False when a slot has moved the connection on or destroyed it (and this object with
 /// it): there is nothing left to do then.
@@ -413,7 +405,7 @@ void KirvConnection::loginSucceeded()
         return;
     d->finishSteps();
     d->lastFailure = KirvFailure();
-    if (d->enter(Online) && !isSame(d->applied, d->wanted))
+    if (d->enter(Online) && !kirvIsSamePresence(d->applied, d->wanted))
         changePresence(d->wanted);
 }
 

@@ -2,6 +2,7 @@
 #include "core/store/kirv_secret_item_table.h"
 
 #include "core/store/kirv_database.h"
+#include "core/store/kirv_setting_rows.h"
 
 #include <algorithm>
 
@@ -132,53 +133,31 @@ bool KirvSecretItemTable::keep(const QStringList &keys, QStringList *kept, bool 
     return true;
 }
 
-namespace {
-
-bool writeSetting(KirvDatabase &database, const QString &key, const QString &value)
-{
-    return database.run(QStringLiteral("INSERT INTO setting (key, value) VALUES (?, ?) "
-                                       "ON CONFLICT (key) DO UPDATE SET value = excluded.value"),
-                        { key, value })
-        != nullptr;
-}
-
-QVariant readSetting(KirvDatabase &database, const QString &key)
-{
-    return database.valueOf(QStringLiteral("SELECT value FROM setting WHERE key = ?"), { key });
-}
-
-bool forgetSetting(KirvDatabase &database, const QString &key)
-{
-    return database.run(QStringLiteral("DELETE FROM setting WHERE key = ?"), { key }) != nullptr;
-}
-
-} // namespace
-
 bool KirvSecretItemTable::noteMoved(int secrets)
 {
     return secrets == 0
-        || (writeSetting(database, kirvMovedSetting, QString::number(movedCount() + secrets))
-            && writeSetting(database, kirvTracesSetting, QStringLiteral("1")));
+        || (kirvWriteSettingRow(database, kirvMovedSetting, QString::number(movedCount() + secrets))
+            && kirvWriteSettingRow(database, kirvTracesSetting, QStringLiteral("1")));
 }
 
 int KirvSecretItemTable::movedCount()
 {
-    return readSetting(database, kirvMovedSetting).toInt();
+    return kirvReadSettingRow(database, kirvMovedSetting).toInt();
 }
 
 bool KirvSecretItemTable::forgetMoved()
 {
-    return forgetSetting(database, kirvMovedSetting);
+    return kirvRemoveSettingRow(database, kirvMovedSetting);
 }
 
 bool KirvSecretItemTable::hasTraces()
 {
-    return readSetting(database, kirvTracesSetting).isValid();
+    return kirvReadSettingRow(database, kirvTracesSetting).isValid();
 }
 
 bool KirvSecretItemTable::forgetTraces()
 {
-    return forgetSetting(database, kirvTracesSetting);
+    return kirvRemoveSettingRow(database, kirvTracesSetting);
 }
 
 bool KirvSecretItemTable::makeObsolete(const QStringList &keys)

@@ -9,6 +9,7 @@
 #include "core/store/kirv_profile_copies.h"
 #include "core/store/kirv_profile_lock.h"
 #include "core/store/kirv_profile_opening.h"
+#include "core/store/kirv_setting_rows.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -426,17 +427,13 @@ bool KirvStore::forgetSecretItems(const QStringList &keys)
 QString KirvStore::readSetting(const QString &key, const QString &fallback)
 {
     d->database.clearError();
-    const QVariant value = d->database.valueOf(QStringLiteral("SELECT value FROM setting WHERE key = ?"), { key });
+    const QVariant value = kirvReadSettingRow(d->database, key);
     return value.isValid() ? value.toString() : fallback;
 }
 
 bool KirvStore::writeSetting(const QString &key, const QString &value)
 {
-    return d->change([&] {
-        return d->database.execute(QStringLiteral("INSERT INTO setting (key, value) VALUES (?, ?) "
-                                                  "ON CONFLICT (key) DO UPDATE SET value = excluded.value"),
-                                   { key, value });
-    });
+    return d->change([&] { return kirvWriteSettingRow(d->database, key, value); });
 }
 
 bool KirvStore::begin()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "protocols/xmpp/kirv_xmpp_registration_form.h"
 
+#include "core/protocol/kirv_same_value.h"
 #include "protocols/xmpp/kirv_xmpp_fields.h"
 #include "protocols/xmpp/kirv_xmpp_xml.h"
 
@@ -74,11 +75,6 @@ QString text(const QDomElement &parent, const QString &name)
 bool isTrue(const QString &value)
 {
     return value == QLatin1String("1") || value == QLatin1String("true");
-}
-
-bool hasSameValue(const KirvField &left, const KirvField &right)
-{
-    return left.getText() == right.getText() && left.isChecked() == right.isChecked();
 }
 
 bool isBlank(const KirvField &field)
@@ -222,8 +218,8 @@ QList<KirvField> KirvXmppRegistrationForm::fieldsWith(const QList<KirvField> &fi
             const KirvField *typed = kirvXmppFind(filled, field.getId());
             const KirvField *suggested = kirvXmppFind(before, field.getId());
             const bool isOfSameKind = typed && typed->getKind() == field.getKind();
-            const bool isTyped =
-                isOfSameKind && field.getKind() != KirvField::Label && !(suggested && hasSameValue(*typed, *suggested));
+            const bool isTyped = isOfSameKind && field.getKind() != KirvField::Label
+                && !(suggested && kirvHasSameValue(*typed, *suggested));
             if (isTyped && !entry.hasPicture) {
                 field.setText(typed->getText());
                 field.setChecked(typed->isChecked());

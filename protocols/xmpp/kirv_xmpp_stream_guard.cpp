@@ -15,11 +15,6 @@ QByteArray withoutPrefix(const QByteArray &name)
     return name.mid(name.indexOf(':') + 1);
 }
 
-bool isSpace(char byte)
-{
-    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
-}
-
 } // namespace
 
 KirvXmppStreamGuard::KirvXmppStreamGuard(Filter isUsed)
@@ -70,7 +65,7 @@ KirvXmppStreamGuard::Piece KirvXmppStreamGuard::take()
     while (phase != Over && position < unread.size()) {
         if (phase == AwaitsEncryption) {
             // What comes in clear now would count as encrypted later.
-            if (!isSpace(unread.at(position++)))
+            if (!KirvXmppTokenizer::isSpace(unread.at(position++)))
                 return endWith(Forbidden);
             continue;
         }

@@ -12,15 +12,10 @@ const quint32 hashStart = 2166136261U; // FNV-1a
 const quint32 hashFactor = 16777619U;
 const QByteArray characterDataStart = QByteArrayLiteral("[CDATA[");
 
-bool isSpace(char byte)
-{
-    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
-}
-
 /// Whether \a byte may stand in a name. Which letters beyond ASCII may is left to whoever uses the name.
 bool isOfName(char byte)
 {
-    return !isSpace(byte) && !strchr("<>/=\"'&", byte);
+    return !KirvXmppTokenizer::isSpace(byte) && !strchr("<>/=\"'&", byte);
 }
 
 bool startsName(char byte)

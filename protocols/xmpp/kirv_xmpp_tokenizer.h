@@ -27,6 +27,9 @@ public:
     static constexpr int longestName = 128; ///< of what name() and attributeName() keep, in bytes
     static constexpr int longestValue = 4096; ///< of what attributeValue() keeps, in bytes
 
+    /// Whether XML takes \a byte for white space.
+    static bool isSpace(char byte) { return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r'; }
+
     /// A new stream begins.
     void reset() { *this = KirvXmppTokenizer(); }
     /// Reads \a bytes from \a position to the end of the next token, and moves \a position there.
