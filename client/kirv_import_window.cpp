@@ -5,8 +5,11 @@
 #include "client/kirv_button_flow.h"
 #include "client/kirv_left_out.h"
 #include "client/kirv_plain_text.h"
+#include "client/kirv_secret_texts.h"
 #include "client/kirv_wrapped_text.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_fields.h"
+#include "core/accounts/kirv_secret_keeper.h"
 #include "core/moving/kirv_moving_file.h"
 #include "core/ui/kirv_form_area.h"
 #include "core/ui/kirv_length_limit.h"
@@ -208,14 +211,31 @@ void KirvImportWindow::take(const Found &found)
     } else {
         passPhraseLine->clear();
         moved = found.result.accounts;
-        //: %1 = path of a file
-        showText(moved.accounts.isEmpty() ? tr("The file %1 contains no accounts that can be imported.").arg(shownPath)
-                                          //: %1 = path of a file
-                                          : tr("The file %1 contains these accounts. Nothing is changed before you "
-                                               "import them, and the import can be undone.")
-                                                .arg(shownPath));
         list();
     }
+}
+
+/// What is above the list. A file whose passwords are imported says nothing about where they go.
+QString KirvImportWindow::listingText() const
+{
+    const QString shownPath = kirvPlainName(QDir::toNativeSeparators(path));
+    if (moved.accounts.isEmpty()) {
+        //: %1 = path of a file
+        return tr("The file %1 contains no accounts that can be imported.").arg(shownPath);
+    }
+    //: %1 = path of a file
+    const QString sentence = tr("The file %1 contains these accounts. Nothing is changed before you import them, and "
+                                "the import can be undone.")
+                                 .arg(shownPath);
+    const auto hasSecrets = [](const KirvMovedAccount &account) {
+        const QSet<QString> fields = kirvSecretFieldsOf(account.record);
+        return std::any_of(fields.begin(), fields.end(),
+                           [&account](const QString &field) { return !kirvSecretOf(account.record, field).isEmpty(); });
+    };
+    const KirvSecretTexts secrets(environment.accounts.secrets());
+    const bool isSaid =
+        secrets.isRememberingUnsafe() && std::any_of(moved.accounts.begin(), moved.accounts.end(), hasSecrets);
+    return isSaid ? sentence + QLatin1Char(' ') + secrets.state() : sentence;
 }
 
 void KirvImportWindow::showText(const QString &newText)
@@ -302,6 +322,7 @@ void KirvImportWindow::list()
         shown << KirvAccountCheckList::Row { row.key, row.name, row.isTaken, !row.problem.isEmpty(), { stateOf(row) } };
     }
     rows->setRows(shown);
+    showText(listingText());
     leftOut->showText(leftOutText());
     setState(Listing);
 }

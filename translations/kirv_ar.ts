@@ -254,6 +254,11 @@
         <extracomment>%1 = time of day</extracomment>
         <translation>المحاولة التالية في الساعة %1</translation>
     </message>
+    <message>
+        <source>A password could not be stored. It is used until the program ends. %1</source>
+        <extracomment>%1 = the reason, a sentence</extracomment>
+        <translation>تعذّر تخزين كلمة سر. تُستعمل إلى أن ينتهي البرنامج. %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
@@ -2384,6 +2389,7 @@ A file is called - where the standard output or input is meant.</source>
     </message>
     <message>
         <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
+        <extracomment>%1 = path of a file</extracomment>
         <translation>هذه هي الحسابات التي في الملف ‎%1. لا يُغيَّر شيء قبل أن تستوردها، ويمكن التراجع عن الاستيراد.</translation>
     </message>
     <message>

@@ -254,6 +254,11 @@
         <extracomment>%1 = time of day</extracomment>
         <translation>der nächste Versuch ist um %1</translation>
     </message>
+    <message>
+        <source>A password could not be stored. It is used until the program ends. %1</source>
+        <extracomment>%1 = the reason, a sentence</extracomment>
+        <translation>Ein Passwort konnte nicht gespeichert werden. Es wird verwendet, bis das Programm beendet wird. %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
@@ -2328,6 +2333,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
+        <extracomment>%1 = path of a file</extracomment>
         <translation>Diese Konten sind in der Datei %1. Nichts wird geändert, bevor Sie sie importieren, und der Import kann rückgängig gemacht werden.</translation>
     </message>
     <message>

@@ -254,6 +254,11 @@
         <extracomment>%1 = time of day</extracomment>
         <translation>próximo intento a las %1</translation>
     </message>
+    <message>
+        <source>A password could not be stored. It is used until the program ends. %1</source>
+        <extracomment>%1 = the reason, a sentence</extracomment>
+        <translation>No se pudo guardar una contraseña. Se usa hasta que termine el programa. %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
@@ -426,7 +431,7 @@
     </message>
     <message>
         <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
-        <translation>La cuenta «%1» (%2) tiene textos que no se pueden exportar.</translation>
+        <translation>La cuenta «%1» (%2) tiene textos o una imagen que no se pueden exportar.</translation>
     </message>
     <message>
         <source>There is not enough memory to encrypt the passwords.</source>
@@ -2328,6 +2333,7 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     </message>
     <message>
         <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
+        <extracomment>%1 = path of a file</extracomment>
         <translation>Estas cuentas están en el archivo %1. No se cambia nada hasta que las importe, y la importación se puede deshacer.</translation>
     </message>
     <message>

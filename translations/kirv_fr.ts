@@ -254,6 +254,11 @@
         <extracomment>%1 = time of day</extracomment>
         <translation>prochain essai à %1</translation>
     </message>
+    <message>
+        <source>A password could not be stored. It is used until the program ends. %1</source>
+        <extracomment>%1 = the reason, a sentence</extracomment>
+        <translation>Un mot de passe n’a pas pu être enregistré. Il est utilisé jusqu’à la fin du programme. %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
@@ -2328,6 +2333,7 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     </message>
     <message>
         <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
+        <extracomment>%1 = path of a file</extracomment>
         <translation>Ces comptes sont dans le fichier %1. Rien n’est modifié avant que vous ne les importiez, et l’importation peut être annulée.</translation>
     </message>
     <message>

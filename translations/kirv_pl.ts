@@ -254,6 +254,11 @@
         <extracomment>%1 = time of day</extracomment>
         <translation>następna próba o %1</translation>
     </message>
+    <message>
+        <source>A password could not be stored. It is used until the program ends. %1</source>
+        <extracomment>%1 = the reason, a sentence</extracomment>
+        <translation>Nie udało się zapisać hasła. Będzie używane do zakończenia programu. %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
@@ -427,7 +432,7 @@
     </message>
     <message>
         <source>The account &quot;%1&quot; (%2) has texts or a picture that cannot be exported.</source>
-        <translation>Konto „%1” (%2) zawiera teksty, których nie można wyeksportować.</translation>
+        <translation>Konto „%1” (%2) zawiera teksty lub obraz, których nie można wyeksportować.</translation>
     </message>
     <message>
         <source>There is not enough memory to encrypt the passwords.</source>
@@ -2342,6 +2347,7 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     </message>
     <message>
         <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
+        <extracomment>%1 = path of a file</extracomment>
         <translation>W pliku %1 są następujące konta. Dopóki ich nie zaimportujesz, nic się nie zmieni, a import można cofnąć.</translation>
     </message>
     <message>

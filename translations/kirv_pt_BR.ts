@@ -254,6 +254,11 @@
         <extracomment>%1 = time of day</extracomment>
         <translation>próxima tentativa às %1</translation>
     </message>
+    <message>
+        <source>A password could not be stored. It is used until the program ends. %1</source>
+        <extracomment>%1 = the reason, a sentence</extracomment>
+        <translation>Não foi possível armazenar uma senha. Ela é usada até o programa ser encerrado. %1</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountActionsMenu</name>
@@ -2328,6 +2333,7 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     </message>
     <message>
         <source>The file %1 contains these accounts. Nothing is changed before you import them, and the import can be undone.</source>
+        <extracomment>%1 = path of a file</extracomment>
         <translation>Estas contas estão no arquivo %1. Nada é alterado antes que você as importe, e a importação pode ser desfeita.</translation>
     </message>
     <message>

@@ -107,7 +107,7 @@ bool KirvAccount::store()
         unstoredPassword = false;
         current = placed;
         awaited.intersect(current.unreadSecrets);
-        if (current.secretItems != recordBefore.secretItems)
+        if (current.secretItems != recordBefore.secretItems || keeper.hasUnstoredSecret())
             keeper.scheduleLoad();
         return true;
     }

@@ -127,10 +127,15 @@ public:
     void secretFailed(const QString &field);
     /// The profile says where it is: in \a item.
     void secretPlaced(const QString &field, const KirvSecretItem &item);
-    void keepSecretInProfile(const QString &field);
+    /// False when the profile refuses: it stays known until the program ends.
+    bool keepSecretInProfile(const QString &field);
     void secretStateChanged();
+    /// Whether the account logs in with what it knows when \a field cannot be read.
+    bool canDoWithout(const QString &field) const;
     /// One that was changed could not be kept; \a reason is what the keyring says, and may be empty.
     void reportUnkeptSecret(const QString &reason);
+    /// One for which there is no keyring could not be stored, because of \a reason.
+    void reportUnstoredSecret(const QString &reason);
 
     // For the collection.
 

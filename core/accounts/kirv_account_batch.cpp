@@ -3,7 +3,7 @@
 #include "core/accounts/kirv_account_batch.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "core/accounts/kirv_account_fields.h"
-#include "core/accounts/kirv_open_settings.h"
+#include "core/accounts/kirv_secret_destination.h"
 #include "core/store/kirv_settings_table.h"
 #include "core/store/kirv_store.h"
 
@@ -15,11 +15,12 @@ namespace {
 
 /// The secrets before count until the keyring has those that replace them, as the program may end meanwhile. They are
 /// for the server before, though, and go to no other.
-bool storeReplacement(KirvStore &store, const KirvAccountRecord &before, const KirvAccountRecord &record)
+bool storeReplacement(KirvStore &store, const KirvAccountRecord &before, const KirvAccountRecord &record,
+                      KirvProtocolBase *protocol)
 {
     if (!store.updateAccount(record))
         return false;
-    if (kirvOpenSettings(record) == kirvOpenSettings(before))
+    if (kirvSecretDestination(record, protocol) == kirvSecretDestination(before, protocol))
         return true;
     QStringList obsolete;
     for (auto item = record.secretItems.constBegin(); item != record.secretItems.constEnd(); ++item) {
@@ -172,7 +173,7 @@ bool KirvAccountCollection::storeBatch(const KirvAccountBatch &batch, const Plac
         return false;
     const auto insert = [this](const KirvAccountRecord &record) { return store.insertAccount(record); };
     const auto update = [this](const KirvAccountRecord &record) {
-        return storeReplacement(store, find(record.key)->record(), record);
+        return storeReplacement(store, find(record.key)->record(), record, protocol(record.key.protocol));
     };
     const auto remove = [this](const KirvAccount *account) { return store.removeAccount(account->key()); };
     if (std::all_of(placed.added.begin(), placed.added.end(), insert) && storeOrder(placed)

@@ -92,9 +92,14 @@ void KirvAccount::secretMissing(const QString &field)
     noLongerAwait(field);
 }
 
+bool KirvAccount::canDoWithout(const QString &field) const
+{
+    return !current.unreadSecrets.contains(field) || (field.isEmpty() && usesPasswordForNow());
+}
+
 void KirvAccount::secretFailed(const QString &field)
 {
-    if (!current.unreadSecrets.contains(field) || (field.isEmpty() && usesPasswordForNow()))
+    if (canDoWithout(field))
         noLongerAwait(field); // with what was known before
 }
 
@@ -105,18 +110,28 @@ void KirvAccount::secretPlaced(const QString &field, const KirvSecretItem &item)
         recordBefore.secretItems.insert(field, item);
 }
 
-void KirvAccount::keepSecretInProfile(const QString &field)
+bool KirvAccount::keepSecretInProfile(const QString &field)
 {
     KirvAccountRecord here = current;
     here.secretItems.remove(field);
-    if (!isSaving() && profile.updateAccount(here))
-        current = here;
+    if (isSaving() || !profile.updateAccount(here))
+        return false;
+    current = here;
+    return true;
 }
 
 void KirvAccount::secretStateChanged()
 {
     if (awaitsSecrets() && !removed)
         Q_EMIT changed();
+}
+
+void KirvAccount::reportUnstoredSecret(const QString &reason)
+{
+    if (!removed)
+        Q_EMIT noticeReceived(
+            //: %1 = the reason, a sentence
+            tr("A password could not be stored. It is used until the program ends. %1").arg(reason));
 }
 
 void KirvAccount::reportUnkeptSecret(const QString &reason)

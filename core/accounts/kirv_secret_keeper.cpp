@@ -177,7 +177,7 @@ void KirvSecretKeeper::loadChanges()
 
 void KirvSecretKeeper::load()
 {
-    hasChanged = hasReplaced = false;
+    hasChanged = hasReplaced = isUnstored = false;
     writes.clear();
     removals.clear();
     newKeys.clear();
@@ -241,20 +241,33 @@ void KirvSecretKeeper::onStateChanged()
     next();
 }
 
+bool KirvSecretKeeper::belongsInProfile() const
+{
+    return secretStore && secretStore->state() == KirvSecretStore::Unavailable && !wasPresent;
+}
+
 /// What was stored before it was known that there is no keyring. A few at a time: each is a commit.
 void KirvSecretKeeper::keepInProfile()
 {
-    if (!secretStore || secretStore->state() != KirvSecretStore::Unavailable || wasPresent)
-        return;
-    for (int count = 0; count < keepSize && !writes.isEmpty(); ++count) {
-        const KirvStoredItem row = writes.takeFirst();
-        KirvAccount *account = accounts.value(row.account);
-        if (account && account->record().secretItems.value(row.field) == row.item
-            && !account->record().unreadSecrets.contains(row.field))
-            account->keepSecretInProfile(row.field);
-    }
-    if (!writes.isEmpty())
+    const QPointer<KirvSecretKeeper> alive(this);
+    for (int count = 0; alive && belongsInProfile() && count < keepSize && !writes.isEmpty(); ++count)
+        keepOneInProfile(writes.takeFirst());
+    if (alive && belongsInProfile() && !writes.isEmpty())
         QTimer::singleShot(0, this, &KirvSecretKeeper::keepInProfile);
+}
+
+/// What the profile refuses is tried again when it has stored a change of an account.
+void KirvSecretKeeper::keepOneInProfile(const KirvStoredItem &row)
+{
+    KirvAccount *account = accounts.value(row.account);
+    if (!account || account->record().secretItems.value(row.field) != row.item
+        || account->record().unreadSecrets.contains(row.field) || account->keepSecretInProfile(row.field))
+        return;
+    isUnstored = true;
+    if (reported.contains(row.item.key))
+        return;
+    reported.insert(row.item.key);
+    account->reportUnstoredSecret(store.lastError());
 }
 
 void KirvSecretKeeper::notifyAccounts()
@@ -310,6 +323,8 @@ void KirvSecretKeeper::next()
         return;
     loadChanges();
     const KirvSecretStore::State state = secretStore->state();
+    if (belongsInProfile() && !writes.isEmpty())
+        QTimer::singleShot(0, this, &KirvSecretKeeper::keepInProfile);
     if (!isPaused && state != KirvSecretStore::Ready)
         store.wipeTraces();
     if (!canBeginOperation()) {
@@ -378,7 +393,7 @@ void KirvSecretKeeper::giveUpNext()
     isGivingUpScheduled = false;
     const auto isKnown = [this](const Secret &secret) {
         const KirvAccount *account = accounts.value(secret.account);
-        return !account || !account->record().unreadSecrets.contains(secret.field);
+        return !account || account->canDoWithout(secret.field);
     };
     if (!canBeginOperation()) {
         QList<Secret> unknown;

@@ -64,6 +64,8 @@ public:
     void read(KirvAccount *account);
     /// What is stored has changed.
     void scheduleLoad();
+    /// Whether the profile has refused a secret for which there is no keyring; it is tried again by scheduleLoad().
+    bool hasUnstoredSecret() const { return isUnstored; }
     /// Leaves what stands under \a keys in the keyring as long as the result, or a copy of it, exists: an account that
     /// was removed may come back. Null when there are none.
     std::shared_ptr<const QStringList> hold(const QStringList &keys);
@@ -84,7 +86,9 @@ private:
     QString profileId();
     KirvSecretItem newItem(const KirvAccountKey &account);
     void onStateChanged();
+    bool belongsInProfile() const;
     void keepInProfile();
+    void keepOneInProfile(const KirvStoredItem &row);
     void scheduleNext();
     void next();
     void pause(const KirvSecretStore::Reply &reply);
@@ -140,6 +144,7 @@ private:
     bool hasChanged = false; ///< what is stored, since load()
     bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;
+    bool isUnstored = false;
     bool wasPresent = false; ///< there was a keyring in this run
     Obstacle notifiedObstacle = None; ///< that the accounts know of
     QList<KirvAccountKey> toNotify;

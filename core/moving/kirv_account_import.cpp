@@ -6,8 +6,7 @@
 #include "core/accounts/kirv_account_fields.h"
 #include "core/accounts/kirv_account_history.h"
 #include "core/accounts/kirv_main_account.h"
-#include "core/accounts/kirv_open_settings.h"
-#include "core/protocol/kirv_plugin_call.h"
+#include "core/accounts/kirv_secret_destination.h"
 #include "core/values/kirv_bounded_image.h"
 #include "core/values/kirv_single_line.h"
 #include "core/values/kirv_text_limit.h"
@@ -190,7 +189,7 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
         row.losesSecrets = losesSecrets(account.record, before.record);
-        if (destination(account.record) == destination(before.record)) {
+        if (hasSameDestination(account.record, before.record)) {
             keepSecrets(&account.record, before.record);
             account.record.trustedCertificate = before.record.trustedCertificate;
         }
@@ -207,33 +206,15 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
     return true;
 }
 
-/// Settings that the file lacks have their defaults, as those of an account that is added.
-KirvAccountRecord KirvAccountImport::complete(KirvAccountRecord record) const
+KirvAccountRecord KirvAccountImport::complete(const KirvAccountRecord &record) const
 {
-    KirvProtocolBase *protocol = accounts.protocol(record.key.protocol);
-    const QList<KirvField> fields = protocol->accountSettings();
-    QMap<QString, QString> settings = kirvStoredValues(fields);
-    for (auto setting = record.settings.constBegin(); setting != record.settings.constEnd(); ++setting)
-        settings.insert(setting.key(), setting.value());
-    record.settings = settings;
-    kirvClassify(record, fields);
-    if (record.defaultPresence.isEmpty())
-        record.defaultPresence = protocol->presences().first().getId();
-    return record;
+    return kirvCompleteRecord(record, *accounts.protocol(record.key.protocol));
 }
 
-/// What decides where a password goes and how it is protected. Settings that are replaced for a log-in that is only a
-/// test do not: a test is one of the same server, in the same way.
-QMap<QString, QString> KirvAccountImport::destination(const KirvAccountRecord &record) const
+bool KirvAccountImport::hasSameDestination(const KirvAccountRecord &left, const KirvAccountRecord &right) const
 {
-    KirvProtocolBase *protocol = accounts.protocol(record.key.protocol);
-    KirvAccountRecord tested = complete(record);
-    QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
-    kirvCallPlugin([&] { fields = protocol->settingsForTest(fields); }); // it fails: every setting counts
-    const QMap<QString, QString> values = kirvStoredValues(fields);
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        tested.settings.insert(value.key(), value.value());
-    return kirvOpenSettings(tested);
+    KirvProtocolBase *protocol = accounts.protocol(left.key.protocol);
+    return kirvSecretDestination(left, protocol) == kirvSecretDestination(right, protocol);
 }
 
 /// A file, which anybody may have written, sends no password of this profile to another server.
@@ -243,7 +224,7 @@ bool KirvAccountImport::losesSecrets(const KirvAccountRecord &record, const Kirv
         return false;
     const QSet<QString> fields = before.secretSettings + before.unreadSecrets + QSet<QString> { QString() };
     const auto isLacking = [&](const QString &field) { return lacksSecret(record, before, field); };
-    return std::any_of(fields.begin(), fields.end(), isLacking) && destination(record) != destination(before);
+    return std::any_of(fields.begin(), fields.end(), isLacking) && !hasSameDestination(record, before);
 }
 
 QStringList KirvAccountImport::lostSecrets() const

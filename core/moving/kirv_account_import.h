@@ -62,8 +62,8 @@ private:
     void makeRows();
     QString problemOf(const Row &row) const;
     bool makePlan(Plan *plan, QString *problem);
-    KirvAccountRecord complete(KirvAccountRecord record) const;
-    QMap<QString, QString> destination(const KirvAccountRecord &record) const;
+    KirvAccountRecord complete(const KirvAccountRecord &record) const;
+    bool hasSameDestination(const KirvAccountRecord &left, const KirvAccountRecord &right) const;
     bool losesSecrets(const KirvAccountRecord &record, const KirvAccountRecord &before) const;
     bool leaveOutBadPictures();
     KirvAccountKey newMainAccount(const Plan &plan) const;

@@ -46,6 +46,25 @@ bool closeLibrarySession()
     return disconnect;
 }
 
+/// Lets the program outlive the session bus: what libsecret connects to it with would end the program with the bus. To
+/// be called when that connection exists; it does not wait then.
+void outliveBus()
+{
+    using GetBus = void *(*)(int type, void *cancellable, void **error);
+    using SetExitOnClose = void (*)(void *connection, int exits);
+    using Release = void (*)(void *object);
+    const int sessionBus = 2; // G_BUS_TYPE_SESSION
+    QLibrary io(QStringLiteral("gio-2.0"), 0), objects(QStringLiteral("gobject-2.0"), 0);
+    const auto getBus = reinterpret_cast<GetBus>(io.resolve("g_bus_get_sync"));
+    const auto setExitOnClose = reinterpret_cast<SetExitOnClose>(io.resolve("g_dbus_connection_set_exit_on_close"));
+    const auto release = reinterpret_cast<Release>(objects.resolve("g_object_unref"));
+    void *bus = getBus && setExitOnClose && release ? getBus(sessionBus, nullptr, nullptr) : nullptr;
+    if (!bus)
+        return;
+    setExitOnClose(bus, 0);
+    release(bus);
+}
+
 /// While one exists, the session does not look like Plasma. There QtKeychain would talk to KWallet in KWallet's own
 /// way, whichever program the watcher has found, and wait for it.
 ///
@@ -100,6 +119,7 @@ KirvKeyring::KirvKeyring(const Limits &limits, QObject *parent)
     connect(watcher.get(), &KirvKeyringWatcher::changed, this, &KirvKeyring::receiveState);
     connect(watcher.get(), &KirvKeyringWatcher::replaced, this, [this] { hasLibrary = closeLibrarySession(); });
     connect(watcher.get(), &KirvKeyringWatcher::refreshed, this, &KirvKeyring::stateKnown);
+    connect(watcher.get(), &KirvKeyringWatcher::searchEnded, this, &KirvKeyring::searchEnded);
     watcher->start();
 }
 
@@ -216,6 +236,10 @@ void KirvKeyring::jobFinished(int error, const QString &secret, const QString &t
     }
     timeLimit.stop();
     const Outcome outcome = outcomeOf(error);
+    if (outcome == Done || outcome == Missing) {
+        static const bool isDone = (outliveBus(), true);
+        Q_UNUSED(isDone)
+    }
     if (outcome == Done) {
         answer({ Done, secret, QString() });
         return;
@@ -230,11 +254,25 @@ void KirvKeyring::stateKnown()
 {
     if (!unproven)
         return;
+    if (unproven->outcome == Missing && watcher->state() == Ready && running->kind == Read) {
+        watcher->search(running->item.key);
+        return;
+    }
     Reply reply = *std::exchange(unproven, nullptr);
     if (watcher->state() == Locked)
         reply.outcome = Refused;
     else if (watcher->state() != Ready && reply.outcome == Missing)
         reply.outcome = Failed;
+    answer(reply);
+}
+
+/// What the user has moved into another keyring, and has not unlocked there, is not missing either.
+void KirvKeyring::searchEnded(Outcome outcome)
+{
+    if (!unproven)
+        return;
+    Reply reply = *std::exchange(unproven, nullptr);
+    reply.outcome = outcome;
     answer(reply);
 }
 

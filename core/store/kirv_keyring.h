@@ -55,6 +55,7 @@ private:
     void answer(Reply reply);
     void failWaiting(const Reply &reply);
     void stateKnown();
+    void searchEnded(Outcome outcome);
 
     const Limits limits;
     std::unique_ptr<KirvKeyringWatcher> watcher;

@@ -3,7 +3,9 @@
 
 #include "core/store/kirv_bus_probe.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
+#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
@@ -21,7 +23,13 @@ const QString servicePath = QStringLiteral("/org/freedesktop/secrets");
 const char *const serviceInterface = "org.freedesktop.Secret.Service";
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+const QString localPath = QStringLiteral("/org/freedesktop/DBus/Local"); // signals of the connection itself
+const QString localInterface = QStringLiteral("org.freedesktop.DBus.Local");
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+/// Of an item; its key is what QtKeychain calls a user.
+using Attributes = QMap<QString, QString>;
+const QString keyAttribute = QStringLiteral("user");
 
 /// The name, as people know it, of the program of the process \a pid; empty when it is none of those.
 QString nameOfProgram(uint pid)
@@ -48,6 +56,10 @@ KirvKeyringWatcher::KirvKeyringWatcher(int replyTimeoutMilliseconds, QObject *pa
     replyTimeout.setSingleShot(true);
     replyTimeout.setInterval(replyTimeoutMilliseconds);
     connect(&replyTimeout, &QTimer::timeout, this, [this] { finish(KirvSecretStore::Silent); });
+    searchTimeout.setSingleShot(true);
+    searchTimeout.setInterval(replyTimeoutMilliseconds);
+    connect(&searchTimeout, &QTimer::timeout, this, [this] { endSearch(KirvSecretStore::Failed); });
+    qDBusRegisterMetaType<Attributes>();
 }
 
 KirvKeyringWatcher::~KirvKeyringWatcher()
@@ -95,6 +107,7 @@ void KirvKeyringWatcher::connected()
         finish(KirvSecretStore::Unavailable);
         return;
     }
+    bus.connect(QString(), localPath, localInterface, QStringLiteral("Disconnected"), this, SLOT(busEnded()));
     // No service: for a name the connection would ask the bus who owns it, and wait.
     bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), { serviceName }, QString(), this,
                 SLOT(onNameOwnerChanged(QString, QString, QString, QDBusMessage)));
@@ -229,6 +242,40 @@ void KirvKeyringWatcher::requestLockState(const QString &collection)
         else
             finish(locked.toBool() ? KirvSecretStore::Locked : KirvSecretStore::Ready);
     });
+}
+
+void KirvKeyringWatcher::busEnded()
+{
+    setOwner(QString());
+}
+
+void KirvKeyringWatcher::search(const QString &key)
+{
+    searchTimeout.start();
+    QDBusMessage message = callToOwner(servicePath, serviceInterface, "SearchItems");
+    message.setArguments({ QVariant::fromValue(Attributes { { keyAttribute, key } }) });
+    const QDBusPendingCall pending = QDBusConnection(connectionName).asyncCall(message, INT_MAX);
+    auto *watcher = new QDBusPendingCallWatcher(pending, this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, number = ++searches](auto *finished) {
+        finished->deleteLater();
+        if (number != searches || !searchTimeout.isActive())
+            return;
+        const QDBusMessage reply = finished->reply();
+        const auto count = [&reply](int index) {
+            return qdbus_cast<QList<QDBusObjectPath>>(reply.arguments().value(index)).size();
+        };
+        const bool isAnswered = reply.type() == QDBusMessage::ReplyMessage;
+        if (!isAnswered || count(0) > 0) // unlocked ones
+            endSearch(KirvSecretStore::Failed);
+        else
+            endSearch(count(1) > 0 ? KirvSecretStore::Refused : KirvSecretStore::Missing);
+    });
+}
+
+void KirvKeyringWatcher::endSearch(KirvSecretStore::Outcome outcome)
+{
+    searchTimeout.stop();
+    Q_EMIT searchEnded(outcome);
 }
 
 void KirvKeyringWatcher::refresh()

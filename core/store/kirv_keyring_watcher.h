@@ -34,6 +34,10 @@ public:
     KirvSecretStore::State state() const { return current; }
     QString providerName() const { return provider; }
 
+    /// Looks in all collections of the service why the item \a key could not be read; searchEnded() follows. One
+    /// search at a time.
+    void search(const QString &key);
+
 public Q_SLOTS:
     /// Requests the state of the service again; refreshed() follows in any case.
     void refresh();
@@ -44,8 +48,12 @@ Q_SIGNALS:
     void replaced();
     /// What refresh() has requested is known: the service has replied, has gone, or does not reply in time.
     void refreshed();
+    /// Missing: no collection has the item; Refused: it would have to be unlocked; Failed: it is there, or the service
+    /// does not say.
+    void searchEnded(KirvSecretStore::Outcome outcome);
 
 private Q_SLOTS:
+    void busEnded();
     void onNameOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner,
                             const QDBusMessage &message);
 
@@ -62,6 +70,7 @@ private:
     void requestDefaultCollection();
     void requestLockState(const QString &collection);
     void set(KirvSecretStore::State state);
+    void endSearch(KirvSecretStore::Outcome outcome);
     void call(const QDBusMessage &message, const Handler &handler);
     QDBusMessage callToOwner(const QString &path, const char *interface, const char *method) const;
 
@@ -73,6 +82,8 @@ private:
     KirvSecretStore::State current = KirvSecretStore::Unknown;
     quint64 round = 0; ///< replies of an earlier one do not count
     QTimer replyTimeout;
+    quint64 searches = 0; ///< only the reply to the latest one counts
+    QTimer searchTimeout; ///< runs while one does
     QTimer lockedRefresh; ///< while it is locked: not every unlocking is announced
 };
 

@@ -29,13 +29,10 @@
 #include <QUrl>
 #include <QtTest>
 
-namespace {
-const QString password = QStringLiteral("secret");
-}
-
-KirvClientWindows::KirvClientWindows(const QString &protocolName)
+KirvClientWindows::KirvClientWindows(const QString &protocolName, Secrets secrets)
     : protocolName(protocolName)
 {
+    options.usesKeyring = secrets == InKeyring;
     options.profileFolder = folder.filePath(QStringLiteral("profile"));
     options.pluginFolder = folder.path();
     ready = start();

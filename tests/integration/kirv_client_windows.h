@@ -23,7 +23,9 @@ class QTreeWidgetItem;
 /// A client with its windows over a profile of its own, with one fake protocol, as a user has them.
 class KirvClientWindows {
 public:
-    explicit KirvClientWindows(const QString &protocolName = QStringLiteral("Fake"));
+    enum Secrets { InProfile, InKeyring }; ///< of the session's bus
+
+    explicit KirvClientWindows(const QString &protocolName = QStringLiteral("Fake"), Secrets secrets = InProfile);
     ~KirvClientWindows();
 
     /// Whether the client could be started.
@@ -85,6 +87,7 @@ public:
     KirvClientOptions options;
     std::unique_ptr<KirvClient> client;
     KirvFakeProtocol *protocol = nullptr; ///< of the running client
+    QString password = QStringLiteral("secret"); ///< of the accounts that are added
     std::function<void(KirvFakeProtocol *)> prepare; ///< changes the protocol of the next start; may be null
 
 private:

@@ -367,7 +367,7 @@ void tst_ImportSurvivesKills::aKillLeavesAllOfTheImportOrNothing()
 {
     QFETCH(bool, usesKeyring);
     const bool isThorough = qEnvironmentVariableIsSet("KIRV_EVERY_KILL");
-    const int step = usesKeyring ? (isThorough ? 3 : 67) : (isThorough ? 1 : 11);
+    const int step = usesKeyring ? (isThorough ? 3 : 131) : (isThorough ? 1 : 23);
     Content before, after;
     fill(usesKeyring);
     read(&before);

@@ -13,6 +13,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QSocketNotifier>
+#include <QTemporaryFile>
 #include <QtTest>
 #include <cstdio>
 #include <memory>
@@ -96,6 +97,8 @@ private Q_SLOTS:
     void aReplyForADestroyedObjectIsDropped();
     void aReplyMayDestroyTheKeyring_data();
     void aReplyMayDestroyTheKeyring();
+    void anItemInAnotherKeyringThatIsLockedIsNotMissing();
+    void theProgramOutlivesItsBus();
 };
 
 void tst_Keyring::withoutABusThereIsNoKeyringAtOnce_data()
@@ -453,6 +456,77 @@ void tst_Keyring::aReplyForADestroyedObjectIsDropped()
     QVERIFY(!dropped.has());
 }
 
+/// The user has moved it there, and nobody unlocks that.
+void tst_Keyring::anItemInAnotherKeyringThatIsLockedIsNotMissing()
+{
+    KirvGnomeKeyring daemon;
+    QVERIFY(daemon.start());
+    KirvKeyring keyring;
+    Answer written, read, readOther;
+    keyring.write(item, QStringLiteral("secret"), &written, written.taker());
+    KIRV_TRY(written.has());
+    QVERIFY2(written.outcome() == KirvSecretStore::Done, written.text());
+    QVERIFY(daemon.moveIntoLockedCollection(QStringLiteral("secret")));
+    QCOMPARE(keyring.state(), KirvSecretStore::Ready);
+    keyring.read(item, &read, read.taker());
+    KIRV_TRY(read.has());
+    QVERIFY2(read.outcome() == KirvSecretStore::Refused, read.text());
+    keyring.read(other, &readOther, readOther.taker());
+    KIRV_TRY(readOther.has());
+    QVERIFY2(readOther.outcome() == KirvSecretStore::Missing, readOther.text());
+}
+
+/// Which ends here with the keyring on it, as at the end of a session.
+void tst_Keyring::theProgramOutlivesItsBus()
+{
+    QTemporaryFile configuration;
+    QVERIFY(configuration.open());
+    QVERIFY(configuration.write(kirvPrivateBusConfiguration()) > 0 && configuration.flush());
+    QProcess bus;
+    bus.start(QStringLiteral("dbus-daemon"),
+              { QStringLiteral("--config-file=") + configuration.fileName(), QStringLiteral("--nofork"),
+                QStringLiteral("--print-address=1") });
+    KIRV_TRY(bus.canReadLine());
+    QProcess process;
+    startAgain(process, QStringLiteral("--outlive"), { { busVariable, bus.readLine().trimmed() } });
+    QByteArray said;
+    const auto says = [&](const char *text) {
+        said += process.readAllStandardOutput();
+        return said.contains(text);
+    };
+    KIRV_TRY_SAYING(says("wrote Done\n"), said.constData());
+    bus.kill();
+    QVERIFY(bus.waitForFinished(kirvPatience));
+    KIRV_TRY_SAYING(says("Unavailable\n"), said.constData());
+    KIRV_TRY_SAYING(says("wrote Failed\n"), said.constData());
+    KIRV_TRY_COMPARE(process.state(), QProcess::NotRunning);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+}
+
+/// What that process does.
+static int writeBeforeAndAfter()
+{
+    KirvGnomeKeyring daemon;
+    KirvKeyring keyring;
+    const auto write = [&keyring] {
+        Answer answer;
+        keyring.write(item, QStringLiteral("secret"), &answer, answer.taker());
+        const bool isAnswered = QTest::qWaitFor([&] { return answer.has(); }, kirvPatience);
+        std::printf("wrote %s\n",
+                    isAnswered ? QMetaEnum::fromType<KirvSecretStore::Outcome>().valueToKey(answer.outcome()) : "-");
+        std::fflush(stdout);
+    };
+    if (!daemon.start() || !QTest::qWaitFor([&] { return keyring.state() == KirvSecretStore::Ready; }, kirvPatience))
+        return 1;
+    write();
+    if (!QTest::qWaitFor([&] { return keyring.state() == KirvSecretStore::Unavailable; }, kirvPatience))
+        return 1;
+    std::printf("Unavailable\n");
+    write();
+    return 0;
+}
+
 int main(int argc, char *argv[])
 {
     kirvEnterPrivateBus(argv);
@@ -464,6 +538,8 @@ int main(int argc, char *argv[])
         return followStates();
     if (application.arguments().contains(QStringLiteral("--keep")))
         return keepInPlasma();
+    if (application.arguments().contains(QStringLiteral("--outlive")))
+        return writeBeforeAndAfter();
     tst_Keyring test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -3,6 +3,7 @@
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
+#include "tests/support/store_refusal.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -78,6 +79,7 @@ private Q_SLOTS:
     void eachPasswordThatCouldNotBeKeptIsReported_data();
     void eachPasswordThatCouldNotBeKeptIsReported();
     void aPasswordThatGoesIntoTheProfileIsNotReported();
+    void whatTheProfileRefusesIsStoredWithTheNextChange();
     void aNewSecretThatWasNeverWrittenIsTheOneBefore();
     void aNewSecretThatWasWrittenIsUsed();
     void aProfileThatRefusesAChangeCostsNoPassword();
@@ -779,6 +781,35 @@ void tst_SecretKeeper::aPasswordThatGoesIntoTheProfileIsNotReported()
     for (int number = 0; number < count; ++number)
         QVERIFY(isInProfile(QStringLiteral("word of id%1").arg(number)));
     QVERIFY(notices.isEmpty());
+    core->accounts->secrets().setKeyring(nullptr);
+}
+
+void tst_SecretKeeper::whatTheProfileRefusesIsStoredWithTheNextChange()
+{
+    KirvFakeSecretStore undecided(KirvSecretStore::Unknown);
+    core->accounts->secrets().setKeyring(&undecided);
+    QSignalSpy notices(core->accounts.get(), &KirvAccountCollection::noticeReceived);
+    QVERIFY(core->create());
+    settle();
+    {
+        const StoreRefusal refusal(core->store.folder(), QStringLiteral("1"), QStringLiteral("INSERT"),
+                                   QStringLiteral("secret"));
+        QVERIFY(refusal.holds());
+        undecided.setState(KirvSecretStore::Unavailable);
+        settle();
+        QCOMPARE(notices.size(), 1);
+        const QString text = notices.first().last().toString();
+        QVERIFY2(text.startsWith(QStringLiteral("A password could not be stored.")), qPrintable(text));
+        QVERIFY2(text.contains(QStringLiteral("refused by the test")), qPrintable(text));
+        QVERIFY(account()->isOnline());
+        account()->setAlias(QStringLiteral("Other"));
+        settle();
+        QCOMPARE(notices.size(), 1); // once
+    }
+    QVERIFY(!isInProfile(password));
+    account()->setAlias(QStringLiteral("Another"));
+    settle();
+    QVERIFY(isInProfile(password));
     core->accounts->secrets().setKeyring(nullptr);
 }
 

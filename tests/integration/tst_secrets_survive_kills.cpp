@@ -176,7 +176,7 @@ void tst_SecretsSurviveKills::aKillLeavesNoWrongSecretAndNoOrphan()
     const bool isOfMany = name == QLatin1String("move of many");
     // A move of many makes the same calls again and again; that of one is interrupted at each.
     const bool isThorough = qEnvironmentVariableIsSet("KIRV_EVERY_KILL");
-    const int stride = isOfMany ? (isThorough ? 7 : 151) : (isThorough ? 1 : 13);
+    const int stride = isOfMany ? (isThorough ? 7 : 301) : (isThorough ? 1 : 17);
     int kills = 0;
     bool isDone = false;
     for (int call = 0; !isDone; call += stride, ++kills) {

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void aPasswordThatIsNotWrittenYetIsUsed();
     void knownPasswordsAreUsedWhenTheKeyringCannotBeRead_data();
     void knownPasswordsAreUsedWhenTheKeyringCannotBeRead();
+    void aPasswordForNowIsUsedWhenTheKeyringCannotBeRead();
     void aPasswordThatIsNotRememberedAnyMoreIsNotAwaited();
 
 private:
@@ -288,6 +289,36 @@ void tst_WaitingForSecrets::knownPasswordsAreUsedWhenTheKeyringCannotBeRead()
     for (const KirvAccount *one : all)
         QVERIFY(one->isOnline());
     QVERIFY2(most > 0 && most <= 22, QByteArray::number(most).constData());
+}
+
+/// Also by those accounts whose secrets would have been read next.
+void tst_WaitingForSecrets::aPasswordForNowIsUsedWhenTheKeyringCannotBeRead()
+{
+    QVERIFY(core->create(QStringLiteral("other")));
+    KIRV_TRY_COMPARE(keyring->secrets.size(), 2);
+    keyring->outcome = KirvSecretStore::Refused;
+    restart(KirvSecretStore::Locked);
+    QCOMPARE(awaiting(), 2);
+    const QList<KirvAccount *> all = core->accounts->accounts();
+    for (KirvAccount *one : all)
+        one->providePasswordForNow(newer);
+    settle();
+    QCOMPARE(awaiting(), 0);
+    keyring->isHeld = true;
+    keyring->setState(KirvSecretStore::Ready);
+    for (KirvAccount *one : all)
+        one->reconnect();
+    settle();
+    QCOMPARE(awaiting(), 2);
+    core->takeCalls();
+    keyring->outcome = KirvSecretStore::TimedOut;
+    keyring->isHeld = false;
+    keyring->release();
+    settle();
+    QCOMPARE(awaiting(), 0);
+    const QStringList logIns = core->takeCalls().filter(QStringLiteral("log in"));
+    QCOMPARE(int(logIns.size()), 2);
+    QCOMPARE(int(logIns.filter(newer).size()), 2);
 }
 
 void tst_WaitingForSecrets::aPasswordThatIsNotRememberedAnyMoreIsNotAwaited()

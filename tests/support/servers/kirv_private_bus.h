@@ -10,6 +10,16 @@
 
 // A session bus for one test program, apart from that of the user.
 
+/// The configuration of such a bus.
+inline QByteArray kirvPrivateBusConfiguration()
+{
+    return "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
+           " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
+           "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
+           "<auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\"/>"
+           "<allow eavesdrop=\"false\"/><allow own=\"*\"/></policy></busconfig>\n";
+}
+
 /// Starts the program again on a session bus of its own, which lasts as long as the program and starts no services.
 /// Returns in the program that is on such a bus; \a argv is that of main().
 inline void kirvEnterPrivateBus(char *argv[])
@@ -23,11 +33,7 @@ inline void kirvEnterPrivateBus(char *argv[])
         std::abort();
     char config[] = "/tmp/kirv-bus-XXXXXX";
     const int file = ::mkstemp(config);
-    const QByteArray text = "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
-                            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
-                            "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
-                            "<auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\"/>"
-                            "<allow eavesdrop=\"false\"/><allow own=\"*\"/></policy></busconfig>\n";
+    const QByteArray text = kirvPrivateBusConfiguration();
     if (file < 0 || ::write(file, text.constData(), size_t(text.size())) != ssize_t(text.size()))
         std::abort();
     ::close(file);
