@@ -107,12 +107,15 @@ require_space() {
         die "the disk of $1 has $free MB free; $3 take up to $2 MB."
 }
 
-# build_preset NAME [TARGET...]: configures and builds a preset of CMakePresets.json into build/NAME, or build/sanitize for
-# those that build a part of it. The output goes to build/logs; of a failure its end is shown.
+# build_preset NAME [TARGET...]: configures and builds a preset of CMakePresets.json into build/NAME, or into the folder of
+# the preset of which it builds a part. The output goes to build/logs; of a failure its end is shown.
 build_preset() {
     local preset=$1 configuration=$1 log started=$SECONDS
     shift
-    [[ $preset != @(protocols|walk|fuzz) ]] || configuration=sanitize
+    case $preset in
+    protocols | walk | fuzz) configuration=sanitize ;;
+    benchmarks) configuration=qt5 ;;
+    esac
     mkdir -p build/logs
     log=build/logs/$preset.log
     say "Building build/$preset ..."
