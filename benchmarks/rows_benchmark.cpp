@@ -5,8 +5,10 @@
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_account_order.h"
+#include "client/kirv_account_undo.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_history.h"
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/kirv_load_meter.h"
@@ -146,8 +148,13 @@ bool measureSeveral(int count, Table *table)
     };
     addChange(
         table, count, "enable", [&] { accounts.setEnabled(accounts.accounts(), true); }, areOn);
-    addChange(
-        table, count, "disable", [&] { accounts.setEnabled(accounts.accounts(), false); }, areOff);
+    KirvAccountHistory &history = windows.client->window()->findChild<KirvAccountUndo *>()->history();
+    const auto disableAsThePageDoes = [&] {
+        history.beginStep(KirvAccountHistory::Disabling);
+        accounts.setEnabled(accounts.accounts(), false);
+        history.endStep();
+    };
+    addChange(table, count, "disable", disableAsThePageDoes, areOff);
     if (count <= mostOneByOne) {
         addChange(
             table, count, "enable, one by one", [&] { changeEach(true); }, areOn);

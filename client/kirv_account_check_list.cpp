@@ -63,7 +63,12 @@ KirvAccountCheckList::KirvAccountCheckList(const QString &name, const QStringLis
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(allBox);
     column->addWidget(list, 1);
-    setFocusProxy(list);
+}
+
+/// A focus proxy would take the place of both for the Tab key.
+void KirvAccountCheckList::focusList()
+{
+    list->setFocus();
 }
 
 void KirvAccountCheckList::setRows(const QList<Row> &rows)

@@ -38,6 +38,9 @@ public:
     /// Makes the columns wider where texts that were set since setRows() need it, within limits; none becomes narrower.
     void fitColumns();
 
+    /// Gives the focus to the list.
+    void focusList();
+
     /// How the list names an account: by its alias and its login.
     static QString nameOf(const KirvAccountKey &account, const QString &alias);
 

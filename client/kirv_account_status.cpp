@@ -132,7 +132,7 @@ QString KirvAccountStatus::lineOf(const QString &state) const
         parts << tr("main account");
     parts.removeAll(QString());
     //: between the parts of the line below the name of an account, as in "Connected · Away · main account"
-    return kirvPlainName(parts.join(tr(" · ")).simplified());
+    return kirvPlainSentence(parts.join(tr(" · ")).simplified());
 }
 
 QString KirvAccountStatus::reason() const
@@ -144,7 +144,7 @@ QString KirvAccountStatus::reason() const
     case Connecting:
         return sentences({ failure.text(), since() });
     case Waiting:
-        return isWaitingForSecrets() ? kirvPlainName(KirvSecretTexts(account.secrets()).obstacleOf(account))
+        return isWaitingForSecrets() ? kirvPlainSentence(KirvSecretTexts(account.secrets()).obstacleOf(account))
                                      : sentences({ failure.text(), waitingReason() });
     case Failed:
         return sentences({ failure.text(), otherCertificateText(), advice(failure), since() });
@@ -292,7 +292,7 @@ bool KirvAccountStatus::canTestLogin() const
 
 bool KirvAccountStatus::canBeWrong() const
 {
-    return canTestLogin() && stateKind != Connected;
+    return canTestLogin() && stateKind != Connected && !account.awaitsSecrets();
 }
 
 bool KirvAccountStatus::isAboutCertificate() const

@@ -66,7 +66,7 @@ QWidget *KirvCertificateQuestion::createPage(const KirvAccount &account)
     auto *problems = new KirvWrappedText(page);
     problems->setObjectName(QStringLiteral("CertificateQuestion_Problems"));
     problems->setAccessibleName(tr("What is wrong with the certificate"));
-    problems->showText(kirvPlainName(shown.problems.join(QLatin1Char('\n'))));
+    problems->showText(kirvPlainSentence(shown.problems.join(QLatin1Char('\n'))));
     problems->setVisible(!shown.problems.isEmpty());
     auto *texts = new QVBoxLayout;
     texts->addWidget(title);

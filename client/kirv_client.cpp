@@ -304,9 +304,7 @@ void KirvClient::loadPlugins()
 void KirvClient::openLink()
 {
     const KirvAccountLink link = std::exchange(unopenedLink, KirvAccountLink());
-    if (link.isTooLong)
-        refuseLongLink();
-    else if (!link.isNull())
+    if (link.isTooLong || !link.isNull())
         open(link);
 }
 
@@ -320,7 +318,7 @@ void KirvClient::show(const KirvAccountLink &link)
         kirvBringToFront(front);
     }
     if (link.isTooLong)
-        return refuseLongLink();
+        return open(link);
     if (link.isNull())
         return;
     if (modal)
@@ -332,14 +330,11 @@ void KirvClient::show(const KirvAccountLink &link)
         unopenedLink = link;
 }
 
-void KirvClient::refuseLongLink()
-{
-    showProblem(tr("The link was not opened because it is too long."));
-}
-
 void KirvClient::open(const KirvAccountLink &link)
 {
-    if (!link.open(page)) {
+    if (link.isTooLong) {
+        showProblem(tr("The link was not opened because it is too long."));
+    } else if (!link.open(page)) {
         //: %1 = name of a protocol
         showProblem(tr("The link cannot be opened: the protocol %1 is not available.").arg(link.protocol));
     }

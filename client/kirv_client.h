@@ -90,7 +90,6 @@ private:
     void connectServices();
     void loadPlugins();
     void openLink();
-    void refuseLongLink();
     void open(const KirvAccountLink &link);
 
     void protocolLoaded(KirvProtocolBase *protocol);

@@ -73,7 +73,7 @@ KirvExportWindow::KirvExportWindow(const KirvAccountCollection &accounts, const 
     resize(std::min(comfortableWidth * fontMetrics().averageCharWidth(), parent->screen()->availableSize().width()),
            height());
     grow();
-    list->setFocus();
+    list->focusList();
 }
 
 KirvExportWindow::~KirvExportWindow()

@@ -245,7 +245,7 @@ void KirvImportWindow::showText(const QString &newText)
 
 void KirvImportWindow::showProblem(const QString &newText)
 {
-    problem->showText(kirvPlainName(newText));
+    problem->showText(kirvPlainSentence(newText));
     problem->setVisible(!newText.isEmpty());
     if (!newText.isEmpty()) {
         QAccessibleEvent news(problem, QAccessible::Alert);
@@ -270,7 +270,7 @@ void KirvImportWindow::setState(State newState)
         passPhraseLine->setFocus();
         passPhraseLine->selectAll();
     } else if (rows->isVisibleTo(this)) {
-        rows->setFocus();
+        rows->focusList();
     } else {
         box->button(QDialogButtonBox::Cancel)->setFocus();
     }
@@ -360,7 +360,7 @@ void KirvImportWindow::refreshRows()
 QString KirvImportWindow::stateOf(const KirvAccountImport::Row &row) const
 {
     if (!row.problem.isEmpty())
-        return kirvPlainName(row.problem);
+        return kirvPlainSentence(row.problem);
     if (row.isNew())
         return row.isTaken ? tr("New") : tr("New, will be left out");
     if (row.isTaken && row.losesSecrets)

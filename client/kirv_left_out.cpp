@@ -21,7 +21,7 @@ QString kirvLeftOutText(const QString &heading, const QStringList &leftOut)
         return QString();
     QStringList lines { heading };
     for (const QString &sentence : leftOut.mid(0, mostLines))
-        lines << QStringLiteral("• ") + kirvPlainName(sentence);
+        lines << QStringLiteral("• ") + kirvPlainSentence(sentence);
     if (leftOut.size() > mostLines)
         lines << QStringLiteral("• ") + Texts::tr("and %n more", nullptr, int(leftOut.size()) - mostLines);
     return lines.join(QLatin1Char('\n'));

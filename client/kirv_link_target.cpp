@@ -53,7 +53,7 @@ bool KirvLinkTarget::eventFilter(QObject *watched, QEvent *event)
 void KirvLinkTarget::take(const QMimeData *data)
 {
     const KirvAccountLink link = linkIn(data);
-    if (!link.isNull())
+    if (!link.isNull() || link.isTooLong)
         QMetaObject::invokeMethod(
             this, [this, link] { Q_EMIT linkTaken(link); }, Qt::QueuedConnection);
 }

@@ -18,7 +18,7 @@ public:
     explicit KirvLinkTarget(QWidget *widget);
 
 Q_SIGNALS:
-    /// From the event loop, when drag and drop has ended.
+    /// From the event loop, when drag and drop has ended. A \a link that is too long was pasted: it is said so.
     void linkTaken(const KirvAccountLink &link);
 
 protected:

@@ -67,7 +67,7 @@ void KirvMessageBar::showMessage(const QString &message)
 void KirvMessageBar::showMessage(const QString &message, const QString &command, const std::function<void()> &action,
                                  Kind kind)
 {
-    const QString text = kirvPlainName(message);
+    const QString text = kirvPlainSentence(message);
     if (text.isEmpty() || texts.contains(text))
         return;
     settle(); // the pointer may have left unseen
@@ -95,7 +95,7 @@ void KirvMessageBar::showMessage(const QString &message, const QString &command,
 
 void KirvMessageBar::removeMessage(const QString &message)
 {
-    const int index = int(texts.indexOf(kirvPlainName(message)));
+    const int index = int(texts.indexOf(kirvPlainSentence(message)));
     if (index >= 0)
         removeRow(index);
 }

@@ -21,7 +21,7 @@ QString reasonOf(const KirvAccount &account)
 {
     const KirvAccountRecord &record = account.record();
     if (account.awaitsPassword())
-        return kirvPlainName(KirvSecretTexts(account.secrets()).obstacleOf(account));
+        return kirvPlainSentence(KirvSecretTexts(account.secrets()).obstacleOf(account));
     if (record.password.isEmpty() && record.unreadSecrets.contains(QString()))
         return KirvSecretTexts::passwordIsGone();
     if (account.lastFailure().kind() == KirvFailure::WrongPassword)
@@ -48,8 +48,8 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
 
     //: %1 = name of an account, %2 = its protocol
     const QString request = tr("Enter the password of the account %1 (%2).");
-    auto *question = kirvCreateText("PasswordQuestion_Text",
-                                    kirvPlainName(request.arg(account.displayName(), account.key().protocol)), this);
+    auto *question = kirvCreateText(
+        "PasswordQuestion_Text", kirvPlainSentence(request.arg(account.displayName(), account.key().protocol)), this);
     auto *reason = kirvCreateText("PasswordQuestion_Reason", reasonOf(account), this);
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));

@@ -5,12 +5,24 @@
 #include "core/values/kirv_visible_text.h"
 
 #include <QString>
+#include <QStringList>
 
-/// A login, alias or other name as labels and boxes show it, and a text with such names: nothing in it turns the text
-/// around. What shows it must be set to plain text.
+/// A login, alias or other name as labels and boxes show it: nothing in it turns the text around. What shows it must be
+/// set to plain text.
 inline QString kirvPlainName(const QString &name)
 {
     return kirvVisibleText(name);
+}
+
+/// A sentence with such names. What a translation puts around them stays: its left-to-right marks, which order what is
+/// beside them and turn nothing around.
+inline QString kirvPlainSentence(const QString &sentence)
+{
+    const QChar mark(0x200E);
+    QStringList parts = sentence.split(mark);
+    for (QString &part : parts)
+        part = kirvVisibleText(part);
+    return parts.join(mark);
 }
 
 /// A tool tip that shows \a text as it stands: Qt takes tool tips for markup when they look like it.

@@ -30,7 +30,7 @@ QString boxText(const QString &text)
             word = withoutMiddle(word, shownOfWord);
     }
     const QString joined = words.join(QLatin1Char(' '));
-    return kirvPlainName(joined.size() > longestText ? withoutMiddle(joined, longestText / 2) : joined);
+    return kirvPlainSentence(joined.size() > longestText ? withoutMiddle(joined, longestText / 2) : joined);
 }
 
 } // namespace

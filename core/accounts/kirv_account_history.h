@@ -25,7 +25,7 @@ class KirvAccountHistory : public QObject {
 
 public:
     enum Kind { Removal, Disabling, Import };
-    static constexpr int mostSteps = 100;
+    static constexpr int mostSteps = 1000;
     static constexpr qint64 mostBytes = 64 * 1024 * 1024;
 
     /// Neither is owned, and both outlive this.

@@ -112,6 +112,7 @@ private Q_SLOTS:
     void linkOnThePageOpensTheWindow_data();
     void linkOnThePageOpensTheWindow();
     void otherTextOnThePageOpensNothing();
+    void linkThatIsTooLongOpensNothing();
 
 private:
     void open(const std::function<void(KirvLayoutDialog *)> &inWindow);
@@ -521,29 +522,28 @@ void tst_AddingAnAccount::linkIsTakenForItsLogin()
     });
 }
 
-/// Drops \a text on the page as a drag from elsewhere does. Whether the page took it.
-static bool dropOnPage(QWidget *page, const QString &text, bool isUrl)
+/// Drops \a text on \a target as a drag from elsewhere does. Whether it was taken.
+static bool dropOn(QWidget *target, const QString &text, bool isUrl)
 {
     QMimeData data;
     if (isUrl)
         data.setUrls({ QUrl(text) });
     else
         data.setText(text);
-    QWidget *top = KirvClientWindows::child<QWidget>(page, "Accounts");
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
-    QCoreApplication::sendEvent(top, &enter);
+    QCoreApplication::sendEvent(target, &enter);
     if (!enter.isAccepted())
         return false;
     QDropEvent drop(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(top, &drop);
+    QCoreApplication::sendEvent(target, &drop);
     return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
 }
 
 void tst_AddingAnAccount::linkOnThePageOpensTheWindow_data()
 {
     QTest::addColumn<QString>("how");
-    for (const char *how : { "pasted", "dropped address", "dropped text" })
+    for (const char *how : { "pasted", "dropped address", "dropped text", "dropped on the list" })
         QTest::newRow(how) << how;
 }
 
@@ -566,7 +566,9 @@ void tst_AddingAnAccount::linkOnThePageOpensTheWindow()
         child<QToolButton>(page, "Accounts_AddButton")->setFocus();
         QTest::keySequence(page->window()->focusWidget(), QKeySequence::Paste);
     } else {
-        QVERIFY(dropOnPage(page, link, how == QLatin1String("dropped address")));
+        QWidget *target = how == QLatin1String("dropped on the list") ? windows->list()->viewport()
+                                                                      : child<QWidget>(page, "Accounts");
+        QVERIFY(dropOn(target, link, how == QLatin1String("dropped address")));
     }
     KIRV_TRY_COMPARE(filledIn, QString("anna@example.org"));
 }
@@ -577,10 +579,27 @@ void tst_AddingAnAccount::otherTextOnThePageOpensNothing()
     windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
     QWidget *page = windows->client->accountsPage();
     for (const char *text : { "anna@example.org", "https://example.org", "", "xmpp" }) {
-        QVERIFY(!dropOnPage(page, QString::fromLatin1(text), false));
-        QVERIFY(!dropOnPage(page, QString::fromLatin1(text), true));
+        QVERIFY(!dropOn(child<QWidget>(page, "Accounts"), QString::fromLatin1(text), false));
+        QVERIFY(!dropOn(windows->list()->viewport(), QString::fromLatin1(text), true));
     }
-    QVERIFY(!dropOnPage(page, "xmpp:anna@" + QString(5000, QLatin1Char('a')), false));
+}
+
+void tst_AddingAnAccount::linkThatIsTooLongOpensNothing()
+{
+    windows.reset();
+    windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
+    QWidget *page = windows->client->accountsPage();
+    const KirvWindowWatcher<KirvLayoutDialog> watcher([](KirvLayoutDialog *window) { window->reject(); });
+    const QString link = "xmpp:anna@" + QString(5000, QLatin1Char('a'));
+    QVERIFY(!dropOn(child<QWidget>(page, "Accounts"), link, false));
+    QCOMPARE(windows->messages(), QStringList());
+    QGuiApplication::clipboard()->setText(link);
+    page->window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(page->window(), kirvPatience));
+    child<QToolButton>(page, "Accounts_AddButton")->setFocus();
+    QTest::keySequence(page->window()->focusWidget(), QKeySequence::Paste);
+    KIRV_TRY_COMPARE(windows->messages(), QStringList("The link was not opened because it is too long."));
+    QCOMPARE(watcher.shown, 0);
 }
 
 QTEST_MAIN(tst_AddingAnAccount)

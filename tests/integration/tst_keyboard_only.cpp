@@ -6,15 +6,23 @@
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QSet>
+#include <QTabBar>
+#include <QTextEdit>
 #include <QTreeWidget>
 #include <QWindow>
 #include <QtTest>
+#include <algorithm>
 
 namespace {
 
@@ -64,7 +72,8 @@ bool tabTo(const QWidget *button)
 
 } // namespace
 
-/// An account is added, edited and removed with the keyboard alone, also where windows go from right to left.
+/// An account is added, edited and removed with the keyboard alone, and all that is in the windows can be used with it,
+/// also where windows go from right to left.
 class tst_KeyboardOnly : public QObject {
     Q_OBJECT
 
@@ -80,14 +89,21 @@ private Q_SLOTS:
     void directoryEntryIsEdited();
     void accountIsRemovedAndComesBack_data() { addDirections(); }
     void accountIsRemovedAndComesBack();
+    void exportIsBegunOnThePageGeneral_data() { addDirections(); }
+    void exportIsBegunOnThePageGeneral();
+    void tabReachesEveryControl_data();
+    void tabReachesEveryControl();
 
 private:
     static void addDirections();
+    /// Goes to that page of the window.
+    void goToPage(const QString &title);
     /// Starts the client in the direction of the row, with the accounts.
     void start(const QStringList &ids);
     /// Goes to the row of the account in the list.
     void goToRow(const QString &id);
-    QDialog *editWindow() const;
+    /// The active window but the main one; null when that is active.
+    QDialog *dialog() const;
 
     std::unique_ptr<KirvClientWindows> windows;
 };
@@ -130,7 +146,7 @@ void tst_KeyboardOnly::goToRow(const QString &id)
     QCOMPARE(windows->list()->currentItem()->text(2), id);
 }
 
-QDialog *tst_KeyboardOnly::editWindow() const
+QDialog *tst_KeyboardOnly::dialog() const
 {
     return qobject_cast<QDialog *>(QApplication::activeWindow());
 }
@@ -172,7 +188,7 @@ void tst_KeyboardOnly::accountIsEdited()
     start({ ann, bob });
     goToRow(bob);
     press(Qt::Key_Return);
-    KIRV_TRY(editWindow());
+    KIRV_TRY(dialog());
     QVERIFY(tabTo(QStringLiteral("EditAccount_Alias")));
     press(Qt::Key_A, Qt::ControlModifier);
     type(QStringLiteral("Robert"));
@@ -181,7 +197,7 @@ void tst_KeyboardOnly::accountIsEdited()
     type(QStringLiteral("example.org"));
     press(Qt::Key_Return);
     Windows::settle();
-    QVERIFY(!editWindow());
+    QVERIFY(!dialog());
     QCOMPARE(windows->account(bob)->record().alias, QStringLiteral("Robert"));
     QCOMPARE(windows->account(bob)->record().settings.value(QStringLiteral("server")), QStringLiteral("example.org"));
     QCOMPARE(windows->account(ann)->record().alias, ann);
@@ -192,7 +208,7 @@ void tst_KeyboardOnly::directoryEntryIsEdited()
     start({ ann });
     goToRow(ann);
     press(Qt::Key_Return);
-    KIRV_TRY(editWindow());
+    KIRV_TRY(dialog());
     QVERIFY(tabTo(QStringLiteral("qt_tabwidget_tabbar")));
     press(QApplication::layoutDirection() == Qt::RightToLeft ? Qt::Key_Left : Qt::Key_Right);
     Windows::settle();
@@ -200,7 +216,7 @@ void tst_KeyboardOnly::directoryEntryIsEdited()
     type(QStringLiteral("Verona"));
     press(Qt::Key_Return);
     Windows::settle();
-    QVERIFY(!editWindow());
+    QVERIFY(!dialog());
     QVERIFY(windows->protocol->server->calls.contains(QStringLiteral("ann publish town")));
 }
 
@@ -227,6 +243,97 @@ void tst_KeyboardOnly::accountIsRemovedAndComesBack()
     press(Qt::Key_Z, Qt::ControlModifier);
     Windows::settle();
     QCOMPARE(windows->rowIds(), QStringList({ ann, bob }));
+}
+
+void tst_KeyboardOnly::goToPage(const QString &title)
+{
+    QVERIFY2(tabTo(QStringLiteral("Settings_Pages")), qPrintable(focused()));
+    const auto *pages = Windows::child<QListWidget>(windows->client->window(), "Settings_Pages");
+    press(Qt::Key_Home);
+    for (int i = 0; i < 10 && pages->currentItem()->text() != title; ++i)
+        press(Qt::Key_Down);
+    QCOMPARE(pages->currentItem()->text(), title);
+    Windows::settle();
+}
+
+void tst_KeyboardOnly::exportIsBegunOnThePageGeneral()
+{
+    start({ ann });
+    goToPage(QStringLiteral("General"));
+    QVERIFY2(tabTo(QStringLiteral("General_ExportButton")), qPrintable(focused()));
+    press(Qt::Key_Space);
+    KIRV_TRY(dialog());
+    KIRV_TRY_COMPARE(focused(), QStringLiteral("ExportAccounts_List"));
+    QVERIFY2(tabTo(QStringLiteral("ExportAccounts_All")), qPrintable(focused()));
+    press(Qt::Key_Space); // no account is chosen any more
+    QVERIFY(!dialog()->findChild<QPushButton *>("ExportAccounts_Export")->isEnabled());
+    press(Qt::Key_Escape);
+    KIRV_TRY(!dialog());
+}
+
+void tst_KeyboardOnly::tabReachesEveryControl_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("place");
+    for (const Qt::LayoutDirection direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+        for (const char *place : { "Accounts", "Plug-ins", "General", "edit window", "export window" })
+            QTest::addRow("%s, %s", place, direction == Qt::LeftToRight ? "left to right" : "right to left")
+                << direction << QString::fromLatin1(place);
+    }
+}
+
+/// Each that is shown and enabled; what belongs to another one, as the text field of a box, has its keys there.
+static QSet<QWidget *> controlsIn(const QWidget *window)
+{
+    QSet<QWidget *> controls;
+    const auto all = window->findChildren<QWidget *>();
+    for (QWidget *widget : all) {
+        const bool isControl = qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
+            || qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSpinBox *>(widget)
+            || qobject_cast<QTextEdit *>(widget) || qobject_cast<QAbstractItemView *>(widget);
+        const bool isOfAnother = qobject_cast<QComboBox *>(widget->parentWidget())
+            || qobject_cast<QAbstractSpinBox *>(widget->parentWidget()) || qobject_cast<QHeaderView *>(widget)
+            || qobject_cast<QTabBar *>(widget->parentWidget());
+        if (isControl && !isOfAnother && widget->isVisible() && widget->isEnabled() && widget->window() == window)
+            controls << widget;
+    }
+    return controls;
+}
+
+void tst_KeyboardOnly::tabReachesEveryControl()
+{
+    QFETCH(QString, place);
+    start({ ann, bob });
+    if (place == QLatin1String("edit window") || place == QLatin1String("export window")) {
+        goToRow(bob);
+        if (place == QLatin1String("edit window")) {
+            press(Qt::Key_Return);
+        } else {
+            press(Qt::Key_Menu);
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            const auto actions = menu->actions();
+            const auto it = std::find_if(actions.begin(), actions.end(),
+                                         [](const QAction *action) { return action->text().startsWith("E&xport"); });
+            QVERIFY(it != actions.end());
+            (*it)->trigger();
+            menu->close();
+        }
+        KIRV_TRY(dialog());
+    } else {
+        goToPage(place);
+    }
+    const QWidget *window = QApplication::activeWindow();
+    QSet<QWidget *> missing = controlsIn(window);
+    QVERIFY(missing.size() > 3);
+    for (int i = 0; i < 150; ++i) {
+        press(Qt::Key_Tab);
+        missing.remove(QApplication::focusWidget());
+    }
+    QStringList names;
+    for (const QWidget *widget : qAsConst(missing))
+        names << widget->objectName() + QLatin1Char('/') + QLatin1String(widget->metaObject()->className());
+    QVERIFY2(names.isEmpty(), qPrintable(names.join(QStringLiteral(", "))));
 }
 
 QTEST_MAIN(tst_KeyboardOnly)

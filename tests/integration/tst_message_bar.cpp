@@ -43,6 +43,7 @@ private Q_SLOTS:
     void lastRowCanBeScrolledAboveTheBar();
     void rowStaysWhereItIsWhenTheBarGoes();
     void currentRowIsShownAboveTheBar();
+    void marksOfTheTranslationStay();
 
 private:
     void show(const QString &text)
@@ -447,6 +448,14 @@ void tst_MessageBar::currentRowIsShownAboveTheBar()
     QCOMPARE(list()->currentItem(), list()->topLevelItem(last));
     QVERIFY(rowArea(last).bottom() < areaOf(bar()).top());
     QVERIFY(rowArea(last).top() >= viewport().top());
+}
+
+/// Those of a name are shown where they would turn the text around.
+void tst_MessageBar::marksOfTheTranslationStay()
+{
+    const QString mark(QChar(0x200E)), override(QChar(0x202E));
+    bar()->showMessage(QStringLiteral("The file %1a%2b.json%1 was read.").arg(mark, override));
+    QCOMPARE(windows->messages(), QStringList(QStringLiteral("The file %1a[U+202E]b.json%1 was read.").arg(mark)));
 }
 
 QTEST_MAIN(tst_MessageBar)

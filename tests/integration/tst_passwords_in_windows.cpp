@@ -267,6 +267,7 @@ void tst_PasswordsInWindows::theAccountSaysWhatItWaitsFor()
     QVERIFY(status.accessibleLine().contains(text));
     QVERIFY(status.reason().contains(QStringLiteral("password")));
     QVERIFY(status.canEnterPassword());
+    QVERIFY(!status.canBeWrong()); // a test without the password would say that it is wrong
 }
 
 void tst_PasswordsInWindows::theAccountSaysWhatCanBeEntered_data()

@@ -36,10 +36,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void recordsAreTriedInTheirOrder_data();
-    void recordsAreTriedInTheirOrder();
-    void serviceNamesAreThoseOfTheDomain();
-
     void aServerThatIsGivenIsNotLookedUp();
     void theServicesFollowTheEncryption_data();
     void theServicesFollowTheEncryption();
@@ -150,50 +146,6 @@ void tst_XmppRoute::open(Security security, const QString &host, const QNetworkP
     configuration.setStreamSecurityMode(security);
     configuration.setNetworkProxy(proxy);
     route->open(configuration, QXmppPresence());
-}
-
-void tst_XmppRoute::recordsAreTriedInTheirOrder_data()
-{
-    QTest::addColumn<Records>("ordinary");
-    QTest::addColumn<Records>("direct");
-    QTest::addColumn<bool>("isHighest");
-    QTest::addColumn<QList<KirvXmppTarget>>("targets");
-    const KirvXmppTarget a { "a", 1, false }, b { "b", 2, false }, c { "c", 3, true };
-    QTest::newRow("none") << Records() << Records() << false << QList<KirvXmppTarget>();
-    QTest::newRow("priority") << Records { record("b", 2, 20), record("a", 1, 10) } << Records() << false
-                              << QList<KirvXmppTarget> { a, b };
-    QTest::newRow("both services, one order")
-        << Records { record("b", 2, 20), record("a", 1, 5) } << Records { record("c", 3, 10) } << false
-        << QList<KirvXmppTarget> { a, c, b };
-    QTest::newRow("weight, the smallest number") << Records { record("a", 1, 0, 10), record("b", 2, 0, 90) }
-                                                 << Records() << false << QList<KirvXmppTarget> { a, b };
-    QTest::newRow("weight, the largest number") << Records { record("a", 1, 0, 10), record("b", 2, 0, 90) } << Records()
-                                                << true << QList<KirvXmppTarget> { b, a };
-    QTest::newRow("no such service") << Records { record(".", 0) } << Records { record("", 5223) } << false
-                                     << QList<KirvXmppTarget>();
-    QTest::newRow("root of the names, port 0") << Records { record("a.", 1), record("b", 0), record("b", 70000) }
-                                               << Records() << false << QList<KirvXmppTarget> { a };
-}
-
-void tst_XmppRoute::recordsAreTriedInTheirOrder()
-{
-    QFETCH(Records, ordinary);
-    QFETCH(Records, direct);
-    QFETCH(bool, isHighest);
-    QFETCH(QList<KirvXmppTarget>, targets);
-    QCOMPARE(kirvXmppTargets(ordinary, direct, [=](int largest) { return isHighest ? largest : 0; }), targets);
-}
-
-void tst_XmppRoute::serviceNamesAreThoseOfTheDomain()
-{
-    QCOMPARE(kirvXmppServiceName("example.org", false), ordinaryName);
-    QCOMPARE(kirvXmppServiceName("example.org", true), directName);
-    QCOMPARE(kirvXmppServiceName(QString::fromUtf8("bücher.example"), false),
-             QString("_xmpp-client._tcp.xn--bcher-kva.example"));
-    Records many;
-    for (int i = 1; i < 1000; ++i)
-        many << record("a", i);
-    QVERIFY(kirvXmppTargets(many, many, [](int) { return 0; }).size() <= 40);
 }
 
 void tst_XmppRoute::aServerThatIsGivenIsNotLookedUp()
