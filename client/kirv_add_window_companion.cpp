@@ -164,6 +164,8 @@ void KirvAddWindowCompanion::updateTest()
 /// in, are not hidden.
 void KirvAddWindowCompanion::takeNewSettings()
 {
+    if (!base) // the protocol has gone, and the window goes
+        return;
     const auto forms = settings->findChildren<KirvFieldForm *>(); // the one before is about to be deleted
     connect(forms.last(), &KirvFieldForm::edited, this, &KirvAddWindowCompanion::updateSaving);
     KirvFileButton::addTo(forms.last(), base->fileSettings());

@@ -118,8 +118,10 @@ QGroupBox *KirvGeneralPage::createKeyring()
     keyringText = createText("General_Keyring", group);
     unlockButton = new QPushButton(tr("&Unlock…"), group);
     unlockButton->setObjectName(QStringLiteral("General_UnlockButton"));
-    unlockButton->setToolTip(tr("Reads the passwords that accounts wait for; the keyring asks you to unlock it."));
-    connect(unlockButton, &QPushButton::clicked, &accounts.secrets(), &KirvSecretKeeper::readAwaited);
+    unlockButton->setToolTip(
+        tr("The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those "
+           "that are in a file are moved."));
+    connect(unlockButton, &QPushButton::clicked, &accounts.secrets(), &KirvSecretKeeper::unlock);
     auto *row = new QHBoxLayout(group);
     row->addWidget(keyringText, 1);
     row->addWidget(unlockButton, 0, Qt::AlignTop);
@@ -130,12 +132,12 @@ void KirvGeneralPage::refreshKeyring()
 {
     const KirvSecretStore *keyring = accounts.secrets().keyring();
     keyringText->setText(KirvSecretTexts(accounts.secrets()).state());
-    // A keyring asks only for a password that is in it.
-    bool isAwaited = false;
+    // A keyring asks only when something is read or written.
+    bool isNeeded = accounts.secrets().hasMovableSecrets();
     const QList<KirvAccount *> all = accounts.accounts();
     for (const KirvAccount *account : all)
-        isAwaited = isAwaited || account->awaitsSecrets();
-    unlockButton->setVisible(keyring && keyring->state() == KirvSecretStore::Locked && isAwaited);
+        isNeeded = isNeeded || account->awaitsSecrets();
+    unlockButton->setVisible(keyring && keyring->state() == KirvSecretStore::Locked && isNeeded);
 }
 
 QGroupBox *KirvGeneralPage::createProfile()

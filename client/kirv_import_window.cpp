@@ -53,6 +53,10 @@ KirvImportWindow::KirvImportWindow(const Environment &environment, QWidget *pare
 {
     setObjectName(QStringLiteral("ImportAccounts"));
     setWindowTitle(tr("Import Accounts"));
+    connect(&environment.accounts.secrets(), &KirvSecretKeeper::changed, this, [this] {
+        if (state == Listing)
+            showText(listingText());
+    });
     area->setWidget(createContent());
     progress->setObjectName(QStringLiteral("ImportAccounts_Progress"));
     progress->setAccessibleName(tr("Progress"));
@@ -215,7 +219,7 @@ void KirvImportWindow::take(const Found &found)
     }
 }
 
-/// What is above the list. A file whose passwords are imported says nothing about where they go.
+/// What is above the list. Nothing is said about the place of the passwords while a keyring takes them.
 QString KirvImportWindow::listingText() const
 {
     const QString shownPath = kirvPlainName(QDir::toNativeSeparators(path));

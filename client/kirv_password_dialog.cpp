@@ -49,7 +49,9 @@ KirvPasswordDialog::KirvPasswordDialog(const KirvAccount &account, QWidget *pare
     //: %1 = name of an account, %2 = its protocol
     const QString request = tr("Enter the password of the account %1 (%2).");
     auto *question = kirvCreateText(
-        "PasswordQuestion_Text", kirvPlainSentence(request.arg(account.displayName(), account.key().protocol)), this);
+        "PasswordQuestion_Text",
+        kirvPlainSentence(request.arg(kirvPlainName(account.displayName()), kirvPlainName(account.key().protocol))),
+        this);
     auto *reason = kirvCreateText("PasswordQuestion_Reason", reasonOf(account), this);
 
     passwordEdit->setObjectName(QStringLiteral("PasswordQuestion_Password"));

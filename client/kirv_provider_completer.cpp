@@ -19,7 +19,8 @@ QString descriptionOf(const KirvProvider &provider)
                                                  //: %1 = domain of a server, %2 = its name for people
                                                  : KirvProviderList::tr("%1, %2").arg(provider.domain, provider.name);
     //: %1 = a server, %2 = who says that it can be used, as a web address, %3 = date
-    return kirvPlainSentence(KirvProviderList::tr("%1 (not verified; %2, %3)").arg(name, provider.source, date));
+    return kirvPlainSentence(KirvProviderList::tr("%1 (not verified; %2, %3)")
+                                 .arg(kirvPlainName(name), kirvPlainName(provider.source), date));
 }
 
 /// Shows the providers. No shortcut: that would take the key also while they are shown.

@@ -47,9 +47,14 @@ QString KirvSecretTexts::state() const
         //: %1 = "GNOME Keyring", here and below
         return withProvider(tr("%1 keeps the passwords. It is unlocked."),
                             tr("Your keyring keeps the passwords. It is unlocked."));
-    case KirvSecretStore::Locked:
-        return withProvider(tr("%1 keeps the passwords. It is locked."),
-                            tr("Your keyring keeps the passwords. It is locked."));
+    case KirvSecretStore::Locked: {
+        const QString locked = withProvider(tr("%1 keeps the passwords. It is locked."),
+                                            tr("Your keyring keeps the passwords. It is locked."));
+        if (!keeper.hasMovableSecrets())
+            return locked;
+        return locked + QLatin1Char(' ')
+            + tr("Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.");
+    }
     case KirvSecretStore::Silent:
         return withProvider(tr("%1 keeps the passwords. It does not respond."),
                             tr("Your keyring keeps the passwords. It does not respond."));

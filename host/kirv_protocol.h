@@ -33,9 +33,10 @@ public:
     /// An unknown name gives an empty list.
     virtual QList<KirvField> getConfigurationFields(const QString &name) = 0;
 
-    /// Each of these three talks to the server and is answered later by a
-    /// KirvPubdirAccountReceivedEvent delivered to the open edit dialog; without data when the
-    /// server refused, did not answer in time or holds no entry.
+    /// Each of these three sends a request to the server. Its reply is a
+    /// KirvPubdirAccountReceivedEvent that is delivered later to the open edit dialog; without data
+    /// when the server holds no entry. After a request that failed, deliver none: the fields would
+    /// be enabled and blank, and a Save would publish that over the entry.
     /// Sends \a fields as the directory entry of \a account.
     virtual void publishPubdirInfo(KirvAccountConnection *account, const QList<KirvField> &fields) = 0;
     /// Requests the directory entry of \a account.

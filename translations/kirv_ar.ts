@@ -2260,10 +2260,6 @@ A file is called - where the standard output or input is meant.</source>
         <translation>افتح ال&amp;قفل…</translation>
     </message>
     <message>
-        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
-        <translation>يقرأ كلمات السر التي تنتظرها الحسابات؛ تطلب منك حلقة المفاتيح فتح قفلها.</translation>
-    </message>
-    <message>
         <source>Profile</source>
         <translation>الملف الشخصي</translation>
     </message>
@@ -2315,6 +2311,10 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
         <translation>ينقل الحسابات من ملف كهذا أو من Pidgin.</translation>
+    </message>
+    <message>
+        <source>The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those that are in a file are moved.</source>
+        <translation>تطلب منك حلقة المفاتيح فتح قفلها. عندئذٍ تُقرأ كلمات السر التي تنتظرها الحسابات، وتُنقل تلك الموجودة في ملف.</translation>
     </message>
 </context>
 <context>
@@ -4363,6 +4363,10 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Or edit the account and enter it again.</source>
         <translation>أو حرّر الحساب وأدخلها من جديد.</translation>
+    </message>
+    <message>
+        <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
+        <translation>لا تزال بعض كلمات السر في ملف لا يقرؤه سواك. تُنقل عند فتح قفل حلقة المفاتيح.</translation>
     </message>
 </context>
 <context>

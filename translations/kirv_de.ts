@@ -2204,10 +2204,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>&amp;Entsperren …</translation>
     </message>
     <message>
-        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
-        <translation>Liest die Passwörter, auf die Konten warten; der Schlüsselbund bittet Sie, ihn zu entsperren.</translation>
-    </message>
-    <message>
         <source>Profile</source>
         <translation>Profil</translation>
     </message>
@@ -2259,6 +2255,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
         <translation>Übernimmt Konten aus einer solchen Datei oder von Pidgin.</translation>
+    </message>
+    <message>
+        <source>The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those that are in a file are moved.</source>
+        <translation>Der Schlüsselbund bittet Sie, ihn zu entsperren. Dann werden die Passwörter gelesen, auf die Konten warten, und die in einer Datei verschoben.</translation>
     </message>
 </context>
 <context>
@@ -4263,6 +4263,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Or edit the account and enter it again.</source>
         <translation>Oder bearbeiten Sie das Konto und geben Sie es neu ein.</translation>
+    </message>
+    <message>
+        <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
+        <translation>Einige Passwörter liegen noch in einer Datei, die nur Sie lesen können. Sie werden verschoben, wenn der Schlüsselbund entsperrt wird.</translation>
     </message>
 </context>
 <context>

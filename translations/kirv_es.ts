@@ -2204,10 +2204,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>&amp;Desbloquear…</translation>
     </message>
     <message>
-        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
-        <translation>Lee las contraseñas que esperan las cuentas; el depósito de claves le pide que lo desbloquee.</translation>
-    </message>
-    <message>
         <source>Profile</source>
         <translation>Perfil</translation>
     </message>
@@ -2259,6 +2255,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
         <translation>Importa cuentas de un archivo de este tipo o de Pidgin.</translation>
+    </message>
+    <message>
+        <source>The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those that are in a file are moved.</source>
+        <translation>El depósito de claves le pide que lo desbloquee. Entonces se leen las contraseñas que esperan las cuentas y se trasladan las que están en un archivo.</translation>
     </message>
 </context>
 <context>
@@ -4263,6 +4263,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Or edit the account and enter it again.</source>
         <translation>O edite la cuenta y vuelva a introducirla.</translation>
+    </message>
+    <message>
+        <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
+        <translation>Algunas contraseñas están todavía en un archivo que solo usted puede leer. Se trasladan cuando se desbloquea el depósito de claves.</translation>
     </message>
 </context>
 <context>

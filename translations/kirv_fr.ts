@@ -2204,10 +2204,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>&amp;Déverrouiller…</translation>
     </message>
     <message>
-        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
-        <translation>Lit les mots de passe que des comptes attendent&#xa0;; le trousseau de clés vous demande de le déverrouiller.</translation>
-    </message>
-    <message>
         <source>Profile</source>
         <translation>Profil</translation>
     </message>
@@ -2259,6 +2255,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
         <translation>Reprend des comptes depuis un tel fichier ou depuis Pidgin.</translation>
+    </message>
+    <message>
+        <source>The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those that are in a file are moved.</source>
+        <translation>Le trousseau vous demande de le déverrouiller. Les mots de passe que des comptes attendent sont alors lus, et ceux d’un fichier sont déplacés.</translation>
     </message>
 </context>
 <context>
@@ -4263,6 +4263,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Or edit the account and enter it again.</source>
         <translation>Ou modifiez le compte et saisissez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
+        <translation>Certains mots de passe se trouvent encore dans un fichier que vous seul pouvez lire. Ils sont déplacés lorsque le trousseau est déverrouillé.</translation>
     </message>
 </context>
 <context>

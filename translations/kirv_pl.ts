@@ -2218,10 +2218,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>&amp;Odblokuj…</translation>
     </message>
     <message>
-        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
-        <translation>Odczytuje hasła, na które czekają konta; baza kluczy prosi o jej odblokowanie.</translation>
-    </message>
-    <message>
         <source>Profile</source>
         <translation>Profil</translation>
     </message>
@@ -2273,6 +2269,10 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
         <translation>Przejmuje konta z takiego pliku lub z programu Pidgin.</translation>
+    </message>
+    <message>
+        <source>The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those that are in a file are moved.</source>
+        <translation>Baza kluczy prosi o odblokowanie. Potem odczytywane są hasła, na które czekają konta, a te z pliku są przenoszone.</translation>
     </message>
 </context>
 <context>
@@ -4288,6 +4288,10 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Or edit the account and enter it again.</source>
         <translation>Albo edytuj konto i wpisz je ponownie.</translation>
+    </message>
+    <message>
+        <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
+        <translation>Niektóre hasła są jeszcze w pliku, który tylko Ty możesz odczytać. Zostaną przeniesione, gdy baza kluczy zostanie odblokowana.</translation>
     </message>
 </context>
 <context>

@@ -2204,10 +2204,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>&amp;Desbloquear…</translation>
     </message>
     <message>
-        <source>Reads the passwords that accounts wait for; the keyring asks you to unlock it.</source>
-        <translation>Lê as senhas que as contas aguardam; o chaveiro pede que você o desbloqueie.</translation>
-    </message>
-    <message>
         <source>Profile</source>
         <translation>Perfil</translation>
     </message>
@@ -2259,6 +2255,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
         <translation>Importa contas de um arquivo desse tipo ou do Pidgin.</translation>
+    </message>
+    <message>
+        <source>The keyring asks you to unlock it. Then the passwords that accounts wait for are read, and those that are in a file are moved.</source>
+        <translation>O chaveiro pede que você o desbloqueie. Então as senhas que as contas esperam são lidas, e as que estão em um arquivo são movidas.</translation>
     </message>
 </context>
 <context>
@@ -4263,6 +4263,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Or edit the account and enter it again.</source>
         <translation>Ou edite a conta e digite-a de novo.</translation>
+    </message>
+    <message>
+        <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
+        <translation>Algumas senhas ainda estão em um arquivo que só você pode ler. Elas são movidas quando o chaveiro é desbloqueado.</translation>
     </message>
 </context>
 <context>

@@ -15,12 +15,11 @@ namespace {
 
 /// The secrets before count until the keyring has those that replace them, as the program may end meanwhile. They are
 /// for the server before, though, and go to no other.
-bool storeReplacement(KirvStore &store, const KirvAccountRecord &before, const KirvAccountRecord &record,
-                      KirvProtocolBase *protocol)
+bool storeReplacement(KirvStore &store, const KirvAccountRecord &record, bool goesElsewhere)
 {
     if (!store.updateAccount(record))
         return false;
-    if (kirvSecretDestination(record, protocol) == kirvSecretDestination(before, protocol))
+    if (!goesElsewhere)
         return true;
     QStringList obsolete;
     for (auto item = record.secretItems.constBegin(); item != record.secretItems.constEnd(); ++item) {
@@ -39,6 +38,7 @@ bool storeReplacement(KirvStore &store, const KirvAccountRecord &before, const K
 struct KirvAccountCollection::PlacedBatch {
     QList<KirvAccountRecord> added;
     QList<KirvAccountRecord> replaced;
+    QSet<KirvAccountKey> elsewhere; ///< those whose secrets go to another server than before, or in another way
     QStringList importedPictures;
     QList<KirvAccountKey> order; ///< with the removed accounts; empty: the added ones stand at the end
 };
@@ -132,6 +132,9 @@ bool KirvAccountCollection::placeReplacement(const KirvAccount &account, const Q
                                              KirvAccountRecord *record, PlacedBatch *placed)
 {
     const KirvAccountRecord &before = account.record();
+    KirvProtocolBase *ofAccount = protocol(record->key.protocol);
+    if (kirvSecretDestination(*record, ofAccount) != kirvSecretDestination(before, ofAccount))
+        placed->elsewhere.insert(record->key);
     QMap<QString, KirvSecretItem> items;
     for (auto item = record->secretItems.constBegin(); item != record->secretItems.constEnd(); ++item) {
         if (record->unreadSecrets.contains(item.key()))
@@ -172,8 +175,8 @@ bool KirvAccountCollection::storeBatch(const KirvAccountBatch &batch, const Plac
     if (!store.begin())
         return false;
     const auto insert = [this](const KirvAccountRecord &record) { return store.insertAccount(record); };
-    const auto update = [this](const KirvAccountRecord &record) {
-        return storeReplacement(store, find(record.key)->record(), record, protocol(record.key.protocol));
+    const auto update = [this, &placed](const KirvAccountRecord &record) {
+        return storeReplacement(store, record, placed.elsewhere.contains(record.key));
     };
     const auto remove = [this](const KirvAccount *account) { return store.removeAccount(account->key()); };
     if (std::all_of(placed.added.begin(), placed.added.end(), insert) && storeOrder(placed)

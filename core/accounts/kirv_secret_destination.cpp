@@ -8,14 +8,17 @@
 
 KirvAccountRecord kirvCompleteRecord(KirvAccountRecord record, KirvProtocolBase &protocol)
 {
-    const QList<KirvField> fields = protocol.accountSettings();
+    QList<KirvField> fields;
+    QList<KirvPresence> presences;
+    kirvCallPlugin([&] { fields = protocol.accountSettings(); });
+    kirvCallPlugin([&] { presences = protocol.presences(); });
     QMap<QString, QString> settings = kirvStoredValues(fields);
     for (auto setting = record.settings.constBegin(); setting != record.settings.constEnd(); ++setting)
         settings.insert(setting.key(), setting.value());
     record.settings = settings;
     kirvClassify(record, fields);
     if (record.defaultPresence.isEmpty())
-        record.defaultPresence = protocol.presences().first().getId();
+        record.defaultPresence = presences.value(0).getId();
     return record;
 }
 
@@ -26,10 +29,12 @@ QMap<QString, QString> kirvSecretDestination(const KirvAccountRecord &record, Ki
     if (!protocol)
         return kirvOpenSettings(record);
     KirvAccountRecord tested = kirvCompleteRecord(record, *protocol);
-    QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
-    kirvCallPlugin([&] { fields = protocol->settingsForTest(fields); }); // it fails: every setting counts
-    const QMap<QString, QString> values = kirvStoredValues(fields);
-    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-        tested.settings.insert(value.key(), value.value());
+    // Where the plug-in fails, every setting counts.
+    kirvCallPlugin([&] {
+        const QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
+        const QMap<QString, QString> values = kirvStoredValues(protocol->settingsForTest(fields));
+        for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+            tested.settings.insert(value.key(), value.value());
+    });
     return kirvOpenSettings(tested);
 }

@@ -137,7 +137,7 @@ void KirvSecretKeeper::read(KirvAccount *account)
     next();
 }
 
-void KirvSecretKeeper::readAwaited()
+void KirvSecretKeeper::unlock()
 {
     QSet<QPair<KirvAccountKey, QString>> queued;
     for (const Secret &secret : qAsConst(reads))
@@ -151,6 +151,9 @@ void KirvSecretKeeper::readAwaited()
         }
     }
     isUnlocking = true;
+    isMoveRequested = hasMovableSecrets();
+    if (isMoveRequested && movable.isEmpty() && toExamine.isEmpty())
+        collectMovable();
     isPaused = false;
     next();
 }
@@ -225,13 +228,16 @@ std::shared_ptr<const QStringList> KirvSecretKeeper::hold(const QStringList &key
 void KirvSecretKeeper::onStateChanged()
 {
     const KirvSecretStore::State state = secretStore->state();
-    isPaused = isUnlocking = false;
+    isPaused = isUnlocking = isMoveRequested = false;
     wasPresent = wasPresent || state == KirvSecretStore::Ready || state == KirvSecretStore::Locked
         || state == KirvSecretStore::Silent;
     loadChanges();
     if (state != KirvSecretStore::Ready)
         store.wipeTraces(); // of a move that may not go on for long
+    const QPointer<KirvSecretKeeper> alive(this);
     keepInProfile();
+    if (!alive)
+        return;
     if (state == KirvSecretStore::Ready) {
         load();
         if (movable.isEmpty() && toExamine.isEmpty())
@@ -264,7 +270,7 @@ void KirvSecretKeeper::keepOneInProfile(const KirvStoredItem &row)
         || account->record().unreadSecrets.contains(row.field) || account->keepSecretInProfile(row.field))
         return;
     isUnstored = true;
-    if (reported.contains(row.item.key))
+    if (account->isSaving() || reported.contains(row.item.key)) // it is tried again at the end of the save
         return;
     reported.insert(row.item.key);
     account->reportUnstoredSecret(store.lastError());
@@ -296,7 +302,7 @@ void KirvSecretKeeper::notifyNext()
 void KirvSecretKeeper::pause(const KirvSecretStore::Reply &reply)
 {
     isPaused = true;
-    isUnlocking = false;
+    isUnlocking = isMoveRequested = false;
     lastOutcome = reply.outcome;
     store.wipeTraces();
     notifyAccounts();
@@ -332,14 +338,14 @@ void KirvSecretKeeper::next()
         QTimer::singleShot(0, this, &KirvSecretKeeper::reportWrites); // the caller may be in the middle of a change
         return;
     }
-    if (readNext() || writeNext() || state == KirvSecretStore::Locked)
+    if (readNext() || writeNext() || (state == KirvSecretStore::Locked && !isMoveRequested))
         return;
     if (std::exchange(hasReplaced, false)) {
         load();
         if (writeNext())
             return;
     }
-    if (!removeNext())
+    if (state == KirvSecretStore::Locked || !removeNext())
         moveNext();
 }
 

@@ -50,9 +50,11 @@ public:
     Obstacle obstacle() const;
     /// Moves what the profile holds to the keyring, when it is unlocked; also later, when that was not possible.
     void startMoving();
-    /// Reads the secrets that accounts await, also those of disabled accounts: the user requests it. A keyring that is
-    /// locked asks the user to unlock it.
-    void readAwaited();
+    /// Whether secrets are in the profile that belong to the keyring and will be moved there.
+    bool hasMovableSecrets() const;
+    /// Reads the secrets that accounts await, also those of disabled accounts, and moves what is movable: the user
+    /// requests it. A keyring that is locked asks the user to unlock it.
+    void unlock();
 
     // For the accounts.
 
@@ -141,6 +143,7 @@ private:
     bool isScheduled = false;
     bool isGivingUpScheduled = false;
     bool isUnlocking = false; ///< what disabled accounts await is read, too
+    bool isMoveRequested = false; ///< also while the keyring is locked
     bool hasChanged = false; ///< what is stored, since load()
     bool hasReplaced = false; ///< items of the store, since load(): they are not among the removals yet
     bool isPaused = false;

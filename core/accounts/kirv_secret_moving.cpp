@@ -7,6 +7,7 @@
 #include "core/store/kirv_store.h"
 #include "core/store/kirv_wiped_text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -23,6 +24,18 @@ void KirvSecretKeeper::startMoving()
     movedCount = store.movedCount();
     collectMovable();
     next();
+}
+
+bool KirvSecretKeeper::hasMovableSecrets() const
+{
+    return mayMove && usesKeyring() && std::any_of(accounts.begin(), accounts.end(), [](const KirvAccount *account) {
+               const KirvAccountRecord &record = account->record();
+               const auto isHere = [&record](const QString &field) {
+                   return !record.settings.value(field).isEmpty() && !record.secretItems.contains(field);
+               };
+               return (record.rememberPassword && !record.password.isEmpty() && !record.secretItems.contains(QString()))
+                   || std::any_of(record.secretSettings.begin(), record.secretSettings.end(), isHere);
+           });
 }
 
 /// All accounts are looked at anew.

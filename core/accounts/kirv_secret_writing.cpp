@@ -149,7 +149,7 @@ bool KirvSecretKeeper::removeNext()
         const QPointer<KirvSecretKeeper> alive(this);
         if (reply.outcome == KirvSecretStore::Done || reply.outcome == KirvSecretStore::Missing)
             store.forgetSecretItems({ row.item.key });
-        else
+        else if (reply.outcome != KirvSecretStore::Refused) // one that is locked elsewhere is tried again later
             pause(reply);
         if (alive)
             next();

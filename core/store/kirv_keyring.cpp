@@ -46,23 +46,19 @@ bool closeLibrarySession()
     return disconnect;
 }
 
-/// Lets the program outlive the session bus: what libsecret connects to it with would end the program with the bus. To
-/// be called when that connection exists; it does not wait then.
+/// Lets the program outlive the session bus: the connection of GIO that libsecret uses would end the program with the
+/// bus. To be called when that exists, and once, as it is kept for good: no later one takes its place.
 void outliveBus()
 {
     using GetBus = void *(*)(int type, void *cancellable, void **error);
     using SetExitOnClose = void (*)(void *connection, int exits);
-    using Release = void (*)(void *object);
     const int sessionBus = 2; // G_BUS_TYPE_SESSION
-    QLibrary io(QStringLiteral("gio-2.0"), 0), objects(QStringLiteral("gobject-2.0"), 0);
+    QLibrary io(QStringLiteral("gio-2.0"), 0);
     const auto getBus = reinterpret_cast<GetBus>(io.resolve("g_bus_get_sync"));
     const auto setExitOnClose = reinterpret_cast<SetExitOnClose>(io.resolve("g_dbus_connection_set_exit_on_close"));
-    const auto release = reinterpret_cast<Release>(objects.resolve("g_object_unref"));
-    void *bus = getBus && setExitOnClose && release ? getBus(sessionBus, nullptr, nullptr) : nullptr;
-    if (!bus)
-        return;
-    setExitOnClose(bus, 0);
-    release(bus);
+    void *bus = getBus && setExitOnClose ? getBus(sessionBus, nullptr, nullptr) : nullptr;
+    if (bus)
+        setExitOnClose(bus, 0);
 }
 
 /// While one exists, the session does not look like Plasma. There QtKeychain would talk to KWallet in KWallet's own
@@ -236,16 +232,17 @@ void KirvKeyring::jobFinished(int error, const QString &secret, const QString &t
     }
     timeLimit.stop();
     const Outcome outcome = outcomeOf(error);
-    if (outcome == Done || outcome == Missing) {
+    if (outcome != Failed) { // the connection exists
         static const bool isDone = (outliveBus(), true);
         Q_UNUSED(isDone)
     }
-    if (outcome == Done) {
+    if (outcome == Done && running->kind != Remove) {
         answer({ Done, secret, QString() });
         return;
     }
-    // What cannot be read in a keyring that stays locked is reported as missing, too.
-    unproven = std::make_unique<Reply>(Reply { outcome, QString(), text });
+    // What cannot be read in a keyring that stays locked is reported as missing, too, and a removal also ends well when
+    // it has found nothing to remove.
+    unproven = std::make_unique<Reply>(Reply { outcome == Done ? Missing : outcome, QString(), text });
     watcher->refresh();
 }
 
@@ -254,10 +251,11 @@ void KirvKeyring::stateKnown()
 {
     if (!unproven)
         return;
-    if (unproven->outcome == Missing && watcher->state() == Ready && running->kind == Read) {
+    if (unproven->outcome == Missing && watcher->state() == Ready && running->kind == Remove) {
         watcher->search(running->item.key);
         return;
     }
+    watcher->cancelSearch();
     Reply reply = *std::exchange(unproven, nullptr);
     if (watcher->state() == Locked)
         reply.outcome = Refused;
@@ -266,7 +264,7 @@ void KirvKeyring::stateKnown()
     answer(reply);
 }
 
-/// What the user has moved into another keyring, and has not unlocked there, is not missing either.
+/// What the user has moved into another keyring, and has not unlocked there, was not removed.
 void KirvKeyring::searchEnded(Outcome outcome)
 {
     if (!unproven)

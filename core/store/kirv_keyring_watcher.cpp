@@ -52,7 +52,10 @@ KirvKeyringWatcher::KirvKeyringWatcher(int replyTimeoutMilliseconds, QObject *pa
     , connectionName(QStringLiteral("kirv-keyring-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
     lockedRefresh.setInterval(1000);
-    connect(&lockedRefresh, &QTimer::timeout, this, &KirvKeyringWatcher::refresh);
+    connect(&lockedRefresh, &QTimer::timeout, this, [this] {
+        if (!replyTimeout.isActive()) // otherwise one that does not reply would have time for ever
+            refresh();
+    });
     replyTimeout.setSingleShot(true);
     replyTimeout.setInterval(replyTimeoutMilliseconds);
     connect(&replyTimeout, &QTimer::timeout, this, [this] { finish(KirvSecretStore::Silent); });
@@ -270,6 +273,11 @@ void KirvKeyringWatcher::search(const QString &key)
         else
             endSearch(count(1) > 0 ? KirvSecretStore::Refused : KirvSecretStore::Missing);
     });
+}
+
+void KirvKeyringWatcher::cancelSearch()
+{
+    searchTimeout.stop();
 }
 
 void KirvKeyringWatcher::endSearch(KirvSecretStore::Outcome outcome)

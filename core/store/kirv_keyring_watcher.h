@@ -34,9 +34,10 @@ public:
     KirvSecretStore::State state() const { return current; }
     QString providerName() const { return provider; }
 
-    /// Looks in all collections of the service why the item \a key could not be read; searchEnded() follows. One
-    /// search at a time.
+    /// Looks for the item \a key in all collections of the service; searchEnded() follows. One search at a time.
     void search(const QString &key);
+    /// searchEnded() does not follow.
+    void cancelSearch();
 
 public Q_SLOTS:
     /// Requests the state of the service again; refreshed() follows in any case.

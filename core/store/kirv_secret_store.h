@@ -55,6 +55,7 @@ public:
     virtual void read(const KirvSecretItem &item, QObject *context, const Callback &callback) = 0;
     virtual void write(const KirvSecretItem &item, const QString &secret, QObject *context,
                        const Callback &callback) = 0;
+    /// Done or Missing: it is not there any more. Refused: it is, in a place that is locked.
     virtual void remove(const KirvSecretItem &item, QObject *context, const Callback &callback) = 0;
 
 Q_SIGNALS:

@@ -48,7 +48,6 @@ KirvMovedAccounts movedAccounts(const QStringList &ids)
 
 } // namespace
 
-/// Accounts of a file come into the profile: all that was chosen, or nothing, and back.
 /// As a protocol changes them for a test whose port does not matter.
 static QList<KirvField> withAnyPort(QList<KirvField> fields)
 {
@@ -59,6 +58,7 @@ static QList<KirvField> withAnyPort(QList<KirvField> fields)
     return fields;
 }
 
+/// Accounts of a file come into the profile: all that was chosen, or nothing, and back.
 class tst_AccountImport : public QObject {
     Q_OBJECT
 

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void keyringIsDescribed();
     void lockedKeyringIsUnlocked_data();
     void lockedKeyringIsUnlocked();
+    void lockedKeyringIsUnlockedForTheMove();
     void folderIsOpened();
     void copiesAreListed();
 
@@ -335,6 +336,8 @@ void tst_GeneralPage::keyringIsDescribed()
     QFETCH(QString, text);
     QCOMPARE(part<QLabel>("Keyring")->text(),
              QStringLiteral("Passwords that are remembered are kept in a file only you can read."));
+    for (KirvAccount *account : windows->client->accounts().accounts())
+        account->setPassword(QString()); // nothing is to be moved
     KirvFakeSecretStore keyring;
     keyring.provider = provider;
     windows->client->accounts().secrets().setKeyring(&keyring);
@@ -373,6 +376,27 @@ void tst_GeneralPage::lockedKeyringIsUnlocked()
     keyring.setState(KirvSecretStore::Ready);
     KIRV_TRY(!windows->account(bob)->awaitsSecrets());
     KIRV_TRY(part<QPushButton>("UnlockButton")->isHidden());
+    windows->end();
+}
+
+void tst_GeneralPage::lockedKeyringIsUnlockedForTheMove()
+{
+    KirvFakeSecretStore keyring(KirvSecretStore::Locked);
+    KirvSecretKeeper &secrets = windows->client->accounts().secrets();
+    secrets.setKeyring(&keyring);
+    secrets.startMoving();
+    keyring.setState(KirvSecretStore::Locked);
+    KIRV_TRY_COMPARE(
+        part<QLabel>("Keyring")->text(),
+        QStringLiteral("Fake Keyring keeps the passwords. It is locked. Some passwords are still in a file "
+                       "only you can read. They are moved when the keyring is unlocked."));
+    QVERIFY(!part<QPushButton>("UnlockButton")->isHidden());
+    part<QPushButton>("UnlockButton")->click();
+    KIRV_TRY(!keyring.secrets.isEmpty());
+    keyring.setState(KirvSecretStore::Ready);
+    KIRV_TRY_COMPARE(part<QLabel>("Keyring")->text(),
+                     QStringLiteral("Fake Keyring keeps the passwords. It is unlocked."));
+    QVERIFY(part<QPushButton>("UnlockButton")->isHidden());
     windows->end();
 }
 

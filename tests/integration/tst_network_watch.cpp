@@ -113,8 +113,6 @@ void tst_NetworkWatch::tenThousandMessagesAreOneChange()
     timing.settling = 300;
     timing.distance = 0;
     watch(timing);
-    QElapsedTimer time;
-    time.start();
     network = "wlan0 198.51.100.1";
     send(10000);
     KIRV_TRY(!changes->isEmpty());
@@ -122,7 +120,7 @@ void tst_NetworkWatch::tenThousandMessagesAreOneChange()
     const int before = watcher->comparisons();
     KIRV_TRY(watcher->comparisons() > before);
     QCOMPARE(changes->size(), 1);
-    QVERIFY(watcher->comparisons() <= 1 + time.elapsed() / timing.settling);
+    QVERIFY2(watcher->comparisons() < 200, QByteArray::number(watcher->comparisons()).constData());
 }
 
 void tst_NetworkWatch::messagesWithoutAChangeAreIgnored()

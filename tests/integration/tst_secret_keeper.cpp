@@ -94,6 +94,7 @@ private Q_SLOTS:
     void removingManyAccountsReadsOnceWhatIsToBeRemoved();
     void theItemsOfAnAccountAreFoundByAnIndex();
     void whatCouldNotBeRemovedIsRemovedAtTheNextStart();
+    void whatIsLockedElsewhereHoldsNothingUp();
     void itemsOfOtherProfilesAreLeftAlone();
 
     void theLoginWaitsForItsSecrets();
@@ -416,7 +417,7 @@ void tst_SecretKeeper::removingManyAccountsReadsOnceWhatIsToBeRemoved()
     QVERIFY(core->store.commit());
     KIRV_TRY(core->store.unsettledItems().isEmpty());
     QCOMPARE(keyring->secrets.size(), 100);
-    const StatementLog log(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
+    StatementLog log(QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false));
     QVERIFY(log.isOn());
     QVERIFY(core->accounts->remove(many));
     KIRV_TRY(keyring->secrets.isEmpty());
@@ -451,6 +452,23 @@ void tst_SecretKeeper::whatCouldNotBeRemovedIsRemovedAtTheNextStart()
     keyring->setState(KirvSecretStore::Ready);
     settle();
     QVERIFY(keyring->secrets.isEmpty());
+}
+
+/// The user has moved it into another keyring, which is locked.
+void tst_SecretKeeper::whatIsLockedElsewhereHoldsNothingUp()
+{
+    QVERIFY(core->create());
+    QVERIFY(core->create(QStringLiteral("other")));
+    settle();
+    keyring->outcome = KirvSecretStore::Refused;
+    QVERIFY(core->accounts->remove(account()));
+    settle();
+    QVERIFY(keyring->calls.contains(QStringLiteral("remove")));
+    QCOMPARE(core->accounts->secrets().obstacle(), KirvSecretKeeper::None);
+    keyring->outcome = KirvSecretStore::Done;
+    restart();
+    settle();
+    QCOMPARE(keyring->secrets.values(), QStringList("word of other")); // tried again
 }
 
 void tst_SecretKeeper::itemsOfOtherProfilesAreLeftAlone()
@@ -651,14 +669,14 @@ void tst_SecretKeeper::aLockedKeyringIsAskedForDisabledAccountsOnRequest()
     restart();
     settle();
     keyring->calls.clear();
-    core->accounts->secrets().readAwaited();
+    core->accounts->secrets().unlock();
     settle();
     QCOMPARE(keyring->calls, QStringList("read"));
     keyring->outcome = KirvSecretStore::Done;
     keyring->setState(KirvSecretStore::Locked);
     settle();
     QCOMPARE(keyring->calls, QStringList("read")); // not again without a request
-    core->accounts->secrets().readAwaited();
+    core->accounts->secrets().unlock();
     settle();
     QCOMPARE(account()->getPassword(), password);
     QCOMPARE(core->account(QStringLiteral("b"))->getPassword(), QStringLiteral("word of b"));

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void aCompleteMoveLeavesNoTrace();
     void aMoveThatCannotBeEndedEndsAtTheNextStart();
     void itemsOfAnInterruptedMoveAreGivenUpTogether();
+    void aLockedKeyringIsUnlockedForTheMoveOnRequest_data();
+    void aLockedKeyringIsUnlockedForTheMoveOnRequest();
 
     void withoutAKeyringAFewAreKeptInATurn();
     void aTurnReportsAFew();
@@ -103,6 +105,42 @@ void tst_SecretMoving::moveUntil(int written)
         KirvAccountsFixture::settle();
     }
     QCOMPARE(keyring->secrets.size(), written);
+}
+
+void tst_SecretMoving::aLockedKeyringIsUnlockedForTheMoveOnRequest_data()
+{
+    QTest::addColumn<bool>("isUnlocked");
+    QTest::newRow("the user unlocks it") << true;
+    QTest::newRow("the user refuses") << false;
+}
+
+void tst_SecretMoving::aLockedKeyringIsUnlockedForTheMoveOnRequest()
+{
+    QFETCH(bool, isUnlocked);
+    const int count = 3;
+    fill(count);
+    KirvSecretKeeper &secrets = core->accounts->secrets();
+    keyring->setState(KirvSecretStore::Locked);
+    secrets.startMoving();
+    for (int round = 0; round < 20; ++round)
+        KirvAccountsFixture::settle();
+    QCOMPARE(keyring->calls, QStringList()); // nobody has requested it
+    QVERIFY(secrets.hasMovableSecrets());
+    keyring->outcome = isUnlocked ? KirvSecretStore::Done : KirvSecretStore::Refused;
+    secrets.unlock();
+    if (!isUnlocked) {
+        KIRV_TRY(!keyring->calls.isEmpty());
+        for (int round = 0; round < 20; ++round)
+            KirvAccountsFixture::settle();
+        QCOMPARE(keyring->calls, QStringList("write")); // once
+        QCOMPARE(movedCount(), 0);
+        QVERIFY(secrets.hasMovableSecrets());
+        keyring->outcome = KirvSecretStore::Done;
+        keyring->setState(KirvSecretStore::Ready); // later, by another program
+    }
+    KIRV_TRY_COMPARE(movedCount(), count);
+    QCOMPARE(keyring->secrets.size(), count);
+    QVERIFY(!secrets.hasMovableSecrets());
 }
 
 int tst_SecretMoving::movedCount() const

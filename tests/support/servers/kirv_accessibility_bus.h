@@ -135,6 +135,12 @@ public:
             first(call(object, QStringLiteral("org.a11y.atspi.Action"), "GetActions")));
     }
 
+    /// Does the first action of \a object, as pressing a button.
+    bool press(const KirvAccessible &object)
+    {
+        return first(call(object, QStringLiteral("org.a11y.atspi.Action"), "DoAction", { 0 })).toBool();
+    }
+
     /// All objects below \a root, of which each comes before its children, as far as \a mayEnter.
     QList<KirvAccessible> below(
         const KirvAccessible &root,

@@ -38,6 +38,7 @@ public:
     void leave() { bus.unregisterService(QStringLiteral("org.freedesktop.secrets")); }
 
     std::atomic_bool isLocked { false };
+    std::atomic_bool isHung { false }; ///< from now on it replies to nothing
     /// The methods that were called, in order.
     QStringList calls() const
     {
@@ -54,7 +55,7 @@ public:
             called << method;
         }
         message.setDelayedReply(true);
-        if (script == NeverReplies)
+        if (script == NeverReplies || isHung)
             return true;
         if (method == QLatin1String("ReadAlias"))
             bus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(collection()))));
