@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <QtTest>
 
 namespace {
