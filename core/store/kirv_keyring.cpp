@@ -19,6 +19,8 @@
 
 namespace {
 
+const int mostRepetitions = 3; // of a read whose secret is there
+
 KirvSecretStore::Outcome outcomeOf(int error)
 {
     switch (error) {
@@ -251,7 +253,7 @@ void KirvKeyring::stateKnown()
 {
     if (!unproven)
         return;
-    if (unproven->outcome == Missing && watcher->state() == Ready && running->kind == Remove) {
+    if (unproven->outcome == Missing && watcher->state() == Ready) {
         watcher->search(running->item.key);
         return;
     }
@@ -264,13 +266,19 @@ void KirvKeyring::stateKnown()
     answer(reply);
 }
 
-/// What the user has moved into another keyring, and has not unlocked there, was not removed.
+/// What is there was not removed, also when the user has moved it into another keyring, which is locked. What could not
+/// be read although it can be was locked a moment ago; what is locked elsewhere is missing here.
 void KirvKeyring::searchEnded(Outcome outcome)
 {
     if (!unproven)
         return;
     Reply reply = *std::exchange(unproven, nullptr);
-    reply.outcome = outcome;
+    const bool isRead = running->kind == Read;
+    if (isRead && outcome == Done && ++running->repetitions < mostRepetitions) {
+        startJob();
+        return;
+    }
+    reply.outcome = outcome == Done ? Failed : isRead && outcome == Refused ? Missing : outcome;
     answer(reply);
 }
 

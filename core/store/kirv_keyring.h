@@ -44,6 +44,7 @@ private:
         QString secret;
         QPointer<QObject> context;
         Callback callback;
+        int repetitions = 0;
     };
 
     void enqueue(const Operation &operation);

@@ -267,9 +267,10 @@ void KirvKeyringWatcher::search(const QString &key)
         const auto count = [&reply](int index) {
             return qdbus_cast<QList<QDBusObjectPath>>(reply.arguments().value(index)).size();
         };
-        const bool isAnswered = reply.type() == QDBusMessage::ReplyMessage;
-        if (!isAnswered || count(0) > 0) // unlocked ones
+        if (reply.type() != QDBusMessage::ReplyMessage)
             endSearch(KirvSecretStore::Failed);
+        else if (count(0) > 0) // unlocked ones
+            endSearch(KirvSecretStore::Done);
         else
             endSearch(count(1) > 0 ? KirvSecretStore::Refused : KirvSecretStore::Missing);
     });

@@ -49,8 +49,8 @@ Q_SIGNALS:
     void replaced();
     /// What refresh() has requested is known: the service has replied, has gone, or does not reply in time.
     void refreshed();
-    /// Missing: no collection has the item; Refused: it would have to be unlocked; Failed: it is there, or the service
-    /// does not say.
+    /// Done: the item is there, unlocked; Refused: it would have to be unlocked; Missing: no collection has it; Failed:
+    /// the service does not say.
     void searchEnded(KirvSecretStore::Outcome outcome);
 
 private Q_SLOTS:

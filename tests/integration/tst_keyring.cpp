@@ -98,6 +98,7 @@ private Q_SLOTS:
     void aReplyMayDestroyTheKeyring_data();
     void aReplyMayDestroyTheKeyring();
     void anItemInAnotherKeyringThatIsLockedIsNotRemoved();
+    void aSecretIsNotMissingWhenTheKeyringIsUnlockedMeanwhile();
     void aLockedServiceThatHangsIsSilent();
     void theProgramOutlivesItsBus();
 };
@@ -475,6 +476,29 @@ void tst_Keyring::anItemInAnotherKeyringThatIsLockedIsNotRemoved()
     keyring.remove(item, &removed, removed.taker());
     KIRV_TRY(removed.has());
     QVERIFY2(removed.outcome() == KirvSecretStore::Refused, removed.text());
+}
+
+/// The library says of one that it cannot unlock what it says of one that is not there.
+void tst_Keyring::aSecretIsNotMissingWhenTheKeyringIsUnlockedMeanwhile()
+{
+    KirvGnomeKeyring daemon;
+    QVERIFY(daemon.start());
+    KirvKeyring keyring;
+    Answer written;
+    keyring.write(item, QStringLiteral("secret"), &written, written.taker());
+    KIRV_TRY(written.has());
+    for (int turns = 0; turns < 40; ++turns) { // it is unlocked later each time
+        QVERIFY(daemon.lock());
+        KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
+        Answer read;
+        keyring.read(item, &read, read.taker());
+        for (int turn = 0; turn < turns && !read.has(); ++turn)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); // the watcher has timers
+        QVERIFY(daemon.unlock());
+        KIRV_TRY(read.has());
+        QVERIFY2(read.outcome() != KirvSecretStore::Missing, QByteArray::number(turns).constData());
+        KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    }
 }
 
 /// After it has said that it is locked, which is looked at again and again.
