@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef DISABLED_ACCOUNTS_H
-#define DISABLED_ACCOUNTS_H
+#ifndef KIRV_DISABLED_ACCOUNTS_H
+#define KIRV_DISABLED_ACCOUNTS_H
 
 #include <QString>
 

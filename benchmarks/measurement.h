@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef MEASUREMENT_H
-#define MEASUREMENT_H
+#ifndef KIRV_MEASUREMENT_H
+#define KIRV_MEASUREMENT_H
 
 #include <QElapsedTimer>
 #include <QString>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#ifndef VIRTUAL_DISPLAY_H
-#define VIRTUAL_DISPLAY_H
+#ifndef KIRV_VIRTUAL_DISPLAY_H
+#define KIRV_VIRTUAL_DISPLAY_H
 
 #include <QByteArray>
 #include <QProcess>

@@ -200,16 +200,15 @@ void KirvImportWindow::take(const Found &found)
 {
     if (!found.bytes.isEmpty())
         bytes = found.bytes;
-    const QString shownPath = kirvPlainName(QDir::toNativeSeparators(path));
     if (found.needsPassPhrase || found.result.wrongPassPhrase) {
         //: %1 = path of a file
-        showText(
-            tr("The file %1 contains passwords. Enter the pass phrase with which they are encrypted.").arg(shownPath));
+        showText(tr("The file %1 contains passwords. Enter the pass phrase with which they are encrypted.")
+                     .arg(shownPath()));
         setState(NeedsPassPhrase);
         showProblem(found.result.problem);
     } else if (!found.result.problem.isEmpty()) {
         //: %1 = path of a file
-        showText(tr("The accounts in the file %1 cannot be imported.").arg(shownPath));
+        showText(tr("The accounts in the file %1 cannot be imported.").arg(shownPath()));
         setState(Unreadable);
         showProblem(found.result.problem);
     } else {
@@ -219,18 +218,22 @@ void KirvImportWindow::take(const Found &found)
     }
 }
 
+QString KirvImportWindow::shownPath() const
+{
+    return kirvPlainName(QDir::toNativeSeparators(path));
+}
+
 /// What is above the list. Nothing is said about the place of the passwords while a keyring takes them.
 QString KirvImportWindow::listingText() const
 {
-    const QString shownPath = kirvPlainName(QDir::toNativeSeparators(path));
     if (moved.accounts.isEmpty()) {
         //: %1 = path of a file
-        return tr("The file %1 contains no accounts that can be imported.").arg(shownPath);
+        return tr("The file %1 contains no accounts that can be imported.").arg(shownPath());
     }
     //: %1 = path of a file
     const QString sentence = tr("The file %1 contains these accounts. Nothing is changed before you import them, and "
                                 "the import can be undone.")
-                                 .arg(shownPath);
+                                 .arg(shownPath());
     const auto hasSecrets = [](const KirvMovedAccount &account) {
         const QSet<QString> fields = kirvSecretFieldsOf(account.record);
         return std::any_of(fields.begin(), fields.end(),

@@ -77,6 +77,7 @@ private:
     void refreshButtons();
     QString stateOf(const KirvAccountImport::Row &row) const;
     static QString stateOfLosing(const KirvAccountImport::Row &row);
+    QString shownPath() const;
     QString listingText() const;
     QString leftOutText() const;
     void import();

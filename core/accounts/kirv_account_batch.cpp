@@ -132,8 +132,7 @@ bool KirvAccountCollection::placeReplacement(const KirvAccount &account, const Q
                                              KirvAccountRecord *record, PlacedBatch *placed)
 {
     const KirvAccountRecord &before = account.record();
-    KirvProtocolBase *ofAccount = protocol(record->key.protocol);
-    if (kirvSecretDestination(*record, ofAccount) != kirvSecretDestination(before, ofAccount))
+    if (!kirvHaveSameDestination(*record, before, protocol(record->key.protocol)))
         placed->elsewhere.insert(record->key);
     QMap<QString, KirvSecretItem> items;
     for (auto item = record->secretItems.constBegin(); item != record->secretItems.constEnd(); ++item) {

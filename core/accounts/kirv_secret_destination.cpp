@@ -6,35 +6,57 @@
 #include "core/protocol/kirv_plugin_call.h"
 #include "core/protocol/kirv_protocol_base.h"
 
-KirvAccountRecord kirvCompleteRecord(KirvAccountRecord record, KirvProtocolBase &protocol)
+namespace {
+
+/// Of a new account; empty where the plug-in fails.
+QList<KirvField> settingsOf(KirvProtocolBase &protocol)
 {
     QList<KirvField> fields;
-    QList<KirvPresence> presences;
     kirvCallPlugin([&] { fields = protocol.accountSettings(); });
-    kirvCallPlugin([&] { presences = protocol.presences(); });
-    QMap<QString, QString> settings = kirvStoredValues(fields);
-    for (auto setting = record.settings.constBegin(); setting != record.settings.constEnd(); ++setting)
-        settings.insert(setting.key(), setting.value());
-    record.settings = settings;
+    return fields;
+}
+
+void addMissing(KirvAccountRecord &record, const QList<KirvField> &fields)
+{
+    const QMap<QString, QString> defaults = kirvStoredValues(fields);
+    for (auto value = defaults.constBegin(); value != defaults.constEnd(); ++value) {
+        if (!record.settings.contains(value.key()))
+            record.settings.insert(value.key(), value.value());
+    }
     kirvClassify(record, fields);
-    if (record.defaultPresence.isEmpty())
-        record.defaultPresence = presences.value(0).getId();
+}
+
+/// The settings of \a record that decide where its secrets go and how they are protected. Those that are replaced for a
+/// log-in that is only a test do not: a test is one of the same server, in the same way.
+QMap<QString, QString> destinationOf(KirvAccountRecord record, KirvProtocolBase &protocol,
+                                     const QList<KirvField> &fields)
+{
+    addMissing(record, fields);
+    QList<KirvField> replaced; // none where the plug-in fails: every setting counts
+    kirvCallPlugin([&] { replaced = protocol.settingsForTest(kirvFieldsWithValues(fields, record.settings)); });
+    const QMap<QString, QString> values = kirvStoredValues(replaced);
+    for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+        record.settings.insert(value.key(), value.value());
+    return kirvOpenSettings(record);
+}
+
+} // namespace
+
+KirvAccountRecord kirvCompleteRecord(KirvAccountRecord record, KirvProtocolBase &protocol)
+{
+    addMissing(record, settingsOf(protocol));
+    if (record.defaultPresence.isEmpty()) {
+        kirvCallPlugin([&] { record.defaultPresence = protocol.presences().value(0).getId(); });
+    }
     return record;
 }
 
-/// Settings that are replaced for a log-in that is only a test do not count: a test is one of the same server, in the
-/// same way.
-QMap<QString, QString> kirvSecretDestination(const KirvAccountRecord &record, KirvProtocolBase *protocol)
+bool kirvHaveSameDestination(const KirvAccountRecord &left, const KirvAccountRecord &right, KirvProtocolBase *protocol)
 {
+    if (left.settings == right.settings) // quick, as there may be thousands
+        return true;
     if (!protocol)
-        return kirvOpenSettings(record);
-    KirvAccountRecord tested = kirvCompleteRecord(record, *protocol);
-    // Where the plug-in fails, every setting counts.
-    kirvCallPlugin([&] {
-        const QList<KirvField> fields = kirvFieldsWithValues(protocol->accountSettings(), tested.settings);
-        const QMap<QString, QString> values = kirvStoredValues(protocol->settingsForTest(fields));
-        for (auto value = values.constBegin(); value != values.constEnd(); ++value)
-            tested.settings.insert(value.key(), value.value());
-    });
-    return kirvOpenSettings(tested);
+        return kirvOpenSettings(left) == kirvOpenSettings(right);
+    const QList<KirvField> fields = settingsOf(*protocol);
+    return destinationOf(left, *protocol, fields) == destinationOf(right, *protocol, fields);
 }

@@ -9,8 +9,8 @@ class KirvProtocolBase;
 /// \a record as an account of \a protocol that is added with it: settings that it lacks have their defaults.
 KirvAccountRecord kirvCompleteRecord(KirvAccountRecord record, KirvProtocolBase &protocol);
 
-/// The settings of \a record that decide where its secrets go and how they are protected: passwords go along only to
-/// where they went before. \a protocol is null while it is not loaded: then every setting counts that is not secret.
-QMap<QString, QString> kirvSecretDestination(const KirvAccountRecord &record, KirvProtocolBase *protocol);
+/// Whether the secrets of both go to the same server, in the same way: passwords go along only to where they went
+/// before. \a protocol is null while it is not loaded: then every setting counts that is not secret.
+bool kirvHaveSameDestination(const KirvAccountRecord &left, const KirvAccountRecord &right, KirvProtocolBase *protocol);
 
 #endif

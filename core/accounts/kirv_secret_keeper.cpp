@@ -152,7 +152,7 @@ void KirvSecretKeeper::unlock()
     }
     isUnlocking = true;
     isMoveRequested = hasMovableSecrets();
-    if (isMoveRequested && movable.isEmpty() && toExamine.isEmpty())
+    if (isMoveRequested)
         collectMovable();
     isPaused = false;
     next();

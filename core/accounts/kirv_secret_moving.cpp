@@ -16,6 +16,19 @@ const int batchSize = 100; ///< secrets whose items one commit notes
 const int keepSize = 20; ///< secrets that one commit takes out of the profile
 const int examineSize = 50; ///< accounts in one turn of the event loop
 
+/// The fields of those secrets that the profile holds. Which settings are secret is known when the protocol is loaded.
+QStringList movableFieldsOf(const KirvAccount &account)
+{
+    const KirvAccountRecord &record = account.record();
+    QStringList fields;
+    for (const QString &field : kirvSecretFieldsOf(record)) {
+        const bool isHere = !record.secretItems.contains(field) && !kirvSecretOf(record, field).isEmpty();
+        if (isHere && (field.isEmpty() || account.protocol()))
+            fields << field;
+    }
+    return fields;
+}
+
 } // namespace
 
 void KirvSecretKeeper::startMoving()
@@ -29,12 +42,7 @@ void KirvSecretKeeper::startMoving()
 bool KirvSecretKeeper::hasMovableSecrets() const
 {
     return mayMove && usesKeyring() && std::any_of(accounts.begin(), accounts.end(), [](const KirvAccount *account) {
-               const KirvAccountRecord &record = account->record();
-               const auto isHere = [&record](const QString &field) {
-                   return !record.settings.value(field).isEmpty() && !record.secretItems.contains(field);
-               };
-               return (record.rememberPassword && !record.password.isEmpty() && !record.secretItems.contains(QString()))
-                   || std::any_of(record.secretSettings.begin(), record.secretSettings.end(), isHere);
+               return !movableFieldsOf(*account).isEmpty();
            });
 }
 
@@ -47,17 +55,14 @@ void KirvSecretKeeper::collectMovable()
         toExamine = accounts.keys();
 }
 
-/// A few at a time: thousands may be there. Which settings are secret is known when the protocol is loaded.
+/// A few at a time: thousands may be there.
 void KirvSecretKeeper::examineNext()
 {
     for (int count = 0; count < examineSize && !toExamine.isEmpty(); ++count) {
         const KirvAccount *account = accounts.value(toExamine.takeLast());
-        const KirvAccountRecord record = account ? kirvStoredForm(account->record()) : KirvAccountRecord();
-        for (const QString &field : kirvSecretFieldsOf(record)) {
-            const bool isHere = !record.secretItems.contains(field) && !kirvSecretOf(record, field).isEmpty();
-            if (isHere && (field.isEmpty() || account->protocol()))
-                movable << Secret { account->key(), field };
-        }
+        const QStringList fields = account ? movableFieldsOf(*account) : QStringList();
+        for (const QString &field : fields)
+            movable << Secret { account->key(), field };
     }
 }
 
@@ -94,6 +99,7 @@ bool KirvSecretKeeper::moveNext()
         return false;
     }
     if (batch.isEmpty()) {
+        isMoveRequested = false;
         endMove();
         return false;
     }

@@ -189,7 +189,7 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
         if (before.record.enabled) // otherwise it logs in with what the file says
             account.presence = before.presence;
         row.losesSecrets = losesSecrets(account.record, before.record);
-        if (hasSameDestination(account.record, before.record)) {
+        if (kirvHaveSameDestination(account.record, before.record, accounts.protocol(row.key.protocol))) {
             keepSecrets(&account.record, before.record);
             account.record.trustedCertificate = before.record.trustedCertificate;
         }
@@ -211,20 +211,13 @@ KirvAccountRecord KirvAccountImport::complete(const KirvAccountRecord &record) c
     return kirvCompleteRecord(record, *accounts.protocol(record.key.protocol));
 }
 
-bool KirvAccountImport::hasSameDestination(const KirvAccountRecord &left, const KirvAccountRecord &right) const
-{
-    KirvProtocolBase *protocol = accounts.protocol(left.key.protocol);
-    return kirvSecretDestination(left, protocol) == kirvSecretDestination(right, protocol);
-}
-
 /// A file, which anybody may have written, sends no password of this profile to another server.
 bool KirvAccountImport::losesSecrets(const KirvAccountRecord &record, const KirvAccountRecord &before) const
 {
-    if (record.settings == before.settings) // quick, as there may be thousands
-        return false;
     const QSet<QString> fields = before.secretSettings + before.unreadSecrets + QSet<QString> { QString() };
     const auto isLacking = [&](const QString &field) { return lacksSecret(record, before, field); };
-    return std::any_of(fields.begin(), fields.end(), isLacking) && !hasSameDestination(record, before);
+    return std::any_of(fields.begin(), fields.end(), isLacking)
+        && !kirvHaveSameDestination(record, before, accounts.protocol(record.key.protocol));
 }
 
 QStringList KirvAccountImport::lostSecrets() const

@@ -63,7 +63,6 @@ private:
     QString problemOf(const Row &row) const;
     bool makePlan(Plan *plan, QString *problem);
     KirvAccountRecord complete(const KirvAccountRecord &record) const;
-    bool hasSameDestination(const KirvAccountRecord &left, const KirvAccountRecord &right) const;
     bool losesSecrets(const KirvAccountRecord &record, const KirvAccountRecord &before) const;
     bool leaveOutBadPictures();
     KirvAccountKey newMainAccount(const Plan &plan) const;

@@ -49,9 +49,12 @@ bool closeLibrarySession()
 }
 
 /// Lets the program outlive the session bus: the connection of GIO that libsecret uses would end the program with the
-/// bus. To be called when that exists, and once, as it is kept for good: no later one takes its place.
+/// bus. To be called when that exists. It is kept for good, so that no later one takes its place.
 void outliveBus()
 {
+    static bool isDone = false;
+    if (std::exchange(isDone, true))
+        return;
     using GetBus = void *(*)(int type, void *cancellable, void **error);
     using SetExitOnClose = void (*)(void *connection, int exits);
     const int sessionBus = 2; // G_BUS_TYPE_SESSION
@@ -234,10 +237,8 @@ void KirvKeyring::jobFinished(int error, const QString &secret, const QString &t
     }
     timeLimit.stop();
     const Outcome outcome = outcomeOf(error);
-    if (outcome != Failed) { // the connection exists
-        static const bool isDone = (outliveBus(), true);
-        Q_UNUSED(isDone)
-    }
+    if (outcome != Failed) // there was an answer over the connection
+        outliveBus();
     if (outcome == Done && running->kind != Remove) {
         answer({ Done, secret, QString() });
         return;

@@ -44,7 +44,7 @@ private:
         QString secret;
         QPointer<QObject> context;
         Callback callback;
-        int repetitions = 0;
+        int repetitions = 0; ///< of a read
     };
 
     void enqueue(const Operation &operation);

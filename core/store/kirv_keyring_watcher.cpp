@@ -117,14 +117,19 @@ void KirvKeyringWatcher::connected()
     requestOwner();
 }
 
-/// Sends \a message and calls \a handler with its reply, however late, unless it is not of interest any more.
 void KirvKeyringWatcher::call(const QDBusMessage &message, const Handler &handler)
+{
+    callWhile(round, message, handler);
+}
+
+/// Sends \a message and calls \a handler with its reply, however late, unless \a number is another one then.
+void KirvKeyringWatcher::callWhile(const quint64 &number, const QDBusMessage &message, const Handler &handler)
 {
     const QDBusPendingCall pending = QDBusConnection(connectionName).asyncCall(message, INT_MAX);
     auto *watcher = new QDBusPendingCallWatcher(pending, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, handler, sentIn = round](auto *finished) {
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [handler, &number, sentIn = number](auto *finished) {
         finished->deleteLater();
-        if (sentIn == round)
+        if (sentIn == number)
             handler(finished->reply());
     });
 }
@@ -254,16 +259,11 @@ void KirvKeyringWatcher::busEnded()
 
 void KirvKeyringWatcher::search(const QString &key)
 {
+    cancelSearch(); // the one before
     searchTimeout.start();
     QDBusMessage message = callToOwner(servicePath, serviceInterface, "SearchItems");
     message.setArguments({ QVariant::fromValue(Attributes { { keyAttribute, key } }) });
-    const QDBusPendingCall pending = QDBusConnection(connectionName).asyncCall(message, INT_MAX);
-    auto *watcher = new QDBusPendingCallWatcher(pending, this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, number = ++searches](auto *finished) {
-        finished->deleteLater();
-        if (number != searches || !searchTimeout.isActive())
-            return;
-        const QDBusMessage reply = finished->reply();
+    callWhile(searches, message, [this](const QDBusMessage &reply) {
         const auto count = [&reply](int index) {
             return qdbus_cast<QList<QDBusObjectPath>>(reply.arguments().value(index)).size();
         };
@@ -278,12 +278,13 @@ void KirvKeyringWatcher::search(const QString &key)
 
 void KirvKeyringWatcher::cancelSearch()
 {
+    ++searches;
     searchTimeout.stop();
 }
 
 void KirvKeyringWatcher::endSearch(KirvSecretStore::Outcome outcome)
 {
-    searchTimeout.stop();
+    cancelSearch();
     Q_EMIT searchEnded(outcome);
 }
 

@@ -73,6 +73,7 @@ private:
     void set(KirvSecretStore::State state);
     void endSearch(KirvSecretStore::Outcome outcome);
     void call(const QDBusMessage &message, const Handler &handler);
+    void callWhile(const quint64 &number, const QDBusMessage &message, const Handler &handler);
     QDBusMessage callToOwner(const QString &path, const char *interface, const char *method) const;
 
     const QString connectionName;
@@ -83,7 +84,7 @@ private:
     KirvSecretStore::State current = KirvSecretStore::Unknown;
     quint64 round = 0; ///< replies of an earlier one do not count
     QTimer replyTimeout;
-    quint64 searches = 0; ///< only the reply to the latest one counts
+    quint64 searches = 0; ///< replies of an earlier one do not count
     QTimer searchTimeout; ///< runs while one does
     QTimer lockedRefresh; ///< while it is locked: not every unlocking is announced
 };

@@ -9,6 +9,7 @@
 #include "core/moving/kirv_pidgin_file.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "tests/integration/kirv_client_windows.h"
+#include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void existingAccountIsKeptUnlessChosen();
     void existingAccountIsReplaced();
     void lostPasswordIsSaidBeforeTheImport();
+    void placeOfThePasswordsIsSaidBeforeTheImport();
     void accountIsLeftOut();
     void nothingChangesBeforeTheImport();
     void passPhraseOpensThePasswords();
@@ -301,6 +303,32 @@ void tst_ImportWindow::lostPasswordIsSaidBeforeTheImport()
     QVERIFY(!windows->account(ann)->record().password.isEmpty());
     QCOMPARE(windows->account(bob)->record().password, QString());
     QCOMPARE(windows->account(cleo)->record().password, QStringLiteral("word of cleo"));
+}
+
+/// When that is a file, and as long as it is.
+void tst_ImportWindow::placeOfThePasswordsIsSaidBeforeTheImport()
+{
+    const QString inFile = QStringLiteral("There is no keyring. Passwords that are remembered are kept in a file only "
+                                          "you can read.");
+    KirvFakeSecretStore keyring(KirvSecretStore::Unavailable);
+    windows->client->accounts().secrets().setKeyring(&keyring);
+    open(writeAccounts({ moved(ann) }, phrase));
+    KIRV_TRY(part<QLineEdit>("PassPhrase")->isVisible());
+    part<QLineEdit>("PassPhrase")->setText(phrase);
+    action()->click();
+    KIRV_TRY(isListing());
+    QVERIFY2(shown("Text").endsWith(inFile), qPrintable(shown("Text")));
+    keyring.setState(KirvSecretStore::Ready);
+    KIRV_TRY(!shown("Text").contains(inFile));
+    keyring.setState(KirvSecretStore::Unavailable);
+    KIRV_TRY(shown("Text").endsWith(inFile));
+    KirvMovedAccount withoutPassword = moved(bob);
+    withoutPassword.record.password.clear();
+    open(writeAccounts({ withoutPassword }));
+    KIRV_TRY(isListing() && row(bob));
+    QVERIFY2(!shown("Text").contains(inFile), qPrintable(shown("Text")));
+    window()->reject();
+    windows->end();
 }
 
 void tst_ImportWindow::accountIsLeftOut()

@@ -84,8 +84,6 @@ void tst_KeyringInWindows::init()
     windows->password = word;
     KIRV_TRY_COMPARE(keyringState(), KirvSecretStore::Ready);
     QVERIFY(windows->addInWindow(id));
-    if (!account()->record().enabled)
-        windows->toggleInPage(id);
     KIRV_TRY(account()->isOnline());
     KIRV_TRY_COMPARE(kept(), QStringList(word));
     QVERIFY(!isSeenAnywhere());
