@@ -13,6 +13,8 @@
 #include "host/kirv_ui_loader.h"
 
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
 #include <QScopedPointer>
 #include <QTreeWidget>
 #include <QtTest>
@@ -26,6 +28,67 @@ KirvAccountManager &manager()
     return *KirvAccountManager::getInstance();
 }
 
+/// Whether both have the same fields with the same values; how they are shown may differ.
+bool haveSameValues(const QList<KirvField> &some, const QList<KirvField> &others)
+{
+    if (some.size() != others.size())
+        return false;
+    for (int index = 0; index < some.size(); ++index) {
+        const KirvField &one = some.at(index);
+        const KirvField &other = others.at(index);
+        if (one.getId() != other.getId() || one.getText() != other.getText() || one.isChecked() != other.isChecked())
+            return false;
+    }
+    return true;
+}
+
+KirvField fieldWithId(const QList<KirvField> &fields, const char *id)
+{
+    for (const KirvField &field : fields) {
+        if (field.getId() == QLatin1String(id))
+            return field;
+    }
+    return KirvField();
+}
+
+/// The children that a layout must have, and their classes.
+const char *const requiredChildren[][2] = { { "Accounts_List", "QTreeWidget" },
+                                            { "Accounts_AddButton", "QToolButton" },
+                                            { "Accounts_EditButton", "QToolButton" },
+                                            { "Accounts_RemoveButton", "QToolButton" },
+                                            { "AddAccount_ConfigurationLabel", "QLabel" },
+                                            { "AddAccount_Configuration", "QComboBox" },
+                                            { "AddAccount_UsernameEdit", "QLineEdit" },
+                                            { "AddAccount_PasswordEdit", "QLineEdit" },
+                                            { "AddAccount_RememberPasswordCheckbox", "QCheckBox" },
+                                            { "AddAccount_PresenceCombo", "QComboBox" },
+                                            { "AddAccount_LoginFrame", "QWidget" },
+                                            { "AddAccount_ButtonFrame", "QDialogButtonBox" },
+                                            { "EditAccount_Tabs", "QTabWidget" },
+                                            { "EditAccount_Identifier", "QLabel" },
+                                            { "EditAccount_AvatarPlacement", "QWidget" },
+                                            { "EditAccount_Alias", "QLineEdit" },
+                                            { "EditAccount_Password", "QLineEdit" },
+                                            { "EditAccount_RememberPassword", "QCheckBox" },
+                                            { "EditAccount_RememberPresence", "QCheckBox" },
+                                            { "EditAccount_RememberDescription", "QCheckBox" },
+                                            { "EditAccount_PresenceCombo", "QComboBox" },
+                                            { "EditAccount_DescriptionEdit", "QTextEdit" },
+                                            { "EditAccount_AccSettings", "QWidget" },
+                                            { "EditAccount_PubDirResults", "QWidget" },
+                                            { "EditAccount_FrameButtons", "QDialogButtonBox" } };
+
+void verifyChildren(const QWidget &window, const QString &layout)
+{
+    for (const auto &child : requiredChildren) {
+        const QString name = QLatin1String(child[0]);
+        if (!name.startsWith(layout + QLatin1Char('_')))
+            continue;
+        const QWidget *widget = window.findChild<QWidget *>(name);
+        QVERIFY2(widget && widget->inherits(child[1]), child[0]);
+    }
+}
+
 } // namespace
 
 KirvContractCheck::KirvContractCheck(const QString &protocol, const QString &first, const QString &second)
@@ -37,6 +100,9 @@ KirvContractCheck::KirvContractCheck(const QString &protocol, const QString &fir
 
 void KirvContractCheck::init()
 {
+    QVERIFY2(KirvAccountManager::getInstance() && KirvPluginManager::getInstance() && KirvSettingsManager::getInstance()
+                 && KirvUILoader::getInstance(),
+             "a getInstance() returns null");
     QVERIFY2(loaded(), "the protocol that the check was given is not loaded");
     QVERIFY2(!listed().contains(first) && !listed().contains(second), "the logins that the check was given are taken");
 }
@@ -71,6 +137,28 @@ QStringList KirvContractCheck::listed() const
     return ids;
 }
 
+QList<KirvField> KirvContractCheck::changedSettings() const
+{
+    QList<KirvField> settings = loaded()->getAccountSettings();
+    for (KirvField &field : settings) {
+        if (field.getKind() == KirvField::CheckBox)
+            field.setChecked(!field.isChecked());
+        else if (field.getKind() == KirvField::Text && field.getPattern().isEmpty())
+            field.setText(QStringLiteral("a \"b\" <c>"));
+    }
+    return settings;
+}
+
+const KirvAccountInfo *KirvContractCheck::described(const QString &id) const
+{
+    const QList<KirvAccountInfo *> infos = manager().getAccountsInfo(protocol);
+    for (const KirvAccountInfo *info : infos) {
+        if (info->getId() == id)
+            return info;
+    }
+    return nullptr;
+}
+
 void KirvContractCheck::stateIsThereWhileTheCoreIsUp()
 {
     QVERIFY(KirvAccountManagerPrivate::ampInstance);
@@ -94,6 +182,7 @@ void KirvContractCheck::protocolOffersPresences()
 void KirvContractCheck::presenceCarriesItsDescription()
 {
     const QList<KirvPresence> presences = loaded()->getAllPresences();
+    QVERIFY(!presences.isEmpty());
     for (const KirvPresence &presence : presences) {
         const KirvPresence made = loaded()->createPresenceWithId(presence.getId(), QStringLiteral("a <b> & c"));
         QCOMPARE(made.getId(), presence.getId());
@@ -113,22 +202,31 @@ void KirvContractCheck::iconOfAProtocolMayBeMissing()
 
 void KirvContractCheck::createdAccountIsThere()
 {
-    KirvAccountConnection *account = create(first);
+    const KirvPresence offered = loaded()->getAllPresences().value(0);
+    const KirvPresence presence(offered.getId(), offered.getDisplay(), offered.getIcon(), QStringLiteral("a <b> & c"));
+    const QList<KirvField> settings = changedSettings();
+    KirvAccountConnection *account = manager().createAccount(
+        first, QStringLiteral("Alias of ") + first, QStringLiteral("word"), false, loaded(), presence, settings);
     QVERIFY(account);
     QCOMPARE(account->getUid(), first);
     QCOMPARE(account->getProtocolName(), protocol);
     QCOMPARE(account->getProtocol(), loaded());
     QCOMPARE(account->getAlias(), QStringLiteral("Alias of ") + first);
     QCOMPARE(account->getPassword(), QStringLiteral("word"));
+    QCOMPARE(account->getDefaultPresence().getId(), presence.getId());
+    QCOMPARE(account->getDefaultPresence().getDescription(), presence.getDescription());
+    QVERIFY2(haveSameValues(account->getAccountSettingsInOrder(), settings), "the settings are those that were given");
     QVERIFY(account->isEnabled());
+    const QList<KirvField> general =
+        KirvSettingsManagerPrivate::settingsMgrPrivInstance->readAccountGlobals(first, protocol);
+    QVERIFY2(!fieldWithId(general, "password/remember").isChecked(), "the password was not to be remembered");
 }
 
 void KirvContractCheck::createdAccountIsListedOnce()
 {
     QVERIFY(create(first));
     QCOMPARE(listed().count(first), 1);
-    const QList<KirvAccountInfo *> infos = manager().getAccountsInfo(protocol);
-    const KirvAccountInfo *info = infos.value(listed().indexOf(first));
+    const KirvAccountInfo *info = described(first);
     QCOMPARE(info->getAlias(), QStringLiteral("Alias of ") + first);
     QVERIFY(info->isEnabled());
     QVERIFY(manager().accountEnabled(first, protocol));
@@ -148,10 +246,19 @@ void KirvContractCheck::accountIsNamedByLoginAndProtocol()
     QVERIFY(!manager().accountEnabled(first, nowhere));
     QVERIFY(manager().getAccountsInfo(nowhere).isEmpty());
     // The page does so with rows whose account another part of the client has removed.
-    manager().enableAccount(second, protocol);
+    const QStringList before = listed();
     manager().disableAccount(second, protocol);
-    manager().removeAccount(second, nowhere);
-    QCOMPARE(manager().getAccount(first, protocol), account);
+    manager().disableAccount(first, nowhere);
+    QVERIFY(manager().accountEnabled(first, protocol));
+    manager().disableAccount(first, protocol);
+    manager().enableAccount(second, protocol);
+    manager().enableAccount(first, nowhere);
+    QVERIFY(!manager().accountEnabled(first, protocol));
+    QCOMPARE(listed(), before);
+    manager().removeAccount(second, protocol);
+    manager().removeAccount(first, nowhere);
+    QCOMPARE(manager().loadAccount(first, protocol), account);
+    QCOMPARE(listed(), before);
 }
 
 void KirvContractCheck::takenLoginIsRefused()
@@ -159,10 +266,12 @@ void KirvContractCheck::takenLoginIsRefused()
     KirvAccountConnection *account = create(first);
     QVERIFY(account);
     account->setAlias(QStringLiteral("kept"));
-    QVERIFY(!create(first));
+    QVERIFY(!manager().createAccount(first, QStringLiteral("other"), QStringLiteral("other word"), true, loaded(),
+                                     loaded()->getAllPresences().value(0), loaded()->getAccountSettings()));
     QCOMPARE(listed().count(first), 1);
     QCOMPARE(manager().getAccount(first, protocol), account);
     QCOMPARE(account->getAlias(), QStringLiteral("kept"));
+    QCOMPARE(account->getPassword(), QStringLiteral("word"));
 }
 
 void KirvContractCheck::listKeepsItsOrder()
@@ -170,11 +279,17 @@ void KirvContractCheck::listKeepsItsOrder()
     QVERIFY(create(first));
     QVERIFY(create(second));
     const QStringList order = listed();
-    manager().getAccount(first, protocol)->setAlias(QStringLiteral("zz"));
-    QCOMPARE(listed(), order);
-    manager().disableAccount(first, protocol);
-    manager().enableAccount(first, protocol);
-    QCOMPARE(listed(), order);
+    // Of both, as one of them is at the end already to which a change might move it.
+    for (const QString &id : { first, second }) {
+        for (const char *alias : { "zz", "aa" }) {
+            manager().loadAccount(id, protocol)->setAlias(QLatin1String(alias));
+            QCOMPARE(listed(), order);
+        }
+        manager().disableAccount(id, protocol);
+        QCOMPARE(listed(), order);
+        manager().enableAccount(id, protocol);
+        QCOMPARE(listed(), order);
+    }
 }
 
 void KirvContractCheck::aliasIsChanged()
@@ -184,7 +299,8 @@ void KirvContractCheck::aliasIsChanged()
     const QString alias = QStringLiteral("Ann & <b>Ben</b>");
     account->setAlias(alias);
     QCOMPARE(account->getAlias(), alias);
-    QCOMPARE(manager().getAccountsInfo(protocol).value(listed().indexOf(first))->getAlias(), alias);
+    QVERIFY(described(first));
+    QCOMPARE(described(first)->getAlias(), alias);
     // What is shown for an account without an alias is the client's choice; the field of the edit window stays empty.
     account->setAlias(QString());
     QCOMPARE(account->getAlias(), QString());
@@ -200,7 +316,8 @@ void KirvContractCheck::enablingIsRepeatable()
         else
             manager().disableAccount(first, protocol);
         QCOMPARE(manager().accountEnabled(first, protocol), isWanted);
-        QCOMPARE(manager().getAccountsInfo(protocol).value(listed().indexOf(first))->isEnabled(), isWanted);
+        QVERIFY(described(first));
+        QCOMPARE(described(first)->isEnabled(), isWanted);
         const KirvAccountConnection *now = manager().loadAccount(first, protocol);
         QVERIFY(now);
         QCOMPARE(now->isEnabled(), isWanted);
@@ -220,22 +337,11 @@ void KirvContractCheck::settingsComeBack()
 {
     KirvAccountConnection *account = create(first);
     QVERIFY(account);
-    QList<KirvField> settings = account->getAccountSettingsInOrder();
-    QCOMPARE(settings.size(), loaded()->getAccountSettings().size());
-    for (KirvField &field : settings) {
-        if (field.getKind() == KirvField::CheckBox)
-            field.setChecked(!field.isChecked());
-        else if (field.getKind() == KirvField::Text && field.getPattern().isEmpty())
-            field.setText(QStringLiteral("a \"b\" <c>"));
-    }
+    QVERIFY2(haveSameValues(account->getAccountSettingsInOrder(), loaded()->getAccountSettings()),
+             "an account has the settings of its protocol, in their order");
+    const QList<KirvField> settings = changedSettings();
     account->setAccountSettings(settings);
-    const QList<KirvField> stored = account->getAccountSettingsInOrder();
-    QCOMPARE(stored.size(), settings.size());
-    for (int index = 0; index < stored.size(); ++index) {
-        QCOMPARE(stored.at(index).getId(), settings.at(index).getId());
-        QCOMPARE(stored.at(index).getText(), settings.at(index).getText());
-        QCOMPARE(stored.at(index).isChecked(), settings.at(index).isChecked());
-    }
+    QVERIFY2(haveSameValues(account->getAccountSettingsInOrder(), settings), "the settings are those that were set");
 }
 
 void KirvContractCheck::generalSettingsAreComplete()
@@ -244,15 +350,19 @@ void KirvContractCheck::generalSettingsAreComplete()
     KirvAccountConnection *account = create(first);
     QVERIFY(account);
     account->setAlias(QStringLiteral("changed"));
-    QStringList ids;
-    const QList<KirvField> fields = settings->readAccountGlobals(first, protocol);
-    for (const KirvField &field : fields) {
-        ids << field.getId();
-        if (field.getId() == QLatin1String("alias"))
-            QCOMPARE(field.getText(), QStringLiteral("changed"));
+    account->setPassword(QStringLiteral("another word"));
+    for (const bool isOn : { true, false }) {
+        account->setRememberPassword(isOn);
+        account->setRestoreLastPresence(isOn);
+        account->setRestoreLastDescription(isOn);
+        const QList<KirvField> fields = settings->readAccountGlobals(first, protocol);
+        QCOMPARE(fieldWithId(fields, "alias").getText(), QStringLiteral("changed"));
+        QCOMPARE(fieldWithId(fields, "password").getText(), QStringLiteral("another word"));
+        for (const char *id : { "password/remember", "presence/restore", "presence/restore_desc" }) {
+            QCOMPARE(fieldWithId(fields, id).getId(), QString::fromLatin1(id));
+            QVERIFY2(fieldWithId(fields, id).isChecked() == isOn, id);
+        }
     }
-    for (const char *id : { "alias", "password", "password/remember", "presence/restore", "presence/restore_desc" })
-        QVERIFY2(ids.contains(QLatin1String(id)), id);
     QVERIFY(settings->readAccountGlobals(second, protocol).isEmpty());
     QVERIFY(settings->readAccountGlobals(first, nowhere).isEmpty());
 }
@@ -262,7 +372,9 @@ void KirvContractCheck::mainAccountIsAssigned()
     KirvAccountConnection *before = manager().getMainAccount();
     KirvAccountConnection *account = create(first);
     QVERIFY(account);
+    manager().disableAccount(first, protocol);
     manager().setMainAccount(account);
+    QVERIFY2(!manager().accountEnabled(first, protocol), "nothing else is changed");
     QCOMPARE(manager().getMainAccount(), account);
     QCOMPARE(KirvAccountManagerPrivate::ampInstance->mainAccount, account);
     manager().setMainAccount(nullptr);
@@ -302,11 +414,15 @@ void KirvContractCheck::layoutsAreBuilt()
     QFETCH(QString, layout);
     const QScopedPointer<QWidget> window(KirvUILoader::getInstance()->loadUI(layout, QString()));
     QVERIFY2(qobject_cast<QDialog *>(window.data()), "the top widget of a window is a QDialog");
+    QVERIFY2(!window->parent(), "the caller owns it");
+    verifyChildren(*window, layout);
+    const auto *buttons = window->findChild<QDialogButtonBox *>();
+    QVERIFY(buttons && buttons->button(QDialogButtonBox::Save));
     QWidget parent;
     QWidget *child = KirvUILoader::getInstance()->loadUI(QStringLiteral("Accounts"), &parent, QString());
     QVERIFY(child);
     QVERIFY(parent.isAncestorOf(child));
-    QVERIFY(parent.findChild<QTreeWidget *>(QStringLiteral("Accounts_List")));
+    verifyChildren(parent, QStringLiteral("Accounts"));
 }
 
 void KirvContractCheck::widgetFillsItsPlaceholder()
@@ -326,7 +442,14 @@ void KirvContractCheck::fieldsComeBackFromTheForm()
     const QString none;
     const QList<KirvField> fields = {
         KirvField::textEdit(QStringLiteral("Colour"), QStringLiteral("colour"), QStringLiteral("a <b> & c"), none),
-        KirvField::password(QStringLiteral("Word"), QStringLiteral("word"), QStringLiteral("secret"), none)
+        KirvField::password(QStringLiteral("Word"), QStringLiteral("word"), QStringLiteral("secret"), none),
+        KirvField::checkBox(QStringLiteral("Box"), QStringLiteral("box"), true, none),
+        // None of the values: it is shown as an option of its own.
+        KirvField::choice(QStringLiteral("Size"), QStringLiteral("size"), QStringLiteral("huge"),
+                          { QStringLiteral("small"), QStringLiteral("large") }, { QStringLiteral("Small") }, none),
+        KirvField::number(QStringLiteral("Port"), QStringLiteral("port"), 5222, 1, 65535, none),
+        KirvField::note(QStringLiteral("Note"), QStringLiteral("note"), QStringLiteral("Read <this>"), none),
+        KirvField::multiLine(QStringLiteral("Lines"), QStringLiteral("lines"), QStringLiteral("one\n\ntwo"), none)
     };
     const KirvFieldWidget form(fields, nullptr, KirvFieldWidget::LabelsBeside);
     const QList<KirvField> read = form.getFields();
@@ -363,12 +486,11 @@ void KirvContractCheck::pageShowsTheAccounts()
     page->readProtocolAccounts(protocol);
     const QTreeWidget *list = page->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));
     QVERIFY(list);
-    QStringList ticked;
+    QStringList ticked, others;
     for (int row = 0; row < list->topLevelItemCount(); ++row) {
         const QTreeWidgetItem *item = list->topLevelItem(row);
-        if (item->checkState(0) == Qt::Checked)
-            ticked << item->text(0);
+        (item->checkState(0) == Qt::Checked ? ticked : others) << item->text(0);
     }
-    QVERIFY(ticked.contains(QStringLiteral("Alias of ") + first));
-    QVERIFY(!ticked.contains(QStringLiteral("Alias of ") + second));
+    QCOMPARE(ticked.count(QStringLiteral("Alias of ") + first), 1);
+    QCOMPARE(others.count(QStringLiteral("Alias of ") + second), 1);
 }

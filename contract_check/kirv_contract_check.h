@@ -2,12 +2,16 @@
 #ifndef KIRV_CONTRACT_CHECK_H
 #define KIRV_CONTRACT_CHECK_H
 
+#include "host/kirv_field.h"
+
+#include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 class KirvAccountConnection;
+class KirvAccountInfo;
 class KirvProtocol;
-class QWidget;
 
 /// Checks that a client defines the operations of host/ as the page relies on them: compile this class into a test
 /// program of yours together with your definitions, set them up, and run it with QTest::qExec().
@@ -59,6 +63,10 @@ private Q_SLOTS:
 private:
     KirvAccountConnection *create(const QString &id);
     KirvProtocol *loaded() const;
+    /// The settings of a new account, each with a value other than its default where any text will do.
+    QList<KirvField> changedSettings() const;
+    /// The description of that account in the list; null when it is not listed.
+    const KirvAccountInfo *described(const QString &id) const;
     /// The account ids of the protocol, in the order of the manager.
     QStringList listed() const;
 

@@ -3,10 +3,16 @@
 #include "memory_host.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "edit_account/kirv_edit_account_dialog.h"
+#include "edit_account/kirv_pubdir_account_received_event.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QTranslator>
@@ -21,16 +27,41 @@ bool check(bool holds, const char *sentence)
     return holds;
 }
 
+/// Of the page and of its layouts, in the language of the user.
+void loadTexts(const QString &folder)
+{
+    for (const QString &language : { QStringLiteral("en"), QLocale().name() }) {
+        auto *texts = new QTranslator(qApp);
+        if (texts->load(QStringLiteral("kirv_gui_accounts_tab_") + language, folder)) // "de_AT" finds "de", too
+            QCoreApplication::installTranslator(texts);
+    }
+}
+
+/// Opens the edit window of the account and changes its alias there, before the entry in the directory has arrived.
+bool savesAnAlias(KirvAccountsTab *page, MemoryAccount *account)
+{
+    page->editAccount(account);
+    QDialog *window = page->getAccEdit()->getWindow();
+    KirvEditAccountDialog *dialog = KirvEditAccountDialog::of(window); // when the window is built, or later
+    KirvPubdirAccountReceivedEvent blank(account, account->getProtocol()->getPubdirAccountFields());
+    QCoreApplication::sendEvent(dialog, &blank); // before the window is shown: blank fields now count as unchanged
+
+    auto *alias = window->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias"));
+    bool good = check(alias->text() == QLatin1String("Ann at home"), "the edit window is filled in");
+    alias->setText(QStringLiteral("Ann"));
+    window->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+    good &= check(account->alias == QLatin1String("Ann"), "Save reaches the core");
+    return good;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
 
-    QTranslator german;
-    bool good = check(german.load(QStringLiteral("kirv_gui_accounts_tab_de"), QStringLiteral(TRANSLATIONS)),
-                      "the texts of the page are there in German");
-    QApplication::installTranslator(&german);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
+    loadTexts(QStringLiteral(TRANSLATIONS));
 
     MemoryHost host(QStringLiteral(LAYOUTS));
     host.addAccount(QStringLiteral("ann"), QStringLiteral("Ann at home"));
@@ -44,7 +75,7 @@ int main(int argc, char **argv)
 
     const auto *list = page->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));
     const auto *selector = page->findChild<QComboBox *>(QStringLiteral("Accounts_MainAccount"));
-    good &= check(list->topLevelItemCount() == 2, "both accounts are listed");
+    bool good = check(list->topLevelItemCount() == 2, "both accounts are listed");
     good &= check(list->headerItem()->text(1) == QLatin1String("Protokoll"), "and it is in German");
     const auto *removeButton = page->findChild<QToolButton *>(QStringLiteral("Accounts_RemoveButton"));
     good &= check(removeButton->text().contains(QLatin1String("ntfernen")), "also in its layout");
@@ -55,8 +86,9 @@ int main(int argc, char **argv)
         check(host.account(QStringLiteral("ben"), QStringLiteral("Memory"))->enabled, "ticking a row reaches the core");
     good &= check(selector->count() == 2, "and both are offered then");
 
-    page->editAccount(host.account(QStringLiteral("ann"), QStringLiteral("Memory")));
-    const auto *alias = page->findChild<QLineEdit *>(QStringLiteral("EditAccount_Alias"));
-    good &= check(alias && alias->text() == QLatin1String("Ann at home"), "the edit window is filled in");
+    MemoryAccount *ann = host.account(QStringLiteral("ann"), QStringLiteral("Memory"));
+    ann->loggedIn = true;
+    good &= savesAnAlias(page, ann);
+    good &= check(host.protocol.publishedEntries == 0, "and keeps the entry in the directory");
     return good ? 0 : 1;
 }

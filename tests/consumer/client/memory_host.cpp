@@ -128,12 +128,13 @@ KirvAccountConnection *KirvAccountManager::getMainAccount() const
 }
 
 KirvAccountConnection *KirvAccountManager::createAccount(const QString &id, const QString &alias,
-                                                         const QString &password, bool, KirvProtocol *,
+                                                         const QString &password, bool rememberPassword, KirvProtocol *,
                                                          const KirvPresence &presence, const QList<KirvField> &settings)
 {
     MemoryAccount *account = theHost->addAccount(id, alias);
     if (account) {
         account->password = password;
+        account->rememberPassword = rememberPassword;
         account->presence = presence;
         account->settings = settings;
     }
@@ -199,11 +200,20 @@ void KirvAccountConnection::setPassword(const QString &password)
     memory(this)->password = password;
 }
 
-void KirvAccountConnection::setRememberPassword(bool) { }
+void KirvAccountConnection::setRememberPassword(bool remember)
+{
+    memory(this)->rememberPassword = remember;
+}
 
-void KirvAccountConnection::setRestoreLastPresence(bool) { }
+void KirvAccountConnection::setRestoreLastPresence(bool restore)
+{
+    memory(this)->restorePresence = restore;
+}
 
-void KirvAccountConnection::setRestoreLastDescription(bool) { }
+void KirvAccountConnection::setRestoreLastDescription(bool restore)
+{
+    memory(this)->restoreDescription = restore;
+}
 
 KirvPresence KirvAccountConnection::getDefaultPresence() const
 {
@@ -244,7 +254,7 @@ bool KirvAccountConnection::isEnabled() const
 
 bool KirvAccountConnection::isLoggedIn() const
 {
-    return false;
+    return memory(this)->enabled && memory(this)->loggedIn;
 }
 
 // The plug-in manager and the protocol
@@ -277,7 +287,7 @@ QList<KirvField> KirvProtocol::getAccountSettings() const
 
 QList<KirvField> KirvProtocol::getPubdirAccountFields() const
 {
-    return {};
+    return { KirvField::textEdit(QStringLiteral("Town"), QStringLiteral("town"), QString(), QString()) };
 }
 
 KirvPresence KirvProtocol::createPresenceWithId(const QString &, const QString &description) const
@@ -311,9 +321,9 @@ QList<KirvField> KirvSettingsManagerPrivate::readAccountGlobals(const QString &i
     const QString none;
     return { KirvField::textEdit(none, QStringLiteral("alias"), account->alias, none),
              KirvField::password(none, QStringLiteral("password"), account->password, none),
-             KirvField::checkBox(none, QStringLiteral("password/remember"), true, none),
-             KirvField::checkBox(none, QStringLiteral("presence/restore"), false, none),
-             KirvField::checkBox(none, QStringLiteral("presence/restore_desc"), false, none) };
+             KirvField::checkBox(none, QStringLiteral("password/remember"), account->rememberPassword, none),
+             KirvField::checkBox(none, QStringLiteral("presence/restore"), account->restorePresence, none),
+             KirvField::checkBox(none, QStringLiteral("presence/restore_desc"), account->restoreDescription, none) };
 }
 
 void KirvSettingsManagerPrivate::writeGlobalSetting(const KirvField &field)

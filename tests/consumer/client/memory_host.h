@@ -14,7 +14,7 @@
 #include <QString>
 #include <memory>
 
-/// One account, all of it in memory. It never logs in anywhere.
+/// One account, all of it in memory. It never logs in anywhere by itself.
 class MemoryAccount : public KirvAccountConnection {
 public:
     QString id;
@@ -23,7 +23,11 @@ public:
     QString avatar;
     KirvPresence presence;
     QList<KirvField> settings;
+    bool rememberPassword = true;
+    bool restorePresence = false;
+    bool restoreDescription = false;
     bool enabled = true;
+    bool loggedIn = false; ///< nothing sets it but a test
     KirvAccountInfo info; ///< what KirvAccountManager::getAccountsInfo() hands out
 
     void refreshInfo() { info = KirvAccountInfo(id, alias, enabled); }
@@ -33,12 +37,13 @@ public:
 class MemoryProtocol : public KirvProtocol {
 public:
     QString iconPath;
+    int publishedEntries = 0; ///< to the directory, which takes them and keeps none
 
     QString getName() override { return QStringLiteral("Memory"); }
     QString getIconPath(int) override { return iconPath; }
     QStringList getConfigurations() override { return {}; }
     QList<KirvField> getConfigurationFields(const QString &) override { return {}; }
-    void publishPubdirInfo(KirvAccountConnection *, const QList<KirvField> &) override { }
+    void publishPubdirInfo(KirvAccountConnection *, const QList<KirvField> &) override { ++publishedEntries; }
     void fetchPubdirInfo(KirvAccountConnection *) override { }
     void deletePubdirInfo(KirvAccountConnection *) override { }
     QString getLoginPattern() override { return QStringLiteral("\\S+"); }
