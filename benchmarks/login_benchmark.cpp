@@ -336,10 +336,7 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Measures the log-in of many accounts."));
     parser.addHelpOption();
-    parser.addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
-                       QStringLiteral("folder"), QDir::tempPath() });
-    parser.addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
-                       QStringLiteral("numbers"), QStringLiteral("5,100,1000") });
+    addProfileOptions(&parser, "5,100,1000");
     parser.addOption({ QStringLiteral("patience"), QStringLiteral("Gives up after <seconds>."),
                        QStringLiteral("seconds"), QStringLiteral("120") });
     parser.addOption({ QStringLiteral("start"), QStringLiteral("Starts the client with the profile in <folder>."),

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "benchmarks/measurement.h"
 
+#include <QCommandLineParser>
+#include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -41,6 +43,14 @@ double median(QVector<double> values)
 QString formatMilliseconds(double milliseconds)
 {
     return QString::number(milliseconds, 'f', milliseconds < 10 ? 3 : 1);
+}
+
+void addProfileOptions(QCommandLineParser *parser, const char *numbers)
+{
+    parser->addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
+                        QStringLiteral("folder"), QDir::tempPath() });
+    parser->addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
+                        QStringLiteral("numbers"), QLatin1String(numbers) });
 }
 
 Table::Table(const QStringList &header)

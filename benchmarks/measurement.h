@@ -8,12 +8,17 @@
 #include <QVector>
 #include <functional>
 
+class QCommandLineParser;
+
 /// How long \a work takes, in milliseconds.
 double millisecondsOf(const std::function<void()> &work);
 /// The processor time that \a work takes of this thread, in milliseconds. What other programs do at the same time does
 /// not count, so this is for work that waits for nothing.
 double processorMillisecondsOf(const std::function<void()> &work);
 double median(QVector<double> values);
+
+/// Adds --folder, where the profiles are made, and --accounts, of which \a numbers are the default.
+void addProfileOptions(QCommandLineParser *parser, const char *numbers);
 
 /// A table of texts, printed with aligned columns: the first to the left, the others to the right.
 class Table {

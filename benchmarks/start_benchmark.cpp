@@ -142,10 +142,7 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Measures the start of the client."));
     parser.addHelpOption();
-    parser.addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
-                       QStringLiteral("folder"), QDir::tempPath() });
-    parser.addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
-                       QStringLiteral("numbers"), QStringLiteral("0,1000") });
+    addProfileOptions(&parser, "0,1000");
     parser.addOption({ QStringLiteral("start"), QStringLiteral("Starts once, with the profile in <folder>."),
                        QStringLiteral("folder") });
     parser.addOption({ QStringLiteral("clock"), QStringLiteral("When --start was asked for, in <nanoseconds>."),

@@ -217,10 +217,7 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Measures changes of one account in the client's store."));
     parser.addHelpOption();
-    parser.addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
-                       QStringLiteral("folder"), QDir::tempPath() });
-    parser.addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
-                       QStringLiteral("numbers"), QStringLiteral("10,100,1000,10000") });
+    addProfileOptions(&parser, "10,100,1000,10000");
     parser.addOption({ QStringLiteral("openings"),
                        QStringLiteral("The numbers of accounts of the profiles that are opened, separated by commas."),
                        QStringLiteral("numbers"), QStringLiteral("10,1000,100000") });

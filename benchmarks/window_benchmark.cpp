@@ -170,10 +170,7 @@ int main(int argc, char **argv)
     parser.setApplicationDescription(
         QStringLiteral("Measures the start and the memory of the client beside a bare window."));
     parser.addHelpOption();
-    parser.addOption({ QStringLiteral("folder"), QStringLiteral("Makes the profiles in <folder>."),
-                       QStringLiteral("folder"), QDir::tempPath() });
-    parser.addOption({ QStringLiteral("accounts"), QStringLiteral("The numbers of accounts, separated by commas."),
-                       QStringLiteral("numbers"), QStringLiteral("10,1000") });
+    addProfileOptions(&parser, "10,1000");
     parser.addOption({ QStringLiteral("client"), QStringLiteral("Measures the client <program>."),
                        QStringLiteral("program"), programs.filePath(QStringLiteral("kirv")) });
     parser.process(application);

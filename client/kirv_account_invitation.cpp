@@ -148,7 +148,10 @@ bool KirvAccountInvitation::eventFilter(QObject *watched, QEvent *event)
 void KirvAccountInvitation::updateAddButton()
 {
     const bool hasProtocols = addMenu && !addMenu->actions().isEmpty();
+    const bool isFirst = hasProtocols && !addButton->isEnabled();
     addButton->setEnabled(hasProtocols);
+    if (isFirst && window()->focusWidget() == registerButton) // in the place of the other one
+        takeFocus();
     addButton->setToolTip(hasProtocols ? tr("Add an account that you already have")
                                        : tr("No protocol is loaded. Load one on the Plug-ins page."));
 }

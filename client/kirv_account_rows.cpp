@@ -31,6 +31,12 @@ void KirvAccountRows::select(QTreeWidgetItem *row) const
     list->setCurrentItem(row, KirvAliasColumn, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+void KirvAccountRows::selectFirst() const
+{
+    if (list->selectedItems().isEmpty() && list->topLevelItemCount() > 0)
+        select(list->topLevelItem(0));
+}
+
 KirvAccountKey KirvAccountRows::chosen() const
 {
     const QModelIndexList selected = list->selectionModel()->selectedRows();

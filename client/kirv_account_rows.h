@@ -31,6 +31,8 @@ public:
     QTreeWidgetItem *find(const KirvAccountKey &key) const { return byKey.value(key); }
     /// Makes \a row the current one and the only one selected, whatever keys are held down.
     void select(QTreeWidgetItem *row) const;
+    /// The same with the first row where none is selected, so that there is something to begin with.
+    void selectFirst() const;
     /// The account of the row that is selected, if that is one alone, and otherwise of the current row, which need not
     /// be selected: Edit and Remove of the page take the former, too. The id is empty when there is none.
     KirvAccountKey chosen() const;

@@ -19,7 +19,7 @@
 #include "client/kirv_narrow_buttons.h"
 #include "client/kirv_page_commands.h"
 #include "client/kirv_plain_text.h"
-#include "client/kirv_single_click_style.h"
+#include "client/kirv_style_without_hint.h"
 #include "core/accounts/kirv_account_collection.h"
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
@@ -136,7 +136,7 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
 {
     auto *delegate = new KirvAccountRowDelegate(accounts, list);
     list->setItemDelegate(delegate);
-    list->setStyle(new KirvSingleClickStyle(list));
+    list->setStyle(new KirvStyleWithoutHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, list));
     aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
     auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
     auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
@@ -206,12 +206,18 @@ void KirvAccountsPageCompanion::updateInvitation()
         widget->hide();
     for (QWidget *widget : qAsConst(shown))
         widget->show();
-    if (hadFocus && isEmpty)
-        invitation->takeFocus();
-    else if (hadFocus)
-        list->setFocus(Qt::OtherFocusReason);
+    if (hadFocus)
+        takeFocus();
     if (isEmpty)
         moving.lookForPidgin();
+}
+
+void KirvAccountsPageCompanion::takeFocus()
+{
+    if (list->isHidden())
+        invitation->takeFocus();
+    else
+        list->setFocus(Qt::OtherFocusReason);
 }
 
 void KirvAccountsPageCompanion::connectStrip(KirvAccountHelp &help)
@@ -379,6 +385,8 @@ void KirvAccountsPageCompanion::syncRows()
         selector->correctLater();
     selectNewRow(std::exchange(added, KirvAccountKey()));
     selectImported(std::exchange(imported, {}));
+    if (mayListUnloaded && !std::exchange(hasStarted, true))
+        rows->selectFirst();
 }
 
 bool KirvAccountsPageCompanion::isUpToDate(const QTreeWidgetItem *row, const KirvAccount &account)

@@ -60,6 +60,8 @@ public:
     /// Every plug-in that there is was loaded: accounts of protocols that are not there get rows, too, greyed as those
     /// of protocolUnloaded().
     void pluginsLoaded();
+    /// Gives the keyboard to the list, or to what invites to the first account.
+    void takeFocus();
     /// Makes the page show again, from the event loop, what is stored: a change that it shows was refused.
     void refreshLater();
     /// Another account may have become the main account: the rows say so, and the page is refreshed.
@@ -126,6 +128,7 @@ private:
     KirvAccountKey added; ///< the latest account, until its row is selected
     QList<KirvAccountKey> imported; ///< the latest import, until its rows are selected
     QList<KirvAccountKey> unsynced; ///< came or went since the rows were last compared
+    bool hasStarted = false; ///< the accounts that there were at the start are listed
     bool mayListUnloaded = false;
     bool isSyncDue = false;
     bool isStripDue = false;

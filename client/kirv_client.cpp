@@ -199,6 +199,7 @@ void KirvClient::createWindow()
         settingsWindow->messageBar()->showMessage(text, QString(), {}, KirvMessageBar::Information);
     });
     connectPage();
+    companions->page()->takeFocus();
     connect(languageChange, &KirvLanguageChange::changed, this, &KirvClient::createPagesAnew);
 }
 

@@ -17,7 +17,7 @@ QString ownPluginFolder()
 {
     const QDir program(QCoreApplication::applicationDirPath());
     const QStringList candidates { program.filePath(QStringLiteral("../lib/kirv/protocols")),
-                                   program.filePath(QStringLiteral("../" KIRV_PROTOCOL_INSTALL_DIRECTORY)) };
+                                   program.filePath(QStringLiteral(KIRV_PROTOCOLS_FROM_BIN)) };
     for (const QString &candidate : candidates) {
         if (QFileInfo(candidate).isDir())
             return QDir::cleanPath(candidate);

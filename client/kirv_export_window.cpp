@@ -26,11 +26,9 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QSet>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -49,29 +47,15 @@ QLabel *createLabel(const QString &text, QLineEdit *line, QWidget *parent)
 
 KirvExportWindow::KirvExportWindow(const KirvAccountCollection &accounts, const KirvMainAccount &mainAccount,
                                    const QList<KirvAccountKey> &chosen, QWidget *parent)
-    : QDialog(parent)
+    : KirvMoveDialog(QStringLiteral("ExportAccounts"), tr("Export Accounts"), parent)
     , accounts(accounts)
     , mainAccount(mainAccount)
-    , area(new KirvFormArea(this))
-    , progress(new QProgressBar(this))
 {
-    setObjectName(QStringLiteral("ExportAccounts"));
-    setWindowTitle(tr("Export Accounts"));
-    area->setWidget(createContent());
-    progress->setObjectName(QStringLiteral("ExportAccounts_Progress"));
-    progress->setAccessibleName(tr("Progress"));
-    progress->setRange(0, 0);
-    progress->setTextVisible(false);
-    progress->hide();
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(area, 1);
-    layout->addWidget(progress);
-    layout->addWidget(createButtons());
+    QWidget *content = createContent();
+    build(content, createButtons(), comfortableWidth);
     check(chosen);
     connect(&accounts, &KirvAccountCollection::accountAdded, this, &KirvExportWindow::refreshList);
     connect(&accounts, &KirvAccountCollection::accountRemoved, this, &KirvExportWindow::refreshList);
-    resize(std::min(comfortableWidth * fontMetrics().averageCharWidth(), parent->screen()->availableSize().width()),
-           height());
     grow();
     list->focusList();
 }
@@ -98,7 +82,7 @@ QWidget *KirvExportWindow::createContent()
     connect(passwordsBox, &QCheckBox::toggled, this, [this](bool isChecked) {
         passPhrase->setVisible(isChecked);
         updateControls();
-        QMetaObject::invokeMethod(this, &KirvExportWindow::grow, Qt::QueuedConnection);
+        growLater();
     });
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
@@ -336,14 +320,4 @@ void KirvExportWindow::showOutcome(const QString &text)
     QMetaObject::invokeMethod(this, reveal, Qt::QueuedConnection);
     QAccessibleEvent news(outcomeText, QAccessible::Alert);
     QAccessible::updateAccessibility(&news);
-}
-
-/// As high as its contents need, where the screen is.
-void KirvExportWindow::grow()
-{
-    layout()->activate();
-    const int wanted = layout()->totalHeightForWidth(width());
-    const int possible = std::min(std::max(wanted, sizeHint().height()), screen()->availableSize().height() * 9 / 10);
-    if (height() < possible && !isMaximized() && !isFullScreen())
-        resize(width(), possible);
 }

@@ -3,28 +3,26 @@
 #define KIRV_EXPORT_WINDOW_H
 
 #include "client/kirv_background_job.h"
+#include "client/kirv_move_dialog.h"
 #include "core/values/kirv_account_key.h"
 
-#include <QDialog>
 #include <QList>
 #include <QStringList>
 
 class KirvAccountCheckList;
 class KirvAccountCollection;
-class KirvFormArea;
 class KirvMainAccount;
 class KirvWrappedText;
 class QCheckBox;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
-class QProgressBar;
 class QPushButton;
 struct KirvMovedAccounts;
 
 /// Writes accounts to a file that can be imported elsewhere: the user chooses which, and whether with passwords. It
 /// stays open to say what was written and what was left out.
-class KirvExportWindow : public QDialog {
+class KirvExportWindow : public KirvMoveDialog {
     Q_OBJECT
 
 public:
@@ -65,7 +63,6 @@ private:
                          const KirvBackgroundJob::Flag &isWanted);
     void finish(const Outcome &outcome, const QString &path);
     void showOutcome(const QString &text);
-    void grow();
 
     const KirvAccountCollection &accounts;
     const KirvMainAccount &mainAccount;
@@ -74,7 +71,6 @@ private:
     QList<KirvAccountKey> listed;
     bool isRefreshDue = false;
 
-    KirvFormArea *area = nullptr;
     KirvAccountCheckList *list = nullptr;
     QCheckBox *passwordsBox = nullptr;
     QWidget *passPhrase = nullptr;
@@ -82,7 +78,6 @@ private:
     QLineEdit *repetitionLine = nullptr;
     QLabel *problem = nullptr;
     KirvWrappedText *outcomeText = nullptr;
-    QProgressBar *progress = nullptr;
     QPushButton *exportButton = nullptr;
     QDialogButtonBox *box = nullptr;
 };

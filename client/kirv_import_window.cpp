@@ -24,7 +24,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -46,32 +45,19 @@ KirvWrappedText *createText(const char *name, const QString &accessibleName, QWi
 } // namespace
 
 KirvImportWindow::KirvImportWindow(const Environment &environment, QWidget *parent)
-    : QDialog(parent)
+    : KirvMoveDialog(QStringLiteral("ImportAccounts"), tr("Import Accounts"), parent)
     , environment(environment)
-    , area(new KirvFormArea(this))
-    , progress(new QProgressBar(this))
 {
-    setObjectName(QStringLiteral("ImportAccounts"));
-    setWindowTitle(tr("Import Accounts"));
     connect(&environment.accounts.secrets(), &KirvSecretKeeper::changed, this, [this] {
         if (state == Listing)
             showText(listingText());
     });
-    area->setWidget(createContent());
-    progress->setObjectName(QStringLiteral("ImportAccounts_Progress"));
-    progress->setAccessibleName(tr("Progress"));
-    progress->setRange(0, 0);
-    progress->setTextVisible(false);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(area, 1);
-    layout->addWidget(progress);
-    layout->addWidget(createButtons());
+    QWidget *content = createContent();
+    build(content, createButtons(), comfortableWidth);
     // What is listed depends on which accounts there are.
     connect(&environment.accounts, &KirvAccountCollection::accountAdded, this, &KirvImportWindow::listLater);
     connect(&environment.accounts, &KirvAccountCollection::accountRemoved, this, &KirvImportWindow::listLater);
     setState(Reading);
-    const QSize available = parent->screen()->availableSize();
-    resize(std::min(comfortableWidth * fontMetrics().averageCharWidth(), available.width()), height());
     grow();
 }
 
@@ -257,7 +243,7 @@ void KirvImportWindow::showProblem(const QString &newText)
     if (!newText.isEmpty()) {
         QAccessibleEvent news(problem, QAccessible::Alert);
         QAccessible::updateAccessibility(&news);
-        QMetaObject::invokeMethod(this, &KirvImportWindow::grow, Qt::QueuedConnection);
+        growLater();
     }
 }
 
@@ -281,7 +267,7 @@ void KirvImportWindow::setState(State newState)
     } else {
         box->button(QDialogButtonBox::Cancel)->setFocus();
     }
-    QMetaObject::invokeMethod(this, &KirvImportWindow::grow, Qt::QueuedConnection);
+    growLater();
 }
 
 void KirvImportWindow::refreshButtons()
@@ -427,14 +413,4 @@ void KirvImportWindow::import()
     Q_EMIT imported(taken);
     if (!leftOutSince.isEmpty())
         Q_EMIT partLeftOut(leftOutSince.mid(0, mostSentences).join(QLatin1Char(' ')));
-}
-
-/// As high as its contents need, where the screen is.
-void KirvImportWindow::grow()
-{
-    layout()->activate();
-    const int wanted = std::max(layout()->totalHeightForWidth(width()), sizeHint().height());
-    const int possible = std::min(wanted, screen()->availableSize().height() * 9 / 10);
-    if (height() < possible && !isMaximized() && !isFullScreen())
-        resize(width(), possible);
 }

@@ -3,29 +3,27 @@
 #define KIRV_IMPORT_WINDOW_H
 
 #include "client/kirv_background_job.h"
+#include "client/kirv_move_dialog.h"
 #include "core/moving/kirv_account_file.h"
 #include "core/moving/kirv_account_import.h"
 
 #include <QByteArray>
-#include <QDialog>
 #include <QHash>
 #include <memory>
 
 class KirvAccountCheckList;
 class KirvAccountCollection;
 class KirvAccountHistory;
-class KirvFormArea;
 class KirvMainAccount;
 class KirvWrappedText;
 class QDialogButtonBox;
 class QFileDialog;
 class QLineEdit;
-class QProgressBar;
 class QPushButton;
 
 /// Shows which accounts are in a file, and takes over those that the user chooses. The file is read in a thread; it can
 /// be any file, and nothing changes before the import is confirmed.
-class KirvImportWindow : public QDialog {
+class KirvImportWindow : public KirvMoveDialog {
     Q_OBJECT
 
 public:
@@ -81,7 +79,6 @@ private:
     QString listingText() const;
     QString leftOutText() const;
     void import();
-    void grow();
 
     const Environment environment;
     KirvBackgroundJob job;
@@ -93,14 +90,12 @@ private:
     bool isRefreshDue = false;
     bool isImporting = false;
 
-    KirvFormArea *area = nullptr;
     KirvWrappedText *text = nullptr;
     QWidget *passPhrase = nullptr;
     QLineEdit *passPhraseLine = nullptr;
     KirvAccountCheckList *rows = nullptr;
     KirvWrappedText *problem = nullptr;
     KirvWrappedText *leftOut = nullptr;
-    QProgressBar *progress = nullptr;
     QPushButton *otherFileButton = nullptr;
     QPushButton *withoutButton = nullptr;
     QPushButton *actionButton = nullptr;

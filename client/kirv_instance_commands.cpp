@@ -30,7 +30,7 @@ void KirvInstanceCommands::handle(const QJsonObject &message, const KirvRunningI
     if (KirvAccountsRequest::fromJson(message, &request))
         service->run(request, [reply](const KirvAccountsReply &outcome) { reply(outcome.toJson()); });
     else
-        reply(KirvInstanceMessage::refusal(tr("The program that runs with this profile does not know that command.")));
+        reply(KirvInstanceMessage::unknownCommand());
 }
 
 /// An import waits until each plug-in that there was at the start is loaded or left out.

@@ -19,7 +19,7 @@ QJsonObject KirvInstanceMessage::fromLine(const QByteArray &line, QString *probl
     const QJsonDocument document = QJsonDocument::fromJson(line);
     const QJsonValue itsVersion = document.object().value(versionKey);
     if (!itsVersion.isDouble())
-        *problem = tr("The other program said something that is not understood.");
+        *problem = tr("The message of the other program cannot be read.");
     else if (itsVersion.toDouble() != version)
         *problem = tr("The program that runs with this profile has another version. Quit it, and try again.");
     return problem->isEmpty() ? document.object() : QJsonObject();
@@ -28,4 +28,9 @@ QJsonObject KirvInstanceMessage::fromLine(const QByteArray &line, QString *probl
 QJsonObject KirvInstanceMessage::refusal(const QString &problem)
 {
     return { { QStringLiteral("problem"), problem } };
+}
+
+QJsonObject KirvInstanceMessage::unknownCommand()
+{
+    return refusal(tr("The program that runs with this profile does not have that command."));
 }

@@ -7,7 +7,7 @@
 #include <QJsonObject>
 #include <QString>
 
-/// What a running program and a later start with the same profile say to each other: one line of JSON each way.
+/// The messages between a running program and a later start with the same profile: one line of JSON each way.
 ///
 /// Files travel in it as Base64, and not as descriptors: the later start opens them, with its own rights and in its own
 /// folder, and the running program needs no more than the content, whose size is bounded here.
@@ -30,6 +30,8 @@ public:
     static QJsonObject fromLine(const QByteArray &line, QString *problem);
     /// A reply that refuses.
     static QJsonObject refusal(const QString &problem);
+    /// The same, of a command that this version does not have.
+    static QJsonObject unknownCommand();
 };
 
 #endif

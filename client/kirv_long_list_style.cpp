@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_long_list_style.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QStyleOptionComboBox>
 
 KirvLongListStyle::KirvLongListStyle(QObject *parent)
-    : QProxyStyle(QApplication::style()->objectName()) // one of its own: a proxy owns its base
+    : KirvStyleWithoutHint(SH_ComboBox_Popup, parent)
 {
-    setParent(parent);
-}
-
-int KirvLongListStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                                 QStyleHintReturn *returnData) const
-{
-    if (hint == SH_ComboBox_Popup)
-        return 0;
-    return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 
 void KirvLongListStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -25,7 +15,7 @@ void KirvLongListStyle::drawControl(ControlElement element, const QStyleOption *
     const auto *box = qobject_cast<const QComboBox *>(widget);
     const auto *whole = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (element != CE_ComboBoxLabel || !box || !whole || box->currentIndex() >= 0) {
-        QProxyStyle::drawControl(element, option, painter, widget);
+        KirvStyleWithoutHint::drawControl(element, option, painter, widget);
         return;
     }
     QStyleOptionComboBox label = *whole;
@@ -33,5 +23,5 @@ void KirvLongListStyle::drawControl(ControlElement element, const QStyleOption *
     // As the texts of the entries; the text itself says that it is none.
     label.palette.setBrush(QPalette::ButtonText, box->palette().brush(QPalette::ButtonText));
     label.palette.setBrush(QPalette::Text, box->palette().brush(QPalette::Text));
-    QProxyStyle::drawControl(element, &label, painter, widget);
+    KirvStyleWithoutHint::drawControl(element, &label, painter, widget);
 }

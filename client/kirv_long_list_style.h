@@ -2,20 +2,18 @@
 #ifndef KIRV_LONG_LIST_STYLE_H
 #define KIRV_LONG_LIST_STYLE_H
 
-#include <QProxyStyle>
+#include "client/kirv_style_without_hint.h"
 
 /// The style of the program for a combo box with many entries: its list has QComboBox::maxVisibleItems() rows, where
 /// styles show as many as the screen holds. The placeholder text can be read in every palette; Qt 5 paints none in
 /// light ones.
-class KirvLongListStyle : public QProxyStyle {
+class KirvLongListStyle : public KirvStyleWithoutHint {
     Q_OBJECT
 
 public:
     /// \a parent owns it.
     explicit KirvLongListStyle(QObject *parent);
 
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *returnData) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
 };

@@ -125,7 +125,7 @@ void KirvRunningInstance::handle(KirvInstanceConnection *connection, const QJson
     } else if (handler) {
         handler(message, reply);
     } else {
-        reply(KirvInstanceMessage::refusal(tr("The program that runs with this profile does not know that command.")));
+        reply(KirvInstanceMessage::unknownCommand());
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_server_assistant.h"
 
+#include "client/kirv_busy_bar.h"
 #include "client/kirv_picture_reader.h"
 #include "client/kirv_provider_completer.h"
 #include "client/kirv_remember_box.h"
@@ -93,12 +94,7 @@ void KirvServerAssistant::build()
     area = new KirvFormArea(this);
     area->setObjectName(QStringLiteral("ServerAssistant_Area"));
     area->setWidget(createPage());
-    progress = new QProgressBar(this);
-    progress->setObjectName(QStringLiteral("ServerAssistant_Progress"));
-    progress->setAccessibleName(tr("Waiting for the server"));
-    progress->setRange(0, 0);
-    progress->setTextVisible(false);
-    progress->hide();
+    progress = kirvCreateBusyBar(QStringLiteral("ServerAssistant_Progress"), tr("Waiting for the server"), this);
 
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(area, 1);

@@ -2,6 +2,7 @@
 #include "client/kirv_translations.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -28,15 +29,6 @@ QString libraryPrefix()
     return QStringLiteral("kirv_gui_accounts_tab_");
 }
 
-QString qtTranslationFolder()
-{
-#if QT_VERSION >= 0x060000
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
-}
-
 bool isRightToLeft()
 {
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance())
@@ -45,9 +37,21 @@ bool isRightToLeft()
 
 } // namespace
 
+/// Those beside the program come first, so that a build that is not installed uses its own.
 QString kirvTranslationFolder()
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../share/kirv/translations"));
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString own = program.filePath(QStringLiteral("../share/kirv/translations"));
+    return QFileInfo(own).isDir() ? own : program.filePath(QStringLiteral(KIRV_TRANSLATIONS_FROM_BIN));
+}
+
+QString kirvQtTranslationFolder()
+{
+#if QT_VERSION >= 0x060000
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
 }
 
 KirvTranslations::KirvTranslations(QCoreApplication &application, const QString &folder)
@@ -148,7 +152,7 @@ QString KirvTranslations::languageOf(const QLocale &locale) const
 
 void KirvTranslations::loadAll(const QString &language)
 {
-    load(QStringLiteral("qtbase_") + language, qtTranslationFolder());
+    load(QStringLiteral("qtbase_") + language, kirvQtTranslationFolder());
     load(libraryPrefix() + language, folder);
     load(prefix() + language, folder);
 }

@@ -14,6 +14,8 @@ class QTranslator;
 
 /// Where the texts that came with the program are.
 QString kirvTranslationFolder();
+/// Where Qt's own are, which packages of their own install.
+QString kirvQtTranslationFolder();
 
 /// The languages of the program and the one that is used. The texts of the program and of Qt, the formats of numbers
 /// and dates and the direction of the layout follow it. Made after the application, and one at a time.

@@ -11,6 +11,20 @@
 
 #include <algorithm>
 
+namespace {
+
+/// \a companions is copied: they change while windows close.
+template <typename Companion, typename Condition>
+void closeWhere(const QList<QPointer<Companion>> companions, const Condition &condition)
+{
+    for (const QPointer<Companion> &companion : companions) {
+        if (companion && condition(*companion))
+            companion->close();
+    }
+}
+
+} // namespace
+
 KirvWindowCompanions::KirvWindowCompanions(KirvLayoutCatalog &layouts,
                                            const KirvAccountsPageCompanion::Environment &environment, QObject *parent)
     : QObject(parent)
@@ -34,30 +48,15 @@ bool KirvWindowCompanions::takeRefusal(const KirvAccountKey &key, const QString 
 void KirvWindowCompanions::closeWindowsOf(const QString &protocol)
 {
     environment.help.closeWindowsOf(protocol);
-    const auto openEditWindows = editWindows;
-    for (const auto &companion : openEditWindows) {
-        if (companion && companion->key().protocol == protocol)
-            companion->close();
-    }
-    const auto openAddWindows = addWindows;
-    for (const auto &companion : openAddWindows) {
-        if (companion && companion->protocol() == protocol)
-            companion->close();
-    }
+    closeWhere(editWindows, [&protocol](const auto &companion) { return companion.key().protocol == protocol; });
+    closeWhere(addWindows, [&protocol](const auto &companion) { return companion.protocol() == protocol; });
 }
 
 void KirvWindowCompanions::closeUnchanged()
 {
-    const auto openEditWindows = editWindows;
-    for (const auto &companion : openEditWindows) {
-        if (companion && !companion->hasInput())
-            companion->close();
-    }
-    const auto openAddWindows = addWindows;
-    for (const auto &companion : openAddWindows) {
-        if (companion && !companion->hasInput())
-            companion->close();
-    }
+    const auto isUnchanged = [](const auto &companion) { return !companion.hasInput(); };
+    closeWhere(editWindows, isUnchanged);
+    closeWhere(addWindows, isUnchanged);
 }
 
 void KirvWindowCompanions::add(const QString &layout, QWidget *top)

@@ -49,7 +49,6 @@ endif()
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
-set(KIRV_PRIVATE_LIBRARY_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv")
 # The version of the plug-in interface, as its header has it.
 file(STRINGS "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h" api_line
     REGEX "^#define KIRV_PROTOCOL_PLUGIN_API [0-9]+$")
@@ -60,7 +59,6 @@ endif()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
     "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h")
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
-set(KIRV_PROTOCOL_INSTALL_DIRECTORY "${CMAKE_INSTALL_LIBDIR}/kirv/protocols")
 
 if(KIRV_USE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     find_program(KIRV_CCACHE ccache)

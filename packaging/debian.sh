@@ -8,7 +8,7 @@ KIRV_BUILD_PACKAGES=(
     qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev libqt5sql5-sqlite
     libqxmpp-dev libidn-dev libcommuni-dev qtkeychain-qt5-dev libsecret-1-0 libsodium-dev qttranslations5-l10n
     fonts-dejavu-core)
-# The private servers of the demo, the walk-through and the system tests.
+# The private servers of the demo, the tour and the system tests.
 KIRV_SERVER_PACKAGES=(prosody ngircd openssl)
 # To build with the other major of Qt and to run all tests; clang and its runtime are for the fuzzers.
 KIRV_TEST_PACKAGES=(

@@ -336,13 +336,6 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountDirectory</name>
-    <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>انتهى الاتصال قبل أن يردّ الخادم.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountExport</name>
     <message>
         <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
@@ -1717,10 +1710,6 @@ A file is called - where the standard output or input is meant.</source>
 <context>
     <name>KirvConnection</name>
     <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>انتهى الاتصال قبل أن يردّ الخادم.</translation>
-    </message>
-    <message>
         <source>The account is not connected.</source>
         <translation>الحساب غير متصل.</translation>
     </message>
@@ -1891,10 +1880,6 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Export Accounts</source>
         <translation>تصدير الحسابات</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>التقدّم</translation>
     </message>
     <message>
         <source>Include &amp;passwords (encrypted)</source>
@@ -2163,6 +2148,10 @@ A file is called - where the standard output or input is meant.</source>
         <extracomment>%1 is the reason</extracomment>
         <translation>فشل الاتصال عبر الوسيط: %1</translation>
     </message>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>انتهى الاتصال قبل أن يردّ الخادم.</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -2324,10 +2313,6 @@ A file is called - where the standard output or input is meant.</source>
         <translation>استيراد الحسابات</translation>
     </message>
     <message>
-        <source>Progress</source>
-        <translation>التقدّم</translation>
-    </message>
-    <message>
         <source>About the file</source>
         <translation>عن الملف</translation>
     </message>
@@ -2453,21 +2438,18 @@ A file is called - where the standard output or input is meant.</source>
     </message>
 </context>
 <context>
-    <name>KirvInstanceCommands</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>البرنامج الذي يعمل بهذا الملف الشخصي لا يعرف هذا الأمر.</translation>
-    </message>
-</context>
-<context>
     <name>KirvInstanceMessage</name>
-    <message>
-        <source>The other program said something that is not understood.</source>
-        <translation>أرسل البرنامج الآخر شيئًا غير مفهوم.</translation>
-    </message>
     <message>
         <source>The program that runs with this profile has another version. Quit it, and try again.</source>
         <translation>البرنامج الذي يعمل بهذا الملف الشخصي من إصدار آخر. أنهِه وحاول من جديد.</translation>
+    </message>
+    <message>
+        <source>The message of the other program cannot be read.</source>
+        <translation>تعذّرت قراءة رسالة البرنامج الآخر.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not have that command.</source>
+        <translation>البرنامج الذي يعمل بهذا الملف الشخصي لا يعرف هذا الأمر.</translation>
     </message>
 </context>
 <context>
@@ -3044,6 +3026,13 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Close This Message</source>
         <translation>أغلق هذه الرسالة</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMoveDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>التقدّم</translation>
     </message>
 </context>
 <context>
@@ -4183,13 +4172,6 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Show the text</source>
         <translation>أظهر النص</translation>
-    </message>
-</context>
-<context>
-    <name>KirvRunningInstance</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>البرنامج الذي يعمل بهذا الملف الشخصي لا يعرف هذا الأمر.</translation>
     </message>
 </context>
 <context>

@@ -332,13 +332,6 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountDirectory</name>
-    <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountExport</name>
     <message>
         <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
@@ -1665,10 +1658,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
 <context>
     <name>KirvConnection</name>
     <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
-    </message>
-    <message>
         <source>The account is not connected.</source>
         <translation>Das Konto ist nicht verbunden.</translation>
     </message>
@@ -1839,10 +1828,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Export Accounts</source>
         <translation>Konten exportieren</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Include &amp;passwords (encrypted)</source>
@@ -2107,6 +2092,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <extracomment>%1 is the reason</extracomment>
         <translation>Die Verbindung über den Proxy ist fehlgeschlagen: %1</translation>
     </message>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>Die Verbindung endete, bevor der Server geantwortet hat.</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -2268,10 +2257,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <translation>Konten importieren</translation>
     </message>
     <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
         <source>About the file</source>
         <translation>Über die Datei</translation>
     </message>
@@ -2393,21 +2378,18 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
 </context>
 <context>
-    <name>KirvInstanceCommands</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>Das Programm, das mit diesem Profil läuft, kennt diesen Befehl nicht.</translation>
-    </message>
-</context>
-<context>
     <name>KirvInstanceMessage</name>
-    <message>
-        <source>The other program said something that is not understood.</source>
-        <translation>Das andere Programm hat etwas gesagt, das nicht verstanden wird.</translation>
-    </message>
     <message>
         <source>The program that runs with this profile has another version. Quit it, and try again.</source>
         <translation>Das Programm, das mit diesem Profil läuft, hat eine andere Version. Beenden Sie es, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The message of the other program cannot be read.</source>
+        <translation>Die Nachricht des anderen Programms kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not have that command.</source>
+        <translation>Das Programm, das mit diesem Profil läuft, kennt diesen Befehl nicht.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +2962,13 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Information</source>
         <translation>Hinweis</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMoveDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
     </message>
 </context>
 <context>
@@ -4083,13 +4072,6 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Show the text</source>
         <translation>Text anzeigen</translation>
-    </message>
-</context>
-<context>
-    <name>KirvRunningInstance</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>Das Programm, das mit diesem Profil läuft, kennt diesen Befehl nicht.</translation>
     </message>
 </context>
 <context>

@@ -332,13 +332,6 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountDirectory</name>
-    <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>La conexión terminó antes de que respondiera el servidor.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountExport</name>
     <message>
         <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
@@ -1665,10 +1658,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
 <context>
     <name>KirvConnection</name>
     <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>La conexión terminó antes de que respondiera el servidor.</translation>
-    </message>
-    <message>
         <source>The account is not connected.</source>
         <translation>La cuenta no está conectada.</translation>
     </message>
@@ -1839,10 +1828,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Export Accounts</source>
         <translation>Exportar cuentas</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
     </message>
     <message>
         <source>Include &amp;passwords (encrypted)</source>
@@ -2107,6 +2092,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <extracomment>%1 is the reason</extracomment>
         <translation>La conexión a través del proxy falló: %1</translation>
     </message>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>La conexión terminó antes de que respondiera el servidor.</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -2268,10 +2257,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <translation>Importar cuentas</translation>
     </message>
     <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
         <source>About the file</source>
         <translation>Acerca del archivo</translation>
     </message>
@@ -2393,21 +2378,18 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     </message>
 </context>
 <context>
-    <name>KirvInstanceCommands</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>El programa que se ejecuta con este perfil no conoce esa orden.</translation>
-    </message>
-</context>
-<context>
     <name>KirvInstanceMessage</name>
-    <message>
-        <source>The other program said something that is not understood.</source>
-        <translation>El otro programa respondió algo que no se entiende.</translation>
-    </message>
     <message>
         <source>The program that runs with this profile has another version. Quit it, and try again.</source>
         <translation>El programa que se ejecuta con este perfil tiene otra versión. Salga de él e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The message of the other program cannot be read.</source>
+        <translation>No se puede leer el mensaje del otro programa.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not have that command.</source>
+        <translation>El programa que se ejecuta con este perfil no conoce esa orden.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +2962,13 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Close This Message</source>
         <translation>Cerrar este mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMoveDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
     </message>
 </context>
 <context>
@@ -4083,13 +4072,6 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Show the text</source>
         <translation>Mostrar el texto</translation>
-    </message>
-</context>
-<context>
-    <name>KirvRunningInstance</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>El programa que se ejecuta con este perfil no conoce esa orden.</translation>
     </message>
 </context>
 <context>

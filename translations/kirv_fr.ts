@@ -332,13 +332,6 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountDirectory</name>
-    <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>La connexion s’est terminée avant que le serveur ne réponde.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountExport</name>
     <message>
         <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
@@ -1665,10 +1658,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
 <context>
     <name>KirvConnection</name>
     <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>La connexion s’est terminée avant que le serveur ne réponde.</translation>
-    </message>
-    <message>
         <source>The account is not connected.</source>
         <translation>Le compte n’est pas connecté.</translation>
     </message>
@@ -1839,10 +1828,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Export Accounts</source>
         <translation>Exporter des comptes</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
     </message>
     <message>
         <source>Include &amp;passwords (encrypted)</source>
@@ -2107,6 +2092,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <extracomment>%1 is the reason</extracomment>
         <translation>La connexion via le proxy a échoué&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>La connexion s’est terminée avant que le serveur ne réponde.</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -2268,10 +2257,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <translation>Importer des comptes</translation>
     </message>
     <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
-    </message>
-    <message>
         <source>About the file</source>
         <translation>À propos du fichier</translation>
     </message>
@@ -2393,21 +2378,18 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     </message>
 </context>
 <context>
-    <name>KirvInstanceCommands</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>Le programme qui utilise ce profil ne connaît pas cette commande.</translation>
-    </message>
-</context>
-<context>
     <name>KirvInstanceMessage</name>
-    <message>
-        <source>The other program said something that is not understood.</source>
-        <translation>L’autre programme a envoyé quelque chose d’incompréhensible.</translation>
-    </message>
     <message>
         <source>The program that runs with this profile has another version. Quit it, and try again.</source>
         <translation>Le programme qui utilise ce profil est d’une autre version. Quittez-le, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The message of the other program cannot be read.</source>
+        <translation>Le message de l’autre programme ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not have that command.</source>
+        <translation>Le programme qui utilise ce profil ne connaît pas cette commande.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +2962,13 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Close This Message</source>
         <translation>Fermer ce message</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMoveDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
     </message>
 </context>
 <context>
@@ -4083,13 +4072,6 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Show the text</source>
         <translation>Afficher le texte</translation>
-    </message>
-</context>
-<context>
-    <name>KirvRunningInstance</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>Le programme qui utilise ce profil ne connaît pas cette commande.</translation>
     </message>
 </context>
 <context>

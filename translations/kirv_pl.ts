@@ -333,13 +333,6 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountDirectory</name>
-    <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>Połączenie zostało zakończone, zanim serwer odpowiedział.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountExport</name>
     <message>
         <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
@@ -1678,10 +1671,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
 <context>
     <name>KirvConnection</name>
     <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>Połączenie zostało zakończone, zanim serwer odpowiedział.</translation>
-    </message>
-    <message>
         <source>The account is not connected.</source>
         <translation>Konto nie jest połączone.</translation>
     </message>
@@ -1852,10 +1841,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Export Accounts</source>
         <translation>Eksport kont</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Postęp</translation>
     </message>
     <message>
         <source>Include &amp;passwords (encrypted)</source>
@@ -2121,6 +2106,10 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <extracomment>%1 is the reason</extracomment>
         <translation>Połączenie przez serwer proxy nie powiodło się: %1</translation>
     </message>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>Połączenie zostało zakończone, zanim serwer odpowiedział.</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -2282,10 +2271,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <translation>Import kont</translation>
     </message>
     <message>
-        <source>Progress</source>
-        <translation>Postęp</translation>
-    </message>
-    <message>
         <source>About the file</source>
         <translation>Informacje o pliku</translation>
     </message>
@@ -2408,21 +2393,18 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     </message>
 </context>
 <context>
-    <name>KirvInstanceCommands</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>Program, który działa z tym profilem, nie zna tego polecenia.</translation>
-    </message>
-</context>
-<context>
     <name>KirvInstanceMessage</name>
-    <message>
-        <source>The other program said something that is not understood.</source>
-        <translation>Drugi program przysłał niezrozumiałą odpowiedź.</translation>
-    </message>
     <message>
         <source>The program that runs with this profile has another version. Quit it, and try again.</source>
         <translation>Program, który działa z tym profilem, ma inną wersję. Zakończ go i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The message of the other program cannot be read.</source>
+        <translation>Nie można odczytać komunikatu drugiego programu.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not have that command.</source>
+        <translation>Program, który działa z tym profilem, nie zna tego polecenia.</translation>
     </message>
 </context>
 <context>
@@ -2996,6 +2978,13 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Close This Message</source>
         <translation>Zamknij ten komunikat</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMoveDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
     </message>
 </context>
 <context>
@@ -4108,13 +4097,6 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Show the text</source>
         <translation>Pokaż tekst</translation>
-    </message>
-</context>
-<context>
-    <name>KirvRunningInstance</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>Program, który działa z tym profilem, nie zna tego polecenia.</translation>
     </message>
 </context>
 <context>

@@ -332,13 +332,6 @@
     </message>
 </context>
 <context>
-    <name>KirvAccountDirectory</name>
-    <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>A conexão terminou antes que o servidor respondesse.</translation>
-    </message>
-</context>
-<context>
     <name>KirvAccountExport</name>
     <message>
         <source>The password of the account &quot;%1&quot; (%2) is left out: it is in the keyring and could not be read.</source>
@@ -1665,10 +1658,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
 <context>
     <name>KirvConnection</name>
     <message>
-        <source>The connection ended before the server answered.</source>
-        <translation>A conexão terminou antes que o servidor respondesse.</translation>
-    </message>
-    <message>
         <source>The account is not connected.</source>
         <translation>A conta não está conectada.</translation>
     </message>
@@ -1839,10 +1828,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Export Accounts</source>
         <translation>Exportar contas</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
     </message>
     <message>
         <source>Include &amp;passwords (encrypted)</source>
@@ -2107,6 +2092,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <extracomment>%1 is the reason</extracomment>
         <translation>A conexão pelo proxy falhou: %1</translation>
     </message>
+    <message>
+        <source>The connection ended before the server answered.</source>
+        <translation>A conexão terminou antes que o servidor respondesse.</translation>
+    </message>
 </context>
 <context>
     <name>KirvFieldForm</name>
@@ -2268,10 +2257,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <translation>Importar contas</translation>
     </message>
     <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
-    </message>
-    <message>
         <source>About the file</source>
         <translation>Sobre o arquivo</translation>
     </message>
@@ -2393,21 +2378,18 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     </message>
 </context>
 <context>
-    <name>KirvInstanceCommands</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>O programa que está em execução com este perfil não conhece esse comando.</translation>
-    </message>
-</context>
-<context>
     <name>KirvInstanceMessage</name>
-    <message>
-        <source>The other program said something that is not understood.</source>
-        <translation>O outro programa respondeu algo que não foi compreendido.</translation>
-    </message>
     <message>
         <source>The program that runs with this profile has another version. Quit it, and try again.</source>
         <translation>O programa que está em execução com este perfil tem outra versão. Saia dele e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The message of the other program cannot be read.</source>
+        <translation>Não é possível ler a mensagem do outro programa.</translation>
+    </message>
+    <message>
+        <source>The program that runs with this profile does not have that command.</source>
+        <translation>O programa que está em execução com este perfil não conhece esse comando.</translation>
     </message>
 </context>
 <context>
@@ -2980,6 +2962,13 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Close This Message</source>
         <translation>Fechar esta mensagem</translation>
+    </message>
+</context>
+<context>
+    <name>KirvMoveDialog</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
     </message>
 </context>
 <context>
@@ -4083,13 +4072,6 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Show the text</source>
         <translation>Mostrar o texto</translation>
-    </message>
-</context>
-<context>
-    <name>KirvRunningInstance</name>
-    <message>
-        <source>The program that runs with this profile does not know that command.</source>
-        <translation>O programa que está em execução com este perfil não conhece esse comando.</translation>
     </message>
 </context>
 <context>

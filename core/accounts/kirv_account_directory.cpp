@@ -20,7 +20,7 @@ void KirvAccountDirectory::setConnection(KirvConnection *newConnection)
     if (connection)
         connect(connection, &KirvConnection::directoryAnswered, this, &KirvAccountDirectory::receive);
     if (isBusy())
-        fail(held || drafted ? Publish : operation, tr("The connection ended before the server answered."));
+        fail(held || drafted ? Publish : operation, KirvFailure::connectionEnded().detail());
 }
 
 void KirvAccountDirectory::setBlankFields(const QList<KirvField> &fields)

@@ -72,7 +72,7 @@ KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvCo
 {
     const KirvConnection::State state = connection.state();
     if (!wanted.online) {
-        const bool isLeaving = state == KirvConnection::Disconnecting && !connection.comesBack();
+        const bool isLeaving = state == KirvConnection::Disconnecting && !connection.willLogInAgain();
         return state == KirvConnection::Offline || isLeaving ? Nothing : LogOut;
     }
     const bool isOtherLogin = connection.login() != wanted.login;
@@ -92,7 +92,7 @@ KirvReconciler::Step KirvReconciler::nextStep(const Wanted &wanted, const KirvCo
             return LogIn;
         break;
     case KirvConnection::Disconnecting:
-        if (isOtherLogin || !connection.comesBack())
+        if (isOtherLogin || !connection.willLogInAgain())
             return LogIn;
         break;
     }
@@ -128,7 +128,8 @@ void KirvReconciler::reconcile()
 void KirvReconciler::waitForSecrets(const Wanted &now)
 {
     const KirvConnection::State state = target->state();
-    const bool isUsed = state == KirvConnection::Disconnecting ? target->comesBack() : state != KirvConnection::Offline;
+    const bool isUsed =
+        state == KirvConnection::Disconnecting ? target->willLogInAgain() : state != KirvConnection::Offline;
     if (isUsed && target->login() != now.login)
         take(LogOut, now, None);
 }

@@ -20,8 +20,7 @@ QString testerProgram()
 {
     const QDir program(QCoreApplication::applicationDirPath());
     const QStringList candidates { program.filePath(QStringLiteral("../lib/kirv/kirv_plugin_tester")),
-                                   program.filePath(
-                                       QStringLiteral("../" KIRV_TESTER_INSTALL_DIRECTORY "/kirv_plugin_tester")) };
+                                   program.filePath(QStringLiteral(KIRV_TESTER_FROM_BIN)) };
     for (const QString &candidate : candidates) {
         if (QFileInfo(candidate).isExecutable())
             return QDir::cleanPath(candidate);

@@ -32,9 +32,8 @@ bool KirvConnection::Private::enter(State next)
 bool KirvConnection::Private::failRequests(const QList<int> &requests)
 {
     const QPointer<KirvConnection> alive(connection);
-    const QString reason = KirvConnection::tr("The connection ended before the server answered.");
     for (int request : requests) {
-        connection->failDirectoryRequest(request, KirvFailure(KirvFailure::RequestFailed, reason));
+        connection->failDirectoryRequest(request, KirvFailure::connectionEnded());
         if (!alive)
             return false;
     }
@@ -53,7 +52,7 @@ void KirvConnection::Private::inThisState(int milliseconds, std::function<void()
 /// Logs in when it is the connection's turn, now or later.
 void KirvConnection::Private::logInNow()
 {
-    comesBack = false;
+    logsInAgain = false;
     if (mayBegin && !mayBegin())
         waitForTurn();
     else
@@ -80,9 +79,9 @@ void KirvConnection::Private::begin()
     callProtocol([this] { connection->startLogin(wanted); }, [this](const KirvFailure &failure) { fail(failure); });
 }
 
-void KirvConnection::Private::startLogOut(bool comeBack)
+void KirvConnection::Private::startLogOut(bool logInAgain)
 {
-    comesBack = comeBack;
+    logsInAgain = logInAgain;
     backOff.reset();
     if (!enter(Disconnecting))
         return;
@@ -96,7 +95,7 @@ void KirvConnection::Private::startLogOut(bool comeBack)
 
 void KirvConnection::Private::finishLogOut()
 {
-    if (enter(Offline) && comesBack)
+    if (enter(Offline) && logsInAgain)
         logInNow();
 }
 
@@ -243,9 +242,9 @@ KirvPresence KirvConnection::presence() const
     return d->wanted;
 }
 
-bool KirvConnection::comesBack() const
+bool KirvConnection::willLogInAgain() const
 {
-    return d->state == Disconnecting && d->comesBack;
+    return d->state == Disconnecting && d->logsInAgain;
 }
 
 bool KirvConnection::isOfflinePresence(const KirvPresence &presence) const
@@ -271,7 +270,7 @@ void KirvConnection::logIn(const KirvLogin &login, const KirvPresence &presence)
         d->startLogOut(true);
         break;
     case Disconnecting:
-        d->comesBack = true;
+        d->logsInAgain = true;
         break;
     }
 }
@@ -290,14 +289,14 @@ void KirvConnection::logOut()
     if (d->state == Online)
         d->startLogOut(false);
     else if (d->state == Disconnecting)
-        d->comesBack = false;
+        d->logsInAgain = false;
     else
         drop();
 }
 
 void KirvConnection::drop()
 {
-    d->comesBack = false;
+    d->logsInAgain = false;
     if (d->state == Offline)
         return;
     if (d->abort())

@@ -79,7 +79,7 @@ public:
     /// The presence that the connection has, or will arrive with.
     KirvPresence presence() const;
     /// Whether state() is Disconnecting and a log-in follows.
-    bool comesBack() const;
+    bool willLogInAgain() const;
 
     /// Logs in with \a login and arrives with \a presence. When it is logged in already it logs out and in again; an
     /// attempt that is under way is replaced, and waiting ends.

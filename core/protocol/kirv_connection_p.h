@@ -24,7 +24,7 @@ public:
     void logInNow();
     void waitForTurn();
     void begin();
-    void startLogOut(bool comeBack);
+    void startLogOut(bool logInAgain);
     void finishLogOut();
     bool abort();
     void fail(const KirvFailure &reported);
@@ -61,7 +61,7 @@ public:
     bool waitsForTurn = false;
     bool aborting = false; ///< reports of the protocol are ignored meanwhile
     std::optional<KirvLoginStep> lastStep; ///< of this attempt
-    bool comesBack = false; ///< the log-out is followed by a log-in
+    bool logsInAgain = false; ///< the log-out is followed by a log-in
 
     int lastRequest = 0;
     bool starting = false; ///< a directory request is being started

@@ -15,6 +15,11 @@ KirvFailure::KirvFailure(Kind kind, const QString &detail)
 {
 }
 
+KirvFailure KirvFailure::connectionEnded()
+{
+    return KirvFailure(RequestFailed, tr("The connection ended before the server answered."));
+}
+
 bool KirvFailure::isWorthRetrying() const
 {
     switch (failureKind) {

@@ -47,6 +47,8 @@ public:
     /// \a detail is added to the sentence where it helps: a host name, the server's own words. It is kept in
     /// one line of at most 300 characters, whatever a server sends.
     KirvFailure(Kind kind, const QString &detail = QString());
+    /// Of a request that was under way when its connection ended.
+    static KirvFailure connectionEnded();
 
     /// What failed; None when nothing did.
     Kind kind() const { return failureKind; }

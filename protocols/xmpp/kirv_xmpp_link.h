@@ -79,7 +79,7 @@ Q_SIGNALS:
     /// There is a connection to the server, through the proxy where there is one.
     void reached();
     /// The server has sent what it offers. May be emitted several times.
-    void greeted();
+    void featuresReceived();
     /// The server has shown a certificate that has problems, or any while trustedCertificate() is set; the end follows,
     /// unless it is trustedCertificate().
     void certificateShown(const KirvServerCertificate &certificate);

@@ -123,7 +123,7 @@ void KirvXmppRoute::start(const KirvXmppTarget &next)
 {
     dropLink();
     target = next;
-    isReached = isGreeted = false;
+    isReached = hasFeatures = false;
     const auto receive = [this, started = attempt](const QNetworkProxy &found, const KirvFailure &failure) {
         if (started != attempt || isOver)
             return;
@@ -151,7 +151,7 @@ void KirvXmppRoute::openLink(const QNetworkProxy &found)
     if (target.isDirect)
         own.setStreamSecurityMode(QXmppConfiguration::LegacySSL);
     clock.callLater(silence, this, [this, started = attempt] {
-        if (started == attempt && !isGreeted && !isOver)
+        if (started == attempt && !hasFeatures && !isOver)
             receiveNothing();
     });
     watchProxy();
@@ -164,7 +164,7 @@ void KirvXmppRoute::watchProxy()
     if (proxy.type() == QNetworkProxy::NoProxy)
         return;
     clock.callLater(KirvProxy::timeout, this, [this, started = attempt] {
-        if (started == attempt && !isReached && !isGreeted && !hasArrived && !isOver)
+        if (started == attempt && !isReached && !hasFeatures && !hasArrived && !isOver)
             end(kirvProxyTimedOut(proxy));
     });
 }
@@ -173,7 +173,7 @@ void KirvXmppRoute::connectLink()
 {
     connect(link, &KirvXmppLink::step, this, &KirvXmppRoute::receiveStep);
     connect(link, &KirvXmppLink::reached, this, [this] { isReached = true; });
-    connect(link, &KirvXmppLink::greeted, this, [this] { isGreeted = true; });
+    connect(link, &KirvXmppLink::featuresReceived, this, [this] { hasFeatures = true; });
     connect(link, &KirvXmppLink::certificateShown, this, &KirvXmppLink::certificateShown);
     connect(link, &KirvXmppLink::redirected, this, &KirvXmppRoute::follow);
     connect(link, &KirvXmppLink::ended, this, &KirvXmppRoute::receiveEnd);
@@ -220,7 +220,7 @@ void KirvXmppRoute::follow(const QString &host, int port, bool wasEncrypted)
 
 void KirvXmppRoute::receiveEnd(const KirvFailure &failure)
 {
-    const bool wasReached = isGreeted || hasArrived || !failure.isFailure();
+    const bool wasReached = hasFeatures || hasArrived || !failure.isFailure();
     if (wasReached || failure.isOfProxy() || (isUnreachable(failure) && targets.isEmpty()))
         end(failure);
     else if (isUnreachable(failure))
@@ -241,7 +241,7 @@ void KirvXmppRoute::receiveNothing()
     if (!isReached && proxy.type() != QNetworkProxy::NoProxy)
         return; // the proxy is silent, not the server
     const auto receive = [this, started = attempt](bool isOther) {
-        if (started == attempt && !isOver && !isGreeted && isOther)
+        if (started == attempt && !isOver && !hasFeatures && isOther)
             end(otherStart());
     };
     probe(target, proxy, clock, this, receive);

@@ -82,7 +82,7 @@ private:
     bool mayBeLocal = true; ///< nobody outside has led here
     int attempt = 0; ///< tells a timer or a probe whether it is still wanted
     bool isReached = false; ///< there is a connection to the present server
-    bool isGreeted = false; ///< the present server has sent what it offers
+    bool hasFeatures = false; ///< the present server has sent what it offers
     bool hasArrived = false;
     bool isOver = false;
     QPointer<KirvXmppLink> link;

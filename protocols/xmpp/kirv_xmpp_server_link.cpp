@@ -269,7 +269,7 @@ bool KirvXmppServerLink::receiveFeatures(const QDomElement &features)
     const auto security = client.configuration().streamSecurityMode();
     const QDomElement encryption = kirvXmppChild(features, encryptionSpace, QStringLiteral("starttls"));
     const bool mayEncrypt = !encryption.isNull() && security != QXmppConfiguration::TLSDisabled;
-    Q_EMIT greeted();
+    Q_EMIT featuresReceived();
     hasMechanisms = !kirvXmppChild(features, authenticationSpace, QStringLiteral("mechanisms")).isNull();
     QDomElement used = features; // the same elements, which the library reads afterwards
     const bool sendsPasswords = reader->isEncrypted() || security == QXmppConfiguration::TLSDisabled;
@@ -306,7 +306,7 @@ bool KirvXmppServerLink::receiveStreamError(const QDomElement &error)
 {
     const KirvXmppError description(error, streamErrorSpace);
     const QString &condition = description.condition;
-    Q_EMIT greeted();
+    Q_EMIT featuresReceived();
     if (condition == QLatin1String("see-other-host"))
         return receiveReference(kirvXmppChild(error, streamErrorSpace, condition).text());
     if (description.isConflict())

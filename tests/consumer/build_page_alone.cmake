@@ -5,7 +5,7 @@ include("${CMAKE_CURRENT_LIST_DIR}/install.cmake")
 string(REPLACE "Qt" "" major "${QT}")
 set(options -DCMAKE_BUILD_TYPE=None -DKIRV_QT_MAJOR=${major} -DKIRV_BUILD_CLIENT=OFF -DKIRV_BUILD_TESTS=OFF
     "-DCMAKE_SHARED_LINKER_FLAGS=-Wl,-z,defs" "-DCMAKE_CXX_COMPILER=${COMPILER}"
-    -DCMAKE_INSTALL_PREFIX=/usr "-DCMAKE_INSTALL_LIBDIR=${LIBRARIES}")
+    -DCMAKE_INSTALL_PREFIX=/usr "-DCMAKE_INSTALL_LIBDIR=/usr/${LIBRARIES}")
 foreach(module IN ITEMS Test Sql Svg UiTools Network Xml LinguistTools)
     list(APPEND options "-DCMAKE_DISABLE_FIND_PACKAGE_${QT}${module}=ON")
 endforeach()
@@ -14,6 +14,18 @@ file(REMOVE_RECURSE "${WORK}")
 run("${CMAKE_COMMAND}" -S "${SOURCE}" -B "${WORK}/build" -G Ninja ${options})
 run("${CMAKE_COMMAND}" --build "${WORK}/build")
 run("${CMAKE_COMMAND}" -E env "DESTDIR=${WORK}/tree" "${CMAKE_COMMAND}" --install "${WORK}/build")
+
+# A folder below the prefix may be given as an absolute path; what is installed can be moved all the same.
+file(READ "${WORK}/tree/usr/${LIBRARIES}/pkgconfig/kirv-gui-accounts-tab.pc" package)
+string(FIND "${package}" "libdir=\${prefix}/${LIBRARIES}\n" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "The file for pkg-config has another folder of the library than ${LIBRARIES}:\n${package}")
+endif()
+execute_process(COMMAND "${CMAKE_COMMAND}" -S "${SOURCE}" -B "${WORK}/elsewhere" -G Ninja ${options}
+    -DCMAKE_INSTALL_LIBDIR=/elsewhere ERROR_VARIABLE refusal OUTPUT_QUIET RESULT_VARIABLE result)
+if(result EQUAL 0 OR NOT refusal MATCHES "CMAKE_INSTALL_LIBDIR")
+    message(FATAL_ERROR "A folder outside the prefix is not refused: ${refusal}")
+endif()
 
 # Without a preset nothing is forced upon who builds it.
 file(READ "${WORK}/build/build.ninja" commands)

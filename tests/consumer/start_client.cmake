@@ -8,6 +8,15 @@ if(NOT output MATCHES "${VERSION}")
     message(FATAL_ERROR "The installed client says \"${output}\" and not ${VERSION}")
 endif()
 
+# The texts in other languages are found, wherever they are installed.
+execute_process(COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8 "${folder}/${PROGRAM}" --help
+    OUTPUT_VARIABLE english COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=de_DE.UTF-8 "${folder}/${PROGRAM}" --help
+    OUTPUT_VARIABLE german COMMAND_ERROR_IS_FATAL ANY)
+if(german STREQUAL english)
+    message(FATAL_ERROR "The installed client has no texts in German")
+endif()
+
 # Nothing that was installed may need the build folder, or miss a library.
 file(GLOB libraries "${folder}/${LIBRARIES}/*.so.*" "${folder}/${LIBRARIES}/kirv/*.so" "${folder}/${PROTOCOLS}/*.so")
 foreach(file IN LISTS libraries ITEMS "${folder}/${PROGRAM}")

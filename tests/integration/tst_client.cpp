@@ -73,6 +73,7 @@ private Q_SLOTS:
     void secondInstanceIsRefusedWithAReason();
     void missingPluginFolderIsTold();
     void accountsLogInAgainAfterARestart();
+    void firstAccountIsSelectedAtTheStart();
     void titleAndRowsFollowTheMainAccount();
     void windowRemembersItsSize();
 
@@ -303,6 +304,19 @@ void tst_Client::accountsLogInAgainAfterARestart()
     QCOMPARE(rowIds(), QStringList { QStringLiteral("anna") });
     QCOMPARE(row(QStringLiteral("anna"))->checkState(AliasColumn), Qt::Checked);
     KIRV_TRY(account(QStringLiteral("anna"))->isLoggedIn());
+}
+
+/// So that the strip says something, and the keys of the list have something to work on.
+void tst_Client::firstAccountIsSelectedAtTheStart()
+{
+    addAccount(QStringLiteral("bert"));
+    addAccount(QStringLiteral("anna"));
+    restart();
+    KIRV_TRY(list()->topLevelItem(0)->isSelected());
+    QCOMPARE(list()->currentItem(), list()->topLevelItem(0));
+    QCOMPARE(list()->selectedItems().size(), 1);
+    const QString first = list()->topLevelItem(0)->text(AliasColumn);
+    KIRV_TRY(child<QLabel>(client->accountsPage(), "Accounts_StripTitle")->text().contains(first));
 }
 
 void tst_Client::titleAndRowsFollowTheMainAccount()

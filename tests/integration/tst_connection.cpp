@@ -382,18 +382,18 @@ void tst_Connection::loggingInEndsTheWait()
 void tst_Connection::loggingInWhileLoggingOutComesBack()
 {
     bringTo(State::Disconnecting);
-    QVERIFY(!connection->comesBack());
+    QVERIFY(!connection->willLogInAgain());
     connection->logIn(otherLogin, available);
-    QVERIFY(connection->comesBack());
+    QVERIFY(connection->willLogInAgain());
     connection->changePresence(away);
     QCOMPARE(connection->state(), State::Disconnecting);
     connection->logoutFinished();
     QCOMPARE(connection->takeCalls(), QStringList { "ann log in away changed" });
     QCOMPARE(takeStates(), (QList<State> { State::Offline, State::Connecting }));
-    QVERIFY(!connection->comesBack());
+    QVERIFY(!connection->willLogInAgain());
     connection->loginSucceeded();
     connection->logOut();
-    QVERIFY(!connection->comesBack());
+    QVERIFY(!connection->willLogInAgain());
     connection->logoutFinished();
     QCOMPARE(connection->state(), State::Offline);
 }
@@ -403,7 +403,7 @@ void tst_Connection::aLogOutCancelsComingBack()
     bringTo(State::Disconnecting);
     connection->logIn(login, away);
     connection->logOut();
-    QVERIFY(!connection->comesBack());
+    QVERIFY(!connection->willLogInAgain());
     connection->logoutFinished();
     QCOMPARE(connection->state(), State::Offline);
     QCOMPARE(connection->takeCalls(), QStringList());
@@ -438,7 +438,7 @@ void tst_Connection::logsInAgain()
     QFETCH(QStringList, calls);
     bringTo(state);
     connection->logIn(otherLogin, away);
-    QCOMPARE(connection->comesBack(), connection->state() == State::Disconnecting);
+    QCOMPARE(connection->willLogInAgain(), connection->state() == State::Disconnecting);
     QCOMPARE(connection->login(), otherLogin);
     connection->logoutFinished();
     QCOMPARE(connection->takeCalls(), calls);

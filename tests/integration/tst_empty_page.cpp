@@ -38,6 +38,7 @@ private Q_SLOTS:
     void selectorIsDisabledWhileItOffersNothing();
     void selectorKeepsTheFocusWhileItIsRefilled();
     void keyboardAloneAddsTheFirstAccount();
+    void keyboardStartsOnThePage();
 
 private:
     template <typename T = QWidget>
@@ -202,6 +203,16 @@ void tst_EmptyPage::keyboardAloneAddsTheFirstAccount()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     KIRV_TRY(windows->account(ann));
     KIRV_TRY(isListing());
+}
+
+/// And not in the list of the pages, where it could do nothing for an account.
+void tst_EmptyPage::keyboardStartsOnThePage()
+{
+    KIRV_TRY_COMPARE(QApplication::focusWidget(), part("Accounts_InvitationAddButton"));
+    windows->addAccount(ann);
+    windows->restart();
+    KIRV_TRY(isListing());
+    QCOMPARE(windows->client->window()->focusWidget(), windows->list());
 }
 
 QTEST_MAIN(tst_EmptyPage)

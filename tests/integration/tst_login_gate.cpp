@@ -128,11 +128,11 @@ void tst_LoginGate::aLogInAfterALogOutWaitsForItsTurn()
     connection->beginLogin();
     connection->serverAccepts();
     connection->logIn({ "ann", "other", {} }, available);
-    QVERIFY(connection->comesBack());
+    QVERIFY(connection->willLogInAgain());
     connection->takeCalls();
     connection->serverAccepts();
     QVERIFY(connection->isWaitingForTurn());
-    QVERIFY(!connection->comesBack());
+    QVERIFY(!connection->willLogInAgain());
     connection->beginLogin();
     QCOMPARE(connection->takeCalls(), QStringList { "ann log in available other" });
 }

@@ -316,7 +316,7 @@ void tst_Reconciler::aRemovedAccountDoesNotComeBack()
     core->server().logOut = KirvFakeServer::Holds;
     account->reconnect();
     QCOMPARE(core->takeCalls(), QStringList { "id log out" });
-    QVERIFY(connection->comesBack());
+    QVERIFY(connection->willLogInAgain());
     core->manager().removeAccount("id", core->fake);
     connection->serverAccepts(); // before the reconciler's turn
     KIRV_TRY(!account);
@@ -335,7 +335,7 @@ void tst_Reconciler::itsConnectionOutlivesARemovedAccount()
     account->tryAgain();
     account->reconnect();
     core->settle();
-    QVERIFY(!connection->comesBack());
+    QVERIFY(!connection->willLogInAgain());
     connection->serverAccepts();
     KIRV_TRY(!account && !connection);
     QCOMPARE(core->takeCalls(), QStringList { "id log out" });

@@ -223,7 +223,7 @@ void tst_XmppRoute::aServerThatRefusesEndsTheSearch()
     open();
     answer(directName, Records());
     answer(ordinaryName, Records { record("one", 1), record("two", 2, 10) });
-    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->featuresReceived();
     server.link()->end(KirvFailure::WrongPassword);
     QCOMPARE(ending().kind(), KirvFailure::WrongPassword);
     QCOMPARE(server.links, 1);
@@ -249,7 +249,7 @@ void tst_XmppRoute::aSilentServerIsLeftForTheNext()
     answer(ordinaryName, Records { record("one", 1), record("two", 2, 10) });
     clock.advance(KirvXmppRoute::silence);
     QCOMPARE(address(), QString("two:2"));
-    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->featuresReceived();
     clock.advance(KirvXmppRoute::silence);
     QCOMPARE(address(), QString("two:2"));
     QCOMPARE(ended->size(), 0);
@@ -296,7 +296,7 @@ void tst_XmppRoute::theLastServerMayTakeItsTime()
     open(QXmppConfiguration::TLSRequired, "one");
     clock.advance(KirvXmppRoute::silence);
     QCOMPARE(probes.size(), 1);
-    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->featuresReceived();
     probes.takeFirst()(true); // too late
     QSignalSpy loggedIn(route.get(), &KirvXmppLink::loggedIn);
     server.link()->arrive();
@@ -319,7 +319,7 @@ void tst_XmppRoute::aReferenceIsFollowed()
     QFETCH(Security, security);
     QFETCH(int, port);
     open(security, "one");
-    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->featuresReceived();
     Q_EMIT server.link()->redirected("other", port, true);
     QTEST(address(), "followed");
     QCOMPARE(server.link()->configuration.domain(), QString("example.org")); // whose certificate it needs
@@ -480,7 +480,7 @@ void tst_XmppRoute::aProxyLooksTheServerUp()
     QVERIFY(lookUps.isEmpty()); // which would go round it
     QCOMPARE(address(), QString("example.org:5222"));
     QCOMPARE(server.link()->configuration.networkProxy(), proxy);
-    Q_EMIT server.link()->greeted();
+    Q_EMIT server.link()->featuresReceived();
     Q_EMIT server.link()->redirected("other", 5333, true);
     QCOMPARE(address(), QString("other:5333"));
     QCOMPARE(server.link()->configuration.networkProxy(), proxy);

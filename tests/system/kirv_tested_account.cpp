@@ -191,17 +191,17 @@ bool KirvTestedAccount::confirmRefusedSave()
 bool KirvTestedAccount::changePasswordOnServer(QDialog *editWindow, const QString &password)
 {
     const QString command = QStringLiteral("Change Password on Server…");
-    KirvWindowDriver walk(windows.profileFolder());
-    walk.expectOnTop(
+    KirvWindowDriver driver(windows.profileFolder());
+    driver.expectOnTop(
         QStringLiteral("The edit window is open"), [editWindow] { return editWindow->isVisible(); },
         [editWindow] {
             KirvWindowDriver::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The menu offers the command"), [command] { return KirvWindowDriver::menuOffers(command); },
         [command] { KirvWindowDriver::clickInMenu(command); });
     const auto assistant = [] { return KirvWindowDriver::window(QStringLiteral("ServerAssistant")); };
-    if (!walk.run() || !QTest::qWaitFor([=] { return assistant(); }, kirvPatience))
+    if (!driver.run() || !QTest::qWaitFor([=] { return assistant(); }, kirvPatience))
         return false;
     const auto edits = assistant()->findChildren<QLineEdit *>();
     for (QLineEdit *edit : edits)

@@ -83,15 +83,15 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
     showPage(AccountsPage);
     const auto window = [] { return KirvWindowDriver::window(QStringLiteral("AddAccount")); };
     const auto saveButton = [window] { return button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Save); };
-    KirvWindowDriver walk(files.path());
-    walk.expectOnTop(
+    KirvWindowDriver driver(files.path());
+    driver.expectOnTop(
         QStringLiteral("The page is there"), [this] { return client->accountsPage()->isVisible(); },
         [this] { KirvWindowDriver::openMenu(child<QToolButton>(client->accountsPage(), "Accounts_AddButton")); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The menu offers %1").arg(protocol),
         [protocol] { return KirvWindowDriver::menuOffers(protocol); },
         [protocol] { KirvWindowDriver::clickInMenu(protocol); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The window opens, with Save disabled"), [=] { return window() && !saveButton()->isEnabled(); },
         [=] {
             KirvWindowDriver::choose(child<QComboBox>(window(), "AddAccount_Configuration"), configuration);
@@ -100,14 +100,14 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
             if (fillIn)
                 fillIn(window());
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("Save is enabled"), [=] { return saveButton()->isEnabled(); },
         [=] { KirvWindowDriver::click(saveButton()); });
     if (!isAccepted) {
-        walk.expect(
+        driver.expect(
             QStringLiteral("The account is refused"), [this] { return question(); },
             [this] { KirvWindowDriver::click(question()->button(QMessageBox::Ok)); });
-        walk.expect(
+        driver.expect(
             QStringLiteral("The window is still open, as it was"),
             [=] {
                 return !question() && window()
@@ -115,8 +115,8 @@ bool KirvWindows::add(const QString &protocol, const QString &configuration, con
             },
             [=] { KirvWindowDriver::click(button(window(), "AddAccount_ButtonFrame", QDialogButtonBox::Cancel)); });
     }
-    walk.expectOnTop(QStringLiteral("The window is gone"), [window] { return !window(); });
-    return walk.run();
+    driver.expectOnTop(QStringLiteral("The window is gone"), [window] { return !window(); });
+    return driver.run();
 }
 
 QDialog *KirvWindows::edit(const QString &login)

@@ -118,17 +118,17 @@ bool tst_ForeignLayouts::unloadWhileAdding(const QString &topName, const std::fu
         return false;
     QPointer<QDialog> window;
     bool isUnloaded = false;
-    KirvWindowDriver walk(windows->profileFolder());
-    walk.expectOnTop(
+    KirvWindowDriver driver(windows->profileFolder());
+    driver.expectOnTop(
         "The page is there", [this] { return windows->client->accountsPage()->isVisible(); },
         [this] {
             KirvWindowDriver::openMenu(
                 KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
         });
-    walk.expect(
+    driver.expect(
         "The menu offers the protocol", [] { return KirvWindowDriver::menuOffers(xmpp); },
         [] { KirvWindowDriver::clickInMenu(xmpp); });
-    walk.expect(
+    driver.expect(
         "The window is open", [] { return KirvTestedAccount::addWindow(); },
         [&] {
             window = KirvTestedAccount::addWindow();
@@ -138,14 +138,14 @@ bool tst_ForeignLayouts::unloadWhileAdding(const QString &topName, const std::fu
             if (then && window && window->isVisible())
                 then(window);
         });
-    walk.expect(
+    driver.expect(
         "Nothing can be done in the window", [&] { return KirvTestedAccount::isOutOfUse(window); },
         [&] {
             if (window)
                 window->reject();
         });
-    walk.expectOnTop("The window is closed", [&] { return !window; });
-    return walk.run() && isUnloaded;
+    driver.expectOnTop("The window is closed", [&] { return !window; });
+    return driver.run() && isUnloaded;
 }
 
 void tst_ForeignLayouts::savingWithoutAChangePublishesNothing()

@@ -138,16 +138,16 @@ bool tst_RegisteringInWindows::addRomeo(KirvProsodyServer &server)
 
 bool tst_RegisteringInWindows::choose(QDialog *editWindow, const QString &command)
 {
-    KirvWindowDriver walk(windows->profileFolder());
-    walk.expectOnTop(
+    KirvWindowDriver driver(windows->profileFolder());
+    driver.expectOnTop(
         QStringLiteral("The edit window is there"), [editWindow] { return editWindow->isVisible(); },
         [editWindow] {
             KirvWindowDriver::openMenu(KirvWindows::child<QPushButton>(editWindow, "EditAccount_ServerAccountButton"));
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The menu offers: %1").arg(command), [command] { return KirvWindowDriver::menuOffers(command); },
         [command] { KirvWindowDriver::clickInMenu(command); });
-    return walk.run();
+    return driver.run();
 }
 
 void tst_RegisteringInWindows::newAccountIsInTheListAndLoggedIn()

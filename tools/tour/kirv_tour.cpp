@@ -105,7 +105,7 @@ QMessageBox *question()
 KirvTour::KirvTour(KirvDemo &demo, const QString &folder)
     : demo(demo)
     , options(KirvClientOptions::defaults())
-    , walk(folder)
+    , driver(folder)
 {
     options.profileFolder = demo.profileFolder();
 }
@@ -125,7 +125,7 @@ bool KirvTour::run()
     planImport();
     planDisabling();
     planRemoving();
-    return walk.run();
+    return driver.run();
 }
 
 void KirvTour::startClient()
@@ -142,31 +142,31 @@ void KirvTour::startClient()
 
 void KirvTour::planFirstAccount()
 {
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The settings window opens on the Accounts page"),
         [this] { return page() && page()->isVisible() && client->arePluginsLoaded(); },
         [this] { KirvWindowDriver::openMenu(page()->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton"))); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The menu of the add button offers XMPP"), [] { return KirvWindowDriver::menuOffers(xmpp); },
         [] { KirvWindowDriver::clickInMenu(xmpp); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The window for a new account opens"), [] { return KirvWindowDriver::window(add); },
         [] { chooseIn(add, QStringLiteral("AddAccount_Configuration"), QStringLiteral("Server on this computer")); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The ready-made configuration is chosen; Save is disabled without login and password"),
         [] {
             const auto *box = child<QComboBox>(add, QStringLiteral("AddAccount_Configuration"));
             return box->currentText() == QLatin1String("Server on this computer") && !saveInAddWindow()->isEnabled();
         },
         [this] { typeInto(add, QStringLiteral("AddAccount_UsernameEdit"), demo.address()); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("Save is disabled without a password"),
         [this] {
             return child<QLineEdit>(add, QStringLiteral("AddAccount_UsernameEdit"))->text() == demo.address()
                 && !saveInAddWindow()->isEnabled();
         },
         [this] { typeInto(add, QStringLiteral("AddAccount_PasswordEdit"), demo.password()); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("Save is enabled with login and password"), [] { return saveInAddWindow()->isEnabled(); },
         [] {
             auto *remember = child<QCheckBox>(add, QStringLiteral("AddAccount_RememberPasswordCheckbox"));
@@ -174,48 +174,48 @@ void KirvTour::planFirstAccount()
                 KirvWindowDriver::pressKey(remember, Qt::Key_Space);
             chooseIn(add, QStringLiteral("AddAccount_PresenceCombo"), QStringLiteral("Away"));
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The presence Away is chosen"),
         [] {
             return child<QComboBox>(add, QStringLiteral("AddAccount_PresenceCombo"))->currentText()
                 == QLatin1String("Away");
         },
         [] { KirvWindowDriver::click(saveInAddWindow()); });
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The account stands in the list, checked"),
         [this] {
             return !KirvWindowDriver::window(add) && row(xmpp) && row(xmpp)->text(AliasColumn) == demo.address()
                 && row(xmpp)->checkState(AliasColumn) == Qt::Checked;
         },
         [this] { select(xmpp); });
-    walk.expect(QStringLiteral("The row says that the account is connected"),
-                [this] { return state(xmpp) == QLatin1String("Connected"); });
-    walk.expect(QStringLiteral("The server sees the session"), [this] { return demo.isOnline(); });
+    driver.expect(QStringLiteral("The row says that the account is connected"),
+                  [this] { return state(xmpp) == QLatin1String("Connected"); });
+    driver.expect(QStringLiteral("The server sees the session"), [this] { return demo.isOnline(); });
 }
 
 void KirvTour::planRestart()
 {
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The client quits"), [] { return true; },
         [this] {
             client.reset();
             startClient();
         });
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("After the next start the account is back"),
         [this] { return client && row(xmpp) && row(xmpp)->checkState(AliasColumn) == Qt::Checked; },
         [this] { select(xmpp); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("It has logged in by itself"), [this] { return state(xmpp) == QLatin1String("Connected"); },
         [] { showPage(0); });
 }
 
 void KirvTour::planEditing()
 {
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The Accounts page is shown again"), [this] { return page()->isVisible(); },
         [this] { openEditWindow(xmpp); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("A double click opens the window of the account, filled in"),
         [this] {
             const auto *alias = child<QLineEdit>(edit, QStringLiteral("EditAccount_Alias"));
@@ -225,7 +225,7 @@ void KirvTour::planEditing()
             typeInto(edit, QStringLiteral("EditAccount_Alias"), QStringLiteral("Anna at home"));
             child<QTabWidget>(edit, QStringLiteral("EditAccount_Tabs"))->setCurrentIndex(1);
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The directory entry comes from the server"),
         [] {
             const auto *fields = child<QWidget>(edit, QStringLiteral("EditAccount_PubDirResults"));
@@ -233,7 +233,7 @@ void KirvTour::planEditing()
             return name && name->isEnabled();
         },
         [] { KirvWindowDriver::click(saveInEditWindow()); });
-    walk.expectOnTop(QStringLiteral("The row shows the new alias"), [this] {
+    driver.expectOnTop(QStringLiteral("The row shows the new alias"), [this] {
         return !KirvWindowDriver::window(edit) && row(xmpp)->text(AliasColumn) == QLatin1String("Anna at home");
     });
 }
@@ -241,21 +241,21 @@ void KirvTour::planEditing()
 void KirvTour::planWrongPassword()
 {
     const auto changePassword = [this](const QString &text, const QString &password) {
-        walk.expectOnTop(
+        driver.expectOnTop(
             text, [this] { return page()->isVisible() && !KirvWindowDriver::window(edit); },
             [this] { openEditWindow(xmpp); });
-        walk.expect(
+        driver.expect(
             QStringLiteral("The window of the account opens"), [] { return KirvWindowDriver::window(edit); },
             [password] {
                 typeInto(edit, QStringLiteral("EditAccount_Password"), password);
                 KirvWindowDriver::click(saveInEditWindow());
             });
-        walk.expectOnTop(
+        driver.expectOnTop(
             QStringLiteral("The change is saved"), [] { return !KirvWindowDriver::window(edit); },
             [this] { select(xmpp); });
     };
     changePassword(QStringLiteral("The password is changed to a wrong one"), QStringLiteral("mistyped"));
-    walk.expect(
+    driver.expect(
         QStringLiteral("The row says that the password is wrong"),
         [this] {
             return state(xmpp) == QLatin1String("Wrong password")
@@ -263,34 +263,34 @@ void KirvTour::planWrongPassword()
         },
         [] { showPage(0); });
     changePassword(QStringLiteral("The password is changed back"), demo.password());
-    walk.expect(
+    driver.expect(
         QStringLiteral("The account is connected again"),
         [this] { return state(xmpp) == QLatin1String("Connected") && problem(xmpp).isEmpty(); }, [] { showPage(0); });
 }
 
 void KirvTour::planIrcAccount()
 {
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("An IRC account is added beside it"), [this] { return page()->isVisible(); },
         [this] { KirvWindowDriver::openMenu(page()->findChild<QToolButton *>(QStringLiteral("Accounts_AddButton"))); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The menu of the add button offers IRC"), [] { return KirvWindowDriver::menuOffers(irc); },
         [] { KirvWindowDriver::clickInMenu(irc); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The window for a new account opens"), [] { return KirvWindowDriver::window(add); },
         [this] {
             chooseIn(add, QStringLiteral("AddAccount_Configuration"), QStringLiteral("Server on this computer"));
             typeInto(add, QStringLiteral("AddAccount_UsernameEdit"), QStringLiteral("anna"));
             typeInto(add, QStringLiteral("AddAccount_PasswordEdit"), demo.password());
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("Save is enabled with nickname and password"), [] { return saveInAddWindow()->isEnabled(); },
         [] { KirvWindowDriver::click(saveInAddWindow()); });
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("Both accounts stand in the list"),
         [this] { return row(irc) && row(xmpp) && row(irc)->checkState(AliasColumn) == Qt::Checked; },
         [this] { select(irc); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The IRC account is connected"), [this] { return state(irc) == QLatin1String("Connected"); },
         [] { showPage(0); });
 }
@@ -298,13 +298,13 @@ void KirvTour::planIrcAccount()
 void KirvTour::planExport()
 {
     const QString path = exports.filePath(QStringLiteral("accounts.json"));
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The General page is opened"), [this] { return page()->isVisible(); }, [] { showPage(2); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("It offers to export the accounts"),
         [] { return shown<QPushButton>(settings, QStringLiteral("General_ExportButton")); },
         [] { KirvWindowDriver::click(child<QPushButton>(settings, QStringLiteral("General_ExportButton"))); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("All accounts are chosen"),
         [] {
             const auto *all = child<QCheckBox>(exportWindow, QStringLiteral("ExportAccounts_All"));
@@ -316,15 +316,15 @@ void KirvTour::planExport()
             typeInto(exportWindow, QStringLiteral("ExportAccounts_PassPhrase"), passPhrase);
             typeInto(exportWindow, QStringLiteral("ExportAccounts_Repetition"), passPhrase);
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("A pass phrase that was repeated encrypts the passwords"),
         [] { return child<QPushButton>(exportWindow, QStringLiteral("ExportAccounts_Export"))->isEnabled(); },
         [] { KirvWindowDriver::click(child<QPushButton>(exportWindow, QStringLiteral("ExportAccounts_Export"))); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The file is chosen"),
         [] { return KirvWindowDriver::window(QStringLiteral("ExportAccounts_File")); },
         [path] { chooseFile(QStringLiteral("ExportAccounts_File"), path); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The accounts are in the file"),
         [path] {
             return shown<QTextEdit>(exportWindow, QStringLiteral("ExportAccounts_Outcome")) && QFile::exists(path);
@@ -337,73 +337,73 @@ void KirvTour::planImport()
     const QString path = exports.filePath(QStringLiteral("accounts.json"));
     const auto action = [] { return child<QPushButton>(importWindow, QStringLiteral("ImportAccounts_Action")); };
     const auto list = [] { return shown<QTreeWidget>(importWindow, QStringLiteral("ImportAccounts_List")); };
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The export window is closed"), [] { return !KirvWindowDriver::window(exportWindow); },
         [] { KirvWindowDriver::click(child<QPushButton>(settings, QStringLiteral("General_ImportButton"))); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The file is chosen for an import"),
         [] { return KirvWindowDriver::window(QStringLiteral("ImportAccounts_File")); },
         [path] { chooseFile(QStringLiteral("ImportAccounts_File"), path); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("Its passwords need the pass phrase"),
         [] { return shown<QLineEdit>(importWindow, QStringLiteral("ImportAccounts_PassPhrase")); },
         [action] {
             typeInto(importWindow, QStringLiteral("ImportAccounts_PassPhrase"), passPhrase);
             KirvWindowDriver::click(action());
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("All of its accounts exist, and are kept"),
         [action, list] { return list() && !action()->isEnabled(); },
         [list] { KirvWindowDriver::pressKey(list(), Qt::Key_Space); });
-    walk.expect(
+    driver.expect(
         QStringLiteral("One is checked to be replaced"), [action] { return action()->isEnabled(); },
         [action] { KirvWindowDriver::click(action()); });
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("It was imported, and that can be undone"),
         [] {
             return !KirvWindowDriver::window(importWindow)
                 && shown<QPushButton>(settings, QStringLiteral("MessageBar_Command"));
         },
         [] { KirvWindowDriver::click(child<QPushButton>(settings, QStringLiteral("MessageBar_Command"))); });
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The import is undone"), [this] { return client->accountHistory().latest() == 0 && row(xmpp); },
         [] { showPage(0); });
 }
 
 void KirvTour::planDisabling()
 {
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The account is unticked while it is connected"), [this] { return page()->isVisible(); },
         [this] {
             row(xmpp)->treeWidget()->setCurrentItem(row(xmpp));
             KirvWindowDriver::pressKey(row(xmpp)->treeWidget(), Qt::Key_Space);
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("A question comes first, and the tick stays"),
         [this] { return question() && row(xmpp)->checkState(AliasColumn) == Qt::Checked; },
         [] { KirvWindowDriver::click(question()->button(QMessageBox::Yes)); });
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The account is disabled"),
         [this] { return row(xmpp)->checkState(AliasColumn) == Qt::Unchecked; }, [this] { select(xmpp); });
-    walk.expect(QStringLiteral("The row says so"), [this] { return state(xmpp) == QLatin1String("Disabled"); });
-    walk.expect(
+    driver.expect(QStringLiteral("The row says so"), [this] { return state(xmpp) == QLatin1String("Disabled"); });
+    driver.expect(
         QStringLiteral("The server sees the session end"), [this] { return !demo.isOnline(); }, [] { showPage(0); });
 }
 
 void KirvTour::planRemoving()
 {
-    walk.expectOnTop(
+    driver.expectOnTop(
         QStringLiteral("The Delete key is pressed on the account"), [this] { return page()->isVisible(); },
         [this] {
             row(xmpp)->treeWidget()->setCurrentItem(row(xmpp));
             KirvWindowDriver::pressKey(row(xmpp)->treeWidget(), Qt::Key_Delete);
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("A question names the account"),
         [] { return question() && question()->text().contains(QLatin1String("Anna at home")); },
         [] { KirvWindowDriver::click(question()->button(QMessageBox::Yes)); });
-    walk.expectOnTop(QStringLiteral("The account is gone from the list and from the profile"),
-                     [this] { return !row(xmpp) && client->accounts().accountsOf(xmpp).isEmpty(); });
+    driver.expectOnTop(QStringLiteral("The account is gone from the list and from the profile"),
+                       [this] { return !row(xmpp) && client->accounts().accountsOf(xmpp).isEmpty(); });
 }
 
 QWidget *KirvTour::page() const
@@ -411,7 +411,7 @@ QWidget *KirvTour::page() const
     return client->accountsPage();
 }
 
-/// The row of the account of \a protocol: the walk has one of each.
+/// The row of the account of \a protocol: the tour has one of each.
 QTreeWidgetItem *KirvTour::row(const QString &protocol) const
 {
     const auto *list = page()->findChild<QTreeWidget *>(QStringLiteral("Accounts_List"));

@@ -45,7 +45,7 @@ private:
     KirvClientOptions options;
     std::unique_ptr<KirvClient> client;
     const QTemporaryDir exports;
-    KirvWindowDriver walk;
+    KirvWindowDriver driver;
 };
 
 #endif

@@ -29,7 +29,7 @@ public:
     /// The same, but not before all dialogs and menus of earlier steps have returned.
     void expectOnTop(const QString &text, std::function<bool()> holds, std::function<void()> then = {});
 
-    /// Walks through all steps in the application's event loop; true when all of them worked in time.
+    /// Does all steps in the application's event loop; true when all of them worked in time.
     bool run();
 
     // What the user does. The widgets must be visible.

@@ -12,7 +12,7 @@
 /// Usage: kirv_tour FOLDER. Pictures of each step are left in FOLDER; exits with 0 only when all worked.
 int main(int argc, char *argv[])
 {
-    QLocale::setDefault(QLocale::c()); // the walk reads the English texts
+    QLocale::setDefault(QLocale::c()); // the tour reads the English texts
     KirvApplication application(argc, argv);
     KirvApplication::setQuitOnLastWindowClosed(false);
     const QString folder = KirvApplication::arguments().value(1, QStringLiteral("."));
@@ -29,6 +29,6 @@ int main(int argc, char *argv[])
         return 1;
     }
     const bool worked = KirvTour(demo, folder).run();
-    std::printf(worked ? "All steps worked.\n" : "The walk-through did not work.\n");
+    std::printf(worked ? "All steps worked.\n" : "A step of the tour did not work.\n");
     return worked ? 0 : 1;
 }

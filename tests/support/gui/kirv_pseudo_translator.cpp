@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/support/gui/kirv_pseudo_translator.h"
 
+#include "client/kirv_translations.h"
+
 #include <QFile>
-#include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
 namespace {
-
-QString qtTranslationFolder()
-{
-#if QT_VERSION >= 0x060000
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
-}
 
 QChar accented(QChar letter)
 {
@@ -41,7 +33,7 @@ QString padding(int letters)
 
 KirvPseudoTranslator::KirvPseudoTranslator(const QString &catalogue)
 {
-    if (!qtTexts.load(QStringLiteral("qtbase_de"), qtTranslationFolder()))
+    if (!qtTexts.load(QStringLiteral("qtbase_de"), kirvQtTranslationFolder()))
         qWarning("Qt's own catalogues are not installed.");
     QFile file(catalogue);
     if (!file.open(QIODevice::ReadOnly))
