@@ -287,12 +287,12 @@ bool KirvAccountStatus::canEnterPassword() const
 
 bool KirvAccountStatus::canTestLogin() const
 {
-    return account.isLoaded();
+    return account.isLoaded() && !account.awaitsSecrets();
 }
 
 bool KirvAccountStatus::canBeWrong() const
 {
-    return canTestLogin() && stateKind != Connected && !account.awaitsSecrets();
+    return canTestLogin() && stateKind != Connected;
 }
 
 bool KirvAccountStatus::isAboutCertificate() const

@@ -103,18 +103,43 @@ void KirvProfileAccounts::loadPlugins(const std::function<void()> &then)
 /// Until each secret is read, or the keyring gives none, or nobody has unlocked it in time.
 void KirvProfileAccounts::readKeyring(const std::function<void()> &then)
 {
+    openKeyring();
+    poll([this] { return awaitsKeyring(); }, then);
+}
+
+void KirvProfileAccounts::openKeyring()
+{
     keyring = std::make_unique<KirvKeyring>();
     accounts->secrets().setKeyring(keyring.get());
     keyringPatience.setRemainingTime(millisecondsForTheKeyring);
-    auto *poll = new QTimer(service.get());
-    QObject::connect(poll, &QTimer::timeout, service.get(), [this, poll, then] {
-        if (awaitsKeyring() && !keyringPatience.hasExpired())
+}
+
+/// Calls \a then as soon as \a isAwaited does not hold any more, or the time for the keyring is over.
+void KirvProfileAccounts::poll(const std::function<bool()> &isAwaited, const std::function<void()> &then)
+{
+    auto *timer = new QTimer(service.get());
+    QObject::connect(timer, &QTimer::timeout, service.get(), [this, timer, isAwaited, then] {
+        if (isAwaited() && !keyringPatience.hasExpired())
             return;
-        poll->deleteLater();
-        poll->stop();
+        timer->deleteLater();
+        timer->stop();
         then();
     });
-    poll->start(millisecondsBetweenLooks);
+    timer->start(millisecondsBetweenLooks);
+}
+
+/// Nobody is asked to unlock it: there may be nobody.
+void KirvProfileAccounts::moveToKeyring(const std::function<void()> &then)
+{
+    openKeyring();
+    KirvSecretKeeper &secrets = accounts->secrets();
+    secrets.startMoving();
+    poll(
+        [this, &secrets] {
+            return keyring->state() == KirvSecretStore::Unknown
+                || (keyring->state() == KirvSecretStore::Ready && secrets.hasMovableSecrets());
+        },
+        then);
 }
 
 bool KirvProfileAccounts::awaitsKeyring() const
@@ -134,10 +159,18 @@ KirvAccountsReply KirvProfileAccounts::run(const KirvAccountsRequest &request)
     KirvAccountsReply result;
     QEventLoop loop;
     bool isDone = false;
-    service->run(request, [&](const KirvAccountsReply &reply) {
-        result = reply;
+    const auto end = [&] {
         isDone = true;
         loop.quit();
+    };
+    service->run(request, [&](const KirvAccountsReply &reply) {
+        result = reply;
+        const bool hasImported =
+            result.status == KirvAccountsReply::Done || result.status == KirvAccountsReply::DoneInPart;
+        if (hasImported && request.command == KirvAccountsRequest::Import && options.usesKeyring)
+            moveToKeyring(end);
+        else
+            end();
     });
     if (!isDone)
         loop.exec();

@@ -20,8 +20,8 @@ class KirvStore;
 /// The accounts of a profile that no program has open, for a command of the command line. Nothing logs in.
 ///
 /// Plug-ins are loaded for an import only; they need an application with a GUI then, be it without a display. The
-/// keyring is read for an export with passwords only. What is imported stays in the profile, from where the program
-/// moves it to the keyring when it starts: a command that ends at once could not wait until the keyring has it.
+/// keyring is read for an export with passwords only. What is imported goes to the profile and from there to the
+/// keyring, where that is unlocked and takes it in time; the program moves the rest when it starts.
 class KirvProfileAccounts {
 public:
     enum Outcome { Opened, InUse, Damaged, Unusable };
@@ -44,6 +44,9 @@ private:
     void loadPlugins(const std::function<void()> &then);
     void readKeyring(const std::function<void()> &then);
     bool awaitsKeyring() const;
+    void moveToKeyring(const std::function<void()> &then);
+    void openKeyring();
+    void poll(const std::function<bool()> &isAwaited, const std::function<void()> &then);
     void hold();
 
     const KirvClientOptions options;

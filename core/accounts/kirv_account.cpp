@@ -8,6 +8,7 @@
 #include "core/store/kirv_store.h"
 #include "core/values/kirv_text_limit.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -216,23 +217,45 @@ KirvPresence KirvAccount::presence() const
     return requestedPresence ? *requestedPresence : startPresence();
 }
 
+/// Nothing is known of a presence while the protocol is not loaded.
+bool KirvAccount::isOffline(const KirvPresence &presence) const
+{
+    return connection() && connection()->isOfflinePresence(presence);
+}
+
 /// The presence for a log-in that is wanted explicitly: never an off-line one when there is a better one.
 KirvPresence KirvAccount::logInPresence() const
 {
     for (const KirvPresence &candidate : { presence(), startPresence() }) {
-        if (!connection() || !connection()->isOfflinePresence(candidate))
+        if (!isOffline(candidate))
             return candidate;
     }
     return defaultPresence();
 }
 
+/// The same for one that the user requests while the account may start off line.
+KirvPresence KirvAccount::onlinePresence() const
+{
+    const KirvPresence usual = logInPresence();
+    const QList<KirvPresence> offered = loadedProtocol ? loadedProtocol->presences() : QList<KirvPresence>();
+    const auto better =
+        std::find_if(offered.begin(), offered.end(), [this](const auto &one) { return !isOffline(one); });
+    return isOffline(usual) && better != offered.end() ? *better : usual;
+}
+
 bool KirvAccount::setPresence(const KirvPresence &presence)
 {
-    return change([&](KirvAccountRecord &record) {
+    const QPointer<KirvAccount> alive(this);
+    const bool wasOffline = isOffline(this->presence());
+    const bool isStored = change([&](KirvAccountRecord &record) {
         requestedPresence = presence;
         record.lastPresence = presence.getId();
         record.lastDescription = presence.getDescription();
     });
+    // Not in a save, whose password may be another one than that in the keyring.
+    if (alive && isStored && current.enabled && wasOffline && !isOffline(presence) && !isSaving())
+        readSecretsAgain();
+    return isStored;
 }
 
 void KirvAccount::resume(const KirvPresence &presence)
@@ -274,31 +297,9 @@ void KirvAccount::tryAgain()
 void KirvAccount::reconnect()
 {
     mayLogIn = true;
-    requestedPresence = logInPresence();
+    requestedPresence = onlinePresence();
     readSecretsAgain();
     reconciler.requestStep(KirvReconciler::Reconnect);
-}
-
-void KirvAccount::providePassword(const QString &password, bool remember)
-{
-    const QPointer<KirvAccount> alive(this);
-    const bool isStored = change([&](KirvAccountRecord &record) {
-        record.password = password;
-        record.rememberPassword = remember;
-        record.unreadSecrets.remove(QString());
-    });
-    if (!alive || removed)
-        return;
-    if (!isStored) { // it still serves this run, and is stored with the next save
-        const KirvAccountRecord stored = current;
-        current.password = password;
-        current.unreadSecrets.remove(QString());
-        current.rememberPassword = current.rememberPassword && remember;
-        unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
-    }
-    requestedPresence = logInPresence();
-    awaited.remove(QString());
-    tryAgain();
 }
 
 bool KirvAccount::acceptServerPassword(const QString &password)

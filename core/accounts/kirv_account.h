@@ -179,7 +179,9 @@ private:
     void discardUnusedAvatars();
     KirvPresence createPresence(const QString &id, const QString &description) const;
     KirvPresence startPresence() const;
+    bool isOffline(const KirvPresence &presence) const;
     KirvPresence logInPresence() const;
+    KirvPresence onlinePresence() const;
     KirvReconciler::Wanted wanted() const;
     KirvAvatar avatar() const;
     bool takeAvatar(const QString &imported, const std::function<void(KirvAccountRecord &)> &alsoChange);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// The part of KirvAccount that deals with secrets in the keyring.
+// The part of KirvAccount that deals with passwords, and with secrets in the keyring.
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_secret_keeper.h"
 #include "core/store/kirv_store.h"
@@ -43,6 +43,28 @@ void KirvAccount::readSecretsAgain()
     keeper.read(this);
 }
 
+void KirvAccount::providePassword(const QString &password, bool remember)
+{
+    const QPointer<KirvAccount> alive(this);
+    const bool isStored = change([&](KirvAccountRecord &record) {
+        record.password = password;
+        record.rememberPassword = remember;
+        record.unreadSecrets.remove(QString());
+    });
+    if (!alive || removed)
+        return;
+    if (!isStored) { // it still serves this run, and is stored with the next save
+        const KirvAccountRecord stored = current;
+        current.password = password;
+        current.unreadSecrets.remove(QString());
+        current.rememberPassword = current.rememberPassword && remember;
+        unstoredPassword = unstoredPassword || !current.isStoredLike(stored);
+    }
+    requestedPresence = onlinePresence();
+    awaited.remove(QString());
+    tryAgain();
+}
+
 void KirvAccount::providePasswordForNow(const QString &password)
 {
     current.password = password;
@@ -50,7 +72,7 @@ void KirvAccount::providePasswordForNow(const QString &password)
         recordBefore.password = password;
     hasPasswordForNow = true;
     awaited.remove(QString());
-    requestedPresence = logInPresence();
+    requestedPresence = onlinePresence();
     tryAgain();
     Q_EMIT changed();
 }

@@ -15,6 +15,7 @@
 #include <QUuid>
 
 #include <climits>
+#include <utility>
 
 namespace {
 
@@ -141,7 +142,26 @@ void KirvKeyringWatcher::requestOwner()
     QDBusMessage message = QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetNameOwner"));
     message.setArguments({ serviceName });
     call(message, [this](const QDBusMessage &reply) {
-        setOwner(reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0).toString() : QString());
+        if (reply.type() == QDBusMessage::ReplyMessage)
+            setOwner(reply.arguments().value(0).toString());
+        else if (!std::exchange(isStartRequested, true))
+            startService();
+        else
+            setOwner(QString());
+    });
+}
+
+/// As other programs that use it do: it may be installed, but not started by the desktop.
+void KirvKeyringWatcher::startService()
+{
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("StartServiceByName"));
+    message.setArguments({ serviceName, 0U });
+    call(message, [this](const QDBusMessage &reply) {
+        if (reply.type() == QDBusMessage::ReplyMessage)
+            requestOwner();
+        else
+            setOwner(QString());
     });
 }
 

@@ -17,7 +17,8 @@ class KirvBusProbe;
 /// Finds out over D-Bus who keeps the secrets of the session, and whether they are locked, and follows both. Private to
 /// the store.
 ///
-/// Only calls without waiting are made, and only to a service that runs: none is started. A bus that does not answer is
+/// Only calls without waiting are made. A service that is installed but does not run is started, once; one that ends
+/// later is not. A bus that does not answer is
 /// Silent like a service that does not; it is connected in a thread, and only when it answers.
 class KirvKeyringWatcher : public QObject {
     Q_OBJECT
@@ -67,6 +68,7 @@ private:
     void follow(bool on);
     void finish(KirvSecretStore::State state);
     void requestOwner();
+    void startService();
     void requestProvider();
     void requestDefaultCollection();
     void requestLockState(const QString &collection);
@@ -79,6 +81,7 @@ private:
     const QString connectionName;
     std::unique_ptr<KirvBusProbe> probe; ///< until the bus has answered
     std::unique_ptr<QThread> connecting; ///< what connects to it
+    bool isStartRequested = false; ///< of the service
     QString owner; ///< the unique name of the service; empty: there is none
     QString provider;
     KirvSecretStore::State current = KirvSecretStore::Unknown;

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void aServiceThatNeverRepliesIsSilent();
     void anOperationThatHangsHoldsNothingUp();
     void aRefusalToUnlockIsNoMissingSecret();
+    void aQuestionThatIsAnsweredLateIsAskedOnce();
     void aReplyForADestroyedObjectIsDropped();
     void aReplyMayDestroyTheKeyring_data();
     void aReplyMayDestroyTheKeyring();
@@ -101,6 +102,8 @@ private Q_SLOTS:
     void aSecretIsNotMissingWhenTheKeyringIsUnlockedMeanwhile();
     void aLockedServiceThatHangsIsSilent();
     void theProgramOutlivesItsBus();
+    void aKeyringThatIsInstalledIsStarted();
+    void aKeyringThatCannotBeStartedIsNone();
 };
 
 void tst_Keyring::withoutABusThereIsNoKeyringAtOnce_data()
@@ -413,6 +416,32 @@ void tst_Keyring::aRefusalToUnlockIsNoMissingSecret()
     QCOMPARE(read.outcome(), KirvSecretStore::Refused);
 }
 
+void tst_Keyring::aQuestionThatIsAnsweredLateIsAskedOnce()
+{
+    KirvScriptedSecretService service(KirvScriptedSecretService::Asks);
+    service.isLocked = true;
+    QVERIFY(service.appear());
+    KirvKeyring keyring({ 10 * kirvPatience, 3000, 10 * kirvPatience });
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Locked);
+    Answer late, next, last;
+    const Turns turns;
+    keyring.read(item, &late, late.taker());
+    KIRV_TRY(late.has());
+    QCOMPARE(late.outcome(), KirvSecretStore::TimedOut);
+    QVERIFY2(turns.count > 3, QByteArray::number(turns.count).constData());
+    keyring.read(item, &next, next.taker());
+    KIRV_TRY(next.has());
+    QCOMPARE(next.outcome(), KirvSecretStore::TimedOut); // the question is still open
+    QCOMPARE(service.calls().count(QStringLiteral("Prompt")), 1);
+    service.acceptQuestion();
+    KIRV_TRY_COMPARE(keyring.state(), KirvSecretStore::Ready);
+    keyring.read(item, &last, last.taker());
+    KIRV_TRY(last.has());
+    QCOMPARE(last.outcome(), KirvSecretStore::Done);
+    QCOMPARE(last.reply->secret, KirvScriptedSecretService::secret());
+    QCOMPARE(service.calls().count(QStringLiteral("Prompt")), 1);
+}
+
 void tst_Keyring::aReplyMayDestroyTheKeyring_data()
 {
     QTest::addColumn<bool>("saysItsState");
@@ -566,6 +595,57 @@ static int writeBeforeAndAfter()
     return 0;
 }
 
+/// What a process says that runs with \a argument on a bus that starts the Secret Service by \a command.
+static QByteArray saidWithService(const QString &argument, const QString &command)
+{
+    const QTemporaryDir services;
+    QFile service(services.filePath(QStringLiteral("org.freedesktop.secrets.service")));
+    QTemporaryFile configuration;
+    const bool isWritten = service.open(QIODevice::WriteOnly) && configuration.open()
+        && service.write("[D-BUS Service]\nName=org.freedesktop.secrets\nExec=" + command.toUtf8() + '\n') > 0
+        && configuration.write(kirvPrivateBusConfiguration(services.path().toUtf8())) > 0 && configuration.flush();
+    service.close();
+    QProcess bus;
+    bus.start(QStringLiteral("dbus-daemon"),
+              { QStringLiteral("--config-file=") + configuration.fileName(), QStringLiteral("--nofork"),
+                QStringLiteral("--print-address=1") });
+    if (!isWritten || !QTest::qWaitFor([&] { return bus.canReadLine(); }, kirvPatience))
+        return QByteArray();
+    QProcess process;
+    startAgain(process, argument, { { busVariable, bus.readLine().trimmed() } });
+    const bool hasEnded = process.waitForFinished(kirvPatience);
+    bus.terminate();
+    return bus.waitForFinished(kirvPatience) && hasEnded ? process.readAllStandardOutput() : QByteArray();
+}
+
+/// As after the log-in to a desktop that starts none.
+void tst_Keyring::aKeyringThatIsInstalledIsStarted()
+{
+    KirvGnomeKeyring before;
+    QVERIFY(before.start()); // makes its files
+    before.stop();
+    const QString command = QStringLiteral("/usr/bin/env HOME=%1 XDG_DATA_HOME=%1 XDG_RUNTIME_DIR=%1 "
+                                           "gnome-keyring-daemon --start --foreground --components=secrets")
+                                .arg(before.folder());
+    QCOMPARE(saidWithService(QStringLiteral("--state"), command), QByteArray("GNOME Keyring Locked"));
+}
+
+void tst_Keyring::aKeyringThatCannotBeStartedIsNone()
+{
+    QCOMPARE(saidWithService(QStringLiteral("--state"), QStringLiteral("/bin/false")), QByteArray(" Unavailable"));
+}
+
+/// What those processes do.
+static int sayState()
+{
+    KirvKeyring keyring({ 10 * kirvPatience, 10 * kirvPatience, 10 * kirvPatience });
+    if (!QTest::qWaitFor([&] { return keyring.state() != KirvSecretStore::Unknown; }, kirvPatience))
+        return 1;
+    std::printf("%s %s", qPrintable(keyring.providerName()),
+                QMetaEnum::fromType<KirvSecretStore::State>().valueToKey(keyring.state()));
+    return 0;
+}
+
 int main(int argc, char *argv[])
 {
     kirvEnterPrivateBus(argv);
@@ -579,6 +659,8 @@ int main(int argc, char *argv[])
         return keepInPlasma();
     if (application.arguments().contains(QStringLiteral("--outlive")))
         return writeBeforeAndAfter();
+    if (application.arguments().contains(QStringLiteral("--state")))
+        return sayState();
     tst_Keyring test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -531,6 +531,7 @@ void tst_SecretKeeper::aSecretThatWasChangedThereIsUsed_data()
     QTest::newRow("at the start") << "start";
     QTest::newRow("when it reconnects") << "reconnect";
     QTest::newRow("when it is enabled") << "enable";
+    QTest::newRow("when it goes on line again") << "presence";
 }
 
 void tst_SecretKeeper::aSecretThatWasChangedThereIsUsed()
@@ -540,6 +541,8 @@ void tst_SecretKeeper::aSecretThatWasChangedThereIsUsed()
     settle();
     if (when == QLatin1String("enable"))
         account()->setEnabled(false);
+    else if (when == QLatin1String("presence"))
+        account()->setPresence(account()->protocol()->presenceWithId(QStringLiteral("offline"), QString()));
     settle();
     core->takeCalls();
     keyring->secrets[keyring->secrets.firstKey()] = QStringLiteral("changed there");
@@ -547,6 +550,8 @@ void tst_SecretKeeper::aSecretThatWasChangedThereIsUsed()
         restart();
     else if (when == QLatin1String("reconnect"))
         account()->reconnect();
+    else if (when == QLatin1String("presence"))
+        account()->setPresence(account()->protocol()->presenceWithId(QStringLiteral("available"), QString()));
     else
         account()->setEnabled(true);
     settle();

@@ -39,6 +39,8 @@ private Q_SLOTS:
 
     void theFirstStartMovesEverySecret();
     void twoProfilesSideBySideKeepTheirOwn();
+    void anImportGoesToTheKeyring_data();
+    void anImportGoesToTheKeyring();
     void withAServiceThatIsNotThereTheProfileStaysAsItIs();
     void aSessionBusThatDoesNotAnswerHoldsNothingUp();
 
@@ -156,6 +158,51 @@ void tst_KeyringInTheProgram::twoProfilesSideBySideKeepTheirOwn()
         });
     }
     QTRY_COMPARE_WITH_TIMEOUT(read, accountCount, kirvPatienceWithProgram);
+}
+
+void tst_KeyringInTheProgram::anImportGoesToTheKeyring_data()
+{
+    QTest::addColumn<bool>("isLocked");
+    QTest::addColumn<bool>("isLeftOut");
+    QTest::newRow("unlocked") << false << false;
+    QTest::newRow("something is left out") << false << true;
+    QTest::newRow("locked") << true << false; // nobody may be there to unlock it
+}
+
+/// By the command line, while no program runs.
+void tst_KeyringInTheProgram::anImportGoesToTheKeyring()
+{
+    QFETCH(bool, isLocked);
+    QFETCH(bool, isLeftOut);
+    const int others = daemon.count();
+    if (isLocked)
+        QVERIFY(daemon.lock());
+    QTemporaryDir home;
+    const QString folder = home.filePath(QStringLiteral("profile"));
+    QFile file(home.filePath(QStringLiteral("accounts.xml")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<?xml version='1.0' encoding='UTF-8' ?><account version='1.0'>");
+    for (int number = 0; number < accountCount; ++number) {
+        file.write(QStringLiteral("<account><protocol>prpl-irc</protocol><name>nick%1@irc.invalid</name>"
+                                  "<password>%2</password></account>")
+                       .arg(number)
+                       .arg(passwordOf(number))
+                       .toUtf8());
+    }
+    if (isLeftOut)
+        file.write("<account><protocol>prpl-other</protocol><name>ann</name></account>");
+    file.write("</account>");
+    file.close();
+    QProcess program;
+    program.start(
+        QStringLiteral(KIRV_PROGRAM),
+        { QStringLiteral("accounts"), QStringLiteral("import"), QStringLiteral("--profile"), folder, file.fileName() });
+    QVERIFY(program.waitForFinished(kirvPatienceWithProgram));
+    QVERIFY2(program.exitCode() == (isLeftOut ? 4 : 0), program.readAllStandardError().constData());
+    QCOMPARE(hasSecretsIn(folder), isLocked);
+    if (isLocked)
+        QVERIFY(daemon.unlock());
+    QCOMPARE(daemon.count(), isLocked ? others : others + accountCount);
 }
 
 void tst_KeyringInTheProgram::withAServiceThatIsNotThereTheProfileStaysAsItIs()

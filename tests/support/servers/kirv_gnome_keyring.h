@@ -78,6 +78,8 @@ public:
         daemon.closeWriteChannel();
         return QTest::qWaitFor([this] { return isUnlocked(); }, kirvPatience);
     }
+    /// Where its files are.
+    QString folder() const { return home.path(); }
     void stop()
     {
         if (daemon.state() == QProcess::NotRunning)

@@ -10,14 +10,18 @@
 
 // A session bus for one test program, apart from that of the user.
 
-/// The configuration of such a bus.
-inline QByteArray kirvPrivateBusConfiguration()
+/// The configuration of such a bus. It starts the services that files in \a serviceFolder name; none where that is
+/// empty.
+inline QByteArray kirvPrivateBusConfiguration(const QByteArray &serviceFolder = QByteArray())
 {
+    const QByteArray services =
+        serviceFolder.isEmpty() ? QByteArray() : "<servicedir>" + serviceFolder + "</servicedir>";
     return "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\"\n"
            " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
            "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
-           "<auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\"/>"
-           "<allow eavesdrop=\"false\"/><allow own=\"*\"/></policy></busconfig>\n";
+        + services
+        + "<auth>EXTERNAL</auth><policy context=\"default\"><allow send_destination=\"*\"/>"
+          "<allow eavesdrop=\"false\"/><allow own=\"*\"/></policy></busconfig>\n";
 }
 
 /// Starts the program again on a session bus of its own, which lasts as long as the program and starts no services.
