@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QHash>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QUrl>
 
 #include <algorithm>
@@ -25,14 +26,16 @@ QHash<QString, QString> protocols()
              { QStringLiteral("ircs"), QStringLiteral("IRC") } };
 }
 
-/// Without the part before the "@" where the link has none.
+/// Without the part before the "@" where the link has none, and without the usual port of servers without encryption:
+/// the account is to be encrypted, for which the server has another one.
 QString loginOfAuthority(const QUrl &url)
 {
     const QString user = url.userName(QUrl::FullyDecoded);
     if (url.host().isEmpty())
         return QString();
     const QString login = user + QLatin1Char('@') + url.host(QUrl::FullyDecoded);
-    return url.port() == -1 ? login : QStringLiteral("%1:%2").arg(login).arg(url.port());
+    const bool isPlain = url.scheme() == QLatin1String("irc") && url.port() == 6667;
+    return url.port() == -1 || isPlain ? login : QStringLiteral("%1:%2").arg(login).arg(url.port());
 }
 
 QString loginOfAddress(const QUrl &url)
@@ -57,6 +60,15 @@ void showLogin(QLineEdit *line, const QString &login)
         line->setCursorPosition(0); // the nick is still to be typed
 }
 } // namespace
+
+KirvAccountLink KirvAccountLink::fromMimeData(const QMimeData *data)
+{
+    const QList<QUrl> urls = data ? data->urls() : QList<QUrl>();
+    QString text = urls.isEmpty() ? QString() : QString::fromLatin1(urls.first().toEncoded());
+    if (text.isEmpty() && data)
+        text = data->text().trimmed();
+    return fromText(text);
+}
 
 KirvAccountLink KirvAccountLink::fromText(const QString &text)
 {

@@ -6,6 +6,7 @@
 #include <QString>
 
 class KirvAccountsTab;
+class QMimeData;
 
 /// What a link says of an account that could be added: xmpp:user\@server, xmpp://user\@server/…,
 /// irc://nick\@server:port/… and the same with ircs.
@@ -23,6 +24,8 @@ struct KirvAccountLink {
     /// The link in \a text; null when it is none of those above, or too long. An address that an xmpp link names to
     /// write to, or to do anything with but to register there, is somebody else's and no login.
     static KirvAccountLink fromText(const QString &text);
+    /// The link in \a data, which is pasted or dropped and may be null.
+    static KirvAccountLink fromMimeData(const QMimeData *data);
 
     /// Runs the window for a new account over \a page, filled with the login. False when the protocol is not loaded.
     bool open(KirvAccountsTab *page) const;

@@ -88,6 +88,7 @@ void KirvAddWindowCompanion::setUpLogin()
     connect(loginLine, &KirvLoginLine::problemChanged, this, &KirvAddWindowCompanion::growToFit);
     connect(loginLine, &KirvLoginLine::problemChanged, this, &KirvAddWindowCompanion::updateTest);
     connect(loginEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
+    connect(loginEdit, &QLineEdit::editingFinished, this, &KirvAddWindowCompanion::openAdvancedForProblem);
     connect(passwordEdit, &QLineEdit::textChanged, this, &KirvAddWindowCompanion::updateSaving);
 }
 
@@ -148,7 +149,29 @@ void KirvAddWindowCompanion::setUpTest()
 
 KirvLogin KirvAddWindowCompanion::typedLogin() const
 {
-    return { loginEdit->text(), passwordEdit->text(), settings ? settings->getFields() : QList<KirvField>() };
+    return { loginEdit->text(), passwordEdit->text(), settingsFields() };
+}
+
+QList<KirvField> KirvAddWindowCompanion::settingsFields() const
+{
+    if (settings)
+        return settings->getFields();
+    return base ? base->accountSettings() : QList<KirvField>();
+}
+
+/// Of a login that is good by itself.
+QString KirvAddWindowCompanion::settingsProblem() const
+{
+    const QString login = loginEdit->text();
+    const bool isGood = base && !login.isEmpty() && base->loginProblem(login).isEmpty();
+    return isGood ? base->settingsProblem(login, settingsFields()) : QString();
+}
+
+/// What is missing is there.
+void KirvAddWindowCompanion::openAdvancedForProblem()
+{
+    if (advanced && !settingsProblem().isEmpty())
+        advanced->setOpen(true);
 }
 
 /// An account that exists already can be tested, too.
@@ -157,7 +180,8 @@ void KirvAddWindowCompanion::updateTest()
     if (!test || !base)
         return;
     const QString login = loginEdit->text();
-    test->setProblem(login.isEmpty() ? tr("The login is missing.") : base->loginProblem(login));
+    const QString problem = login.isEmpty() ? tr("The login is missing.") : base->loginProblem(login);
+    test->setProblem(problem.isEmpty() ? settingsProblem() : problem);
 }
 
 /// The form of the settings is a new one. Settings that differ from those of any new account, or that must be filled
@@ -181,7 +205,7 @@ void KirvAddWindowCompanion::takeNewSettings()
 void KirvAddWindowCompanion::fitHeight()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of what was just shown or hidden
-    const QSize available = window()->screen()->availableSize();
+    const QSize available = window()->screen()->availableSize() * 9 / 10; // the frame is around it
     const int width = std::min(std::max(window()->width(), window()->sizeHint().width()), available.width());
     window()->resize(width, std::min(wantedHeight(width), available.height()));
 }
@@ -208,12 +232,15 @@ void KirvAddWindowCompanion::updateSaving()
         return;
     updateTest();
     const bool hasLogin = !loginEdit->text().isEmpty(), hasPassword = !passwordEdit->text().isEmpty();
-    const bool needsNoPassword = hasLogin && !hasPassword
-        && !base->needsPassword(loginEdit->text(), settings ? settings->getFields() : QList<KirvField>());
+    const QString problem = settingsProblem();
+    const bool needsNoPassword =
+        hasLogin && !hasPassword && problem.isEmpty() && !base->needsPassword(loginEdit->text(), settingsFields());
     saveWithoutPassword->setVisible(needsNoPassword);
     QString why;
     if (!hasLogin)
         why = hasPassword ? tr("The login is missing.") : tr("The login and the password are missing.");
+    else if (!problem.isEmpty())
+        why = problem;
     else if (!hasPassword)
         why = needsNoPassword ? tr("The account can be used without a password.") : tr("The password is missing.");
     if (QPushButton *save = buttonsOf(window())->button(QDialogButtonBox::Save)) {

@@ -12,6 +12,7 @@
 class KirvAccountCollection;
 class KirvAddAccountDialog;
 class KirvAdvancedSection;
+class KirvField;
 class KirvFieldWidget;
 struct KirvLogin;
 class KirvLoginLine;
@@ -55,6 +56,9 @@ private:
     void updateSaving();
     void updateTest();
     KirvLogin typedLogin() const;
+    QList<KirvField> settingsFields() const;
+    QString settingsProblem() const;
+    void openAdvancedForProblem();
     void correctMessage(const KirvAccountKey &key, const QString &reason);
 
     const KirvAccountCollection &accounts;

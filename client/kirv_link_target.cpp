@@ -5,22 +5,7 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
-#include <QMimeData>
-#include <QUrl>
 #include <QWidget>
-
-namespace {
-
-KirvAccountLink linkIn(const QMimeData *data)
-{
-    const QList<QUrl> urls = data ? data->urls() : QList<QUrl>();
-    QString text = urls.isEmpty() ? QString() : QString::fromLatin1(urls.first().toEncoded());
-    if (text.isEmpty() && data)
-        text = data->text().trimmed();
-    return KirvAccountLink::fromText(text);
-}
-
-} // namespace
 
 KirvLinkTarget::KirvLinkTarget(QWidget *widget)
     : QObject(widget)
@@ -39,7 +24,7 @@ bool KirvLinkTarget::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == widget && (event->type() == QEvent::DragEnter || event->type() == QEvent::Drop)) {
         auto *drop = static_cast<QDropEvent *>(event);
-        if (linkIn(drop->mimeData()).isNull())
+        if (KirvAccountLink::fromMimeData(drop->mimeData()).isNull())
             return QObject::eventFilter(watched, event);
         drop->setDropAction(Qt::CopyAction);
         drop->accept();
@@ -52,7 +37,7 @@ bool KirvLinkTarget::eventFilter(QObject *watched, QEvent *event)
 
 void KirvLinkTarget::take(const QMimeData *data)
 {
-    const KirvAccountLink link = linkIn(data);
+    const KirvAccountLink link = KirvAccountLink::fromMimeData(data);
     if (!link.isNull() || link.isTooLong)
         QMetaObject::invokeMethod(
             this, [this, link] { Q_EMIT linkTaken(link); }, Qt::QueuedConnection);

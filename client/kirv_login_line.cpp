@@ -7,6 +7,7 @@
 #include "core/ui/kirv_hint_line.h"
 #include "core/values/kirv_visible_text.h"
 
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -38,6 +39,7 @@ KirvLoginLine::KirvLoginLine(QLineEdit *edit, const QString &protocol, const QSt
     , hint(addHintBelow(edit))
 {
     edit->setPlaceholderText(example);
+    edit->installEventFilter(this);
     connect(edit, &QLineEdit::textChanged, this, &KirvLoginLine::check);
     // The line holds what it refuses until it returns.
     connect(edit, &QLineEdit::inputRejected, this, [this, edit] {
@@ -58,10 +60,33 @@ void KirvLoginLine::check()
 bool KirvLoginLine::takeLink(const QString &text)
 {
     const KirvAccountLink link = KirvAccountLink::fromText(text.trimmed());
-    if (link.protocol != protocol || link.login.isEmpty() || link.login == text)
+    if (!isOurs(link) || link.login == text)
         return false;
     edit->setText(link.login);
     return true;
+}
+
+bool KirvLoginLine::isOurs(const KirvAccountLink &link) const
+{
+    return link.protocol == protocol && !link.login.isEmpty();
+}
+
+/// A link that is dropped takes the place of what is there; the line itself would insert it, and takes no address.
+bool KirvLoginLine::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isDrop = event->type() == QEvent::Drop;
+    if (watched == edit && (isDrop || event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove)) {
+        auto *drop = static_cast<QDropEvent *>(event);
+        const KirvAccountLink link = KirvAccountLink::fromMimeData(drop->mimeData());
+        if (isOurs(link)) {
+            drop->setDropAction(Qt::CopyAction);
+            drop->accept();
+            if (isDrop)
+                edit->setText(link.login);
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 /// The line takes only what can become a login, and would refuse anything else in silence. \a text is what it would

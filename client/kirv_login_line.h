@@ -8,6 +8,7 @@
 class KirvAccountCollection;
 class KirvHintLine;
 class QLineEdit;
+struct KirvAccountLink;
 
 /// Looks after the login of a new account while it is typed: says below it what is wrong with it and what it did not
 /// take, and takes a link such as xmpp:anna\@example.org for the login in it. Owned by the line.
@@ -27,9 +28,13 @@ public:
 Q_SIGNALS:
     void problemChanged();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void check();
     bool takeLink(const QString &text);
+    bool isOurs(const KirvAccountLink &link) const;
     void explainRefusal(const QString &text);
     void show(const QString &problem);
 

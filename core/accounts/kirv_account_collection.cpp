@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/accounts/kirv_account_collection.h"
 
+#include "core/accounts/kirv_account_fields.h"
 #include "core/store/kirv_store.h"
 
 #include <QEventLoop>
@@ -292,6 +293,9 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
     complete.secretSettings += kirvSecretFields(known->accountSettings());
+    reason = known->settingsProblem(complete.key.id, kirvFieldsWithValues(known->accountSettings(), complete.settings));
+    if (!reason.isEmpty())
+        return refuseCreation(record.key, reason);
     keeper.place(complete, KirvAccountRecord());
     if (!store.insertAccount(complete))
         return refuseCreation(record.key, store.lastError());

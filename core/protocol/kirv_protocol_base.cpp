@@ -28,6 +28,11 @@ bool KirvProtocolBase::needsPassword(const QString &, const QList<KirvField> &) 
     return true;
 }
 
+QString KirvProtocolBase::settingsProblem(const QString &, const QList<KirvField> &) const
+{
+    return QString();
+}
+
 KirvPresence KirvProtocolBase::presenceWithId(const QString &id, const QString &description) const
 {
     const QList<KirvPresence> offered = presences();

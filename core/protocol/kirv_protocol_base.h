@@ -49,6 +49,11 @@ public:
     /// Whether an account with \a login and \a settings can log in with a password only. The default is true.
     virtual bool needsPassword(const QString &login, const QList<KirvField> &settings) const;
 
+    /// What keeps an account with \a login and \a settings from ever logging in, such as a server that is not named in
+    /// either, as a sentence for the user; empty when nothing does. No account is created then. Must be quick: it is
+    /// called while the user types. The default finds nothing.
+    virtual QString settingsProblem(const QString &login, const QList<KirvField> &settings) const;
+
     /// Every presence in display order; the first is the default. Must not be empty.
     virtual QList<KirvPresence> presences() const = 0;
     /// The presence with that \a id, carrying \a description. An unknown id gives the first presence.

@@ -69,6 +69,11 @@ bool KirvIrcProtocol::needsPassword(const QString &login, const QList<KirvField>
     return KirvIrcSettings(login, QString(), settings).needsPassword();
 }
 
+QString KirvIrcProtocol::settingsProblem(const QString &login, const QList<KirvField> &settings) const
+{
+    return KirvIrcSettings(login, QString(), settings).serverProblem();
+}
+
 QList<KirvPresence> KirvIrcProtocol::presences() const
 {
     return {

@@ -22,6 +22,7 @@ public:
     QString loginExample() const override;
     QString loginProblem(const QString &login) const override;
     bool needsPassword(const QString &login, const QList<KirvField> &settings) const override;
+    QString settingsProblem(const QString &login, const QList<KirvField> &settings) const override;
     QList<KirvPresence> presences() const override;
     QList<KirvField> accountSettings() const override;
     QList<KirvField> settingsForTest(const QList<KirvField> &settings) const override;

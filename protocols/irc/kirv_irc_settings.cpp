@@ -155,12 +155,8 @@ QString KirvIrcSettings::problem() const
 {
     if (!isNick(nick))
         return tr("\"%1\" cannot be a nick.").arg(nick);
-    if (server.isEmpty())
-        return tr("No server is given.");
-    if (server != kirvIrcLine(server, 255) || server.contains(QLatin1Char(' ')))
-        return tr("\"%1\" is not the name of a server.").arg(kirvIrcLine(server, 255));
-    if (port == 0)
-        return portProblem();
+    if (!serverProblem().isEmpty())
+        return serverProblem();
     if (clientCertificateFile.isEmpty() && !clientKeyFile.isEmpty())
         return tr("There is a key of a client certificate, but no client certificate.");
     if (usesClientCertificate() && !encrypted)
@@ -170,6 +166,15 @@ QString KirvIrcSettings::problem() const
     if (passwordUse == ForServer && password != kirvIrcLine(password, 400))
         return tr("The password cannot be sent: it is too long or has characters that do not belong to a line.");
     return QString();
+}
+
+QString KirvIrcSettings::serverProblem() const
+{
+    if (server.isEmpty())
+        return tr("No server is given.");
+    if (server != kirvIrcLine(server, 255) || server.contains(QLatin1Char(' ')))
+        return tr("\"%1\" is not the name of a server.").arg(kirvIrcLine(server, 255));
+    return port == 0 ? portProblem() : QString();
 }
 
 QStringList KirvIrcSettings::nicks() const

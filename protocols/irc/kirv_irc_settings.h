@@ -34,6 +34,8 @@ public:
 
     /// Why the settings cannot be used, a sentence for the user; empty when they can.
     QString problem() const;
+    /// Of these what keeps the server from being found at all.
+    QString serverProblem() const;
 
     QString nick; ///< the one that is wanted
     QString server;

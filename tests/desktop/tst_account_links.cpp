@@ -106,6 +106,12 @@ void tst_AccountLinks::linkIsRead_data()
     QTest::newRow("port") << "ircs://ann@irc.example.org:6697/"
                           << "IRC"
                           << "ann@irc.example.org:6697";
+    QTest::newRow("usual port without encryption") << "irc://ann@irc.example.org:6667/"
+                                                   << "IRC"
+                                                   << "ann@irc.example.org"; // the account is to be encrypted
+    QTest::newRow("other port") << "irc://ann@irc.example.org:7000/"
+                                << "IRC"
+                                << "ann@irc.example.org:7000";
     QTest::newRow("server of IRC") << "irc://irc.example.org/kirv"
                                    << "IRC"
                                    << "@irc.example.org";
@@ -133,13 +139,18 @@ void tst_AccountLinks::schemesOfTheDesktopEntryAreLinks()
 {
     QFile entry(QStringLiteral(KIRV_DESKTOP_FILE));
     QVERIFY(entry.open(QIODevice::ReadOnly));
-    QRegularExpressionMatchIterator scheme = QRegularExpression(QStringLiteral("x-scheme-handler/([^;\n]*)"))
-                                                 .globalMatch(QString::fromUtf8(entry.readAll()));
-    QVERIFY(scheme.hasNext());
+    const QString text = QString::fromUtf8(entry.readAll());
+    QVERIFY(text.contains(QLatin1String("\nExec=kirv %u\n")));
+    QRegularExpressionMatchIterator scheme =
+        QRegularExpression(QStringLiteral("x-scheme-handler/([^;\n]*)")).globalMatch(text);
+    QStringList schemes;
     while (scheme.hasNext()) {
-        const QString link = scheme.next().captured(1) + QStringLiteral("://ann@example.org");
+        schemes << scheme.next().captured(1);
+        const QString link = schemes.last() + QStringLiteral("://ann@example.org");
         QVERIFY2(!KirvAccountLink::fromText(link).isNull(), qPrintable(link));
     }
+    schemes.sort();
+    QCOMPARE(schemes, (QStringList { "irc", "ircs", "xmpp" }));
 }
 
 void tst_AccountLinks::otherTextsAreNoLinks_data()

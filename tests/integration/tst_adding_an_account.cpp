@@ -73,6 +73,24 @@ QToolButton *advanced(const QWidget *window)
     return child<QToolButton>(window, "AddAccount_Advanced");
 }
 
+/// Drops \a text on \a target as a drag from elsewhere does. Whether it was taken.
+bool dropOn(QWidget *target, const QString &text, bool isUrl)
+{
+    QMimeData data;
+    if (isUrl)
+        data.setUrls({ QUrl(text) });
+    else
+        data.setText(text);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QCoreApplication::sendEvent(target, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &drop);
+    return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+}
+
 } // namespace
 
 /// The window for a new account, as a user meets it: little to fill in, and what is wrong is said while it is typed.
@@ -106,10 +124,13 @@ private Q_SLOTS:
     void wrongLoginIsRefusedWithTheReason();
     void accountWithoutPasswordHasAButtonOfItsOwn();
     void settingDecidesWhetherAPasswordIsNeeded();
+    void settingThatIsMissingIsSaid();
     void keyboardAloneAddsAnAccount();
     void nothingIsCutOffInASmallWindow();
     void linkIsTakenForItsLogin_data();
     void linkIsTakenForItsLogin();
+    void linkIsDroppedOnTheLogin_data();
+    void linkIsDroppedOnTheLogin();
     void linkOnThePageOpensTheWindow_data();
     void linkOnThePageOpensTheWindow();
     void otherTextOnThePageOpensNothing();
@@ -251,7 +272,7 @@ void tst_AddingAnAccount::windowFitsItsContentWhenSettingsComeAndGo()
         QCOMPARE(closed.height(), window->sizeHint().height());
         advanced(window)->click();
         QVERIFY(window->height() > closed.height());
-        QVERIFY(window->height() <= window->screen()->availableSize().height());
+        QVERIFY(window->height() <= window->screen()->availableSize().height() * 9 / 10); // the frame is around it
         window->resize(window->width() + 50, window->height());
         const int chosenWidth = window->width();
         advanced(window)->click();
@@ -469,6 +490,49 @@ void tst_AddingAnAccount::settingDecidesWhetherAPasswordIsNeeded()
     });
 }
 
+/// Without which no log-in can work, as the server of an account that does not name it.
+void tst_AddingAnAccount::settingThatIsMissingIsSaid()
+{
+    const QString missing = QStringLiteral("No server is given.");
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
+    windows->protocol->worksWithoutPassword = [](const QList<KirvField> &) { return true; };
+    windows->protocol->findSettingsProblem = [&missing](const QList<KirvField> &fields) {
+        return fields.value(0).getText().isEmpty() ? missing : QString();
+    };
+    QString said;
+    const KirvWindowWatcher<QMessageBox> boxes([&](QMessageBox *box) {
+        QCoreApplication::processEvents();
+        said = box->text();
+        box->close();
+    });
+    open([&](KirvLayoutDialog *window) {
+        QVERIFY(!settings(window)->isVisible());
+        login(window)->setText("anna");
+        QCOMPARE(hint(window), QString("The domain is missing.")); // which comes first
+        QVERIFY(!whyNotSaved(window).contains(missing));
+        login(window)->setText("anna@fake");
+        QCOMPARE(whyNotSaved(window), missing);
+        QVERIFY(!saveWithoutPassword(window)->isVisible());
+        QVERIFY(!child<QPushButton>(window, "AddAccount_TestLogIn")->isEnabled());
+        QVERIFY(!settings(window)->isVisible());
+        login(window)->setFocus();
+        KIRV_TRY(login(window)->hasFocus());
+        QTest::keyClick(login(window), Qt::Key_Tab); // the login is finished
+        QVERIFY(settings(window)->isVisible());
+        password(window)->setText("secret");
+        save(window)->click();
+        QVERIFY(window->isVisible());
+        QCOMPARE(said, missing);
+        QVERIFY(!windows->account("anna@fake"));
+        auto *server = child<QLineEdit>(window, "KirvField_server");
+        QTest::keyClicks(server, "example.org");
+        QCOMPARE(whyNotSaved(window), QString());
+        save(window)->click();
+        QVERIFY(!window->isVisible());
+    });
+    QVERIFY(windows->account("anna@fake"));
+}
+
 void tst_AddingAnAccount::keyboardAloneAddsAnAccount()
 {
     open([](KirvLayoutDialog *window) {
@@ -523,22 +587,26 @@ void tst_AddingAnAccount::linkIsTakenForItsLogin()
     });
 }
 
-/// Drops \a text on \a target as a drag from elsewhere does. Whether it was taken.
-static bool dropOn(QWidget *target, const QString &text, bool isUrl)
+void tst_AddingAnAccount::linkIsDroppedOnTheLogin_data()
 {
-    QMimeData data;
-    if (isUrl)
-        data.setUrls({ QUrl(text) });
-    else
-        data.setText(text);
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QCoreApplication::sendEvent(target, &enter);
-    if (!enter.isAccepted())
-        return false;
-    QDropEvent drop(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &drop);
-    return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+    QTest::addColumn<bool>("isUrl");
+    QTest::addColumn<QString>("before");
+    QTest::newRow("address") << true << "";
+    QTest::newRow("text") << false << "";
+    QTest::newRow("over what was typed") << false << "bob@ex";
+}
+
+void tst_AddingAnAccount::linkIsDroppedOnTheLogin()
+{
+    QFETCH(bool, isUrl);
+    QFETCH(QString, before);
+    windows.reset();
+    windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
+    open([&](KirvLayoutDialog *window) {
+        login(window)->setText(before);
+        QVERIFY(dropOn(login(window), "xmpp:anna@example.org", isUrl));
+        QCOMPARE(login(window)->text(), QString("anna@example.org"));
+    });
 }
 
 void tst_AddingAnAccount::linkOnThePageOpensTheWindow_data()

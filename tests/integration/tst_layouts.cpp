@@ -301,9 +301,9 @@ void tst_Layouts::insertedControlsStandInTheTabOrderWhereTheyAreSeen()
     auto *widget = new KirvFieldWidget(fields, nullptr, KirvFieldWidget::LabelsBeside);
     form->addRow(widget);
     window->show();
-    const QStringList expected { "AddAccount_PresenceCombo", "KirvField_server", "KirvField_port",
+    const QStringList expected { "AddAccount_Configuration", "KirvField_server", "KirvField_port",
                                  "AddAccount_ButtonFrame_Save", "AddAccount_ButtonFrame_Cancel" };
-    auto *combo = window->findChild<QWidget *>(QStringLiteral("AddAccount_PresenceCombo"));
+    auto *combo = window->findChild<QWidget *>(QStringLiteral("AddAccount_Configuration"));
     QCOMPARE(tabOrder(combo).mid(0, 5), expected);
 
     widget->fillWithFields(fields);
@@ -516,11 +516,13 @@ void tst_Layouts::tabOrderFollowsTheEye_data()
     QTest::newRow("Accounts") << "Accounts" << 0 << QStringList { "Accounts_List",           "Accounts_AddButton",
                                                                   "Accounts_EditButton",     "Accounts_RemoveButton",
                                                                   "Accounts_RegisterButton", "Accounts_MainAccount" };
-    QTest::newRow("AddAccount") << "AddAccount" << 0
-                                << QStringList { "AddAccount_Configuration",     "AddAccount_UsernameEdit",
-                                                 "AddAccount_PasswordEdit",      "AddAccount_RememberPasswordCheckbox",
-                                                 "AddAccount_PresenceCombo",     "AddAccount_ButtonFrame_Save",
-                                                 "AddAccount_ButtonFrame_Cancel" };
+    QTest::newRow("AddAccount") << "AddAccount" << 0 << QStringList { "AddAccount_UsernameEdit",
+                                                                      "AddAccount_PasswordEdit",
+                                                                      "AddAccount_RememberPasswordCheckbox",
+                                                                      "AddAccount_PresenceCombo",
+                                                                      "AddAccount_Configuration",
+                                                                      "AddAccount_ButtonFrame_Save",
+                                                                      "AddAccount_ButtonFrame_Cancel" };
     QTest::newRow("EditAccount, account") << "EditAccount" << 0
                                           << QStringList { "EditAccount_Alias",
                                                            "EditAccount_Password",

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void fieldsAreRead();
     void problemsAreReported_data();
     void problemsAreReported();
+    void missingServerIsReportedByItself();
     void passwordHasOneUse_data();
     void passwordHasOneUse();
     void clientCertificateTakesThePlaceOfThePassword_data();
@@ -232,6 +233,21 @@ void tst_IrcSettings::problemsAreReported()
     QCOMPARE(settings.problem().isEmpty(), part.isEmpty());
     QVERIFY2(settings.problem().contains(part), qPrintable(settings.problem()));
     QVERIFY(!settings.problem().contains('\n'));
+}
+
+/// Before an account is added.
+void tst_IrcSettings::missingServerIsReportedByItself()
+{
+    const auto problem = [](const char *login, const QList<KirvField> &fields) {
+        return KirvIrcSettings(QLatin1String(login), QString(), fields).serverProblem();
+    };
+    QCOMPARE(problem("alice", {}), QString("No server is given."));
+    QCOMPARE(problem("alice", { text("server", " ") }), QString("No server is given."));
+    QCOMPARE(problem("alice", { text("server", "irc.example.org") }), QString());
+    QCOMPARE(problem("alice@irc.example.org", {}), QString());
+    QVERIFY(problem("alice", { text("server", "irc.example.org"), text("port", "0") }).contains("port"));
+    // Which can be mended when it is tried.
+    QCOMPARE(problem("alice@irc.example.org", { text("client_key", "/key.pem") }), QString());
 }
 
 void tst_IrcSettings::passwordHasOneUse_data()

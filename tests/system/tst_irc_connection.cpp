@@ -249,7 +249,7 @@ void tst_IrcConnection::unusableSettingsAreSaid_data()
         values.insert(id, value);
         return values;
     };
-    QTest::newRow("no server") << Values();
+    QTest::newRow("no server") << with("server", "");
     QTest::newRow("server of two lines") << with("server", "a\r\nb");
     QTest::newRow("port 0") << with("port", "0");
     QTest::newRow("port too large") << with("port", "70000");
@@ -257,10 +257,16 @@ void tst_IrcConnection::unusableSettingsAreSaid_data()
     QTest::newRow("certificate is none") << with("certificate", KIRV_IRC_PLUGIN);
 }
 
+/// Of an account that is there; one without a server is not added.
 void tst_IrcConnection::unusableSettingsAreSaid()
 {
     QFETCH(Values, values);
-    KirvAccount *account = profile->createAccount("alice", values);
+    KirvAccount *account = profile->createAccount("alice", { { "server", "127.0.0.1" } });
+    QVERIFY(account);
+    account->change([&values](KirvAccountRecord &record) {
+        for (auto value = values.constBegin(); value != values.constEnd(); ++value)
+            record.settings.insert(value.key(), value.value());
+    });
     profile->goTo(account, "available");
     KIRV_TRY_FAILURE(account, BadSettings);
     KIRV_TRY_STATE(account, Offline);
@@ -270,14 +276,22 @@ void tst_IrcConnection::unusableSettingsAreSaid()
 void tst_IrcConnection::loginsThatCannotWorkMakeNoAccount_data()
 {
     QTest::addColumn<QString>("login");
-    QTest::newRow("nick that is none") << "9 lives";
-    QTest::newRow("nick of two lines") << "alice\r\nQUIT";
+    QTest::addColumn<QString>("server");
+    QTest::newRow("nick that is none") << "9 lives"
+                                       << "127.0.0.1";
+    QTest::newRow("nick of two lines") << "alice\r\nQUIT"
+                                       << "127.0.0.1";
+    QTest::newRow("no server") << "alice"
+                               << "";
+    QTest::newRow("server of two lines") << "alice"
+                                         << "a\r\nb";
 }
 
 void tst_IrcConnection::loginsThatCannotWorkMakeNoAccount()
 {
     QFETCH(QString, login);
-    QVERIFY(!profile->createAccount(login, {}));
+    QFETCH(QString, server);
+    QVERIFY(!profile->createAccount(login, { { "server", server } }));
 }
 
 void tst_IrcConnection::logsInAndOut_data()

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -85,6 +86,7 @@ private Q_SLOTS:
     void allNicksTakenIsSaid();
     void nickThatTheServerRefusesIsSaid();
     void textThatIsNoNickCannotBeTyped();
+    void nickWithoutAServerIsNotAdded();
 
     void wrongServerPasswordIsSaidAndCorrected();
     void untrustedCertificateIsSaidAndCanBeTrusted();
@@ -132,19 +134,19 @@ bool tst_IrcInWindows::start(KirvLocalServer &server)
 
 void tst_IrcInWindows::menuOffersBothProtocols()
 {
-    KirvWindowDriver walk(windows->profileFolder());
-    walk.expectOnTop(
+    KirvWindowDriver driver(windows->profileFolder());
+    driver.expectOnTop(
         QStringLiteral("The page is there"), [this] { return windows->client->accountsPage()->isVisible(); },
         [this] {
             KirvWindowDriver::openMenu(
                 KirvWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton"));
         });
-    walk.expect(
+    driver.expect(
         QStringLiteral("The menu offers both protocols"),
         [] { return KirvWindowDriver::menuOffers(irc) && KirvWindowDriver::menuOffers(xmpp); },
         [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
-    walk.expectOnTop(QStringLiteral("The menu is gone"), [] { return !QApplication::activePopupWidget(); });
-    QVERIFY(walk.run());
+    driver.expectOnTop(QStringLiteral("The menu is gone"), [] { return !QApplication::activePopupWidget(); });
+    QVERIFY(driver.run());
     QVERIFY(!KirvWindowDriver::window(QStringLiteral("AddAccount")));
 }
 
@@ -350,6 +352,17 @@ void tst_IrcInWindows::textThatIsNoNickCannotBeTyped()
         typed = edit->text();
     }));
     QCOMPARE(typed, alice);
+}
+
+void tst_IrcInWindows::nickWithoutAServerIsNotAdded()
+{
+    QString hint;
+    const auto readHint = [&hint](const QWidget *window) {
+        hint = KirvWindows::child<QLabel>(window, "AddAccount_SaveHint")->text();
+    };
+    QVERIFY(windows->add(irc, QStringLiteral("None"), alice, secret, readHint, false));
+    QCOMPARE(hint, QStringLiteral("No server is given."));
+    QVERIFY(!windows->row(alice));
 }
 
 void tst_IrcInWindows::wrongServerPasswordIsSaidAndCorrected()

@@ -27,6 +27,10 @@ public:
     QString normalizedLogin(const QString &login) const override { return normalize ? normalize(login) : login; }
     QString loginExample() const override { return example; }
     QString loginProblem(const QString &login) const override { return findProblem ? findProblem(login) : QString(); }
+    QString settingsProblem(const QString &, const QList<KirvField> &settings) const override
+    {
+        return findSettingsProblem ? findSettingsProblem(settings) : QString();
+    }
     bool needsPassword(const QString &, const QList<KirvField> &settings) const override
     {
         return !worksWithoutPassword || !worksWithoutPassword(settings);
@@ -65,6 +69,8 @@ public:
     QString example;
     std::function<QString(const QString &login)> normalize;
     std::function<QString(const QString &login)> findProblem; ///< null: nothing is wrong with any login
+    /// Null: nothing is missing in any settings.
+    std::function<QString(const QList<KirvField> &settings)> findSettingsProblem;
     std::function<bool(const QList<KirvField> &settings)> worksWithoutPassword; ///< null: none does
     std::function<KirvServerRequest *()> makeRegistration;
     std::function<KirvServerRequest *(const QString &actionId, KirvConnection *connection)> makeRequest;
