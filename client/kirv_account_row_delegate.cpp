@@ -9,6 +9,7 @@
 #include "host/kirv_account_manager.h"
 
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyle>
 #include <QTimer>
 #include <QTreeWidget>
@@ -22,6 +23,8 @@ const int millisecondsOfASecond = 1000;
 /// How much of the colour of the name the line below it has.
 const int percentOfState = 75;
 const qreal readableContrast = 4.6; // 4.5 is enough for small text; colours are rounded
+const qreal visibleContrast = 3; // is enough for icons
+const qreal tintOfFocus = 0.5; // what it takes away that styles paint the focus over the row
 
 QColor mixed(const QColor &ink, const QColor &paper, qreal strength)
 {
@@ -39,12 +42,12 @@ qreal brightness(const QColor &color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// Whether small text of the one colour can be read on the other, by the usual measure.
-bool canBeRead(const QColor &ink, const QColor &paper)
+/// By the usual measure.
+qreal contrast(const QColor &ink, const QColor &paper)
 {
     const qreal front = brightness(ink) + 0.05;
     const qreal back = brightness(paper) + 0.05;
-    return std::max(front, back) / std::min(front, back) >= readableContrast;
+    return std::max(front, back) / std::min(front, back);
 }
 
 /// A paler \a ink, as far as it can be read.
@@ -52,27 +55,25 @@ QColor paler(const QColor &ink, const QColor &paper)
 {
     for (int percent = percentOfState; percent < 100; percent += 5) {
         const QColor pale = mixed(ink, paper, percent / 100.0);
-        if (canBeRead(pale, paper))
+        if (contrast(pale, paper) >= readableContrast)
             return pale;
     }
     return ink;
+}
+
+/// What is behind a row that is not selected.
+QPalette::ColorRole paperRole(const QStyleOptionViewItem &option)
+{
+    return option.features & QStyleOptionViewItem::Alternate ? QPalette::AlternateBase : QPalette::Base;
 }
 
 void makePaler(QStyleOptionViewItem *option)
 {
     for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive }) {
         const QColor ink = option->palette.color(group, QPalette::Text);
-        option->palette.setColor(group, QPalette::Text, paler(ink, option->palette.color(group, QPalette::Base)));
+        const QColor paper = option->palette.color(group, paperRole(*option));
+        option->palette.setColor(group, QPalette::Text, paler(ink, paper));
     }
-}
-
-/// The icon as it is, also on a selected row: styles mix it with the colour behind it.
-QIcon untintedIcon(const QStyleOptionViewItem &option)
-{
-    const QPixmap picture = option.icon.pixmap(option.decorationSize);
-    QIcon icon(picture);
-    icon.addPixmap(picture, QIcon::Selected);
-    return icon;
 }
 
 QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
@@ -80,6 +81,69 @@ QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
     if (!(option.state & QStyle::State_Enabled))
         return QPalette::Disabled;
     return option.state & QStyle::State_Active ? QPalette::Normal : QPalette::Inactive;
+}
+
+/// How much of \a picture, from 0 to 1, stands out from \a paper by \a least. An average would not do: icons have parts
+/// in several colours.
+qreal visibleShare(const QImage &picture, const QColor &paper, qreal least)
+{
+    qint64 visible = 0, all = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            const int alpha = qAlpha(line[x]);
+            all += alpha;
+            if (alpha > 0 && contrast(QColor(line[x]), paper) >= least)
+                visible += alpha;
+        }
+    }
+    return all == 0 ? 1 : qreal(visible) / qreal(all);
+}
+
+/// \a picture with a plate behind it where most of it would not stand out from \a paper by \a least: of \a light or
+/// \a dark, whichever suits it.
+QPixmap visiblePicture(const QPixmap &picture, const QColor &paper, qreal least, const QColor &light,
+                       const QColor &dark)
+{
+    const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    if (visibleShare(image, paper, least) > 0.5)
+        return picture;
+    QPixmap result(picture.size());
+    result.setDevicePixelRatio(picture.devicePixelRatio());
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(visibleShare(image, light, least) >= visibleShare(image, dark, least) ? light : dark);
+    const QRectF plate(QPointF(), QSizeF(picture.size()) / picture.devicePixelRatio());
+    painter.drawRoundedRect(plate, plate.width() / 8, plate.height() / 8);
+    painter.drawPixmap(plate.topLeft(), picture);
+    return result;
+}
+
+/// The icon as it is, also on a selected row, where styles would mix it with the colour behind it.
+QIcon visibleIcon(const QStyleOptionViewItem &option)
+{
+    const QPalette::ColorGroup group = colorGroup(option);
+    const QColor base = option.palette.color(group, QPalette::Base), text = option.palette.color(group, QPalette::Text);
+    const bool isSelected = option.state & QStyle::State_Selected;
+    const QColor paper = option.palette.color(group, isSelected ? QPalette::Highlight : paperRole(option));
+    const qreal least = isSelected ? visibleContrast + tintOfFocus : visibleContrast;
+    const QPixmap picture = option.icon.pixmap(option.decorationSize);
+    const QString key = QStringLiteral("kirv-icon-%1-%2-%3-%4-%5")
+                            .arg(picture.cacheKey())
+                            .arg(paper.rgba())
+                            .arg(base.rgba())
+                            .arg(text.rgba())
+                            .arg(isSelected);
+    QPixmap visible;
+    if (!QPixmapCache::find(key, &visible)) {
+        visible = visiblePicture(picture, paper, least, base, text);
+        QPixmapCache::insert(key, visible);
+    }
+    QIcon icon(visible);
+    icon.addPixmap(visible, QIcon::Selected);
+    return icon;
 }
 
 } // namespace
@@ -102,8 +166,8 @@ const KirvAccount *KirvAccountRowDelegate::accountOf(const QModelIndex &index) c
 void KirvAccountRowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     KirvNameDelegate::initStyleOption(option, index);
-    if (index.column() == KirvProtocolColumn && option->state & QStyle::State_Selected)
-        option->icon = untintedIcon(*option);
+    if (index.column() == KirvProtocolColumn && !option->icon.isNull())
+        option->icon = visibleIcon(*option);
     const KirvAccount *account = accountOf(index);
     if (account && !account->isLoaded())
         makePaler(option);
@@ -173,7 +237,7 @@ void KirvAccountRowDelegate::paintLines(QPainter *painter, const QStyleOptionVie
     line.moveTop(line.bottom() + 1);
     line.setHeight(smallMetrics.height());
     painter->setFont(small);
-    painter->setPen(isSelected ? ink : paler(ink, option.palette.color(group, QPalette::Base)));
+    painter->setPen(isSelected ? ink : paler(ink, option.palette.color(group, paperRole(option))));
     painter->drawText(line, int(alignment) | Qt::TextSingleLine,
                       smallMetrics.elidedText(state, Qt::ElideRight, line.width()));
     painter->restore();

@@ -149,6 +149,7 @@ bool KirvButtonFlow::event(QEvent *event)
     case QEvent::Show:
         window()->installEventFilter(this);
         arrange();
+        updateGeometry(); // what was asked for before did not depend on the width
         break;
     case QEvent::LayoutDirectionChange:
     case QEvent::StyleChange:

@@ -87,23 +87,27 @@ QGroupBox *KirvGeneralPage::createLanguage(const KirvTranslations *translations)
 void KirvGeneralPage::fillLanguages(const KirvTranslations &translations)
 {
     //: entry of a list of languages; %1 = the language of the system in its own words, as "Deutsch"
-    languageBox->addItem(tr("As the system (%1)").arg(KirvTranslations::ownName(translations.languageOfSystem())),
-                         QString());
+    addLanguage(tr("As the system (%1)").arg(KirvTranslations::ownName(translations.languageOfSystem())), QString(),
+                KirvTranslations::isRead(translations.languageOfSystem()));
     const QStringList languages = translations.languages();
-    for (const QString &language : languages) {
-        languageBox->addItem(KirvTranslations::ownName(language), language);
-        if (!KirvTranslations::isRead(language))
-            languageBox->setItemData(languageBox->count() - 1, tr("No native speaker has read these texts yet."),
-                                     Qt::ToolTipRole);
-    }
+    for (const QString &language : languages)
+        addLanguage(KirvTranslations::ownName(language), language, KirvTranslations::isRead(language));
+}
+
+void KirvGeneralPage::addLanguage(const QString &name, const QString &language, bool isRead)
+{
+    languageBox->addItem(name, language);
+    if (!isRead)
+        languageBox->setItemData(languageBox->count() - 1, tr("No native speaker has read these texts yet."),
+                                 Qt::ToolTipRole);
 }
 
 void KirvGeneralPage::showLanguage(const QString &language, bool isPending)
 {
     languageBox->setCurrentIndex(qMax(0, languageBox->findData(language)));
-    languageBox->setToolTip(languageBox->currentData(Qt::ToolTipRole).toString());
-    languageHint->setText(isPending ? tr("The language changes when the open windows are closed.") : QString());
-    languageHint->setVisible(isPending);
+    const QString unread = languageBox->currentData(Qt::ToolTipRole).toString();
+    languageHint->setText(isPending ? tr("The language changes when the open windows are closed.") : unread);
+    languageHint->setVisible(!languageHint->text().isEmpty());
 }
 
 void KirvGeneralPage::focusLanguage()

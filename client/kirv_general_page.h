@@ -39,6 +39,7 @@ protected:
 private:
     QGroupBox *createLanguage(const KirvTranslations *translations);
     void fillLanguages(const KirvTranslations &translations);
+    void addLanguage(const QString &name, const QString &language, bool isRead);
     QGroupBox *createKeyring();
     QGroupBox *createProfile();
     QWidget *createMoving(QWidget *parent);

@@ -14,7 +14,7 @@ enum Hue { Red = 355, Amber = 38, Green = 145 };
 QColor shade(Hue hue, const QPalette &palette)
 {
     const bool isDark = palette.color(QPalette::Base).lightnessF() < 0.5;
-    return QColor::fromHslF(hue / 360.0, 0.65, isDark ? 0.62 : 0.4);
+    return QColor::fromHslF(hue / 360.0, 0.65, isDark ? 0.62 : 0.37);
 }
 
 } // namespace

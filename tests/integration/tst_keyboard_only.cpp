@@ -1,28 +1,38 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_help.h"
+#include "client/kirv_accounts_page_companion.h"
+#include "client/kirv_certificate_question.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_settings_window.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/moving/kirv_account_file.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QSet>
 #include <QTabBar>
 #include <QTextEdit>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QWindow>
 #include <QtTest>
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -102,6 +112,11 @@ private:
     void start(const QStringList &ids);
     /// Goes to the row of the account in the list.
     void goToRow(const QString &id);
+    void inAddWindow(const std::function<void()> &look);
+    void openExportWindow();
+    void openImportWindow();
+    /// Opens the window of the row and waits until it is active.
+    void openWindow(const QString &place);
     /// The active window but the main one; null when that is active.
     QDialog *dialog() const;
 
@@ -276,7 +291,9 @@ void tst_KeyboardOnly::tabReachesEveryControl_data()
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QString>("place");
     for (const Qt::LayoutDirection direction : { Qt::LeftToRight, Qt::RightToLeft }) {
-        for (const char *place : { "Accounts", "Plug-ins", "General", "edit window", "export window" })
+        for (const char *place :
+             { "Accounts", "Plug-ins", "General", "add window", "edit window", "export window", "import window", "log",
+               "log-in test", "certificate question", "password question", "report" })
             QTest::addRow("%s, %s", place, direction == Qt::LeftToRight ? "left to right" : "right to left")
                 << direction << QString::fromLatin1(place);
     }
@@ -290,7 +307,8 @@ static QSet<QWidget *> controlsIn(const QWidget *window)
     for (QWidget *widget : all) {
         const bool isControl = qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
             || qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSpinBox *>(widget)
-            || qobject_cast<QTextEdit *>(widget) || qobject_cast<QAbstractItemView *>(widget);
+            || qobject_cast<QTextEdit *>(widget) || qobject_cast<QPlainTextEdit *>(widget)
+            || qobject_cast<QAbstractItemView *>(widget);
         const bool isOfAnother = qobject_cast<QComboBox *>(widget->parentWidget())
             || qobject_cast<QAbstractSpinBox *>(widget->parentWidget()) || qobject_cast<QHeaderView *>(widget)
             || qobject_cast<QTabBar *>(widget->parentWidget());
@@ -300,40 +318,141 @@ static QSet<QWidget *> controlsIn(const QWidget *window)
     return controls;
 }
 
+/// What has the focus on the way of \a key through the active window.
+static QSet<QWidget *> reachedBy(Qt::Key key)
+{
+    QSet<QWidget *> reached;
+    for (int i = 0; i < 150; ++i) {
+        press(key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+        reached << QApplication::focusWidget();
+    }
+    return reached;
+}
+
+/// Tab leads to each control of the active window, there and back, and each is named to assistive technology.
+static void checkControls()
+{
+    const QWidget *window = QApplication::activeWindow();
+    const QSet<QWidget *> controls = controlsIn(window);
+    QVERIFY2(controls.size() > 2, QByteArray::number(controls.size()).constData());
+    QStringList wrong;
+    const auto nameOf = [](const QWidget *widget) {
+        return widget->objectName() + QLatin1Char('/') + QLatin1String(widget->metaObject()->className());
+    };
+    for (const Qt::Key key : { Qt::Key_Tab, Qt::Key_Backtab }) {
+        const QSet<QWidget *> reached = reachedBy(key);
+        for (const QWidget *missing : controls - reached)
+            wrong << nameOf(missing) + QLatin1String(" is not reached");
+    }
+    for (QWidget *control : controls) {
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(control);
+        if (!interface || interface->text(QAccessible::Name).trimmed().isEmpty())
+            wrong << nameOf(control) + QLatin1String(" has no name");
+    }
+    QCOMPARE(QApplication::activeWindow(), window);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(QStringLiteral(", "))));
+}
+
+/// Runs \a look in it, with a test of the log-in that is over.
+void tst_KeyboardOnly::inAddWindow(const std::function<void()> &look)
+{
+    bool isRun = false;
+    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
+        const QPointer<KirvLayoutDialog> open(window);
+        KIRV_TRY_COMPARE(QApplication::activeWindow(), window);
+        type(QStringLiteral("cleo"));
+        auto *run = Windows::child<QPushButton>(window, "AddAccount_TestLogIn");
+        run->click();
+        const auto isOver = [&] { return windows->protocol->server->calls.contains(QStringLiteral("cleo log out")); };
+        KIRV_TRY(isOver());
+        Windows::child<QAbstractButton>(window, "AddAccount_Advanced")->setChecked(true);
+        Windows::settle();
+        look();
+        isRun = true;
+        if (open)
+            open->reject();
+    });
+    Windows::child<QToolButton>(windows->client->window(), "Accounts_AddButton")->menu()->actions().first()->trigger();
+    QVERIFY(isRun);
+}
+
+void tst_KeyboardOnly::openExportWindow()
+{
+    goToRow(bob);
+    press(Qt::Key_Menu);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    const auto actions = menu->actions();
+    const auto it = std::find_if(actions.begin(), actions.end(),
+                                 [](const QAction *action) { return action->text().startsWith("E&xport"); });
+    QVERIFY(it != actions.end());
+    (*it)->trigger();
+    menu->close();
+}
+
+void tst_KeyboardOnly::openImportWindow()
+{
+    KirvMovedAccounts moved;
+    for (const char *id : { "cleo", "dan" }) {
+        KirvMovedAccount account;
+        account.record.key = { QString::fromLatin1(id), windows->protocol->name };
+        moved.accounts << account;
+    }
+    QString problem;
+    QFile file(windows->folder.filePath(QStringLiteral("accounts.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY2(file.write(KirvAccountFile::write(moved, QString(), &problem)) > 0, qPrintable(problem));
+    file.close();
+    windows->client->window()->findChild<KirvMovingWindows *>()->importFrom(file.fileName());
+    const auto *list = Windows::child<QWidget>(windows->client->window(), "ImportAccounts_List");
+    KIRV_TRY(list->isVisible());
+}
+
+void tst_KeyboardOnly::openWindow(const QString &place)
+{
+    auto *page = windows->client->accountsPage()->findChild<KirvAccountsPageCompanion *>();
+    auto *help = windows->client->window()->findChild<KirvAccountHelp *>();
+    KirvAccount *account = windows->account(bob);
+    if (place == QLatin1String("edit window")) {
+        goToRow(bob);
+        press(Qt::Key_Return);
+    } else if (place == QLatin1String("export window")) {
+        openExportWindow();
+    } else if (place == QLatin1String("import window")) {
+        openImportWindow();
+    } else if (place == QLatin1String("log")) {
+        help->showLog(account);
+    } else if (place == QLatin1String("report")) {
+        help->showReport(account->key());
+    } else if (place == QLatin1String("log-in test")) {
+        help->testLogin(account);
+        KIRV_TRY(windows->protocol->server->calls.contains(QStringLiteral("bob log out")));
+    } else if (place == QLatin1String("password question")) {
+        Q_EMIT page->passwordRequested(account);
+    } else {
+        windows->protocol->server->certificate.fingerprint = QByteArray(32, 'a');
+        windows->protocol->server->certificate.problems = QStringList { "It is self-signed." };
+        account->reconnect();
+        KIRV_TRY(account->lastFailure().isFailure());
+        Q_EMIT page->certificateRequested(account);
+    }
+    KIRV_TRY(dialog());
+    Windows::settle();
+}
+
 void tst_KeyboardOnly::tabReachesEveryControl()
 {
     QFETCH(QString, place);
     start({ ann, bob });
-    if (place == QLatin1String("edit window") || place == QLatin1String("export window")) {
-        goToRow(bob);
-        if (place == QLatin1String("edit window")) {
-            press(Qt::Key_Return);
-        } else {
-            press(Qt::Key_Menu);
-            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-            QVERIFY(menu);
-            const auto actions = menu->actions();
-            const auto it = std::find_if(actions.begin(), actions.end(),
-                                         [](const QAction *action) { return action->text().startsWith("E&xport"); });
-            QVERIFY(it != actions.end());
-            (*it)->trigger();
-            menu->close();
-        }
-        KIRV_TRY(dialog());
-    } else {
+    if (place == QLatin1String("add window")) {
+        inAddWindow(&checkControls);
+        return;
+    }
+    if (QStringList { "Accounts", "Plug-ins", "General" }.contains(place))
         goToPage(place);
-    }
-    const QWidget *window = QApplication::activeWindow();
-    QSet<QWidget *> missing = controlsIn(window);
-    QVERIFY(missing.size() > 3);
-    for (int i = 0; i < 150; ++i) {
-        press(Qt::Key_Tab);
-        missing.remove(QApplication::focusWidget());
-    }
-    QStringList names;
-    for (const QWidget *widget : qAsConst(missing))
-        names << widget->objectName() + QLatin1Char('/') + QLatin1String(widget->metaObject()->className());
-    QVERIFY2(names.isEmpty(), qPrintable(names.join(QStringLiteral(", "))));
+    else
+        openWindow(place);
+    checkControls();
 }
 
 QTEST_MAIN(tst_KeyboardOnly)

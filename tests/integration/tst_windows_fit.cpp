@@ -1,22 +1,32 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "accounts_tab/kirv_accounts_tab.h"
+#include "client/kirv_account_help.h"
+#include "client/kirv_account_log_window.h"
+#include "client/kirv_account_search.h"
 #include "client/kirv_accounts_page_companion.h"
+#include "client/kirv_certificate_question.h"
 #include "client/kirv_client.h"
 #include "client/kirv_export_window.h"
 #include "client/kirv_import_window.h"
+#include "client/kirv_login_test_dialog.h"
+#include "client/kirv_message_bar.h"
 #include "client/kirv_moving_windows.h"
 #include "client/kirv_password_dialog.h"
 #include "client/kirv_plugins_page.h"
+#include "client/kirv_report_window.h"
+#include "client/kirv_server_assistant.h"
 #include "client/kirv_server_commands.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_log.h"
 #include "core/moving/kirv_account_file.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/protocol/kirv_protocol_base.h"
 #include "core/store/kirv_store.h"
 #include "edit_account/kirv_edit_account_dialog.h"
 #include "tests/integration/kirv_client_windows.h"
+#include "tests/support/fakes/kirv_fake_protocol.h"
 #include "tests/support/gui/kirv_assistant_window.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
@@ -29,17 +39,37 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
+#include <QPushButton>
 #include <QScreen>
+#include <QSslCertificate>
+#include <QSslError>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTextDocument>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QTranslator>
+#include <QTreeWidget>
 #include <QtTest>
 
 namespace {
 
 using Windows = KirvClientWindows;
-const QSize small(480, 360);
+const QString fake = QStringLiteral("Fake");
+const qreal usualDpi = 96; // of fonts, more or less
+
+/// A small screen: where letters are twice as large it has twice as many pixels each way.
+QSize smallSize()
+{
+    return QSize(480, 360) * qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch() / usualDpi);
+}
+
+/// As long as a server may make it.
+QString longText(int words)
+{
+    return QStringLiteral("somebody at the conference.chat.example.org ").repeated(words).trimmed();
+}
 
 /// Whether \a widget stands in what can be scrolled up and down: its height is not bounded by the window.
 bool isScrolled(const QWidget *widget)
@@ -63,6 +93,9 @@ bool isClipped(const QWidget *widget)
         return !isElsewhere
             && (label->width() < label->sizeHint().width() || label->height() < label->sizeHint().height());
     }
+    if (const auto *text = qobject_cast<const QTextEdit *>(widget))
+        return text->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff
+            && text->document()->size().height() > text->viewport()->height() + 1;
     const auto *button = qobject_cast<const QAbstractButton *>(widget);
     return button && !button->text().isEmpty() && button->width() < button->minimumSizeHint().width();
 }
@@ -107,7 +140,7 @@ QString widest(const QWidget *window)
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
         const int needed = qMax(widget->minimumSizeHint().width(), widget->minimumWidth());
-        if (widget->isVisible() && needed > small.width() / 2)
+        if (widget->isVisible() && needed > smallSize().width() / 2)
             names << QStringLiteral("%1 needs %2").arg(nameOf(widget)).arg(needed);
     }
     return names.join(QLatin1Char('\n'));
@@ -124,8 +157,8 @@ void picture(QWidget *window, const QString &name)
 
 } // namespace
 
-/// Every window fits a small screen and its own size, in each language and direction. CTest runs it a second time with
-/// twice the scale.
+/// Every window fits a small screen and its own size, in each language and direction. CTest runs it again with twice
+/// the scale, and with letters of twice the size.
 class tst_WindowsFit : public QObject {
     Q_OBJECT
 
@@ -145,12 +178,23 @@ private:
     void openAssistant(const QString &protocol, const Look &look);
     void openExportWindow(const Look &look);
     void openImportWindow(const Look &look);
+    void openPage(const QString &name, const Look &look);
+    void openHelpWindows(const Look &look);
+    void openLoginTestInAddWindow(const Look &look);
+    void openCertificateQuestions(const Look &look) const;
+    void openRequests(KirvProtocolBase *protocol, const Look &look);
+    /// An account of a protocol without a network, which is refused.
+    void addFailing();
+    /// Reports all steps over the connection that is being tested, and looks while the last one runs and has failed.
+    void lookAtSteps(QWidget *window, const Look &look);
     static void check(QWidget *window, const QString &name);
     KirvAccount *account(const QString &protocol) const;
 
     std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<KirvTranslations> translations;
     std::unique_ptr<KirvClient> client;
+    QPointer<KirvFakeProtocol> withoutNetwork;
+    QPointer<KirvFakeConnection> connection; ///< its latest one
     bool isSeen = false;
 };
 
@@ -264,6 +308,146 @@ void tst_WindowsFit::openImportWindow(const Look &look)
     window->reject();
 }
 
+void tst_WindowsFit::addFailing()
+{
+    withoutNetwork = new KirvFakeProtocol(fake);
+    withoutNetwork->onConnection = [this](KirvFakeConnection *made) { connection = made; };
+    withoutNetwork->server->logIn = KirvFakeServer::Refuses;
+    withoutNetwork->server->refusal = KirvFailure(KirvFailure::AccessDenied, longText(4));
+    QVERIFY(client->plugins().addProtocol(withoutNetwork));
+    KirvAccountRecord record;
+    record.key = { QStringLiteral("romeo@a.long.name.of.a.server.example.org"), fake };
+    record.defaultPresence = record.lastPresence = withoutNetwork->presences().first().getId();
+    record.password = QStringLiteral("secret");
+    QVERIFY(client->accounts().create(record, withoutNetwork));
+    KIRV_TRY(account(fake)->lastFailure().isFailure());
+    Windows::settle();
+    auto *list = Windows::child<QTreeWidget>(client->accountsPage(), "Accounts_List");
+    const QList<QTreeWidgetItem *> rows = list->findItems(record.key.id, Qt::MatchExactly, 2);
+    QCOMPARE(rows.size(), 1);
+    list->setCurrentItem(rows.first());
+    Windows::settle();
+}
+
+void tst_WindowsFit::openPage(const QString &name, const Look &look)
+{
+    if (name == QLatin1String("failed account")) {
+        addFailing();
+    } else if (name == QLatin1String("search")) {
+        client->accountsPage()->findChild<KirvAccountSearch *>()->open();
+        auto *field = Windows::child<QLineEdit>(client->accountsPage(), "Accounts_Search");
+        QVERIFY(field->isVisible());
+        look(client->window());
+        field->setText(QStringLiteral("juliet"));
+        KIRV_TRY(Windows::child<QWidget>(client->accountsPage(), "Accounts_SearchCount")->isVisible());
+    } else if (name == QLatin1String("messages")) {
+        client->window()->messageBar()->showMessage(KirvFailure(KirvFailure::UntrustedCertificate).text());
+        client->window()->messageBar()->showMessage(longText(4), KirvAccountLogWindow::tr("&Report…"), [] {});
+        QVERIFY(client->window()->messageBar()->isVisible());
+    } else if (name == QLatin1String("empty")) {
+        const QList<KirvAccount *> all = client->accounts().accounts();
+        for (KirvAccount *removed : all)
+            QVERIFY(client->accounts().remove(removed));
+    } else {
+        auto *general = Windows::child<QWidget>(client->window(), "General");
+        QVERIFY(general);
+        client->window()->showPage(general);
+    }
+    look(client->window());
+}
+
+void tst_WindowsFit::lookAtSteps(QWidget *window, const Look &look)
+{
+    KIRV_TRY(connection && connection->state() == KirvConnection::Connecting);
+    for (int kind = KirvLoginStep::NameLookup; kind <= KirvLoginStep::LogIn; ++kind)
+        connection->reportStep({ KirvLoginStep::Kind(kind), KirvLoginStep::Running, longText(kind) });
+    look(window);
+    connection->loginFailed(KirvFailure(KirvFailure::AccessDenied, longText(8)));
+    look(window);
+}
+
+void tst_WindowsFit::openHelpWindows(const Look &look)
+{
+    addFailing();
+    auto *help = client->window()->findChild<KirvAccountHelp *>();
+    KirvAccount *failed = account(fake);
+    help->showLog(failed);
+    auto *log = client->window()->findChild<KirvAccountLogWindow *>();
+    QVERIFY(log);
+    look(log);
+    help->showReport(failed->key());
+    auto *report = client->window()->findChild<KirvReportWindow *>();
+    QVERIFY(report);
+    look(report);
+    QVERIFY(!report->save(folder->filePath(QStringLiteral("missing/report.txt"))));
+    look(report);
+    withoutNetwork->server->logIn = KirvFakeServer::Holds;
+    connection.clear();
+    help->testLogin(failed);
+    auto *test = client->window()->findChild<KirvLoginTestDialog *>();
+    QVERIFY(test);
+    lookAtSteps(test, look);
+    test->reject();
+}
+
+void tst_WindowsFit::openLoginTestInAddWindow(const Look &look)
+{
+    addFailing();
+    withoutNetwork->server->logIn = KirvFakeServer::Holds;
+    openAddWindow(fake, [&](QWidget *window) {
+        Windows::child<QLineEdit>(window, "AddAccount_UsernameEdit")->setText(QStringLiteral("juliet"));
+        connection.clear();
+        Windows::child<QPushButton>(window, "AddAccount_TestLogIn")->click();
+        lookAtSteps(window, look);
+    });
+}
+
+/// One to trust, one in place of another one, and one that is trusted.
+void tst_WindowsFit::openCertificateQuestions(const Look &look) const
+{
+    KirvAccount *asked = client->accounts().accounts().first();
+    const QList<QSslError> errors { QSslError(QSslError::SelfSignedCertificate), QSslError(QSslError::HostNameMismatch),
+                                    QSslError(QSslError::CertificateExpired) };
+    KirvServerCertificate certificate(QSslCertificate(), errors, longText(1));
+    certificate.subject = certificate.issuer = longText(3);
+    certificate.names = QStringList { longText(1), longText(2) };
+    certificate.validFrom = certificate.validUntil = QDateTime::currentDateTime();
+    certificate.fingerprint = QByteArray(32, '\x1a');
+    const auto ask = [&](KirvCertificateQuestion::Kind kind) {
+        KirvCertificateQuestion question(kind, *asked, certificate, client->window());
+        question.open();
+        look(&question);
+    };
+    ask(KirvCertificateQuestion::ToTrust);
+    asked->change([](KirvAccountRecord &record) { record.trustedCertificate = QString(64, QLatin1Char('b')); });
+    ask(KirvCertificateQuestion::ToTrust);
+    ask(KirvCertificateQuestion::ToForget);
+}
+
+/// What can be done with an account on its server, up to the failure without a connection.
+void tst_WindowsFit::openRequests(KirvProtocolBase *protocol, const Look &look)
+{
+    isSeen = true; // not every protocol has one
+    const QList<KirvAccountAction> actions = protocol->accountActions();
+    for (const KirvAccountAction &action : actions) {
+        const std::unique_ptr<KirvConnection> offline(protocol->createConnection());
+        const std::unique_ptr<KirvServerRequest> request(protocol->createAccountRequest(action.id, offline.get()));
+        QVERIFY(request);
+        KirvServerAssistant assistant(request.get(), client->window());
+        request->start();
+        assistant.show();
+        look(&assistant);
+        for (int submitted = 0; submitted < 2; ++submitted) {
+            const auto lines = assistant.findChildren<QLineEdit *>();
+            for (QLineEdit *line : lines)
+                line->setText(submitted > 0 ? QStringLiteral("secret") : QString());
+            KirvAssistantWindow::next()->click();
+            look(&assistant);
+        }
+        QVERIFY(!KirvAssistantWindow::message().isEmpty());
+    }
+}
+
 void tst_WindowsFit::open(const QString &name, const Look &look)
 {
     if (name == QLatin1String("page")) {
@@ -275,6 +459,14 @@ void tst_WindowsFit::open(const QString &name, const Look &look)
         openExportWindow(look);
     } else if (name == QLatin1String("import")) {
         openImportWindow(look);
+    } else if (name == QLatin1String("help")) {
+        openHelpWindows(look);
+    } else if (name == QLatin1String("add, tested")) {
+        openLoginTestInAddWindow(look);
+    } else if (name == QLatin1String("certificate")) {
+        openCertificateQuestions(look);
+    } else if (QStringList { "general", "empty", "failed account", "search", "messages" }.contains(name)) {
+        openPage(name, look);
     }
     const QString first = client->plugins().protocols().first()->getName();
     if (name == QLatin1String("password")) {
@@ -294,12 +486,15 @@ void tst_WindowsFit::open(const QString &name, const Look &look)
             openEditWindow(of, 1, look);
         else if (name == QLatin1String("register"))
             openAssistant(of, look);
+        else if (name == QLatin1String("requests"))
+            openRequests(protocol, look);
     }
 }
 
 void tst_WindowsFit::check(QWidget *window, const QString &name)
 {
     Windows::settle();
+    const QSize small = smallSize();
     const QSize available = window->screen()->availableSize().expandedTo(small);
     QVERIFY2(window->width() <= available.width() && window->height() <= available.height(),
              qPrintable(QStringLiteral("%1 x %2").arg(window->width()).arg(window->height())));
@@ -321,7 +516,8 @@ void tst_WindowsFit::windowFits_data()
     QTest::addColumn<QString>("language");
     const KirvTranslations known(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
     for (const char *window :
-         { "page", "plug-ins", "add", "edit", "directory", "password", "register", "export", "import" }) {
+         { "page", "failed account", "search", "messages", "empty", "plug-ins", "general", "add", "add, tested", "edit",
+           "directory", "password", "certificate", "help", "register", "requests", "export", "import" }) {
         for (const QString &language : known.languages())
             QTest::addRow("%s, %s", window, qPrintable(language)) << QString::fromLatin1(window) << language;
     }
