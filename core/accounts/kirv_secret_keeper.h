@@ -73,7 +73,7 @@ public:
     std::shared_ptr<const QStringList> hold(const QStringList &keys);
 
 Q_SIGNALS:
-    /// The state of the keyring or the obstacle may have changed.
+    /// The state of the keyring, the obstacle, or what waits for the keyring to be unlocked may have changed.
     void changed();
     /// So many secrets were moved from the profile to the keyring, with those of earlier runs when it was interrupted.
     void moved(int secrets);

@@ -7,6 +7,7 @@
 #include "core/store/kirv_store.h"
 #include "core/store/kirv_wiped_text.h"
 
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
@@ -36,7 +37,10 @@ void KirvSecretKeeper::startMoving()
     mayMove = true;
     movedCount = store.movedCount();
     collectMovable();
-    next();
+    const QPointer<KirvSecretKeeper> alive(this);
+    Q_EMIT changed(); // there may be something that waits for the keyring to be unlocked
+    if (alive)
+        next();
 }
 
 bool KirvSecretKeeper::hasMovableSecrets() const

@@ -121,7 +121,11 @@ void tst_SecretMoving::aLockedKeyringIsUnlockedForTheMoveOnRequest()
     fill(count);
     KirvSecretKeeper &secrets = core->accounts->secrets();
     keyring->setState(KirvSecretStore::Locked);
-    secrets.startMoving();
+    const QSignalSpy changes(&secrets, &KirvSecretKeeper::changed);
+    QVERIFY(!secrets.hasMovableSecrets());
+    secrets.startMoving(); // when all plug-ins are loaded, which may be later than the state is known
+    QVERIFY(secrets.hasMovableSecrets());
+    QCOMPARE(changes.count(), 1);
     for (int round = 0; round < 20; ++round)
         KirvAccountsFixture::settle();
     QCOMPARE(keyring->calls, QStringList()); // nobody has requested it
