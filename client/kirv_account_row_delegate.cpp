@@ -100,10 +100,10 @@ qreal visibleShare(const QImage &picture, const QColor &paper, qreal least)
     return all == 0 ? 1 : qreal(visible) / qreal(all);
 }
 
-/// \a picture with a plate behind it where most of it would not stand out from \a paper by \a least: of \a light or
-/// \a dark, whichever suits it.
-QPixmap visiblePicture(const QPixmap &picture, const QColor &paper, qreal least, const QColor &light,
-                       const QColor &dark)
+/// \a picture with a plate behind it where most of it would not stand out from \a paper by \a least: of \a usual, on
+/// which icons stand elsewhere, unless more of it stands out from \a other only.
+QPixmap visiblePicture(const QPixmap &picture, const QColor &paper, qreal least, const QColor &usual,
+                       const QColor &other)
 {
     const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
     if (visibleShare(image, paper, least) > 0.5)
@@ -114,7 +114,8 @@ QPixmap visiblePicture(const QPixmap &picture, const QColor &paper, qreal least,
     QPainter painter(&result);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(visibleShare(image, light, least) >= visibleShare(image, dark, least) ? light : dark);
+    const qreal share = visibleShare(image, usual, least);
+    painter.setBrush(share > 0.5 || share >= visibleShare(image, other, least) ? usual : other);
     const QRectF plate(QPointF(), QSizeF(picture.size()) / picture.devicePixelRatio());
     painter.drawRoundedRect(plate, plate.width() / 8, plate.height() / 8);
     painter.drawPixmap(plate.topLeft(), picture);

@@ -47,6 +47,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
+#include <algorithm>
 
 namespace {
 
@@ -165,6 +166,7 @@ QList<KirvTextSurvey::Allowed> permissions()
         { at("^ServerAssistant_Picture\\d plainText$"), "the caption stands in its sentence as the server says it" },
         { at("^ServerAssistant_Message plainText$"), "a sentence, and the reason why" },
         { at("^MessageBar_Text"), "the name of an account, and a sentence about it" },
+        { at("^Report_Outcome text$"), "the reason of the system stands in its sentence; Qt 6 translates it" },
         { at("^AddAccount_Advanced(Summary text| accessibleDescription)$"), "a list of the names of settings" },
     };
 }
@@ -610,7 +612,9 @@ void tst_TextsOfWindows::stepsOfRequests()
             ++opened;
         }
     }
-    QVERIFY(opened > 0);
+    const bool hasXmpp = std::any_of(protocols.begin(), protocols.end(),
+                                     [](KirvProtocolBase *protocol) { return protocol->getName() == "XMPP"; });
+    QCOMPARE(opened > 0, hasXmpp); // which needs libraries that not every build has
     QVERIFY2(survey->problems().isEmpty(), qPrintable(survey->problems().join('\n')));
 }
 
