@@ -133,7 +133,7 @@ private:
     QTreeWidgetItem *rowInQuestion;
     /// The account of each entry of the selector, in its order: finds the entry of an account when the
     /// pointer in it must not be followed any more.
-    QVector<AccountKey> offeredAccounts;
+    QList<AccountKey> offeredAccounts;
     /// The icon of each path, kept until a protocol with that path is read again.
     QHash<QString, QIcon> icons;
 };
