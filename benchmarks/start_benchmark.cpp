@@ -3,8 +3,8 @@
 // of its own: this program starts itself, with the client's own parts, and ends when the list has been painted. The
 // accounts are switched off, so that nothing is logged in meanwhile. Between the two a timer of a millisecond runs,
 // whose gaps say for how long the window did not answer.
-#include "benchmarks/disabled_accounts.h"
 #include "benchmarks/measurement.h"
+#include "benchmarks/offline_profile.h"
 
 #include "accounts_tab/kirv_accounts_tab.h"
 #include "client/kirv_application.h"
@@ -120,7 +120,7 @@ Start startOnce(const QString &profileFolder, int accountCount)
 Start measure(const QString &folder, int accountCount)
 {
     QTemporaryDir profile(folder + QStringLiteral("/profile-XXXXXX"));
-    makeProfileOfDisabledAccounts(profile.path(), accountCount);
+    makeOfflineProfile(profile.path(), accountCount);
     startOnce(profile.path(), accountCount); // warms the caches up, and tests the plug-ins
     QVector<double> window;
     QVector<double> list;

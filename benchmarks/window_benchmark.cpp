@@ -2,8 +2,8 @@
 // From the start of the client to its first window, and the memory that it takes then, beside a bare program of Qt with
 // the same rows. The X server says when the window is mapped, the kernel how much memory is taken: neither program
 // knows that it is measured. The programs take turns, so that what else the computer does concerns all of them.
-#include "benchmarks/disabled_accounts.h"
 #include "benchmarks/measurement.h"
+#include "benchmarks/offline_profile.h"
 #include "benchmarks/virtual_display.h"
 
 #include <QCommandLineParser>
@@ -186,7 +186,7 @@ int main(int argc, char **argv)
                   QStringLiteral("above bare MB"), QStringLiteral("proportional MB") });
     for (const QString &number : parser.value(QStringLiteral("accounts")).split(QLatin1Char(','))) {
         const QString profile = QDir(home.path()).filePath(QStringLiteral("profile-") + number);
-        makeProfileOfDisabledAccounts(profile, number.toInt());
+        makeOfflineProfile(profile, number.toInt());
         measure(
             { { QStringLiteral("bare window"), { bare, number }, QString() },
               { QStringLiteral("bare window without OpenGL"), { bare, number, QStringLiteral("--raster") }, QString() },

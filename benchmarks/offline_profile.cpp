@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "benchmarks/disabled_accounts.h"
+#include "benchmarks/offline_profile.h"
 
 #include "core/store/kirv_store.h"
 
-void makeProfileOfDisabledAccounts(const QString &folder, int count)
+void makeOfflineProfile(const QString &folder, int count)
 {
     KirvStore store;
     bool good = store.open(folder) && store.begin();
