@@ -289,11 +289,12 @@ KirvAccount *KirvAccountCollection::create(const KirvAccountRecord &record, Kirv
     if (!reason.isEmpty())
         return refuseCreation(record.key, reason);
     KirvAccountRecord complete = record;
-    complete.settings = kirvStoredValues(known->accountSettings());
+    const QList<KirvField> fields = known->accountSettings();
+    complete.settings = kirvStoredValues(fields);
     for (auto value = record.settings.constBegin(); value != record.settings.constEnd(); ++value)
         complete.settings.insert(value.key(), value.value());
-    complete.secretSettings += kirvSecretFields(known->accountSettings());
-    reason = known->settingsProblem(complete.key.id, kirvFieldsWithValues(known->accountSettings(), complete.settings));
+    complete.secretSettings += kirvSecretFields(fields);
+    reason = known->settingsProblem(complete.key.id, kirvFieldsWithValues(fields, complete.settings));
     if (!reason.isEmpty())
         return refuseCreation(record.key, reason);
     keeper.place(complete, KirvAccountRecord());
