@@ -56,7 +56,8 @@ private:
     bool send(QSslSocket &socket, const QByteArray &data)
     {
         socket.write(data);
-        while (isAlive(socket) && socket.bytesToWrite() > 0) {
+        // What is encrypted already waits in a queue of its own.
+        while (isAlive(socket) && socket.bytesToWrite() + socket.encryptedBytesToWrite() > 0) {
             socket.waitForBytesWritten(20);
             if (attack.readsReplies)
                 read(socket);
