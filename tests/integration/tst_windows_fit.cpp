@@ -65,6 +65,26 @@ QSize smallSize()
     return QSize(480, 360) * qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch() / usualDpi);
 }
 
+bool isUsualScale()
+{
+    return smallSize() == QSize(480, 360) && qFuzzyCompare(qApp->devicePixelRatio(), 1.0);
+}
+
+/// All of them or, at another scale and unless the environment wants all, those with the longest texts and from right
+/// to left.
+QStringList languages()
+{
+    QStringList all = KirvTranslations(*qApp, QStringLiteral(KIRV_TRANSLATIONS)).languages();
+    if (!isUsualScale() && !qEnvironmentVariableIsSet("KIRV_EVERY_LANGUAGE")) {
+        const QStringList chosen { QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("ar") };
+        for (const QString &language : QStringList(all)) {
+            if (!chosen.contains(language))
+                all.removeAll(language);
+        }
+    }
+    return all;
+}
+
 /// As long as a server may make it.
 QString longText(int words)
 {
@@ -168,10 +188,14 @@ private Q_SLOTS:
 
     void windowFits_data();
     void windowFits();
+    void nothingIsClippedAtAnyWidth_data();
+    void nothingIsClippedAtAnyWidth();
 
 private:
     using Look = std::function<void(QWidget *window)>;
 
+    /// Starts the client with an account of each protocol.
+    void start(const QString &language);
     void open(const QString &name, const Look &look);
     void openAddWindow(const QString &protocol, const Look &look);
     void openEditWindow(const QString &protocol, int tab, const Look &look);
@@ -514,19 +538,17 @@ void tst_WindowsFit::windowFits_data()
 {
     QTest::addColumn<QString>("window");
     QTest::addColumn<QString>("language");
-    const KirvTranslations known(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
+    const QStringList chosen = languages();
     for (const char *window :
          { "page", "failed account", "search", "messages", "empty", "plug-ins", "general", "add", "add, tested", "edit",
            "directory", "password", "certificate", "help", "register", "requests", "export", "import" }) {
-        for (const QString &language : known.languages())
+        for (const QString &language : chosen)
             QTest::addRow("%s, %s", window, qPrintable(language)) << QString::fromLatin1(window) << language;
     }
 }
 
-void tst_WindowsFit::windowFits()
+void tst_WindowsFit::start(const QString &language)
 {
-    QFETCH(QString, window);
-    QFETCH(QString, language);
     translations = std::make_unique<KirvTranslations>(*qApp, QStringLiteral(KIRV_TRANSLATIONS));
     KirvClientOptions options;
     options.profileFolder = folder->filePath(QStringLiteral("profile"));
@@ -551,10 +573,52 @@ void tst_WindowsFit::windowFits()
         QVERIFY2(client->accounts().create(record, protocol), qPrintable(client->accounts().lastError()));
     }
     Windows::settle();
+}
+
+void tst_WindowsFit::windowFits()
+{
+    QFETCH(QString, window);
+    QFETCH(QString, language);
+    start(language);
     int looks = 0;
     open(window, [&](QWidget *opened) {
         isSeen = true;
         check(opened, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" %1").arg(++looks));
+    });
+    QVERIFY(isSeen);
+}
+
+void tst_WindowsFit::nothingIsClippedAtAnyWidth_data()
+{
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("language");
+    const QStringList chosen = languages();
+    for (const char *window : { "general", "add", "edit", "register", "export" }) {
+        for (const QString &language : chosen)
+            QTest::addRow("%s, %s", window, qPrintable(language)) << QString::fromLatin1(window) << language;
+    }
+}
+
+/// From the small one on, until labels have long been beside their controls.
+void tst_WindowsFit::nothingIsClippedAtAnyWidth()
+{
+    QFETCH(QString, window);
+    QFETCH(QString, language);
+    start(language);
+    const QSize small = smallSize();
+    const int step = isUsualScale() ? 1 : 13;
+    open(window, [&](QWidget *opened) {
+        isSeen = true;
+        QStringList clipped;
+        for (int width = small.width(); width < small.width() * 4 / 3; width += step) {
+            opened->resize(width, small.height());
+            Windows::settle();
+            Windows::settle(); // the labels have moved, and what is around them follows
+            const QStringList names = misplaced(opened);
+            for (const QString &name : names)
+                clipped << QStringLiteral("%1: %2").arg(width).arg(name);
+        }
+        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.mid(0, 20).join(QLatin1Char('\n'))));
     });
     QVERIFY(isSeen);
 }
