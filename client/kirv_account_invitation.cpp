@@ -152,6 +152,10 @@ void KirvAccountInvitation::updateAddButton()
     addButton->setEnabled(hasProtocols);
     if (isFirst && window()->focusWidget() == registerButton) // in the place of the other one
         takeFocus();
-    addButton->setToolTip(hasProtocols ? tr("Add an account that you already have")
-                                       : tr("No protocol is loaded. Load one on the Plug-ins page."));
+    addButton->setToolTip(hasProtocols ? tr("Add an account that you already have") : noProtocolText());
+}
+
+QString KirvAccountInvitation::noProtocolText()
+{
+    return tr("No protocol is loaded. Load one on the Plug-ins page.");
 }

@@ -22,6 +22,8 @@ public:
     void offerPidgin(const QString &path);
     /// To be called when the invitation is in its window: gives the buttons mnemonics that the window has not.
     void chooseMnemonics();
+    /// Why no account can be added while no protocol is loaded.
+    static QString noProtocolText();
     /// Gives the keyboard focus to the first button that can be used.
     void takeFocus();
 

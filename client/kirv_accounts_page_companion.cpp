@@ -140,9 +140,10 @@ void KirvAccountsPageCompanion::addCommands(QWidget *top, const Environment &env
     aliasEditor = new KirvAliasEditor(accounts, *rows, *delegate, list);
     auto *order = new KirvAccountOrder(accounts, *rows, environment.settings, list);
     auto *group = new KirvAccountGroup(accounts, environment.mainAccount, environment.undo, list);
-    auto *commands = new KirvPageCommands({ accounts, *rows, environment.serverCommands, environment.mainAccount,
-                                            environment.undo, *group, *order, environment.help, environment.moving },
-                                          aliasEditor, top, list);
+    auto *commands =
+        new KirvPageCommands({ accounts, *rows, environment.serverCommands, environment.mainAccount, environment.undo,
+                               *group, *order, environment.help, environment.moving, environment.messages },
+                             aliasEditor, top, list);
     connect(commands, &KirvPageCommands::passwordRequested, this, &KirvAccountsPageCompanion::passwordRequested);
     connect(commands, &KirvPageCommands::certificateRequested, this, &KirvAccountsPageCompanion::certificateRequested);
 }

@@ -13,6 +13,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountHelp;
 class KirvAccountInvitation;
+class KirvMessageBar;
 class KirvMovingWindows;
 class KirvAccountRows;
 class KirvAccountRowStates;
@@ -47,6 +48,7 @@ public:
         KirvClientSettings &settings;
         KirvAccountHelp &help;
         KirvMovingWindows &moving;
+        KirvMessageBar &messages;
     };
 
     /// \a top was just built for the page.

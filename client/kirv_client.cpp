@@ -179,10 +179,10 @@ void KirvClient::createWindow()
     moving = new KirvMovingWindows({ *accountCollection, services->mainAccountRule, *history }, settingsWindow.get());
     connect(moving, &KirvMovingWindows::imported, this, [this] { settingsWindow->showPage(page); });
     connect(moving, &KirvMovingWindows::problemOccurred, this, &KirvClient::showProblem);
-    companions = new KirvWindowCompanions(
-        *layouts,
-        { *accountCollection, *serverCommands, services->mainAccountRule, *undo, *clientSettings, *help, *moving },
-        settingsWindow.get());
+    companions = new KirvWindowCompanions(*layouts,
+                                          { *accountCollection, *serverCommands, services->mainAccountRule, *undo,
+                                            *clientSettings, *help, *moving, *settingsWindow->messageBar() },
+                                          settingsWindow.get());
     connect(companions, &KirvWindowCompanions::linkTaken, this, &KirvClient::open);
     languageChange = new KirvLanguageChange(*clientSettings, *companions, settingsWindow.get());
     createPages();

@@ -11,6 +11,7 @@
 #include "client/kirv_account_status.h"
 #include "client/kirv_account_undo.h"
 #include "client/kirv_alias_editor.h"
+#include "client/kirv_message_bar.h"
 #include "client/kirv_moving_windows.h"
 #include "client/kirv_plain_text.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -161,8 +162,12 @@ void KirvPageCommands::rename()
 void KirvPageCommands::openAddMenu()
 {
     QMenu *menu = addButton->menu();
-    if (!menu || menu->actions().isEmpty())
+    if (!menu || menu->actions().isEmpty()) {
+        environment.messages.showMessage(KirvAccountInvitation::noProtocolText(), QString(), {},
+                                         KirvMessageBar::Information);
         return;
+    }
+    environment.messages.removeMessage(KirvAccountInvitation::noProtocolText());
     const QWidget *place = addButton->isVisible() ? static_cast<QWidget *>(addButton) : top;
     menu->popup(
         place->mapToGlobal(QPoint(place->isRightToLeft() ? place->width() : 0, place == top ? 0 : place->height())));

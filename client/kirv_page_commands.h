@@ -10,6 +10,7 @@ class KirvAccount;
 class KirvAccountCollection;
 class KirvAccountGroup;
 class KirvAccountHelp;
+class KirvMessageBar;
 class KirvMovingWindows;
 class KirvAccountOrder;
 class KirvAccountRows;
@@ -41,6 +42,7 @@ public:
         KirvAccountOrder &order;
         KirvAccountHelp &help;
         KirvMovingWindows &moving;
+        KirvMessageBar &messages;
     };
 
     /// \a top is that of the page's layout and owns this. \a editor renames.

@@ -64,6 +64,12 @@ QString KirvSecretTexts::state() const
     return tr("There is no keyring.") + QLatin1Char(' ') + inFile;
 }
 
+QString KirvSecretTexts::keptInFile()
+{
+    //: it = a password that was just stored
+    return tr("There is no keyring here: it is kept in a file only you can read.");
+}
+
 bool KirvSecretTexts::isRememberingUnsafe() const
 {
     return keeper.keyring() && keeper.keyring()->state() == KirvSecretStore::Unavailable;

@@ -23,6 +23,8 @@ public:
     QString place() const;
     /// Who keeps the passwords, and in what state that is, in sentences.
     QString state() const;
+    /// A password that the user did not choose to keep there has gone into the file.
+    static QString keptInFile();
     /// Whether passwords are better not remembered unless the user says so: there is no keyring.
     bool isRememberingUnsafe() const;
     /// A few words about why a secret that is awaited is not there.

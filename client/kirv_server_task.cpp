@@ -2,6 +2,7 @@
 #include "client/kirv_server_task.h"
 
 #include "client/kirv_plain_text.h"
+#include "client/kirv_secret_texts.h"
 #include "client/kirv_server_assistant.h"
 #include "client/kirv_window_front.h"
 #include "core/accounts/kirv_account_collection.h"
@@ -167,7 +168,10 @@ KirvServerTask::Outcome KirvServerTask::storePassword(const QString &password)
     const QString name = kirvPlainName(requestAccount->displayName());
     if (isStored) {
         //: %1 = name of an account
-        return { tr("The password of the account %1 is changed on its server.").arg(name), QString(), false };
+        QString text = tr("The password of the account %1 is changed on its server.").arg(name);
+        if (requestAccount->record().rememberPassword && KirvSecretTexts(accounts.secrets()).isRememberingUnsafe())
+            text += QLatin1Char(' ') + KirvSecretTexts::keptInFile();
+        return { text, QString(), false };
     }
     //: %1 = name of an account, %2 = the reason, a sentence
     return { tr("The account %1 has the new password on its server. The password is used until the program ends, but "

@@ -233,6 +233,10 @@
         <source>Presence</source>
         <translation>الحضور</translation>
     </message>
+    <message>
+        <source>Pages of the account</source>
+        <translation>صفحات الحساب</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -4349,6 +4353,11 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
         <translation>لا تزال بعض كلمات السر في ملف لا يقرؤه سواك. تُنقل عند فتح قفل حلقة المفاتيح.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it is kept in a file only you can read.</source>
+        <extracomment>it = a password that was just stored</extracomment>
+        <translation>لا توجد حلقة مفاتيح هنا: كلمة السر محفوظة في ملف لا يمكن لغيرك قراءته.</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,10 @@
         <source>Presence</source>
         <translation>Status</translation>
     </message>
+    <message>
+        <source>Pages of the account</source>
+        <translation>Seiten des Kontos</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -4249,6 +4253,11 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
         <translation>Einige Passwörter liegen noch in einer Datei, die nur Sie lesen können. Sie werden verschoben, wenn der Schlüsselbund entsperrt wird.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it is kept in a file only you can read.</source>
+        <extracomment>it = a password that was just stored</extracomment>
+        <translation>Hier gibt es keinen Schlüsselbund: Es ist in einer Datei abgelegt, die nur Sie lesen können.</translation>
     </message>
 </context>
 <context>

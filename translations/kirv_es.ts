@@ -233,6 +233,10 @@
         <source>Presence</source>
         <translation>Presencia</translation>
     </message>
+    <message>
+        <source>Pages of the account</source>
+        <translation>Páginas de la cuenta</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -4249,6 +4253,11 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
         <translation>Algunas contraseñas están todavía en un archivo que solo usted puede leer. Se trasladan cuando se desbloquea el depósito de claves.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it is kept in a file only you can read.</source>
+        <extracomment>it = a password that was just stored</extracomment>
+        <translation>Aquí no hay ningún depósito de claves: la contraseña se guarda en un archivo que solo usted puede leer.</translation>
     </message>
 </context>
 <context>

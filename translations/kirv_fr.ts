@@ -233,6 +233,10 @@
         <source>Presence</source>
         <translation>Statut</translation>
     </message>
+    <message>
+        <source>Pages of the account</source>
+        <translation>Pages du compte</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -4249,6 +4253,11 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
         <translation>Certains mots de passe se trouvent encore dans un fichier que vous seul pouvez lire. Ils sont déplacés lorsque le trousseau est déverrouillé.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it is kept in a file only you can read.</source>
+        <extracomment>it = a password that was just stored</extracomment>
+        <translation>Il n’y a pas de trousseau de clés ici&#xa0;: le mot de passe est conservé dans un fichier que personne d’autre que vous ne peut lire.</translation>
     </message>
 </context>
 <context>

@@ -233,6 +233,10 @@
         <source>Presence</source>
         <translation>Status</translation>
     </message>
+    <message>
+        <source>Pages of the account</source>
+        <translation>Strony konta</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -4274,6 +4278,11 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
         <translation>Niektóre hasła są jeszcze w pliku, który tylko Ty możesz odczytać. Zostaną przeniesione, gdy baza kluczy zostanie odblokowana.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it is kept in a file only you can read.</source>
+        <extracomment>it = a password that was just stored</extracomment>
+        <translation>Nie ma tu bazy kluczy: hasło jest zapisane w pliku, który możesz odczytać tylko Ty.</translation>
     </message>
 </context>
 <context>

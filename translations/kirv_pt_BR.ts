@@ -233,6 +233,10 @@
         <source>Presence</source>
         <translation>Status</translation>
     </message>
+    <message>
+        <source>Pages of the account</source>
+        <translation>Páginas da conta</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccount</name>
@@ -4249,6 +4253,11 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>Some passwords are still in a file only you can read. They are moved when the keyring is unlocked.</source>
         <translation>Algumas senhas ainda estão em um arquivo que só você pode ler. Elas são movidas quando o chaveiro é desbloqueado.</translation>
+    </message>
+    <message>
+        <source>There is no keyring here: it is kept in a file only you can read.</source>
+        <extracomment>it = a password that was just stored</extracomment>
+        <translation>Não há chaveiro aqui: a senha é guardada em um arquivo que só você pode ler.</translation>
     </message>
 </context>
 <context>

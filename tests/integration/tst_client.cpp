@@ -78,6 +78,7 @@ private Q_SLOTS:
     void windowRemembersItsSize();
 
     void unloadedProtocolKeepsItsRows();
+    void ctrlNSaysThatNoProtocolIsLoaded();
     void reloadedProtocolListsItsAccountsOnce();
     void reloadingKeepsTheCurrentRow();
     void reloadingWhileDisablingIsAskedDisablesTheAccountAskedAbout();
@@ -363,6 +364,19 @@ void tst_Client::unloadedProtocolKeepsItsRows()
     QCOMPARE(selector()->count(), 0);
     QVERIFY(account(QStringLiteral("anna"))->isEnabled());
     QCOMPARE(state(account(QStringLiteral("anna"))), QStringLiteral("Its plug-in is not loaded"));
+}
+
+void tst_Client::ctrlNSaysThatNoProtocolIsLoaded()
+{
+    addAccount(QStringLiteral("anna"));
+    client->accountsPage()->updateAccounts();
+    unload();
+    list()->setFocus();
+    QTest::keyClick(list(), Qt::Key_N, Qt::ControlModifier);
+    QTest::keyRelease(list(), Qt::Key_Control); // else it counts as pressed in the next tests
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(client->window()->messageBar()->messages(),
+             QStringList { QStringLiteral("No protocol is loaded. Load one on the Plug-ins page.") });
 }
 
 void tst_Client::reloadedProtocolListsItsAccountsOnce()

@@ -61,6 +61,8 @@ private Q_SLOTS:
     void closingTheWindowCancelsTheRegistration();
 
     void theNewPasswordIsStored();
+    void aNewPasswordThatGoesIntoAFileIsSaid_data();
+    void aNewPasswordThatGoesIntoAFileIsSaid();
     void aPasswordThatWasNotStoredStaysAndIsOfferedAgain();
     void closingTheWindowKeepsTheNewPassword();
     void aPasswordThatWasNotStoredOpensTheWindowAgain_data();
@@ -424,6 +426,33 @@ void tst_ServerCommands::theNewPasswordIsStored()
     QVERIFY(account->isOnline());
     press(Assistant::close());
     QVERIFY(!Assistant::window() && !request() && successes->isEmpty());
+}
+
+void tst_ServerCommands::aNewPasswordThatGoesIntoAFileIsSaid_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<bool>("isRemembered");
+    QTest::addColumn<bool>("isSaid");
+    QTest::newRow("keyring") << int(KirvSecretStore::Ready) << true << false;
+    QTest::newRow("keyring has gone") << int(KirvSecretStore::Unavailable) << true << true;
+    QTest::newRow("keyring has gone, not remembered") << int(KirvSecretStore::Unavailable) << false << false;
+}
+
+void tst_ServerCommands::aNewPasswordThatGoesIntoAFileIsSaid()
+{
+    QFETCH(int, state);
+    QFETCH(bool, isRemembered);
+    QFETCH(bool, isSaid);
+    KirvFakeSecretStore keyring;
+    accounts->secrets().setKeyring(&keyring);
+    KirvAccount *account = addAccount();
+    account->change([&](KirvAccountRecord &record) { record.rememberPassword = isRemembered; });
+    changePassword();
+    keyring.setState(KirvSecretStore::State(state));
+    request()->succeedWith(Result::PasswordChanged, KirvLogin(), "new");
+    QVERIFY(Assistant::message().contains("is changed on its server"));
+    QCOMPARE(Assistant::message().contains("in a file only you can read"), isSaid);
+    accounts->secrets().setKeyring(nullptr);
 }
 
 void tst_ServerCommands::aPasswordThatWasNotStoredStaysAndIsOfferedAgain()
