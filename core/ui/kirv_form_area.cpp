@@ -139,10 +139,12 @@ void KirvFormArea::placeLabels()
     if (!widget())
         return;
     const QList<QFormLayout *> forms = formsWithLabelsBeside();
-    const bool hasRoom = std::all_of(forms.begin(), forms.end(), [this](const QFormLayout *form) {
+    // Whether the scroll bar is there must not decide: it depends on the height, and that on where the labels are.
+    const int room = contentsRect().width() - scrollBarWidth();
+    const bool hasRoom = std::all_of(forms.begin(), forms.end(), [this, room](const QFormLayout *form) {
         const int around = widget()->width() - form->geometry().width();
         return !form->parentWidget()->isVisibleTo(widget())
-            || viewport()->width() - around >= ::widthWithLabelsBeside(form, labelWidth);
+            || room - around >= ::widthWithLabelsBeside(form, labelWidth);
     });
     const auto policy = hasRoom ? QFormLayout::WrapLongRows : QFormLayout::WrapAllRows;
     bool isOther = false;
@@ -167,8 +169,8 @@ void KirvFormArea::hideUnneededScrollBar()
     if (!verticalScrollBar()->isVisible() || !widget())
         return;
     const QSize whole = contentsRect().size();
-    const int needed =
-        widget()->hasHeightForWidth() ? widget()->heightForWidth(whole.width()) : widget()->minimumSizeHint().height();
+    // The base class gives it the greater of both; where that is ignored here the bar comes and goes without end.
+    const int needed = qMax(widget()->heightForWidth(whole.width()), widget()->minimumSizeHint().height());
     if (needed > whole.height())
         return;
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -188,7 +188,7 @@ private Q_SLOTS:
 
     void windowFits_data();
     void windowFits();
-    void nothingIsClippedAtAnyWidth_data();
+    void nothingIsClippedAtAnyWidth_data() { windowFits_data(); }
     void nothingIsClippedAtAnyWidth();
 
 private:
@@ -586,17 +586,6 @@ void tst_WindowsFit::windowFits()
         check(opened, QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(" %1").arg(++looks));
     });
     QVERIFY(isSeen);
-}
-
-void tst_WindowsFit::nothingIsClippedAtAnyWidth_data()
-{
-    QTest::addColumn<QString>("window");
-    QTest::addColumn<QString>("language");
-    const QStringList chosen = languages();
-    for (const char *window : { "general", "add", "edit", "register", "export" }) {
-        for (const QString &language : chosen)
-            QTest::addRow("%s, %s", window, qPrintable(language)) << QString::fromLatin1(window) << language;
-    }
 }
 
 /// From the small one on, until labels have long been beside their controls.
