@@ -68,6 +68,8 @@ KirvPageCommands::KirvPageCommands(const Environment &environment, KirvAliasEdit
 
 bool KirvPageCommands::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::ActionAdded)
+        environment.messages.removeMessage(KirvAccountInvitation::noProtocolText());
     if (event->type() == QEvent::ContextMenu) {
         const auto *request = static_cast<QContextMenuEvent *>(event);
         if (request->reason() == QContextMenuEvent::Keyboard)
@@ -163,11 +165,12 @@ void KirvPageCommands::openAddMenu()
 {
     QMenu *menu = addButton->menu();
     if (!menu || menu->actions().isEmpty()) {
+        if (menu)
+            menu->installEventFilter(this); // tells when there is one
         environment.messages.showMessage(KirvAccountInvitation::noProtocolText(), QString(), {},
                                          KirvMessageBar::Information);
         return;
     }
-    environment.messages.removeMessage(KirvAccountInvitation::noProtocolText());
     const QWidget *place = addButton->isVisible() ? static_cast<QWidget *>(addButton) : top;
     menu->popup(
         place->mapToGlobal(QPoint(place->isRightToLeft() ? place->width() : 0, place == top ? 0 : place->height())));

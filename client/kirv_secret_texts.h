@@ -23,7 +23,7 @@ public:
     QString place() const;
     /// Who keeps the passwords, and in what state that is, in sentences.
     QString state() const;
-    /// A password that the user did not choose to keep there has gone into the file.
+    /// Where a password is that was just stored while isRememberingUnsafe(), in a sentence.
     static QString keptInFile();
     /// Whether passwords are better not remembered unless the user says so: there is no keyring.
     bool isRememberingUnsafe() const;

@@ -37,7 +37,7 @@ bool isShown(const QLayoutItem *item)
 
 /// How wide \a form must be for every control to stand beside a column of labels that is \a labelWidth wide. Layouts
 /// that wrap rows on their own forget the gap between the two, and rows without a label.
-int widthWithLabelsBeside(const QFormLayout *form, int labelWidth)
+int widthBeside(const QFormLayout *form, int labelWidth)
 {
     int widest = 0;
     for (int row = 0; row < form->rowCount(); ++row) {
@@ -143,8 +143,7 @@ void KirvFormArea::placeLabels()
     const int room = contentsRect().width() - scrollBarWidth();
     const bool hasRoom = std::all_of(forms.begin(), forms.end(), [this, room](const QFormLayout *form) {
         const int around = widget()->width() - form->geometry().width();
-        return !form->parentWidget()->isVisibleTo(widget())
-            || room - around >= ::widthWithLabelsBeside(form, labelWidth);
+        return !form->parentWidget()->isVisibleTo(widget()) || room - around >= widthBeside(form, labelWidth);
     });
     const auto policy = hasRoom ? QFormLayout::WrapLongRows : QFormLayout::WrapAllRows;
     bool isOther = false;
@@ -183,7 +182,7 @@ int KirvFormArea::widthWithLabelsBeside() const
     int needed = 0, least = 0;
     const QList<QFormLayout *> forms = formsWithLabelsBeside();
     for (const QFormLayout *form : forms) {
-        needed = qMax(needed, ::widthWithLabelsBeside(form, labelWidth));
+        needed = qMax(needed, widthBeside(form, labelWidth));
         least = qMax(least, form->minimumSize().width());
     }
     const int around = qMax(0, widget()->minimumSizeHint().width() - least);
