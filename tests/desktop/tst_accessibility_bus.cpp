@@ -16,6 +16,8 @@
 namespace {
 
 const QString protocol = QStringLiteral("IRC");
+/// Instead of the number of a page: the one of the accounts while there is none, beside a file of Pidgin.
+const int emptyPage = -1;
 const QString ircLink = QStringLiteral("irc://eve@irc.example.org/");
 
 KirvAccountRecord makeAccount(const QString &id, const QString &ofProtocol, bool isEnabled = true)
@@ -100,7 +102,7 @@ void tst_AccessibilityBus::cleanup()
 
 void tst_AccessibilityBus::makeProfile(int page)
 {
-    if (page < 0) {
+    if (page == emptyPage) {
         QVERIFY(QDir().mkdir(filePath("home/.purple")));
         QVERIFY(QFile::copy(QStringLiteral(KIRV_PIDGIN_FILE), filePath("home/.purple/accounts.xml")));
         return;
@@ -150,7 +152,7 @@ KirvAccessible tst_AccessibilityBus::row(const QString &id)
 
 void tst_AccessibilityBus::windows()
 {
-    QTest::addColumn<int>("page"); ///< -1: that of the accounts, of which there is none, beside a file of Pidgin
+    QTest::addColumn<int>("page");
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("pressed"); ///< the name of the button that opens the window; empty: none
     QTest::addColumn<QString>("control"); ///< the name of one that is there when everything is
@@ -165,7 +167,7 @@ void tst_AccessibilityBus::windows()
                                    << "Close";
     QTest::newRow("edit window") << 0 << none << "Edit"
                                  << "Save";
-    QTest::newRow("import window") << -1 << none << "Import from Pidgin"
+    QTest::newRow("import window") << emptyPage << none << "Import from Pidgin"
                                    << "Choose Another";
     QTest::newRow("report window") << 1 << none << "Report"
                                    << "Copy";

@@ -377,6 +377,8 @@ void tst_Client::ctrlNSaysThatNoProtocolIsLoaded()
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(client->window()->messageBar()->messages(),
              QStringList { QStringLiteral("No protocol is loaded. Load one on the Plug-ins page.") });
+    load();
+    QCOMPARE(client->window()->messageBar()->messages(), QStringList());
 }
 
 void tst_Client::reloadedProtocolListsItsAccountsOnce()

@@ -4,6 +4,7 @@
 #include "host/kirv_avatar_quick_set_widget.h"
 #include "host/kirv_field_widget.h"
 #include "host/kirv_ui_loader.h"
+#include "tests/support/kirv_due_work.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QAbstractButton>
@@ -145,6 +146,7 @@ private Q_SLOTS:
     void layoutMirrorsForRightToLeftLanguages();
     void manyFieldsScrollInsteadOfGrowingTheWindow();
     void scrollBarGoesWhenTheFormFitsWithoutIt();
+    void scrollBarStaysWhenTheFormNeedsMoreThanForItsWidth();
     void labelsOfTheFieldsLineUpWithThoseOfTheWindow();
     void fallbackIconsCanBePainted();
     void richTextLoadsNothing_data();
@@ -635,6 +637,30 @@ void tst_Layouts::scrollBarGoesWhenTheFormFitsWithoutIt()
     area.resize(300, needed);
     KIRV_TRY(!area.verticalScrollBar()->isVisible());
     KIRV_TRY_COMPARE(content->width(), 300);
+}
+
+/// A bar that came and went without end would keep the processor busy.
+void tst_Layouts::scrollBarStaysWhenTheFormNeedsMoreThanForItsWidth()
+{
+    struct Content : QWidget {
+        QSize minimumSizeHint() const override { return QSize(100, 60); }
+        int heightForWidth(int) const override { return 40; }
+    };
+    KirvFormArea area;
+    auto *content = new Content;
+    QSizePolicy policy;
+    policy.setHeightForWidth(true);
+    content->setSizePolicy(policy);
+    area.setWidget(content);
+    area.resize(300, 50);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area, kirvPatience));
+    KIRV_TRY(area.verticalScrollBar()->isVisible());
+    int times = 0;
+    connect(area.verticalScrollBar(), &QScrollBar::rangeChanged, &area, [&times] { ++times; });
+    kirvRunDueWork(20);
+    QCOMPARE(times, 0);
+    QVERIFY(area.verticalScrollBar()->isVisible());
 }
 
 void tst_Layouts::manyFieldsScrollInsteadOfGrowingTheWindow()

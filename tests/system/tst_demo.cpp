@@ -10,8 +10,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// The programs as a user starts them who tries the client: the demo shows its window, leaves nothing behind, and does
-/// not touch the keyring of the session, which the client itself does.
+/// The demo as a user starts it: it leaves nothing behind and does not touch the keyring of the session, which the
+/// client itself does.
 class tst_Demo : public QObject {
     Q_OBJECT
 
@@ -58,16 +58,17 @@ void tst_Demo::keyringIsForTheUsersOwnAccounts()
     QVERIFY(process.waitForStarted(kirvPatience));
     QTRY_VERIFY_WITH_TIMEOUT(hasLoadedPlugins(home.path()), kirvPatienceWithProgram);
     if (!isDemo)
-        QTRY_VERIFY_WITH_TIMEOUT(!service.calls().isEmpty(), kirvPatience);
+        KIRV_TRY(!service.calls().isEmpty());
     process.terminate();
     QTRY_COMPARE_WITH_TIMEOUT(process.state(), QProcess::NotRunning, kirvPatienceWithProgram);
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QCOMPARE(service.calls().isEmpty(), isDemo);
+    if (!isDemo)
+        return; // it keeps its profile
     for (const char *name : { "temporary", "home", "data" }) {
         const QDir folder(home.filePath(QLatin1String(name)));
-        if (isDemo)
-            QCOMPARE(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+        QCOMPARE(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
     }
 }
 
