@@ -15,8 +15,9 @@ namespace {
 using Server = KirvHostileXmppServer;
 
 const qint64 megabyte = 1 << 20;
-const qint64 floodSize = (KirvLoadMeter::measuresMemory ? 645 : 32) * megabyte;
 const qint64 largestGrowth = 16 * 1024; // kB
+/// Far more than the memory may grow, and no more: a busy machine digests little of it in a second.
+const qint64 floodSize = (KirvLoadMeter::measuresMemory ? 96 : 32) * megabyte;
 
 /// \a block repeated to about 64 kB.
 QByteArray blockOf(const QByteArray &block)
