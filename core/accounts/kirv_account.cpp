@@ -444,6 +444,8 @@ void KirvAccount::onStateChanged(KirvConnection::State state)
         return;
     if (state == KirvConnection::Online)
         setFailure(KirvFailure());
+    else if (state == KirvConnection::Waiting)
+        keeper.readUnlocked(this); // another program may change a password before the next attempt
     Q_EMIT changed();
 }
 

@@ -137,6 +137,12 @@ void KirvSecretKeeper::read(KirvAccount *account)
     next();
 }
 
+void KirvSecretKeeper::readUnlocked(KirvAccount *account)
+{
+    if (canBeginOperation() && secretStore->state() == KirvSecretStore::Ready)
+        read(account);
+}
+
 void KirvSecretKeeper::unlock()
 {
     QSet<QPair<KirvAccountKey, QString>> queued;

@@ -64,6 +64,8 @@ public:
     void place(KirvAccountRecord &record, const KirvAccountRecord &before, const QSet<QString> &changed = {});
     /// Reads the secrets of \a account once more.
     void read(KirvAccount *account);
+    /// The same when it needs no question to the user, as before a log-in that nobody has requested.
+    void readUnlocked(KirvAccount *account);
     /// What is stored has changed.
     void scheduleLoad();
     /// Whether the profile has refused a secret for which there is no keyring; it is tried again by scheduleLoad().

@@ -42,6 +42,10 @@ private Q_SLOTS:
     void knownPasswordsAreUsedWhenTheKeyringCannotBeRead();
     void aPasswordForNowIsUsedWhenTheKeyringCannotBeRead();
     void aPasswordThatIsNotRememberedAnyMoreIsNotAwaited();
+    void aLostConnectionUsesWhatTheKeyringHoldsNow_data();
+    void aLostConnectionUsesWhatTheKeyringHoldsNow();
+    void aLostConnectionDoesNotAskToUnlockTheKeyring_data();
+    void aLostConnectionDoesNotAskToUnlockTheKeyring();
 
 private:
     void settle();
@@ -338,6 +342,68 @@ void tst_WaitingForSecrets::aPasswordThatIsNotRememberedAnyMoreIsNotAwaited()
     settle();
     QVERIFY(keyring->secrets.isEmpty());
     QVERIFY(account()->getPassword().isEmpty());
+}
+
+void tst_WaitingForSecrets::aLostConnectionUsesWhatTheKeyringHoldsNow_data()
+{
+    QTest::addColumn<QString>("held");
+    QTest::addColumn<QStringList>("logIns"); ///< before the time of the connection's own attempt
+    QTest::addColumn<int>("requests");
+    QTest::newRow("the same") << password << QStringList() << 0;
+    QTest::newRow("changed by another program") << newer << QStringList(logIn(newer)) << 0;
+    QTest::newRow("deleted by another program") << QString() << QStringList(logIn(QString())) << 1;
+}
+
+/// Also where nobody requests the log-in: the connection tries again by itself.
+void tst_WaitingForSecrets::aLostConnectionUsesWhatTheKeyringHoldsNow()
+{
+    QFETCH(QString, held);
+    QFETCH(QStringList, logIns);
+    QFETCH(int, requests);
+    core->server().needsPassword = true;
+    QSignalSpy asked(core->accounts.get(), &KirvAccountCollection::passwordNeeded);
+    if (held.isEmpty())
+        keyring->secrets.clear();
+    else
+        keyring->secrets.first() = held;
+    keyring->calls.clear();
+    core->connection()->serverGoes();
+    settle();
+    QCOMPARE(keyring->calls, QStringList("read"));
+    QCOMPARE(core->takeCalls().filter(QStringLiteral("log in")), logIns);
+    QCOMPARE(int(asked.size()), requests);
+    QCOMPARE(account()->getPassword(), held);
+    QVERIFY(!account()->awaitsSecrets());
+}
+
+void tst_WaitingForSecrets::aLostConnectionDoesNotAskToUnlockTheKeyring_data()
+{
+    QTest::addColumn<KirvSecretStore::State>("state");
+    QTest::addColumn<KirvSecretStore::Outcome>("outcome"); ///< of a read before
+    QTest::newRow("locked") << KirvSecretStore::Locked << KirvSecretStore::Done;
+    QTest::newRow("refused before") << KirvSecretStore::Ready << KirvSecretStore::Refused;
+    QTest::newRow("silent") << KirvSecretStore::Silent << KirvSecretStore::Done;
+    QTest::newRow("gone") << KirvSecretStore::Unavailable << KirvSecretStore::Done;
+}
+
+/// What is known is used.
+void tst_WaitingForSecrets::aLostConnectionDoesNotAskToUnlockTheKeyring()
+{
+    QFETCH(KirvSecretStore::State, state);
+    QFETCH(KirvSecretStore::Outcome, outcome);
+    keyring->setState(state);
+    keyring->outcome = outcome;
+    if (outcome != KirvSecretStore::Done)
+        account()->reconnect();
+    settle();
+    keyring->calls.clear();
+    core->takeCalls();
+    core->connection()->serverGoes();
+    settle();
+    QCOMPARE(keyring->calls, QStringList());
+    QCOMPARE(account()->getPassword(), password);
+    QCOMPARE(core->connection()->state(), KirvConnection::Waiting);
+    QVERIFY(!account()->awaitsSecrets());
 }
 
 QTEST_MAIN(tst_WaitingForSecrets)
