@@ -19,6 +19,7 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 #include <QIcon>
+#include <QList>
 #include <QMenu>
 #include <QMessageBox>
 #include <QShortcut>
@@ -208,6 +209,7 @@ void KirvAccountsTab::updateAccounts()
         connectSelector(false);
         mainAccountBox->clear();
         offeredAccounts.clear();
+        offeredAccounts.reserve(accountList->topLevelItemCount());
     }
 
     for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
@@ -259,7 +261,7 @@ void KirvAccountsTab::removeFromSelector(const QString &accountId, const QString
     // The entry that becomes current in place of a removed one was not chosen by the user.
     connectSelector(false);
     for (int i = offeredAccounts.indexOf(key); i != -1; i = offeredAccounts.indexOf(key)) {
-        offeredAccounts.removeAt(i);
+        offeredAccounts.remove(i);
         mainAccountBox->removeItem(i);
     }
     connectSelector(true);

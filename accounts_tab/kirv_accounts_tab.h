@@ -6,9 +6,9 @@
 
 #include <QHash>
 #include <QIcon>
-#include <QList>
 #include <QPair>
 #include <QString>
+#include <QVector>
 #include <QWidget>
 
 class KirvAccountConnection;
@@ -133,7 +133,7 @@ private:
     QTreeWidgetItem *rowInQuestion;
     /// The account of each entry of the selector, in its order: finds the entry of an account when the
     /// pointer in it must not be followed any more.
-    QList<AccountKey> offeredAccounts;
+    QVector<AccountKey> offeredAccounts;
     /// The icon of each path, kept until a protocol with that path is read again.
     QHash<QString, QIcon> icons;
 };
