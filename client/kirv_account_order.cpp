@@ -80,6 +80,7 @@ KirvAccountOrder::KirvAccountOrder(KirvAccountCollection &accounts, const KirvAc
 void KirvAccountOrder::joinPage()
 {
     restore();
+    isJoined = true;
     connect(list->header(), &QHeaderView::sectionClicked, this, &KirvAccountOrder::headerClicked);
     connect(list->header(), &QHeaderView::sortIndicatorChanged, this, &KirvAccountOrder::sortingChanged);
     sortingChanged();
@@ -151,7 +152,7 @@ bool KirvAccountOrder::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Hide:
-        if (watched == list && !list->header()->isHidden())
+        if (watched == list && isJoined && !list->header()->isHidden())
             saveWidth();
         return false;
     case QEvent::KeyPress: {
@@ -180,10 +181,12 @@ bool KirvAccountOrder::keyPressed(int key)
     if (key != Qt::Key_Up && key != Qt::Key_Down)
         return false;
     const QTreeWidgetItem *row = list->currentItem();
-    if (row && isOwn())
-        move(KirvAccountRows::keyOf(row), key == Qt::Key_Up);
-    else if (row)
+    if (row && !isOwn())
         Q_EMIT moveRefused();
+    else if (row && row->isSelected() && list->selectionModel()->selectedRows().size() > 1)
+        moveSelection(key == Qt::Key_Up);
+    else if (row)
+        move(KirvAccountRows::keyOf(row), key == Qt::Key_Up);
     return true;
 }
 
@@ -287,11 +290,33 @@ void KirvAccountOrder::moveSelection(const QPoint &position)
     // The first row behind that place that stays where it is.
     while (before < list->topLevelItemCount() && list->topLevelItem(before)->isSelected())
         ++before;
-    const KirvAccount *next = accountAt(before);
+    placeSelection(accountAt(before));
+}
+
+void KirvAccountOrder::moveSelection(bool isUp)
+{
+    numberRows();
+    const QModelIndexList selected = selectedRows();
+    const int past = neighbour(isUp ? selected.first().row() : selected.last().row(), isUp);
+    if (past < 0)
+        return;
+    placeSelection(accountAt(isUp ? past : past + 1));
+    list->scrollToItem(list->currentItem());
+}
+
+QModelIndexList KirvAccountOrder::selectedRows() const
+{
     QModelIndexList selected = list->selectionModel()->selectedRows();
     std::sort(selected.begin(), selected.end());
+    return selected;
+}
+
+/// Side by side before \a next, or at the end when it is null.
+void KirvAccountOrder::placeSelection(const KirvAccount *next)
+{
     QList<KirvAccount *> moved;
-    for (const QModelIndex &index : qAsConst(selected)) {
+    const QModelIndexList selected = selectedRows();
+    for (const QModelIndex &index : selected) {
         if (KirvAccount *account = accounts.find(KirvAccountRows::keyOf(index)))
             moved << account;
     }

@@ -19,8 +19,8 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /// The order of the rows of the page's list. Sorting by a header is a view of them; the third click on the header
-/// returns to the user's own order, in which rows are moved by drag and by Alt+Up and Alt+Down. Sorting and widths are
-/// remembered.
+/// returns to the user's own order, in which the selected rows are moved by drag and by Alt+Up and Alt+Down. Sorting
+/// and widths are remembered.
 ///
 /// In the own order the list is sorted by its hidden last column, which the page leaves empty: there each row has a
 /// number. No protocol is called like one, so the page finds no row by it.
@@ -63,6 +63,9 @@ private:
     bool dropped(QDropEvent *event);
     int neighbour(int row, bool isUp) const;
     const KirvAccount *accountAt(int row) const;
+    void moveSelection(bool isUp);
+    QModelIndexList selectedRows() const;
+    void placeSelection(const KirvAccount *next);
 
     void numberLater(const KirvAccountKey &key);
     void numberRows();
@@ -78,6 +81,7 @@ private:
     QSet<KirvAccountKey> unnumbered;
     int lastSection = 0;
     Qt::SortOrder lastOrder = Qt::AscendingOrder;
+    bool isJoined = false; ///< a page may be shown and hidden before
     bool isNumberingDue = false;
     bool isSnapping = false; ///< a drag to the edge of a row
     bool isPressed = false; ///< on a row that may be dragged from there

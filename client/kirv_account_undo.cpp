@@ -39,6 +39,7 @@ QString KirvAccountUndo::command() const
         //: %1 = name of an account
         return count == 1 ? tr("&Undo Disabling %1").arg(name) : tr("&Undo Disabling %n Accounts", nullptr, count);
     case KirvAccountHistory::Import:
+    case KirvAccountHistory::UndoneImport: // is not the latest that can be undone
         break;
     }
     //: %1 = name of an account
@@ -122,8 +123,9 @@ void KirvAccountUndo::show(int step)
     const QString text = messageOf(step);
     replaceEarlier(step, text);
     shown.insert(step, text);
+    const bool isUndone = past.kindOf(step) == KirvAccountHistory::UndoneImport;
     messages.showMessage(
-        text, tr("&Undo"), [this, step] { undo(step); }, KirvMessageBar::Information);
+        text, isUndone ? tr("&Import Again") : tr("&Undo"), [this, step] { undo(step); }, KirvMessageBar::Information);
 }
 
 /// Takes the message \a text of an earlier step on an account of the same name away: its button would undo that one.
@@ -174,6 +176,10 @@ QString KirvAccountUndo::messageOf(int step) const
         //: %1 = name of an account, %2 = name of its protocol
         return count == 1 ? tr("The account %1 (%2) was disabled.").arg(name, protocol)
                           : tr("%n accounts were disabled.", nullptr, count);
+    case KirvAccountHistory::UndoneImport:
+        //: %1 = name of an account, %2 = name of its protocol
+        return count == 1 ? tr("The import of the account %1 (%2) was undone.").arg(name, protocol)
+                          : tr("The import of %n accounts was undone.", nullptr, count);
     case KirvAccountHistory::Import:
         break;
     }

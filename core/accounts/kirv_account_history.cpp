@@ -90,7 +90,9 @@ void KirvAccountHistory::addImport(const Imported &imported)
 
 int KirvAccountHistory::latest() const
 {
-    return steps.isEmpty() ? 0 : steps.last().number;
+    const auto isDone = [](const Step &step) { return step.kind != UndoneImport; };
+    const auto found = std::find_if(steps.crbegin(), steps.crend(), isDone);
+    return found == steps.crend() ? 0 : found->number;
 }
 
 int KirvAccountHistory::indexOf(int step) const
@@ -109,13 +111,15 @@ bool KirvAccountHistory::isRemovalHeld(const KirvAccountKey &key) const
 bool KirvAccountHistory::canUndo(int step) const
 {
     const int index = indexOf(step);
-    if (index < 0 || steps.at(index).kind == Import)
+    const Kind kind = steps.value(index).kind;
+    if (index < 0 || kind == Import)
         return index >= 0;
-    const bool isRemoval = steps.at(index).kind == Removal;
     const QList<Change> &changes = steps.at(index).changes;
     return std::any_of(changes.begin(), changes.end(), [&](const Change &change) {
         const KirvAccountKey &key = change.account.record.key;
-        return isRemoval ? !accounts.hasLogin(key) : !isRemovalHeld(key);
+        if (kind == Removal || change.isNew)
+            return !accounts.hasLogin(key);
+        return kind == UndoneImport ? accounts.find(key) != nullptr : !isRemovalHeld(key);
     });
 }
 
@@ -123,6 +127,8 @@ int KirvAccountHistory::latestUndoable() const
 {
     QSet<KirvAccountKey> passed;
     for (auto step = steps.crbegin(); step != steps.crend(); ++step) {
+        if (step->kind == UndoneImport)
+            continue;
         const QList<Change> &changes = step->changes;
         const bool isApart = std::none_of(changes.begin(), changes.end(), [&passed](const Change &change) {
             return passed.contains(change.account.record.key);
@@ -225,6 +231,7 @@ QStringList KirvAccountHistory::undo(int step)
     if (index < 0)
         return {};
     Step undone = steps.takeAt(index);
+    Step opposite = oppositeOf(undone);
     const QPointer<KirvAccountHistory> alive(this);
     const Rest rest = undone.kind == Disabling ? enableAll(undone) : bringBack(undone);
     if (!alive)
@@ -235,6 +242,10 @@ QStringList KirvAccountHistory::undo(int step)
     }
     if (rest.changes.isEmpty()) {
         Q_EMIT stepGone(step);
+        if (!alive || opposite.changes.isEmpty())
+            return rest.reasons;
+        opposite.number = ++lastNumber;
+        add(opposite);
         return rest.reasons;
     }
     undone.changes = rest.changes;
@@ -249,6 +260,26 @@ QStringList KirvAccountHistory::undo(int step)
     return rest.reasons;
 }
 
+/// What undoes the undoing of \a step, which is about to be undone. Without changes where that is not needed.
+KirvAccountHistory::Step KirvAccountHistory::oppositeOf(const Step &step) const
+{
+    Step opposite { 0, step.kind == Import ? UndoneImport : Import, {} };
+    if (step.kind != Import && step.kind != UndoneImport)
+        return opposite;
+    for (const Change &change : step.changes) {
+        const KirvAccount *account = accounts.find(change.account.record.key);
+        Change now;
+        now.account.record.key = change.account.record.key; // is all that removing it again needs
+        now.name = change.name;
+        now.isNew = change.isNew;
+        if (account)
+            now = { accounts.copyOf(account), account->displayName(), mainAccount.account() == account, change.isNew };
+        if (account || (step.kind == UndoneImport && change.isNew))
+            opposite.changes << now;
+    }
+    return opposite;
+}
+
 /// As one change of the store.
 KirvAccountHistory::Rest KirvAccountHistory::bringBack(const Step &step)
 {
@@ -258,7 +289,7 @@ KirvAccountHistory::Rest KirvAccountHistory::bringBack(const Step &step)
     // The latest first, so that each finds the neighbours that it had.
     for (auto change = step.changes.crbegin(); change != step.changes.crend(); ++change) {
         const QString reason = addTo(&batch, step.kind, *change);
-        const bool isBlocked = !reason.isEmpty() && step.kind == Removal;
+        const bool isBlocked = !reason.isEmpty() && (step.kind == Removal || change->isNew);
         if (reason.isEmpty() || isBlocked)
             rest.changes.prepend(*change);
         if (isBlocked)
@@ -280,19 +311,23 @@ QString KirvAccountHistory::addTo(KirvAccountBatch *batch, Kind kind, const Chan
 {
     const KirvAccountKey &key = change.account.record.key;
     KirvAccount *account = accounts.find(key);
-    if (change.isNew) {
+    if (kind == Import && change.isNew) {
         if (account)
             batch->removed << account;
         return QString();
     }
-    if (kind == Removal && accounts.hasLogin(key))
+    const bool isAdded = kind == Removal || change.isNew;
+    if (isAdded && accounts.hasLogin(key))
         return accounts.problemWithNew(key);
-    if (kind == Import && !account) {
-        //: %1 = name of an account
-        return tr("The account \"%1\" cannot be restored to what it was before the import: it was removed.")
-            .arg(change.name);
+    if (!isAdded && !account) {
+        return kind == Import
+            //: %1 = name of an account
+            ? tr("The account \"%1\" cannot be restored to what it was before the import: it was removed.")
+                  .arg(change.name)
+            //: %1 = name of an account
+            : tr("The account \"%1\" cannot be imported again: it was removed.").arg(change.name);
     }
-    (kind == Removal ? batch->added : batch->replaced) << change.account;
+    (isAdded ? batch->added : batch->replaced) << change.account;
     if (change.wasMain && change.account.record.enabled)
         batch->mainAccount = key;
     return QString();

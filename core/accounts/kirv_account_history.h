@@ -16,7 +16,8 @@ class KirvMainAccount;
 
 /// What was removed, disabled and imported in this run, whoever did it, and how it is undone.
 ///
-/// A step is one removal or disabling, or several of them between beginStep() and endStep(), or one import. An account
+/// A step is one removal or disabling, or several of them between beginStep() and endStep(), or one import. An import
+/// that is undone is followed by a step that makes it again, with what was changed since: neither is lost. An account
 /// that is enabled in another way leaves the step that disabled it. Everything is in memory only, until the history is
 /// destroyed or the step is dropped: there are at most mostSteps, and as long as they hold more than mostBytes of
 /// pictures, the oldest ones go, but never the latest.
@@ -24,7 +25,12 @@ class KirvAccountHistory : public QObject {
     Q_OBJECT
 
 public:
-    enum Kind { Removal, Disabling, Import };
+    enum Kind {
+        Removal,
+        Disabling,
+        Import,
+        UndoneImport ///< latest() and latestUndoable() pass it over: what undoes does not make anything again
+    };
     static constexpr int mostSteps = 1000;
     static constexpr qint64 mostBytes = 64 * 1024 * 1024;
 
@@ -61,8 +67,8 @@ public:
     QStringList namesOf(int step) const;
 
     /// Undoes the step: removed accounts are there again with everything that belonged to them, disabled ones are
-    /// enabled with the presence that was wanted, imported ones are removed or as they were before, and the main
-    /// account is the one that it was. Gives the reasons, a sentence each, why some of it was not undone. What the
+    /// enabled with the presence that was wanted, imported ones are removed or as they were before, those of an undone
+    /// import as they were before that, and the main account is the one that it was. Gives the reasons, a sentence each, why some of it was not undone. What the
     /// store refused stays in the step and can be undone later, of removals and imports all of it, and so do accounts
     /// to enable that a later step removed, and removed ones as long as there is such an account again; what cannot be
     /// undone, as there is no such account any more, is dropped.
@@ -80,7 +86,7 @@ private:
         KirvRemovedAccount account; ///< of one that is there only what undoing it needs
         QString name;
         bool wasMain = false;
-        bool isNew = false; ///< by an import
+        bool isNew = false; ///< an import has added it
     };
     struct Step {
         int number = 0;
@@ -103,6 +109,7 @@ private:
     void add(const Step &step);
     void dropOldest();
     void forget(int index);
+    Step oppositeOf(const Step &step) const;
     void accountChanged(const KirvAccount *account);
     Rest bringBack(const Step &step);
     QString addTo(KirvAccountBatch *batch, Kind kind, const Change &change) const;

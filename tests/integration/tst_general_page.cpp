@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QDesktopServices>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -47,6 +48,8 @@ private Q_SLOTS:
     void languagesAreListedInTheirOwnWords();
     void chosenLanguageIsSpokenAtOnce();
     void pageWorksAfterEachChange();
+    void columnsKeepTheirWidths_data();
+    void columnsKeepTheirWidths();
     void disabledAccountsAreEnabledAgainAfterwards();
     void chosenLanguageIsSpokenAtTheNextStart();
     void languageOfTheSystemIsChosenAgain();
@@ -182,6 +185,33 @@ void tst_GeneralPage::pageWorksAfterEachChange()
         KirvLayoutDialog *edited = windows->edit(ann);
         QVERIFY(edited);
         KirvClientWindows::save(edited);
+    }
+}
+
+void tst_GeneralPage::columnsKeepTheirWidths_data()
+{
+    QTest::addColumn<int>("dragged"); ///< by the user before; 0: not at all
+    QTest::newRow("usual") << 0;
+    QTest::newRow("dragged") << 37;
+}
+
+void tst_GeneralPage::columnsKeepTheirWidths()
+{
+    QFETCH(int, dragged);
+    const auto showAccounts = [this] {
+        KirvClientWindows::child<QListWidget>(window(), "Settings_Pages")->setCurrentRow(0);
+        KirvClientWindows::settle();
+    };
+    showAccounts();
+    const int width = windows->list()->columnWidth(1) + dragged;
+    windows->list()->header()->resizeSection(1, width);
+    for (const QString &language : { german, arabic, QString() }) {
+        showPage();
+        choose(language);
+        showAccounts();
+        QCOMPARE(windows->list()->columnWidth(1), width);
+        QCOMPARE(windows->client->settings().value("accounts_page/protocol_width"),
+                 dragged ? QString::number(width) : QString());
     }
 }
 

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void thirdClickReturnsToTheOwnOrder_data();
     void thirdClickReturnsToTheOwnOrder();
     void keysMoveTheCurrentAccount();
+    void keysMoveSeveralAccounts();
     void keysMoveNothingWhileItIsSorted();
     void sortedListSaysWhyNothingMoves_data();
     void sortedListSaysWhyNothingMoves();
@@ -186,6 +187,35 @@ void tst_OwnOrder::keysMoveTheCurrentAccount()
     windows->restart();
     KirvClientWindows::settle();
     QCOMPARE(windows->rowIds(), QStringList({ dora, ann, bob, cleo }));
+}
+
+/// Together, in one change of the store, and side by side as when they are dragged.
+void tst_OwnOrder::keysMoveSeveralAccounts()
+{
+    useOwnOrder();
+    windows->select(cleo);
+    windows->row(ann)->setSelected(true);
+    const auto pressKey = [this](Qt::Key key) {
+        const int before = windows->client->profile().commitCount();
+        QTest::keyClick(list(), key, Qt::AltModifier);
+        KirvClientWindows::settle();
+        return windows->client->profile().commitCount() - before;
+    };
+    list()->setFocus();
+    QCOMPARE(pressKey(Qt::Key_Up), 0); // they are the first ones
+    QCOMPARE(pressKey(Qt::Key_Down), 1);
+    QCOMPARE(windows->rowIds(), QStringList({ dora, cleo, ann, bob }));
+    QCOMPARE(int(list()->selectedItems().size()), 2);
+    QCOMPARE(pressKey(Qt::Key_Down), 1);
+    QCOMPARE(pressKey(Qt::Key_Down), 0);
+    QCOMPARE(windows->rowIds(), QStringList({ dora, bob, cleo, ann }));
+    QCOMPARE(pressKey(Qt::Key_Up), 1);
+    QCOMPARE(storedIds(), QStringList({ dora, cleo, ann, bob }));
+    windows->row(ann)->setSelected(false);
+    windows->row(bob)->setSelected(true); // dora is between none of them, ann between both
+    QCOMPARE(pressKey(Qt::Key_Up), 1);
+    QCOMPARE(windows->rowIds(), QStringList({ cleo, bob, dora, ann }));
+    QTest::keyRelease(list(), Qt::Key_Alt);
 }
 
 void tst_OwnOrder::keysMoveNothingWhileItIsSorted()

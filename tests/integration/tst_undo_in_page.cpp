@@ -51,6 +51,7 @@ private Q_SLOTS:
     void messageUndoesDisabling();
     void messageAndMenuUndoAnImport_data();
     void messageAndMenuUndoAnImport();
+    void importThatIsUndoneCanBeMadeAgain();
     void disablingIsNotOfferedWhileTheRemovalCanBeUndone();
     void closedMessageStaysClosed();
     void undoAsksNothing();
@@ -274,16 +275,20 @@ void tst_UndoInPage::messageAndMenuUndoAnImport_data()
     QTest::addColumn<QStringList>("ids");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("undone");
     QTest::newRow("one") << QStringList { "dora" } << "The account dora (Fake) was imported."
-                         << "&Undo Importing dora";
+                         << "&Undo Importing dora"
+                         << "The import of the account dora (Fake) was undone.";
     QTest::newRow("several") << QStringList { "dora", "eve" } << "2 accounts were imported."
-                             << "&Undo Importing 2 Accounts";
+                             << "&Undo Importing 2 Accounts"
+                             << "The import of 2 accounts was undone.";
 }
 
 void tst_UndoInPage::messageAndMenuUndoAnImport()
 {
     QFETCH(QStringList, ids);
     QFETCH(QString, message);
+    QFETCH(QString, undone);
     KirvAccountHistory::Imported imported;
     for (const QString &id : ids)
         imported.added << windows->addAccount(id)->key();
@@ -300,10 +305,34 @@ void tst_UndoInPage::messageAndMenuUndoAnImport()
         else
             clickUndo();
         QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
-        QCOMPARE(windows->messages(), QStringList());
+        QCOMPARE(windows->messages(), QStringList { undone });
+        bar()->removeMessage(undone);
         for (const QString &id : ids)
             windows->addAccount(id);
     }
+}
+
+/// The key may be meant for what was changed since, which it does not undo.
+void tst_UndoInPage::importThatIsUndoneCanBeMadeAgain()
+{
+    KirvAccountHistory &history = windows->client->window()->findChild<KirvAccountUndo *>()->history();
+    KirvAccount *dora = windows->addAccount(QStringLiteral("dora"));
+    history.addImport({ { dora->key() }, {}, {} });
+    QVERIFY(dora->change([](KirvAccountRecord &record) { record.alias = QStringLiteral("renamed"); }));
+    press(list(), Qt::Key_Z);
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
+    const QString undone = QStringLiteral("The import of the account renamed (Fake) was undone.");
+    QCOMPARE(windows->messages(), QStringList { undone });
+    press(list(), Qt::Key_Z); // nothing before it
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(windows->messages(), QStringList { undone });
+    QCOMPARE(undoButton()->text(), QStringLiteral("&Import Again"));
+    clickUndo();
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo, "dora" }));
+    QCOMPARE(windows->account(QStringLiteral("dora"))->record().alias, QStringLiteral("renamed"));
+    QCOMPARE(windows->messages(), QStringList("The account renamed (Fake) was imported."));
+    press(list(), Qt::Key_Z);
+    QCOMPARE(windows->rowIds(), QStringList({ ann, bob, cleo }));
 }
 
 void tst_UndoInPage::undoAsksNothing()
