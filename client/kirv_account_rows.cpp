@@ -12,6 +12,11 @@ KirvAccountRows::KirvAccountRows(QTreeWidget *list)
     connect(list->model(), &QAbstractItemModel::rowsInserted, this, &KirvAccountRows::insert);
     connect(list->model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, &KirvAccountRows::remove);
     connect(list->model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] { byKey.clear(); });
+    // The buttons of the page follow the current row and work on the selected one.
+    connect(list, &QTreeWidget::itemSelectionChanged, this, [list] {
+        if (!list->selectionModel()->hasSelection())
+            list->selectionModel()->clearCurrentIndex();
+    });
     insert(QModelIndex(), 0, list->topLevelItemCount() - 1);
 }
 
@@ -40,6 +45,8 @@ void KirvAccountRows::selectFirst() const
 KirvAccountKey KirvAccountRows::chosen() const
 {
     const QModelIndexList selected = list->selectionModel()->selectedRows();
+    if (selected.isEmpty())
+        return {};
     const QModelIndex index = selected.size() == 1 ? selected.first() : list->currentIndex();
     return index.isValid() ? keyOf(index) : KirvAccountKey();
 }

@@ -33,8 +33,9 @@ public:
     void select(QTreeWidgetItem *row) const;
     /// The same with the first row where none is selected, so that there is something to begin with.
     void selectFirst() const;
-    /// The account of the row that is selected, if that is one alone, and otherwise of the current row, which need not
-    /// be selected: Edit and Remove of the page take the former, too. The id is empty when there is none.
+    /// The account of the row that is selected, if that is one alone, as Edit and Remove of the page take it; of
+    /// several selected rows the current one. The id is empty when none is selected: then there is no current row
+    /// either.
     KirvAccountKey chosen() const;
     /// The rows of one protocol, by an exact comparison.
     QList<QTreeWidgetItem *> rowsOf(const QString &protocol) const;

@@ -228,9 +228,16 @@ void KirvAccountSearch::apply(int row, bool isMatch)
     QTreeWidgetItem *item = list->topLevelItem(row);
     if (!isMatch && item == list->currentItem())
         list->setCurrentItem(nullptr, KirvAliasColumn, QItemSelectionModel::NoUpdate);
-    if (!isMatch && list->selectionModel()->isRowSelected(row, QModelIndex()))
+    if (!isMatch && list->selectionModel()->isRowSelected(row, QModelIndex())) {
+        deselected = KirvAccountRows::keyOf(item);
         item->setSelected(false);
+    }
     list->setRowHidden(row, QModelIndex(), !isMatch);
+    if (isMatch && !deselected.id.isEmpty() && KirvAccountRows::keyOf(item) == deselected) {
+        deselected = {};
+        if (!list->selectionModel()->hasSelection())
+            rows.select(item);
+    }
 }
 
 bool KirvAccountSearch::isMatch(const KirvAccountKey &key, const QDateTime &now) const

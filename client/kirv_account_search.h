@@ -70,6 +70,7 @@ private:
     QStringList words;
     QSet<KirvAccountKey> touched;
     QSet<KirvAccountKey> kept; ///< shown although they do not match, as they are current or selected
+    KirvAccountKey deselected; ///< as its row was hidden; it is selected again when that is shown and no other is
     bool isOpened = false; ///< by Ctrl+F
     bool isFilterDue = false;
 };

@@ -43,6 +43,8 @@ private Q_SLOTS:
     void rowInUseIsHiddenAfterwards_data();
     void rowInUseIsHiddenAfterwards();
     void hiddenRowIsDeselectedFirst();
+    void selectionComesBackWithItsRow_data();
+    void selectionComesBackWithItsRow();
     void deleteRemovesNoHiddenAccount();
     void keysLeadFromTheFieldToTheList();
     void escapeEmptiesTheField();
@@ -263,8 +265,30 @@ void tst_SearchInPage::hiddenRowIsDeselectedFirst()
     QVERIFY(!list()->currentItem());
     QVERIFY(list()->selectedItems().isEmpty());
     QVERIFY(!windows->pageButton("Accounts_RemoveButton")->isEnabled());
+}
+
+void tst_SearchInPage::selectionComesBackWithItsRow_data()
+{
+    QTest::addColumn<QString>("meanwhile"); ///< selected by the user
+    QTest::addColumn<QString>("selected");
+    QTest::newRow("nothing else is selected") << QString() << idOf(5);
+    QTest::newRow("another row is selected") << idOf(3) << idOf(3);
+}
+
+void tst_SearchInPage::selectionComesBackWithItsRow()
+{
+    QFETCH(QString, meanwhile);
+    QFETCH(QString, selected);
+    fill();
+    windows->select(idOf(5));
+    search(idOf(3));
+    QCOMPARE(shownIds(), QStringList(idOf(3)));
+    QVERIFY(!list()->currentItem());
+    if (!meanwhile.isEmpty())
+        windows->select(meanwhile);
     search(QString());
-    QVERIFY(list()->selectedItems().isEmpty());
+    QCOMPARE(list()->selectedItems(), QList<QTreeWidgetItem *> { windows->row(selected) });
+    QCOMPARE(list()->currentItem(), windows->row(selected));
 }
 
 /// Delete is a shortcut of the whole window.
