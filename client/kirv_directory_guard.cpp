@@ -311,7 +311,11 @@ QString KirvDirectoryGuard::statusText() const
         return tr("Publishing the directory entry…");
     if (edited && isLocked() && edited->directory().isBusy())
         return tr("Requesting the directory entry…");
-    if (!edited || !edited->isOnline())
+    const bool isOffline = !edited || !edited->isOnline();
+    if (isOffline && leftUnpublished)
+        return tr("The account was saved, but its directory entry was not published, as the account is not connected. "
+                  "Save again when it is.");
+    if (isOffline)
         return offlineText();
     if (!wrong.isEmpty())
         return tr("Nothing was saved, because the entry cannot be published like this. Correct what is marked.");

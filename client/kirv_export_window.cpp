@@ -296,8 +296,8 @@ void KirvExportWindow::finish(const Outcome &outcome, const QString &path)
     //: %1 = path of a file
     texts << tr("%n accounts were exported to %1.", nullptr, outcome.count)
                  .arg(kirvPlainName(QDir::toNativeSeparators(path)));
-    if (!passwordsBox->isChecked())
-        texts << tr("The file contains no passwords.");
+    texts << (passwordsBox->isChecked() ? tr("The stored passwords are in it, encrypted with the pass phrase.")
+                                        : tr("The file contains no passwords."));
     const QString leftOut = kirvLeftOutText(tr("The following is not in the file:"), outcome.leftOut);
     if (!leftOut.isEmpty())
         texts << leftOut;

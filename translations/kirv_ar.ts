@@ -507,6 +507,11 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>لا يمكن أن يعود الحساب «%1» إلى ما كان عليه قبل الاستيراد: لقد أُزيل.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be imported again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>لا يمكن استيراد الحساب ”%1“ مرة أخرى: لقد أزيل.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountImport</name>
@@ -1105,6 +1110,26 @@
             <numerusform>استُوردت %n حسابات.</numerusform>
             <numerusform>استُورد %n حسابًا.</numerusform>
             <numerusform>استُورد %n حساب.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import Again</source>
+        <translation>ا&amp;ستيراد مرة أخرى</translation>
+    </message>
+    <message>
+        <source>The import of the account %1 (%2) was undone.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>تم التراجع عن استيراد الحساب %1 (%2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>لم يُتراجع عن استيراد أي حساب.</numerusform>
+            <numerusform>تم التراجع عن استيراد حساب واحد.</numerusform>
+            <numerusform>تم التراجع عن استيراد حسابين.</numerusform>
+            <numerusform>تم التراجع عن استيراد %n حسابات.</numerusform>
+            <numerusform>تم التراجع عن استيراد %n حسابًا.</numerusform>
+            <numerusform>تم التراجع عن استيراد %n حساب.</numerusform>
         </translation>
     </message>
 </context>
@@ -1847,6 +1872,10 @@ A file is called - where the standard output or input is meant.</source>
         <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
         <translation>لم يُحفظ شيء، لأن المدخلة لا يمكن نشرها هكذا. صحّح ما هو معلَّم.</translation>
     </message>
+    <message>
+        <source>The account was saved, but its directory entry was not published, as the account is not connected. Save again when it is.</source>
+        <translation>حُفظ الحساب، لكن لم تُنشر مدخلته في الدليل لأنه غير متصل. احفظ مرة أخرى عندما يتصل.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1948,6 +1977,10 @@ A file is called - where the standard output or input is meant.</source>
     <message>
         <source>The following is not in the file:</source>
         <translation>ما ليس في الملف:</translation>
+    </message>
+    <message>
+        <source>The stored passwords are in it, encrypted with the pass phrase.</source>
+        <translation>كلمات السر المخزنة موجودة فيه، مشفرة بعبارة السر.</translation>
     </message>
 </context>
 <context>

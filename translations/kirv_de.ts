@@ -491,6 +491,11 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Das Konto „%1“ kann nicht wieder werden, was es vor dem Import war: Es wurde entfernt.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be imported again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Das Konto „%1“ kann nicht noch einmal importiert werden: Es wurde entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountImport</name>
@@ -536,7 +541,7 @@
     </message>
     <message>
         <source>Register a New One…</source>
-        <translation>Neues registrieren…</translation>
+        <translation>Neues registrieren …</translation>
     </message>
     <message>
         <source>Create a new account on a server</source>
@@ -568,11 +573,11 @@
     </message>
     <message>
         <source>Import…</source>
-        <translation>Importieren…</translation>
+        <translation>Importieren …</translation>
     </message>
     <message>
         <source>Import from Pidgin…</source>
-        <translation>Aus Pidgin importieren…</translation>
+        <translation>Aus Pidgin importieren …</translation>
     </message>
 </context>
 <context>
@@ -644,7 +649,7 @@
     </message>
     <message>
         <source>&amp;Report…</source>
-        <translation>&amp;Bericht…</translation>
+        <translation>&amp;Bericht …</translation>
     </message>
     <message>
         <source>Puts the log and the versions of the program together for somebody who helps.</source>
@@ -730,7 +735,7 @@
     <message>
         <source>Waiting to connect…</source>
         <extracomment>other accounts connect first</extracomment>
-        <translation>Wartet auf die Verbindung…</translation>
+        <translation>Wartet auf die Verbindung …</translation>
     </message>
     <message>
         <source>Waiting, next try in %1 s</source>
@@ -914,7 +919,7 @@
     <name>KirvAccountStrip</name>
     <message>
         <source>Enter Password…</source>
-        <translation>Passwort eingeben…</translation>
+        <translation>Passwort eingeben …</translation>
     </message>
     <message>
         <source>Takes another password and logs the account in with it.</source>
@@ -930,7 +935,7 @@
     </message>
     <message>
         <source>Edit…</source>
-        <translation>Bearbeiten…</translation>
+        <translation>Bearbeiten …</translation>
     </message>
     <message>
         <source>Change the account</source>
@@ -978,7 +983,7 @@
     </message>
     <message>
         <source>Show Certificate…</source>
-        <translation>Zertifikat anzeigen…</translation>
+        <translation>Zertifikat anzeigen …</translation>
     </message>
     <message>
         <source>Shows the certificate of the server and asks whether it is trusted.</source>
@@ -1061,6 +1066,22 @@
         <translation>
             <numerusform>Ein Konto wurde importiert.</numerusform>
             <numerusform>%n Konten wurden importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import Again</source>
+        <translation>&amp;Erneut importieren</translation>
+    </message>
+    <message>
+        <source>The import of the account %1 (%2) was undone.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Der Import des Kontos %1 (%2) wurde rückgängig gemacht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>Der Import von %n Konto wurde rückgängig gemacht.</numerusform>
+            <numerusform>Der Import von %n Konten wurde rückgängig gemacht.</numerusform>
         </translation>
     </message>
 </context>
@@ -1777,11 +1798,11 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Publishing the directory entry…</source>
-        <translation>Der Verzeichniseintrag wird veröffentlicht…</translation>
+        <translation>Der Verzeichniseintrag wird veröffentlicht …</translation>
     </message>
     <message>
         <source>Requesting the directory entry…</source>
-        <translation>Der Verzeichniseintrag wird abgerufen…</translation>
+        <translation>Der Verzeichniseintrag wird abgerufen …</translation>
     </message>
     <message>
         <source>The account must be connected before its directory entry can be read or changed.</source>
@@ -1794,6 +1815,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
         <translation>Nichts wurde gespeichert, weil der Eintrag so nicht veröffentlicht werden kann. Berichtigen Sie, was markiert ist.</translation>
+    </message>
+    <message>
+        <source>The account was saved, but its directory entry was not published, as the account is not connected. Save again when it is.</source>
+        <translation>Das Konto wurde gespeichert, sein Verzeichniseintrag aber nicht veröffentlicht, da das Konto nicht verbunden ist. Speichern Sie noch einmal, wenn es verbunden ist.</translation>
     </message>
 </context>
 <context>
@@ -1855,7 +1880,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation>&amp;Exportieren…</translation>
+        <translation>&amp;Exportieren …</translation>
     </message>
     <message>
         <source>Choose the file to which the accounts are written.</source>
@@ -1892,6 +1917,10 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>The following is not in the file:</source>
         <translation>Nicht in der Datei enthalten:</translation>
+    </message>
+    <message>
+        <source>The stored passwords are in it, encrypted with the pass phrase.</source>
+        <translation>Die gespeicherten Passwörter sind darin, mit der Passphrase verschlüsselt.</translation>
     </message>
 </context>
 <context>
@@ -2145,7 +2174,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <name>KirvFileButton</name>
     <message>
         <source>Choose…</source>
-        <translation>Wählen…</translation>
+        <translation>Wählen …</translation>
     </message>
     <message>
         <source>Choose the file.</source>
@@ -2235,7 +2264,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>&amp;Export Accounts…</source>
-        <translation>Konten e&amp;xportieren…</translation>
+        <translation>Konten e&amp;xportieren …</translation>
     </message>
     <message>
         <source>Writes accounts to a file that can be imported on another computer.</source>
@@ -2243,7 +2272,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>&amp;Import Accounts…</source>
-        <translation>Konten &amp;importieren…</translation>
+        <translation>Konten &amp;importieren …</translation>
     </message>
     <message>
         <source>Takes accounts over from such a file, or from Pidgin.</source>
@@ -2282,7 +2311,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Choose Another &amp;File…</source>
-        <translation>Andere &amp;Datei wählen…</translation>
+        <translation>Andere &amp;Datei wählen …</translation>
     </message>
     <message>
         <source>&amp;Without Passwords</source>
@@ -2303,7 +2332,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>The file %1 is being read…</source>
         <extracomment>%1 = path of a file</extracomment>
-        <translation>Die Datei %1 wird gelesen…</translation>
+        <translation>Die Datei %1 wird gelesen …</translation>
     </message>
     <message>
         <source>The file %1 contains passwords. Enter the pass phrase with which they are encrypted.</source>
@@ -3026,7 +3055,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <name>KirvPageCommands</name>
     <message>
         <source>Re&amp;move…</source>
-        <translation>Ent&amp;fernen…</translation>
+        <translation>Ent&amp;fernen …</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
@@ -3078,7 +3107,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <source>Re&amp;move %n Accounts…</source>
         <translation>
             <numerusform>Ein Konto ent&amp;fernen…</numerusform>
-            <numerusform>%n Konten ent&amp;fernen…</numerusform>
+            <numerusform>%n Konten ent&amp;fernen …</numerusform>
         </translation>
     </message>
     <message>
@@ -3091,7 +3120,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Disable A&amp;ll…</source>
-        <translation>A&amp;lle deaktivieren…</translation>
+        <translation>A&amp;lle deaktivieren …</translation>
     </message>
     <message>
         <source>Enable Those &amp;Again</source>
@@ -3107,7 +3136,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Show &amp;Certificate…</source>
-        <translation>&amp;Zertifikat anzeigen…</translation>
+        <translation>&amp;Zertifikat anzeigen …</translation>
     </message>
     <message>
         <source>&amp;Test Log-In</source>
@@ -3121,12 +3150,12 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
         <source>E&amp;xport %n Accounts…</source>
         <translation>
             <numerusform>Ein Konto e&amp;xportieren…</numerusform>
-            <numerusform>%n Konten e&amp;xportieren…</numerusform>
+            <numerusform>%n Konten e&amp;xportieren …</numerusform>
         </translation>
     </message>
     <message>
         <source>E&amp;xport…</source>
-        <translation>E&amp;xportieren…</translation>
+        <translation>E&amp;xportieren …</translation>
     </message>
 </context>
 <context>
@@ -3534,7 +3563,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>&amp;Report…</source>
-        <translation>&amp;Bericht…</translation>
+        <translation>&amp;Bericht …</translation>
     </message>
     <message>
         <source>Puts versions, plug-ins and the states of the accounts together for somebody who helps.</source>
@@ -3699,7 +3728,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <name>KirvProfileSaver</name>
     <message>
         <source>&amp;Save to Another Folder…</source>
-        <translation>In anderem Ordner &amp;speichern…</translation>
+        <translation>In anderem Ordner &amp;speichern …</translation>
     </message>
     <message>
         <source>Save to an Empty Folder</source>
@@ -3972,7 +4001,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation>&amp;Speichern…</translation>
+        <translation>&amp;Speichern …</translation>
     </message>
     <message>
         <source>Save Report</source>
@@ -4104,7 +4133,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Reading the password…</source>
-        <translation>Das Passwort wird gelesen…</translation>
+        <translation>Das Passwort wird gelesen …</translation>
     </message>
     <message>
         <source>The keyring is locked</source>
@@ -4310,7 +4339,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     <message>
         <source>Reading the picture for &quot;%1&quot;…</source>
         <extracomment>%1 = a caption</extracomment>
-        <translation>Das Bild für „%1“ wird gelesen…</translation>
+        <translation>Das Bild für „%1“ wird gelesen …</translation>
     </message>
 </context>
 <context>
@@ -4609,7 +4638,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Deleting the account…</source>
-        <translation>Das Konto wird gelöscht…</translation>
+        <translation>Das Konto wird gelöscht …</translation>
     </message>
 </context>
 <context>
@@ -4698,7 +4727,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Changing the password…</source>
-        <translation>Das Passwort wird geändert…</translation>
+        <translation>Das Passwort wird geändert …</translation>
     </message>
 </context>
 <context>
@@ -4858,7 +4887,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Requesting the registration form…</source>
-        <translation>Das Registrierungsformular wird abgerufen…</translation>
+        <translation>Das Registrierungsformular wird abgerufen …</translation>
     </message>
     <message>
         <source>This server does not register accounts from within a client.</source>
@@ -4879,7 +4908,7 @@ Für die Standardausgabe oder -eingabe steht - anstelle einer Datei.</translatio
     </message>
     <message>
         <source>Sending the form…</source>
-        <translation>Das Formular wird gesendet…</translation>
+        <translation>Das Formular wird gesendet …</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted. Somebody between you and the server could read your password.</source>

@@ -89,6 +89,13 @@
             <numerusform>%n accounts were imported.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>The import of %n account was undone.</numerusform>
+            <numerusform>The import of %n accounts was undone.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>KirvClient</name>

@@ -491,6 +491,11 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>La cuenta «%1» no puede volver a ser como era antes de la importación: se eliminó.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be imported again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>La cuenta «%1» no se puede importar de nuevo: se eliminó.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountImport</name>
@@ -1061,6 +1066,22 @@
         <translation>
             <numerusform>Se importó %n cuenta.</numerusform>
             <numerusform>Se importaron %n cuentas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import Again</source>
+        <translation>&amp;Importar de nuevo</translation>
+    </message>
+    <message>
+        <source>The import of the account %1 (%2) was undone.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Se deshizo la importación de la cuenta %1 (%2).</translation>
+    </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>Se deshizo la importación de %n cuenta.</numerusform>
+            <numerusform>Se deshizo la importación de %n cuentas.</numerusform>
         </translation>
     </message>
 </context>
@@ -1795,6 +1816,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
         <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
         <translation>No se guardó nada, porque la entrada no se puede publicar así. Corrija lo que está marcado.</translation>
     </message>
+    <message>
+        <source>The account was saved, but its directory entry was not published, as the account is not connected. Save again when it is.</source>
+        <translation>La cuenta se guardó, pero su entrada del directorio no se publicó, porque la cuenta no está conectada. Guarde de nuevo cuando lo esté.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1892,6 +1917,10 @@ Como archivo, - significa la salida o la entrada estándar.</translation>
     <message>
         <source>The following is not in the file:</source>
         <translation>Lo siguiente no está en el archivo:</translation>
+    </message>
+    <message>
+        <source>The stored passwords are in it, encrypted with the pass phrase.</source>
+        <translation>Las contraseñas guardadas están en él, cifradas con la frase de contraseña.</translation>
     </message>
 </context>
 <context>

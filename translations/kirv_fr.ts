@@ -491,6 +491,11 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Le compte «&#xa0;%1&#xa0;» ne peut pas redevenir ce qu’il était avant l’importation&#xa0;: il a été supprimé.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be imported again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Le compte « %1 » ne peut pas être importé de nouveau : il a été supprimé.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountImport</name>
@@ -1061,6 +1066,22 @@
         <translation>
             <numerusform>%n compte a été importé.</numerusform>
             <numerusform>%n comptes ont été importés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import Again</source>
+        <translation>&amp;Importer de nouveau</translation>
+    </message>
+    <message>
+        <source>The import of the account %1 (%2) was undone.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>L’importation du compte %1 (%2) a été annulée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>L’importation de %n compte a été annulée.</numerusform>
+            <numerusform>L’importation de %n comptes a été annulée.</numerusform>
         </translation>
     </message>
 </context>
@@ -1795,6 +1816,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
         <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
         <translation>Rien n’a été enregistré, car la fiche ne peut pas être publiée ainsi. Corrigez ce qui est marqué.</translation>
     </message>
+    <message>
+        <source>The account was saved, but its directory entry was not published, as the account is not connected. Save again when it is.</source>
+        <translation>Le compte a été enregistré, mais sa fiche d’annuaire n’a pas été publiée, car le compte n’est pas connecté. Enregistrez de nouveau lorsqu’il le sera.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1892,6 +1917,10 @@ Un compte est désigné par PROTOCOLE:ID, ou par son ID seul si aucun autre comp
     <message>
         <source>The following is not in the file:</source>
         <translation>Ne figurent pas dans le fichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The stored passwords are in it, encrypted with the pass phrase.</source>
+        <translation>Les mots de passe enregistrés s’y trouvent, chiffrés avec la phrase secrète.</translation>
     </message>
 </context>
 <context>

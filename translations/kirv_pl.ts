@@ -495,6 +495,11 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>Nie można przywrócić konta „%1” do stanu sprzed importu: zostało usunięte.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be imported again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>Konta „%1” nie można zaimportować ponownie: zostało usunięte.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountImport</name>
@@ -1072,6 +1077,23 @@
             <numerusform>Zaimportowano %n konto.</numerusform>
             <numerusform>Zaimportowano %n konta.</numerusform>
             <numerusform>Zaimportowano %n kont.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import Again</source>
+        <translation>&amp;Zaimportuj ponownie</translation>
+    </message>
+    <message>
+        <source>The import of the account %1 (%2) was undone.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>Import konta %1 (%2) został cofnięty.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>Import %n konta został cofnięty.</numerusform>
+            <numerusform>Import %n kont został cofnięty.</numerusform>
+            <numerusform>Import %n kont został cofnięty.</numerusform>
         </translation>
     </message>
 </context>
@@ -1808,6 +1830,10 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
         <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
         <translation>Nic nie zapisano, ponieważ wpisu nie można opublikować w tej postaci. Popraw to, co zaznaczono.</translation>
     </message>
+    <message>
+        <source>The account was saved, but its directory entry was not published, as the account is not connected. Save again when it is.</source>
+        <translation>Konto zostało zapisane, ale jego wpis w katalogu nie został opublikowany, ponieważ konto nie jest połączone. Zapisz ponownie, gdy będzie połączone.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1906,6 +1932,10 @@ Polecenie „kirv accounts --help” wyjaśnia, jak wypisywać, włączać, wył
     <message>
         <source>The following is not in the file:</source>
         <translation>W pliku nie ma:</translation>
+    </message>
+    <message>
+        <source>The stored passwords are in it, encrypted with the pass phrase.</source>
+        <translation>Zapisane hasła są w nim zaszyfrowane frazą szyfrującą.</translation>
     </message>
 </context>
 <context>

@@ -491,6 +491,11 @@
         <extracomment>%1 = name of an account</extracomment>
         <translation>A conta “%1” não pode voltar a ser como era antes da importação: ela foi removida.</translation>
     </message>
+    <message>
+        <source>The account &quot;%1&quot; cannot be imported again: it was removed.</source>
+        <extracomment>%1 = name of an account</extracomment>
+        <translation>A conta “%1” não pode ser importada de novo: ela foi removida.</translation>
+    </message>
 </context>
 <context>
     <name>KirvAccountImport</name>
@@ -1061,6 +1066,22 @@
         <translation>
             <numerusform>%n conta foi importada.</numerusform>
             <numerusform>%n contas foram importadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import Again</source>
+        <translation>&amp;Importar de novo</translation>
+    </message>
+    <message>
+        <source>The import of the account %1 (%2) was undone.</source>
+        <extracomment>%1 = name of an account, %2 = name of its protocol</extracomment>
+        <translation>A importação da conta %1 (%2) foi desfeita.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The import of %n accounts was undone.</source>
+        <translation>
+            <numerusform>A importação de %n conta foi desfeita.</numerusform>
+            <numerusform>A importação de %n contas foi desfeita.</numerusform>
         </translation>
     </message>
 </context>
@@ -1795,6 +1816,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
         <source>Nothing was saved, because the entry cannot be published like this. Correct what is marked.</source>
         <translation>Nada foi salvo, porque a entrada não pode ser publicada assim. Corrija o que está marcado.</translation>
     </message>
+    <message>
+        <source>The account was saved, but its directory entry was not published, as the account is not connected. Save again when it is.</source>
+        <translation>A conta foi salva, mas sua entrada do diretório não foi publicada, pois a conta não está conectada. Salve novamente quando ela estiver.</translation>
+    </message>
 </context>
 <context>
     <name>KirvEditWindowCompanion</name>
@@ -1892,6 +1917,10 @@ Como arquivo, - significa a saída ou a entrada padrão.</translation>
     <message>
         <source>The following is not in the file:</source>
         <translation>O seguinte não está no arquivo:</translation>
+    </message>
+    <message>
+        <source>The stored passwords are in it, encrypted with the pass phrase.</source>
+        <translation>As senhas armazenadas estão nele, criptografadas com a frase secreta.</translation>
     </message>
 </context>
 <context>

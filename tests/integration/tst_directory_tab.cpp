@@ -236,7 +236,8 @@ void tst_DirectoryTab::entryTypedOffLineIsNotLost()
     QCOMPARE(account()->record().alias, QStringLiteral("Other"));
     QCOMPARE(child<QTabWidget>("EditAccount_Tabs")->currentIndex(), 1);
     QCOMPARE(child<QLabel>("EditAccount_PubDirStatus")->text(),
-             QStringLiteral("The account must be connected before its directory entry can be read or changed."));
+             QStringLiteral("The account was saved, but its directory entry was not published, as the account is not "
+                            "connected. Save again when it is."));
     QCOMPARE(entry("town")->text(), QStringLiteral("Verona"));
     QVERIFY(Windows::button(window, QDialogButtonBox::Save)->isEnabled());
 
