@@ -68,10 +68,10 @@ public:
 
     /// Undoes the step: removed accounts are there again with everything that belonged to them, disabled ones are
     /// enabled with the presence that was wanted, imported ones are removed or as they were before, those of an undone
-    /// import as they were before that, and the main account is the one that it was. Gives the reasons, a sentence each, why some of it was not undone. What the
-    /// store refused stays in the step and can be undone later, of removals and imports all of it, and so do accounts
-    /// to enable that a later step removed, and removed ones as long as there is such an account again; what cannot be
-    /// undone, as there is no such account any more, is dropped.
+    /// import as they were before that, and the main account is the one that it was. Gives the reasons, a sentence
+    /// each, why some of it was not undone. What the store refused stays in the step and can be undone later, of
+    /// removals and imports all of it, and so do accounts to enable that a later step removed, and accounts to add as
+    /// long as there is such an account again; what cannot be undone, as there is no such account any more, is dropped.
     QStringList undo(int step);
 
 Q_SIGNALS:

@@ -86,6 +86,19 @@ KirvAccountConnection *KirvAccountsFixture::create(const QString &id)
                                    protocol.get(), protocol->presences().first(), {});
 }
 
+std::unique_ptr<KirvAccountHistory> KirvAccountsFixture::createWithHistory(const QStringList &ids)
+{
+    KirvMainAccount &mainAccount = services->mainAccountRule;
+    mainAccount.restore();
+    auto history = std::make_unique<KirvAccountHistory>(*accounts, mainAccount);
+    for (const QString &id : ids) {
+        if (!create(id))
+            return nullptr;
+    }
+    settle();
+    return history;
+}
+
 void KirvAccountsFixture::bring(const QString &id, KirvConnection::State state)
 {
     server().logIn = state == KirvConnection::Connecting ? KirvFakeServer::Holds : KirvFakeServer::Accepts;
@@ -132,6 +145,14 @@ void KirvAccountsFixture::setStoreFull(bool isFull)
     QSqlDatabase database = QSqlDatabase::database(QSqlDatabase::connectionNames().value(0), false);
     QVERIFY(QSqlQuery(database).exec(
         QLatin1String(isFull ? "PRAGMA max_page_count = 1" : "PRAGMA max_page_count = 1000000")));
+}
+
+QStringList KirvAccountsFixture::order() const
+{
+    QStringList ids;
+    for (const KirvAccount *account : accounts->accounts())
+        ids << account->key().id;
+    return ids;
 }
 
 QStringList KirvAccountsFixture::idsOf(const QString &protocol)

@@ -4,6 +4,7 @@
 
 #include "core/accounts/kirv_account.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/accounts/kirv_account_history.h"
 #include "core/host/kirv_host_services.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
@@ -45,6 +46,9 @@ public:
 
     /// Creates an account with the alias "Alias of <id>" and the password "word of <id>".
     KirvAccountConnection *create(const QString &id = QStringLiteral("id"));
+    /// Creates the accounts \a ids, one of which becomes the main account; gives what keeps their changes to undo them.
+    /// Null when one of them is refused. The history has to end before the core does.
+    std::unique_ptr<KirvAccountHistory> createWithHistory(const QStringList &ids);
     /// Creates an account and brings its connection into \a state.
     void bring(const QString &id, KirvConnection::State state);
     /// Wants that presence of the account and tells the protocol, as the page does.
@@ -56,6 +60,8 @@ public:
     static void setStoreFull(bool isFull);
     static QString storeFiller() { return QString(100000, QLatin1Char('x')); }
 
+    /// The ids of all accounts in the user's order.
+    QStringList order() const;
     static QStringList idsOf(const QString &protocol);
     /// The values of the settings of \a account in order, "+" and "-" for check boxes.
     static QStringList valuesOf(const KirvAccountConnection *account);

@@ -188,6 +188,23 @@ bool KirvClientWindows::addInWindow(const QString &id, const std::function<void(
     return isAccepted;
 }
 
+void KirvClientWindows::inAddWindow(const std::function<void(KirvLayoutDialog *)> &look) const
+{
+    bool isRun = false;
+    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
+        const QPointer<KirvLayoutDialog> added(window);
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
+        look(window);
+        isRun = true;
+        if (added && added->isVisible())
+            added->reject();
+    });
+    child<QToolButton>(client->accountsPage(), "Accounts_AddButton")->menu()->actions().first()->trigger();
+    settle();
+    QVERIFY(isRun);
+}
+
 KirvLayoutDialog *KirvClientWindows::edit(const QString &id)
 {
     client->accountsPage()->editAccount(account(id));

@@ -64,12 +64,26 @@ public:
     bool addInWindow(
         const QString &id, const std::function<void(QMessageBox *)> &inBox = [](QMessageBox *) {});
 
+    /// Opens the add window, runs \a look in it once it is active, and cancels it when it is still open then.
+    void inAddWindow(const std::function<void(KirvLayoutDialog *)> &look) const;
+
     // The edit window.
     KirvLayoutDialog *edit(const QString &id);
     template <typename T>
     static T *child(const QWidget *window, const char *name)
     {
         return window->findChild<T *>(QLatin1String(name));
+    }
+    /// The visible child of a class; null when there is none.
+    template <typename T>
+    static T *shownChild(const QWidget *window)
+    {
+        const auto all = window->findChildren<T *>();
+        for (T *candidate : all) {
+            if (candidate->isVisible())
+                return candidate;
+        }
+        return nullptr;
     }
     static QPushButton *button(const QWidget *window, QDialogButtonBox::StandardButton which);
     static void save(const QWidget *window);

@@ -56,7 +56,6 @@ private Q_SLOTS:
     void refusedRemovalOfSeveralRemovesNone();
 
 private:
-    QStringList order() const;
     KirvMainAccount &mainAccount() const { return core->services->mainAccountRule; }
     void remove(const QString &id) { QVERIFY(core->accounts->remove(core->account(id))); }
 
@@ -68,25 +67,14 @@ void tst_AccountHistory::init()
 {
     core = std::make_unique<KirvAccountsFixture>();
     QVERIFY(core->isReady());
-    mainAccount().restore();
-    history = std::make_unique<KirvAccountHistory>(*core->accounts, mainAccount());
-    for (const QString &id : { ann, bob, cleo })
-        QVERIFY(core->create(id));
-    core->settle();
+    history = core->createWithHistory({ ann, bob, cleo });
+    QVERIFY(history);
 }
 
 void tst_AccountHistory::cleanup()
 {
     history.reset();
     core.reset();
-}
-
-QStringList tst_AccountHistory::order() const
-{
-    QStringList ids;
-    for (const KirvAccount *account : core->accounts->accounts())
-        ids << account->key().id;
-    return ids;
 }
 
 void tst_AccountHistory::removedAccountComesBackWithEverything()
@@ -185,14 +173,14 @@ void tst_AccountHistory::restoredAccountStandsWhereItStood()
     QFETCH(QStringList, removed);
     for (const QString &id : removed)
         remove(id);
-    QCOMPARE(order().size(), 3 - removed.size());
+    QCOMPARE(core->order().size(), 3 - removed.size());
     while (history->latest())
         QCOMPARE(history->undo(history->latest()), QStringList());
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
     QCOMPARE(KirvAccountsFixture::idsOf(core->fake), QStringList({ ann, bob, cleo }));
     history.reset();
     core->restart();
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
 }
 
 void tst_AccountHistory::severalComeBackInTheFormerOrder_data()
@@ -209,27 +197,27 @@ void tst_AccountHistory::severalComeBackInTheFormerOrder()
     QFETCH(QStringList, removed);
     for (const QString &id : { QStringLiteral("dora"), QStringLiteral("eve") })
         QVERIFY(core->create(id));
-    const QStringList before = order();
+    const QStringList before = core->order();
     QList<KirvAccount *> accounts;
     for (const QString &id : removed)
         accounts << core->account(id);
     history->beginStep(KirvAccountHistory::Removal);
     QVERIFY(core->accounts->remove(accounts));
     history->endStep();
-    QCOMPARE(int(order().size()), 2);
+    QCOMPARE(int(core->order().size()), 2);
     QCOMPARE(history->undo(history->latest()), QStringList());
-    QCOMPARE(order(), before);
+    QCOMPARE(core->order(), before);
     QCOMPARE(KirvAccountsFixture::idsOf(core->fake), before);
     QCOMPARE(mainAccount().account(), core->account(ann));
     history.reset();
     core->restart();
-    QCOMPARE(order(), before);
+    QCOMPARE(core->order(), before);
 }
 
 void tst_AccountHistory::stepsUndoneInAnyOrderGiveTheFormerOrder()
 {
     QVERIFY(core->create(QStringLiteral("dora")));
-    const QStringList before = order();
+    const QStringList before = core->order();
     QList<int> steps;
     for (const QString &id : { cleo, bob, ann }) {
         remove(id);
@@ -237,7 +225,7 @@ void tst_AccountHistory::stepsUndoneInAnyOrderGiveTheFormerOrder()
     }
     for (int step : { steps.at(0), steps.at(2), steps.at(1) })
         QCOMPARE(history->undo(step), QStringList());
-    QCOMPARE(order(), before);
+    QCOMPARE(core->order(), before);
 }
 
 /// Its place is beside the accounts that stayed, wherever they are now.
@@ -247,11 +235,11 @@ void tst_AccountHistory::restoredAccountFollowsWhatWasMoved()
     remove(bob);
     QVERIFY(core->accounts->place(core->account(QStringLiteral("dora")), core->account(ann)));
     remove(cleo);
-    QCOMPARE(order(), QStringList({ QStringLiteral("dora"), ann }));
+    QCOMPARE(core->order(), QStringList({ QStringLiteral("dora"), ann }));
     const int last = history->latest();
     QCOMPARE(history->undo(last - 1), QStringList());
     QCOMPARE(history->undo(last), QStringList());
-    QCOMPARE(order(), QStringList({ QStringLiteral("dora"), ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ QStringLiteral("dora"), ann, bob, cleo }));
 }
 
 void tst_AccountHistory::mainAccountComesBackAsMainAccount()
@@ -352,7 +340,7 @@ void tst_AccountHistory::loginThatWasAddedAnewIsNotTouched()
     core->account(bob)->setAlias(QStringLiteral("the new one"));
     QCOMPARE(history->undo(history->latest()), QStringList { "The account \"bob\" (Fake) exists already." });
     QCOMPARE(core->account(bob)->getAlias(), QStringLiteral("the new one"));
-    QCOMPARE(order(), QStringList({ ann, cleo, bob }));
+    QCOMPARE(core->order(), QStringList({ ann, cleo, bob }));
 }
 
 /// What belonged to the removed one is nowhere else.
@@ -422,7 +410,7 @@ void tst_AccountHistory::accountOfAnUnloadedProtocolComesBack()
     QCOMPARE(history->undo(history->latest()), QStringList());
     QVERIFY(core->account(bob));
     QVERIFY(!core->account(bob)->isLoaded());
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
 }
 
 void tst_AccountHistory::refusedChangeMakesNoStep()
@@ -467,7 +455,7 @@ void tst_AccountHistory::refusedUndoLosesNothing()
     QCOMPARE(history->undo(step), QStringList());
     QVERIFY(core->account(bob));
     QVERIFY(!core->account(bob)->avatarPath().isEmpty());
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
 }
 
 void tst_AccountHistory::oldestStepsAreDropped()
@@ -511,14 +499,14 @@ void tst_AccountHistory::removingSeveralIsOneChangeOfTheStore()
     QVERIFY(core->accounts->remove({ core->account(bob), core->account(cleo) }));
     history->endStep();
     QCOMPARE(core->store.commitCount(), commits + 1);
-    QCOMPARE(order(), QStringList { ann });
+    QCOMPARE(core->order(), QStringList { ann });
     QCOMPARE(history->namesOf(history->latest()), QStringList({ "Alias of bob", "Alias of cleo" }));
     history->undo(history->latest());
     QCOMPARE(core->store.commitCount(), commits + 2);
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
     history.reset();
     core->restart();
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
 }
 
 void tst_AccountHistory::refusedRemovalOfSeveralRemovesNone()
@@ -526,7 +514,7 @@ void tst_AccountHistory::refusedRemovalOfSeveralRemovesNone()
     const StoreRefusal refusal(core->store.folder(), QStringLiteral("OLD.id = 'cleo'"), QStringLiteral("DELETE"));
     const QSignalSpy refused(core->accounts.get(), &KirvAccountCollection::removalRefused);
     QVERIFY(!core->accounts->remove({ core->account(bob), core->account(cleo) }));
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
     QCOMPARE(refused.size(), 2);
     QVERIFY(!core->accounts->lastError().isEmpty());
     QCOMPARE(int(core->store.readAccounts().size()), 3);

@@ -94,6 +94,8 @@ private Q_SLOTS:
     void mainAccountOfTheFileIsTakenWhereThereIsNone();
     void importIsUndoneInOneStep();
     void undoingGivesBackExactlyWhatWas();
+    void undoneImportIsMadeAgainWithWhatWasChanged();
+    void undoneImportIsMadeAgainAsFarAsLoginsAreFree();
     void undoingReturnsTheMainAccount();
     void refusedUndoChangesNothing();
     void accountsRemovedSinceDoNotHinderUndoing();
@@ -122,7 +124,6 @@ private:
     void importAll(const KirvMovedAccounts &accounts) const;
     State state() const;
     static QByteArray difference(const State &left, const State &right);
-    QStringList order() const;
     QStringList secretsInKeyring() const { return keyring->secrets.values(); }
 
     std::unique_ptr<KirvFakeSecretStore> keyring;
@@ -134,11 +135,8 @@ void tst_AccountImport::init()
 {
     core = std::make_unique<KirvAccountsFixture>();
     QVERIFY(core->isReady());
-    mainAccount().restore();
-    history = std::make_unique<KirvAccountHistory>(*core->accounts, mainAccount());
-    for (const QString &id : { ann, bob, cleo })
-        QVERIFY(core->create(id));
-    core->settle();
+    history = core->createWithHistory({ ann, bob, cleo });
+    QVERIFY(history);
 }
 
 void tst_AccountImport::cleanup()
@@ -148,17 +146,9 @@ void tst_AccountImport::cleanup()
     keyring.reset();
 }
 
-QStringList tst_AccountImport::order() const
-{
-    QStringList ids;
-    for (const KirvAccount *account : core->accounts->accounts())
-        ids << account->key().id;
-    return ids;
-}
-
 tst_AccountImport::State tst_AccountImport::state() const
 {
-    return { core->store.readAccounts(), order(), core->settings->value("main_account") };
+    return { core->store.readAccounts(), core->order(), core->settings->value("main_account") };
 }
 
 QByteArray tst_AccountImport::difference(const State &left, const State &right)
@@ -210,7 +200,7 @@ void tst_AccountImport::newAccountsAreTakenAndExistingOnesKept()
 
     QString problem;
     QVERIFY2(importing.apply(&problem), qPrintable(problem));
-    QCOMPARE(order(), QStringList({ ann, bob, cleo, dora }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo, dora }));
     QCOMPARE(core->account(bob)->record().alias, QStringLiteral("Alias of bob"));
     QCOMPARE(history->kindOf(history->latest()), KirvAccountHistory::Import);
     QCOMPARE(history->namesOf(history->latest()), QStringList { "Moved dora" });
@@ -326,11 +316,11 @@ void tst_AccountImport::importFollowsTheOrderOfTheFile()
 {
     importAll(movedAccounts({ eve, bob, dora }));
     const QStringList expected { ann, bob, cleo, eve, dora };
-    QCOMPARE(order(), expected);
+    QCOMPARE(core->order(), expected);
     QCOMPARE(KirvAccountsFixture::idsOf(core->fake), expected);
     history.reset();
     core->restart();
-    QCOMPARE(order(), expected);
+    QCOMPARE(core->order(), expected);
 }
 
 void tst_AccountImport::replacedAccountHasWhatTheFileSays()
@@ -440,7 +430,7 @@ void tst_AccountImport::replacedAccountKeepsItsPlaceAndSpelling()
     core->protocol->normalize = [](const QString &login) { return login.toLower(); };
     core->accounts->protocolLoaded(core->protocol.get());
     importAll(movedAccounts({ QStringLiteral("ANN") }));
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
     QCOMPARE(core->account(ann)->record().alias, QStringLiteral("Moved ANN"));
     QCOMPARE(history->undo(history->latest()), QStringList());
     QCOMPARE(core->account(ann)->record().alias, QStringLiteral("Alias of ann"));
@@ -554,7 +544,7 @@ void tst_AccountImport::refusedImportChangesNothing()
 
     QString problem;
     QVERIFY2(importing.apply(&problem), qPrintable(problem));
-    QCOMPARE(order(), QStringList({ ann, bob, cleo, dora, eve }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo, dora, eve }));
     QCOMPARE(mainAccount().account(), core->account(eve));
 }
 
@@ -567,7 +557,7 @@ void tst_AccountImport::accountThatWasAddedSinceIsNotTouched()
     QCOMPARE(problem,
              QStringLiteral("The account \"eve\" cannot be imported. Another account with this login was added or "
                             "removed in the meantime."));
-    QCOMPARE(order(), QStringList({ ann, bob, cleo, eve }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo, eve }));
     QCOMPARE(core->account(eve)->record().alias, QStringLiteral("Alias of eve"));
 }
 
@@ -579,7 +569,7 @@ void tst_AccountImport::accountThatWasRemovedSinceEndsTheImport()
     QString problem;
     QVERIFY(!importing.apply(&problem));
     QVERIFY(problem.startsWith("The account \"bob\" cannot be imported."));
-    QCOMPARE(order(), QStringList({ ann, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, cleo }));
 }
 
 void tst_AccountImport::protocolThatWasUnloadedSinceEndsTheImport()
@@ -589,7 +579,7 @@ void tst_AccountImport::protocolThatWasUnloadedSinceEndsTheImport()
     QString problem;
     QVERIFY(!importing.apply(&problem));
     QCOMPARE(problem, QStringLiteral("The account \"eve\" cannot be imported. The protocol Fake is not loaded."));
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
 }
 
 void tst_AccountImport::pictureComesAlong()
@@ -710,6 +700,55 @@ void tst_AccountImport::undoingGivesBackExactlyWhatWas()
     QCOMPARE(core->account(bob)->presence().getId(), presence);
 }
 
+void tst_AccountImport::undoneImportIsMadeAgainWithWhatWasChanged()
+{
+    const State before = state();
+    importAll(movedAccounts({ dora, bob, eve }));
+    for (const QString &id : { dora, bob }) {
+        QVERIFY(core->account(id)->change([](KirvAccountRecord &record) {
+            record.alias = QStringLiteral("since");
+            record.password = QStringLiteral("typed since");
+        }));
+    }
+    core->settle();
+    const State changed = state();
+    QSignalSpy steps(history.get(), &KirvAccountHistory::stepAdded);
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    core->settleAndDelete();
+    QCOMPARE(difference(state(), before), QByteArray());
+    QCOMPARE(steps.size(), 1);
+    const int step = steps.first().first().toInt();
+    QCOMPARE(history->kindOf(step), KirvAccountHistory::UndoneImport);
+    QVERIFY(history->canUndo(step));
+    QCOMPARE(history->latestUndoable(), 0);
+    QCOMPARE(history->undo(step), QStringList());
+    core->settleAndDelete();
+    QCOMPARE(difference(state(), changed), QByteArray());
+    QCOMPARE(core->account(dora)->getPassword(), QStringLiteral("typed since"));
+    QCOMPARE(history->kindOf(history->latestUndoable()), KirvAccountHistory::Import);
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    core->settleAndDelete();
+    QCOMPARE(difference(state(), before), QByteArray());
+}
+
+void tst_AccountImport::undoneImportIsMadeAgainAsFarAsLoginsAreFree()
+{
+    importAll(movedAccounts({ dora, bob, eve }));
+    QSignalSpy steps(history.get(), &KirvAccountHistory::stepAdded);
+    QCOMPARE(history->undo(history->latest()), QStringList());
+    core->settleAndDelete();
+    const int step = steps.first().first().toInt();
+    QVERIFY(core->create(dora));
+    QVERIFY(core->accounts->remove(core->account(bob)));
+    QCOMPARE(history->undo(step),
+             QStringList({ core->accounts->problemWithNew({ dora, core->fake }),
+                           QStringLiteral("The account \"Moved bob\" cannot be imported again: it was removed.") }));
+    QCOMPARE(core->order(), QStringList({ ann, cleo, eve, dora }));
+    QCOMPARE(core->account(dora)->record().alias, QStringLiteral("Alias of dora"));
+    QVERIFY(history->has(step)); // dora is still held
+    QVERIFY(!history->canUndo(step));
+}
+
 void tst_AccountImport::undoingReturnsTheMainAccount()
 {
     QCOMPARE(mainAccount().account(), core->account(ann));
@@ -735,7 +774,7 @@ void tst_AccountImport::refusedUndoChangesNothing()
     QCOMPARE(core->account(bob)->record().alias, QStringLiteral("Moved bob"));
     QCOMPARE(history->latest(), step);
     QCOMPARE(history->undo(step), QStringList());
-    QCOMPARE(order(), QStringList({ ann, bob, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, bob, cleo }));
     QCOMPARE(core->account(bob)->record().alias, QStringLiteral("Alias of bob"));
 }
 
@@ -747,7 +786,7 @@ void tst_AccountImport::accountsRemovedSinceDoNotHinderUndoing()
     QCOMPARE(history->undo(step),
              QStringList {
                  "The account \"Moved bob\" cannot be restored to what it was before the import: it was removed." });
-    QCOMPARE(order(), QStringList({ ann, cleo }));
+    QCOMPARE(core->order(), QStringList({ ann, cleo }));
     QCOMPARE(core->account(cleo)->record().alias, QStringLiteral("Alias of cleo"));
     QVERIFY(!history->has(step));
 }

@@ -5,6 +5,7 @@
 #include "core/store/kirv_settings_table.h"
 #include "core/store/kirv_store.h"
 #include "tests/support/kirv_moved_samples.h"
+#include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
 #include "tests/support/kirv_program_run.h"
 
@@ -25,12 +26,6 @@ namespace {
 const QString protocol = QStringLiteral("XMPP");
 const QString secret = QStringLiteral("hunter2-secret");
 const QString phrase = QStringLiteral("correct horse battery");
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool write(const QString &path, const QByteArray &content)
 {

@@ -14,7 +14,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -137,8 +136,6 @@ private Q_SLOTS:
     void linkThatIsTooLongOpensNothing();
 
 private:
-    void open(const std::function<void(KirvLayoutDialog *)> &inWindow);
-
     std::unique_ptr<KirvClientWindows> windows;
 };
 
@@ -157,32 +154,15 @@ void tst_AddingAnAccount::cleanup()
     windows.reset();
 }
 
-/// Opens the window for a new account and cancels it afterwards when it is still there.
-void tst_AddingAnAccount::open(const std::function<void(KirvLayoutDialog *)> &inWindow)
-{
-    bool isRun = false;
-    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
-        const QPointer<KirvLayoutDialog> added(window);
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
-        inWindow(window);
-        isRun = true;
-        if (added && added->isVisible())
-            added->reject();
-    });
-    child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton")->menu()->actions().first()->trigger();
-    windows->settle();
-    QVERIFY(isRun);
-}
-
 void tst_AddingAnAccount::titleNamesTheProtocol()
 {
-    open([](KirvLayoutDialog *window) { QCOMPARE(window->windowTitle(), QString("Add Fake Account")); });
+    windows->inAddWindow(
+        [](KirvLayoutDialog *window) { QCOMPARE(window->windowTitle(), QString("Add Fake Account")); });
 }
 
 void tst_AddingAnAccount::typingStartsInTheLogin()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QCOMPARE(window->focusWidget(), login(window));
         QTest::keyClicks(window->focusWidget(), "anna");
         QCOMPARE(login(window)->text(), QString("anna"));
@@ -191,12 +171,13 @@ void tst_AddingAnAccount::typingStartsInTheLogin()
 
 void tst_AddingAnAccount::emptyLoginShowsAnExample()
 {
-    open([](KirvLayoutDialog *window) { QCOMPARE(login(window)->placeholderText(), QString("anna@example.org")); });
+    windows->inAddWindow(
+        [](KirvLayoutDialog *window) { QCOMPARE(login(window)->placeholderText(), QString("anna@example.org")); });
 }
 
 void tst_AddingAnAccount::settingsAreBelowAdvanced()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QVERIFY(!settings(window)->isVisible());
         QVERIFY(login(window)->isVisible() && password(window)->isVisible());
         QVERIFY(advanced(window)->focusPolicy() & Qt::TabFocus);
@@ -211,13 +192,13 @@ void tst_AddingAnAccount::advancedNamesTheFirstSettings()
 {
     windows->protocol->settings = { KirvField::textEdit("Server", "server", "", ""),
                                     KirvField::number("Port", "port", 1, 1, 9, "") };
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QCOMPARE(child<QLabel>(window, "AddAccount_AdvancedSummary")->text(), QString("Server, Port"));
         QCOMPARE(advanced(window)->accessibleDescription(), QString("Server, Port"));
     });
     for (const char *name : { "A", "B" })
         windows->protocol->settings << KirvField::textEdit(name, name, "", "");
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         const auto *summary = child<QLabel>(window, "AddAccount_AdvancedSummary");
         QCOMPARE(summary->text(), QString("Server, Port, A…"));
         QVERIFY(summary->isVisible());
@@ -231,7 +212,7 @@ void tst_AddingAnAccount::readyMadeConfigurationOpensTheSettings()
     windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
     windows->protocol->configurations = QStringList("Local");
     windows->protocol->configurationFields = { KirvField::textEdit("Server", "server", "127.0.0.1", "") };
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QVERIFY(!settings(window)->isVisible());
         child<QComboBox>(window, "AddAccount_Configuration")->setCurrentText("Local");
         QVERIFY(settings(window)->isVisible());
@@ -244,7 +225,7 @@ void tst_AddingAnAccount::configurationWithoutOtherSettingsOpensNothing()
     windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
     windows->protocol->configurations = QStringList("Usual");
     windows->protocol->configurationFields = windows->protocol->settings;
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         child<QComboBox>(window, "AddAccount_Configuration")->setCurrentText("Usual");
         QVERIFY(!settings(window)->isVisible());
     });
@@ -255,7 +236,7 @@ void tst_AddingAnAccount::settingThatMustBeFilledInIsNotHidden()
     KirvField server = KirvField::textEdit("Server", "server", "", "");
     server.setRequired(true);
     windows->protocol->settings = { server };
-    open([](KirvLayoutDialog *window) { QVERIFY(settings(window)->isVisible()); });
+    windows->inAddWindow([](KirvLayoutDialog *window) { QVERIFY(settings(window)->isVisible()); });
 }
 
 void tst_AddingAnAccount::hiddenSettingsAreSaved()
@@ -267,7 +248,7 @@ void tst_AddingAnAccount::hiddenSettingsAreSaved()
 
 void tst_AddingAnAccount::windowFitsItsContentWhenSettingsComeAndGo()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         const QSize closed = window->size();
         QCOMPARE(closed.height(), window->sizeHint().height());
         advanced(window)->click();
@@ -282,7 +263,7 @@ void tst_AddingAnAccount::windowFitsItsContentWhenSettingsComeAndGo()
 
 void tst_AddingAnAccount::passwordIsShownWhileTheEyeIsDown()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         auto *eye = child<QToolButton>(window, "AddAccount_PasswordReveal");
         QVERIFY(eye && eye->isVisible());
         QCOMPARE(password(window)->echoMode(), QLineEdit::Password);
@@ -295,7 +276,7 @@ void tst_AddingAnAccount::passwordIsShownWhileTheEyeIsDown()
 
 void tst_AddingAnAccount::wrongLoginIsSaidWhileItIsTyped()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QCOMPARE(hint(window), QString());
         QTest::keyClicks(login(window), "anna");
         QCOMPARE(hint(window), QString("The domain is missing."));
@@ -310,7 +291,7 @@ void tst_AddingAnAccount::existingAccountIsSaidBeforeItIsSaved()
 {
     windows->protocol->normalize = [](const QString &text) { return text.toLower(); };
     QVERIFY(windows->addAccount("anna@fake"));
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         login(window)->setText("Anna@Fake");
         QCOMPARE(hint(window),
                  QString("The account \"Anna@Fake\" (Fake) exists already: it is the same as \"anna@fake\" to the "
@@ -322,7 +303,7 @@ void tst_AddingAnAccount::existingAccountIsSaidBeforeItIsSaved()
 
 void tst_AddingAnAccount::hintMovesNothing()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         const QPoint before = password(window)->mapTo(window, QPoint());
         const QSize size = window->size();
         QTest::keyClicks(login(window), "anna");
@@ -340,7 +321,7 @@ void tst_AddingAnAccount::windowGrowsWithALongHint()
                    "This sentence has a good many words, so that it takes more than one line where it is shown. ")
             .repeated(3);
     };
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         const int before = window->height();
         QTest::keyClicks(login(window), "a");
         QVERIFY(window->height() > before);
@@ -350,7 +331,7 @@ void tst_AddingAnAccount::windowGrowsWithALongHint()
 
 void tst_AddingAnAccount::hintIsReadByAssistiveTechnology()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QTest::keyClicks(login(window), "anna");
         QAccessibleInterface *line = QAccessible::queryAccessibleInterface(login(window));
         QCOMPARE(line->text(QAccessible::Description), QString("The domain is missing."));
@@ -376,7 +357,7 @@ void tst_AddingAnAccount::refusedCharacterIsSaid()
     windows->protocol->findProblem = [reason](const QString &text) {
         return text == QLatin1String("an na") || text == QLatin1String("a b") ? reason : QString();
     };
-    open([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         QTest::keyClicks(login(window), "anna");
         login(window)->setCursorPosition(2);
         QTest::keyClick(login(window), Qt::Key_Space);
@@ -415,7 +396,7 @@ void tst_AddingAnAccount::reasonWhySaveIsDisabled()
     QFETCH(QString, typedLogin);
     QFETCH(QString, typedPassword);
     QFETCH(QString, reason);
-    open([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         login(window)->setText(typedLogin);
         password(window)->setText(typedPassword);
         QCOMPARE(whyNotSaved(window), reason);
@@ -434,7 +415,7 @@ void tst_AddingAnAccount::wrongLoginIsRefusedWithTheReason()
         said = box->text();
         box->close();
     });
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         login(window)->setText("anna");
         password(window)->setText("secret");
         QVERIFY(save(window)->isEnabled()); // intended: Save has its own rule
@@ -451,7 +432,7 @@ void tst_AddingAnAccount::wrongLoginIsRefusedWithTheReason()
 void tst_AddingAnAccount::accountWithoutPasswordHasAButtonOfItsOwn()
 {
     windows->protocol->worksWithoutPassword = [](const QList<KirvField> &) { return true; };
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QVERIFY(!saveWithoutPassword(window)->isVisible());
         login(window)->setText("anna@fake");
         QVERIFY(saveWithoutPassword(window)->isVisible());
@@ -474,7 +455,7 @@ void tst_AddingAnAccount::settingDecidesWhetherAPasswordIsNeeded()
     windows->protocol->configurationFields = { KirvField::checkBox("Guest", "guest", true, ""),
                                                KirvField::textEdit("login", "login", "anna@fake", "") };
     windows->protocol->worksWithoutPassword = [](const QList<KirvField> &fields) { return fields.first().isChecked(); };
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         login(window)->setText("anna@fake");
         QVERIFY(!saveWithoutPassword(window)->isVisible());
         advanced(window)->click();
@@ -505,7 +486,7 @@ void tst_AddingAnAccount::settingThatIsMissingIsSaid()
         said = box->text();
         box->close();
     });
-    open([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         QVERIFY(!settings(window)->isVisible());
         login(window)->setText("anna");
         QCOMPARE(hint(window), QString("The domain is missing.")); // which comes first
@@ -535,7 +516,7 @@ void tst_AddingAnAccount::settingThatIsMissingIsSaid()
 
 void tst_AddingAnAccount::keyboardAloneAddsAnAccount()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         const auto type = [window](const char *text) { QTest::keyClicks(window->focusWidget(), text); };
         type("anna@fake");
         QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
@@ -549,7 +530,7 @@ void tst_AddingAnAccount::keyboardAloneAddsAnAccount()
 
 void tst_AddingAnAccount::nothingIsCutOffInASmallWindow()
 {
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         advanced(window)->click();
         window->resize(window->minimumSizeHint());
         KirvClientWindows::settle(); // the buttons take more rows then
@@ -576,7 +557,7 @@ void tst_AddingAnAccount::linkIsTakenForItsLogin()
     windows.reset();
     windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
     windows->protocol->loginPattern = pattern;
-    open([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QGuiApplication::clipboard()->setText("xmpp:anna@example.org");
         login(window)->paste();
         KIRV_TRY_COMPARE(login(window)->text(), QString("anna@example.org"));
@@ -602,7 +583,7 @@ void tst_AddingAnAccount::linkIsDroppedOnTheLogin()
     QFETCH(QString, before);
     windows.reset();
     windows = std::make_unique<KirvClientWindows>(QStringLiteral("XMPP"));
-    open([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         login(window)->setText(before);
         QVERIFY(dropOn(login(window), "xmpp:anna@example.org", isUrl));
         QCOMPARE(login(window)->text(), QString("anna@example.org"));

@@ -39,7 +39,6 @@ private:
     static QString id(int number) { return QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')); }
     void create(int count);
     QList<KirvAccount *> accounts(const QStringList &ids) const;
-    QStringList order() const;
     QStringList stored(bool enabled);
     bool areAll(bool online) const;
 
@@ -73,14 +72,6 @@ QList<KirvAccount *> tst_ChangingSeveral::accounts(const QStringList &ids) const
     for (const QString &one : ids)
         found << core->account(one);
     return found;
-}
-
-QStringList tst_ChangingSeveral::order() const
-{
-    QStringList ids;
-    for (const KirvAccount *account : core->accounts->accounts())
-        ids << account->key().id;
-    return ids;
 }
 
 QStringList tst_ChangingSeveral::stored(bool enabled)
@@ -385,14 +376,14 @@ void tst_ChangingSeveral::severalArePlaced()
     for (const QString &one : placed.split(QLatin1Char(' '), Qt::SkipEmptyParts))
         moved << find(one);
     QVERIFY(core->accounts->place(moved, next.isEmpty() ? nullptr : find(next)));
-    QCOMPARE(order().join(QLatin1Char(' ')), expected);
-    QStringList ofFake = order();
+    QCOMPARE(core->order().join(QLatin1Char(' ')), expected);
+    QStringList ofFake = core->order();
     ofFake.removeAll(id(2));
     QCOMPARE(KirvAccountsFixture::idsOf(core->fake), ofFake);
     QCOMPARE(core->accounts->accountsOf(core->fake), accounts(ofFake));
     QCOMPARE(int(core->accounts->accountsOf(QStringLiteral("Other")).size()), 1);
     core->restart(false);
-    QCOMPARE(order().join(QLatin1Char(' ')), expected);
+    QCOMPARE(core->order().join(QLatin1Char(' ')), expected);
 }
 
 void tst_ChangingSeveral::placingSeveralIsOneChangeOfTheStore()
@@ -418,14 +409,14 @@ void tst_ChangingSeveral::refusedPlacingMovesNone()
     connect(core->accounts.get(), &KirvAccountCollection::orderChanged, this, [&moved] { ++moved; });
     const QSignalSpy problems(core->accounts.get(), &KirvAccountCollection::problemOccurred);
     QVERIFY(!core->accounts->place(accounts({ id(3), id(4) }), core->account(id(1))));
-    QCOMPARE(order(), QStringList({ id(0), id(1), id(2), id(3), id(4) }));
+    QCOMPARE(core->order(), QStringList({ id(0), id(1), id(2), id(3), id(4) }));
     core->accounts->disconnect(this);
     QCOMPARE(moved, 0);
     QCOMPARE(problems.size(), 1);
     QStringList ids;
     for (const KirvAccountRecord &record : core->store.readAccounts())
         ids << record.key.id;
-    QCOMPARE(ids, order());
+    QCOMPARE(ids, core->order());
 }
 
 QTEST_GUILESS_MAIN(tst_ChangingSeveral)

@@ -7,8 +7,10 @@
 #include "core/moving/kirv_pass_phrase.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/gui/kirv_file_choice.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
+#include "tests/support/kirv_profile_files.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -32,12 +34,6 @@ const QString ann = QStringLiteral("ann");
 const QString bob = QStringLiteral("bob");
 const QString cleo = QStringLiteral("cleo");
 const QString phrase = QStringLiteral("seven green horses");
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList loginsIn(const KirvMovedAccounts &moved)
 {
@@ -90,12 +86,7 @@ private Q_SLOTS:
 private:
     KirvExportWindow *window() const
     {
-        const auto all = windows->client->window()->findChildren<KirvExportWindow *>();
-        for (KirvExportWindow *candidate : all) {
-            if (candidate->isVisible())
-                return candidate;
-        }
-        return nullptr;
+        return KirvClientWindows::shownChild<KirvExportWindow>(windows->client->window());
     }
     template <typename T>
     T *part(const char *name) const
@@ -164,12 +155,7 @@ void tst_ExportWindow::exportTo(const QString &path)
 {
     QVERIFY(exportButton()->isEnabled());
     const KirvWindowWatcher<QMessageBox> overwrites([](QMessageBox *box) { box->button(QMessageBox::Yes)->click(); });
-    const KirvWindowWatcher<QFileDialog> chooses([path](QFileDialog *dialog) {
-        dialog->findChild<QLineEdit *>()->setText(path);
-        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
-        if (dialog->isVisible())
-            dialog->reject();
-    });
+    const KirvWindowWatcher<QFileDialog> chooses([path](QFileDialog *dialog) { kirvChooseFile(dialog, path); });
     exportButton()->click();
     KIRV_TRY_COMPARE(chooses.shown, 1);
     KIRV_TRY(!window()->findChild<QFileDialog *>());
@@ -333,6 +319,7 @@ void tst_ExportWindow::passwordsGoEncrypted()
     QCOMPARE(part<QLineEdit>("Repetition")->echoMode(), QLineEdit::Password);
     exportTo(target());
     QVERIFY2(!outcome().contains(QLatin1String("no passwords")), qPrintable(outcome()));
+    QVERIFY2(outcome().contains(QLatin1String("stored passwords are in it")), qPrintable(outcome()));
     QVERIFY(KirvAccountFile::hasSecrets(contentOf(target())));
     QVERIFY(!contentOf(target()).contains("secret\""));
     QCOMPARE(read(phrase).accounts.accounts.first().record.password, QStringLiteral("secret"));

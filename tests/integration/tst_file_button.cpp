@@ -2,7 +2,6 @@
 #include "core/accounts/kirv_account_collection.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "tests/integration/kirv_client_windows.h"
-#include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QAccessible>
@@ -10,7 +9,6 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QToolButton>
 #include <QtTest>
 #include <functional>
@@ -81,16 +79,10 @@ void tst_FileButton::inWindow(bool isNew, const std::function<void(QWidget *)> &
 {
     int windowCount = 0;
     if (isNew) {
-        const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
-            const QPointer<KirvLayoutDialog> open(window);
+        windows->inAddWindow([&](KirvLayoutDialog *window) {
             ++windowCount;
             use(window);
-            if (open)
-                open->close();
         });
-        const auto *add = qobject_cast<QToolButton *>(windows->pageButton("Accounts_AddButton"));
-        add->menu()->actions().first()->trigger();
-        KirvClientWindows::settle();
     } else {
         windows->addAccount(QStringLiteral("ann"));
         const QPointer<KirvLayoutDialog> window = windows->edit(QStringLiteral("ann"));

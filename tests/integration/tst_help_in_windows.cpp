@@ -12,7 +12,6 @@
 #include "core/accounts/kirv_secret_blank.h"
 #include "core/plugins/kirv_plugin_loader.h"
 #include "tests/integration/kirv_client_windows.h"
-#include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QCheckBox>
@@ -24,7 +23,6 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QtTest>
 
@@ -116,17 +114,11 @@ private Q_SLOTS:
 
 private:
     KirvFakeServer &server() const { return *windows->protocol->server; }
-    void inAddWindow(const std::function<void(KirvLayoutDialog *)> &look);
     static void fillIn(const QWidget *window);
     template <typename Window>
     Window *open() const
     {
-        const auto found = windows->client->window()->findChildren<Window *>();
-        for (Window *window : found) {
-            if (window->isVisible())
-                return window;
-        }
-        return nullptr;
+        return KirvClientWindows::shownChild<Window>(windows->client->window());
     }
     QPushButton *stripButton(const char *name) const
     {
@@ -167,24 +159,6 @@ void tst_HelpInWindows::cleanup()
     QVERIFY(!kept || kept->connections == 0);
 }
 
-/// Opens the window for a new account and cancels it afterwards when it is still there.
-void tst_HelpInWindows::inAddWindow(const std::function<void(KirvLayoutDialog *)> &look)
-{
-    bool isRun = false;
-    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
-        const QPointer<KirvLayoutDialog> added(window);
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window, kirvPatience));
-        look(window);
-        isRun = true;
-        if (added && added->isVisible())
-            added->reject();
-    });
-    child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton")->menu()->actions().first()->trigger();
-    windows->settle();
-    QVERIFY(isRun);
-}
-
 void tst_HelpInWindows::fillIn(const QWidget *window)
 {
     child<QLineEdit>(window, "AddAccount_UsernameEdit")->setText(ann);
@@ -201,7 +175,7 @@ void tst_HelpInWindows::addFailing(const QString &id)
 
 void tst_HelpInWindows::buttonSaysWhyItIsDisabled()
 {
-    inAddWindow([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         QVERIFY(!runButton(window)->isEnabled());
         QCOMPARE(runButton(window)->toolTip(), QString("The login is missing."));
         auto *login = child<QLineEdit>(window, "AddAccount_UsernameEdit");
@@ -221,7 +195,7 @@ void tst_HelpInWindows::buttonSaysWhyItIsDisabled()
 void tst_HelpInWindows::testUsesWhatIsTyped()
 {
     server().logIn = KirvFakeServer::Holds;
-    inAddWindow([this](KirvLayoutDialog *window) {
+    windows->inAddWindow([this](KirvLayoutDialog *window) {
         fillIn(window);
         child<QLineEdit>(window, "KirvField_server")->setText("other.example.org");
         runButton(window)->click();
@@ -234,7 +208,7 @@ void tst_HelpInWindows::testUsesWhatIsTyped()
 
 void tst_HelpInWindows::nothingIsStored()
 {
-    inAddWindow([this](KirvLayoutDialog *window) {
+    windows->inAddWindow([this](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         KIRV_TRY(plain(runButton(window)->text()) == "Test Again");
@@ -258,7 +232,7 @@ void tst_HelpInWindows::stepThatFailsIsShown()
     QFETCH(int, step);
     QFETCH(int, kind);
     server().logIn = KirvFakeServer::Holds;
-    inAddWindow([this, step, kind](KirvLayoutDialog *window) {
+    windows->inAddWindow([this, step, kind](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         KIRV_TRY(connection && connection->state() == KirvConnection::Connecting);
@@ -285,7 +259,7 @@ void tst_HelpInWindows::stepThatFailsIsShown()
 void tst_HelpInWindows::stepsAreToldToAssistiveTechnology()
 {
     server().logIn = KirvFakeServer::Refuses;
-    inAddWindow([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         QListWidget *list = stepsOf(window);
@@ -301,7 +275,7 @@ void tst_HelpInWindows::stepsAreToldToAssistiveTechnology()
 
 void tst_HelpInWindows::successIsSaid()
 {
-    inAddWindow([this](KirvLayoutDialog *window) {
+    windows->inAddWindow([this](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         QListWidget *list = stepsOf(window);
@@ -314,7 +288,7 @@ void tst_HelpInWindows::successIsSaid()
 void tst_HelpInWindows::testIsCancelledAndStartedAgain()
 {
     server().logIn = KirvFakeServer::Holds;
-    inAddWindow([this](KirvLayoutDialog *window) {
+    windows->inAddWindow([this](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         QCOMPARE(plain(runButton(window)->text()), QString("Cancel Test"));
@@ -335,7 +309,7 @@ void tst_HelpInWindows::reportOfTheTestIsCopied()
     server().logIn = KirvFakeServer::Refuses;
     server().refusal = KirvFailure(KirvFailure::AccessDenied, "no " + typed + " here");
     windows->protocol->parts = QStringList { "Fake library 7.8" };
-    inAddWindow([](KirvLayoutDialog *window) {
+    windows->inAddWindow([](KirvLayoutDialog *window) {
         auto *copy = child<QPushButton>(window, "AddAccount_CopyTestReport");
         QVERIFY(!copy->isVisible());
         fillIn(window);
@@ -353,7 +327,7 @@ void tst_HelpInWindows::reportOfTheTestIsCopied()
 void tst_HelpInWindows::keyboardTestsAndSaves()
 {
     server().logIn = KirvFakeServer::Holds;
-    inAddWindow([this](KirvLayoutDialog *window) {
+    windows->inAddWindow([this](KirvLayoutDialog *window) {
         QTest::keyClicks(window->focusWidget(), ann);
         QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
         QTest::keyClicks(window->focusWidget(), typed);
@@ -384,7 +358,7 @@ void tst_HelpInWindows::windowThatClosesEndsTheTest()
 {
     QFETCH(bool, isCancelled);
     server().logIn = KirvFakeServer::Holds;
-    inAddWindow([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         KIRV_TRY(connection && connection->state() == KirvConnection::Connecting);
@@ -403,7 +377,7 @@ void tst_HelpInWindows::pluginThatGoesEndsTheTests()
     stripButton("Accounts_TestButton")->click();
     KIRV_TRY(connection && connection->state() == KirvConnection::Connecting);
     const std::shared_ptr<KirvFakeServer> kept = windows->protocol->server;
-    inAddWindow([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         fillIn(window);
         runButton(window)->click();
         KIRV_TRY(kept->connections == 3);
@@ -429,7 +403,7 @@ void tst_HelpInWindows::windowWithATestFitsASmallScreen()
 {
     windows->protocol->worksWithoutPassword = [](const QList<KirvField> &) { return true; };
     server().logIn = KirvFakeServer::Holds;
-    inAddWindow([this](KirvLayoutDialog *window) {
+    windows->inAddWindow([this](KirvLayoutDialog *window) {
         child<QLineEdit>(window, "AddAccount_UsernameEdit")->setText(ann);
         runButton(window)->click();
         KIRV_TRY(connection && connection->state() == KirvConnection::Connecting);

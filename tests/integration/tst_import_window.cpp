@@ -10,6 +10,7 @@
 #include "core/plugins/kirv_plugin_loader.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
+#include "tests/support/gui/kirv_file_choice.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
@@ -101,12 +102,7 @@ private Q_SLOTS:
 private:
     KirvImportWindow *window() const
     {
-        const auto all = windows->client->window()->findChildren<KirvImportWindow *>();
-        for (KirvImportWindow *candidate : all) {
-            if (candidate->isVisible())
-                return candidate;
-        }
-        return nullptr;
+        return KirvClientWindows::shownChild<KirvImportWindow>(windows->client->window());
     }
     template <typename T>
     T *part(const char *name) const
@@ -170,12 +166,7 @@ QString tst_ImportWindow::writeAccounts(const QList<KirvMovedAccount> &accounts,
 
 void tst_ImportWindow::choose(const QString &path)
 {
-    const KirvWindowWatcher<QFileDialog> chooses([path](QFileDialog *dialog) {
-        dialog->findChild<QLineEdit *>()->setText(path);
-        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
-        if (dialog->isVisible())
-            dialog->reject();
-    });
+    const KirvWindowWatcher<QFileDialog> chooses([path](QFileDialog *dialog) { kirvChooseFile(dialog, path); });
     pagePart<QListWidget>("Settings_Pages")->setCurrentRow(2);
     pagePart<QPushButton>("General_ImportButton")->click();
     KIRV_TRY(window());
@@ -232,7 +223,7 @@ void tst_ImportWindow::importIsUndone()
     KirvClientWindows::settle();
     QVERIFY(!windows->account(ann) && !windows->account(bob) && windows->account(cleo));
     KIRV_TRY(windows->rowIds() == QStringList { cleo });
-    QCOMPARE(windows->messages(), QStringList());
+    QCOMPARE(windows->messages(), QStringList(QStringLiteral("The import of 2 accounts was undone.")));
 }
 
 void tst_ImportWindow::importedRowsAreSelected()
@@ -570,10 +561,7 @@ void tst_ImportWindow::otherFileIsChosen()
     choose(write("noise"));
     KIRV_TRY(!shown("Problem").isEmpty());
     const QString other = writeAccounts({ moved(ann) });
-    const KirvWindowWatcher<QFileDialog> chooses([other](QFileDialog *dialog) {
-        dialog->findChild<QLineEdit *>()->setText(other);
-        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
-    });
+    const KirvWindowWatcher<QFileDialog> chooses([other](QFileDialog *dialog) { kirvChooseFile(dialog, other); });
     part<QPushButton>("OtherFile")->click();
     KIRV_TRY(isListing());
     QCOMPARE(shown("Problem"), QString());
@@ -585,10 +573,7 @@ void tst_ImportWindow::emptyPageImports()
     auto *button = pagePart<QPushButton>("Accounts_InvitationImportButton");
     QVERIFY(button->isVisible() && button->isEnabled());
     const QString path = writeAccounts({ moved(ann) });
-    const KirvWindowWatcher<QFileDialog> chooses([path](QFileDialog *dialog) {
-        dialog->findChild<QLineEdit *>()->setText(path);
-        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
-    });
+    const KirvWindowWatcher<QFileDialog> chooses([path](QFileDialog *dialog) { kirvChooseFile(dialog, path); });
     button->click();
     KIRV_TRY(isListing());
     import();

@@ -10,7 +10,6 @@
 #include "host/kirv_account_manager.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/gui/kirv_scripted_answers.h"
-#include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/store_refusal.h"
 
@@ -93,6 +92,7 @@ private Q_SLOTS:
     void menuAsksForThePassword();
     void menuOffersWhatIsPossible();
     void menuGoesWithItsAccount();
+    void clickBelowTheRowsChoosesNoAccount();
     void f2RenamesInPlace();
     void renamingIsOneChangeOfTheStore();
     void blankAliasIsNone();
@@ -223,16 +223,10 @@ void tst_PageSlips::wheelChangesNoFieldWithoutTheFocus()
     } else {
         windows->protocol->configurations = QStringList { "Usual", "Other" };
         windows->protocol->configurationFields = windows->protocol->settings;
-        const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
+        windows->inAddWindow([&](KirvLayoutDialog *window) {
             KirvClientWindows::child<QToolButton>(window, "AddAccount_Advanced")->setChecked(true);
             check(window);
-            window->reject();
         });
-        KirvClientWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton")
-            ->menu()
-            ->actions()
-            .first()
-            ->trigger();
     }
     QVERIFY(isRun);
 }
@@ -472,6 +466,27 @@ void tst_PageSlips::menuGoesWithItsAccount()
     QVERIFY(menu());
     KirvAccountManager::getInstance()->removeAccount(bob, QStringLiteral("Fake"));
     KIRV_TRY(!menu());
+}
+
+/// No command is offered that would do nothing, and none for an account that is not selected.
+void tst_PageSlips::clickBelowTheRowsChoosesNoAccount()
+{
+    windows->select(ann);
+    QVERIFY(windows->pageButton("Accounts_EditButton")->isEnabled());
+    const auto *strip =
+        KirvClientWindows::child<QAbstractButton>(windows->client->accountsPage(), "Accounts_StripEditButton");
+    KIRV_TRY(strip->isVisible());
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(20, list()->viewport()->height() - 3));
+    KirvClientWindows::settle();
+    QVERIFY(list()->selectedItems().isEmpty());
+    QVERIFY(!list()->currentItem());
+    for (const char *button : { "Accounts_EditButton", "Accounts_RemoveButton" })
+        QVERIFY(!windows->pageButton(button)->isEnabled());
+    QVERIFY(!strip->isVisible() || !strip->isEnabled());
+    QTest::keyClick(list(), Qt::Key_F2);
+    QVERIFY(!isEditing());
+    QTest::keyClick(list(), Qt::Key_Down);
+    QCOMPARE(int(list()->selectedItems().size()), 1);
 }
 
 void tst_PageSlips::f2RenamesInPlace()

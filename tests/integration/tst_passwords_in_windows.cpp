@@ -8,15 +8,13 @@
 #include "core/store/kirv_store.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
-#include "tests/support/gui/kirv_window_watcher.h"
+#include "tests/support/gui/kirv_remember_box.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QToolButton>
 #include <QtTest>
 #include <memory>
 
@@ -60,7 +58,6 @@ private:
     KirvAccount *account() const { return windows->account(id); }
     void settle() const;
     void restart(KirvSecretStore::State state);
-    void inAddWindow(const std::function<void(KirvLayoutDialog *)> &look) const;
 
     std::unique_ptr<KirvFakeSecretStore> keyring;
     std::unique_ptr<KirvClientWindows> windows;
@@ -96,35 +93,9 @@ void tst_PasswordsInWindows::restart(KirvSecretStore::State state)
     settle();
 }
 
-void tst_PasswordsInWindows::inAddWindow(const std::function<void(KirvLayoutDialog *)> &look) const
-{
-    bool isSeen = false;
-    const KirvWindowWatcher<KirvLayoutDialog> watcher([&](KirvLayoutDialog *window) {
-        isSeen = true;
-        look(window);
-        window->reject();
-    });
-    KirvClientWindows::child<QToolButton>(windows->client->accountsPage(), "Accounts_AddButton")
-        ->menu()
-        ->actions()
-        .first()
-        ->trigger();
-    settle();
-    QVERIFY(isSeen);
-}
-
 void tst_PasswordsInWindows::theAddWindowSaysWhereThePasswordGoes_data()
 {
-    QTest::addColumn<KirvSecretStore::State>("state");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isOn");
-    QTest::newRow("ready") << KirvSecretStore::Ready << "in Fake Keyring" << true;
-    QTest::newRow("locked") << KirvSecretStore::Locked << "in Fake Keyring (locked: you will be asked to unlock it)"
-                            << true;
-    QTest::newRow("none") << KirvSecretStore::Unavailable
-                          << "There is no keyring here: it would be kept in a file only you can read" << false;
-    QTest::newRow("silent") << KirvSecretStore::Silent
-                            << "Your keyring does not respond: it would be kept there when it responds again" << true;
+    kirvAddPlacesOfPasswords();
 }
 
 void tst_PasswordsInWindows::theAddWindowSaysWhereThePasswordGoes()
@@ -133,7 +104,7 @@ void tst_PasswordsInWindows::theAddWindowSaysWhereThePasswordGoes()
     QFETCH(QString, text);
     QFETCH(bool, isOn);
     keyring->setState(state);
-    inAddWindow([&](const KirvLayoutDialog *window) {
+    windows->inAddWindow([&](const KirvLayoutDialog *window) {
         auto *box = KirvClientWindows::child<QCheckBox>(window, "AddAccount_RememberPasswordCheckbox");
         auto *line = KirvClientWindows::child<QLabel>(window, "AddAccount_RememberPasswordCheckboxPlace");
         QVERIFY(box && line);
@@ -148,15 +119,9 @@ void tst_PasswordsInWindows::theAddWindowSaysWhereThePasswordGoes()
 void tst_PasswordsInWindows::theBoxFollowsTheKeyringUntilItIsClicked()
 {
     keyring->setState(KirvSecretStore::Unknown);
-    inAddWindow([&](const KirvLayoutDialog *window) {
+    windows->inAddWindow([&](const KirvLayoutDialog *window) {
         auto *box = KirvClientWindows::child<QCheckBox>(window, "AddAccount_RememberPasswordCheckbox");
-        QVERIFY(box->isChecked());
-        keyring->setState(KirvSecretStore::Unavailable);
-        QVERIFY(!box->isChecked());
-        box->click();
-        keyring->setState(KirvSecretStore::Ready);
-        keyring->setState(KirvSecretStore::Unavailable);
-        QVERIFY(box->isChecked());
+        kirvVerifyBoxFollowsKeyring(box, *keyring);
     });
 }
 

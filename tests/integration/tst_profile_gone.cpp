@@ -9,14 +9,13 @@
 #include "host/kirv_account_manager.h"
 #include "host/kirv_plugin_manager.h"
 #include "host/kirv_protocol.h"
+#include "tests/support/gui/kirv_file_choice.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_tool.h"
 #include "tests/support/store_refusal.h"
 
-#include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -110,12 +109,7 @@ void tst_ProfileGone::changeSomething() const
 
 void tst_ProfileGone::saveTo(const QString &folder) const
 {
-    const KirvWindowWatcher<QFileDialog> watcher([folder](QFileDialog *dialog) {
-        dialog->findChild<QLineEdit *>()->setText(folder);
-        dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
-        if (dialog->isVisible())
-            dialog->reject();
-    });
+    const KirvWindowWatcher<QFileDialog> watcher([folder](QFileDialog *dialog) { kirvChooseFile(dialog, folder); });
     QVERIFY(saveButton());
     saveButton()->click();
     KIRV_TRY(!client->window()->findChild<QFileDialog *>());
@@ -210,10 +204,7 @@ void tst_ProfileGone::programGoesOnWithTheOtherFolder()
         }
         deleteProfile();
         changeSomething();
-        const KirvWindowWatcher<QFileDialog> watcher([other](QFileDialog *dialog) {
-            dialog->findChild<QLineEdit *>()->setText(other);
-            dialog->findChild<QDialogButtonBox *>()->buttons().first()->click();
-        });
+        const KirvWindowWatcher<QFileDialog> watcher([other](QFileDialog *dialog) { kirvChooseFile(dialog, other); });
         last->findChild<QPushButton *>(QStringLiteral("MessageBar_Command"))->click();
         KIRV_TRY_COMPARE(last->messageBar()->messages().value(0).contains(QLatin1String("--profile")), true);
         last->findChildren<QPushButton *>(QStringLiteral("MessageBar_Command")).last()->click();

@@ -190,6 +190,12 @@ private:
     static QString status(const QWidget *window) { return child<QLabel>(window, "EditAccount_PubDirStatus")->text(); }
     static void fetch(const QWidget *window);
     static QLineEdit *nameEdit(const QWidget *window) { return child<QLineEdit>(window, "KirvField_name"); }
+    /// Saves the name "Typed" while the server does not reply. Whether the window waits for that.
+    bool waitsForPublication(const QPointer<KirvLayoutDialog> &window) const;
+    /// Saves and verifies that the window is closed and the server was sent nothing since its calls were taken.
+    void verifySaveSendsNothing(const QPointer<KirvLayoutDialog> &window) const;
+    /// Saves and verifies that the window is closed when the name is published.
+    void verifySavePublishesName(const QPointer<KirvLayoutDialog> &window) const;
     static void settle();
 
     std::unique_ptr<QTemporaryDir> folder;
@@ -276,6 +282,32 @@ void tst_WindowCompanions::fetch(const QWidget *window)
 {
     child<QAbstractButton>(window, "EditAccount_PubDirFetch")->click();
     settle();
+}
+
+bool tst_WindowCompanions::waitsForPublication(const QPointer<KirvLayoutDialog> &window) const
+{
+    nameEdit(window)->setText(QStringLiteral("Typed"));
+    server().directory = KirvFakeServer::Holds;
+    save(window);
+    settle();
+    return window && window->isVisible();
+}
+
+void tst_WindowCompanions::verifySaveSendsNothing(const QPointer<KirvLayoutDialog> &window) const
+{
+    save(window);
+    settle();
+    QVERIFY(!window);
+    QCOMPARE(server().takeCalls(), QStringList());
+    QCOMPARE(name(), published);
+}
+
+void tst_WindowCompanions::verifySavePublishesName(const QPointer<KirvLayoutDialog> &window) const
+{
+    server().takeCalls();
+    save(window);
+    KIRV_TRY(!window);
+    QCOMPARE(server().takeCalls(), QStringList("ann publish name"));
 }
 
 /// Runs what is due, with the deletions.
@@ -693,11 +725,7 @@ void tst_WindowCompanions::failedFetchPublishesNothing()
     account()->tryAgain();
     KIRV_TRY(account()->isOnline());
     server().takeCalls();
-    save(window);
-    settle();
-    QVERIFY(!window);
-    QCOMPARE(server().takeCalls(), QStringList());
-    QCOMPARE(name(), published);
+    verifySaveSendsNothing(window);
 
     window = editDirectory();
     KIRV_TRY(!account()->directory().isBusy());
@@ -723,11 +751,7 @@ void tst_WindowCompanions::typedTextIsNotPublishedAfterAFailedFetch()
     settle();
     QVERIFY(window && isLocked(window));
     refusal.end();
-    save(window);
-    settle();
-    QVERIFY(!window);
-    QCOMPARE(server().takeCalls(), QStringList());
-    QCOMPARE(name(), published);
+    verifySaveSendsNothing(window);
 }
 
 void tst_WindowCompanions::failedDeletionPublishesNothing()
@@ -742,11 +766,7 @@ void tst_WindowCompanions::failedDeletionPublishesNothing()
     QVERIFY(status(window).contains(QLatin1String("not today")));
     server().directory = KirvFakeServer::Accepts;
     server().takeCalls();
-    save(window);
-    settle();
-    QVERIFY(!window);
-    QCOMPARE(server().takeCalls(), QStringList());
-    QCOMPARE(name(), published);
+    verifySaveSendsNothing(window);
 }
 
 void tst_WindowCompanions::deletionOffLineSendsNothing()
@@ -775,10 +795,7 @@ void tst_WindowCompanions::noEntryPublishesOnlyWhatWasTyped()
     QVERIFY(!isLocked(window));
     QCOMPARE(nameEdit(window)->text(), QString());
     nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().takeCalls();
-    save(window);
-    KIRV_TRY(!window);
-    QCOMPARE(server().takeCalls(), QStringList("ann publish name"));
+    verifySavePublishesName(window);
     QCOMPARE(name(), QStringLiteral("Typed"));
 }
 
@@ -808,11 +825,7 @@ void tst_WindowCompanions::refusedPublicationIsSentByTheNextSave()
 void tst_WindowCompanions::lostConnectionKeepsWhatWasTyped()
 {
     QPointer<KirvLayoutDialog> window = editDirectory();
-    nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().directory = KirvFakeServer::Holds;
-    save(window);
-    settle();
-    QVERIFY(window && window->isVisible());
+    QVERIFY(waitsForPublication(window));
     connection()->serverGoes();
     settle();
     QVERIFY(window && window->isVisible());
@@ -823,10 +836,7 @@ void tst_WindowCompanions::lostConnectionKeepsWhatWasTyped()
     KIRV_TRY(account()->isOnline());
     settle();
     QCOMPARE(nameEdit(window)->text(), QStringLiteral("Typed"));
-    server().takeCalls();
-    save(window);
-    KIRV_TRY(!window);
-    QCOMPARE(server().takeCalls(), QStringList("ann publish name"));
+    verifySavePublishesName(window);
 }
 
 void tst_WindowCompanions::failedReconnectionKeepsWhatWasTyped()
@@ -925,11 +935,7 @@ void tst_WindowCompanions::windowCanBeClosedWhilePublishing()
     KirvAccount *other = addAccount(bob);
     QPointer<KirvLayoutDialog> window = editDirectory();
     QSignalSpy finished(window, &QDialog::finished);
-    nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().directory = KirvFakeServer::Holds;
-    save(window);
-    settle();
-    QVERIFY(window && window->isVisible());
+    QVERIFY(waitsForPublication(window));
     if (way == QLatin1String("Cancel"))
         button(window, QDialogButtonBox::Cancel)->click();
     else if (way == QLatin1String("Escape"))
@@ -987,10 +993,7 @@ void tst_WindowCompanions::baseOfAnEarlierWindowIsNotUsed()
     window = editDirectory();
     QCOMPARE(nameEdit(window)->text(), QStringLiteral("Changed elsewhere"));
     nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().takeCalls();
-    save(window);
-    KIRV_TRY(!window);
-    QCOMPARE(server().takeCalls(), QStringList("ann publish name"));
+    verifySavePublishesName(window);
     QCOMPARE(textOf(server().entries.value(ann), QStringLiteral("town")), QStringLiteral("Bonn"));
 }
 
@@ -1137,11 +1140,7 @@ void tst_WindowCompanions::nothingElseIsUsableWhilePublishing()
                                   "</widget></item><item><widget class=\"QDialogButtonBox\""));
     useLayout(layout);
     QPointer<KirvLayoutDialog> window = editDirectory();
-    nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().directory = KirvFakeServer::Holds;
-    save(window);
-    settle();
-    QVERIFY(window && window->isVisible());
+    QVERIFY(waitsForPublication(window));
     server().takeCalls();
     fetch(window);
     QCOMPARE(server().takeCalls(), QStringList());
@@ -1157,10 +1156,7 @@ void tst_WindowCompanions::nothingElseIsUsableWhilePublishing()
 void tst_WindowCompanions::publicationReplacedByAFetchKeepsWhatWasTyped()
 {
     QPointer<KirvLayoutDialog> window = editDirectory();
-    nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().directory = KirvFakeServer::Holds;
-    save(window);
-    settle();
+    QVERIFY(waitsForPublication(window));
     QVERIFY(QMetaObject::invokeMethod(client->accountsPage()->getAccEdit(), "requestPubdirInfo"));
     connection()->serverRefuses(); // the publication
     connection()->serverAccepts(); // the fetch
@@ -1247,11 +1243,7 @@ void tst_WindowCompanions::pageMayGoWithWindowsOpen()
 void tst_WindowCompanions::clientMayGoWhilePublishing()
 {
     QPointer<KirvLayoutDialog> window = editDirectory();
-    nameEdit(window)->setText(QStringLiteral("Typed"));
-    server().directory = KirvFakeServer::Holds;
-    save(window);
-    settle();
-    QVERIFY(window && window->isVisible());
+    QVERIFY(waitsForPublication(window));
     client.reset();
     QVERIFY(!window);
 }

@@ -9,6 +9,7 @@
 #include "tests/support/fakes/kirv_fake_secret_store.h"
 #include "tests/support/fakes/kirv_fake_server_request.h"
 #include "tests/support/gui/kirv_assistant_window.h"
+#include "tests/support/gui/kirv_remember_box.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QCheckBox>
@@ -298,14 +299,7 @@ void tst_ServerCommands::theRegisteredAccountIsAdded()
 
 void tst_ServerCommands::theRegistrationSaysWhereThePasswordGoes_data()
 {
-    QTest::addColumn<KirvSecretStore::State>("state");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isOn");
-    QTest::newRow("ready") << KirvSecretStore::Ready << "in Fake Keyring" << true;
-    QTest::newRow("locked") << KirvSecretStore::Locked << "in Fake Keyring (locked: you will be asked to unlock it)"
-                            << true;
-    QTest::newRow("none") << KirvSecretStore::Unavailable
-                          << "There is no keyring here: it would be kept in a file only you can read" << false;
+    kirvAddPlacesOfPasswords();
 }
 
 void tst_ServerCommands::theRegistrationSaysWhereThePasswordGoes()
@@ -337,13 +331,7 @@ void tst_ServerCommands::theBoxFollowsTheKeyringUntilItIsClicked()
     accounts->secrets().setKeyring(&keyring);
     registerAccount();
     auto *box = Assistant::part<QCheckBox>("Remember");
-    QVERIFY(box->isChecked());
-    keyring.setState(KirvSecretStore::Unavailable);
-    QVERIFY(!box->isChecked());
-    box->click();
-    keyring.setState(KirvSecretStore::Ready);
-    keyring.setState(KirvSecretStore::Unavailable);
-    QVERIFY(box->isChecked());
+    kirvVerifyBoxFollowsKeyring(box, keyring);
 }
 
 void tst_ServerCommands::aDestroyedWindowKeepsWhatItsBoxSaid_data()

@@ -308,6 +308,12 @@ private:
             KirvWindowDriver::pressKey(part<QTabWidget>(window, "EditAccount_Tabs")->tabBar(), Qt::Key_Right);
         return window;
     }
+    /// The same with the entry of the server; null when that does not come.
+    QDialog *editFetchedDirectory()
+    {
+        QDialog *window = editDirectory();
+        return window && QTest::qWaitFor([window] { return !isLocked(window); }, kirvPatience) ? window : nullptr;
+    }
     void goTo(const QString &presenceId, const QString &text = QString()) const
     {
         KirvAccount *account = windows->account(ann);
@@ -346,6 +352,7 @@ private:
         KirvObservingXmppClient otherClient;
         return otherClient.logIn(server, "ann", secret) && otherClient.publish(cardOf(entry));
     }
+    bool addWithEntry() { return add(ann) && publishElsewhere(fullEntry("1")); }
     Entry seenEntry() { return entryOf(juliet->vCardOf(ann)); }
     QByteArray seenHash() const { return juliet->presenceOf(ann).photoHash(); }
     QString createPicture(const QString &name, QRgb color) const
@@ -555,8 +562,7 @@ void tst_EditingInWindows::cancelWritesNothingButThePicture_data()
 void tst_EditingInWindows::cancelWritesNothingButThePicture()
 {
     QFETCH(Leave, leave);
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     const QStringList before = storedValues();
 
     QDialog *window = windows->edit(ann);
@@ -685,11 +691,9 @@ void tst_EditingInWindows::pictureThatVanishedIsSaid()
 
 void tst_EditingInWindows::entryComesFromTheServerAndGoesThere()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
-    QDialog *window = editDirectory();
+    QVERIFY(addWithEntry());
+    QDialog *window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(status(window), QString());
 
@@ -703,11 +707,9 @@ void tst_EditingInWindows::entryComesFromTheServerAndGoesThere()
 
 void tst_EditingInWindows::entryIsFetchedAgain()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
-    QDialog *window = editDirectory();
+    QVERIFY(addWithEntry());
+    QDialog *window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     paste(field(window, "town"), "Nowhere");
     QVERIFY(publishElsewhere(fullEntry("2")));
     KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirFetch"));
@@ -716,24 +718,21 @@ void tst_EditingInWindows::entryIsFetchedAgain()
 
 void tst_EditingInWindows::entryStaysWhenOnlyTheAccountIsChanged()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     QDialog *window = windows->edit(ann);
     QVERIFY(window);
     KirvWindowDriver::type(alias(window), "Ann");
     QVERIFY(windows->save(window));
     // What the first window sends arrives before what the second one asks for.
-    window = editDirectory();
+    window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
 
 void tst_EditingInWindows::entryStaysWhenSavedBeforeItCame()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     Silence silence(server);
     QVERIFY(silence.holds());
     QDialog *window = editDirectory();
@@ -741,20 +740,17 @@ void tst_EditingInWindows::entryStaysWhenSavedBeforeItCame()
     QVERIFY(isLocked(window));
     QVERIFY(windows->save(window));
     silence.end();
-    window = editDirectory();
+    window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), fullEntry("1"));
     QCOMPARE(seenEntry(), fullEntry("1"));
 }
 
 void tst_EditingInWindows::entryIsDeletedAfterAQuestion()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
-    QDialog *window = editDirectory();
+    QVERIFY(addWithEntry());
+    QDialog *window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     const auto answer = [&](QMessageBox::StandardButton button) {
         KirvWindowDriver::click(part<QPushButton>(window, "EditAccount_PubDirDelete"));
         if (!QTest::qWaitFor([this] { return windows->question(); }, kirvPatience))
@@ -780,9 +776,8 @@ void tst_EditingInWindows::veryLongEntryOfTheServerIsKept()
     Entry entry = fullEntry("1");
     entry["about"] = QString("0123456789").repeated(15000);
     QVERIFY(publishElsewhere(entry));
-    QDialog *window = editDirectory();
+    QDialog *window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     entry["town"] = "Potsdam";
     paste(field(window, "town"), entry["town"]);
     QVERIFY(windows->save(window));
@@ -791,11 +786,9 @@ void tst_EditingInWindows::veryLongEntryOfTheServerIsKept()
 
 void tst_EditingInWindows::tooLongEntryIsRefused()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
-    QDialog *window = editDirectory();
+    QVERIFY(addWithEntry());
+    QDialog *window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     // As much as fields take, of what is five times as long when it is sent.
     for (const char *id : { "fullname", "about" })
         paste(field(window, id), QString(kirvLongestEditableText, '&'));
@@ -817,8 +810,7 @@ void tst_EditingInWindows::fieldsAreLockedUntilTheAccountIsConnected_data()
 void tst_EditingInWindows::fieldsAreLockedUntilTheAccountIsConnected()
 {
     QFETCH(bool, isDisabled);
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     KirvAccountManager *manager = KirvAccountManager::getInstance();
     if (isDisabled)
         manager->disableAccount(ann, xmpp);
@@ -842,8 +834,7 @@ void tst_EditingInWindows::fieldsAreLockedUntilTheAccountIsConnected()
 
 void tst_EditingInWindows::fieldsAreLockedWhileTheServerIsAsked()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     Silence silence(server);
     QVERIFY(silence.holds());
     QDialog *window = editDirectory();
@@ -858,8 +849,7 @@ void tst_EditingInWindows::fieldsAreLockedWhileTheServerIsAsked()
 
 void tst_EditingInWindows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     Silence silence(server);
     QVERIFY(silence.holds());
     QDialog *window = editDirectory();
@@ -892,12 +882,10 @@ void tst_EditingInWindows::serverThatDoesNotAnswerIsSaid()
 
 void tst_EditingInWindows::serverKilledWhilePublishing()
 {
-    QVERIFY(add(ann));
-    QVERIFY(publishElsewhere(fullEntry("1")));
+    QVERIFY(addWithEntry());
     hurry();
-    QDialog *window = editDirectory();
+    QDialog *window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     paste(field(window, "town"), "Potsdam");
     Silence silence(server);
     QVERIFY(silence.holds());
@@ -915,9 +903,8 @@ void tst_EditingInWindows::serverKilledWhilePublishing()
     QVERIFY(windows->save(window));
     Entry entry = fullEntry("1");
     entry["town"] = "Potsdam";
-    window = editDirectory();
+    window = editFetchedDirectory();
     QVERIFY(window);
-    KIRV_TRY(!isLocked(window));
     QCOMPARE(shownEntry(window), entry);
 }
 

@@ -2,11 +2,11 @@
 #include "core/accounts/kirv_account_log.h"
 #include "core/accounts/kirv_login_test.h"
 #include "tests/support/servers/kirv_plugin_profile.h"
+#include "tests/system/kirv_tested_login.h"
 #include "tools/servers/kirv_ngircd_server.h"
 
 #include <QSignalSpy>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
 
 using Step = KirvLoginStep;
@@ -31,7 +31,7 @@ private Q_SLOTS:
 
 private:
     void run(const Values &values, const QString &password = QString());
-    KirvLoginTest::Step step(Step::Kind kind) const;
+    KirvLoginTest::Step step(Step::Kind kind) const { return kirvStepOf(*test, kind); }
     static Values valuesFor(const KirvNgircdServer &server);
 
     std::unique_ptr<KirvPluginProfile> profile;
@@ -65,16 +65,6 @@ void tst_IrcLoginTest::run(const Values &values, const QString &password)
     test = std::make_unique<KirvLoginTest>(*profile->protocol(), KirvLogin { "alice", password, settings });
     test->start();
     KIRV_TRY(!test->isRunning());
-}
-
-KirvLoginTest::Step tst_IrcLoginTest::step(Step::Kind kind) const
-{
-    KirvLoginTest::Step found;
-    for (const KirvLoginTest::Step &taken : test->steps()) {
-        if (taken.kind == kind)
-            found = taken;
-    }
-    return found;
 }
 
 void tst_IrcLoginTest::everyStepIsShown_data()
@@ -124,10 +114,7 @@ void tst_IrcLoginTest::wrongPasswordFailsInTheLogIn()
 
 void tst_IrcLoginTest::unreachableServerFailsInItsStep_data()
 {
-    QTest::addColumn<QString>("host");
-    QTest::addColumn<int>("kind");
-    QTest::newRow("nobody listens") << "127.0.0.1" << int(Step::Connection);
-    QTest::newRow("there is no such host") << "no-such-host.invalid" << int(Step::NameLookup);
+    kirvAddUnreachableServers();
 }
 
 void tst_IrcLoginTest::unreachableServerFailsInItsStep()
@@ -135,10 +122,7 @@ void tst_IrcLoginTest::unreachableServerFailsInItsStep()
     QFETCH(QString, host);
     QFETCH(int, kind);
     run({ { "server", host }, { "port", QString::number(KirvLocalServer::findFreePort()) } });
-    QCOMPARE(test->state(), KirvLoginTest::Failed);
-    QCOMPARE(int(test->steps().last().kind), kind);
-    QCOMPARE(test->steps().last().outcome, Step::Failed);
-    QVERIFY2(test->steps().last().problem.contains(host), qPrintable(test->report()));
+    kirvVerifyUnreachable(*test, host, kind);
 }
 
 void tst_IrcLoginTest::untrustedCertificateFailsInTheEncryption()
@@ -149,11 +133,7 @@ void tst_IrcLoginTest::untrustedCertificateFailsInTheEncryption()
     Values values = valuesFor(server);
     values["certificate"].clear();
     run(values);
-    const KirvLoginTest::Step failed = test->steps().last();
-    QCOMPARE(failed.kind, Step::Encryption);
-    QCOMPARE(failed.outcome, Step::Failed);
-    QVERIFY2(failed.text.contains("certificate of localhost"), qPrintable(test->report()));
-    QVERIFY(!failed.problem.isEmpty());
+    kirvVerifyUntrusted(*test);
 }
 
 /// A server that accepts connections and says nothing.
@@ -168,13 +148,7 @@ void tst_IrcLoginTest::cancelledTestLeavesTheServer()
         *profile->protocol(),
         KirvLogin { "alice", QString(),
                     KirvPluginProfile::withValues(profile->protocol()->accountSettings(), values) });
-    test->start();
-    KIRV_TRY(silent.hasPendingConnections());
-    QTcpSocket *socket = silent.nextPendingConnection();
-    KIRV_TRY(step(Step::Connection).outcome == Step::Done);
-    test->cancel();
-    QCOMPARE(test->state(), KirvLoginTest::Cancelled);
-    KIRV_TRY_COMPARE(socket->state(), QAbstractSocket::UnconnectedState);
+    kirvVerifyCancelling(*test, silent);
 }
 
 /// The nick is in use then: the test has another one.

@@ -234,11 +234,9 @@ void tst_IrcProxy::aFailingProxyIsNotAvoided()
     for (const char *encryption : { "none", "required" }) {
         values.insert("encryption", encryption);
         logIn(values);
-        QTRY_VERIFY_WITH_TIMEOUT(failure().isFailure(), kirvPatience);
-        QVERIFY2(failure().kind() == failing, qPrintable(failure().text()));
-        QCOMPARE(connection->state(), KirvConnection::Waiting);
-        const int before = proxy.connections();
-        QTRY_VERIFY_WITH_TIMEOUT(proxy.connections() > before, kirvPatience); // again through the proxy
+        kirvVerifyFailingProxy(*connection, proxy, failing);
+        if (QTest::currentTestFailed())
+            return;
         QCOMPARE(reached.size(), 0);
         QCOMPARE(kirvTakeLookUps(), QStringList());
     }
@@ -246,12 +244,7 @@ void tst_IrcProxy::aFailingProxyIsNotAvoided()
 
 void tst_IrcProxy::aProxyThatIsNotThereIsNotAvoided_data()
 {
-    QTest::addColumn<Proxy::Kind>("kind");
-    QTest::addColumn<QString>("host");
-    QTest::newRow("SOCKS5, nobody listens") << Proxy::Socks5 << "127.0.0.1";
-    QTest::newRow("SOCKS5, no such host") << Proxy::Socks5 << "no-proxy-here.invalid";
-    QTest::newRow("HTTP, nobody listens") << Proxy::Http << "127.0.0.1";
-    QTest::newRow("HTTP, no such host") << Proxy::Http << "no-proxy-here.invalid";
+    kirvAddMissingProxies();
 }
 
 void tst_IrcProxy::aProxyThatIsNotThereIsNotAvoided()
@@ -267,23 +260,16 @@ void tst_IrcProxy::aProxyThatIsNotThereIsNotAvoided()
     values.insert("proxy_host", host);
     proxy.reset();
     logIn(values);
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        QSignalSpy failures(connection.get(), &KirvConnection::failed);
-        QTRY_VERIFY_WITH_TIMEOUT(!failures.isEmpty(), kirvPatience);
-        QCOMPARE(failure().kind(), KirvFailure::ProxyNotReached);
-        QVERIFY2(failure().text().contains(host + ':' + values.value("proxy_port")), qPrintable(failure().text()));
-    }
+    kirvVerifyMissingProxy(*connection, host, values.value("proxy_port").toInt());
     QCOMPARE(reached.size(), 0);
     QStringList names = kirvTakeLookUps();
-    names.removeAll("no-proxy-here.invalid"); // its own name has to be looked up
+    names.removeAll(kirvNoProxyHere); // its own name has to be looked up
     QCOMPARE(names, QStringList());
 }
 
 void tst_IrcProxy::aSilentProxyIsNotAvoided_data()
 {
-    QTest::addColumn<Proxy::Kind>("kind");
-    QTest::newRow("SOCKS5") << Proxy::Socks5;
-    QTest::newRow("HTTP") << Proxy::Http;
+    kirvAddKindsOfProxies();
 }
 
 void tst_IrcProxy::aSilentProxyIsNotAvoided()
@@ -296,11 +282,7 @@ void tst_IrcProxy::aSilentProxyIsNotAvoided()
     values.insert("server", "localhost");
     KirvFakeClock clock;
     logIn(values, clock);
-    QTRY_COMPARE_WITH_TIMEOUT(proxy.connections(), 1, kirvPatience);
-    clock.advance(KirvProxy::timeout - 1);
-    QCOMPARE(connection->state(), KirvConnection::Connecting);
-    clock.advance(1);
-    QCOMPARE(failure().kind(), KirvFailure::ProxyTimedOut);
+    kirvVerifySilentProxy(*connection, proxy, clock);
     QCOMPARE(reached.size(), 0);
     QCOMPARE(kirvTakeLookUps(), QStringList());
     connection.reset();

@@ -4,6 +4,7 @@
 #include "tests/support/servers/kirv_hostile_xmpp_server.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_scripted_session_server.h"
+#include "tests/support/servers/kirv_xmpp_login.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -74,17 +75,8 @@ void tst_XmppForgedReplies::cleanup()
 /// Encrypted when a certificate is to be trusted.
 void tst_XmppForgedReplies::logIn(const QString &id, quint16 port, const QString &certificate)
 {
-    KirvLogin login;
-    login.id = id;
-    login.password = "secret";
-    KirvXmppSettings settings;
-    settings.server = "127.0.0.1";
-    settings.port = port;
-    settings.resource = "Kirv";
-    settings.certificatePath = certificate;
-    settings.encryption = certificate.isEmpty() ? KirvXmppSettings::None : KirvXmppSettings::Required;
-    login.settings = settings.toFields();
-    romeo->logIn(login, { "available", QString(), QString() });
+    const auto encryption = certificate.isEmpty() ? KirvXmppSettings::None : KirvXmppSettings::Required;
+    romeo->logIn(kirvXmppLogin(id, port, encryption, certificate), { "available", QString(), QString() });
 }
 
 /// Sends Romeo results with the ids that the library gives to the next requests, and lets them arrive where they wait

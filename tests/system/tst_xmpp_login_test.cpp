@@ -2,13 +2,13 @@
 #include "core/accounts/kirv_account_log.h"
 #include "core/accounts/kirv_login_test.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
+#include "tests/system/kirv_tested_login.h"
 #include "tools/servers/kirv_prosody_server.h"
 
 #include <QLocale>
 #include <QSignalSpy>
 #include <QSslCertificate>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QTest>
 
 using Step = KirvLoginStep;
@@ -33,9 +33,9 @@ private Q_SLOTS:
     void logHoldsNoPassword();
 
 private:
-    QList<KirvField> settings(const KirvProsodyServer &server, Values values = {}) const;
+    QList<KirvField> settings(const KirvProsodyServer &server, const Values &values = {}) const;
     void run(const QList<KirvField> &settings, const QString &password = "secret");
-    KirvLoginTest::Step step(Step::Kind kind) const;
+    KirvLoginTest::Step step(Step::Kind kind) const { return kirvStepOf(*test, kind); }
 
     std::unique_ptr<KirvXmppProfile> profile;
     std::unique_ptr<KirvLoginTest> test;
@@ -53,17 +53,10 @@ void tst_XmppLoginTest::cleanup()
     profile.reset();
 }
 
-QList<KirvField> tst_XmppLoginTest::settings(const KirvProsodyServer &server, Values values) const
+QList<KirvField> tst_XmppLoginTest::settings(const KirvProsodyServer &server, const Values &values) const
 {
-    const Values defaults { { "server", server.host() },
-                            { "port", QString::number(server.port()) },
-                            { "encryption", server.certificatePath().isEmpty() ? "none" : "required" },
-                            { "certificate", server.certificatePath() } };
-    for (auto value = defaults.begin(); value != defaults.end(); ++value) {
-        if (!values.contains(value.key()))
-            values.insert(value.key(), value.value());
-    }
-    return KirvPluginProfile::withValues(profile->protocol()->accountSettings(), values);
+    return KirvPluginProfile::withValues(profile->protocol()->accountSettings(),
+                                         KirvXmppProfile::valuesFor(server, values));
 }
 
 /// Tests the log-in of Romeo to its end.
@@ -72,16 +65,6 @@ void tst_XmppLoginTest::run(const QList<KirvField> &settings, const QString &pas
     test = std::make_unique<KirvLoginTest>(*profile->protocol(), KirvLogin { "romeo@localhost", password, settings });
     test->start();
     KIRV_TRY(!test->isRunning());
-}
-
-KirvLoginTest::Step tst_XmppLoginTest::step(Step::Kind kind) const
-{
-    KirvLoginTest::Step found;
-    for (const KirvLoginTest::Step &taken : test->steps()) {
-        if (taken.kind == kind)
-            found = taken;
-    }
-    return found;
 }
 
 void tst_XmppLoginTest::everyStepIsShown()
@@ -126,10 +109,7 @@ void tst_XmppLoginTest::wrongPasswordFailsInTheLogIn()
 
 void tst_XmppLoginTest::unreachableServerFailsInItsStep_data()
 {
-    QTest::addColumn<QString>("host");
-    QTest::addColumn<int>("kind");
-    QTest::newRow("nobody listens") << "127.0.0.1" << int(Step::Connection);
-    QTest::newRow("there is no such host") << "no-such-host.invalid" << int(Step::NameLookup);
+    kirvAddUnreachableServers();
 }
 
 void tst_XmppLoginTest::unreachableServerFailsInItsStep()
@@ -140,10 +120,7 @@ void tst_XmppLoginTest::unreachableServerFailsInItsStep()
     run(settings(
         server,
         { { "server", host }, { "port", QString::number(KirvLocalServer::findFreePort()) }, { "certificate", "" } }));
-    QCOMPARE(test->state(), KirvLoginTest::Failed);
-    QCOMPARE(int(test->steps().last().kind), kind);
-    QCOMPARE(test->steps().last().outcome, Step::Failed);
-    QVERIFY2(test->steps().last().problem.contains(host), qPrintable(test->report()));
+    kirvVerifyUnreachable(*test, host, kind);
 }
 
 void tst_XmppLoginTest::untrustedCertificateFailsInTheEncryption()
@@ -151,13 +128,7 @@ void tst_XmppLoginTest::untrustedCertificateFailsInTheEncryption()
     KirvProsodyServer server;
     QVERIFY(KirvXmppProfile::start(server));
     run(settings(server, { { "certificate", "" } }));
-    QCOMPARE(test->state(), KirvLoginTest::Failed);
-    const KirvLoginTest::Step failed = test->steps().last();
-    QCOMPARE(failed.kind, Step::Encryption);
-    QCOMPARE(failed.outcome, Step::Failed);
-    QVERIFY2(failed.text.contains("certificate of localhost"), qPrintable(test->report()));
-    QVERIFY(!failed.problem.isEmpty());
-    QCOMPARE(test->result(), failed.problem);
+    kirvVerifyUntrusted(*test);
 }
 
 void tst_XmppLoginTest::missingEncryptionIsSaid()
@@ -186,14 +157,7 @@ void tst_XmppLoginTest::cancelledTestLeavesTheServer()
         *profile->protocol(),
         KirvLogin { "romeo@localhost", "secret",
                     settings(unused, { { "port", QString::number(silent.serverPort()) }, { "certificate", "" } }) });
-    test->start();
-    KIRV_TRY(silent.hasPendingConnections());
-    QTcpSocket *socket = silent.nextPendingConnection();
-    KIRV_TRY(step(Step::Connection).outcome == Step::Done);
-    QVERIFY(test->isRunning());
-    test->cancel();
-    QCOMPARE(test->state(), KirvLoginTest::Cancelled);
-    KIRV_TRY_COMPARE(socket->state(), QAbstractSocket::UnconnectedState);
+    kirvVerifyCancelling(*test, silent);
 }
 
 /// Also when the resource of the account is always the same.

@@ -4,6 +4,7 @@
 #include "tests/support/servers/kirv_hostile_xmpp_server.h"
 #include "tests/support/servers/kirv_observing_xmpp_client.h"
 #include "tests/support/servers/kirv_scripted_session_server.h"
+#include "tests/support/servers/kirv_xmpp_login.h"
 #include "tests/support/servers/kirv_xmpp_profile.h"
 #include "tools/servers/kirv_prosody_server.h"
 
@@ -12,21 +13,6 @@
 #include <QTest>
 
 namespace {
-
-KirvLogin loginTo(const QString &id, quint16 port, const QString &certificate, KirvXmppSettings::Encryption encryption)
-{
-    KirvLogin login;
-    login.id = id;
-    login.password = "secret";
-    KirvXmppSettings settings;
-    settings.server = "127.0.0.1";
-    settings.port = port;
-    settings.resource = "Kirv";
-    settings.encryption = encryption;
-    settings.certificatePath = certificate;
-    login.settings = settings.toFields();
-    return login;
-}
 
 KirvPresence presence(const QString &id)
 {
@@ -77,7 +63,7 @@ void tst_XmppPrivacy::strangersAreNotAnswered()
     QVERIFY(mallory.logIn(server, "mallory"));
     KirvXmppConnection romeo;
     const KirvLogin login =
-        loginTo("romeo@localhost", server.port(), server.certificatePath(), KirvXmppSettings::Required);
+        kirvXmppLogin("romeo@localhost", server.port(), KirvXmppSettings::Required, server.certificatePath());
     romeo.logIn(login, presence(presenceId));
     KIRV_TRY_COMPARE(romeo.state(), KirvConnection::Online);
 
@@ -99,7 +85,7 @@ void tst_XmppPrivacy::invisibleAccountAnswersItsServer()
 {
     KirvHostileXmppServer server(KirvHostileXmppServer::Attack {});
     KirvXmppConnection connection;
-    connection.logIn(loginTo("ann@localhost", server.port(), QString(), KirvXmppSettings::None), presence("invisible"));
+    connection.logIn(kirvXmppLogin("ann@localhost", server.port(), KirvXmppSettings::None), presence("invisible"));
     KIRV_TRY(server.isDigested());
     QCOMPARE(connection.state(), KirvConnection::Online);
 }
@@ -133,7 +119,7 @@ void tst_XmppPrivacy::requestsAreAnsweredAsTheSenderNeeds()
     QFETCH(QByteArray, answer);
     KirvScriptedSessionServer server;
     KirvXmppConnection connection;
-    connection.logIn(loginTo("ann@localhost", server.serverPort(), QString(), KirvXmppSettings::None),
+    connection.logIn(kirvXmppLogin("ann@localhost", server.serverPort(), KirvXmppSettings::None),
                      presence("available"));
     KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
     for (const QByteArray &type : { QByteArray("get"), QByteArray("set") })
@@ -153,7 +139,7 @@ void tst_XmppPrivacy::presenceTellsNothingOfTheProgram()
 {
     KirvScriptedSessionServer server;
     KirvXmppConnection connection;
-    connection.logIn(loginTo("ann@localhost", server.serverPort(), QString(), KirvXmppSettings::None),
+    connection.logIn(kirvXmppLogin("ann@localhost", server.serverPort(), KirvXmppSettings::None),
                      presence("available"));
     KIRV_TRY_COMPARE(connection.state(), KirvConnection::Online);
     KIRV_TRY(!server.presences().isEmpty());
@@ -182,7 +168,7 @@ void tst_XmppPrivacy::passwordIsSentInClearOnlyWhereThatIsChosen()
     KirvScriptedSessionServer server;
     KirvXmppConnection connection;
     QSignalSpy failures(&connection, &KirvConnection::failed);
-    connection.logIn(loginTo("ann@localhost", server.serverPort(), QString(), KirvXmppSettings::Encryption(encryption)),
+    connection.logIn(kirvXmppLogin("ann@localhost", server.serverPort(), KirvXmppSettings::Encryption(encryption)),
                      presence("available"));
     KIRV_TRY(connection.state() == KirvConnection::Online || !failures.isEmpty());
     QCOMPARE(connection.state() == KirvConnection::Online, isSent);

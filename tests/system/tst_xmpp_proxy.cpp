@@ -19,7 +19,6 @@ using Proxy = KirvScriptedProxy;
 namespace {
 
 const KirvPresence available("available", "Available", QString(), QString());
-const auto noProxyHere = "no-proxy-here.invalid";
 
 KirvProxy settingsFor(const Proxy &proxy, Proxy::Kind kind)
 {
@@ -300,11 +299,9 @@ void tst_XmppProxy::aFailingProxyIsNotAvoided()
         settings.port = host.isEmpty() ? KirvXmppSettings::defaultPort : server.serverPort();
         settings.proxy = settingsFor(proxy, kind);
         logIn(settings);
-        QTRY_VERIFY_WITH_TIMEOUT(failure().isFailure(), kirvPatience);
-        QVERIFY2(failure().kind() == failing, qPrintable(failure().text()));
-        QCOMPARE(connection->state(), KirvConnection::Waiting);
-        const int before = proxy.connections();
-        QTRY_VERIFY_WITH_TIMEOUT(proxy.connections() > before, kirvPatience); // again through the proxy
+        kirvVerifyFailingProxy(*connection, proxy, failing);
+        if (QTest::currentTestFailed())
+            return;
         QCOMPARE(server.connections(), 0);
         QCOMPARE(kirvTakeLookUps(), QStringList());
     }
@@ -312,12 +309,7 @@ void tst_XmppProxy::aFailingProxyIsNotAvoided()
 
 void tst_XmppProxy::aProxyThatIsNotThereIsNotAvoided_data()
 {
-    QTest::addColumn<Proxy::Kind>("kind");
-    QTest::addColumn<QString>("host");
-    QTest::newRow("SOCKS5, nobody listens") << Proxy::Socks5 << "127.0.0.1";
-    QTest::newRow("SOCKS5, no such host") << Proxy::Socks5 << noProxyHere;
-    QTest::newRow("HTTP, nobody listens") << Proxy::Http << "127.0.0.1";
-    QTest::newRow("HTTP, no such host") << Proxy::Http << noProxyHere;
+    kirvAddMissingProxies();
 }
 
 void tst_XmppProxy::aProxyThatIsNotThereIsNotAvoided()
@@ -333,24 +325,16 @@ void tst_XmppProxy::aProxyThatIsNotThereIsNotAvoided()
     settings.proxy.host = host;
     proxy.reset();
     logIn(settings);
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        QSignalSpy failures(connection.get(), &KirvConnection::failed);
-        QTRY_VERIFY_WITH_TIMEOUT(!failures.isEmpty(), kirvPatience);
-        QCOMPARE(failure().kind(), KirvFailure::ProxyNotReached);
-        const QString name = QStringLiteral("%1:%2").arg(host).arg(settings.proxy.port);
-        QVERIFY2(failure().text().contains(name), qPrintable(failure().text()));
-    }
+    kirvVerifyMissingProxy(*connection, host, settings.proxy.port);
     QCOMPARE(server.connections(), 0);
     QStringList names = kirvTakeLookUps();
-    names.removeAll(noProxyHere); // its own name has to be looked up
+    names.removeAll(kirvNoProxyHere); // its own name has to be looked up
     QCOMPARE(names, QStringList());
 }
 
 void tst_XmppProxy::aSilentProxyIsNotAvoided_data()
 {
-    QTest::addColumn<Proxy::Kind>("kind");
-    QTest::newRow("SOCKS5") << Proxy::Socks5;
-    QTest::newRow("HTTP") << Proxy::Http;
+    kirvAddKindsOfProxies();
 }
 
 void tst_XmppProxy::aSilentProxyIsNotAvoided()
@@ -364,11 +348,7 @@ void tst_XmppProxy::aSilentProxyIsNotAvoided()
     settings.proxy = settingsFor(proxy, kind);
     KirvFakeClock clock;
     logIn(settings, "romeo@localhost", clock);
-    QTRY_COMPARE_WITH_TIMEOUT(proxy.connections(), 1, kirvPatience);
-    clock.advance(KirvProxy::timeout - 1);
-    QCOMPARE(connection->state(), KirvConnection::Connecting);
-    clock.advance(1);
-    QCOMPARE(failure().kind(), KirvFailure::ProxyTimedOut);
+    kirvVerifySilentProxy(*connection, proxy, clock);
     QCOMPARE(server.connections(), 0);
     QCOMPARE(kirvTakeLookUps(), QStringList());
     connection.reset();

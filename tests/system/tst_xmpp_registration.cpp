@@ -71,6 +71,15 @@ private:
     static void press(QPushButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
     /// Presses Continue at the server's step and waits for the form.
     static bool openForm();
+    /// Opens the registration on \a server up to its form.
+    template <typename Server>
+    bool openFormOf(const Server &server)
+    {
+        if (!openRegistration())
+            return false;
+        fillServer(server);
+        return openForm();
+    }
     KirvAccount *romeo() const { return profile->accounts().find(romeoKey); }
 
     std::unique_ptr<KirvXmppProfile> profile;
@@ -179,9 +188,7 @@ void tst_XmppRegistration::newAccountIsInTheListAndLogsIn()
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
     QSignalSpy added(&profile->accounts(), &KirvAccountCollection::accountAdded);
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     QVERIFY(!Assistant::text().isEmpty());
     type("username", "romeo");
     type("password", "secret");
@@ -203,9 +210,7 @@ void tst_XmppRegistration::passwordIsForgottenOnRequest()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", romeoAddress); // the whole address is understood, too
     type("password", "secret");
     Assistant::part<QCheckBox>("Remember")->setChecked(false);
@@ -220,9 +225,7 @@ void tst_XmppRegistration::takenNameCanBeChanged()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start() && server.addUser("romeo", "other"), qPrintable(server.errorString()));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", "romeo");
     type("password", "secret");
     press(Assistant::next());
@@ -319,9 +322,7 @@ void tst_XmppRegistration::domainMustBeEntered()
 void tst_XmppRegistration::requiredFieldsMustBeFilledIn()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>"));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", "romeo");
     press(Assistant::next());
     QVERIFY(Assistant::message().contains("Password"));
@@ -331,9 +332,7 @@ void tst_XmppRegistration::requiredFieldsMustBeFilledIn()
 void tst_XmppRegistration::formIsShownAsItComes()
 {
     KirvScriptedXmppServer server(registering(dataForm(pngPicture())));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     QVERIFY(Assistant::text().contains("Join <us>") && Assistant::text().contains("Fill it in."));
     KIRV_TRY(Assistant::part<QLabel>("Picture1"));
     const auto *picture = Assistant::part<QLabel>("Picture1");
@@ -374,9 +373,7 @@ void tst_XmppRegistration::fixedFieldsAreShownAsTheyCome()
 {
     KirvScriptedXmppServer server(
         registering("<instructions>Please.</instructions><key>k1</key><username/><password/><zip/><shoesize/>"));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     QVERIFY(!Assistant::field<QWidget>("key"));
     type("username", "romeo");
     type("password", "secret");
@@ -405,9 +402,7 @@ void tst_XmppRegistration::connectionLostWhileTheFormIsFilledIn()
 {
     KirvProsodyServer server;
     QVERIFY2(server.start(), qPrintable(server.errorString()));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", "romeo");
     type("password", "secret");
     server.kill();
@@ -426,9 +421,7 @@ void tst_XmppRegistration::connectionLostWhileTheFormIsFilledIn()
 void tst_XmppRegistration::connectionLostWhileTheFormIsSent()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>", ""));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", "romeo");
     type("password", "secret");
     press(Assistant::next());
@@ -443,9 +436,7 @@ void tst_XmppRegistration::connectionLostWhileTheFormIsSent()
 void tst_XmppRegistration::goingBackKeepsWhatWasTyped()
 {
     KirvScriptedXmppServer server(registering("<username/><password/>"));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", "romeo");
     press(Assistant::back());
     QVERIFY(!Assistant::isAtLaterStep());
@@ -458,9 +449,7 @@ void tst_XmppRegistration::accountThatIsInTheListAlreadyIsSaid()
 {
     profile->createAccount(romeoAddress, {});
     KirvScriptedXmppServer server(registering("<username/><password/>"));
-    QVERIFY(openRegistration());
-    fillServer(server);
-    QVERIFY(openForm());
+    QVERIFY(openFormOf(server));
     type("username", "romeo");
     type("password", "another");
     press(Assistant::next());

@@ -78,6 +78,16 @@ void KirvPageFixture::clickCheckBox(QTreeWidgetItem *row)
     QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, box.center());
 }
 
+void KirvPageFixture::selectAllOrNone(bool all)
+{
+    list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    clickRow(row("alice"));
+    if (all)
+        list()->selectAll();
+    else
+        list()->clearSelection();
+}
+
 QStringList KirvPageFixture::offered()
 {
     QStringList entries;

@@ -61,6 +61,8 @@ public:
     /// Clicks on the row's text, or on its check box.
     void clickRow(QTreeWidgetItem *row, int column = 0);
     void clickCheckBox(QTreeWidgetItem *row);
+    /// Clicks on a row, then selects all rows or none.
+    void selectAllOrNone(bool all);
 
     /// "id@protocol" of the accounts that the selector offers, in order, with a star before the current one.
     QStringList offered();

@@ -187,12 +187,7 @@ void tst_AccountCommands::editingNeedsExactlyOneSelectedRow_data()
 void tst_AccountCommands::editingNeedsExactlyOneSelectedRow()
 {
     QFETCH(bool, all);
-    fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    fixture->clickRow(fixture->row("alice"));
-    if (all)
-        fixture->list()->selectAll();
-    else
-        fixture->list()->clearSelection();
+    fixture->selectAllOrNone(all);
     QVERIFY(fixture->editButton()->isEnabled());
     fixture->editButton()->click();
     QCOMPARE(fixture->host.calls(), QStringList());

@@ -89,12 +89,7 @@ void tst_AccountRemoval::removingNeedsExactlyOneSelectedRow_data()
 void tst_AccountRemoval::removingNeedsExactlyOneSelectedRow()
 {
     QFETCH(bool, all);
-    fixture->list()->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    fixture->clickRow(fixture->row("alice"));
-    if (all)
-        fixture->list()->selectAll();
-    else
-        fixture->list()->clearSelection();
+    fixture->selectAllOrNone(all);
     fixture->removeButton()->click();
     QVERIFY(!kirvVisibleWindow<QMessageBox>());
 }

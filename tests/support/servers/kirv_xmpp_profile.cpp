@@ -20,8 +20,7 @@ bool KirvXmppProfile::start(KirvProsodyServer &server, const QStringList &users)
     return isReady;
 }
 
-KirvAccount *KirvXmppProfile::createAccount(const KirvProsodyServer &server, const QString &user, Values values,
-                                            const QString &password)
+KirvXmppProfile::Values KirvXmppProfile::valuesFor(const KirvProsodyServer &server, Values values)
 {
     const Values defaults { { "server", server.host() },
                             { "port", QString::number(server.port()) },
@@ -31,7 +30,13 @@ KirvAccount *KirvXmppProfile::createAccount(const KirvProsodyServer &server, con
         if (!values.contains(value.key()))
             values.insert(value.key(), value.value());
     }
-    return createAccount(user + '@' + server.domain(), values, password);
+    return values;
+}
+
+KirvAccount *KirvXmppProfile::createAccount(const KirvProsodyServer &server, const QString &user, const Values &values,
+                                            const QString &password)
+{
+    return createAccount(user + '@' + server.domain(), valuesFor(server, values), password);
 }
 
 KirvAccount *KirvXmppProfile::logIn(const KirvProsodyServer &server, const QString &user)

@@ -14,9 +14,12 @@ public:
     /// Starts \a server with \a users, whose password is "secret"; false, with a warning, when that fails.
     static bool start(KirvProsodyServer &server, const QStringList &users = { "romeo" });
 
+    /// The settings of an account on \a server, whose certificate it trusts, unless \a values says otherwise.
+    static Values valuesFor(const KirvProsodyServer &server, Values values = {});
+
     using KirvPluginProfile::createAccount;
-    /// An account on \a server, whose certificate it trusts.
-    KirvAccount *createAccount(const KirvProsodyServer &server, const QString &user, Values values = {},
+    /// An account on \a server with valuesFor() it.
+    KirvAccount *createAccount(const KirvProsodyServer &server, const QString &user, const Values &values = {},
                                const QString &password = "secret");
     /// Such an account that is available; null when it does not get on line.
     KirvAccount *logIn(const KirvProsodyServer &server, const QString &user = "romeo");
