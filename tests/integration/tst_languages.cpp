@@ -2,9 +2,12 @@
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
 #include "tests/integration/kirv_client_windows.h"
+#include "tests/support/kirv_patience.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -12,6 +15,8 @@
 
 namespace {
 const QString ann = QStringLiteral("ann");
+const QSize small(480, 360);
+const int generalPage = 2;
 }
 
 /// The program speaks the language of the system or the one that was chosen, and English where there is no other.
@@ -32,6 +37,8 @@ private Q_SLOTS:
     void existingAccountIsSaidWithoutTheSlip_data();
     void existingAccountIsSaidWithoutTheSlip();
     void directionFollowsTheLanguage();
+    void windowCanBeSmallAfterTheChange_data();
+    void windowCanBeSmallAfterTheChange();
 
 private:
     /// As a program does that is started with the locale \a system.
@@ -206,6 +213,38 @@ void tst_Languages::directionFollowsTheLanguage()
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
     mirrored.use("ar");
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+void tst_Languages::windowCanBeSmallAfterTheChange_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : KirvTranslations(*qApp, QStringLiteral(KIRV_TRANSLATIONS)).languages())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+/// The page of the accounts is made anew while another one is shown.
+void tst_Languages::windowCanBeSmallAfterTheChange()
+{
+    QFETCH(QString, language);
+    start(QStringLiteral("C"));
+    KirvClientWindows windows;
+    QVERIFY(windows.isReady());
+    windows.addAccount(QStringLiteral("ann.in.the.long.run@a.long.name.of.a.server.example.org"));
+    KirvSettingsWindow *window = windows.client->window();
+    auto *pages = KirvClientWindows::child<QListWidget>(window, "Settings_Pages");
+    pages->setCurrentRow(generalPage);
+    KirvClientWindows::settle();
+    auto *box = KirvClientWindows::child<QComboBox>(window, "General_Language");
+    box->setCurrentIndex(box->findData(language));
+    Q_EMIT box->activated(box->currentIndex());
+    KIRV_TRY_COMPARE(translations->chosen(), language);
+    KirvClientWindows::settle();
+    for (const int page : { generalPage, 0, 1 }) {
+        pages->setCurrentRow(page);
+        window->resize(small);
+        KirvClientWindows::settle();
+        QCOMPARE(window->size(), small);
+    }
 }
 
 QTEST_MAIN(tst_Languages)
