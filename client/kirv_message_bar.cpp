@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "client/kirv_message_bar.h"
 
+#include "client/kirv_focus_return.h"
 #include "client/kirv_plain_text.h"
 
 #include <QAbstractItemView>
@@ -30,6 +31,7 @@ KirvMessageBar::KirvMessageBar(QWidget *parent)
     , area(new QScrollArea(this))
     , content(new QWidget)
     , layout(new QVBoxLayout(content))
+    , focusReturn(new KirvFocusReturn(this))
 {
     setObjectName(QStringLiteral("MessageBar"));
     setAccessibleName(tr("Messages"));
@@ -161,6 +163,7 @@ void KirvMessageBar::vacate(QWidget *row)
     QSizePolicy policy = row->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     row->setSizePolicy(policy);
+    focusReturn->leave(row, place());
     row->hide();
     gaps << row;
     if (texts.isEmpty())
@@ -229,7 +232,7 @@ bool KirvMessageBar::event(QEvent *event)
     return isHandled;
 }
 
-const QWidget *KirvMessageBar::place() const
+QWidget *KirvMessageBar::place() const
 {
     const auto visible =
         std::find_if(places.begin(), places.end(), [](const auto &place) { return place && place->isVisible(); });

@@ -11,6 +11,7 @@
 
 #include <functional>
 
+class KirvFocusReturn;
 class QScrollArea;
 class QVBoxLayout;
 
@@ -20,7 +21,8 @@ class QVBoxLayout;
 /// The bar floats over its window: nothing there moves when messages come and go. It stands at the bottom of a place,
 /// or at the top when the pointer is where it would appear or grow, and grows away from that edge, up to a third of the
 /// place, but to no less than two lines; then it is scrolled. While the pointer is over it nothing in it moves: what
-/// was taken away leaves an empty place until the pointer leaves.
+/// was taken away leaves an empty place until the pointer leaves. When a message that has the focus goes, the focus
+/// returns to where it was.
 class KirvMessageBar : public QFrame {
     Q_OBJECT
 
@@ -56,7 +58,7 @@ private:
     void closeGaps();
     void settle();
     bool isPointerOver() const;
-    const QWidget *place() const;
+    QWidget *place() const;
     QRect room() const;
     QRect areaAt(bool isTop) const;
     int scrollBarWidth() const;
@@ -69,6 +71,7 @@ private:
     QScrollArea *area;
     QWidget *content;
     QVBoxLayout *layout;
+    KirvFocusReturn *focusReturn;
     QList<QWidget *> rows; ///< one row per text, in the same order
     QList<QWidget *> gaps; ///< rows that were taken away under the pointer, empty
     QTimer secondClick; ///< runs while nothing but gaps is shown

@@ -120,8 +120,11 @@ void KirvSettingsWindow::addPage(QWidget *page, const QString &title, const QIco
 void KirvSettingsWindow::removePages()
 {
     wantedRow = list->currentRow();
-    while (pages->count() > 0)
-        delete pages->widget(0);
+    while (pages->count() > 0) {
+        QWidget *page = pages->widget(0);
+        page->hide(); // the focus must not return to it when a message of its own goes with it
+        delete page;
+    }
     list->clear();
     setTexts();
 }

@@ -61,6 +61,7 @@ private Q_SLOTS:
     void windowWithInputDelaysIt();
     void questionDelaysIt();
     void quittingWhileItIsDelayedIsSafe();
+    void messageOfThePageThatGoesMayHaveTheFocus();
 
     void keyringIsDescribed_data();
     void keyringIsDescribed();
@@ -344,6 +345,27 @@ void tst_GeneralPage::quittingWhileItIsDelayedIsSafe()
     KIRV_TRY(isDelayed());
     windows->restart();
     QVERIFY(isGerman());
+}
+
+void tst_GeneralPage::messageOfThePageThatGoesMayHaveTheFocus()
+{
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window(), kirvPatience));
+    KirvClientWindows::child<QListWidget>(window(), "Settings_Pages")->setCurrentRow(0);
+    windows->list()->sortByColumn(0, Qt::DescendingOrder);
+    windows->select(ann);
+    windows->list()->setFocus();
+    QTest::keyClick(windows->list(), Qt::Key_Down, Qt::AltModifier);
+    auto *button = KirvClientWindows::child<QWidget>(window(), "MessageBar_Command");
+    QVERIFY(button);
+    button->setFocus();
+    QVERIFY(button->hasFocus());
+    choose(german);
+    QVERIFY(isGerman());
+    QCOMPARE(windows->messages(), QStringList());
+    windows->select(ann);
+    windows->list()->setFocus();
+    QVERIFY(windows->list()->hasFocus());
 }
 
 void tst_GeneralPage::keyringIsDescribed_data()

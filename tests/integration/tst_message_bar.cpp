@@ -44,6 +44,11 @@ private Q_SLOTS:
     void rowStaysWhereItIsWhenTheBarGoes();
     void currentRowIsShownAboveTheBar();
     void marksOfTheTranslationStay();
+    void focusReturnsWhereItWas_data();
+    void focusReturnsWhereItWas();
+    void focusGoesToTheListWhereThereIsNoOther_data();
+    void focusGoesToTheListWhereThereIsNoOther();
+    void focusElsewhereStaysThere();
 
 private:
     void show(const QString &text)
@@ -57,6 +62,7 @@ private:
     /// Of the message \a text.
     QAbstractButton *command(const QString &text) const;
     void point(const QPoint &place);
+    void activate() const;
     /// A click on whatever is there.
     void click(const QPoint &place);
     QTreeWidget *list() const { return windows->list(); }
@@ -456,6 +462,86 @@ void tst_MessageBar::marksOfTheTranslationStay()
     const QString mark(QChar(0x200E)), override(QChar(0x202E));
     bar()->showMessage(QStringLiteral("The file %1a%2b.json%1 was read.").arg(mark, override));
     QCOMPARE(windows->messages(), QStringList(QStringLiteral("The file %1a[U+202E]b.json%1 was read.").arg(mark)));
+}
+
+void tst_MessageBar::activate() const
+{
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window(), kirvPatience));
+}
+
+void tst_MessageBar::focusReturnsWhereItWas_data()
+{
+    QTest::addColumn<QByteArray>("before"); // has the focus
+    QTest::addColumn<QByteArray>("pressed");
+    QTest::addColumn<bool>("isByKey");
+    QTest::newRow("click") << QByteArray("Accounts_List") << QByteArray("MessageBar_Command") << false;
+    QTest::newRow("key") << QByteArray("Accounts_List") << QByteArray("MessageBar_Command") << true;
+    QTest::newRow("key that closes") << QByteArray("Accounts_List") << QByteArray("MessageBar_Close") << true;
+    QTest::newRow("another widget") << QByteArray("Accounts_MainAccount") << QByteArray("MessageBar_Command") << false;
+}
+
+void tst_MessageBar::focusReturnsWhereItWas()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, pressed);
+    QFETCH(bool, isByKey);
+    activate();
+    auto *first = KirvClientWindows::child<QWidget>(window(), before);
+    first->setFocus();
+    QCOMPARE(window()->focusWidget(), first);
+    for (const char *text : { "one", "two" }) { // also when the first one has left another
+        show(QLatin1String(text));
+        auto *button = KirvClientWindows::child<QAbstractButton>(command(QLatin1String(text))->parentWidget(), pressed);
+        if (isByKey) {
+            button->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(button, Qt::Key_Space);
+        } else {
+            click(areaOf(button).center());
+        }
+        KirvClientWindows::settle();
+        QCOMPARE(bar()->messages(), QStringList());
+        QCOMPARE(window()->focusWidget(), first);
+        QVERIFY(first->hasFocus());
+    }
+}
+
+void tst_MessageBar::focusGoesToTheListWhereThereIsNoOther_data()
+{
+    QTest::addColumn<bool>("isGone");
+    QTest::newRow("nothing had it") << false;
+    QTest::newRow("what had it is hidden") << true;
+}
+
+void tst_MessageBar::focusGoesToTheListWhereThereIsNoOther()
+{
+    QFETCH(bool, isGone);
+    activate();
+    auto *edit = windows->pageButton("Accounts_EditButton");
+    windows->select(QStringLiteral("ann"));
+    edit->setFocus();
+    if (!isGone)
+        edit->clearFocus();
+    show(QStringLiteral("one"));
+    QAbstractButton *button = command(QStringLiteral("one"));
+    button->setFocus();
+    QVERIFY(button->hasFocus());
+    edit->hide();
+    QTest::keyClick(button, Qt::Key_Space);
+    KirvClientWindows::settle();
+    QVERIFY(list()->hasFocus());
+}
+
+void tst_MessageBar::focusElsewhereStaysThere()
+{
+    activate();
+    show(QStringLiteral("one"));
+    command(QStringLiteral("one"))->setFocus();
+    auto *selector = KirvClientWindows::child<QWidget>(window(), "Accounts_MainAccount");
+    selector->setFocus();
+    bar()->removeMessage(QStringLiteral("one"));
+    KirvClientWindows::settle();
+    QVERIFY(selector->hasFocus());
 }
 
 QTEST_MAIN(tst_MessageBar)

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void keysMoveNothingWhileItIsSorted();
     void sortedListSaysWhyNothingMoves_data();
     void sortedListSaysWhyNothingMoves();
+    void keysMoveOnceTheOwnOrderIsChosen();
     void selectingInASortedListSaysNothing();
     void movesSkipRowsThatTheSearchHides();
     void menuMoves();
@@ -261,6 +262,23 @@ void tst_OwnOrder::sortedListSaysWhyNothingMoves()
     clickHeader(0);
     clickHeader(0); // to the own order
     QCOMPARE(windows->messages(), QStringList());
+}
+
+/// The button does not keep the focus.
+void tst_OwnOrder::keysMoveOnceTheOwnOrderIsChosen()
+{
+    clickHeader(0);
+    press(bob, Qt::Key_Down);
+    QCOMPARE(windows->messages(), QStringList(sorted));
+    auto *own = KirvClientWindows::child<QAbstractButton>(windows->client->window(), "MessageBar_Command");
+    QTest::mouseClick(own, Qt::LeftButton);
+    KirvClientWindows::settle();
+    QCOMPARE(windows->messages(), QStringList());
+    const QStringList before = windows->rowIds();
+    QCOMPARE(QApplication::focusWidget(), list());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::AltModifier);
+    KirvClientWindows::settle();
+    QVERIFY(windows->rowIds() != before);
 }
 
 void tst_OwnOrder::selectingInASortedListSaysNothing()
