@@ -143,6 +143,7 @@ void KirvAddWindowCompanion::setUpTest()
     flow->addAtEnd(buttons);
     column->insertWidget(saveHint ? column->indexOf(saveHint) : row, test);
     test->chooseMnemonics();
+    test->placeInTabOrderBefore(buttons);
     connect(test, &KirvLoginTestView::stepsChanged, this, &KirvAddWindowCompanion::growToFit);
     connect(window(), &QDialog::finished, test, &KirvLoginTestView::cancel);
 }

@@ -33,11 +33,14 @@ KirvAdvancedSection *KirvAdvancedSection::addAbove(KirvFieldWidget *fields)
     const KirvFormPlace place(fields);
     if (!place.isValid())
         return nullptr;
+    kirvPlaceInTabOrder(fields); // what comes next goes behind all that is in the form
     auto *section = new KirvAdvancedSection(fields, fields->parentWidget());
     // Rows are added at the end: a form of Qt 6 gives no height to a row that is inserted before the last one.
     delete place.form->takeRow(place.row).fieldItem;
     place.form->addRow(section);
     place.form->addRow(fields);
+    kirvPlaceInTabOrder(section);
+    kirvPlaceInTabOrder(fields); // from before the section to behind it
     section->showFields(false);
     return section;
 }

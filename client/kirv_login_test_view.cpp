@@ -72,6 +72,18 @@ void KirvLoginTestView::chooseMnemonics()
     updateButtons();
 }
 
+/// A container such as a QDialogButtonBox stands in the chain itself, in front of what is in it.
+void KirvLoginTestView::placeInTabOrderBefore(const QWidget *next)
+{
+    QWidget *before = next->previousInFocusChain();
+    while (before != next && !(before->focusPolicy() & Qt::TabFocus))
+        before = before->previousInFocusChain();
+    for (QWidget *stop : { static_cast<QWidget *>(list), static_cast<QWidget *>(run), static_cast<QWidget *>(copy) }) {
+        setTabOrder(before, stop);
+        before = stop;
+    }
+}
+
 void KirvLoginTestView::setProblem(const QString &newProblem)
 {
     problem = newProblem;

@@ -30,6 +30,8 @@ public:
     QPushButton *copyButton() const { return copy; }
     /// To be called when the buttons are in their window: gives them mnemonics that the window has not.
     void chooseMnemonics();
+    /// The same: Tab leads to the steps, then to the buttons, and then to \a next.
+    void placeInTabOrderBefore(const QWidget *next);
 
     /// Why no test can be started now, a sentence; empty when it can.
     void setProblem(const QString &problem);

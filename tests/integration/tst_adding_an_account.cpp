@@ -22,6 +22,8 @@
 #include <QTreeWidget>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 template <typename T>
@@ -125,6 +127,8 @@ private Q_SLOTS:
     void settingDecidesWhetherAPasswordIsNeeded();
     void settingThatIsMissingIsSaid();
     void keyboardAloneAddsAnAccount();
+    void tabGoesFromTopToBottom_data();
+    void tabGoesFromTopToBottom();
     void nothingIsCutOffInASmallWindow();
     void linkIsTakenForItsLogin_data();
     void linkIsTakenForItsLogin();
@@ -526,6 +530,61 @@ void tst_AddingAnAccount::keyboardAloneAddsAnAccount()
     });
     QVERIFY(windows->account("anna@fake"));
     QCOMPARE(windows->account("anna@fake")->record().password, QString("secret"));
+}
+
+void tst_AddingAnAccount::tabGoesFromTopToBottom_data()
+{
+    QTest::addColumn<bool>("isOpen");
+    QTest::addColumn<QString>("configuration"); // chosen afterwards
+    QTest::newRow("settings hidden") << false << QString();
+    QTest::newRow("settings shown") << true << QString();
+    QTest::newRow("settings of a configuration") << false << QStringLiteral("Local");
+    QTest::newRow("settings of a configuration, shown before") << true << QStringLiteral("Local");
+}
+
+void tst_AddingAnAccount::tabGoesFromTopToBottom()
+{
+    QFETCH(bool, isOpen);
+    QFETCH(QString, configuration);
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", ""),
+                                    KirvField::number("Port", "port", 1, 1, 9, "") };
+    windows->protocol->configurations = QStringList("Local");
+    windows->protocol->configurationFields = { KirvField::textEdit("Server", "server", "127.0.0.1", ""),
+                                               KirvField::number("Port", "port", 2, 1, 9, "") };
+    QStringList expected = { "AddAccount_Configuration", "AddAccount_Advanced" };
+    if (isOpen || !configuration.isEmpty())
+        expected << "KirvField_server"
+                 << "KirvField_port";
+    open([&](KirvLayoutDialog *window) {
+        login(window)->setText("anna@fake");
+        password(window)->setText("secret");
+        child<QComboBox>(window, "AddAccount_Configuration")->setFocus();
+        if (isOpen)
+            advanced(window)->click();
+        if (!configuration.isEmpty())
+            child<QComboBox>(window, "AddAccount_Configuration")->setCurrentText(configuration);
+        KirvClientWindows::settle();
+        QWidgetList stops;
+        do {
+            stops << window->focusWidget();
+            QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        } while (window->focusWidget() != login(window) && stops.size() < 20);
+        QStringList names;
+        for (const QWidget *stop : stops.mid(0, expected.size()))
+            names << stop->objectName();
+        QCOMPARE(names, expected);
+        QList<int> places;
+        for (const QWidget *stop : stops.mid(expected.size())) {
+            QVERIFY2(child<QWidget>(window, "AddAccount_Buttons")->isAncestorOf(stop), qPrintable(stop->objectName()));
+            places << stop->mapTo(window, QPoint()).x();
+        }
+        QCOMPARE(int(places.size()), 3); // to test the log-in, to save, and to cancel
+        QVERIFY(std::is_sorted(places.begin(), places.end()));
+        for (auto stop = stops.crbegin(); stop != stops.crend(); ++stop) {
+            QTest::keyClick(window->focusWidget(), Qt::Key_Backtab);
+            QCOMPARE(window->focusWidget(), *stop);
+        }
+    });
 }
 
 void tst_AddingAnAccount::nothingIsCutOffInASmallWindow()
