@@ -65,7 +65,8 @@ KirvAdvancedSection::KirvAdvancedSection(KirvFieldWidget *fields, QWidget *paren
     auto *line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(button);
-    line->addWidget(summary, 1);
+    line->addWidget(summary);
+    line->addStretch(1); // the button stays where it is when the names are hidden
     connect(button, &QToolButton::toggled, fields, [this](bool isOpen) {
         showFields(isOpen);
         Q_EMIT toggled(isOpen);

@@ -129,6 +129,8 @@ private Q_SLOTS:
     void keyboardAloneAddsAnAccount();
     void tabGoesFromTopToBottom_data();
     void tabGoesFromTopToBottom();
+    void advancedStaysWhereItIs_data();
+    void advancedStaysWhereItIs();
     void nothingIsCutOffInASmallWindow();
     void linkIsTakenForItsLogin_data();
     void linkIsTakenForItsLogin();
@@ -156,6 +158,7 @@ void tst_AddingAnAccount::init()
 void tst_AddingAnAccount::cleanup()
 {
     windows.reset();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 void tst_AddingAnAccount::titleNamesTheProtocol()
@@ -583,6 +586,33 @@ void tst_AddingAnAccount::tabGoesFromTopToBottom()
         for (auto stop = stops.crbegin(); stop != stops.crend(); ++stop) {
             QTest::keyClick(window->focusWidget(), Qt::Key_Backtab);
             QCOMPARE(window->focusWidget(), *stop);
+        }
+    });
+}
+
+void tst_AddingAnAccount::advancedStaysWhereItIs_data()
+{
+    QTest::addColumn<bool>("isRightToLeft");
+    QTest::newRow("from left to right") << false;
+    QTest::newRow("from right to left") << true;
+}
+
+/// A second click on the same spot hides again what the first one has shown.
+void tst_AddingAnAccount::advancedStaysWhereItIs()
+{
+    QFETCH(bool, isRightToLeft);
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
+    QGuiApplication::setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    open([&](KirvLayoutDialog *window) {
+        const QToolButton *button = advanced(window);
+        const QRect closed(button->mapTo(window, QPoint()), button->size());
+        const QWidget *section = button->parentWidget();
+        QCOMPARE(isRightToLeft ? button->geometry().right() : button->x(), isRightToLeft ? section->rect().right() : 0);
+        for (const bool isOpen : { true, false }) {
+            QTest::mouseClick(window->childAt(closed.center()), Qt::LeftButton);
+            KirvClientWindows::settle();
+            QCOMPARE(settings(window)->isVisible(), isOpen);
+            QCOMPARE(QRect(button->mapTo(window, QPoint()), button->size()), closed);
         }
     });
 }
