@@ -6,8 +6,10 @@
 #include "core/values/kirv_text_limit.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -21,7 +23,11 @@ const int protocolColumn = 1;
 const int firstFurtherColumn = 2;
 const int idRole = Qt::UserRole;
 const int fewestLines = 4;
-const int widestColumn = 26; // in average characters; the name has what is left
+const int laterRole = Qt::UserRole + 1; // of the last column
+// In average characters.
+const int narrowColumn = 26; // when the window is small
+const int narrowName = 12; // which gives way to the further columns
+const int longestChoice = 100;
 
 /// Where the column is too narrow.
 void setToolTipOf(QTreeWidgetItem *item, int column)
@@ -53,6 +59,7 @@ KirvAccountCheckList::KirvAccountCheckList(const QString &name, const QStringLis
     auto *delegate = new KirvNameDelegate(list);
     list->setItemDelegateForColumn(nameColumn, delegate);
     list->setItemDelegateForColumn(protocolColumn, delegate);
+    list->viewport()->installEventFilter(this);
     list->setMinimumHeight(list->header()->sizeHint().height() + fewestLines * list->fontMetrics().lineSpacing());
     connect(list, &QTreeWidget::itemChanged, this, [this] {
         refreshAllBox();
@@ -81,7 +88,7 @@ void KirvAccountCheckList::setRows(const QList<Row> &rows)
     std::transform(rows.begin(), rows.end(), std::back_inserter(items), &createItem);
     list->addTopLevelItems(items);
     makeCurrent(before);
-    narrowestColumns.clear();
+    wantedWidths.clear();
     fitColumns();
     refreshAllBox();
 }
@@ -93,6 +100,7 @@ QTreeWidgetItem *KirvAccountCheckList::createItem(const Row &row)
     item->setData(nameColumn, idRole, row.account.id);
     for (int column = 0; column < item->columnCount(); ++column)
         setToolTipOf(item, column);
+    item->setData(item->columnCount() - 1, laterRole, row.later);
     if (row.isDisabled)
         item->setDisabled(true);
     else
@@ -110,19 +118,84 @@ void KirvAccountCheckList::makeCurrent(const KirvAccountKey &account)
     list->setCurrentItem(list->topLevelItem(current));
 }
 
+int KirvAccountCheckList::inCharacters(int count) const
+{
+    return count * list->fontMetrics().averageCharWidth();
+}
+
+int KirvAccountCheckList::textWidth(const QString &text) const
+{
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
+    return list->fontMetrics().horizontalAdvance(text.left(longestChoice)) + 2 * margin + 1; // rounded up
+}
+
+/// Of what the column shows or may show. The sentences about rows that cannot be chosen may be long.
+int KirvAccountCheckList::contentsWidth(int column) const
+{
+    QSet<QString> choices, sentences;
+    for (int row = 0; row < count(); ++row) {
+        const QTreeWidgetItem *item = list->topLevelItem(row);
+        (item->isDisabled() ? sentences : choices) << item->text(column);
+        choices << item->data(column, laterRole).toString();
+    }
+    int width = list->header()->sectionSizeHint(column);
+    for (const QString &text : qAsConst(choices))
+        width = std::max(width, textWidth(text));
+    for (const QString &text : qAsConst(sentences))
+        width = std::max(width, std::min(textWidth(text), inCharacters(narrowColumn)));
+    return width;
+}
+
+int KirvAccountCheckList::narrowest(int column) const
+{
+    const int header = list->header()->sectionSizeHint(column);
+    return std::max(header, std::min(wantedWidths.value(column), inCharacters(narrowColumn)));
+}
+
+int KirvAccountCheckList::narrowestName() const
+{
+    return std::max(list->header()->sectionSizeHint(nameColumn), inCharacters(narrowName));
+}
+
 void KirvAccountCheckList::fitColumns()
 {
-    const int widest = widestColumn * list->fontMetrics().averageCharWidth();
     int needed = list->header()->sectionSizeHint(nameColumn) + 2 * list->frameWidth()
         + list->verticalScrollBar()->sizeHint().width();
     for (int column = protocolColumn; column < list->columnCount(); ++column) {
-        const int narrowest = std::max(list->header()->sectionSizeHint(column), narrowestColumns.value(column));
-        list->resizeColumnToContents(column);
-        list->setColumnWidth(column, std::max(std::min(list->columnWidth(column), widest), narrowest));
-        narrowestColumns.insert(column, list->columnWidth(column));
-        needed += list->columnWidth(column);
+        wantedWidths.insert(column, std::max(wantedWidths.value(column), contentsWidth(column)));
+        needed += narrowest(column);
     }
     list->setMinimumWidth(needed);
+    shareRoom();
+}
+
+/// The name, which is stretched, has what is left.
+void KirvAccountCheckList::shareRoom()
+{
+    int room = list->viewport()->width() - narrowestName();
+    for (int column = protocolColumn; column < list->columnCount(); ++column)
+        room -= narrowest(column);
+    for (int column = list->columnCount() - 1; column >= protocolColumn; --column) {
+        const int more = std::max(0, std::min(room, wantedWidths.value(column) - narrowest(column)));
+        list->setColumnWidth(column, narrowest(column) + more);
+        room -= more;
+    }
+}
+
+int KirvAccountCheckList::comfortableWidth() const
+{
+    int width = std::max(narrowestName(), inCharacters(narrowColumn)) + 2 * list->frameWidth()
+        + list->verticalScrollBar()->sizeHint().width();
+    for (int column = protocolColumn; column < list->columnCount(); ++column)
+        width += std::max(wantedWidths.value(column), narrowest(column));
+    return width;
+}
+
+bool KirvAccountCheckList::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == list->viewport() && event->type() == QEvent::Resize)
+        shareRoom();
+    return QWidget::eventFilter(watched, event);
 }
 
 void KirvAccountCheckList::setText(int row, int column, const QString &text)

@@ -25,6 +25,7 @@ public:
         bool isChecked = false;
         bool isDisabled = false; ///< it cannot be checked
         QStringList further; ///< the texts of the further columns
+        QString later = QString(); ///< what the last of them may show later; there is room for it from the beginning
     };
 
     /// \a name begins the names of the list and its parts: NAME_Accounts, NAME_List and NAME_All. \a furtherColumns are
@@ -35,8 +36,13 @@ public:
     void setRows(const QList<Row> &rows);
     /// \a column counts the further columns.
     void setText(int row, int column, const QString &text);
-    /// Makes the columns wider where texts that were set since setRows() need it, within limits; none becomes narrower.
+    /// Makes the columns wider where texts that were set since setRows() need it and there is room; none becomes
+    /// narrower. The name gives way first.
     void fitColumns();
+    /// With which nothing of the further columns is elided, and not much of the names.
+    int comfortableWidth() const;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// Gives the focus to the list.
     void focusList();
@@ -56,13 +62,19 @@ Q_SIGNALS:
 
 private:
     static QTreeWidgetItem *createItem(const Row &row);
+    int inCharacters(int count) const;
+    int textWidth(const QString &text) const;
+    int contentsWidth(int column) const;
+    int narrowest(int column) const;
+    int narrowestName() const;
+    void shareRoom();
     void makeCurrent(const KirvAccountKey &account);
     void toggleAll();
     void refreshAllBox();
 
     QCheckBox *allBox;
     QTreeWidget *list;
-    QHash<int, int> narrowestColumns; ///< by column, in pixels
+    QHash<int, int> wantedWidths; ///< by column, in pixels
     int checked = 0;
     int checkable = 0;
 };

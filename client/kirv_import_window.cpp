@@ -201,6 +201,7 @@ void KirvImportWindow::take(const Found &found)
         passPhraseLine->clear();
         moved = found.result.accounts;
         list();
+        widen(rows->comfortableWidth());
     }
 }
 
@@ -312,7 +313,12 @@ void KirvImportWindow::list()
             row.isTaken = chosen.value(row.key);
             plan->setTaken(i, row.isTaken);
         }
-        shown << KirvAccountCheckList::Row { row.key, row.name, row.isTaken, !row.problem.isEmpty(), { stateOf(row) } };
+        KirvAccountCheckList::Row line { row.key, row.name, row.isTaken, !row.problem.isEmpty(), { stateOf(row) } };
+        if (row.problem.isEmpty()) {
+            row.isTaken = !row.isTaken;
+            line.later = stateOf(row);
+        }
+        shown << line;
     }
     rows->setRows(shown);
     showText(listingText());

@@ -30,6 +30,20 @@ void KirvMoveDialog::build(QWidget *content, QWidget *buttons, int characters)
     resize(std::min(characters * fontMetrics().averageCharWidth(), available), height());
 }
 
+void KirvMoveDialog::widen(int width)
+{
+    layout()->activate();
+    const QRect available = screen()->availableGeometry();
+    const int around = this->width() - area->widget()->width();
+    const int possible = std::min(width + around, available.width() * 9 / 10);
+    if (this->width() >= possible || isMaximized() || isFullScreen())
+        return;
+    resize(possible, height());
+    const int outside = frameGeometry().right() - available.right();
+    if (outside > 0)
+        move(std::max(available.left(), x() - outside), y());
+}
+
 void KirvMoveDialog::grow()
 {
     layout()->activate();

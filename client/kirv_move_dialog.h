@@ -18,6 +18,8 @@ protected:
 
     /// To be called once. The window is \a characters of average width wide, where the screen is.
     void build(QWidget *content, QWidget *buttons, int characters);
+    /// Makes it as wide as a \a width of its contents needs, where the screen is; never narrower.
+    void widen(int width);
     /// Makes it as high as its contents need, where the screen is; never lower.
     void grow();
     /// The same when its contents have found their size.

@@ -1,20 +1,26 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "client/kirv_import_window.h"
+#include "client/kirv_moving_windows.h"
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
+#include "core/moving/kirv_account_file.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/kirv_patience.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QtTest>
 
 namespace {
 const QString ann = QStringLiteral("ann");
+const QString longLogin = QStringLiteral("ann.in.the.long.run@a.long.name.of.a.server.example.org");
 const QSize small(480, 360);
 const int generalPage = 2;
 }
@@ -39,6 +45,8 @@ private Q_SLOTS:
     void directionFollowsTheLanguage();
     void windowCanBeSmallAfterTheChange_data();
     void windowCanBeSmallAfterTheChange();
+    void choicesOfAnImportAreWhole_data() { windowCanBeSmallAfterTheChange_data(); }
+    void choicesOfAnImportAreWhole();
 
 private:
     /// As a program does that is started with the locale \a system.
@@ -229,7 +237,7 @@ void tst_Languages::windowCanBeSmallAfterTheChange()
     start(QStringLiteral("C"));
     KirvClientWindows windows;
     QVERIFY(windows.isReady());
-    windows.addAccount(QStringLiteral("ann.in.the.long.run@a.long.name.of.a.server.example.org"));
+    windows.addAccount(longLogin);
     KirvSettingsWindow *window = windows.client->window();
     auto *pages = KirvClientWindows::child<QListWidget>(window, "Settings_Pages");
     pages->setCurrentRow(generalPage);
@@ -245,6 +253,48 @@ void tst_Languages::windowCanBeSmallAfterTheChange()
         KirvClientWindows::settle();
         QCOMPARE(window->size(), small);
     }
+}
+
+/// At the size with which the window opens; the names are elided where there is not enough room for all.
+void tst_Languages::choicesOfAnImportAreWhole()
+{
+    QFETCH(QString, language);
+    start(language);
+    KirvClientWindows windows;
+    QVERIFY(windows.isReady());
+    KirvMovedAccounts moved;
+    for (const QString &id : { longLogin, ann }) {
+        KirvMovedAccount account;
+        account.record.key = { id, QStringLiteral("Fake") };
+        account.record.alias = QStringLiteral("Somebody with a name of some length");
+        moved.accounts << account;
+    }
+    windows.addAccount(longLogin);
+    QString problem;
+    QFile file(folder.filePath(QStringLiteral("accounts.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write(KirvAccountFile::write(moved, QString(), &problem)) > 0);
+    file.close();
+    windows.client->window()->findChild<KirvMovingWindows *>()->importFrom(file.fileName());
+    auto *window = windows.client->window()->findChild<KirvImportWindow *>();
+    QVERIFY(window);
+    auto *list = KirvClientWindows::child<QTreeWidget>(window, "ImportAccounts_List");
+    KIRV_TRY_COMPARE(list->topLevelItemCount(), 2);
+    KirvClientWindows::settle();
+    QVERIFY(window->width() <= window->screen()->availableSize().width());
+    QStringList seen;
+    for (int turn = 0; turn < 2; ++turn) {
+        for (int row = 0; row < 2; ++row) {
+            QTreeWidgetItem *item = list->topLevelItem(row);
+            seen << item->text(2);
+            QVERIFY2(list->columnWidth(2) >= list->sizeHintForIndex(list->model()->index(row, 2)).width(),
+                     qPrintable(item->text(2)));
+            item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+        }
+    }
+    seen.removeDuplicates();
+    QCOMPARE(int(seen.size()), 4);
+    QVERIFY(list->header()->length() <= list->viewport()->width());
 }
 
 QTEST_MAIN(tst_Languages)
