@@ -247,6 +247,7 @@ void KirvClient::createPagesAnew()
 {
     const bool hadFocus = settingsWindow->isActiveWindow();
     settingsWindow->removePages();
+    pluginLoader->readDescriptions();
     createPages();
     connectPage();
     const QList<KirvProtocolBase *> protocols = pluginLoader->protocols();

@@ -176,6 +176,20 @@ void KirvPluginLoader::leaveOut(const QString &fileName, const QString &reason)
     Q_EMIT pluginsChanged();
 }
 
+void KirvPluginLoader::readDescriptions()
+{
+    const QList<KirvPluginInfo> before = d->plugins; // what a plug-in does meanwhile may change the list
+    for (const KirvPluginInfo &plugin : before) {
+        KirvProtocolBase *protocol = d->protocolOf(plugin.fileName);
+        QString description;
+        if (!protocol || !kirvCallPlugin([&] { description = protocol->getDescription(); }))
+            continue;
+        if (KirvPluginInfo *known = d->info(plugin.fileName))
+            known->description = description;
+    }
+    Q_EMIT pluginsChanged();
+}
+
 KirvPluginInfo KirvPluginLoader::plugin(const QString &fileName) const
 {
     const KirvPluginInfo *info = d->info(absolutePath(fileName));

@@ -42,6 +42,9 @@ public:
     /// The announced file; empty when it was not announced.
     KirvPluginInfo plugin(const QString &fileName) const;
 
+    /// Reads the descriptions of the loaded plug-ins again, for when the program uses another language.
+    void readDescriptions();
+
     /// Every file seen so far, in order.
     QList<KirvPluginInfo> plugins() const;
     /// The loaded protocols, in the order of loading.

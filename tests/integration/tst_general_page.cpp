@@ -5,6 +5,7 @@
 #include "client/kirv_settings_window.h"
 #include "client/kirv_translations.h"
 #include "core/accounts/kirv_account_collection.h"
+#include "core/plugins/kirv_plugin_loader.h"
 #include "core/store/kirv_client_settings.h"
 #include "tests/integration/kirv_client_windows.h"
 #include "tests/support/fakes/kirv_fake_secret_store.h"
@@ -22,6 +23,7 @@
 #include <QPushButton>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QTranslator>
 #include <QTreeWidget>
 #include <QUrl>
 #include <QtTest>
@@ -32,6 +34,17 @@ const QString ann = QStringLiteral("ann");
 const QString bob = QStringLiteral("bob");
 const QString german = QStringLiteral("de");
 const QString arabic = QStringLiteral("ar");
+
+/// Translates what the plug-in of the examples says about itself.
+class ExampleTranslator : public QTranslator {
+public:
+    static QString description() { return QStringLiteral("Ein Protokoll zum Lernen."); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *, const char *, int) const override
+    {
+        return QLatin1String(context) == QLatin1String("KirvExampleProtocol") ? description() : QString();
+    }
+};
 
 } // namespace
 
@@ -55,6 +68,7 @@ private Q_SLOTS:
     void languageOfTheSystemIsChosenAgain();
     void directionFollowsTheLanguage();
     void presenceIsNamedAnew();
+    void pluginIsDescribedAnew();
     void refusedChoiceIsTakenBack();
     void untouchedWindowIsClosedForIt();
     void windowWithInputDelaysIt_data();
@@ -276,6 +290,24 @@ void tst_GeneralPage::presenceIsNamedAnew()
     const auto *title = KirvClientWindows::child<QLabel>(window(), "Accounts_StripTitle");
     windows->select(ann);
     KIRV_TRY(title->text().contains(shown));
+}
+
+void tst_GeneralPage::pluginIsDescribedAnew()
+{
+    KirvPluginLoader &plugins = windows->client->plugins();
+    const QString file = QStringLiteral(KIRV_EXAMPLE_PROTOCOLS "/kirv_protocol_example.so");
+    QVERIFY(plugins.load(file));
+    const auto shown = [this] { return KirvClientWindows::child<QLabel>(window(), "Plugins_Details")->text(); };
+    QCOMPARE(shown(), plugins.plugin(file).description);
+    ExampleTranslator translator;
+    QVERIFY(shown() != ExampleTranslator::description());
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    choose(german);
+    QCOMPARE(shown(), ExampleTranslator::description());
+    QCOMPARE(plugins.plugin(file).description, ExampleTranslator::description());
+    QVERIFY(plugins.unload(file));
+    choose(arabic); // of what is not loaded the last one is known
+    QCOMPARE(shown(), ExampleTranslator::description());
 }
 
 void tst_GeneralPage::refusedChoiceIsTakenBack()
