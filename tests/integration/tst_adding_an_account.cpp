@@ -558,7 +558,7 @@ void tst_AddingAnAccount::tabGoesFromTopToBottom()
     if (isOpen || !configuration.isEmpty())
         expected << "KirvField_server"
                  << "KirvField_port";
-    open([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         login(window)->setText("anna@fake");
         password(window)->setText("secret");
         child<QComboBox>(window, "AddAccount_Configuration")->setFocus();
@@ -603,7 +603,7 @@ void tst_AddingAnAccount::advancedStaysWhereItIs()
     QFETCH(bool, isRightToLeft);
     windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
     QGuiApplication::setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    open([&](KirvLayoutDialog *window) {
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
         const QToolButton *button = advanced(window);
         const QRect closed(button->mapTo(window, QPoint()), button->size());
         const QWidget *section = button->parentWidget();
