@@ -11,10 +11,12 @@
 #include <QScrollBar>
 #include <QSet>
 #include <QSignalBlocker>
+#include <QTextLayout>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -28,6 +30,18 @@ const int laterRole = Qt::UserRole + 1; // of the last column
 const int narrowColumn = 26; // when the window is small
 const int narrowName = 12; // which gives way to the further columns
 const int longestChoice = 100;
+const int measuredTexts = 20; // of a column
+
+/// A few of \a texts, of which there may be one for each row: measuring them all would take long.
+QStringList longestOf(const QSet<QString> &texts)
+{
+    QStringList longest(texts.begin(), texts.end());
+    const auto end = longest.begin() + std::min(int(longest.size()), measuredTexts);
+    std::partial_sort(longest.begin(), end, longest.end(),
+                      [](const QString &left, const QString &right) { return left.size() > right.size(); });
+    longest.erase(end, longest.end());
+    return longest;
+}
 
 /// Where the column is too narrow.
 void setToolTipOf(QTreeWidgetItem *item, int column)
@@ -123,10 +137,15 @@ int KirvAccountCheckList::inCharacters(int count) const
     return count * list->fontMetrics().averageCharWidth();
 }
 
+/// As the list measures what it shows; the metrics of the font differ from that in some scripts.
 int KirvAccountCheckList::textWidth(const QString &text) const
 {
+    QTextLayout layout(text.left(longestChoice), list->font());
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list) + 1;
-    return list->fontMetrics().horizontalAdvance(text.left(longestChoice)) + 2 * margin + 1; // rounded up
+    return (line.isValid() ? int(std::ceil(line.naturalTextWidth())) : 0) + 2 * margin;
 }
 
 /// Of what the column shows or may show. The sentences about rows that cannot be chosen may be long.
@@ -139,9 +158,9 @@ int KirvAccountCheckList::contentsWidth(int column) const
         choices << item->data(column, laterRole).toString();
     }
     int width = list->header()->sectionSizeHint(column);
-    for (const QString &text : qAsConst(choices))
+    for (const QString &text : longestOf(choices))
         width = std::max(width, textWidth(text));
-    for (const QString &text : qAsConst(sentences))
+    for (const QString &text : longestOf(sentences))
         width = std::max(width, std::min(textWidth(text), inCharacters(narrowColumn)));
     return width;
 }
