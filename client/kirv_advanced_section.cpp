@@ -5,8 +5,14 @@
 #include "core/ui/kirv_keyboard.h"
 #include "host/kirv_field_widget.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 
 namespace {
@@ -24,6 +30,20 @@ QString summaryOf(const QList<KirvField> &fields)
     const QString list = names.join(KirvAdvancedSection::tr(", ", "between names of settings"));
     //: %1 = the names of the first settings
     return fields.size() > namedSettings ? KirvAdvancedSection::tr("%1…").arg(list) : list;
+}
+
+/// An arrow as the style draws it. From right to left QToolButton itself would draw one over its text.
+QIcon arrowIcon(const QToolButton *button, QStyle::PrimitiveElement arrow)
+{
+    QPixmap pixmap(button->iconSize() * button->devicePixelRatioF());
+    pixmap.setDevicePixelRatio(button->devicePixelRatioF());
+    pixmap.fill(Qt::transparent);
+    QStyleOption option;
+    option.initFrom(button);
+    option.rect = QRect(QPoint(), button->iconSize());
+    QPainter painter(&pixmap);
+    button->style()->drawPrimitive(arrow, &option, &painter, button);
+    return pixmap;
 }
 
 } // namespace
@@ -75,10 +95,24 @@ KirvAdvancedSection::KirvAdvancedSection(KirvFieldWidget *fields, QWidget *paren
 
 void KirvAdvancedSection::showFields(bool isOpen)
 {
-    const Qt::ArrowType closed = layoutDirection() == Qt::LeftToRight ? Qt::RightArrow : Qt::LeftArrow;
-    button->setArrowType(isOpen ? Qt::DownArrow : closed);
+    showArrow(isOpen);
     fields->setVisible(isOpen);
     summary->setVisible(!isOpen);
+}
+
+void KirvAdvancedSection::showArrow(bool isOpen)
+{
+    const QStyle::PrimitiveElement closed =
+        layoutDirection() == Qt::LeftToRight ? QStyle::PE_IndicatorArrowRight : QStyle::PE_IndicatorArrowLeft;
+    button->setIcon(arrowIcon(button, isOpen ? QStyle::PE_IndicatorArrowDown : closed));
+}
+
+/// The arrow has the colour of the text.
+void KirvAdvancedSection::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        showArrow(button->isChecked());
+    QWidget::changeEvent(event);
 }
 
 void KirvAdvancedSection::setOpen(bool open)

@@ -21,10 +21,14 @@ public:
 Q_SIGNALS:
     void toggled(bool isOpen);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     KirvAdvancedSection(KirvFieldWidget *fields, QWidget *parent);
 
     void showFields(bool isOpen);
+    void showArrow(bool isOpen);
 
     KirvFieldWidget *const fields;
     QToolButton *const button;

@@ -12,6 +12,7 @@
 #include <QDragEnterEvent>
 #include <QFormLayout>
 #include <QGuiApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -129,6 +130,8 @@ private Q_SLOTS:
     void keyboardAloneAddsAnAccount();
     void tabGoesFromTopToBottom_data();
     void tabGoesFromTopToBottom();
+    void arrowIsBesideItsText_data();
+    void arrowIsBesideItsText();
     void advancedStaysWhereItIs_data();
     void advancedStaysWhereItIs();
     void nothingIsCutOffInASmallWindow();
@@ -587,6 +590,36 @@ void tst_AddingAnAccount::tabGoesFromTopToBottom()
             QTest::keyClick(window->focusWidget(), Qt::Key_Backtab);
             QCOMPARE(window->focusWidget(), *stop);
         }
+    });
+}
+
+void tst_AddingAnAccount::arrowIsBesideItsText_data()
+{
+    QTest::addColumn<bool>("isRightToLeft");
+    QTest::newRow("from left to right") << false;
+    QTest::newRow("from right to left") << true;
+}
+
+void tst_AddingAnAccount::arrowIsBesideItsText()
+{
+    QFETCH(bool, isRightToLeft);
+    windows->protocol->settings = { KirvField::textEdit("Server", "server", "", "") };
+    QGuiApplication::setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    windows->inAddWindow([&](KirvLayoutDialog *window) {
+        QToolButton *button = advanced(window);
+        button->setFixedSize(button->size());
+        button->setText(QStringLiteral(" ")); // only the arrow is drawn
+        const QImage image = button->grab().toImage();
+        int inked = 0, atBeginning = 0; // pixels
+        for (int x = 4; x < image.width() - 4; ++x) {
+            for (int y = 4; y < image.height() - 4; ++y) {
+                const bool isInk = image.pixelColor(x, y).lightness() < 128;
+                inked += isInk;
+                atBeginning += isInk && (x < image.width() / 2) != isRightToLeft;
+            }
+        }
+        QVERIFY(inked > 5);
+        QCOMPARE(atBeginning, inked);
     });
 }
 

@@ -47,7 +47,7 @@ std::vector<KirvWalkStep> KirvWalkMover::steps()
         { "use export", 6, [this] { useExport(); } },
         { "open import", 4, [this] { openImport(); } },
         { "use import", 12, [this] { useImport(); } },
-        { "undo", 5, [this] { undo(); } },
+        { "undo", 10, [this] { undo(); } },
     };
 }
 
@@ -173,13 +173,14 @@ void KirvWalkMover::waitForReading(KirvImportWindow *window)
 void KirvWalkMover::undo()
 {
     const KirvAccountHistory &history = walk.client->accountHistory();
-    const int latest = history.latest();
-    const bool isImport = latest != 0 && history.kindOf(latest) == KirvAccountHistory::Import;
+    const auto note = QObject::connect(&history, &KirvAccountHistory::stepAdded, &history, [this, &history](int step) {
+        if (history.kindOf(step) == KirvAccountHistory::UndoneImport)
+            walk.saw(QStringLiteral("an import that is undone"));
+    });
     auto *command = walk.anyVisible<QPushButton>(QStringLiteral("MessageBar_Command"));
     if (command && walk.maybe(70))
         command->click();
     else
         QTest::keyClick(walk.client->window(), Qt::Key_Z, Qt::ControlModifier);
-    if (isImport && !history.has(latest))
-        walk.saw(QStringLiteral("an import that is undone"));
+    QObject::disconnect(note);
 }
