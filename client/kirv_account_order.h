@@ -4,6 +4,7 @@
 
 #include "core/values/kirv_account_key.h"
 
+#include <QModelIndex>
 #include <QObject>
 #include <QPoint>
 #include <QSet>
