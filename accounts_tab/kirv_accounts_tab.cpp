@@ -151,6 +151,8 @@ void KirvAccountsTab::readProtocolAccounts(const QString &proto)
     const QString iconPath = protocol->getIconPath(0);
     const QIcon icon(iconPath);
     icons.insert(iconPath, icon);
+    lastIconPath = iconPath;
+    lastIcon = icon;
     QAction *action = new QAction(protocol->getName(), this);
     if (!icon.isNull())
         action->setIcon(icon);
@@ -191,8 +193,9 @@ void KirvAccountsTab::updateAccount(KirvAccountConnection *account)
 {
     const QString accountId = account->getUid();
     const QString protocolName = account->getProtocolName();
-    for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *row = accountList->topLevelItem(i);
+    const QTreeWidgetItem *rows = accountList->invisibleRootItem(); // topLevelItem() looks it up for each row
+    for (int i = 0; i < rows->childCount(); ++i) {
+        QTreeWidgetItem *row = nextRow(rows, i);
         if (accountIdOf(row) == accountId && protocolNameOf(row) == protocolName) {
             // Intended: a new alias reaches setAccountEnabled() like a change of the check box.
             row->setText(AliasColumn, account->getAlias());
@@ -212,8 +215,9 @@ void KirvAccountsTab::updateAccounts()
         offeredAccounts.reserve(accountList->topLevelItemCount());
     }
 
-    for (int i = 0; i < accountList->topLevelItemCount(); ++i) {
-        QTreeWidgetItem *row = accountList->topLevelItem(i);
+    const QTreeWidgetItem *rows = accountList->invisibleRootItem();
+    for (int i = 0; i < rows->childCount(); ++i) {
+        QTreeWidgetItem *row = nextRow(rows, i);
         AccountKey key;
         key.first = accountIdOf(row);
         key.second = protocolNameOf(row);
@@ -241,12 +245,15 @@ void KirvAccountsTab::offerAsMainAccount(KirvAccountConnection *account, Account
     const QString iconPath = account->getProtocol()->getIconPath(0);
     if (refresh != refreshCount)
         return;
-    QHash<QString, QIcon>::iterator icon = icons.find(iconPath);
-    if (icon == icons.end())
-        icon = icons.insert(iconPath, QIcon(iconPath));
+    if (iconPath != lastIconPath) {
+        if (!icons.contains(iconPath))
+            icons.insert(iconPath, QIcon(iconPath));
+        lastIconPath = iconPath;
+        lastIcon = icons.value(iconPath);
+    }
 
     const int index = mainAccountBox->count();
-    mainAccountBox->insertItem(index, *icon, alias, QVariant::fromValue(static_cast<void *>(account)));
+    mainAccountBox->insertItem(index, lastIcon, alias, QVariant::fromValue(static_cast<void *>(account)));
     offeredAccounts.append(AccountKey());
     qSwap(offeredAccounts.last(), key);
     if (account == KirvAccountManager::getInstance()->getMainAccount() && refresh == refreshCount)

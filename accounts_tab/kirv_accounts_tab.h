@@ -136,6 +136,9 @@ private:
     QVector<AccountKey> offeredAccounts;
     /// The icon of each path, kept until a protocol with that path is read again.
     QHash<QString, QIcon> icons;
+    /// The one that was used or read last: most accounts have the protocol of the one before.
+    QString lastIconPath;
+    QIcon lastIcon;
 };
 
 #endif
