@@ -9,7 +9,7 @@ namespace {
 
 const char *const commandNames[] = { "list", "enable", "disable", "export", "import" };
 
-const QLatin1String topic("accounts");
+const QLatin1String requestTopic("accounts");
 const QLatin1String commandKey("command"), doKey("do"), namesKey("names"), withPasswordsKey("withPasswords"),
     passPhraseKey("passPhrase"), fileKey("file"), replacesKey("replaces"), isTrialKey("isTrial"), statusKey("status"),
     problemKey("problem"), resultKey("result");
@@ -34,7 +34,7 @@ bool KirvAccountsRequest::commandOf(const QString &name, Command *command)
 
 QJsonObject KirvAccountsRequest::toJson() const
 {
-    return { { commandKey, topic },
+    return { { commandKey, requestTopic },
              { doKey, nameOf(command) },
              { namesKey, QJsonArray::fromStringList(names) },
              { withPasswordsKey, withPasswords },
@@ -48,7 +48,7 @@ bool KirvAccountsRequest::fromJson(const QJsonObject &json, KirvAccountsRequest 
 {
     const auto isText = [&json](QLatin1String key) { return json.value(key).isString(); };
     const auto isFlag = [&json](QLatin1String key) { return json.value(key).isBool(); };
-    if (json.value(commandKey).toString() != topic || !commandOf(json.value(doKey).toString(), &request->command)
+    if (json.value(commandKey).toString() != requestTopic || !commandOf(json.value(doKey).toString(), &request->command)
         || !json.value(namesKey).isArray() || !isText(passPhraseKey) || !isText(fileKey) || !isFlag(withPasswordsKey)
         || !isFlag(replacesKey) || !isFlag(isTrialKey))
         return false;

@@ -33,7 +33,7 @@
 
 namespace {
 
-const int comfortableWidth = 65; // in average characters
+const int comfortableExportWidth = 65; // in average characters
 
 QLabel *createLabel(const QString &text, QLineEdit *line, QWidget *parent)
 {
@@ -52,7 +52,7 @@ KirvExportWindow::KirvExportWindow(const KirvAccountCollection &accounts, const 
     , mainAccount(mainAccount)
 {
     QWidget *content = createContent();
-    build(content, createButtons(), comfortableWidth);
+    build(content, createButtons(), comfortableExportWidth);
     check(chosen);
     connect(&accounts, &KirvAccountCollection::accountAdded, this, &KirvExportWindow::refreshList);
     connect(&accounts, &KirvAccountCollection::accountRemoved, this, &KirvExportWindow::refreshList);

@@ -31,7 +31,7 @@
 
 namespace {
 
-const int comfortableWidth = 75; // in average characters
+const int comfortableImportWidth = 75; // in average characters
 const int mostSentences = 3; // in a message
 
 KirvWrappedText *createText(const char *name, const QString &accessibleName, QWidget *parent)
@@ -53,7 +53,7 @@ KirvImportWindow::KirvImportWindow(const Environment &environment, QWidget *pare
             showText(listingText());
     });
     QWidget *content = createContent();
-    build(content, createButtons(), comfortableWidth);
+    build(content, createButtons(), comfortableImportWidth);
     // What is listed depends on which accounts there are.
     connect(&environment.accounts, &KirvAccountCollection::accountAdded, this, &KirvImportWindow::listLater);
     connect(&environment.accounts, &KirvAccountCollection::accountRemoved, this, &KirvImportWindow::listLater);

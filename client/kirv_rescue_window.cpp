@@ -14,7 +14,7 @@
 #include <QVBoxLayout>
 
 namespace {
-const int comfortableWidth = 75; // in average characters
+const int comfortableRescueWidth = 75; // in average characters
 }
 
 KirvRescueWindow::KirvRescueWindow(const QString &folder, const QString &problem, QWidget *parent)
@@ -176,7 +176,7 @@ void KirvRescueWindow::showOutcome(bool isDone)
 void KirvRescueWindow::fitToContents()
 {
     const QSize room = screen()->availableSize();
-    const int wide = qMin(room.width(), qMax(width(), comfortableWidth * fontMetrics().averageCharWidth()));
+    const int wide = qMin(room.width(), qMax(width(), comfortableRescueWidth * fontMetrics().averageCharWidth()));
     layout()->activate();
     resize(wide, qMin(room.height(), layout()->totalHeightForWidth(wide)));
 }

@@ -14,7 +14,7 @@
 namespace {
 
 const int batchSize = 100; ///< secrets whose items one commit notes
-const int keepSize = 20; ///< secrets that one commit takes out of the profile
+const int commitSize = 20; ///< secrets that one commit takes out of the profile
 const int examineSize = 50; ///< accounts in one turn of the event loop
 
 /// The fields of those secrets that the profile holds. Which settings are secret is known when the protocol is loaded.
@@ -115,7 +115,7 @@ bool KirvSecretKeeper::moveNext()
         const bool isDone = reply.outcome == KirvSecretStore::Done;
         if (isDone)
             verified << item.key;
-        if (!isDone || verified.size() == qMin(int(batch.size()), keepSize))
+        if (!isDone || verified.size() == qMin(int(batch.size()), commitSize))
             keepVerified(!isDone);
         if (alive && !isDone)
             pause(reply);

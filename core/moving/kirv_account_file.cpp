@@ -19,12 +19,12 @@ namespace {
 const QLatin1String formatName("kirv-accounts");
 const int currentVersion = 1;
 
-const QLatin1String format("format");
+const QLatin1String formatMember("format");
 const QLatin1String version("version");
 const QLatin1String accountList("accounts");
 const QLatin1String mainAccount("main_account");
-const QLatin1String login("login");
-const QLatin1String protocol("protocol");
+const QLatin1String mainLogin("login");
+const QLatin1String mainProtocol("protocol");
 const QLatin1String secrets("secrets");
 const QLatin1String binding("binding");
 
@@ -67,10 +67,10 @@ QJsonObject readablePart(const KirvMovedAccounts &accounts)
         list.append(KirvAccountJson::readablePart(account));
         isMainAmongThem = isMainAmongThem || account.record.key == accounts.mainAccount;
     }
-    QJsonObject file { { format, formatName }, { version, currentVersion }, { accountList, list } };
+    QJsonObject file { { formatMember, formatName }, { version, currentVersion }, { accountList, list } };
     if (isMainAmongThem) {
         const KirvAccountKey &key = accounts.mainAccount;
-        file.insert(mainAccount, QJsonObject { { login, key.id }, { protocol, key.protocol } });
+        file.insert(mainAccount, QJsonObject { { mainLogin, key.id }, { mainProtocol, key.protocol } });
     }
     return file;
 }
@@ -124,7 +124,7 @@ QJsonObject parse(const QByteArray &bytes, QString *problem)
         return QJsonObject();
     const QJsonObject file = QJsonDocument::fromJson(bytes).object();
     const double number = file.value(version).toDouble();
-    if (file.value(format).toString() != formatName || number < 1 || std::floor(number) != number)
+    if (file.value(formatMember).toString() != formatName || number < 1 || std::floor(number) != number)
         return QJsonObject();
     if (number > currentVersion) {
         *problem = KirvAccountFile::tr("The file was made by a newer version of the program. This one cannot read it.");
@@ -223,7 +223,7 @@ QString Reader::readMainAccount()
     if (!file.contains(mainAccount))
         return QString();
     const QJsonObject main = file.value(mainAccount).toObject();
-    moved.mainAccount = { main.value(login).toString(), main.value(protocol).toString() };
+    moved.mainAccount = { main.value(mainLogin).toString(), main.value(mainProtocol).toString() };
     const bool isOneOfThem = main.size() == 2 && keys.contains(moved.mainAccount);
     return isOneOfThem ? QString() : KirvAccountFile::tr("The file is damaged: its main account is not in it.");
 }

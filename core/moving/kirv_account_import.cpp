@@ -19,7 +19,7 @@
 namespace {
 
 /// A name out of a file as it stands in a sentence.
-QString shown(const QString &name)
+QString shownName(const QString &name)
 {
     return kirvVisibleText(kirvSingleLine(name, kirvLongestShownName));
 }
@@ -113,7 +113,7 @@ void KirvAccountImport::makeRows()
         if (row.problem.isEmpty() && !twin.isEmpty()) {
             //: %1 and %2 are logins, which may be spelt the same
             row.problem = tr("The file contains this login twice: \"%1\" is the same as \"%2\" to the server.")
-                              .arg(shown(record.key.id), shown(twin));
+                              .arg(shownName(record.key.id), shownName(twin));
         }
         row.isTaken = row.problem.isEmpty() && row.isNew();
         const KirvAccount *replaced = row.problem.isEmpty() ? accounts.find(row.existing) : nullptr;
@@ -130,7 +130,7 @@ QString KirvAccountImport::problemOf(const Row &row) const
         return tr("The account has no login.");
     if (!accounts.protocol(row.key.protocol)) {
         //: %1 = name of a protocol
-        return tr("The protocol %1 is not loaded.").arg(shown(row.key.protocol));
+        return tr("The protocol %1 is not loaded.").arg(shownName(row.key.protocol));
     }
     return row.isNew() ? accounts.problemWithNew(row.key) : QString();
 }
@@ -172,7 +172,7 @@ bool KirvAccountImport::makePlan(Plan *plan, QString *problem)
             isSame ? problemOf(row) : tr("Another account with this login was added or removed in the meantime.");
         if (!problem->isEmpty()) {
             //: %1 = login, %2 = a sentence
-            *problem = tr("The account \"%1\" cannot be imported. %2").arg(shown(row.key.id), *problem);
+            *problem = tr("The account \"%1\" cannot be imported. %2").arg(shownName(row.key.id), *problem);
             return false;
         }
         KirvRemovedAccount account;
@@ -229,7 +229,7 @@ QStringList KirvAccountImport::lostSecrets() const
             sentences
                 << tr("Stored passwords of the account \"%1\" are not kept, because its settings in the file differ. "
                       "They must be entered again.")
-                       .arg(shown(row.name));
+                       .arg(shownName(row.name));
         }
     }
     return sentences;
@@ -258,7 +258,7 @@ bool KirvAccountImport::leaveOutBadPictures()
         KirvMovedAccount &account = moved.accounts[index];
         if (!all.at(index).isTaken || account.picture.isEmpty())
             continue;
-        const QString name = shown(all.at(index).name);
+        const QString name = shownName(all.at(index).name);
         const QString problem = KirvBoundedImage::fromData(account.picture, name).problem();
         if (problem.isEmpty())
             continue;

@@ -19,7 +19,7 @@ const QLatin1String password("password");
 
 const int mostSettings = 1000; ///< of one account
 
-enum Form { Line, Lines, Digest };
+enum Form { Line, Lines, HexDigest };
 
 struct TextMember {
     QLatin1String name;
@@ -39,7 +39,7 @@ const TextMember texts[] = {
     { QLatin1String("default_description"), &KirvAccountRecord::defaultDescription, Lines },
     { QLatin1String("last_presence"), &KirvAccountRecord::lastPresence, Line },
     { QLatin1String("last_description"), &KirvAccountRecord::lastDescription, Lines },
-    { trustedCertificate, &KirvAccountRecord::trustedCertificate, Digest },
+    { trustedCertificate, &KirvAccountRecord::trustedCertificate, HexDigest },
 };
 
 const FlagMember flags[] = {
@@ -62,7 +62,7 @@ bool isLayout(QChar character)
 bool isWellFormed(const QString &text, Form form)
 {
     static const QRegularExpression digest(QRegularExpression::anchoredPattern(QStringLiteral("([0-9a-f]{64})?")));
-    if (form == Digest)
+    if (form == HexDigest)
         return digest.match(text).hasMatch();
     const auto isWrong = [form](QChar character) {
         return isControl(character) && !(form == Lines && isLayout(character));

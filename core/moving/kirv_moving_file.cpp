@@ -26,7 +26,7 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(KirvMovingFile)
 };
 
-QString shown(const QString &path)
+QString shownPath(const QString &path)
 {
     return kirvVisibleText(QDir::toNativeSeparators(path));
 }
@@ -34,13 +34,13 @@ QString shown(const QString &path)
 QString notOrdinary(const QString &path)
 {
     //: %1 = path of a file
-    return Texts::tr("%1 is not an ordinary file.").arg(shown(path));
+    return Texts::tr("%1 is not an ordinary file.").arg(shownPath(path));
 }
 
 QString unreadable(const QString &path, const QString &reason)
 {
     //: %1 = path of a file, %2 = the system's reason
-    return Texts::tr("The file %1 cannot be read: %2.").arg(shown(path), reason);
+    return Texts::tr("The file %1 cannot be read: %2.").arg(shownPath(path), reason);
 }
 
 /// Without waiting for the other end of a pipe, and without what opening a device does.
@@ -72,7 +72,7 @@ QString whyKept(const QString &path)
         return QString();
     if (S_ISLNK(status.st_mode)) {
         //: %1 = path of a file
-        return Texts::tr("%1 is a link to another file. Choose another name.").arg(shown(path));
+        return Texts::tr("%1 is a link to another file. Choose another name.").arg(shownPath(path));
     }
     return notOrdinary(path);
 }
@@ -92,8 +92,9 @@ KirvMovingFile::Content KirvMovingFile::read(const QString &path)
         content.problem = unreadable(path, file.errorString());
     } else if (content.bytes.size() > largest) {
         //: %1 = path of a file, %L2 = a number
-        content.problem =
-            Texts::tr("The file %1 is larger than %L2 MB, so it is not read.").arg(shown(path)).arg(largest / megabyte);
+        content.problem = Texts::tr("The file %1 is larger than %L2 MB, so it is not read.")
+                              .arg(shownPath(path))
+                              .arg(largest / megabyte);
     }
     if (!content.problem.isEmpty())
         content.bytes.clear();
@@ -131,5 +132,5 @@ QString KirvMovingFile::write(const QString &path, const QByteArray &bytes, cons
     if (isWritten && file.commit())
         return QString();
     //: %1 = path of a file, %2 = the system's reason
-    return Texts::tr("The file %1 cannot be written: %2.").arg(shown(path), file.errorString());
+    return Texts::tr("The file %1 cannot be written: %2.").arg(shownPath(path), file.errorString());
 }

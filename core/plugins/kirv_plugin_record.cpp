@@ -11,7 +11,7 @@
 
 namespace {
 
-const int format = 1;
+const int recordFormat = 1;
 const qint64 maximumSize = 1024 * 1024;
 const int maximumEntries = 200;
 
@@ -21,7 +21,7 @@ const char *const verdictNames[] = { "unknown", "survived", "crashed", "ended", 
 /// What makes everything that is known worthless when it changes: the code that ran the plug-ins.
 QJsonObject emptyRecord()
 {
-    return { { QStringLiteral("format"), format },
+    return { { QStringLiteral("format"), recordFormat },
              { QStringLiteral("program"), QStringLiteral(KIRV_VERSION) },
              { QStringLiteral("qt"), QString::fromLatin1(qVersion()) } };
 }

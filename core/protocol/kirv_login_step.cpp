@@ -4,13 +4,13 @@
 #include "core/values/kirv_single_line.h"
 
 namespace {
-const int longestText = 400;
+const int longestStepText = 400;
 }
 
 KirvLoginStep::KirvLoginStep(Kind kind, Outcome outcome, const QString &text)
     : stepKind(kind)
     , stepOutcome(outcome)
-    , stepText(kirvSingleLine(text, longestText))
+    , stepText(kirvSingleLine(text, longestStepText))
 {
 }
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int longestText = 200;
+constexpr int longestCertificateText = 200;
 constexpr int mostNames = 10;
 /// Of one kind, of those that a certificate gives several of.
 constexpr int mostParts = 3;
@@ -20,9 +20,9 @@ constexpr int mostParts = 3;
 /// \a text in one line of limited length, without what cannot be seen.
 QString toLine(const QString &text)
 {
-    QString line = text.left(4 * longestText);
+    QString line = text.left(4 * longestCertificateText);
     std::replace_if(line.begin(), line.end(), kirvIsInvisible, QChar(QChar::ReplacementCharacter));
-    return kirvSingleLine(line, longestText);
+    return kirvSingleLine(line, longestCertificateText);
 }
 
 QString joined(const QStringList &parts)

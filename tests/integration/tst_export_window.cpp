@@ -11,6 +11,7 @@
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
+#include "tests/support/kirv_quick_keys.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -124,6 +125,7 @@ void tst_ExportWindow::init()
 
 void tst_ExportWindow::cleanup()
 {
+    KirvQuickKeys::instance().isReal = false;
     KirvClientWindows::closeBoxes();
     windows.reset();
 }
@@ -399,8 +401,9 @@ void tst_ExportWindow::missingFolderIsSaid()
 
 void tst_ExportWindow::cancelledExportWritesNothing()
 {
+    KirvQuickKeys::instance().isReal = true; // which takes some time
     open();
-    enterPassPhrase(phrase, phrase); // it takes some time
+    enterPassPhrase(phrase, phrase);
     window()->exportTo(target());
     auto *cancel = part<QDialogButtonBox>("Buttons")->button(QDialogButtonBox::Cancel);
     QVERIFY(cancel->isVisible() && !exportButton()->isEnabled() && !list()->isEnabled());
@@ -415,6 +418,7 @@ void tst_ExportWindow::cancelledExportWritesNothing()
 
 void tst_ExportWindow::closingWhileWritingIsSafe()
 {
+    KirvQuickKeys::instance().isReal = true;
     open();
     enterPassPhrase(phrase, phrase);
     window()->exportTo(target());

@@ -13,6 +13,7 @@
 #include "tests/support/gui/kirv_file_choice.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
+#include "tests/support/kirv_quick_keys.h"
 #include "tests/support/store_refusal.h"
 
 #include <QCheckBox>
@@ -146,6 +147,7 @@ void tst_ImportWindow::init()
 
 void tst_ImportWindow::cleanup()
 {
+    KirvQuickKeys::instance().isReal = false;
     KirvClientWindows::closeBoxes();
     windows.reset();
 }
@@ -468,6 +470,7 @@ void tst_ImportWindow::largeFileIsNotRead()
 
 void tst_ImportWindow::windowLivesWhileAFileIsRead()
 {
+    KirvQuickKeys::instance().isReal = true;
     choose(writeAccounts({ moved(ann) }, phrase));
     KIRV_TRY(part<QLineEdit>("PassPhrase")->isVisible());
     part<QLineEdit>("PassPhrase")->setText(phrase);
@@ -482,6 +485,7 @@ void tst_ImportWindow::windowLivesWhileAFileIsRead()
 
 void tst_ImportWindow::closingWhileReadingIsSafe()
 {
+    KirvQuickKeys::instance().isReal = true;
     choose(writeAccounts({ moved(ann) }, phrase));
     KIRV_TRY(part<QLineEdit>("PassPhrase")->isVisible());
     part<QLineEdit>("PassPhrase")->setText(phrase);

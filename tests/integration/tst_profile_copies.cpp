@@ -177,7 +177,7 @@ void tst_ProfileCopies::noSecretIsInACopy()
 void tst_ProfileCopies::aCopyIsKeptBeforeAnUpgradeWithoutItsSecrets()
 {
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"), database()));
+    QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite"), database()));
     QVERIFY(isTextInFiles(QStringLiteral("wherefore"), folder));
     {
         KirvStore store;
@@ -201,7 +201,7 @@ void tst_ProfileCopies::aCopyIsKeptBeforeAnUpgradeWithoutItsSecrets()
 void tst_ProfileCopies::settingsOfEarlyProfilesAreSecretUntilTheyAreClassified()
 {
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"), database()));
+    QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite"), database()));
     const QSet<QString> fields { "server", "encrypted", "server-password" };
     {
         KirvStore store;
@@ -386,7 +386,7 @@ void tst_ProfileCopies::aCopyFromBeforeTheKeyringKnowsWhatIsInIt()
     const QString copy = rescue.copies().first().path;
     if (isOfVersion3) {
         QVERIFY(QFile::remove(copy));
-        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_3.sqlite"), copy));
+        QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_3.sqlite"), copy));
         const QVariant result =
             runInDatabase(copy, { "DELETE FROM secret", QStringLiteral("PRAGMA application_id = %1").arg(0x4b697243) });
         QVERIFY2(!result.isValid(), qPrintable(result.toString()));

@@ -475,7 +475,7 @@ void tst_ProfileOpening::aMissingValueElsewhereIsRefused()
 void tst_ProfileOpening::aProfileOfTheVersionBeforeIsTakenOver()
 {
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"), database()));
+    QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite"), database()));
     KirvStore store;
     QVERIFY2(store.open(folder), qPrintable(store.lastError()));
     QCOMPARE(store.readAccounts().size(), 3);

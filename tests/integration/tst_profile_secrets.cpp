@@ -242,7 +242,7 @@ void tst_ProfileSecrets::noOldSecretIsLeftByAnUpgrade()
     QTemporaryDir home;
     const QString folder = home.filePath(QStringLiteral("profile"));
     QVERIFY(QDir().mkpath(folder));
-    QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"), databaseIn(folder)));
+    QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite"), databaseIn(folder)));
     QStringList statements { QStringLiteral("PRAGMA secure_delete = ON") };
     QRandomGenerator random(1);
     for (int number = 1; number < 1500; ++number) {

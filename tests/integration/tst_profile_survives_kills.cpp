@@ -101,7 +101,7 @@ void tst_ProfileSurvivesKills::makeTemplates()
 {
     const QDir templates(home.filePath(QStringLiteral("templates")));
     QVERIFY(templates.mkpath(QStringLiteral("empty")) && templates.mkpath(QStringLiteral("early")));
-    QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"),
+    QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite"),
                         databaseIn(templates.filePath(QStringLiteral("early")))));
     const QString whole = templates.filePath(QStringLiteral("whole"));
     const QString interrupted = templates.filePath(QStringLiteral("interrupted"));

@@ -247,7 +247,7 @@ void tst_ReadableRows::protocolCanBeRecognized_data()
         for (const char *icon : { "xmpp", "irc" }) {
             for (const QColor &highlight : { darkBlue, QColor(61, 174, 233), QColor(110, 110, 110) })
                 QTest::addRow("%s of %s, %s", icon, themes().at(theme).name, qPrintable(highlight.name()))
-                    << theme << highlight << QFINDTESTDATA(QStringLiteral("../../protocols/%1/%1.svg").arg(icon));
+                    << theme << highlight << QStringLiteral(KIRV_SOURCE_FOLDER "/protocols/%1/%1.svg").arg(icon);
         }
     }
 }

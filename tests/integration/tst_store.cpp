@@ -513,7 +513,7 @@ private Q_SLOTS:
     void aProfileOfVersion1IsUpgraded()
     {
         QVERIFY(QDir().mkpath(folder));
-        const QString old = QFINDTESTDATA("data/profile_version_1.sqlite");
+        const QString old = QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite");
         QVERIFY(QFile::copy(old, QDir(folder).filePath(databaseName)));
         for (int round = 0; round < 2; ++round) { // the second one finds it upgraded
             KirvStore store;
@@ -539,7 +539,8 @@ private Q_SLOTS:
     void aProfileOfVersion3IsUpgraded()
     {
         QVERIFY(QDir().mkpath(folder));
-        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_3.sqlite"), QDir(folder).filePath(databaseName)));
+        QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_3.sqlite"),
+                            QDir(folder).filePath(databaseName)));
         KirvStore store;
         QVERIFY2(store.open(folder), qPrintable(store.lastError()));
         const QList<KirvAccountRecord> accounts = store.readAccounts();
@@ -554,7 +555,8 @@ private Q_SLOTS:
     void aProfileOfVersion4IsUpgraded()
     {
         QVERIFY(QDir().mkpath(folder));
-        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_4.sqlite"), QDir(folder).filePath(databaseName)));
+        QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_4.sqlite"),
+                            QDir(folder).filePath(databaseName)));
         for (int round = 0; round < 2; ++round) { // the second one finds it upgraded, with what was stored
             KirvStore store;
             QVERIFY2(store.open(folder), qPrintable(store.lastError()));
@@ -618,7 +620,7 @@ private Q_SLOTS:
     {
         QVERIFY(QDir().mkpath(folder));
         const QString path = QDir(folder).filePath(databaseName);
-        QVERIFY(QFile::copy(QFINDTESTDATA("data/profile_version_1.sqlite"), path));
+        QVERIFY(QFile::copy(QStringLiteral(KIRV_TEST_DATA "/profile_version_1.sqlite"), path));
         {
             const FileSizeLimit limit(3000);
             KirvStore store;

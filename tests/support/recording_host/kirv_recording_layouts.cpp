@@ -18,7 +18,7 @@
 
 namespace {
 
-KirvRecordingHost &host()
+KirvRecordingHost &recordingHost()
 {
     return KirvRecordingHost::instance();
 }
@@ -27,7 +27,7 @@ KirvRecordingHost &host()
 template <typename Widget>
 Widget *addChild(QWidget *parent, const QString &name)
 {
-    if (host().layouts.omitted.contains(name))
+    if (recordingHost().layouts.omitted.contains(name))
         return nullptr;
     auto *widget = new Widget(parent);
     widget->setObjectName(name);
@@ -52,7 +52,7 @@ QWidget *createAccounts()
 void addLoginFrame(QWidget *window)
 {
     auto *frame = addChild<QWidget>(window, QStringLiteral("AddAccount_LoginFrame"));
-    if (host().layouts.loginFrameHasForm)
+    if (recordingHost().layouts.loginFrameHasForm)
         new QFormLayout(frame);
     else
         new QVBoxLayout(frame);
@@ -119,7 +119,7 @@ QWidget *createEditAccount()
 
 QWidget *create(const QString &name)
 {
-    if (host().layouts.omitted.contains(name))
+    if (recordingHost().layouts.omitted.contains(name))
         return nullptr;
     QWidget *top = nullptr;
     if (name == QLatin1String("Accounts"))
@@ -136,7 +136,7 @@ QWidget *create(const QString &name)
 void announce(QWidget *top)
 {
     // A copy, as the announcement may replace itself.
-    const std::function<void(QWidget *)> announce = host().layouts.announce;
+    const std::function<void(QWidget *)> announce = recordingHost().layouts.announce;
     if (announce && top)
         announce(top);
 }
@@ -151,8 +151,8 @@ KirvUILoader *KirvUILoader::getInstance()
 
 QWidget *KirvUILoader::loadUI(const QString &name, QWidget *parent, const QString &variant)
 {
-    host().record(QString(), QStringLiteral("loadUI"),
-                  { kirvWritten(name), parent->metaObject()->className(), kirvWritten(variant) });
+    recordingHost().record(QString(), QStringLiteral("loadUI"),
+                           { kirvWritten(name), parent->metaObject()->className(), kirvWritten(variant) });
     QWidget *top = create(name);
     auto *filling = new QVBoxLayout(parent);
     filling->setContentsMargins(0, 0, 0, 0);
@@ -163,7 +163,7 @@ QWidget *KirvUILoader::loadUI(const QString &name, QWidget *parent, const QStrin
 
 QWidget *KirvUILoader::loadUI(const QString &name, const QString &variant)
 {
-    host().record(QString(), QStringLiteral("loadUI"), { kirvWritten(name), kirvWritten(variant) });
+    recordingHost().record(QString(), QStringLiteral("loadUI"), { kirvWritten(name), kirvWritten(variant) });
     QWidget *top = create(name);
     announce(top);
     return top;
@@ -171,8 +171,8 @@ QWidget *KirvUILoader::loadUI(const QString &name, const QString &variant)
 
 void KirvUILoader::insertWidget(QWidget *placeholder, QWidget *widget)
 {
-    host().record(QString(), QStringLiteral("insertWidget"),
-                  { kirvWritten(placeholder->objectName()), widget->metaObject()->className() });
+    recordingHost().record(QString(), QStringLiteral("insertWidget"),
+                           { kirvWritten(placeholder->objectName()), widget->metaObject()->className() });
     auto *filling = new QVBoxLayout(placeholder);
     filling->setContentsMargins(0, 0, 0, 0);
     filling->addWidget(widget);
