@@ -19,14 +19,15 @@ enum Column {
     ColumnCount
 };
 
-/// The row at \a index of all \a rows, the children of the list's invisible root, when they are read one after another.
-/// Sorted rows lie anywhere in memory, so the processor is told of one that will be read soon.
-inline QTreeWidgetItem *nextRow(const QTreeWidgetItem *rows, int index)
+/// The row at \a index among the children of \a root, for a loop over all of them. Sorted rows lie anywhere in memory,
+/// so the processor begins to fetch one that the loop comes to soon.
+inline QTreeWidgetItem *rowInLoop(const QTreeWidgetItem *root, int index)
 {
 #ifdef __GNUC__
-    __builtin_prefetch(rows->child(index + 8)); // null behind the last row, which has no effect
+    const int ahead = 8; // as measured
+    __builtin_prefetch(root->child(index + ahead)); // null behind the last row, which has no effect
 #endif
-    return rows->child(index);
+    return root->child(index);
 }
 
 inline QString aliasOf(const QTreeWidgetItem *row)

@@ -193,9 +193,9 @@ void KirvAccountsTab::updateAccount(KirvAccountConnection *account)
 {
     const QString accountId = account->getUid();
     const QString protocolName = account->getProtocolName();
-    const QTreeWidgetItem *rows = accountList->invisibleRootItem(); // topLevelItem() looks it up for each row
-    for (int i = 0; i < rows->childCount(); ++i) {
-        QTreeWidgetItem *row = nextRow(rows, i);
+    const QTreeWidgetItem *root = accountList->invisibleRootItem(); // topLevelItem() looks it up for each row
+    for (int i = 0; i < root->childCount(); ++i) {
+        QTreeWidgetItem *row = rowInLoop(root, i);
         if (accountIdOf(row) == accountId && protocolNameOf(row) == protocolName) {
             // Intended: a new alias reaches setAccountEnabled() like a change of the check box.
             row->setText(AliasColumn, account->getAlias());
@@ -215,9 +215,9 @@ void KirvAccountsTab::updateAccounts()
         offeredAccounts.reserve(accountList->topLevelItemCount());
     }
 
-    const QTreeWidgetItem *rows = accountList->invisibleRootItem();
-    for (int i = 0; i < rows->childCount(); ++i) {
-        QTreeWidgetItem *row = nextRow(rows, i);
+    const QTreeWidgetItem *root = accountList->invisibleRootItem();
+    for (int i = 0; i < root->childCount(); ++i) {
+        QTreeWidgetItem *row = rowInLoop(root, i);
         AccountKey key;
         key.first = accountIdOf(row);
         key.second = protocolNameOf(row);

@@ -136,7 +136,8 @@ private:
     QVector<AccountKey> offeredAccounts;
     /// The icon of each path, kept until a protocol with that path is read again.
     QHash<QString, QIcon> icons;
-    /// The one that was used or read last: most accounts have the protocol of the one before.
+    /// The path and the icon that were used last, which spare most look-ups: accounts of one protocol mostly stand
+    /// together.
     QString lastIconPath;
     QIcon lastIcon;
 };

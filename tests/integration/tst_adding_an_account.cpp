@@ -130,7 +130,7 @@ private Q_SLOTS:
     void keyboardAloneAddsAnAccount();
     void tabGoesFromTopToBottom_data();
     void tabGoesFromTopToBottom();
-    void arrowIsBesideItsText_data();
+    void arrowIsBesideItsText_data() { advancedStaysWhereItIs_data(); }
     void arrowIsBesideItsText();
     void advancedStaysWhereItIs_data();
     void advancedStaysWhereItIs();
@@ -591,13 +591,6 @@ void tst_AddingAnAccount::tabGoesFromTopToBottom()
             QCOMPARE(window->focusWidget(), *stop);
         }
     });
-}
-
-void tst_AddingAnAccount::arrowIsBesideItsText_data()
-{
-    QTest::addColumn<bool>("isRightToLeft");
-    QTest::newRow("from left to right") << false;
-    QTest::newRow("from right to left") << true;
 }
 
 void tst_AddingAnAccount::arrowIsBesideItsText()

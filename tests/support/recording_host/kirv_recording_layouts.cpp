@@ -18,16 +18,11 @@
 
 namespace {
 
-KirvRecordingHost &recordingHost()
-{
-    return KirvRecordingHost::instance();
-}
-
 /// A named child in \a parent's layout; null when the test leaves it out.
 template <typename Widget>
 Widget *addChild(QWidget *parent, const QString &name)
 {
-    if (recordingHost().layouts.omitted.contains(name))
+    if (KirvRecordingHost::instance().layouts.omitted.contains(name))
         return nullptr;
     auto *widget = new Widget(parent);
     widget->setObjectName(name);
@@ -52,7 +47,7 @@ QWidget *createAccounts()
 void addLoginFrame(QWidget *window)
 {
     auto *frame = addChild<QWidget>(window, QStringLiteral("AddAccount_LoginFrame"));
-    if (recordingHost().layouts.loginFrameHasForm)
+    if (KirvRecordingHost::instance().layouts.loginFrameHasForm)
         new QFormLayout(frame);
     else
         new QVBoxLayout(frame);
@@ -119,7 +114,7 @@ QWidget *createEditAccount()
 
 QWidget *create(const QString &name)
 {
-    if (recordingHost().layouts.omitted.contains(name))
+    if (KirvRecordingHost::instance().layouts.omitted.contains(name))
         return nullptr;
     QWidget *top = nullptr;
     if (name == QLatin1String("Accounts"))
@@ -136,7 +131,7 @@ QWidget *create(const QString &name)
 void announce(QWidget *top)
 {
     // A copy, as the announcement may replace itself.
-    const std::function<void(QWidget *)> announce = recordingHost().layouts.announce;
+    const std::function<void(QWidget *)> announce = KirvRecordingHost::instance().layouts.announce;
     if (announce && top)
         announce(top);
 }
@@ -151,8 +146,9 @@ KirvUILoader *KirvUILoader::getInstance()
 
 QWidget *KirvUILoader::loadUI(const QString &name, QWidget *parent, const QString &variant)
 {
-    recordingHost().record(QString(), QStringLiteral("loadUI"),
-                           { kirvWritten(name), parent->metaObject()->className(), kirvWritten(variant) });
+    KirvRecordingHost::instance().record(
+        QString(), QStringLiteral("loadUI"),
+        { kirvWritten(name), parent->metaObject()->className(), kirvWritten(variant) });
     QWidget *top = create(name);
     auto *filling = new QVBoxLayout(parent);
     filling->setContentsMargins(0, 0, 0, 0);
@@ -163,7 +159,8 @@ QWidget *KirvUILoader::loadUI(const QString &name, QWidget *parent, const QStrin
 
 QWidget *KirvUILoader::loadUI(const QString &name, const QString &variant)
 {
-    recordingHost().record(QString(), QStringLiteral("loadUI"), { kirvWritten(name), kirvWritten(variant) });
+    KirvRecordingHost::instance().record(QString(), QStringLiteral("loadUI"),
+                                         { kirvWritten(name), kirvWritten(variant) });
     QWidget *top = create(name);
     announce(top);
     return top;
@@ -171,8 +168,8 @@ QWidget *KirvUILoader::loadUI(const QString &name, const QString &variant)
 
 void KirvUILoader::insertWidget(QWidget *placeholder, QWidget *widget)
 {
-    recordingHost().record(QString(), QStringLiteral("insertWidget"),
-                           { kirvWritten(placeholder->objectName()), widget->metaObject()->className() });
+    KirvRecordingHost::instance().record(QString(), QStringLiteral("insertWidget"),
+                                         { kirvWritten(placeholder->objectName()), widget->metaObject()->className() });
     auto *filling = new QVBoxLayout(placeholder);
     filling->setContentsMargins(0, 0, 0, 0);
     filling->addWidget(widget);
