@@ -320,13 +320,13 @@ private:
         account->setPresence(account->getProtocol()->createPresenceWithId(presenceId, text));
         account->getProtocol()->accountPresenceChanged(account);
     }
-    /// Makes the account wait less, that the test does not.
-    void hurry() const
+    /// Makes the account wait less or longer, so that the test need not.
+    template <typename Change>
+    void changeTiming(Change change) const
     {
         KirvConnection *connection = windows->account(ann)->connection();
         KirvConnection::Timing timing = connection->timing();
-        timing.requestTimeout = 300;
-        timing.backOff.first = 100;
+        change(&timing);
         connection->setTiming(timing);
     }
     /// Unlike KirvWindows::save(), does not expect that the window closes.
@@ -869,7 +869,7 @@ void tst_EditingInWindows::fieldsStayLockedUntilTheLatestRequestIsAnswered()
 void tst_EditingInWindows::serverThatDoesNotAnswerIsSaid()
 {
     QVERIFY(add(ann));
-    hurry();
+    changeTiming([](KirvConnection::Timing *timing) { timing->requestTimeout = 300; });
     Silence silence(server);
     QVERIFY(silence.holds());
     QDialog *window = editDirectory();
@@ -883,7 +883,7 @@ void tst_EditingInWindows::serverThatDoesNotAnswerIsSaid()
 void tst_EditingInWindows::serverKilledWhilePublishing()
 {
     QVERIFY(addWithEntry());
-    hurry();
+    changeTiming([](KirvConnection::Timing *timing) { timing->backOff.first = 100; });
     QDialog *window = editFetchedDirectory();
     QVERIFY(window);
     paste(field(window, "town"), "Potsdam");
