@@ -1,9 +1,23 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "tests/support/servers/kirv_plugin_profile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <map>
+
+namespace {
+
+/// A folder with \a pluginFile alone, whatever other plug-ins the build has made; empty when it cannot be copied. All
+/// profiles of a test load the same copy: another one would be another library, which reads all certificates again.
+QString folderWith(const QString &pluginFile)
+{
+    static std::map<QString, QTemporaryDir> folders;
+    const QTemporaryDir &folder = folders[pluginFile];
+    const QString copy = folder.filePath(QFileInfo(pluginFile).fileName());
+    return QFile::exists(copy) || QFile::copy(pluginFile, copy) ? folder.path() : QString();
+}
+
+} // namespace
 
 KirvPluginProfile::KirvPluginProfile(const QString &pluginFile, const QString &name)
 {
@@ -20,10 +34,8 @@ KirvPluginProfile::KirvPluginProfile(const QString &pluginFile, const QString &n
     QObject::connect(loader.get(), &KirvPluginLoader::protocolAboutToBeUnloaded, collection.get(),
                      [this](KirvProtocolBase *leaving) { collection->protocolAboutToBeUnloaded(leaving->getName()); });
 
-    // Alone in its folder, whatever other plug-ins the build has made.
-    const QDir protocols(files.filePath("protocols"));
-    if (!protocols.mkpath(".") || !QFile::copy(pluginFile, protocols.filePath(QFileInfo(pluginFile).fileName()))
-        || !loader->loadFolder(protocols.path())) {
+    const QString protocols = folderWith(pluginFile);
+    if (protocols.isEmpty() || !loader->loadFolder(protocols)) {
         error = "The plug-in cannot be copied.";
         return;
     }
