@@ -8,6 +8,7 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_quick_keys.h"
+#include "tests/support/kirv_thorough.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -416,12 +417,13 @@ void tst_AccountFile::hostileFileIsRefused_data()
     row("1,001 settings", "\"settings\":{" + many + "}", "settings");
     row("1,001 secret settings", "\"secret_settings\":[" + names + "]", "secret_settings");
     many.clear();
-    for (int number = 0; number < 2000000; ++number)
-        many += (number ? ",\"" : "\"") + QByteArray::number(number * 7 % 2000000) + "\":\"\"";
-    row("2,000,000 settings", "\"settings\":{" + many + "}", "settings");
-    QTest::newRow("2,000,000 members") << fileOf("{" + many + "}") << damaged;
-    QTest::newRow("the same member 2,000,000 times")
-        << fileOf("{" + QByteArray("\"a\":\"\",").repeated(2000000) + "\"a\":\"\"}") << damaged;
+    const int countless = kirvIsThorough() ? 2000000 : 200000;
+    for (int number = 0; number < countless; ++number)
+        many += (number ? ",\"" : "\"") + QByteArray::number(number * 7 % countless) + "\":\"\"";
+    row("countless settings", "\"settings\":{" + many + "}", "settings");
+    QTest::newRow("countless members") << fileOf("{" + many + "}") << damaged;
+    QTest::newRow("the same member countless times")
+        << fileOf("{" + QByteArray("\"a\":\"\",").repeated(countless) + "\"a\":\"\"}") << damaged;
     row("picture as an array", R"("picture":[])", "picture");
     row("picture empty", R"("picture":"")", "picture");
     row("picture that is not in base64", R"("picture":"!!!!")", "picture");

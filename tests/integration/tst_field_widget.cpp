@@ -544,7 +544,7 @@ void tst_FieldWidget::hugeTextsAreShownInABoundedWidth_data()
     QTest::newRow("words") << QString("word ").repeated(200000);
     QTest::newRow("one word") << QString("x").repeated(1000000);
     QTest::newRow("lines") << QString("line\n").repeated(200000);
-    QTest::newRow("right to left") << QString::fromUtf8("\u202eשלום<b>").repeated(100000);
+    QTest::newRow("right to left") << QString::fromUtf8("\u202eשלום<b>").repeated(1000);
 }
 
 void tst_FieldWidget::hugeTextsAreShownInABoundedWidth()

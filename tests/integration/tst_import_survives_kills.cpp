@@ -13,6 +13,7 @@
 #include "tests/support/fakes/kirv_fake_protocol.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
+#include "tests/support/kirv_thorough.h"
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
 
@@ -361,13 +362,12 @@ void tst_ImportSurvivesKills::aKillLeavesAllOfTheImportOrNothing_data()
     QTest::newRow("secrets in the keyring") << true;
 }
 
-/// Some of the calls in an ordinary run; every one when KIRV_EVERY_KILL is set, and with the keyring, which makes the
+/// Some of the calls in an ordinary run; every one in a thorough run, and with the keyring, which makes the
 /// same calls for each secret, every third one.
 void tst_ImportSurvivesKills::aKillLeavesAllOfTheImportOrNothing()
 {
     QFETCH(bool, usesKeyring);
-    const bool isThorough = qEnvironmentVariableIsSet("KIRV_EVERY_KILL");
-    const int step = usesKeyring ? (isThorough ? 3 : 131) : (isThorough ? 1 : 23);
+    const int step = usesKeyring ? (kirvIsThorough() ? 3 : 131) : (kirvIsThorough() ? 1 : 23);
     Content before, after;
     fill(usesKeyring);
     read(&before);

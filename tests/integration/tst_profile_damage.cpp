@@ -3,6 +3,7 @@
 #include "core/store/kirv_store.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
+#include "tests/support/kirv_thorough.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
@@ -45,8 +46,6 @@ private:
     void tryToRecover(Outcome *outcome);
     static void report(const char *what, int number, const Outcome &outcome);
 
-    /// Whether every damage that is known is tried, not only some.
-    const bool isThorough = qEnvironmentVariableIsSet("KIRV_EVERY_DAMAGE");
     QTemporaryDir home;
     QString folder;
     QByteArray whole;
@@ -122,7 +121,7 @@ void tst_ProfileDamage::report(const char *what, int number, const Outcome &outc
 void tst_ProfileDamage::aTruncatedDatabaseIsNeverAnEmptyList()
 {
     Outcome outcome;
-    const int tries = isThorough ? 192 : 48;
+    const int tries = kirvIsThorough() ? 192 : 48;
     for (int number = 0; number < tries; ++number) {
         // Over the whole file, and close to its end.
         const int half = tries / 2;
@@ -140,7 +139,7 @@ void tst_ProfileDamage::aFlippedBitIsNeverAnEmptyList()
 {
     Outcome outcome;
     QRandomGenerator random(1);
-    const int tries = isThorough ? 500 : 120;
+    const int tries = kirvIsThorough() ? 500 : 120;
     for (int number = 0; number < tries; ++number) {
         // The first page, with the header and the schema, is all structure: half of the bits are there.
         const int bit = random.bounded((number % 2 ? 4096 : whole.size()) * 8);

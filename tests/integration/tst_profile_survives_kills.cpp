@@ -5,6 +5,7 @@
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
 #include "tests/support/kirv_profile_tool.h"
+#include "tests/support/kirv_thorough.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -149,12 +150,12 @@ void tst_ProfileSurvivesKills::aProfileOpensAfterAKillAtAnyCall_data()
                                                << "restore";
 }
 
-/// Every tenth call in an ordinary run; every one when KIRV_EVERY_KILL is set.
+/// Every tenth call in an ordinary run; every one in a thorough run.
 void tst_ProfileSurvivesKills::aProfileOpensAfterAKillAtAnyCall()
 {
     QFETCH(QString, from);
     QFETCH(QString, action);
-    const int step = qEnvironmentVariableIsSet("KIRV_EVERY_KILL") ? 1 : 10;
+    const int step = kirvIsThorough() ? 1 : 10;
     int kills = 0;
     QByteArray said;
     for (int call = 0; !said.contains("done"); call += step) {

@@ -8,6 +8,7 @@
 #include "tests/support/fakes/kirv_fake_protocol.h"
 #include "tests/support/kirv_patience.h"
 #include "tests/support/kirv_profile_files.h"
+#include "tests/support/kirv_thorough.h"
 #include "tests/support/servers/kirv_gnome_keyring.h"
 #include "tests/support/servers/kirv_private_bus.h"
 
@@ -175,8 +176,7 @@ void tst_SecretsSurviveKills::aKillLeavesNoWrongSecretAndNoOrphan()
     QFETCH(QString, name);
     const bool isOfMany = name == QLatin1String("move of many");
     // A move of many makes the same calls again and again; that of one is interrupted at each.
-    const bool isThorough = qEnvironmentVariableIsSet("KIRV_EVERY_KILL");
-    const int stride = isOfMany ? (isThorough ? 7 : 301) : (isThorough ? 1 : 17);
+    const int stride = isOfMany ? (kirvIsThorough() ? 7 : 301) : (kirvIsThorough() ? 1 : 17);
     int kills = 0;
     bool isDone = false;
     for (int call = 0; !isDone; call += stride, ++kills) {

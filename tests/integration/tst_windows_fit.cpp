@@ -30,6 +30,7 @@
 #include "tests/support/gui/kirv_assistant_window.h"
 #include "tests/support/gui/kirv_window_watcher.h"
 #include "tests/support/kirv_patience.h"
+#include "tests/support/kirv_thorough.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -70,11 +71,10 @@ bool isUsualScale()
     return smallSize() == QSize(480, 360) && qFuzzyCompare(qApp->devicePixelRatio(), 1.0);
 }
 
-/// All of them or, at another scale and unless the environment wants all, those with the longest texts and from right
-/// to left.
+/// Those with the longest texts and from right to left; all in a thorough run.
 QStringList languages()
 {
-    if (!isUsualScale() && !qEnvironmentVariableIsSet("KIRV_EVERY_LANGUAGE"))
+    if (!kirvIsThorough())
         return { QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("ar") };
     return KirvTranslations(*qApp, QStringLiteral(KIRV_TRANSLATIONS)).languages();
 }
