@@ -60,14 +60,11 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
     "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h")
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
 
-# The cache serves all clones on a machine, as it takes the folders in them relative to the clone's own. It must be told
-# that a precompiled header may stand for its text.
+set(KIRV_COMPILE "${PROJECT_SOURCE_DIR}/cmake/compile")
 if(KIRV_USE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     find_program(KIRV_CCACHE ccache)
-    find_program(KIRV_ENV env) # starts ten times as quickly as that of CMake
-    if(KIRV_CCACHE AND KIRV_ENV)
-        set(CMAKE_CXX_COMPILER_LAUNCHER "${KIRV_ENV}" "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
-            CCACHE_SLOPPINESS=pch_defines,time_macros "${KIRV_CCACHE}")
+    if(KIRV_CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER "${KIRV_COMPILE}" -c "${KIRV_CCACHE}")
     endif()
 endif()
 
