@@ -71,12 +71,13 @@ bool isUsualScale()
     return smallSize() == QSize(480, 360) && qFuzzyCompare(qApp->devicePixelRatio(), 1.0);
 }
 
-/// Those with the longest texts and from right to left; all in a thorough run.
+/// One from right to left and those with the longest texts, fewer at another scale; all in a thorough run.
 QStringList languages()
 {
-    if (!kirvIsThorough())
-        return { QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("ar") };
-    return KirvTranslations(*qApp, QStringLiteral(KIRV_TRANSLATIONS)).languages();
+    if (kirvIsThorough())
+        return KirvTranslations(*qApp, QStringLiteral(KIRV_TRANSLATIONS)).languages();
+    const QStringList few { QStringLiteral("ar"), QStringLiteral("de") };
+    return isUsualScale() ? few + QStringList(QStringLiteral("fr")) : few;
 }
 
 /// As long as a server may make it.
