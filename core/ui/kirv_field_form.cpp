@@ -252,7 +252,7 @@ void KirvFieldForm::addNote(const KirvField &field)
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         note = label;
     } else {
-        auto *edit = new QPlainTextEdit(kirvShortened(text, kirvLongestEditableText), this);
+        auto *edit = new QPlainTextEdit(kirvShortened(text, kirvEditableLength(text)), this);
         edit->setReadOnly(true);
         edit->setTabChangesFocus(true);
         edit->setAccessibleName(caption);
@@ -303,7 +303,7 @@ KirvFieldForm::Editor KirvFieldForm::makeLine(const KirvField &field, std::size_
 
 KirvFieldForm::Editor KirvFieldForm::makeText(const KirvField &field, std::size_t row)
 {
-    auto *edit = new QPlainTextEdit(kirvShortened(field.getText(), kirvLongestEditableText), this);
+    auto *edit = new QPlainTextEdit(kirvShortened(field.getText(), kirvEditableLength(field.getText())), this);
     kirvLimitLength(edit);
     edit->setReadOnly(kirvIsTooLongToEdit(field));
     edit->setTabChangesFocus(true);

@@ -10,10 +10,15 @@ namespace {
 
 const int longestExplanation = 200;
 
+bool isTooLong(const QString &text)
+{
+    return kirvEditableLength(text) < text.size();
+}
+
 /// A password can be replaced whether it is shown in full or not.
 bool isTooLongPassword(const KirvField &field)
 {
-    return field.getKind() == KirvField::Password && field.getText().size() > kirvLongestEditableText;
+    return field.getKind() == KirvField::Password && isTooLong(field.getText());
 }
 
 /// Says what is valid where the field explains it.
@@ -35,7 +40,7 @@ QString kirvShortened(const QString &text, int length)
 bool kirvIsTooLongToEdit(const KirvField &field)
 {
     const bool isText = field.getKind() == KirvField::Text || field.getKind() == KirvField::MultiLine;
-    return isText && field.getText().size() > kirvLongestEditableText;
+    return isText && isTooLong(field.getText());
 }
 
 bool kirvIsWholeNumberIn(const KirvField &field)

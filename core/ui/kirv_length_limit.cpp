@@ -53,10 +53,11 @@ protected:
         if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste))
             return QObject::eventFilter(watched, event);
         const QString text = QGuiApplication::clipboard()->text();
-        if (text.size() <= kirvLongestEditableText)
+        const QString part = kirvEditablePart(text);
+        if (part.size() == text.size())
             return false;
-        QMetaObject::invokeMethod(field, "insertPlainText", Q_ARG(QString, kirvEditablePart(text)));
-        sayTooLong(field, kirvLongestEditableText);
+        QMetaObject::invokeMethod(field, "insertPlainText", Q_ARG(QString, part));
+        sayTooLong(field, int(part.size()));
         return true;
     }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/values/kirv_single_line.h"
 
+#include "core/values/kirv_text_limit.h"
+
 #include <algorithm>
 
 namespace {
@@ -8,9 +10,7 @@ namespace {
 /// Characters that would break the line or turn the direction of what stands around the text.
 bool isLayoutControl(QChar character)
 {
-    const ushort code = character.unicode();
-    const bool turnsDirection = (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
-    return turnsDirection || character.category() == QChar::Other_Control;
+    return kirvTurnsDirection(character) || character.category() == QChar::Other_Control;
 }
 
 } // namespace

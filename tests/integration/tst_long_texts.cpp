@@ -23,6 +23,7 @@
 #include <QToolTip>
 #include <QTreeWidget>
 #include <QtTest>
+#include <algorithm>
 
 namespace {
 
@@ -38,20 +39,36 @@ QString long10M()
     return QString(10000000, QLatin1Char('x'));
 }
 
-/// The length of the longest text that a field or label of any window has to lay out, which is what can block a window.
-int longestLaidOut()
+/// The texts that the fields and labels of all windows have to lay out, which is what can block a window.
+QStringList laidOut()
 {
-    int longest = 0;
+    QStringList texts;
     const QWidgetList widgets = QApplication::allWidgets();
     for (const QWidget *widget : widgets) {
         if (const auto *line = qobject_cast<const QLineEdit *>(widget))
-            longest = qMax(longest, int(line->text().size()));
+            texts << line->text();
         else if (const auto *label = qobject_cast<const QLabel *>(widget))
-            longest = qMax(longest, int(label->text().size()));
+            texts << label->text();
         else if (const auto *edit = qobject_cast<const QTextEdit *>(widget))
-            longest = qMax(longest, edit->document()->characterCount() - 1); // the last one ends the document
+            texts << edit->toPlainText();
     }
+    return texts;
+}
+
+int longestLaidOut()
+{
+    int longest = 0;
+    for (const QString &text : laidOut())
+        longest = qMax(longest, int(text.size()));
     return longest;
+}
+
+int mostTurnsLaidOut()
+{
+    int most = 0;
+    for (const QString &text : laidOut())
+        most = qMax(most, int(std::count_if(text.cbegin(), text.cend(), kirvTurnsDirection)));
+    return most;
 }
 
 } // namespace
@@ -153,6 +170,7 @@ void tst_LongTexts::whatComesBackAsItWasShownStays_data()
         QTest::addRow("%s, 10,000,000", field) << field << long10M();
         const QString pair = QString::fromUtf8("\U0001F600");
         QTest::addRow("%s, cut in a pair", field) << field << QLatin1Char('x') + pair.repeated(20000);
+        QTest::addRow("%s, many turns", field) << field << (QChar(0x202e) + QStringLiteral("abc")).repeated(5000);
         QTest::addRow("%s, odd spaces", field)
             << field << QStringLiteral("a\u00a0b\r\nc\u2028d\u2029e\rf\ufdd0g\ufdd1");
     }
@@ -167,6 +185,7 @@ void tst_LongTexts::whatComesBackAsItWasShownStays()
     QVERIFY(window);
     windows->settle();
     QVERIFY2(longestLaidOut() <= kirvLongestEditableText, qPrintable(QString::number(longestLaidOut())));
+    QVERIFY2(mostTurnsLaidOut() <= kirvMostTurns, qPrintable(QString::number(mostTurnsLaidOut())));
     KirvClientWindows::child<QCheckBox>(window, "EditAccount_RememberPresence")->toggle();
     KirvClientWindows::save(window);
     QVERIFY(!window);
