@@ -60,11 +60,13 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
     "${PROJECT_SOURCE_DIR}/core/protocol/kirv_protocol_plugin.h")
 set(KIRV_PROTOCOL_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/kirv/protocols")
 
+# What runs the compilers, and its options.
 set(KIRV_COMPILE "${PROJECT_SOURCE_DIR}/cmake/compile")
 if(KIRV_USE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     find_program(KIRV_CCACHE ccache)
     if(KIRV_CCACHE)
-        set(CMAKE_CXX_COMPILER_LAUNCHER "${KIRV_COMPILE}" -c "${KIRV_CCACHE}")
+        list(APPEND KIRV_COMPILE -c "${KIRV_CCACHE}")
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${KIRV_COMPILE})
     endif()
 endif()
 
