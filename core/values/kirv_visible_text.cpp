@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "core/values/kirv_visible_text.h"
 
+#include "core/values/kirv_text_limit.h"
+
 namespace {
 
 /// The characters with the property Bidi_Control.
 bool changesDirection(QChar character)
 {
     const ushort code = character.unicode();
-    return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x202A && code <= 0x202E)
-        || (code >= 0x2066 && code <= 0x2069);
+    return code == 0x061C || code == 0x200E || code == 0x200F || kirvTurnsDirection(character);
 }
 
 } // namespace

@@ -39,6 +39,16 @@ QString long10M()
     return QString(10000000, QLatin1Char('x'));
 }
 
+QString manyTurns()
+{
+    return (QChar(0x202e) + QStringLiteral("abc")).repeated(5000);
+}
+
+int turnsIn(const QString &text)
+{
+    return int(std::count_if(text.cbegin(), text.cend(), kirvTurnsDirection));
+}
+
 /// The texts that the fields and labels of all windows have to lay out, which is what can block a window.
 QStringList laidOut()
 {
@@ -67,7 +77,7 @@ int mostTurnsLaidOut()
 {
     int most = 0;
     for (const QString &text : laidOut())
-        most = qMax(most, int(std::count_if(text.cbegin(), text.cend(), kirvTurnsDirection)));
+        most = qMax(most, turnsIn(text));
     return most;
 }
 
@@ -98,6 +108,7 @@ private Q_SLOTS:
     void whatIsAddedBeyondTheLimitIsSaid();
     void longDescriptionIsCutAndSaid_data();
     void longDescriptionIsCutAndSaid();
+    void pastedTurnsAreCutAndSaid();
 
 private:
     QString database() const { return databaseIn(windows->profileFolder()); }
@@ -170,7 +181,7 @@ void tst_LongTexts::whatComesBackAsItWasShownStays_data()
         QTest::addRow("%s, 10,000,000", field) << field << long10M();
         const QString pair = QString::fromUtf8("\U0001F600");
         QTest::addRow("%s, cut in a pair", field) << field << QLatin1Char('x') + pair.repeated(20000);
-        QTest::addRow("%s, many turns", field) << field << (QChar(0x202e) + QStringLiteral("abc")).repeated(5000);
+        QTest::addRow("%s, many turns", field) << field << manyTurns();
         QTest::addRow("%s, odd spaces", field)
             << field << QStringLiteral("a\u00a0b\r\nc\u2028d\u2029e\rf\ufdd0g\ufdd1");
     }
@@ -384,6 +395,17 @@ void tst_LongTexts::longDescriptionIsCutAndSaid()
     QVERIFY(edit->toPlainText().endsWith(QLatin1String("xxxend")));
     QVERIFY(!toolTip().isEmpty());
     KirvClientWindows::cancel(window);
+}
+
+void tst_LongTexts::pastedTurnsAreCutAndSaid()
+{
+    const KirvLayoutDialog *window = windows->edit(ann);
+    auto *edit = KirvClientWindows::child<QTextEdit>(window, "EditAccount_DescriptionEdit");
+    edit->clear();
+    QGuiApplication::clipboard()->setText(manyTurns());
+    QTest::keySequence(edit, QKeySequence::Paste);
+    QCOMPARE(turnsIn(edit->toPlainText()), kirvMostTurns);
+    QVERIFY(!toolTip().isEmpty());
 }
 
 QTEST_MAIN(tst_LongTexts)
