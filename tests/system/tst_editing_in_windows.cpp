@@ -320,7 +320,7 @@ private:
         account->setPresence(account->getProtocol()->createPresenceWithId(presenceId, text));
         account->getProtocol()->accountPresenceChanged(account);
     }
-    /// Makes the account wait less or longer, so that the test need not.
+    /// Lets \a change set how long the account waits for what the test would wait for, too.
     template <typename Change>
     void changeTiming(Change change) const
     {
